@@ -254,10 +254,7 @@ void build_sib3(Sib& sib) {
   set_bits(&s->cellIdentity, 28, 0x01A2B3C);
 
   CellSelectReselectInfoSIB_3_4* c = &s->cellSelectReselectInfo;
-  c->cellSelectQualityMeasure.t = 2; /* cpich-Ec-N0 */
-  c->cellSelectQualityMeasure.u.cpich_Ec_N0 = make<CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure_cpich_Ec_N0>();
-  c->cellSelectQualityMeasure.u.cpich_Ec_N0->m = 1;
-  c->cellSelectQualityMeasure.u.cpich_Ec_N0->q_HYST_2_S = 2;
+  c->cellSelectQualityMeasure.t = 2; /* cpich-RSCP, a NULL: no q-HYST-2-S */
   c->modeSpecificInfo.t = 1;
   CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd* fdd = make<CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd>();
   asn1Init_UMTS_CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd(fdd);
