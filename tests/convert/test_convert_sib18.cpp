@@ -5,6 +5,7 @@
 
 #include "bch_segmenter.h"
 #include "frame_test_util.h"
+#include "umts_sib_convert.h"
 
 using namespace frametest;
 
@@ -184,6 +185,12 @@ const struct {
        b.multipleNeighbours(ext.connectedModePLMNIdentities, {0, 2});
      },
      true},
+    {"v6b0 lists for SIB11bis, v860 absent",
+     [](Sib18& b) {
+       b.v6b0().m = 2;
+       b.neighbours(b.v6b0().connectedModePLMNIdentitiesSIB11bis, {3, 2, 1});
+     },
+     true},
     {"32 cells of up to 6 PLMNs, v6b0 without its lists",
      [](Sib18& b) {
        b.s.m = 2;
@@ -241,6 +248,18 @@ TEST_F(ConvertSib18, FailedDecodingKeepsThePreviousRecord) {
   EXPECT_TRUE(logged("2:decode_system_info_msg:umts_convert_sib18 failed"));
   EXPECT_EQ(result->presence_bitmask, 0);
   EXPECT_EQ(std::memcmp(&result->sib18, &before, sizeof before), 0);
+}
+
+// The extension's filler refuses a null value with its message, leaving the record alone.
+TEST_F(ConvertSib18, NullExtensionValueIsRefused) {
+  umts_sysinfotype18_v6b0_nce record;
+  std::memset(&record, 0x5A, sizeof record);
+  const umts_sysinfotype18_v6b0_nce before = record;
+  uint8_t ret = 0xEE;
+  EXPECT_EQ(captureStdout([&] { ret = fill_sysinfotype18_v3a0_nce(nullptr, &record); }),
+            "fill_sysinfotype18_v3a0_nce: null value received for p_v6b0NonCriticalExtensions\n");
+  EXPECT_EQ(ret, 0);
+  EXPECT_EQ(std::memcmp(&record, &before, sizeof record), 0);
 }
 
 }  // namespace

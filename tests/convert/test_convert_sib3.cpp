@@ -128,6 +128,15 @@ void checkSmallest(const umts_sib3_info& f) {
   EXPECT_EQ(f.cellAccessRestriction.cellReservationExtension, 1u);
 }
 
+// cpich-RSCP: its tag and nothing under it.
+void checkRscp(const umts_sib3_info& f) {
+  checkSmallest(f);
+  const umts_cell_select_reselect_info_sib_3_4& c = f.cellSelectReselectInfo;
+  EXPECT_EQ(c.presence_bitmask, 0);
+  EXPECT_EQ(c.cellSelectQualityMeasure.choice_tag, 2u);
+  EXPECT_TRUE(allZero(c.cellSelectQualityMeasure.u));
+}
+
 void buildFddFull(Sib3Builder& b) {
   CellSelectReselectInfoSIB_3_4& c = b.s.cellSelectReselectInfo;
   c.m = 3;
@@ -482,7 +491,7 @@ const struct {
   void (*build)(Sib3Builder&);
   void (*check)(const umts_sib3_info&);
 } kCases[] = {
-    {"smallest", [](Sib3Builder&) {}, checkSmallest},
+    {"smallest, cpich-RSCP", [](Sib3Builder&) {}, checkRscp},
     {"fdd, every optional element, the longest lists", buildFddFull, checkFddFull},
     {"tdd, q_HYST_2_S absent, t_CR_Max notUsed", buildTdd, checkTdd},
     {"cpich-RSCP under mappingInfo", buildRscpWithMapping, checkRscpWithMapping},

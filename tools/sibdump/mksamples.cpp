@@ -9,9 +9,10 @@
  *                                                  (input of sibdump --sibs)
  *
  * The cell: MCC 262, MNC 01, LAC 0x4E21, RAC 5, cell identity 0x01A2B3C (RNC 26, C-Id 11068),
- * primary scrambling code 123 on one carrier, a dozen intra-frequency neighbours and three
- * GSM neighbours. Every SIB is decoded again after encoding, so that a value the decoder
- * would not read back stops the run.
+ * primary scrambling code 123 on one carrier, in four URAs, a dozen intra-frequency neighbours
+ * (one shared with a roaming partner, MNC 02) and three GSM neighbours of that partner, with the
+ * Rel-8 extensions of SB1, SIB1 and SIB18. Every SIB is decoded again after encoding, so that
+ * a value the decoder would not read back stops the run.
  */
 #include <cerrno>
 #include <cstdio>
@@ -126,7 +127,9 @@ struct Schedule {
   uint32_t pos;
 };
 
-void set_scheduling(SchedulingInformation* s, Schedule at, uint32_t seg_count) {
+/* With `offsets`, a block of several segments lists the offsets of its later segments: each
+   follows two frames after the one before (so2), which is also what an absent list means. */
+void set_scheduling(SchedulingInformation* s, Schedule at, uint32_t seg_count, bool offsets = false) {
   asn1Init_UMTS_SchedulingInformation(s);
   SchedulingInformation_scheduling* sch = &s->scheduling;
   sch->segCount = static_cast<uint8_t>(seg_count);
@@ -139,6 +142,11 @@ void set_scheduling(SchedulingInformation* s, Schedule at, uint32_t seg_count) {
     sch->sib_Pos.u.rep4 = static_cast<uint8_t>(value);
   } else {
     sch->sib_Pos.u.rep1024 = static_cast<uint16_t>(value);
+  }
+  if (offsets && seg_count > 1) {
+    sch->m |= 1u; /* sib-PosOffsetInfo */
+    sch->sib_PosOffsetInfo.n = seg_count - 1;
+    for (uint32_t i = 0; i + 1 < seg_count; i++) sch->sib_PosOffsetInfo.elem[i] = UMTS_SibOFF_so2;
   }
 }
 
@@ -158,6 +166,10 @@ const uint32_t kTagSysInfoType1 = 1, kTagSysInfoType2 = 2, kTagSysInfoType3 = 3,
                kTagSysInfoType7 = 7, kTagSysInfoType11 = 11, kTagSysInfoType12 = 12;
 /* In SIBSb-TypeAndTag; SIB-TypeAndTag has no SB entries and numbers SIB18 26. */
 const uint32_t kTagSbSysInfoTypeSB1 = 22, kTagSbSysInfoType18 = 28, kTagSibSysInfoType18 = 26;
+/* SIB19 (priorities for UTRA and E-UTRA reselection), scheduled by SB1's Rel-8 extension. It
+   is not part of the cycle written here: the library does not convert it. */
+const uint32_t kTagExt2SysInfoType19 = 1;
+const Schedule kSib19At = {128, 26};
 
 /* Every alternative used here but the first holds a CellValueTag (u8) at the start of the
    union, sysInfoType7 nothing. */
@@ -196,9 +208,21 @@ void build_sb1(Sib& sib, const std::vector<Scheduled>& refs, const std::vector<u
   for (const Scheduled& r : refs) {
     SchedulingInformationSIB* e = make<SchedulingInformationSIB>();
     set_type_and_tag(&e->sib_Type, r.tag);
-    set_scheduling(&e->scheduling, r.at, seg_counts[r.sib_index]);
+    set_scheduling(&e->scheduling, r.at, seg_counts[r.sib_index], true);
     append(&sb1->sib_ReferenceList, e);
   }
+  /* The v6b0 level, without its list, only carries the v860 level, which schedules SIB19. */
+  sb1->m |= 1u;
+  SysInfoTypeSB1_v6b0NonCriticalExtensions* v6b0 = &sb1->v6b0NonCriticalExtensions;
+  v6b0->m |= 1u;
+  SysInfoTypeSB1_v860ext* v860 = &v6b0->v860NonCriticalExtensions.sysInfoTypeSB1_v860ext;
+  v860->m |= 1u; /* extSIBTypeInfoSchedulingInfo-List */
+  ExtSIBTypeInfoSchedulingInfo2* sib19 = make<ExtSIBTypeInfoSchedulingInfo2>();
+  sib19->extensionSIB_Type2.t = kTagExt2SysInfoType19;
+  set_scheduling(&sib19->schedulingInfo, kSib19At, 1);
+  sib19->valueTagInfo.t = 2; /* cellValueTag */
+  sib19->valueTagInfo.u.cellValueTag = kCellValueTag;
+  append(&v860->extSIBTypeInfoSchedulingInfo_List, sib19);
   MKS_ENCODE(SysInfoTypeSB1, sb1, sib);
 }
 
@@ -236,14 +260,27 @@ void build_sib1(Sib& sib) {
   s->ue_IdleTimersAndConstants.n_300 = 3;
   s->ue_IdleTimersAndConstants.t_312 = 1;
   s->ue_IdleTimersAndConstants.n_312 = UMTS_N_312_s1;
+  /* N312 of 4 in both modes, a value that only the v3a0 extension can give, and T323 of 5 s
+     for the UE's fast dormancy requests (v860). */
+  s->m |= 1u << 2;
+  SysInfoType1_v3a0NonCriticalExtensions* v3a0 = &s->v3a0NonCriticalExtensions;
+  v3a0->sysInfoType1_v3a0ext.ue_ConnTimersAndConstants_v3a0ext.m = 1u;
+  v3a0->sysInfoType1_v3a0ext.ue_ConnTimersAndConstants_v3a0ext.n_312 = UMTS_N_312ext_s4;
+  v3a0->sysInfoType1_v3a0ext.ue_IdleTimersAndConstants_v3a0ext.m = 1u;
+  v3a0->sysInfoType1_v3a0ext.ue_IdleTimersAndConstants_v3a0ext.n_312 = UMTS_N_312ext_s4;
+  v3a0->m = 1u;
+  UE_ConnTimersAndConstants_v860ext* v860 = &v3a0->v860NonCriticalExtentions.sysInfoType1_v860ext.ue_ConnTimersAndConstants;
+  v860->m = 1u;
+  v860->t_323 = UMTS_T_323_s5;
   MKS_ENCODE(SysInfoType1, s, sib);
 }
 
 void build_sib2(Sib& sib) {
   SysInfoType2* s = make<SysInfoType2>();
   asn1Init_UMTS_SysInfoType2(s);
-  s->ura_IdentityList.n = 1;
-  set_bits(&s->ura_IdentityList.elem[0], 16, 0x0123);
+  /* The cell lies where four URAs overlap. */
+  const uint16_t uras[] = {0x0123, 0x0124, 0x0125, 0x0126};
+  for (uint16_t ura : uras) set_bits(&s->ura_IdentityList.elem[s->ura_IdentityList.n++], 16, ura);
   MKS_ENCODE(SysInfoType2, s, sib);
 }
 
@@ -254,10 +291,7 @@ void build_sib3(Sib& sib) {
   set_bits(&s->cellIdentity, 28, 0x01A2B3C);
 
   CellSelectReselectInfoSIB_3_4* c = &s->cellSelectReselectInfo;
-  c->cellSelectQualityMeasure.t = 2; /* cpich-Ec-N0 */
-  c->cellSelectQualityMeasure.u.cpich_Ec_N0 = make<CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure_cpich_Ec_N0>();
-  c->cellSelectQualityMeasure.u.cpich_Ec_N0->m = 1;
-  c->cellSelectQualityMeasure.u.cpich_Ec_N0->q_HYST_2_S = 2;
+  c->cellSelectQualityMeasure.t = 2; /* cpich-RSCP, a NULL: no q-HYST-2-S */
   c->modeSpecificInfo.t = 1;
   CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd* fdd = make<CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd>();
   asn1Init_UMTS_CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd(fdd);
@@ -577,6 +611,42 @@ void build_sib12(Sib& sib) {
   MKS_ENCODE(SysInfoType12, s, sib);
 }
 
+/* A neighbour list of SIB18: `cells` entries, the first with MCC 262 and `mnc`, the others
+   without an identity, which means the same PLMN as the entry before. */
+template <class Element>
+void add_plmns_of_cells(rtxDList* list, size_t cells, const char* mnc) {
+  for (size_t i = 0; i < cells; i++) {
+    Element* e = make<Element>();
+    if (i == 0) {
+      e->m = 1;
+      set_plmn(&e->plmn_Identity, "262", mnc);
+    }
+    append(list, e);
+  }
+}
+
+/* The multiple PLMNs of `cells` intra-frequency neighbours: the one at `shared` is shared
+   with the roaming partner and broadcasts both PLMNs (the partner's MCC left out, being the
+   same); the others carry no list. */
+void add_shared_neighbour(PLMNIdentitiesOfNeighbourCells_v860ext* n, size_t cells, size_t shared) {
+  n->m |= 1u; /* multipleplmnsOfIntraFreqCellsList */
+  for (size_t i = 0; i < cells; i++) {
+    MultiplePLMNsOfIntraFreqCellsList_element* e = make<MultiplePLMNsOfIntraFreqCellsList_element>();
+    if (i == shared) {
+      e->m = 1;
+      PLMN_IdentityWithOptionalMCC_r6* own = make<PLMN_IdentityWithOptionalMCC_r6>();
+      own->m = 1;
+      set_digits(&own->mcc.n, own->mcc.elem, "262");
+      set_digits(&own->mnc.n, own->mnc.elem, "01");
+      append(&e->multiplePLMN_list, own);
+      PLMN_IdentityWithOptionalMCC_r6* partner = make<PLMN_IdentityWithOptionalMCC_r6>();
+      set_digits(&partner->mnc.n, partner->mnc.elem, "02");
+      append(&e->multiplePLMN_list, partner);
+    }
+    append(&n->multipleplmnsOfIntraFreqCellsList, e);
+  }
+}
+
 void build_sib18(Sib& sib) {
   SysInfoType18* s = make<SysInfoType18>();
   asn1Init_UMTS_SysInfoType18(s);
@@ -585,22 +655,21 @@ void build_sib18(Sib& sib) {
   s->m |= 1;
   PLMNIdentitiesOfNeighbourCells* idle = &s->idleModePLMNIdentities;
   idle->m = (1u << 0) | (1u << 2);
-  for (size_t i = 0; i < 4; i++) {
-    PLMNsOfIntraFreqCellsList_element* e = make<PLMNsOfIntraFreqCellsList_element>();
-    if (i == 0) {
-      e->m = 1;
-      set_plmn(&e->plmn_Identity, "262", "01");
-    }
-    append(&idle->plmnsOfIntraFreqCellsList, e);
-  }
-  for (size_t i = 0; i < 3; i++) {
-    PLMNsOfInterRATCellsList_element* e = make<PLMNsOfInterRATCellsList_element>();
-    if (i == 0) {
-      e->m = 1;
-      set_plmn(&e->plmn_Identity, "262", "02");
-    }
-    append(&idle->plmnsOfInterRATCellsList, e);
-  }
+  add_plmns_of_cells<PLMNsOfIntraFreqCellsList_element>(&idle->plmnsOfIntraFreqCellsList, 4, "01");
+  add_plmns_of_cells<PLMNsOfInterRATCellsList_element>(&idle->plmnsOfInterRATCellsList, 3, "02");
+  /* Connected mode: the four intra-frequency neighbours of SIB12, in the cell's PLMN. */
+  s->m |= 2;
+  s->connectedModePLMNIdentities.m = 1u << 0;
+  add_plmns_of_cells<PLMNsOfIntraFreqCellsList_element>(&s->connectedModePLMNIdentities.plmnsOfIntraFreqCellsList, 4,
+                                                        "01");
+  /* Rel-8: the third intra-frequency neighbour is shared, in both modes. The v6b0 level (no
+     SIB11bis here, so no lists of its own) only carries the v860 level. */
+  s->m |= 4;
+  s->v6b0NonCriticalExtensions.m = 1;
+  SysInfoType18_v860ext* v860 = &s->v6b0NonCriticalExtensions.v860NonCriticalExtensions.sysInfoType18_v860ext;
+  v860->m = (1u << 0) | (1u << 1);
+  add_shared_neighbour(&v860->idleModePLMNIdentities, 4, 2);
+  add_shared_neighbour(&v860->connectedModePLMNIdentities, 4, 2);
   MKS_ENCODE(SysInfoType18, s, sib);
 }
 
@@ -706,9 +775,12 @@ int main(int argc, char** argv) {
       {kTagSysInfoType5, {32, 12}, kSib5},    {kTagSysInfoType7, {16, 14}, kSib7},
       {kTagSysInfoType11, {128, 18}, kSib11}, {kTagSysInfoType12, {128, 42}, kSib12},
       {kTagSbSysInfoType18, {256, 50}, kSib18}};
-  /* SB1 carries the references of the measurement blocks too, as a UE that reads SB1 first
-     finds them there. */
-  const std::vector<Scheduled> sb1_refs = {{kTagSysInfoType11, {128, 18}, kSib11},
+  /* SB1 repeats the references of SIB2, SIB7 (whose entry has no value tag: SIB7 expires
+     instead), the measurement blocks and SIB18, so that a UE that reads SB1 first finds them
+     there. */
+  const std::vector<Scheduled> sb1_refs = {{kTagSysInfoType2, {128, 10}, kSib2},
+                                           {kTagSysInfoType7, {16, 14}, kSib7},
+                                           {kTagSysInfoType11, {128, 18}, kSib11},
                                            {kTagSysInfoType12, {128, 42}, kSib12},
                                            {kTagSibSysInfoType18, {256, 50}, kSib18}};
 
@@ -732,6 +804,7 @@ int main(int argc, char** argv) {
   std::string bch =
       "# One broadcast cycle of a UMTS FDD cell: MCC 262, MNC 01, LAC 0x4E21, cell identity\n"
       "# 0x01A2B3C, primary scrambling code 123. Written by mksamples (make samples).\n"
+      "# SB1 also schedules SIB19, which the library does not convert: it is left out here.\n"
       "#\n"
       "# One BCH transport block per line, in hexadecimal: a BCCH-BCH-Message of TS 25.331,\n"
       "# 246 bits in 31 octets, SFN' counting up by one per block (here the blocks follow\n"
