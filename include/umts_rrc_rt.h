@@ -631,63 +631,95 @@ static inline const uint8_t* rtxEncGetBuffer(const rtxContext* ctx) { return ctx
 
 int rtxEncGrow(rtxContext* ctx, uint64_t endbit);
 
-/* Append `nbits` (0..57: with up to 7 bits already used in the current byte, the write
-   fits one 64-bit window) of `value`, most significant first. Bytes past the write position
-   are kept zero, so bits are OR-ed in. */
-RT_INLINE int rtxEncBitsFast(rtxContext* ctx, uint64_t value, uint32_t nbits) {
-  const uint32_t bi = ctx->byte_index;
-  const uint32_t used = (uint32_t)(8 - ctx->bit_offset);
-  const uint64_t endpos = (uint64_t)bi * 8u + used + nbits;
-  if (nbits == 0) return 0;
-  if (RT_UNLIKELY(endpos + 64u > (uint64_t)ctx->buffer_size * 8u)) {
-    int stat = rtxEncGrow(ctx, endpos);
+/* ---- The write cursor ------------------------------------------------------------------
+
+   The generated encoders write through a cursor that their bodies hand to each other, the
+   mirror of the read cursor: new bits are gathered in a register below those already there,
+   and the buffer is written a whole 8-byte word at a time when the register is full. Where
+   the context must show the position (around runtime calls, at a failure, on return) the
+   gathered bits are stored and byte_index/bit_offset brought up to date. Nothing relies on
+   the bytes beyond the position: every store sets them. */
+typedef struct rtxEncCur {
+  uint64_t w;   /* bits not yet stored, first on top, zero below them */
+  uint64_t n;   /* how many */
+  uint64_t pos; /* bit position of the first of them, at the start of a byte */
+  uint64_t lim; /* bits that w may hold before the buffer is looked at: at most 64, and no
+                   more than the buffer holds from pos on */
+} rtxEncCur;
+
+/* Start writing at the context's position (the bits of its current byte are kept). */
+void rtxEncCurStart(rtxContext* ctx, rtxEncCur* cur);
+/* Store the whole bytes gathered and make room for `nbits` more: a fixed buffer that cannot
+   hold them fails with RT_ERR_BUFOVFLW, a growing one grows. Nothing is written by a failure. */
+int rtxEncCurFlush(rtxContext* ctx, rtxEncCur* cur, uint32_t nbits);
+/* Store everything gathered; the context shows the position. */
+void rtxEncCurSync(rtxContext* ctx, rtxEncCur* cur);
+
+/* Append `nbits` (0..57) of `value`, most significant first. */
+RT_INLINE int rtxEncBitsAt(rtxContext* ctx, rtxEncCur* cur, uint64_t value, uint32_t nbits) {
+  if (RT_UNLIKELY(cur->n + nbits > cur->lim)) {
+    int stat = rtxEncCurFlush(ctx, cur, nbits);
     if (stat != 0) return stat;
   }
-  value &= (nbits == 64) ? ~0ull : ((1ull << nbits) - 1u);
-  if (RT_LIKELY((uint64_t)bi + 8u <= ctx->buffer_size)) {
-    uint64_t cur;
-    const uint64_t w = rtxBigEndian64(value << (64u - nbits) >> used);
-    memcpy(&cur, ctx->buffer_data + bi, 8);
-    cur |= w;
-    memcpy(ctx->buffer_data + bi, &cur, 8);
-  } else {
-    /* The last bytes of a fixed buffer: byte by byte. */
-    uint64_t pos = (uint64_t)bi * 8u + used;
-    uint32_t left = nbits;
-    while (left > 0) {
-      const uint32_t room = 8u - (uint32_t)(pos & 7u);
-      const uint32_t take = left < room ? left : room;
-      const uint32_t bits = (uint32_t)(value >> (left - take)) & ((1u << take) - 1u);
-      ctx->buffer_data[pos >> 3] |= (uint8_t)(bits << (room - take));
-      pos += take;
-      left -= take;
-    }
-  }
-  ctx->byte_index = (uint32_t)(endpos >> 3);
-  ctx->bit_offset = (int16_t)(8u - (uint32_t)(endpos & 7u));
+  if (nbits != 0) cur->w |= (value << (64u - nbits)) >> cur->n;
+  cur->n += nbits;
   return 0;
 }
 
-RT_INLINE int rtxEncBit(rtxContext* ctx, uint8_t bit) {
-  return rtxEncBitsFast(ctx, bit ? 1u : 0u, 1);
+RT_INLINE int rtxEncBitAt(rtxContext* ctx, rtxEncCur* cur, uint8_t bit) { return rtxEncBitsAt(ctx, cur, bit ? 1u : 0u, 1); }
+
+/* A runtime call at the context's position: the gathered bits are stored first, and the
+   cursor goes on from where the call left the context. */
+RT_INLINE int rtxEncCurResume(rtxContext* ctx, rtxEncCur* cur, int stat) {
+  rtxEncCurStart(ctx, cur);
+  return stat;
 }
+#define RT_ENC_CALL(ctx, cur, call) (rtxEncCurSync((ctx), (cur)), rtxEncCurResume((ctx), (cur), (call)))
+
+/* Append `nbits` (0..57) of `value` at the context's position. */
+RT_INLINE int rtxEncBitsFast(rtxContext* ctx, uint64_t value, uint32_t nbits) {
+  rtxEncCur cur;
+  int stat;
+  rtxEncCurStart(ctx, &cur);
+  stat = rtxEncBitsAt(ctx, &cur, value, nbits);
+  rtxEncCurSync(ctx, &cur);
+  return stat;
+}
+
+RT_INLINE int rtxEncBit(rtxContext* ctx, uint8_t bit) { return rtxEncBitsFast(ctx, bit ? 1u : 0u, 1); }
 int rtxEncBits(rtxContext* ctx, uint32_t value, uint32_t nbits);
 
 /* Constrained whole numbers; a value outside lower..upper fails with RT_ERR_CONSVIO before
    any bit is written. */
 int pe_ConsUInt64Slow(rtxContext* ctx, uint64_t value, uint64_t lower, uint64_t upper);
-RT_INLINE int pe_ConsUInt64(rtxContext* ctx, uint64_t value, uint64_t lower, uint64_t upper) {
+RT_INLINE int pe_ConsUInt64At(rtxContext* ctx, rtxEncCur* cur, uint64_t value, uint64_t lower, uint64_t upper) {
   uint64_t range = upper - lower;
   if (value < lower || value > upper) return RT_ERR_CONSVIO;
-  if (range <= 0x01FFFFFFFFFFFFFFull) return rtxEncBitsFast(ctx, value - lower, rtxRangeBits(range));
-  return pe_ConsUInt64Slow(ctx, value, lower, upper);
+  if (range <= 0x01FFFFFFFFFFFFFFull) return rtxEncBitsAt(ctx, cur, value - lower, rtxRangeBits(range));
+  return RT_ENC_CALL(ctx, cur, pe_ConsUInt64Slow(ctx, value, lower, upper));
 }
-RT_INLINE int pe_ConsInt64(rtxContext* ctx, int64_t value, int64_t lower, int64_t upper) {
+RT_INLINE int pe_ConsInt64At(rtxContext* ctx, rtxEncCur* cur, int64_t value, int64_t lower, int64_t upper) {
   uint64_t range = (uint64_t)upper - (uint64_t)lower;
   if (value < lower || value > upper) return RT_ERR_CONSVIO;
   if (range <= 0x01FFFFFFFFFFFFFFull)
-    return rtxEncBitsFast(ctx, (uint64_t)value - (uint64_t)lower, rtxRangeBits(range));
-  return pe_ConsUInt64Slow(ctx, (uint64_t)value - (uint64_t)lower, 0, range);
+    return rtxEncBitsAt(ctx, cur, (uint64_t)value - (uint64_t)lower, rtxRangeBits(range));
+  return RT_ENC_CALL(ctx, cur, pe_ConsUInt64Slow(ctx, (uint64_t)value - (uint64_t)lower, 0, range));
+}
+RT_INLINE int pe_ConsUInt64(rtxContext* ctx, uint64_t value, uint64_t lower, uint64_t upper) {
+  rtxEncCur cur;
+  int stat;
+  rtxEncCurStart(ctx, &cur);
+  stat = pe_ConsUInt64At(ctx, &cur, value, lower, upper);
+  rtxEncCurSync(ctx, &cur);
+  return stat;
+}
+RT_INLINE int pe_ConsInt64(rtxContext* ctx, int64_t value, int64_t lower, int64_t upper) {
+  rtxEncCur cur;
+  int stat;
+  rtxEncCurStart(ctx, &cur);
+  stat = pe_ConsInt64At(ctx, &cur, value, lower, upper);
+  rtxEncCurSync(ctx, &cur);
+  return stat;
 }
 
 /* Length under size_constraint. Returns a negative status, or the count (not negative). */
@@ -699,6 +731,71 @@ int pe_OctetString(rtxContext* ctx, uint32_t numocts, const uint8_t* data);
 int rtxEncBytesBits(rtxContext* ctx, const uint8_t* src, uint32_t nbits);
 /* Index of the last bit that is 1 among the first `nbits` of `data`, -1 if none. */
 int32_t rtxLastBitSet(const uint8_t* data, uint32_t nbits);
+
+/* Length under size_constraint; a constrained count (upper bound below 64K) is written in
+   line. Returns a negative status, or the count. */
+RT_INLINE int pe_LengthAt(rtxContext* ctx, rtxEncCur* cur, uint32_t count) {
+  const rtxSizeConstraint* sc = ctx->size_constraint;
+  if (sc != 0 && sc->upper < 65536u && sc->lower <= sc->upper) {
+    int stat;
+    if (count < sc->lower || count > sc->upper) return RT_ERR_CONSVIO;
+    stat = rtxEncBitsAt(ctx, cur, count - sc->lower, rtxRangeBits(sc->upper - sc->lower));
+    return stat != 0 ? stat : (int)count;
+  }
+  return RT_ENC_CALL(ctx, cur, pe_Length(ctx, count));
+}
+
+/* Bit string of at most 32 bits, written in line. */
+RT_INLINE int pe_BitString32At(rtxContext* ctx, rtxEncCur* cur, const rtxBitStr32* pvalue, uint32_t lower, uint32_t upper) {
+  if (pvalue != 0 && upper <= 32u && lower <= upper && pvalue->numbits >= lower && pvalue->numbits <= upper) {
+    const uint32_t k = rtxRangeBits(upper - lower);
+    const uint32_t numbits = pvalue->numbits;
+    const uint64_t bits = ((uint64_t)pvalue->data[0] << 24) | ((uint64_t)pvalue->data[1] << 16) |
+                          ((uint64_t)pvalue->data[2] << 8) | (uint64_t)pvalue->data[3];
+    /* count and bits in one write: at most 6 + 32 bits */
+    return rtxEncBitsAt(ctx, cur, (((uint64_t)(numbits - lower) << 32) | bits) >> (32u - numbits), k + numbits);
+  }
+  return RT_ENC_CALL(ctx, cur, pe_BitString32(ctx, pvalue, lower, upper));
+}
+
+/* Room in the buffer for `nbits` more from the cursor's position: a fixed buffer that cannot
+   hold them fails with RT_ERR_BUFOVFLW, a growing one grows. */
+int rtxEncCurReserve(rtxContext* ctx, rtxEncCur* cur, uint64_t nbits);
+/* Append `nbits` taken from `src` (first bit in the top of src[0]). */
+int rtxEncBytesBitsAt(rtxContext* ctx, rtxEncCur* cur, const uint8_t* src, uint32_t nbits);
+
+/* A string of `count` units of `unit` bits (1 or 8) whose count is constrained below 64K:
+   count and units, with room for both made first. Returns 1 when the string is not of that
+   kind. */
+RT_INLINE int rtxEncBoundedStringAt(rtxContext* ctx, rtxEncCur* cur, uint32_t unit, uint32_t count,
+                                    const uint8_t* data, int* pstat) {
+  const rtxSizeConstraint* sc = ctx->size_constraint;
+  if (sc == 0 || sc->upper >= 65536u || sc->lower > sc->upper || (data == 0 && count > 0)) return 1;
+  if (count < sc->lower || count > sc->upper) {
+    *pstat = RT_ERR_CONSVIO;
+    return 0;
+  }
+  {
+    const uint32_t k = rtxRangeBits(sc->upper - sc->lower);
+    int stat = rtxEncCurReserve(ctx, cur, (uint64_t)k + (uint64_t)count * unit);
+    if (stat == 0) stat = rtxEncBitsAt(ctx, cur, count - sc->lower, k);
+    if (stat == 0) stat = rtxEncBytesBitsAt(ctx, cur, data, count * unit);
+    *pstat = stat;
+  }
+  return 0;
+}
+
+RT_INLINE int pe_BitStringAt(rtxContext* ctx, rtxEncCur* cur, uint32_t numbits, const uint8_t* data) {
+  int stat;
+  if (rtxEncBoundedStringAt(ctx, cur, 1, numbits, data, &stat) == 0) return stat;
+  return RT_ENC_CALL(ctx, cur, pe_BitString(ctx, numbits, data));
+}
+
+RT_INLINE int pe_OctetStringAt(rtxContext* ctx, rtxEncCur* cur, uint32_t numocts, const uint8_t* data) {
+  int stat;
+  if (rtxEncBoundedStringAt(ctx, cur, 8, numocts, data, &stat) == 0) return stat;
+  return RT_ENC_CALL(ctx, cur, pe_OctetString(ctx, numocts, data));
+}
 
 /* ---- Printing ------------------------------------------------------------------------- */
 

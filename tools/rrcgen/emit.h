@@ -65,6 +65,7 @@ OutFile emitVectors(const Model& m, unsigned seed, int per_type);
 std::vector<OutFile> packUnits(const std::vector<Unit>& units, const std::string& prefix,
                                const std::string& what, size_t lines_per_file, ShimFn shim = nullptr);
 std::string decodeShim(const Def* d);
+std::string encodeShim(const Def* d);
 
 // Counts by construct, as printed by the compiler.
 std::string countsTable(const Model& m);

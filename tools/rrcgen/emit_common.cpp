@@ -99,6 +99,10 @@ std::vector<OutFile> packUnits(const std::vector<Unit>& units, const std::string
 
 std::string decodeShim(const Def* d) { return "RT_DECODE_EXTERN(" + d->c_name + ")\n"; }
 
+std::string encodeShim(const Def* d) {
+  return std::string(passedByValue(d) ? "RT_ENCODE_EXTERN_VALUE(" : "RT_ENCODE_EXTERN(") + d->c_name + ")\n";
+}
+
 std::string countsTable(const Model& m) {
   int seq = 0, seq_empty = 0, choice = 0, enums = 0, enums1 = 0, lists = 0, arrays = 0, ints = 0,
       bits = 0, octs = 0, bools = 0, aliases = 0, named = 0, inl = 0, inits = 0;

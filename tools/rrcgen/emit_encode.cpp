@@ -1,5 +1,7 @@
 // Encoder family: asn1PE_UMTS_<T>, the mirror of the decoders, with the same way of naming
-// the failing element on the way out of a failure.
+// the failing element on the way out of a failure. Each type has a body, enc_<T>, that writes
+// through a cursor held by its caller (rtxEncCur), and an exported function that runs the body
+// at the context's position; small bodies are merged into their callers, as the decoders' are.
 #include <algorithm>
 #include <stdexcept>
 
@@ -10,18 +12,21 @@ namespace {
 
 class EncodeEmitter {
  public:
-  std::string function(const Def* d) {
+  Unit function(const Def* d) {
     Writer& w = w_;
     const std::string& c = d->c_name;
-    if (passedByValue(d)) w.line("int asn1PE_UMTS_" + c + "(rtxContext* RT_RESTRICT ctx, " + c + " value)");
-    else w.line("int asn1PE_UMTS_" + c + "(rtxContext* RT_RESTRICT ctx, const " + c + "* RT_RESTRICT pvalue)");
+    calls_.clear();
+    const std::string arg = passedByValue(d) ? c + " value" : "const " + c + "* RT_RESTRICT pvalue";
+    const std::string sig = std::string(d->inline_body ? "RT_MERGED_BODY" : "static") + " int enc_" + c +
+                            "(rtxContext* RT_RESTRICT ctx, " + arg + ", rtxEncCur* RT_RESTRICT cur)";
+    w.line(sig);
     w.open("{");
     own_ = d->named ? quote(d->asn_name) : "0";
     elem_ = "0";
     index_ = "-1";
     inner_ = "0";
     w.line("int stat = 0;");
-    if (!passedByValue(d)) w.line("if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, " + names() + ");");
+    if (!passedByValue(d)) fail("RT_ERR_INVPARAM", "pvalue == 0");
     switch (d->kind) {
       case Kind::Sequence:
         sequence(d);
@@ -46,15 +51,20 @@ class EncodeEmitter {
         w.line("return 0;");
         break;
       case Kind::Alias:
-        w.line("stat = asn1PE_UMTS_" + d->target->c_name + (passedByValue(d) ? "(ctx, value);" : "(ctx, pvalue);"));
-        check();
+        call(d->target, passedByValue(d) ? "value" : "pvalue");
         w.line("return 0;");
         break;
       case Kind::Null:
         throw std::logic_error("NULL has no encoder");
     }
     w.close("}");
-    return w.take();
+    w.line();
+    if (passedByValue(d)) w.line("int asn1PE_UMTS_" + c + "(rtxContext* RT_RESTRICT ctx, " + c + " value)");
+    else w.line("int asn1PE_UMTS_" + c + "(rtxContext* RT_RESTRICT ctx, const " + c + "* RT_RESTRICT pvalue)");
+    w.open("{");
+    w.line("RT_ENCODE_ENTRY(ctx, enc_" + c + ", " + (passedByValue(d) ? "value" : "pvalue") + ");");
+    w.close("}");
+    return Unit{d, w.take(), sig + ";\n", calls_};
   }
 
  private:
@@ -62,9 +72,25 @@ class EncodeEmitter {
   // Names of the level that a failure site reports, as C literals or "0".
   std::string own_, elem_, index_, inner_;
 
+  std::vector<const Def*> calls_;  // bodies that this function calls
+
   std::string names() const { return inner_ + ", " + elem_ + ", " + index_ + ", " + own_; }
-  void check() { w_.line("RT_CHECK(ctx, stat, " + names() + ");"); }
-  void fail(const std::string& status) { w_.line("RT_FAIL(ctx, " + status + ", " + names() + ");"); }
+  // The check after a step: a step of this level stores what the cursor has gathered before it
+  // reports; a call has done so where it failed.
+  void check(bool local = true) {
+    w_.line(std::string(local ? "RT_CHECK_PUT(ctx, cur, stat, " : "RT_CHECK(ctx, stat, ") + names() + ");");
+  }
+  void fail(const std::string& status) { w_.line("RT_FAIL_PUT(ctx, cur, " + status + ", " + names() + ");"); }
+  void fail(const std::string& status, const std::string& test) {
+    w_.line("if (" + test + ") RT_FAIL_PUT(ctx, cur, " + status + ", " + names() + ");");
+  }
+  // The body of type t on the value `arg` (a pointer, or the value itself for scalars and short
+  // bit strings).
+  void call(const Def* t, const std::string& arg) {
+    calls_.push_back(t);
+    w_.line("stat = enc_" + t->c_name + "(ctx, " + arg + ", cur);");
+    check(false);
+  }
   // The name that a parameter of a failing value reports: the innermost one known.
   std::string topName() const { return inner_ != "0" ? inner_ : elem_ != "0" ? elem_ : own_; }
 
@@ -87,7 +113,7 @@ class EncodeEmitter {
             fail("RT_ERR_CONSVIO");
             w.close("}");
           }
-          w.line("stat = pe_ConsInt64(ctx, " + v + ", " + num(t->lo) + ", " + num(t->hi) + ");");
+          w.line("stat = pe_ConsInt64At(ctx, cur, " + v + ", " + num(t->lo) + ", " + num(t->hi) + ");");
         } else {
           if (!fills) {
             std::string test = t->lo == 0 ? "(uint64_t)" + v + " > " + unum(t->hi) + "u"
@@ -99,7 +125,7 @@ class EncodeEmitter {
             fail("RT_ERR_CONSVIO");
             w.close("}");
           }
-          w.line("stat = pe_ConsUInt64(ctx, " + v + ", " + num(t->lo) + ", " + unum(static_cast<unsigned long long>(t->hi)) + ");");
+          w.line("stat = pe_ConsUInt64At(ctx, cur, " + v + ", " + num(t->lo) + ", " + unum(static_cast<unsigned long long>(t->hi)) + ");");
         }
         check();
         break;
@@ -110,12 +136,12 @@ class EncodeEmitter {
         w.line("rtxErrAddUIntParm(ctx, " + v + ");");
         fail("RT_ERR_INVENUM");
         w.close("}");
-        w.line("stat = pe_ConsUInt64(ctx, " + v + ", 0, " + top + ");");
+        w.line("stat = pe_ConsUInt64At(ctx, cur, " + v + ", 0, " + top + ");");
         check();
         break;
       }
       case Kind::Boolean:
-        w.line("stat = rtxEncBit(ctx, " + v + ");");
+        w.line("stat = rtxEncBitAt(ctx, cur, " + v + ");");
         check();
         break;
       default:
@@ -125,7 +151,6 @@ class EncodeEmitter {
 
   // Encodes a value of type t held at `lv` (an lvalue).
   void value(const Def* t, const std::string& lv) {
-    Writer& w = w_;
     if (t->kind == Kind::Integer || t->kind == Kind::Enumerated || t->kind == Kind::Boolean) {
       inner_ = t->named ? quote(t->asn_name) : "0";
       scalarWrite(t, lv);
@@ -136,9 +161,7 @@ class EncodeEmitter {
       string(t, "&" + lv, lv + ".");
       return;
     }
-    if (passedByValue(t)) w.line("stat = asn1PE_UMTS_" + t->c_name + "(ctx, " + lv + ");");
-    else w.line("stat = asn1PE_UMTS_" + t->c_name + "(ctx, &" + lv + ");");
-    check();
+    call(t, passedByValue(t) ? lv : "&" + lv);
   }
 
   // Writes a BIT or OCTET STRING held in the record at `ptr`, whose members are `mem` + name.
@@ -149,7 +172,7 @@ class EncodeEmitter {
     std::string size = mem + (bits ? "numbits" : "numocts");
     if (!d->sized) {
       w.line("RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);");
-      w.line(std::string("stat = ") + op + "(ctx, " + size + ", " + mem + "data);");
+      w.line(std::string("stat = ") + op + "At(ctx, cur, " + size + ", " + mem + "data);");
       check();
       return;
     }
@@ -160,15 +183,15 @@ class EncodeEmitter {
         w.line("int32_t last = rtxLastBitSet(" + mem + "data, " + mem + "numbits > 32 ? 32 : " + mem + "numbits);");
         w.line("uint32_t used = (uint32_t)(last + 1);");
         w.line(mem + "numbits = used <= " + num(d->size_hi) + " ? " + num(d->size_hi) + " : used;");
-        w.line("if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, " + names() + ");");
+        fail("RT_ERR_CONSVIO", "last < -1");
         w.close("}");
       }
       w.line("RT_SET_SIZE(ctx, " + num(d->size_lo) + ", " + num(d->size_hi) + ");");
-      w.line("stat = pe_BitString32(ctx, " + ptr + ", " + num(d->size_lo) + ", " + num(d->size_hi) + ");");
+      w.line("stat = pe_BitString32At(ctx, cur, " + ptr + ", " + num(d->size_lo) + ", " + num(d->size_hi) + ");");
     } else {
       if (!d->named_bits.empty()) throw std::runtime_error("named bits on a long string: " + d->c_name);
       w.line("RT_SET_SIZE(ctx, " + num(d->size_lo) + ", " + num(d->size_hi) + ");");
-      w.line(std::string("stat = ") + op + "(ctx, " + size + ", " + mem + "data);");
+      w.line(std::string("stat = ") + op + "At(ctx, cur, " + size + ", " + mem + "data);");
     }
     check();
   }
@@ -194,7 +217,7 @@ class EncodeEmitter {
           std::string term = "((uint64_t)" + bits[first + j] + " << " + std::to_string(count - 1 - j) + ")";
           expr += (expr.empty() ? "" : " |\n      ") + term;
         }
-        w.line("stat = rtxEncBitsFast(ctx, " + expr + ", " + std::to_string(count) + ");");
+        w.line("stat = rtxEncBitsAt(ctx, cur, " + expr + ", " + std::to_string(count) + ");");
         check();
       }
     }
@@ -219,7 +242,8 @@ class EncodeEmitter {
 
 
   // A complete encoding of the element's type, written into a buffer of its own and then
-  // carried as a BIT or OCTET STRING.
+  // carried as a BIT or OCTET STRING. The cursor's bits are stored first, and it goes on from
+  // where the string leaves the context.
   void carrier(const Field& f) {
     Writer& w = w_;
     bool octs = f.containing_octets;
@@ -227,11 +251,12 @@ class EncodeEmitter {
     w.line("rtxContext outer;");
     w.line("const uint8_t* data;");
     w.line("uint32_t len;");
+    w.line("rtxEncCurSync(ctx, cur);");
     w.line("rtxCopyContext(&outer, ctx);");
     w.line("stat = rtxInitContextBuffer(ctx, 0, 0);");
-    check();
+    check(false);
     w.line("stat = asn1PE_UMTS_" + f.type->c_name + "(ctx, &pvalue->" + f.c_name + ");");
-    check();
+    check(false);
     w.line("data = ctx->buffer_data;");
     if (octs) w.line("len = pu_getMsgLen(ctx);");
     else w.line("len = ctx->byte_index * 8 + 8 - ctx->bit_offset;");
@@ -239,7 +264,8 @@ class EncodeEmitter {
     w.line("RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);");
     w.line(std::string("stat = ") + (octs ? "pe_OctetString" : "pe_BitString") + "(ctx, len, data);");
     w.line("rtxMemHeapFreePtr(ctx, (void*)data);");
-    check();
+    w.line("rtxEncCurStart(ctx, cur);");
+    check(false);
     w.close("}");
   }
 
@@ -248,10 +274,10 @@ class EncodeEmitter {
     size_t n = d->fields.size();
     std::string top = std::to_string(n - 1);
     elem_ = "\"t\"";
-    w.line("stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, " + top + ");");
+    w.line("stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, " + top + ");");
     check();
     elem_ = "0";
-    w.line("if (pvalue->t - 1 > " + top + ") RT_FAIL(ctx, RT_ERR_INVOPT, " + names() + ");");
+    fail("RT_ERR_INVOPT", "pvalue->t - 1 > " + top);
     w.open("switch (pvalue->t) {");
     for (size_t i = 0; i < n; i++) {
       const Field& f = d->fields[i];
@@ -263,13 +289,11 @@ class EncodeEmitter {
       } else if (isScalar(f.type)) {
         value(f.type, lv);
       } else if (isInlineString(f.type)) {
-        w.line("if (" + lv + " == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, " + names() + ");");
+        fail("RT_ERR_INVPARAM", lv + " == 0");
         string(f.type, lv, lv + "->");
       } else {
-        w.line("if (" + lv + " == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, " + names() + ");");
-        if (passedByValue(f.type)) w.line("stat = asn1PE_UMTS_" + f.type->c_name + "(ctx, *" + lv + ");");
-        else w.line("stat = asn1PE_UMTS_" + f.type->c_name + "(ctx, " + lv + ");");
-        check();
+        fail("RT_ERR_INVPARAM", lv + " == 0");
+        call(f.type, passedByValue(f.type) ? "*" + lv : lv);
       }
       elem_ = "0";
       w.line("break;");
@@ -291,15 +315,13 @@ class EncodeEmitter {
     w.line("const rtxDListNode* node;");
     w.line("uint32_t i;");
     w.line("RT_SET_SIZE(ctx, " + num(d->size_lo) + ", " + num(d->size_hi) + ");");
-    w.line("stat = pe_Length(ctx, pvalue->count);");
-    w.line("if (stat < 0) RT_FAIL(ctx, stat, " + names() + ");");
+    w.line("stat = pe_LengthAt(ctx, cur, pvalue->count);");
+    fail("stat", "stat < 0");
     w.open("for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {");
     elem_ = quote(elementName(e));
     index_ = "(int32_t)i";
-    w.line("if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, " + names() + ");");
-    if (passedByValue(e)) w.line("stat = asn1PE_UMTS_" + ct + "(ctx, *(const " + ct + "*)node->data);");
-    else w.line("stat = asn1PE_UMTS_" + ct + "(ctx, (const " + ct + "*)node->data);");
-    check();
+    fail("RT_ERR_INVPARAM", "node->data == 0");
+    call(e, passedByValue(e) ? "*(const " + ct + "*)node->data" : "(const " + ct + "*)node->data");
     elem_ = "0";
     index_ = "-1";
     w.close("}");
@@ -319,8 +341,8 @@ class EncodeEmitter {
       w.close("}");
     } else {
       w.line("RT_SET_SIZE(ctx, " + num(d->size_lo) + ", " + num(d->size_hi) + ");");
-      w.line("stat = pe_Length(ctx, pvalue->n);");
-      w.line("if (stat < 0) RT_FAIL(ctx, stat, " + names() + ");");
+      w.line("stat = pe_LengthAt(ctx, cur, pvalue->n);");
+      fail("stat", "stat < 0");
     }
     w.open("for (i = 0; i < pvalue->n; i++) {");
     elem_ = quote(elementName(e));
@@ -338,7 +360,7 @@ class EncodeEmitter {
 std::vector<Unit> emitEncoders(const Model& m) {
   std::vector<Unit> units;
   EncodeEmitter e;
-  for (const Def* d : m.code_order) units.push_back({d, e.function(d), "", {}});
+  for (const Def* d : m.code_order) units.push_back(e.function(d));
   return units;
 }
 

@@ -19,6 +19,10 @@ set(UMTS_GENERATED_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_dec_16.cpp
   ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_dec_17.cpp
   ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_dec_18.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_dec_19.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_dec_20.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_dec_21.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_dec_22.cpp
   ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_enc_00.cpp
   ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_enc_01.cpp
   ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_enc_02.cpp
@@ -35,6 +39,10 @@ set(UMTS_GENERATED_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_enc_13.cpp
   ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_enc_14.cpp
   ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_enc_15.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_enc_16.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_enc_17.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_enc_18.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_enc_19.cpp
   ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_print_00.cpp
   ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_print_01.cpp
   ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_print_02.cpp
@@ -42,8 +50,6 @@ set(UMTS_GENERATED_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_print_04.cpp
   ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_print_05.cpp
   ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_print_06.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_init_00.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_init_01.cpp
   ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_names_00.cpp
 )
 set(UMTS_REGISTRY_SOURCES ${CMAKE_CURRENT_LIST_DIR}/umts_rrc_registry.cpp)

@@ -62,6 +62,25 @@
    if (stat == 0) rtxCurSync((ctx), &cur); \
    return stat
 
+/* The encoders' bodies write through a cursor in the same way; a failing step of this level
+   stores what has been gathered, so that the context shows the position. */
+#define RT_FAIL_PUT(ctx, cur, stat, inner, elem, index, outer) \
+   do { \
+      rtxEncCurSync((ctx), (cur)); \
+      RT_FAIL(ctx, stat, inner, elem, index, outer); \
+   } while (0)
+#define RT_CHECK_PUT(ctx, cur, stat, inner, elem, index, outer) \
+   do { \
+      if (RT_UNLIKELY((stat) != 0)) RT_FAIL_PUT(ctx, cur, stat, inner, elem, index, outer); \
+   } while (0)
+#define RT_ENCODE_ENTRY(ctx, body, arg) \
+   rtxEncCur cur; \
+   int stat; \
+   rtxEncCurStart((ctx), &cur); \
+   stat = body((ctx), (arg), &cur); \
+   if (stat == 0) rtxEncCurSync((ctx), &cur); \
+   return stat
+
 /* The bodies of types that another unit holds, reached through their exported functions. */
 #define RT_DECODE_EXTERN(T) \
    static inline int dec_##T(rtxContext* RT_RESTRICT ctx, T* RT_RESTRICT pvalue, rtxDecCur* RT_RESTRICT cur) \
@@ -70,6 +89,24 @@
       rtxCurSync(ctx, cur); \
       stat = asn1PD_UMTS_##T(ctx, pvalue); \
       rtxCurStart(cur, rtxBitPos(ctx)); \
+      return stat; \
+   }
+#define RT_ENCODE_EXTERN(T) \
+   static inline int enc_##T(rtxContext* RT_RESTRICT ctx, const T* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur) \
+   { \
+      int stat; \
+      rtxEncCurSync(ctx, cur); \
+      stat = asn1PE_UMTS_##T(ctx, pvalue); \
+      rtxEncCurStart(ctx, cur); \
+      return stat; \
+   }
+#define RT_ENCODE_EXTERN_VALUE(T) \
+   static inline int enc_##T(rtxContext* RT_RESTRICT ctx, T value, rtxEncCur* RT_RESTRICT cur) \
+   { \
+      int stat; \
+      rtxEncCurSync(ctx, cur); \
+      stat = asn1PE_UMTS_##T(ctx, value); \
+      rtxEncCurStart(ctx, cur); \
       return stat; \
    }
 

@@ -6,376 +6,825 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PE_UMTS_SFN_Prime(rtxContext* RT_RESTRICT ctx, SFN_Prime value)
+/* The bodies of this unit. */
+RT_MERGED_BODY int enc_SFN_Prime(rtxContext* RT_RESTRICT ctx, SFN_Prime value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SIB_Type(rtxContext* RT_RESTRICT ctx, SIB_Type value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SegCount(rtxContext* RT_RESTRICT ctx, SegCount value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SIB_Data_fixed(rtxContext* RT_RESTRICT ctx, const SIB_Data_fixed* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_FirstSegment(rtxContext* RT_RESTRICT ctx, const FirstSegment* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SegmentIndex(rtxContext* RT_RESTRICT ctx, SegmentIndex value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SubsequentSegment(rtxContext* RT_RESTRICT ctx, const SubsequentSegment* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SIB_Data_variable(rtxContext* RT_RESTRICT ctx, const SIB_Data_variable* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_LastSegmentShort(rtxContext* RT_RESTRICT ctx, const LastSegmentShort* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_FirstSegmentShort(rtxContext* RT_RESTRICT ctx, const FirstSegmentShort* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SystemInformation_BCH_payload_lastAndFirst(rtxContext* RT_RESTRICT ctx, const SystemInformation_BCH_payload_lastAndFirst* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CompleteSIBshort(rtxContext* RT_RESTRICT ctx, const CompleteSIBshort* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CompleteSIB_List(rtxContext* RT_RESTRICT ctx, const CompleteSIB_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SystemInformation_BCH_payload_lastAndComplete(rtxContext* RT_RESTRICT ctx, const SystemInformation_BCH_payload_lastAndComplete* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SystemInformation_BCH_payload_lastAndCompleteAndFirst(rtxContext* RT_RESTRICT ctx, const SystemInformation_BCH_payload_lastAndCompleteAndFirst* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SystemInformation_BCH_payload_completeAndFirst(rtxContext* RT_RESTRICT ctx, const SystemInformation_BCH_payload_completeAndFirst* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CompleteSIB_sib_Data_fixed(rtxContext* RT_RESTRICT ctx, const CompleteSIB_sib_Data_fixed* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CompleteSIB(rtxContext* RT_RESTRICT ctx, const CompleteSIB* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_LastSegment(rtxContext* RT_RESTRICT ctx, const LastSegment* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_SystemInformation_BCH_payload(rtxContext* RT_RESTRICT ctx, const SystemInformation_BCH_payload* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SystemInformation_BCH(rtxContext* RT_RESTRICT ctx, const SystemInformation_BCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_BCCH_BCH_Message(rtxContext* RT_RESTRICT ctx, const BCCH_BCH_Message* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MIB_ValueTag(rtxContext* RT_RESTRICT ctx, MIB_ValueTag value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Digit(rtxContext* RT_RESTRICT ctx, Digit value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MCC(rtxContext* RT_RESTRICT ctx, const MCC* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MNC(rtxContext* RT_RESTRICT ctx, const MNC* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PLMN_Identity(rtxContext* RT_RESTRICT ctx, const PLMN_Identity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PLMN_Type_gsm_MAP(rtxContext* RT_RESTRICT ctx, const PLMN_Type_gsm_MAP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_P_REV(rtxContext* RT_RESTRICT ctx, P_REV value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Min_P_REV(rtxContext* RT_RESTRICT ctx, Min_P_REV value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SID(rtxContext* RT_RESTRICT ctx, SID value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NID(rtxContext* RT_RESTRICT ctx, NID value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PLMN_Type_ansi_41(rtxContext* RT_RESTRICT ctx, const PLMN_Type_ansi_41* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PLMN_Type_gsm_MAP_and_ANSI_41(rtxContext* RT_RESTRICT ctx, const PLMN_Type_gsm_MAP_and_ANSI_41* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PLMN_Type(rtxContext* RT_RESTRICT ctx, const PLMN_Type* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PLMN_ValueTag(rtxContext* RT_RESTRICT ctx, PLMN_ValueTag value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellValueTag(rtxContext* RT_RESTRICT ctx, CellValueTag value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PredefinedConfigIdentity(rtxContext* RT_RESTRICT ctx, PredefinedConfigIdentity value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PredefinedConfigValueTag(rtxContext* RT_RESTRICT ctx, PredefinedConfigValueTag value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PredefinedConfigIdentityAndValueTag(rtxContext* RT_RESTRICT ctx, const PredefinedConfigIdentityAndValueTag* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SIBOccurIdentity(rtxContext* RT_RESTRICT ctx, SIBOccurIdentity value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SIBOccurValueTag(rtxContext* RT_RESTRICT ctx, SIBOccurValueTag value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SIBOccurrenceIdentityAndValueTag(rtxContext* RT_RESTRICT ctx, const SIBOccurrenceIdentityAndValueTag* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SIBSb_TypeAndTag(rtxContext* RT_RESTRICT ctx, const SIBSb_TypeAndTag* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SchedulingInformation_scheduling_sib_Pos(rtxContext* RT_RESTRICT ctx, const SchedulingInformation_scheduling_sib_Pos* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SibOFF(rtxContext* RT_RESTRICT ctx, SibOFF value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SibOFF_List(rtxContext* RT_RESTRICT ctx, const SibOFF_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SchedulingInformation_scheduling(rtxContext* RT_RESTRICT ctx, const SchedulingInformation_scheduling* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_SchedulingInformation(rtxContext* RT_RESTRICT ctx, const SchedulingInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SchedulingInformationSIBSb(rtxContext* RT_RESTRICT ctx, const SchedulingInformationSIBSb* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_SIBSb_ReferenceList(rtxContext* RT_RESTRICT ctx, const SIBSb_ReferenceList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PLMN_IdentityWithOptionalMCC_r6(rtxContext* RT_RESTRICT ctx, const PLMN_IdentityWithOptionalMCC_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MultiplePLMN_List_r6_multiplePLMNs(rtxContext* RT_RESTRICT ctx, const MultiplePLMN_List_r6_multiplePLMNs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MultiplePLMN_List_r6(rtxContext* RT_RESTRICT ctx, const MultiplePLMN_List_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MasterInformationBlock_v690ext(rtxContext* RT_RESTRICT ctx, const MasterInformationBlock_v690ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SIB_TypeExt(rtxContext* RT_RESTRICT ctx, const SIB_TypeExt* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ValueTagInfo(rtxContext* RT_RESTRICT ctx, const ValueTagInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ExtSIBTypeInfoSchedulingInfo(rtxContext* RT_RESTRICT ctx, const ExtSIBTypeInfoSchedulingInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_ExtSIBTypeInfoSchedulingInfo_List(rtxContext* RT_RESTRICT ctx, const ExtSIBTypeInfoSchedulingInfo_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MasterInformationBlock_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, const MasterInformationBlock_v6b0ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SIB_TypeExt2(rtxContext* RT_RESTRICT ctx, const SIB_TypeExt2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ExtSIBTypeInfoSchedulingInfo2(rtxContext* RT_RESTRICT ctx, const ExtSIBTypeInfoSchedulingInfo2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_ExtSIBTypeInfoSchedulingInfo_List2(rtxContext* RT_RESTRICT ctx, const ExtSIBTypeInfoSchedulingInfo_List2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_Positioning_GANSS_SBAS_ID(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_SBAS_ID value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SIB_TypeExtGANSS(rtxContext* RT_RESTRICT ctx, const SIB_TypeExtGANSS* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ExtGANSS_SchedulingInfo(rtxContext* RT_RESTRICT ctx, const ExtGANSS_SchedulingInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ExtGANSS_SIBTypeInfoSchedulingInfo_ganssScheduling(rtxContext* RT_RESTRICT ctx, const ExtGANSS_SIBTypeInfoSchedulingInfo_ganssScheduling* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ExtGANSS_SIBTypeInfoSchedulingInfo(rtxContext* RT_RESTRICT ctx, const ExtGANSS_SIBTypeInfoSchedulingInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_ExtGANSS_SIBTypeInfoSchedulingInfoList(rtxContext* RT_RESTRICT ctx, const ExtGANSS_SIBTypeInfoSchedulingInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MasterInformationBlock_v860ext_IEs_csg_Indicator(rtxContext* RT_RESTRICT ctx, MasterInformationBlock_v860ext_IEs_csg_Indicator value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MasterInformationBlock_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const MasterInformationBlock_v860ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MasterInformationBlock_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MasterInformationBlock_v690NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_MasterInformationBlock(rtxContext* RT_RESTRICT ctx, const MasterInformationBlock* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellIdentity(rtxContext* RT_RESTRICT ctx, CellIdentity value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RAT(rtxContext* RT_RESTRICT ctx, RAT value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MappingFunctionType(rtxContext* RT_RESTRICT ctx, MappingFunctionType value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MapParameter(rtxContext* RT_RESTRICT ctx, MapParameter value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UpperLimit(rtxContext* RT_RESTRICT ctx, UpperLimit value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MappingFunctionParameter(rtxContext* RT_RESTRICT ctx, const MappingFunctionParameter* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MappingFunctionParameterList(rtxContext* RT_RESTRICT ctx, const MappingFunctionParameterList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Mapping(rtxContext* RT_RESTRICT ctx, const Mapping* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MappingInfo(rtxContext* RT_RESTRICT ctx, const MappingInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Q_Hyst_S(rtxContext* RT_RESTRICT ctx, Q_Hyst_S value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_S_SearchQual(rtxContext* RT_RESTRICT ctx, S_SearchQual value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_S_SearchRXLEV(rtxContext* RT_RESTRICT ctx, S_SearchRXLEV value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RAT_Identifier(rtxContext* RT_RESTRICT ctx, RAT_Identifier value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RAT_FDD_Info(rtxContext* RT_RESTRICT ctx, const RAT_FDD_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RAT_FDD_InfoList(rtxContext* RT_RESTRICT ctx, const RAT_FDD_InfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Q_QualMin(rtxContext* RT_RESTRICT ctx, Q_QualMin value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Q_RxlevMin(rtxContext* RT_RESTRICT ctx, Q_RxlevMin value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RAT_TDD_Info(rtxContext* RT_RESTRICT ctx, const RAT_TDD_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RAT_TDD_InfoList(rtxContext* RT_RESTRICT ctx, const RAT_TDD_InfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_3_4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_3_4_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_3_4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_3_4_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_T_Reselection_S(rtxContext* RT_RESTRICT ctx, T_Reselection_S value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HCS_PRIO(rtxContext* RT_RESTRICT ctx, HCS_PRIO value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Q_HCS(rtxContext* RT_RESTRICT ctx, Q_HCS value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_T_CRMaxHyst(rtxContext* RT_RESTRICT ctx, T_CRMaxHyst value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_N_CR_T_CRMaxHyst(rtxContext* RT_RESTRICT ctx, const N_CR_T_CRMaxHyst* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_T_CRMax(rtxContext* RT_RESTRICT ctx, const T_CRMax* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HCS_ServingCellInformation(rtxContext* RT_RESTRICT ctx, const HCS_ServingCellInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaxAllowedUL_TX_Power(rtxContext* RT_RESTRICT ctx, MaxAllowedUL_TX_Power value, rtxEncCur* RT_RESTRICT cur);
+static int enc_CellSelectReselectInfoSIB_3_4(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_3_4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AllowedIndicator(rtxContext* RT_RESTRICT ctx, AllowedIndicator value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_T_Barred(rtxContext* RT_RESTRICT ctx, T_Barred value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellBarred_barred(rtxContext* RT_RESTRICT ctx, const CellBarred_barred* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellBarred(rtxContext* RT_RESTRICT ctx, const CellBarred* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ReservedIndicator(rtxContext* RT_RESTRICT ctx, ReservedIndicator value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AccessClassBarred(rtxContext* RT_RESTRICT ctx, AccessClassBarred value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AccessClassBarredList(rtxContext* RT_RESTRICT ctx, const AccessClassBarredList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellAccessRestriction(rtxContext* RT_RESTRICT ctx, const CellAccessRestriction* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Mapping_LCR_r4(rtxContext* RT_RESTRICT ctx, const Mapping_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType3_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DeltaQrxlevmin(rtxContext* RT_RESTRICT ctx, DeltaQrxlevmin value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DeltaRSCP(rtxContext* RT_RESTRICT ctx, DeltaRSCP value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellSelectReselectInfo_v590ext(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfo_v590ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType3_v590ext(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v590ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SpeedDependentScalingFactor(rtxContext* RT_RESTRICT ctx, SpeedDependentScalingFactor value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TreselectionScalingFactor(rtxContext* RT_RESTRICT ctx, TreselectionScalingFactor value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellSelectReselectInfoTreselectionScaling_v5c0ext(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoTreselectionScaling_v5c0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType3_v5c0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v5c0ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DomainSpecificAccessRestriction_v670ext_restriction(rtxContext* RT_RESTRICT ctx, const DomainSpecificAccessRestriction_v670ext_restriction* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DomainSpecificAccessRestriction_v670ext(rtxContext* RT_RESTRICT ctx, const DomainSpecificAccessRestriction_v670ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DomainSpecificAccessRestrictionParam_v670ext(rtxContext* RT_RESTRICT ctx, const DomainSpecificAccessRestrictionParam_v670ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DomainSpecificAccessRestrictionList_v670ext(rtxContext* RT_RESTRICT ctx, const DomainSpecificAccessRestrictionList_v670ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DomainSpecificAccessRestrictionForSharedNetwork_v670ext(rtxContext* RT_RESTRICT ctx, const DomainSpecificAccessRestrictionForSharedNetwork_v670ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType3_v670ext(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v670ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqMeasQuantity_FDD_sib3(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_FDD_sib3 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DeferredMeasurementControlReadingSupport_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DeferredMeasurementControlReadingSupport_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqMeasQuantity_TDD_sib3List_element(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_TDD_sib3List_element value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqMeasQuantity_TDD_sib3List(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasQuantity_TDD_sib3List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DeferredMeasurementControlReadingSupport_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DeferredMeasurementControlReadingSupport_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DeferredMeasurementControlReadingSupport_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DeferredMeasurementControlReadingSupport_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DeferredMeasurementControlReadingSupport(rtxContext* RT_RESTRICT ctx, const DeferredMeasurementControlReadingSupport* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Q_QualMin_Offset(rtxContext* RT_RESTRICT ctx, Q_QualMin_Offset value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Q_RxlevMin_Offset(rtxContext* RT_RESTRICT ctx, Q_RxlevMin_Offset value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MBSFNOnlyService(rtxContext* RT_RESTRICT ctx, MBSFNOnlyService value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType3_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v770ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PagingPermissionWithAccessControlParameters_pagingResponseRestrictionIndicator(rtxContext* RT_RESTRICT ctx, PagingPermissionWithAccessControlParameters_pagingResponseRestrictionIndicator value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PagingPermissionWithAccessControlParameters_locationRegistrationRestrictionIndicator(rtxContext* RT_RESTRICT ctx, PagingPermissionWithAccessControlParameters_locationRegistrationRestrictionIndicator value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_LocationRegistrationAccessClassBarredList(rtxContext* RT_RESTRICT ctx, const LocationRegistrationAccessClassBarredList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_LocationRegistrationParameters(rtxContext* RT_RESTRICT ctx, const LocationRegistrationParameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PagingPermissionWithAccessControlParameters(rtxContext* RT_RESTRICT ctx, const PagingPermissionWithAccessControlParameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_PagingPermissionWithAccessControlList(rtxContext* RT_RESTRICT ctx, const PagingPermissionWithAccessControlList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PagingPermissionWithAccessControlForSharedNetwork(rtxContext* RT_RESTRICT ctx, const PagingPermissionWithAccessControlForSharedNetwork* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType3_v830ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v830ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CSG_Identity(rtxContext* RT_RESTRICT ctx, CSG_Identity value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CSG_PSCSplitInfo_numberOfPSCs(rtxContext* RT_RESTRICT ctx, CSG_PSCSplitInfo_numberOfPSCs value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CSG_PSCSplitInfo(rtxContext* RT_RESTRICT ctx, const CSG_PSCSplitInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType3_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v860ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellAccessRestriction_v870ext_cellReservedForCSG(rtxContext* RT_RESTRICT ctx, CellAccessRestriction_v870ext_cellReservedForCSG value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellAccessRestriction_v870ext(rtxContext* RT_RESTRICT ctx, const CellAccessRestriction_v870ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType3_v870ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v870ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType3_v920ext_IEs_imsEmergencySupportIndicator(rtxContext* RT_RESTRICT ctx, SysInfoType3_v920ext_IEs_imsEmergencySupportIndicator value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType3_v920ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v920ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension_nonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType3_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_SysInfoType3(rtxContext* RT_RESTRICT ctx, const SysInfoType3* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SIB_TypeAndTag(rtxContext* RT_RESTRICT ctx, const SIB_TypeAndTag* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_SchedulingInformationSIB(rtxContext* RT_RESTRICT ctx, const SchedulingInformationSIB* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SIB_ReferenceList(rtxContext* RT_RESTRICT ctx, const SIB_ReferenceList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoTypeSB1_v6b0ext(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB1_v6b0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoTypeSB1_v860ext(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB1_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoTypeSB1_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB1_v6b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoTypeSB1(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB1* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoTypeSB2_v6b0ext(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB2_v6b0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoTypeSB2_v860ext(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB2_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoTypeSB2_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB2_v6b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoTypeSB2(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NAS_SystemInformationGSM_MAP(rtxContext* RT_RESTRICT ctx, const NAS_SystemInformationGSM_MAP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CN_DomainIdentity(rtxContext* RT_RESTRICT ctx, CN_DomainIdentity value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ANSI_41_NAS_Parameter(rtxContext* RT_RESTRICT ctx, const ANSI_41_NAS_Parameter* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NAS_SystemInformationANSI_41(rtxContext* RT_RESTRICT ctx, const NAS_SystemInformationANSI_41* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CN_DomainSysInfo_cn_Type(rtxContext* RT_RESTRICT ctx, const CN_DomainSysInfo_cn_Type* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CN_DRX_CycleLengthCoefficient(rtxContext* RT_RESTRICT ctx, CN_DRX_CycleLengthCoefficient value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CN_DomainSysInfo(rtxContext* RT_RESTRICT ctx, const CN_DomainSysInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_CN_DomainSysInfoList(rtxContext* RT_RESTRICT ctx, const CN_DomainSysInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_T_301(rtxContext* RT_RESTRICT ctx, T_301 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_N_301(rtxContext* RT_RESTRICT ctx, N_301 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_T_302(rtxContext* RT_RESTRICT ctx, T_302 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_N_302(rtxContext* RT_RESTRICT ctx, N_302 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_T_304(rtxContext* RT_RESTRICT ctx, T_304 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_N_304(rtxContext* RT_RESTRICT ctx, N_304 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_T_305(rtxContext* RT_RESTRICT ctx, T_305 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_T_307(rtxContext* RT_RESTRICT ctx, T_307 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_T_308(rtxContext* RT_RESTRICT ctx, T_308 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_T_309(rtxContext* RT_RESTRICT ctx, T_309 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_T_310(rtxContext* RT_RESTRICT ctx, T_310 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_N_310(rtxContext* RT_RESTRICT ctx, N_310 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_T_311(rtxContext* RT_RESTRICT ctx, T_311 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_T_312(rtxContext* RT_RESTRICT ctx, T_312 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_N_312(rtxContext* RT_RESTRICT ctx, N_312 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_T_313(rtxContext* RT_RESTRICT ctx, T_313 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_N_313(rtxContext* RT_RESTRICT ctx, N_313 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_T_314(rtxContext* RT_RESTRICT ctx, T_314 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_T_315(rtxContext* RT_RESTRICT ctx, T_315 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_N_315(rtxContext* RT_RESTRICT ctx, N_315 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_T_316(rtxContext* RT_RESTRICT ctx, T_316 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_T_317(rtxContext* RT_RESTRICT ctx, T_317 value, rtxEncCur* RT_RESTRICT cur);
+static int enc_UE_ConnTimersAndConstants(rtxContext* RT_RESTRICT ctx, const UE_ConnTimersAndConstants* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_T_300(rtxContext* RT_RESTRICT ctx, T_300 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_N_300(rtxContext* RT_RESTRICT ctx, N_300 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_IdleTimersAndConstants(rtxContext* RT_RESTRICT ctx, const UE_IdleTimersAndConstants* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_N_312ext(rtxContext* RT_RESTRICT ctx, N_312ext value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_N_315ext(rtxContext* RT_RESTRICT ctx, N_315ext value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_ConnTimersAndConstants_v3a0ext(rtxContext* RT_RESTRICT ctx, const UE_ConnTimersAndConstants_v3a0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_IdleTimersAndConstants_v3a0ext(rtxContext* RT_RESTRICT ctx, const UE_IdleTimersAndConstants_v3a0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType1_v3a0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType1_v3a0ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_T_323(rtxContext* RT_RESTRICT ctx, T_323 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_ConnTimersAndConstants_v860ext(rtxContext* RT_RESTRICT ctx, const UE_ConnTimersAndConstants_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType1_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType1_v860ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions(rtxContext* RT_RESTRICT ctx, const SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType1_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType1_v3a0NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType1(rtxContext* RT_RESTRICT ctx, const SysInfoType1* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_URA_Identity(rtxContext* RT_RESTRICT ctx, URA_Identity value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_URA_IdentityList(rtxContext* RT_RESTRICT ctx, const URA_IdentityList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType2_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType2_nonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType2(rtxContext* RT_RESTRICT ctx, const SysInfoType2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_Interference(rtxContext* RT_RESTRICT ctx, UL_Interference value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SysInfoType7_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType7_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DynamicPersistenceLevel(rtxContext* RT_RESTRICT ctx, DynamicPersistenceLevel value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DynamicPersistenceLevelList(rtxContext* RT_RESTRICT ctx, const DynamicPersistenceLevelList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ExpirationTimeFactor(rtxContext* RT_RESTRICT ctx, ExpirationTimeFactor value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType7_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType7_nonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType7(rtxContext* RT_RESTRICT ctx, const SysInfoType7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PLMNsOfIntraFreqCellsList_element(rtxContext* RT_RESTRICT ctx, const PLMNsOfIntraFreqCellsList_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PLMNsOfIntraFreqCellsList(rtxContext* RT_RESTRICT ctx, const PLMNsOfIntraFreqCellsList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PLMNsOfInterFreqCellsList_element(rtxContext* RT_RESTRICT ctx, const PLMNsOfInterFreqCellsList_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PLMNsOfInterFreqCellsList(rtxContext* RT_RESTRICT ctx, const PLMNsOfInterFreqCellsList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PLMNsOfInterRATCellsList_element(rtxContext* RT_RESTRICT ctx, const PLMNsOfInterRATCellsList_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PLMNsOfInterRATCellsList(rtxContext* RT_RESTRICT ctx, const PLMNsOfInterRATCellsList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_PLMNIdentitiesOfNeighbourCells(rtxContext* RT_RESTRICT ctx, const PLMNIdentitiesOfNeighbourCells* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType18_v6b0ext(rtxContext* RT_RESTRICT ctx, const SysInfoType18_v6b0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MultiplePLMNsOfIntraFreqCellsList_element_multiplePLMN_list(rtxContext* RT_RESTRICT ctx, const MultiplePLMNsOfIntraFreqCellsList_element_multiplePLMN_list* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MultiplePLMNsOfIntraFreqCellsList_element(rtxContext* RT_RESTRICT ctx, const MultiplePLMNsOfIntraFreqCellsList_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MultiplePLMNsOfIntraFreqCellsList(rtxContext* RT_RESTRICT ctx, const MultiplePLMNsOfIntraFreqCellsList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MultiplePLMNsOfInterFreqCellsList_element_multiplePLMN_list(rtxContext* RT_RESTRICT ctx, const MultiplePLMNsOfInterFreqCellsList_element_multiplePLMN_list* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MultiplePLMNsOfInterFreqCellsList_element(rtxContext* RT_RESTRICT ctx, const MultiplePLMNsOfInterFreqCellsList_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MultiplePLMNsOfInterFreqCellsList(rtxContext* RT_RESTRICT ctx, const MultiplePLMNsOfInterFreqCellsList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_PLMNIdentitiesOfNeighbourCells_v860ext(rtxContext* RT_RESTRICT ctx, const PLMNIdentitiesOfNeighbourCells_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType18_v860ext(rtxContext* RT_RESTRICT ctx, const SysInfoType18_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType18_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType18_v6b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType18(rtxContext* RT_RESTRICT ctx, const SysInfoType18* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PICH_PowerOffset(rtxContext* RT_RESTRICT ctx, PICH_PowerOffset value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AICH_PowerOffset(rtxContext* RT_RESTRICT ctx, AICH_PowerOffset value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType5_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SysInfoType5_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PUSCH_Identity(rtxContext* RT_RESTRICT ctx, PUSCH_Identity value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TFCS_IdentityPlain(rtxContext* RT_RESTRICT ctx, TFCS_IdentityPlain value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecondInterleavingMode(rtxContext* RT_RESTRICT ctx, SecondInterleavingMode value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TFCI_Coding(rtxContext* RT_RESTRICT ctx, TFCI_Coding value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PuncturingLimit(rtxContext* RT_RESTRICT ctx, PuncturingLimit value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RepetitionPeriodAndLength(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodAndLength* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CommonTimeslotInfo(rtxContext* RT_RESTRICT ctx, const CommonTimeslotInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TimeslotNumber(rtxContext* RT_RESTRICT ctx, TimeslotNumber value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleConfigurationBurstType1and3(rtxContext* RT_RESTRICT ctx, MidambleConfigurationBurstType1and3 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftLong(rtxContext* RT_RESTRICT ctx, MidambleShiftLong value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_burstType_type1(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType_type1* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleConfigurationBurstType2(rtxContext* RT_RESTRICT ctx, MidambleConfigurationBurstType2 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftShort(rtxContext* RT_RESTRICT ctx, MidambleShiftShort value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_burstType_type2(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType_type2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_burstType_type3(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType_type3* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_burstType(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_MidambleShiftAndBurstType(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IndividualTimeslotInfo(rtxContext* RT_RESTRICT ctx, const IndividualTimeslotInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_TS_ChannelisationCode(rtxContext* RT_RESTRICT ctx, UL_TS_ChannelisationCode value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_TS_ChannelisationCodeList(rtxContext* RT_RESTRICT ctx, const UL_TS_ChannelisationCodeList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_consecutive(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_consecutive* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UplinkAdditionalTimeslots_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_parameters_sameAsLast* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UplinkAdditionalTimeslots_parameters_newParameters(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_parameters_newParameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UplinkAdditionalTimeslots_parameters(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_parameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UplinkAdditionalTimeslots(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UplinkTimeslotsCodes_moreTimeslots(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_moreTimeslots* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UplinkTimeslotsCodes(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_PUSCH_Info(rtxContext* RT_RESTRICT ctx, const PUSCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_BitModeRLC_SizeInfo_sizeType2(rtxContext* RT_RESTRICT ctx, const BitModeRLC_SizeInfo_sizeType2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_BitModeRLC_SizeInfo_sizeType3(rtxContext* RT_RESTRICT ctx, const BitModeRLC_SizeInfo_sizeType3* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_BitModeRLC_SizeInfo_sizeType4(rtxContext* RT_RESTRICT ctx, const BitModeRLC_SizeInfo_sizeType4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_BitModeRLC_SizeInfo(rtxContext* RT_RESTRICT ctx, const BitModeRLC_SizeInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_OctetModeRLC_SizeInfoType1_sizeType2(rtxContext* RT_RESTRICT ctx, const OctetModeRLC_SizeInfoType1_sizeType2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_OctetModeRLC_SizeInfoType1_sizeType3(rtxContext* RT_RESTRICT ctx, const OctetModeRLC_SizeInfoType1_sizeType3* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_OctetModeRLC_SizeInfoType1(rtxContext* RT_RESTRICT ctx, const OctetModeRLC_SizeInfoType1* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DedicatedDynamicTF_Info_rlc_Size(rtxContext* RT_RESTRICT ctx, const DedicatedDynamicTF_Info_rlc_Size* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NumberOfTransportBlocks(rtxContext* RT_RESTRICT ctx, const NumberOfTransportBlocks* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DedicatedDynamicTF_Info_numberOfTbSizeList(rtxContext* RT_RESTRICT ctx, const DedicatedDynamicTF_Info_numberOfTbSizeList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_Identity(rtxContext* RT_RESTRICT ctx, RB_Identity value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_LogicalChannelByRB(rtxContext* RT_RESTRICT ctx, const LogicalChannelByRB* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_LogicalChannelList_explicitList(rtxContext* RT_RESTRICT ctx, const LogicalChannelList_explicitList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_LogicalChannelList(rtxContext* RT_RESTRICT ctx, const LogicalChannelList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DedicatedDynamicTF_Info(rtxContext* RT_RESTRICT ctx, const DedicatedDynamicTF_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DedicatedDynamicTF_InfoList(rtxContext* RT_RESTRICT ctx, const DedicatedDynamicTF_InfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DedicatedDynamicTF_Info_DynamicTTI_rlc_Size(rtxContext* RT_RESTRICT ctx, const DedicatedDynamicTF_Info_DynamicTTI_rlc_Size* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TransmissionTimeInterval(rtxContext* RT_RESTRICT ctx, TransmissionTimeInterval value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NumberOfTbSizeAndTTIList_element(rtxContext* RT_RESTRICT ctx, const NumberOfTbSizeAndTTIList_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NumberOfTbSizeAndTTIList(rtxContext* RT_RESTRICT ctx, const NumberOfTbSizeAndTTIList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DedicatedDynamicTF_Info_DynamicTTI(rtxContext* RT_RESTRICT ctx, const DedicatedDynamicTF_Info_DynamicTTI* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DedicatedDynamicTF_InfoList_DynamicTTI(rtxContext* RT_RESTRICT ctx, const DedicatedDynamicTF_InfoList_DynamicTTI* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DedicatedTransChTFS_tti(rtxContext* RT_RESTRICT ctx, const DedicatedTransChTFS_tti* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CodingRate(rtxContext* RT_RESTRICT ctx, CodingRate value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ChannelCodingType(rtxContext* RT_RESTRICT ctx, const ChannelCodingType* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RateMatchingAttribute(rtxContext* RT_RESTRICT ctx, RateMatchingAttribute value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CRC_Size(rtxContext* RT_RESTRICT ctx, CRC_Size value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SemistaticTF_Information(rtxContext* RT_RESTRICT ctx, const SemistaticTF_Information* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DedicatedTransChTFS(rtxContext* RT_RESTRICT ctx, const DedicatedTransChTFS* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_OctetModeRLC_SizeInfoType2(rtxContext* RT_RESTRICT ctx, const OctetModeRLC_SizeInfoType2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CommonDynamicTF_Info_rlc_Size_fdd(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_Info_rlc_Size_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CommonDynamicTF_Info_rlc_Size_tdd_commonTDD_Choice(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_Info_rlc_Size_tdd_commonTDD_Choice* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CommonDynamicTF_Info_rlc_Size_tdd(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_Info_rlc_Size_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CommonDynamicTF_Info_rlc_Size(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_Info_rlc_Size* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CommonDynamicTF_Info_numberOfTbSizeList(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_Info_numberOfTbSizeList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CommonDynamicTF_Info(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_CommonDynamicTF_InfoList(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_InfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CommonDynamicTF_Info_DynamicTTI_commonTDD_Choice(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_Info_DynamicTTI_commonTDD_Choice* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CommonDynamicTF_Info_DynamicTTI(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_Info_DynamicTTI* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_CommonDynamicTF_InfoList_DynamicTTI(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_InfoList_DynamicTTI* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CommonTransChTFS_tti(rtxContext* RT_RESTRICT ctx, const CommonTransChTFS_tti* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CommonTransChTFS(rtxContext* RT_RESTRICT ctx, const CommonTransChTFS* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_TransportFormatSet(rtxContext* RT_RESTRICT ctx, const TransportFormatSet* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GainFactor(rtxContext* RT_RESTRICT ctx, GainFactor value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SignalledGainFactors_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SignalledGainFactors_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SignalledGainFactors_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SignalledGainFactors_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ReferenceTFC_ID(rtxContext* RT_RESTRICT ctx, ReferenceTFC_ID value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SignalledGainFactors(rtxContext* RT_RESTRICT ctx, const SignalledGainFactors* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+
+RT_MERGED_BODY int enc_SFN_Prime(rtxContext* RT_RESTRICT ctx, SFN_Prime value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)value > 2047u) {
       rtxErrAddStrParm(ctx, "SFN-Prime");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "SFN-Prime");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "SFN-Prime");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 2047);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SFN-Prime");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 2047);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SFN-Prime");
+   return 0;
+}
+
+int asn1PE_UMTS_SFN_Prime(rtxContext* RT_RESTRICT ctx, SFN_Prime value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SFN_Prime, value);
+}
+
+RT_MERGED_BODY int enc_SIB_Type(rtxContext* RT_RESTRICT ctx, SIB_Type value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 31) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "SIB-Type");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SIB-Type");
    return 0;
 }
 
 int asn1PE_UMTS_SIB_Type(rtxContext* RT_RESTRICT ctx, SIB_Type value)
 {
-   int stat = 0;
-   if (value > 31) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SIB-Type");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SIB-Type");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_SIB_Type, value);
 }
 
-int asn1PE_UMTS_SegCount(rtxContext* RT_RESTRICT ctx, SegCount value)
+RT_MERGED_BODY int enc_SegCount(rtxContext* RT_RESTRICT ctx, SegCount value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)(value - 1) > 15u) {
       rtxErrAddStrParm(ctx, "SegCount");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "SegCount");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "SegCount");
    }
-   stat = pe_ConsUInt64(ctx, value, 1, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SegCount");
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SegCount");
+   return 0;
+}
+
+int asn1PE_UMTS_SegCount(rtxContext* RT_RESTRICT ctx, SegCount value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SegCount, value);
+}
+
+RT_MERGED_BODY int enc_SIB_Data_fixed(rtxContext* RT_RESTRICT ctx, const SIB_Data_fixed* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SIB-Data-fixed");
+   RT_SET_SIZE(ctx, 222, 222);
+   stat = pe_BitStringAt(ctx, cur, pvalue->numbits, pvalue->data);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SIB-Data-fixed");
    return 0;
 }
 
 int asn1PE_UMTS_SIB_Data_fixed(rtxContext* RT_RESTRICT ctx, const SIB_Data_fixed* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SIB_Data_fixed, pvalue);
+}
+
+RT_MERGED_BODY int enc_FirstSegment(rtxContext* RT_RESTRICT ctx, const FirstSegment* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SIB-Data-fixed");
-   RT_SET_SIZE(ctx, 222, 222);
-   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SIB-Data-fixed");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "FirstSegment");
+   /* sib-Type */
+   if (pvalue->sib_Type > 31) {
+      rtxErrAddUIntParm(ctx, pvalue->sib_Type);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "SIB-Type", "sib-Type", -1, "FirstSegment");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->sib_Type, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, "SIB-Type", "sib-Type", -1, "FirstSegment");
+   /* seg-Count */
+   if ((uint64_t)(pvalue->seg_Count - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "SegCount");
+      rtxErrAddUIntParm(ctx, pvalue->seg_Count);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SegCount", "seg-Count", -1, "FirstSegment");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->seg_Count, 1, 16);
+   RT_CHECK_PUT(ctx, cur, stat, "SegCount", "seg-Count", -1, "FirstSegment");
+   /* sib-Data-fixed */
+   stat = enc_SIB_Data_fixed(ctx, &pvalue->sib_Data_fixed, cur);
+   RT_CHECK(ctx, stat, 0, "sib-Data-fixed", -1, "FirstSegment");
    return 0;
 }
 
 int asn1PE_UMTS_FirstSegment(rtxContext* RT_RESTRICT ctx, const FirstSegment* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "FirstSegment");
-   /* sib-Type */
-   if (pvalue->sib_Type > 31) {
-      rtxErrAddUIntParm(ctx, pvalue->sib_Type);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "SIB-Type", "sib-Type", -1, "FirstSegment");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->sib_Type, 0, 31);
-   RT_CHECK(ctx, stat, "SIB-Type", "sib-Type", -1, "FirstSegment");
-   /* seg-Count */
-   if ((uint64_t)(pvalue->seg_Count - 1) > 15u) {
-      rtxErrAddStrParm(ctx, "SegCount");
-      rtxErrAddUIntParm(ctx, pvalue->seg_Count);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "SegCount", "seg-Count", -1, "FirstSegment");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->seg_Count, 1, 16);
-   RT_CHECK(ctx, stat, "SegCount", "seg-Count", -1, "FirstSegment");
-   /* sib-Data-fixed */
-   stat = asn1PE_UMTS_SIB_Data_fixed(ctx, &pvalue->sib_Data_fixed);
-   RT_CHECK(ctx, stat, 0, "sib-Data-fixed", -1, "FirstSegment");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_FirstSegment, pvalue);
 }
 
-int asn1PE_UMTS_SegmentIndex(rtxContext* RT_RESTRICT ctx, SegmentIndex value)
+RT_MERGED_BODY int enc_SegmentIndex(rtxContext* RT_RESTRICT ctx, SegmentIndex value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)(value - 1) > 14u) {
       rtxErrAddStrParm(ctx, "SegmentIndex");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "SegmentIndex");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "SegmentIndex");
    }
-   stat = pe_ConsUInt64(ctx, value, 1, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SegmentIndex");
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SegmentIndex");
+   return 0;
+}
+
+int asn1PE_UMTS_SegmentIndex(rtxContext* RT_RESTRICT ctx, SegmentIndex value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SegmentIndex, value);
+}
+
+RT_MERGED_BODY int enc_SubsequentSegment(rtxContext* RT_RESTRICT ctx, const SubsequentSegment* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SubsequentSegment");
+   /* sib-Type */
+   if (pvalue->sib_Type > 31) {
+      rtxErrAddUIntParm(ctx, pvalue->sib_Type);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "SIB-Type", "sib-Type", -1, "SubsequentSegment");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->sib_Type, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, "SIB-Type", "sib-Type", -1, "SubsequentSegment");
+   /* segmentIndex */
+   if ((uint64_t)(pvalue->segmentIndex - 1) > 14u) {
+      rtxErrAddStrParm(ctx, "SegmentIndex");
+      rtxErrAddUIntParm(ctx, pvalue->segmentIndex);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SegmentIndex", "segmentIndex", -1, "SubsequentSegment");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->segmentIndex, 1, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "SegmentIndex", "segmentIndex", -1, "SubsequentSegment");
+   /* sib-Data-fixed */
+   stat = enc_SIB_Data_fixed(ctx, &pvalue->sib_Data_fixed, cur);
+   RT_CHECK(ctx, stat, 0, "sib-Data-fixed", -1, "SubsequentSegment");
    return 0;
 }
 
 int asn1PE_UMTS_SubsequentSegment(rtxContext* RT_RESTRICT ctx, const SubsequentSegment* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SubsequentSegment, pvalue);
+}
+
+RT_MERGED_BODY int enc_SIB_Data_variable(rtxContext* RT_RESTRICT ctx, const SIB_Data_variable* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SubsequentSegment");
-   /* sib-Type */
-   if (pvalue->sib_Type > 31) {
-      rtxErrAddUIntParm(ctx, pvalue->sib_Type);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "SIB-Type", "sib-Type", -1, "SubsequentSegment");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->sib_Type, 0, 31);
-   RT_CHECK(ctx, stat, "SIB-Type", "sib-Type", -1, "SubsequentSegment");
-   /* segmentIndex */
-   if ((uint64_t)(pvalue->segmentIndex - 1) > 14u) {
-      rtxErrAddStrParm(ctx, "SegmentIndex");
-      rtxErrAddUIntParm(ctx, pvalue->segmentIndex);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "SegmentIndex", "segmentIndex", -1, "SubsequentSegment");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->segmentIndex, 1, 15);
-   RT_CHECK(ctx, stat, "SegmentIndex", "segmentIndex", -1, "SubsequentSegment");
-   /* sib-Data-fixed */
-   stat = asn1PE_UMTS_SIB_Data_fixed(ctx, &pvalue->sib_Data_fixed);
-   RT_CHECK(ctx, stat, 0, "sib-Data-fixed", -1, "SubsequentSegment");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SIB-Data-variable");
+   RT_SET_SIZE(ctx, 1, 214);
+   stat = pe_BitStringAt(ctx, cur, pvalue->numbits, pvalue->data);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SIB-Data-variable");
    return 0;
 }
 
 int asn1PE_UMTS_SIB_Data_variable(rtxContext* RT_RESTRICT ctx, const SIB_Data_variable* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SIB_Data_variable, pvalue);
+}
+
+RT_MERGED_BODY int enc_LastSegmentShort(rtxContext* RT_RESTRICT ctx, const LastSegmentShort* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SIB-Data-variable");
-   RT_SET_SIZE(ctx, 1, 214);
-   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SIB-Data-variable");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "LastSegmentShort");
+   /* sib-Type */
+   if (pvalue->sib_Type > 31) {
+      rtxErrAddUIntParm(ctx, pvalue->sib_Type);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "SIB-Type", "sib-Type", -1, "LastSegmentShort");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->sib_Type, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, "SIB-Type", "sib-Type", -1, "LastSegmentShort");
+   /* segmentIndex */
+   if ((uint64_t)(pvalue->segmentIndex - 1) > 14u) {
+      rtxErrAddStrParm(ctx, "SegmentIndex");
+      rtxErrAddUIntParm(ctx, pvalue->segmentIndex);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SegmentIndex", "segmentIndex", -1, "LastSegmentShort");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->segmentIndex, 1, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "SegmentIndex", "segmentIndex", -1, "LastSegmentShort");
+   /* sib-Data-variable */
+   stat = enc_SIB_Data_variable(ctx, &pvalue->sib_Data_variable, cur);
+   RT_CHECK(ctx, stat, 0, "sib-Data-variable", -1, "LastSegmentShort");
    return 0;
 }
 
 int asn1PE_UMTS_LastSegmentShort(rtxContext* RT_RESTRICT ctx, const LastSegmentShort* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_LastSegmentShort, pvalue);
+}
+
+RT_MERGED_BODY int enc_FirstSegmentShort(rtxContext* RT_RESTRICT ctx, const FirstSegmentShort* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "LastSegmentShort");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "FirstSegmentShort");
    /* sib-Type */
    if (pvalue->sib_Type > 31) {
       rtxErrAddUIntParm(ctx, pvalue->sib_Type);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "SIB-Type", "sib-Type", -1, "LastSegmentShort");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "SIB-Type", "sib-Type", -1, "FirstSegmentShort");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->sib_Type, 0, 31);
-   RT_CHECK(ctx, stat, "SIB-Type", "sib-Type", -1, "LastSegmentShort");
-   /* segmentIndex */
-   if ((uint64_t)(pvalue->segmentIndex - 1) > 14u) {
-      rtxErrAddStrParm(ctx, "SegmentIndex");
-      rtxErrAddUIntParm(ctx, pvalue->segmentIndex);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "SegmentIndex", "segmentIndex", -1, "LastSegmentShort");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->sib_Type, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, "SIB-Type", "sib-Type", -1, "FirstSegmentShort");
+   /* seg-Count */
+   if ((uint64_t)(pvalue->seg_Count - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "SegCount");
+      rtxErrAddUIntParm(ctx, pvalue->seg_Count);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SegCount", "seg-Count", -1, "FirstSegmentShort");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->segmentIndex, 1, 15);
-   RT_CHECK(ctx, stat, "SegmentIndex", "segmentIndex", -1, "LastSegmentShort");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->seg_Count, 1, 16);
+   RT_CHECK_PUT(ctx, cur, stat, "SegCount", "seg-Count", -1, "FirstSegmentShort");
    /* sib-Data-variable */
-   stat = asn1PE_UMTS_SIB_Data_variable(ctx, &pvalue->sib_Data_variable);
-   RT_CHECK(ctx, stat, 0, "sib-Data-variable", -1, "LastSegmentShort");
+   stat = enc_SIB_Data_variable(ctx, &pvalue->sib_Data_variable, cur);
+   RT_CHECK(ctx, stat, 0, "sib-Data-variable", -1, "FirstSegmentShort");
    return 0;
 }
 
 int asn1PE_UMTS_FirstSegmentShort(rtxContext* RT_RESTRICT ctx, const FirstSegmentShort* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_FirstSegmentShort, pvalue);
+}
+
+RT_MERGED_BODY int enc_SystemInformation_BCH_payload_lastAndFirst(rtxContext* RT_RESTRICT ctx, const SystemInformation_BCH_payload_lastAndFirst* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "FirstSegmentShort");
-   /* sib-Type */
-   if (pvalue->sib_Type > 31) {
-      rtxErrAddUIntParm(ctx, pvalue->sib_Type);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "SIB-Type", "sib-Type", -1, "FirstSegmentShort");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->sib_Type, 0, 31);
-   RT_CHECK(ctx, stat, "SIB-Type", "sib-Type", -1, "FirstSegmentShort");
-   /* seg-Count */
-   if ((uint64_t)(pvalue->seg_Count - 1) > 15u) {
-      rtxErrAddStrParm(ctx, "SegCount");
-      rtxErrAddUIntParm(ctx, pvalue->seg_Count);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "SegCount", "seg-Count", -1, "FirstSegmentShort");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->seg_Count, 1, 16);
-   RT_CHECK(ctx, stat, "SegCount", "seg-Count", -1, "FirstSegmentShort");
-   /* sib-Data-variable */
-   stat = asn1PE_UMTS_SIB_Data_variable(ctx, &pvalue->sib_Data_variable);
-   RT_CHECK(ctx, stat, 0, "sib-Data-variable", -1, "FirstSegmentShort");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* lastSegmentShort */
+   stat = enc_LastSegmentShort(ctx, &pvalue->lastSegmentShort, cur);
+   RT_CHECK(ctx, stat, 0, "lastSegmentShort", -1, 0);
+   /* firstSegment */
+   stat = enc_FirstSegmentShort(ctx, &pvalue->firstSegment, cur);
+   RT_CHECK(ctx, stat, 0, "firstSegment", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_SystemInformation_BCH_payload_lastAndFirst(rtxContext* RT_RESTRICT ctx, const SystemInformation_BCH_payload_lastAndFirst* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SystemInformation_BCH_payload_lastAndFirst, pvalue);
+}
+
+RT_MERGED_BODY int enc_CompleteSIBshort(rtxContext* RT_RESTRICT ctx, const CompleteSIBshort* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* lastSegmentShort */
-   stat = asn1PE_UMTS_LastSegmentShort(ctx, &pvalue->lastSegmentShort);
-   RT_CHECK(ctx, stat, 0, "lastSegmentShort", -1, 0);
-   /* firstSegment */
-   stat = asn1PE_UMTS_FirstSegmentShort(ctx, &pvalue->firstSegment);
-   RT_CHECK(ctx, stat, 0, "firstSegment", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CompleteSIBshort");
+   /* sib-Type */
+   if (pvalue->sib_Type > 31) {
+      rtxErrAddUIntParm(ctx, pvalue->sib_Type);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "SIB-Type", "sib-Type", -1, "CompleteSIBshort");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->sib_Type, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, "SIB-Type", "sib-Type", -1, "CompleteSIBshort");
+   /* sib-Data-variable */
+   stat = enc_SIB_Data_variable(ctx, &pvalue->sib_Data_variable, cur);
+   RT_CHECK(ctx, stat, 0, "sib-Data-variable", -1, "CompleteSIBshort");
    return 0;
 }
 
 int asn1PE_UMTS_CompleteSIBshort(rtxContext* RT_RESTRICT ctx, const CompleteSIBshort* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompleteSIBshort");
-   /* sib-Type */
-   if (pvalue->sib_Type > 31) {
-      rtxErrAddUIntParm(ctx, pvalue->sib_Type);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "SIB-Type", "sib-Type", -1, "CompleteSIBshort");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->sib_Type, 0, 31);
-   RT_CHECK(ctx, stat, "SIB-Type", "sib-Type", -1, "CompleteSIBshort");
-   /* sib-Data-variable */
-   stat = asn1PE_UMTS_SIB_Data_variable(ctx, &pvalue->sib_Data_variable);
-   RT_CHECK(ctx, stat, 0, "sib-Data-variable", -1, "CompleteSIBshort");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_CompleteSIBshort, pvalue);
 }
 
-int asn1PE_UMTS_CompleteSIB_List(rtxContext* RT_RESTRICT ctx, const CompleteSIB_List* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_CompleteSIB_List(rtxContext* RT_RESTRICT ctx, const CompleteSIB_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompleteSIB-List");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CompleteSIB-List");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CompleteSIB-List");
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "CompleteSIB-List");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CompleteSIBshort", (int32_t)i, "CompleteSIB-List");
-      stat = asn1PE_UMTS_CompleteSIBshort(ctx, (const CompleteSIBshort*)node->data);
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "CompleteSIBshort", (int32_t)i, "CompleteSIB-List");
+      stat = enc_CompleteSIBshort(ctx, (const CompleteSIBshort*)node->data, cur);
       RT_CHECK(ctx, stat, 0, "CompleteSIBshort", (int32_t)i, "CompleteSIB-List");
    }
    return 0;
 }
 
-int asn1PE_UMTS_SystemInformation_BCH_payload_lastAndComplete(rtxContext* RT_RESTRICT ctx, const SystemInformation_BCH_payload_lastAndComplete* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CompleteSIB_List(rtxContext* RT_RESTRICT ctx, const CompleteSIB_List* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CompleteSIB_List, pvalue);
+}
+
+RT_MERGED_BODY int enc_SystemInformation_BCH_payload_lastAndComplete(rtxContext* RT_RESTRICT ctx, const SystemInformation_BCH_payload_lastAndComplete* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* lastSegmentShort */
-   stat = asn1PE_UMTS_LastSegmentShort(ctx, &pvalue->lastSegmentShort);
+   stat = enc_LastSegmentShort(ctx, &pvalue->lastSegmentShort, cur);
    RT_CHECK(ctx, stat, 0, "lastSegmentShort", -1, 0);
    /* completeSIB-List */
-   stat = asn1PE_UMTS_CompleteSIB_List(ctx, &pvalue->completeSIB_List);
+   stat = enc_CompleteSIB_List(ctx, &pvalue->completeSIB_List, cur);
    RT_CHECK(ctx, stat, 0, "completeSIB-List", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SystemInformation_BCH_payload_lastAndComplete(rtxContext* RT_RESTRICT ctx, const SystemInformation_BCH_payload_lastAndComplete* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SystemInformation_BCH_payload_lastAndComplete, pvalue);
+}
+
+RT_MERGED_BODY int enc_SystemInformation_BCH_payload_lastAndCompleteAndFirst(rtxContext* RT_RESTRICT ctx, const SystemInformation_BCH_payload_lastAndCompleteAndFirst* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* lastSegmentShort */
+   stat = enc_LastSegmentShort(ctx, &pvalue->lastSegmentShort, cur);
+   RT_CHECK(ctx, stat, 0, "lastSegmentShort", -1, 0);
+   /* completeSIB-List */
+   stat = enc_CompleteSIB_List(ctx, &pvalue->completeSIB_List, cur);
+   RT_CHECK(ctx, stat, 0, "completeSIB-List", -1, 0);
+   /* firstSegment */
+   stat = enc_FirstSegmentShort(ctx, &pvalue->firstSegment, cur);
+   RT_CHECK(ctx, stat, 0, "firstSegment", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_SystemInformation_BCH_payload_lastAndCompleteAndFirst(rtxContext* RT_RESTRICT ctx, const SystemInformation_BCH_payload_lastAndCompleteAndFirst* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SystemInformation_BCH_payload_lastAndCompleteAndFirst, pvalue);
+}
+
+RT_MERGED_BODY int enc_SystemInformation_BCH_payload_completeAndFirst(rtxContext* RT_RESTRICT ctx, const SystemInformation_BCH_payload_completeAndFirst* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* lastSegmentShort */
-   stat = asn1PE_UMTS_LastSegmentShort(ctx, &pvalue->lastSegmentShort);
-   RT_CHECK(ctx, stat, 0, "lastSegmentShort", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* completeSIB-List */
-   stat = asn1PE_UMTS_CompleteSIB_List(ctx, &pvalue->completeSIB_List);
+   stat = enc_CompleteSIB_List(ctx, &pvalue->completeSIB_List, cur);
    RT_CHECK(ctx, stat, 0, "completeSIB-List", -1, 0);
    /* firstSegment */
-   stat = asn1PE_UMTS_FirstSegmentShort(ctx, &pvalue->firstSegment);
+   stat = enc_FirstSegmentShort(ctx, &pvalue->firstSegment, cur);
    RT_CHECK(ctx, stat, 0, "firstSegment", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_SystemInformation_BCH_payload_completeAndFirst(rtxContext* RT_RESTRICT ctx, const SystemInformation_BCH_payload_completeAndFirst* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SystemInformation_BCH_payload_completeAndFirst, pvalue);
+}
+
+RT_MERGED_BODY int enc_CompleteSIB_sib_Data_fixed(rtxContext* RT_RESTRICT ctx, const CompleteSIB_sib_Data_fixed* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* completeSIB-List */
-   stat = asn1PE_UMTS_CompleteSIB_List(ctx, &pvalue->completeSIB_List);
-   RT_CHECK(ctx, stat, 0, "completeSIB-List", -1, 0);
-   /* firstSegment */
-   stat = asn1PE_UMTS_FirstSegmentShort(ctx, &pvalue->firstSegment);
-   RT_CHECK(ctx, stat, 0, "firstSegment", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 226, 226);
+   stat = pe_BitStringAt(ctx, cur, pvalue->numbits, pvalue->data);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_CompleteSIB_sib_Data_fixed(rtxContext* RT_RESTRICT ctx, const CompleteSIB_sib_Data_fixed* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_CompleteSIB_sib_Data_fixed, pvalue);
+}
+
+RT_MERGED_BODY int enc_CompleteSIB(rtxContext* RT_RESTRICT ctx, const CompleteSIB* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   RT_SET_SIZE(ctx, 226, 226);
-   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CompleteSIB");
+   /* sib-Type */
+   if (pvalue->sib_Type > 31) {
+      rtxErrAddUIntParm(ctx, pvalue->sib_Type);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "SIB-Type", "sib-Type", -1, "CompleteSIB");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->sib_Type, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, "SIB-Type", "sib-Type", -1, "CompleteSIB");
+   /* sib-Data-fixed */
+   stat = enc_CompleteSIB_sib_Data_fixed(ctx, &pvalue->sib_Data_fixed, cur);
+   RT_CHECK(ctx, stat, 0, "sib-Data-fixed", -1, "CompleteSIB");
    return 0;
 }
 
 int asn1PE_UMTS_CompleteSIB(rtxContext* RT_RESTRICT ctx, const CompleteSIB* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_CompleteSIB, pvalue);
+}
+
+RT_MERGED_BODY int enc_LastSegment(rtxContext* RT_RESTRICT ctx, const LastSegment* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompleteSIB");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "LastSegment");
    /* sib-Type */
    if (pvalue->sib_Type > 31) {
       rtxErrAddUIntParm(ctx, pvalue->sib_Type);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "SIB-Type", "sib-Type", -1, "CompleteSIB");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "SIB-Type", "sib-Type", -1, "LastSegment");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->sib_Type, 0, 31);
-   RT_CHECK(ctx, stat, "SIB-Type", "sib-Type", -1, "CompleteSIB");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->sib_Type, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, "SIB-Type", "sib-Type", -1, "LastSegment");
+   /* segmentIndex */
+   if ((uint64_t)(pvalue->segmentIndex - 1) > 14u) {
+      rtxErrAddStrParm(ctx, "SegmentIndex");
+      rtxErrAddUIntParm(ctx, pvalue->segmentIndex);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SegmentIndex", "segmentIndex", -1, "LastSegment");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->segmentIndex, 1, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "SegmentIndex", "segmentIndex", -1, "LastSegment");
    /* sib-Data-fixed */
-   stat = asn1PE_UMTS_CompleteSIB_sib_Data_fixed(ctx, &pvalue->sib_Data_fixed);
-   RT_CHECK(ctx, stat, 0, "sib-Data-fixed", -1, "CompleteSIB");
+   stat = enc_SIB_Data_fixed(ctx, &pvalue->sib_Data_fixed, cur);
+   RT_CHECK(ctx, stat, 0, "sib-Data-fixed", -1, "LastSegment");
    return 0;
 }
 
 int asn1PE_UMTS_LastSegment(rtxContext* RT_RESTRICT ctx, const LastSegment* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "LastSegment");
-   /* sib-Type */
-   if (pvalue->sib_Type > 31) {
-      rtxErrAddUIntParm(ctx, pvalue->sib_Type);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "SIB-Type", "sib-Type", -1, "LastSegment");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->sib_Type, 0, 31);
-   RT_CHECK(ctx, stat, "SIB-Type", "sib-Type", -1, "LastSegment");
-   /* segmentIndex */
-   if ((uint64_t)(pvalue->segmentIndex - 1) > 14u) {
-      rtxErrAddStrParm(ctx, "SegmentIndex");
-      rtxErrAddUIntParm(ctx, pvalue->segmentIndex);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "SegmentIndex", "segmentIndex", -1, "LastSegment");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->segmentIndex, 1, 15);
-   RT_CHECK(ctx, stat, "SegmentIndex", "segmentIndex", -1, "LastSegment");
-   /* sib-Data-fixed */
-   stat = asn1PE_UMTS_SIB_Data_fixed(ctx, &pvalue->sib_Data_fixed);
-   RT_CHECK(ctx, stat, 0, "sib-Data-fixed", -1, "LastSegment");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_LastSegment, pvalue);
 }
 
-int asn1PE_UMTS_SystemInformation_BCH_payload(rtxContext* RT_RESTRICT ctx, const SystemInformation_BCH_payload* RT_RESTRICT pvalue)
+static int enc_SystemInformation_BCH_payload(rtxContext* RT_RESTRICT ctx, const SystemInformation_BCH_payload* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 15);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 15) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 15) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
          break;
       case 2:
-         if (pvalue->u.firstSegment == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "firstSegment", -1, 0);
-         stat = asn1PE_UMTS_FirstSegment(ctx, pvalue->u.firstSegment);
+         if (pvalue->u.firstSegment == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "firstSegment", -1, 0);
+         stat = enc_FirstSegment(ctx, pvalue->u.firstSegment, cur);
          RT_CHECK(ctx, stat, 0, "firstSegment", -1, 0);
          break;
       case 3:
-         if (pvalue->u.subsequentSegment == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "subsequentSegment", -1, 0);
-         stat = asn1PE_UMTS_SubsequentSegment(ctx, pvalue->u.subsequentSegment);
+         if (pvalue->u.subsequentSegment == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "subsequentSegment", -1, 0);
+         stat = enc_SubsequentSegment(ctx, pvalue->u.subsequentSegment, cur);
          RT_CHECK(ctx, stat, 0, "subsequentSegment", -1, 0);
          break;
       case 4:
-         if (pvalue->u.lastSegmentShort == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "lastSegmentShort", -1, 0);
-         stat = asn1PE_UMTS_LastSegmentShort(ctx, pvalue->u.lastSegmentShort);
+         if (pvalue->u.lastSegmentShort == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "lastSegmentShort", -1, 0);
+         stat = enc_LastSegmentShort(ctx, pvalue->u.lastSegmentShort, cur);
          RT_CHECK(ctx, stat, 0, "lastSegmentShort", -1, 0);
          break;
       case 5:
-         if (pvalue->u.lastAndFirst == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "lastAndFirst", -1, 0);
-         stat = asn1PE_UMTS_SystemInformation_BCH_payload_lastAndFirst(ctx, pvalue->u.lastAndFirst);
+         if (pvalue->u.lastAndFirst == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "lastAndFirst", -1, 0);
+         stat = enc_SystemInformation_BCH_payload_lastAndFirst(ctx, pvalue->u.lastAndFirst, cur);
          RT_CHECK(ctx, stat, 0, "lastAndFirst", -1, 0);
          break;
       case 6:
-         if (pvalue->u.lastAndComplete == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "lastAndComplete", -1, 0);
-         stat = asn1PE_UMTS_SystemInformation_BCH_payload_lastAndComplete(ctx, pvalue->u.lastAndComplete);
+         if (pvalue->u.lastAndComplete == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "lastAndComplete", -1, 0);
+         stat = enc_SystemInformation_BCH_payload_lastAndComplete(ctx, pvalue->u.lastAndComplete, cur);
          RT_CHECK(ctx, stat, 0, "lastAndComplete", -1, 0);
          break;
       case 7:
-         if (pvalue->u.lastAndCompleteAndFirst == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "lastAndCompleteAndFirst", -1, 0);
-         stat = asn1PE_UMTS_SystemInformation_BCH_payload_lastAndCompleteAndFirst(ctx, pvalue->u.lastAndCompleteAndFirst);
+         if (pvalue->u.lastAndCompleteAndFirst == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "lastAndCompleteAndFirst", -1, 0);
+         stat = enc_SystemInformation_BCH_payload_lastAndCompleteAndFirst(ctx, pvalue->u.lastAndCompleteAndFirst, cur);
          RT_CHECK(ctx, stat, 0, "lastAndCompleteAndFirst", -1, 0);
          break;
       case 8:
-         if (pvalue->u.completeSIB_List == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "completeSIB-List", -1, 0);
-         stat = asn1PE_UMTS_CompleteSIB_List(ctx, pvalue->u.completeSIB_List);
+         if (pvalue->u.completeSIB_List == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "completeSIB-List", -1, 0);
+         stat = enc_CompleteSIB_List(ctx, pvalue->u.completeSIB_List, cur);
          RT_CHECK(ctx, stat, 0, "completeSIB-List", -1, 0);
          break;
       case 9:
-         if (pvalue->u.completeAndFirst == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "completeAndFirst", -1, 0);
-         stat = asn1PE_UMTS_SystemInformation_BCH_payload_completeAndFirst(ctx, pvalue->u.completeAndFirst);
+         if (pvalue->u.completeAndFirst == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "completeAndFirst", -1, 0);
+         stat = enc_SystemInformation_BCH_payload_completeAndFirst(ctx, pvalue->u.completeAndFirst, cur);
          RT_CHECK(ctx, stat, 0, "completeAndFirst", -1, 0);
          break;
       case 10:
-         if (pvalue->u.completeSIB == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "completeSIB", -1, 0);
-         stat = asn1PE_UMTS_CompleteSIB(ctx, pvalue->u.completeSIB);
+         if (pvalue->u.completeSIB == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "completeSIB", -1, 0);
+         stat = enc_CompleteSIB(ctx, pvalue->u.completeSIB, cur);
          RT_CHECK(ctx, stat, 0, "completeSIB", -1, 0);
          break;
       case 11:
-         if (pvalue->u.lastSegment == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "lastSegment", -1, 0);
-         stat = asn1PE_UMTS_LastSegment(ctx, pvalue->u.lastSegment);
+         if (pvalue->u.lastSegment == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "lastSegment", -1, 0);
+         stat = enc_LastSegment(ctx, pvalue->u.lastSegment, cur);
          RT_CHECK(ctx, stat, 0, "lastSegment", -1, 0);
          break;
       case 12:
@@ -394,223 +843,298 @@ int asn1PE_UMTS_SystemInformation_BCH_payload(rtxContext* RT_RESTRICT ctx, const
    return 0;
 }
 
-int asn1PE_UMTS_SystemInformation_BCH(rtxContext* RT_RESTRICT ctx, const SystemInformation_BCH* RT_RESTRICT pvalue)
+int asn1PE_UMTS_SystemInformation_BCH_payload(rtxContext* RT_RESTRICT ctx, const SystemInformation_BCH_payload* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SystemInformation_BCH_payload, pvalue);
+}
+
+RT_MERGED_BODY int enc_SystemInformation_BCH(rtxContext* RT_RESTRICT ctx, const SystemInformation_BCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SystemInformation-BCH");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SystemInformation-BCH");
    /* sfn-Prime */
    if ((uint64_t)pvalue->sfn_Prime > 2047u) {
       rtxErrAddStrParm(ctx, "SFN-Prime");
       rtxErrAddUIntParm(ctx, pvalue->sfn_Prime);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "SFN-Prime", "sfn-Prime", -1, "SystemInformation-BCH");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SFN-Prime", "sfn-Prime", -1, "SystemInformation-BCH");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->sfn_Prime, 0, 2047);
-   RT_CHECK(ctx, stat, "SFN-Prime", "sfn-Prime", -1, "SystemInformation-BCH");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->sfn_Prime, 0, 2047);
+   RT_CHECK_PUT(ctx, cur, stat, "SFN-Prime", "sfn-Prime", -1, "SystemInformation-BCH");
    /* payload */
-   stat = asn1PE_UMTS_SystemInformation_BCH_payload(ctx, &pvalue->payload);
+   stat = enc_SystemInformation_BCH_payload(ctx, &pvalue->payload, cur);
    RT_CHECK(ctx, stat, 0, "payload", -1, "SystemInformation-BCH");
+   return 0;
+}
+
+int asn1PE_UMTS_SystemInformation_BCH(rtxContext* RT_RESTRICT ctx, const SystemInformation_BCH* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SystemInformation_BCH, pvalue);
+}
+
+RT_MERGED_BODY int enc_BCCH_BCH_Message(rtxContext* RT_RESTRICT ctx, const BCCH_BCH_Message* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "BCCH-BCH-Message");
+   /* message */
+   stat = enc_SystemInformation_BCH(ctx, &pvalue->message, cur);
+   RT_CHECK(ctx, stat, 0, "message", -1, "BCCH-BCH-Message");
    return 0;
 }
 
 int asn1PE_UMTS_BCCH_BCH_Message(rtxContext* RT_RESTRICT ctx, const BCCH_BCH_Message* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "BCCH-BCH-Message");
-   /* message */
-   stat = asn1PE_UMTS_SystemInformation_BCH(ctx, &pvalue->message);
-   RT_CHECK(ctx, stat, 0, "message", -1, "BCCH-BCH-Message");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_BCCH_BCH_Message, pvalue);
 }
 
-int asn1PE_UMTS_MIB_ValueTag(rtxContext* RT_RESTRICT ctx, MIB_ValueTag value)
+RT_MERGED_BODY int enc_MIB_ValueTag(rtxContext* RT_RESTRICT ctx, MIB_ValueTag value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)(value - 1) > 7u) {
       rtxErrAddStrParm(ctx, "MIB-ValueTag");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MIB-ValueTag");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "MIB-ValueTag");
    }
-   stat = pe_ConsUInt64(ctx, value, 1, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MIB-ValueTag");
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MIB-ValueTag");
    return 0;
 }
 
-int asn1PE_UMTS_Digit(rtxContext* RT_RESTRICT ctx, Digit value)
+int asn1PE_UMTS_MIB_ValueTag(rtxContext* RT_RESTRICT ctx, MIB_ValueTag value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MIB_ValueTag, value);
+}
+
+RT_MERGED_BODY int enc_Digit(rtxContext* RT_RESTRICT ctx, Digit value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)value > 9u) {
       rtxErrAddStrParm(ctx, "Digit");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "Digit");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "Digit");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 9);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Digit");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 9);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Digit");
    return 0;
 }
 
-int asn1PE_UMTS_MCC(rtxContext* RT_RESTRICT ctx, const MCC* RT_RESTRICT pvalue)
+int asn1PE_UMTS_Digit(rtxContext* RT_RESTRICT ctx, Digit value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Digit, value);
+}
+
+RT_MERGED_BODY int enc_MCC(rtxContext* RT_RESTRICT ctx, const MCC* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MCC");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MCC");
    uint32_t i;
    if (pvalue->n != 3) {
       rtxErrAddStrParm(ctx, "MCC");
       rtxErrAddUIntParm(ctx, pvalue->n);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MCC");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "MCC");
    }
    for (i = 0; i < pvalue->n; i++) {
       if ((uint64_t)pvalue->elem[i] > 9u) {
          rtxErrAddStrParm(ctx, "Digit");
          rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Digit", "Digit", (int32_t)i, "MCC");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Digit", "Digit", (int32_t)i, "MCC");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 9);
-      RT_CHECK(ctx, stat, "Digit", "Digit", (int32_t)i, "MCC");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 9);
+      RT_CHECK_PUT(ctx, cur, stat, "Digit", "Digit", (int32_t)i, "MCC");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MCC(rtxContext* RT_RESTRICT ctx, const MCC* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MCC, pvalue);
+}
+
+RT_MERGED_BODY int enc_MNC(rtxContext* RT_RESTRICT ctx, const MNC* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MNC");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 2, 3);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "MNC");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 9u) {
+         rtxErrAddStrParm(ctx, "Digit");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Digit", "Digit", (int32_t)i, "MNC");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 9);
+      RT_CHECK_PUT(ctx, cur, stat, "Digit", "Digit", (int32_t)i, "MNC");
    }
    return 0;
 }
 
 int asn1PE_UMTS_MNC(rtxContext* RT_RESTRICT ctx, const MNC* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_MNC, pvalue);
+}
+
+RT_MERGED_BODY int enc_PLMN_Identity(rtxContext* RT_RESTRICT ctx, const PLMN_Identity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MNC");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 2, 3);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MNC");
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)pvalue->elem[i] > 9u) {
-         rtxErrAddStrParm(ctx, "Digit");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Digit", "Digit", (int32_t)i, "MNC");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 9);
-      RT_CHECK(ctx, stat, "Digit", "Digit", (int32_t)i, "MNC");
-   }
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PLMN-Identity");
+   /* mcc */
+   stat = enc_MCC(ctx, &pvalue->mcc, cur);
+   RT_CHECK(ctx, stat, 0, "mcc", -1, "PLMN-Identity");
+   /* mnc */
+   stat = enc_MNC(ctx, &pvalue->mnc, cur);
+   RT_CHECK(ctx, stat, 0, "mnc", -1, "PLMN-Identity");
    return 0;
 }
 
 int asn1PE_UMTS_PLMN_Identity(rtxContext* RT_RESTRICT ctx, const PLMN_Identity* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_PLMN_Identity, pvalue);
+}
+
+RT_MERGED_BODY int enc_PLMN_Type_gsm_MAP(rtxContext* RT_RESTRICT ctx, const PLMN_Type_gsm_MAP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PLMN-Identity");
-   /* mcc */
-   stat = asn1PE_UMTS_MCC(ctx, &pvalue->mcc);
-   RT_CHECK(ctx, stat, 0, "mcc", -1, "PLMN-Identity");
-   /* mnc */
-   stat = asn1PE_UMTS_MNC(ctx, &pvalue->mnc);
-   RT_CHECK(ctx, stat, 0, "mnc", -1, "PLMN-Identity");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* plmn-Identity */
+   stat = enc_PLMN_Identity(ctx, &pvalue->plmn_Identity, cur);
+   RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_PLMN_Type_gsm_MAP(rtxContext* RT_RESTRICT ctx, const PLMN_Type_gsm_MAP* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_PLMN_Type_gsm_MAP, pvalue);
+}
+
+RT_MERGED_BODY int enc_P_REV(rtxContext* RT_RESTRICT ctx, P_REV value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* plmn-Identity */
-   stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
-   RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, 0);
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32At(ctx, cur, &value, 8, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "P-REV");
    return 0;
 }
 
 int asn1PE_UMTS_P_REV(rtxContext* RT_RESTRICT ctx, P_REV value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_P_REV, value);
+}
+
+RT_MERGED_BODY int enc_Min_P_REV(rtxContext* RT_RESTRICT ctx, Min_P_REV value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
    RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &value, 8, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "P-REV");
+   stat = pe_BitString32At(ctx, cur, &value, 8, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Min-P-REV");
    return 0;
 }
 
 int asn1PE_UMTS_Min_P_REV(rtxContext* RT_RESTRICT ctx, Min_P_REV value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_Min_P_REV, value);
+}
+
+RT_MERGED_BODY int enc_SID(rtxContext* RT_RESTRICT ctx, SID value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &value, 8, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Min-P-REV");
+   RT_SET_SIZE(ctx, 15, 15);
+   stat = pe_BitString32At(ctx, cur, &value, 15, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SID");
    return 0;
 }
 
 int asn1PE_UMTS_SID(rtxContext* RT_RESTRICT ctx, SID value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SID, value);
+}
+
+RT_MERGED_BODY int enc_NID(rtxContext* RT_RESTRICT ctx, NID value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   RT_SET_SIZE(ctx, 15, 15);
-   stat = pe_BitString32(ctx, &value, 15, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SID");
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &value, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NID");
    return 0;
 }
 
 int asn1PE_UMTS_NID(rtxContext* RT_RESTRICT ctx, NID value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_NID, value);
+}
+
+RT_MERGED_BODY int enc_PLMN_Type_ansi_41(rtxContext* RT_RESTRICT ctx, const PLMN_Type_ansi_41* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &value, 16, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NID");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* p-REV */
+   stat = enc_P_REV(ctx, pvalue->p_REV, cur);
+   RT_CHECK(ctx, stat, 0, "p-REV", -1, 0);
+   /* min-P-REV */
+   stat = enc_Min_P_REV(ctx, pvalue->min_P_REV, cur);
+   RT_CHECK(ctx, stat, 0, "min-P-REV", -1, 0);
+   /* sid */
+   stat = enc_SID(ctx, pvalue->sid, cur);
+   RT_CHECK(ctx, stat, 0, "sid", -1, 0);
+   /* nid */
+   stat = enc_NID(ctx, pvalue->nid, cur);
+   RT_CHECK(ctx, stat, 0, "nid", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_PLMN_Type_ansi_41(rtxContext* RT_RESTRICT ctx, const PLMN_Type_ansi_41* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_PLMN_Type_ansi_41, pvalue);
+}
+
+RT_MERGED_BODY int enc_PLMN_Type_gsm_MAP_and_ANSI_41(rtxContext* RT_RESTRICT ctx, const PLMN_Type_gsm_MAP_and_ANSI_41* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* plmn-Identity */
+   stat = enc_PLMN_Identity(ctx, &pvalue->plmn_Identity, cur);
+   RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, 0);
    /* p-REV */
-   stat = asn1PE_UMTS_P_REV(ctx, pvalue->p_REV);
+   stat = enc_P_REV(ctx, pvalue->p_REV, cur);
    RT_CHECK(ctx, stat, 0, "p-REV", -1, 0);
    /* min-P-REV */
-   stat = asn1PE_UMTS_Min_P_REV(ctx, pvalue->min_P_REV);
+   stat = enc_Min_P_REV(ctx, pvalue->min_P_REV, cur);
    RT_CHECK(ctx, stat, 0, "min-P-REV", -1, 0);
    /* sid */
-   stat = asn1PE_UMTS_SID(ctx, pvalue->sid);
+   stat = enc_SID(ctx, pvalue->sid, cur);
    RT_CHECK(ctx, stat, 0, "sid", -1, 0);
    /* nid */
-   stat = asn1PE_UMTS_NID(ctx, pvalue->nid);
+   stat = enc_NID(ctx, pvalue->nid, cur);
    RT_CHECK(ctx, stat, 0, "nid", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_PLMN_Type_gsm_MAP_and_ANSI_41(rtxContext* RT_RESTRICT ctx, const PLMN_Type_gsm_MAP_and_ANSI_41* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* plmn-Identity */
-   stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
-   RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, 0);
-   /* p-REV */
-   stat = asn1PE_UMTS_P_REV(ctx, pvalue->p_REV);
-   RT_CHECK(ctx, stat, 0, "p-REV", -1, 0);
-   /* min-P-REV */
-   stat = asn1PE_UMTS_Min_P_REV(ctx, pvalue->min_P_REV);
-   RT_CHECK(ctx, stat, 0, "min-P-REV", -1, 0);
-   /* sid */
-   stat = asn1PE_UMTS_SID(ctx, pvalue->sid);
-   RT_CHECK(ctx, stat, 0, "sid", -1, 0);
-   /* nid */
-   stat = asn1PE_UMTS_NID(ctx, pvalue->nid);
-   RT_CHECK(ctx, stat, 0, "nid", -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_PLMN_Type_gsm_MAP_and_ANSI_41, pvalue);
 }
 
-int asn1PE_UMTS_PLMN_Type(rtxContext* RT_RESTRICT ctx, const PLMN_Type* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_PLMN_Type(rtxContext* RT_RESTRICT ctx, const PLMN_Type* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PLMN-Type");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat, 0, "t", -1, "PLMN-Type");
-   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PLMN-Type");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PLMN-Type");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "PLMN-Type");
+   if (pvalue->t - 1 > 3) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "PLMN-Type");
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.gsm_MAP == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm-MAP", -1, "PLMN-Type");
-         stat = asn1PE_UMTS_PLMN_Type_gsm_MAP(ctx, pvalue->u.gsm_MAP);
+         if (pvalue->u.gsm_MAP == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "gsm-MAP", -1, "PLMN-Type");
+         stat = enc_PLMN_Type_gsm_MAP(ctx, pvalue->u.gsm_MAP, cur);
          RT_CHECK(ctx, stat, 0, "gsm-MAP", -1, "PLMN-Type");
          break;
       case 2:
-         if (pvalue->u.ansi_41 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ansi-41", -1, "PLMN-Type");
-         stat = asn1PE_UMTS_PLMN_Type_ansi_41(ctx, pvalue->u.ansi_41);
+         if (pvalue->u.ansi_41 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ansi-41", -1, "PLMN-Type");
+         stat = enc_PLMN_Type_ansi_41(ctx, pvalue->u.ansi_41, cur);
          RT_CHECK(ctx, stat, 0, "ansi-41", -1, "PLMN-Type");
          break;
       case 3:
-         if (pvalue->u.gsm_MAP_and_ANSI_41 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm-MAP-and-ANSI-41", -1, "PLMN-Type");
-         stat = asn1PE_UMTS_PLMN_Type_gsm_MAP_and_ANSI_41(ctx, pvalue->u.gsm_MAP_and_ANSI_41);
+         if (pvalue->u.gsm_MAP_and_ANSI_41 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "gsm-MAP-and-ANSI-41", -1, "PLMN-Type");
+         stat = enc_PLMN_Type_gsm_MAP_and_ANSI_41(ctx, pvalue->u.gsm_MAP_and_ANSI_41, cur);
          RT_CHECK(ctx, stat, 0, "gsm-MAP-and-ANSI-41", -1, "PLMN-Type");
          break;
       case 4:
@@ -621,191 +1145,236 @@ int asn1PE_UMTS_PLMN_Type(rtxContext* RT_RESTRICT ctx, const PLMN_Type* RT_RESTR
    return 0;
 }
 
-int asn1PE_UMTS_PLMN_ValueTag(rtxContext* RT_RESTRICT ctx, PLMN_ValueTag value)
+int asn1PE_UMTS_PLMN_Type(rtxContext* RT_RESTRICT ctx, const PLMN_Type* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PLMN_Type, pvalue);
+}
+
+RT_MERGED_BODY int enc_PLMN_ValueTag(rtxContext* RT_RESTRICT ctx, PLMN_ValueTag value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)(value - 1) > 255u) {
       rtxErrAddStrParm(ctx, "PLMN-ValueTag");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PLMN-ValueTag");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "PLMN-ValueTag");
    }
-   stat = pe_ConsUInt64(ctx, value, 1, 256);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PLMN-ValueTag");
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 256);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PLMN-ValueTag");
    return 0;
 }
 
-int asn1PE_UMTS_CellValueTag(rtxContext* RT_RESTRICT ctx, CellValueTag value)
+int asn1PE_UMTS_PLMN_ValueTag(rtxContext* RT_RESTRICT ctx, PLMN_ValueTag value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PLMN_ValueTag, value);
+}
+
+RT_MERGED_BODY int enc_CellValueTag(rtxContext* RT_RESTRICT ctx, CellValueTag value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)(value - 1) > 3u) {
       rtxErrAddStrParm(ctx, "CellValueTag");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "CellValueTag");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "CellValueTag");
    }
-   stat = pe_ConsUInt64(ctx, value, 1, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellValueTag");
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CellValueTag");
+   return 0;
+}
+
+int asn1PE_UMTS_CellValueTag(rtxContext* RT_RESTRICT ctx, CellValueTag value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellValueTag, value);
+}
+
+RT_MERGED_BODY int enc_PredefinedConfigIdentity(rtxContext* RT_RESTRICT ctx, PredefinedConfigIdentity value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 15u) {
+      rtxErrAddStrParm(ctx, "PredefinedConfigIdentity");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "PredefinedConfigIdentity");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PredefinedConfigIdentity");
    return 0;
 }
 
 int asn1PE_UMTS_PredefinedConfigIdentity(rtxContext* RT_RESTRICT ctx, PredefinedConfigIdentity value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_PredefinedConfigIdentity, value);
+}
+
+RT_MERGED_BODY int enc_PredefinedConfigValueTag(rtxContext* RT_RESTRICT ctx, PredefinedConfigValueTag value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
    if ((uint64_t)value > 15u) {
-      rtxErrAddStrParm(ctx, "PredefinedConfigIdentity");
+      rtxErrAddStrParm(ctx, "PredefinedConfigValueTag");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PredefinedConfigIdentity");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "PredefinedConfigValueTag");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PredefinedConfigIdentity");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PredefinedConfigValueTag");
    return 0;
 }
 
 int asn1PE_UMTS_PredefinedConfigValueTag(rtxContext* RT_RESTRICT ctx, PredefinedConfigValueTag value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_PredefinedConfigValueTag, value);
+}
+
+RT_MERGED_BODY int enc_PredefinedConfigIdentityAndValueTag(rtxContext* RT_RESTRICT ctx, const PredefinedConfigIdentityAndValueTag* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if ((uint64_t)value > 15u) {
-      rtxErrAddStrParm(ctx, "PredefinedConfigValueTag");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PredefinedConfigValueTag");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PredefinedConfigIdentityAndValueTag");
+   /* predefinedConfigIdentity */
+   if ((uint64_t)pvalue->predefinedConfigIdentity > 15u) {
+      rtxErrAddStrParm(ctx, "PredefinedConfigIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->predefinedConfigIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, "PredefinedConfigIdentityAndValueTag");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PredefinedConfigValueTag");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->predefinedConfigIdentity, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, "PredefinedConfigIdentityAndValueTag");
+   /* predefinedConfigValueTag */
+   if ((uint64_t)pvalue->predefinedConfigValueTag > 15u) {
+      rtxErrAddStrParm(ctx, "PredefinedConfigValueTag");
+      rtxErrAddUIntParm(ctx, pvalue->predefinedConfigValueTag);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PredefinedConfigValueTag", "predefinedConfigValueTag", -1, "PredefinedConfigIdentityAndValueTag");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->predefinedConfigValueTag, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "PredefinedConfigValueTag", "predefinedConfigValueTag", -1, "PredefinedConfigIdentityAndValueTag");
    return 0;
 }
 
 int asn1PE_UMTS_PredefinedConfigIdentityAndValueTag(rtxContext* RT_RESTRICT ctx, const PredefinedConfigIdentityAndValueTag* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_PredefinedConfigIdentityAndValueTag, pvalue);
+}
+
+RT_MERGED_BODY int enc_SIBOccurIdentity(rtxContext* RT_RESTRICT ctx, SIBOccurIdentity value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PredefinedConfigIdentityAndValueTag");
-   /* predefinedConfigIdentity */
-   if ((uint64_t)pvalue->predefinedConfigIdentity > 15u) {
-      rtxErrAddStrParm(ctx, "PredefinedConfigIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->predefinedConfigIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, "PredefinedConfigIdentityAndValueTag");
+   if ((uint64_t)value > 15u) {
+      rtxErrAddStrParm(ctx, "SIBOccurIdentity");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "SIBOccurIdentity");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->predefinedConfigIdentity, 0, 15);
-   RT_CHECK(ctx, stat, "PredefinedConfigIdentity", "predefinedConfigIdentity", -1, "PredefinedConfigIdentityAndValueTag");
-   /* predefinedConfigValueTag */
-   if ((uint64_t)pvalue->predefinedConfigValueTag > 15u) {
-      rtxErrAddStrParm(ctx, "PredefinedConfigValueTag");
-      rtxErrAddUIntParm(ctx, pvalue->predefinedConfigValueTag);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PredefinedConfigValueTag", "predefinedConfigValueTag", -1, "PredefinedConfigIdentityAndValueTag");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->predefinedConfigValueTag, 0, 15);
-   RT_CHECK(ctx, stat, "PredefinedConfigValueTag", "predefinedConfigValueTag", -1, "PredefinedConfigIdentityAndValueTag");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SIBOccurIdentity");
    return 0;
 }
 
 int asn1PE_UMTS_SIBOccurIdentity(rtxContext* RT_RESTRICT ctx, SIBOccurIdentity value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SIBOccurIdentity, value);
+}
+
+RT_MERGED_BODY int enc_SIBOccurValueTag(rtxContext* RT_RESTRICT ctx, SIBOccurValueTag value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
    if ((uint64_t)value > 15u) {
-      rtxErrAddStrParm(ctx, "SIBOccurIdentity");
+      rtxErrAddStrParm(ctx, "SIBOccurValueTag");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "SIBOccurIdentity");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "SIBOccurValueTag");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SIBOccurIdentity");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SIBOccurValueTag");
    return 0;
 }
 
 int asn1PE_UMTS_SIBOccurValueTag(rtxContext* RT_RESTRICT ctx, SIBOccurValueTag value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SIBOccurValueTag, value);
+}
+
+RT_MERGED_BODY int enc_SIBOccurrenceIdentityAndValueTag(rtxContext* RT_RESTRICT ctx, const SIBOccurrenceIdentityAndValueTag* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if ((uint64_t)value > 15u) {
-      rtxErrAddStrParm(ctx, "SIBOccurValueTag");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "SIBOccurValueTag");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SIBOccurrenceIdentityAndValueTag");
+   /* sibOccurIdentity */
+   if ((uint64_t)pvalue->sibOccurIdentity > 15u) {
+      rtxErrAddStrParm(ctx, "SIBOccurIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->sibOccurIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SIBOccurIdentity", "sibOccurIdentity", -1, "SIBOccurrenceIdentityAndValueTag");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SIBOccurValueTag");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->sibOccurIdentity, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "SIBOccurIdentity", "sibOccurIdentity", -1, "SIBOccurrenceIdentityAndValueTag");
+   /* sibOccurValueTag */
+   if ((uint64_t)pvalue->sibOccurValueTag > 15u) {
+      rtxErrAddStrParm(ctx, "SIBOccurValueTag");
+      rtxErrAddUIntParm(ctx, pvalue->sibOccurValueTag);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SIBOccurValueTag", "sibOccurValueTag", -1, "SIBOccurrenceIdentityAndValueTag");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->sibOccurValueTag, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "SIBOccurValueTag", "sibOccurValueTag", -1, "SIBOccurrenceIdentityAndValueTag");
    return 0;
 }
 
 int asn1PE_UMTS_SIBOccurrenceIdentityAndValueTag(rtxContext* RT_RESTRICT ctx, const SIBOccurrenceIdentityAndValueTag* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SIBOccurrenceIdentityAndValueTag");
-   /* sibOccurIdentity */
-   if ((uint64_t)pvalue->sibOccurIdentity > 15u) {
-      rtxErrAddStrParm(ctx, "SIBOccurIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->sibOccurIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "SIBOccurIdentity", "sibOccurIdentity", -1, "SIBOccurrenceIdentityAndValueTag");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->sibOccurIdentity, 0, 15);
-   RT_CHECK(ctx, stat, "SIBOccurIdentity", "sibOccurIdentity", -1, "SIBOccurrenceIdentityAndValueTag");
-   /* sibOccurValueTag */
-   if ((uint64_t)pvalue->sibOccurValueTag > 15u) {
-      rtxErrAddStrParm(ctx, "SIBOccurValueTag");
-      rtxErrAddUIntParm(ctx, pvalue->sibOccurValueTag);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "SIBOccurValueTag", "sibOccurValueTag", -1, "SIBOccurrenceIdentityAndValueTag");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->sibOccurValueTag, 0, 15);
-   RT_CHECK(ctx, stat, "SIBOccurValueTag", "sibOccurValueTag", -1, "SIBOccurrenceIdentityAndValueTag");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_SIBOccurrenceIdentityAndValueTag, pvalue);
 }
 
-int asn1PE_UMTS_SIBSb_TypeAndTag(rtxContext* RT_RESTRICT ctx, const SIBSb_TypeAndTag* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_SIBSb_TypeAndTag(rtxContext* RT_RESTRICT ctx, const SIBSb_TypeAndTag* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SIBSb-TypeAndTag");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 31);
-   RT_CHECK(ctx, stat, 0, "t", -1, "SIBSb-TypeAndTag");
-   if (pvalue->t - 1 > 31) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "SIBSb-TypeAndTag");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SIBSb-TypeAndTag");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "SIBSb-TypeAndTag");
+   if (pvalue->t - 1 > 31) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "SIBSb-TypeAndTag");
    switch (pvalue->t) {
       case 1:
          if ((uint64_t)(pvalue->u.sysInfoType1 - 1) > 255u) {
             rtxErrAddStrParm(ctx, "PLMN-ValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType1);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "PLMN-ValueTag", "sysInfoType1", -1, "SIBSb-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PLMN-ValueTag", "sysInfoType1", -1, "SIBSb-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType1, 1, 256);
-         RT_CHECK(ctx, stat, "PLMN-ValueTag", "sysInfoType1", -1, "SIBSb-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sysInfoType1, 1, 256);
+         RT_CHECK_PUT(ctx, cur, stat, "PLMN-ValueTag", "sysInfoType1", -1, "SIBSb-TypeAndTag");
          break;
       case 2:
          if ((uint64_t)(pvalue->u.sysInfoType2 - 1) > 3u) {
             rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType2);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType2", -1, "SIBSb-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType2", -1, "SIBSb-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType2, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType2", -1, "SIBSb-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sysInfoType2, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "sysInfoType2", -1, "SIBSb-TypeAndTag");
          break;
       case 3:
          if ((uint64_t)(pvalue->u.sysInfoType3 - 1) > 3u) {
             rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType3);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType3", -1, "SIBSb-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType3", -1, "SIBSb-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType3, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType3", -1, "SIBSb-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sysInfoType3, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "sysInfoType3", -1, "SIBSb-TypeAndTag");
          break;
       case 4:
          if ((uint64_t)(pvalue->u.sysInfoType4 - 1) > 3u) {
             rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType4);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType4", -1, "SIBSb-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType4", -1, "SIBSb-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType4, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType4", -1, "SIBSb-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sysInfoType4, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "sysInfoType4", -1, "SIBSb-TypeAndTag");
          break;
       case 5:
          if ((uint64_t)(pvalue->u.sysInfoType5 - 1) > 3u) {
             rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType5);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType5", -1, "SIBSb-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType5", -1, "SIBSb-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType5, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType5", -1, "SIBSb-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sysInfoType5, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "sysInfoType5", -1, "SIBSb-TypeAndTag");
          break;
       case 6:
          if ((uint64_t)(pvalue->u.sysInfoType6 - 1) > 3u) {
             rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType6);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType6", -1, "SIBSb-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType6", -1, "SIBSb-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType6, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType6", -1, "SIBSb-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sysInfoType6, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "sysInfoType6", -1, "SIBSb-TypeAndTag");
          break;
       case 7:
          break;
@@ -813,10 +1382,10 @@ int asn1PE_UMTS_SIBSb_TypeAndTag(rtxContext* RT_RESTRICT ctx, const SIBSb_TypeAn
          if ((uint64_t)(pvalue->u.dummy - 1) > 3u) {
             rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.dummy);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "dummy", -1, "SIBSb-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "dummy", -1, "SIBSb-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.dummy, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "dummy", -1, "SIBSb-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.dummy, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "dummy", -1, "SIBSb-TypeAndTag");
          break;
       case 9:
          break;
@@ -826,64 +1395,64 @@ int asn1PE_UMTS_SIBSb_TypeAndTag(rtxContext* RT_RESTRICT ctx, const SIBSb_TypeAn
          if ((uint64_t)(pvalue->u.sysInfoType11 - 1) > 3u) {
             rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType11);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType11", -1, "SIBSb-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType11", -1, "SIBSb-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType11, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType11", -1, "SIBSb-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sysInfoType11, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "sysInfoType11", -1, "SIBSb-TypeAndTag");
          break;
       case 12:
          if ((uint64_t)(pvalue->u.sysInfoType12 - 1) > 3u) {
             rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType12);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType12", -1, "SIBSb-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType12", -1, "SIBSb-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType12, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType12", -1, "SIBSb-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sysInfoType12, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "sysInfoType12", -1, "SIBSb-TypeAndTag");
          break;
       case 13:
          if ((uint64_t)(pvalue->u.sysInfoType13 - 1) > 3u) {
             rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType13);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType13", -1, "SIBSb-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType13", -1, "SIBSb-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType13, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType13", -1, "SIBSb-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sysInfoType13, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "sysInfoType13", -1, "SIBSb-TypeAndTag");
          break;
       case 14:
          if ((uint64_t)(pvalue->u.sysInfoType13_1 - 1) > 3u) {
             rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType13_1);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType13-1", -1, "SIBSb-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType13-1", -1, "SIBSb-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType13_1, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType13-1", -1, "SIBSb-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sysInfoType13_1, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "sysInfoType13-1", -1, "SIBSb-TypeAndTag");
          break;
       case 15:
          if ((uint64_t)(pvalue->u.sysInfoType13_2 - 1) > 3u) {
             rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType13_2);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType13-2", -1, "SIBSb-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType13-2", -1, "SIBSb-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType13_2, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType13-2", -1, "SIBSb-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sysInfoType13_2, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "sysInfoType13-2", -1, "SIBSb-TypeAndTag");
          break;
       case 16:
          if ((uint64_t)(pvalue->u.sysInfoType13_3 - 1) > 3u) {
             rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType13_3);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType13-3", -1, "SIBSb-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType13-3", -1, "SIBSb-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType13_3, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType13-3", -1, "SIBSb-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sysInfoType13_3, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "sysInfoType13-3", -1, "SIBSb-TypeAndTag");
          break;
       case 17:
          if ((uint64_t)(pvalue->u.sysInfoType13_4 - 1) > 3u) {
             rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType13_4);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType13-4", -1, "SIBSb-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType13-4", -1, "SIBSb-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType13_4, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType13-4", -1, "SIBSb-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sysInfoType13_4, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "sysInfoType13-4", -1, "SIBSb-TypeAndTag");
          break;
       case 18:
          break;
@@ -891,14 +1460,14 @@ int asn1PE_UMTS_SIBSb_TypeAndTag(rtxContext* RT_RESTRICT ctx, const SIBSb_TypeAn
          if ((uint64_t)(pvalue->u.sysInfoType15 - 1) > 3u) {
             rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType15);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType15", -1, "SIBSb-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType15", -1, "SIBSb-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType15, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType15", -1, "SIBSb-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sysInfoType15, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "sysInfoType15", -1, "SIBSb-TypeAndTag");
          break;
       case 20:
-         if (pvalue->u.sysInfoType16 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sysInfoType16", -1, "SIBSb-TypeAndTag");
-         stat = asn1PE_UMTS_PredefinedConfigIdentityAndValueTag(ctx, pvalue->u.sysInfoType16);
+         if (pvalue->u.sysInfoType16 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "sysInfoType16", -1, "SIBSb-TypeAndTag");
+         stat = enc_PredefinedConfigIdentityAndValueTag(ctx, pvalue->u.sysInfoType16, cur);
          RT_CHECK(ctx, stat, 0, "sysInfoType16", -1, "SIBSb-TypeAndTag");
          break;
       case 21:
@@ -907,74 +1476,74 @@ int asn1PE_UMTS_SIBSb_TypeAndTag(rtxContext* RT_RESTRICT ctx, const SIBSb_TypeAn
          if ((uint64_t)(pvalue->u.sysInfoTypeSB1 - 1) > 3u) {
             rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoTypeSB1);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoTypeSB1", -1, "SIBSb-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "sysInfoTypeSB1", -1, "SIBSb-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoTypeSB1, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoTypeSB1", -1, "SIBSb-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sysInfoTypeSB1, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "sysInfoTypeSB1", -1, "SIBSb-TypeAndTag");
          break;
       case 23:
          if ((uint64_t)(pvalue->u.sysInfoTypeSB2 - 1) > 3u) {
             rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoTypeSB2);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoTypeSB2", -1, "SIBSb-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "sysInfoTypeSB2", -1, "SIBSb-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoTypeSB2, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoTypeSB2", -1, "SIBSb-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sysInfoTypeSB2, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "sysInfoTypeSB2", -1, "SIBSb-TypeAndTag");
          break;
       case 24:
          if ((uint64_t)(pvalue->u.sysInfoType15_1 - 1) > 3u) {
             rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType15_1);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType15-1", -1, "SIBSb-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType15-1", -1, "SIBSb-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType15_1, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType15-1", -1, "SIBSb-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sysInfoType15_1, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "sysInfoType15-1", -1, "SIBSb-TypeAndTag");
          break;
       case 25:
-         if (pvalue->u.sysInfoType15_2 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sysInfoType15-2", -1, "SIBSb-TypeAndTag");
-         stat = asn1PE_UMTS_SIBOccurrenceIdentityAndValueTag(ctx, pvalue->u.sysInfoType15_2);
+         if (pvalue->u.sysInfoType15_2 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "sysInfoType15-2", -1, "SIBSb-TypeAndTag");
+         stat = enc_SIBOccurrenceIdentityAndValueTag(ctx, pvalue->u.sysInfoType15_2, cur);
          RT_CHECK(ctx, stat, 0, "sysInfoType15-2", -1, "SIBSb-TypeAndTag");
          break;
       case 26:
-         if (pvalue->u.sysInfoType15_3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sysInfoType15-3", -1, "SIBSb-TypeAndTag");
-         stat = asn1PE_UMTS_SIBOccurrenceIdentityAndValueTag(ctx, pvalue->u.sysInfoType15_3);
+         if (pvalue->u.sysInfoType15_3 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "sysInfoType15-3", -1, "SIBSb-TypeAndTag");
+         stat = enc_SIBOccurrenceIdentityAndValueTag(ctx, pvalue->u.sysInfoType15_3, cur);
          RT_CHECK(ctx, stat, 0, "sysInfoType15-3", -1, "SIBSb-TypeAndTag");
          break;
       case 27:
          if ((uint64_t)(pvalue->u.sysInfoType15_4 - 1) > 3u) {
             rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType15_4);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType15-4", -1, "SIBSb-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType15-4", -1, "SIBSb-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType15_4, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType15-4", -1, "SIBSb-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sysInfoType15_4, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "sysInfoType15-4", -1, "SIBSb-TypeAndTag");
          break;
       case 28:
          if ((uint64_t)(pvalue->u.sysInfoType18 - 1) > 3u) {
             rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType18);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType18", -1, "SIBSb-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType18", -1, "SIBSb-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType18, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType18", -1, "SIBSb-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sysInfoType18, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "sysInfoType18", -1, "SIBSb-TypeAndTag");
          break;
       case 29:
          if ((uint64_t)(pvalue->u.sysInfoType15_5 - 1) > 3u) {
             rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType15_5);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType15-5", -1, "SIBSb-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType15-5", -1, "SIBSb-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType15_5, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType15-5", -1, "SIBSb-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sysInfoType15_5, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "sysInfoType15-5", -1, "SIBSb-TypeAndTag");
          break;
       case 30:
          if ((uint64_t)(pvalue->u.sysInfoType5bis - 1) > 3u) {
             rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType5bis);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType5bis", -1, "SIBSb-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType5bis", -1, "SIBSb-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType5bis, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType5bis", -1, "SIBSb-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sysInfoType5bis, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "sysInfoType5bis", -1, "SIBSb-TypeAndTag");
          break;
       case 31:
          break;
@@ -986,107 +1555,112 @@ int asn1PE_UMTS_SIBSb_TypeAndTag(rtxContext* RT_RESTRICT ctx, const SIBSb_TypeAn
    return 0;
 }
 
-int asn1PE_UMTS_SchedulingInformation_scheduling_sib_Pos(rtxContext* RT_RESTRICT ctx, const SchedulingInformation_scheduling_sib_Pos* RT_RESTRICT pvalue)
+int asn1PE_UMTS_SIBSb_TypeAndTag(rtxContext* RT_RESTRICT ctx, const SIBSb_TypeAndTag* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SIBSb_TypeAndTag, pvalue);
+}
+
+RT_MERGED_BODY int enc_SchedulingInformation_scheduling_sib_Pos(rtxContext* RT_RESTRICT ctx, const SchedulingInformation_scheduling_sib_Pos* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 10);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 10) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 10);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 10) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
          if ((uint64_t)pvalue->u.rep4 > 1u) {
             rtxErrAddStrParm(ctx, "rep4");
             rtxErrAddUIntParm(ctx, pvalue->u.rep4);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rep4", -1, 0);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "rep4", -1, 0);
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.rep4, 0, 1);
-         RT_CHECK(ctx, stat, 0, "rep4", -1, 0);
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.rep4, 0, 1);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "rep4", -1, 0);
          break;
       case 2:
          if ((uint64_t)pvalue->u.rep8 > 3u) {
             rtxErrAddStrParm(ctx, "rep8");
             rtxErrAddUIntParm(ctx, pvalue->u.rep8);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rep8", -1, 0);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "rep8", -1, 0);
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.rep8, 0, 3);
-         RT_CHECK(ctx, stat, 0, "rep8", -1, 0);
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.rep8, 0, 3);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "rep8", -1, 0);
          break;
       case 3:
          if ((uint64_t)pvalue->u.rep16 > 7u) {
             rtxErrAddStrParm(ctx, "rep16");
             rtxErrAddUIntParm(ctx, pvalue->u.rep16);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rep16", -1, 0);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "rep16", -1, 0);
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.rep16, 0, 7);
-         RT_CHECK(ctx, stat, 0, "rep16", -1, 0);
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.rep16, 0, 7);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "rep16", -1, 0);
          break;
       case 4:
          if ((uint64_t)pvalue->u.rep32 > 15u) {
             rtxErrAddStrParm(ctx, "rep32");
             rtxErrAddUIntParm(ctx, pvalue->u.rep32);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rep32", -1, 0);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "rep32", -1, 0);
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.rep32, 0, 15);
-         RT_CHECK(ctx, stat, 0, "rep32", -1, 0);
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.rep32, 0, 15);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "rep32", -1, 0);
          break;
       case 5:
          if ((uint64_t)pvalue->u.rep64 > 31u) {
             rtxErrAddStrParm(ctx, "rep64");
             rtxErrAddUIntParm(ctx, pvalue->u.rep64);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rep64", -1, 0);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "rep64", -1, 0);
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.rep64, 0, 31);
-         RT_CHECK(ctx, stat, 0, "rep64", -1, 0);
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.rep64, 0, 31);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "rep64", -1, 0);
          break;
       case 6:
          if ((uint64_t)pvalue->u.rep128 > 63u) {
             rtxErrAddStrParm(ctx, "rep128");
             rtxErrAddUIntParm(ctx, pvalue->u.rep128);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rep128", -1, 0);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "rep128", -1, 0);
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.rep128, 0, 63);
-         RT_CHECK(ctx, stat, 0, "rep128", -1, 0);
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.rep128, 0, 63);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "rep128", -1, 0);
          break;
       case 7:
          if ((uint64_t)pvalue->u.rep256 > 127u) {
             rtxErrAddStrParm(ctx, "rep256");
             rtxErrAddUIntParm(ctx, pvalue->u.rep256);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rep256", -1, 0);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "rep256", -1, 0);
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.rep256, 0, 127);
-         RT_CHECK(ctx, stat, 0, "rep256", -1, 0);
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.rep256, 0, 127);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "rep256", -1, 0);
          break;
       case 8:
-         stat = pe_ConsUInt64(ctx, pvalue->u.rep512, 0, 255);
-         RT_CHECK(ctx, stat, 0, "rep512", -1, 0);
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.rep512, 0, 255);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "rep512", -1, 0);
          break;
       case 9:
          if ((uint64_t)pvalue->u.rep1024 > 511u) {
             rtxErrAddStrParm(ctx, "rep1024");
             rtxErrAddUIntParm(ctx, pvalue->u.rep1024);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rep1024", -1, 0);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "rep1024", -1, 0);
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.rep1024, 0, 511);
-         RT_CHECK(ctx, stat, 0, "rep1024", -1, 0);
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.rep1024, 0, 511);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "rep1024", -1, 0);
          break;
       case 10:
          if ((uint64_t)pvalue->u.rep2048 > 1023u) {
             rtxErrAddStrParm(ctx, "rep2048");
             rtxErrAddUIntParm(ctx, pvalue->u.rep2048);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rep2048", -1, 0);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "rep2048", -1, 0);
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.rep2048, 0, 1023);
-         RT_CHECK(ctx, stat, 0, "rep2048", -1, 0);
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.rep2048, 0, 1023);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "rep2048", -1, 0);
          break;
       case 11:
          if ((uint64_t)pvalue->u.rep4096 > 2047u) {
             rtxErrAddStrParm(ctx, "rep4096");
             rtxErrAddUIntParm(ctx, pvalue->u.rep4096);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rep4096", -1, 0);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "rep4096", -1, 0);
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.rep4096, 0, 2047);
-         RT_CHECK(ctx, stat, 0, "rep4096", -1, 0);
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.rep4096, 0, 2047);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "rep4096", -1, 0);
          break;
       default:
          break;
@@ -1094,176 +1668,231 @@ int asn1PE_UMTS_SchedulingInformation_scheduling_sib_Pos(rtxContext* RT_RESTRICT
    return 0;
 }
 
-int asn1PE_UMTS_SibOFF(rtxContext* RT_RESTRICT ctx, SibOFF value)
+int asn1PE_UMTS_SchedulingInformation_scheduling_sib_Pos(rtxContext* RT_RESTRICT ctx, const SchedulingInformation_scheduling_sib_Pos* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SchedulingInformation_scheduling_sib_Pos, pvalue);
+}
+
+RT_MERGED_BODY int enc_SibOFF(rtxContext* RT_RESTRICT ctx, SibOFF value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value > 15) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SibOFF");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "SibOFF");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SibOFF");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SibOFF");
+   return 0;
+}
+
+int asn1PE_UMTS_SibOFF(rtxContext* RT_RESTRICT ctx, SibOFF value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SibOFF, value);
+}
+
+RT_MERGED_BODY int enc_SibOFF_List(rtxContext* RT_RESTRICT ctx, const SibOFF_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SibOFF-List");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 15);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "SibOFF-List");
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "SibOFF", "SibOFF", (int32_t)i, "SibOFF-List");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "SibOFF", "SibOFF", (int32_t)i, "SibOFF-List");
+   }
    return 0;
 }
 
 int asn1PE_UMTS_SibOFF_List(rtxContext* RT_RESTRICT ctx, const SibOFF_List* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SibOFF_List, pvalue);
+}
+
+RT_MERGED_BODY int enc_SchedulingInformation_scheduling(rtxContext* RT_RESTRICT ctx, const SchedulingInformation_scheduling* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SibOFF-List");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 15);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SibOFF-List");
-   for (i = 0; i < pvalue->n; i++) {
-      if (pvalue->elem[i] > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "SibOFF", "SibOFF", (int32_t)i, "SibOFF-List");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->segCount != 1) << 1) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* segCount */
+   if (pvalue->segCount != 1) {
+      if ((uint64_t)(pvalue->segCount - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "SegCount");
+         rtxErrAddUIntParm(ctx, pvalue->segCount);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SegCount", "segCount", -1, 0);
       }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 15);
-      RT_CHECK(ctx, stat, "SibOFF", "SibOFF", (int32_t)i, "SibOFF-List");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->segCount, 1, 16);
+      RT_CHECK_PUT(ctx, cur, stat, "SegCount", "segCount", -1, 0);
+   }
+   /* sib-Pos */
+   stat = enc_SchedulingInformation_scheduling_sib_Pos(ctx, &pvalue->sib_Pos, cur);
+   RT_CHECK(ctx, stat, 0, "sib-Pos", -1, 0);
+   /* sib-PosOffsetInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SibOFF_List(ctx, &pvalue->sib_PosOffsetInfo, cur);
+      RT_CHECK(ctx, stat, 0, "sib-PosOffsetInfo", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_SchedulingInformation_scheduling(rtxContext* RT_RESTRICT ctx, const SchedulingInformation_scheduling* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SchedulingInformation_scheduling, pvalue);
+}
+
+static int enc_SchedulingInformation(rtxContext* RT_RESTRICT ctx, const SchedulingInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->segCount != 1) << 1) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* segCount */
-   if (pvalue->segCount != 1) {
-      if ((uint64_t)(pvalue->segCount - 1) > 15u) {
-         rtxErrAddStrParm(ctx, "SegCount");
-         rtxErrAddUIntParm(ctx, pvalue->segCount);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "SegCount", "segCount", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->segCount, 1, 16);
-      RT_CHECK(ctx, stat, "SegCount", "segCount", -1, 0);
-   }
-   /* sib-Pos */
-   stat = asn1PE_UMTS_SchedulingInformation_scheduling_sib_Pos(ctx, &pvalue->sib_Pos);
-   RT_CHECK(ctx, stat, 0, "sib-Pos", -1, 0);
-   /* sib-PosOffsetInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SibOFF_List(ctx, &pvalue->sib_PosOffsetInfo);
-      RT_CHECK(ctx, stat, 0, "sib-PosOffsetInfo", -1, 0);
-   }
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SchedulingInformation");
+   /* scheduling */
+   stat = enc_SchedulingInformation_scheduling(ctx, &pvalue->scheduling, cur);
+   RT_CHECK(ctx, stat, 0, "scheduling", -1, "SchedulingInformation");
    return 0;
 }
 
 int asn1PE_UMTS_SchedulingInformation(rtxContext* RT_RESTRICT ctx, const SchedulingInformation* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SchedulingInformation, pvalue);
+}
+
+RT_MERGED_BODY int enc_SchedulingInformationSIBSb(rtxContext* RT_RESTRICT ctx, const SchedulingInformationSIBSb* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SchedulingInformation");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SchedulingInformationSIBSb");
+   /* sibSb-Type */
+   stat = enc_SIBSb_TypeAndTag(ctx, &pvalue->sibSb_Type, cur);
+   RT_CHECK(ctx, stat, 0, "sibSb-Type", -1, "SchedulingInformationSIBSb");
    /* scheduling */
-   stat = asn1PE_UMTS_SchedulingInformation_scheduling(ctx, &pvalue->scheduling);
-   RT_CHECK(ctx, stat, 0, "scheduling", -1, "SchedulingInformation");
+   stat = enc_SchedulingInformation(ctx, &pvalue->scheduling, cur);
+   RT_CHECK(ctx, stat, 0, "scheduling", -1, "SchedulingInformationSIBSb");
    return 0;
 }
 
 int asn1PE_UMTS_SchedulingInformationSIBSb(rtxContext* RT_RESTRICT ctx, const SchedulingInformationSIBSb* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SchedulingInformationSIBSb");
-   /* sibSb-Type */
-   stat = asn1PE_UMTS_SIBSb_TypeAndTag(ctx, &pvalue->sibSb_Type);
-   RT_CHECK(ctx, stat, 0, "sibSb-Type", -1, "SchedulingInformationSIBSb");
-   /* scheduling */
-   stat = asn1PE_UMTS_SchedulingInformation(ctx, &pvalue->scheduling);
-   RT_CHECK(ctx, stat, 0, "scheduling", -1, "SchedulingInformationSIBSb");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_SchedulingInformationSIBSb, pvalue);
 }
 
-int asn1PE_UMTS_SIBSb_ReferenceList(rtxContext* RT_RESTRICT ctx, const SIBSb_ReferenceList* RT_RESTRICT pvalue)
+static int enc_SIBSb_ReferenceList(rtxContext* RT_RESTRICT ctx, const SIBSb_ReferenceList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SIBSb-ReferenceList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SIBSb-ReferenceList");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SIBSb-ReferenceList");
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "SIBSb-ReferenceList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "SchedulingInformationSIBSb", (int32_t)i, "SIBSb-ReferenceList");
-      stat = asn1PE_UMTS_SchedulingInformationSIBSb(ctx, (const SchedulingInformationSIBSb*)node->data);
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "SchedulingInformationSIBSb", (int32_t)i, "SIBSb-ReferenceList");
+      stat = enc_SchedulingInformationSIBSb(ctx, (const SchedulingInformationSIBSb*)node->data, cur);
       RT_CHECK(ctx, stat, 0, "SchedulingInformationSIBSb", (int32_t)i, "SIBSb-ReferenceList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_PLMN_IdentityWithOptionalMCC_r6(rtxContext* RT_RESTRICT ctx, const PLMN_IdentityWithOptionalMCC_r6* RT_RESTRICT pvalue)
+int asn1PE_UMTS_SIBSb_ReferenceList(rtxContext* RT_RESTRICT ctx, const SIBSb_ReferenceList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SIBSb_ReferenceList, pvalue);
+}
+
+RT_MERGED_BODY int enc_PLMN_IdentityWithOptionalMCC_r6(rtxContext* RT_RESTRICT ctx, const PLMN_IdentityWithOptionalMCC_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PLMN-IdentityWithOptionalMCC-r6");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PLMN-IdentityWithOptionalMCC-r6");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PLMN-IdentityWithOptionalMCC-r6");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PLMN-IdentityWithOptionalMCC-r6");
    /* mcc */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MCC(ctx, &pvalue->mcc);
+      stat = enc_MCC(ctx, &pvalue->mcc, cur);
       RT_CHECK(ctx, stat, 0, "mcc", -1, "PLMN-IdentityWithOptionalMCC-r6");
    }
    /* mnc */
-   stat = asn1PE_UMTS_MNC(ctx, &pvalue->mnc);
+   stat = enc_MNC(ctx, &pvalue->mnc, cur);
    RT_CHECK(ctx, stat, 0, "mnc", -1, "PLMN-IdentityWithOptionalMCC-r6");
    return 0;
 }
 
-int asn1PE_UMTS_MultiplePLMN_List_r6_multiplePLMNs(rtxContext* RT_RESTRICT ctx, const MultiplePLMN_List_r6_multiplePLMNs* RT_RESTRICT pvalue)
+int asn1PE_UMTS_PLMN_IdentityWithOptionalMCC_r6(rtxContext* RT_RESTRICT ctx, const PLMN_IdentityWithOptionalMCC_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PLMN_IdentityWithOptionalMCC_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_MultiplePLMN_List_r6_multiplePLMNs(rtxContext* RT_RESTRICT ctx, const MultiplePLMN_List_r6_multiplePLMNs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 5);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PLMN-IdentityWithOptionalMCC-r6", (int32_t)i, 0);
-      stat = asn1PE_UMTS_PLMN_IdentityWithOptionalMCC_r6(ctx, (const PLMN_IdentityWithOptionalMCC_r6*)node->data);
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "PLMN-IdentityWithOptionalMCC-r6", (int32_t)i, 0);
+      stat = enc_PLMN_IdentityWithOptionalMCC_r6(ctx, (const PLMN_IdentityWithOptionalMCC_r6*)node->data, cur);
       RT_CHECK(ctx, stat, 0, "PLMN-IdentityWithOptionalMCC-r6", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_MultiplePLMN_List_r6(rtxContext* RT_RESTRICT ctx, const MultiplePLMN_List_r6* RT_RESTRICT pvalue)
+int asn1PE_UMTS_MultiplePLMN_List_r6_multiplePLMNs(rtxContext* RT_RESTRICT ctx, const MultiplePLMN_List_r6_multiplePLMNs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MultiplePLMN_List_r6_multiplePLMNs, pvalue);
+}
+
+RT_MERGED_BODY int enc_MultiplePLMN_List_r6(rtxContext* RT_RESTRICT ctx, const MultiplePLMN_List_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MultiplePLMN-List-r6");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MultiplePLMN-List-r6");
    /* mibPLMN-Identity */
-   stat = rtxEncBit(ctx, pvalue->mibPLMN_Identity);
-   RT_CHECK(ctx, stat, 0, "mibPLMN-Identity", -1, "MultiplePLMN-List-r6");
+   stat = rtxEncBitAt(ctx, cur, pvalue->mibPLMN_Identity);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "mibPLMN-Identity", -1, "MultiplePLMN-List-r6");
    /* multiplePLMNs */
-   stat = asn1PE_UMTS_MultiplePLMN_List_r6_multiplePLMNs(ctx, &pvalue->multiplePLMNs);
+   stat = enc_MultiplePLMN_List_r6_multiplePLMNs(ctx, &pvalue->multiplePLMNs, cur);
    RT_CHECK(ctx, stat, 0, "multiplePLMNs", -1, "MultiplePLMN-List-r6");
    return 0;
 }
 
-int asn1PE_UMTS_MasterInformationBlock_v690ext(rtxContext* RT_RESTRICT ctx, const MasterInformationBlock_v690ext* RT_RESTRICT pvalue)
+int asn1PE_UMTS_MultiplePLMN_List_r6(rtxContext* RT_RESTRICT ctx, const MultiplePLMN_List_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MultiplePLMN_List_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_MasterInformationBlock_v690ext(rtxContext* RT_RESTRICT ctx, const MasterInformationBlock_v690ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MasterInformationBlock-v690ext");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MasterInformationBlock-v690ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MasterInformationBlock-v690ext");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MasterInformationBlock-v690ext");
    /* multiplePLMN-List */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MultiplePLMN_List_r6(ctx, &pvalue->multiplePLMN_List);
+      stat = enc_MultiplePLMN_List_r6(ctx, &pvalue->multiplePLMN_List, cur);
       RT_CHECK(ctx, stat, 0, "multiplePLMN-List", -1, "MasterInformationBlock-v690ext");
    }
    return 0;
 }
 
-int asn1PE_UMTS_SIB_TypeExt(rtxContext* RT_RESTRICT ctx, const SIB_TypeExt* RT_RESTRICT pvalue)
+int asn1PE_UMTS_MasterInformationBlock_v690ext(rtxContext* RT_RESTRICT ctx, const MasterInformationBlock_v690ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MasterInformationBlock_v690ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_SIB_TypeExt(rtxContext* RT_RESTRICT ctx, const SIB_TypeExt* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SIB-TypeExt");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
-   RT_CHECK(ctx, stat, 0, "t", -1, "SIB-TypeExt");
-   if (pvalue->t - 1 > 7) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "SIB-TypeExt");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SIB-TypeExt");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "SIB-TypeExt");
+   if (pvalue->t - 1 > 7) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "SIB-TypeExt");
    switch (pvalue->t) {
       case 1:
          break;
@@ -1280,6 +1909,50 @@ int asn1PE_UMTS_SIB_TypeExt(rtxContext* RT_RESTRICT ctx, const SIB_TypeExt* RT_R
       case 7:
          break;
       case 8:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SIB_TypeExt(rtxContext* RT_RESTRICT ctx, const SIB_TypeExt* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SIB_TypeExt, pvalue);
+}
+
+RT_MERGED_BODY int enc_ValueTagInfo(rtxContext* RT_RESTRICT ctx, const ValueTagInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ValueTagInfo");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "ValueTagInfo");
+   if (pvalue->t - 1 > 3) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "ValueTagInfo");
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if ((uint64_t)(pvalue->u.cellValueTag - 1) > 3u) {
+            rtxErrAddStrParm(ctx, "CellValueTag");
+            rtxErrAddUIntParm(ctx, pvalue->u.cellValueTag);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "cellValueTag", -1, "ValueTagInfo");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.cellValueTag, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "cellValueTag", -1, "ValueTagInfo");
+         break;
+      case 3:
+         if ((uint64_t)(pvalue->u.plmn_ValueTag - 1) > 255u) {
+            rtxErrAddStrParm(ctx, "PLMN-ValueTag");
+            rtxErrAddUIntParm(ctx, pvalue->u.plmn_ValueTag);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PLMN-ValueTag", "plmn-ValueTag", -1, "ValueTagInfo");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.plmn_ValueTag, 1, 256);
+         RT_CHECK_PUT(ctx, cur, stat, "PLMN-ValueTag", "plmn-ValueTag", -1, "ValueTagInfo");
+         break;
+      case 4:
+         if (pvalue->u.sIBOccurrenceIdentityAndValueTag == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "sIBOccurrenceIdentityAndValueTag", -1, "ValueTagInfo");
+         stat = enc_SIBOccurrenceIdentityAndValueTag(ctx, pvalue->u.sIBOccurrenceIdentityAndValueTag, cur);
+         RT_CHECK(ctx, stat, 0, "sIBOccurrenceIdentityAndValueTag", -1, "ValueTagInfo");
          break;
       default:
          break;
@@ -1289,98 +1962,79 @@ int asn1PE_UMTS_SIB_TypeExt(rtxContext* RT_RESTRICT ctx, const SIB_TypeExt* RT_R
 
 int asn1PE_UMTS_ValueTagInfo(rtxContext* RT_RESTRICT ctx, const ValueTagInfo* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_ValueTagInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_ExtSIBTypeInfoSchedulingInfo(rtxContext* RT_RESTRICT ctx, const ExtSIBTypeInfoSchedulingInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ValueTagInfo");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat, 0, "t", -1, "ValueTagInfo");
-   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ValueTagInfo");
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if ((uint64_t)(pvalue->u.cellValueTag - 1) > 3u) {
-            rtxErrAddStrParm(ctx, "CellValueTag");
-            rtxErrAddUIntParm(ctx, pvalue->u.cellValueTag);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "cellValueTag", -1, "ValueTagInfo");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.cellValueTag, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "cellValueTag", -1, "ValueTagInfo");
-         break;
-      case 3:
-         if ((uint64_t)(pvalue->u.plmn_ValueTag - 1) > 255u) {
-            rtxErrAddStrParm(ctx, "PLMN-ValueTag");
-            rtxErrAddUIntParm(ctx, pvalue->u.plmn_ValueTag);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "PLMN-ValueTag", "plmn-ValueTag", -1, "ValueTagInfo");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.plmn_ValueTag, 1, 256);
-         RT_CHECK(ctx, stat, "PLMN-ValueTag", "plmn-ValueTag", -1, "ValueTagInfo");
-         break;
-      case 4:
-         if (pvalue->u.sIBOccurrenceIdentityAndValueTag == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sIBOccurrenceIdentityAndValueTag", -1, "ValueTagInfo");
-         stat = asn1PE_UMTS_SIBOccurrenceIdentityAndValueTag(ctx, pvalue->u.sIBOccurrenceIdentityAndValueTag);
-         RT_CHECK(ctx, stat, 0, "sIBOccurrenceIdentityAndValueTag", -1, "ValueTagInfo");
-         break;
-      default:
-         break;
-   }
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ExtSIBTypeInfoSchedulingInfo");
+   /* extensionSIB-Type */
+   stat = enc_SIB_TypeExt(ctx, &pvalue->extensionSIB_Type, cur);
+   RT_CHECK(ctx, stat, 0, "extensionSIB-Type", -1, "ExtSIBTypeInfoSchedulingInfo");
+   /* schedulingInfo */
+   stat = enc_SchedulingInformation(ctx, &pvalue->schedulingInfo, cur);
+   RT_CHECK(ctx, stat, 0, "schedulingInfo", -1, "ExtSIBTypeInfoSchedulingInfo");
+   /* valueTagInfo */
+   stat = enc_ValueTagInfo(ctx, &pvalue->valueTagInfo, cur);
+   RT_CHECK(ctx, stat, 0, "valueTagInfo", -1, "ExtSIBTypeInfoSchedulingInfo");
    return 0;
 }
 
 int asn1PE_UMTS_ExtSIBTypeInfoSchedulingInfo(rtxContext* RT_RESTRICT ctx, const ExtSIBTypeInfoSchedulingInfo* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_ExtSIBTypeInfoSchedulingInfo, pvalue);
+}
+
+static int enc_ExtSIBTypeInfoSchedulingInfo_List(rtxContext* RT_RESTRICT ctx, const ExtSIBTypeInfoSchedulingInfo_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ExtSIBTypeInfoSchedulingInfo");
-   /* extensionSIB-Type */
-   stat = asn1PE_UMTS_SIB_TypeExt(ctx, &pvalue->extensionSIB_Type);
-   RT_CHECK(ctx, stat, 0, "extensionSIB-Type", -1, "ExtSIBTypeInfoSchedulingInfo");
-   /* schedulingInfo */
-   stat = asn1PE_UMTS_SchedulingInformation(ctx, &pvalue->schedulingInfo);
-   RT_CHECK(ctx, stat, 0, "schedulingInfo", -1, "ExtSIBTypeInfoSchedulingInfo");
-   /* valueTagInfo */
-   stat = asn1PE_UMTS_ValueTagInfo(ctx, &pvalue->valueTagInfo);
-   RT_CHECK(ctx, stat, 0, "valueTagInfo", -1, "ExtSIBTypeInfoSchedulingInfo");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ExtSIBTypeInfoSchedulingInfo-List");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "ExtSIBTypeInfoSchedulingInfo-List");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ExtSIBTypeInfoSchedulingInfo", (int32_t)i, "ExtSIBTypeInfoSchedulingInfo-List");
+      stat = enc_ExtSIBTypeInfoSchedulingInfo(ctx, (const ExtSIBTypeInfoSchedulingInfo*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "ExtSIBTypeInfoSchedulingInfo", (int32_t)i, "ExtSIBTypeInfoSchedulingInfo-List");
+   }
    return 0;
 }
 
 int asn1PE_UMTS_ExtSIBTypeInfoSchedulingInfo_List(rtxContext* RT_RESTRICT ctx, const ExtSIBTypeInfoSchedulingInfo_List* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_ExtSIBTypeInfoSchedulingInfo_List, pvalue);
+}
+
+RT_MERGED_BODY int enc_MasterInformationBlock_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, const MasterInformationBlock_v6b0ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ExtSIBTypeInfoSchedulingInfo-List");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "ExtSIBTypeInfoSchedulingInfo-List");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ExtSIBTypeInfoSchedulingInfo", (int32_t)i, "ExtSIBTypeInfoSchedulingInfo-List");
-      stat = asn1PE_UMTS_ExtSIBTypeInfoSchedulingInfo(ctx, (const ExtSIBTypeInfoSchedulingInfo*)node->data);
-      RT_CHECK(ctx, stat, 0, "ExtSIBTypeInfoSchedulingInfo", (int32_t)i, "ExtSIBTypeInfoSchedulingInfo-List");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MasterInformationBlock-v6b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MasterInformationBlock-v6b0ext-IEs");
+   /* extSIBTypeInfoSchedulingInfo-List */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ExtSIBTypeInfoSchedulingInfo_List(ctx, &pvalue->extSIBTypeInfoSchedulingInfo_List, cur);
+      RT_CHECK(ctx, stat, 0, "extSIBTypeInfoSchedulingInfo-List", -1, "MasterInformationBlock-v6b0ext-IEs");
    }
    return 0;
 }
 
 int asn1PE_UMTS_MasterInformationBlock_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, const MasterInformationBlock_v6b0ext_IEs* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MasterInformationBlock-v6b0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MasterInformationBlock-v6b0ext-IEs");
-   /* extSIBTypeInfoSchedulingInfo-List */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ExtSIBTypeInfoSchedulingInfo_List(ctx, &pvalue->extSIBTypeInfoSchedulingInfo_List);
-      RT_CHECK(ctx, stat, 0, "extSIBTypeInfoSchedulingInfo-List", -1, "MasterInformationBlock-v6b0ext-IEs");
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_MasterInformationBlock_v6b0ext_IEs, pvalue);
 }
 
-int asn1PE_UMTS_SIB_TypeExt2(rtxContext* RT_RESTRICT ctx, const SIB_TypeExt2* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_SIB_TypeExt2(rtxContext* RT_RESTRICT ctx, const SIB_TypeExt2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SIB-TypeExt2");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
-   RT_CHECK(ctx, stat, 0, "t", -1, "SIB-TypeExt2");
-   if (pvalue->t - 1 > 7) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "SIB-TypeExt2");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SIB-TypeExt2");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "SIB-TypeExt2");
+   if (pvalue->t - 1 > 7) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "SIB-TypeExt2");
    switch (pvalue->t) {
       case 1:
          break;
@@ -1404,58 +2058,78 @@ int asn1PE_UMTS_SIB_TypeExt2(rtxContext* RT_RESTRICT ctx, const SIB_TypeExt2* RT
    return 0;
 }
 
-int asn1PE_UMTS_ExtSIBTypeInfoSchedulingInfo2(rtxContext* RT_RESTRICT ctx, const ExtSIBTypeInfoSchedulingInfo2* RT_RESTRICT pvalue)
+int asn1PE_UMTS_SIB_TypeExt2(rtxContext* RT_RESTRICT ctx, const SIB_TypeExt2* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SIB_TypeExt2, pvalue);
+}
+
+RT_MERGED_BODY int enc_ExtSIBTypeInfoSchedulingInfo2(rtxContext* RT_RESTRICT ctx, const ExtSIBTypeInfoSchedulingInfo2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ExtSIBTypeInfoSchedulingInfo2");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ExtSIBTypeInfoSchedulingInfo2");
    /* extensionSIB-Type2 */
-   stat = asn1PE_UMTS_SIB_TypeExt2(ctx, &pvalue->extensionSIB_Type2);
+   stat = enc_SIB_TypeExt2(ctx, &pvalue->extensionSIB_Type2, cur);
    RT_CHECK(ctx, stat, 0, "extensionSIB-Type2", -1, "ExtSIBTypeInfoSchedulingInfo2");
    /* schedulingInfo */
-   stat = asn1PE_UMTS_SchedulingInformation(ctx, &pvalue->schedulingInfo);
+   stat = enc_SchedulingInformation(ctx, &pvalue->schedulingInfo, cur);
    RT_CHECK(ctx, stat, 0, "schedulingInfo", -1, "ExtSIBTypeInfoSchedulingInfo2");
    /* valueTagInfo */
-   stat = asn1PE_UMTS_ValueTagInfo(ctx, &pvalue->valueTagInfo);
+   stat = enc_ValueTagInfo(ctx, &pvalue->valueTagInfo, cur);
    RT_CHECK(ctx, stat, 0, "valueTagInfo", -1, "ExtSIBTypeInfoSchedulingInfo2");
    return 0;
 }
 
-int asn1PE_UMTS_ExtSIBTypeInfoSchedulingInfo_List2(rtxContext* RT_RESTRICT ctx, const ExtSIBTypeInfoSchedulingInfo_List2* RT_RESTRICT pvalue)
+int asn1PE_UMTS_ExtSIBTypeInfoSchedulingInfo2(rtxContext* RT_RESTRICT ctx, const ExtSIBTypeInfoSchedulingInfo2* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ExtSIBTypeInfoSchedulingInfo2, pvalue);
+}
+
+static int enc_ExtSIBTypeInfoSchedulingInfo_List2(rtxContext* RT_RESTRICT ctx, const ExtSIBTypeInfoSchedulingInfo_List2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ExtSIBTypeInfoSchedulingInfo-List2");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ExtSIBTypeInfoSchedulingInfo-List2");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "ExtSIBTypeInfoSchedulingInfo-List2");
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "ExtSIBTypeInfoSchedulingInfo-List2");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ExtSIBTypeInfoSchedulingInfo2", (int32_t)i, "ExtSIBTypeInfoSchedulingInfo-List2");
-      stat = asn1PE_UMTS_ExtSIBTypeInfoSchedulingInfo2(ctx, (const ExtSIBTypeInfoSchedulingInfo2*)node->data);
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ExtSIBTypeInfoSchedulingInfo2", (int32_t)i, "ExtSIBTypeInfoSchedulingInfo-List2");
+      stat = enc_ExtSIBTypeInfoSchedulingInfo2(ctx, (const ExtSIBTypeInfoSchedulingInfo2*)node->data, cur);
       RT_CHECK(ctx, stat, 0, "ExtSIBTypeInfoSchedulingInfo2", (int32_t)i, "ExtSIBTypeInfoSchedulingInfo-List2");
    }
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_GANSS_SBAS_ID(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_SBAS_ID value)
+int asn1PE_UMTS_ExtSIBTypeInfoSchedulingInfo_List2(rtxContext* RT_RESTRICT ctx, const ExtSIBTypeInfoSchedulingInfo_List2* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ExtSIBTypeInfoSchedulingInfo_List2, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_Positioning_GANSS_SBAS_ID(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_SBAS_ID value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UE-Positioning-GANSS-SBAS-ID");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "UE-Positioning-GANSS-SBAS-ID");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-SBAS-ID");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GANSS-SBAS-ID");
    return 0;
 }
 
-int asn1PE_UMTS_SIB_TypeExtGANSS(rtxContext* RT_RESTRICT ctx, const SIB_TypeExtGANSS* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UE_Positioning_GANSS_SBAS_ID(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_SBAS_ID value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_GANSS_SBAS_ID, value);
+}
+
+RT_MERGED_BODY int enc_SIB_TypeExtGANSS(rtxContext* RT_RESTRICT ctx, const SIB_TypeExtGANSS* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SIB-TypeExtGANSS");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 15);
-   RT_CHECK(ctx, stat, 0, "t", -1, "SIB-TypeExtGANSS");
-   if (pvalue->t - 1 > 15) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "SIB-TypeExtGANSS");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SIB-TypeExtGANSS");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "SIB-TypeExtGANSS");
+   if (pvalue->t - 1 > 15) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "SIB-TypeExtGANSS");
    switch (pvalue->t) {
       case 1:
          break;
@@ -1495,422 +2169,537 @@ int asn1PE_UMTS_SIB_TypeExtGANSS(rtxContext* RT_RESTRICT ctx, const SIB_TypeExtG
    return 0;
 }
 
-int asn1PE_UMTS_ExtGANSS_SchedulingInfo(rtxContext* RT_RESTRICT ctx, const ExtGANSS_SchedulingInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_SIB_TypeExtGANSS(rtxContext* RT_RESTRICT ctx, const SIB_TypeExtGANSS* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SIB_TypeExtGANSS, pvalue);
+}
+
+RT_MERGED_BODY int enc_ExtGANSS_SchedulingInfo(rtxContext* RT_RESTRICT ctx, const ExtGANSS_SchedulingInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ExtGANSS-SchedulingInfo");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ExtGANSS-SchedulingInfo");
    /* extensionGANSS-SIBType */
-   stat = asn1PE_UMTS_SIB_TypeExtGANSS(ctx, &pvalue->extensionGANSS_SIBType);
+   stat = enc_SIB_TypeExtGANSS(ctx, &pvalue->extensionGANSS_SIBType, cur);
    RT_CHECK(ctx, stat, 0, "extensionGANSS-SIBType", -1, "ExtGANSS-SchedulingInfo");
    /* schedulingInfo */
-   stat = asn1PE_UMTS_SchedulingInformation(ctx, &pvalue->schedulingInfo);
+   stat = enc_SchedulingInformation(ctx, &pvalue->schedulingInfo, cur);
    RT_CHECK(ctx, stat, 0, "schedulingInfo", -1, "ExtGANSS-SchedulingInfo");
    /* valueTagInfo */
-   stat = asn1PE_UMTS_ValueTagInfo(ctx, &pvalue->valueTagInfo);
+   stat = enc_ValueTagInfo(ctx, &pvalue->valueTagInfo, cur);
    RT_CHECK(ctx, stat, 0, "valueTagInfo", -1, "ExtGANSS-SchedulingInfo");
    return 0;
 }
 
-int asn1PE_UMTS_ExtGANSS_SIBTypeInfoSchedulingInfo_ganssScheduling(rtxContext* RT_RESTRICT ctx, const ExtGANSS_SIBTypeInfoSchedulingInfo_ganssScheduling* RT_RESTRICT pvalue)
+int asn1PE_UMTS_ExtGANSS_SchedulingInfo(rtxContext* RT_RESTRICT ctx, const ExtGANSS_SchedulingInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ExtGANSS_SchedulingInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_ExtGANSS_SIBTypeInfoSchedulingInfo_ganssScheduling(rtxContext* RT_RESTRICT ctx, const ExtGANSS_SIBTypeInfoSchedulingInfo_ganssScheduling* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ExtGANSS-SchedulingInfo", (int32_t)i, 0);
-      stat = asn1PE_UMTS_ExtGANSS_SchedulingInfo(ctx, (const ExtGANSS_SchedulingInfo*)node->data);
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ExtGANSS-SchedulingInfo", (int32_t)i, 0);
+      stat = enc_ExtGANSS_SchedulingInfo(ctx, (const ExtGANSS_SchedulingInfo*)node->data, cur);
       RT_CHECK(ctx, stat, 0, "ExtGANSS-SchedulingInfo", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_ExtGANSS_SIBTypeInfoSchedulingInfo(rtxContext* RT_RESTRICT ctx, const ExtGANSS_SIBTypeInfoSchedulingInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_ExtGANSS_SIBTypeInfoSchedulingInfo_ganssScheduling(rtxContext* RT_RESTRICT ctx, const ExtGANSS_SIBTypeInfoSchedulingInfo_ganssScheduling* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ExtGANSS_SIBTypeInfoSchedulingInfo_ganssScheduling, pvalue);
+}
+
+RT_MERGED_BODY int enc_ExtGANSS_SIBTypeInfoSchedulingInfo(rtxContext* RT_RESTRICT ctx, const ExtGANSS_SIBTypeInfoSchedulingInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ExtGANSS-SIBTypeInfoSchedulingInfo");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ExtGANSS-SIBTypeInfoSchedulingInfo");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ExtGANSS-SIBTypeInfoSchedulingInfo");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ExtGANSS-SIBTypeInfoSchedulingInfo");
    /* ganssID */
    if (pvalue->m & 0x1u) {
       if ((uint64_t)pvalue->ganssID > 7u) {
          rtxErrAddStrParm(ctx, "ganssID");
          rtxErrAddUIntParm(ctx, pvalue->ganssID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganssID", -1, "ExtGANSS-SIBTypeInfoSchedulingInfo");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ganssID", -1, "ExtGANSS-SIBTypeInfoSchedulingInfo");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssID, 0, 7);
-      RT_CHECK(ctx, stat, 0, "ganssID", -1, "ExtGANSS-SIBTypeInfoSchedulingInfo");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ganssID, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "ganssID", -1, "ExtGANSS-SIBTypeInfoSchedulingInfo");
    }
    /* sbasID */
    if (pvalue->m & 0x2u) {
       if (pvalue->sbasID > 7) {
          rtxErrAddUIntParm(ctx, pvalue->sbasID);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "UE-Positioning-GANSS-SBAS-ID", "sbasID", -1, "ExtGANSS-SIBTypeInfoSchedulingInfo");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UE-Positioning-GANSS-SBAS-ID", "sbasID", -1, "ExtGANSS-SIBTypeInfoSchedulingInfo");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->sbasID, 0, 7);
-      RT_CHECK(ctx, stat, "UE-Positioning-GANSS-SBAS-ID", "sbasID", -1, "ExtGANSS-SIBTypeInfoSchedulingInfo");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->sbasID, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "UE-Positioning-GANSS-SBAS-ID", "sbasID", -1, "ExtGANSS-SIBTypeInfoSchedulingInfo");
    }
    /* ganssScheduling */
-   stat = asn1PE_UMTS_ExtGANSS_SIBTypeInfoSchedulingInfo_ganssScheduling(ctx, &pvalue->ganssScheduling);
+   stat = enc_ExtGANSS_SIBTypeInfoSchedulingInfo_ganssScheduling(ctx, &pvalue->ganssScheduling, cur);
    RT_CHECK(ctx, stat, 0, "ganssScheduling", -1, "ExtGANSS-SIBTypeInfoSchedulingInfo");
    return 0;
 }
 
-int asn1PE_UMTS_ExtGANSS_SIBTypeInfoSchedulingInfoList(rtxContext* RT_RESTRICT ctx, const ExtGANSS_SIBTypeInfoSchedulingInfoList* RT_RESTRICT pvalue)
+int asn1PE_UMTS_ExtGANSS_SIBTypeInfoSchedulingInfo(rtxContext* RT_RESTRICT ctx, const ExtGANSS_SIBTypeInfoSchedulingInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ExtGANSS_SIBTypeInfoSchedulingInfo, pvalue);
+}
+
+static int enc_ExtGANSS_SIBTypeInfoSchedulingInfoList(rtxContext* RT_RESTRICT ctx, const ExtGANSS_SIBTypeInfoSchedulingInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ExtGANSS-SIBTypeInfoSchedulingInfoList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ExtGANSS-SIBTypeInfoSchedulingInfoList");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "ExtGANSS-SIBTypeInfoSchedulingInfoList");
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "ExtGANSS-SIBTypeInfoSchedulingInfoList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ExtGANSS-SIBTypeInfoSchedulingInfo", (int32_t)i, "ExtGANSS-SIBTypeInfoSchedulingInfoList");
-      stat = asn1PE_UMTS_ExtGANSS_SIBTypeInfoSchedulingInfo(ctx, (const ExtGANSS_SIBTypeInfoSchedulingInfo*)node->data);
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ExtGANSS-SIBTypeInfoSchedulingInfo", (int32_t)i, "ExtGANSS-SIBTypeInfoSchedulingInfoList");
+      stat = enc_ExtGANSS_SIBTypeInfoSchedulingInfo(ctx, (const ExtGANSS_SIBTypeInfoSchedulingInfo*)node->data, cur);
       RT_CHECK(ctx, stat, 0, "ExtGANSS-SIBTypeInfoSchedulingInfo", (int32_t)i, "ExtGANSS-SIBTypeInfoSchedulingInfoList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_MasterInformationBlock_v860ext_IEs_csg_Indicator(rtxContext* RT_RESTRICT ctx, MasterInformationBlock_v860ext_IEs_csg_Indicator value)
+int asn1PE_UMTS_ExtGANSS_SIBTypeInfoSchedulingInfoList(rtxContext* RT_RESTRICT ctx, const ExtGANSS_SIBTypeInfoSchedulingInfoList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ExtGANSS_SIBTypeInfoSchedulingInfoList, pvalue);
+}
+
+RT_MERGED_BODY int enc_MasterInformationBlock_v860ext_IEs_csg_Indicator(rtxContext* RT_RESTRICT ctx, MasterInformationBlock_v860ext_IEs_csg_Indicator value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_MasterInformationBlock_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const MasterInformationBlock_v860ext_IEs* RT_RESTRICT pvalue)
+int asn1PE_UMTS_MasterInformationBlock_v860ext_IEs_csg_Indicator(rtxContext* RT_RESTRICT ctx, MasterInformationBlock_v860ext_IEs_csg_Indicator value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MasterInformationBlock_v860ext_IEs_csg_Indicator, value);
+}
+
+RT_MERGED_BODY int enc_MasterInformationBlock_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const MasterInformationBlock_v860ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MasterInformationBlock-v860ext-IEs");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MasterInformationBlock-v860ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MasterInformationBlock-v860ext-IEs");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MasterInformationBlock-v860ext-IEs");
    /* extSIBTypeInfoSchedulingInfo-List */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ExtSIBTypeInfoSchedulingInfo_List2(ctx, &pvalue->extSIBTypeInfoSchedulingInfo_List);
+      stat = enc_ExtSIBTypeInfoSchedulingInfo_List2(ctx, &pvalue->extSIBTypeInfoSchedulingInfo_List, cur);
       RT_CHECK(ctx, stat, 0, "extSIBTypeInfoSchedulingInfo-List", -1, "MasterInformationBlock-v860ext-IEs");
    }
    /* extGANSS-SIBTypeInfoSchedulingInfoList */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_ExtGANSS_SIBTypeInfoSchedulingInfoList(ctx, &pvalue->extGANSS_SIBTypeInfoSchedulingInfoList);
+      stat = enc_ExtGANSS_SIBTypeInfoSchedulingInfoList(ctx, &pvalue->extGANSS_SIBTypeInfoSchedulingInfoList, cur);
       RT_CHECK(ctx, stat, 0, "extGANSS-SIBTypeInfoSchedulingInfoList", -1, "MasterInformationBlock-v860ext-IEs");
    }
    /* csg-Indicator */
    if (pvalue->m & 0x4u) {
       if (pvalue->csg_Indicator > 0) {
          rtxErrAddUIntParm(ctx, pvalue->csg_Indicator);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "csg-Indicator", -1, "MasterInformationBlock-v860ext-IEs");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "csg-Indicator", -1, "MasterInformationBlock-v860ext-IEs");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->csg_Indicator, 0, 0);
-      RT_CHECK(ctx, stat, 0, "csg-Indicator", -1, "MasterInformationBlock-v860ext-IEs");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->csg_Indicator, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "csg-Indicator", -1, "MasterInformationBlock-v860ext-IEs");
    }
+   return 0;
+}
+
+int asn1PE_UMTS_MasterInformationBlock_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const MasterInformationBlock_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MasterInformationBlock_v860ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* masterInformationBlock-v860ext */
+   stat = enc_MasterInformationBlock_v860ext_IEs(ctx, &pvalue->masterInformationBlock_v860ext, cur);
+   RT_CHECK(ctx, stat, 0, "masterInformationBlock-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = enc_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
    return 0;
 }
 
 int asn1PE_UMTS_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* masterInformationBlock-v860ext */
-   stat = asn1PE_UMTS_MasterInformationBlock_v860ext_IEs(ctx, &pvalue->masterInformationBlock_v860ext);
-   RT_CHECK(ctx, stat, 0, "masterInformationBlock-v860ext", -1, 0);
-   /* nonCriticalExtensions */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* masterInformationBlock-v6b0ext */
+   stat = enc_MasterInformationBlock_v6b0ext_IEs(ctx, &pvalue->masterInformationBlock_v6b0ext, cur);
+   RT_CHECK(ctx, stat, 0, "masterInformationBlock-v6b0ext", -1, 0);
+   /* v860NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+      stat = enc_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_MasterInformationBlock_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MasterInformationBlock_v690NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* masterInformationBlock-v6b0ext */
-   stat = asn1PE_UMTS_MasterInformationBlock_v6b0ext_IEs(ctx, &pvalue->masterInformationBlock_v6b0ext);
-   RT_CHECK(ctx, stat, 0, "masterInformationBlock-v6b0ext", -1, 0);
-   /* v860NonCriticalExtensions */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* masterInformationBlock-v690ext */
+   stat = enc_MasterInformationBlock_v690ext(ctx, &pvalue->masterInformationBlock_v690ext, cur);
+   RT_CHECK(ctx, stat, 0, "masterInformationBlock-v690ext", -1, 0);
+   /* v6b0NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+      stat = enc_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_MasterInformationBlock_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const MasterInformationBlock_v690NonCriticalExtensions* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_MasterInformationBlock_v690NonCriticalExtensions, pvalue);
+}
+
+static int enc_MasterInformationBlock(rtxContext* RT_RESTRICT ctx, const MasterInformationBlock* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MasterInformationBlock");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* masterInformationBlock-v690ext */
-   stat = asn1PE_UMTS_MasterInformationBlock_v690ext(ctx, &pvalue->masterInformationBlock_v690ext);
-   RT_CHECK(ctx, stat, 0, "masterInformationBlock-v690ext", -1, 0);
-   /* v6b0NonCriticalExtensions */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MasterInformationBlock");
+   /* mib-ValueTag */
+   if ((uint64_t)(pvalue->mib_ValueTag - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "MIB-ValueTag");
+      rtxErrAddUIntParm(ctx, pvalue->mib_ValueTag);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MIB-ValueTag", "mib-ValueTag", -1, "MasterInformationBlock");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->mib_ValueTag, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, "MIB-ValueTag", "mib-ValueTag", -1, "MasterInformationBlock");
+   /* plmn-Type */
+   stat = enc_PLMN_Type(ctx, &pvalue->plmn_Type, cur);
+   RT_CHECK(ctx, stat, 0, "plmn-Type", -1, "MasterInformationBlock");
+   /* sibSb-ReferenceList */
+   stat = enc_SIBSb_ReferenceList(ctx, &pvalue->sibSb_ReferenceList, cur);
+   RT_CHECK(ctx, stat, 0, "sibSb-ReferenceList", -1, "MasterInformationBlock");
+   /* v690NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MasterInformationBlock_v690NonCriticalExtensions_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+      stat = enc_MasterInformationBlock_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, "MasterInformationBlock");
    }
    return 0;
 }
 
 int asn1PE_UMTS_MasterInformationBlock(rtxContext* RT_RESTRICT ctx, const MasterInformationBlock* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_MasterInformationBlock, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellIdentity(rtxContext* RT_RESTRICT ctx, CellIdentity value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MasterInformationBlock");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MasterInformationBlock");
-   /* mib-ValueTag */
-   if ((uint64_t)(pvalue->mib_ValueTag - 1) > 7u) {
-      rtxErrAddStrParm(ctx, "MIB-ValueTag");
-      rtxErrAddUIntParm(ctx, pvalue->mib_ValueTag);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MIB-ValueTag", "mib-ValueTag", -1, "MasterInformationBlock");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mib_ValueTag, 1, 8);
-   RT_CHECK(ctx, stat, "MIB-ValueTag", "mib-ValueTag", -1, "MasterInformationBlock");
-   /* plmn-Type */
-   stat = asn1PE_UMTS_PLMN_Type(ctx, &pvalue->plmn_Type);
-   RT_CHECK(ctx, stat, 0, "plmn-Type", -1, "MasterInformationBlock");
-   /* sibSb-ReferenceList */
-   stat = asn1PE_UMTS_SIBSb_ReferenceList(ctx, &pvalue->sibSb_ReferenceList);
-   RT_CHECK(ctx, stat, 0, "sibSb-ReferenceList", -1, "MasterInformationBlock");
-   /* v690NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MasterInformationBlock_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, "MasterInformationBlock");
-   }
+   RT_SET_SIZE(ctx, 28, 28);
+   stat = pe_BitString32At(ctx, cur, &value, 28, 28);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CellIdentity");
    return 0;
 }
 
 int asn1PE_UMTS_CellIdentity(rtxContext* RT_RESTRICT ctx, CellIdentity value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_CellIdentity, value);
+}
+
+RT_MERGED_BODY int enc_RAT(rtxContext* RT_RESTRICT ctx, RAT value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   RT_SET_SIZE(ctx, 28, 28);
-   stat = pe_BitString32(ctx, &value, 28, 28);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellIdentity");
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "RAT");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RAT");
    return 0;
 }
 
 int asn1PE_UMTS_RAT(rtxContext* RT_RESTRICT ctx, RAT value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_RAT, value);
+}
+
+RT_MERGED_BODY int enc_MappingFunctionType(rtxContext* RT_RESTRICT ctx, MappingFunctionType value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
    if (value > 3) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "RAT");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MappingFunctionType");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAT");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MappingFunctionType");
    return 0;
 }
 
 int asn1PE_UMTS_MappingFunctionType(rtxContext* RT_RESTRICT ctx, MappingFunctionType value)
 {
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MappingFunctionType");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MappingFunctionType");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_MappingFunctionType, value);
 }
 
-int asn1PE_UMTS_MapParameter(rtxContext* RT_RESTRICT ctx, MapParameter value)
+RT_MERGED_BODY int enc_MapParameter(rtxContext* RT_RESTRICT ctx, MapParameter value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)value > 127u) {
       rtxErrAddStrParm(ctx, "MapParameter");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MapParameter");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "MapParameter");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 127);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MapParameter");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 127);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MapParameter");
    return 0;
 }
 
-int asn1PE_UMTS_UpperLimit(rtxContext* RT_RESTRICT ctx, UpperLimit value)
+int asn1PE_UMTS_MapParameter(rtxContext* RT_RESTRICT ctx, MapParameter value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MapParameter, value);
+}
+
+RT_MERGED_BODY int enc_UpperLimit(rtxContext* RT_RESTRICT ctx, UpperLimit value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)(value - 1) > 90u) {
       rtxErrAddStrParm(ctx, "UpperLimit");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "UpperLimit");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "UpperLimit");
    }
-   stat = pe_ConsUInt64(ctx, value, 1, 91);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UpperLimit");
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 91);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UpperLimit");
    return 0;
 }
 
-int asn1PE_UMTS_MappingFunctionParameter(rtxContext* RT_RESTRICT ctx, const MappingFunctionParameter* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UpperLimit(rtxContext* RT_RESTRICT ctx, UpperLimit value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UpperLimit, value);
+}
+
+RT_MERGED_BODY int enc_MappingFunctionParameter(rtxContext* RT_RESTRICT ctx, const MappingFunctionParameter* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MappingFunctionParameter");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MappingFunctionParameter");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MappingFunctionParameter");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MappingFunctionParameter");
    /* functionType */
    if (pvalue->functionType > 3) {
       rtxErrAddUIntParm(ctx, pvalue->functionType);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MappingFunctionType", "functionType", -1, "MappingFunctionParameter");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MappingFunctionType", "functionType", -1, "MappingFunctionParameter");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->functionType, 0, 3);
-   RT_CHECK(ctx, stat, "MappingFunctionType", "functionType", -1, "MappingFunctionParameter");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->functionType, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "MappingFunctionType", "functionType", -1, "MappingFunctionParameter");
    /* mapParameter1 */
    if (pvalue->m & 0x1u) {
       if ((uint64_t)pvalue->mapParameter1 > 127u) {
          rtxErrAddStrParm(ctx, "MapParameter");
          rtxErrAddUIntParm(ctx, pvalue->mapParameter1);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "MapParameter", "mapParameter1", -1, "MappingFunctionParameter");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MapParameter", "mapParameter1", -1, "MappingFunctionParameter");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->mapParameter1, 0, 127);
-      RT_CHECK(ctx, stat, "MapParameter", "mapParameter1", -1, "MappingFunctionParameter");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->mapParameter1, 0, 127);
+      RT_CHECK_PUT(ctx, cur, stat, "MapParameter", "mapParameter1", -1, "MappingFunctionParameter");
    }
    /* mapParameter2 */
    if ((uint64_t)pvalue->mapParameter2 > 127u) {
       rtxErrAddStrParm(ctx, "MapParameter");
       rtxErrAddUIntParm(ctx, pvalue->mapParameter2);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MapParameter", "mapParameter2", -1, "MappingFunctionParameter");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MapParameter", "mapParameter2", -1, "MappingFunctionParameter");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->mapParameter2, 0, 127);
-   RT_CHECK(ctx, stat, "MapParameter", "mapParameter2", -1, "MappingFunctionParameter");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->mapParameter2, 0, 127);
+   RT_CHECK_PUT(ctx, cur, stat, "MapParameter", "mapParameter2", -1, "MappingFunctionParameter");
    /* upperLimit */
    if (pvalue->m & 0x2u) {
       if ((uint64_t)(pvalue->upperLimit - 1) > 90u) {
          rtxErrAddStrParm(ctx, "UpperLimit");
          rtxErrAddUIntParm(ctx, pvalue->upperLimit);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "UpperLimit", "upperLimit", -1, "MappingFunctionParameter");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UpperLimit", "upperLimit", -1, "MappingFunctionParameter");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->upperLimit, 1, 91);
-      RT_CHECK(ctx, stat, "UpperLimit", "upperLimit", -1, "MappingFunctionParameter");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->upperLimit, 1, 91);
+      RT_CHECK_PUT(ctx, cur, stat, "UpperLimit", "upperLimit", -1, "MappingFunctionParameter");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MappingFunctionParameter(rtxContext* RT_RESTRICT ctx, const MappingFunctionParameter* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MappingFunctionParameter, pvalue);
+}
+
+RT_MERGED_BODY int enc_MappingFunctionParameterList(rtxContext* RT_RESTRICT ctx, const MappingFunctionParameterList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MappingFunctionParameterList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 3);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "MappingFunctionParameterList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "MappingFunctionParameter", (int32_t)i, "MappingFunctionParameterList");
+      stat = enc_MappingFunctionParameter(ctx, (const MappingFunctionParameter*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "MappingFunctionParameter", (int32_t)i, "MappingFunctionParameterList");
    }
    return 0;
 }
 
 int asn1PE_UMTS_MappingFunctionParameterList(rtxContext* RT_RESTRICT ctx, const MappingFunctionParameterList* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_MappingFunctionParameterList, pvalue);
+}
+
+RT_MERGED_BODY int enc_Mapping(rtxContext* RT_RESTRICT ctx, const Mapping* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MappingFunctionParameterList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 3);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MappingFunctionParameterList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MappingFunctionParameter", (int32_t)i, "MappingFunctionParameterList");
-      stat = asn1PE_UMTS_MappingFunctionParameter(ctx, (const MappingFunctionParameter*)node->data);
-      RT_CHECK(ctx, stat, 0, "MappingFunctionParameter", (int32_t)i, "MappingFunctionParameterList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Mapping");
+   /* rat */
+   if (pvalue->rat > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->rat);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "RAT", "rat", -1, "Mapping");
    }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->rat, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "RAT", "rat", -1, "Mapping");
+   /* mappingFunctionParameterList */
+   stat = enc_MappingFunctionParameterList(ctx, &pvalue->mappingFunctionParameterList, cur);
+   RT_CHECK(ctx, stat, 0, "mappingFunctionParameterList", -1, "Mapping");
    return 0;
 }
 
 int asn1PE_UMTS_Mapping(rtxContext* RT_RESTRICT ctx, const Mapping* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Mapping");
-   /* rat */
-   if (pvalue->rat > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->rat);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "RAT", "rat", -1, "Mapping");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rat, 0, 3);
-   RT_CHECK(ctx, stat, "RAT", "rat", -1, "Mapping");
-   /* mappingFunctionParameterList */
-   stat = asn1PE_UMTS_MappingFunctionParameterList(ctx, &pvalue->mappingFunctionParameterList);
-   RT_CHECK(ctx, stat, 0, "mappingFunctionParameterList", -1, "Mapping");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_Mapping, pvalue);
 }
 
-int asn1PE_UMTS_MappingInfo(rtxContext* RT_RESTRICT ctx, const MappingInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_MappingInfo(rtxContext* RT_RESTRICT ctx, const MappingInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MappingInfo");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MappingInfo");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MappingInfo");
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "MappingInfo");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "Mapping", (int32_t)i, "MappingInfo");
-      stat = asn1PE_UMTS_Mapping(ctx, (const Mapping*)node->data);
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "Mapping", (int32_t)i, "MappingInfo");
+      stat = enc_Mapping(ctx, (const Mapping*)node->data, cur);
       RT_CHECK(ctx, stat, 0, "Mapping", (int32_t)i, "MappingInfo");
    }
    return 0;
 }
 
-int asn1PE_UMTS_Q_Hyst_S(rtxContext* RT_RESTRICT ctx, Q_Hyst_S value)
+int asn1PE_UMTS_MappingInfo(rtxContext* RT_RESTRICT ctx, const MappingInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MappingInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_Q_Hyst_S(rtxContext* RT_RESTRICT ctx, Q_Hyst_S value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)value > 20u) {
       rtxErrAddStrParm(ctx, "Q-Hyst-S");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "Q-Hyst-S");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "Q-Hyst-S");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 20);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Q-Hyst-S");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 20);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Q-Hyst-S");
    return 0;
 }
 
-int asn1PE_UMTS_CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
+int asn1PE_UMTS_Q_Hyst_S(rtxContext* RT_RESTRICT ctx, Q_Hyst_S value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Q_Hyst_S, value);
+}
+
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    /* q-HYST-2-S */
    if (pvalue->m & 0x1u) {
       if ((uint64_t)pvalue->q_HYST_2_S > 20u) {
          rtxErrAddStrParm(ctx, "Q-Hyst-S");
          rtxErrAddUIntParm(ctx, pvalue->q_HYST_2_S);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-Hyst-S", "q-HYST-2-S", -1, 0);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-Hyst-S", "q-HYST-2-S", -1, 0);
       }
-      stat = pe_ConsUInt64(ctx, pvalue->q_HYST_2_S, 0, 20);
-      RT_CHECK(ctx, stat, "Q-Hyst-S", "q-HYST-2-S", -1, 0);
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->q_HYST_2_S, 0, 20);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-Hyst-S", "q-HYST-2-S", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure_cpich_Ec_N0, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cpich-Ec-N0", -1, 0);
-         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
+         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "cpich-Ec-N0", -1, 0);
+         stat = enc_CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0, cur);
          RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
          break;
       case 2:
@@ -1921,326 +2710,386 @@ int asn1PE_UMTS_CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure(rtxContex
    return 0;
 }
 
-int asn1PE_UMTS_S_SearchQual(rtxContext* RT_RESTRICT ctx, S_SearchQual value)
+int asn1PE_UMTS_CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure, pvalue);
+}
+
+RT_MERGED_BODY int enc_S_SearchQual(rtxContext* RT_RESTRICT ctx, S_SearchQual value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value < -16 || value > 10) {
       rtxErrAddStrParm(ctx, "S-SearchQual");
       rtxErrAddIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "S-SearchQual");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "S-SearchQual");
    }
-   stat = pe_ConsInt64(ctx, value, -16, 10);
-   RT_CHECK(ctx, stat, 0, 0, -1, "S-SearchQual");
+   stat = pe_ConsInt64At(ctx, cur, value, -16, 10);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "S-SearchQual");
    return 0;
 }
 
-int asn1PE_UMTS_S_SearchRXLEV(rtxContext* RT_RESTRICT ctx, S_SearchRXLEV value)
+int asn1PE_UMTS_S_SearchQual(rtxContext* RT_RESTRICT ctx, S_SearchQual value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_S_SearchQual, value);
+}
+
+RT_MERGED_BODY int enc_S_SearchRXLEV(rtxContext* RT_RESTRICT ctx, S_SearchRXLEV value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value < -53 || value > 45) {
       rtxErrAddStrParm(ctx, "S-SearchRXLEV");
       rtxErrAddIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "S-SearchRXLEV");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "S-SearchRXLEV");
    }
-   stat = pe_ConsInt64(ctx, value, -53, 45);
-   RT_CHECK(ctx, stat, 0, 0, -1, "S-SearchRXLEV");
+   stat = pe_ConsInt64At(ctx, cur, value, -53, 45);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "S-SearchRXLEV");
+   return 0;
+}
+
+int asn1PE_UMTS_S_SearchRXLEV(rtxContext* RT_RESTRICT ctx, S_SearchRXLEV value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_S_SearchRXLEV, value);
+}
+
+RT_MERGED_BODY int enc_RAT_Identifier(rtxContext* RT_RESTRICT ctx, RAT_Identifier value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "RAT-Identifier");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RAT-Identifier");
    return 0;
 }
 
 int asn1PE_UMTS_RAT_Identifier(rtxContext* RT_RESTRICT ctx, RAT_Identifier value)
 {
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "RAT-Identifier");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAT-Identifier");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_RAT_Identifier, value);
 }
 
-int asn1PE_UMTS_RAT_FDD_Info(rtxContext* RT_RESTRICT ctx, const RAT_FDD_Info* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_RAT_FDD_Info(rtxContext* RT_RESTRICT ctx, const RAT_FDD_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAT-FDD-Info");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RAT-FDD-Info");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAT-FDD-Info");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RAT-FDD-Info");
    /* rat-Identifier */
    if (pvalue->rat_Identifier > 1) {
       rtxErrAddUIntParm(ctx, pvalue->rat_Identifier);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "RAT-Identifier", "rat-Identifier", -1, "RAT-FDD-Info");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "RAT-Identifier", "rat-Identifier", -1, "RAT-FDD-Info");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->rat_Identifier, 0, 1);
-   RT_CHECK(ctx, stat, "RAT-Identifier", "rat-Identifier", -1, "RAT-FDD-Info");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->rat_Identifier, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "RAT-Identifier", "rat-Identifier", -1, "RAT-FDD-Info");
    /* s-SearchRAT */
    if (pvalue->s_SearchRAT < -16 || pvalue->s_SearchRAT > 10) {
       rtxErrAddStrParm(ctx, "S-SearchQual");
       rtxErrAddIntParm(ctx, pvalue->s_SearchRAT);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "S-SearchQual", "s-SearchRAT", -1, "RAT-FDD-Info");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "S-SearchQual", "s-SearchRAT", -1, "RAT-FDD-Info");
    }
-   stat = pe_ConsInt64(ctx, pvalue->s_SearchRAT, -16, 10);
-   RT_CHECK(ctx, stat, "S-SearchQual", "s-SearchRAT", -1, "RAT-FDD-Info");
+   stat = pe_ConsInt64At(ctx, cur, pvalue->s_SearchRAT, -16, 10);
+   RT_CHECK_PUT(ctx, cur, stat, "S-SearchQual", "s-SearchRAT", -1, "RAT-FDD-Info");
    /* s-HCS-RAT */
    if (pvalue->m & 0x1u) {
       if (pvalue->s_HCS_RAT < -53 || pvalue->s_HCS_RAT > 45) {
          rtxErrAddStrParm(ctx, "S-SearchRXLEV");
          rtxErrAddIntParm(ctx, pvalue->s_HCS_RAT);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "S-SearchRXLEV", "s-HCS-RAT", -1, "RAT-FDD-Info");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "S-SearchRXLEV", "s-HCS-RAT", -1, "RAT-FDD-Info");
       }
-      stat = pe_ConsInt64(ctx, pvalue->s_HCS_RAT, -53, 45);
-      RT_CHECK(ctx, stat, "S-SearchRXLEV", "s-HCS-RAT", -1, "RAT-FDD-Info");
+      stat = pe_ConsInt64At(ctx, cur, pvalue->s_HCS_RAT, -53, 45);
+      RT_CHECK_PUT(ctx, cur, stat, "S-SearchRXLEV", "s-HCS-RAT", -1, "RAT-FDD-Info");
    }
    /* s-Limit-SearchRAT */
    if (pvalue->s_Limit_SearchRAT < -16 || pvalue->s_Limit_SearchRAT > 10) {
       rtxErrAddStrParm(ctx, "S-SearchQual");
       rtxErrAddIntParm(ctx, pvalue->s_Limit_SearchRAT);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "S-SearchQual", "s-Limit-SearchRAT", -1, "RAT-FDD-Info");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "S-SearchQual", "s-Limit-SearchRAT", -1, "RAT-FDD-Info");
    }
-   stat = pe_ConsInt64(ctx, pvalue->s_Limit_SearchRAT, -16, 10);
-   RT_CHECK(ctx, stat, "S-SearchQual", "s-Limit-SearchRAT", -1, "RAT-FDD-Info");
+   stat = pe_ConsInt64At(ctx, cur, pvalue->s_Limit_SearchRAT, -16, 10);
+   RT_CHECK_PUT(ctx, cur, stat, "S-SearchQual", "s-Limit-SearchRAT", -1, "RAT-FDD-Info");
    return 0;
 }
 
-int asn1PE_UMTS_RAT_FDD_InfoList(rtxContext* RT_RESTRICT ctx, const RAT_FDD_InfoList* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RAT_FDD_Info(rtxContext* RT_RESTRICT ctx, const RAT_FDD_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAT_FDD_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_RAT_FDD_InfoList(rtxContext* RT_RESTRICT ctx, const RAT_FDD_InfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAT-FDD-InfoList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RAT-FDD-InfoList");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 15);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RAT-FDD-InfoList");
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RAT-FDD-InfoList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RAT-FDD-Info", (int32_t)i, "RAT-FDD-InfoList");
-      stat = asn1PE_UMTS_RAT_FDD_Info(ctx, (const RAT_FDD_Info*)node->data);
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RAT-FDD-Info", (int32_t)i, "RAT-FDD-InfoList");
+      stat = enc_RAT_FDD_Info(ctx, (const RAT_FDD_Info*)node->data, cur);
       RT_CHECK(ctx, stat, 0, "RAT-FDD-Info", (int32_t)i, "RAT-FDD-InfoList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_Q_QualMin(rtxContext* RT_RESTRICT ctx, Q_QualMin value)
+int asn1PE_UMTS_RAT_FDD_InfoList(rtxContext* RT_RESTRICT ctx, const RAT_FDD_InfoList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAT_FDD_InfoList, pvalue);
+}
+
+RT_MERGED_BODY int enc_Q_QualMin(rtxContext* RT_RESTRICT ctx, Q_QualMin value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value < -24 || value > 0) {
       rtxErrAddStrParm(ctx, "Q-QualMin");
       rtxErrAddIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "Q-QualMin");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "Q-QualMin");
    }
-   stat = pe_ConsInt64(ctx, value, -24, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Q-QualMin");
+   stat = pe_ConsInt64At(ctx, cur, value, -24, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Q-QualMin");
    return 0;
 }
 
-int asn1PE_UMTS_Q_RxlevMin(rtxContext* RT_RESTRICT ctx, Q_RxlevMin value)
+int asn1PE_UMTS_Q_QualMin(rtxContext* RT_RESTRICT ctx, Q_QualMin value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Q_QualMin, value);
+}
+
+RT_MERGED_BODY int enc_Q_RxlevMin(rtxContext* RT_RESTRICT ctx, Q_RxlevMin value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value < -58 || value > -13) {
       rtxErrAddStrParm(ctx, "Q-RxlevMin");
       rtxErrAddIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "Q-RxlevMin");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "Q-RxlevMin");
    }
-   stat = pe_ConsInt64(ctx, value, -58, -13);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Q-RxlevMin");
+   stat = pe_ConsInt64At(ctx, cur, value, -58, -13);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Q-RxlevMin");
    return 0;
 }
 
-int asn1PE_UMTS_CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_Q_RxlevMin(rtxContext* RT_RESTRICT ctx, Q_RxlevMin value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Q_RxlevMin, value);
+}
+
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    /* s-Intrasearch */
    if (pvalue->m & 0x1u) {
       if (pvalue->s_Intrasearch < -16 || pvalue->s_Intrasearch > 10) {
          rtxErrAddStrParm(ctx, "S-SearchQual");
          rtxErrAddIntParm(ctx, pvalue->s_Intrasearch);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "S-SearchQual", "s-Intrasearch", -1, 0);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "S-SearchQual", "s-Intrasearch", -1, 0);
       }
-      stat = pe_ConsInt64(ctx, pvalue->s_Intrasearch, -16, 10);
-      RT_CHECK(ctx, stat, "S-SearchQual", "s-Intrasearch", -1, 0);
+      stat = pe_ConsInt64At(ctx, cur, pvalue->s_Intrasearch, -16, 10);
+      RT_CHECK_PUT(ctx, cur, stat, "S-SearchQual", "s-Intrasearch", -1, 0);
    }
    /* s-Intersearch */
    if (pvalue->m & 0x2u) {
       if (pvalue->s_Intersearch < -16 || pvalue->s_Intersearch > 10) {
          rtxErrAddStrParm(ctx, "S-SearchQual");
          rtxErrAddIntParm(ctx, pvalue->s_Intersearch);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "S-SearchQual", "s-Intersearch", -1, 0);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "S-SearchQual", "s-Intersearch", -1, 0);
       }
-      stat = pe_ConsInt64(ctx, pvalue->s_Intersearch, -16, 10);
-      RT_CHECK(ctx, stat, "S-SearchQual", "s-Intersearch", -1, 0);
+      stat = pe_ConsInt64At(ctx, cur, pvalue->s_Intersearch, -16, 10);
+      RT_CHECK_PUT(ctx, cur, stat, "S-SearchQual", "s-Intersearch", -1, 0);
    }
    /* s-SearchHCS */
    if (pvalue->m & 0x4u) {
       if (pvalue->s_SearchHCS < -53 || pvalue->s_SearchHCS > 45) {
          rtxErrAddStrParm(ctx, "S-SearchRXLEV");
          rtxErrAddIntParm(ctx, pvalue->s_SearchHCS);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "S-SearchRXLEV", "s-SearchHCS", -1, 0);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "S-SearchRXLEV", "s-SearchHCS", -1, 0);
       }
-      stat = pe_ConsInt64(ctx, pvalue->s_SearchHCS, -53, 45);
-      RT_CHECK(ctx, stat, "S-SearchRXLEV", "s-SearchHCS", -1, 0);
+      stat = pe_ConsInt64At(ctx, cur, pvalue->s_SearchHCS, -53, 45);
+      RT_CHECK_PUT(ctx, cur, stat, "S-SearchRXLEV", "s-SearchHCS", -1, 0);
    }
    /* rat-List */
    if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_RAT_FDD_InfoList(ctx, &pvalue->rat_List);
+      stat = enc_RAT_FDD_InfoList(ctx, &pvalue->rat_List, cur);
       RT_CHECK(ctx, stat, 0, "rat-List", -1, 0);
    }
    /* q-QualMin */
    if (pvalue->q_QualMin < -24 || pvalue->q_QualMin > 0) {
       rtxErrAddStrParm(ctx, "Q-QualMin");
       rtxErrAddIntParm(ctx, pvalue->q_QualMin);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-QualMin", "q-QualMin", -1, 0);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-QualMin", "q-QualMin", -1, 0);
    }
-   stat = pe_ConsInt64(ctx, pvalue->q_QualMin, -24, 0);
-   RT_CHECK(ctx, stat, "Q-QualMin", "q-QualMin", -1, 0);
+   stat = pe_ConsInt64At(ctx, cur, pvalue->q_QualMin, -24, 0);
+   RT_CHECK_PUT(ctx, cur, stat, "Q-QualMin", "q-QualMin", -1, 0);
    /* q-RxlevMin */
    if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
       rtxErrAddStrParm(ctx, "Q-RxlevMin");
       rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    }
-   stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
-   RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   stat = pe_ConsInt64At(ctx, cur, pvalue->q_RxlevMin, -58, -13);
+   RT_CHECK_PUT(ctx, cur, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_RAT_TDD_Info(rtxContext* RT_RESTRICT ctx, const RAT_TDD_Info* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_RAT_TDD_Info(rtxContext* RT_RESTRICT ctx, const RAT_TDD_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAT-TDD-Info");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RAT-TDD-Info");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAT-TDD-Info");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RAT-TDD-Info");
    /* rat-Identifier */
    if (pvalue->rat_Identifier > 1) {
       rtxErrAddUIntParm(ctx, pvalue->rat_Identifier);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "RAT-Identifier", "rat-Identifier", -1, "RAT-TDD-Info");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "RAT-Identifier", "rat-Identifier", -1, "RAT-TDD-Info");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->rat_Identifier, 0, 1);
-   RT_CHECK(ctx, stat, "RAT-Identifier", "rat-Identifier", -1, "RAT-TDD-Info");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->rat_Identifier, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "RAT-Identifier", "rat-Identifier", -1, "RAT-TDD-Info");
    /* s-SearchRAT */
    if (pvalue->s_SearchRAT < -53 || pvalue->s_SearchRAT > 45) {
       rtxErrAddStrParm(ctx, "S-SearchRXLEV");
       rtxErrAddIntParm(ctx, pvalue->s_SearchRAT);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "S-SearchRXLEV", "s-SearchRAT", -1, "RAT-TDD-Info");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "S-SearchRXLEV", "s-SearchRAT", -1, "RAT-TDD-Info");
    }
-   stat = pe_ConsInt64(ctx, pvalue->s_SearchRAT, -53, 45);
-   RT_CHECK(ctx, stat, "S-SearchRXLEV", "s-SearchRAT", -1, "RAT-TDD-Info");
+   stat = pe_ConsInt64At(ctx, cur, pvalue->s_SearchRAT, -53, 45);
+   RT_CHECK_PUT(ctx, cur, stat, "S-SearchRXLEV", "s-SearchRAT", -1, "RAT-TDD-Info");
    /* s-HCS-RAT */
    if (pvalue->m & 0x1u) {
       if (pvalue->s_HCS_RAT < -53 || pvalue->s_HCS_RAT > 45) {
          rtxErrAddStrParm(ctx, "S-SearchRXLEV");
          rtxErrAddIntParm(ctx, pvalue->s_HCS_RAT);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "S-SearchRXLEV", "s-HCS-RAT", -1, "RAT-TDD-Info");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "S-SearchRXLEV", "s-HCS-RAT", -1, "RAT-TDD-Info");
       }
-      stat = pe_ConsInt64(ctx, pvalue->s_HCS_RAT, -53, 45);
-      RT_CHECK(ctx, stat, "S-SearchRXLEV", "s-HCS-RAT", -1, "RAT-TDD-Info");
+      stat = pe_ConsInt64At(ctx, cur, pvalue->s_HCS_RAT, -53, 45);
+      RT_CHECK_PUT(ctx, cur, stat, "S-SearchRXLEV", "s-HCS-RAT", -1, "RAT-TDD-Info");
    }
    /* s-Limit-SearchRAT */
    if (pvalue->s_Limit_SearchRAT < -53 || pvalue->s_Limit_SearchRAT > 45) {
       rtxErrAddStrParm(ctx, "S-SearchRXLEV");
       rtxErrAddIntParm(ctx, pvalue->s_Limit_SearchRAT);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "S-SearchRXLEV", "s-Limit-SearchRAT", -1, "RAT-TDD-Info");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "S-SearchRXLEV", "s-Limit-SearchRAT", -1, "RAT-TDD-Info");
    }
-   stat = pe_ConsInt64(ctx, pvalue->s_Limit_SearchRAT, -53, 45);
-   RT_CHECK(ctx, stat, "S-SearchRXLEV", "s-Limit-SearchRAT", -1, "RAT-TDD-Info");
+   stat = pe_ConsInt64At(ctx, cur, pvalue->s_Limit_SearchRAT, -53, 45);
+   RT_CHECK_PUT(ctx, cur, stat, "S-SearchRXLEV", "s-Limit-SearchRAT", -1, "RAT-TDD-Info");
    return 0;
 }
 
-int asn1PE_UMTS_RAT_TDD_InfoList(rtxContext* RT_RESTRICT ctx, const RAT_TDD_InfoList* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RAT_TDD_Info(rtxContext* RT_RESTRICT ctx, const RAT_TDD_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAT_TDD_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_RAT_TDD_InfoList(rtxContext* RT_RESTRICT ctx, const RAT_TDD_InfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAT-TDD-InfoList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RAT-TDD-InfoList");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 15);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RAT-TDD-InfoList");
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RAT-TDD-InfoList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RAT-TDD-Info", (int32_t)i, "RAT-TDD-InfoList");
-      stat = asn1PE_UMTS_RAT_TDD_Info(ctx, (const RAT_TDD_Info*)node->data);
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RAT-TDD-Info", (int32_t)i, "RAT-TDD-InfoList");
+      stat = enc_RAT_TDD_Info(ctx, (const RAT_TDD_Info*)node->data, cur);
       RT_CHECK(ctx, stat, 0, "RAT-TDD-Info", (int32_t)i, "RAT-TDD-InfoList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellSelectReselectInfoSIB_3_4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_3_4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RAT_TDD_InfoList(rtxContext* RT_RESTRICT ctx, const RAT_TDD_InfoList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAT_TDD_InfoList, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_3_4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_3_4_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    /* s-Intrasearch */
    if (pvalue->m & 0x1u) {
       if (pvalue->s_Intrasearch < -53 || pvalue->s_Intrasearch > 45) {
          rtxErrAddStrParm(ctx, "S-SearchRXLEV");
          rtxErrAddIntParm(ctx, pvalue->s_Intrasearch);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "S-SearchRXLEV", "s-Intrasearch", -1, 0);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "S-SearchRXLEV", "s-Intrasearch", -1, 0);
       }
-      stat = pe_ConsInt64(ctx, pvalue->s_Intrasearch, -53, 45);
-      RT_CHECK(ctx, stat, "S-SearchRXLEV", "s-Intrasearch", -1, 0);
+      stat = pe_ConsInt64At(ctx, cur, pvalue->s_Intrasearch, -53, 45);
+      RT_CHECK_PUT(ctx, cur, stat, "S-SearchRXLEV", "s-Intrasearch", -1, 0);
    }
    /* s-Intersearch */
    if (pvalue->m & 0x2u) {
       if (pvalue->s_Intersearch < -53 || pvalue->s_Intersearch > 45) {
          rtxErrAddStrParm(ctx, "S-SearchRXLEV");
          rtxErrAddIntParm(ctx, pvalue->s_Intersearch);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "S-SearchRXLEV", "s-Intersearch", -1, 0);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "S-SearchRXLEV", "s-Intersearch", -1, 0);
       }
-      stat = pe_ConsInt64(ctx, pvalue->s_Intersearch, -53, 45);
-      RT_CHECK(ctx, stat, "S-SearchRXLEV", "s-Intersearch", -1, 0);
+      stat = pe_ConsInt64At(ctx, cur, pvalue->s_Intersearch, -53, 45);
+      RT_CHECK_PUT(ctx, cur, stat, "S-SearchRXLEV", "s-Intersearch", -1, 0);
    }
    /* s-SearchHCS */
    if (pvalue->m & 0x4u) {
       if (pvalue->s_SearchHCS < -53 || pvalue->s_SearchHCS > 45) {
          rtxErrAddStrParm(ctx, "S-SearchRXLEV");
          rtxErrAddIntParm(ctx, pvalue->s_SearchHCS);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "S-SearchRXLEV", "s-SearchHCS", -1, 0);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "S-SearchRXLEV", "s-SearchHCS", -1, 0);
       }
-      stat = pe_ConsInt64(ctx, pvalue->s_SearchHCS, -53, 45);
-      RT_CHECK(ctx, stat, "S-SearchRXLEV", "s-SearchHCS", -1, 0);
+      stat = pe_ConsInt64At(ctx, cur, pvalue->s_SearchHCS, -53, 45);
+      RT_CHECK_PUT(ctx, cur, stat, "S-SearchRXLEV", "s-SearchHCS", -1, 0);
    }
    /* rat-List */
    if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_RAT_TDD_InfoList(ctx, &pvalue->rat_List);
+      stat = enc_RAT_TDD_InfoList(ctx, &pvalue->rat_List, cur);
       RT_CHECK(ctx, stat, 0, "rat-List", -1, 0);
    }
    /* q-RxlevMin */
    if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
       rtxErrAddStrParm(ctx, "Q-RxlevMin");
       rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    }
-   stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
-   RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   stat = pe_ConsInt64At(ctx, cur, pvalue->q_RxlevMin, -58, -13);
+   RT_CHECK_PUT(ctx, cur, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CellSelectReselectInfoSIB_3_4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_3_4_modeSpecificInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CellSelectReselectInfoSIB_3_4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_3_4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellSelectReselectInfoSIB_3_4_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_3_4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_3_4_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
          RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_3_4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_CellSelectReselectInfoSIB_3_4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
          RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
@@ -2249,117 +3098,147 @@ int asn1PE_UMTS_CellSelectReselectInfoSIB_3_4_modeSpecificInfo(rtxContext* RT_RE
    return 0;
 }
 
-int asn1PE_UMTS_T_Reselection_S(rtxContext* RT_RESTRICT ctx, T_Reselection_S value)
+int asn1PE_UMTS_CellSelectReselectInfoSIB_3_4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_3_4_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellSelectReselectInfoSIB_3_4_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_T_Reselection_S(rtxContext* RT_RESTRICT ctx, T_Reselection_S value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)value > 31u) {
       rtxErrAddStrParm(ctx, "T-Reselection-S");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "T-Reselection-S");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "T-Reselection-S");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-Reselection-S");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "T-Reselection-S");
    return 0;
 }
 
-int asn1PE_UMTS_HCS_PRIO(rtxContext* RT_RESTRICT ctx, HCS_PRIO value)
+int asn1PE_UMTS_T_Reselection_S(rtxContext* RT_RESTRICT ctx, T_Reselection_S value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_T_Reselection_S, value);
+}
+
+RT_MERGED_BODY int enc_HCS_PRIO(rtxContext* RT_RESTRICT ctx, HCS_PRIO value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)value > 7u) {
       rtxErrAddStrParm(ctx, "HCS-PRIO");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "HCS-PRIO");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "HCS-PRIO");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HCS-PRIO");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "HCS-PRIO");
    return 0;
 }
 
-int asn1PE_UMTS_Q_HCS(rtxContext* RT_RESTRICT ctx, Q_HCS value)
+int asn1PE_UMTS_HCS_PRIO(rtxContext* RT_RESTRICT ctx, HCS_PRIO value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HCS_PRIO, value);
+}
+
+RT_MERGED_BODY int enc_Q_HCS(rtxContext* RT_RESTRICT ctx, Q_HCS value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)value > 99u) {
       rtxErrAddStrParm(ctx, "Q-HCS");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "Q-HCS");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "Q-HCS");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 99);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Q-HCS");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 99);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Q-HCS");
+   return 0;
+}
+
+int asn1PE_UMTS_Q_HCS(rtxContext* RT_RESTRICT ctx, Q_HCS value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Q_HCS, value);
+}
+
+RT_MERGED_BODY int enc_T_CRMaxHyst(rtxContext* RT_RESTRICT ctx, T_CRMaxHyst value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "T-CRMaxHyst");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "T-CRMaxHyst");
    return 0;
 }
 
 int asn1PE_UMTS_T_CRMaxHyst(rtxContext* RT_RESTRICT ctx, T_CRMaxHyst value)
 {
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-CRMaxHyst");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-CRMaxHyst");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_T_CRMaxHyst, value);
 }
 
-int asn1PE_UMTS_N_CR_T_CRMaxHyst(rtxContext* RT_RESTRICT ctx, const N_CR_T_CRMaxHyst* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_N_CR_T_CRMaxHyst(rtxContext* RT_RESTRICT ctx, const N_CR_T_CRMaxHyst* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "N-CR-T-CRMaxHyst");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "N-CR-T-CRMaxHyst");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->n_CR != 8) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "N-CR-T-CRMaxHyst");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->n_CR != 8) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "N-CR-T-CRMaxHyst");
    /* n-CR */
    if (pvalue->n_CR != 8) {
       if ((uint64_t)(pvalue->n_CR - 1) > 15u) {
          rtxErrAddStrParm(ctx, "n-CR");
          rtxErrAddUIntParm(ctx, pvalue->n_CR);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "n-CR", -1, "N-CR-T-CRMaxHyst");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "n-CR", -1, "N-CR-T-CRMaxHyst");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->n_CR, 1, 16);
-      RT_CHECK(ctx, stat, 0, "n-CR", -1, "N-CR-T-CRMaxHyst");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->n_CR, 1, 16);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "n-CR", -1, "N-CR-T-CRMaxHyst");
    }
    /* t-CRMaxHyst */
    if (pvalue->t_CRMaxHyst > 7) {
       rtxErrAddUIntParm(ctx, pvalue->t_CRMaxHyst);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "T-CRMaxHyst", "t-CRMaxHyst", -1, "N-CR-T-CRMaxHyst");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "T-CRMaxHyst", "t-CRMaxHyst", -1, "N-CR-T-CRMaxHyst");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->t_CRMaxHyst, 0, 7);
-   RT_CHECK(ctx, stat, "T-CRMaxHyst", "t-CRMaxHyst", -1, "N-CR-T-CRMaxHyst");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->t_CRMaxHyst, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "T-CRMaxHyst", "t-CRMaxHyst", -1, "N-CR-T-CRMaxHyst");
    return 0;
 }
 
-int asn1PE_UMTS_T_CRMax(rtxContext* RT_RESTRICT ctx, const T_CRMax* RT_RESTRICT pvalue)
+int asn1PE_UMTS_N_CR_T_CRMaxHyst(rtxContext* RT_RESTRICT ctx, const N_CR_T_CRMaxHyst* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_N_CR_T_CRMaxHyst, pvalue);
+}
+
+static int enc_T_CRMax(rtxContext* RT_RESTRICT ctx, const T_CRMax* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "T-CRMax");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 5);
-   RT_CHECK(ctx, stat, 0, "t", -1, "T-CRMax");
-   if (pvalue->t - 1 > 5) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "T-CRMax");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "T-CRMax");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "T-CRMax");
+   if (pvalue->t - 1 > 5) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "T-CRMax");
    switch (pvalue->t) {
       case 1:
          break;
       case 2:
-         if (pvalue->u.t30 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "t30", -1, "T-CRMax");
-         stat = asn1PE_UMTS_N_CR_T_CRMaxHyst(ctx, pvalue->u.t30);
+         if (pvalue->u.t30 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "t30", -1, "T-CRMax");
+         stat = enc_N_CR_T_CRMaxHyst(ctx, pvalue->u.t30, cur);
          RT_CHECK(ctx, stat, 0, "t30", -1, "T-CRMax");
          break;
       case 3:
-         if (pvalue->u.t60 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "t60", -1, "T-CRMax");
-         stat = asn1PE_UMTS_N_CR_T_CRMaxHyst(ctx, pvalue->u.t60);
+         if (pvalue->u.t60 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "t60", -1, "T-CRMax");
+         stat = enc_N_CR_T_CRMaxHyst(ctx, pvalue->u.t60, cur);
          RT_CHECK(ctx, stat, 0, "t60", -1, "T-CRMax");
          break;
       case 4:
-         if (pvalue->u.t120 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "t120", -1, "T-CRMax");
-         stat = asn1PE_UMTS_N_CR_T_CRMaxHyst(ctx, pvalue->u.t120);
+         if (pvalue->u.t120 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "t120", -1, "T-CRMax");
+         stat = enc_N_CR_T_CRMaxHyst(ctx, pvalue->u.t120, cur);
          RT_CHECK(ctx, stat, 0, "t120", -1, "T-CRMax");
          break;
       case 5:
-         if (pvalue->u.t180 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "t180", -1, "T-CRMax");
-         stat = asn1PE_UMTS_N_CR_T_CRMaxHyst(ctx, pvalue->u.t180);
+         if (pvalue->u.t180 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "t180", -1, "T-CRMax");
+         stat = enc_N_CR_T_CRMaxHyst(ctx, pvalue->u.t180, cur);
          RT_CHECK(ctx, stat, 0, "t180", -1, "T-CRMax");
          break;
       case 6:
-         if (pvalue->u.t240 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "t240", -1, "T-CRMax");
-         stat = asn1PE_UMTS_N_CR_T_CRMaxHyst(ctx, pvalue->u.t240);
+         if (pvalue->u.t240 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "t240", -1, "T-CRMax");
+         stat = enc_N_CR_T_CRMaxHyst(ctx, pvalue->u.t240, cur);
          RT_CHECK(ctx, stat, 0, "t240", -1, "T-CRMax");
          break;
       default:
@@ -2368,163 +3247,198 @@ int asn1PE_UMTS_T_CRMax(rtxContext* RT_RESTRICT ctx, const T_CRMax* RT_RESTRICT 
    return 0;
 }
 
-int asn1PE_UMTS_HCS_ServingCellInformation(rtxContext* RT_RESTRICT ctx, const HCS_ServingCellInformation* RT_RESTRICT pvalue)
+int asn1PE_UMTS_T_CRMax(rtxContext* RT_RESTRICT ctx, const T_CRMax* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_T_CRMax, pvalue);
+}
+
+RT_MERGED_BODY int enc_HCS_ServingCellInformation(rtxContext* RT_RESTRICT ctx, const HCS_ServingCellInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HCS-ServingCellInformation");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HCS-ServingCellInformation");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->hcs_PRIO != 0) << 2) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->hcs_PRIO != 0) << 2) |
       ((uint64_t)(pvalue->q_HCS != 0) << 1) |
       ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HCS-ServingCellInformation");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "HCS-ServingCellInformation");
    /* hcs-PRIO */
    if (pvalue->hcs_PRIO != 0) {
       if ((uint64_t)pvalue->hcs_PRIO > 7u) {
          rtxErrAddStrParm(ctx, "HCS-PRIO");
          rtxErrAddUIntParm(ctx, pvalue->hcs_PRIO);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "HCS-PRIO", "hcs-PRIO", -1, "HCS-ServingCellInformation");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HCS-PRIO", "hcs-PRIO", -1, "HCS-ServingCellInformation");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->hcs_PRIO, 0, 7);
-      RT_CHECK(ctx, stat, "HCS-PRIO", "hcs-PRIO", -1, "HCS-ServingCellInformation");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->hcs_PRIO, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "HCS-PRIO", "hcs-PRIO", -1, "HCS-ServingCellInformation");
    }
    /* q-HCS */
    if (pvalue->q_HCS != 0) {
       if ((uint64_t)pvalue->q_HCS > 99u) {
          rtxErrAddStrParm(ctx, "Q-HCS");
          rtxErrAddUIntParm(ctx, pvalue->q_HCS);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-HCS", "q-HCS", -1, "HCS-ServingCellInformation");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-HCS", "q-HCS", -1, "HCS-ServingCellInformation");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->q_HCS, 0, 99);
-      RT_CHECK(ctx, stat, "Q-HCS", "q-HCS", -1, "HCS-ServingCellInformation");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->q_HCS, 0, 99);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-HCS", "q-HCS", -1, "HCS-ServingCellInformation");
    }
    /* t-CR-Max */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_T_CRMax(ctx, &pvalue->t_CR_Max);
+      stat = enc_T_CRMax(ctx, &pvalue->t_CR_Max, cur);
       RT_CHECK(ctx, stat, 0, "t-CR-Max", -1, "HCS-ServingCellInformation");
    }
    return 0;
 }
 
-int asn1PE_UMTS_MaxAllowedUL_TX_Power(rtxContext* RT_RESTRICT ctx, MaxAllowedUL_TX_Power value)
+int asn1PE_UMTS_HCS_ServingCellInformation(rtxContext* RT_RESTRICT ctx, const HCS_ServingCellInformation* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HCS_ServingCellInformation, pvalue);
+}
+
+RT_MERGED_BODY int enc_MaxAllowedUL_TX_Power(rtxContext* RT_RESTRICT ctx, MaxAllowedUL_TX_Power value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value < -50 || value > 33) {
       rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
       rtxErrAddIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MaxAllowedUL-TX-Power");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "MaxAllowedUL-TX-Power");
    }
-   stat = pe_ConsInt64(ctx, value, -50, 33);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxAllowedUL-TX-Power");
+   stat = pe_ConsInt64At(ctx, cur, value, -50, 33);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaxAllowedUL-TX-Power");
    return 0;
 }
 
-int asn1PE_UMTS_CellSelectReselectInfoSIB_3_4(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_3_4* RT_RESTRICT pvalue)
+int asn1PE_UMTS_MaxAllowedUL_TX_Power(rtxContext* RT_RESTRICT ctx, MaxAllowedUL_TX_Power value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MaxAllowedUL_TX_Power, value);
+}
+
+static int enc_CellSelectReselectInfoSIB_3_4(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_3_4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellSelectReselectInfoSIB-3-4");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellSelectReselectInfoSIB-3-4");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellSelectReselectInfoSIB-3-4");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CellSelectReselectInfoSIB-3-4");
    /* mappingInfo */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MappingInfo(ctx, &pvalue->mappingInfo);
+      stat = enc_MappingInfo(ctx, &pvalue->mappingInfo, cur);
       RT_CHECK(ctx, stat, 0, "mappingInfo", -1, "CellSelectReselectInfoSIB-3-4");
    }
    /* cellSelectQualityMeasure */
-   stat = asn1PE_UMTS_CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
+   stat = enc_CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure, cur);
    RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, "CellSelectReselectInfoSIB-3-4");
    /* modeSpecificInfo */
-   stat = asn1PE_UMTS_CellSelectReselectInfoSIB_3_4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   stat = enc_CellSelectReselectInfoSIB_3_4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
    RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellSelectReselectInfoSIB-3-4");
    /* q-Hyst-l-S */
    if ((uint64_t)pvalue->q_Hyst_l_S > 20u) {
       rtxErrAddStrParm(ctx, "Q-Hyst-S");
       rtxErrAddUIntParm(ctx, pvalue->q_Hyst_l_S);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-Hyst-S", "q-Hyst-l-S", -1, "CellSelectReselectInfoSIB-3-4");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-Hyst-S", "q-Hyst-l-S", -1, "CellSelectReselectInfoSIB-3-4");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->q_Hyst_l_S, 0, 20);
-   RT_CHECK(ctx, stat, "Q-Hyst-S", "q-Hyst-l-S", -1, "CellSelectReselectInfoSIB-3-4");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->q_Hyst_l_S, 0, 20);
+   RT_CHECK_PUT(ctx, cur, stat, "Q-Hyst-S", "q-Hyst-l-S", -1, "CellSelectReselectInfoSIB-3-4");
    /* t-Reselection-S */
    if ((uint64_t)pvalue->t_Reselection_S > 31u) {
       rtxErrAddStrParm(ctx, "T-Reselection-S");
       rtxErrAddUIntParm(ctx, pvalue->t_Reselection_S);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "T-Reselection-S", "t-Reselection-S", -1, "CellSelectReselectInfoSIB-3-4");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "T-Reselection-S", "t-Reselection-S", -1, "CellSelectReselectInfoSIB-3-4");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->t_Reselection_S, 0, 31);
-   RT_CHECK(ctx, stat, "T-Reselection-S", "t-Reselection-S", -1, "CellSelectReselectInfoSIB-3-4");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->t_Reselection_S, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, "T-Reselection-S", "t-Reselection-S", -1, "CellSelectReselectInfoSIB-3-4");
    /* hcs-ServingCellInformation */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_HCS_ServingCellInformation(ctx, &pvalue->hcs_ServingCellInformation);
+      stat = enc_HCS_ServingCellInformation(ctx, &pvalue->hcs_ServingCellInformation, cur);
       RT_CHECK(ctx, stat, 0, "hcs-ServingCellInformation", -1, "CellSelectReselectInfoSIB-3-4");
    }
    /* maxAllowedUL-TX-Power */
    if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
       rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
       rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-3-4");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-3-4");
    }
-   stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-   RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-3-4");
+   stat = pe_ConsInt64At(ctx, cur, pvalue->maxAllowedUL_TX_Power, -50, 33);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-3-4");
+   return 0;
+}
+
+int asn1PE_UMTS_CellSelectReselectInfoSIB_3_4(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_3_4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellSelectReselectInfoSIB_3_4, pvalue);
+}
+
+RT_MERGED_BODY int enc_AllowedIndicator(rtxContext* RT_RESTRICT ctx, AllowedIndicator value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "AllowedIndicator");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "AllowedIndicator");
    return 0;
 }
 
 int asn1PE_UMTS_AllowedIndicator(rtxContext* RT_RESTRICT ctx, AllowedIndicator value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_AllowedIndicator, value);
+}
+
+RT_MERGED_BODY int enc_T_Barred(rtxContext* RT_RESTRICT ctx, T_Barred value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 1) {
+   if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "AllowedIndicator");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "T-Barred");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AllowedIndicator");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "T-Barred");
    return 0;
 }
 
 int asn1PE_UMTS_T_Barred(rtxContext* RT_RESTRICT ctx, T_Barred value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_T_Barred, value);
+}
+
+RT_MERGED_BODY int enc_CellBarred_barred(rtxContext* RT_RESTRICT ctx, const CellBarred_barred* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-Barred");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* intraFreqCellReselectionInd */
+   if (pvalue->intraFreqCellReselectionInd > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->intraFreqCellReselectionInd);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "AllowedIndicator", "intraFreqCellReselectionInd", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-Barred");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->intraFreqCellReselectionInd, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "AllowedIndicator", "intraFreqCellReselectionInd", -1, 0);
+   /* t-Barred */
+   if (pvalue->t_Barred > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->t_Barred);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "T-Barred", "t-Barred", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->t_Barred, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "T-Barred", "t-Barred", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_CellBarred_barred(rtxContext* RT_RESTRICT ctx, const CellBarred_barred* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* intraFreqCellReselectionInd */
-   if (pvalue->intraFreqCellReselectionInd > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->intraFreqCellReselectionInd);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "AllowedIndicator", "intraFreqCellReselectionInd", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->intraFreqCellReselectionInd, 0, 1);
-   RT_CHECK(ctx, stat, "AllowedIndicator", "intraFreqCellReselectionInd", -1, 0);
-   /* t-Barred */
-   if (pvalue->t_Barred > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->t_Barred);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "T-Barred", "t-Barred", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->t_Barred, 0, 7);
-   RT_CHECK(ctx, stat, "T-Barred", "t-Barred", -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_CellBarred_barred, pvalue);
 }
 
-int asn1PE_UMTS_CellBarred(rtxContext* RT_RESTRICT ctx, const CellBarred* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_CellBarred(rtxContext* RT_RESTRICT ctx, const CellBarred* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellBarred");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "CellBarred");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "CellBarred");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellBarred");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "CellBarred");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "CellBarred");
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.barred == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "barred", -1, "CellBarred");
-         stat = asn1PE_UMTS_CellBarred_barred(ctx, pvalue->u.barred);
+         if (pvalue->u.barred == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "barred", -1, "CellBarred");
+         stat = enc_CellBarred_barred(ctx, pvalue->u.barred, cur);
          RT_CHECK(ctx, stat, 0, "barred", -1, "CellBarred");
          break;
       case 2:
@@ -2535,219 +3449,284 @@ int asn1PE_UMTS_CellBarred(rtxContext* RT_RESTRICT ctx, const CellBarred* RT_RES
    return 0;
 }
 
-int asn1PE_UMTS_ReservedIndicator(rtxContext* RT_RESTRICT ctx, ReservedIndicator value)
+int asn1PE_UMTS_CellBarred(rtxContext* RT_RESTRICT ctx, const CellBarred* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellBarred, pvalue);
+}
+
+RT_MERGED_BODY int enc_ReservedIndicator(rtxContext* RT_RESTRICT ctx, ReservedIndicator value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ReservedIndicator");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "ReservedIndicator");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ReservedIndicator");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ReservedIndicator");
+   return 0;
+}
+
+int asn1PE_UMTS_ReservedIndicator(rtxContext* RT_RESTRICT ctx, ReservedIndicator value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ReservedIndicator, value);
+}
+
+RT_MERGED_BODY int enc_AccessClassBarred(rtxContext* RT_RESTRICT ctx, AccessClassBarred value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "AccessClassBarred");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "AccessClassBarred");
    return 0;
 }
 
 int asn1PE_UMTS_AccessClassBarred(rtxContext* RT_RESTRICT ctx, AccessClassBarred value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_AccessClassBarred, value);
+}
+
+RT_MERGED_BODY int enc_AccessClassBarredList(rtxContext* RT_RESTRICT ctx, const AccessClassBarredList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "AccessClassBarred");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "AccessClassBarredList");
+   uint32_t i;
+   if (pvalue->n != 16) {
+      rtxErrAddStrParm(ctx, "AccessClassBarredList");
+      rtxErrAddUIntParm(ctx, pvalue->n);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "AccessClassBarredList");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AccessClassBarred");
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "AccessClassBarred", "AccessClassBarred", (int32_t)i, "AccessClassBarredList");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 1);
+      RT_CHECK_PUT(ctx, cur, stat, "AccessClassBarred", "AccessClassBarred", (int32_t)i, "AccessClassBarredList");
+   }
    return 0;
 }
 
 int asn1PE_UMTS_AccessClassBarredList(rtxContext* RT_RESTRICT ctx, const AccessClassBarredList* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_AccessClassBarredList, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellAccessRestriction(rtxContext* RT_RESTRICT ctx, const CellAccessRestriction* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AccessClassBarredList");
-   uint32_t i;
-   if (pvalue->n != 16) {
-      rtxErrAddStrParm(ctx, "AccessClassBarredList");
-      rtxErrAddUIntParm(ctx, pvalue->n);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "AccessClassBarredList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellAccessRestriction");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CellAccessRestriction");
+   /* cellBarred */
+   stat = enc_CellBarred(ctx, &pvalue->cellBarred, cur);
+   RT_CHECK(ctx, stat, 0, "cellBarred", -1, "CellAccessRestriction");
+   /* cellReservedForOperatorUse */
+   if (pvalue->cellReservedForOperatorUse > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cellReservedForOperatorUse);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ReservedIndicator", "cellReservedForOperatorUse", -1, "CellAccessRestriction");
    }
-   for (i = 0; i < pvalue->n; i++) {
-      if (pvalue->elem[i] > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "AccessClassBarred", "AccessClassBarred", (int32_t)i, "AccessClassBarredList");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 1);
-      RT_CHECK(ctx, stat, "AccessClassBarred", "AccessClassBarred", (int32_t)i, "AccessClassBarredList");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->cellReservedForOperatorUse, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "ReservedIndicator", "cellReservedForOperatorUse", -1, "CellAccessRestriction");
+   /* cellReservationExtension */
+   if (pvalue->cellReservationExtension > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cellReservationExtension);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ReservedIndicator", "cellReservationExtension", -1, "CellAccessRestriction");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->cellReservationExtension, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "ReservedIndicator", "cellReservationExtension", -1, "CellAccessRestriction");
+   /* accessClassBarredList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_AccessClassBarredList(ctx, &pvalue->accessClassBarredList, cur);
+      RT_CHECK(ctx, stat, 0, "accessClassBarredList", -1, "CellAccessRestriction");
    }
    return 0;
 }
 
 int asn1PE_UMTS_CellAccessRestriction(rtxContext* RT_RESTRICT ctx, const CellAccessRestriction* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_CellAccessRestriction, pvalue);
+}
+
+RT_MERGED_BODY int enc_Mapping_LCR_r4(rtxContext* RT_RESTRICT ctx, const Mapping_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellAccessRestriction");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellAccessRestriction");
-   /* cellBarred */
-   stat = asn1PE_UMTS_CellBarred(ctx, &pvalue->cellBarred);
-   RT_CHECK(ctx, stat, 0, "cellBarred", -1, "CellAccessRestriction");
-   /* cellReservedForOperatorUse */
-   if (pvalue->cellReservedForOperatorUse > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->cellReservedForOperatorUse);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ReservedIndicator", "cellReservedForOperatorUse", -1, "CellAccessRestriction");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cellReservedForOperatorUse, 0, 1);
-   RT_CHECK(ctx, stat, "ReservedIndicator", "cellReservedForOperatorUse", -1, "CellAccessRestriction");
-   /* cellReservationExtension */
-   if (pvalue->cellReservationExtension > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->cellReservationExtension);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ReservedIndicator", "cellReservationExtension", -1, "CellAccessRestriction");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cellReservationExtension, 0, 1);
-   RT_CHECK(ctx, stat, "ReservedIndicator", "cellReservationExtension", -1, "CellAccessRestriction");
-   /* accessClassBarredList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_AccessClassBarredList(ctx, &pvalue->accessClassBarredList);
-      RT_CHECK(ctx, stat, 0, "accessClassBarredList", -1, "CellAccessRestriction");
-   }
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Mapping-LCR-r4");
+   /* mappingFunctionParameterList */
+   stat = enc_MappingFunctionParameterList(ctx, &pvalue->mappingFunctionParameterList, cur);
+   RT_CHECK(ctx, stat, 0, "mappingFunctionParameterList", -1, "Mapping-LCR-r4");
    return 0;
 }
 
 int asn1PE_UMTS_Mapping_LCR_r4(rtxContext* RT_RESTRICT ctx, const Mapping_LCR_r4* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Mapping-LCR-r4");
-   /* mappingFunctionParameterList */
-   stat = asn1PE_UMTS_MappingFunctionParameterList(ctx, &pvalue->mappingFunctionParameterList);
-   RT_CHECK(ctx, stat, 0, "mappingFunctionParameterList", -1, "Mapping-LCR-r4");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_Mapping_LCR_r4, pvalue);
 }
 
-int asn1PE_UMTS_SysInfoType3_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0ext_IEs* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_SysInfoType3_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType3-v4b0ext-IEs");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType3-v4b0ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType3-v4b0ext-IEs");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType3-v4b0ext-IEs");
    /* mapping-LCR */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_Mapping_LCR_r4(ctx, &pvalue->mapping_LCR);
+      stat = enc_Mapping_LCR_r4(ctx, &pvalue->mapping_LCR, cur);
       RT_CHECK(ctx, stat, 0, "mapping-LCR", -1, "SysInfoType3-v4b0ext-IEs");
    }
    return 0;
 }
 
-int asn1PE_UMTS_DeltaQrxlevmin(rtxContext* RT_RESTRICT ctx, DeltaQrxlevmin value)
+int asn1PE_UMTS_SysInfoType3_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType3_v4b0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_DeltaQrxlevmin(rtxContext* RT_RESTRICT ctx, DeltaQrxlevmin value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value < -2 || value > -1) {
       rtxErrAddStrParm(ctx, "DeltaQrxlevmin");
       rtxErrAddIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DeltaQrxlevmin");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "DeltaQrxlevmin");
    }
-   stat = pe_ConsInt64(ctx, value, -2, -1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DeltaQrxlevmin");
+   stat = pe_ConsInt64At(ctx, cur, value, -2, -1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DeltaQrxlevmin");
    return 0;
 }
 
-int asn1PE_UMTS_DeltaRSCP(rtxContext* RT_RESTRICT ctx, DeltaRSCP value)
+int asn1PE_UMTS_DeltaQrxlevmin(rtxContext* RT_RESTRICT ctx, DeltaQrxlevmin value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DeltaQrxlevmin, value);
+}
+
+RT_MERGED_BODY int enc_DeltaRSCP(rtxContext* RT_RESTRICT ctx, DeltaRSCP value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value < -5 || value > -1) {
       rtxErrAddStrParm(ctx, "DeltaRSCP");
       rtxErrAddIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DeltaRSCP");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "DeltaRSCP");
    }
-   stat = pe_ConsInt64(ctx, value, -5, -1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DeltaRSCP");
+   stat = pe_ConsInt64At(ctx, cur, value, -5, -1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DeltaRSCP");
    return 0;
 }
 
-int asn1PE_UMTS_CellSelectReselectInfo_v590ext(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfo_v590ext* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DeltaRSCP(rtxContext* RT_RESTRICT ctx, DeltaRSCP value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DeltaRSCP, value);
+}
+
+RT_MERGED_BODY int enc_CellSelectReselectInfo_v590ext(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfo_v590ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellSelectReselectInfo-v590ext");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellSelectReselectInfo-v590ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellSelectReselectInfo-v590ext");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CellSelectReselectInfo-v590ext");
    /* deltaQrxlevmin */
    if (pvalue->m & 0x1u) {
       if (pvalue->deltaQrxlevmin < -2 || pvalue->deltaQrxlevmin > -1) {
          rtxErrAddStrParm(ctx, "DeltaQrxlevmin");
          rtxErrAddIntParm(ctx, pvalue->deltaQrxlevmin);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaQrxlevmin", "deltaQrxlevmin", -1, "CellSelectReselectInfo-v590ext");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DeltaQrxlevmin", "deltaQrxlevmin", -1, "CellSelectReselectInfo-v590ext");
       }
-      stat = pe_ConsInt64(ctx, pvalue->deltaQrxlevmin, -2, -1);
-      RT_CHECK(ctx, stat, "DeltaQrxlevmin", "deltaQrxlevmin", -1, "CellSelectReselectInfo-v590ext");
+      stat = pe_ConsInt64At(ctx, cur, pvalue->deltaQrxlevmin, -2, -1);
+      RT_CHECK_PUT(ctx, cur, stat, "DeltaQrxlevmin", "deltaQrxlevmin", -1, "CellSelectReselectInfo-v590ext");
    }
    /* deltaQhcs */
    if (pvalue->m & 0x2u) {
       if (pvalue->deltaQhcs < -5 || pvalue->deltaQhcs > -1) {
          rtxErrAddStrParm(ctx, "DeltaRSCP");
          rtxErrAddIntParm(ctx, pvalue->deltaQhcs);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaRSCP", "deltaQhcs", -1, "CellSelectReselectInfo-v590ext");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DeltaRSCP", "deltaQhcs", -1, "CellSelectReselectInfo-v590ext");
       }
-      stat = pe_ConsInt64(ctx, pvalue->deltaQhcs, -5, -1);
-      RT_CHECK(ctx, stat, "DeltaRSCP", "deltaQhcs", -1, "CellSelectReselectInfo-v590ext");
+      stat = pe_ConsInt64At(ctx, cur, pvalue->deltaQhcs, -5, -1);
+      RT_CHECK_PUT(ctx, cur, stat, "DeltaRSCP", "deltaQhcs", -1, "CellSelectReselectInfo-v590ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellSelectReselectInfo_v590ext(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfo_v590ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellSelectReselectInfo_v590ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType3_v590ext(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v590ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType3-v590ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType3-v590ext");
+   /* cellSelectReselectInfo-v590ext */
+   if (pvalue->m & 0x1u) {
+      stat = enc_CellSelectReselectInfo_v590ext(ctx, &pvalue->cellSelectReselectInfo_v590ext, cur);
+      RT_CHECK(ctx, stat, 0, "cellSelectReselectInfo-v590ext", -1, "SysInfoType3-v590ext");
    }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType3_v590ext(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v590ext* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType3-v590ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType3-v590ext");
-   /* cellSelectReselectInfo-v590ext */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellSelectReselectInfo_v590ext(ctx, &pvalue->cellSelectReselectInfo_v590ext);
-      RT_CHECK(ctx, stat, 0, "cellSelectReselectInfo-v590ext", -1, "SysInfoType3-v590ext");
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType3_v590ext, pvalue);
 }
 
-int asn1PE_UMTS_SpeedDependentScalingFactor(rtxContext* RT_RESTRICT ctx, SpeedDependentScalingFactor value)
+RT_MERGED_BODY int enc_SpeedDependentScalingFactor(rtxContext* RT_RESTRICT ctx, SpeedDependentScalingFactor value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)value > 10u) {
       rtxErrAddStrParm(ctx, "SpeedDependentScalingFactor");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "SpeedDependentScalingFactor");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "SpeedDependentScalingFactor");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 10);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SpeedDependentScalingFactor");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 10);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SpeedDependentScalingFactor");
    return 0;
 }
 
-int asn1PE_UMTS_TreselectionScalingFactor(rtxContext* RT_RESTRICT ctx, TreselectionScalingFactor value)
+int asn1PE_UMTS_SpeedDependentScalingFactor(rtxContext* RT_RESTRICT ctx, SpeedDependentScalingFactor value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SpeedDependentScalingFactor, value);
+}
+
+RT_MERGED_BODY int enc_TreselectionScalingFactor(rtxContext* RT_RESTRICT ctx, TreselectionScalingFactor value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)(value - 4) > 15u) {
       rtxErrAddStrParm(ctx, "TreselectionScalingFactor");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TreselectionScalingFactor");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "TreselectionScalingFactor");
    }
-   stat = pe_ConsUInt64(ctx, value, 4, 19);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TreselectionScalingFactor");
+   stat = pe_ConsUInt64At(ctx, cur, value, 4, 19);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TreselectionScalingFactor");
    return 0;
 }
 
-int asn1PE_UMTS_CellSelectReselectInfoTreselectionScaling_v5c0ext(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoTreselectionScaling_v5c0ext* RT_RESTRICT pvalue)
+int asn1PE_UMTS_TreselectionScalingFactor(rtxContext* RT_RESTRICT ctx, TreselectionScalingFactor value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TreselectionScalingFactor, value);
+}
+
+RT_MERGED_BODY int enc_CellSelectReselectInfoTreselectionScaling_v5c0ext(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoTreselectionScaling_v5c0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellSelectReselectInfoTreselectionScaling-v5c0ext");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellSelectReselectInfoTreselectionScaling-v5c0ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellSelectReselectInfoTreselectionScaling-v5c0ext");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CellSelectReselectInfoTreselectionScaling-v5c0ext");
    /* non-HCS-t-CR-Max */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_T_CRMax(ctx, &pvalue->non_HCS_t_CR_Max);
+      stat = enc_T_CRMax(ctx, &pvalue->non_HCS_t_CR_Max, cur);
       RT_CHECK(ctx, stat, 0, "non-HCS-t-CR-Max", -1, "CellSelectReselectInfoTreselectionScaling-v5c0ext");
    }
    /* speedDependentScalingFactor */
@@ -2755,77 +3734,92 @@ int asn1PE_UMTS_CellSelectReselectInfoTreselectionScaling_v5c0ext(rtxContext* RT
       if ((uint64_t)pvalue->speedDependentScalingFactor > 10u) {
          rtxErrAddStrParm(ctx, "SpeedDependentScalingFactor");
          rtxErrAddUIntParm(ctx, pvalue->speedDependentScalingFactor);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "SpeedDependentScalingFactor", "speedDependentScalingFactor", -1, "CellSelectReselectInfoTreselectionScaling-v5c0ext");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SpeedDependentScalingFactor", "speedDependentScalingFactor", -1, "CellSelectReselectInfoTreselectionScaling-v5c0ext");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->speedDependentScalingFactor, 0, 10);
-      RT_CHECK(ctx, stat, "SpeedDependentScalingFactor", "speedDependentScalingFactor", -1, "CellSelectReselectInfoTreselectionScaling-v5c0ext");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->speedDependentScalingFactor, 0, 10);
+      RT_CHECK_PUT(ctx, cur, stat, "SpeedDependentScalingFactor", "speedDependentScalingFactor", -1, "CellSelectReselectInfoTreselectionScaling-v5c0ext");
    }
    /* interFrequencyTreselectionScalingFactor */
    if (pvalue->m & 0x4u) {
       if ((uint64_t)(pvalue->interFrequencyTreselectionScalingFactor - 4) > 15u) {
          rtxErrAddStrParm(ctx, "TreselectionScalingFactor");
          rtxErrAddUIntParm(ctx, pvalue->interFrequencyTreselectionScalingFactor);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TreselectionScalingFactor", "interFrequencyTreselectionScalingFactor", -1, "CellSelectReselectInfoTreselectionScaling-v5c0ext");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TreselectionScalingFactor", "interFrequencyTreselectionScalingFactor", -1, "CellSelectReselectInfoTreselectionScaling-v5c0ext");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->interFrequencyTreselectionScalingFactor, 4, 19);
-      RT_CHECK(ctx, stat, "TreselectionScalingFactor", "interFrequencyTreselectionScalingFactor", -1, "CellSelectReselectInfoTreselectionScaling-v5c0ext");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->interFrequencyTreselectionScalingFactor, 4, 19);
+      RT_CHECK_PUT(ctx, cur, stat, "TreselectionScalingFactor", "interFrequencyTreselectionScalingFactor", -1, "CellSelectReselectInfoTreselectionScaling-v5c0ext");
    }
    /* interRATTreselectionScalingFactor */
    if (pvalue->m & 0x8u) {
       if ((uint64_t)(pvalue->interRATTreselectionScalingFactor - 4) > 15u) {
          rtxErrAddStrParm(ctx, "TreselectionScalingFactor");
          rtxErrAddUIntParm(ctx, pvalue->interRATTreselectionScalingFactor);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TreselectionScalingFactor", "interRATTreselectionScalingFactor", -1, "CellSelectReselectInfoTreselectionScaling-v5c0ext");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TreselectionScalingFactor", "interRATTreselectionScalingFactor", -1, "CellSelectReselectInfoTreselectionScaling-v5c0ext");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->interRATTreselectionScalingFactor, 4, 19);
-      RT_CHECK(ctx, stat, "TreselectionScalingFactor", "interRATTreselectionScalingFactor", -1, "CellSelectReselectInfoTreselectionScaling-v5c0ext");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->interRATTreselectionScalingFactor, 4, 19);
+      RT_CHECK_PUT(ctx, cur, stat, "TreselectionScalingFactor", "interRATTreselectionScalingFactor", -1, "CellSelectReselectInfoTreselectionScaling-v5c0ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellSelectReselectInfoTreselectionScaling_v5c0ext(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoTreselectionScaling_v5c0ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellSelectReselectInfoTreselectionScaling_v5c0ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType3_v5c0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v5c0ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType3-v5c0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType3-v5c0ext-IEs");
+   /* cellSelectReselectInfoTreselectionScaling-v5c0ext */
+   if (pvalue->m & 0x1u) {
+      stat = enc_CellSelectReselectInfoTreselectionScaling_v5c0ext(ctx, &pvalue->cellSelectReselectInfoTreselectionScaling_v5c0ext, cur);
+      RT_CHECK(ctx, stat, 0, "cellSelectReselectInfoTreselectionScaling-v5c0ext", -1, "SysInfoType3-v5c0ext-IEs");
    }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType3_v5c0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v5c0ext_IEs* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType3_v5c0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_DomainSpecificAccessRestriction_v670ext_restriction(rtxContext* RT_RESTRICT ctx, const DomainSpecificAccessRestriction_v670ext_restriction* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType3-v5c0ext-IEs");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType3-v5c0ext-IEs");
-   /* cellSelectReselectInfoTreselectionScaling-v5c0ext */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* domainSpecficAccessClassBarredList */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellSelectReselectInfoTreselectionScaling_v5c0ext(ctx, &pvalue->cellSelectReselectInfoTreselectionScaling_v5c0ext);
-      RT_CHECK(ctx, stat, 0, "cellSelectReselectInfoTreselectionScaling-v5c0ext", -1, "SysInfoType3-v5c0ext-IEs");
+      stat = enc_AccessClassBarredList(ctx, &pvalue->domainSpecficAccessClassBarredList, cur);
+      RT_CHECK(ctx, stat, 0, "domainSpecficAccessClassBarredList", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_DomainSpecificAccessRestriction_v670ext_restriction(rtxContext* RT_RESTRICT ctx, const DomainSpecificAccessRestriction_v670ext_restriction* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* domainSpecficAccessClassBarredList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_AccessClassBarredList(ctx, &pvalue->domainSpecficAccessClassBarredList);
-      RT_CHECK(ctx, stat, 0, "domainSpecficAccessClassBarredList", -1, 0);
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_DomainSpecificAccessRestriction_v670ext_restriction, pvalue);
 }
 
-int asn1PE_UMTS_DomainSpecificAccessRestriction_v670ext(rtxContext* RT_RESTRICT ctx, const DomainSpecificAccessRestriction_v670ext* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_DomainSpecificAccessRestriction_v670ext(rtxContext* RT_RESTRICT ctx, const DomainSpecificAccessRestriction_v670ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DomainSpecificAccessRestriction-v670ext");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "DomainSpecificAccessRestriction-v670ext");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DomainSpecificAccessRestriction-v670ext");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DomainSpecificAccessRestriction-v670ext");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "DomainSpecificAccessRestriction-v670ext");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "DomainSpecificAccessRestriction-v670ext");
    switch (pvalue->t) {
       case 1:
          break;
       case 2:
-         if (pvalue->u.restriction == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "restriction", -1, "DomainSpecificAccessRestriction-v670ext");
-         stat = asn1PE_UMTS_DomainSpecificAccessRestriction_v670ext_restriction(ctx, pvalue->u.restriction);
+         if (pvalue->u.restriction == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "restriction", -1, "DomainSpecificAccessRestriction-v670ext");
+         stat = enc_DomainSpecificAccessRestriction_v670ext_restriction(ctx, pvalue->u.restriction, cur);
          RT_CHECK(ctx, stat, 0, "restriction", -1, "DomainSpecificAccessRestriction-v670ext");
          break;
       default:
@@ -2834,74 +3828,89 @@ int asn1PE_UMTS_DomainSpecificAccessRestriction_v670ext(rtxContext* RT_RESTRICT 
    return 0;
 }
 
-int asn1PE_UMTS_DomainSpecificAccessRestrictionParam_v670ext(rtxContext* RT_RESTRICT ctx, const DomainSpecificAccessRestrictionParam_v670ext* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DomainSpecificAccessRestriction_v670ext(rtxContext* RT_RESTRICT ctx, const DomainSpecificAccessRestriction_v670ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DomainSpecificAccessRestriction_v670ext, pvalue);
+}
+
+static int enc_DomainSpecificAccessRestrictionParam_v670ext(rtxContext* RT_RESTRICT ctx, const DomainSpecificAccessRestrictionParam_v670ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DomainSpecificAccessRestrictionParam-v670ext");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DomainSpecificAccessRestrictionParam-v670ext");
    /* cSDomainSpecificAccessRestriction */
-   stat = asn1PE_UMTS_DomainSpecificAccessRestriction_v670ext(ctx, &pvalue->cSDomainSpecificAccessRestriction);
+   stat = enc_DomainSpecificAccessRestriction_v670ext(ctx, &pvalue->cSDomainSpecificAccessRestriction, cur);
    RT_CHECK(ctx, stat, 0, "cSDomainSpecificAccessRestriction", -1, "DomainSpecificAccessRestrictionParam-v670ext");
    /* pSDomainSpecificAccessRestriction */
-   stat = asn1PE_UMTS_DomainSpecificAccessRestriction_v670ext(ctx, &pvalue->pSDomainSpecificAccessRestriction);
+   stat = enc_DomainSpecificAccessRestriction_v670ext(ctx, &pvalue->pSDomainSpecificAccessRestriction, cur);
    RT_CHECK(ctx, stat, 0, "pSDomainSpecificAccessRestriction", -1, "DomainSpecificAccessRestrictionParam-v670ext");
    return 0;
 }
 
-int asn1PE_UMTS_DomainSpecificAccessRestrictionList_v670ext(rtxContext* RT_RESTRICT ctx, const DomainSpecificAccessRestrictionList_v670ext* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DomainSpecificAccessRestrictionParam_v670ext(rtxContext* RT_RESTRICT ctx, const DomainSpecificAccessRestrictionParam_v670ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DomainSpecificAccessRestrictionParam_v670ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_DomainSpecificAccessRestrictionList_v670ext(rtxContext* RT_RESTRICT ctx, const DomainSpecificAccessRestrictionList_v670ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DomainSpecificAccessRestrictionList-v670ext");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DomainSpecificAccessRestrictionList-v670ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DomainSpecificAccessRestrictionList-v670ext");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DomainSpecificAccessRestrictionList-v670ext");
    /* domainSpecificAccessRestrictionParametersForOperator1 */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DomainSpecificAccessRestrictionParam_v670ext(ctx, &pvalue->domainSpecificAccessRestrictionParametersForOperator1);
+      stat = enc_DomainSpecificAccessRestrictionParam_v670ext(ctx, &pvalue->domainSpecificAccessRestrictionParametersForOperator1, cur);
       RT_CHECK(ctx, stat, 0, "domainSpecificAccessRestrictionParametersForOperator1", -1, "DomainSpecificAccessRestrictionList-v670ext");
    }
    /* domainSpecificAccessRestrictionParametersForOperator2 */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DomainSpecificAccessRestrictionParam_v670ext(ctx, &pvalue->domainSpecificAccessRestrictionParametersForOperator2);
+      stat = enc_DomainSpecificAccessRestrictionParam_v670ext(ctx, &pvalue->domainSpecificAccessRestrictionParametersForOperator2, cur);
       RT_CHECK(ctx, stat, 0, "domainSpecificAccessRestrictionParametersForOperator2", -1, "DomainSpecificAccessRestrictionList-v670ext");
    }
    /* domainSpecificAccessRestrictionParametersForOperator3 */
    if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_DomainSpecificAccessRestrictionParam_v670ext(ctx, &pvalue->domainSpecificAccessRestrictionParametersForOperator3);
+      stat = enc_DomainSpecificAccessRestrictionParam_v670ext(ctx, &pvalue->domainSpecificAccessRestrictionParametersForOperator3, cur);
       RT_CHECK(ctx, stat, 0, "domainSpecificAccessRestrictionParametersForOperator3", -1, "DomainSpecificAccessRestrictionList-v670ext");
    }
    /* domainSpecificAccessRestrictionParametersForOperator4 */
    if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_DomainSpecificAccessRestrictionParam_v670ext(ctx, &pvalue->domainSpecificAccessRestrictionParametersForOperator4);
+      stat = enc_DomainSpecificAccessRestrictionParam_v670ext(ctx, &pvalue->domainSpecificAccessRestrictionParametersForOperator4, cur);
       RT_CHECK(ctx, stat, 0, "domainSpecificAccessRestrictionParametersForOperator4", -1, "DomainSpecificAccessRestrictionList-v670ext");
    }
    /* domainSpecificAccessRestrictionParametersForOperator5 */
    if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_DomainSpecificAccessRestrictionParam_v670ext(ctx, &pvalue->domainSpecificAccessRestrictionParametersForOperator5);
+      stat = enc_DomainSpecificAccessRestrictionParam_v670ext(ctx, &pvalue->domainSpecificAccessRestrictionParametersForOperator5, cur);
       RT_CHECK(ctx, stat, 0, "domainSpecificAccessRestrictionParametersForOperator5", -1, "DomainSpecificAccessRestrictionList-v670ext");
    }
    return 0;
 }
 
-int asn1PE_UMTS_DomainSpecificAccessRestrictionForSharedNetwork_v670ext(rtxContext* RT_RESTRICT ctx, const DomainSpecificAccessRestrictionForSharedNetwork_v670ext* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DomainSpecificAccessRestrictionList_v670ext(rtxContext* RT_RESTRICT ctx, const DomainSpecificAccessRestrictionList_v670ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DomainSpecificAccessRestrictionList_v670ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_DomainSpecificAccessRestrictionForSharedNetwork_v670ext(rtxContext* RT_RESTRICT ctx, const DomainSpecificAccessRestrictionForSharedNetwork_v670ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DomainSpecificAccessRestrictionForSharedNetwork-v670ext");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "DomainSpecificAccessRestrictionForSharedNetwork-v670ext");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DomainSpecificAccessRestrictionForSharedNetwork-v670ext");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DomainSpecificAccessRestrictionForSharedNetwork-v670ext");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "DomainSpecificAccessRestrictionForSharedNetwork-v670ext");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "DomainSpecificAccessRestrictionForSharedNetwork-v670ext");
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.domainSpecificAccessRestictionList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "domainSpecificAccessRestictionList", -1, "DomainSpecificAccessRestrictionForSharedNetwork-v670ext");
-         stat = asn1PE_UMTS_DomainSpecificAccessRestrictionList_v670ext(ctx, pvalue->u.domainSpecificAccessRestictionList);
+         if (pvalue->u.domainSpecificAccessRestictionList == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "domainSpecificAccessRestictionList", -1, "DomainSpecificAccessRestrictionForSharedNetwork-v670ext");
+         stat = enc_DomainSpecificAccessRestrictionList_v670ext(ctx, pvalue->u.domainSpecificAccessRestictionList, cur);
          RT_CHECK(ctx, stat, 0, "domainSpecificAccessRestictionList", -1, "DomainSpecificAccessRestrictionForSharedNetwork-v670ext");
          break;
       case 2:
-         if (pvalue->u.domainSpecificAccessRestictionParametersForAll == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "domainSpecificAccessRestictionParametersForAll", -1, "DomainSpecificAccessRestrictionForSharedNetwork-v670ext");
-         stat = asn1PE_UMTS_DomainSpecificAccessRestrictionParam_v670ext(ctx, pvalue->u.domainSpecificAccessRestictionParametersForAll);
+         if (pvalue->u.domainSpecificAccessRestictionParametersForAll == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "domainSpecificAccessRestictionParametersForAll", -1, "DomainSpecificAccessRestrictionForSharedNetwork-v670ext");
+         stat = enc_DomainSpecificAccessRestrictionParam_v670ext(ctx, pvalue->u.domainSpecificAccessRestictionParametersForAll, cur);
          RT_CHECK(ctx, stat, 0, "domainSpecificAccessRestictionParametersForAll", -1, "DomainSpecificAccessRestrictionForSharedNetwork-v670ext");
          break;
       default:
@@ -2910,110 +3919,145 @@ int asn1PE_UMTS_DomainSpecificAccessRestrictionForSharedNetwork_v670ext(rtxConte
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType3_v670ext(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v670ext* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DomainSpecificAccessRestrictionForSharedNetwork_v670ext(rtxContext* RT_RESTRICT ctx, const DomainSpecificAccessRestrictionForSharedNetwork_v670ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DomainSpecificAccessRestrictionForSharedNetwork_v670ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType3_v670ext(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v670ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType3-v670ext");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType3-v670ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType3-v670ext");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType3-v670ext");
    /* domainSpecificAccessRestrictionParametersForPLMNOfMIB */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DomainSpecificAccessRestrictionParam_v670ext(ctx, &pvalue->domainSpecificAccessRestrictionParametersForPLMNOfMIB);
+      stat = enc_DomainSpecificAccessRestrictionParam_v670ext(ctx, &pvalue->domainSpecificAccessRestrictionParametersForPLMNOfMIB, cur);
       RT_CHECK(ctx, stat, 0, "domainSpecificAccessRestrictionParametersForPLMNOfMIB", -1, "SysInfoType3-v670ext");
    }
    /* domainSpecificAccessRestictionForSharedNetwork */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DomainSpecificAccessRestrictionForSharedNetwork_v670ext(ctx, &pvalue->domainSpecificAccessRestictionForSharedNetwork);
+      stat = enc_DomainSpecificAccessRestrictionForSharedNetwork_v670ext(ctx, &pvalue->domainSpecificAccessRestictionForSharedNetwork, cur);
       RT_CHECK(ctx, stat, 0, "domainSpecificAccessRestictionForSharedNetwork", -1, "SysInfoType3-v670ext");
    }
    return 0;
 }
 
-int asn1PE_UMTS_IntraFreqMeasQuantity_FDD_sib3(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_FDD_sib3 value)
+int asn1PE_UMTS_SysInfoType3_v670ext(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v670ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType3_v670ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFreqMeasQuantity_FDD_sib3(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_FDD_sib3 value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "IntraFreqMeasQuantity-FDD-sib3");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "IntraFreqMeasQuantity-FDD-sib3");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasQuantity-FDD-sib3");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqMeasQuantity-FDD-sib3");
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqMeasQuantity_FDD_sib3(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_FDD_sib3 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqMeasQuantity_FDD_sib3, value);
+}
+
+RT_MERGED_BODY int enc_DeferredMeasurementControlReadingSupport_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DeferredMeasurementControlReadingSupport_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* intraFreqMeasQuantity-FDD */
+   if (pvalue->intraFreqMeasQuantity_FDD > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->intraFreqMeasQuantity_FDD);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "IntraFreqMeasQuantity-FDD-sib3", "intraFreqMeasQuantity-FDD", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->intraFreqMeasQuantity_FDD, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "IntraFreqMeasQuantity-FDD-sib3", "intraFreqMeasQuantity-FDD", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_DeferredMeasurementControlReadingSupport_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DeferredMeasurementControlReadingSupport_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_DeferredMeasurementControlReadingSupport_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFreqMeasQuantity_TDD_sib3List_element(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_TDD_sib3List_element value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* intraFreqMeasQuantity-FDD */
-   if (pvalue->intraFreqMeasQuantity_FDD > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->intraFreqMeasQuantity_FDD);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "IntraFreqMeasQuantity-FDD-sib3", "intraFreqMeasQuantity-FDD", -1, 0);
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, pvalue->intraFreqMeasQuantity_FDD, 0, 1);
-   RT_CHECK(ctx, stat, "IntraFreqMeasQuantity-FDD-sib3", "intraFreqMeasQuantity-FDD", -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_IntraFreqMeasQuantity_TDD_sib3List_element(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_TDD_sib3List_element value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqMeasQuantity_TDD_sib3List_element, value);
+}
+
+RT_MERGED_BODY int enc_IntraFreqMeasQuantity_TDD_sib3List(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasQuantity_TDD_sib3List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqMeasQuantity-TDD-sib3List");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 2);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqMeasQuantity-TDD-sib3List");
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "element", (int32_t)i, "IntraFreqMeasQuantity-TDD-sib3List");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 1);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "element", (int32_t)i, "IntraFreqMeasQuantity-TDD-sib3List");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_IntraFreqMeasQuantity_TDD_sib3List(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasQuantity_TDD_sib3List* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqMeasQuantity_TDD_sib3List, pvalue);
+}
+
+RT_MERGED_BODY int enc_DeferredMeasurementControlReadingSupport_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DeferredMeasurementControlReadingSupport_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqMeasQuantity-TDD-sib3List");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 2);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "IntraFreqMeasQuantity-TDD-sib3List");
-   for (i = 0; i < pvalue->n; i++) {
-      if (pvalue->elem[i] > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "element", (int32_t)i, "IntraFreqMeasQuantity-TDD-sib3List");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 1);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "IntraFreqMeasQuantity-TDD-sib3List");
-   }
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* intraFreqMeasQuantity-TDDList */
+   stat = enc_IntraFreqMeasQuantity_TDD_sib3List(ctx, &pvalue->intraFreqMeasQuantity_TDDList, cur);
+   RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity-TDDList", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_DeferredMeasurementControlReadingSupport_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DeferredMeasurementControlReadingSupport_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* intraFreqMeasQuantity-TDDList */
-   stat = asn1PE_UMTS_IntraFreqMeasQuantity_TDD_sib3List(ctx, &pvalue->intraFreqMeasQuantity_TDDList);
-   RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity-TDDList", -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_DeferredMeasurementControlReadingSupport_modeSpecificInfo_tdd, pvalue);
 }
 
-int asn1PE_UMTS_DeferredMeasurementControlReadingSupport_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DeferredMeasurementControlReadingSupport_modeSpecificInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_DeferredMeasurementControlReadingSupport_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DeferredMeasurementControlReadingSupport_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_DeferredMeasurementControlReadingSupport_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_DeferredMeasurementControlReadingSupport_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
          RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_DeferredMeasurementControlReadingSupport_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_DeferredMeasurementControlReadingSupport_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
          RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
@@ -3022,72 +4066,97 @@ int asn1PE_UMTS_DeferredMeasurementControlReadingSupport_modeSpecificInfo(rtxCon
    return 0;
 }
 
-int asn1PE_UMTS_DeferredMeasurementControlReadingSupport(rtxContext* RT_RESTRICT ctx, const DeferredMeasurementControlReadingSupport* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DeferredMeasurementControlReadingSupport_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DeferredMeasurementControlReadingSupport_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DeferredMeasurementControlReadingSupport_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_DeferredMeasurementControlReadingSupport(rtxContext* RT_RESTRICT ctx, const DeferredMeasurementControlReadingSupport* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DeferredMeasurementControlReadingSupport");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DeferredMeasurementControlReadingSupport");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DeferredMeasurementControlReadingSupport");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DeferredMeasurementControlReadingSupport");
    /* modeSpecificInfo */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DeferredMeasurementControlReadingSupport_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+      stat = enc_DeferredMeasurementControlReadingSupport_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
       RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DeferredMeasurementControlReadingSupport");
    }
    return 0;
 }
 
-int asn1PE_UMTS_Q_QualMin_Offset(rtxContext* RT_RESTRICT ctx, Q_QualMin_Offset value)
+int asn1PE_UMTS_DeferredMeasurementControlReadingSupport(rtxContext* RT_RESTRICT ctx, const DeferredMeasurementControlReadingSupport* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DeferredMeasurementControlReadingSupport, pvalue);
+}
+
+RT_MERGED_BODY int enc_Q_QualMin_Offset(rtxContext* RT_RESTRICT ctx, Q_QualMin_Offset value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)(value - 1) > 15u) {
       rtxErrAddStrParm(ctx, "Q-QualMin-Offset");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "Q-QualMin-Offset");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "Q-QualMin-Offset");
    }
-   stat = pe_ConsUInt64(ctx, value, 1, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Q-QualMin-Offset");
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Q-QualMin-Offset");
    return 0;
 }
 
-int asn1PE_UMTS_Q_RxlevMin_Offset(rtxContext* RT_RESTRICT ctx, Q_RxlevMin_Offset value)
+int asn1PE_UMTS_Q_QualMin_Offset(rtxContext* RT_RESTRICT ctx, Q_QualMin_Offset value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Q_QualMin_Offset, value);
+}
+
+RT_MERGED_BODY int enc_Q_RxlevMin_Offset(rtxContext* RT_RESTRICT ctx, Q_RxlevMin_Offset value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)(value - 1) > 7u) {
       rtxErrAddStrParm(ctx, "Q-RxlevMin-Offset");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "Q-RxlevMin-Offset");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "Q-RxlevMin-Offset");
    }
-   stat = pe_ConsUInt64(ctx, value, 1, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Q-RxlevMin-Offset");
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Q-RxlevMin-Offset");
+   return 0;
+}
+
+int asn1PE_UMTS_Q_RxlevMin_Offset(rtxContext* RT_RESTRICT ctx, Q_RxlevMin_Offset value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Q_RxlevMin_Offset, value);
+}
+
+RT_MERGED_BODY int enc_MBSFNOnlyService(rtxContext* RT_RESTRICT ctx, MBSFNOnlyService value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MBSFNOnlyService");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MBSFNOnlyService");
    return 0;
 }
 
 int asn1PE_UMTS_MBSFNOnlyService(rtxContext* RT_RESTRICT ctx, MBSFNOnlyService value)
 {
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MBSFNOnlyService");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBSFNOnlyService");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_MBSFNOnlyService, value);
 }
 
-int asn1PE_UMTS_SysInfoType3_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v770ext_IEs* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_SysInfoType3_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v770ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType3-v770ext-IEs");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType3-v770ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType3-v770ext-IEs");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType3-v770ext-IEs");
    /* deferredMeasurementControlReadingSupport */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DeferredMeasurementControlReadingSupport(ctx, &pvalue->deferredMeasurementControlReadingSupport);
+      stat = enc_DeferredMeasurementControlReadingSupport(ctx, &pvalue->deferredMeasurementControlReadingSupport, cur);
       RT_CHECK(ctx, stat, 0, "deferredMeasurementControlReadingSupport", -1, "SysInfoType3-v770ext-IEs");
    }
    /* q-QualMin-Offset */
@@ -3095,91 +4164,111 @@ int asn1PE_UMTS_SysInfoType3_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const SysI
       if ((uint64_t)(pvalue->q_QualMin_Offset - 1) > 15u) {
          rtxErrAddStrParm(ctx, "Q-QualMin-Offset");
          rtxErrAddUIntParm(ctx, pvalue->q_QualMin_Offset);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-QualMin-Offset", "q-QualMin-Offset", -1, "SysInfoType3-v770ext-IEs");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-QualMin-Offset", "q-QualMin-Offset", -1, "SysInfoType3-v770ext-IEs");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->q_QualMin_Offset, 1, 16);
-      RT_CHECK(ctx, stat, "Q-QualMin-Offset", "q-QualMin-Offset", -1, "SysInfoType3-v770ext-IEs");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->q_QualMin_Offset, 1, 16);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-QualMin-Offset", "q-QualMin-Offset", -1, "SysInfoType3-v770ext-IEs");
    }
    /* q-RxlevMin-Offset */
    if (pvalue->m & 0x4u) {
       if ((uint64_t)(pvalue->q_RxlevMin_Offset - 1) > 7u) {
          rtxErrAddStrParm(ctx, "Q-RxlevMin-Offset");
          rtxErrAddUIntParm(ctx, pvalue->q_RxlevMin_Offset);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-RxlevMin-Offset", "q-RxlevMin-Offset", -1, "SysInfoType3-v770ext-IEs");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-RxlevMin-Offset", "q-RxlevMin-Offset", -1, "SysInfoType3-v770ext-IEs");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->q_RxlevMin_Offset, 1, 8);
-      RT_CHECK(ctx, stat, "Q-RxlevMin-Offset", "q-RxlevMin-Offset", -1, "SysInfoType3-v770ext-IEs");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->q_RxlevMin_Offset, 1, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-RxlevMin-Offset", "q-RxlevMin-Offset", -1, "SysInfoType3-v770ext-IEs");
    }
    /* mbsfnOnlyService */
    if (pvalue->m & 0x8u) {
       if (pvalue->mbsfnOnlyService > 0) {
          rtxErrAddUIntParm(ctx, pvalue->mbsfnOnlyService);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "MBSFNOnlyService", "mbsfnOnlyService", -1, "SysInfoType3-v770ext-IEs");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MBSFNOnlyService", "mbsfnOnlyService", -1, "SysInfoType3-v770ext-IEs");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->mbsfnOnlyService, 0, 0);
-      RT_CHECK(ctx, stat, "MBSFNOnlyService", "mbsfnOnlyService", -1, "SysInfoType3-v770ext-IEs");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->mbsfnOnlyService, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, "MBSFNOnlyService", "mbsfnOnlyService", -1, "SysInfoType3-v770ext-IEs");
    }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType3_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType3_v770ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_PagingPermissionWithAccessControlParameters_pagingResponseRestrictionIndicator(rtxContext* RT_RESTRICT ctx, PagingPermissionWithAccessControlParameters_pagingResponseRestrictionIndicator value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_PagingPermissionWithAccessControlParameters_pagingResponseRestrictionIndicator(rtxContext* RT_RESTRICT ctx, PagingPermissionWithAccessControlParameters_pagingResponseRestrictionIndicator value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_PagingPermissionWithAccessControlParameters_pagingResponseRestrictionIndicator, value);
+}
+
+RT_MERGED_BODY int enc_PagingPermissionWithAccessControlParameters_locationRegistrationRestrictionIndicator(rtxContext* RT_RESTRICT ctx, PagingPermissionWithAccessControlParameters_locationRegistrationRestrictionIndicator value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 3) {
+   if (value > 2) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_PagingPermissionWithAccessControlParameters_locationRegistrationRestrictionIndicator(rtxContext* RT_RESTRICT ctx, PagingPermissionWithAccessControlParameters_locationRegistrationRestrictionIndicator value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_PagingPermissionWithAccessControlParameters_locationRegistrationRestrictionIndicator, value);
+}
+
+RT_MERGED_BODY int enc_LocationRegistrationAccessClassBarredList(rtxContext* RT_RESTRICT ctx, const LocationRegistrationAccessClassBarredList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 2) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "LocationRegistrationAccessClassBarredList");
+   uint32_t i;
+   if (pvalue->n != 15) {
+      rtxErrAddStrParm(ctx, "LocationRegistrationAccessClassBarredList");
+      rtxErrAddUIntParm(ctx, pvalue->n);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "LocationRegistrationAccessClassBarredList");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "AccessClassBarred", "AccessClassBarred", (int32_t)i, "LocationRegistrationAccessClassBarredList");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 1);
+      RT_CHECK_PUT(ctx, cur, stat, "AccessClassBarred", "AccessClassBarred", (int32_t)i, "LocationRegistrationAccessClassBarredList");
+   }
    return 0;
 }
 
 int asn1PE_UMTS_LocationRegistrationAccessClassBarredList(rtxContext* RT_RESTRICT ctx, const LocationRegistrationAccessClassBarredList* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "LocationRegistrationAccessClassBarredList");
-   uint32_t i;
-   if (pvalue->n != 15) {
-      rtxErrAddStrParm(ctx, "LocationRegistrationAccessClassBarredList");
-      rtxErrAddUIntParm(ctx, pvalue->n);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "LocationRegistrationAccessClassBarredList");
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      if (pvalue->elem[i] > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "AccessClassBarred", "AccessClassBarred", (int32_t)i, "LocationRegistrationAccessClassBarredList");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 1);
-      RT_CHECK(ctx, stat, "AccessClassBarred", "AccessClassBarred", (int32_t)i, "LocationRegistrationAccessClassBarredList");
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_LocationRegistrationAccessClassBarredList, pvalue);
 }
 
-int asn1PE_UMTS_LocationRegistrationParameters(rtxContext* RT_RESTRICT ctx, const LocationRegistrationParameters* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_LocationRegistrationParameters(rtxContext* RT_RESTRICT ctx, const LocationRegistrationParameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "LocationRegistrationParameters");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "LocationRegistrationParameters");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "LocationRegistrationParameters");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "LocationRegistrationParameters");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "LocationRegistrationParameters");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "LocationRegistrationParameters");
    switch (pvalue->t) {
       case 1:
          break;
       case 2:
-         if (pvalue->u.restriction == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "restriction", -1, "LocationRegistrationParameters");
-         stat = asn1PE_UMTS_LocationRegistrationAccessClassBarredList(ctx, pvalue->u.restriction);
+         if (pvalue->u.restriction == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "restriction", -1, "LocationRegistrationParameters");
+         stat = enc_LocationRegistrationAccessClassBarredList(ctx, pvalue->u.restriction, cur);
          RT_CHECK(ctx, stat, 0, "restriction", -1, "LocationRegistrationParameters");
          break;
       default:
@@ -3188,85 +4277,100 @@ int asn1PE_UMTS_LocationRegistrationParameters(rtxContext* RT_RESTRICT ctx, cons
    return 0;
 }
 
-int asn1PE_UMTS_PagingPermissionWithAccessControlParameters(rtxContext* RT_RESTRICT ctx, const PagingPermissionWithAccessControlParameters* RT_RESTRICT pvalue)
+int asn1PE_UMTS_LocationRegistrationParameters(rtxContext* RT_RESTRICT ctx, const LocationRegistrationParameters* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_LocationRegistrationParameters, pvalue);
+}
+
+RT_MERGED_BODY int enc_PagingPermissionWithAccessControlParameters(rtxContext* RT_RESTRICT ctx, const PagingPermissionWithAccessControlParameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PagingPermissionWithAccessControlParameters");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PagingPermissionWithAccessControlParameters");
    /* pagingResponseRestrictionIndicator */
    if (pvalue->pagingResponseRestrictionIndicator > 3) {
       rtxErrAddUIntParm(ctx, pvalue->pagingResponseRestrictionIndicator);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "pagingResponseRestrictionIndicator", -1, "PagingPermissionWithAccessControlParameters");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "pagingResponseRestrictionIndicator", -1, "PagingPermissionWithAccessControlParameters");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->pagingResponseRestrictionIndicator, 0, 3);
-   RT_CHECK(ctx, stat, 0, "pagingResponseRestrictionIndicator", -1, "PagingPermissionWithAccessControlParameters");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pagingResponseRestrictionIndicator, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "pagingResponseRestrictionIndicator", -1, "PagingPermissionWithAccessControlParameters");
    /* locationRegistrationRestrictionIndicator */
    if (pvalue->locationRegistrationRestrictionIndicator > 2) {
       rtxErrAddUIntParm(ctx, pvalue->locationRegistrationRestrictionIndicator);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "locationRegistrationRestrictionIndicator", -1, "PagingPermissionWithAccessControlParameters");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "locationRegistrationRestrictionIndicator", -1, "PagingPermissionWithAccessControlParameters");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->locationRegistrationRestrictionIndicator, 0, 2);
-   RT_CHECK(ctx, stat, 0, "locationRegistrationRestrictionIndicator", -1, "PagingPermissionWithAccessControlParameters");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->locationRegistrationRestrictionIndicator, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "locationRegistrationRestrictionIndicator", -1, "PagingPermissionWithAccessControlParameters");
    /* locationRegistration */
-   stat = asn1PE_UMTS_LocationRegistrationParameters(ctx, &pvalue->locationRegistration);
+   stat = enc_LocationRegistrationParameters(ctx, &pvalue->locationRegistration, cur);
    RT_CHECK(ctx, stat, 0, "locationRegistration", -1, "PagingPermissionWithAccessControlParameters");
    return 0;
 }
 
-int asn1PE_UMTS_PagingPermissionWithAccessControlList(rtxContext* RT_RESTRICT ctx, const PagingPermissionWithAccessControlList* RT_RESTRICT pvalue)
+int asn1PE_UMTS_PagingPermissionWithAccessControlParameters(rtxContext* RT_RESTRICT ctx, const PagingPermissionWithAccessControlParameters* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PagingPermissionWithAccessControlParameters, pvalue);
+}
+
+static int enc_PagingPermissionWithAccessControlList(rtxContext* RT_RESTRICT ctx, const PagingPermissionWithAccessControlList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PagingPermissionWithAccessControlList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PagingPermissionWithAccessControlList");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PagingPermissionWithAccessControlList");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PagingPermissionWithAccessControlList");
    /* pagingPermissionWithAccessControlParametersForOperator1 */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PagingPermissionWithAccessControlParameters(ctx, &pvalue->pagingPermissionWithAccessControlParametersForOperator1);
+      stat = enc_PagingPermissionWithAccessControlParameters(ctx, &pvalue->pagingPermissionWithAccessControlParametersForOperator1, cur);
       RT_CHECK(ctx, stat, 0, "pagingPermissionWithAccessControlParametersForOperator1", -1, "PagingPermissionWithAccessControlList");
    }
    /* pagingPermissionWithAccessControlParametersForOperator2 */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_PagingPermissionWithAccessControlParameters(ctx, &pvalue->pagingPermissionWithAccessControlParametersForOperator2);
+      stat = enc_PagingPermissionWithAccessControlParameters(ctx, &pvalue->pagingPermissionWithAccessControlParametersForOperator2, cur);
       RT_CHECK(ctx, stat, 0, "pagingPermissionWithAccessControlParametersForOperator2", -1, "PagingPermissionWithAccessControlList");
    }
    /* pagingPermissionWithAccessControlParametersForOperator3 */
    if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_PagingPermissionWithAccessControlParameters(ctx, &pvalue->pagingPermissionWithAccessControlParametersForOperator3);
+      stat = enc_PagingPermissionWithAccessControlParameters(ctx, &pvalue->pagingPermissionWithAccessControlParametersForOperator3, cur);
       RT_CHECK(ctx, stat, 0, "pagingPermissionWithAccessControlParametersForOperator3", -1, "PagingPermissionWithAccessControlList");
    }
    /* pagingPermissionWithAccessControlParametersForOperator4 */
    if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_PagingPermissionWithAccessControlParameters(ctx, &pvalue->pagingPermissionWithAccessControlParametersForOperator4);
+      stat = enc_PagingPermissionWithAccessControlParameters(ctx, &pvalue->pagingPermissionWithAccessControlParametersForOperator4, cur);
       RT_CHECK(ctx, stat, 0, "pagingPermissionWithAccessControlParametersForOperator4", -1, "PagingPermissionWithAccessControlList");
    }
    /* pagingPermissionWithAccessControlParametersForOperator5 */
    if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_PagingPermissionWithAccessControlParameters(ctx, &pvalue->pagingPermissionWithAccessControlParametersForOperator5);
+      stat = enc_PagingPermissionWithAccessControlParameters(ctx, &pvalue->pagingPermissionWithAccessControlParametersForOperator5, cur);
       RT_CHECK(ctx, stat, 0, "pagingPermissionWithAccessControlParametersForOperator5", -1, "PagingPermissionWithAccessControlList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_PagingPermissionWithAccessControlForSharedNetwork(rtxContext* RT_RESTRICT ctx, const PagingPermissionWithAccessControlForSharedNetwork* RT_RESTRICT pvalue)
+int asn1PE_UMTS_PagingPermissionWithAccessControlList(rtxContext* RT_RESTRICT ctx, const PagingPermissionWithAccessControlList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PagingPermissionWithAccessControlList, pvalue);
+}
+
+RT_MERGED_BODY int enc_PagingPermissionWithAccessControlForSharedNetwork(rtxContext* RT_RESTRICT ctx, const PagingPermissionWithAccessControlForSharedNetwork* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PagingPermissionWithAccessControlForSharedNetwork");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "PagingPermissionWithAccessControlForSharedNetwork");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PagingPermissionWithAccessControlForSharedNetwork");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PagingPermissionWithAccessControlForSharedNetwork");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "PagingPermissionWithAccessControlForSharedNetwork");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "PagingPermissionWithAccessControlForSharedNetwork");
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.pagingPermissionWithAccessControlList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "pagingPermissionWithAccessControlList", -1, "PagingPermissionWithAccessControlForSharedNetwork");
-         stat = asn1PE_UMTS_PagingPermissionWithAccessControlList(ctx, pvalue->u.pagingPermissionWithAccessControlList);
+         if (pvalue->u.pagingPermissionWithAccessControlList == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "pagingPermissionWithAccessControlList", -1, "PagingPermissionWithAccessControlForSharedNetwork");
+         stat = enc_PagingPermissionWithAccessControlList(ctx, pvalue->u.pagingPermissionWithAccessControlList, cur);
          RT_CHECK(ctx, stat, 0, "pagingPermissionWithAccessControlList", -1, "PagingPermissionWithAccessControlForSharedNetwork");
          break;
       case 2:
-         if (pvalue->u.pagingPermissionWithAccessControlForAll == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "pagingPermissionWithAccessControlForAll", -1, "PagingPermissionWithAccessControlForSharedNetwork");
-         stat = asn1PE_UMTS_PagingPermissionWithAccessControlParameters(ctx, pvalue->u.pagingPermissionWithAccessControlForAll);
+         if (pvalue->u.pagingPermissionWithAccessControlForAll == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "pagingPermissionWithAccessControlForAll", -1, "PagingPermissionWithAccessControlForSharedNetwork");
+         stat = enc_PagingPermissionWithAccessControlParameters(ctx, pvalue->u.pagingPermissionWithAccessControlForAll, cur);
          RT_CHECK(ctx, stat, 0, "pagingPermissionWithAccessControlForAll", -1, "PagingPermissionWithAccessControlForSharedNetwork");
          break;
       default:
@@ -3275,438 +4379,548 @@ int asn1PE_UMTS_PagingPermissionWithAccessControlForSharedNetwork(rtxContext* RT
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType3_v830ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v830ext_IEs* RT_RESTRICT pvalue)
+int asn1PE_UMTS_PagingPermissionWithAccessControlForSharedNetwork(rtxContext* RT_RESTRICT ctx, const PagingPermissionWithAccessControlForSharedNetwork* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PagingPermissionWithAccessControlForSharedNetwork, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType3_v830ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v830ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType3-v830ext-IEs");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType3-v830ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType3-v830ext-IEs");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType3-v830ext-IEs");
    /* pagingPermissionWithAccessControlParametersForPLMNOfMIB */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PagingPermissionWithAccessControlParameters(ctx, &pvalue->pagingPermissionWithAccessControlParametersForPLMNOfMIB);
+      stat = enc_PagingPermissionWithAccessControlParameters(ctx, &pvalue->pagingPermissionWithAccessControlParametersForPLMNOfMIB, cur);
       RT_CHECK(ctx, stat, 0, "pagingPermissionWithAccessControlParametersForPLMNOfMIB", -1, "SysInfoType3-v830ext-IEs");
    }
    /* pagingPermissionWithAccessControlParametersForSharedNetwork */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_PagingPermissionWithAccessControlForSharedNetwork(ctx, &pvalue->pagingPermissionWithAccessControlParametersForSharedNetwork);
+      stat = enc_PagingPermissionWithAccessControlForSharedNetwork(ctx, &pvalue->pagingPermissionWithAccessControlParametersForSharedNetwork, cur);
       RT_CHECK(ctx, stat, 0, "pagingPermissionWithAccessControlParametersForSharedNetwork", -1, "SysInfoType3-v830ext-IEs");
    }
    return 0;
 }
 
-int asn1PE_UMTS_CSG_Identity(rtxContext* RT_RESTRICT ctx, CSG_Identity value)
+int asn1PE_UMTS_SysInfoType3_v830ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v830ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType3_v830ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_CSG_Identity(rtxContext* RT_RESTRICT ctx, CSG_Identity value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    RT_SET_SIZE(ctx, 27, 27);
-   stat = pe_BitString32(ctx, &value, 27, 27);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CSG-Identity");
+   stat = pe_BitString32At(ctx, cur, &value, 27, 27);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CSG-Identity");
+   return 0;
+}
+
+int asn1PE_UMTS_CSG_Identity(rtxContext* RT_RESTRICT ctx, CSG_Identity value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CSG_Identity, value);
+}
+
+RT_MERGED_BODY int enc_CSG_PSCSplitInfo_numberOfPSCs(rtxContext* RT_RESTRICT ctx, CSG_PSCSplitInfo_numberOfPSCs value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_CSG_PSCSplitInfo_numberOfPSCs(rtxContext* RT_RESTRICT ctx, CSG_PSCSplitInfo_numberOfPSCs value)
 {
-   int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_CSG_PSCSplitInfo_numberOfPSCs, value);
 }
 
-int asn1PE_UMTS_CSG_PSCSplitInfo(rtxContext* RT_RESTRICT ctx, const CSG_PSCSplitInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_CSG_PSCSplitInfo(rtxContext* RT_RESTRICT ctx, const CSG_PSCSplitInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CSG-PSCSplitInfo");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CSG-PSCSplitInfo");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CSG-PSCSplitInfo");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CSG-PSCSplitInfo");
    /* startPSC */
    if ((uint64_t)pvalue->startPSC > 63u) {
       rtxErrAddStrParm(ctx, "startPSC");
       rtxErrAddUIntParm(ctx, pvalue->startPSC);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "startPSC", -1, "CSG-PSCSplitInfo");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "startPSC", -1, "CSG-PSCSplitInfo");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->startPSC, 0, 63);
-   RT_CHECK(ctx, stat, 0, "startPSC", -1, "CSG-PSCSplitInfo");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->startPSC, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "startPSC", -1, "CSG-PSCSplitInfo");
    /* numberOfPSCs */
    if (pvalue->numberOfPSCs > 15) {
       rtxErrAddUIntParm(ctx, pvalue->numberOfPSCs);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "numberOfPSCs", -1, "CSG-PSCSplitInfo");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "numberOfPSCs", -1, "CSG-PSCSplitInfo");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->numberOfPSCs, 0, 15);
-   RT_CHECK(ctx, stat, 0, "numberOfPSCs", -1, "CSG-PSCSplitInfo");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->numberOfPSCs, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "numberOfPSCs", -1, "CSG-PSCSplitInfo");
    /* pscRange2Offset */
    if (pvalue->m & 0x1u) {
       if ((uint64_t)(pvalue->pscRange2Offset - 1) > 62u) {
          rtxErrAddStrParm(ctx, "pscRange2Offset");
          rtxErrAddUIntParm(ctx, pvalue->pscRange2Offset);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "pscRange2Offset", -1, "CSG-PSCSplitInfo");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "pscRange2Offset", -1, "CSG-PSCSplitInfo");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->pscRange2Offset, 1, 63);
-      RT_CHECK(ctx, stat, 0, "pscRange2Offset", -1, "CSG-PSCSplitInfo");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->pscRange2Offset, 1, 63);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "pscRange2Offset", -1, "CSG-PSCSplitInfo");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CSG_PSCSplitInfo(rtxContext* RT_RESTRICT ctx, const CSG_PSCSplitInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CSG_PSCSplitInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType3_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v860ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType3-v860ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType3-v860ext-IEs");
+   /* csgIdentity */
+   if (pvalue->m & 0x1u) {
+      stat = enc_CSG_Identity(ctx, pvalue->csgIdentity, cur);
+      RT_CHECK(ctx, stat, 0, "csgIdentity", -1, "SysInfoType3-v860ext-IEs");
+   }
+   /* csg-PSCSplitInfo */
+   if (pvalue->m & 0x2u) {
+      stat = enc_CSG_PSCSplitInfo(ctx, &pvalue->csg_PSCSplitInfo, cur);
+      RT_CHECK(ctx, stat, 0, "csg-PSCSplitInfo", -1, "SysInfoType3-v860ext-IEs");
    }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType3_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v860ext_IEs* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType3_v860ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellAccessRestriction_v870ext_cellReservedForCSG(rtxContext* RT_RESTRICT ctx, CellAccessRestriction_v870ext_cellReservedForCSG value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType3-v860ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType3-v860ext-IEs");
-   /* csgIdentity */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CSG_Identity(ctx, pvalue->csgIdentity);
-      RT_CHECK(ctx, stat, 0, "csgIdentity", -1, "SysInfoType3-v860ext-IEs");
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
-   /* csg-PSCSplitInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_CSG_PSCSplitInfo(ctx, &pvalue->csg_PSCSplitInfo);
-      RT_CHECK(ctx, stat, 0, "csg-PSCSplitInfo", -1, "SysInfoType3-v860ext-IEs");
-   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_CellAccessRestriction_v870ext_cellReservedForCSG(rtxContext* RT_RESTRICT ctx, CellAccessRestriction_v870ext_cellReservedForCSG value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_CellAccessRestriction_v870ext_cellReservedForCSG, value);
+}
+
+RT_MERGED_BODY int enc_CellAccessRestriction_v870ext(rtxContext* RT_RESTRICT ctx, const CellAccessRestriction_v870ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellAccessRestriction-v870ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CellAccessRestriction-v870ext");
+   /* cellReservedForCSG */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->cellReservedForCSG > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->cellReservedForCSG);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "cellReservedForCSG", -1, "CellAccessRestriction-v870ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->cellReservedForCSG, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "cellReservedForCSG", -1, "CellAccessRestriction-v870ext");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_CellAccessRestriction_v870ext(rtxContext* RT_RESTRICT ctx, const CellAccessRestriction_v870ext* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_CellAccessRestriction_v870ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType3_v870ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v870ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellAccessRestriction-v870ext");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType3-v870ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellAccessRestriction-v870ext");
-   /* cellReservedForCSG */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType3-v870ext-IEs");
+   /* cellAccessRestriction */
    if (pvalue->m & 0x1u) {
-      if (pvalue->cellReservedForCSG > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->cellReservedForCSG);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "cellReservedForCSG", -1, "CellAccessRestriction-v870ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->cellReservedForCSG, 0, 0);
-      RT_CHECK(ctx, stat, 0, "cellReservedForCSG", -1, "CellAccessRestriction-v870ext");
+      stat = enc_CellAccessRestriction_v870ext(ctx, &pvalue->cellAccessRestriction, cur);
+      RT_CHECK(ctx, stat, 0, "cellAccessRestriction", -1, "SysInfoType3-v870ext-IEs");
    }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType3_v870ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v870ext_IEs* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType3_v870ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType3_v920ext_IEs_imsEmergencySupportIndicator(rtxContext* RT_RESTRICT ctx, SysInfoType3_v920ext_IEs_imsEmergencySupportIndicator value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType3-v870ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType3-v870ext-IEs");
-   /* cellAccessRestriction */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellAccessRestriction_v870ext(ctx, &pvalue->cellAccessRestriction);
-      RT_CHECK(ctx, stat, 0, "cellAccessRestriction", -1, "SysInfoType3-v870ext-IEs");
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType3_v920ext_IEs_imsEmergencySupportIndicator(rtxContext* RT_RESTRICT ctx, SysInfoType3_v920ext_IEs_imsEmergencySupportIndicator value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType3_v920ext_IEs_imsEmergencySupportIndicator, value);
+}
+
+RT_MERGED_BODY int enc_SysInfoType3_v920ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v920ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType3-v920ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType3-v920ext-IEs");
+   /* imsEmergencySupportIndicator */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->imsEmergencySupportIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->imsEmergencySupportIndicator);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "imsEmergencySupportIndicator", -1, "SysInfoType3-v920ext-IEs");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->imsEmergencySupportIndicator, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "imsEmergencySupportIndicator", -1, "SysInfoType3-v920ext-IEs");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType3_v920ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v920ext_IEs* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType3_v920ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension_nonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType3-v920ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType3-v920ext-IEs");
-   /* imsEmergencySupportIndicator */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->imsEmergencySupportIndicator > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->imsEmergencySupportIndicator);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "imsEmergencySupportIndicator", -1, "SysInfoType3-v920ext-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->imsEmergencySupportIndicator, 0, 0);
-      RT_CHECK(ctx, stat, 0, "imsEmergencySupportIndicator", -1, "SysInfoType3-v920ext-IEs");
-   }
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType3-v920ext */
+   stat = enc_SysInfoType3_v920ext_IEs(ctx, &pvalue->sysInfoType3_v920ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType3-v920ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType3-v920ext */
-   stat = asn1PE_UMTS_SysInfoType3_v920ext_IEs(ctx, &pvalue->sysInfoType3_v920ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType3-v920ext", -1, 0);
-   /* nonCriticalExtensions */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType3-v870ext */
+   stat = enc_SysInfoType3_v870ext_IEs(ctx, &pvalue->sysInfoType3_v870ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType3-v870ext", -1, 0);
+   /* v900NonCriticalExtension */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+      stat = enc_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension(ctx, &pvalue->v900NonCriticalExtension, cur);
+      RT_CHECK(ctx, stat, 0, "v900NonCriticalExtension", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType3-v870ext */
-   stat = asn1PE_UMTS_SysInfoType3_v870ext_IEs(ctx, &pvalue->sysInfoType3_v870ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType3-v870ext", -1, 0);
-   /* v900NonCriticalExtension */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType3-v860ext */
+   stat = enc_SysInfoType3_v860ext_IEs(ctx, &pvalue->sysInfoType3_v860ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType3-v860ext", -1, 0);
+   /* v870NonCriticalExtension */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension(ctx, &pvalue->v900NonCriticalExtension);
-      RT_CHECK(ctx, stat, 0, "v900NonCriticalExtension", -1, 0);
+      stat = enc_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension(ctx, &pvalue->v870NonCriticalExtension, cur);
+      RT_CHECK(ctx, stat, 0, "v870NonCriticalExtension", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension, pvalue);
+}
+
+static int enc_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType3-v860ext */
-   stat = asn1PE_UMTS_SysInfoType3_v860ext_IEs(ctx, &pvalue->sysInfoType3_v860ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType3-v860ext", -1, 0);
-   /* v870NonCriticalExtension */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType3-v830ext */
+   stat = enc_SysInfoType3_v830ext_IEs(ctx, &pvalue->sysInfoType3_v830ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType3-v830ext", -1, 0);
+   /* v860NonCriticalExtension */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension(ctx, &pvalue->v870NonCriticalExtension);
-      RT_CHECK(ctx, stat, 0, "v870NonCriticalExtension", -1, 0);
+      stat = enc_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension(ctx, &pvalue->v860NonCriticalExtension, cur);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtension", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType3-v830ext */
-   stat = asn1PE_UMTS_SysInfoType3_v830ext_IEs(ctx, &pvalue->sysInfoType3_v830ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType3-v830ext", -1, 0);
-   /* v860NonCriticalExtension */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType3-v770ext */
+   stat = enc_SysInfoType3_v770ext_IEs(ctx, &pvalue->sysInfoType3_v770ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType3-v770ext", -1, 0);
+   /* v830NonCriticalExtension */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension(ctx, &pvalue->v860NonCriticalExtension);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtension", -1, 0);
+      stat = enc_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension(ctx, &pvalue->v830NonCriticalExtension, cur);
+      RT_CHECK(ctx, stat, 0, "v830NonCriticalExtension", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension, pvalue);
+}
+
+static int enc_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType3-v770ext */
-   stat = asn1PE_UMTS_SysInfoType3_v770ext_IEs(ctx, &pvalue->sysInfoType3_v770ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType3-v770ext", -1, 0);
-   /* v830NonCriticalExtension */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType3-v670ext */
+   stat = enc_SysInfoType3_v670ext(ctx, &pvalue->sysInfoType3_v670ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType3-v670ext", -1, 0);
+   /* v770NonCriticalExtension */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension(ctx, &pvalue->v830NonCriticalExtension);
-      RT_CHECK(ctx, stat, 0, "v830NonCriticalExtension", -1, 0);
+      stat = enc_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension(ctx, &pvalue->v770NonCriticalExtension, cur);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtension", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType3-v670ext */
-   stat = asn1PE_UMTS_SysInfoType3_v670ext(ctx, &pvalue->sysInfoType3_v670ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType3-v670ext", -1, 0);
-   /* v770NonCriticalExtension */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType3-v5c0ext */
+   stat = enc_SysInfoType3_v5c0ext_IEs(ctx, &pvalue->sysInfoType3_v5c0ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType3-v5c0ext", -1, 0);
+   /* v670NonCriticalExtension */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension(ctx, &pvalue->v770NonCriticalExtension);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtension", -1, 0);
+      stat = enc_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension(ctx, &pvalue->v670NonCriticalExtension, cur);
+      RT_CHECK(ctx, stat, 0, "v670NonCriticalExtension", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType3-v5c0ext */
-   stat = asn1PE_UMTS_SysInfoType3_v5c0ext_IEs(ctx, &pvalue->sysInfoType3_v5c0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType3-v5c0ext", -1, 0);
-   /* v670NonCriticalExtension */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType3-v590ext */
+   stat = enc_SysInfoType3_v590ext(ctx, &pvalue->sysInfoType3_v590ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType3-v590ext", -1, 0);
+   /* v5c0NoncriticalExtension */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension(ctx, &pvalue->v670NonCriticalExtension);
-      RT_CHECK(ctx, stat, 0, "v670NonCriticalExtension", -1, 0);
+      stat = enc_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension(ctx, &pvalue->v5c0NoncriticalExtension, cur);
+      RT_CHECK(ctx, stat, 0, "v5c0NoncriticalExtension", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType3_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType3-v590ext */
-   stat = asn1PE_UMTS_SysInfoType3_v590ext(ctx, &pvalue->sysInfoType3_v590ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType3-v590ext", -1, 0);
-   /* v5c0NoncriticalExtension */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType3-v4b0ext */
+   stat = enc_SysInfoType3_v4b0ext_IEs(ctx, &pvalue->sysInfoType3_v4b0ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType3-v4b0ext", -1, 0);
+   /* v590NonCriticalExtension */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension(ctx, &pvalue->v5c0NoncriticalExtension);
-      RT_CHECK(ctx, stat, 0, "v5c0NoncriticalExtension", -1, 0);
+      stat = enc_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension(ctx, &pvalue->v590NonCriticalExtension, cur);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtension", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType3_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType3_v4b0NonCriticalExtensions, pvalue);
+}
+
+static int enc_SysInfoType3(rtxContext* RT_RESTRICT ctx, const SysInfoType3* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType3");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType3-v4b0ext */
-   stat = asn1PE_UMTS_SysInfoType3_v4b0ext_IEs(ctx, &pvalue->sysInfoType3_v4b0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType3-v4b0ext", -1, 0);
-   /* v590NonCriticalExtension */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType3");
+   /* sib4indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->sib4indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sib4indicator", -1, "SysInfoType3");
+   /* cellIdentity */
+   stat = enc_CellIdentity(ctx, pvalue->cellIdentity, cur);
+   RT_CHECK(ctx, stat, 0, "cellIdentity", -1, "SysInfoType3");
+   /* cellSelectReselectInfo */
+   stat = enc_CellSelectReselectInfoSIB_3_4(ctx, &pvalue->cellSelectReselectInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cellSelectReselectInfo", -1, "SysInfoType3");
+   /* cellAccessRestriction */
+   stat = enc_CellAccessRestriction(ctx, &pvalue->cellAccessRestriction, cur);
+   RT_CHECK(ctx, stat, 0, "cellAccessRestriction", -1, "SysInfoType3");
+   /* v4b0NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension(ctx, &pvalue->v590NonCriticalExtension);
-      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtension", -1, 0);
+      stat = enc_SysInfoType3_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType3");
    }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType3(rtxContext* RT_RESTRICT ctx, const SysInfoType3* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType3");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType3");
-   /* sib4indicator */
-   stat = rtxEncBit(ctx, pvalue->sib4indicator);
-   RT_CHECK(ctx, stat, 0, "sib4indicator", -1, "SysInfoType3");
-   /* cellIdentity */
-   stat = asn1PE_UMTS_CellIdentity(ctx, pvalue->cellIdentity);
-   RT_CHECK(ctx, stat, 0, "cellIdentity", -1, "SysInfoType3");
-   /* cellSelectReselectInfo */
-   stat = asn1PE_UMTS_CellSelectReselectInfoSIB_3_4(ctx, &pvalue->cellSelectReselectInfo);
-   RT_CHECK(ctx, stat, 0, "cellSelectReselectInfo", -1, "SysInfoType3");
-   /* cellAccessRestriction */
-   stat = asn1PE_UMTS_CellAccessRestriction(ctx, &pvalue->cellAccessRestriction);
-   RT_CHECK(ctx, stat, 0, "cellAccessRestriction", -1, "SysInfoType3");
-   /* v4b0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType3_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType3");
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType3, pvalue);
 }
 
-int asn1PE_UMTS_SIB_TypeAndTag(rtxContext* RT_RESTRICT ctx, const SIB_TypeAndTag* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_SIB_TypeAndTag(rtxContext* RT_RESTRICT ctx, const SIB_TypeAndTag* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SIB-TypeAndTag");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 31);
-   RT_CHECK(ctx, stat, 0, "t", -1, "SIB-TypeAndTag");
-   if (pvalue->t - 1 > 31) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "SIB-TypeAndTag");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SIB-TypeAndTag");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "SIB-TypeAndTag");
+   if (pvalue->t - 1 > 31) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "SIB-TypeAndTag");
    switch (pvalue->t) {
       case 1:
          if ((uint64_t)(pvalue->u.sysInfoType1 - 1) > 255u) {
             rtxErrAddStrParm(ctx, "PLMN-ValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType1);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "PLMN-ValueTag", "sysInfoType1", -1, "SIB-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PLMN-ValueTag", "sysInfoType1", -1, "SIB-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType1, 1, 256);
-         RT_CHECK(ctx, stat, "PLMN-ValueTag", "sysInfoType1", -1, "SIB-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sysInfoType1, 1, 256);
+         RT_CHECK_PUT(ctx, cur, stat, "PLMN-ValueTag", "sysInfoType1", -1, "SIB-TypeAndTag");
          break;
       case 2:
          if ((uint64_t)(pvalue->u.sysInfoType2 - 1) > 3u) {
             rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType2);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType2", -1, "SIB-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType2", -1, "SIB-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType2, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType2", -1, "SIB-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sysInfoType2, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "sysInfoType2", -1, "SIB-TypeAndTag");
          break;
       case 3:
          if ((uint64_t)(pvalue->u.sysInfoType3 - 1) > 3u) {
             rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType3);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType3", -1, "SIB-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType3", -1, "SIB-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType3, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType3", -1, "SIB-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sysInfoType3, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "sysInfoType3", -1, "SIB-TypeAndTag");
          break;
       case 4:
          if ((uint64_t)(pvalue->u.sysInfoType4 - 1) > 3u) {
             rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType4);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType4", -1, "SIB-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType4", -1, "SIB-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType4, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType4", -1, "SIB-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sysInfoType4, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "sysInfoType4", -1, "SIB-TypeAndTag");
          break;
       case 5:
          if ((uint64_t)(pvalue->u.sysInfoType5 - 1) > 3u) {
             rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType5);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType5", -1, "SIB-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType5", -1, "SIB-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType5, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType5", -1, "SIB-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sysInfoType5, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "sysInfoType5", -1, "SIB-TypeAndTag");
          break;
       case 6:
          if ((uint64_t)(pvalue->u.sysInfoType6 - 1) > 3u) {
             rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType6);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType6", -1, "SIB-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType6", -1, "SIB-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType6, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType6", -1, "SIB-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sysInfoType6, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "sysInfoType6", -1, "SIB-TypeAndTag");
          break;
       case 7:
          break;
@@ -3714,10 +4928,10 @@ int asn1PE_UMTS_SIB_TypeAndTag(rtxContext* RT_RESTRICT ctx, const SIB_TypeAndTag
          if ((uint64_t)(pvalue->u.dummy - 1) > 3u) {
             rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.dummy);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "dummy", -1, "SIB-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "dummy", -1, "SIB-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.dummy, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "dummy", -1, "SIB-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.dummy, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "dummy", -1, "SIB-TypeAndTag");
          break;
       case 9:
          break;
@@ -3727,64 +4941,64 @@ int asn1PE_UMTS_SIB_TypeAndTag(rtxContext* RT_RESTRICT ctx, const SIB_TypeAndTag
          if ((uint64_t)(pvalue->u.sysInfoType11 - 1) > 3u) {
             rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType11);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType11", -1, "SIB-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType11", -1, "SIB-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType11, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType11", -1, "SIB-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sysInfoType11, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "sysInfoType11", -1, "SIB-TypeAndTag");
          break;
       case 12:
          if ((uint64_t)(pvalue->u.sysInfoType12 - 1) > 3u) {
             rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType12);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType12", -1, "SIB-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType12", -1, "SIB-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType12, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType12", -1, "SIB-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sysInfoType12, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "sysInfoType12", -1, "SIB-TypeAndTag");
          break;
       case 13:
          if ((uint64_t)(pvalue->u.sysInfoType13 - 1) > 3u) {
             rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType13);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType13", -1, "SIB-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType13", -1, "SIB-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType13, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType13", -1, "SIB-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sysInfoType13, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "sysInfoType13", -1, "SIB-TypeAndTag");
          break;
       case 14:
          if ((uint64_t)(pvalue->u.sysInfoType13_1 - 1) > 3u) {
             rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType13_1);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType13-1", -1, "SIB-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType13-1", -1, "SIB-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType13_1, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType13-1", -1, "SIB-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sysInfoType13_1, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "sysInfoType13-1", -1, "SIB-TypeAndTag");
          break;
       case 15:
          if ((uint64_t)(pvalue->u.sysInfoType13_2 - 1) > 3u) {
             rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType13_2);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType13-2", -1, "SIB-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType13-2", -1, "SIB-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType13_2, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType13-2", -1, "SIB-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sysInfoType13_2, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "sysInfoType13-2", -1, "SIB-TypeAndTag");
          break;
       case 16:
          if ((uint64_t)(pvalue->u.sysInfoType13_3 - 1) > 3u) {
             rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType13_3);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType13-3", -1, "SIB-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType13-3", -1, "SIB-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType13_3, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType13-3", -1, "SIB-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sysInfoType13_3, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "sysInfoType13-3", -1, "SIB-TypeAndTag");
          break;
       case 17:
          if ((uint64_t)(pvalue->u.sysInfoType13_4 - 1) > 3u) {
             rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType13_4);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType13-4", -1, "SIB-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType13-4", -1, "SIB-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType13_4, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType13-4", -1, "SIB-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sysInfoType13_4, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "sysInfoType13-4", -1, "SIB-TypeAndTag");
          break;
       case 18:
          break;
@@ -3792,14 +5006,14 @@ int asn1PE_UMTS_SIB_TypeAndTag(rtxContext* RT_RESTRICT ctx, const SIB_TypeAndTag
          if ((uint64_t)(pvalue->u.sysInfoType15 - 1) > 3u) {
             rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType15);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType15", -1, "SIB-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType15", -1, "SIB-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType15, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType15", -1, "SIB-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sysInfoType15, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "sysInfoType15", -1, "SIB-TypeAndTag");
          break;
       case 20:
-         if (pvalue->u.sysInfoType16 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sysInfoType16", -1, "SIB-TypeAndTag");
-         stat = asn1PE_UMTS_PredefinedConfigIdentityAndValueTag(ctx, pvalue->u.sysInfoType16);
+         if (pvalue->u.sysInfoType16 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "sysInfoType16", -1, "SIB-TypeAndTag");
+         stat = enc_PredefinedConfigIdentityAndValueTag(ctx, pvalue->u.sysInfoType16, cur);
          RT_CHECK(ctx, stat, 0, "sysInfoType16", -1, "SIB-TypeAndTag");
          break;
       case 21:
@@ -3808,56 +5022,56 @@ int asn1PE_UMTS_SIB_TypeAndTag(rtxContext* RT_RESTRICT ctx, const SIB_TypeAndTag
          if ((uint64_t)(pvalue->u.sysInfoType15_1 - 1) > 3u) {
             rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType15_1);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType15-1", -1, "SIB-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType15-1", -1, "SIB-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType15_1, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType15-1", -1, "SIB-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sysInfoType15_1, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "sysInfoType15-1", -1, "SIB-TypeAndTag");
          break;
       case 23:
-         if (pvalue->u.sysInfoType15_2 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sysInfoType15-2", -1, "SIB-TypeAndTag");
-         stat = asn1PE_UMTS_SIBOccurrenceIdentityAndValueTag(ctx, pvalue->u.sysInfoType15_2);
+         if (pvalue->u.sysInfoType15_2 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "sysInfoType15-2", -1, "SIB-TypeAndTag");
+         stat = enc_SIBOccurrenceIdentityAndValueTag(ctx, pvalue->u.sysInfoType15_2, cur);
          RT_CHECK(ctx, stat, 0, "sysInfoType15-2", -1, "SIB-TypeAndTag");
          break;
       case 24:
-         if (pvalue->u.sysInfoType15_3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sysInfoType15-3", -1, "SIB-TypeAndTag");
-         stat = asn1PE_UMTS_SIBOccurrenceIdentityAndValueTag(ctx, pvalue->u.sysInfoType15_3);
+         if (pvalue->u.sysInfoType15_3 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "sysInfoType15-3", -1, "SIB-TypeAndTag");
+         stat = enc_SIBOccurrenceIdentityAndValueTag(ctx, pvalue->u.sysInfoType15_3, cur);
          RT_CHECK(ctx, stat, 0, "sysInfoType15-3", -1, "SIB-TypeAndTag");
          break;
       case 25:
          if ((uint64_t)(pvalue->u.sysInfoType15_4 - 1) > 3u) {
             rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType15_4);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType15-4", -1, "SIB-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType15-4", -1, "SIB-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType15_4, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType15-4", -1, "SIB-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sysInfoType15_4, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "sysInfoType15-4", -1, "SIB-TypeAndTag");
          break;
       case 26:
          if ((uint64_t)(pvalue->u.sysInfoType18 - 1) > 3u) {
             rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType18);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType18", -1, "SIB-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType18", -1, "SIB-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType18, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType18", -1, "SIB-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sysInfoType18, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "sysInfoType18", -1, "SIB-TypeAndTag");
          break;
       case 27:
          if ((uint64_t)(pvalue->u.sysInfoType15_5 - 1) > 3u) {
             rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType15_5);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType15-5", -1, "SIB-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType15-5", -1, "SIB-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType15_5, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType15-5", -1, "SIB-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sysInfoType15_5, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "sysInfoType15-5", -1, "SIB-TypeAndTag");
          break;
       case 28:
          if ((uint64_t)(pvalue->u.sysInfoType5bis - 1) > 3u) {
             rtxErrAddStrParm(ctx, "CellValueTag");
             rtxErrAddUIntParm(ctx, pvalue->u.sysInfoType5bis);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType5bis", -1, "SIB-TypeAndTag");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellValueTag", "sysInfoType5bis", -1, "SIB-TypeAndTag");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sysInfoType5bis, 1, 4);
-         RT_CHECK(ctx, stat, "CellValueTag", "sysInfoType5bis", -1, "SIB-TypeAndTag");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sysInfoType5bis, 1, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "CellValueTag", "sysInfoType5bis", -1, "SIB-TypeAndTag");
          break;
       case 29:
          break;
@@ -3873,287 +5087,382 @@ int asn1PE_UMTS_SIB_TypeAndTag(rtxContext* RT_RESTRICT ctx, const SIB_TypeAndTag
    return 0;
 }
 
-int asn1PE_UMTS_SchedulingInformationSIB(rtxContext* RT_RESTRICT ctx, const SchedulingInformationSIB* RT_RESTRICT pvalue)
+int asn1PE_UMTS_SIB_TypeAndTag(rtxContext* RT_RESTRICT ctx, const SIB_TypeAndTag* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SIB_TypeAndTag, pvalue);
+}
+
+static int enc_SchedulingInformationSIB(rtxContext* RT_RESTRICT ctx, const SchedulingInformationSIB* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SchedulingInformationSIB");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SchedulingInformationSIB");
    /* sib-Type */
-   stat = asn1PE_UMTS_SIB_TypeAndTag(ctx, &pvalue->sib_Type);
+   stat = enc_SIB_TypeAndTag(ctx, &pvalue->sib_Type, cur);
    RT_CHECK(ctx, stat, 0, "sib-Type", -1, "SchedulingInformationSIB");
    /* scheduling */
-   stat = asn1PE_UMTS_SchedulingInformation(ctx, &pvalue->scheduling);
+   stat = enc_SchedulingInformation(ctx, &pvalue->scheduling, cur);
    RT_CHECK(ctx, stat, 0, "scheduling", -1, "SchedulingInformationSIB");
+   return 0;
+}
+
+int asn1PE_UMTS_SchedulingInformationSIB(rtxContext* RT_RESTRICT ctx, const SchedulingInformationSIB* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SchedulingInformationSIB, pvalue);
+}
+
+RT_MERGED_BODY int enc_SIB_ReferenceList(rtxContext* RT_RESTRICT ctx, const SIB_ReferenceList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SIB-ReferenceList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "SIB-ReferenceList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "SchedulingInformationSIB", (int32_t)i, "SIB-ReferenceList");
+      stat = enc_SchedulingInformationSIB(ctx, (const SchedulingInformationSIB*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "SchedulingInformationSIB", (int32_t)i, "SIB-ReferenceList");
+   }
    return 0;
 }
 
 int asn1PE_UMTS_SIB_ReferenceList(rtxContext* RT_RESTRICT ctx, const SIB_ReferenceList* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SIB_ReferenceList, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoTypeSB1_v6b0ext(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB1_v6b0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SIB-ReferenceList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SIB-ReferenceList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "SchedulingInformationSIB", (int32_t)i, "SIB-ReferenceList");
-      stat = asn1PE_UMTS_SchedulingInformationSIB(ctx, (const SchedulingInformationSIB*)node->data);
-      RT_CHECK(ctx, stat, 0, "SchedulingInformationSIB", (int32_t)i, "SIB-ReferenceList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoTypeSB1-v6b0ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoTypeSB1-v6b0ext");
+   /* extSIBTypeInfoSchedulingInfo-List */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ExtSIBTypeInfoSchedulingInfo_List(ctx, &pvalue->extSIBTypeInfoSchedulingInfo_List, cur);
+      RT_CHECK(ctx, stat, 0, "extSIBTypeInfoSchedulingInfo-List", -1, "SysInfoTypeSB1-v6b0ext");
    }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoTypeSB1_v6b0ext(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB1_v6b0ext* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoTypeSB1_v6b0ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoTypeSB1_v860ext(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB1_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoTypeSB1-v6b0ext");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoTypeSB1-v860ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoTypeSB1-v6b0ext");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoTypeSB1-v860ext");
    /* extSIBTypeInfoSchedulingInfo-List */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ExtSIBTypeInfoSchedulingInfo_List(ctx, &pvalue->extSIBTypeInfoSchedulingInfo_List);
-      RT_CHECK(ctx, stat, 0, "extSIBTypeInfoSchedulingInfo-List", -1, "SysInfoTypeSB1-v6b0ext");
+      stat = enc_ExtSIBTypeInfoSchedulingInfo_List2(ctx, &pvalue->extSIBTypeInfoSchedulingInfo_List, cur);
+      RT_CHECK(ctx, stat, 0, "extSIBTypeInfoSchedulingInfo-List", -1, "SysInfoTypeSB1-v860ext");
+   }
+   /* extGANSS-SIBTypeInfoSchedulingInfoList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_ExtGANSS_SIBTypeInfoSchedulingInfoList(ctx, &pvalue->extGANSS_SIBTypeInfoSchedulingInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "extGANSS-SIBTypeInfoSchedulingInfoList", -1, "SysInfoTypeSB1-v860ext");
    }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoTypeSB1_v860ext(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB1_v860ext* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoTypeSB1_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoTypeSB1-v860ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoTypeSB1-v860ext");
-   /* extSIBTypeInfoSchedulingInfo-List */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ExtSIBTypeInfoSchedulingInfo_List2(ctx, &pvalue->extSIBTypeInfoSchedulingInfo_List);
-      RT_CHECK(ctx, stat, 0, "extSIBTypeInfoSchedulingInfo-List", -1, "SysInfoTypeSB1-v860ext");
-   }
-   /* extGANSS-SIBTypeInfoSchedulingInfoList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_ExtGANSS_SIBTypeInfoSchedulingInfoList(ctx, &pvalue->extGANSS_SIBTypeInfoSchedulingInfoList);
-      RT_CHECK(ctx, stat, 0, "extGANSS-SIBTypeInfoSchedulingInfoList", -1, "SysInfoTypeSB1-v860ext");
-   }
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoTypeSB1-v860ext */
+   stat = enc_SysInfoTypeSB1_v860ext(ctx, &pvalue->sysInfoTypeSB1_v860ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoTypeSB1-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoTypeSB1_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB1_v6b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoTypeSB1-v860ext */
-   stat = asn1PE_UMTS_SysInfoTypeSB1_v860ext(ctx, &pvalue->sysInfoTypeSB1_v860ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoTypeSB1-v860ext", -1, 0);
-   /* nonCriticalExtensions */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoTypeSB1-v6b0ext */
+   stat = enc_SysInfoTypeSB1_v6b0ext(ctx, &pvalue->sysInfoTypeSB1_v6b0ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoTypeSB1-v6b0ext", -1, 0);
+   /* v860NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+      stat = enc_SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoTypeSB1_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB1_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoTypeSB1_v6b0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoTypeSB1(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB1* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoTypeSB1");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoTypeSB1-v6b0ext */
-   stat = asn1PE_UMTS_SysInfoTypeSB1_v6b0ext(ctx, &pvalue->sysInfoTypeSB1_v6b0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoTypeSB1-v6b0ext", -1, 0);
-   /* v860NonCriticalExtensions */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoTypeSB1");
+   /* sib-ReferenceList */
+   stat = enc_SIB_ReferenceList(ctx, &pvalue->sib_ReferenceList, cur);
+   RT_CHECK(ctx, stat, 0, "sib-ReferenceList", -1, "SysInfoTypeSB1");
+   /* v6b0NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+      stat = enc_SysInfoTypeSB1_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, "SysInfoTypeSB1");
    }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoTypeSB1(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB1* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoTypeSB1, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoTypeSB2_v6b0ext(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB2_v6b0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoTypeSB1");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoTypeSB2-v6b0ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoTypeSB1");
-   /* sib-ReferenceList */
-   stat = asn1PE_UMTS_SIB_ReferenceList(ctx, &pvalue->sib_ReferenceList);
-   RT_CHECK(ctx, stat, 0, "sib-ReferenceList", -1, "SysInfoTypeSB1");
-   /* v6b0NonCriticalExtensions */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoTypeSB2-v6b0ext");
+   /* extSIBTypeInfoSchedulingInfo-List */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoTypeSB1_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, "SysInfoTypeSB1");
+      stat = enc_ExtSIBTypeInfoSchedulingInfo_List(ctx, &pvalue->extSIBTypeInfoSchedulingInfo_List, cur);
+      RT_CHECK(ctx, stat, 0, "extSIBTypeInfoSchedulingInfo-List", -1, "SysInfoTypeSB2-v6b0ext");
    }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoTypeSB2_v6b0ext(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB2_v6b0ext* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoTypeSB2_v6b0ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoTypeSB2_v860ext(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB2_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoTypeSB2-v6b0ext");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoTypeSB2-v860ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoTypeSB2-v6b0ext");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoTypeSB2-v860ext");
    /* extSIBTypeInfoSchedulingInfo-List */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ExtSIBTypeInfoSchedulingInfo_List(ctx, &pvalue->extSIBTypeInfoSchedulingInfo_List);
-      RT_CHECK(ctx, stat, 0, "extSIBTypeInfoSchedulingInfo-List", -1, "SysInfoTypeSB2-v6b0ext");
+      stat = enc_ExtSIBTypeInfoSchedulingInfo_List2(ctx, &pvalue->extSIBTypeInfoSchedulingInfo_List, cur);
+      RT_CHECK(ctx, stat, 0, "extSIBTypeInfoSchedulingInfo-List", -1, "SysInfoTypeSB2-v860ext");
+   }
+   /* extGANSS-SIBTypeInfoSchedulingInfoList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_ExtGANSS_SIBTypeInfoSchedulingInfoList(ctx, &pvalue->extGANSS_SIBTypeInfoSchedulingInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "extGANSS-SIBTypeInfoSchedulingInfoList", -1, "SysInfoTypeSB2-v860ext");
    }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoTypeSB2_v860ext(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB2_v860ext* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoTypeSB2_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoTypeSB2-v860ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoTypeSB2-v860ext");
-   /* extSIBTypeInfoSchedulingInfo-List */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ExtSIBTypeInfoSchedulingInfo_List2(ctx, &pvalue->extSIBTypeInfoSchedulingInfo_List);
-      RT_CHECK(ctx, stat, 0, "extSIBTypeInfoSchedulingInfo-List", -1, "SysInfoTypeSB2-v860ext");
-   }
-   /* extGANSS-SIBTypeInfoSchedulingInfoList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_ExtGANSS_SIBTypeInfoSchedulingInfoList(ctx, &pvalue->extGANSS_SIBTypeInfoSchedulingInfoList);
-      RT_CHECK(ctx, stat, 0, "extGANSS-SIBTypeInfoSchedulingInfoList", -1, "SysInfoTypeSB2-v860ext");
-   }
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoTypeSB2-v860ext */
+   stat = enc_SysInfoTypeSB2_v860ext(ctx, &pvalue->sysInfoTypeSB2_v860ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoTypeSB2-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoTypeSB2_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB2_v6b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoTypeSB2-v860ext */
-   stat = asn1PE_UMTS_SysInfoTypeSB2_v860ext(ctx, &pvalue->sysInfoTypeSB2_v860ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoTypeSB2-v860ext", -1, 0);
-   /* nonCriticalExtensions */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoTypeSB2-v6b0ext */
+   stat = enc_SysInfoTypeSB2_v6b0ext(ctx, &pvalue->sysInfoTypeSB2_v6b0ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoTypeSB2-v6b0ext", -1, 0);
+   /* v860NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+      stat = enc_SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoTypeSB2_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB2_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoTypeSB2_v6b0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoTypeSB2(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoTypeSB2");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoTypeSB2-v6b0ext */
-   stat = asn1PE_UMTS_SysInfoTypeSB2_v6b0ext(ctx, &pvalue->sysInfoTypeSB2_v6b0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoTypeSB2-v6b0ext", -1, 0);
-   /* v860NonCriticalExtensions */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoTypeSB2");
+   /* sib-ReferenceList */
+   stat = enc_SIB_ReferenceList(ctx, &pvalue->sib_ReferenceList, cur);
+   RT_CHECK(ctx, stat, 0, "sib-ReferenceList", -1, "SysInfoTypeSB2");
+   /* v6b0NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+      stat = enc_SysInfoTypeSB2_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, "SysInfoTypeSB2");
    }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoTypeSB2(rtxContext* RT_RESTRICT ctx, const SysInfoTypeSB2* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoTypeSB2, pvalue);
+}
+
+RT_MERGED_BODY int enc_NAS_SystemInformationGSM_MAP(rtxContext* RT_RESTRICT ctx, const NAS_SystemInformationGSM_MAP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoTypeSB2");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoTypeSB2");
-   /* sib-ReferenceList */
-   stat = asn1PE_UMTS_SIB_ReferenceList(ctx, &pvalue->sib_ReferenceList);
-   RT_CHECK(ctx, stat, 0, "sib-ReferenceList", -1, "SysInfoTypeSB2");
-   /* v6b0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoTypeSB2_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, "SysInfoTypeSB2");
-   }
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NAS-SystemInformationGSM-MAP");
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_OctetStringAt(ctx, cur, pvalue->numocts, pvalue->data);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NAS-SystemInformationGSM-MAP");
    return 0;
 }
 
 int asn1PE_UMTS_NAS_SystemInformationGSM_MAP(rtxContext* RT_RESTRICT ctx, const NAS_SystemInformationGSM_MAP* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_NAS_SystemInformationGSM_MAP, pvalue);
+}
+
+RT_MERGED_BODY int enc_CN_DomainIdentity(rtxContext* RT_RESTRICT ctx, CN_DomainIdentity value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NAS-SystemInformationGSM-MAP");
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NAS-SystemInformationGSM-MAP");
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "CN-DomainIdentity");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CN-DomainIdentity");
    return 0;
 }
 
 int asn1PE_UMTS_CN_DomainIdentity(rtxContext* RT_RESTRICT ctx, CN_DomainIdentity value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_CN_DomainIdentity, value);
+}
+
+RT_MERGED_BODY int enc_ANSI_41_NAS_Parameter(rtxContext* RT_RESTRICT ctx, const ANSI_41_NAS_Parameter* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "CN-DomainIdentity");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CN-DomainIdentity");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ANSI-41-NAS-Parameter");
+   RT_SET_SIZE(ctx, 1, 2048);
+   stat = pe_BitStringAt(ctx, cur, pvalue->numbits, pvalue->data);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ANSI-41-NAS-Parameter");
    return 0;
 }
 
 int asn1PE_UMTS_ANSI_41_NAS_Parameter(rtxContext* RT_RESTRICT ctx, const ANSI_41_NAS_Parameter* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_ANSI_41_NAS_Parameter, pvalue);
+}
+
+RT_MERGED_BODY int enc_NAS_SystemInformationANSI_41(rtxContext* RT_RESTRICT ctx, const NAS_SystemInformationANSI_41* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ANSI-41-NAS-Parameter");
-   RT_SET_SIZE(ctx, 1, 2048);
-   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ANSI-41-NAS-Parameter");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NAS-SystemInformationANSI-41");
+   stat = enc_ANSI_41_NAS_Parameter(ctx, pvalue, cur);
+   RT_CHECK(ctx, stat, 0, 0, -1, "NAS-SystemInformationANSI-41");
    return 0;
 }
 
 int asn1PE_UMTS_NAS_SystemInformationANSI_41(rtxContext* RT_RESTRICT ctx, const NAS_SystemInformationANSI_41* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NAS-SystemInformationANSI-41");
-   stat = asn1PE_UMTS_ANSI_41_NAS_Parameter(ctx, pvalue);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NAS-SystemInformationANSI-41");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_NAS_SystemInformationANSI_41, pvalue);
 }
 
-int asn1PE_UMTS_CN_DomainSysInfo_cn_Type(rtxContext* RT_RESTRICT ctx, const CN_DomainSysInfo_cn_Type* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_CN_DomainSysInfo_cn_Type(rtxContext* RT_RESTRICT ctx, const CN_DomainSysInfo_cn_Type* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.gsm_MAP == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm-MAP", -1, 0);
-         stat = asn1PE_UMTS_NAS_SystemInformationGSM_MAP(ctx, pvalue->u.gsm_MAP);
+         if (pvalue->u.gsm_MAP == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "gsm-MAP", -1, 0);
+         stat = enc_NAS_SystemInformationGSM_MAP(ctx, pvalue->u.gsm_MAP, cur);
          RT_CHECK(ctx, stat, 0, "gsm-MAP", -1, 0);
          break;
       case 2:
-         if (pvalue->u.ansi_41 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ansi-41", -1, 0);
-         stat = asn1PE_UMTS_NAS_SystemInformationANSI_41(ctx, pvalue->u.ansi_41);
+         if (pvalue->u.ansi_41 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ansi-41", -1, 0);
+         stat = enc_NAS_SystemInformationANSI_41(ctx, pvalue->u.ansi_41, cur);
          RT_CHECK(ctx, stat, 0, "ansi-41", -1, 0);
          break;
       default:
@@ -4162,338 +5471,468 @@ int asn1PE_UMTS_CN_DomainSysInfo_cn_Type(rtxContext* RT_RESTRICT ctx, const CN_D
    return 0;
 }
 
-int asn1PE_UMTS_CN_DRX_CycleLengthCoefficient(rtxContext* RT_RESTRICT ctx, CN_DRX_CycleLengthCoefficient value)
+int asn1PE_UMTS_CN_DomainSysInfo_cn_Type(rtxContext* RT_RESTRICT ctx, const CN_DomainSysInfo_cn_Type* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CN_DomainSysInfo_cn_Type, pvalue);
+}
+
+RT_MERGED_BODY int enc_CN_DRX_CycleLengthCoefficient(rtxContext* RT_RESTRICT ctx, CN_DRX_CycleLengthCoefficient value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)(value - 6) > 3u) {
       rtxErrAddStrParm(ctx, "CN-DRX-CycleLengthCoefficient");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "CN-DRX-CycleLengthCoefficient");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "CN-DRX-CycleLengthCoefficient");
    }
-   stat = pe_ConsUInt64(ctx, value, 6, 9);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CN-DRX-CycleLengthCoefficient");
+   stat = pe_ConsUInt64At(ctx, cur, value, 6, 9);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CN-DRX-CycleLengthCoefficient");
    return 0;
 }
 
-int asn1PE_UMTS_CN_DomainSysInfo(rtxContext* RT_RESTRICT ctx, const CN_DomainSysInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CN_DRX_CycleLengthCoefficient(rtxContext* RT_RESTRICT ctx, CN_DRX_CycleLengthCoefficient value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CN_DRX_CycleLengthCoefficient, value);
+}
+
+RT_MERGED_BODY int enc_CN_DomainSysInfo(rtxContext* RT_RESTRICT ctx, const CN_DomainSysInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CN-DomainSysInfo");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CN-DomainSysInfo");
    /* cn-DomainIdentity */
    if (pvalue->cn_DomainIdentity > 1) {
       rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "CN-DomainSysInfo");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "CN-DomainSysInfo");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "CN-DomainSysInfo");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "CN-DomainSysInfo");
    /* cn-Type */
-   stat = asn1PE_UMTS_CN_DomainSysInfo_cn_Type(ctx, &pvalue->cn_Type);
+   stat = enc_CN_DomainSysInfo_cn_Type(ctx, &pvalue->cn_Type, cur);
    RT_CHECK(ctx, stat, 0, "cn-Type", -1, "CN-DomainSysInfo");
    /* cn-DRX-CycleLengthCoeff */
    if ((uint64_t)(pvalue->cn_DRX_CycleLengthCoeff - 6) > 3u) {
       rtxErrAddStrParm(ctx, "CN-DRX-CycleLengthCoefficient");
       rtxErrAddUIntParm(ctx, pvalue->cn_DRX_CycleLengthCoeff);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "CN-DRX-CycleLengthCoefficient", "cn-DRX-CycleLengthCoeff", -1, "CN-DomainSysInfo");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CN-DRX-CycleLengthCoefficient", "cn-DRX-CycleLengthCoeff", -1, "CN-DomainSysInfo");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->cn_DRX_CycleLengthCoeff, 6, 9);
-   RT_CHECK(ctx, stat, "CN-DRX-CycleLengthCoefficient", "cn-DRX-CycleLengthCoeff", -1, "CN-DomainSysInfo");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->cn_DRX_CycleLengthCoeff, 6, 9);
+   RT_CHECK_PUT(ctx, cur, stat, "CN-DRX-CycleLengthCoefficient", "cn-DRX-CycleLengthCoeff", -1, "CN-DomainSysInfo");
    return 0;
 }
 
-int asn1PE_UMTS_CN_DomainSysInfoList(rtxContext* RT_RESTRICT ctx, const CN_DomainSysInfoList* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CN_DomainSysInfo(rtxContext* RT_RESTRICT ctx, const CN_DomainSysInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CN_DomainSysInfo, pvalue);
+}
+
+static int enc_CN_DomainSysInfoList(rtxContext* RT_RESTRICT ctx, const CN_DomainSysInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CN-DomainSysInfoList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CN-DomainSysInfoList");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CN-DomainSysInfoList");
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "CN-DomainSysInfoList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CN-DomainSysInfo", (int32_t)i, "CN-DomainSysInfoList");
-      stat = asn1PE_UMTS_CN_DomainSysInfo(ctx, (const CN_DomainSysInfo*)node->data);
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "CN-DomainSysInfo", (int32_t)i, "CN-DomainSysInfoList");
+      stat = enc_CN_DomainSysInfo(ctx, (const CN_DomainSysInfo*)node->data, cur);
       RT_CHECK(ctx, stat, 0, "CN-DomainSysInfo", (int32_t)i, "CN-DomainSysInfoList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_T_301(rtxContext* RT_RESTRICT ctx, T_301 value)
+int asn1PE_UMTS_CN_DomainSysInfoList(rtxContext* RT_RESTRICT ctx, const CN_DomainSysInfoList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CN_DomainSysInfoList, pvalue);
+}
+
+RT_MERGED_BODY int enc_T_301(rtxContext* RT_RESTRICT ctx, T_301 value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value > 15) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-301");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "T-301");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-301");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "T-301");
    return 0;
 }
 
-int asn1PE_UMTS_N_301(rtxContext* RT_RESTRICT ctx, N_301 value)
+int asn1PE_UMTS_T_301(rtxContext* RT_RESTRICT ctx, T_301 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_T_301, value);
+}
+
+RT_MERGED_BODY int enc_N_301(rtxContext* RT_RESTRICT ctx, N_301 value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)value > 7u) {
       rtxErrAddStrParm(ctx, "N-301");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "N-301");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "N-301");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "N-301");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "N-301");
+   return 0;
+}
+
+int asn1PE_UMTS_N_301(rtxContext* RT_RESTRICT ctx, N_301 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_N_301, value);
+}
+
+RT_MERGED_BODY int enc_T_302(rtxContext* RT_RESTRICT ctx, T_302 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "T-302");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "T-302");
    return 0;
 }
 
 int asn1PE_UMTS_T_302(rtxContext* RT_RESTRICT ctx, T_302 value)
 {
-   int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-302");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-302");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_T_302, value);
 }
 
-int asn1PE_UMTS_N_302(rtxContext* RT_RESTRICT ctx, N_302 value)
+RT_MERGED_BODY int enc_N_302(rtxContext* RT_RESTRICT ctx, N_302 value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)value > 7u) {
       rtxErrAddStrParm(ctx, "N-302");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "N-302");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "N-302");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "N-302");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "N-302");
+   return 0;
+}
+
+int asn1PE_UMTS_N_302(rtxContext* RT_RESTRICT ctx, N_302 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_N_302, value);
+}
+
+RT_MERGED_BODY int enc_T_304(rtxContext* RT_RESTRICT ctx, T_304 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "T-304");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "T-304");
    return 0;
 }
 
 int asn1PE_UMTS_T_304(rtxContext* RT_RESTRICT ctx, T_304 value)
 {
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-304");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-304");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_T_304, value);
 }
 
-int asn1PE_UMTS_N_304(rtxContext* RT_RESTRICT ctx, N_304 value)
+RT_MERGED_BODY int enc_N_304(rtxContext* RT_RESTRICT ctx, N_304 value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)value > 7u) {
       rtxErrAddStrParm(ctx, "N-304");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "N-304");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "N-304");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "N-304");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "N-304");
+   return 0;
+}
+
+int asn1PE_UMTS_N_304(rtxContext* RT_RESTRICT ctx, N_304 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_N_304, value);
+}
+
+RT_MERGED_BODY int enc_T_305(rtxContext* RT_RESTRICT ctx, T_305 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "T-305");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "T-305");
    return 0;
 }
 
 int asn1PE_UMTS_T_305(rtxContext* RT_RESTRICT ctx, T_305 value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_T_305, value);
+}
+
+RT_MERGED_BODY int enc_T_307(rtxContext* RT_RESTRICT ctx, T_307 value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-305");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "T-307");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-305");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "T-307");
    return 0;
 }
 
 int asn1PE_UMTS_T_307(rtxContext* RT_RESTRICT ctx, T_307 value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_T_307, value);
+}
+
+RT_MERGED_BODY int enc_T_308(rtxContext* RT_RESTRICT ctx, T_308 value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 7) {
+   if (value > 3) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-307");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "T-308");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-307");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "T-308");
    return 0;
 }
 
 int asn1PE_UMTS_T_308(rtxContext* RT_RESTRICT ctx, T_308 value)
 {
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-308");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-308");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_T_308, value);
 }
 
-int asn1PE_UMTS_T_309(rtxContext* RT_RESTRICT ctx, T_309 value)
+RT_MERGED_BODY int enc_T_309(rtxContext* RT_RESTRICT ctx, T_309 value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)(value - 1) > 7u) {
       rtxErrAddStrParm(ctx, "T-309");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "T-309");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "T-309");
    }
-   stat = pe_ConsUInt64(ctx, value, 1, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-309");
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "T-309");
+   return 0;
+}
+
+int asn1PE_UMTS_T_309(rtxContext* RT_RESTRICT ctx, T_309 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_T_309, value);
+}
+
+RT_MERGED_BODY int enc_T_310(rtxContext* RT_RESTRICT ctx, T_310 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "T-310");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "T-310");
    return 0;
 }
 
 int asn1PE_UMTS_T_310(rtxContext* RT_RESTRICT ctx, T_310 value)
 {
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-310");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-310");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_T_310, value);
 }
 
-int asn1PE_UMTS_N_310(rtxContext* RT_RESTRICT ctx, N_310 value)
+RT_MERGED_BODY int enc_N_310(rtxContext* RT_RESTRICT ctx, N_310 value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)value > 7u) {
       rtxErrAddStrParm(ctx, "N-310");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "N-310");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "N-310");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "N-310");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "N-310");
+   return 0;
+}
+
+int asn1PE_UMTS_N_310(rtxContext* RT_RESTRICT ctx, N_310 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_N_310, value);
+}
+
+RT_MERGED_BODY int enc_T_311(rtxContext* RT_RESTRICT ctx, T_311 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "T-311");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "T-311");
    return 0;
 }
 
 int asn1PE_UMTS_T_311(rtxContext* RT_RESTRICT ctx, T_311 value)
 {
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-311");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-311");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_T_311, value);
 }
 
-int asn1PE_UMTS_T_312(rtxContext* RT_RESTRICT ctx, T_312 value)
+RT_MERGED_BODY int enc_T_312(rtxContext* RT_RESTRICT ctx, T_312 value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)value > 15u) {
       rtxErrAddStrParm(ctx, "T-312");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "T-312");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "T-312");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-312");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "T-312");
+   return 0;
+}
+
+int asn1PE_UMTS_T_312(rtxContext* RT_RESTRICT ctx, T_312 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_T_312, value);
+}
+
+RT_MERGED_BODY int enc_N_312(rtxContext* RT_RESTRICT ctx, N_312 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "N-312");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "N-312");
    return 0;
 }
 
 int asn1PE_UMTS_N_312(rtxContext* RT_RESTRICT ctx, N_312 value)
 {
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "N-312");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "N-312");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_N_312, value);
 }
 
-int asn1PE_UMTS_T_313(rtxContext* RT_RESTRICT ctx, T_313 value)
+RT_MERGED_BODY int enc_T_313(rtxContext* RT_RESTRICT ctx, T_313 value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)value > 15u) {
       rtxErrAddStrParm(ctx, "T-313");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "T-313");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "T-313");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-313");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "T-313");
+   return 0;
+}
+
+int asn1PE_UMTS_T_313(rtxContext* RT_RESTRICT ctx, T_313 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_T_313, value);
+}
+
+RT_MERGED_BODY int enc_N_313(rtxContext* RT_RESTRICT ctx, N_313 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "N-313");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "N-313");
    return 0;
 }
 
 int asn1PE_UMTS_N_313(rtxContext* RT_RESTRICT ctx, N_313 value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_N_313, value);
+}
+
+RT_MERGED_BODY int enc_T_314(rtxContext* RT_RESTRICT ctx, T_314 value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "N-313");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "T-314");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "N-313");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "T-314");
    return 0;
 }
 
 int asn1PE_UMTS_T_314(rtxContext* RT_RESTRICT ctx, T_314 value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_T_314, value);
+}
+
+RT_MERGED_BODY int enc_T_315(rtxContext* RT_RESTRICT ctx, T_315 value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-314");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "T-315");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-314");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "T-315");
    return 0;
 }
 
 int asn1PE_UMTS_T_315(rtxContext* RT_RESTRICT ctx, T_315 value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_T_315, value);
+}
+
+RT_MERGED_BODY int enc_N_315(rtxContext* RT_RESTRICT ctx, N_315 value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-315");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "N-315");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-315");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "N-315");
    return 0;
 }
 
 int asn1PE_UMTS_N_315(rtxContext* RT_RESTRICT ctx, N_315 value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_N_315, value);
+}
+
+RT_MERGED_BODY int enc_T_316(rtxContext* RT_RESTRICT ctx, T_316 value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "N-315");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "T-316");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "N-315");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "T-316");
    return 0;
 }
 
 int asn1PE_UMTS_T_316(rtxContext* RT_RESTRICT ctx, T_316 value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_T_316, value);
+}
+
+RT_MERGED_BODY int enc_T_317(rtxContext* RT_RESTRICT ctx, T_317 value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-316");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "T-317");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-316");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "T-317");
    return 0;
 }
 
 int asn1PE_UMTS_T_317(rtxContext* RT_RESTRICT ctx, T_317 value)
 {
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-317");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-317");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_T_317, value);
 }
 
-int asn1PE_UMTS_UE_ConnTimersAndConstants(rtxContext* RT_RESTRICT ctx, const UE_ConnTimersAndConstants* RT_RESTRICT pvalue)
+static int enc_UE_ConnTimersAndConstants(rtxContext* RT_RESTRICT ctx, const UE_ConnTimersAndConstants* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-ConnTimersAndConstants");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-ConnTimersAndConstants");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->t_301 != 10) << 21) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->t_301 != 10) << 21) |
       ((uint64_t)(pvalue->n_301 != 2) << 20) |
       ((uint64_t)(pvalue->t_302 != 12) << 19) |
       ((uint64_t)(pvalue->n_302 != 3) << 18) |
@@ -4515,567 +5954,677 @@ int asn1PE_UMTS_UE_ConnTimersAndConstants(rtxContext* RT_RESTRICT ctx, const UE_
       ((uint64_t)(pvalue->n_315 != 0) << 2) |
       ((uint64_t)(pvalue->t_316 != 3) << 1) |
       ((uint64_t)(pvalue->t_317 != 4) << 0), 22);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-ConnTimersAndConstants");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-ConnTimersAndConstants");
    /* t-301 */
    if (pvalue->t_301 != 10) {
       if (pvalue->t_301 > 15) {
          rtxErrAddUIntParm(ctx, pvalue->t_301);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "T-301", "t-301", -1, "UE-ConnTimersAndConstants");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "T-301", "t-301", -1, "UE-ConnTimersAndConstants");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->t_301, 0, 15);
-      RT_CHECK(ctx, stat, "T-301", "t-301", -1, "UE-ConnTimersAndConstants");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_301, 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "T-301", "t-301", -1, "UE-ConnTimersAndConstants");
    }
    /* n-301 */
    if (pvalue->n_301 != 2) {
       if ((uint64_t)pvalue->n_301 > 7u) {
          rtxErrAddStrParm(ctx, "N-301");
          rtxErrAddUIntParm(ctx, pvalue->n_301);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "N-301", "n-301", -1, "UE-ConnTimersAndConstants");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "N-301", "n-301", -1, "UE-ConnTimersAndConstants");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->n_301, 0, 7);
-      RT_CHECK(ctx, stat, "N-301", "n-301", -1, "UE-ConnTimersAndConstants");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->n_301, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "N-301", "n-301", -1, "UE-ConnTimersAndConstants");
    }
    /* t-302 */
    if (pvalue->t_302 != 12) {
       if (pvalue->t_302 > 15) {
          rtxErrAddUIntParm(ctx, pvalue->t_302);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "T-302", "t-302", -1, "UE-ConnTimersAndConstants");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "T-302", "t-302", -1, "UE-ConnTimersAndConstants");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->t_302, 0, 15);
-      RT_CHECK(ctx, stat, "T-302", "t-302", -1, "UE-ConnTimersAndConstants");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_302, 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "T-302", "t-302", -1, "UE-ConnTimersAndConstants");
    }
    /* n-302 */
    if (pvalue->n_302 != 3) {
       if ((uint64_t)pvalue->n_302 > 7u) {
          rtxErrAddStrParm(ctx, "N-302");
          rtxErrAddUIntParm(ctx, pvalue->n_302);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "N-302", "n-302", -1, "UE-ConnTimersAndConstants");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "N-302", "n-302", -1, "UE-ConnTimersAndConstants");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->n_302, 0, 7);
-      RT_CHECK(ctx, stat, "N-302", "n-302", -1, "UE-ConnTimersAndConstants");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->n_302, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "N-302", "n-302", -1, "UE-ConnTimersAndConstants");
    }
    /* t-304 */
    if (pvalue->t_304 != 4) {
       if (pvalue->t_304 > 7) {
          rtxErrAddUIntParm(ctx, pvalue->t_304);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "T-304", "t-304", -1, "UE-ConnTimersAndConstants");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "T-304", "t-304", -1, "UE-ConnTimersAndConstants");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->t_304, 0, 7);
-      RT_CHECK(ctx, stat, "T-304", "t-304", -1, "UE-ConnTimersAndConstants");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_304, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "T-304", "t-304", -1, "UE-ConnTimersAndConstants");
    }
    /* n-304 */
    if (pvalue->n_304 != 2) {
       if ((uint64_t)pvalue->n_304 > 7u) {
          rtxErrAddStrParm(ctx, "N-304");
          rtxErrAddUIntParm(ctx, pvalue->n_304);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "N-304", "n-304", -1, "UE-ConnTimersAndConstants");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "N-304", "n-304", -1, "UE-ConnTimersAndConstants");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->n_304, 0, 7);
-      RT_CHECK(ctx, stat, "N-304", "n-304", -1, "UE-ConnTimersAndConstants");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->n_304, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "N-304", "n-304", -1, "UE-ConnTimersAndConstants");
    }
    /* t-305 */
    if (pvalue->t_305 != 3) {
       if (pvalue->t_305 > 7) {
          rtxErrAddUIntParm(ctx, pvalue->t_305);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "T-305", "t-305", -1, "UE-ConnTimersAndConstants");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "T-305", "t-305", -1, "UE-ConnTimersAndConstants");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->t_305, 0, 7);
-      RT_CHECK(ctx, stat, "T-305", "t-305", -1, "UE-ConnTimersAndConstants");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_305, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "T-305", "t-305", -1, "UE-ConnTimersAndConstants");
    }
    /* t-307 */
    if (pvalue->t_307 != 4) {
       if (pvalue->t_307 > 7) {
          rtxErrAddUIntParm(ctx, pvalue->t_307);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "T-307", "t-307", -1, "UE-ConnTimersAndConstants");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "T-307", "t-307", -1, "UE-ConnTimersAndConstants");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->t_307, 0, 7);
-      RT_CHECK(ctx, stat, "T-307", "t-307", -1, "UE-ConnTimersAndConstants");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_307, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "T-307", "t-307", -1, "UE-ConnTimersAndConstants");
    }
    /* t-308 */
    if (pvalue->t_308 != 2) {
       if (pvalue->t_308 > 3) {
          rtxErrAddUIntParm(ctx, pvalue->t_308);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "T-308", "t-308", -1, "UE-ConnTimersAndConstants");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "T-308", "t-308", -1, "UE-ConnTimersAndConstants");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->t_308, 0, 3);
-      RT_CHECK(ctx, stat, "T-308", "t-308", -1, "UE-ConnTimersAndConstants");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_308, 0, 3);
+      RT_CHECK_PUT(ctx, cur, stat, "T-308", "t-308", -1, "UE-ConnTimersAndConstants");
    }
    /* t-309 */
    if (pvalue->t_309 != 5) {
       if ((uint64_t)(pvalue->t_309 - 1) > 7u) {
          rtxErrAddStrParm(ctx, "T-309");
          rtxErrAddUIntParm(ctx, pvalue->t_309);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "T-309", "t-309", -1, "UE-ConnTimersAndConstants");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "T-309", "t-309", -1, "UE-ConnTimersAndConstants");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->t_309, 1, 8);
-      RT_CHECK(ctx, stat, "T-309", "t-309", -1, "UE-ConnTimersAndConstants");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_309, 1, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "T-309", "t-309", -1, "UE-ConnTimersAndConstants");
    }
    /* t-310 */
    if (pvalue->t_310 != 3) {
       if (pvalue->t_310 > 7) {
          rtxErrAddUIntParm(ctx, pvalue->t_310);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "T-310", "t-310", -1, "UE-ConnTimersAndConstants");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "T-310", "t-310", -1, "UE-ConnTimersAndConstants");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->t_310, 0, 7);
-      RT_CHECK(ctx, stat, "T-310", "t-310", -1, "UE-ConnTimersAndConstants");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_310, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "T-310", "t-310", -1, "UE-ConnTimersAndConstants");
    }
    /* n-310 */
    if (pvalue->n_310 != 4) {
       if ((uint64_t)pvalue->n_310 > 7u) {
          rtxErrAddStrParm(ctx, "N-310");
          rtxErrAddUIntParm(ctx, pvalue->n_310);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "N-310", "n-310", -1, "UE-ConnTimersAndConstants");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "N-310", "n-310", -1, "UE-ConnTimersAndConstants");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->n_310, 0, 7);
-      RT_CHECK(ctx, stat, "N-310", "n-310", -1, "UE-ConnTimersAndConstants");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->n_310, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "N-310", "n-310", -1, "UE-ConnTimersAndConstants");
    }
    /* t-311 */
    if (pvalue->t_311 != 7) {
       if (pvalue->t_311 > 7) {
          rtxErrAddUIntParm(ctx, pvalue->t_311);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "T-311", "t-311", -1, "UE-ConnTimersAndConstants");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "T-311", "t-311", -1, "UE-ConnTimersAndConstants");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->t_311, 0, 7);
-      RT_CHECK(ctx, stat, "T-311", "t-311", -1, "UE-ConnTimersAndConstants");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_311, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "T-311", "t-311", -1, "UE-ConnTimersAndConstants");
    }
    /* t-312 */
    if (pvalue->t_312 != 1) {
       if ((uint64_t)pvalue->t_312 > 15u) {
          rtxErrAddStrParm(ctx, "T-312");
          rtxErrAddUIntParm(ctx, pvalue->t_312);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "T-312", "t-312", -1, "UE-ConnTimersAndConstants");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "T-312", "t-312", -1, "UE-ConnTimersAndConstants");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->t_312, 0, 15);
-      RT_CHECK(ctx, stat, "T-312", "t-312", -1, "UE-ConnTimersAndConstants");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_312, 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "T-312", "t-312", -1, "UE-ConnTimersAndConstants");
    }
    /* n-312 */
    if (pvalue->n_312 != 0) {
       if (pvalue->n_312 > 7) {
          rtxErrAddUIntParm(ctx, pvalue->n_312);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "N-312", "n-312", -1, "UE-ConnTimersAndConstants");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "N-312", "n-312", -1, "UE-ConnTimersAndConstants");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->n_312, 0, 7);
-      RT_CHECK(ctx, stat, "N-312", "n-312", -1, "UE-ConnTimersAndConstants");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->n_312, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "N-312", "n-312", -1, "UE-ConnTimersAndConstants");
    }
    /* t-313 */
    if (pvalue->t_313 != 3) {
       if ((uint64_t)pvalue->t_313 > 15u) {
          rtxErrAddStrParm(ctx, "T-313");
          rtxErrAddUIntParm(ctx, pvalue->t_313);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "T-313", "t-313", -1, "UE-ConnTimersAndConstants");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "T-313", "t-313", -1, "UE-ConnTimersAndConstants");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->t_313, 0, 15);
-      RT_CHECK(ctx, stat, "T-313", "t-313", -1, "UE-ConnTimersAndConstants");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_313, 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "T-313", "t-313", -1, "UE-ConnTimersAndConstants");
    }
    /* n-313 */
    if (pvalue->n_313 != 4) {
       if (pvalue->n_313 > 7) {
          rtxErrAddUIntParm(ctx, pvalue->n_313);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "N-313", "n-313", -1, "UE-ConnTimersAndConstants");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "N-313", "n-313", -1, "UE-ConnTimersAndConstants");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->n_313, 0, 7);
-      RT_CHECK(ctx, stat, "N-313", "n-313", -1, "UE-ConnTimersAndConstants");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->n_313, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "N-313", "n-313", -1, "UE-ConnTimersAndConstants");
    }
    /* t-314 */
    if (pvalue->t_314 != 5) {
       if (pvalue->t_314 > 7) {
          rtxErrAddUIntParm(ctx, pvalue->t_314);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "T-314", "t-314", -1, "UE-ConnTimersAndConstants");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "T-314", "t-314", -1, "UE-ConnTimersAndConstants");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->t_314, 0, 7);
-      RT_CHECK(ctx, stat, "T-314", "t-314", -1, "UE-ConnTimersAndConstants");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_314, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "T-314", "t-314", -1, "UE-ConnTimersAndConstants");
    }
    /* t-315 */
    if (pvalue->t_315 != 4) {
       if (pvalue->t_315 > 7) {
          rtxErrAddUIntParm(ctx, pvalue->t_315);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "T-315", "t-315", -1, "UE-ConnTimersAndConstants");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "T-315", "t-315", -1, "UE-ConnTimersAndConstants");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->t_315, 0, 7);
-      RT_CHECK(ctx, stat, "T-315", "t-315", -1, "UE-ConnTimersAndConstants");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_315, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "T-315", "t-315", -1, "UE-ConnTimersAndConstants");
    }
    /* n-315 */
    if (pvalue->n_315 != 0) {
       if (pvalue->n_315 > 7) {
          rtxErrAddUIntParm(ctx, pvalue->n_315);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "N-315", "n-315", -1, "UE-ConnTimersAndConstants");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "N-315", "n-315", -1, "UE-ConnTimersAndConstants");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->n_315, 0, 7);
-      RT_CHECK(ctx, stat, "N-315", "n-315", -1, "UE-ConnTimersAndConstants");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->n_315, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "N-315", "n-315", -1, "UE-ConnTimersAndConstants");
    }
    /* t-316 */
    if (pvalue->t_316 != 3) {
       if (pvalue->t_316 > 7) {
          rtxErrAddUIntParm(ctx, pvalue->t_316);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "T-316", "t-316", -1, "UE-ConnTimersAndConstants");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "T-316", "t-316", -1, "UE-ConnTimersAndConstants");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->t_316, 0, 7);
-      RT_CHECK(ctx, stat, "T-316", "t-316", -1, "UE-ConnTimersAndConstants");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_316, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "T-316", "t-316", -1, "UE-ConnTimersAndConstants");
    }
    /* t-317 */
    if (pvalue->t_317 != 4) {
       if (pvalue->t_317 > 7) {
          rtxErrAddUIntParm(ctx, pvalue->t_317);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "T-317", "t-317", -1, "UE-ConnTimersAndConstants");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "T-317", "t-317", -1, "UE-ConnTimersAndConstants");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->t_317, 0, 7);
-      RT_CHECK(ctx, stat, "T-317", "t-317", -1, "UE-ConnTimersAndConstants");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_317, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "T-317", "t-317", -1, "UE-ConnTimersAndConstants");
    }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_ConnTimersAndConstants(rtxContext* RT_RESTRICT ctx, const UE_ConnTimersAndConstants* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_ConnTimersAndConstants, pvalue);
+}
+
+RT_MERGED_BODY int enc_T_300(rtxContext* RT_RESTRICT ctx, T_300 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 14) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "T-300");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 14);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "T-300");
    return 0;
 }
 
 int asn1PE_UMTS_T_300(rtxContext* RT_RESTRICT ctx, T_300 value)
 {
-   int stat = 0;
-   if (value > 14) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-300");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 14);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-300");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_T_300, value);
 }
 
-int asn1PE_UMTS_N_300(rtxContext* RT_RESTRICT ctx, N_300 value)
+RT_MERGED_BODY int enc_N_300(rtxContext* RT_RESTRICT ctx, N_300 value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)value > 7u) {
       rtxErrAddStrParm(ctx, "N-300");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "N-300");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "N-300");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "N-300");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "N-300");
+   return 0;
+}
+
+int asn1PE_UMTS_N_300(rtxContext* RT_RESTRICT ctx, N_300 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_N_300, value);
+}
+
+RT_MERGED_BODY int enc_UE_IdleTimersAndConstants(rtxContext* RT_RESTRICT ctx, const UE_IdleTimersAndConstants* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-IdleTimersAndConstants");
+   /* t-300 */
+   if (pvalue->t_300 > 14) {
+      rtxErrAddUIntParm(ctx, pvalue->t_300);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "T-300", "t-300", -1, "UE-IdleTimersAndConstants");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->t_300, 0, 14);
+   RT_CHECK_PUT(ctx, cur, stat, "T-300", "t-300", -1, "UE-IdleTimersAndConstants");
+   /* n-300 */
+   if ((uint64_t)pvalue->n_300 > 7u) {
+      rtxErrAddStrParm(ctx, "N-300");
+      rtxErrAddUIntParm(ctx, pvalue->n_300);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "N-300", "n-300", -1, "UE-IdleTimersAndConstants");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->n_300, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "N-300", "n-300", -1, "UE-IdleTimersAndConstants");
+   /* t-312 */
+   if ((uint64_t)pvalue->t_312 > 15u) {
+      rtxErrAddStrParm(ctx, "T-312");
+      rtxErrAddUIntParm(ctx, pvalue->t_312);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "T-312", "t-312", -1, "UE-IdleTimersAndConstants");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->t_312, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "T-312", "t-312", -1, "UE-IdleTimersAndConstants");
+   /* n-312 */
+   if (pvalue->n_312 > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->n_312);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "N-312", "n-312", -1, "UE-IdleTimersAndConstants");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->n_312, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "N-312", "n-312", -1, "UE-IdleTimersAndConstants");
    return 0;
 }
 
 int asn1PE_UMTS_UE_IdleTimersAndConstants(rtxContext* RT_RESTRICT ctx, const UE_IdleTimersAndConstants* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_UE_IdleTimersAndConstants, pvalue);
+}
+
+RT_MERGED_BODY int enc_N_312ext(rtxContext* RT_RESTRICT ctx, N_312ext value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-IdleTimersAndConstants");
-   /* t-300 */
-   if (pvalue->t_300 > 14) {
-      rtxErrAddUIntParm(ctx, pvalue->t_300);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "T-300", "t-300", -1, "UE-IdleTimersAndConstants");
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "N-312ext");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->t_300, 0, 14);
-   RT_CHECK(ctx, stat, "T-300", "t-300", -1, "UE-IdleTimersAndConstants");
-   /* n-300 */
-   if ((uint64_t)pvalue->n_300 > 7u) {
-      rtxErrAddStrParm(ctx, "N-300");
-      rtxErrAddUIntParm(ctx, pvalue->n_300);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "N-300", "n-300", -1, "UE-IdleTimersAndConstants");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->n_300, 0, 7);
-   RT_CHECK(ctx, stat, "N-300", "n-300", -1, "UE-IdleTimersAndConstants");
-   /* t-312 */
-   if ((uint64_t)pvalue->t_312 > 15u) {
-      rtxErrAddStrParm(ctx, "T-312");
-      rtxErrAddUIntParm(ctx, pvalue->t_312);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "T-312", "t-312", -1, "UE-IdleTimersAndConstants");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->t_312, 0, 15);
-   RT_CHECK(ctx, stat, "T-312", "t-312", -1, "UE-IdleTimersAndConstants");
-   /* n-312 */
-   if (pvalue->n_312 > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->n_312);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "N-312", "n-312", -1, "UE-IdleTimersAndConstants");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->n_312, 0, 7);
-   RT_CHECK(ctx, stat, "N-312", "n-312", -1, "UE-IdleTimersAndConstants");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "N-312ext");
    return 0;
 }
 
 int asn1PE_UMTS_N_312ext(rtxContext* RT_RESTRICT ctx, N_312ext value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_N_312ext, value);
+}
+
+RT_MERGED_BODY int enc_N_315ext(rtxContext* RT_RESTRICT ctx, N_315ext value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
    if (value > 3) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "N-312ext");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "N-315ext");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "N-312ext");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "N-315ext");
    return 0;
 }
 
 int asn1PE_UMTS_N_315ext(rtxContext* RT_RESTRICT ctx, N_315ext value)
 {
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "N-315ext");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "N-315ext");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_N_315ext, value);
 }
 
-int asn1PE_UMTS_UE_ConnTimersAndConstants_v3a0ext(rtxContext* RT_RESTRICT ctx, const UE_ConnTimersAndConstants_v3a0ext* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_UE_ConnTimersAndConstants_v3a0ext(rtxContext* RT_RESTRICT ctx, const UE_ConnTimersAndConstants_v3a0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-ConnTimersAndConstants-v3a0ext");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-ConnTimersAndConstants-v3a0ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-ConnTimersAndConstants-v3a0ext");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-ConnTimersAndConstants-v3a0ext");
    /* n-312 */
    if (pvalue->m & 0x1u) {
       if (pvalue->n_312 > 3) {
          rtxErrAddUIntParm(ctx, pvalue->n_312);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "N-312ext", "n-312", -1, "UE-ConnTimersAndConstants-v3a0ext");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "N-312ext", "n-312", -1, "UE-ConnTimersAndConstants-v3a0ext");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->n_312, 0, 3);
-      RT_CHECK(ctx, stat, "N-312ext", "n-312", -1, "UE-ConnTimersAndConstants-v3a0ext");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->n_312, 0, 3);
+      RT_CHECK_PUT(ctx, cur, stat, "N-312ext", "n-312", -1, "UE-ConnTimersAndConstants-v3a0ext");
    }
    /* n-315 */
    if (pvalue->m & 0x2u) {
       if (pvalue->n_315 > 3) {
          rtxErrAddUIntParm(ctx, pvalue->n_315);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "N-315ext", "n-315", -1, "UE-ConnTimersAndConstants-v3a0ext");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "N-315ext", "n-315", -1, "UE-ConnTimersAndConstants-v3a0ext");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->n_315, 0, 3);
-      RT_CHECK(ctx, stat, "N-315ext", "n-315", -1, "UE-ConnTimersAndConstants-v3a0ext");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->n_315, 0, 3);
+      RT_CHECK_PUT(ctx, cur, stat, "N-315ext", "n-315", -1, "UE-ConnTimersAndConstants-v3a0ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_ConnTimersAndConstants_v3a0ext(rtxContext* RT_RESTRICT ctx, const UE_ConnTimersAndConstants_v3a0ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_ConnTimersAndConstants_v3a0ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_IdleTimersAndConstants_v3a0ext(rtxContext* RT_RESTRICT ctx, const UE_IdleTimersAndConstants_v3a0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-IdleTimersAndConstants-v3a0ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-IdleTimersAndConstants-v3a0ext");
+   /* n-312 */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->n_312 > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->n_312);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "N-312ext", "n-312", -1, "UE-IdleTimersAndConstants-v3a0ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->n_312, 0, 3);
+      RT_CHECK_PUT(ctx, cur, stat, "N-312ext", "n-312", -1, "UE-IdleTimersAndConstants-v3a0ext");
    }
    return 0;
 }
 
 int asn1PE_UMTS_UE_IdleTimersAndConstants_v3a0ext(rtxContext* RT_RESTRICT ctx, const UE_IdleTimersAndConstants_v3a0ext* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_UE_IdleTimersAndConstants_v3a0ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType1_v3a0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType1_v3a0ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-IdleTimersAndConstants-v3a0ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-IdleTimersAndConstants-v3a0ext");
-   /* n-312 */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->n_312 > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->n_312);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "N-312ext", "n-312", -1, "UE-IdleTimersAndConstants-v3a0ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->n_312, 0, 3);
-      RT_CHECK(ctx, stat, "N-312ext", "n-312", -1, "UE-IdleTimersAndConstants-v3a0ext");
-   }
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType1-v3a0ext-IEs");
+   /* ue-ConnTimersAndConstants-v3a0ext */
+   stat = enc_UE_ConnTimersAndConstants_v3a0ext(ctx, &pvalue->ue_ConnTimersAndConstants_v3a0ext, cur);
+   RT_CHECK(ctx, stat, 0, "ue-ConnTimersAndConstants-v3a0ext", -1, "SysInfoType1-v3a0ext-IEs");
+   /* ue-IdleTimersAndConstants-v3a0ext */
+   stat = enc_UE_IdleTimersAndConstants_v3a0ext(ctx, &pvalue->ue_IdleTimersAndConstants_v3a0ext, cur);
+   RT_CHECK(ctx, stat, 0, "ue-IdleTimersAndConstants-v3a0ext", -1, "SysInfoType1-v3a0ext-IEs");
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType1_v3a0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType1_v3a0ext_IEs* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType1_v3a0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_T_323(rtxContext* RT_RESTRICT ctx, T_323 value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType1-v3a0ext-IEs");
-   /* ue-ConnTimersAndConstants-v3a0ext */
-   stat = asn1PE_UMTS_UE_ConnTimersAndConstants_v3a0ext(ctx, &pvalue->ue_ConnTimersAndConstants_v3a0ext);
-   RT_CHECK(ctx, stat, 0, "ue-ConnTimersAndConstants-v3a0ext", -1, "SysInfoType1-v3a0ext-IEs");
-   /* ue-IdleTimersAndConstants-v3a0ext */
-   stat = asn1PE_UMTS_UE_IdleTimersAndConstants_v3a0ext(ctx, &pvalue->ue_IdleTimersAndConstants_v3a0ext);
-   RT_CHECK(ctx, stat, 0, "ue-IdleTimersAndConstants-v3a0ext", -1, "SysInfoType1-v3a0ext-IEs");
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "T-323");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "T-323");
    return 0;
 }
 
 int asn1PE_UMTS_T_323(rtxContext* RT_RESTRICT ctx, T_323 value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_T_323, value);
+}
+
+RT_MERGED_BODY int enc_UE_ConnTimersAndConstants_v860ext(rtxContext* RT_RESTRICT ctx, const UE_ConnTimersAndConstants_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-323");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-ConnTimersAndConstants-v860ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-ConnTimersAndConstants-v860ext");
+   /* t-323 */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->t_323 > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->t_323);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "T-323", "t-323", -1, "UE-ConnTimersAndConstants-v860ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_323, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "T-323", "t-323", -1, "UE-ConnTimersAndConstants-v860ext");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-323");
    return 0;
 }
 
 int asn1PE_UMTS_UE_ConnTimersAndConstants_v860ext(rtxContext* RT_RESTRICT ctx, const UE_ConnTimersAndConstants_v860ext* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_UE_ConnTimersAndConstants_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType1_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType1_v860ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-ConnTimersAndConstants-v860ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-ConnTimersAndConstants-v860ext");
-   /* t-323 */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->t_323 > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->t_323);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "T-323", "t-323", -1, "UE-ConnTimersAndConstants-v860ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_323, 0, 7);
-      RT_CHECK(ctx, stat, "T-323", "t-323", -1, "UE-ConnTimersAndConstants-v860ext");
-   }
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType1-v860ext-IEs");
+   /* ue-ConnTimersAndConstants */
+   stat = enc_UE_ConnTimersAndConstants_v860ext(ctx, &pvalue->ue_ConnTimersAndConstants, cur);
+   RT_CHECK(ctx, stat, 0, "ue-ConnTimersAndConstants", -1, "SysInfoType1-v860ext-IEs");
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType1_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType1_v860ext_IEs* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType1_v860ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType1-v860ext-IEs");
-   /* ue-ConnTimersAndConstants */
-   stat = asn1PE_UMTS_UE_ConnTimersAndConstants_v860ext(ctx, &pvalue->ue_ConnTimersAndConstants);
-   RT_CHECK(ctx, stat, 0, "ue-ConnTimersAndConstants", -1, "SysInfoType1-v860ext-IEs");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions(rtxContext* RT_RESTRICT ctx, const SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType1-v860ext */
+   stat = enc_SysInfoType1_v860ext_IEs(ctx, &pvalue->sysInfoType1_v860ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType1-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions(rtxContext* RT_RESTRICT ctx, const SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType1_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType1_v3a0NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType1-v860ext */
-   stat = asn1PE_UMTS_SysInfoType1_v860ext_IEs(ctx, &pvalue->sysInfoType1_v860ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType1-v860ext", -1, 0);
-   /* nonCriticalExtensions */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType1-v3a0ext */
+   stat = enc_SysInfoType1_v3a0ext_IEs(ctx, &pvalue->sysInfoType1_v3a0ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType1-v3a0ext", -1, 0);
+   /* v860NonCriticalExtentions */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+      stat = enc_SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions(ctx, &pvalue->v860NonCriticalExtentions, cur);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtentions", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType1_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType1_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType1_v3a0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType1(rtxContext* RT_RESTRICT ctx, const SysInfoType1* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType1");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType1-v3a0ext */
-   stat = asn1PE_UMTS_SysInfoType1_v3a0ext_IEs(ctx, &pvalue->sysInfoType1_v3a0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType1-v3a0ext", -1, 0);
-   /* v860NonCriticalExtentions */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType1");
+   /* cn-CommonGSM-MAP-NAS-SysInfo */
+   stat = enc_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_CommonGSM_MAP_NAS_SysInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cn-CommonGSM-MAP-NAS-SysInfo", -1, "SysInfoType1");
+   /* cn-DomainSysInfoList */
+   stat = enc_CN_DomainSysInfoList(ctx, &pvalue->cn_DomainSysInfoList, cur);
+   RT_CHECK(ctx, stat, 0, "cn-DomainSysInfoList", -1, "SysInfoType1");
+   /* ue-ConnTimersAndConstants */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType1_v3a0NonCriticalExtensions_v860NonCriticalExtentions(ctx, &pvalue->v860NonCriticalExtentions);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtentions", -1, 0);
+      stat = enc_UE_ConnTimersAndConstants(ctx, &pvalue->ue_ConnTimersAndConstants, cur);
+      RT_CHECK(ctx, stat, 0, "ue-ConnTimersAndConstants", -1, "SysInfoType1");
+   }
+   /* ue-IdleTimersAndConstants */
+   if (pvalue->m & 0x2u) {
+      stat = enc_UE_IdleTimersAndConstants(ctx, &pvalue->ue_IdleTimersAndConstants, cur);
+      RT_CHECK(ctx, stat, 0, "ue-IdleTimersAndConstants", -1, "SysInfoType1");
+   }
+   /* v3a0NonCriticalExtensions */
+   if (pvalue->m & 0x4u) {
+      stat = enc_SysInfoType1_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, "SysInfoType1");
    }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType1(rtxContext* RT_RESTRICT ctx, const SysInfoType1* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType1, pvalue);
+}
+
+RT_MERGED_BODY int enc_URA_Identity(rtxContext* RT_RESTRICT ctx, URA_Identity value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType1");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType1");
-   /* cn-CommonGSM-MAP-NAS-SysInfo */
-   stat = asn1PE_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_CommonGSM_MAP_NAS_SysInfo);
-   RT_CHECK(ctx, stat, 0, "cn-CommonGSM-MAP-NAS-SysInfo", -1, "SysInfoType1");
-   /* cn-DomainSysInfoList */
-   stat = asn1PE_UMTS_CN_DomainSysInfoList(ctx, &pvalue->cn_DomainSysInfoList);
-   RT_CHECK(ctx, stat, 0, "cn-DomainSysInfoList", -1, "SysInfoType1");
-   /* ue-ConnTimersAndConstants */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_ConnTimersAndConstants(ctx, &pvalue->ue_ConnTimersAndConstants);
-      RT_CHECK(ctx, stat, 0, "ue-ConnTimersAndConstants", -1, "SysInfoType1");
-   }
-   /* ue-IdleTimersAndConstants */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_IdleTimersAndConstants(ctx, &pvalue->ue_IdleTimersAndConstants);
-      RT_CHECK(ctx, stat, 0, "ue-IdleTimersAndConstants", -1, "SysInfoType1");
-   }
-   /* v3a0NonCriticalExtensions */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_SysInfoType1_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, "SysInfoType1");
-   }
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &value, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "URA-Identity");
    return 0;
 }
 
 int asn1PE_UMTS_URA_Identity(rtxContext* RT_RESTRICT ctx, URA_Identity value)
 {
-   int stat = 0;
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &value, 16, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, "URA-Identity");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_URA_Identity, value);
 }
 
-int asn1PE_UMTS_URA_IdentityList(rtxContext* RT_RESTRICT ctx, const URA_IdentityList* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_URA_IdentityList(rtxContext* RT_RESTRICT ctx, const URA_IdentityList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "URA-IdentityList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "URA-IdentityList");
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "URA-IdentityList");
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "URA-IdentityList");
    for (i = 0; i < pvalue->n; i++) {
-      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->elem[i]);
+      stat = enc_URA_Identity(ctx, pvalue->elem[i], cur);
       RT_CHECK(ctx, stat, 0, "URA-Identity", (int32_t)i, "URA-IdentityList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType2_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType2_nonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PE_UMTS_URA_IdentityList(rtxContext* RT_RESTRICT ctx, const URA_IdentityList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_URA_IdentityList, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType2_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType2_nonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType2(rtxContext* RT_RESTRICT ctx, const SysInfoType2* RT_RESTRICT pvalue)
+int asn1PE_UMTS_SysInfoType2_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType2_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType2_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType2(rtxContext* RT_RESTRICT ctx, const SysInfoType2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType2");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType2");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType2");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType2");
    /* ura-IdentityList */
-   stat = asn1PE_UMTS_URA_IdentityList(ctx, &pvalue->ura_IdentityList);
+   stat = enc_URA_IdentityList(ctx, &pvalue->ura_IdentityList, cur);
    RT_CHECK(ctx, stat, 0, "ura-IdentityList", -1, "SysInfoType2");
    /* nonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType2_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      stat = enc_SysInfoType2_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType2");
    }
    return 0;
 }
 
-int asn1PE_UMTS_UL_Interference(rtxContext* RT_RESTRICT ctx, UL_Interference value)
+int asn1PE_UMTS_SysInfoType2(rtxContext* RT_RESTRICT ctx, const SysInfoType2* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType2, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_Interference(rtxContext* RT_RESTRICT ctx, UL_Interference value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value < -110 || value > -70) {
       rtxErrAddStrParm(ctx, "UL-Interference");
       rtxErrAddIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "UL-Interference");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "UL-Interference");
    }
-   stat = pe_ConsInt64(ctx, value, -110, -70);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-Interference");
+   stat = pe_ConsInt64At(ctx, cur, value, -110, -70);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UL-Interference");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_Interference(rtxContext* RT_RESTRICT ctx, UL_Interference value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_Interference, value);
+}
+
+RT_MERGED_BODY int enc_SysInfoType7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SysInfoType7_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ul-Interference */
+   if (pvalue->ul_Interference < -110 || pvalue->ul_Interference > -70) {
+      rtxErrAddStrParm(ctx, "UL-Interference");
+      rtxErrAddIntParm(ctx, pvalue->ul_Interference);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UL-Interference", "ul-Interference", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->ul_Interference, -110, -70);
+   RT_CHECK_PUT(ctx, cur, stat, "UL-Interference", "ul-Interference", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SysInfoType7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* ul-Interference */
-   if (pvalue->ul_Interference < -110 || pvalue->ul_Interference > -70) {
-      rtxErrAddStrParm(ctx, "UL-Interference");
-      rtxErrAddIntParm(ctx, pvalue->ul_Interference);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-Interference", "ul-Interference", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->ul_Interference, -110, -70);
-   RT_CHECK(ctx, stat, "UL-Interference", "ul-Interference", -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType7_modeSpecificInfo_fdd, pvalue);
 }
 
-int asn1PE_UMTS_SysInfoType7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType7_modeSpecificInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_SysInfoType7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType7_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_SysInfoType7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_SysInfoType7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
          RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
@@ -5086,77 +6635,102 @@ int asn1PE_UMTS_SysInfoType7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const
    return 0;
 }
 
-int asn1PE_UMTS_DynamicPersistenceLevel(rtxContext* RT_RESTRICT ctx, DynamicPersistenceLevel value)
+int asn1PE_UMTS_SysInfoType7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType7_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType7_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_DynamicPersistenceLevel(rtxContext* RT_RESTRICT ctx, DynamicPersistenceLevel value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)(value - 1) > 7u) {
       rtxErrAddStrParm(ctx, "DynamicPersistenceLevel");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DynamicPersistenceLevel");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "DynamicPersistenceLevel");
    }
-   stat = pe_ConsUInt64(ctx, value, 1, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DynamicPersistenceLevel");
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DynamicPersistenceLevel");
+   return 0;
+}
+
+int asn1PE_UMTS_DynamicPersistenceLevel(rtxContext* RT_RESTRICT ctx, DynamicPersistenceLevel value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DynamicPersistenceLevel, value);
+}
+
+RT_MERGED_BODY int enc_DynamicPersistenceLevelList(rtxContext* RT_RESTRICT ctx, const DynamicPersistenceLevelList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DynamicPersistenceLevelList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DynamicPersistenceLevelList");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)(pvalue->elem[i] - 1) > 7u) {
+         rtxErrAddStrParm(ctx, "DynamicPersistenceLevel");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DynamicPersistenceLevel", "DynamicPersistenceLevel", (int32_t)i, "DynamicPersistenceLevelList");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 1, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "DynamicPersistenceLevel", "DynamicPersistenceLevel", (int32_t)i, "DynamicPersistenceLevelList");
+   }
    return 0;
 }
 
 int asn1PE_UMTS_DynamicPersistenceLevelList(rtxContext* RT_RESTRICT ctx, const DynamicPersistenceLevelList* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DynamicPersistenceLevelList");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DynamicPersistenceLevelList");
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)(pvalue->elem[i] - 1) > 7u) {
-         rtxErrAddStrParm(ctx, "DynamicPersistenceLevel");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DynamicPersistenceLevel", "DynamicPersistenceLevel", (int32_t)i, "DynamicPersistenceLevelList");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 1, 8);
-      RT_CHECK(ctx, stat, "DynamicPersistenceLevel", "DynamicPersistenceLevel", (int32_t)i, "DynamicPersistenceLevelList");
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_DynamicPersistenceLevelList, pvalue);
 }
 
-int asn1PE_UMTS_ExpirationTimeFactor(rtxContext* RT_RESTRICT ctx, ExpirationTimeFactor value)
+RT_MERGED_BODY int enc_ExpirationTimeFactor(rtxContext* RT_RESTRICT ctx, ExpirationTimeFactor value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)(value - 1) > 7u) {
       rtxErrAddStrParm(ctx, "ExpirationTimeFactor");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "ExpirationTimeFactor");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "ExpirationTimeFactor");
    }
-   stat = pe_ConsUInt64(ctx, value, 1, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ExpirationTimeFactor");
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ExpirationTimeFactor");
+   return 0;
+}
+
+int asn1PE_UMTS_ExpirationTimeFactor(rtxContext* RT_RESTRICT ctx, ExpirationTimeFactor value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ExpirationTimeFactor, value);
+}
+
+RT_MERGED_BODY int enc_SysInfoType7_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType7_nonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType7_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType7_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType7_nonCriticalExtensions, pvalue);
 }
 
-int asn1PE_UMTS_SysInfoType7(rtxContext* RT_RESTRICT ctx, const SysInfoType7* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_SysInfoType7(rtxContext* RT_RESTRICT ctx, const SysInfoType7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType7");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType7");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType7");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType7");
    /* modeSpecificInfo */
-   stat = asn1PE_UMTS_SysInfoType7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   stat = enc_SysInfoType7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
    RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SysInfoType7");
    /* prach-Information-SIB5-List */
-   stat = asn1PE_UMTS_DynamicPersistenceLevelList(ctx, &pvalue->prach_Information_SIB5_List);
+   stat = enc_DynamicPersistenceLevelList(ctx, &pvalue->prach_Information_SIB5_List, cur);
    RT_CHECK(ctx, stat, 0, "prach-Information-SIB5-List", -1, "SysInfoType7");
    /* prach-Information-SIB6-List */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DynamicPersistenceLevelList(ctx, &pvalue->prach_Information_SIB6_List);
+      stat = enc_DynamicPersistenceLevelList(ctx, &pvalue->prach_Information_SIB6_List, cur);
       RT_CHECK(ctx, stat, 0, "prach-Information-SIB6-List", -1, "SysInfoType7");
    }
    /* expirationTimeFactor */
@@ -5164,483 +6738,628 @@ int asn1PE_UMTS_SysInfoType7(rtxContext* RT_RESTRICT ctx, const SysInfoType7* RT
       if ((uint64_t)(pvalue->expirationTimeFactor - 1) > 7u) {
          rtxErrAddStrParm(ctx, "ExpirationTimeFactor");
          rtxErrAddUIntParm(ctx, pvalue->expirationTimeFactor);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "ExpirationTimeFactor", "expirationTimeFactor", -1, "SysInfoType7");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ExpirationTimeFactor", "expirationTimeFactor", -1, "SysInfoType7");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->expirationTimeFactor, 1, 8);
-      RT_CHECK(ctx, stat, "ExpirationTimeFactor", "expirationTimeFactor", -1, "SysInfoType7");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->expirationTimeFactor, 1, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "ExpirationTimeFactor", "expirationTimeFactor", -1, "SysInfoType7");
    }
    /* nonCriticalExtensions */
    if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_SysInfoType7_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
+      stat = enc_SysInfoType7_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
       RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType7(rtxContext* RT_RESTRICT ctx, const SysInfoType7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType7, pvalue);
+}
+
+RT_MERGED_BODY int enc_PLMNsOfIntraFreqCellsList_element(rtxContext* RT_RESTRICT ctx, const PLMNsOfIntraFreqCellsList_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* plmn-Identity */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PLMN_Identity(ctx, &pvalue->plmn_Identity, cur);
+      RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_PLMNsOfIntraFreqCellsList_element(rtxContext* RT_RESTRICT ctx, const PLMNsOfIntraFreqCellsList_element* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_PLMNsOfIntraFreqCellsList_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_PLMNsOfIntraFreqCellsList(rtxContext* RT_RESTRICT ctx, const PLMNsOfIntraFreqCellsList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* plmn-Identity */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
-      RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PLMNsOfIntraFreqCellsList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "PLMNsOfIntraFreqCellsList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "PLMNsOfIntraFreqCellsList");
+      stat = enc_PLMNsOfIntraFreqCellsList_element(ctx, (const PLMNsOfIntraFreqCellsList_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PLMNsOfIntraFreqCellsList");
    }
    return 0;
 }
 
 int asn1PE_UMTS_PLMNsOfIntraFreqCellsList(rtxContext* RT_RESTRICT ctx, const PLMNsOfIntraFreqCellsList* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_PLMNsOfIntraFreqCellsList, pvalue);
+}
+
+RT_MERGED_BODY int enc_PLMNsOfInterFreqCellsList_element(rtxContext* RT_RESTRICT ctx, const PLMNsOfInterFreqCellsList_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PLMNsOfIntraFreqCellsList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PLMNsOfIntraFreqCellsList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "PLMNsOfIntraFreqCellsList");
-      stat = asn1PE_UMTS_PLMNsOfIntraFreqCellsList_element(ctx, (const PLMNsOfIntraFreqCellsList_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PLMNsOfIntraFreqCellsList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* plmn-Identity */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PLMN_Identity(ctx, &pvalue->plmn_Identity, cur);
+      RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_PLMNsOfInterFreqCellsList_element(rtxContext* RT_RESTRICT ctx, const PLMNsOfInterFreqCellsList_element* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_PLMNsOfInterFreqCellsList_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_PLMNsOfInterFreqCellsList(rtxContext* RT_RESTRICT ctx, const PLMNsOfInterFreqCellsList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* plmn-Identity */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
-      RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PLMNsOfInterFreqCellsList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "PLMNsOfInterFreqCellsList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "PLMNsOfInterFreqCellsList");
+      stat = enc_PLMNsOfInterFreqCellsList_element(ctx, (const PLMNsOfInterFreqCellsList_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PLMNsOfInterFreqCellsList");
    }
    return 0;
 }
 
 int asn1PE_UMTS_PLMNsOfInterFreqCellsList(rtxContext* RT_RESTRICT ctx, const PLMNsOfInterFreqCellsList* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_PLMNsOfInterFreqCellsList, pvalue);
+}
+
+RT_MERGED_BODY int enc_PLMNsOfInterRATCellsList_element(rtxContext* RT_RESTRICT ctx, const PLMNsOfInterRATCellsList_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PLMNsOfInterFreqCellsList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PLMNsOfInterFreqCellsList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "PLMNsOfInterFreqCellsList");
-      stat = asn1PE_UMTS_PLMNsOfInterFreqCellsList_element(ctx, (const PLMNsOfInterFreqCellsList_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PLMNsOfInterFreqCellsList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* plmn-Identity */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PLMN_Identity(ctx, &pvalue->plmn_Identity, cur);
+      RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_PLMNsOfInterRATCellsList_element(rtxContext* RT_RESTRICT ctx, const PLMNsOfInterRATCellsList_element* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_PLMNsOfInterRATCellsList_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_PLMNsOfInterRATCellsList(rtxContext* RT_RESTRICT ctx, const PLMNsOfInterRATCellsList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* plmn-Identity */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
-      RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PLMNsOfInterRATCellsList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "PLMNsOfInterRATCellsList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "PLMNsOfInterRATCellsList");
+      stat = enc_PLMNsOfInterRATCellsList_element(ctx, (const PLMNsOfInterRATCellsList_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PLMNsOfInterRATCellsList");
    }
    return 0;
 }
 
 int asn1PE_UMTS_PLMNsOfInterRATCellsList(rtxContext* RT_RESTRICT ctx, const PLMNsOfInterRATCellsList* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_PLMNsOfInterRATCellsList, pvalue);
+}
+
+static int enc_PLMNIdentitiesOfNeighbourCells(rtxContext* RT_RESTRICT ctx, const PLMNIdentitiesOfNeighbourCells* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PLMNsOfInterRATCellsList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PLMNsOfInterRATCellsList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "PLMNsOfInterRATCellsList");
-      stat = asn1PE_UMTS_PLMNsOfInterRATCellsList_element(ctx, (const PLMNsOfInterRATCellsList_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PLMNsOfInterRATCellsList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PLMNIdentitiesOfNeighbourCells");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PLMNIdentitiesOfNeighbourCells");
+   /* plmnsOfIntraFreqCellsList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PLMNsOfIntraFreqCellsList(ctx, &pvalue->plmnsOfIntraFreqCellsList, cur);
+      RT_CHECK(ctx, stat, 0, "plmnsOfIntraFreqCellsList", -1, "PLMNIdentitiesOfNeighbourCells");
+   }
+   /* plmnsOfInterFreqCellsList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_PLMNsOfInterFreqCellsList(ctx, &pvalue->plmnsOfInterFreqCellsList, cur);
+      RT_CHECK(ctx, stat, 0, "plmnsOfInterFreqCellsList", -1, "PLMNIdentitiesOfNeighbourCells");
+   }
+   /* plmnsOfInterRATCellsList */
+   if (pvalue->m & 0x4u) {
+      stat = enc_PLMNsOfInterRATCellsList(ctx, &pvalue->plmnsOfInterRATCellsList, cur);
+      RT_CHECK(ctx, stat, 0, "plmnsOfInterRATCellsList", -1, "PLMNIdentitiesOfNeighbourCells");
    }
    return 0;
 }
 
 int asn1PE_UMTS_PLMNIdentitiesOfNeighbourCells(rtxContext* RT_RESTRICT ctx, const PLMNIdentitiesOfNeighbourCells* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_PLMNIdentitiesOfNeighbourCells, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType18_v6b0ext(rtxContext* RT_RESTRICT ctx, const SysInfoType18_v6b0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PLMNIdentitiesOfNeighbourCells");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType18-v6b0ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PLMNIdentitiesOfNeighbourCells");
-   /* plmnsOfIntraFreqCellsList */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType18-v6b0ext");
+   /* idleModePLMNIdentitiesSIB11bis */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PLMNsOfIntraFreqCellsList(ctx, &pvalue->plmnsOfIntraFreqCellsList);
-      RT_CHECK(ctx, stat, 0, "plmnsOfIntraFreqCellsList", -1, "PLMNIdentitiesOfNeighbourCells");
+      stat = enc_PLMNIdentitiesOfNeighbourCells(ctx, &pvalue->idleModePLMNIdentitiesSIB11bis, cur);
+      RT_CHECK(ctx, stat, 0, "idleModePLMNIdentitiesSIB11bis", -1, "SysInfoType18-v6b0ext");
    }
-   /* plmnsOfInterFreqCellsList */
+   /* connectedModePLMNIdentitiesSIB11bis */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_PLMNsOfInterFreqCellsList(ctx, &pvalue->plmnsOfInterFreqCellsList);
-      RT_CHECK(ctx, stat, 0, "plmnsOfInterFreqCellsList", -1, "PLMNIdentitiesOfNeighbourCells");
-   }
-   /* plmnsOfInterRATCellsList */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_PLMNsOfInterRATCellsList(ctx, &pvalue->plmnsOfInterRATCellsList);
-      RT_CHECK(ctx, stat, 0, "plmnsOfInterRATCellsList", -1, "PLMNIdentitiesOfNeighbourCells");
+      stat = enc_PLMNIdentitiesOfNeighbourCells(ctx, &pvalue->connectedModePLMNIdentitiesSIB11bis, cur);
+      RT_CHECK(ctx, stat, 0, "connectedModePLMNIdentitiesSIB11bis", -1, "SysInfoType18-v6b0ext");
    }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType18_v6b0ext(rtxContext* RT_RESTRICT ctx, const SysInfoType18_v6b0ext* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType18_v6b0ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_MultiplePLMNsOfIntraFreqCellsList_element_multiplePLMN_list(rtxContext* RT_RESTRICT ctx, const MultiplePLMNsOfIntraFreqCellsList_element_multiplePLMN_list* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType18-v6b0ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType18-v6b0ext");
-   /* idleModePLMNIdentitiesSIB11bis */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PLMNIdentitiesOfNeighbourCells(ctx, &pvalue->idleModePLMNIdentitiesSIB11bis);
-      RT_CHECK(ctx, stat, 0, "idleModePLMNIdentitiesSIB11bis", -1, "SysInfoType18-v6b0ext");
-   }
-   /* connectedModePLMNIdentitiesSIB11bis */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_PLMNIdentitiesOfNeighbourCells(ctx, &pvalue->connectedModePLMNIdentitiesSIB11bis);
-      RT_CHECK(ctx, stat, 0, "connectedModePLMNIdentitiesSIB11bis", -1, "SysInfoType18-v6b0ext");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 6);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "PLMN-IdentityWithOptionalMCC-r6", (int32_t)i, 0);
+      stat = enc_PLMN_IdentityWithOptionalMCC_r6(ctx, (const PLMN_IdentityWithOptionalMCC_r6*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "PLMN-IdentityWithOptionalMCC-r6", (int32_t)i, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_MultiplePLMNsOfIntraFreqCellsList_element_multiplePLMN_list(rtxContext* RT_RESTRICT ctx, const MultiplePLMNsOfIntraFreqCellsList_element_multiplePLMN_list* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_MultiplePLMNsOfIntraFreqCellsList_element_multiplePLMN_list, pvalue);
+}
+
+RT_MERGED_BODY int enc_MultiplePLMNsOfIntraFreqCellsList_element(rtxContext* RT_RESTRICT ctx, const MultiplePLMNsOfIntraFreqCellsList_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 6);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PLMN-IdentityWithOptionalMCC-r6", (int32_t)i, 0);
-      stat = asn1PE_UMTS_PLMN_IdentityWithOptionalMCC_r6(ctx, (const PLMN_IdentityWithOptionalMCC_r6*)node->data);
-      RT_CHECK(ctx, stat, 0, "PLMN-IdentityWithOptionalMCC-r6", (int32_t)i, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* multiplePLMN-list */
+   if (pvalue->m & 0x1u) {
+      stat = enc_MultiplePLMNsOfIntraFreqCellsList_element_multiplePLMN_list(ctx, &pvalue->multiplePLMN_list, cur);
+      RT_CHECK(ctx, stat, 0, "multiplePLMN-list", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_MultiplePLMNsOfIntraFreqCellsList_element(rtxContext* RT_RESTRICT ctx, const MultiplePLMNsOfIntraFreqCellsList_element* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_MultiplePLMNsOfIntraFreqCellsList_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_MultiplePLMNsOfIntraFreqCellsList(rtxContext* RT_RESTRICT ctx, const MultiplePLMNsOfIntraFreqCellsList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* multiplePLMN-list */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MultiplePLMNsOfIntraFreqCellsList_element_multiplePLMN_list(ctx, &pvalue->multiplePLMN_list);
-      RT_CHECK(ctx, stat, 0, "multiplePLMN-list", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MultiplePLMNsOfIntraFreqCellsList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "MultiplePLMNsOfIntraFreqCellsList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "MultiplePLMNsOfIntraFreqCellsList");
+      stat = enc_MultiplePLMNsOfIntraFreqCellsList_element(ctx, (const MultiplePLMNsOfIntraFreqCellsList_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "MultiplePLMNsOfIntraFreqCellsList");
    }
    return 0;
 }
 
 int asn1PE_UMTS_MultiplePLMNsOfIntraFreqCellsList(rtxContext* RT_RESTRICT ctx, const MultiplePLMNsOfIntraFreqCellsList* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_MultiplePLMNsOfIntraFreqCellsList, pvalue);
+}
+
+RT_MERGED_BODY int enc_MultiplePLMNsOfInterFreqCellsList_element_multiplePLMN_list(rtxContext* RT_RESTRICT ctx, const MultiplePLMNsOfInterFreqCellsList_element_multiplePLMN_list* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MultiplePLMNsOfIntraFreqCellsList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    const rtxDListNode* node;
    uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MultiplePLMNsOfIntraFreqCellsList");
+   RT_SET_SIZE(ctx, 1, 6);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "MultiplePLMNsOfIntraFreqCellsList");
-      stat = asn1PE_UMTS_MultiplePLMNsOfIntraFreqCellsList_element(ctx, (const MultiplePLMNsOfIntraFreqCellsList_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "MultiplePLMNsOfIntraFreqCellsList");
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "PLMN-IdentityWithOptionalMCC-r6", (int32_t)i, 0);
+      stat = enc_PLMN_IdentityWithOptionalMCC_r6(ctx, (const PLMN_IdentityWithOptionalMCC_r6*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "PLMN-IdentityWithOptionalMCC-r6", (int32_t)i, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_MultiplePLMNsOfInterFreqCellsList_element_multiplePLMN_list(rtxContext* RT_RESTRICT ctx, const MultiplePLMNsOfInterFreqCellsList_element_multiplePLMN_list* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_MultiplePLMNsOfInterFreqCellsList_element_multiplePLMN_list, pvalue);
+}
+
+RT_MERGED_BODY int enc_MultiplePLMNsOfInterFreqCellsList_element(rtxContext* RT_RESTRICT ctx, const MultiplePLMNsOfInterFreqCellsList_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 6);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PLMN-IdentityWithOptionalMCC-r6", (int32_t)i, 0);
-      stat = asn1PE_UMTS_PLMN_IdentityWithOptionalMCC_r6(ctx, (const PLMN_IdentityWithOptionalMCC_r6*)node->data);
-      RT_CHECK(ctx, stat, 0, "PLMN-IdentityWithOptionalMCC-r6", (int32_t)i, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* multiplePLMN-list */
+   if (pvalue->m & 0x1u) {
+      stat = enc_MultiplePLMNsOfInterFreqCellsList_element_multiplePLMN_list(ctx, &pvalue->multiplePLMN_list, cur);
+      RT_CHECK(ctx, stat, 0, "multiplePLMN-list", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_MultiplePLMNsOfInterFreqCellsList_element(rtxContext* RT_RESTRICT ctx, const MultiplePLMNsOfInterFreqCellsList_element* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_MultiplePLMNsOfInterFreqCellsList_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_MultiplePLMNsOfInterFreqCellsList(rtxContext* RT_RESTRICT ctx, const MultiplePLMNsOfInterFreqCellsList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* multiplePLMN-list */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MultiplePLMNsOfInterFreqCellsList_element_multiplePLMN_list(ctx, &pvalue->multiplePLMN_list);
-      RT_CHECK(ctx, stat, 0, "multiplePLMN-list", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MultiplePLMNsOfInterFreqCellsList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "MultiplePLMNsOfInterFreqCellsList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "MultiplePLMNsOfInterFreqCellsList");
+      stat = enc_MultiplePLMNsOfInterFreqCellsList_element(ctx, (const MultiplePLMNsOfInterFreqCellsList_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "MultiplePLMNsOfInterFreqCellsList");
    }
    return 0;
 }
 
 int asn1PE_UMTS_MultiplePLMNsOfInterFreqCellsList(rtxContext* RT_RESTRICT ctx, const MultiplePLMNsOfInterFreqCellsList* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_MultiplePLMNsOfInterFreqCellsList, pvalue);
+}
+
+static int enc_PLMNIdentitiesOfNeighbourCells_v860ext(rtxContext* RT_RESTRICT ctx, const PLMNIdentitiesOfNeighbourCells_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MultiplePLMNsOfInterFreqCellsList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MultiplePLMNsOfInterFreqCellsList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "MultiplePLMNsOfInterFreqCellsList");
-      stat = asn1PE_UMTS_MultiplePLMNsOfInterFreqCellsList_element(ctx, (const MultiplePLMNsOfInterFreqCellsList_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "MultiplePLMNsOfInterFreqCellsList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PLMNIdentitiesOfNeighbourCells-v860ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PLMNIdentitiesOfNeighbourCells-v860ext");
+   /* multipleplmnsOfIntraFreqCellsList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_MultiplePLMNsOfIntraFreqCellsList(ctx, &pvalue->multipleplmnsOfIntraFreqCellsList, cur);
+      RT_CHECK(ctx, stat, 0, "multipleplmnsOfIntraFreqCellsList", -1, "PLMNIdentitiesOfNeighbourCells-v860ext");
+   }
+   /* multipleplmnsOfInterFreqCellsList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_MultiplePLMNsOfInterFreqCellsList(ctx, &pvalue->multipleplmnsOfInterFreqCellsList, cur);
+      RT_CHECK(ctx, stat, 0, "multipleplmnsOfInterFreqCellsList", -1, "PLMNIdentitiesOfNeighbourCells-v860ext");
    }
    return 0;
 }
 
 int asn1PE_UMTS_PLMNIdentitiesOfNeighbourCells_v860ext(rtxContext* RT_RESTRICT ctx, const PLMNIdentitiesOfNeighbourCells_v860ext* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_PLMNIdentitiesOfNeighbourCells_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType18_v860ext(rtxContext* RT_RESTRICT ctx, const SysInfoType18_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PLMNIdentitiesOfNeighbourCells-v860ext");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType18-v860ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PLMNIdentitiesOfNeighbourCells-v860ext");
-   /* multipleplmnsOfIntraFreqCellsList */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType18-v860ext");
+   /* idleModePLMNIdentities */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MultiplePLMNsOfIntraFreqCellsList(ctx, &pvalue->multipleplmnsOfIntraFreqCellsList);
-      RT_CHECK(ctx, stat, 0, "multipleplmnsOfIntraFreqCellsList", -1, "PLMNIdentitiesOfNeighbourCells-v860ext");
+      stat = enc_PLMNIdentitiesOfNeighbourCells_v860ext(ctx, &pvalue->idleModePLMNIdentities, cur);
+      RT_CHECK(ctx, stat, 0, "idleModePLMNIdentities", -1, "SysInfoType18-v860ext");
    }
-   /* multipleplmnsOfInterFreqCellsList */
+   /* connectedModePLMNIdentities */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_MultiplePLMNsOfInterFreqCellsList(ctx, &pvalue->multipleplmnsOfInterFreqCellsList);
-      RT_CHECK(ctx, stat, 0, "multipleplmnsOfInterFreqCellsList", -1, "PLMNIdentitiesOfNeighbourCells-v860ext");
+      stat = enc_PLMNIdentitiesOfNeighbourCells_v860ext(ctx, &pvalue->connectedModePLMNIdentities, cur);
+      RT_CHECK(ctx, stat, 0, "connectedModePLMNIdentities", -1, "SysInfoType18-v860ext");
    }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType18_v860ext(rtxContext* RT_RESTRICT ctx, const SysInfoType18_v860ext* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType18_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType18-v860ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType18-v860ext");
-   /* idleModePLMNIdentities */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PLMNIdentitiesOfNeighbourCells_v860ext(ctx, &pvalue->idleModePLMNIdentities);
-      RT_CHECK(ctx, stat, 0, "idleModePLMNIdentities", -1, "SysInfoType18-v860ext");
-   }
-   /* connectedModePLMNIdentities */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_PLMNIdentitiesOfNeighbourCells_v860ext(ctx, &pvalue->connectedModePLMNIdentities);
-      RT_CHECK(ctx, stat, 0, "connectedModePLMNIdentities", -1, "SysInfoType18-v860ext");
-   }
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType18-v860ext */
+   stat = enc_SysInfoType18_v860ext(ctx, &pvalue->sysInfoType18_v860ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType18-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType18_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType18_v6b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType18-v860ext */
-   stat = asn1PE_UMTS_SysInfoType18_v860ext(ctx, &pvalue->sysInfoType18_v860ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType18-v860ext", -1, 0);
-   /* nonCriticalExtensions */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType18-v6b0ext */
+   stat = enc_SysInfoType18_v6b0ext(ctx, &pvalue->sysInfoType18_v6b0ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType18-v6b0ext", -1, 0);
+   /* v860NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+      stat = enc_SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType18_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType18_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType18_v6b0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType18(rtxContext* RT_RESTRICT ctx, const SysInfoType18* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType18");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType18-v6b0ext */
-   stat = asn1PE_UMTS_SysInfoType18_v6b0ext(ctx, &pvalue->sysInfoType18_v6b0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType18-v6b0ext", -1, 0);
-   /* v860NonCriticalExtensions */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType18");
+   /* idleModePLMNIdentities */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+      stat = enc_PLMNIdentitiesOfNeighbourCells(ctx, &pvalue->idleModePLMNIdentities, cur);
+      RT_CHECK(ctx, stat, 0, "idleModePLMNIdentities", -1, "SysInfoType18");
+   }
+   /* connectedModePLMNIdentities */
+   if (pvalue->m & 0x2u) {
+      stat = enc_PLMNIdentitiesOfNeighbourCells(ctx, &pvalue->connectedModePLMNIdentities, cur);
+      RT_CHECK(ctx, stat, 0, "connectedModePLMNIdentities", -1, "SysInfoType18");
+   }
+   /* v6b0NonCriticalExtensions */
+   if (pvalue->m & 0x4u) {
+      stat = enc_SysInfoType18_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, "SysInfoType18");
    }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType18(rtxContext* RT_RESTRICT ctx, const SysInfoType18* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType18");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType18");
-   /* idleModePLMNIdentities */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PLMNIdentitiesOfNeighbourCells(ctx, &pvalue->idleModePLMNIdentities);
-      RT_CHECK(ctx, stat, 0, "idleModePLMNIdentities", -1, "SysInfoType18");
-   }
-   /* connectedModePLMNIdentities */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_PLMNIdentitiesOfNeighbourCells(ctx, &pvalue->connectedModePLMNIdentities);
-      RT_CHECK(ctx, stat, 0, "connectedModePLMNIdentities", -1, "SysInfoType18");
-   }
-   /* v6b0NonCriticalExtensions */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_SysInfoType18_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, "SysInfoType18");
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType18, pvalue);
 }
 
-int asn1PE_UMTS_PICH_PowerOffset(rtxContext* RT_RESTRICT ctx, PICH_PowerOffset value)
+RT_MERGED_BODY int enc_PICH_PowerOffset(rtxContext* RT_RESTRICT ctx, PICH_PowerOffset value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value < -10 || value > 5) {
       rtxErrAddStrParm(ctx, "PICH-PowerOffset");
       rtxErrAddIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PICH-PowerOffset");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "PICH-PowerOffset");
    }
-   stat = pe_ConsInt64(ctx, value, -10, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PICH-PowerOffset");
+   stat = pe_ConsInt64At(ctx, cur, value, -10, 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PICH-PowerOffset");
    return 0;
 }
 
-int asn1PE_UMTS_AICH_PowerOffset(rtxContext* RT_RESTRICT ctx, AICH_PowerOffset value)
+int asn1PE_UMTS_PICH_PowerOffset(rtxContext* RT_RESTRICT ctx, PICH_PowerOffset value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PICH_PowerOffset, value);
+}
+
+RT_MERGED_BODY int enc_AICH_PowerOffset(rtxContext* RT_RESTRICT ctx, AICH_PowerOffset value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value < -22 || value > 5) {
       rtxErrAddStrParm(ctx, "AICH-PowerOffset");
       rtxErrAddIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "AICH-PowerOffset");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "AICH-PowerOffset");
    }
-   stat = pe_ConsInt64(ctx, value, -22, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AICH-PowerOffset");
+   stat = pe_ConsInt64At(ctx, cur, value, -22, 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "AICH-PowerOffset");
+   return 0;
+}
+
+int asn1PE_UMTS_AICH_PowerOffset(rtxContext* RT_RESTRICT ctx, AICH_PowerOffset value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AICH_PowerOffset, value);
+}
+
+RT_MERGED_BODY int enc_SysInfoType5_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SysInfoType5_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* aich-PowerOffset */
+   if (pvalue->aich_PowerOffset < -22 || pvalue->aich_PowerOffset > 5) {
+      rtxErrAddStrParm(ctx, "AICH-PowerOffset");
+      rtxErrAddIntParm(ctx, pvalue->aich_PowerOffset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "AICH-PowerOffset", "aich-PowerOffset", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->aich_PowerOffset, -22, 5);
+   RT_CHECK_PUT(ctx, cur, stat, "AICH-PowerOffset", "aich-PowerOffset", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType5_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SysInfoType5_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* aich-PowerOffset */
-   if (pvalue->aich_PowerOffset < -22 || pvalue->aich_PowerOffset > 5) {
-      rtxErrAddStrParm(ctx, "AICH-PowerOffset");
-      rtxErrAddIntParm(ctx, pvalue->aich_PowerOffset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "AICH-PowerOffset", "aich-PowerOffset", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->aich_PowerOffset, -22, 5);
-   RT_CHECK(ctx, stat, "AICH-PowerOffset", "aich-PowerOffset", -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5_modeSpecificInfo_fdd, pvalue);
 }
 
-int asn1PE_UMTS_PUSCH_Identity(rtxContext* RT_RESTRICT ctx, PUSCH_Identity value)
+RT_MERGED_BODY int enc_PUSCH_Identity(rtxContext* RT_RESTRICT ctx, PUSCH_Identity value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)(value - 1) > 63u) {
       rtxErrAddStrParm(ctx, "PUSCH-Identity");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PUSCH-Identity");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "PUSCH-Identity");
    }
-   stat = pe_ConsUInt64(ctx, value, 1, 64);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-Identity");
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 64);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PUSCH-Identity");
    return 0;
 }
 
-int asn1PE_UMTS_TFCS_IdentityPlain(rtxContext* RT_RESTRICT ctx, TFCS_IdentityPlain value)
+int asn1PE_UMTS_PUSCH_Identity(rtxContext* RT_RESTRICT ctx, PUSCH_Identity value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_Identity, value);
+}
+
+RT_MERGED_BODY int enc_TFCS_IdentityPlain(rtxContext* RT_RESTRICT ctx, TFCS_IdentityPlain value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)(value - 1) > 7u) {
       rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TFCS-IdentityPlain");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "TFCS-IdentityPlain");
    }
-   stat = pe_ConsUInt64(ctx, value, 1, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TFCS-IdentityPlain");
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TFCS-IdentityPlain");
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS_IdentityPlain(rtxContext* RT_RESTRICT ctx, TFCS_IdentityPlain value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TFCS_IdentityPlain, value);
+}
+
+RT_MERGED_BODY int enc_SecondInterleavingMode(rtxContext* RT_RESTRICT ctx, SecondInterleavingMode value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "SecondInterleavingMode");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SecondInterleavingMode");
    return 0;
 }
 
 int asn1PE_UMTS_SecondInterleavingMode(rtxContext* RT_RESTRICT ctx, SecondInterleavingMode value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SecondInterleavingMode, value);
+}
+
+RT_MERGED_BODY int enc_TFCI_Coding(rtxContext* RT_RESTRICT ctx, TFCI_Coding value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 1) {
+   if (value > 3) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SecondInterleavingMode");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TFCI-Coding");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SecondInterleavingMode");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TFCI-Coding");
    return 0;
 }
 
 int asn1PE_UMTS_TFCI_Coding(rtxContext* RT_RESTRICT ctx, TFCI_Coding value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_TFCI_Coding, value);
+}
+
+RT_MERGED_BODY int enc_PuncturingLimit(rtxContext* RT_RESTRICT ctx, PuncturingLimit value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 3) {
+   if (value > 15) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TFCI-Coding");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "PuncturingLimit");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TFCI-Coding");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PuncturingLimit");
    return 0;
 }
 
 int asn1PE_UMTS_PuncturingLimit(rtxContext* RT_RESTRICT ctx, PuncturingLimit value)
 {
-   int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "PuncturingLimit");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PuncturingLimit");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_PuncturingLimit, value);
 }
 
-int asn1PE_UMTS_RepetitionPeriodAndLength(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodAndLength* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_RepetitionPeriodAndLength(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodAndLength* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RepetitionPeriodAndLength");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
-   RT_CHECK(ctx, stat, 0, "t", -1, "RepetitionPeriodAndLength");
-   if (pvalue->t - 1 > 6) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RepetitionPeriodAndLength");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RepetitionPeriodAndLength");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "RepetitionPeriodAndLength");
+   if (pvalue->t - 1 > 6) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "RepetitionPeriodAndLength");
    switch (pvalue->t) {
       case 1:
          break;
@@ -5648,302 +7367,372 @@ int asn1PE_UMTS_RepetitionPeriodAndLength(rtxContext* RT_RESTRICT ctx, const Rep
          if ((uint64_t)(pvalue->u.repetitionPeriod2 - 1) > 0u) {
             rtxErrAddStrParm(ctx, "repetitionPeriod2");
             rtxErrAddUIntParm(ctx, pvalue->u.repetitionPeriod2);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "repetitionPeriod2", -1, "RepetitionPeriodAndLength");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "repetitionPeriod2", -1, "RepetitionPeriodAndLength");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.repetitionPeriod2, 1, 1);
-         RT_CHECK(ctx, stat, 0, "repetitionPeriod2", -1, "RepetitionPeriodAndLength");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.repetitionPeriod2, 1, 1);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "repetitionPeriod2", -1, "RepetitionPeriodAndLength");
          break;
       case 3:
          if ((uint64_t)(pvalue->u.repetitionPeriod4 - 1) > 2u) {
             rtxErrAddStrParm(ctx, "repetitionPeriod4");
             rtxErrAddUIntParm(ctx, pvalue->u.repetitionPeriod4);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "repetitionPeriod4", -1, "RepetitionPeriodAndLength");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "repetitionPeriod4", -1, "RepetitionPeriodAndLength");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.repetitionPeriod4, 1, 3);
-         RT_CHECK(ctx, stat, 0, "repetitionPeriod4", -1, "RepetitionPeriodAndLength");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.repetitionPeriod4, 1, 3);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "repetitionPeriod4", -1, "RepetitionPeriodAndLength");
          break;
       case 4:
          if ((uint64_t)(pvalue->u.repetitionPeriod8 - 1) > 6u) {
             rtxErrAddStrParm(ctx, "repetitionPeriod8");
             rtxErrAddUIntParm(ctx, pvalue->u.repetitionPeriod8);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "repetitionPeriod8", -1, "RepetitionPeriodAndLength");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "repetitionPeriod8", -1, "RepetitionPeriodAndLength");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.repetitionPeriod8, 1, 7);
-         RT_CHECK(ctx, stat, 0, "repetitionPeriod8", -1, "RepetitionPeriodAndLength");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.repetitionPeriod8, 1, 7);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "repetitionPeriod8", -1, "RepetitionPeriodAndLength");
          break;
       case 5:
          if ((uint64_t)(pvalue->u.repetitionPeriod16 - 1) > 14u) {
             rtxErrAddStrParm(ctx, "repetitionPeriod16");
             rtxErrAddUIntParm(ctx, pvalue->u.repetitionPeriod16);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "repetitionPeriod16", -1, "RepetitionPeriodAndLength");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "repetitionPeriod16", -1, "RepetitionPeriodAndLength");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.repetitionPeriod16, 1, 15);
-         RT_CHECK(ctx, stat, 0, "repetitionPeriod16", -1, "RepetitionPeriodAndLength");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.repetitionPeriod16, 1, 15);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "repetitionPeriod16", -1, "RepetitionPeriodAndLength");
          break;
       case 6:
          if ((uint64_t)(pvalue->u.repetitionPeriod32 - 1) > 30u) {
             rtxErrAddStrParm(ctx, "repetitionPeriod32");
             rtxErrAddUIntParm(ctx, pvalue->u.repetitionPeriod32);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "repetitionPeriod32", -1, "RepetitionPeriodAndLength");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "repetitionPeriod32", -1, "RepetitionPeriodAndLength");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.repetitionPeriod32, 1, 31);
-         RT_CHECK(ctx, stat, 0, "repetitionPeriod32", -1, "RepetitionPeriodAndLength");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.repetitionPeriod32, 1, 31);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "repetitionPeriod32", -1, "RepetitionPeriodAndLength");
          break;
       case 7:
          if ((uint64_t)(pvalue->u.repetitionPeriod64 - 1) > 62u) {
             rtxErrAddStrParm(ctx, "repetitionPeriod64");
             rtxErrAddUIntParm(ctx, pvalue->u.repetitionPeriod64);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "repetitionPeriod64", -1, "RepetitionPeriodAndLength");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "repetitionPeriod64", -1, "RepetitionPeriodAndLength");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.repetitionPeriod64, 1, 63);
-         RT_CHECK(ctx, stat, 0, "repetitionPeriod64", -1, "RepetitionPeriodAndLength");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.repetitionPeriod64, 1, 63);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "repetitionPeriod64", -1, "RepetitionPeriodAndLength");
          break;
       default:
          break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RepetitionPeriodAndLength(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodAndLength* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RepetitionPeriodAndLength, pvalue);
+}
+
+RT_MERGED_BODY int enc_CommonTimeslotInfo(rtxContext* RT_RESTRICT ctx, const CommonTimeslotInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CommonTimeslotInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CommonTimeslotInfo");
+   /* secondInterleavingMode */
+   if (pvalue->secondInterleavingMode > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->secondInterleavingMode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "SecondInterleavingMode", "secondInterleavingMode", -1, "CommonTimeslotInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->secondInterleavingMode, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "SecondInterleavingMode", "secondInterleavingMode", -1, "CommonTimeslotInfo");
+   /* tfci-Coding */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->tfci_Coding > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->tfci_Coding);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TFCI-Coding", "tfci-Coding", -1, "CommonTimeslotInfo");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tfci_Coding, 0, 3);
+      RT_CHECK_PUT(ctx, cur, stat, "TFCI-Coding", "tfci-Coding", -1, "CommonTimeslotInfo");
+   }
+   /* puncturingLimit */
+   if (pvalue->puncturingLimit > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->puncturingLimit);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PuncturingLimit", "puncturingLimit", -1, "CommonTimeslotInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->puncturingLimit, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "PuncturingLimit", "puncturingLimit", -1, "CommonTimeslotInfo");
+   /* repetitionPeriodAndLength */
+   if (pvalue->m & 0x2u) {
+      stat = enc_RepetitionPeriodAndLength(ctx, &pvalue->repetitionPeriodAndLength, cur);
+      RT_CHECK(ctx, stat, 0, "repetitionPeriodAndLength", -1, "CommonTimeslotInfo");
    }
    return 0;
 }
 
 int asn1PE_UMTS_CommonTimeslotInfo(rtxContext* RT_RESTRICT ctx, const CommonTimeslotInfo* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CommonTimeslotInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CommonTimeslotInfo");
-   /* secondInterleavingMode */
-   if (pvalue->secondInterleavingMode > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->secondInterleavingMode);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "SecondInterleavingMode", "secondInterleavingMode", -1, "CommonTimeslotInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->secondInterleavingMode, 0, 1);
-   RT_CHECK(ctx, stat, "SecondInterleavingMode", "secondInterleavingMode", -1, "CommonTimeslotInfo");
-   /* tfci-Coding */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->tfci_Coding > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->tfci_Coding);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "TFCI-Coding", "tfci-Coding", -1, "CommonTimeslotInfo");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tfci_Coding, 0, 3);
-      RT_CHECK(ctx, stat, "TFCI-Coding", "tfci-Coding", -1, "CommonTimeslotInfo");
-   }
-   /* puncturingLimit */
-   if (pvalue->puncturingLimit > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->puncturingLimit);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PuncturingLimit", "puncturingLimit", -1, "CommonTimeslotInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->puncturingLimit, 0, 15);
-   RT_CHECK(ctx, stat, "PuncturingLimit", "puncturingLimit", -1, "CommonTimeslotInfo");
-   /* repetitionPeriodAndLength */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_RepetitionPeriodAndLength(ctx, &pvalue->repetitionPeriodAndLength);
-      RT_CHECK(ctx, stat, 0, "repetitionPeriodAndLength", -1, "CommonTimeslotInfo");
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_CommonTimeslotInfo, pvalue);
 }
 
-int asn1PE_UMTS_TimeslotNumber(rtxContext* RT_RESTRICT ctx, TimeslotNumber value)
+RT_MERGED_BODY int enc_TimeslotNumber(rtxContext* RT_RESTRICT ctx, TimeslotNumber value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)value > 14u) {
       rtxErrAddStrParm(ctx, "TimeslotNumber");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TimeslotNumber");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "TimeslotNumber");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 14);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimeslotNumber");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 14);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TimeslotNumber");
+   return 0;
+}
+
+int asn1PE_UMTS_TimeslotNumber(rtxContext* RT_RESTRICT ctx, TimeslotNumber value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TimeslotNumber, value);
+}
+
+RT_MERGED_BODY int enc_MidambleConfigurationBurstType1and3(rtxContext* RT_RESTRICT ctx, MidambleConfigurationBurstType1and3 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 2) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MidambleConfigurationBurstType1and3");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MidambleConfigurationBurstType1and3");
    return 0;
 }
 
 int asn1PE_UMTS_MidambleConfigurationBurstType1and3(rtxContext* RT_RESTRICT ctx, MidambleConfigurationBurstType1and3 value)
 {
-   int stat = 0;
-   if (value > 2) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MidambleConfigurationBurstType1and3");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MidambleConfigurationBurstType1and3");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_MidambleConfigurationBurstType1and3, value);
 }
 
-int asn1PE_UMTS_MidambleShiftLong(rtxContext* RT_RESTRICT ctx, MidambleShiftLong value)
+RT_MERGED_BODY int enc_MidambleShiftLong(rtxContext* RT_RESTRICT ctx, MidambleShiftLong value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)value > 15u) {
       rtxErrAddStrParm(ctx, "MidambleShiftLong");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MidambleShiftLong");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "MidambleShiftLong");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MidambleShiftLong");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MidambleShiftLong");
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftLong(rtxContext* RT_RESTRICT ctx, MidambleShiftLong value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftLong, value);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleShift */
+   if ((uint64_t)pvalue->midambleShift > 15u) {
+      rtxErrAddStrParm(ctx, "MidambleShiftLong");
+      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleShift, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleShiftLong", "midambleShift", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode_ueSpecificMidamble, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* midambleShift */
-   if ((uint64_t)pvalue->midambleShift > 15u) {
-      rtxErrAddStrParm(ctx, "MidambleShiftLong");
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
+         stat = enc_MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
    }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_burstType_type1(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType_type1* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         break;
-      case 3:
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         break;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleConfigurationBurstType1and3 */
+   if (pvalue->midambleConfigurationBurstType1and3 > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType1and3);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
    }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleConfigurationBurstType1and3, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
+   /* midambleAllocationMode */
+   stat = enc_MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type1(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType_type1* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_burstType_type1, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleConfigurationBurstType2(rtxContext* RT_RESTRICT ctx, MidambleConfigurationBurstType2 value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* midambleConfigurationBurstType1and3 */
-   if (pvalue->midambleConfigurationBurstType1and3 > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType1and3);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MidambleConfigurationBurstType2");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfigurationBurstType1and3, 0, 2);
-   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
-   /* midambleAllocationMode */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type1_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MidambleConfigurationBurstType2");
    return 0;
 }
 
 int asn1PE_UMTS_MidambleConfigurationBurstType2(rtxContext* RT_RESTRICT ctx, MidambleConfigurationBurstType2 value)
 {
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MidambleConfigurationBurstType2");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MidambleConfigurationBurstType2");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_MidambleConfigurationBurstType2, value);
 }
 
-int asn1PE_UMTS_MidambleShiftShort(rtxContext* RT_RESTRICT ctx, MidambleShiftShort value)
+RT_MERGED_BODY int enc_MidambleShiftShort(rtxContext* RT_RESTRICT ctx, MidambleShiftShort value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)value > 5u) {
       rtxErrAddStrParm(ctx, "MidambleShiftShort");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MidambleShiftShort");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "MidambleShiftShort");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MidambleShiftShort");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MidambleShiftShort");
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftShort(rtxContext* RT_RESTRICT ctx, MidambleShiftShort value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftShort, value);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleShift */
+   if ((uint64_t)pvalue->midambleShift > 5u) {
+      rtxErrAddStrParm(ctx, "MidambleShiftShort");
+      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MidambleShiftShort", "midambleShift", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleShift, 0, 5);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleShiftShort", "midambleShift", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode_ueSpecificMidamble, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* midambleShift */
-   if ((uint64_t)pvalue->midambleShift > 5u) {
-      rtxErrAddStrParm(ctx, "MidambleShiftShort");
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftShort", "midambleShift", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
+         stat = enc_MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
    }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 5);
-   RT_CHECK(ctx, stat, "MidambleShiftShort", "midambleShift", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_burstType_type2(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType_type2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         break;
-      case 3:
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         break;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleConfigurationBurstType2 */
+   if (pvalue->midambleConfigurationBurstType2 > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType2);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MidambleConfigurationBurstType2", "midambleConfigurationBurstType2", -1, 0);
    }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleConfigurationBurstType2, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleConfigurationBurstType2", "midambleConfigurationBurstType2", -1, 0);
+   /* midambleAllocationMode */
+   stat = enc_MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type2(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType_type2* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_burstType_type2, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* midambleConfigurationBurstType2 */
-   if (pvalue->midambleConfigurationBurstType2 > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType2);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MidambleConfigurationBurstType2", "midambleConfigurationBurstType2", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleShift */
+   if ((uint64_t)pvalue->midambleShift > 15u) {
+      rtxErrAddStrParm(ctx, "MidambleShiftLong");
+      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfigurationBurstType2, 0, 1);
-   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType2", "midambleConfigurationBurstType2", -1, 0);
-   /* midambleAllocationMode */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type2_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleShift, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleShiftLong", "midambleShift", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* midambleShift */
-   if ((uint64_t)pvalue->midambleShift > 15u) {
-      rtxErrAddStrParm(ctx, "MidambleShiftLong");
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode_ueSpecificMidamble, pvalue);
 }
 
-int asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
          break;
       case 2:
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
+         stat = enc_MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
          RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
          break;
       default:
@@ -5952,44 +7741,54 @@ int asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode
    return 0;
 }
 
-int asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type3(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType_type3* RT_RESTRICT pvalue)
+int asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_burstType_type3(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType_type3* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* midambleConfigurationBurstType1and3 */
    if (pvalue->midambleConfigurationBurstType1and3 > 2) {
       rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType1and3);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfigurationBurstType1and3, 0, 2);
-   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleConfigurationBurstType1and3, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
    /* midambleAllocationMode */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   stat = enc_MidambleShiftAndBurstType_burstType_type3_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
    RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_MidambleShiftAndBurstType_burstType(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType* RT_RESTRICT pvalue)
+int asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type3(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType_type3* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_burstType_type3, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_burstType(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.type1 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "type1", -1, 0);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type1(ctx, pvalue->u.type1);
+         if (pvalue->u.type1 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "type1", -1, 0);
+         stat = enc_MidambleShiftAndBurstType_burstType_type1(ctx, pvalue->u.type1, cur);
          RT_CHECK(ctx, stat, 0, "type1", -1, 0);
          break;
       case 2:
-         if (pvalue->u.type2 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "type2", -1, 0);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type2(ctx, pvalue->u.type2);
+         if (pvalue->u.type2 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "type2", -1, 0);
+         stat = enc_MidambleShiftAndBurstType_burstType_type2(ctx, pvalue->u.type2, cur);
          RT_CHECK(ctx, stat, 0, "type2", -1, 0);
          break;
       case 3:
-         if (pvalue->u.type3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "type3", -1, 0);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_burstType_type3(ctx, pvalue->u.type3);
+         if (pvalue->u.type3 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "type3", -1, 0);
+         stat = enc_MidambleShiftAndBurstType_burstType_type3(ctx, pvalue->u.type3, cur);
          RT_CHECK(ctx, stat, 0, "type3", -1, 0);
          break;
       default:
@@ -5998,127 +7797,167 @@ int asn1PE_UMTS_MidambleShiftAndBurstType_burstType(rtxContext* RT_RESTRICT ctx,
    return 0;
 }
 
-int asn1PE_UMTS_MidambleShiftAndBurstType(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType* RT_RESTRICT pvalue)
+int asn1PE_UMTS_MidambleShiftAndBurstType_burstType(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_burstType* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_burstType, pvalue);
+}
+
+static int enc_MidambleShiftAndBurstType(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MidambleShiftAndBurstType");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MidambleShiftAndBurstType");
    /* burstType */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_burstType(ctx, &pvalue->burstType);
+   stat = enc_MidambleShiftAndBurstType_burstType(ctx, &pvalue->burstType, cur);
    RT_CHECK(ctx, stat, 0, "burstType", -1, "MidambleShiftAndBurstType");
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType, pvalue);
+}
+
+RT_MERGED_BODY int enc_IndividualTimeslotInfo(rtxContext* RT_RESTRICT ctx, const IndividualTimeslotInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IndividualTimeslotInfo");
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, "IndividualTimeslotInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslotNumber, 0, 14);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber", "timeslotNumber", -1, "IndividualTimeslotInfo");
+   /* tfci-Existence */
+   stat = rtxEncBitAt(ctx, cur, pvalue->tfci_Existence);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tfci-Existence", -1, "IndividualTimeslotInfo");
+   /* midambleShiftAndBurstType */
+   stat = enc_MidambleShiftAndBurstType(ctx, &pvalue->midambleShiftAndBurstType, cur);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "IndividualTimeslotInfo");
    return 0;
 }
 
 int asn1PE_UMTS_IndividualTimeslotInfo(rtxContext* RT_RESTRICT ctx, const IndividualTimeslotInfo* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_IndividualTimeslotInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_TS_ChannelisationCode(rtxContext* RT_RESTRICT ctx, UL_TS_ChannelisationCode value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IndividualTimeslotInfo");
-   /* timeslotNumber */
-   if ((uint64_t)pvalue->timeslotNumber > 14u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber");
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, "IndividualTimeslotInfo");
+   if (value > 30) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "UL-TS-ChannelisationCode");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, "IndividualTimeslotInfo");
-   /* tfci-Existence */
-   stat = rtxEncBit(ctx, pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, "IndividualTimeslotInfo");
-   /* midambleShiftAndBurstType */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "IndividualTimeslotInfo");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 30);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UL-TS-ChannelisationCode");
    return 0;
 }
 
 int asn1PE_UMTS_UL_TS_ChannelisationCode(rtxContext* RT_RESTRICT ctx, UL_TS_ChannelisationCode value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_UL_TS_ChannelisationCode, value);
+}
+
+RT_MERGED_BODY int enc_UL_TS_ChannelisationCodeList(rtxContext* RT_RESTRICT ctx, const UL_TS_ChannelisationCodeList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 30) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UL-TS-ChannelisationCode");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-TS-ChannelisationCodeList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 2);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "UL-TS-ChannelisationCodeList");
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 30) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UL-TS-ChannelisationCode", "UL-TS-ChannelisationCode", (int32_t)i, "UL-TS-ChannelisationCodeList");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 30);
+      RT_CHECK_PUT(ctx, cur, stat, "UL-TS-ChannelisationCode", "UL-TS-ChannelisationCode", (int32_t)i, "UL-TS-ChannelisationCodeList");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 30);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-TS-ChannelisationCode");
    return 0;
 }
 
 int asn1PE_UMTS_UL_TS_ChannelisationCodeList(rtxContext* RT_RESTRICT ctx, const UL_TS_ChannelisationCodeList* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_UL_TS_ChannelisationCodeList, pvalue);
+}
+
+RT_MERGED_BODY int enc_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_consecutive(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_consecutive* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-TS-ChannelisationCodeList");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 2);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UL-TS-ChannelisationCodeList");
-   for (i = 0; i < pvalue->n; i++) {
-      if (pvalue->elem[i] > 30) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "UL-TS-ChannelisationCode", "UL-TS-ChannelisationCode", (int32_t)i, "UL-TS-ChannelisationCodeList");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 30);
-      RT_CHECK(ctx, stat, "UL-TS-ChannelisationCode", "UL-TS-ChannelisationCode", (int32_t)i, "UL-TS-ChannelisationCodeList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* numAdditionalTimeslots */
+   if ((uint64_t)(pvalue->numAdditionalTimeslots - 1) > 12u) {
+      rtxErrAddStrParm(ctx, "numAdditionalTimeslots");
+      rtxErrAddUIntParm(ctx, pvalue->numAdditionalTimeslots);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "numAdditionalTimeslots", -1, 0);
    }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->numAdditionalTimeslots, 1, 13);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "numAdditionalTimeslots", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_consecutive(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_consecutive* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_consecutive, pvalue);
+}
+
+RT_MERGED_BODY int enc_UplinkAdditionalTimeslots_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_parameters_sameAsLast* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* numAdditionalTimeslots */
-   if ((uint64_t)(pvalue->numAdditionalTimeslots - 1) > 12u) {
-      rtxErrAddStrParm(ctx, "numAdditionalTimeslots");
-      rtxErrAddUIntParm(ctx, pvalue->numAdditionalTimeslots);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "numAdditionalTimeslots", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, pvalue->numAdditionalTimeslots, 1, 13);
-   RT_CHECK(ctx, stat, 0, "numAdditionalTimeslots", -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslotNumber, 0, 14);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber", "timeslotNumber", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_UplinkAdditionalTimeslots_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_parameters_sameAsLast* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_UplinkAdditionalTimeslots_parameters_sameAsLast, pvalue);
+}
+
+RT_MERGED_BODY int enc_UplinkAdditionalTimeslots_parameters_newParameters(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_parameters_newParameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* timeslotNumber */
-   if ((uint64_t)pvalue->timeslotNumber > 14u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber");
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* individualTimeslotInfo */
+   stat = enc_IndividualTimeslotInfo(ctx, &pvalue->individualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
+   /* ul-TS-ChannelisationCodeList */
+   stat = enc_UL_TS_ChannelisationCodeList(ctx, &pvalue->ul_TS_ChannelisationCodeList, cur);
+   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_UplinkAdditionalTimeslots_parameters_newParameters(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_parameters_newParameters* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* individualTimeslotInfo */
-   stat = asn1PE_UMTS_IndividualTimeslotInfo(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
-   /* ul-TS-ChannelisationCodeList */
-   stat = asn1PE_UMTS_UL_TS_ChannelisationCodeList(ctx, &pvalue->ul_TS_ChannelisationCodeList);
-   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_UplinkAdditionalTimeslots_parameters_newParameters, pvalue);
 }
 
-int asn1PE_UMTS_UplinkAdditionalTimeslots_parameters(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_parameters* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_UplinkAdditionalTimeslots_parameters(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_parameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.sameAsLast == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sameAsLast", -1, 0);
-         stat = asn1PE_UMTS_UplinkAdditionalTimeslots_parameters_sameAsLast(ctx, pvalue->u.sameAsLast);
+         if (pvalue->u.sameAsLast == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "sameAsLast", -1, 0);
+         stat = enc_UplinkAdditionalTimeslots_parameters_sameAsLast(ctx, pvalue->u.sameAsLast, cur);
          RT_CHECK(ctx, stat, 0, "sameAsLast", -1, 0);
          break;
       case 2:
-         if (pvalue->u.newParameters == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "newParameters", -1, 0);
-         stat = asn1PE_UMTS_UplinkAdditionalTimeslots_parameters_newParameters(ctx, pvalue->u.newParameters);
+         if (pvalue->u.newParameters == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "newParameters", -1, 0);
+         stat = enc_UplinkAdditionalTimeslots_parameters_newParameters(ctx, pvalue->u.newParameters, cur);
          RT_CHECK(ctx, stat, 0, "newParameters", -1, 0);
          break;
       default:
@@ -6127,50 +7966,91 @@ int asn1PE_UMTS_UplinkAdditionalTimeslots_parameters(rtxContext* RT_RESTRICT ctx
    return 0;
 }
 
-int asn1PE_UMTS_UplinkAdditionalTimeslots(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UplinkAdditionalTimeslots_parameters(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_parameters* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UplinkAdditionalTimeslots_parameters, pvalue);
+}
+
+RT_MERGED_BODY int enc_UplinkAdditionalTimeslots(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UplinkAdditionalTimeslots");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UplinkAdditionalTimeslots");
    /* parameters */
-   stat = asn1PE_UMTS_UplinkAdditionalTimeslots_parameters(ctx, &pvalue->parameters);
+   stat = enc_UplinkAdditionalTimeslots_parameters(ctx, &pvalue->parameters, cur);
    RT_CHECK(ctx, stat, 0, "parameters", -1, "UplinkAdditionalTimeslots");
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkAdditionalTimeslots(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UplinkAdditionalTimeslots, pvalue);
+}
+
+RT_MERGED_BODY int enc_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 13);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "UplinkAdditionalTimeslots", (int32_t)i, 0);
+      stat = enc_UplinkAdditionalTimeslots(ctx, (const UplinkAdditionalTimeslots*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "UplinkAdditionalTimeslots", (int32_t)i, 0);
+   }
    return 0;
 }
 
 int asn1PE_UMTS_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList, pvalue);
+}
+
+RT_MERGED_BODY int enc_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 13);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UplinkAdditionalTimeslots", (int32_t)i, 0);
-      stat = asn1PE_UMTS_UplinkAdditionalTimeslots(ctx, (const UplinkAdditionalTimeslots*)node->data);
-      RT_CHECK(ctx, stat, 0, "UplinkAdditionalTimeslots", (int32_t)i, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.consecutive == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "consecutive", -1, 0);
+         stat = enc_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_consecutive(ctx, pvalue->u.consecutive, cur);
+         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.timeslotList == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "timeslotList", -1, 0);
+         stat = enc_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList, cur);
+         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
+         break;
+      default:
+         break;
    }
    return 0;
 }
 
 int asn1PE_UMTS_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots, pvalue);
+}
+
+RT_MERGED_BODY int enc_UplinkTimeslotsCodes_moreTimeslots(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_moreTimeslots* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.consecutive == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "consecutive", -1, 0);
-         stat = asn1PE_UMTS_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_consecutive(ctx, pvalue->u.consecutive);
-         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
          break;
       case 2:
-         if (pvalue->u.timeslotList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "timeslotList", -1, 0);
-         stat = asn1PE_UMTS_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList);
-         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
+         if (pvalue->u.additionalTimeslots == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "additionalTimeslots", -1, 0);
+         stat = enc_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots, cur);
+         RT_CHECK(ctx, stat, 0, "additionalTimeslots", -1, 0);
          break;
       default:
          break;
@@ -6180,190 +8060,199 @@ int asn1PE_UMTS_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots(rtxContex
 
 int asn1PE_UMTS_UplinkTimeslotsCodes_moreTimeslots(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_moreTimeslots* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_UplinkTimeslotsCodes_moreTimeslots, pvalue);
+}
+
+static int enc_UplinkTimeslotsCodes(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.additionalTimeslots == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "additionalTimeslots", -1, 0);
-         stat = asn1PE_UMTS_UplinkTimeslotsCodes_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots);
-         RT_CHECK(ctx, stat, 0, "additionalTimeslots", -1, 0);
-         break;
-      default:
-         break;
-   }
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UplinkTimeslotsCodes");
+   /* dynamicSFusage */
+   stat = rtxEncBitAt(ctx, cur, pvalue->dynamicSFusage);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "dynamicSFusage", -1, "UplinkTimeslotsCodes");
+   /* firstIndividualTimeslotInfo */
+   stat = enc_IndividualTimeslotInfo(ctx, &pvalue->firstIndividualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "UplinkTimeslotsCodes");
+   /* ul-TS-ChannelisationCodeList */
+   stat = enc_UL_TS_ChannelisationCodeList(ctx, &pvalue->ul_TS_ChannelisationCodeList, cur);
+   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, "UplinkTimeslotsCodes");
+   /* moreTimeslots */
+   stat = enc_UplinkTimeslotsCodes_moreTimeslots(ctx, &pvalue->moreTimeslots, cur);
+   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "UplinkTimeslotsCodes");
    return 0;
 }
 
 int asn1PE_UMTS_UplinkTimeslotsCodes(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UplinkTimeslotsCodes");
-   /* dynamicSFusage */
-   stat = rtxEncBit(ctx, pvalue->dynamicSFusage);
-   RT_CHECK(ctx, stat, 0, "dynamicSFusage", -1, "UplinkTimeslotsCodes");
-   /* firstIndividualTimeslotInfo */
-   stat = asn1PE_UMTS_IndividualTimeslotInfo(ctx, &pvalue->firstIndividualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "UplinkTimeslotsCodes");
-   /* ul-TS-ChannelisationCodeList */
-   stat = asn1PE_UMTS_UL_TS_ChannelisationCodeList(ctx, &pvalue->ul_TS_ChannelisationCodeList);
-   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, "UplinkTimeslotsCodes");
-   /* moreTimeslots */
-   stat = asn1PE_UMTS_UplinkTimeslotsCodes_moreTimeslots(ctx, &pvalue->moreTimeslots);
-   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "UplinkTimeslotsCodes");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_UplinkTimeslotsCodes, pvalue);
 }
 
-int asn1PE_UMTS_PUSCH_Info(rtxContext* RT_RESTRICT ctx, const PUSCH_Info* RT_RESTRICT pvalue)
+static int enc_PUSCH_Info(rtxContext* RT_RESTRICT ctx, const PUSCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-Info");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-Info");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 2) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->tfcs_ID != 1) << 2) |
       ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-Info");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PUSCH-Info");
    /* tfcs-ID */
    if (pvalue->tfcs_ID != 1) {
       if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
          rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
          rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "PUSCH-Info");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "PUSCH-Info");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PUSCH-Info");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PUSCH-Info");
    }
    /* commonTimeslotInfo */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
+      stat = enc_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo, cur);
       RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "PUSCH-Info");
    }
    /* pusch-TimeslotsCodes */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UplinkTimeslotsCodes(ctx, &pvalue->pusch_TimeslotsCodes);
+      stat = enc_UplinkTimeslotsCodes(ctx, &pvalue->pusch_TimeslotsCodes, cur);
       RT_CHECK(ctx, stat, 0, "pusch-TimeslotsCodes", -1, "PUSCH-Info");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCH_Info(rtxContext* RT_RESTRICT ctx, const PUSCH_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_BitModeRLC_SizeInfo_sizeType2(rtxContext* RT_RESTRICT ctx, const BitModeRLC_SizeInfo_sizeType2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* part1 */
+   if ((uint64_t)pvalue->part1 > 15u) {
+      rtxErrAddStrParm(ctx, "part1");
+      rtxErrAddUIntParm(ctx, pvalue->part1);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "part1", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->part1, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "part1", -1, 0);
+   /* part2 */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->part2 - 1) > 6u) {
+         rtxErrAddStrParm(ctx, "part2");
+         rtxErrAddUIntParm(ctx, pvalue->part2);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "part2", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->part2, 1, 7);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "part2", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_BitModeRLC_SizeInfo_sizeType2(rtxContext* RT_RESTRICT ctx, const BitModeRLC_SizeInfo_sizeType2* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_BitModeRLC_SizeInfo_sizeType2, pvalue);
+}
+
+RT_MERGED_BODY int enc_BitModeRLC_SizeInfo_sizeType3(rtxContext* RT_RESTRICT ctx, const BitModeRLC_SizeInfo_sizeType3* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    /* part1 */
-   if ((uint64_t)pvalue->part1 > 15u) {
+   if ((uint64_t)pvalue->part1 > 47u) {
       rtxErrAddStrParm(ctx, "part1");
       rtxErrAddUIntParm(ctx, pvalue->part1);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "part1", -1, 0);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "part1", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, pvalue->part1, 0, 15);
-   RT_CHECK(ctx, stat, 0, "part1", -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->part1, 0, 47);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "part1", -1, 0);
    /* part2 */
    if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->part2 - 1) > 6u) {
+      if ((uint64_t)(pvalue->part2 - 1) > 14u) {
          rtxErrAddStrParm(ctx, "part2");
          rtxErrAddUIntParm(ctx, pvalue->part2);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "part2", -1, 0);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "part2", -1, 0);
       }
-      stat = pe_ConsUInt64(ctx, pvalue->part2, 1, 7);
-      RT_CHECK(ctx, stat, 0, "part2", -1, 0);
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->part2, 1, 15);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "part2", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_BitModeRLC_SizeInfo_sizeType3(rtxContext* RT_RESTRICT ctx, const BitModeRLC_SizeInfo_sizeType3* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_BitModeRLC_SizeInfo_sizeType3, pvalue);
+}
+
+RT_MERGED_BODY int enc_BitModeRLC_SizeInfo_sizeType4(rtxContext* RT_RESTRICT ctx, const BitModeRLC_SizeInfo_sizeType4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    /* part1 */
-   if ((uint64_t)pvalue->part1 > 47u) {
+   if ((uint64_t)pvalue->part1 > 62u) {
       rtxErrAddStrParm(ctx, "part1");
       rtxErrAddUIntParm(ctx, pvalue->part1);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "part1", -1, 0);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "part1", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, pvalue->part1, 0, 47);
-   RT_CHECK(ctx, stat, 0, "part1", -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->part1, 0, 62);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "part1", -1, 0);
    /* part2 */
    if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->part2 - 1) > 14u) {
+      if ((uint64_t)(pvalue->part2 - 1) > 62u) {
          rtxErrAddStrParm(ctx, "part2");
          rtxErrAddUIntParm(ctx, pvalue->part2);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "part2", -1, 0);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "part2", -1, 0);
       }
-      stat = pe_ConsUInt64(ctx, pvalue->part2, 1, 15);
-      RT_CHECK(ctx, stat, 0, "part2", -1, 0);
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->part2, 1, 63);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "part2", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_BitModeRLC_SizeInfo_sizeType4(rtxContext* RT_RESTRICT ctx, const BitModeRLC_SizeInfo_sizeType4* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* part1 */
-   if ((uint64_t)pvalue->part1 > 62u) {
-      rtxErrAddStrParm(ctx, "part1");
-      rtxErrAddUIntParm(ctx, pvalue->part1);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "part1", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->part1, 0, 62);
-   RT_CHECK(ctx, stat, 0, "part1", -1, 0);
-   /* part2 */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->part2 - 1) > 62u) {
-         rtxErrAddStrParm(ctx, "part2");
-         rtxErrAddUIntParm(ctx, pvalue->part2);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "part2", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->part2, 1, 63);
-      RT_CHECK(ctx, stat, 0, "part2", -1, 0);
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_BitModeRLC_SizeInfo_sizeType4, pvalue);
 }
 
-int asn1PE_UMTS_BitModeRLC_SizeInfo(rtxContext* RT_RESTRICT ctx, const BitModeRLC_SizeInfo* RT_RESTRICT pvalue)
+static int enc_BitModeRLC_SizeInfo(rtxContext* RT_RESTRICT ctx, const BitModeRLC_SizeInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "BitModeRLC-SizeInfo");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat, 0, "t", -1, "BitModeRLC-SizeInfo");
-   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "BitModeRLC-SizeInfo");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "BitModeRLC-SizeInfo");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "BitModeRLC-SizeInfo");
+   if (pvalue->t - 1 > 3) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "BitModeRLC-SizeInfo");
    switch (pvalue->t) {
       case 1:
          if ((uint64_t)pvalue->u.sizeType1 > 127u) {
             rtxErrAddStrParm(ctx, "sizeType1");
             rtxErrAddUIntParm(ctx, pvalue->u.sizeType1);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sizeType1", -1, "BitModeRLC-SizeInfo");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "sizeType1", -1, "BitModeRLC-SizeInfo");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sizeType1, 0, 127);
-         RT_CHECK(ctx, stat, 0, "sizeType1", -1, "BitModeRLC-SizeInfo");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sizeType1, 0, 127);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "sizeType1", -1, "BitModeRLC-SizeInfo");
          break;
       case 2:
-         if (pvalue->u.sizeType2 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sizeType2", -1, "BitModeRLC-SizeInfo");
-         stat = asn1PE_UMTS_BitModeRLC_SizeInfo_sizeType2(ctx, pvalue->u.sizeType2);
+         if (pvalue->u.sizeType2 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "sizeType2", -1, "BitModeRLC-SizeInfo");
+         stat = enc_BitModeRLC_SizeInfo_sizeType2(ctx, pvalue->u.sizeType2, cur);
          RT_CHECK(ctx, stat, 0, "sizeType2", -1, "BitModeRLC-SizeInfo");
          break;
       case 3:
-         if (pvalue->u.sizeType3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sizeType3", -1, "BitModeRLC-SizeInfo");
-         stat = asn1PE_UMTS_BitModeRLC_SizeInfo_sizeType3(ctx, pvalue->u.sizeType3);
+         if (pvalue->u.sizeType3 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "sizeType3", -1, "BitModeRLC-SizeInfo");
+         stat = enc_BitModeRLC_SizeInfo_sizeType3(ctx, pvalue->u.sizeType3, cur);
          RT_CHECK(ctx, stat, 0, "sizeType3", -1, "BitModeRLC-SizeInfo");
          break;
       case 4:
-         if (pvalue->u.sizeType4 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sizeType4", -1, "BitModeRLC-SizeInfo");
-         stat = asn1PE_UMTS_BitModeRLC_SizeInfo_sizeType4(ctx, pvalue->u.sizeType4);
+         if (pvalue->u.sizeType4 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "sizeType4", -1, "BitModeRLC-SizeInfo");
+         stat = enc_BitModeRLC_SizeInfo_sizeType4(ctx, pvalue->u.sizeType4, cur);
          RT_CHECK(ctx, stat, 0, "sizeType4", -1, "BitModeRLC-SizeInfo");
          break;
       default:
@@ -6372,88 +8261,132 @@ int asn1PE_UMTS_BitModeRLC_SizeInfo(rtxContext* RT_RESTRICT ctx, const BitModeRL
    return 0;
 }
 
-int asn1PE_UMTS_OctetModeRLC_SizeInfoType1_sizeType2(rtxContext* RT_RESTRICT ctx, const OctetModeRLC_SizeInfoType1_sizeType2* RT_RESTRICT pvalue)
+int asn1PE_UMTS_BitModeRLC_SizeInfo(rtxContext* RT_RESTRICT ctx, const BitModeRLC_SizeInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_BitModeRLC_SizeInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_OctetModeRLC_SizeInfoType1_sizeType2(rtxContext* RT_RESTRICT ctx, const OctetModeRLC_SizeInfoType1_sizeType2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    /* part1 */
    if ((uint64_t)pvalue->part1 > 23u) {
       rtxErrAddStrParm(ctx, "part1");
       rtxErrAddUIntParm(ctx, pvalue->part1);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "part1", -1, 0);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "part1", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, pvalue->part1, 0, 23);
-   RT_CHECK(ctx, stat, 0, "part1", -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->part1, 0, 23);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "part1", -1, 0);
    /* part2 */
    if (pvalue->m & 0x1u) {
       if ((uint64_t)(pvalue->part2 - 1) > 2u) {
          rtxErrAddStrParm(ctx, "part2");
          rtxErrAddUIntParm(ctx, pvalue->part2);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "part2", -1, 0);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "part2", -1, 0);
       }
-      stat = pe_ConsUInt64(ctx, pvalue->part2, 1, 3);
-      RT_CHECK(ctx, stat, 0, "part2", -1, 0);
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->part2, 1, 3);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "part2", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_OctetModeRLC_SizeInfoType1_sizeType2(rtxContext* RT_RESTRICT ctx, const OctetModeRLC_SizeInfoType1_sizeType2* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_OctetModeRLC_SizeInfoType1_sizeType2, pvalue);
+}
+
+RT_MERGED_BODY int enc_OctetModeRLC_SizeInfoType1_sizeType3(rtxContext* RT_RESTRICT ctx, const OctetModeRLC_SizeInfoType1_sizeType3* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* part1 */
+   if ((uint64_t)pvalue->part1 > 61u) {
+      rtxErrAddStrParm(ctx, "part1");
+      rtxErrAddUIntParm(ctx, pvalue->part1);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "part1", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->part1, 0, 61);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "part1", -1, 0);
+   /* part2 */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->part2 - 1) > 6u) {
+         rtxErrAddStrParm(ctx, "part2");
+         rtxErrAddUIntParm(ctx, pvalue->part2);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "part2", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->part2, 1, 7);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "part2", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_OctetModeRLC_SizeInfoType1_sizeType3(rtxContext* RT_RESTRICT ctx, const OctetModeRLC_SizeInfoType1_sizeType3* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_OctetModeRLC_SizeInfoType1_sizeType3, pvalue);
+}
+
+static int enc_OctetModeRLC_SizeInfoType1(rtxContext* RT_RESTRICT ctx, const OctetModeRLC_SizeInfoType1* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* part1 */
-   if ((uint64_t)pvalue->part1 > 61u) {
-      rtxErrAddStrParm(ctx, "part1");
-      rtxErrAddUIntParm(ctx, pvalue->part1);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "part1", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->part1, 0, 61);
-   RT_CHECK(ctx, stat, 0, "part1", -1, 0);
-   /* part2 */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->part2 - 1) > 6u) {
-         rtxErrAddStrParm(ctx, "part2");
-         rtxErrAddUIntParm(ctx, pvalue->part2);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "part2", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->part2, 1, 7);
-      RT_CHECK(ctx, stat, 0, "part2", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "OctetModeRLC-SizeInfoType1");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "OctetModeRLC-SizeInfoType1");
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "OctetModeRLC-SizeInfoType1");
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)pvalue->u.sizeType1 > 31u) {
+            rtxErrAddStrParm(ctx, "sizeType1");
+            rtxErrAddUIntParm(ctx, pvalue->u.sizeType1);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "sizeType1", -1, "OctetModeRLC-SizeInfoType1");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sizeType1, 0, 31);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "sizeType1", -1, "OctetModeRLC-SizeInfoType1");
+         break;
+      case 2:
+         if (pvalue->u.sizeType2 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "sizeType2", -1, "OctetModeRLC-SizeInfoType1");
+         stat = enc_OctetModeRLC_SizeInfoType1_sizeType2(ctx, pvalue->u.sizeType2, cur);
+         RT_CHECK(ctx, stat, 0, "sizeType2", -1, "OctetModeRLC-SizeInfoType1");
+         break;
+      case 3:
+         if (pvalue->u.sizeType3 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "sizeType3", -1, "OctetModeRLC-SizeInfoType1");
+         stat = enc_OctetModeRLC_SizeInfoType1_sizeType3(ctx, pvalue->u.sizeType3, cur);
+         RT_CHECK(ctx, stat, 0, "sizeType3", -1, "OctetModeRLC-SizeInfoType1");
+         break;
+      default:
+         break;
    }
    return 0;
 }
 
 int asn1PE_UMTS_OctetModeRLC_SizeInfoType1(rtxContext* RT_RESTRICT ctx, const OctetModeRLC_SizeInfoType1* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_OctetModeRLC_SizeInfoType1, pvalue);
+}
+
+RT_MERGED_BODY int enc_DedicatedDynamicTF_Info_rlc_Size(rtxContext* RT_RESTRICT ctx, const DedicatedDynamicTF_Info_rlc_Size* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "OctetModeRLC-SizeInfoType1");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "OctetModeRLC-SizeInfoType1");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "OctetModeRLC-SizeInfoType1");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if ((uint64_t)pvalue->u.sizeType1 > 31u) {
-            rtxErrAddStrParm(ctx, "sizeType1");
-            rtxErrAddUIntParm(ctx, pvalue->u.sizeType1);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sizeType1", -1, "OctetModeRLC-SizeInfoType1");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sizeType1, 0, 31);
-         RT_CHECK(ctx, stat, 0, "sizeType1", -1, "OctetModeRLC-SizeInfoType1");
+         if (pvalue->u.bitMode == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "bitMode", -1, 0);
+         stat = enc_BitModeRLC_SizeInfo(ctx, pvalue->u.bitMode, cur);
+         RT_CHECK(ctx, stat, 0, "bitMode", -1, 0);
          break;
       case 2:
-         if (pvalue->u.sizeType2 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sizeType2", -1, "OctetModeRLC-SizeInfoType1");
-         stat = asn1PE_UMTS_OctetModeRLC_SizeInfoType1_sizeType2(ctx, pvalue->u.sizeType2);
-         RT_CHECK(ctx, stat, 0, "sizeType2", -1, "OctetModeRLC-SizeInfoType1");
-         break;
-      case 3:
-         if (pvalue->u.sizeType3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sizeType3", -1, "OctetModeRLC-SizeInfoType1");
-         stat = asn1PE_UMTS_OctetModeRLC_SizeInfoType1_sizeType3(ctx, pvalue->u.sizeType3);
-         RT_CHECK(ctx, stat, 0, "sizeType3", -1, "OctetModeRLC-SizeInfoType1");
+         if (pvalue->u.octetModeType1 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "octetModeType1", -1, 0);
+         stat = enc_OctetModeRLC_SizeInfoType1(ctx, pvalue->u.octetModeType1, cur);
+         RT_CHECK(ctx, stat, 0, "octetModeType1", -1, 0);
          break;
       default:
          break;
@@ -6463,35 +8396,16 @@ int asn1PE_UMTS_OctetModeRLC_SizeInfoType1(rtxContext* RT_RESTRICT ctx, const Oc
 
 int asn1PE_UMTS_DedicatedDynamicTF_Info_rlc_Size(rtxContext* RT_RESTRICT ctx, const DedicatedDynamicTF_Info_rlc_Size* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.bitMode == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "bitMode", -1, 0);
-         stat = asn1PE_UMTS_BitModeRLC_SizeInfo(ctx, pvalue->u.bitMode);
-         RT_CHECK(ctx, stat, 0, "bitMode", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.octetModeType1 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "octetModeType1", -1, 0);
-         stat = asn1PE_UMTS_OctetModeRLC_SizeInfoType1(ctx, pvalue->u.octetModeType1);
-         RT_CHECK(ctx, stat, 0, "octetModeType1", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_DedicatedDynamicTF_Info_rlc_Size, pvalue);
 }
 
-int asn1PE_UMTS_NumberOfTransportBlocks(rtxContext* RT_RESTRICT ctx, const NumberOfTransportBlocks* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_NumberOfTransportBlocks(rtxContext* RT_RESTRICT ctx, const NumberOfTransportBlocks* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NumberOfTransportBlocks");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat, 0, "t", -1, "NumberOfTransportBlocks");
-   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "NumberOfTransportBlocks");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NumberOfTransportBlocks");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "NumberOfTransportBlocks");
+   if (pvalue->t - 1 > 3) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "NumberOfTransportBlocks");
    switch (pvalue->t) {
       case 1:
          break;
@@ -6501,19 +8415,19 @@ int asn1PE_UMTS_NumberOfTransportBlocks(rtxContext* RT_RESTRICT ctx, const Numbe
          if ((uint64_t)(pvalue->u.small - 2) > 15u) {
             rtxErrAddStrParm(ctx, "small");
             rtxErrAddUIntParm(ctx, pvalue->u.small);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "small", -1, "NumberOfTransportBlocks");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "small", -1, "NumberOfTransportBlocks");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.small, 2, 17);
-         RT_CHECK(ctx, stat, 0, "small", -1, "NumberOfTransportBlocks");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.small, 2, 17);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "small", -1, "NumberOfTransportBlocks");
          break;
       case 4:
          if ((uint64_t)(pvalue->u.large - 18) > 494u) {
             rtxErrAddStrParm(ctx, "large");
             rtxErrAddUIntParm(ctx, pvalue->u.large);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "large", -1, "NumberOfTransportBlocks");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "large", -1, "NumberOfTransportBlocks");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.large, 18, 512);
-         RT_CHECK(ctx, stat, 0, "large", -1, "NumberOfTransportBlocks");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.large, 18, 512);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "large", -1, "NumberOfTransportBlocks");
          break;
       default:
          break;
@@ -6521,96 +8435,121 @@ int asn1PE_UMTS_NumberOfTransportBlocks(rtxContext* RT_RESTRICT ctx, const Numbe
    return 0;
 }
 
-int asn1PE_UMTS_DedicatedDynamicTF_Info_numberOfTbSizeList(rtxContext* RT_RESTRICT ctx, const DedicatedDynamicTF_Info_numberOfTbSizeList* RT_RESTRICT pvalue)
+int asn1PE_UMTS_NumberOfTransportBlocks(rtxContext* RT_RESTRICT ctx, const NumberOfTransportBlocks* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NumberOfTransportBlocks, pvalue);
+}
+
+RT_MERGED_BODY int enc_DedicatedDynamicTF_Info_numberOfTbSizeList(rtxContext* RT_RESTRICT ctx, const DedicatedDynamicTF_Info_numberOfTbSizeList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NumberOfTransportBlocks", (int32_t)i, 0);
-      stat = asn1PE_UMTS_NumberOfTransportBlocks(ctx, (const NumberOfTransportBlocks*)node->data);
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "NumberOfTransportBlocks", (int32_t)i, 0);
+      stat = enc_NumberOfTransportBlocks(ctx, (const NumberOfTransportBlocks*)node->data, cur);
       RT_CHECK(ctx, stat, 0, "NumberOfTransportBlocks", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_RB_Identity(rtxContext* RT_RESTRICT ctx, RB_Identity value)
+int asn1PE_UMTS_DedicatedDynamicTF_Info_numberOfTbSizeList(rtxContext* RT_RESTRICT ctx, const DedicatedDynamicTF_Info_numberOfTbSizeList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DedicatedDynamicTF_Info_numberOfTbSizeList, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_Identity(rtxContext* RT_RESTRICT ctx, RB_Identity value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)(value - 1) > 31u) {
       rtxErrAddStrParm(ctx, "RB-Identity");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "RB-Identity");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "RB-Identity");
    }
-   stat = pe_ConsUInt64(ctx, value, 1, 32);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-Identity");
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RB-Identity");
    return 0;
 }
 
-int asn1PE_UMTS_LogicalChannelByRB(rtxContext* RT_RESTRICT ctx, const LogicalChannelByRB* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RB_Identity(rtxContext* RT_RESTRICT ctx, RB_Identity value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_Identity, value);
+}
+
+RT_MERGED_BODY int enc_LogicalChannelByRB(rtxContext* RT_RESTRICT ctx, const LogicalChannelByRB* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "LogicalChannelByRB");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "LogicalChannelByRB");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "LogicalChannelByRB");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "LogicalChannelByRB");
    /* rb-Identity */
    if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
       rtxErrAddStrParm(ctx, "RB-Identity");
       rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "LogicalChannelByRB");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "LogicalChannelByRB");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "LogicalChannelByRB");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->rb_Identity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "LogicalChannelByRB");
    /* logChOfRb */
    if (pvalue->m & 0x1u) {
       if ((uint64_t)pvalue->logChOfRb > 1u) {
          rtxErrAddStrParm(ctx, "logChOfRb");
          rtxErrAddUIntParm(ctx, pvalue->logChOfRb);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "logChOfRb", -1, "LogicalChannelByRB");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "logChOfRb", -1, "LogicalChannelByRB");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->logChOfRb, 0, 1);
-      RT_CHECK(ctx, stat, 0, "logChOfRb", -1, "LogicalChannelByRB");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->logChOfRb, 0, 1);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "logChOfRb", -1, "LogicalChannelByRB");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_LogicalChannelByRB(rtxContext* RT_RESTRICT ctx, const LogicalChannelByRB* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_LogicalChannelByRB, pvalue);
+}
+
+RT_MERGED_BODY int enc_LogicalChannelList_explicitList(rtxContext* RT_RESTRICT ctx, const LogicalChannelList_explicitList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 15);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "LogicalChannelByRB", (int32_t)i, 0);
+      stat = enc_LogicalChannelByRB(ctx, (const LogicalChannelByRB*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "LogicalChannelByRB", (int32_t)i, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_LogicalChannelList_explicitList(rtxContext* RT_RESTRICT ctx, const LogicalChannelList_explicitList* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 15);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "LogicalChannelByRB", (int32_t)i, 0);
-      stat = asn1PE_UMTS_LogicalChannelByRB(ctx, (const LogicalChannelByRB*)node->data);
-      RT_CHECK(ctx, stat, 0, "LogicalChannelByRB", (int32_t)i, 0);
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_LogicalChannelList_explicitList, pvalue);
 }
 
-int asn1PE_UMTS_LogicalChannelList(rtxContext* RT_RESTRICT ctx, const LogicalChannelList* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_LogicalChannelList(rtxContext* RT_RESTRICT ctx, const LogicalChannelList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "LogicalChannelList");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "LogicalChannelList");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "LogicalChannelList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "LogicalChannelList");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "LogicalChannelList");
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "LogicalChannelList");
    switch (pvalue->t) {
       case 1:
          break;
       case 2:
          break;
       case 3:
-         if (pvalue->u.explicitList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "explicitList", -1, "LogicalChannelList");
-         stat = asn1PE_UMTS_LogicalChannelList_explicitList(ctx, pvalue->u.explicitList);
+         if (pvalue->u.explicitList == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "explicitList", -1, "LogicalChannelList");
+         stat = enc_LogicalChannelList_explicitList(ctx, pvalue->u.explicitList, cur);
          RT_CHECK(ctx, stat, 0, "explicitList", -1, "LogicalChannelList");
          break;
       default:
@@ -6619,55 +8558,70 @@ int asn1PE_UMTS_LogicalChannelList(rtxContext* RT_RESTRICT ctx, const LogicalCha
    return 0;
 }
 
-int asn1PE_UMTS_DedicatedDynamicTF_Info(rtxContext* RT_RESTRICT ctx, const DedicatedDynamicTF_Info* RT_RESTRICT pvalue)
+int asn1PE_UMTS_LogicalChannelList(rtxContext* RT_RESTRICT ctx, const LogicalChannelList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_LogicalChannelList, pvalue);
+}
+
+RT_MERGED_BODY int enc_DedicatedDynamicTF_Info(rtxContext* RT_RESTRICT ctx, const DedicatedDynamicTF_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DedicatedDynamicTF-Info");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DedicatedDynamicTF-Info");
    /* rlc-Size */
-   stat = asn1PE_UMTS_DedicatedDynamicTF_Info_rlc_Size(ctx, &pvalue->rlc_Size);
+   stat = enc_DedicatedDynamicTF_Info_rlc_Size(ctx, &pvalue->rlc_Size, cur);
    RT_CHECK(ctx, stat, 0, "rlc-Size", -1, "DedicatedDynamicTF-Info");
    /* numberOfTbSizeList */
-   stat = asn1PE_UMTS_DedicatedDynamicTF_Info_numberOfTbSizeList(ctx, &pvalue->numberOfTbSizeList);
+   stat = enc_DedicatedDynamicTF_Info_numberOfTbSizeList(ctx, &pvalue->numberOfTbSizeList, cur);
    RT_CHECK(ctx, stat, 0, "numberOfTbSizeList", -1, "DedicatedDynamicTF-Info");
    /* logicalChannelList */
-   stat = asn1PE_UMTS_LogicalChannelList(ctx, &pvalue->logicalChannelList);
+   stat = enc_LogicalChannelList(ctx, &pvalue->logicalChannelList, cur);
    RT_CHECK(ctx, stat, 0, "logicalChannelList", -1, "DedicatedDynamicTF-Info");
    return 0;
 }
 
-int asn1PE_UMTS_DedicatedDynamicTF_InfoList(rtxContext* RT_RESTRICT ctx, const DedicatedDynamicTF_InfoList* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DedicatedDynamicTF_Info(rtxContext* RT_RESTRICT ctx, const DedicatedDynamicTF_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DedicatedDynamicTF_Info, pvalue);
+}
+
+static int enc_DedicatedDynamicTF_InfoList(rtxContext* RT_RESTRICT ctx, const DedicatedDynamicTF_InfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DedicatedDynamicTF-InfoList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DedicatedDynamicTF-InfoList");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DedicatedDynamicTF-InfoList");
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DedicatedDynamicTF-InfoList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DedicatedDynamicTF-Info", (int32_t)i, "DedicatedDynamicTF-InfoList");
-      stat = asn1PE_UMTS_DedicatedDynamicTF_Info(ctx, (const DedicatedDynamicTF_Info*)node->data);
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DedicatedDynamicTF-Info", (int32_t)i, "DedicatedDynamicTF-InfoList");
+      stat = enc_DedicatedDynamicTF_Info(ctx, (const DedicatedDynamicTF_Info*)node->data, cur);
       RT_CHECK(ctx, stat, 0, "DedicatedDynamicTF-Info", (int32_t)i, "DedicatedDynamicTF-InfoList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_DedicatedDynamicTF_Info_DynamicTTI_rlc_Size(rtxContext* RT_RESTRICT ctx, const DedicatedDynamicTF_Info_DynamicTTI_rlc_Size* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DedicatedDynamicTF_InfoList(rtxContext* RT_RESTRICT ctx, const DedicatedDynamicTF_InfoList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DedicatedDynamicTF_InfoList, pvalue);
+}
+
+RT_MERGED_BODY int enc_DedicatedDynamicTF_Info_DynamicTTI_rlc_Size(rtxContext* RT_RESTRICT ctx, const DedicatedDynamicTF_Info_DynamicTTI_rlc_Size* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.bitMode == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "bitMode", -1, 0);
-         stat = asn1PE_UMTS_BitModeRLC_SizeInfo(ctx, pvalue->u.bitMode);
+         if (pvalue->u.bitMode == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "bitMode", -1, 0);
+         stat = enc_BitModeRLC_SizeInfo(ctx, pvalue->u.bitMode, cur);
          RT_CHECK(ctx, stat, 0, "bitMode", -1, 0);
          break;
       case 2:
-         if (pvalue->u.octetModeType1 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "octetModeType1", -1, 0);
-         stat = asn1PE_UMTS_OctetModeRLC_SizeInfoType1(ctx, pvalue->u.octetModeType1);
+         if (pvalue->u.octetModeType1 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "octetModeType1", -1, 0);
+         stat = enc_OctetModeRLC_SizeInfoType1(ctx, pvalue->u.octetModeType1, cur);
          RT_CHECK(ctx, stat, 0, "octetModeType1", -1, 0);
          break;
       default:
@@ -6676,116 +8630,146 @@ int asn1PE_UMTS_DedicatedDynamicTF_Info_DynamicTTI_rlc_Size(rtxContext* RT_RESTR
    return 0;
 }
 
-int asn1PE_UMTS_TransmissionTimeInterval(rtxContext* RT_RESTRICT ctx, TransmissionTimeInterval value)
+int asn1PE_UMTS_DedicatedDynamicTF_Info_DynamicTTI_rlc_Size(rtxContext* RT_RESTRICT ctx, const DedicatedDynamicTF_Info_DynamicTTI_rlc_Size* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DedicatedDynamicTF_Info_DynamicTTI_rlc_Size, pvalue);
+}
+
+RT_MERGED_BODY int enc_TransmissionTimeInterval(rtxContext* RT_RESTRICT ctx, TransmissionTimeInterval value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value > 3) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TransmissionTimeInterval");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TransmissionTimeInterval");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TransmissionTimeInterval");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TransmissionTimeInterval");
+   return 0;
+}
+
+int asn1PE_UMTS_TransmissionTimeInterval(rtxContext* RT_RESTRICT ctx, TransmissionTimeInterval value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TransmissionTimeInterval, value);
+}
+
+RT_MERGED_BODY int enc_NumberOfTbSizeAndTTIList_element(rtxContext* RT_RESTRICT ctx, const NumberOfTbSizeAndTTIList_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* numberOfTransportBlocks */
+   stat = enc_NumberOfTransportBlocks(ctx, &pvalue->numberOfTransportBlocks, cur);
+   RT_CHECK(ctx, stat, 0, "numberOfTransportBlocks", -1, 0);
+   /* transmissionTimeInterval */
+   if (pvalue->transmissionTimeInterval > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->transmissionTimeInterval);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TransmissionTimeInterval", "transmissionTimeInterval", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->transmissionTimeInterval, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "TransmissionTimeInterval", "transmissionTimeInterval", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_NumberOfTbSizeAndTTIList_element(rtxContext* RT_RESTRICT ctx, const NumberOfTbSizeAndTTIList_element* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* numberOfTransportBlocks */
-   stat = asn1PE_UMTS_NumberOfTransportBlocks(ctx, &pvalue->numberOfTransportBlocks);
-   RT_CHECK(ctx, stat, 0, "numberOfTransportBlocks", -1, 0);
-   /* transmissionTimeInterval */
-   if (pvalue->transmissionTimeInterval > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->transmissionTimeInterval);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TransmissionTimeInterval", "transmissionTimeInterval", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->transmissionTimeInterval, 0, 3);
-   RT_CHECK(ctx, stat, "TransmissionTimeInterval", "transmissionTimeInterval", -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_NumberOfTbSizeAndTTIList_element, pvalue);
 }
 
-int asn1PE_UMTS_NumberOfTbSizeAndTTIList(rtxContext* RT_RESTRICT ctx, const NumberOfTbSizeAndTTIList* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_NumberOfTbSizeAndTTIList(rtxContext* RT_RESTRICT ctx, const NumberOfTbSizeAndTTIList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NumberOfTbSizeAndTTIList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NumberOfTbSizeAndTTIList");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NumberOfTbSizeAndTTIList");
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "NumberOfTbSizeAndTTIList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "NumberOfTbSizeAndTTIList");
-      stat = asn1PE_UMTS_NumberOfTbSizeAndTTIList_element(ctx, (const NumberOfTbSizeAndTTIList_element*)node->data);
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "NumberOfTbSizeAndTTIList");
+      stat = enc_NumberOfTbSizeAndTTIList_element(ctx, (const NumberOfTbSizeAndTTIList_element*)node->data, cur);
       RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "NumberOfTbSizeAndTTIList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_DedicatedDynamicTF_Info_DynamicTTI(rtxContext* RT_RESTRICT ctx, const DedicatedDynamicTF_Info_DynamicTTI* RT_RESTRICT pvalue)
+int asn1PE_UMTS_NumberOfTbSizeAndTTIList(rtxContext* RT_RESTRICT ctx, const NumberOfTbSizeAndTTIList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NumberOfTbSizeAndTTIList, pvalue);
+}
+
+RT_MERGED_BODY int enc_DedicatedDynamicTF_Info_DynamicTTI(rtxContext* RT_RESTRICT ctx, const DedicatedDynamicTF_Info_DynamicTTI* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DedicatedDynamicTF-Info-DynamicTTI");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DedicatedDynamicTF-Info-DynamicTTI");
    /* rlc-Size */
-   stat = asn1PE_UMTS_DedicatedDynamicTF_Info_DynamicTTI_rlc_Size(ctx, &pvalue->rlc_Size);
+   stat = enc_DedicatedDynamicTF_Info_DynamicTTI_rlc_Size(ctx, &pvalue->rlc_Size, cur);
    RT_CHECK(ctx, stat, 0, "rlc-Size", -1, "DedicatedDynamicTF-Info-DynamicTTI");
    /* numberOfTbSizeAndTTIList */
-   stat = asn1PE_UMTS_NumberOfTbSizeAndTTIList(ctx, &pvalue->numberOfTbSizeAndTTIList);
+   stat = enc_NumberOfTbSizeAndTTIList(ctx, &pvalue->numberOfTbSizeAndTTIList, cur);
    RT_CHECK(ctx, stat, 0, "numberOfTbSizeAndTTIList", -1, "DedicatedDynamicTF-Info-DynamicTTI");
    /* logicalChannelList */
-   stat = asn1PE_UMTS_LogicalChannelList(ctx, &pvalue->logicalChannelList);
+   stat = enc_LogicalChannelList(ctx, &pvalue->logicalChannelList, cur);
    RT_CHECK(ctx, stat, 0, "logicalChannelList", -1, "DedicatedDynamicTF-Info-DynamicTTI");
    return 0;
 }
 
-int asn1PE_UMTS_DedicatedDynamicTF_InfoList_DynamicTTI(rtxContext* RT_RESTRICT ctx, const DedicatedDynamicTF_InfoList_DynamicTTI* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DedicatedDynamicTF_Info_DynamicTTI(rtxContext* RT_RESTRICT ctx, const DedicatedDynamicTF_Info_DynamicTTI* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DedicatedDynamicTF_Info_DynamicTTI, pvalue);
+}
+
+RT_MERGED_BODY int enc_DedicatedDynamicTF_InfoList_DynamicTTI(rtxContext* RT_RESTRICT ctx, const DedicatedDynamicTF_InfoList_DynamicTTI* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DedicatedDynamicTF-InfoList-DynamicTTI");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DedicatedDynamicTF-InfoList-DynamicTTI");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DedicatedDynamicTF-InfoList-DynamicTTI");
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DedicatedDynamicTF-InfoList-DynamicTTI");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DedicatedDynamicTF-Info-DynamicTTI", (int32_t)i, "DedicatedDynamicTF-InfoList-DynamicTTI");
-      stat = asn1PE_UMTS_DedicatedDynamicTF_Info_DynamicTTI(ctx, (const DedicatedDynamicTF_Info_DynamicTTI*)node->data);
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DedicatedDynamicTF-Info-DynamicTTI", (int32_t)i, "DedicatedDynamicTF-InfoList-DynamicTTI");
+      stat = enc_DedicatedDynamicTF_Info_DynamicTTI(ctx, (const DedicatedDynamicTF_Info_DynamicTTI*)node->data, cur);
       RT_CHECK(ctx, stat, 0, "DedicatedDynamicTF-Info-DynamicTTI", (int32_t)i, "DedicatedDynamicTF-InfoList-DynamicTTI");
    }
    return 0;
 }
 
-int asn1PE_UMTS_DedicatedTransChTFS_tti(rtxContext* RT_RESTRICT ctx, const DedicatedTransChTFS_tti* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DedicatedDynamicTF_InfoList_DynamicTTI(rtxContext* RT_RESTRICT ctx, const DedicatedDynamicTF_InfoList_DynamicTTI* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DedicatedDynamicTF_InfoList_DynamicTTI, pvalue);
+}
+
+static int enc_DedicatedTransChTFS_tti(rtxContext* RT_RESTRICT ctx, const DedicatedTransChTFS_tti* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 4);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 4) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 4) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.tti10 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tti10", -1, 0);
-         stat = asn1PE_UMTS_DedicatedDynamicTF_InfoList(ctx, pvalue->u.tti10);
+         if (pvalue->u.tti10 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tti10", -1, 0);
+         stat = enc_DedicatedDynamicTF_InfoList(ctx, pvalue->u.tti10, cur);
          RT_CHECK(ctx, stat, 0, "tti10", -1, 0);
          break;
       case 2:
-         if (pvalue->u.tti20 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tti20", -1, 0);
-         stat = asn1PE_UMTS_DedicatedDynamicTF_InfoList(ctx, pvalue->u.tti20);
+         if (pvalue->u.tti20 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tti20", -1, 0);
+         stat = enc_DedicatedDynamicTF_InfoList(ctx, pvalue->u.tti20, cur);
          RT_CHECK(ctx, stat, 0, "tti20", -1, 0);
          break;
       case 3:
-         if (pvalue->u.tti40 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tti40", -1, 0);
-         stat = asn1PE_UMTS_DedicatedDynamicTF_InfoList(ctx, pvalue->u.tti40);
+         if (pvalue->u.tti40 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tti40", -1, 0);
+         stat = enc_DedicatedDynamicTF_InfoList(ctx, pvalue->u.tti40, cur);
          RT_CHECK(ctx, stat, 0, "tti40", -1, 0);
          break;
       case 4:
-         if (pvalue->u.tti80 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tti80", -1, 0);
-         stat = asn1PE_UMTS_DedicatedDynamicTF_InfoList(ctx, pvalue->u.tti80);
+         if (pvalue->u.tti80 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tti80", -1, 0);
+         stat = enc_DedicatedDynamicTF_InfoList(ctx, pvalue->u.tti80, cur);
          RT_CHECK(ctx, stat, 0, "tti80", -1, 0);
          break;
       case 5:
-         if (pvalue->u.dynamic == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dynamic", -1, 0);
-         stat = asn1PE_UMTS_DedicatedDynamicTF_InfoList_DynamicTTI(ctx, pvalue->u.dynamic);
+         if (pvalue->u.dynamic == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dynamic", -1, 0);
+         stat = enc_DedicatedDynamicTF_InfoList_DynamicTTI(ctx, pvalue->u.dynamic, cur);
          RT_CHECK(ctx, stat, 0, "dynamic", -1, 0);
          break;
       default:
@@ -6794,35 +8778,45 @@ int asn1PE_UMTS_DedicatedTransChTFS_tti(rtxContext* RT_RESTRICT ctx, const Dedic
    return 0;
 }
 
-int asn1PE_UMTS_CodingRate(rtxContext* RT_RESTRICT ctx, CodingRate value)
+int asn1PE_UMTS_DedicatedTransChTFS_tti(rtxContext* RT_RESTRICT ctx, const DedicatedTransChTFS_tti* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DedicatedTransChTFS_tti, pvalue);
+}
+
+RT_MERGED_BODY int enc_CodingRate(rtxContext* RT_RESTRICT ctx, CodingRate value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "CodingRate");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "CodingRate");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CodingRate");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CodingRate");
    return 0;
 }
 
-int asn1PE_UMTS_ChannelCodingType(rtxContext* RT_RESTRICT ctx, const ChannelCodingType* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CodingRate(rtxContext* RT_RESTRICT ctx, CodingRate value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CodingRate, value);
+}
+
+RT_MERGED_BODY int enc_ChannelCodingType(rtxContext* RT_RESTRICT ctx, const ChannelCodingType* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ChannelCodingType");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "ChannelCodingType");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ChannelCodingType");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ChannelCodingType");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "ChannelCodingType");
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "ChannelCodingType");
    switch (pvalue->t) {
       case 1:
          break;
       case 2:
          if (pvalue->u.convolutional > 1) {
             rtxErrAddUIntParm(ctx, pvalue->u.convolutional);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "CodingRate", "convolutional", -1, "ChannelCodingType");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "CodingRate", "convolutional", -1, "ChannelCodingType");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.convolutional, 0, 1);
-         RT_CHECK(ctx, stat, "CodingRate", "convolutional", -1, "ChannelCodingType");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.convolutional, 0, 1);
+         RT_CHECK_PUT(ctx, cur, stat, "CodingRate", "convolutional", -1, "ChannelCodingType");
          break;
       case 3:
          break;
@@ -6832,103 +8826,128 @@ int asn1PE_UMTS_ChannelCodingType(rtxContext* RT_RESTRICT ctx, const ChannelCodi
    return 0;
 }
 
-int asn1PE_UMTS_RateMatchingAttribute(rtxContext* RT_RESTRICT ctx, RateMatchingAttribute value)
+int asn1PE_UMTS_ChannelCodingType(rtxContext* RT_RESTRICT ctx, const ChannelCodingType* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ChannelCodingType, pvalue);
+}
+
+RT_MERGED_BODY int enc_RateMatchingAttribute(rtxContext* RT_RESTRICT ctx, RateMatchingAttribute value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)(value - 1) > 255u) {
       rtxErrAddStrParm(ctx, "RateMatchingAttribute");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "RateMatchingAttribute");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "RateMatchingAttribute");
    }
-   stat = pe_ConsUInt64(ctx, value, 1, 256);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RateMatchingAttribute");
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 256);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RateMatchingAttribute");
+   return 0;
+}
+
+int asn1PE_UMTS_RateMatchingAttribute(rtxContext* RT_RESTRICT ctx, RateMatchingAttribute value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RateMatchingAttribute, value);
+}
+
+RT_MERGED_BODY int enc_CRC_Size(rtxContext* RT_RESTRICT ctx, CRC_Size value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 4) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "CRC-Size");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CRC-Size");
    return 0;
 }
 
 int asn1PE_UMTS_CRC_Size(rtxContext* RT_RESTRICT ctx, CRC_Size value)
 {
-   int stat = 0;
-   if (value > 4) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "CRC-Size");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CRC-Size");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_CRC_Size, value);
 }
 
-int asn1PE_UMTS_SemistaticTF_Information(rtxContext* RT_RESTRICT ctx, const SemistaticTF_Information* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_SemistaticTF_Information(rtxContext* RT_RESTRICT ctx, const SemistaticTF_Information* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SemistaticTF-Information");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SemistaticTF-Information");
    /* channelCodingType */
-   stat = asn1PE_UMTS_ChannelCodingType(ctx, &pvalue->channelCodingType);
+   stat = enc_ChannelCodingType(ctx, &pvalue->channelCodingType, cur);
    RT_CHECK(ctx, stat, 0, "channelCodingType", -1, "SemistaticTF-Information");
    /* rateMatchingAttribute */
    if ((uint64_t)(pvalue->rateMatchingAttribute - 1) > 255u) {
       rtxErrAddStrParm(ctx, "RateMatchingAttribute");
       rtxErrAddUIntParm(ctx, pvalue->rateMatchingAttribute);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RateMatchingAttribute", "rateMatchingAttribute", -1, "SemistaticTF-Information");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RateMatchingAttribute", "rateMatchingAttribute", -1, "SemistaticTF-Information");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->rateMatchingAttribute, 1, 256);
-   RT_CHECK(ctx, stat, "RateMatchingAttribute", "rateMatchingAttribute", -1, "SemistaticTF-Information");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->rateMatchingAttribute, 1, 256);
+   RT_CHECK_PUT(ctx, cur, stat, "RateMatchingAttribute", "rateMatchingAttribute", -1, "SemistaticTF-Information");
    /* crc-Size */
    if (pvalue->crc_Size > 4) {
       rtxErrAddUIntParm(ctx, pvalue->crc_Size);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "CRC-Size", "crc-Size", -1, "SemistaticTF-Information");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "CRC-Size", "crc-Size", -1, "SemistaticTF-Information");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->crc_Size, 0, 4);
-   RT_CHECK(ctx, stat, "CRC-Size", "crc-Size", -1, "SemistaticTF-Information");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->crc_Size, 0, 4);
+   RT_CHECK_PUT(ctx, cur, stat, "CRC-Size", "crc-Size", -1, "SemistaticTF-Information");
+   return 0;
+}
+
+int asn1PE_UMTS_SemistaticTF_Information(rtxContext* RT_RESTRICT ctx, const SemistaticTF_Information* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SemistaticTF_Information, pvalue);
+}
+
+RT_MERGED_BODY int enc_DedicatedTransChTFS(rtxContext* RT_RESTRICT ctx, const DedicatedTransChTFS* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DedicatedTransChTFS");
+   /* tti */
+   stat = enc_DedicatedTransChTFS_tti(ctx, &pvalue->tti, cur);
+   RT_CHECK(ctx, stat, 0, "tti", -1, "DedicatedTransChTFS");
+   /* semistaticTF-Information */
+   stat = enc_SemistaticTF_Information(ctx, &pvalue->semistaticTF_Information, cur);
+   RT_CHECK(ctx, stat, 0, "semistaticTF-Information", -1, "DedicatedTransChTFS");
    return 0;
 }
 
 int asn1PE_UMTS_DedicatedTransChTFS(rtxContext* RT_RESTRICT ctx, const DedicatedTransChTFS* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DedicatedTransChTFS");
-   /* tti */
-   stat = asn1PE_UMTS_DedicatedTransChTFS_tti(ctx, &pvalue->tti);
-   RT_CHECK(ctx, stat, 0, "tti", -1, "DedicatedTransChTFS");
-   /* semistaticTF-Information */
-   stat = asn1PE_UMTS_SemistaticTF_Information(ctx, &pvalue->semistaticTF_Information);
-   RT_CHECK(ctx, stat, 0, "semistaticTF-Information", -1, "DedicatedTransChTFS");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_DedicatedTransChTFS, pvalue);
 }
 
-int asn1PE_UMTS_OctetModeRLC_SizeInfoType2(rtxContext* RT_RESTRICT ctx, const OctetModeRLC_SizeInfoType2* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_OctetModeRLC_SizeInfoType2(rtxContext* RT_RESTRICT ctx, const OctetModeRLC_SizeInfoType2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "OctetModeRLC-SizeInfoType2");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "OctetModeRLC-SizeInfoType2");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "OctetModeRLC-SizeInfoType2");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "OctetModeRLC-SizeInfoType2");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "OctetModeRLC-SizeInfoType2");
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "OctetModeRLC-SizeInfoType2");
    switch (pvalue->t) {
       case 1:
          if ((uint64_t)pvalue->u.sizeType1 > 31u) {
             rtxErrAddStrParm(ctx, "sizeType1");
             rtxErrAddUIntParm(ctx, pvalue->u.sizeType1);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sizeType1", -1, "OctetModeRLC-SizeInfoType2");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "sizeType1", -1, "OctetModeRLC-SizeInfoType2");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sizeType1, 0, 31);
-         RT_CHECK(ctx, stat, 0, "sizeType1", -1, "OctetModeRLC-SizeInfoType2");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sizeType1, 0, 31);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "sizeType1", -1, "OctetModeRLC-SizeInfoType2");
          break;
       case 2:
          if ((uint64_t)pvalue->u.sizeType2 > 63u) {
             rtxErrAddStrParm(ctx, "sizeType2");
             rtxErrAddUIntParm(ctx, pvalue->u.sizeType2);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sizeType2", -1, "OctetModeRLC-SizeInfoType2");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "sizeType2", -1, "OctetModeRLC-SizeInfoType2");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sizeType2, 0, 63);
-         RT_CHECK(ctx, stat, 0, "sizeType2", -1, "OctetModeRLC-SizeInfoType2");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sizeType2, 0, 63);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "sizeType2", -1, "OctetModeRLC-SizeInfoType2");
          break;
       case 3:
          if ((uint64_t)pvalue->u.sizeType3 > 56u) {
             rtxErrAddStrParm(ctx, "sizeType3");
             rtxErrAddUIntParm(ctx, pvalue->u.sizeType3);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sizeType3", -1, "OctetModeRLC-SizeInfoType2");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "sizeType3", -1, "OctetModeRLC-SizeInfoType2");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sizeType3, 0, 56);
-         RT_CHECK(ctx, stat, 0, "sizeType3", -1, "OctetModeRLC-SizeInfoType2");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sizeType3, 0, 56);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "sizeType3", -1, "OctetModeRLC-SizeInfoType2");
          break;
       default:
          break;
@@ -6936,32 +8955,42 @@ int asn1PE_UMTS_OctetModeRLC_SizeInfoType2(rtxContext* RT_RESTRICT ctx, const Oc
    return 0;
 }
 
-int asn1PE_UMTS_CommonDynamicTF_Info_rlc_Size_fdd(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_Info_rlc_Size_fdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_OctetModeRLC_SizeInfoType2(rtxContext* RT_RESTRICT ctx, const OctetModeRLC_SizeInfoType2* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_OctetModeRLC_SizeInfoType2, pvalue);
+}
+
+RT_MERGED_BODY int enc_CommonDynamicTF_Info_rlc_Size_fdd(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_Info_rlc_Size_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* octetModeRLC-SizeInfoType2 */
-   stat = asn1PE_UMTS_OctetModeRLC_SizeInfoType2(ctx, &pvalue->octetModeRLC_SizeInfoType2);
+   stat = enc_OctetModeRLC_SizeInfoType2(ctx, &pvalue->octetModeRLC_SizeInfoType2, cur);
    RT_CHECK(ctx, stat, 0, "octetModeRLC-SizeInfoType2", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CommonDynamicTF_Info_rlc_Size_tdd_commonTDD_Choice(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_Info_rlc_Size_tdd_commonTDD_Choice* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CommonDynamicTF_Info_rlc_Size_fdd(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_Info_rlc_Size_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CommonDynamicTF_Info_rlc_Size_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_CommonDynamicTF_Info_rlc_Size_tdd_commonTDD_Choice(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_Info_rlc_Size_tdd_commonTDD_Choice* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.bitModeRLC_SizeInfo == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "bitModeRLC-SizeInfo", -1, 0);
-         stat = asn1PE_UMTS_BitModeRLC_SizeInfo(ctx, pvalue->u.bitModeRLC_SizeInfo);
+         if (pvalue->u.bitModeRLC_SizeInfo == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "bitModeRLC-SizeInfo", -1, 0);
+         stat = enc_BitModeRLC_SizeInfo(ctx, pvalue->u.bitModeRLC_SizeInfo, cur);
          RT_CHECK(ctx, stat, 0, "bitModeRLC-SizeInfo", -1, 0);
          break;
       case 2:
-         if (pvalue->u.octetModeRLC_SizeInfoType1 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "octetModeRLC-SizeInfoType1", -1, 0);
-         stat = asn1PE_UMTS_OctetModeRLC_SizeInfoType1(ctx, pvalue->u.octetModeRLC_SizeInfoType1);
+         if (pvalue->u.octetModeRLC_SizeInfoType1 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "octetModeRLC-SizeInfoType1", -1, 0);
+         stat = enc_OctetModeRLC_SizeInfoType1(ctx, pvalue->u.octetModeRLC_SizeInfoType1, cur);
          RT_CHECK(ctx, stat, 0, "octetModeRLC-SizeInfoType1", -1, 0);
          break;
       default:
@@ -6970,32 +8999,42 @@ int asn1PE_UMTS_CommonDynamicTF_Info_rlc_Size_tdd_commonTDD_Choice(rtxContext* R
    return 0;
 }
 
-int asn1PE_UMTS_CommonDynamicTF_Info_rlc_Size_tdd(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_Info_rlc_Size_tdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CommonDynamicTF_Info_rlc_Size_tdd_commonTDD_Choice(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_Info_rlc_Size_tdd_commonTDD_Choice* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CommonDynamicTF_Info_rlc_Size_tdd_commonTDD_Choice, pvalue);
+}
+
+RT_MERGED_BODY int enc_CommonDynamicTF_Info_rlc_Size_tdd(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_Info_rlc_Size_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* commonTDD-Choice */
-   stat = asn1PE_UMTS_CommonDynamicTF_Info_rlc_Size_tdd_commonTDD_Choice(ctx, &pvalue->commonTDD_Choice);
+   stat = enc_CommonDynamicTF_Info_rlc_Size_tdd_commonTDD_Choice(ctx, &pvalue->commonTDD_Choice, cur);
    RT_CHECK(ctx, stat, 0, "commonTDD-Choice", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CommonDynamicTF_Info_rlc_Size(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_Info_rlc_Size* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CommonDynamicTF_Info_rlc_Size_tdd(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_Info_rlc_Size_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CommonDynamicTF_Info_rlc_Size_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_CommonDynamicTF_Info_rlc_Size(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_Info_rlc_Size* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_CommonDynamicTF_Info_rlc_Size_fdd(ctx, pvalue->u.fdd);
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_CommonDynamicTF_Info_rlc_Size_fdd(ctx, pvalue->u.fdd, cur);
          RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_CommonDynamicTF_Info_rlc_Size_tdd(ctx, pvalue->u.tdd);
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_CommonDynamicTF_Info_rlc_Size_tdd(ctx, pvalue->u.tdd, cur);
          RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
@@ -7004,72 +9043,92 @@ int asn1PE_UMTS_CommonDynamicTF_Info_rlc_Size(rtxContext* RT_RESTRICT ctx, const
    return 0;
 }
 
-int asn1PE_UMTS_CommonDynamicTF_Info_numberOfTbSizeList(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_Info_numberOfTbSizeList* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CommonDynamicTF_Info_rlc_Size(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_Info_rlc_Size* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CommonDynamicTF_Info_rlc_Size, pvalue);
+}
+
+RT_MERGED_BODY int enc_CommonDynamicTF_Info_numberOfTbSizeList(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_Info_numberOfTbSizeList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NumberOfTransportBlocks", (int32_t)i, 0);
-      stat = asn1PE_UMTS_NumberOfTransportBlocks(ctx, (const NumberOfTransportBlocks*)node->data);
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "NumberOfTransportBlocks", (int32_t)i, 0);
+      stat = enc_NumberOfTransportBlocks(ctx, (const NumberOfTransportBlocks*)node->data, cur);
       RT_CHECK(ctx, stat, 0, "NumberOfTransportBlocks", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_CommonDynamicTF_Info(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_Info* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CommonDynamicTF_Info_numberOfTbSizeList(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_Info_numberOfTbSizeList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CommonDynamicTF_Info_numberOfTbSizeList, pvalue);
+}
+
+RT_MERGED_BODY int enc_CommonDynamicTF_Info(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CommonDynamicTF-Info");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CommonDynamicTF-Info");
    /* rlc-Size */
-   stat = asn1PE_UMTS_CommonDynamicTF_Info_rlc_Size(ctx, &pvalue->rlc_Size);
+   stat = enc_CommonDynamicTF_Info_rlc_Size(ctx, &pvalue->rlc_Size, cur);
    RT_CHECK(ctx, stat, 0, "rlc-Size", -1, "CommonDynamicTF-Info");
    /* numberOfTbSizeList */
-   stat = asn1PE_UMTS_CommonDynamicTF_Info_numberOfTbSizeList(ctx, &pvalue->numberOfTbSizeList);
+   stat = enc_CommonDynamicTF_Info_numberOfTbSizeList(ctx, &pvalue->numberOfTbSizeList, cur);
    RT_CHECK(ctx, stat, 0, "numberOfTbSizeList", -1, "CommonDynamicTF-Info");
    /* logicalChannelList */
-   stat = asn1PE_UMTS_LogicalChannelList(ctx, &pvalue->logicalChannelList);
+   stat = enc_LogicalChannelList(ctx, &pvalue->logicalChannelList, cur);
    RT_CHECK(ctx, stat, 0, "logicalChannelList", -1, "CommonDynamicTF-Info");
    return 0;
 }
 
-int asn1PE_UMTS_CommonDynamicTF_InfoList(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_InfoList* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CommonDynamicTF_Info(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CommonDynamicTF_Info, pvalue);
+}
+
+static int enc_CommonDynamicTF_InfoList(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_InfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CommonDynamicTF-InfoList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CommonDynamicTF-InfoList");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CommonDynamicTF-InfoList");
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "CommonDynamicTF-InfoList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CommonDynamicTF-Info", (int32_t)i, "CommonDynamicTF-InfoList");
-      stat = asn1PE_UMTS_CommonDynamicTF_Info(ctx, (const CommonDynamicTF_Info*)node->data);
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "CommonDynamicTF-Info", (int32_t)i, "CommonDynamicTF-InfoList");
+      stat = enc_CommonDynamicTF_Info(ctx, (const CommonDynamicTF_Info*)node->data, cur);
       RT_CHECK(ctx, stat, 0, "CommonDynamicTF-Info", (int32_t)i, "CommonDynamicTF-InfoList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_CommonDynamicTF_Info_DynamicTTI_commonTDD_Choice(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_Info_DynamicTTI_commonTDD_Choice* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CommonDynamicTF_InfoList(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_InfoList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CommonDynamicTF_InfoList, pvalue);
+}
+
+RT_MERGED_BODY int enc_CommonDynamicTF_Info_DynamicTTI_commonTDD_Choice(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_Info_DynamicTTI_commonTDD_Choice* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.bitModeRLC_SizeInfo == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "bitModeRLC-SizeInfo", -1, 0);
-         stat = asn1PE_UMTS_BitModeRLC_SizeInfo(ctx, pvalue->u.bitModeRLC_SizeInfo);
+         if (pvalue->u.bitModeRLC_SizeInfo == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "bitModeRLC-SizeInfo", -1, 0);
+         stat = enc_BitModeRLC_SizeInfo(ctx, pvalue->u.bitModeRLC_SizeInfo, cur);
          RT_CHECK(ctx, stat, 0, "bitModeRLC-SizeInfo", -1, 0);
          break;
       case 2:
-         if (pvalue->u.octetModeRLC_SizeInfoType1 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "octetModeRLC-SizeInfoType1", -1, 0);
-         stat = asn1PE_UMTS_OctetModeRLC_SizeInfoType1(ctx, pvalue->u.octetModeRLC_SizeInfoType1);
+         if (pvalue->u.octetModeRLC_SizeInfoType1 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "octetModeRLC-SizeInfoType1", -1, 0);
+         stat = enc_OctetModeRLC_SizeInfoType1(ctx, pvalue->u.octetModeRLC_SizeInfoType1, cur);
          RT_CHECK(ctx, stat, 0, "octetModeRLC-SizeInfoType1", -1, 0);
          break;
       default:
@@ -7078,70 +9137,85 @@ int asn1PE_UMTS_CommonDynamicTF_Info_DynamicTTI_commonTDD_Choice(rtxContext* RT_
    return 0;
 }
 
-int asn1PE_UMTS_CommonDynamicTF_Info_DynamicTTI(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_Info_DynamicTTI* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CommonDynamicTF_Info_DynamicTTI_commonTDD_Choice(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_Info_DynamicTTI_commonTDD_Choice* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CommonDynamicTF_Info_DynamicTTI_commonTDD_Choice, pvalue);
+}
+
+RT_MERGED_BODY int enc_CommonDynamicTF_Info_DynamicTTI(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_Info_DynamicTTI* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CommonDynamicTF-Info-DynamicTTI");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CommonDynamicTF-Info-DynamicTTI");
    /* commonTDD-Choice */
-   stat = asn1PE_UMTS_CommonDynamicTF_Info_DynamicTTI_commonTDD_Choice(ctx, &pvalue->commonTDD_Choice);
+   stat = enc_CommonDynamicTF_Info_DynamicTTI_commonTDD_Choice(ctx, &pvalue->commonTDD_Choice, cur);
    RT_CHECK(ctx, stat, 0, "commonTDD-Choice", -1, "CommonDynamicTF-Info-DynamicTTI");
    /* numberOfTbSizeAndTTIList */
-   stat = asn1PE_UMTS_NumberOfTbSizeAndTTIList(ctx, &pvalue->numberOfTbSizeAndTTIList);
+   stat = enc_NumberOfTbSizeAndTTIList(ctx, &pvalue->numberOfTbSizeAndTTIList, cur);
    RT_CHECK(ctx, stat, 0, "numberOfTbSizeAndTTIList", -1, "CommonDynamicTF-Info-DynamicTTI");
    /* logicalChannelList */
-   stat = asn1PE_UMTS_LogicalChannelList(ctx, &pvalue->logicalChannelList);
+   stat = enc_LogicalChannelList(ctx, &pvalue->logicalChannelList, cur);
    RT_CHECK(ctx, stat, 0, "logicalChannelList", -1, "CommonDynamicTF-Info-DynamicTTI");
    return 0;
 }
 
-int asn1PE_UMTS_CommonDynamicTF_InfoList_DynamicTTI(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_InfoList_DynamicTTI* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CommonDynamicTF_Info_DynamicTTI(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_Info_DynamicTTI* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CommonDynamicTF_Info_DynamicTTI, pvalue);
+}
+
+static int enc_CommonDynamicTF_InfoList_DynamicTTI(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_InfoList_DynamicTTI* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CommonDynamicTF-InfoList-DynamicTTI");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CommonDynamicTF-InfoList-DynamicTTI");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CommonDynamicTF-InfoList-DynamicTTI");
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "CommonDynamicTF-InfoList-DynamicTTI");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CommonDynamicTF-Info-DynamicTTI", (int32_t)i, "CommonDynamicTF-InfoList-DynamicTTI");
-      stat = asn1PE_UMTS_CommonDynamicTF_Info_DynamicTTI(ctx, (const CommonDynamicTF_Info_DynamicTTI*)node->data);
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "CommonDynamicTF-Info-DynamicTTI", (int32_t)i, "CommonDynamicTF-InfoList-DynamicTTI");
+      stat = enc_CommonDynamicTF_Info_DynamicTTI(ctx, (const CommonDynamicTF_Info_DynamicTTI*)node->data, cur);
       RT_CHECK(ctx, stat, 0, "CommonDynamicTF-Info-DynamicTTI", (int32_t)i, "CommonDynamicTF-InfoList-DynamicTTI");
    }
    return 0;
 }
 
-int asn1PE_UMTS_CommonTransChTFS_tti(rtxContext* RT_RESTRICT ctx, const CommonTransChTFS_tti* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CommonDynamicTF_InfoList_DynamicTTI(rtxContext* RT_RESTRICT ctx, const CommonDynamicTF_InfoList_DynamicTTI* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CommonDynamicTF_InfoList_DynamicTTI, pvalue);
+}
+
+RT_MERGED_BODY int enc_CommonTransChTFS_tti(rtxContext* RT_RESTRICT ctx, const CommonTransChTFS_tti* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 4);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 4) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 4) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.tti10 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tti10", -1, 0);
-         stat = asn1PE_UMTS_CommonDynamicTF_InfoList(ctx, pvalue->u.tti10);
+         if (pvalue->u.tti10 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tti10", -1, 0);
+         stat = enc_CommonDynamicTF_InfoList(ctx, pvalue->u.tti10, cur);
          RT_CHECK(ctx, stat, 0, "tti10", -1, 0);
          break;
       case 2:
-         if (pvalue->u.tti20 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tti20", -1, 0);
-         stat = asn1PE_UMTS_CommonDynamicTF_InfoList(ctx, pvalue->u.tti20);
+         if (pvalue->u.tti20 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tti20", -1, 0);
+         stat = enc_CommonDynamicTF_InfoList(ctx, pvalue->u.tti20, cur);
          RT_CHECK(ctx, stat, 0, "tti20", -1, 0);
          break;
       case 3:
-         if (pvalue->u.tti40 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tti40", -1, 0);
-         stat = asn1PE_UMTS_CommonDynamicTF_InfoList(ctx, pvalue->u.tti40);
+         if (pvalue->u.tti40 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tti40", -1, 0);
+         stat = enc_CommonDynamicTF_InfoList(ctx, pvalue->u.tti40, cur);
          RT_CHECK(ctx, stat, 0, "tti40", -1, 0);
          break;
       case 4:
-         if (pvalue->u.tti80 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tti80", -1, 0);
-         stat = asn1PE_UMTS_CommonDynamicTF_InfoList(ctx, pvalue->u.tti80);
+         if (pvalue->u.tti80 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tti80", -1, 0);
+         stat = enc_CommonDynamicTF_InfoList(ctx, pvalue->u.tti80, cur);
          RT_CHECK(ctx, stat, 0, "tti80", -1, 0);
          break;
       case 5:
-         if (pvalue->u.dynamic == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dynamic", -1, 0);
-         stat = asn1PE_UMTS_CommonDynamicTF_InfoList_DynamicTTI(ctx, pvalue->u.dynamic);
+         if (pvalue->u.dynamic == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dynamic", -1, 0);
+         stat = enc_CommonDynamicTF_InfoList_DynamicTTI(ctx, pvalue->u.dynamic, cur);
          RT_CHECK(ctx, stat, 0, "dynamic", -1, 0);
          break;
       default:
@@ -7150,35 +9224,45 @@ int asn1PE_UMTS_CommonTransChTFS_tti(rtxContext* RT_RESTRICT ctx, const CommonTr
    return 0;
 }
 
-int asn1PE_UMTS_CommonTransChTFS(rtxContext* RT_RESTRICT ctx, const CommonTransChTFS* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CommonTransChTFS_tti(rtxContext* RT_RESTRICT ctx, const CommonTransChTFS_tti* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CommonTransChTFS_tti, pvalue);
+}
+
+RT_MERGED_BODY int enc_CommonTransChTFS(rtxContext* RT_RESTRICT ctx, const CommonTransChTFS* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CommonTransChTFS");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CommonTransChTFS");
    /* tti */
-   stat = asn1PE_UMTS_CommonTransChTFS_tti(ctx, &pvalue->tti);
+   stat = enc_CommonTransChTFS_tti(ctx, &pvalue->tti, cur);
    RT_CHECK(ctx, stat, 0, "tti", -1, "CommonTransChTFS");
    /* semistaticTF-Information */
-   stat = asn1PE_UMTS_SemistaticTF_Information(ctx, &pvalue->semistaticTF_Information);
+   stat = enc_SemistaticTF_Information(ctx, &pvalue->semistaticTF_Information, cur);
    RT_CHECK(ctx, stat, 0, "semistaticTF-Information", -1, "CommonTransChTFS");
    return 0;
 }
 
-int asn1PE_UMTS_TransportFormatSet(rtxContext* RT_RESTRICT ctx, const TransportFormatSet* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CommonTransChTFS(rtxContext* RT_RESTRICT ctx, const CommonTransChTFS* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CommonTransChTFS, pvalue);
+}
+
+static int enc_TransportFormatSet(rtxContext* RT_RESTRICT ctx, const TransportFormatSet* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TransportFormatSet");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "TransportFormatSet");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TransportFormatSet");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TransportFormatSet");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "TransportFormatSet");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "TransportFormatSet");
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.dedicatedTransChTFS == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dedicatedTransChTFS", -1, "TransportFormatSet");
-         stat = asn1PE_UMTS_DedicatedTransChTFS(ctx, pvalue->u.dedicatedTransChTFS);
+         if (pvalue->u.dedicatedTransChTFS == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dedicatedTransChTFS", -1, "TransportFormatSet");
+         stat = enc_DedicatedTransChTFS(ctx, pvalue->u.dedicatedTransChTFS, cur);
          RT_CHECK(ctx, stat, 0, "dedicatedTransChTFS", -1, "TransportFormatSet");
          break;
       case 2:
-         if (pvalue->u.commonTransChTFS == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "commonTransChTFS", -1, "TransportFormatSet");
-         stat = asn1PE_UMTS_CommonTransChTFS(ctx, pvalue->u.commonTransChTFS);
+         if (pvalue->u.commonTransChTFS == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "commonTransChTFS", -1, "TransportFormatSet");
+         stat = enc_CommonTransChTFS(ctx, pvalue->u.commonTransChTFS, cur);
          RT_CHECK(ctx, stat, 0, "commonTransChTFS", -1, "TransportFormatSet");
          break;
       default:
@@ -7187,1831 +9271,126 @@ int asn1PE_UMTS_TransportFormatSet(rtxContext* RT_RESTRICT ctx, const TransportF
    return 0;
 }
 
-int asn1PE_UMTS_GainFactor(rtxContext* RT_RESTRICT ctx, GainFactor value)
+int asn1PE_UMTS_TransportFormatSet(rtxContext* RT_RESTRICT ctx, const TransportFormatSet* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TransportFormatSet, pvalue);
+}
+
+RT_MERGED_BODY int enc_GainFactor(rtxContext* RT_RESTRICT ctx, GainFactor value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)value > 15u) {
       rtxErrAddStrParm(ctx, "GainFactor");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "GainFactor");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "GainFactor");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GainFactor");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "GainFactor");
+   return 0;
+}
+
+int asn1PE_UMTS_GainFactor(rtxContext* RT_RESTRICT ctx, GainFactor value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GainFactor, value);
+}
+
+RT_MERGED_BODY int enc_SignalledGainFactors_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SignalledGainFactors_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* gainFactorBetaC */
+   if ((uint64_t)pvalue->gainFactorBetaC > 15u) {
+      rtxErrAddStrParm(ctx, "GainFactor");
+      rtxErrAddUIntParm(ctx, pvalue->gainFactorBetaC);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "GainFactor", "gainFactorBetaC", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->gainFactorBetaC, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "GainFactor", "gainFactorBetaC", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_SignalledGainFactors_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SignalledGainFactors_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SignalledGainFactors_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_SignalledGainFactors_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SignalledGainFactors_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* gainFactorBetaC */
-   if ((uint64_t)pvalue->gainFactorBetaC > 15u) {
-      rtxErrAddStrParm(ctx, "GainFactor");
-      rtxErrAddUIntParm(ctx, pvalue->gainFactorBetaC);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "GainFactor", "gainFactorBetaC", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_SignalledGainFactors_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
    }
-   stat = pe_ConsUInt64(ctx, pvalue->gainFactorBetaC, 0, 15);
-   RT_CHECK(ctx, stat, "GainFactor", "gainFactorBetaC", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_SignalledGainFactors_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SignalledGainFactors_modeSpecificInfo* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_SignalledGainFactors_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_SignalledGainFactors_modeSpecificInfo, pvalue);
 }
 
-int asn1PE_UMTS_ReferenceTFC_ID(rtxContext* RT_RESTRICT ctx, ReferenceTFC_ID value)
+RT_MERGED_BODY int enc_ReferenceTFC_ID(rtxContext* RT_RESTRICT ctx, ReferenceTFC_ID value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)value > 3u) {
       rtxErrAddStrParm(ctx, "ReferenceTFC-ID");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "ReferenceTFC-ID");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "ReferenceTFC-ID");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ReferenceTFC-ID");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ReferenceTFC-ID");
    return 0;
 }
 
-int asn1PE_UMTS_SignalledGainFactors(rtxContext* RT_RESTRICT ctx, const SignalledGainFactors* RT_RESTRICT pvalue)
+int asn1PE_UMTS_ReferenceTFC_ID(rtxContext* RT_RESTRICT ctx, ReferenceTFC_ID value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ReferenceTFC_ID, value);
+}
+
+RT_MERGED_BODY int enc_SignalledGainFactors(rtxContext* RT_RESTRICT ctx, const SignalledGainFactors* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SignalledGainFactors");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SignalledGainFactors");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SignalledGainFactors");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SignalledGainFactors");
    /* modeSpecificInfo */
-   stat = asn1PE_UMTS_SignalledGainFactors_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   stat = enc_SignalledGainFactors_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
    RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SignalledGainFactors");
    /* gainFactorBetaD */
    if ((uint64_t)pvalue->gainFactorBetaD > 15u) {
       rtxErrAddStrParm(ctx, "GainFactor");
       rtxErrAddUIntParm(ctx, pvalue->gainFactorBetaD);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "GainFactor", "gainFactorBetaD", -1, "SignalledGainFactors");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "GainFactor", "gainFactorBetaD", -1, "SignalledGainFactors");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->gainFactorBetaD, 0, 15);
-   RT_CHECK(ctx, stat, "GainFactor", "gainFactorBetaD", -1, "SignalledGainFactors");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->gainFactorBetaD, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "GainFactor", "gainFactorBetaD", -1, "SignalledGainFactors");
    /* referenceTFC-ID */
    if (pvalue->m & 0x1u) {
       if ((uint64_t)pvalue->referenceTFC_ID > 3u) {
          rtxErrAddStrParm(ctx, "ReferenceTFC-ID");
          rtxErrAddUIntParm(ctx, pvalue->referenceTFC_ID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "ReferenceTFC-ID", "referenceTFC-ID", -1, "SignalledGainFactors");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ReferenceTFC-ID", "referenceTFC-ID", -1, "SignalledGainFactors");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->referenceTFC_ID, 0, 3);
-      RT_CHECK(ctx, stat, "ReferenceTFC-ID", "referenceTFC-ID", -1, "SignalledGainFactors");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->referenceTFC_ID, 0, 3);
+      RT_CHECK_PUT(ctx, cur, stat, "ReferenceTFC-ID", "referenceTFC-ID", -1, "SignalledGainFactors");
    }
    return 0;
 }
 
-int asn1PE_UMTS_GainFactorInformation(rtxContext* RT_RESTRICT ctx, const GainFactorInformation* RT_RESTRICT pvalue)
+int asn1PE_UMTS_SignalledGainFactors(rtxContext* RT_RESTRICT ctx, const SignalledGainFactors* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GainFactorInformation");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "GainFactorInformation");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "GainFactorInformation");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.signalledGainFactors == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "signalledGainFactors", -1, "GainFactorInformation");
-         stat = asn1PE_UMTS_SignalledGainFactors(ctx, pvalue->u.signalledGainFactors);
-         RT_CHECK(ctx, stat, 0, "signalledGainFactors", -1, "GainFactorInformation");
-         break;
-      case 2:
-         if ((uint64_t)pvalue->u.computedGainFactors > 3u) {
-            rtxErrAddStrParm(ctx, "ReferenceTFC-ID");
-            rtxErrAddUIntParm(ctx, pvalue->u.computedGainFactors);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "ReferenceTFC-ID", "computedGainFactors", -1, "GainFactorInformation");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.computedGainFactors, 0, 3);
-         RT_CHECK(ctx, stat, "ReferenceTFC-ID", "computedGainFactors", -1, "GainFactorInformation");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PowerOffsetPp_m(rtxContext* RT_RESTRICT ctx, PowerOffsetPp_m value)
-{
-   int stat = 0;
-   if (value < -5 || value > 10) {
-      rtxErrAddStrParm(ctx, "PowerOffsetPp-m");
-      rtxErrAddIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PowerOffsetPp-m");
-   }
-   stat = pe_ConsInt64(ctx, value, -5, 10);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PowerOffsetPp-m");
-   return 0;
-}
-
-int asn1PE_UMTS_PowerOffsetInformation(rtxContext* RT_RESTRICT ctx, const PowerOffsetInformation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PowerOffsetInformation");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PowerOffsetInformation");
-   /* gainFactorInformation */
-   stat = asn1PE_UMTS_GainFactorInformation(ctx, &pvalue->gainFactorInformation);
-   RT_CHECK(ctx, stat, 0, "gainFactorInformation", -1, "PowerOffsetInformation");
-   /* powerOffsetPp-m */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->powerOffsetPp_m < -5 || pvalue->powerOffsetPp_m > 10) {
-         rtxErrAddStrParm(ctx, "PowerOffsetPp-m");
-         rtxErrAddIntParm(ctx, pvalue->powerOffsetPp_m);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "PowerOffsetPp-m", "powerOffsetPp-m", -1, "PowerOffsetInformation");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->powerOffsetPp_m, -5, 10);
-      RT_CHECK(ctx, stat, "PowerOffsetPp-m", "powerOffsetPp-m", -1, "PowerOffsetInformation");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc2Bit_element(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc2Bit_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ctfc2 */
-   if ((uint64_t)pvalue->ctfc2 > 3u) {
-      rtxErrAddStrParm(ctx, "ctfc2");
-      rtxErrAddUIntParm(ctx, pvalue->ctfc2);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ctfc2", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ctfc2, 0, 3);
-   RT_CHECK(ctx, stat, 0, "ctfc2", -1, 0);
-   /* powerOffsetInformation */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation);
-      RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc2Bit(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc2Bit* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 1024);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
-      stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc2Bit_element(ctx, (const TFCS_ReconfAdd_ctfcSize_ctfc2Bit_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc4Bit_element(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc4Bit_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ctfc4 */
-   if ((uint64_t)pvalue->ctfc4 > 15u) {
-      rtxErrAddStrParm(ctx, "ctfc4");
-      rtxErrAddUIntParm(ctx, pvalue->ctfc4);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ctfc4", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ctfc4, 0, 15);
-   RT_CHECK(ctx, stat, 0, "ctfc4", -1, 0);
-   /* powerOffsetInformation */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation);
-      RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc4Bit(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc4Bit* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 1024);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
-      stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc4Bit_element(ctx, (const TFCS_ReconfAdd_ctfcSize_ctfc4Bit_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc6Bit_element(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc6Bit_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ctfc6 */
-   if ((uint64_t)pvalue->ctfc6 > 63u) {
-      rtxErrAddStrParm(ctx, "ctfc6");
-      rtxErrAddUIntParm(ctx, pvalue->ctfc6);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ctfc6", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ctfc6, 0, 63);
-   RT_CHECK(ctx, stat, 0, "ctfc6", -1, 0);
-   /* powerOffsetInformation */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation);
-      RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc6Bit(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc6Bit* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 1024);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
-      stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc6Bit_element(ctx, (const TFCS_ReconfAdd_ctfcSize_ctfc6Bit_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc8Bit_element(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc8Bit_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ctfc8 */
-   stat = pe_ConsUInt64(ctx, pvalue->ctfc8, 0, 255);
-   RT_CHECK(ctx, stat, 0, "ctfc8", -1, 0);
-   /* powerOffsetInformation */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation);
-      RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc8Bit(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc8Bit* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 1024);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
-      stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc8Bit_element(ctx, (const TFCS_ReconfAdd_ctfcSize_ctfc8Bit_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ctfc12 */
-   if ((uint64_t)pvalue->ctfc12 > 4095u) {
-      rtxErrAddStrParm(ctx, "ctfc12");
-      rtxErrAddUIntParm(ctx, pvalue->ctfc12);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ctfc12", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ctfc12, 0, 4095);
-   RT_CHECK(ctx, stat, 0, "ctfc12", -1, 0);
-   /* powerOffsetInformation */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation);
-      RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc12Bit(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc12Bit* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 1024);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
-      stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element(ctx, (const TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ctfc16 */
-   stat = pe_ConsUInt64(ctx, pvalue->ctfc16, 0, 65535);
-   RT_CHECK(ctx, stat, 0, "ctfc16", -1, 0);
-   /* powerOffsetInformation */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation);
-      RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc16Bit(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc16Bit* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 1024);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
-      stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element(ctx, (const TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ctfc24 */
-   if ((uint64_t)pvalue->ctfc24 > 16777215u) {
-      rtxErrAddStrParm(ctx, "ctfc24");
-      rtxErrAddUIntParm(ctx, pvalue->ctfc24);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ctfc24", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ctfc24, 0, 16777215);
-   RT_CHECK(ctx, stat, 0, "ctfc24", -1, 0);
-   /* powerOffsetInformation */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation);
-      RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc24Bit(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc24Bit* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 1024);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
-      stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element(ctx, (const TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 6) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.ctfc2Bit == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ctfc2Bit", -1, 0);
-         stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc2Bit(ctx, pvalue->u.ctfc2Bit);
-         RT_CHECK(ctx, stat, 0, "ctfc2Bit", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.ctfc4Bit == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ctfc4Bit", -1, 0);
-         stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc4Bit(ctx, pvalue->u.ctfc4Bit);
-         RT_CHECK(ctx, stat, 0, "ctfc4Bit", -1, 0);
-         break;
-      case 3:
-         if (pvalue->u.ctfc6Bit == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ctfc6Bit", -1, 0);
-         stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc6Bit(ctx, pvalue->u.ctfc6Bit);
-         RT_CHECK(ctx, stat, 0, "ctfc6Bit", -1, 0);
-         break;
-      case 4:
-         if (pvalue->u.ctfc8Bit == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ctfc8Bit", -1, 0);
-         stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc8Bit(ctx, pvalue->u.ctfc8Bit);
-         RT_CHECK(ctx, stat, 0, "ctfc8Bit", -1, 0);
-         break;
-      case 5:
-         if (pvalue->u.ctfc12Bit == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ctfc12Bit", -1, 0);
-         stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc12Bit(ctx, pvalue->u.ctfc12Bit);
-         RT_CHECK(ctx, stat, 0, "ctfc12Bit", -1, 0);
-         break;
-      case 6:
-         if (pvalue->u.ctfc16Bit == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ctfc16Bit", -1, 0);
-         stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc16Bit(ctx, pvalue->u.ctfc16Bit);
-         RT_CHECK(ctx, stat, 0, "ctfc16Bit", -1, 0);
-         break;
-      case 7:
-         if (pvalue->u.ctfc24Bit == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ctfc24Bit", -1, 0);
-         stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc24Bit(ctx, pvalue->u.ctfc24Bit);
-         RT_CHECK(ctx, stat, 0, "ctfc24Bit", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS_ReconfAdd(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TFCS-ReconfAdd");
-   /* ctfcSize */
-   stat = asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize(ctx, &pvalue->ctfcSize);
-   RT_CHECK(ctx, stat, 0, "ctfcSize", -1, "TFCS-ReconfAdd");
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS_Removal(rtxContext* RT_RESTRICT ctx, const TFCS_Removal* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TFCS-Removal");
-   /* tfci */
-   if ((uint64_t)pvalue->tfci > 1023u) {
-      rtxErrAddStrParm(ctx, "tfci");
-      rtxErrAddUIntParm(ctx, pvalue->tfci);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "tfci", -1, "TFCS-Removal");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tfci, 0, 1023);
-   RT_CHECK(ctx, stat, 0, "tfci", -1, "TFCS-Removal");
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS_RemovalList(rtxContext* RT_RESTRICT ctx, const TFCS_RemovalList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TFCS-RemovalList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 1024);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "TFCS-RemovalList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "TFCS-Removal", (int32_t)i, "TFCS-RemovalList");
-      stat = asn1PE_UMTS_TFCS_Removal(ctx, (const TFCS_Removal*)node->data);
-      RT_CHECK(ctx, stat, 0, "TFCS-Removal", (int32_t)i, "TFCS-RemovalList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ExplicitTFCS_Configuration_replacement(rtxContext* RT_RESTRICT ctx, const ExplicitTFCS_Configuration_replacement* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* tfcsRemoval */
-   stat = asn1PE_UMTS_TFCS_RemovalList(ctx, &pvalue->tfcsRemoval);
-   RT_CHECK(ctx, stat, 0, "tfcsRemoval", -1, 0);
-   /* tfcsAdd */
-   stat = asn1PE_UMTS_TFCS_ReconfAdd(ctx, &pvalue->tfcsAdd);
-   RT_CHECK(ctx, stat, 0, "tfcsAdd", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_ExplicitTFCS_Configuration(rtxContext* RT_RESTRICT ctx, const ExplicitTFCS_Configuration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ExplicitTFCS-Configuration");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat, 0, "t", -1, "ExplicitTFCS-Configuration");
-   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ExplicitTFCS-Configuration");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.complete == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "complete", -1, "ExplicitTFCS-Configuration");
-         stat = asn1PE_UMTS_TFCS_ReconfAdd(ctx, pvalue->u.complete);
-         RT_CHECK(ctx, stat, 0, "complete", -1, "ExplicitTFCS-Configuration");
-         break;
-      case 2:
-         if (pvalue->u.addition == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "addition", -1, "ExplicitTFCS-Configuration");
-         stat = asn1PE_UMTS_TFCS_ReconfAdd(ctx, pvalue->u.addition);
-         RT_CHECK(ctx, stat, 0, "addition", -1, "ExplicitTFCS-Configuration");
-         break;
-      case 3:
-         if (pvalue->u.removal == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "removal", -1, "ExplicitTFCS-Configuration");
-         stat = asn1PE_UMTS_TFCS_RemovalList(ctx, pvalue->u.removal);
-         RT_CHECK(ctx, stat, 0, "removal", -1, "ExplicitTFCS-Configuration");
-         break;
-      case 4:
-         if (pvalue->u.replacement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "replacement", -1, "ExplicitTFCS-Configuration");
-         stat = asn1PE_UMTS_ExplicitTFCS_Configuration_replacement(ctx, pvalue->u.replacement);
-         RT_CHECK(ctx, stat, 0, "replacement", -1, "ExplicitTFCS-Configuration");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SplitType(rtxContext* RT_RESTRICT ctx, SplitType value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SplitType");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SplitType");
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS_InfoForDSCH(rtxContext* RT_RESTRICT ctx, const TFCS_InfoForDSCH* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TFCS-InfoForDSCH");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
-   RT_CHECK(ctx, stat, 0, "t", -1, "TFCS-InfoForDSCH");
-   if (pvalue->t - 1 > 6) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TFCS-InfoForDSCH");
-   switch (pvalue->t) {
-      case 1:
-         if ((uint64_t)pvalue->u.ctfc2bit > 3u) {
-            rtxErrAddStrParm(ctx, "ctfc2bit");
-            rtxErrAddUIntParm(ctx, pvalue->u.ctfc2bit);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ctfc2bit", -1, "TFCS-InfoForDSCH");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.ctfc2bit, 0, 3);
-         RT_CHECK(ctx, stat, 0, "ctfc2bit", -1, "TFCS-InfoForDSCH");
-         break;
-      case 2:
-         if ((uint64_t)pvalue->u.ctfc4bit > 15u) {
-            rtxErrAddStrParm(ctx, "ctfc4bit");
-            rtxErrAddUIntParm(ctx, pvalue->u.ctfc4bit);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ctfc4bit", -1, "TFCS-InfoForDSCH");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.ctfc4bit, 0, 15);
-         RT_CHECK(ctx, stat, 0, "ctfc4bit", -1, "TFCS-InfoForDSCH");
-         break;
-      case 3:
-         if ((uint64_t)pvalue->u.ctfc6bit > 63u) {
-            rtxErrAddStrParm(ctx, "ctfc6bit");
-            rtxErrAddUIntParm(ctx, pvalue->u.ctfc6bit);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ctfc6bit", -1, "TFCS-InfoForDSCH");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.ctfc6bit, 0, 63);
-         RT_CHECK(ctx, stat, 0, "ctfc6bit", -1, "TFCS-InfoForDSCH");
-         break;
-      case 4:
-         stat = pe_ConsUInt64(ctx, pvalue->u.ctfc8bit, 0, 255);
-         RT_CHECK(ctx, stat, 0, "ctfc8bit", -1, "TFCS-InfoForDSCH");
-         break;
-      case 5:
-         if ((uint64_t)pvalue->u.ctfc12bit > 4095u) {
-            rtxErrAddStrParm(ctx, "ctfc12bit");
-            rtxErrAddUIntParm(ctx, pvalue->u.ctfc12bit);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ctfc12bit", -1, "TFCS-InfoForDSCH");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.ctfc12bit, 0, 4095);
-         RT_CHECK(ctx, stat, 0, "ctfc12bit", -1, "TFCS-InfoForDSCH");
-         break;
-      case 6:
-         stat = pe_ConsUInt64(ctx, pvalue->u.ctfc16bit, 0, 65535);
-         RT_CHECK(ctx, stat, 0, "ctfc16bit", -1, "TFCS-InfoForDSCH");
-         break;
-      case 7:
-         if ((uint64_t)pvalue->u.ctfc24bit > 16777215u) {
-            rtxErrAddStrParm(ctx, "ctfc24bit");
-            rtxErrAddUIntParm(ctx, pvalue->u.ctfc24bit);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ctfc24bit", -1, "TFCS-InfoForDSCH");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.ctfc24bit, 0, 16777215);
-         RT_CHECK(ctx, stat, 0, "ctfc24bit", -1, "TFCS-InfoForDSCH");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TFCI_Range(rtxContext* RT_RESTRICT ctx, const TFCI_Range* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TFCI-Range");
-   /* maxTFCIField2Value */
-   if ((uint64_t)(pvalue->maxTFCIField2Value - 1) > 1022u) {
-      rtxErrAddStrParm(ctx, "maxTFCIField2Value");
-      rtxErrAddUIntParm(ctx, pvalue->maxTFCIField2Value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "maxTFCIField2Value", -1, "TFCI-Range");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxTFCIField2Value, 1, 1023);
-   RT_CHECK(ctx, stat, 0, "maxTFCIField2Value", -1, "TFCI-Range");
-   /* tfcs-InfoForDSCH */
-   stat = asn1PE_UMTS_TFCS_InfoForDSCH(ctx, &pvalue->tfcs_InfoForDSCH);
-   RT_CHECK(ctx, stat, 0, "tfcs-InfoForDSCH", -1, "TFCI-Range");
-   return 0;
-}
-
-int asn1PE_UMTS_TFCI_RangeList(rtxContext* RT_RESTRICT ctx, const TFCI_RangeList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TFCI-RangeList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 256);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "TFCI-RangeList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "TFCI-Range", (int32_t)i, "TFCI-RangeList");
-      stat = asn1PE_UMTS_TFCI_Range(ctx, (const TFCI_Range*)node->data);
-      RT_CHECK(ctx, stat, 0, "TFCI-Range", (int32_t)i, "TFCI-RangeList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TFCI_Field2_Information(rtxContext* RT_RESTRICT ctx, const TFCI_Field2_Information* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TFCI-Field2-Information");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "TFCI-Field2-Information");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TFCI-Field2-Information");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tfci_Range == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tfci-Range", -1, "TFCI-Field2-Information");
-         stat = asn1PE_UMTS_TFCI_RangeList(ctx, pvalue->u.tfci_Range);
-         RT_CHECK(ctx, stat, 0, "tfci-Range", -1, "TFCI-Field2-Information");
-         break;
-      case 2:
-         if (pvalue->u.explicit_config == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "explicit-config", -1, "TFCI-Field2-Information");
-         stat = asn1PE_UMTS_ExplicitTFCS_Configuration(ctx, pvalue->u.explicit_config);
-         RT_CHECK(ctx, stat, 0, "explicit-config", -1, "TFCI-Field2-Information");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SplitTFCI_Signalling(rtxContext* RT_RESTRICT ctx, const SplitTFCI_Signalling* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SplitTFCI-Signalling");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SplitTFCI-Signalling");
-   /* splitType */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->splitType > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->splitType);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "SplitType", "splitType", -1, "SplitTFCI-Signalling");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->splitType, 0, 1);
-      RT_CHECK(ctx, stat, "SplitType", "splitType", -1, "SplitTFCI-Signalling");
-   }
-   /* tfci-Field2-Length */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)(pvalue->tfci_Field2_Length - 1) > 9u) {
-         rtxErrAddStrParm(ctx, "tfci-Field2-Length");
-         rtxErrAddUIntParm(ctx, pvalue->tfci_Field2_Length);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "tfci-Field2-Length", -1, "SplitTFCI-Signalling");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tfci_Field2_Length, 1, 10);
-      RT_CHECK(ctx, stat, 0, "tfci-Field2-Length", -1, "SplitTFCI-Signalling");
-   }
-   /* tfci-Field1-Information */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_ExplicitTFCS_Configuration(ctx, &pvalue->tfci_Field1_Information);
-      RT_CHECK(ctx, stat, 0, "tfci-Field1-Information", -1, "SplitTFCI-Signalling");
-   }
-   /* tfci-Field2-Information */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_TFCI_Field2_Information(ctx, &pvalue->tfci_Field2_Information);
-      RT_CHECK(ctx, stat, 0, "tfci-Field2-Information", -1, "SplitTFCI-Signalling");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TFCS(rtxContext* RT_RESTRICT ctx, const TFCS* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TFCS");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "TFCS");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TFCS");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.normalTFCI_Signalling == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "normalTFCI-Signalling", -1, "TFCS");
-         stat = asn1PE_UMTS_ExplicitTFCS_Configuration(ctx, pvalue->u.normalTFCI_Signalling);
-         RT_CHECK(ctx, stat, 0, "normalTFCI-Signalling", -1, "TFCS");
-         break;
-      case 2:
-         if (pvalue->u.dummy == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dummy", -1, "TFCS");
-         stat = asn1PE_UMTS_SplitTFCI_Signalling(ctx, pvalue->u.dummy);
-         RT_CHECK(ctx, stat, 0, "dummy", -1, "TFCS");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_SysInfo(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-SysInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-SysInfo");
-   /* pusch-Identity */
-   if ((uint64_t)(pvalue->pusch_Identity - 1) > 63u) {
-      rtxErrAddStrParm(ctx, "PUSCH-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->pusch_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PUSCH-Identity", "pusch-Identity", -1, "PUSCH-SysInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pusch_Identity, 1, 64);
-   RT_CHECK(ctx, stat, "PUSCH-Identity", "pusch-Identity", -1, "PUSCH-SysInfo");
-   /* pusch-Info */
-   stat = asn1PE_UMTS_PUSCH_Info(ctx, &pvalue->pusch_Info);
-   RT_CHECK(ctx, stat, 0, "pusch-Info", -1, "PUSCH-SysInfo");
-   /* usch-TFS */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->usch_TFS);
-      RT_CHECK(ctx, stat, 0, "usch-TFS", -1, "PUSCH-SysInfo");
-   }
-   /* usch-TFCS */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_TFCS(ctx, &pvalue->usch_TFCS);
-      RT_CHECK(ctx, stat, 0, "usch-TFCS", -1, "PUSCH-SysInfo");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DurationTimeInfo(rtxContext* RT_RESTRICT ctx, DurationTimeInfo value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 4095u) {
-      rtxErrAddStrParm(ctx, "DurationTimeInfo");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DurationTimeInfo");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 4096);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DurationTimeInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_SFN_TimeInfo(rtxContext* RT_RESTRICT ctx, const SFN_TimeInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SFN-TimeInfo");
-   /* activationTimeSFN */
-   if ((uint64_t)pvalue->activationTimeSFN > 4095u) {
-      rtxErrAddStrParm(ctx, "activationTimeSFN");
-      rtxErrAddUIntParm(ctx, pvalue->activationTimeSFN);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "activationTimeSFN", -1, "SFN-TimeInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->activationTimeSFN, 0, 4095);
-   RT_CHECK(ctx, stat, 0, "activationTimeSFN", -1, "SFN-TimeInfo");
-   /* physChDuration */
-   if ((uint64_t)(pvalue->physChDuration - 1) > 4095u) {
-      rtxErrAddStrParm(ctx, "DurationTimeInfo");
-      rtxErrAddUIntParm(ctx, pvalue->physChDuration);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "DurationTimeInfo", "physChDuration", -1, "SFN-TimeInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->physChDuration, 1, 4096);
-   RT_CHECK(ctx, stat, "DurationTimeInfo", "physChDuration", -1, "SFN-TimeInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_SysInfoList_SFN_element(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_SFN_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-SysInfo */
-   stat = asn1PE_UMTS_PUSCH_SysInfo(ctx, &pvalue->pusch_SysInfo);
-   RT_CHECK(ctx, stat, 0, "pusch-SysInfo", -1, 0);
-   /* sfn-TimeInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo);
-      RT_CHECK(ctx, stat, 0, "sfn-TimeInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_SysInfoList_SFN(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_SFN* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-SysInfoList-SFN");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PUSCH-SysInfoList-SFN");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN");
-      stat = asn1PE_UMTS_PUSCH_SysInfoList_SFN_element(ctx, (const PUSCH_SysInfoList_SFN_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_Identity(rtxContext* RT_RESTRICT ctx, PDSCH_Identity value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 63u) {
-      rtxErrAddStrParm(ctx, "PDSCH-Identity");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PDSCH-Identity");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 64);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-Identity");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_TS_ChannelisationCode(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCode value)
-{
-   int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "DL-TS-ChannelisationCode");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-TS-ChannelisationCode");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_TS_ChannelisationCodesShort_codesRepresentation_consecutive(rtxContext* RT_RESTRICT ctx, const DL_TS_ChannelisationCodesShort_codesRepresentation_consecutive* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* firstChannelisationCode */
-   if (pvalue->firstChannelisationCode > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->firstChannelisationCode);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-TS-ChannelisationCode", "firstChannelisationCode", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->firstChannelisationCode, 0, 15);
-   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode", "firstChannelisationCode", -1, 0);
-   /* lastChannelisationCode */
-   if (pvalue->lastChannelisationCode > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->lastChannelisationCode);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-TS-ChannelisationCode", "lastChannelisationCode", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->lastChannelisationCode, 0, 15);
-   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode", "lastChannelisationCode", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_TS_ChannelisationCodesShort_codesRepresentation_bitmap(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort_codesRepresentation_bitmap value)
-{
-   int stat = 0;
-   {
-      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
-      uint32_t used = (uint32_t)(last + 1);
-      value.numbits = used <= 16 ? 16 : used;
-      if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-   }
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &value, 16, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_TS_ChannelisationCodesShort_codesRepresentation(rtxContext* RT_RESTRICT ctx, const DL_TS_ChannelisationCodesShort_codesRepresentation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.consecutive == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "consecutive", -1, 0);
-         stat = asn1PE_UMTS_DL_TS_ChannelisationCodesShort_codesRepresentation_consecutive(ctx, pvalue->u.consecutive);
-         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.bitmap == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "bitmap", -1, 0);
-         stat = asn1PE_UMTS_DL_TS_ChannelisationCodesShort_codesRepresentation_bitmap(ctx, *pvalue->u.bitmap);
-         RT_CHECK(ctx, stat, 0, "bitmap", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_TS_ChannelisationCodesShort(rtxContext* RT_RESTRICT ctx, const DL_TS_ChannelisationCodesShort* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-TS-ChannelisationCodesShort");
-   /* codesRepresentation */
-   stat = asn1PE_UMTS_DL_TS_ChannelisationCodesShort_codesRepresentation(ctx, &pvalue->codesRepresentation);
-   RT_CHECK(ctx, stat, 0, "codesRepresentation", -1, "DL-TS-ChannelisationCodesShort");
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkAdditionalTimeslots_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_parameters_sameAsLast* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* timeslotNumber */
-   if ((uint64_t)pvalue->timeslotNumber > 14u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber");
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkAdditionalTimeslots_parameters_newParameters(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_parameters_newParameters* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* individualTimeslotInfo */
-   stat = asn1PE_UMTS_IndividualTimeslotInfo(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
-   /* dl-TS-ChannelisationCodesShort */
-   stat = asn1PE_UMTS_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort);
-   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkAdditionalTimeslots_parameters(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_parameters* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.sameAsLast == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sameAsLast", -1, 0);
-         stat = asn1PE_UMTS_DownlinkAdditionalTimeslots_parameters_sameAsLast(ctx, pvalue->u.sameAsLast);
-         RT_CHECK(ctx, stat, 0, "sameAsLast", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.newParameters == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "newParameters", -1, 0);
-         stat = asn1PE_UMTS_DownlinkAdditionalTimeslots_parameters_newParameters(ctx, pvalue->u.newParameters);
-         RT_CHECK(ctx, stat, 0, "newParameters", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkAdditionalTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DownlinkAdditionalTimeslots");
-   /* parameters */
-   stat = asn1PE_UMTS_DownlinkAdditionalTimeslots_parameters(ctx, &pvalue->parameters);
-   RT_CHECK(ctx, stat, 0, "parameters", -1, "DownlinkAdditionalTimeslots");
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 13);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DownlinkAdditionalTimeslots", (int32_t)i, 0);
-      stat = asn1PE_UMTS_DownlinkAdditionalTimeslots(ctx, (const DownlinkAdditionalTimeslots*)node->data);
-      RT_CHECK(ctx, stat, 0, "DownlinkAdditionalTimeslots", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if ((uint64_t)(pvalue->u.consecutive - 1) > 12u) {
-            rtxErrAddStrParm(ctx, "consecutive");
-            rtxErrAddUIntParm(ctx, pvalue->u.consecutive);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "consecutive", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.consecutive, 1, 13);
-         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.timeslotList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "timeslotList", -1, 0);
-         stat = asn1PE_UMTS_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList);
-         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkTimeslotsCodes_moreTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_moreTimeslots* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.additionalTimeslots == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "additionalTimeslots", -1, 0);
-         stat = asn1PE_UMTS_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots);
-         RT_CHECK(ctx, stat, 0, "additionalTimeslots", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkTimeslotsCodes(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DownlinkTimeslotsCodes");
-   /* firstIndividualTimeslotInfo */
-   stat = asn1PE_UMTS_IndividualTimeslotInfo(ctx, &pvalue->firstIndividualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "DownlinkTimeslotsCodes");
-   /* dl-TS-ChannelisationCodesShort */
-   stat = asn1PE_UMTS_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort);
-   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, "DownlinkTimeslotsCodes");
-   /* moreTimeslots */
-   stat = asn1PE_UMTS_DownlinkTimeslotsCodes_moreTimeslots(ctx, &pvalue->moreTimeslots);
-   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "DownlinkTimeslotsCodes");
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_Info(rtxContext* RT_RESTRICT ctx, const PDSCH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-Info");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 2) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-Info");
-   /* tfcs-ID */
-   if (pvalue->tfcs_ID != 1) {
-      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
-         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
-         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "PDSCH-Info");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PDSCH-Info");
-   }
-   /* commonTimeslotInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "PDSCH-Info");
-   }
-   /* pdsch-TimeslotsCodes */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DownlinkTimeslotsCodes(ctx, &pvalue->pdsch_TimeslotsCodes);
-      RT_CHECK(ctx, stat, 0, "pdsch-TimeslotsCodes", -1, "PDSCH-Info");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_SysInfo(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-SysInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-SysInfo");
-   /* pdsch-Identity */
-   if ((uint64_t)(pvalue->pdsch_Identity - 1) > 63u) {
-      rtxErrAddStrParm(ctx, "PDSCH-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->pdsch_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PDSCH-Identity", "pdsch-Identity", -1, "PDSCH-SysInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pdsch_Identity, 1, 64);
-   RT_CHECK(ctx, stat, "PDSCH-Identity", "pdsch-Identity", -1, "PDSCH-SysInfo");
-   /* pdsch-Info */
-   stat = asn1PE_UMTS_PDSCH_Info(ctx, &pvalue->pdsch_Info);
-   RT_CHECK(ctx, stat, 0, "pdsch-Info", -1, "PDSCH-SysInfo");
-   /* dsch-TFS */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->dsch_TFS);
-      RT_CHECK(ctx, stat, 0, "dsch-TFS", -1, "PDSCH-SysInfo");
-   }
-   /* dsch-TFCS */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_TFCS(ctx, &pvalue->dsch_TFCS);
-      RT_CHECK(ctx, stat, 0, "dsch-TFCS", -1, "PDSCH-SysInfo");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_SysInfoList_SFN_element(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList_SFN_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pdsch-SysInfo */
-   stat = asn1PE_UMTS_PDSCH_SysInfo(ctx, &pvalue->pdsch_SysInfo);
-   RT_CHECK(ctx, stat, 0, "pdsch-SysInfo", -1, 0);
-   /* sfn-TimeInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo);
-      RT_CHECK(ctx, stat, 0, "sfn-TimeInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_SysInfoList_SFN(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList_SFN* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-SysInfoList-SFN");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PDSCH-SysInfoList-SFN");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "PDSCH-SysInfoList-SFN");
-      stat = asn1PE_UMTS_PDSCH_SysInfoList_SFN_element(ctx, (const PDSCH_SysInfoList_SFN_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PDSCH-SysInfoList-SFN");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_TX_Power(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_TX_Power value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 6) > 37u) {
-      rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PrimaryCCPCH-TX-Power");
-   }
-   stat = pe_ConsUInt64(ctx, value, 6, 43);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PrimaryCCPCH-TX-Power");
-   return 0;
-}
-
-int asn1PE_UMTS_Alpha(rtxContext* RT_RESTRICT ctx, Alpha value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 8u) {
-      rtxErrAddStrParm(ctx, "Alpha");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "Alpha");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Alpha");
-   return 0;
-}
-
-int asn1PE_UMTS_ConstantValueTdd(rtxContext* RT_RESTRICT ctx, ConstantValueTdd value)
-{
-   int stat = 0;
-   if (value < -35 || value > 10) {
-      rtxErrAddStrParm(ctx, "ConstantValueTdd");
-      rtxErrAddIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "ConstantValueTdd");
-   }
-   stat = pe_ConsInt64(ctx, value, -35, 10);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ConstantValueTdd");
-   return 0;
-}
-
-int asn1PE_UMTS_OpenLoopPowerControl_TDD(rtxContext* RT_RESTRICT ctx, const OpenLoopPowerControl_TDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "OpenLoopPowerControl-TDD");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "OpenLoopPowerControl-TDD");
-   /* primaryCCPCH-TX-Power */
-   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-      rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
-      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "OpenLoopPowerControl-TDD");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "OpenLoopPowerControl-TDD");
-   /* alpha */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->alpha > 8u) {
-         rtxErrAddStrParm(ctx, "Alpha");
-         rtxErrAddUIntParm(ctx, pvalue->alpha);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Alpha", "alpha", -1, "OpenLoopPowerControl-TDD");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->alpha, 0, 8);
-      RT_CHECK(ctx, stat, "Alpha", "alpha", -1, "OpenLoopPowerControl-TDD");
-   }
-   /* prach-ConstantValue */
-   if (pvalue->prach_ConstantValue < -35 || pvalue->prach_ConstantValue > 10) {
-      rtxErrAddStrParm(ctx, "ConstantValueTdd");
-      rtxErrAddIntParm(ctx, pvalue->prach_ConstantValue);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "ConstantValueTdd", "prach-ConstantValue", -1, "OpenLoopPowerControl-TDD");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->prach_ConstantValue, -35, 10);
-   RT_CHECK(ctx, stat, "ConstantValueTdd", "prach-ConstantValue", -1, "OpenLoopPowerControl-TDD");
-   /* dpch-ConstantValue */
-   if (pvalue->dpch_ConstantValue < -35 || pvalue->dpch_ConstantValue > 10) {
-      rtxErrAddStrParm(ctx, "ConstantValueTdd");
-      rtxErrAddIntParm(ctx, pvalue->dpch_ConstantValue);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "ConstantValueTdd", "dpch-ConstantValue", -1, "OpenLoopPowerControl-TDD");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->dpch_ConstantValue, -35, 10);
-   RT_CHECK(ctx, stat, "ConstantValueTdd", "dpch-ConstantValue", -1, "OpenLoopPowerControl-TDD");
-   /* pusch-ConstantValue */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->pusch_ConstantValue < -35 || pvalue->pusch_ConstantValue > 10) {
-         rtxErrAddStrParm(ctx, "ConstantValueTdd");
-         rtxErrAddIntParm(ctx, pvalue->pusch_ConstantValue);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "ConstantValueTdd", "pusch-ConstantValue", -1, "OpenLoopPowerControl-TDD");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->pusch_ConstantValue, -35, 10);
-      RT_CHECK(ctx, stat, "ConstantValueTdd", "pusch-ConstantValue", -1, "OpenLoopPowerControl-TDD");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType5_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const SysInfoType5_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-SysInfoList-SFN */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PUSCH_SysInfoList_SFN(ctx, &pvalue->pusch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
-   }
-   /* pdsch-SysInfoList-SFN */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_PDSCH_SysInfoList_SFN(ctx, &pvalue->pdsch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
-   }
-   /* openLoopPowerControl-TDD */
-   stat = asn1PE_UMTS_OpenLoopPowerControl_TDD(ctx, &pvalue->openLoopPowerControl_TDD);
-   RT_CHECK(ctx, stat, 0, "openLoopPowerControl-TDD", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType5_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType5_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_SysInfoType5_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_SysInfoType5_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_Info_fdd(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* tx-DiversityIndicator */
-   stat = rtxEncBit(ctx, pvalue->tx_DiversityIndicator);
-   RT_CHECK(ctx, stat, 0, "tx-DiversityIndicator", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_Info_tdd_syncCase_syncCase1(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_tdd_syncCase_syncCase1* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* timeslot */
-   if ((uint64_t)pvalue->timeslot > 14u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber");
-      rtxErrAddUIntParm(ctx, pvalue->timeslot);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslot", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_TimeslotSync2(rtxContext* RT_RESTRICT ctx, TimeslotSync2 value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 6u) {
-      rtxErrAddStrParm(ctx, "TimeslotSync2");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TimeslotSync2");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimeslotSync2");
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_Info_tdd_syncCase_syncCase2(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_tdd_syncCase_syncCase2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* timeslotSync2 */
-   if ((uint64_t)pvalue->timeslotSync2 > 6u) {
-      rtxErrAddStrParm(ctx, "TimeslotSync2");
-      rtxErrAddUIntParm(ctx, pvalue->timeslotSync2);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotSync2", "timeslotSync2", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotSync2, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotSync2", "timeslotSync2", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_Info_tdd_syncCase(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_tdd_syncCase* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.syncCase1 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "syncCase1", -1, 0);
-         stat = asn1PE_UMTS_PrimaryCCPCH_Info_tdd_syncCase_syncCase1(ctx, pvalue->u.syncCase1);
-         RT_CHECK(ctx, stat, 0, "syncCase1", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.syncCase2 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "syncCase2", -1, 0);
-         stat = asn1PE_UMTS_PrimaryCCPCH_Info_tdd_syncCase_syncCase2(ctx, pvalue->u.syncCase2);
-         RT_CHECK(ctx, stat, 0, "syncCase2", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellParametersID(rtxContext* RT_RESTRICT ctx, CellParametersID value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 127u) {
-      rtxErrAddStrParm(ctx, "CellParametersID");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "CellParametersID");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 127);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellParametersID");
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_Info_tdd(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* syncCase */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PrimaryCCPCH_Info_tdd_syncCase(ctx, &pvalue->syncCase);
-      RT_CHECK(ctx, stat, 0, "syncCase", -1, 0);
-   }
-   /* cellParametersID */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->cellParametersID > 127u) {
-         rtxErrAddStrParm(ctx, "CellParametersID");
-         rtxErrAddUIntParm(ctx, pvalue->cellParametersID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "CellParametersID", "cellParametersID", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->cellParametersID, 0, 127);
-      RT_CHECK(ctx, stat, "CellParametersID", "cellParametersID", -1, 0);
-   }
-   /* sctd-Indicator */
-   stat = rtxEncBit(ctx, pvalue->sctd_Indicator);
-   RT_CHECK(ctx, stat, 0, "sctd-Indicator", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_Info(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PrimaryCCPCH-Info");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "PrimaryCCPCH-Info");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PrimaryCCPCH-Info");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, "PrimaryCCPCH-Info");
-         stat = asn1PE_UMTS_PrimaryCCPCH_Info_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, "PrimaryCCPCH-Info");
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, "PrimaryCCPCH-Info");
-         stat = asn1PE_UMTS_PrimaryCCPCH_Info_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, "PrimaryCCPCH-Info");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AvailableSignatures(rtxContext* RT_RESTRICT ctx, AvailableSignatures value)
-{
-   int stat = 0;
-   {
-      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
-      uint32_t used = (uint32_t)(last + 1);
-      value.numbits = used <= 16 ? 16 : used;
-      if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "AvailableSignatures");
-   }
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &value, 16, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AvailableSignatures");
-   return 0;
-}
-
-int asn1PE_UMTS_SF_PRACH(rtxContext* RT_RESTRICT ctx, SF_PRACH value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SF-PRACH");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SF-PRACH");
-   return 0;
-}
-
-int asn1PE_UMTS_PreambleScramblingCodeWordNumber(rtxContext* RT_RESTRICT ctx, PreambleScramblingCodeWordNumber value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 15u) {
-      rtxErrAddStrParm(ctx, "PreambleScramblingCodeWordNumber");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PreambleScramblingCodeWordNumber");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PreambleScramblingCodeWordNumber");
-   return 0;
-}
-
-int asn1PE_UMTS_AvailableSubChannelNumbers(rtxContext* RT_RESTRICT ctx, AvailableSubChannelNumbers value)
-{
-   int stat = 0;
-   {
-      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
-      uint32_t used = (uint32_t)(last + 1);
-      value.numbits = used <= 12 ? 12 : used;
-      if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "AvailableSubChannelNumbers");
-   }
-   RT_SET_SIZE(ctx, 12, 12);
-   stat = pe_BitString32(ctx, &value, 12, 12);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AvailableSubChannelNumbers");
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_RACH_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const PRACH_RACH_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* availableSignatures */
-   stat = asn1PE_UMTS_AvailableSignatures(ctx, pvalue->availableSignatures);
-   RT_CHECK(ctx, stat, 0, "availableSignatures", -1, 0);
-   /* availableSF */
-   if (pvalue->availableSF > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->availableSF);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "SF-PRACH", "availableSF", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->availableSF, 0, 3);
-   RT_CHECK(ctx, stat, "SF-PRACH", "availableSF", -1, 0);
-   /* preambleScramblingCodeWordNumber */
-   if ((uint64_t)pvalue->preambleScramblingCodeWordNumber > 15u) {
-      rtxErrAddStrParm(ctx, "PreambleScramblingCodeWordNumber");
-      rtxErrAddUIntParm(ctx, pvalue->preambleScramblingCodeWordNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PreambleScramblingCodeWordNumber", "preambleScramblingCodeWordNumber", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->preambleScramblingCodeWordNumber, 0, 15);
-   RT_CHECK(ctx, stat, "PreambleScramblingCodeWordNumber", "preambleScramblingCodeWordNumber", -1, 0);
-   /* puncturingLimit */
-   if (pvalue->puncturingLimit > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->puncturingLimit);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PuncturingLimit", "puncturingLimit", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->puncturingLimit, 0, 15);
-   RT_CHECK(ctx, stat, "PuncturingLimit", "puncturingLimit", -1, 0);
-   /* availableSubChannelNumbers */
-   stat = asn1PE_UMTS_AvailableSubChannelNumbers(ctx, pvalue->availableSubChannelNumbers);
-   RT_CHECK(ctx, stat, 0, "availableSubChannelNumbers", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_TDD_PRACH_CCode8(rtxContext* RT_RESTRICT ctx, TDD_PRACH_CCode8 value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TDD-PRACH-CCode8");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TDD-PRACH-CCode8");
-   return 0;
-}
-
-int asn1PE_UMTS_TDD_PRACH_CCodeList_sf8(rtxContext* RT_RESTRICT ctx, const TDD_PRACH_CCodeList_sf8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (i = 0; i < pvalue->n; i++) {
-      if (pvalue->elem[i] > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "TDD-PRACH-CCode8", "TDD-PRACH-CCode8", (int32_t)i, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 7);
-      RT_CHECK(ctx, stat, "TDD-PRACH-CCode8", "TDD-PRACH-CCode8", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TDD_PRACH_CCode16(rtxContext* RT_RESTRICT ctx, TDD_PRACH_CCode16 value)
-{
-   int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TDD-PRACH-CCode16");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TDD-PRACH-CCode16");
-   return 0;
-}
-
-int asn1PE_UMTS_TDD_PRACH_CCodeList_sf16(rtxContext* RT_RESTRICT ctx, const TDD_PRACH_CCodeList_sf16* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (i = 0; i < pvalue->n; i++) {
-      if (pvalue->elem[i] > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "TDD-PRACH-CCode16", "TDD-PRACH-CCode16", (int32_t)i, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 15);
-      RT_CHECK(ctx, stat, "TDD-PRACH-CCode16", "TDD-PRACH-CCode16", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TDD_PRACH_CCodeList(rtxContext* RT_RESTRICT ctx, const TDD_PRACH_CCodeList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TDD-PRACH-CCodeList");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "TDD-PRACH-CCodeList");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TDD-PRACH-CCodeList");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.sf8 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sf8", -1, "TDD-PRACH-CCodeList");
-         stat = asn1PE_UMTS_TDD_PRACH_CCodeList_sf8(ctx, pvalue->u.sf8);
-         RT_CHECK(ctx, stat, 0, "sf8", -1, "TDD-PRACH-CCodeList");
-         break;
-      case 2:
-         if (pvalue->u.sf16 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sf16", -1, "TDD-PRACH-CCodeList");
-         stat = asn1PE_UMTS_TDD_PRACH_CCodeList_sf16(ctx, pvalue->u.sf16);
-         RT_CHECK(ctx, stat, 0, "sf16", -1, "TDD-PRACH-CCodeList");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_Midamble(rtxContext* RT_RESTRICT ctx, PRACH_Midamble value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "PRACH-Midamble");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PRACH-Midamble");
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_RACH_Info_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const PRACH_RACH_Info_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* timeslot */
-   if ((uint64_t)pvalue->timeslot > 14u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber");
-      rtxErrAddUIntParm(ctx, pvalue->timeslot);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslot", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, 0);
-   /* channelisationCodeList */
-   stat = asn1PE_UMTS_TDD_PRACH_CCodeList(ctx, &pvalue->channelisationCodeList);
-   RT_CHECK(ctx, stat, 0, "channelisationCodeList", -1, 0);
-   /* prach-Midamble */
-   if (pvalue->prach_Midamble > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->prach_Midamble);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PRACH-Midamble", "prach-Midamble", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->prach_Midamble, 0, 1);
-   RT_CHECK(ctx, stat, "PRACH-Midamble", "prach-Midamble", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_RACH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const PRACH_RACH_Info_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_PRACH_RACH_Info_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_PRACH_RACH_Info_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_RACH_Info(rtxContext* RT_RESTRICT ctx, const PRACH_RACH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-RACH-Info");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_PRACH_RACH_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "PRACH-RACH-Info");
-   return 0;
-}
-
-int asn1PE_UMTS_TransportChannelIdentity(rtxContext* RT_RESTRICT ctx, TransportChannelIdentity value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TransportChannelIdentity");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 32);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TransportChannelIdentity");
-   return 0;
-}
-
-int asn1PE_UMTS_AccessServiceClass_FDD_assignedSubChannelNumber(rtxContext* RT_RESTRICT ctx, AccessServiceClass_FDD_assignedSubChannelNumber value)
-{
-   int stat = 0;
-   {
-      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
-      uint32_t used = (uint32_t)(last + 1);
-      value.numbits = used <= 4 ? 4 : used;
-      if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-   }
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pe_BitString32(ctx, &value, 4, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_AccessServiceClass_FDD(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_FDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AccessServiceClass-FDD");
-   /* availableSignatureStartIndex */
-   if ((uint64_t)pvalue->availableSignatureStartIndex > 15u) {
-      rtxErrAddStrParm(ctx, "availableSignatureStartIndex");
-      rtxErrAddUIntParm(ctx, pvalue->availableSignatureStartIndex);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "availableSignatureStartIndex", -1, "AccessServiceClass-FDD");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->availableSignatureStartIndex, 0, 15);
-   RT_CHECK(ctx, stat, 0, "availableSignatureStartIndex", -1, "AccessServiceClass-FDD");
-   /* availableSignatureEndIndex */
-   if ((uint64_t)pvalue->availableSignatureEndIndex > 15u) {
-      rtxErrAddStrParm(ctx, "availableSignatureEndIndex");
-      rtxErrAddUIntParm(ctx, pvalue->availableSignatureEndIndex);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "availableSignatureEndIndex", -1, "AccessServiceClass-FDD");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->availableSignatureEndIndex, 0, 15);
-   RT_CHECK(ctx, stat, 0, "availableSignatureEndIndex", -1, "AccessServiceClass-FDD");
-   /* assignedSubChannelNumber */
-   stat = asn1PE_UMTS_AccessServiceClass_FDD_assignedSubChannelNumber(ctx, pvalue->assignedSubChannelNumber);
-   RT_CHECK(ctx, stat, 0, "assignedSubChannelNumber", -1, "AccessServiceClass-FDD");
-   return 0;
-}
-
-int asn1PE_UMTS_ASCSetting_FDD(rtxContext* RT_RESTRICT ctx, const ASCSetting_FDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ASCSetting-FDD");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ASCSetting-FDD");
-   /* accessServiceClass-FDD */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_AccessServiceClass_FDD(ctx, &pvalue->accessServiceClass_FDD);
-      RT_CHECK(ctx, stat, 0, "accessServiceClass-FDD", -1, "ASCSetting-FDD");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_Partitioning_fdd(rtxContext* RT_RESTRICT ctx, const PRACH_Partitioning_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ASCSetting-FDD", (int32_t)i, 0);
-      stat = asn1PE_UMTS_ASCSetting_FDD(ctx, (const ASCSetting_FDD*)node->data);
-      RT_CHECK(ctx, stat, 0, "ASCSetting-FDD", (int32_t)i, 0);
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_SignalledGainFactors, pvalue);
 }
 

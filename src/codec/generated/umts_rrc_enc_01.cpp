@@ -6,136 +6,1046 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PE_UMTS_AccessServiceClass_TDD_channelisationCodeIndices(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_channelisationCodeIndices value)
+/* The bodies of this unit. */
+RT_MERGED_BODY int enc_GainFactorInformation(rtxContext* RT_RESTRICT ctx, const GainFactorInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PowerOffsetPp_m(rtxContext* RT_RESTRICT ctx, PowerOffsetPp_m value, rtxEncCur* RT_RESTRICT cur);
+static int enc_PowerOffsetInformation(rtxContext* RT_RESTRICT ctx, const PowerOffsetInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TFCS_ReconfAdd_ctfcSize_ctfc2Bit_element(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc2Bit_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TFCS_ReconfAdd_ctfcSize_ctfc2Bit(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc2Bit* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TFCS_ReconfAdd_ctfcSize_ctfc4Bit_element(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc4Bit_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TFCS_ReconfAdd_ctfcSize_ctfc4Bit(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc4Bit* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TFCS_ReconfAdd_ctfcSize_ctfc6Bit_element(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc6Bit_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TFCS_ReconfAdd_ctfcSize_ctfc6Bit(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc6Bit* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TFCS_ReconfAdd_ctfcSize_ctfc8Bit_element(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc8Bit_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TFCS_ReconfAdd_ctfcSize_ctfc8Bit(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc8Bit* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TFCS_ReconfAdd_ctfcSize_ctfc12Bit(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc12Bit* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TFCS_ReconfAdd_ctfcSize_ctfc16Bit(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc16Bit* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TFCS_ReconfAdd_ctfcSize_ctfc24Bit(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc24Bit* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_TFCS_ReconfAdd_ctfcSize(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TFCS_ReconfAdd(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TFCS_Removal(rtxContext* RT_RESTRICT ctx, const TFCS_Removal* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TFCS_RemovalList(rtxContext* RT_RESTRICT ctx, const TFCS_RemovalList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ExplicitTFCS_Configuration_replacement(rtxContext* RT_RESTRICT ctx, const ExplicitTFCS_Configuration_replacement* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_ExplicitTFCS_Configuration(rtxContext* RT_RESTRICT ctx, const ExplicitTFCS_Configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SplitType(rtxContext* RT_RESTRICT ctx, SplitType value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TFCS_InfoForDSCH(rtxContext* RT_RESTRICT ctx, const TFCS_InfoForDSCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TFCI_Range(rtxContext* RT_RESTRICT ctx, const TFCI_Range* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TFCI_RangeList(rtxContext* RT_RESTRICT ctx, const TFCI_RangeList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TFCI_Field2_Information(rtxContext* RT_RESTRICT ctx, const TFCI_Field2_Information* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SplitTFCI_Signalling(rtxContext* RT_RESTRICT ctx, const SplitTFCI_Signalling* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_TFCS(rtxContext* RT_RESTRICT ctx, const TFCS* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PUSCH_SysInfo(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DurationTimeInfo(rtxContext* RT_RESTRICT ctx, DurationTimeInfo value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SFN_TimeInfo(rtxContext* RT_RESTRICT ctx, const SFN_TimeInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PUSCH_SysInfoList_SFN_element(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_SFN_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_PUSCH_SysInfoList_SFN(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_SFN* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDSCH_Identity(rtxContext* RT_RESTRICT ctx, PDSCH_Identity value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_TS_ChannelisationCode(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCode value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_TS_ChannelisationCodesShort_codesRepresentation_consecutive(rtxContext* RT_RESTRICT ctx, const DL_TS_ChannelisationCodesShort_codesRepresentation_consecutive* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_TS_ChannelisationCodesShort_codesRepresentation_bitmap(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort_codesRepresentation_bitmap value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_TS_ChannelisationCodesShort_codesRepresentation(rtxContext* RT_RESTRICT ctx, const DL_TS_ChannelisationCodesShort_codesRepresentation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_TS_ChannelisationCodesShort(rtxContext* RT_RESTRICT ctx, const DL_TS_ChannelisationCodesShort* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DownlinkAdditionalTimeslots_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_parameters_sameAsLast* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DownlinkAdditionalTimeslots_parameters_newParameters(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_parameters_newParameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DownlinkAdditionalTimeslots_parameters(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_parameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DownlinkAdditionalTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DownlinkTimeslotsCodes_moreTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_moreTimeslots* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DownlinkTimeslotsCodes(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_PDSCH_Info(rtxContext* RT_RESTRICT ctx, const PDSCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDSCH_SysInfo(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDSCH_SysInfoList_SFN_element(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList_SFN_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_PDSCH_SysInfoList_SFN(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList_SFN* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PrimaryCCPCH_TX_Power(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_TX_Power value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Alpha(rtxContext* RT_RESTRICT ctx, Alpha value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ConstantValueTdd(rtxContext* RT_RESTRICT ctx, ConstantValueTdd value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_OpenLoopPowerControl_TDD(rtxContext* RT_RESTRICT ctx, const OpenLoopPowerControl_TDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType5_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const SysInfoType5_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType5_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType5_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PrimaryCCPCH_Info_fdd(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PrimaryCCPCH_Info_tdd_syncCase_syncCase1(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_tdd_syncCase_syncCase1* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TimeslotSync2(rtxContext* RT_RESTRICT ctx, TimeslotSync2 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PrimaryCCPCH_Info_tdd_syncCase_syncCase2(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_tdd_syncCase_syncCase2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PrimaryCCPCH_Info_tdd_syncCase(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_tdd_syncCase* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellParametersID(rtxContext* RT_RESTRICT ctx, CellParametersID value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PrimaryCCPCH_Info_tdd(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_PrimaryCCPCH_Info(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AvailableSignatures(rtxContext* RT_RESTRICT ctx, AvailableSignatures value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SF_PRACH(rtxContext* RT_RESTRICT ctx, SF_PRACH value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PreambleScramblingCodeWordNumber(rtxContext* RT_RESTRICT ctx, PreambleScramblingCodeWordNumber value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AvailableSubChannelNumbers(rtxContext* RT_RESTRICT ctx, AvailableSubChannelNumbers value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PRACH_RACH_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const PRACH_RACH_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TDD_PRACH_CCode8(rtxContext* RT_RESTRICT ctx, TDD_PRACH_CCode8 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TDD_PRACH_CCodeList_sf8(rtxContext* RT_RESTRICT ctx, const TDD_PRACH_CCodeList_sf8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TDD_PRACH_CCode16(rtxContext* RT_RESTRICT ctx, TDD_PRACH_CCode16 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TDD_PRACH_CCodeList_sf16(rtxContext* RT_RESTRICT ctx, const TDD_PRACH_CCodeList_sf16* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TDD_PRACH_CCodeList(rtxContext* RT_RESTRICT ctx, const TDD_PRACH_CCodeList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PRACH_Midamble(rtxContext* RT_RESTRICT ctx, PRACH_Midamble value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PRACH_RACH_Info_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const PRACH_RACH_Info_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PRACH_RACH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const PRACH_RACH_Info_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PRACH_RACH_Info(rtxContext* RT_RESTRICT ctx, const PRACH_RACH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TransportChannelIdentity(rtxContext* RT_RESTRICT ctx, TransportChannelIdentity value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AccessServiceClass_FDD_assignedSubChannelNumber(rtxContext* RT_RESTRICT ctx, AccessServiceClass_FDD_assignedSubChannelNumber value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AccessServiceClass_FDD(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_FDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ASCSetting_FDD(rtxContext* RT_RESTRICT ctx, const ASCSetting_FDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PRACH_Partitioning_fdd(rtxContext* RT_RESTRICT ctx, const PRACH_Partitioning_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_channelisationCodeIndices(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_channelisationCodeIndices value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_subchannelSize_size2_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize_size2_subchannels value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_subchannelSize_size2(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_subchannelSize_size2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_subchannelSize_size4_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize_size4_subchannels value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_subchannelSize_size4(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_subchannelSize_size4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_subchannelSize_size8_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize_size8_subchannels value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_subchannelSize_size8(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_subchannelSize_size8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_subchannelSize(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_subchannelSize* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AccessServiceClass_TDD(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ASCSetting_TDD(rtxContext* RT_RESTRICT ctx, const ASCSetting_TDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PRACH_Partitioning_tdd(rtxContext* RT_RESTRICT ctx, const PRACH_Partitioning_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PRACH_Partitioning(rtxContext* RT_RESTRICT ctx, const PRACH_Partitioning* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PersistenceScalingFactor(rtxContext* RT_RESTRICT ctx, PersistenceScalingFactor value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PersistenceScalingFactorList(rtxContext* RT_RESTRICT ctx, const PersistenceScalingFactorList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AC_To_ASC_Mapping(rtxContext* RT_RESTRICT ctx, AC_To_ASC_Mapping value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AC_To_ASC_MappingTable(rtxContext* RT_RESTRICT ctx, const AC_To_ASC_MappingTable* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PrimaryCPICH_TX_Power(rtxContext* RT_RESTRICT ctx, PrimaryCPICH_TX_Power value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ConstantValue(rtxContext* RT_RESTRICT ctx, ConstantValue value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PowerRampStep(rtxContext* RT_RESTRICT ctx, PowerRampStep value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PreambleRetransMax(rtxContext* RT_RESTRICT ctx, PreambleRetransMax value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PRACH_PowerOffset(rtxContext* RT_RESTRICT ctx, const PRACH_PowerOffset* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NB01(rtxContext* RT_RESTRICT ctx, NB01 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RACH_TransmissionParameters(rtxContext* RT_RESTRICT ctx, const RACH_TransmissionParameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ChannelisationCode256(rtxContext* RT_RESTRICT ctx, ChannelisationCode256 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AICH_TransmissionTiming(rtxContext* RT_RESTRICT ctx, AICH_TransmissionTiming value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AICH_Info(rtxContext* RT_RESTRICT ctx, const AICH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PRACH_SystemInformation_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformation_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PRACH_SystemInformation_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformation_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_PRACH_SystemInformation(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PRACH_SystemInformationList(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformationList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PCPICH_UsageForChannelEst(rtxContext* RT_RESTRICT ctx, PCPICH_UsageForChannelEst value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecondaryScramblingCode(rtxContext* RT_RESTRICT ctx, SecondaryScramblingCode value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecondaryCPICH_Info(rtxContext* RT_RESTRICT ctx, const SecondaryCPICH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SF256_AndCodeNumber(rtxContext* RT_RESTRICT ctx, const SF256_AndCodeNumber* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PositionFixedOrFlexible(rtxContext* RT_RESTRICT ctx, PositionFixedOrFlexible value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TimingOffset(rtxContext* RT_RESTRICT ctx, TimingOffset value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecondaryCCPCH_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RepetitionPeriodLengthAndOffset_repetitionPeriod2(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodLengthAndOffset_repetitionPeriod2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RepetitionPeriodLengthAndOffset_repetitionPeriod4(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodLengthAndOffset_repetitionPeriod4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RepetitionPeriodLengthAndOffset_repetitionPeriod8(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodLengthAndOffset_repetitionPeriod8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RepetitionPeriodLengthAndOffset_repetitionPeriod16(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodLengthAndOffset_repetitionPeriod16* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RepetitionPeriodLengthAndOffset_repetitionPeriod32(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodLengthAndOffset_repetitionPeriod32* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RepetitionPeriodLengthAndOffset_repetitionPeriod64(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodLengthAndOffset_repetitionPeriod64* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RepetitionPeriodLengthAndOffset(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodLengthAndOffset* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_CommonTimeslotInfoSCCPCH(rtxContext* RT_RESTRICT ctx, const CommonTimeslotInfoSCCPCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SCCPCH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, SCCPCH_ChannelisationCode value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SCCPCH_ChannelisationCodeList(rtxContext* RT_RESTRICT ctx, const SCCPCH_ChannelisationCodeList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecondaryCCPCH_Info_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecondaryCCPCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_SecondaryCCPCH_Info(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_FACH_PCH_Information(rtxContext* RT_RESTRICT ctx, const FACH_PCH_Information* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_FACH_PCH_InformationList(rtxContext* RT_RESTRICT ctx, const FACH_PCH_InformationList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PI_CountPerFrame(rtxContext* RT_RESTRICT ctx, PI_CountPerFrame value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PICH_Info_fdd(rtxContext* RT_RESTRICT ctx, const PICH_Info_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TDD_PICH_CCode(rtxContext* RT_RESTRICT ctx, TDD_PICH_CCode value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RepPerLengthOffset_PICH(rtxContext* RT_RESTRICT ctx, const RepPerLengthOffset_PICH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PagingIndicatorLength(rtxContext* RT_RESTRICT ctx, PagingIndicatorLength value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_N_GAP(rtxContext* RT_RESTRICT ctx, N_GAP value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_N_PCH(rtxContext* RT_RESTRICT ctx, N_PCH value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PICH_Info_tdd(rtxContext* RT_RESTRICT ctx, const PICH_Info_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_PICH_Info(rtxContext* RT_RESTRICT ctx, const PICH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SCCPCH_SystemInformation(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_SCCPCH_SystemInformationList(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformationList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CBS_DRX_Level1Information(rtxContext* RT_RESTRICT ctx, const CBS_DRX_Level1Information* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PNBSCH_Allocation_r4_numberOfRepetitionsPerSFNPeriod(rtxContext* RT_RESTRICT ctx, PNBSCH_Allocation_r4_numberOfRepetitionsPerSFNPeriod value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PNBSCH_Allocation_r4(rtxContext* RT_RESTRICT ctx, const PNBSCH_Allocation_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaxPowerIncrease_r4(rtxContext* RT_RESTRICT ctx, MaxPowerIncrease_r4 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_OpenLoopPowerControl_IPDL_TDD_r4(rtxContext* RT_RESTRICT ctx, const OpenLoopPowerControl_IPDL_TDD_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Sync_UL_Codes_Bitmap(rtxContext* RT_RESTRICT ctx, Sync_UL_Codes_Bitmap value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SYNC_UL_Info_r4_max_SYNC_UL_Transmissions(rtxContext* RT_RESTRICT ctx, SYNC_UL_Info_r4_max_SYNC_UL_Transmissions value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SYNC_UL_Info_r4(rtxContext* RT_RESTRICT ctx, const SYNC_UL_Info_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TimeslotNumber_PRACH_LCR_r4(rtxContext* RT_RESTRICT ctx, TimeslotNumber_PRACH_LCR_r4 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TDD_PRACH_CCode_LCR_r4(rtxContext* RT_RESTRICT ctx, TDD_PRACH_CCode_LCR_r4 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PRACH_ChanCodes_LCR_r4(rtxContext* RT_RESTRICT ctx, const PRACH_ChanCodes_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_LCR_r4(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TimeslotNumber_LCR_r4(rtxContext* RT_RESTRICT ctx, TimeslotNumber_LCR_r4 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TDD_FPACH_CCode16_r4(rtxContext* RT_RESTRICT ctx, TDD_FPACH_CCode16_r4 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Wi_LCR(rtxContext* RT_RESTRICT ctx, Wi_LCR value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_FPACH_Info_r4(rtxContext* RT_RESTRICT ctx, const FPACH_Info_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PRACH_Definition_LCR_r4(rtxContext* RT_RESTRICT ctx, const PRACH_Definition_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PRACH_RACH_Info_LCR_r4_prach_DefinitionList(rtxContext* RT_RESTRICT ctx, const PRACH_RACH_Info_LCR_r4_prach_DefinitionList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PRACH_RACH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, const PRACH_RACH_Info_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CommonTransChTFS_LCR_tti(rtxContext* RT_RESTRICT ctx, const CommonTransChTFS_LCR_tti* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CommonTransChTFS_LCR(rtxContext* RT_RESTRICT ctx, const CommonTransChTFS_LCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_TransportFormatSet_LCR(rtxContext* RT_RESTRICT ctx, const TransportFormatSet_LCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_LCR_r4_availableSYNC_UlCodesIndics(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_availableSYNC_UlCodesIndics value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_LCR_r4_subchannelSize_size2_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size2_subchannels value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_LCR_r4_subchannelSize_size2(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_LCR_r4_subchannelSize_size2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_LCR_r4_subchannelSize_size4_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size4_subchannels value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_LCR_r4_subchannelSize_size4(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_LCR_r4_subchannelSize_size4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size8_subchannels value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_LCR_r4_subchannelSize_size8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_LCR_r4_subchannelSize(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_LCR_r4_subchannelSize* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_LCR_r4(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ASCSetting_TDD_LCR_r4(rtxContext* RT_RESTRICT ctx, const ASCSetting_TDD_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_PRACH_Partitioning_LCR_r4(rtxContext* RT_RESTRICT ctx, const PRACH_Partitioning_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PRACH_SystemInformation_LCR_r4(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformation_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_PRACH_SystemInformationList_LCR_r4(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformationList_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IndividualTimeslotInfo_LCR_r4_modulation(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4_modulation value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IndividualTimeslotInfo_LCR_r4_ss_TPC_Symbols(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4_ss_TPC_Symbols value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IndividualTimeslotInfo_LCR_r4(rtxContext* RT_RESTRICT ctx, const IndividualTimeslotInfo_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_consecutive(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_consecutive* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UplinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UplinkAdditionalTimeslots_LCR_r4_parameters_newParameters(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_LCR_r4_parameters_newParameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UplinkAdditionalTimeslots_LCR_r4_parameters(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_LCR_r4_parameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UplinkAdditionalTimeslots_LCR_r4(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UplinkTimeslotsCodes_LCR_r4_moreTimeslots(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r4_moreTimeslots* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UplinkTimeslotsCodes_LCR_r4(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PUSCH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, const PUSCH_Info_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_PUSCH_SysInfo_LCR_r4(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfo_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PUSCH_SysInfoList_SFN_LCR_r4_element(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_SFN_LCR_r4_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PUSCH_SysInfoList_SFN_LCR_r4(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_SFN_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DownlinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DownlinkAdditionalTimeslots_LCR_r4_parameters_newParameters(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_LCR_r4_parameters_newParameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DownlinkAdditionalTimeslots_LCR_r4_parameters(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_LCR_r4_parameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DownlinkAdditionalTimeslots_LCR_r4(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_LCR_r4_moreTimeslots* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DownlinkTimeslotsCodes_LCR_r4(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDSCH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_PDSCH_SysInfo_LCR_r4(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfo_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDSCH_SysInfoList_SFN_LCR_r4_element(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList_SFN_LCR_r4_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDSCH_SysInfoList_SFN_LCR_r4(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList_SFN_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PrimaryCCPCH_Info_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_LCR_r4_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IndividualTimeslotInfo_LCR_r4_ext_modulation(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4_ext_modulation value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IndividualTimeslotInfo_LCR_r4_ext_ss_TPC_Symbols(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4_ext_ss_TPC_Symbols value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IndividualTimeslotInfo_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const IndividualTimeslotInfo_LCR_r4_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecondaryCCPCH_Info_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_LCR_r4_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PichChannelisationCodeList_LCR_r4(rtxContext* RT_RESTRICT ctx, const PichChannelisationCodeList_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_PICH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, const PICH_Info_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SCCPCH_SystemInformation_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation_LCR_r4_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_SCCPCH_SystemInformationList_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformationList_LCR_r4_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType5_v4b0ext_IEs_tdd128SpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0ext_IEs_tdd128SpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RadioFrequencyBandFDD(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandFDD value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType5_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_USCH_TransportChannelsInfo_element(rtxContext* RT_RESTRICT ctx, const USCH_TransportChannelsInfo_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_USCH_TransportChannelsInfo(rtxContext* RT_RESTRICT ctx, const USCH_TransportChannelsInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_PUSCH_SysInfo_HCR_r5(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfo_HCR_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PUSCH_SysInfoList_SFN_HCR_r5_element(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_SFN_HCR_r5_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PUSCH_SysInfoList_SFN_HCR_r5(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_SFN_HCR_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DSCH_TransportChannelsInfo_element(rtxContext* RT_RESTRICT ctx, const DSCH_TransportChannelsInfo_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DSCH_TransportChannelsInfo(rtxContext* RT_RESTRICT ctx, const DSCH_TransportChannelsInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_PDSCH_SysInfo_HCR_r5(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfo_HCR_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDSCH_SysInfoList_SFN_HCR_r5_element(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList_SFN_HCR_r5_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDSCH_SysInfoList_SFN_HCR_r5(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList_SFN_HCR_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType5_v590ext_IEs_hcr_r5_SpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v590ext_IEs_hcr_r5_SpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType5_v590ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v590ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RadioFrequencyBandFDD2(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandFDD2 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType5_v650ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v650ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType5_v680ext_IEs_hsdpa_CellIndicator(rtxContext* RT_RESTRICT ctx, SysInfoType5_v680ext_IEs_hsdpa_CellIndicator value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType5_v680ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v680ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType5_v690ext_IEs_edch_CellIndicator(rtxContext* RT_RESTRICT ctx, SysInfoType5_v690ext_IEs_edch_CellIndicator value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_UM_RLC_LI_size(rtxContext* RT_RESTRICT ctx, DL_UM_RLC_LI_size value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TimerOSD_r6(rtxContext* RT_RESTRICT ctx, TimerOSD_r6 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_WindowSizeOSD_r6(rtxContext* RT_RESTRICT ctx, WindowSizeOSD_r6 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UM_RLC_OutOSeqDelivery_Info_r6(rtxContext* RT_RESTRICT ctx, const UM_RLC_OutOSeqDelivery_Info_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RLC_Info_MCCH_r6(rtxContext* RT_RESTRICT ctx, const RLC_Info_MCCH_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MBMS_TCTF_Presence(rtxContext* RT_RESTRICT ctx, MBMS_TCTF_Presence value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MBMS_MCCH_ConfigurationInfo_r6(rtxContext* RT_RESTRICT ctx, const MBMS_MCCH_ConfigurationInfo_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CommonTimeslotInfoMBMS(rtxContext* RT_RESTRICT ctx, const CommonTimeslotInfoMBMS* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_SecondaryCCPCHInfo_MBMS_r6(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SCCPCH_SystemInformation_MBMS_r6_fachCarryingMCCH(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation_MBMS_r6_fachCarryingMCCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MBMS_FACHCarryingMTCH_List(rtxContext* RT_RESTRICT ctx, const MBMS_FACHCarryingMTCH_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MBMS_MSCHSchedulingInfo(rtxContext* RT_RESTRICT ctx, const MBMS_MSCHSchedulingInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RLC_Info_MSCH_r6(rtxContext* RT_RESTRICT ctx, const RLC_Info_MSCH_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MBMS_MSCH_ConfigurationInfo_r6(rtxContext* RT_RESTRICT ctx, const MBMS_MSCH_ConfigurationInfo_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SCCPCH_SystemInformation_MBMS_r6_fachCarryingMSCH(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation_MBMS_r6_fachCarryingMSCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SCCPCH_SystemInformation_MBMS_r6(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation_MBMS_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_SysInfoType5_v690ext_IEs_sccpch_SystemInformation_MBMS(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v690ext_IEs_sccpch_SystemInformation_MBMS* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DynamicTFInformationCCCH(rtxContext* RT_RESTRICT ctx, const DynamicTFInformationCCCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AdditionalPRACH_TF_and_TFCS_CCCH_IEs(rtxContext* RT_RESTRICT ctx, const AdditionalPRACH_TF_and_TFCS_CCCH_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AdditionalPRACH_TF_and_TFCS_CCCH(rtxContext* RT_RESTRICT ctx, const AdditionalPRACH_TF_and_TFCS_CCCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AdditionalPRACH_TF_and_TFCS_CCCH_List(rtxContext* RT_RESTRICT ctx, const AdditionalPRACH_TF_and_TFCS_CCCH_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CBS_DRX_Level1Information_extension_r6(rtxContext* RT_RESTRICT ctx, CBS_DRX_Level1Information_extension_r6 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType5_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v690ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_LogicalChannelIdentity(rtxContext* RT_RESTRICT ctx, LogicalChannelIdentity value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MAC_ehs_QueueId(rtxContext* RT_RESTRICT ctx, MAC_ehs_QueueId value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CommonRBMappingInfo(rtxContext* RT_RESTRICT ctx, const CommonRBMappingInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_T1_ReleaseTimer(rtxContext* RT_RESTRICT ctx, T1_ReleaseTimer value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Treset_ResetTimer(rtxContext* RT_RESTRICT ctx, Treset_ResetTimer value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MAC_hs_WindowSize(rtxContext* RT_RESTRICT ctx, MAC_hs_WindowSize value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Common_MAC_ehs_ReorderingQueue(rtxContext* RT_RESTRICT ctx, const Common_MAC_ehs_ReorderingQueue* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Common_MAC_ehs_ReorderingQueueList(rtxContext* RT_RESTRICT ctx, const Common_MAC_ehs_ReorderingQueueList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Codes(rtxContext* RT_RESTRICT ctx, HS_SCCH_Codes value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_SystemInfo_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_SystemInfo_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_SystemInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_SystemInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HARQMemorySize(rtxContext* RT_RESTRICT ctx, HARQMemorySize value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HARQ_Info_memoryPartitioning_explicit_(rtxContext* RT_RESTRICT ctx, const HARQ_Info_memoryPartitioning_explicit_* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HARQ_Info_memoryPartitioning(rtxContext* RT_RESTRICT ctx, const HARQ_Info_memoryPartitioning* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HARQ_Info(rtxContext* RT_RESTRICT ctx, const HARQ_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_H_RNTI(rtxContext* RT_RESTRICT ctx, H_RNTI value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_DSCH_CommonSystemInformation_common_H_RNTI_information(rtxContext* RT_RESTRICT ctx, const HS_DSCH_CommonSystemInformation_common_H_RNTI_information* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_DSCH_CommonSystemInformation(rtxContext* RT_RESTRICT ctx, const HS_DSCH_CommonSystemInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PICH_ForHSDPASupportedPaging(rtxContext* RT_RESTRICT ctx, const PICH_ForHSDPASupportedPaging* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_DSCH_PagingSystemInformation_pich_ForHSDPASupportedPagingList(rtxContext* RT_RESTRICT ctx, const HS_DSCH_PagingSystemInformation_pich_ForHSDPASupportedPagingList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TransportBlockSizeIndex(rtxContext* RT_RESTRICT ctx, TransportBlockSizeIndex value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_DSCH_PagingSystemInformation_transportBlockSizeList(rtxContext* RT_RESTRICT ctx, const HS_DSCH_PagingSystemInformation_transportBlockSizeList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_DSCH_PagingSystemInformation(rtxContext* RT_RESTRICT ctx, const HS_DSCH_PagingSystemInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_VHCR_burstType_type1(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType_type1* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleConfigurationBurstType2_VHCR(rtxContext* RT_RESTRICT ctx, MidambleConfigurationBurstType2_VHCR value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftShort_VHCR(rtxContext* RT_RESTRICT ctx, MidambleShiftShort_VHCR value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_VHCR_burstType_type2(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType_type2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_VHCR_burstType_type3(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType_type3* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_VHCR_burstType(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_MidambleShiftAndBurstType_VHCR(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IndividualTimeslotInfo_VHCR(rtxContext* RT_RESTRICT ctx, const IndividualTimeslotInfo_VHCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_TS_ChannelisationCode_VHCR(rtxContext* RT_RESTRICT ctx, UL_TS_ChannelisationCode_VHCR value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_TS_ChannelisationCodeList_VHCR(rtxContext* RT_RESTRICT ctx, const UL_TS_ChannelisationCodeList_VHCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_consecutive(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_consecutive* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UplinkAdditionalTimeslots_VHCR_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_VHCR_parameters_sameAsLast* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UplinkAdditionalTimeslots_VHCR_parameters_newParameters(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_VHCR_parameters_newParameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UplinkAdditionalTimeslots_VHCR_parameters(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_VHCR_parameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UplinkAdditionalTimeslots_VHCR(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_VHCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UplinkTimeslotsCodes_VHCR_moreTimeslots(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_VHCR_moreTimeslots* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UplinkTimeslotsCodes_VHCR(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_VHCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_PUSCH_Info_VHCR(rtxContext* RT_RESTRICT ctx, const PUSCH_Info_VHCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PUSCH_SysInfo_VHCR(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfo_VHCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PUSCH_SysInfoList_SFN_VHCR_element(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_SFN_VHCR_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_PUSCH_SysInfoList_SFN_VHCR(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_SFN_VHCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDSCH_Info_r7_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_r7_tddOption_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_TS_ChannelisationCode_VHCR(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCode_VHCR value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_consecutive(rtxContext* RT_RESTRICT ctx, const DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_consecutive* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_bitmap(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_bitmap value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation(rtxContext* RT_RESTRICT ctx, const DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_TS_ChannelisationCodesShort_VHCR(rtxContext* RT_RESTRICT ctx, const DL_TS_ChannelisationCodesShort_VHCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DownlinkAdditionalTimeslots_VHCR_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_VHCR_parameters_sameAsLast* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DownlinkAdditionalTimeslots_VHCR_parameters_newParameters(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_VHCR_parameters_newParameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DownlinkAdditionalTimeslots_VHCR_parameters(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_VHCR_parameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DownlinkAdditionalTimeslots_VHCR(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_VHCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DownlinkTimeslotsCodes_VHCR_moreTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_VHCR_moreTimeslots* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DownlinkTimeslotsCodes_VHCR(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_VHCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDSCH_Info_r7_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_r7_tddOption_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDSCH_Info_r7_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_r7_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDSCH_Info_r7_tddOption(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_r7_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_PDSCH_Info_r7(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDSCH_SysInfo_VHCR_r7(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfo_VHCR_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_PDSCH_SysInfoList_VHCR_r7(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList_VHCR_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TDD768_PRACH_CCode32(rtxContext* RT_RESTRICT ctx, TDD768_PRACH_CCode32 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TDD768_PRACH_CCodeList_sf32(rtxContext* RT_RESTRICT ctx, const TDD768_PRACH_CCodeList_sf32* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TDD768_PRACH_CCode16(rtxContext* RT_RESTRICT ctx, TDD768_PRACH_CCode16 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TDD768_PRACH_CCodeList_sf16(rtxContext* RT_RESTRICT ctx, const TDD768_PRACH_CCodeList_sf16* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TDD768_PRACH_CCodeList(rtxContext* RT_RESTRICT ctx, const TDD768_PRACH_CCodeList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PRACH_RACH_Info_VHCR_r7(rtxContext* RT_RESTRICT ctx, const PRACH_RACH_Info_VHCR_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PRACH_Partitioning_r7_fdd(rtxContext* RT_RESTRICT ctx, const PRACH_Partitioning_r7_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_r7_channelisationCodeIndices(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_channelisationCodeIndices value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_r7_subchannelSize_size2_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size2_subchannels value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_r7_subchannelSize_size2(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_r7_subchannelSize_size2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_r7_subchannelSize_size4_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size4_subchannels value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_r7_subchannelSize_size4(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_r7_subchannelSize_size4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_r7_subchannelSize_size8_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size8_subchannels value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_r7_subchannelSize_size8(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_r7_subchannelSize_size8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_r7_subchannelSize_size16_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size16_subchannels value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_r7_subchannelSize_size16(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_r7_subchannelSize_size16* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+
+/* Bodies held by other units. */
+RT_ENCODE_EXTERN(SignalledGainFactors)
+RT_ENCODE_EXTERN(PUSCH_Info)
+RT_ENCODE_EXTERN(TransportFormatSet)
+RT_ENCODE_EXTERN(IndividualTimeslotInfo)
+RT_ENCODE_EXTERN(CommonTimeslotInfo)
+RT_ENCODE_EXTERN(SysInfoType5_modeSpecificInfo_fdd)
+RT_ENCODE_EXTERN(MidambleShiftAndBurstType)
+RT_ENCODE_EXTERN(CommonDynamicTF_InfoList)
+RT_ENCODE_EXTERN(CommonDynamicTF_InfoList_DynamicTTI)
+RT_ENCODE_EXTERN(SemistaticTF_Information)
+RT_ENCODE_EXTERN(DedicatedTransChTFS)
+RT_ENCODE_EXTERN(UL_TS_ChannelisationCodeList)
+RT_ENCODE_EXTERN(OctetModeRLC_SizeInfoType2)
+
+RT_MERGED_BODY int enc_GainFactorInformation(rtxContext* RT_RESTRICT ctx, const GainFactorInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   {
-      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
-      uint32_t used = (uint32_t)(last + 1);
-      value.numbits = used <= 8 ? 8 : used;
-      if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GainFactorInformation");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "GainFactorInformation");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "GainFactorInformation");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.signalledGainFactors == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "signalledGainFactors", -1, "GainFactorInformation");
+         stat = enc_SignalledGainFactors(ctx, pvalue->u.signalledGainFactors, cur);
+         RT_CHECK(ctx, stat, 0, "signalledGainFactors", -1, "GainFactorInformation");
+         break;
+      case 2:
+         if ((uint64_t)pvalue->u.computedGainFactors > 3u) {
+            rtxErrAddStrParm(ctx, "ReferenceTFC-ID");
+            rtxErrAddUIntParm(ctx, pvalue->u.computedGainFactors);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ReferenceTFC-ID", "computedGainFactors", -1, "GainFactorInformation");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.computedGainFactors, 0, 3);
+         RT_CHECK_PUT(ctx, cur, stat, "ReferenceTFC-ID", "computedGainFactors", -1, "GainFactorInformation");
+         break;
+      default:
+         break;
    }
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &value, 8, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize_size2_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize_size2_subchannels value)
+int asn1PE_UMTS_GainFactorInformation(rtxContext* RT_RESTRICT ctx, const GainFactorInformation* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GainFactorInformation, pvalue);
+}
+
+RT_MERGED_BODY int enc_PowerOffsetPp_m(rtxContext* RT_RESTRICT ctx, PowerOffsetPp_m value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value < -5 || value > 10) {
+      rtxErrAddStrParm(ctx, "PowerOffsetPp-m");
+      rtxErrAddIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "PowerOffsetPp-m");
+   }
+   stat = pe_ConsInt64At(ctx, cur, value, -5, 10);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PowerOffsetPp-m");
+   return 0;
+}
+
+int asn1PE_UMTS_PowerOffsetPp_m(rtxContext* RT_RESTRICT ctx, PowerOffsetPp_m value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PowerOffsetPp_m, value);
+}
+
+static int enc_PowerOffsetInformation(rtxContext* RT_RESTRICT ctx, const PowerOffsetInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PowerOffsetInformation");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PowerOffsetInformation");
+   /* gainFactorInformation */
+   stat = enc_GainFactorInformation(ctx, &pvalue->gainFactorInformation, cur);
+   RT_CHECK(ctx, stat, 0, "gainFactorInformation", -1, "PowerOffsetInformation");
+   /* powerOffsetPp-m */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->powerOffsetPp_m < -5 || pvalue->powerOffsetPp_m > 10) {
+         rtxErrAddStrParm(ctx, "PowerOffsetPp-m");
+         rtxErrAddIntParm(ctx, pvalue->powerOffsetPp_m);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PowerOffsetPp-m", "powerOffsetPp-m", -1, "PowerOffsetInformation");
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->powerOffsetPp_m, -5, 10);
+      RT_CHECK_PUT(ctx, cur, stat, "PowerOffsetPp-m", "powerOffsetPp-m", -1, "PowerOffsetInformation");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PowerOffsetInformation(rtxContext* RT_RESTRICT ctx, const PowerOffsetInformation* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PowerOffsetInformation, pvalue);
+}
+
+RT_MERGED_BODY int enc_TFCS_ReconfAdd_ctfcSize_ctfc2Bit_element(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc2Bit_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ctfc2 */
+   if ((uint64_t)pvalue->ctfc2 > 3u) {
+      rtxErrAddStrParm(ctx, "ctfc2");
+      rtxErrAddUIntParm(ctx, pvalue->ctfc2);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ctfc2", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ctfc2, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ctfc2", -1, 0);
+   /* powerOffsetInformation */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation, cur);
+      RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc2Bit_element(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc2Bit_element* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TFCS_ReconfAdd_ctfcSize_ctfc2Bit_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_TFCS_ReconfAdd_ctfcSize_ctfc2Bit(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc2Bit* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 1024);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
+      stat = enc_TFCS_ReconfAdd_ctfcSize_ctfc2Bit_element(ctx, (const TFCS_ReconfAdd_ctfcSize_ctfc2Bit_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc2Bit(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc2Bit* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TFCS_ReconfAdd_ctfcSize_ctfc2Bit, pvalue);
+}
+
+RT_MERGED_BODY int enc_TFCS_ReconfAdd_ctfcSize_ctfc4Bit_element(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc4Bit_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ctfc4 */
+   if ((uint64_t)pvalue->ctfc4 > 15u) {
+      rtxErrAddStrParm(ctx, "ctfc4");
+      rtxErrAddUIntParm(ctx, pvalue->ctfc4);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ctfc4", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ctfc4, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ctfc4", -1, 0);
+   /* powerOffsetInformation */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation, cur);
+      RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc4Bit_element(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc4Bit_element* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TFCS_ReconfAdd_ctfcSize_ctfc4Bit_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_TFCS_ReconfAdd_ctfcSize_ctfc4Bit(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc4Bit* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 1024);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
+      stat = enc_TFCS_ReconfAdd_ctfcSize_ctfc4Bit_element(ctx, (const TFCS_ReconfAdd_ctfcSize_ctfc4Bit_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc4Bit(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc4Bit* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TFCS_ReconfAdd_ctfcSize_ctfc4Bit, pvalue);
+}
+
+RT_MERGED_BODY int enc_TFCS_ReconfAdd_ctfcSize_ctfc6Bit_element(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc6Bit_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ctfc6 */
+   if ((uint64_t)pvalue->ctfc6 > 63u) {
+      rtxErrAddStrParm(ctx, "ctfc6");
+      rtxErrAddUIntParm(ctx, pvalue->ctfc6);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ctfc6", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ctfc6, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ctfc6", -1, 0);
+   /* powerOffsetInformation */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation, cur);
+      RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc6Bit_element(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc6Bit_element* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TFCS_ReconfAdd_ctfcSize_ctfc6Bit_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_TFCS_ReconfAdd_ctfcSize_ctfc6Bit(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc6Bit* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 1024);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
+      stat = enc_TFCS_ReconfAdd_ctfcSize_ctfc6Bit_element(ctx, (const TFCS_ReconfAdd_ctfcSize_ctfc6Bit_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc6Bit(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc6Bit* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TFCS_ReconfAdd_ctfcSize_ctfc6Bit, pvalue);
+}
+
+RT_MERGED_BODY int enc_TFCS_ReconfAdd_ctfcSize_ctfc8Bit_element(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc8Bit_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ctfc8 */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ctfc8, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ctfc8", -1, 0);
+   /* powerOffsetInformation */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation, cur);
+      RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc8Bit_element(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc8Bit_element* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TFCS_ReconfAdd_ctfcSize_ctfc8Bit_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_TFCS_ReconfAdd_ctfcSize_ctfc8Bit(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc8Bit* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 1024);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
+      stat = enc_TFCS_ReconfAdd_ctfcSize_ctfc8Bit_element(ctx, (const TFCS_ReconfAdd_ctfcSize_ctfc8Bit_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc8Bit(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc8Bit* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TFCS_ReconfAdd_ctfcSize_ctfc8Bit, pvalue);
+}
+
+RT_MERGED_BODY int enc_TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ctfc12 */
+   if ((uint64_t)pvalue->ctfc12 > 4095u) {
+      rtxErrAddStrParm(ctx, "ctfc12");
+      rtxErrAddUIntParm(ctx, pvalue->ctfc12);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ctfc12", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ctfc12, 0, 4095);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ctfc12", -1, 0);
+   /* powerOffsetInformation */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation, cur);
+      RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_TFCS_ReconfAdd_ctfcSize_ctfc12Bit(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc12Bit* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 1024);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
+      stat = enc_TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element(ctx, (const TFCS_ReconfAdd_ctfcSize_ctfc12Bit_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc12Bit(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc12Bit* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TFCS_ReconfAdd_ctfcSize_ctfc12Bit, pvalue);
+}
+
+RT_MERGED_BODY int enc_TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ctfc16 */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ctfc16, 0, 65535);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ctfc16", -1, 0);
+   /* powerOffsetInformation */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation, cur);
+      RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_TFCS_ReconfAdd_ctfcSize_ctfc16Bit(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc16Bit* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 1024);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
+      stat = enc_TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element(ctx, (const TFCS_ReconfAdd_ctfcSize_ctfc16Bit_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc16Bit(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc16Bit* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TFCS_ReconfAdd_ctfcSize_ctfc16Bit, pvalue);
+}
+
+RT_MERGED_BODY int enc_TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ctfc24 */
+   if ((uint64_t)pvalue->ctfc24 > 16777215u) {
+      rtxErrAddStrParm(ctx, "ctfc24");
+      rtxErrAddUIntParm(ctx, pvalue->ctfc24);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ctfc24", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ctfc24, 0, 16777215);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ctfc24", -1, 0);
+   /* powerOffsetInformation */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation, cur);
+      RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_TFCS_ReconfAdd_ctfcSize_ctfc24Bit(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc24Bit* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 1024);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
+      stat = enc_TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element(ctx, (const TFCS_ReconfAdd_ctfcSize_ctfc24Bit_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize_ctfc24Bit(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize_ctfc24Bit* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TFCS_ReconfAdd_ctfcSize_ctfc24Bit, pvalue);
+}
+
+static int enc_TFCS_ReconfAdd_ctfcSize(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 6) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.ctfc2Bit == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ctfc2Bit", -1, 0);
+         stat = enc_TFCS_ReconfAdd_ctfcSize_ctfc2Bit(ctx, pvalue->u.ctfc2Bit, cur);
+         RT_CHECK(ctx, stat, 0, "ctfc2Bit", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.ctfc4Bit == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ctfc4Bit", -1, 0);
+         stat = enc_TFCS_ReconfAdd_ctfcSize_ctfc4Bit(ctx, pvalue->u.ctfc4Bit, cur);
+         RT_CHECK(ctx, stat, 0, "ctfc4Bit", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.ctfc6Bit == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ctfc6Bit", -1, 0);
+         stat = enc_TFCS_ReconfAdd_ctfcSize_ctfc6Bit(ctx, pvalue->u.ctfc6Bit, cur);
+         RT_CHECK(ctx, stat, 0, "ctfc6Bit", -1, 0);
+         break;
+      case 4:
+         if (pvalue->u.ctfc8Bit == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ctfc8Bit", -1, 0);
+         stat = enc_TFCS_ReconfAdd_ctfcSize_ctfc8Bit(ctx, pvalue->u.ctfc8Bit, cur);
+         RT_CHECK(ctx, stat, 0, "ctfc8Bit", -1, 0);
+         break;
+      case 5:
+         if (pvalue->u.ctfc12Bit == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ctfc12Bit", -1, 0);
+         stat = enc_TFCS_ReconfAdd_ctfcSize_ctfc12Bit(ctx, pvalue->u.ctfc12Bit, cur);
+         RT_CHECK(ctx, stat, 0, "ctfc12Bit", -1, 0);
+         break;
+      case 6:
+         if (pvalue->u.ctfc16Bit == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ctfc16Bit", -1, 0);
+         stat = enc_TFCS_ReconfAdd_ctfcSize_ctfc16Bit(ctx, pvalue->u.ctfc16Bit, cur);
+         RT_CHECK(ctx, stat, 0, "ctfc16Bit", -1, 0);
+         break;
+      case 7:
+         if (pvalue->u.ctfc24Bit == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ctfc24Bit", -1, 0);
+         stat = enc_TFCS_ReconfAdd_ctfcSize_ctfc24Bit(ctx, pvalue->u.ctfc24Bit, cur);
+         RT_CHECK(ctx, stat, 0, "ctfc24Bit", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS_ReconfAdd_ctfcSize(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd_ctfcSize* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TFCS_ReconfAdd_ctfcSize, pvalue);
+}
+
+RT_MERGED_BODY int enc_TFCS_ReconfAdd(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TFCS-ReconfAdd");
+   /* ctfcSize */
+   stat = enc_TFCS_ReconfAdd_ctfcSize(ctx, &pvalue->ctfcSize, cur);
+   RT_CHECK(ctx, stat, 0, "ctfcSize", -1, "TFCS-ReconfAdd");
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS_ReconfAdd(rtxContext* RT_RESTRICT ctx, const TFCS_ReconfAdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TFCS_ReconfAdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_TFCS_Removal(rtxContext* RT_RESTRICT ctx, const TFCS_Removal* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TFCS-Removal");
+   /* tfci */
+   if ((uint64_t)pvalue->tfci > 1023u) {
+      rtxErrAddStrParm(ctx, "tfci");
+      rtxErrAddUIntParm(ctx, pvalue->tfci);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "tfci", -1, "TFCS-Removal");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tfci, 0, 1023);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tfci", -1, "TFCS-Removal");
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS_Removal(rtxContext* RT_RESTRICT ctx, const TFCS_Removal* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TFCS_Removal, pvalue);
+}
+
+RT_MERGED_BODY int enc_TFCS_RemovalList(rtxContext* RT_RESTRICT ctx, const TFCS_RemovalList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TFCS-RemovalList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 1024);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "TFCS-RemovalList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "TFCS-Removal", (int32_t)i, "TFCS-RemovalList");
+      stat = enc_TFCS_Removal(ctx, (const TFCS_Removal*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "TFCS-Removal", (int32_t)i, "TFCS-RemovalList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS_RemovalList(rtxContext* RT_RESTRICT ctx, const TFCS_RemovalList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TFCS_RemovalList, pvalue);
+}
+
+RT_MERGED_BODY int enc_ExplicitTFCS_Configuration_replacement(rtxContext* RT_RESTRICT ctx, const ExplicitTFCS_Configuration_replacement* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tfcsRemoval */
+   stat = enc_TFCS_RemovalList(ctx, &pvalue->tfcsRemoval, cur);
+   RT_CHECK(ctx, stat, 0, "tfcsRemoval", -1, 0);
+   /* tfcsAdd */
+   stat = enc_TFCS_ReconfAdd(ctx, &pvalue->tfcsAdd, cur);
+   RT_CHECK(ctx, stat, 0, "tfcsAdd", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_ExplicitTFCS_Configuration_replacement(rtxContext* RT_RESTRICT ctx, const ExplicitTFCS_Configuration_replacement* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ExplicitTFCS_Configuration_replacement, pvalue);
+}
+
+static int enc_ExplicitTFCS_Configuration(rtxContext* RT_RESTRICT ctx, const ExplicitTFCS_Configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ExplicitTFCS-Configuration");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "ExplicitTFCS-Configuration");
+   if (pvalue->t - 1 > 3) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "ExplicitTFCS-Configuration");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.complete == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "complete", -1, "ExplicitTFCS-Configuration");
+         stat = enc_TFCS_ReconfAdd(ctx, pvalue->u.complete, cur);
+         RT_CHECK(ctx, stat, 0, "complete", -1, "ExplicitTFCS-Configuration");
+         break;
+      case 2:
+         if (pvalue->u.addition == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "addition", -1, "ExplicitTFCS-Configuration");
+         stat = enc_TFCS_ReconfAdd(ctx, pvalue->u.addition, cur);
+         RT_CHECK(ctx, stat, 0, "addition", -1, "ExplicitTFCS-Configuration");
+         break;
+      case 3:
+         if (pvalue->u.removal == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "removal", -1, "ExplicitTFCS-Configuration");
+         stat = enc_TFCS_RemovalList(ctx, pvalue->u.removal, cur);
+         RT_CHECK(ctx, stat, 0, "removal", -1, "ExplicitTFCS-Configuration");
+         break;
+      case 4:
+         if (pvalue->u.replacement == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "replacement", -1, "ExplicitTFCS-Configuration");
+         stat = enc_ExplicitTFCS_Configuration_replacement(ctx, pvalue->u.replacement, cur);
+         RT_CHECK(ctx, stat, 0, "replacement", -1, "ExplicitTFCS-Configuration");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ExplicitTFCS_Configuration(rtxContext* RT_RESTRICT ctx, const ExplicitTFCS_Configuration* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ExplicitTFCS_Configuration, pvalue);
+}
+
+RT_MERGED_BODY int enc_SplitType(rtxContext* RT_RESTRICT ctx, SplitType value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "SplitType");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SplitType");
    return 0;
 }
 
-int asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize_size2(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_subchannelSize_size2* RT_RESTRICT pvalue)
+int asn1PE_UMTS_SplitType(rtxContext* RT_RESTRICT ctx, SplitType value)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* subchannels */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->subchannels > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->subchannels);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "subchannels", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->subchannels, 0, 1);
-      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_SplitType, value);
 }
 
-int asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize_size4_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize_size4_subchannels value)
+RT_MERGED_BODY int enc_TFCS_InfoForDSCH(rtxContext* RT_RESTRICT ctx, const TFCS_InfoForDSCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   {
-      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
-      uint32_t used = (uint32_t)(last + 1);
-      value.numbits = used <= 4 ? 4 : used;
-      if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-   }
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pe_BitString32(ctx, &value, 4, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize_size4(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_subchannelSize_size4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* subchannels */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize_size4_subchannels(ctx, pvalue->subchannels);
-      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize_size8_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize_size8_subchannels value)
-{
-   int stat = 0;
-   {
-      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
-      uint32_t used = (uint32_t)(last + 1);
-      value.numbits = used <= 8 ? 8 : used;
-      if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-   }
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &value, 8, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize_size8(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_subchannelSize_size8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* subchannels */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize_size8_subchannels(ctx, pvalue->subchannels);
-      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_subchannelSize* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TFCS-InfoForDSCH");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "TFCS-InfoForDSCH");
+   if (pvalue->t - 1 > 6) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "TFCS-InfoForDSCH");
    switch (pvalue->t) {
       case 1:
+         if ((uint64_t)pvalue->u.ctfc2bit > 3u) {
+            rtxErrAddStrParm(ctx, "ctfc2bit");
+            rtxErrAddUIntParm(ctx, pvalue->u.ctfc2bit);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ctfc2bit", -1, "TFCS-InfoForDSCH");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.ctfc2bit, 0, 3);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "ctfc2bit", -1, "TFCS-InfoForDSCH");
          break;
       case 2:
-         if (pvalue->u.size2 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "size2", -1, 0);
-         stat = asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize_size2(ctx, pvalue->u.size2);
-         RT_CHECK(ctx, stat, 0, "size2", -1, 0);
+         if ((uint64_t)pvalue->u.ctfc4bit > 15u) {
+            rtxErrAddStrParm(ctx, "ctfc4bit");
+            rtxErrAddUIntParm(ctx, pvalue->u.ctfc4bit);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ctfc4bit", -1, "TFCS-InfoForDSCH");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.ctfc4bit, 0, 15);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "ctfc4bit", -1, "TFCS-InfoForDSCH");
          break;
       case 3:
-         if (pvalue->u.size4 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "size4", -1, 0);
-         stat = asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize_size4(ctx, pvalue->u.size4);
-         RT_CHECK(ctx, stat, 0, "size4", -1, 0);
+         if ((uint64_t)pvalue->u.ctfc6bit > 63u) {
+            rtxErrAddStrParm(ctx, "ctfc6bit");
+            rtxErrAddUIntParm(ctx, pvalue->u.ctfc6bit);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ctfc6bit", -1, "TFCS-InfoForDSCH");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.ctfc6bit, 0, 63);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "ctfc6bit", -1, "TFCS-InfoForDSCH");
          break;
       case 4:
-         if (pvalue->u.size8 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "size8", -1, 0);
-         stat = asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize_size8(ctx, pvalue->u.size8);
-         RT_CHECK(ctx, stat, 0, "size8", -1, 0);
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.ctfc8bit, 0, 255);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "ctfc8bit", -1, "TFCS-InfoForDSCH");
+         break;
+      case 5:
+         if ((uint64_t)pvalue->u.ctfc12bit > 4095u) {
+            rtxErrAddStrParm(ctx, "ctfc12bit");
+            rtxErrAddUIntParm(ctx, pvalue->u.ctfc12bit);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ctfc12bit", -1, "TFCS-InfoForDSCH");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.ctfc12bit, 0, 4095);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "ctfc12bit", -1, "TFCS-InfoForDSCH");
+         break;
+      case 6:
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.ctfc16bit, 0, 65535);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "ctfc16bit", -1, "TFCS-InfoForDSCH");
+         break;
+      case 7:
+         if ((uint64_t)pvalue->u.ctfc24bit > 16777215u) {
+            rtxErrAddStrParm(ctx, "ctfc24bit");
+            rtxErrAddUIntParm(ctx, pvalue->u.ctfc24bit);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ctfc24bit", -1, "TFCS-InfoForDSCH");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.ctfc24bit, 0, 16777215);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "ctfc24bit", -1, "TFCS-InfoForDSCH");
          break;
       default:
          break;
@@ -143,1528 +1053,387 @@ int asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize(rtxContext* RT_RESTRICT ct
    return 0;
 }
 
-int asn1PE_UMTS_AccessServiceClass_TDD(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD* RT_RESTRICT pvalue)
+int asn1PE_UMTS_TFCS_InfoForDSCH(rtxContext* RT_RESTRICT ctx, const TFCS_InfoForDSCH* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TFCS_InfoForDSCH, pvalue);
+}
+
+RT_MERGED_BODY int enc_TFCI_Range(rtxContext* RT_RESTRICT ctx, const TFCI_Range* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AccessServiceClass-TDD");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AccessServiceClass-TDD");
-   /* channelisationCodeIndices */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_AccessServiceClass_TDD_channelisationCodeIndices(ctx, pvalue->channelisationCodeIndices);
-      RT_CHECK(ctx, stat, 0, "channelisationCodeIndices", -1, "AccessServiceClass-TDD");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TFCI-Range");
+   /* maxTFCIField2Value */
+   if ((uint64_t)(pvalue->maxTFCIField2Value - 1) > 1022u) {
+      rtxErrAddStrParm(ctx, "maxTFCIField2Value");
+      rtxErrAddUIntParm(ctx, pvalue->maxTFCIField2Value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "maxTFCIField2Value", -1, "TFCI-Range");
    }
-   /* subchannelSize */
-   stat = asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize(ctx, &pvalue->subchannelSize);
-   RT_CHECK(ctx, stat, 0, "subchannelSize", -1, "AccessServiceClass-TDD");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxTFCIField2Value, 1, 1023);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "maxTFCIField2Value", -1, "TFCI-Range");
+   /* tfcs-InfoForDSCH */
+   stat = enc_TFCS_InfoForDSCH(ctx, &pvalue->tfcs_InfoForDSCH, cur);
+   RT_CHECK(ctx, stat, 0, "tfcs-InfoForDSCH", -1, "TFCI-Range");
    return 0;
 }
 
-int asn1PE_UMTS_ASCSetting_TDD(rtxContext* RT_RESTRICT ctx, const ASCSetting_TDD* RT_RESTRICT pvalue)
+int asn1PE_UMTS_TFCI_Range(rtxContext* RT_RESTRICT ctx, const TFCI_Range* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TFCI_Range, pvalue);
+}
+
+RT_MERGED_BODY int enc_TFCI_RangeList(rtxContext* RT_RESTRICT ctx, const TFCI_RangeList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ASCSetting-TDD");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ASCSetting-TDD");
-   /* accessServiceClass-TDD */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_AccessServiceClass_TDD(ctx, &pvalue->accessServiceClass_TDD);
-      RT_CHECK(ctx, stat, 0, "accessServiceClass-TDD", -1, "ASCSetting-TDD");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TFCI-RangeList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 256);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "TFCI-RangeList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "TFCI-Range", (int32_t)i, "TFCI-RangeList");
+      stat = enc_TFCI_Range(ctx, (const TFCI_Range*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "TFCI-Range", (int32_t)i, "TFCI-RangeList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_PRACH_Partitioning_tdd(rtxContext* RT_RESTRICT ctx, const PRACH_Partitioning_tdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_TFCI_RangeList(rtxContext* RT_RESTRICT ctx, const TFCI_RangeList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TFCI_RangeList, pvalue);
+}
+
+RT_MERGED_BODY int enc_TFCI_Field2_Information(rtxContext* RT_RESTRICT ctx, const TFCI_Field2_Information* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TFCI-Field2-Information");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "TFCI-Field2-Information");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "TFCI-Field2-Information");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tfci_Range == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tfci-Range", -1, "TFCI-Field2-Information");
+         stat = enc_TFCI_RangeList(ctx, pvalue->u.tfci_Range, cur);
+         RT_CHECK(ctx, stat, 0, "tfci-Range", -1, "TFCI-Field2-Information");
+         break;
+      case 2:
+         if (pvalue->u.explicit_config == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "explicit-config", -1, "TFCI-Field2-Information");
+         stat = enc_ExplicitTFCS_Configuration(ctx, pvalue->u.explicit_config, cur);
+         RT_CHECK(ctx, stat, 0, "explicit-config", -1, "TFCI-Field2-Information");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFCI_Field2_Information(rtxContext* RT_RESTRICT ctx, const TFCI_Field2_Information* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TFCI_Field2_Information, pvalue);
+}
+
+RT_MERGED_BODY int enc_SplitTFCI_Signalling(rtxContext* RT_RESTRICT ctx, const SplitTFCI_Signalling* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SplitTFCI-Signalling");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SplitTFCI-Signalling");
+   /* splitType */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->splitType > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->splitType);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "SplitType", "splitType", -1, "SplitTFCI-Signalling");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->splitType, 0, 1);
+      RT_CHECK_PUT(ctx, cur, stat, "SplitType", "splitType", -1, "SplitTFCI-Signalling");
+   }
+   /* tfci-Field2-Length */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)(pvalue->tfci_Field2_Length - 1) > 9u) {
+         rtxErrAddStrParm(ctx, "tfci-Field2-Length");
+         rtxErrAddUIntParm(ctx, pvalue->tfci_Field2_Length);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "tfci-Field2-Length", -1, "SplitTFCI-Signalling");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tfci_Field2_Length, 1, 10);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "tfci-Field2-Length", -1, "SplitTFCI-Signalling");
+   }
+   /* tfci-Field1-Information */
+   if (pvalue->m & 0x4u) {
+      stat = enc_ExplicitTFCS_Configuration(ctx, &pvalue->tfci_Field1_Information, cur);
+      RT_CHECK(ctx, stat, 0, "tfci-Field1-Information", -1, "SplitTFCI-Signalling");
+   }
+   /* tfci-Field2-Information */
+   if (pvalue->m & 0x8u) {
+      stat = enc_TFCI_Field2_Information(ctx, &pvalue->tfci_Field2_Information, cur);
+      RT_CHECK(ctx, stat, 0, "tfci-Field2-Information", -1, "SplitTFCI-Signalling");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SplitTFCI_Signalling(rtxContext* RT_RESTRICT ctx, const SplitTFCI_Signalling* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SplitTFCI_Signalling, pvalue);
+}
+
+static int enc_TFCS(rtxContext* RT_RESTRICT ctx, const TFCS* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TFCS");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "TFCS");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "TFCS");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.normalTFCI_Signalling == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "normalTFCI-Signalling", -1, "TFCS");
+         stat = enc_ExplicitTFCS_Configuration(ctx, pvalue->u.normalTFCI_Signalling, cur);
+         RT_CHECK(ctx, stat, 0, "normalTFCI-Signalling", -1, "TFCS");
+         break;
+      case 2:
+         if (pvalue->u.dummy == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dummy", -1, "TFCS");
+         stat = enc_SplitTFCI_Signalling(ctx, pvalue->u.dummy, cur);
+         RT_CHECK(ctx, stat, 0, "dummy", -1, "TFCS");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS(rtxContext* RT_RESTRICT ctx, const TFCS* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TFCS, pvalue);
+}
+
+RT_MERGED_BODY int enc_PUSCH_SysInfo(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-SysInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PUSCH-SysInfo");
+   /* pusch-Identity */
+   if ((uint64_t)(pvalue->pusch_Identity - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "PUSCH-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->pusch_Identity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PUSCH-Identity", "pusch-Identity", -1, "PUSCH-SysInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pusch_Identity, 1, 64);
+   RT_CHECK_PUT(ctx, cur, stat, "PUSCH-Identity", "pusch-Identity", -1, "PUSCH-SysInfo");
+   /* pusch-Info */
+   stat = enc_PUSCH_Info(ctx, &pvalue->pusch_Info, cur);
+   RT_CHECK(ctx, stat, 0, "pusch-Info", -1, "PUSCH-SysInfo");
+   /* usch-TFS */
+   if (pvalue->m & 0x1u) {
+      stat = enc_TransportFormatSet(ctx, &pvalue->usch_TFS, cur);
+      RT_CHECK(ctx, stat, 0, "usch-TFS", -1, "PUSCH-SysInfo");
+   }
+   /* usch-TFCS */
+   if (pvalue->m & 0x2u) {
+      stat = enc_TFCS(ctx, &pvalue->usch_TFCS, cur);
+      RT_CHECK(ctx, stat, 0, "usch-TFCS", -1, "PUSCH-SysInfo");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCH_SysInfo(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_SysInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_DurationTimeInfo(rtxContext* RT_RESTRICT ctx, DurationTimeInfo value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 4095u) {
+      rtxErrAddStrParm(ctx, "DurationTimeInfo");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "DurationTimeInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 4096);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DurationTimeInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_DurationTimeInfo(rtxContext* RT_RESTRICT ctx, DurationTimeInfo value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DurationTimeInfo, value);
+}
+
+RT_MERGED_BODY int enc_SFN_TimeInfo(rtxContext* RT_RESTRICT ctx, const SFN_TimeInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SFN-TimeInfo");
+   /* activationTimeSFN */
+   if ((uint64_t)pvalue->activationTimeSFN > 4095u) {
+      rtxErrAddStrParm(ctx, "activationTimeSFN");
+      rtxErrAddUIntParm(ctx, pvalue->activationTimeSFN);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "activationTimeSFN", -1, "SFN-TimeInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->activationTimeSFN, 0, 4095);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "activationTimeSFN", -1, "SFN-TimeInfo");
+   /* physChDuration */
+   if ((uint64_t)(pvalue->physChDuration - 1) > 4095u) {
+      rtxErrAddStrParm(ctx, "DurationTimeInfo");
+      rtxErrAddUIntParm(ctx, pvalue->physChDuration);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DurationTimeInfo", "physChDuration", -1, "SFN-TimeInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->physChDuration, 1, 4096);
+   RT_CHECK_PUT(ctx, cur, stat, "DurationTimeInfo", "physChDuration", -1, "SFN-TimeInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_SFN_TimeInfo(rtxContext* RT_RESTRICT ctx, const SFN_TimeInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SFN_TimeInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_PUSCH_SysInfoList_SFN_element(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_SFN_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pusch-SysInfo */
+   stat = enc_PUSCH_SysInfo(ctx, &pvalue->pusch_SysInfo, cur);
+   RT_CHECK(ctx, stat, 0, "pusch-SysInfo", -1, 0);
+   /* sfn-TimeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "sfn-TimeInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCH_SysInfoList_SFN_element(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_SFN_element* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_SysInfoList_SFN_element, pvalue);
+}
+
+static int enc_PUSCH_SysInfoList_SFN(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_SFN* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-SysInfoList-SFN");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "PUSCH-SysInfoList-SFN");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ASCSetting-TDD", (int32_t)i, 0);
-      stat = asn1PE_UMTS_ASCSetting_TDD(ctx, (const ASCSetting_TDD*)node->data);
-      RT_CHECK(ctx, stat, 0, "ASCSetting-TDD", (int32_t)i, 0);
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN");
+      stat = enc_PUSCH_SysInfoList_SFN_element(ctx, (const PUSCH_SysInfoList_SFN_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN");
    }
    return 0;
 }
 
-int asn1PE_UMTS_PRACH_Partitioning(rtxContext* RT_RESTRICT ctx, const PRACH_Partitioning* RT_RESTRICT pvalue)
+int asn1PE_UMTS_PUSCH_SysInfoList_SFN(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_SFN* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-Partitioning");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "PRACH-Partitioning");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PRACH-Partitioning");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, "PRACH-Partitioning");
-         stat = asn1PE_UMTS_PRACH_Partitioning_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, "PRACH-Partitioning");
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, "PRACH-Partitioning");
-         stat = asn1PE_UMTS_PRACH_Partitioning_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, "PRACH-Partitioning");
-         break;
-      default:
-         break;
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_SysInfoList_SFN, pvalue);
 }
 
-int asn1PE_UMTS_PersistenceScalingFactor(rtxContext* RT_RESTRICT ctx, PersistenceScalingFactor value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "PersistenceScalingFactor");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PersistenceScalingFactor");
-   return 0;
-}
-
-int asn1PE_UMTS_PersistenceScalingFactorList(rtxContext* RT_RESTRICT ctx, const PersistenceScalingFactorList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PersistenceScalingFactorList");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 6);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PersistenceScalingFactorList");
-   for (i = 0; i < pvalue->n; i++) {
-      if (pvalue->elem[i] > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "PersistenceScalingFactor", "PersistenceScalingFactor", (int32_t)i, "PersistenceScalingFactorList");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 7);
-      RT_CHECK(ctx, stat, "PersistenceScalingFactor", "PersistenceScalingFactor", (int32_t)i, "PersistenceScalingFactorList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AC_To_ASC_Mapping(rtxContext* RT_RESTRICT ctx, AC_To_ASC_Mapping value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 7u) {
-      rtxErrAddStrParm(ctx, "AC-To-ASC-Mapping");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "AC-To-ASC-Mapping");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AC-To-ASC-Mapping");
-   return 0;
-}
-
-int asn1PE_UMTS_AC_To_ASC_MappingTable(rtxContext* RT_RESTRICT ctx, const AC_To_ASC_MappingTable* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AC-To-ASC-MappingTable");
-   uint32_t i;
-   if (pvalue->n != 7) {
-      rtxErrAddStrParm(ctx, "AC-To-ASC-MappingTable");
-      rtxErrAddUIntParm(ctx, pvalue->n);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "AC-To-ASC-MappingTable");
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)pvalue->elem[i] > 7u) {
-         rtxErrAddStrParm(ctx, "AC-To-ASC-Mapping");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "AC-To-ASC-Mapping", "AC-To-ASC-Mapping", (int32_t)i, "AC-To-ASC-MappingTable");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 7);
-      RT_CHECK(ctx, stat, "AC-To-ASC-Mapping", "AC-To-ASC-Mapping", (int32_t)i, "AC-To-ASC-MappingTable");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCPICH_TX_Power(rtxContext* RT_RESTRICT ctx, PrimaryCPICH_TX_Power value)
-{
-   int stat = 0;
-   if (value < -10 || value > 50) {
-      rtxErrAddStrParm(ctx, "PrimaryCPICH-TX-Power");
-      rtxErrAddIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PrimaryCPICH-TX-Power");
-   }
-   stat = pe_ConsInt64(ctx, value, -10, 50);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PrimaryCPICH-TX-Power");
-   return 0;
-}
-
-int asn1PE_UMTS_ConstantValue(rtxContext* RT_RESTRICT ctx, ConstantValue value)
-{
-   int stat = 0;
-   if (value < -35 || value > -10) {
-      rtxErrAddStrParm(ctx, "ConstantValue");
-      rtxErrAddIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "ConstantValue");
-   }
-   stat = pe_ConsInt64(ctx, value, -35, -10);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ConstantValue");
-   return 0;
-}
-
-int asn1PE_UMTS_PowerRampStep(rtxContext* RT_RESTRICT ctx, PowerRampStep value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 7u) {
-      rtxErrAddStrParm(ctx, "PowerRampStep");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PowerRampStep");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PowerRampStep");
-   return 0;
-}
-
-int asn1PE_UMTS_PreambleRetransMax(rtxContext* RT_RESTRICT ctx, PreambleRetransMax value)
+RT_MERGED_BODY int enc_PDSCH_Identity(rtxContext* RT_RESTRICT ctx, PDSCH_Identity value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)(value - 1) > 63u) {
-      rtxErrAddStrParm(ctx, "PreambleRetransMax");
+      rtxErrAddStrParm(ctx, "PDSCH-Identity");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PreambleRetransMax");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "PDSCH-Identity");
    }
-   stat = pe_ConsUInt64(ctx, value, 1, 64);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PreambleRetransMax");
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 64);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PDSCH-Identity");
    return 0;
 }
 
-int asn1PE_UMTS_PRACH_PowerOffset(rtxContext* RT_RESTRICT ctx, const PRACH_PowerOffset* RT_RESTRICT pvalue)
+int asn1PE_UMTS_PDSCH_Identity(rtxContext* RT_RESTRICT ctx, PDSCH_Identity value)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-PowerOffset");
-   /* powerRampStep */
-   if ((uint64_t)(pvalue->powerRampStep - 1) > 7u) {
-      rtxErrAddStrParm(ctx, "PowerRampStep");
-      rtxErrAddUIntParm(ctx, pvalue->powerRampStep);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PowerRampStep", "powerRampStep", -1, "PRACH-PowerOffset");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->powerRampStep, 1, 8);
-   RT_CHECK(ctx, stat, "PowerRampStep", "powerRampStep", -1, "PRACH-PowerOffset");
-   /* preambleRetransMax */
-   if ((uint64_t)(pvalue->preambleRetransMax - 1) > 63u) {
-      rtxErrAddStrParm(ctx, "PreambleRetransMax");
-      rtxErrAddUIntParm(ctx, pvalue->preambleRetransMax);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PreambleRetransMax", "preambleRetransMax", -1, "PRACH-PowerOffset");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->preambleRetransMax, 1, 64);
-   RT_CHECK(ctx, stat, "PreambleRetransMax", "preambleRetransMax", -1, "PRACH-PowerOffset");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_Identity, value);
 }
 
-int asn1PE_UMTS_NB01(rtxContext* RT_RESTRICT ctx, NB01 value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 50u) {
-      rtxErrAddStrParm(ctx, "NB01");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "NB01");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 50);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NB01");
-   return 0;
-}
-
-int asn1PE_UMTS_RACH_TransmissionParameters(rtxContext* RT_RESTRICT ctx, const RACH_TransmissionParameters* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RACH-TransmissionParameters");
-   /* mmax */
-   if ((uint64_t)(pvalue->mmax - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "mmax");
-      rtxErrAddUIntParm(ctx, pvalue->mmax);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "mmax", -1, "RACH-TransmissionParameters");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mmax, 1, 32);
-   RT_CHECK(ctx, stat, 0, "mmax", -1, "RACH-TransmissionParameters");
-   /* nb01Min */
-   if ((uint64_t)pvalue->nb01Min > 50u) {
-      rtxErrAddStrParm(ctx, "NB01");
-      rtxErrAddUIntParm(ctx, pvalue->nb01Min);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "NB01", "nb01Min", -1, "RACH-TransmissionParameters");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->nb01Min, 0, 50);
-   RT_CHECK(ctx, stat, "NB01", "nb01Min", -1, "RACH-TransmissionParameters");
-   /* nb01Max */
-   if ((uint64_t)pvalue->nb01Max > 50u) {
-      rtxErrAddStrParm(ctx, "NB01");
-      rtxErrAddUIntParm(ctx, pvalue->nb01Max);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "NB01", "nb01Max", -1, "RACH-TransmissionParameters");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->nb01Max, 0, 50);
-   RT_CHECK(ctx, stat, "NB01", "nb01Max", -1, "RACH-TransmissionParameters");
-   return 0;
-}
-
-int asn1PE_UMTS_ChannelisationCode256(rtxContext* RT_RESTRICT ctx, ChannelisationCode256 value)
-{
-   int stat = 0;
-   stat = pe_ConsUInt64(ctx, value, 0, 255);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ChannelisationCode256");
-   return 0;
-}
-
-int asn1PE_UMTS_AICH_TransmissionTiming(rtxContext* RT_RESTRICT ctx, AICH_TransmissionTiming value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "AICH-TransmissionTiming");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AICH-TransmissionTiming");
-   return 0;
-}
-
-int asn1PE_UMTS_AICH_Info(rtxContext* RT_RESTRICT ctx, const AICH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AICH-Info");
-   /* channelisationCode256 */
-   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode256, 0, 255);
-   RT_CHECK(ctx, stat, "ChannelisationCode256", "channelisationCode256", -1, "AICH-Info");
-   /* sttd-Indicator */
-   stat = rtxEncBit(ctx, pvalue->sttd_Indicator);
-   RT_CHECK(ctx, stat, 0, "sttd-Indicator", -1, "AICH-Info");
-   /* aich-TransmissionTiming */
-   if (pvalue->aich_TransmissionTiming > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->aich_TransmissionTiming);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "AICH-TransmissionTiming", "aich-TransmissionTiming", -1, "AICH-Info");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->aich_TransmissionTiming, 0, 1);
-   RT_CHECK(ctx, stat, "AICH-TransmissionTiming", "aich-TransmissionTiming", -1, "AICH-Info");
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_SystemInformation_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformation_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* primaryCPICH-TX-Power */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->primaryCPICH_TX_Power < -10 || pvalue->primaryCPICH_TX_Power > 50) {
-         rtxErrAddStrParm(ctx, "PrimaryCPICH-TX-Power");
-         rtxErrAddIntParm(ctx, pvalue->primaryCPICH_TX_Power);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->primaryCPICH_TX_Power, -10, 50);
-      RT_CHECK(ctx, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
-   }
-   /* constantValue */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->constantValue < -35 || pvalue->constantValue > -10) {
-         rtxErrAddStrParm(ctx, "ConstantValue");
-         rtxErrAddIntParm(ctx, pvalue->constantValue);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "ConstantValue", "constantValue", -1, 0);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->constantValue, -35, -10);
-      RT_CHECK(ctx, stat, "ConstantValue", "constantValue", -1, 0);
-   }
-   /* prach-PowerOffset */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_PRACH_PowerOffset(ctx, &pvalue->prach_PowerOffset);
-      RT_CHECK(ctx, stat, 0, "prach-PowerOffset", -1, 0);
-   }
-   /* rach-TransmissionParameters */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_RACH_TransmissionParameters(ctx, &pvalue->rach_TransmissionParameters);
-      RT_CHECK(ctx, stat, 0, "rach-TransmissionParameters", -1, 0);
-   }
-   /* aich-Info */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_AICH_Info(ctx, &pvalue->aich_Info);
-      RT_CHECK(ctx, stat, 0, "aich-Info", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_SystemInformation_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformation_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_PRACH_SystemInformation_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_SystemInformation(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-SystemInformation");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PRACH-SystemInformation");
-   /* prach-RACH-Info */
-   stat = asn1PE_UMTS_PRACH_RACH_Info(ctx, &pvalue->prach_RACH_Info);
-   RT_CHECK(ctx, stat, 0, "prach-RACH-Info", -1, "PRACH-SystemInformation");
-   /* transportChannelIdentity */
-   if ((uint64_t)(pvalue->transportChannelIdentity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->transportChannelIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "transportChannelIdentity", -1, "PRACH-SystemInformation");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->transportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, "PRACH-SystemInformation");
-   /* rach-TransportFormatSet */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->rach_TransportFormatSet);
-      RT_CHECK(ctx, stat, 0, "rach-TransportFormatSet", -1, "PRACH-SystemInformation");
-   }
-   /* rach-TFCS */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_TFCS(ctx, &pvalue->rach_TFCS);
-      RT_CHECK(ctx, stat, 0, "rach-TFCS", -1, "PRACH-SystemInformation");
-   }
-   /* prach-Partitioning */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_PRACH_Partitioning(ctx, &pvalue->prach_Partitioning);
-      RT_CHECK(ctx, stat, 0, "prach-Partitioning", -1, "PRACH-SystemInformation");
-   }
-   /* persistenceScalingFactorList */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_PersistenceScalingFactorList(ctx, &pvalue->persistenceScalingFactorList);
-      RT_CHECK(ctx, stat, 0, "persistenceScalingFactorList", -1, "PRACH-SystemInformation");
-   }
-   /* ac-To-ASC-MappingTable */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_AC_To_ASC_MappingTable(ctx, &pvalue->ac_To_ASC_MappingTable);
-      RT_CHECK(ctx, stat, 0, "ac-To-ASC-MappingTable", -1, "PRACH-SystemInformation");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_PRACH_SystemInformation_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "PRACH-SystemInformation");
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_SystemInformationList(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformationList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-SystemInformationList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PRACH-SystemInformationList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PRACH-SystemInformation", (int32_t)i, "PRACH-SystemInformationList");
-      stat = asn1PE_UMTS_PRACH_SystemInformation(ctx, (const PRACH_SystemInformation*)node->data);
-      RT_CHECK(ctx, stat, 0, "PRACH-SystemInformation", (int32_t)i, "PRACH-SystemInformationList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PCPICH_UsageForChannelEst(rtxContext* RT_RESTRICT ctx, PCPICH_UsageForChannelEst value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "PCPICH-UsageForChannelEst");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PCPICH-UsageForChannelEst");
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryScramblingCode(rtxContext* RT_RESTRICT ctx, SecondaryScramblingCode value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 14u) {
-      rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "SecondaryScramblingCode");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SecondaryScramblingCode");
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCPICH_Info(rtxContext* RT_RESTRICT ctx, const SecondaryCPICH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SecondaryCPICH-Info");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SecondaryCPICH-Info");
-   /* secondaryDL-ScramblingCode */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->secondaryDL_ScramblingCode - 1) > 14u) {
-         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
-         rtxErrAddUIntParm(ctx, pvalue->secondaryDL_ScramblingCode);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "SecondaryScramblingCode", "secondaryDL-ScramblingCode", -1, "SecondaryCPICH-Info");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->secondaryDL_ScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "secondaryDL-ScramblingCode", -1, "SecondaryCPICH-Info");
-   }
-   /* channelisationCode */
-   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode, 0, 255);
-   RT_CHECK(ctx, stat, "ChannelisationCode256", "channelisationCode", -1, "SecondaryCPICH-Info");
-   return 0;
-}
-
-int asn1PE_UMTS_SF256_AndCodeNumber(rtxContext* RT_RESTRICT ctx, const SF256_AndCodeNumber* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SF256-AndCodeNumber");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
-   RT_CHECK(ctx, stat, 0, "t", -1, "SF256-AndCodeNumber");
-   if (pvalue->t - 1 > 6) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "SF256-AndCodeNumber");
-   switch (pvalue->t) {
-      case 1:
-         if ((uint64_t)pvalue->u.sf4 > 3u) {
-            rtxErrAddStrParm(ctx, "sf4");
-            rtxErrAddUIntParm(ctx, pvalue->u.sf4);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sf4", -1, "SF256-AndCodeNumber");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sf4, 0, 3);
-         RT_CHECK(ctx, stat, 0, "sf4", -1, "SF256-AndCodeNumber");
-         break;
-      case 2:
-         if ((uint64_t)pvalue->u.sf8 > 7u) {
-            rtxErrAddStrParm(ctx, "sf8");
-            rtxErrAddUIntParm(ctx, pvalue->u.sf8);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sf8", -1, "SF256-AndCodeNumber");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sf8, 0, 7);
-         RT_CHECK(ctx, stat, 0, "sf8", -1, "SF256-AndCodeNumber");
-         break;
-      case 3:
-         if ((uint64_t)pvalue->u.sf16 > 15u) {
-            rtxErrAddStrParm(ctx, "sf16");
-            rtxErrAddUIntParm(ctx, pvalue->u.sf16);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sf16", -1, "SF256-AndCodeNumber");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sf16, 0, 15);
-         RT_CHECK(ctx, stat, 0, "sf16", -1, "SF256-AndCodeNumber");
-         break;
-      case 4:
-         if ((uint64_t)pvalue->u.sf32 > 31u) {
-            rtxErrAddStrParm(ctx, "sf32");
-            rtxErrAddUIntParm(ctx, pvalue->u.sf32);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sf32", -1, "SF256-AndCodeNumber");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sf32, 0, 31);
-         RT_CHECK(ctx, stat, 0, "sf32", -1, "SF256-AndCodeNumber");
-         break;
-      case 5:
-         if ((uint64_t)pvalue->u.sf64 > 63u) {
-            rtxErrAddStrParm(ctx, "sf64");
-            rtxErrAddUIntParm(ctx, pvalue->u.sf64);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sf64", -1, "SF256-AndCodeNumber");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sf64, 0, 63);
-         RT_CHECK(ctx, stat, 0, "sf64", -1, "SF256-AndCodeNumber");
-         break;
-      case 6:
-         if ((uint64_t)pvalue->u.sf128 > 127u) {
-            rtxErrAddStrParm(ctx, "sf128");
-            rtxErrAddUIntParm(ctx, pvalue->u.sf128);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sf128", -1, "SF256-AndCodeNumber");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sf128, 0, 127);
-         RT_CHECK(ctx, stat, 0, "sf128", -1, "SF256-AndCodeNumber");
-         break;
-      case 7:
-         stat = pe_ConsUInt64(ctx, pvalue->u.sf256, 0, 255);
-         RT_CHECK(ctx, stat, 0, "sf256", -1, "SF256-AndCodeNumber");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PositionFixedOrFlexible(rtxContext* RT_RESTRICT ctx, PositionFixedOrFlexible value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "PositionFixedOrFlexible");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PositionFixedOrFlexible");
-   return 0;
-}
-
-int asn1PE_UMTS_TimingOffset(rtxContext* RT_RESTRICT ctx, TimingOffset value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 149u) {
-      rtxErrAddStrParm(ctx, "TimingOffset");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TimingOffset");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 149);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimingOffset");
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCH_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)(pvalue->timingOffset != 0) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dummy1 */
-   if (pvalue->dummy1 > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->dummy1);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PCPICH-UsageForChannelEst", "dummy1", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dummy1, 0, 1);
-   RT_CHECK(ctx, stat, "PCPICH-UsageForChannelEst", "dummy1", -1, 0);
-   /* dummy2 */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SecondaryCPICH_Info(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
-   }
-   /* secondaryScramblingCode */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)(pvalue->secondaryScramblingCode - 1) > 14u) {
-         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
-         rtxErrAddUIntParm(ctx, pvalue->secondaryScramblingCode);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "SecondaryScramblingCode", "secondaryScramblingCode", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->secondaryScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, 0);
-   }
-   /* sttd-Indicator */
-   stat = rtxEncBit(ctx, pvalue->sttd_Indicator);
-   RT_CHECK(ctx, stat, 0, "sttd-Indicator", -1, 0);
-   /* sf-AndCodeNumber */
-   stat = asn1PE_UMTS_SF256_AndCodeNumber(ctx, &pvalue->sf_AndCodeNumber);
-   RT_CHECK(ctx, stat, 0, "sf-AndCodeNumber", -1, 0);
-   /* pilotSymbolExistence */
-   stat = rtxEncBit(ctx, pvalue->pilotSymbolExistence);
-   RT_CHECK(ctx, stat, 0, "pilotSymbolExistence", -1, 0);
-   /* tfci-Existence */
-   stat = rtxEncBit(ctx, pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, 0);
-   /* positionFixedOrFlexible */
-   if (pvalue->positionFixedOrFlexible > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->positionFixedOrFlexible);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->positionFixedOrFlexible, 0, 1);
-   RT_CHECK(ctx, stat, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
-   /* timingOffset */
-   if (pvalue->timingOffset != 0) {
-      if ((uint64_t)pvalue->timingOffset > 149u) {
-         rtxErrAddStrParm(ctx, "TimingOffset");
-         rtxErrAddUIntParm(ctx, pvalue->timingOffset);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TimingOffset", "timingOffset", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->timingOffset, 0, 149);
-      RT_CHECK(ctx, stat, "TimingOffset", "timingOffset", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod2(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodLengthAndOffset_repetitionPeriod2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* length */
-   /* offset */
-   if ((uint64_t)pvalue->offset > 1u) {
-      rtxErrAddStrParm(ctx, "offset");
-      rtxErrAddUIntParm(ctx, pvalue->offset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "offset", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->offset, 0, 1);
-   RT_CHECK(ctx, stat, 0, "offset", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod4(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodLengthAndOffset_repetitionPeriod4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* length */
-   if ((uint64_t)(pvalue->length - 1) > 2u) {
-      rtxErrAddStrParm(ctx, "length");
-      rtxErrAddUIntParm(ctx, pvalue->length);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "length", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->length, 1, 3);
-   RT_CHECK(ctx, stat, 0, "length", -1, 0);
-   /* offset */
-   if ((uint64_t)pvalue->offset > 3u) {
-      rtxErrAddStrParm(ctx, "offset");
-      rtxErrAddUIntParm(ctx, pvalue->offset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "offset", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->offset, 0, 3);
-   RT_CHECK(ctx, stat, 0, "offset", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod8(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodLengthAndOffset_repetitionPeriod8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* length */
-   if ((uint64_t)(pvalue->length - 1) > 6u) {
-      rtxErrAddStrParm(ctx, "length");
-      rtxErrAddUIntParm(ctx, pvalue->length);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "length", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->length, 1, 7);
-   RT_CHECK(ctx, stat, 0, "length", -1, 0);
-   /* offset */
-   if ((uint64_t)pvalue->offset > 7u) {
-      rtxErrAddStrParm(ctx, "offset");
-      rtxErrAddUIntParm(ctx, pvalue->offset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "offset", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->offset, 0, 7);
-   RT_CHECK(ctx, stat, 0, "offset", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod16(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodLengthAndOffset_repetitionPeriod16* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* length */
-   if ((uint64_t)(pvalue->length - 1) > 14u) {
-      rtxErrAddStrParm(ctx, "length");
-      rtxErrAddUIntParm(ctx, pvalue->length);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "length", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->length, 1, 15);
-   RT_CHECK(ctx, stat, 0, "length", -1, 0);
-   /* offset */
-   if ((uint64_t)pvalue->offset > 15u) {
-      rtxErrAddStrParm(ctx, "offset");
-      rtxErrAddUIntParm(ctx, pvalue->offset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "offset", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->offset, 0, 15);
-   RT_CHECK(ctx, stat, 0, "offset", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod32(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodLengthAndOffset_repetitionPeriod32* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* length */
-   if ((uint64_t)(pvalue->length - 1) > 30u) {
-      rtxErrAddStrParm(ctx, "length");
-      rtxErrAddUIntParm(ctx, pvalue->length);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "length", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->length, 1, 31);
-   RT_CHECK(ctx, stat, 0, "length", -1, 0);
-   /* offset */
-   if ((uint64_t)pvalue->offset > 31u) {
-      rtxErrAddStrParm(ctx, "offset");
-      rtxErrAddUIntParm(ctx, pvalue->offset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "offset", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->offset, 0, 31);
-   RT_CHECK(ctx, stat, 0, "offset", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod64(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodLengthAndOffset_repetitionPeriod64* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* length */
-   if ((uint64_t)(pvalue->length - 1) > 62u) {
-      rtxErrAddStrParm(ctx, "length");
-      rtxErrAddUIntParm(ctx, pvalue->length);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "length", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->length, 1, 63);
-   RT_CHECK(ctx, stat, 0, "length", -1, 0);
-   /* offset */
-   if ((uint64_t)pvalue->offset > 63u) {
-      rtxErrAddStrParm(ctx, "offset");
-      rtxErrAddUIntParm(ctx, pvalue->offset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "offset", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->offset, 0, 63);
-   RT_CHECK(ctx, stat, 0, "offset", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_RepetitionPeriodLengthAndOffset(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodLengthAndOffset* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RepetitionPeriodLengthAndOffset");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
-   RT_CHECK(ctx, stat, 0, "t", -1, "RepetitionPeriodLengthAndOffset");
-   if (pvalue->t - 1 > 6) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RepetitionPeriodLengthAndOffset");
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.repetitionPeriod2 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "repetitionPeriod2", -1, "RepetitionPeriodLengthAndOffset");
-         stat = asn1PE_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod2(ctx, pvalue->u.repetitionPeriod2);
-         RT_CHECK(ctx, stat, 0, "repetitionPeriod2", -1, "RepetitionPeriodLengthAndOffset");
-         break;
-      case 3:
-         if (pvalue->u.repetitionPeriod4 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "repetitionPeriod4", -1, "RepetitionPeriodLengthAndOffset");
-         stat = asn1PE_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod4(ctx, pvalue->u.repetitionPeriod4);
-         RT_CHECK(ctx, stat, 0, "repetitionPeriod4", -1, "RepetitionPeriodLengthAndOffset");
-         break;
-      case 4:
-         if (pvalue->u.repetitionPeriod8 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "repetitionPeriod8", -1, "RepetitionPeriodLengthAndOffset");
-         stat = asn1PE_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod8(ctx, pvalue->u.repetitionPeriod8);
-         RT_CHECK(ctx, stat, 0, "repetitionPeriod8", -1, "RepetitionPeriodLengthAndOffset");
-         break;
-      case 5:
-         if (pvalue->u.repetitionPeriod16 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "repetitionPeriod16", -1, "RepetitionPeriodLengthAndOffset");
-         stat = asn1PE_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod16(ctx, pvalue->u.repetitionPeriod16);
-         RT_CHECK(ctx, stat, 0, "repetitionPeriod16", -1, "RepetitionPeriodLengthAndOffset");
-         break;
-      case 6:
-         if (pvalue->u.repetitionPeriod32 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "repetitionPeriod32", -1, "RepetitionPeriodLengthAndOffset");
-         stat = asn1PE_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod32(ctx, pvalue->u.repetitionPeriod32);
-         RT_CHECK(ctx, stat, 0, "repetitionPeriod32", -1, "RepetitionPeriodLengthAndOffset");
-         break;
-      case 7:
-         if (pvalue->u.repetitionPeriod64 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "repetitionPeriod64", -1, "RepetitionPeriodLengthAndOffset");
-         stat = asn1PE_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod64(ctx, pvalue->u.repetitionPeriod64);
-         RT_CHECK(ctx, stat, 0, "repetitionPeriod64", -1, "RepetitionPeriodLengthAndOffset");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CommonTimeslotInfoSCCPCH(rtxContext* RT_RESTRICT ctx, const CommonTimeslotInfoSCCPCH* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CommonTimeslotInfoSCCPCH");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CommonTimeslotInfoSCCPCH");
-   /* secondInterleavingMode */
-   if (pvalue->secondInterleavingMode > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->secondInterleavingMode);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "SecondInterleavingMode", "secondInterleavingMode", -1, "CommonTimeslotInfoSCCPCH");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->secondInterleavingMode, 0, 1);
-   RT_CHECK(ctx, stat, "SecondInterleavingMode", "secondInterleavingMode", -1, "CommonTimeslotInfoSCCPCH");
-   /* tfci-Coding */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->tfci_Coding > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->tfci_Coding);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "TFCI-Coding", "tfci-Coding", -1, "CommonTimeslotInfoSCCPCH");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tfci_Coding, 0, 3);
-      RT_CHECK(ctx, stat, "TFCI-Coding", "tfci-Coding", -1, "CommonTimeslotInfoSCCPCH");
-   }
-   /* puncturingLimit */
-   if (pvalue->puncturingLimit > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->puncturingLimit);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PuncturingLimit", "puncturingLimit", -1, "CommonTimeslotInfoSCCPCH");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->puncturingLimit, 0, 15);
-   RT_CHECK(ctx, stat, "PuncturingLimit", "puncturingLimit", -1, "CommonTimeslotInfoSCCPCH");
-   /* repetitionPeriodLengthAndOffset */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_RepetitionPeriodLengthAndOffset(ctx, &pvalue->repetitionPeriodLengthAndOffset);
-      RT_CHECK(ctx, stat, 0, "repetitionPeriodLengthAndOffset", -1, "CommonTimeslotInfoSCCPCH");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SCCPCH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, SCCPCH_ChannelisationCode value)
+RT_MERGED_BODY int enc_DL_TS_ChannelisationCode(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCode value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value > 15) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SCCPCH-ChannelisationCode");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "DL-TS-ChannelisationCode");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SCCPCH-ChannelisationCode");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-TS-ChannelisationCode");
    return 0;
 }
 
-int asn1PE_UMTS_SCCPCH_ChannelisationCodeList(rtxContext* RT_RESTRICT ctx, const SCCPCH_ChannelisationCodeList* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_TS_ChannelisationCode(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCode value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_TS_ChannelisationCode, value);
+}
+
+RT_MERGED_BODY int enc_DL_TS_ChannelisationCodesShort_codesRepresentation_consecutive(rtxContext* RT_RESTRICT ctx, const DL_TS_ChannelisationCodesShort_codesRepresentation_consecutive* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SCCPCH-ChannelisationCodeList");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SCCPCH-ChannelisationCodeList");
-   for (i = 0; i < pvalue->n; i++) {
-      if (pvalue->elem[i] > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "SCCPCH-ChannelisationCode", "SCCPCH-ChannelisationCode", (int32_t)i, "SCCPCH-ChannelisationCodeList");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 15);
-      RT_CHECK(ctx, stat, "SCCPCH-ChannelisationCode", "SCCPCH-ChannelisationCode", (int32_t)i, "SCCPCH-ChannelisationCodeList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* firstChannelisationCode */
+   if (pvalue->firstChannelisationCode > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->firstChannelisationCode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "DL-TS-ChannelisationCode", "firstChannelisationCode", -1, 0);
    }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->firstChannelisationCode, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "DL-TS-ChannelisationCode", "firstChannelisationCode", -1, 0);
+   /* lastChannelisationCode */
+   if (pvalue->lastChannelisationCode > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->lastChannelisationCode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "DL-TS-ChannelisationCode", "lastChannelisationCode", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->lastChannelisationCode, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "DL-TS-ChannelisationCode", "lastChannelisationCode", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_SecondaryCCPCH_Info_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_TS_ChannelisationCodesShort_codesRepresentation_consecutive(rtxContext* RT_RESTRICT ctx, const DL_TS_ChannelisationCodesShort_codesRepresentation_consecutive* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* commonTimeslotInfo */
-   stat = asn1PE_UMTS_CommonTimeslotInfoSCCPCH(ctx, &pvalue->commonTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, 0);
-   /* individualTimeslotInfo */
-   stat = asn1PE_UMTS_IndividualTimeslotInfo(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
-   /* channelisationCode */
-   stat = asn1PE_UMTS_SCCPCH_ChannelisationCodeList(ctx, &pvalue->channelisationCode);
-   RT_CHECK(ctx, stat, 0, "channelisationCode", -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_DL_TS_ChannelisationCodesShort_codesRepresentation_consecutive, pvalue);
 }
 
-int asn1PE_UMTS_SecondaryCCPCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_SecondaryCCPCH_Info_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_SecondaryCCPCH_Info_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCH_Info(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SecondaryCCPCH-Info");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_SecondaryCCPCH_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SecondaryCCPCH-Info");
-   return 0;
-}
-
-int asn1PE_UMTS_FACH_PCH_Information(rtxContext* RT_RESTRICT ctx, const FACH_PCH_Information* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "FACH-PCH-Information");
-   /* transportFormatSet */
-   stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->transportFormatSet);
-   RT_CHECK(ctx, stat, 0, "transportFormatSet", -1, "FACH-PCH-Information");
-   /* transportChannelIdentity */
-   if ((uint64_t)(pvalue->transportChannelIdentity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->transportChannelIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "transportChannelIdentity", -1, "FACH-PCH-Information");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->transportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, "FACH-PCH-Information");
-   /* ctch-Indicator */
-   stat = rtxEncBit(ctx, pvalue->ctch_Indicator);
-   RT_CHECK(ctx, stat, 0, "ctch-Indicator", -1, "FACH-PCH-Information");
-   return 0;
-}
-
-int asn1PE_UMTS_FACH_PCH_InformationList(rtxContext* RT_RESTRICT ctx, const FACH_PCH_InformationList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "FACH-PCH-InformationList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "FACH-PCH-InformationList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "FACH-PCH-Information", (int32_t)i, "FACH-PCH-InformationList");
-      stat = asn1PE_UMTS_FACH_PCH_Information(ctx, (const FACH_PCH_Information*)node->data);
-      RT_CHECK(ctx, stat, 0, "FACH-PCH-Information", (int32_t)i, "FACH-PCH-InformationList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PI_CountPerFrame(rtxContext* RT_RESTRICT ctx, PI_CountPerFrame value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "PI-CountPerFrame");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PI-CountPerFrame");
-   return 0;
-}
-
-int asn1PE_UMTS_PICH_Info_fdd(rtxContext* RT_RESTRICT ctx, const PICH_Info_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* channelisationCode256 */
-   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode256, 0, 255);
-   RT_CHECK(ctx, stat, "ChannelisationCode256", "channelisationCode256", -1, 0);
-   /* pi-CountPerFrame */
-   if (pvalue->pi_CountPerFrame > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->pi_CountPerFrame);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PI-CountPerFrame", "pi-CountPerFrame", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pi_CountPerFrame, 0, 3);
-   RT_CHECK(ctx, stat, "PI-CountPerFrame", "pi-CountPerFrame", -1, 0);
-   /* sttd-Indicator */
-   stat = rtxEncBit(ctx, pvalue->sttd_Indicator);
-   RT_CHECK(ctx, stat, 0, "sttd-Indicator", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_TDD_PICH_CCode(rtxContext* RT_RESTRICT ctx, TDD_PICH_CCode value)
-{
-   int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TDD-PICH-CCode");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TDD-PICH-CCode");
-   return 0;
-}
-
-int asn1PE_UMTS_RepPerLengthOffset_PICH(rtxContext* RT_RESTRICT ctx, const RepPerLengthOffset_PICH* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RepPerLengthOffset-PICH");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 8);
-   RT_CHECK(ctx, stat, 0, "t", -1, "RepPerLengthOffset-PICH");
-   if (pvalue->t - 1 > 8) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RepPerLengthOffset-PICH");
-   switch (pvalue->t) {
-      case 1:
-         if ((uint64_t)pvalue->u.rpp4_2 > 3u) {
-            rtxErrAddStrParm(ctx, "rpp4-2");
-            rtxErrAddUIntParm(ctx, pvalue->u.rpp4_2);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rpp4-2", -1, "RepPerLengthOffset-PICH");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.rpp4_2, 0, 3);
-         RT_CHECK(ctx, stat, 0, "rpp4-2", -1, "RepPerLengthOffset-PICH");
-         break;
-      case 2:
-         if ((uint64_t)pvalue->u.rpp8_2 > 7u) {
-            rtxErrAddStrParm(ctx, "rpp8-2");
-            rtxErrAddUIntParm(ctx, pvalue->u.rpp8_2);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rpp8-2", -1, "RepPerLengthOffset-PICH");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.rpp8_2, 0, 7);
-         RT_CHECK(ctx, stat, 0, "rpp8-2", -1, "RepPerLengthOffset-PICH");
-         break;
-      case 3:
-         if ((uint64_t)pvalue->u.rpp8_4 > 7u) {
-            rtxErrAddStrParm(ctx, "rpp8-4");
-            rtxErrAddUIntParm(ctx, pvalue->u.rpp8_4);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rpp8-4", -1, "RepPerLengthOffset-PICH");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.rpp8_4, 0, 7);
-         RT_CHECK(ctx, stat, 0, "rpp8-4", -1, "RepPerLengthOffset-PICH");
-         break;
-      case 4:
-         if ((uint64_t)pvalue->u.rpp16_2 > 15u) {
-            rtxErrAddStrParm(ctx, "rpp16-2");
-            rtxErrAddUIntParm(ctx, pvalue->u.rpp16_2);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rpp16-2", -1, "RepPerLengthOffset-PICH");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.rpp16_2, 0, 15);
-         RT_CHECK(ctx, stat, 0, "rpp16-2", -1, "RepPerLengthOffset-PICH");
-         break;
-      case 5:
-         if ((uint64_t)pvalue->u.rpp16_4 > 15u) {
-            rtxErrAddStrParm(ctx, "rpp16-4");
-            rtxErrAddUIntParm(ctx, pvalue->u.rpp16_4);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rpp16-4", -1, "RepPerLengthOffset-PICH");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.rpp16_4, 0, 15);
-         RT_CHECK(ctx, stat, 0, "rpp16-4", -1, "RepPerLengthOffset-PICH");
-         break;
-      case 6:
-         if ((uint64_t)pvalue->u.rpp32_2 > 31u) {
-            rtxErrAddStrParm(ctx, "rpp32-2");
-            rtxErrAddUIntParm(ctx, pvalue->u.rpp32_2);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rpp32-2", -1, "RepPerLengthOffset-PICH");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.rpp32_2, 0, 31);
-         RT_CHECK(ctx, stat, 0, "rpp32-2", -1, "RepPerLengthOffset-PICH");
-         break;
-      case 7:
-         if ((uint64_t)pvalue->u.rpp32_4 > 31u) {
-            rtxErrAddStrParm(ctx, "rpp32-4");
-            rtxErrAddUIntParm(ctx, pvalue->u.rpp32_4);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rpp32-4", -1, "RepPerLengthOffset-PICH");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.rpp32_4, 0, 31);
-         RT_CHECK(ctx, stat, 0, "rpp32-4", -1, "RepPerLengthOffset-PICH");
-         break;
-      case 8:
-         if ((uint64_t)pvalue->u.rpp64_2 > 63u) {
-            rtxErrAddStrParm(ctx, "rpp64-2");
-            rtxErrAddUIntParm(ctx, pvalue->u.rpp64_2);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rpp64-2", -1, "RepPerLengthOffset-PICH");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.rpp64_2, 0, 63);
-         RT_CHECK(ctx, stat, 0, "rpp64-2", -1, "RepPerLengthOffset-PICH");
-         break;
-      case 9:
-         if ((uint64_t)pvalue->u.rpp64_4 > 63u) {
-            rtxErrAddStrParm(ctx, "rpp64-4");
-            rtxErrAddUIntParm(ctx, pvalue->u.rpp64_4);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rpp64-4", -1, "RepPerLengthOffset-PICH");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.rpp64_4, 0, 63);
-         RT_CHECK(ctx, stat, 0, "rpp64-4", -1, "RepPerLengthOffset-PICH");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PagingIndicatorLength(rtxContext* RT_RESTRICT ctx, PagingIndicatorLength value)
-{
-   int stat = 0;
-   if (value > 2) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "PagingIndicatorLength");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PagingIndicatorLength");
-   return 0;
-}
-
-int asn1PE_UMTS_N_GAP(rtxContext* RT_RESTRICT ctx, N_GAP value)
-{
-   int stat = 0;
-   if (value > 2) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "N-GAP");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "N-GAP");
-   return 0;
-}
-
-int asn1PE_UMTS_N_PCH(rtxContext* RT_RESTRICT ctx, N_PCH value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 7u) {
-      rtxErrAddStrParm(ctx, "N-PCH");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "N-PCH");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "N-PCH");
-   return 0;
-}
-
-int asn1PE_UMTS_PICH_Info_tdd(rtxContext* RT_RESTRICT ctx, const PICH_Info_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
-      ((uint64_t)(pvalue->pagingIndicatorLength != 0) << 2) |
-      ((uint64_t)(pvalue->n_GAP != 1) << 1) |
-      ((uint64_t)(pvalue->n_PCH != 2) << 0), 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* channelisationCode */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->channelisationCode > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "TDD-PICH-CCode", "channelisationCode", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->channelisationCode, 0, 15);
-      RT_CHECK(ctx, stat, "TDD-PICH-CCode", "channelisationCode", -1, 0);
-   }
-   /* timeslot */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->timeslot > 14u) {
-         rtxErrAddStrParm(ctx, "TimeslotNumber");
-         rtxErrAddUIntParm(ctx, pvalue->timeslot);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslot", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 14);
-      RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, 0);
-   }
-   /* midambleShiftAndBurstType */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, 0);
-   /* repetitionPeriodLengthOffset */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_RepPerLengthOffset_PICH(ctx, &pvalue->repetitionPeriodLengthOffset);
-      RT_CHECK(ctx, stat, 0, "repetitionPeriodLengthOffset", -1, 0);
-   }
-   /* pagingIndicatorLength */
-   if (pvalue->pagingIndicatorLength != 0) {
-      if (pvalue->pagingIndicatorLength > 2) {
-         rtxErrAddUIntParm(ctx, pvalue->pagingIndicatorLength);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "PagingIndicatorLength", "pagingIndicatorLength", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->pagingIndicatorLength, 0, 2);
-      RT_CHECK(ctx, stat, "PagingIndicatorLength", "pagingIndicatorLength", -1, 0);
-   }
-   /* n-GAP */
-   if (pvalue->n_GAP != 1) {
-      if (pvalue->n_GAP > 2) {
-         rtxErrAddUIntParm(ctx, pvalue->n_GAP);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "N-GAP", "n-GAP", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->n_GAP, 0, 2);
-      RT_CHECK(ctx, stat, "N-GAP", "n-GAP", -1, 0);
-   }
-   /* n-PCH */
-   if (pvalue->n_PCH != 2) {
-      if ((uint64_t)(pvalue->n_PCH - 1) > 7u) {
-         rtxErrAddStrParm(ctx, "N-PCH");
-         rtxErrAddUIntParm(ctx, pvalue->n_PCH);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "N-PCH", "n-PCH", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->n_PCH, 1, 8);
-      RT_CHECK(ctx, stat, "N-PCH", "n-PCH", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PICH_Info(rtxContext* RT_RESTRICT ctx, const PICH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PICH-Info");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "PICH-Info");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PICH-Info");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, "PICH-Info");
-         stat = asn1PE_UMTS_PICH_Info_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, "PICH-Info");
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, "PICH-Info");
-         stat = asn1PE_UMTS_PICH_Info_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, "PICH-Info");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SCCPCH_SystemInformation(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SCCPCH-SystemInformation");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SCCPCH-SystemInformation");
-   /* secondaryCCPCH-Info */
-   stat = asn1PE_UMTS_SecondaryCCPCH_Info(ctx, &pvalue->secondaryCCPCH_Info);
-   RT_CHECK(ctx, stat, 0, "secondaryCCPCH-Info", -1, "SCCPCH-SystemInformation");
-   /* tfcs */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_TFCS(ctx, &pvalue->tfcs);
-      RT_CHECK(ctx, stat, 0, "tfcs", -1, "SCCPCH-SystemInformation");
-   }
-   /* fach-PCH-InformationList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_FACH_PCH_InformationList(ctx, &pvalue->fach_PCH_InformationList);
-      RT_CHECK(ctx, stat, 0, "fach-PCH-InformationList", -1, "SCCPCH-SystemInformation");
-   }
-   /* pich-Info */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_PICH_Info(ctx, &pvalue->pich_Info);
-      RT_CHECK(ctx, stat, 0, "pich-Info", -1, "SCCPCH-SystemInformation");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SCCPCH_SystemInformationList(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformationList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SCCPCH-SystemInformationList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SCCPCH-SystemInformationList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "SCCPCH-SystemInformation", (int32_t)i, "SCCPCH-SystemInformationList");
-      stat = asn1PE_UMTS_SCCPCH_SystemInformation(ctx, (const SCCPCH_SystemInformation*)node->data);
-      RT_CHECK(ctx, stat, 0, "SCCPCH-SystemInformation", (int32_t)i, "SCCPCH-SystemInformationList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CBS_DRX_Level1Information(rtxContext* RT_RESTRICT ctx, const CBS_DRX_Level1Information* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CBS-DRX-Level1Information");
-   /* ctch-AllocationPeriod */
-   if ((uint64_t)(pvalue->ctch_AllocationPeriod - 1) > 255u) {
-      rtxErrAddStrParm(ctx, "ctch-AllocationPeriod");
-      rtxErrAddUIntParm(ctx, pvalue->ctch_AllocationPeriod);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ctch-AllocationPeriod", -1, "CBS-DRX-Level1Information");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ctch_AllocationPeriod, 1, 256);
-   RT_CHECK(ctx, stat, 0, "ctch-AllocationPeriod", -1, "CBS-DRX-Level1Information");
-   /* cbs-FrameOffset */
-   stat = pe_ConsUInt64(ctx, pvalue->cbs_FrameOffset, 0, 255);
-   RT_CHECK(ctx, stat, 0, "cbs-FrameOffset", -1, "CBS-DRX-Level1Information");
-   return 0;
-}
-
-int asn1PE_UMTS_PNBSCH_Allocation_r4_numberOfRepetitionsPerSFNPeriod(rtxContext* RT_RESTRICT ctx, PNBSCH_Allocation_r4_numberOfRepetitionsPerSFNPeriod value)
-{
-   int stat = 0;
-   if (value > 23) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 23);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PNBSCH_Allocation_r4(rtxContext* RT_RESTRICT ctx, const PNBSCH_Allocation_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PNBSCH-Allocation-r4");
-   /* numberOfRepetitionsPerSFNPeriod */
-   if (pvalue->numberOfRepetitionsPerSFNPeriod > 23) {
-      rtxErrAddUIntParm(ctx, pvalue->numberOfRepetitionsPerSFNPeriod);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "numberOfRepetitionsPerSFNPeriod", -1, "PNBSCH-Allocation-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->numberOfRepetitionsPerSFNPeriod, 0, 23);
-   RT_CHECK(ctx, stat, 0, "numberOfRepetitionsPerSFNPeriod", -1, "PNBSCH-Allocation-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_MaxPowerIncrease_r4(rtxContext* RT_RESTRICT ctx, MaxPowerIncrease_r4 value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 3u) {
-      rtxErrAddStrParm(ctx, "MaxPowerIncrease-r4");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MaxPowerIncrease-r4");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxPowerIncrease-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_OpenLoopPowerControl_IPDL_TDD_r4(rtxContext* RT_RESTRICT ctx, const OpenLoopPowerControl_IPDL_TDD_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "OpenLoopPowerControl-IPDL-TDD-r4");
-   /* ipdl-alpha */
-   if ((uint64_t)pvalue->ipdl_alpha > 8u) {
-      rtxErrAddStrParm(ctx, "Alpha");
-      rtxErrAddUIntParm(ctx, pvalue->ipdl_alpha);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Alpha", "ipdl-alpha", -1, "OpenLoopPowerControl-IPDL-TDD-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ipdl_alpha, 0, 8);
-   RT_CHECK(ctx, stat, "Alpha", "ipdl-alpha", -1, "OpenLoopPowerControl-IPDL-TDD-r4");
-   /* maxPowerIncrease */
-   if ((uint64_t)pvalue->maxPowerIncrease > 3u) {
-      rtxErrAddStrParm(ctx, "MaxPowerIncrease-r4");
-      rtxErrAddUIntParm(ctx, pvalue->maxPowerIncrease);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxPowerIncrease-r4", "maxPowerIncrease", -1, "OpenLoopPowerControl-IPDL-TDD-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxPowerIncrease, 0, 3);
-   RT_CHECK(ctx, stat, "MaxPowerIncrease-r4", "maxPowerIncrease", -1, "OpenLoopPowerControl-IPDL-TDD-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_Sync_UL_Codes_Bitmap(rtxContext* RT_RESTRICT ctx, Sync_UL_Codes_Bitmap value)
+RT_MERGED_BODY int enc_DL_TS_ChannelisationCodesShort_codesRepresentation_bitmap(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort_codesRepresentation_bitmap value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    {
       int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
       uint32_t used = (uint32_t)(last + 1);
-      value.numbits = used <= 8 ? 8 : used;
-      if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "Sync-UL-Codes-Bitmap");
+      value.numbits = used <= 16 ? 16 : used;
+      if (last < -1) RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
    }
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &value, 8, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Sync-UL-Codes-Bitmap");
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &value, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_SYNC_UL_Info_r4_max_SYNC_UL_Transmissions(rtxContext* RT_RESTRICT ctx, SYNC_UL_Info_r4_max_SYNC_UL_Transmissions value)
+int asn1PE_UMTS_DL_TS_ChannelisationCodesShort_codesRepresentation_bitmap(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort_codesRepresentation_bitmap value)
 {
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_DL_TS_ChannelisationCodesShort_codesRepresentation_bitmap, value);
 }
 
-int asn1PE_UMTS_SYNC_UL_Info_r4(rtxContext* RT_RESTRICT ctx, const SYNC_UL_Info_r4* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_DL_TS_ChannelisationCodesShort_codesRepresentation(rtxContext* RT_RESTRICT ctx, const DL_TS_ChannelisationCodesShort_codesRepresentation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SYNC-UL-Info-r4");
-   /* sync-UL-Codes-Bitmap */
-   stat = asn1PE_UMTS_Sync_UL_Codes_Bitmap(ctx, pvalue->sync_UL_Codes_Bitmap);
-   RT_CHECK(ctx, stat, 0, "sync-UL-Codes-Bitmap", -1, "SYNC-UL-Info-r4");
-   /* prxUpPCHdes */
-   if ((uint64_t)pvalue->prxUpPCHdes > 62u) {
-      rtxErrAddStrParm(ctx, "prxUpPCHdes");
-      rtxErrAddUIntParm(ctx, pvalue->prxUpPCHdes);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "prxUpPCHdes", -1, "SYNC-UL-Info-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->prxUpPCHdes, 0, 62);
-   RT_CHECK(ctx, stat, 0, "prxUpPCHdes", -1, "SYNC-UL-Info-r4");
-   /* powerRampStep */
-   if ((uint64_t)pvalue->powerRampStep > 3u) {
-      rtxErrAddStrParm(ctx, "powerRampStep");
-      rtxErrAddUIntParm(ctx, pvalue->powerRampStep);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "powerRampStep", -1, "SYNC-UL-Info-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->powerRampStep, 0, 3);
-   RT_CHECK(ctx, stat, 0, "powerRampStep", -1, "SYNC-UL-Info-r4");
-   /* max-SYNC-UL-Transmissions */
-   if (pvalue->max_SYNC_UL_Transmissions > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->max_SYNC_UL_Transmissions);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "max-SYNC-UL-Transmissions", -1, "SYNC-UL-Info-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->max_SYNC_UL_Transmissions, 0, 3);
-   RT_CHECK(ctx, stat, 0, "max-SYNC-UL-Transmissions", -1, "SYNC-UL-Info-r4");
-   /* mmax */
-   if ((uint64_t)(pvalue->mmax - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "mmax");
-      rtxErrAddUIntParm(ctx, pvalue->mmax);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "mmax", -1, "SYNC-UL-Info-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mmax, 1, 32);
-   RT_CHECK(ctx, stat, 0, "mmax", -1, "SYNC-UL-Info-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_TimeslotNumber_PRACH_LCR_r4(rtxContext* RT_RESTRICT ctx, TimeslotNumber_PRACH_LCR_r4 value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 5u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber-PRACH-LCR-r4");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TimeslotNumber-PRACH-LCR-r4");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimeslotNumber-PRACH-LCR-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_TDD_PRACH_CCode_LCR_r4(rtxContext* RT_RESTRICT ctx, TDD_PRACH_CCode_LCR_r4 value)
-{
-   int stat = 0;
-   if (value > 27) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TDD-PRACH-CCode-LCR-r4");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 27);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TDD-PRACH-CCode-LCR-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_ChanCodes_LCR_r4(rtxContext* RT_RESTRICT ctx, const PRACH_ChanCodes_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-ChanCodes-LCR-r4");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PRACH-ChanCodes-LCR-r4");
-   for (i = 0; i < pvalue->n; i++) {
-      if (pvalue->elem[i] > 27) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "TDD-PRACH-CCode-LCR-r4", "TDD-PRACH-CCode-LCR-r4", (int32_t)i, "PRACH-ChanCodes-LCR-r4");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 27);
-      RT_CHECK(ctx, stat, "TDD-PRACH-CCode-LCR-r4", "TDD-PRACH-CCode-LCR-r4", (int32_t)i, "PRACH-ChanCodes-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* midambleShift */
-   if ((uint64_t)pvalue->midambleShift > 15u) {
-      rtxErrAddStrParm(ctx, "midambleShift");
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "midambleShift", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat, 0, "midambleShift", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
+         if (pvalue->u.consecutive == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "consecutive", -1, 0);
+         stat = enc_DL_TS_ChannelisationCodesShort_codesRepresentation_consecutive(ctx, pvalue->u.consecutive, cur);
+         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
          break;
       case 2:
-         break;
-      case 3:
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         if (pvalue->u.bitmap == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "bitmap", -1, 0);
+         stat = enc_DL_TS_ChannelisationCodesShort_codesRepresentation_bitmap(ctx, *pvalue->u.bitmap, cur);
+         RT_CHECK(ctx, stat, 0, "bitmap", -1, 0);
          break;
       default:
          break;
@@ -1672,589 +1441,80 @@ int asn1PE_UMTS_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode(rtxConte
    return 0;
 }
 
-int asn1PE_UMTS_MidambleShiftAndBurstType_LCR_r4(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_LCR_r4* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_TS_ChannelisationCodesShort_codesRepresentation(rtxContext* RT_RESTRICT ctx, const DL_TS_ChannelisationCodesShort_codesRepresentation* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_TS_ChannelisationCodesShort_codesRepresentation, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_TS_ChannelisationCodesShort(rtxContext* RT_RESTRICT ctx, const DL_TS_ChannelisationCodesShort* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MidambleShiftAndBurstType-LCR-r4");
-   /* midambleAllocationMode */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "MidambleShiftAndBurstType-LCR-r4");
-   /* midambleConfiguration */
-   if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
-      rtxErrAddStrParm(ctx, "midambleConfiguration");
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "midambleConfiguration", -1, "MidambleShiftAndBurstType-LCR-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, "MidambleShiftAndBurstType-LCR-r4");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-TS-ChannelisationCodesShort");
+   /* codesRepresentation */
+   stat = enc_DL_TS_ChannelisationCodesShort_codesRepresentation(ctx, &pvalue->codesRepresentation, cur);
+   RT_CHECK(ctx, stat, 0, "codesRepresentation", -1, "DL-TS-ChannelisationCodesShort");
    return 0;
 }
 
-int asn1PE_UMTS_TimeslotNumber_LCR_r4(rtxContext* RT_RESTRICT ctx, TimeslotNumber_LCR_r4 value)
+int asn1PE_UMTS_DL_TS_ChannelisationCodesShort(rtxContext* RT_RESTRICT ctx, const DL_TS_ChannelisationCodesShort* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if ((uint64_t)value > 6u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TimeslotNumber-LCR-r4");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimeslotNumber-LCR-r4");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_DL_TS_ChannelisationCodesShort, pvalue);
 }
 
-int asn1PE_UMTS_TDD_FPACH_CCode16_r4(rtxContext* RT_RESTRICT ctx, TDD_FPACH_CCode16_r4 value)
+RT_MERGED_BODY int enc_DownlinkAdditionalTimeslots_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_parameters_sameAsLast* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TDD-FPACH-CCode16-r4");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TDD-FPACH-CCode16-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_Wi_LCR(rtxContext* RT_RESTRICT ctx, Wi_LCR value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 3u) {
-      rtxErrAddStrParm(ctx, "Wi-LCR");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "Wi-LCR");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Wi-LCR");
-   return 0;
-}
-
-int asn1PE_UMTS_FPACH_Info_r4(rtxContext* RT_RESTRICT ctx, const FPACH_Info_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "FPACH-Info-r4");
-   /* timeslot */
-   if ((uint64_t)pvalue->timeslot > 6u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
-      rtxErrAddUIntParm(ctx, pvalue->timeslot);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslot", -1, "FPACH-Info-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslot", -1, "FPACH-Info-r4");
-   /* channelisationCode */
-   if (pvalue->channelisationCode > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TDD-FPACH-CCode16-r4", "channelisationCode", -1, "FPACH-Info-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode, 0, 15);
-   RT_CHECK(ctx, stat, "TDD-FPACH-CCode16-r4", "channelisationCode", -1, "FPACH-Info-r4");
-   /* midambleShiftAndBurstType */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "FPACH-Info-r4");
-   /* wi */
-   if ((uint64_t)(pvalue->wi - 1) > 3u) {
-      rtxErrAddStrParm(ctx, "Wi-LCR");
-      rtxErrAddUIntParm(ctx, pvalue->wi);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Wi-LCR", "wi", -1, "FPACH-Info-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->wi, 1, 4);
-   RT_CHECK(ctx, stat, "Wi-LCR", "wi", -1, "FPACH-Info-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_Definition_LCR_r4(rtxContext* RT_RESTRICT ctx, const PRACH_Definition_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-Definition-LCR-r4");
-   /* timeslot */
-   if ((uint64_t)(pvalue->timeslot - 1) > 5u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber-PRACH-LCR-r4");
-      rtxErrAddUIntParm(ctx, pvalue->timeslot);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber-PRACH-LCR-r4", "timeslot", -1, "PRACH-Definition-LCR-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslot, 1, 6);
-   RT_CHECK(ctx, stat, "TimeslotNumber-PRACH-LCR-r4", "timeslot", -1, "PRACH-Definition-LCR-r4");
-   /* prach-ChanCodes-LCR */
-   stat = asn1PE_UMTS_PRACH_ChanCodes_LCR_r4(ctx, &pvalue->prach_ChanCodes_LCR);
-   RT_CHECK(ctx, stat, 0, "prach-ChanCodes-LCR", -1, "PRACH-Definition-LCR-r4");
-   /* midambleShiftAndBurstType */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "PRACH-Definition-LCR-r4");
-   /* fpach-Info */
-   stat = asn1PE_UMTS_FPACH_Info_r4(ctx, &pvalue->fpach_Info);
-   RT_CHECK(ctx, stat, 0, "fpach-Info", -1, "PRACH-Definition-LCR-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_RACH_Info_LCR_r4_prach_DefinitionList(rtxContext* RT_RESTRICT ctx, const PRACH_RACH_Info_LCR_r4_prach_DefinitionList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PRACH-Definition-LCR-r4", (int32_t)i, 0);
-      stat = asn1PE_UMTS_PRACH_Definition_LCR_r4(ctx, (const PRACH_Definition_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat, 0, "PRACH-Definition-LCR-r4", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_RACH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, const PRACH_RACH_Info_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-RACH-Info-LCR-r4");
-   /* sync-UL-Info */
-   stat = asn1PE_UMTS_SYNC_UL_Info_r4(ctx, &pvalue->sync_UL_Info);
-   RT_CHECK(ctx, stat, 0, "sync-UL-Info", -1, "PRACH-RACH-Info-LCR-r4");
-   /* prach-DefinitionList */
-   stat = asn1PE_UMTS_PRACH_RACH_Info_LCR_r4_prach_DefinitionList(ctx, &pvalue->prach_DefinitionList);
-   RT_CHECK(ctx, stat, 0, "prach-DefinitionList", -1, "PRACH-RACH-Info-LCR-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_CommonTransChTFS_LCR_tti(rtxContext* RT_RESTRICT ctx, const CommonTransChTFS_LCR_tti* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 5);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 5) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tti5 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tti5", -1, 0);
-         stat = asn1PE_UMTS_CommonDynamicTF_InfoList(ctx, pvalue->u.tti5);
-         RT_CHECK(ctx, stat, 0, "tti5", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tti10 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tti10", -1, 0);
-         stat = asn1PE_UMTS_CommonDynamicTF_InfoList(ctx, pvalue->u.tti10);
-         RT_CHECK(ctx, stat, 0, "tti10", -1, 0);
-         break;
-      case 3:
-         if (pvalue->u.tti20 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tti20", -1, 0);
-         stat = asn1PE_UMTS_CommonDynamicTF_InfoList(ctx, pvalue->u.tti20);
-         RT_CHECK(ctx, stat, 0, "tti20", -1, 0);
-         break;
-      case 4:
-         if (pvalue->u.tti40 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tti40", -1, 0);
-         stat = asn1PE_UMTS_CommonDynamicTF_InfoList(ctx, pvalue->u.tti40);
-         RT_CHECK(ctx, stat, 0, "tti40", -1, 0);
-         break;
-      case 5:
-         if (pvalue->u.tti80 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tti80", -1, 0);
-         stat = asn1PE_UMTS_CommonDynamicTF_InfoList(ctx, pvalue->u.tti80);
-         RT_CHECK(ctx, stat, 0, "tti80", -1, 0);
-         break;
-      case 6:
-         if (pvalue->u.dynamic == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dynamic", -1, 0);
-         stat = asn1PE_UMTS_CommonDynamicTF_InfoList_DynamicTTI(ctx, pvalue->u.dynamic);
-         RT_CHECK(ctx, stat, 0, "dynamic", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CommonTransChTFS_LCR(rtxContext* RT_RESTRICT ctx, const CommonTransChTFS_LCR* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CommonTransChTFS-LCR");
-   /* tti */
-   stat = asn1PE_UMTS_CommonTransChTFS_LCR_tti(ctx, &pvalue->tti);
-   RT_CHECK(ctx, stat, 0, "tti", -1, "CommonTransChTFS-LCR");
-   /* semistaticTF-Information */
-   stat = asn1PE_UMTS_SemistaticTF_Information(ctx, &pvalue->semistaticTF_Information);
-   RT_CHECK(ctx, stat, 0, "semistaticTF-Information", -1, "CommonTransChTFS-LCR");
-   return 0;
-}
-
-int asn1PE_UMTS_TransportFormatSet_LCR(rtxContext* RT_RESTRICT ctx, const TransportFormatSet_LCR* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TransportFormatSet-LCR");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "TransportFormatSet-LCR");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TransportFormatSet-LCR");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.dedicatedTransChTFS == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dedicatedTransChTFS", -1, "TransportFormatSet-LCR");
-         stat = asn1PE_UMTS_DedicatedTransChTFS(ctx, pvalue->u.dedicatedTransChTFS);
-         RT_CHECK(ctx, stat, 0, "dedicatedTransChTFS", -1, "TransportFormatSet-LCR");
-         break;
-      case 2:
-         if (pvalue->u.commonTransChTFS_LCR == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "commonTransChTFS-LCR", -1, "TransportFormatSet-LCR");
-         stat = asn1PE_UMTS_CommonTransChTFS_LCR(ctx, pvalue->u.commonTransChTFS_LCR);
-         RT_CHECK(ctx, stat, 0, "commonTransChTFS-LCR", -1, "TransportFormatSet-LCR");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_availableSYNC_UlCodesIndics(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_availableSYNC_UlCodesIndics value)
-{
-   int stat = 0;
-   {
-      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
-      uint32_t used = (uint32_t)(last + 1);
-      value.numbits = used <= 8 ? 8 : used;
-      if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-   }
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &value, 8, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size2_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size2_subchannels value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size2(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_LCR_r4_subchannelSize_size2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* subchannels */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->subchannels > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->subchannels);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "subchannels", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->subchannels, 0, 1);
-      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size4_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size4_subchannels value)
-{
-   int stat = 0;
-   {
-      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
-      uint32_t used = (uint32_t)(last + 1);
-      value.numbits = used <= 4 ? 4 : used;
-      if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-   }
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pe_BitString32(ctx, &value, 4, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size4(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_LCR_r4_subchannelSize_size4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* subchannels */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size4_subchannels(ctx, pvalue->subchannels);
-      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size8_subchannels value)
-{
-   int stat = 0;
-   {
-      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
-      uint32_t used = (uint32_t)(last + 1);
-      value.numbits = used <= 8 ? 8 : used;
-      if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-   }
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &value, 8, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_LCR_r4_subchannelSize_size8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* subchannels */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8_subchannels(ctx, pvalue->subchannels);
-      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_LCR_r4_subchannelSize* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.size2 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "size2", -1, 0);
-         stat = asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size2(ctx, pvalue->u.size2);
-         RT_CHECK(ctx, stat, 0, "size2", -1, 0);
-         break;
-      case 3:
-         if (pvalue->u.size4 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "size4", -1, 0);
-         stat = asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size4(ctx, pvalue->u.size4);
-         RT_CHECK(ctx, stat, 0, "size4", -1, 0);
-         break;
-      case 4:
-         if (pvalue->u.size8 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "size8", -1, 0);
-         stat = asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8(ctx, pvalue->u.size8);
-         RT_CHECK(ctx, stat, 0, "size8", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AccessServiceClass-TDD-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AccessServiceClass-TDD-LCR-r4");
-   /* availableSYNC-UlCodesIndics */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_availableSYNC_UlCodesIndics(ctx, pvalue->availableSYNC_UlCodesIndics);
-      RT_CHECK(ctx, stat, 0, "availableSYNC-UlCodesIndics", -1, "AccessServiceClass-TDD-LCR-r4");
-   }
-   /* subchannelSize */
-   stat = asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize(ctx, &pvalue->subchannelSize);
-   RT_CHECK(ctx, stat, 0, "subchannelSize", -1, "AccessServiceClass-TDD-LCR-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_ASCSetting_TDD_LCR_r4(rtxContext* RT_RESTRICT ctx, const ASCSetting_TDD_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ASCSetting-TDD-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ASCSetting-TDD-LCR-r4");
-   /* accessServiceClass-TDD-LCR */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4(ctx, &pvalue->accessServiceClass_TDD_LCR);
-      RT_CHECK(ctx, stat, 0, "accessServiceClass-TDD-LCR", -1, "ASCSetting-TDD-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_Partitioning_LCR_r4(rtxContext* RT_RESTRICT ctx, const PRACH_Partitioning_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-Partitioning-LCR-r4");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PRACH-Partitioning-LCR-r4");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ASCSetting-TDD-LCR-r4", (int32_t)i, "PRACH-Partitioning-LCR-r4");
-      stat = asn1PE_UMTS_ASCSetting_TDD_LCR_r4(ctx, (const ASCSetting_TDD_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat, 0, "ASCSetting-TDD-LCR-r4", (int32_t)i, "PRACH-Partitioning-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_SystemInformation_LCR_r4(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformation_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-SystemInformation-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PRACH-SystemInformation-LCR-r4");
-   /* prach-RACH-Info-LCR */
-   stat = asn1PE_UMTS_PRACH_RACH_Info_LCR_r4(ctx, &pvalue->prach_RACH_Info_LCR);
-   RT_CHECK(ctx, stat, 0, "prach-RACH-Info-LCR", -1, "PRACH-SystemInformation-LCR-r4");
-   /* rach-TransportFormatSet-LCR */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_TransportFormatSet_LCR(ctx, &pvalue->rach_TransportFormatSet_LCR);
-      RT_CHECK(ctx, stat, 0, "rach-TransportFormatSet-LCR", -1, "PRACH-SystemInformation-LCR-r4");
-   }
-   /* prach-Partitioning-LCR */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_PRACH_Partitioning_LCR_r4(ctx, &pvalue->prach_Partitioning_LCR);
-      RT_CHECK(ctx, stat, 0, "prach-Partitioning-LCR", -1, "PRACH-SystemInformation-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_SystemInformationList_LCR_r4(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformationList_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-SystemInformationList-LCR-r4");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PRACH-SystemInformationList-LCR-r4");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PRACH-SystemInformation-LCR-r4", (int32_t)i, "PRACH-SystemInformationList-LCR-r4");
-      stat = asn1PE_UMTS_PRACH_SystemInformation_LCR_r4(ctx, (const PRACH_SystemInformation_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat, 0, "PRACH-SystemInformation-LCR-r4", (int32_t)i, "PRACH-SystemInformationList-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IndividualTimeslotInfo_LCR_r4_modulation(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4_modulation value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_IndividualTimeslotInfo_LCR_r4_ss_TPC_Symbols(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4_ss_TPC_Symbols value)
-{
-   int stat = 0;
-   if (value > 2) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_IndividualTimeslotInfo_LCR_r4(rtxContext* RT_RESTRICT ctx, const IndividualTimeslotInfo_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IndividualTimeslotInfo-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IndividualTimeslotInfo-LCR-r4");
-   /* timeslotNumber */
-   if ((uint64_t)pvalue->timeslotNumber > 6u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "IndividualTimeslotInfo-LCR-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "IndividualTimeslotInfo-LCR-r4");
-   /* tfci-Existence */
-   stat = rtxEncBit(ctx, pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, "IndividualTimeslotInfo-LCR-r4");
-   /* midambleShiftAndBurstType */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "IndividualTimeslotInfo-LCR-r4");
-   /* modulation */
-   if (pvalue->modulation > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->modulation);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "modulation", -1, "IndividualTimeslotInfo-LCR-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->modulation, 0, 1);
-   RT_CHECK(ctx, stat, 0, "modulation", -1, "IndividualTimeslotInfo-LCR-r4");
-   /* ss-TPC-Symbols */
-   if (pvalue->ss_TPC_Symbols > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->ss_TPC_Symbols);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "ss-TPC-Symbols", -1, "IndividualTimeslotInfo-LCR-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ss_TPC_Symbols, 0, 2);
-   RT_CHECK(ctx, stat, 0, "ss-TPC-Symbols", -1, "IndividualTimeslotInfo-LCR-r4");
-   /* additionalSS-TPC-Symbols */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->additionalSS_TPC_Symbols - 1) > 14u) {
-         rtxErrAddStrParm(ctx, "additionalSS-TPC-Symbols");
-         rtxErrAddUIntParm(ctx, pvalue->additionalSS_TPC_Symbols);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "additionalSS-TPC-Symbols", -1, "IndividualTimeslotInfo-LCR-r4");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->additionalSS_TPC_Symbols, 1, 15);
-      RT_CHECK(ctx, stat, 0, "additionalSS-TPC-Symbols", -1, "IndividualTimeslotInfo-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_consecutive(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_consecutive* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* numAdditionalTimeslots */
-   if ((uint64_t)(pvalue->numAdditionalTimeslots - 1) > 4u) {
-      rtxErrAddStrParm(ctx, "numAdditionalTimeslots");
-      rtxErrAddUIntParm(ctx, pvalue->numAdditionalTimeslots);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "numAdditionalTimeslots", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->numAdditionalTimeslots, 1, 5);
-   RT_CHECK(ctx, stat, 0, "numAdditionalTimeslots", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* timeslotNumber */
    if ((uint64_t)pvalue->timeslotNumber > 14u) {
       rtxErrAddStrParm(ctx, "TimeslotNumber");
       rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, 0);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslotNumber, 0, 14);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber", "timeslotNumber", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r4_parameters_newParameters(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_LCR_r4_parameters_newParameters* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DownlinkAdditionalTimeslots_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_parameters_sameAsLast* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DownlinkAdditionalTimeslots_parameters_sameAsLast, pvalue);
+}
+
+RT_MERGED_BODY int enc_DownlinkAdditionalTimeslots_parameters_newParameters(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_parameters_newParameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* individualTimeslotInfo */
-   stat = asn1PE_UMTS_IndividualTimeslotInfo_LCR_r4(ctx, &pvalue->individualTimeslotInfo);
+   stat = enc_IndividualTimeslotInfo(ctx, &pvalue->individualTimeslotInfo, cur);
    RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
-   /* ul-TS-ChannelisationCodeList */
-   stat = asn1PE_UMTS_UL_TS_ChannelisationCodeList(ctx, &pvalue->ul_TS_ChannelisationCodeList);
-   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, 0);
+   /* dl-TS-ChannelisationCodesShort */
+   stat = enc_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort, cur);
+   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r4_parameters(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_LCR_r4_parameters* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DownlinkAdditionalTimeslots_parameters_newParameters(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_parameters_newParameters* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DownlinkAdditionalTimeslots_parameters_newParameters, pvalue);
+}
+
+RT_MERGED_BODY int enc_DownlinkAdditionalTimeslots_parameters(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_parameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.sameAsLast == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sameAsLast", -1, 0);
-         stat = asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast(ctx, pvalue->u.sameAsLast);
+         if (pvalue->u.sameAsLast == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "sameAsLast", -1, 0);
+         stat = enc_DownlinkAdditionalTimeslots_parameters_sameAsLast(ctx, pvalue->u.sameAsLast, cur);
          RT_CHECK(ctx, stat, 0, "sameAsLast", -1, 0);
          break;
       case 2:
-         if (pvalue->u.newParameters == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "newParameters", -1, 0);
-         stat = asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r4_parameters_newParameters(ctx, pvalue->u.newParameters);
+         if (pvalue->u.newParameters == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "newParameters", -1, 0);
+         stat = enc_DownlinkAdditionalTimeslots_parameters_newParameters(ctx, pvalue->u.newParameters, cur);
          RT_CHECK(ctx, stat, 0, "newParameters", -1, 0);
          break;
       default:
@@ -2263,50 +1523,3902 @@ int asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r4_parameters(rtxContext* RT_RESTR
    return 0;
 }
 
-int asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r4(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_LCR_r4* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DownlinkAdditionalTimeslots_parameters(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_parameters* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DownlinkAdditionalTimeslots_parameters, pvalue);
+}
+
+RT_MERGED_BODY int enc_DownlinkAdditionalTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UplinkAdditionalTimeslots-LCR-r4");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DownlinkAdditionalTimeslots");
    /* parameters */
-   stat = asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r4_parameters(ctx, &pvalue->parameters);
+   stat = enc_DownlinkAdditionalTimeslots_parameters(ctx, &pvalue->parameters, cur);
+   RT_CHECK(ctx, stat, 0, "parameters", -1, "DownlinkAdditionalTimeslots");
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkAdditionalTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DownlinkAdditionalTimeslots, pvalue);
+}
+
+RT_MERGED_BODY int enc_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 13);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DownlinkAdditionalTimeslots", (int32_t)i, 0);
+      stat = enc_DownlinkAdditionalTimeslots(ctx, (const DownlinkAdditionalTimeslots*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DownlinkAdditionalTimeslots", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList, pvalue);
+}
+
+RT_MERGED_BODY int enc_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)(pvalue->u.consecutive - 1) > 12u) {
+            rtxErrAddStrParm(ctx, "consecutive");
+            rtxErrAddUIntParm(ctx, pvalue->u.consecutive);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "consecutive", -1, 0);
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.consecutive, 1, 13);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "consecutive", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.timeslotList == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "timeslotList", -1, 0);
+         stat = enc_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList, cur);
+         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots, pvalue);
+}
+
+RT_MERGED_BODY int enc_DownlinkTimeslotsCodes_moreTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_moreTimeslots* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.additionalTimeslots == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "additionalTimeslots", -1, 0);
+         stat = enc_DownlinkTimeslotsCodes_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots, cur);
+         RT_CHECK(ctx, stat, 0, "additionalTimeslots", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkTimeslotsCodes_moreTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_moreTimeslots* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DownlinkTimeslotsCodes_moreTimeslots, pvalue);
+}
+
+static int enc_DownlinkTimeslotsCodes(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DownlinkTimeslotsCodes");
+   /* firstIndividualTimeslotInfo */
+   stat = enc_IndividualTimeslotInfo(ctx, &pvalue->firstIndividualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "DownlinkTimeslotsCodes");
+   /* dl-TS-ChannelisationCodesShort */
+   stat = enc_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort, cur);
+   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, "DownlinkTimeslotsCodes");
+   /* moreTimeslots */
+   stat = enc_DownlinkTimeslotsCodes_moreTimeslots(ctx, &pvalue->moreTimeslots, cur);
+   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "DownlinkTimeslotsCodes");
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkTimeslotsCodes(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DownlinkTimeslotsCodes, pvalue);
+}
+
+static int enc_PDSCH_Info(rtxContext* RT_RESTRICT ctx, const PDSCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-Info");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->tfcs_ID != 1) << 2) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PDSCH-Info");
+   /* tfcs-ID */
+   if (pvalue->tfcs_ID != 1) {
+      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
+         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
+         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "PDSCH-Info");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PDSCH-Info");
+   }
+   /* commonTimeslotInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo, cur);
+      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "PDSCH-Info");
+   }
+   /* pdsch-TimeslotsCodes */
+   if (pvalue->m & 0x2u) {
+      stat = enc_DownlinkTimeslotsCodes(ctx, &pvalue->pdsch_TimeslotsCodes, cur);
+      RT_CHECK(ctx, stat, 0, "pdsch-TimeslotsCodes", -1, "PDSCH-Info");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_Info(rtxContext* RT_RESTRICT ctx, const PDSCH_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDSCH_SysInfo(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-SysInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PDSCH-SysInfo");
+   /* pdsch-Identity */
+   if ((uint64_t)(pvalue->pdsch_Identity - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "PDSCH-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->pdsch_Identity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PDSCH-Identity", "pdsch-Identity", -1, "PDSCH-SysInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pdsch_Identity, 1, 64);
+   RT_CHECK_PUT(ctx, cur, stat, "PDSCH-Identity", "pdsch-Identity", -1, "PDSCH-SysInfo");
+   /* pdsch-Info */
+   stat = enc_PDSCH_Info(ctx, &pvalue->pdsch_Info, cur);
+   RT_CHECK(ctx, stat, 0, "pdsch-Info", -1, "PDSCH-SysInfo");
+   /* dsch-TFS */
+   if (pvalue->m & 0x1u) {
+      stat = enc_TransportFormatSet(ctx, &pvalue->dsch_TFS, cur);
+      RT_CHECK(ctx, stat, 0, "dsch-TFS", -1, "PDSCH-SysInfo");
+   }
+   /* dsch-TFCS */
+   if (pvalue->m & 0x2u) {
+      stat = enc_TFCS(ctx, &pvalue->dsch_TFCS, cur);
+      RT_CHECK(ctx, stat, 0, "dsch-TFCS", -1, "PDSCH-SysInfo");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_SysInfo(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_SysInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDSCH_SysInfoList_SFN_element(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList_SFN_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pdsch-SysInfo */
+   stat = enc_PDSCH_SysInfo(ctx, &pvalue->pdsch_SysInfo, cur);
+   RT_CHECK(ctx, stat, 0, "pdsch-SysInfo", -1, 0);
+   /* sfn-TimeInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "sfn-TimeInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_SysInfoList_SFN_element(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList_SFN_element* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_SysInfoList_SFN_element, pvalue);
+}
+
+static int enc_PDSCH_SysInfoList_SFN(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList_SFN* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-SysInfoList-SFN");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "PDSCH-SysInfoList-SFN");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "PDSCH-SysInfoList-SFN");
+      stat = enc_PDSCH_SysInfoList_SFN_element(ctx, (const PDSCH_SysInfoList_SFN_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PDSCH-SysInfoList-SFN");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_SysInfoList_SFN(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList_SFN* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_SysInfoList_SFN, pvalue);
+}
+
+RT_MERGED_BODY int enc_PrimaryCCPCH_TX_Power(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_TX_Power value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 6) > 37u) {
+      rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "PrimaryCCPCH-TX-Power");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 6, 43);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PrimaryCCPCH-TX-Power");
+   return 0;
+}
+
+int asn1PE_UMTS_PrimaryCCPCH_TX_Power(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_TX_Power value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PrimaryCCPCH_TX_Power, value);
+}
+
+RT_MERGED_BODY int enc_Alpha(rtxContext* RT_RESTRICT ctx, Alpha value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 8u) {
+      rtxErrAddStrParm(ctx, "Alpha");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "Alpha");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Alpha");
+   return 0;
+}
+
+int asn1PE_UMTS_Alpha(rtxContext* RT_RESTRICT ctx, Alpha value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Alpha, value);
+}
+
+RT_MERGED_BODY int enc_ConstantValueTdd(rtxContext* RT_RESTRICT ctx, ConstantValueTdd value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value < -35 || value > 10) {
+      rtxErrAddStrParm(ctx, "ConstantValueTdd");
+      rtxErrAddIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "ConstantValueTdd");
+   }
+   stat = pe_ConsInt64At(ctx, cur, value, -35, 10);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ConstantValueTdd");
+   return 0;
+}
+
+int asn1PE_UMTS_ConstantValueTdd(rtxContext* RT_RESTRICT ctx, ConstantValueTdd value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ConstantValueTdd, value);
+}
+
+RT_MERGED_BODY int enc_OpenLoopPowerControl_TDD(rtxContext* RT_RESTRICT ctx, const OpenLoopPowerControl_TDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "OpenLoopPowerControl-TDD");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "OpenLoopPowerControl-TDD");
+   /* primaryCCPCH-TX-Power */
+   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+      rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "OpenLoopPowerControl-TDD");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK_PUT(ctx, cur, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "OpenLoopPowerControl-TDD");
+   /* alpha */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->alpha > 8u) {
+         rtxErrAddStrParm(ctx, "Alpha");
+         rtxErrAddUIntParm(ctx, pvalue->alpha);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Alpha", "alpha", -1, "OpenLoopPowerControl-TDD");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->alpha, 0, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "Alpha", "alpha", -1, "OpenLoopPowerControl-TDD");
+   }
+   /* prach-ConstantValue */
+   if (pvalue->prach_ConstantValue < -35 || pvalue->prach_ConstantValue > 10) {
+      rtxErrAddStrParm(ctx, "ConstantValueTdd");
+      rtxErrAddIntParm(ctx, pvalue->prach_ConstantValue);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ConstantValueTdd", "prach-ConstantValue", -1, "OpenLoopPowerControl-TDD");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->prach_ConstantValue, -35, 10);
+   RT_CHECK_PUT(ctx, cur, stat, "ConstantValueTdd", "prach-ConstantValue", -1, "OpenLoopPowerControl-TDD");
+   /* dpch-ConstantValue */
+   if (pvalue->dpch_ConstantValue < -35 || pvalue->dpch_ConstantValue > 10) {
+      rtxErrAddStrParm(ctx, "ConstantValueTdd");
+      rtxErrAddIntParm(ctx, pvalue->dpch_ConstantValue);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ConstantValueTdd", "dpch-ConstantValue", -1, "OpenLoopPowerControl-TDD");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->dpch_ConstantValue, -35, 10);
+   RT_CHECK_PUT(ctx, cur, stat, "ConstantValueTdd", "dpch-ConstantValue", -1, "OpenLoopPowerControl-TDD");
+   /* pusch-ConstantValue */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->pusch_ConstantValue < -35 || pvalue->pusch_ConstantValue > 10) {
+         rtxErrAddStrParm(ctx, "ConstantValueTdd");
+         rtxErrAddIntParm(ctx, pvalue->pusch_ConstantValue);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ConstantValueTdd", "pusch-ConstantValue", -1, "OpenLoopPowerControl-TDD");
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->pusch_ConstantValue, -35, 10);
+      RT_CHECK_PUT(ctx, cur, stat, "ConstantValueTdd", "pusch-ConstantValue", -1, "OpenLoopPowerControl-TDD");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_OpenLoopPowerControl_TDD(rtxContext* RT_RESTRICT ctx, const OpenLoopPowerControl_TDD* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_OpenLoopPowerControl_TDD, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType5_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const SysInfoType5_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pusch-SysInfoList-SFN */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PUSCH_SysInfoList_SFN(ctx, &pvalue->pusch_SysInfoList_SFN, cur);
+      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
+   }
+   /* pdsch-SysInfoList-SFN */
+   if (pvalue->m & 0x2u) {
+      stat = enc_PDSCH_SysInfoList_SFN(ctx, &pvalue->pdsch_SysInfoList_SFN, cur);
+      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
+   }
+   /* openLoopPowerControl-TDD */
+   stat = enc_OpenLoopPowerControl_TDD(ctx, &pvalue->openLoopPowerControl_TDD, cur);
+   RT_CHECK(ctx, stat, 0, "openLoopPowerControl-TDD", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType5_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const SysInfoType5_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType5_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType5_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_SysInfoType5_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_SysInfoType5_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType5_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType5_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_PrimaryCCPCH_Info_fdd(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tx-DiversityIndicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->tx_DiversityIndicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tx-DiversityIndicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PrimaryCCPCH_Info_fdd(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PrimaryCCPCH_Info_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_PrimaryCCPCH_Info_tdd_syncCase_syncCase1(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_tdd_syncCase_syncCase1* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* timeslot */
+   if ((uint64_t)pvalue->timeslot > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeslot);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber", "timeslot", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslot, 0, 14);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber", "timeslot", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PrimaryCCPCH_Info_tdd_syncCase_syncCase1(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_tdd_syncCase_syncCase1* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PrimaryCCPCH_Info_tdd_syncCase_syncCase1, pvalue);
+}
+
+RT_MERGED_BODY int enc_TimeslotSync2(rtxContext* RT_RESTRICT ctx, TimeslotSync2 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 6u) {
+      rtxErrAddStrParm(ctx, "TimeslotSync2");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "TimeslotSync2");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TimeslotSync2");
+   return 0;
+}
+
+int asn1PE_UMTS_TimeslotSync2(rtxContext* RT_RESTRICT ctx, TimeslotSync2 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TimeslotSync2, value);
+}
+
+RT_MERGED_BODY int enc_PrimaryCCPCH_Info_tdd_syncCase_syncCase2(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_tdd_syncCase_syncCase2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* timeslotSync2 */
+   if ((uint64_t)pvalue->timeslotSync2 > 6u) {
+      rtxErrAddStrParm(ctx, "TimeslotSync2");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotSync2);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotSync2", "timeslotSync2", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslotSync2, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotSync2", "timeslotSync2", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PrimaryCCPCH_Info_tdd_syncCase_syncCase2(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_tdd_syncCase_syncCase2* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PrimaryCCPCH_Info_tdd_syncCase_syncCase2, pvalue);
+}
+
+RT_MERGED_BODY int enc_PrimaryCCPCH_Info_tdd_syncCase(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_tdd_syncCase* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.syncCase1 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "syncCase1", -1, 0);
+         stat = enc_PrimaryCCPCH_Info_tdd_syncCase_syncCase1(ctx, pvalue->u.syncCase1, cur);
+         RT_CHECK(ctx, stat, 0, "syncCase1", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.syncCase2 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "syncCase2", -1, 0);
+         stat = enc_PrimaryCCPCH_Info_tdd_syncCase_syncCase2(ctx, pvalue->u.syncCase2, cur);
+         RT_CHECK(ctx, stat, 0, "syncCase2", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PrimaryCCPCH_Info_tdd_syncCase(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_tdd_syncCase* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PrimaryCCPCH_Info_tdd_syncCase, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellParametersID(rtxContext* RT_RESTRICT ctx, CellParametersID value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 127u) {
+      rtxErrAddStrParm(ctx, "CellParametersID");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "CellParametersID");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 127);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CellParametersID");
+   return 0;
+}
+
+int asn1PE_UMTS_CellParametersID(rtxContext* RT_RESTRICT ctx, CellParametersID value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellParametersID, value);
+}
+
+RT_MERGED_BODY int enc_PrimaryCCPCH_Info_tdd(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* syncCase */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PrimaryCCPCH_Info_tdd_syncCase(ctx, &pvalue->syncCase, cur);
+      RT_CHECK(ctx, stat, 0, "syncCase", -1, 0);
+   }
+   /* cellParametersID */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->cellParametersID > 127u) {
+         rtxErrAddStrParm(ctx, "CellParametersID");
+         rtxErrAddUIntParm(ctx, pvalue->cellParametersID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellParametersID", "cellParametersID", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->cellParametersID, 0, 127);
+      RT_CHECK_PUT(ctx, cur, stat, "CellParametersID", "cellParametersID", -1, 0);
+   }
+   /* sctd-Indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->sctd_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sctd-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PrimaryCCPCH_Info_tdd(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PrimaryCCPCH_Info_tdd, pvalue);
+}
+
+static int enc_PrimaryCCPCH_Info(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PrimaryCCPCH-Info");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "PrimaryCCPCH-Info");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "PrimaryCCPCH-Info");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, "PrimaryCCPCH-Info");
+         stat = enc_PrimaryCCPCH_Info_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "PrimaryCCPCH-Info");
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, "PrimaryCCPCH-Info");
+         stat = enc_PrimaryCCPCH_Info_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "PrimaryCCPCH-Info");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PrimaryCCPCH_Info(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PrimaryCCPCH_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_AvailableSignatures(rtxContext* RT_RESTRICT ctx, AvailableSignatures value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   {
+      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
+      uint32_t used = (uint32_t)(last + 1);
+      value.numbits = used <= 16 ? 16 : used;
+      if (last < -1) RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "AvailableSignatures");
+   }
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &value, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "AvailableSignatures");
+   return 0;
+}
+
+int asn1PE_UMTS_AvailableSignatures(rtxContext* RT_RESTRICT ctx, AvailableSignatures value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AvailableSignatures, value);
+}
+
+RT_MERGED_BODY int enc_SF_PRACH(rtxContext* RT_RESTRICT ctx, SF_PRACH value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "SF-PRACH");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SF-PRACH");
+   return 0;
+}
+
+int asn1PE_UMTS_SF_PRACH(rtxContext* RT_RESTRICT ctx, SF_PRACH value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SF_PRACH, value);
+}
+
+RT_MERGED_BODY int enc_PreambleScramblingCodeWordNumber(rtxContext* RT_RESTRICT ctx, PreambleScramblingCodeWordNumber value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 15u) {
+      rtxErrAddStrParm(ctx, "PreambleScramblingCodeWordNumber");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "PreambleScramblingCodeWordNumber");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PreambleScramblingCodeWordNumber");
+   return 0;
+}
+
+int asn1PE_UMTS_PreambleScramblingCodeWordNumber(rtxContext* RT_RESTRICT ctx, PreambleScramblingCodeWordNumber value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PreambleScramblingCodeWordNumber, value);
+}
+
+RT_MERGED_BODY int enc_AvailableSubChannelNumbers(rtxContext* RT_RESTRICT ctx, AvailableSubChannelNumbers value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   {
+      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
+      uint32_t used = (uint32_t)(last + 1);
+      value.numbits = used <= 12 ? 12 : used;
+      if (last < -1) RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "AvailableSubChannelNumbers");
+   }
+   RT_SET_SIZE(ctx, 12, 12);
+   stat = pe_BitString32At(ctx, cur, &value, 12, 12);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "AvailableSubChannelNumbers");
+   return 0;
+}
+
+int asn1PE_UMTS_AvailableSubChannelNumbers(rtxContext* RT_RESTRICT ctx, AvailableSubChannelNumbers value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AvailableSubChannelNumbers, value);
+}
+
+RT_MERGED_BODY int enc_PRACH_RACH_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const PRACH_RACH_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* availableSignatures */
+   stat = enc_AvailableSignatures(ctx, pvalue->availableSignatures, cur);
+   RT_CHECK(ctx, stat, 0, "availableSignatures", -1, 0);
+   /* availableSF */
+   if (pvalue->availableSF > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->availableSF);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "SF-PRACH", "availableSF", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->availableSF, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "SF-PRACH", "availableSF", -1, 0);
+   /* preambleScramblingCodeWordNumber */
+   if ((uint64_t)pvalue->preambleScramblingCodeWordNumber > 15u) {
+      rtxErrAddStrParm(ctx, "PreambleScramblingCodeWordNumber");
+      rtxErrAddUIntParm(ctx, pvalue->preambleScramblingCodeWordNumber);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PreambleScramblingCodeWordNumber", "preambleScramblingCodeWordNumber", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->preambleScramblingCodeWordNumber, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "PreambleScramblingCodeWordNumber", "preambleScramblingCodeWordNumber", -1, 0);
+   /* puncturingLimit */
+   if (pvalue->puncturingLimit > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->puncturingLimit);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PuncturingLimit", "puncturingLimit", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->puncturingLimit, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "PuncturingLimit", "puncturingLimit", -1, 0);
+   /* availableSubChannelNumbers */
+   stat = enc_AvailableSubChannelNumbers(ctx, pvalue->availableSubChannelNumbers, cur);
+   RT_CHECK(ctx, stat, 0, "availableSubChannelNumbers", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_RACH_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const PRACH_RACH_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PRACH_RACH_Info_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_TDD_PRACH_CCode8(rtxContext* RT_RESTRICT ctx, TDD_PRACH_CCode8 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TDD-PRACH-CCode8");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TDD-PRACH-CCode8");
+   return 0;
+}
+
+int asn1PE_UMTS_TDD_PRACH_CCode8(rtxContext* RT_RESTRICT ctx, TDD_PRACH_CCode8 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TDD_PRACH_CCode8, value);
+}
+
+RT_MERGED_BODY int enc_TDD_PRACH_CCodeList_sf8(rtxContext* RT_RESTRICT ctx, const TDD_PRACH_CCodeList_sf8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TDD-PRACH-CCode8", "TDD-PRACH-CCode8", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "TDD-PRACH-CCode8", "TDD-PRACH-CCode8", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TDD_PRACH_CCodeList_sf8(rtxContext* RT_RESTRICT ctx, const TDD_PRACH_CCodeList_sf8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TDD_PRACH_CCodeList_sf8, pvalue);
+}
+
+RT_MERGED_BODY int enc_TDD_PRACH_CCode16(rtxContext* RT_RESTRICT ctx, TDD_PRACH_CCode16 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TDD-PRACH-CCode16");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TDD-PRACH-CCode16");
+   return 0;
+}
+
+int asn1PE_UMTS_TDD_PRACH_CCode16(rtxContext* RT_RESTRICT ctx, TDD_PRACH_CCode16 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TDD_PRACH_CCode16, value);
+}
+
+RT_MERGED_BODY int enc_TDD_PRACH_CCodeList_sf16(rtxContext* RT_RESTRICT ctx, const TDD_PRACH_CCodeList_sf16* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TDD-PRACH-CCode16", "TDD-PRACH-CCode16", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "TDD-PRACH-CCode16", "TDD-PRACH-CCode16", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TDD_PRACH_CCodeList_sf16(rtxContext* RT_RESTRICT ctx, const TDD_PRACH_CCodeList_sf16* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TDD_PRACH_CCodeList_sf16, pvalue);
+}
+
+RT_MERGED_BODY int enc_TDD_PRACH_CCodeList(rtxContext* RT_RESTRICT ctx, const TDD_PRACH_CCodeList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TDD-PRACH-CCodeList");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "TDD-PRACH-CCodeList");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "TDD-PRACH-CCodeList");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.sf8 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "sf8", -1, "TDD-PRACH-CCodeList");
+         stat = enc_TDD_PRACH_CCodeList_sf8(ctx, pvalue->u.sf8, cur);
+         RT_CHECK(ctx, stat, 0, "sf8", -1, "TDD-PRACH-CCodeList");
+         break;
+      case 2:
+         if (pvalue->u.sf16 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "sf16", -1, "TDD-PRACH-CCodeList");
+         stat = enc_TDD_PRACH_CCodeList_sf16(ctx, pvalue->u.sf16, cur);
+         RT_CHECK(ctx, stat, 0, "sf16", -1, "TDD-PRACH-CCodeList");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TDD_PRACH_CCodeList(rtxContext* RT_RESTRICT ctx, const TDD_PRACH_CCodeList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TDD_PRACH_CCodeList, pvalue);
+}
+
+RT_MERGED_BODY int enc_PRACH_Midamble(rtxContext* RT_RESTRICT ctx, PRACH_Midamble value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "PRACH-Midamble");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PRACH-Midamble");
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_Midamble(rtxContext* RT_RESTRICT ctx, PRACH_Midamble value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PRACH_Midamble, value);
+}
+
+RT_MERGED_BODY int enc_PRACH_RACH_Info_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const PRACH_RACH_Info_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* timeslot */
+   if ((uint64_t)pvalue->timeslot > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeslot);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber", "timeslot", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslot, 0, 14);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber", "timeslot", -1, 0);
+   /* channelisationCodeList */
+   stat = enc_TDD_PRACH_CCodeList(ctx, &pvalue->channelisationCodeList, cur);
+   RT_CHECK(ctx, stat, 0, "channelisationCodeList", -1, 0);
+   /* prach-Midamble */
+   if (pvalue->prach_Midamble > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->prach_Midamble);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PRACH-Midamble", "prach-Midamble", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->prach_Midamble, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "PRACH-Midamble", "prach-Midamble", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_RACH_Info_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const PRACH_RACH_Info_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PRACH_RACH_Info_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_PRACH_RACH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const PRACH_RACH_Info_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_PRACH_RACH_Info_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_PRACH_RACH_Info_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_RACH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const PRACH_RACH_Info_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PRACH_RACH_Info_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_PRACH_RACH_Info(rtxContext* RT_RESTRICT ctx, const PRACH_RACH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-RACH-Info");
+   /* modeSpecificInfo */
+   stat = enc_PRACH_RACH_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "PRACH-RACH-Info");
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_RACH_Info(rtxContext* RT_RESTRICT ctx, const PRACH_RACH_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PRACH_RACH_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_TransportChannelIdentity(rtxContext* RT_RESTRICT ctx, TransportChannelIdentity value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "TransportChannelIdentity");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TransportChannelIdentity");
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelIdentity(rtxContext* RT_RESTRICT ctx, TransportChannelIdentity value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TransportChannelIdentity, value);
+}
+
+RT_MERGED_BODY int enc_AccessServiceClass_FDD_assignedSubChannelNumber(rtxContext* RT_RESTRICT ctx, AccessServiceClass_FDD_assignedSubChannelNumber value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   {
+      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
+      uint32_t used = (uint32_t)(last + 1);
+      value.numbits = used <= 4 ? 4 : used;
+      if (last < -1) RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+   }
+   RT_SET_SIZE(ctx, 4, 4);
+   stat = pe_BitString32At(ctx, cur, &value, 4, 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_AccessServiceClass_FDD_assignedSubChannelNumber(rtxContext* RT_RESTRICT ctx, AccessServiceClass_FDD_assignedSubChannelNumber value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AccessServiceClass_FDD_assignedSubChannelNumber, value);
+}
+
+RT_MERGED_BODY int enc_AccessServiceClass_FDD(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_FDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "AccessServiceClass-FDD");
+   /* availableSignatureStartIndex */
+   if ((uint64_t)pvalue->availableSignatureStartIndex > 15u) {
+      rtxErrAddStrParm(ctx, "availableSignatureStartIndex");
+      rtxErrAddUIntParm(ctx, pvalue->availableSignatureStartIndex);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "availableSignatureStartIndex", -1, "AccessServiceClass-FDD");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->availableSignatureStartIndex, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "availableSignatureStartIndex", -1, "AccessServiceClass-FDD");
+   /* availableSignatureEndIndex */
+   if ((uint64_t)pvalue->availableSignatureEndIndex > 15u) {
+      rtxErrAddStrParm(ctx, "availableSignatureEndIndex");
+      rtxErrAddUIntParm(ctx, pvalue->availableSignatureEndIndex);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "availableSignatureEndIndex", -1, "AccessServiceClass-FDD");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->availableSignatureEndIndex, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "availableSignatureEndIndex", -1, "AccessServiceClass-FDD");
+   /* assignedSubChannelNumber */
+   stat = enc_AccessServiceClass_FDD_assignedSubChannelNumber(ctx, pvalue->assignedSubChannelNumber, cur);
+   RT_CHECK(ctx, stat, 0, "assignedSubChannelNumber", -1, "AccessServiceClass-FDD");
+   return 0;
+}
+
+int asn1PE_UMTS_AccessServiceClass_FDD(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_FDD* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AccessServiceClass_FDD, pvalue);
+}
+
+RT_MERGED_BODY int enc_ASCSetting_FDD(rtxContext* RT_RESTRICT ctx, const ASCSetting_FDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ASCSetting-FDD");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ASCSetting-FDD");
+   /* accessServiceClass-FDD */
+   if (pvalue->m & 0x1u) {
+      stat = enc_AccessServiceClass_FDD(ctx, &pvalue->accessServiceClass_FDD, cur);
+      RT_CHECK(ctx, stat, 0, "accessServiceClass-FDD", -1, "ASCSetting-FDD");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ASCSetting_FDD(rtxContext* RT_RESTRICT ctx, const ASCSetting_FDD* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ASCSetting_FDD, pvalue);
+}
+
+RT_MERGED_BODY int enc_PRACH_Partitioning_fdd(rtxContext* RT_RESTRICT ctx, const PRACH_Partitioning_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ASCSetting-FDD", (int32_t)i, 0);
+      stat = enc_ASCSetting_FDD(ctx, (const ASCSetting_FDD*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "ASCSetting-FDD", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_Partitioning_fdd(rtxContext* RT_RESTRICT ctx, const PRACH_Partitioning_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PRACH_Partitioning_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_channelisationCodeIndices(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_channelisationCodeIndices value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   {
+      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
+      uint32_t used = (uint32_t)(last + 1);
+      value.numbits = used <= 8 ? 8 : used;
+      if (last < -1) RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+   }
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32At(ctx, cur, &value, 8, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_AccessServiceClass_TDD_channelisationCodeIndices(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_channelisationCodeIndices value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AccessServiceClass_TDD_channelisationCodeIndices, value);
+}
+
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_subchannelSize_size2_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize_size2_subchannels value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize_size2_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize_size2_subchannels value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AccessServiceClass_TDD_subchannelSize_size2_subchannels, value);
+}
+
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_subchannelSize_size2(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_subchannelSize_size2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* subchannels */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->subchannels > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->subchannels);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "subchannels", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->subchannels, 0, 1);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "subchannels", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize_size2(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_subchannelSize_size2* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AccessServiceClass_TDD_subchannelSize_size2, pvalue);
+}
+
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_subchannelSize_size4_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize_size4_subchannels value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   {
+      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
+      uint32_t used = (uint32_t)(last + 1);
+      value.numbits = used <= 4 ? 4 : used;
+      if (last < -1) RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+   }
+   RT_SET_SIZE(ctx, 4, 4);
+   stat = pe_BitString32At(ctx, cur, &value, 4, 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize_size4_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize_size4_subchannels value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AccessServiceClass_TDD_subchannelSize_size4_subchannels, value);
+}
+
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_subchannelSize_size4(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_subchannelSize_size4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* subchannels */
+   if (pvalue->m & 0x1u) {
+      stat = enc_AccessServiceClass_TDD_subchannelSize_size4_subchannels(ctx, pvalue->subchannels, cur);
+      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize_size4(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_subchannelSize_size4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AccessServiceClass_TDD_subchannelSize_size4, pvalue);
+}
+
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_subchannelSize_size8_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize_size8_subchannels value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   {
+      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
+      uint32_t used = (uint32_t)(last + 1);
+      value.numbits = used <= 8 ? 8 : used;
+      if (last < -1) RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+   }
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32At(ctx, cur, &value, 8, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize_size8_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_subchannelSize_size8_subchannels value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AccessServiceClass_TDD_subchannelSize_size8_subchannels, value);
+}
+
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_subchannelSize_size8(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_subchannelSize_size8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* subchannels */
+   if (pvalue->m & 0x1u) {
+      stat = enc_AccessServiceClass_TDD_subchannelSize_size8_subchannels(ctx, pvalue->subchannels, cur);
+      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize_size8(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_subchannelSize_size8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AccessServiceClass_TDD_subchannelSize_size8, pvalue);
+}
+
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_subchannelSize(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_subchannelSize* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 3) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.size2 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "size2", -1, 0);
+         stat = enc_AccessServiceClass_TDD_subchannelSize_size2(ctx, pvalue->u.size2, cur);
+         RT_CHECK(ctx, stat, 0, "size2", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.size4 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "size4", -1, 0);
+         stat = enc_AccessServiceClass_TDD_subchannelSize_size4(ctx, pvalue->u.size4, cur);
+         RT_CHECK(ctx, stat, 0, "size4", -1, 0);
+         break;
+      case 4:
+         if (pvalue->u.size8 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "size8", -1, 0);
+         stat = enc_AccessServiceClass_TDD_subchannelSize_size8(ctx, pvalue->u.size8, cur);
+         RT_CHECK(ctx, stat, 0, "size8", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AccessServiceClass_TDD_subchannelSize(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_subchannelSize* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AccessServiceClass_TDD_subchannelSize, pvalue);
+}
+
+RT_MERGED_BODY int enc_AccessServiceClass_TDD(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "AccessServiceClass-TDD");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "AccessServiceClass-TDD");
+   /* channelisationCodeIndices */
+   if (pvalue->m & 0x1u) {
+      stat = enc_AccessServiceClass_TDD_channelisationCodeIndices(ctx, pvalue->channelisationCodeIndices, cur);
+      RT_CHECK(ctx, stat, 0, "channelisationCodeIndices", -1, "AccessServiceClass-TDD");
+   }
+   /* subchannelSize */
+   stat = enc_AccessServiceClass_TDD_subchannelSize(ctx, &pvalue->subchannelSize, cur);
+   RT_CHECK(ctx, stat, 0, "subchannelSize", -1, "AccessServiceClass-TDD");
+   return 0;
+}
+
+int asn1PE_UMTS_AccessServiceClass_TDD(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AccessServiceClass_TDD, pvalue);
+}
+
+RT_MERGED_BODY int enc_ASCSetting_TDD(rtxContext* RT_RESTRICT ctx, const ASCSetting_TDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ASCSetting-TDD");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ASCSetting-TDD");
+   /* accessServiceClass-TDD */
+   if (pvalue->m & 0x1u) {
+      stat = enc_AccessServiceClass_TDD(ctx, &pvalue->accessServiceClass_TDD, cur);
+      RT_CHECK(ctx, stat, 0, "accessServiceClass-TDD", -1, "ASCSetting-TDD");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ASCSetting_TDD(rtxContext* RT_RESTRICT ctx, const ASCSetting_TDD* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ASCSetting_TDD, pvalue);
+}
+
+RT_MERGED_BODY int enc_PRACH_Partitioning_tdd(rtxContext* RT_RESTRICT ctx, const PRACH_Partitioning_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ASCSetting-TDD", (int32_t)i, 0);
+      stat = enc_ASCSetting_TDD(ctx, (const ASCSetting_TDD*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "ASCSetting-TDD", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_Partitioning_tdd(rtxContext* RT_RESTRICT ctx, const PRACH_Partitioning_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PRACH_Partitioning_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_PRACH_Partitioning(rtxContext* RT_RESTRICT ctx, const PRACH_Partitioning* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-Partitioning");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "PRACH-Partitioning");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "PRACH-Partitioning");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, "PRACH-Partitioning");
+         stat = enc_PRACH_Partitioning_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "PRACH-Partitioning");
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, "PRACH-Partitioning");
+         stat = enc_PRACH_Partitioning_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "PRACH-Partitioning");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_Partitioning(rtxContext* RT_RESTRICT ctx, const PRACH_Partitioning* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PRACH_Partitioning, pvalue);
+}
+
+RT_MERGED_BODY int enc_PersistenceScalingFactor(rtxContext* RT_RESTRICT ctx, PersistenceScalingFactor value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "PersistenceScalingFactor");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PersistenceScalingFactor");
+   return 0;
+}
+
+int asn1PE_UMTS_PersistenceScalingFactor(rtxContext* RT_RESTRICT ctx, PersistenceScalingFactor value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PersistenceScalingFactor, value);
+}
+
+RT_MERGED_BODY int enc_PersistenceScalingFactorList(rtxContext* RT_RESTRICT ctx, const PersistenceScalingFactorList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PersistenceScalingFactorList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 6);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "PersistenceScalingFactorList");
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PersistenceScalingFactor", "PersistenceScalingFactor", (int32_t)i, "PersistenceScalingFactorList");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "PersistenceScalingFactor", "PersistenceScalingFactor", (int32_t)i, "PersistenceScalingFactorList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PersistenceScalingFactorList(rtxContext* RT_RESTRICT ctx, const PersistenceScalingFactorList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PersistenceScalingFactorList, pvalue);
+}
+
+RT_MERGED_BODY int enc_AC_To_ASC_Mapping(rtxContext* RT_RESTRICT ctx, AC_To_ASC_Mapping value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 7u) {
+      rtxErrAddStrParm(ctx, "AC-To-ASC-Mapping");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "AC-To-ASC-Mapping");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "AC-To-ASC-Mapping");
+   return 0;
+}
+
+int asn1PE_UMTS_AC_To_ASC_Mapping(rtxContext* RT_RESTRICT ctx, AC_To_ASC_Mapping value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AC_To_ASC_Mapping, value);
+}
+
+RT_MERGED_BODY int enc_AC_To_ASC_MappingTable(rtxContext* RT_RESTRICT ctx, const AC_To_ASC_MappingTable* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "AC-To-ASC-MappingTable");
+   uint32_t i;
+   if (pvalue->n != 7) {
+      rtxErrAddStrParm(ctx, "AC-To-ASC-MappingTable");
+      rtxErrAddUIntParm(ctx, pvalue->n);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "AC-To-ASC-MappingTable");
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 7u) {
+         rtxErrAddStrParm(ctx, "AC-To-ASC-Mapping");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "AC-To-ASC-Mapping", "AC-To-ASC-Mapping", (int32_t)i, "AC-To-ASC-MappingTable");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "AC-To-ASC-Mapping", "AC-To-ASC-Mapping", (int32_t)i, "AC-To-ASC-MappingTable");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AC_To_ASC_MappingTable(rtxContext* RT_RESTRICT ctx, const AC_To_ASC_MappingTable* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AC_To_ASC_MappingTable, pvalue);
+}
+
+RT_MERGED_BODY int enc_PrimaryCPICH_TX_Power(rtxContext* RT_RESTRICT ctx, PrimaryCPICH_TX_Power value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value < -10 || value > 50) {
+      rtxErrAddStrParm(ctx, "PrimaryCPICH-TX-Power");
+      rtxErrAddIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "PrimaryCPICH-TX-Power");
+   }
+   stat = pe_ConsInt64At(ctx, cur, value, -10, 50);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PrimaryCPICH-TX-Power");
+   return 0;
+}
+
+int asn1PE_UMTS_PrimaryCPICH_TX_Power(rtxContext* RT_RESTRICT ctx, PrimaryCPICH_TX_Power value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PrimaryCPICH_TX_Power, value);
+}
+
+RT_MERGED_BODY int enc_ConstantValue(rtxContext* RT_RESTRICT ctx, ConstantValue value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value < -35 || value > -10) {
+      rtxErrAddStrParm(ctx, "ConstantValue");
+      rtxErrAddIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "ConstantValue");
+   }
+   stat = pe_ConsInt64At(ctx, cur, value, -35, -10);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ConstantValue");
+   return 0;
+}
+
+int asn1PE_UMTS_ConstantValue(rtxContext* RT_RESTRICT ctx, ConstantValue value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ConstantValue, value);
+}
+
+RT_MERGED_BODY int enc_PowerRampStep(rtxContext* RT_RESTRICT ctx, PowerRampStep value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "PowerRampStep");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "PowerRampStep");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PowerRampStep");
+   return 0;
+}
+
+int asn1PE_UMTS_PowerRampStep(rtxContext* RT_RESTRICT ctx, PowerRampStep value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PowerRampStep, value);
+}
+
+RT_MERGED_BODY int enc_PreambleRetransMax(rtxContext* RT_RESTRICT ctx, PreambleRetransMax value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "PreambleRetransMax");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "PreambleRetransMax");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 64);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PreambleRetransMax");
+   return 0;
+}
+
+int asn1PE_UMTS_PreambleRetransMax(rtxContext* RT_RESTRICT ctx, PreambleRetransMax value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PreambleRetransMax, value);
+}
+
+RT_MERGED_BODY int enc_PRACH_PowerOffset(rtxContext* RT_RESTRICT ctx, const PRACH_PowerOffset* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-PowerOffset");
+   /* powerRampStep */
+   if ((uint64_t)(pvalue->powerRampStep - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "PowerRampStep");
+      rtxErrAddUIntParm(ctx, pvalue->powerRampStep);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PowerRampStep", "powerRampStep", -1, "PRACH-PowerOffset");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->powerRampStep, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, "PowerRampStep", "powerRampStep", -1, "PRACH-PowerOffset");
+   /* preambleRetransMax */
+   if ((uint64_t)(pvalue->preambleRetransMax - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "PreambleRetransMax");
+      rtxErrAddUIntParm(ctx, pvalue->preambleRetransMax);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PreambleRetransMax", "preambleRetransMax", -1, "PRACH-PowerOffset");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->preambleRetransMax, 1, 64);
+   RT_CHECK_PUT(ctx, cur, stat, "PreambleRetransMax", "preambleRetransMax", -1, "PRACH-PowerOffset");
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_PowerOffset(rtxContext* RT_RESTRICT ctx, const PRACH_PowerOffset* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PRACH_PowerOffset, pvalue);
+}
+
+RT_MERGED_BODY int enc_NB01(rtxContext* RT_RESTRICT ctx, NB01 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 50u) {
+      rtxErrAddStrParm(ctx, "NB01");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "NB01");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 50);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NB01");
+   return 0;
+}
+
+int asn1PE_UMTS_NB01(rtxContext* RT_RESTRICT ctx, NB01 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NB01, value);
+}
+
+RT_MERGED_BODY int enc_RACH_TransmissionParameters(rtxContext* RT_RESTRICT ctx, const RACH_TransmissionParameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RACH-TransmissionParameters");
+   /* mmax */
+   if ((uint64_t)(pvalue->mmax - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "mmax");
+      rtxErrAddUIntParm(ctx, pvalue->mmax);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "mmax", -1, "RACH-TransmissionParameters");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->mmax, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "mmax", -1, "RACH-TransmissionParameters");
+   /* nb01Min */
+   if ((uint64_t)pvalue->nb01Min > 50u) {
+      rtxErrAddStrParm(ctx, "NB01");
+      rtxErrAddUIntParm(ctx, pvalue->nb01Min);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "NB01", "nb01Min", -1, "RACH-TransmissionParameters");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->nb01Min, 0, 50);
+   RT_CHECK_PUT(ctx, cur, stat, "NB01", "nb01Min", -1, "RACH-TransmissionParameters");
+   /* nb01Max */
+   if ((uint64_t)pvalue->nb01Max > 50u) {
+      rtxErrAddStrParm(ctx, "NB01");
+      rtxErrAddUIntParm(ctx, pvalue->nb01Max);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "NB01", "nb01Max", -1, "RACH-TransmissionParameters");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->nb01Max, 0, 50);
+   RT_CHECK_PUT(ctx, cur, stat, "NB01", "nb01Max", -1, "RACH-TransmissionParameters");
+   return 0;
+}
+
+int asn1PE_UMTS_RACH_TransmissionParameters(rtxContext* RT_RESTRICT ctx, const RACH_TransmissionParameters* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RACH_TransmissionParameters, pvalue);
+}
+
+RT_MERGED_BODY int enc_ChannelisationCode256(rtxContext* RT_RESTRICT ctx, ChannelisationCode256 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ChannelisationCode256");
+   return 0;
+}
+
+int asn1PE_UMTS_ChannelisationCode256(rtxContext* RT_RESTRICT ctx, ChannelisationCode256 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ChannelisationCode256, value);
+}
+
+RT_MERGED_BODY int enc_AICH_TransmissionTiming(rtxContext* RT_RESTRICT ctx, AICH_TransmissionTiming value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "AICH-TransmissionTiming");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "AICH-TransmissionTiming");
+   return 0;
+}
+
+int asn1PE_UMTS_AICH_TransmissionTiming(rtxContext* RT_RESTRICT ctx, AICH_TransmissionTiming value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AICH_TransmissionTiming, value);
+}
+
+RT_MERGED_BODY int enc_AICH_Info(rtxContext* RT_RESTRICT ctx, const AICH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "AICH-Info");
+   /* channelisationCode256 */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->channelisationCode256, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, "ChannelisationCode256", "channelisationCode256", -1, "AICH-Info");
+   /* sttd-Indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->sttd_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sttd-Indicator", -1, "AICH-Info");
+   /* aich-TransmissionTiming */
+   if (pvalue->aich_TransmissionTiming > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->aich_TransmissionTiming);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "AICH-TransmissionTiming", "aich-TransmissionTiming", -1, "AICH-Info");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->aich_TransmissionTiming, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "AICH-TransmissionTiming", "aich-TransmissionTiming", -1, "AICH-Info");
+   return 0;
+}
+
+int asn1PE_UMTS_AICH_Info(rtxContext* RT_RESTRICT ctx, const AICH_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AICH_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_PRACH_SystemInformation_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformation_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* primaryCPICH-TX-Power */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->primaryCPICH_TX_Power < -10 || pvalue->primaryCPICH_TX_Power > 50) {
+         rtxErrAddStrParm(ctx, "PrimaryCPICH-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->primaryCPICH_TX_Power);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->primaryCPICH_TX_Power, -10, 50);
+      RT_CHECK_PUT(ctx, cur, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
+   }
+   /* constantValue */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->constantValue < -35 || pvalue->constantValue > -10) {
+         rtxErrAddStrParm(ctx, "ConstantValue");
+         rtxErrAddIntParm(ctx, pvalue->constantValue);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ConstantValue", "constantValue", -1, 0);
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->constantValue, -35, -10);
+      RT_CHECK_PUT(ctx, cur, stat, "ConstantValue", "constantValue", -1, 0);
+   }
+   /* prach-PowerOffset */
+   if (pvalue->m & 0x4u) {
+      stat = enc_PRACH_PowerOffset(ctx, &pvalue->prach_PowerOffset, cur);
+      RT_CHECK(ctx, stat, 0, "prach-PowerOffset", -1, 0);
+   }
+   /* rach-TransmissionParameters */
+   if (pvalue->m & 0x8u) {
+      stat = enc_RACH_TransmissionParameters(ctx, &pvalue->rach_TransmissionParameters, cur);
+      RT_CHECK(ctx, stat, 0, "rach-TransmissionParameters", -1, 0);
+   }
+   /* aich-Info */
+   if (pvalue->m & 0x10u) {
+      stat = enc_AICH_Info(ctx, &pvalue->aich_Info, cur);
+      RT_CHECK(ctx, stat, 0, "aich-Info", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_SystemInformation_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformation_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PRACH_SystemInformation_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_PRACH_SystemInformation_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformation_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_PRACH_SystemInformation_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_SystemInformation_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformation_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PRACH_SystemInformation_modeSpecificInfo, pvalue);
+}
+
+static int enc_PRACH_SystemInformation(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-SystemInformation");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PRACH-SystemInformation");
+   /* prach-RACH-Info */
+   stat = enc_PRACH_RACH_Info(ctx, &pvalue->prach_RACH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "prach-RACH-Info", -1, "PRACH-SystemInformation");
+   /* transportChannelIdentity */
+   if ((uint64_t)(pvalue->transportChannelIdentity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->transportChannelIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportChannelIdentity", "transportChannelIdentity", -1, "PRACH-SystemInformation");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->transportChannelIdentity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, "PRACH-SystemInformation");
+   /* rach-TransportFormatSet */
+   if (pvalue->m & 0x1u) {
+      stat = enc_TransportFormatSet(ctx, &pvalue->rach_TransportFormatSet, cur);
+      RT_CHECK(ctx, stat, 0, "rach-TransportFormatSet", -1, "PRACH-SystemInformation");
+   }
+   /* rach-TFCS */
+   if (pvalue->m & 0x2u) {
+      stat = enc_TFCS(ctx, &pvalue->rach_TFCS, cur);
+      RT_CHECK(ctx, stat, 0, "rach-TFCS", -1, "PRACH-SystemInformation");
+   }
+   /* prach-Partitioning */
+   if (pvalue->m & 0x4u) {
+      stat = enc_PRACH_Partitioning(ctx, &pvalue->prach_Partitioning, cur);
+      RT_CHECK(ctx, stat, 0, "prach-Partitioning", -1, "PRACH-SystemInformation");
+   }
+   /* persistenceScalingFactorList */
+   if (pvalue->m & 0x8u) {
+      stat = enc_PersistenceScalingFactorList(ctx, &pvalue->persistenceScalingFactorList, cur);
+      RT_CHECK(ctx, stat, 0, "persistenceScalingFactorList", -1, "PRACH-SystemInformation");
+   }
+   /* ac-To-ASC-MappingTable */
+   if (pvalue->m & 0x10u) {
+      stat = enc_AC_To_ASC_MappingTable(ctx, &pvalue->ac_To_ASC_MappingTable, cur);
+      RT_CHECK(ctx, stat, 0, "ac-To-ASC-MappingTable", -1, "PRACH-SystemInformation");
+   }
+   /* modeSpecificInfo */
+   stat = enc_PRACH_SystemInformation_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "PRACH-SystemInformation");
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_SystemInformation(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformation* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PRACH_SystemInformation, pvalue);
+}
+
+RT_MERGED_BODY int enc_PRACH_SystemInformationList(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformationList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-SystemInformationList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "PRACH-SystemInformationList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "PRACH-SystemInformation", (int32_t)i, "PRACH-SystemInformationList");
+      stat = enc_PRACH_SystemInformation(ctx, (const PRACH_SystemInformation*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "PRACH-SystemInformation", (int32_t)i, "PRACH-SystemInformationList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_SystemInformationList(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformationList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PRACH_SystemInformationList, pvalue);
+}
+
+RT_MERGED_BODY int enc_PCPICH_UsageForChannelEst(rtxContext* RT_RESTRICT ctx, PCPICH_UsageForChannelEst value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "PCPICH-UsageForChannelEst");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PCPICH-UsageForChannelEst");
+   return 0;
+}
+
+int asn1PE_UMTS_PCPICH_UsageForChannelEst(rtxContext* RT_RESTRICT ctx, PCPICH_UsageForChannelEst value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PCPICH_UsageForChannelEst, value);
+}
+
+RT_MERGED_BODY int enc_SecondaryScramblingCode(rtxContext* RT_RESTRICT ctx, SecondaryScramblingCode value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 14u) {
+      rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "SecondaryScramblingCode");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SecondaryScramblingCode");
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryScramblingCode(rtxContext* RT_RESTRICT ctx, SecondaryScramblingCode value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryScramblingCode, value);
+}
+
+RT_MERGED_BODY int enc_SecondaryCPICH_Info(rtxContext* RT_RESTRICT ctx, const SecondaryCPICH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SecondaryCPICH-Info");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SecondaryCPICH-Info");
+   /* secondaryDL-ScramblingCode */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->secondaryDL_ScramblingCode - 1) > 14u) {
+         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
+         rtxErrAddUIntParm(ctx, pvalue->secondaryDL_ScramblingCode);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SecondaryScramblingCode", "secondaryDL-ScramblingCode", -1, "SecondaryCPICH-Info");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->secondaryDL_ScramblingCode, 1, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "SecondaryScramblingCode", "secondaryDL-ScramblingCode", -1, "SecondaryCPICH-Info");
+   }
+   /* channelisationCode */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->channelisationCode, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, "ChannelisationCode256", "channelisationCode", -1, "SecondaryCPICH-Info");
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCPICH_Info(rtxContext* RT_RESTRICT ctx, const SecondaryCPICH_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryCPICH_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_SF256_AndCodeNumber(rtxContext* RT_RESTRICT ctx, const SF256_AndCodeNumber* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SF256-AndCodeNumber");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "SF256-AndCodeNumber");
+   if (pvalue->t - 1 > 6) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "SF256-AndCodeNumber");
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)pvalue->u.sf4 > 3u) {
+            rtxErrAddStrParm(ctx, "sf4");
+            rtxErrAddUIntParm(ctx, pvalue->u.sf4);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "sf4", -1, "SF256-AndCodeNumber");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sf4, 0, 3);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "sf4", -1, "SF256-AndCodeNumber");
+         break;
+      case 2:
+         if ((uint64_t)pvalue->u.sf8 > 7u) {
+            rtxErrAddStrParm(ctx, "sf8");
+            rtxErrAddUIntParm(ctx, pvalue->u.sf8);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "sf8", -1, "SF256-AndCodeNumber");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sf8, 0, 7);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "sf8", -1, "SF256-AndCodeNumber");
+         break;
+      case 3:
+         if ((uint64_t)pvalue->u.sf16 > 15u) {
+            rtxErrAddStrParm(ctx, "sf16");
+            rtxErrAddUIntParm(ctx, pvalue->u.sf16);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "sf16", -1, "SF256-AndCodeNumber");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sf16, 0, 15);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "sf16", -1, "SF256-AndCodeNumber");
+         break;
+      case 4:
+         if ((uint64_t)pvalue->u.sf32 > 31u) {
+            rtxErrAddStrParm(ctx, "sf32");
+            rtxErrAddUIntParm(ctx, pvalue->u.sf32);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "sf32", -1, "SF256-AndCodeNumber");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sf32, 0, 31);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "sf32", -1, "SF256-AndCodeNumber");
+         break;
+      case 5:
+         if ((uint64_t)pvalue->u.sf64 > 63u) {
+            rtxErrAddStrParm(ctx, "sf64");
+            rtxErrAddUIntParm(ctx, pvalue->u.sf64);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "sf64", -1, "SF256-AndCodeNumber");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sf64, 0, 63);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "sf64", -1, "SF256-AndCodeNumber");
+         break;
+      case 6:
+         if ((uint64_t)pvalue->u.sf128 > 127u) {
+            rtxErrAddStrParm(ctx, "sf128");
+            rtxErrAddUIntParm(ctx, pvalue->u.sf128);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "sf128", -1, "SF256-AndCodeNumber");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sf128, 0, 127);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "sf128", -1, "SF256-AndCodeNumber");
+         break;
+      case 7:
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sf256, 0, 255);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "sf256", -1, "SF256-AndCodeNumber");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SF256_AndCodeNumber(rtxContext* RT_RESTRICT ctx, const SF256_AndCodeNumber* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SF256_AndCodeNumber, pvalue);
+}
+
+RT_MERGED_BODY int enc_PositionFixedOrFlexible(rtxContext* RT_RESTRICT ctx, PositionFixedOrFlexible value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "PositionFixedOrFlexible");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PositionFixedOrFlexible");
+   return 0;
+}
+
+int asn1PE_UMTS_PositionFixedOrFlexible(rtxContext* RT_RESTRICT ctx, PositionFixedOrFlexible value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PositionFixedOrFlexible, value);
+}
+
+RT_MERGED_BODY int enc_TimingOffset(rtxContext* RT_RESTRICT ctx, TimingOffset value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 149u) {
+      rtxErrAddStrParm(ctx, "TimingOffset");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "TimingOffset");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 149);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TimingOffset");
+   return 0;
+}
+
+int asn1PE_UMTS_TimingOffset(rtxContext* RT_RESTRICT ctx, TimingOffset value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TimingOffset, value);
+}
+
+RT_MERGED_BODY int enc_SecondaryCCPCH_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)(pvalue->timingOffset != 0) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dummy1 */
+   if (pvalue->dummy1 > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->dummy1);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PCPICH-UsageForChannelEst", "dummy1", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dummy1, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "PCPICH-UsageForChannelEst", "dummy1", -1, 0);
+   /* dummy2 */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SecondaryCPICH_Info(ctx, &pvalue->dummy2, cur);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   /* secondaryScramblingCode */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)(pvalue->secondaryScramblingCode - 1) > 14u) {
+         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
+         rtxErrAddUIntParm(ctx, pvalue->secondaryScramblingCode);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SecondaryScramblingCode", "secondaryScramblingCode", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->secondaryScramblingCode, 1, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, 0);
+   }
+   /* sttd-Indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->sttd_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sttd-Indicator", -1, 0);
+   /* sf-AndCodeNumber */
+   stat = enc_SF256_AndCodeNumber(ctx, &pvalue->sf_AndCodeNumber, cur);
+   RT_CHECK(ctx, stat, 0, "sf-AndCodeNumber", -1, 0);
+   /* pilotSymbolExistence */
+   stat = rtxEncBitAt(ctx, cur, pvalue->pilotSymbolExistence);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "pilotSymbolExistence", -1, 0);
+   /* tfci-Existence */
+   stat = rtxEncBitAt(ctx, cur, pvalue->tfci_Existence);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tfci-Existence", -1, 0);
+   /* positionFixedOrFlexible */
+   if (pvalue->positionFixedOrFlexible > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->positionFixedOrFlexible);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->positionFixedOrFlexible, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
+   /* timingOffset */
+   if (pvalue->timingOffset != 0) {
+      if ((uint64_t)pvalue->timingOffset > 149u) {
+         rtxErrAddStrParm(ctx, "TimingOffset");
+         rtxErrAddUIntParm(ctx, pvalue->timingOffset);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimingOffset", "timingOffset", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->timingOffset, 0, 149);
+      RT_CHECK_PUT(ctx, cur, stat, "TimingOffset", "timingOffset", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCH_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryCCPCH_Info_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_RepetitionPeriodLengthAndOffset_repetitionPeriod2(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodLengthAndOffset_repetitionPeriod2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* length */
+   /* offset */
+   if ((uint64_t)pvalue->offset > 1u) {
+      rtxErrAddStrParm(ctx, "offset");
+      rtxErrAddUIntParm(ctx, pvalue->offset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "offset", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->offset, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "offset", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod2(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodLengthAndOffset_repetitionPeriod2* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RepetitionPeriodLengthAndOffset_repetitionPeriod2, pvalue);
+}
+
+RT_MERGED_BODY int enc_RepetitionPeriodLengthAndOffset_repetitionPeriod4(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodLengthAndOffset_repetitionPeriod4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* length */
+   if ((uint64_t)(pvalue->length - 1) > 2u) {
+      rtxErrAddStrParm(ctx, "length");
+      rtxErrAddUIntParm(ctx, pvalue->length);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "length", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->length, 1, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "length", -1, 0);
+   /* offset */
+   if ((uint64_t)pvalue->offset > 3u) {
+      rtxErrAddStrParm(ctx, "offset");
+      rtxErrAddUIntParm(ctx, pvalue->offset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "offset", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->offset, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "offset", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod4(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodLengthAndOffset_repetitionPeriod4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RepetitionPeriodLengthAndOffset_repetitionPeriod4, pvalue);
+}
+
+RT_MERGED_BODY int enc_RepetitionPeriodLengthAndOffset_repetitionPeriod8(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodLengthAndOffset_repetitionPeriod8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* length */
+   if ((uint64_t)(pvalue->length - 1) > 6u) {
+      rtxErrAddStrParm(ctx, "length");
+      rtxErrAddUIntParm(ctx, pvalue->length);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "length", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->length, 1, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "length", -1, 0);
+   /* offset */
+   if ((uint64_t)pvalue->offset > 7u) {
+      rtxErrAddStrParm(ctx, "offset");
+      rtxErrAddUIntParm(ctx, pvalue->offset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "offset", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->offset, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "offset", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod8(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodLengthAndOffset_repetitionPeriod8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RepetitionPeriodLengthAndOffset_repetitionPeriod8, pvalue);
+}
+
+RT_MERGED_BODY int enc_RepetitionPeriodLengthAndOffset_repetitionPeriod16(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodLengthAndOffset_repetitionPeriod16* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* length */
+   if ((uint64_t)(pvalue->length - 1) > 14u) {
+      rtxErrAddStrParm(ctx, "length");
+      rtxErrAddUIntParm(ctx, pvalue->length);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "length", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->length, 1, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "length", -1, 0);
+   /* offset */
+   if ((uint64_t)pvalue->offset > 15u) {
+      rtxErrAddStrParm(ctx, "offset");
+      rtxErrAddUIntParm(ctx, pvalue->offset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "offset", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->offset, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "offset", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod16(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodLengthAndOffset_repetitionPeriod16* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RepetitionPeriodLengthAndOffset_repetitionPeriod16, pvalue);
+}
+
+RT_MERGED_BODY int enc_RepetitionPeriodLengthAndOffset_repetitionPeriod32(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodLengthAndOffset_repetitionPeriod32* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* length */
+   if ((uint64_t)(pvalue->length - 1) > 30u) {
+      rtxErrAddStrParm(ctx, "length");
+      rtxErrAddUIntParm(ctx, pvalue->length);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "length", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->length, 1, 31);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "length", -1, 0);
+   /* offset */
+   if ((uint64_t)pvalue->offset > 31u) {
+      rtxErrAddStrParm(ctx, "offset");
+      rtxErrAddUIntParm(ctx, pvalue->offset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "offset", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->offset, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "offset", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod32(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodLengthAndOffset_repetitionPeriod32* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RepetitionPeriodLengthAndOffset_repetitionPeriod32, pvalue);
+}
+
+RT_MERGED_BODY int enc_RepetitionPeriodLengthAndOffset_repetitionPeriod64(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodLengthAndOffset_repetitionPeriod64* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* length */
+   if ((uint64_t)(pvalue->length - 1) > 62u) {
+      rtxErrAddStrParm(ctx, "length");
+      rtxErrAddUIntParm(ctx, pvalue->length);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "length", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->length, 1, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "length", -1, 0);
+   /* offset */
+   if ((uint64_t)pvalue->offset > 63u) {
+      rtxErrAddStrParm(ctx, "offset");
+      rtxErrAddUIntParm(ctx, pvalue->offset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "offset", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->offset, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "offset", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RepetitionPeriodLengthAndOffset_repetitionPeriod64(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodLengthAndOffset_repetitionPeriod64* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RepetitionPeriodLengthAndOffset_repetitionPeriod64, pvalue);
+}
+
+RT_MERGED_BODY int enc_RepetitionPeriodLengthAndOffset(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodLengthAndOffset* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RepetitionPeriodLengthAndOffset");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "RepetitionPeriodLengthAndOffset");
+   if (pvalue->t - 1 > 6) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "RepetitionPeriodLengthAndOffset");
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.repetitionPeriod2 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "repetitionPeriod2", -1, "RepetitionPeriodLengthAndOffset");
+         stat = enc_RepetitionPeriodLengthAndOffset_repetitionPeriod2(ctx, pvalue->u.repetitionPeriod2, cur);
+         RT_CHECK(ctx, stat, 0, "repetitionPeriod2", -1, "RepetitionPeriodLengthAndOffset");
+         break;
+      case 3:
+         if (pvalue->u.repetitionPeriod4 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "repetitionPeriod4", -1, "RepetitionPeriodLengthAndOffset");
+         stat = enc_RepetitionPeriodLengthAndOffset_repetitionPeriod4(ctx, pvalue->u.repetitionPeriod4, cur);
+         RT_CHECK(ctx, stat, 0, "repetitionPeriod4", -1, "RepetitionPeriodLengthAndOffset");
+         break;
+      case 4:
+         if (pvalue->u.repetitionPeriod8 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "repetitionPeriod8", -1, "RepetitionPeriodLengthAndOffset");
+         stat = enc_RepetitionPeriodLengthAndOffset_repetitionPeriod8(ctx, pvalue->u.repetitionPeriod8, cur);
+         RT_CHECK(ctx, stat, 0, "repetitionPeriod8", -1, "RepetitionPeriodLengthAndOffset");
+         break;
+      case 5:
+         if (pvalue->u.repetitionPeriod16 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "repetitionPeriod16", -1, "RepetitionPeriodLengthAndOffset");
+         stat = enc_RepetitionPeriodLengthAndOffset_repetitionPeriod16(ctx, pvalue->u.repetitionPeriod16, cur);
+         RT_CHECK(ctx, stat, 0, "repetitionPeriod16", -1, "RepetitionPeriodLengthAndOffset");
+         break;
+      case 6:
+         if (pvalue->u.repetitionPeriod32 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "repetitionPeriod32", -1, "RepetitionPeriodLengthAndOffset");
+         stat = enc_RepetitionPeriodLengthAndOffset_repetitionPeriod32(ctx, pvalue->u.repetitionPeriod32, cur);
+         RT_CHECK(ctx, stat, 0, "repetitionPeriod32", -1, "RepetitionPeriodLengthAndOffset");
+         break;
+      case 7:
+         if (pvalue->u.repetitionPeriod64 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "repetitionPeriod64", -1, "RepetitionPeriodLengthAndOffset");
+         stat = enc_RepetitionPeriodLengthAndOffset_repetitionPeriod64(ctx, pvalue->u.repetitionPeriod64, cur);
+         RT_CHECK(ctx, stat, 0, "repetitionPeriod64", -1, "RepetitionPeriodLengthAndOffset");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RepetitionPeriodLengthAndOffset(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodLengthAndOffset* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RepetitionPeriodLengthAndOffset, pvalue);
+}
+
+static int enc_CommonTimeslotInfoSCCPCH(rtxContext* RT_RESTRICT ctx, const CommonTimeslotInfoSCCPCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CommonTimeslotInfoSCCPCH");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CommonTimeslotInfoSCCPCH");
+   /* secondInterleavingMode */
+   if (pvalue->secondInterleavingMode > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->secondInterleavingMode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "SecondInterleavingMode", "secondInterleavingMode", -1, "CommonTimeslotInfoSCCPCH");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->secondInterleavingMode, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "SecondInterleavingMode", "secondInterleavingMode", -1, "CommonTimeslotInfoSCCPCH");
+   /* tfci-Coding */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->tfci_Coding > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->tfci_Coding);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TFCI-Coding", "tfci-Coding", -1, "CommonTimeslotInfoSCCPCH");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tfci_Coding, 0, 3);
+      RT_CHECK_PUT(ctx, cur, stat, "TFCI-Coding", "tfci-Coding", -1, "CommonTimeslotInfoSCCPCH");
+   }
+   /* puncturingLimit */
+   if (pvalue->puncturingLimit > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->puncturingLimit);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PuncturingLimit", "puncturingLimit", -1, "CommonTimeslotInfoSCCPCH");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->puncturingLimit, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "PuncturingLimit", "puncturingLimit", -1, "CommonTimeslotInfoSCCPCH");
+   /* repetitionPeriodLengthAndOffset */
+   if (pvalue->m & 0x2u) {
+      stat = enc_RepetitionPeriodLengthAndOffset(ctx, &pvalue->repetitionPeriodLengthAndOffset, cur);
+      RT_CHECK(ctx, stat, 0, "repetitionPeriodLengthAndOffset", -1, "CommonTimeslotInfoSCCPCH");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CommonTimeslotInfoSCCPCH(rtxContext* RT_RESTRICT ctx, const CommonTimeslotInfoSCCPCH* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CommonTimeslotInfoSCCPCH, pvalue);
+}
+
+RT_MERGED_BODY int enc_SCCPCH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, SCCPCH_ChannelisationCode value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "SCCPCH-ChannelisationCode");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SCCPCH-ChannelisationCode");
+   return 0;
+}
+
+int asn1PE_UMTS_SCCPCH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, SCCPCH_ChannelisationCode value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SCCPCH_ChannelisationCode, value);
+}
+
+RT_MERGED_BODY int enc_SCCPCH_ChannelisationCodeList(rtxContext* RT_RESTRICT ctx, const SCCPCH_ChannelisationCodeList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SCCPCH-ChannelisationCodeList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "SCCPCH-ChannelisationCodeList");
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "SCCPCH-ChannelisationCode", "SCCPCH-ChannelisationCode", (int32_t)i, "SCCPCH-ChannelisationCodeList");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "SCCPCH-ChannelisationCode", "SCCPCH-ChannelisationCode", (int32_t)i, "SCCPCH-ChannelisationCodeList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SCCPCH_ChannelisationCodeList(rtxContext* RT_RESTRICT ctx, const SCCPCH_ChannelisationCodeList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SCCPCH_ChannelisationCodeList, pvalue);
+}
+
+RT_MERGED_BODY int enc_SecondaryCCPCH_Info_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* commonTimeslotInfo */
+   stat = enc_CommonTimeslotInfoSCCPCH(ctx, &pvalue->commonTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, 0);
+   /* individualTimeslotInfo */
+   stat = enc_IndividualTimeslotInfo(ctx, &pvalue->individualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
+   /* channelisationCode */
+   stat = enc_SCCPCH_ChannelisationCodeList(ctx, &pvalue->channelisationCode, cur);
+   RT_CHECK(ctx, stat, 0, "channelisationCode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCH_Info_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryCCPCH_Info_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_SecondaryCCPCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_SecondaryCCPCH_Info_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_SecondaryCCPCH_Info_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryCCPCH_Info_modeSpecificInfo, pvalue);
+}
+
+static int enc_SecondaryCCPCH_Info(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SecondaryCCPCH-Info");
+   /* modeSpecificInfo */
+   stat = enc_SecondaryCCPCH_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SecondaryCCPCH-Info");
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCH_Info(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryCCPCH_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_FACH_PCH_Information(rtxContext* RT_RESTRICT ctx, const FACH_PCH_Information* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "FACH-PCH-Information");
+   /* transportFormatSet */
+   stat = enc_TransportFormatSet(ctx, &pvalue->transportFormatSet, cur);
+   RT_CHECK(ctx, stat, 0, "transportFormatSet", -1, "FACH-PCH-Information");
+   /* transportChannelIdentity */
+   if ((uint64_t)(pvalue->transportChannelIdentity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->transportChannelIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportChannelIdentity", "transportChannelIdentity", -1, "FACH-PCH-Information");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->transportChannelIdentity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, "FACH-PCH-Information");
+   /* ctch-Indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->ctch_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ctch-Indicator", -1, "FACH-PCH-Information");
+   return 0;
+}
+
+int asn1PE_UMTS_FACH_PCH_Information(rtxContext* RT_RESTRICT ctx, const FACH_PCH_Information* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_FACH_PCH_Information, pvalue);
+}
+
+RT_MERGED_BODY int enc_FACH_PCH_InformationList(rtxContext* RT_RESTRICT ctx, const FACH_PCH_InformationList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "FACH-PCH-InformationList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "FACH-PCH-InformationList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "FACH-PCH-Information", (int32_t)i, "FACH-PCH-InformationList");
+      stat = enc_FACH_PCH_Information(ctx, (const FACH_PCH_Information*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "FACH-PCH-Information", (int32_t)i, "FACH-PCH-InformationList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_FACH_PCH_InformationList(rtxContext* RT_RESTRICT ctx, const FACH_PCH_InformationList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_FACH_PCH_InformationList, pvalue);
+}
+
+RT_MERGED_BODY int enc_PI_CountPerFrame(rtxContext* RT_RESTRICT ctx, PI_CountPerFrame value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "PI-CountPerFrame");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PI-CountPerFrame");
+   return 0;
+}
+
+int asn1PE_UMTS_PI_CountPerFrame(rtxContext* RT_RESTRICT ctx, PI_CountPerFrame value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PI_CountPerFrame, value);
+}
+
+RT_MERGED_BODY int enc_PICH_Info_fdd(rtxContext* RT_RESTRICT ctx, const PICH_Info_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* channelisationCode256 */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->channelisationCode256, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, "ChannelisationCode256", "channelisationCode256", -1, 0);
+   /* pi-CountPerFrame */
+   if (pvalue->pi_CountPerFrame > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->pi_CountPerFrame);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PI-CountPerFrame", "pi-CountPerFrame", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pi_CountPerFrame, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "PI-CountPerFrame", "pi-CountPerFrame", -1, 0);
+   /* sttd-Indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->sttd_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sttd-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PICH_Info_fdd(rtxContext* RT_RESTRICT ctx, const PICH_Info_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PICH_Info_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_TDD_PICH_CCode(rtxContext* RT_RESTRICT ctx, TDD_PICH_CCode value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TDD-PICH-CCode");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TDD-PICH-CCode");
+   return 0;
+}
+
+int asn1PE_UMTS_TDD_PICH_CCode(rtxContext* RT_RESTRICT ctx, TDD_PICH_CCode value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TDD_PICH_CCode, value);
+}
+
+RT_MERGED_BODY int enc_RepPerLengthOffset_PICH(rtxContext* RT_RESTRICT ctx, const RepPerLengthOffset_PICH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RepPerLengthOffset-PICH");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "RepPerLengthOffset-PICH");
+   if (pvalue->t - 1 > 8) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "RepPerLengthOffset-PICH");
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)pvalue->u.rpp4_2 > 3u) {
+            rtxErrAddStrParm(ctx, "rpp4-2");
+            rtxErrAddUIntParm(ctx, pvalue->u.rpp4_2);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "rpp4-2", -1, "RepPerLengthOffset-PICH");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.rpp4_2, 0, 3);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "rpp4-2", -1, "RepPerLengthOffset-PICH");
+         break;
+      case 2:
+         if ((uint64_t)pvalue->u.rpp8_2 > 7u) {
+            rtxErrAddStrParm(ctx, "rpp8-2");
+            rtxErrAddUIntParm(ctx, pvalue->u.rpp8_2);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "rpp8-2", -1, "RepPerLengthOffset-PICH");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.rpp8_2, 0, 7);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "rpp8-2", -1, "RepPerLengthOffset-PICH");
+         break;
+      case 3:
+         if ((uint64_t)pvalue->u.rpp8_4 > 7u) {
+            rtxErrAddStrParm(ctx, "rpp8-4");
+            rtxErrAddUIntParm(ctx, pvalue->u.rpp8_4);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "rpp8-4", -1, "RepPerLengthOffset-PICH");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.rpp8_4, 0, 7);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "rpp8-4", -1, "RepPerLengthOffset-PICH");
+         break;
+      case 4:
+         if ((uint64_t)pvalue->u.rpp16_2 > 15u) {
+            rtxErrAddStrParm(ctx, "rpp16-2");
+            rtxErrAddUIntParm(ctx, pvalue->u.rpp16_2);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "rpp16-2", -1, "RepPerLengthOffset-PICH");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.rpp16_2, 0, 15);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "rpp16-2", -1, "RepPerLengthOffset-PICH");
+         break;
+      case 5:
+         if ((uint64_t)pvalue->u.rpp16_4 > 15u) {
+            rtxErrAddStrParm(ctx, "rpp16-4");
+            rtxErrAddUIntParm(ctx, pvalue->u.rpp16_4);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "rpp16-4", -1, "RepPerLengthOffset-PICH");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.rpp16_4, 0, 15);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "rpp16-4", -1, "RepPerLengthOffset-PICH");
+         break;
+      case 6:
+         if ((uint64_t)pvalue->u.rpp32_2 > 31u) {
+            rtxErrAddStrParm(ctx, "rpp32-2");
+            rtxErrAddUIntParm(ctx, pvalue->u.rpp32_2);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "rpp32-2", -1, "RepPerLengthOffset-PICH");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.rpp32_2, 0, 31);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "rpp32-2", -1, "RepPerLengthOffset-PICH");
+         break;
+      case 7:
+         if ((uint64_t)pvalue->u.rpp32_4 > 31u) {
+            rtxErrAddStrParm(ctx, "rpp32-4");
+            rtxErrAddUIntParm(ctx, pvalue->u.rpp32_4);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "rpp32-4", -1, "RepPerLengthOffset-PICH");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.rpp32_4, 0, 31);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "rpp32-4", -1, "RepPerLengthOffset-PICH");
+         break;
+      case 8:
+         if ((uint64_t)pvalue->u.rpp64_2 > 63u) {
+            rtxErrAddStrParm(ctx, "rpp64-2");
+            rtxErrAddUIntParm(ctx, pvalue->u.rpp64_2);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "rpp64-2", -1, "RepPerLengthOffset-PICH");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.rpp64_2, 0, 63);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "rpp64-2", -1, "RepPerLengthOffset-PICH");
+         break;
+      case 9:
+         if ((uint64_t)pvalue->u.rpp64_4 > 63u) {
+            rtxErrAddStrParm(ctx, "rpp64-4");
+            rtxErrAddUIntParm(ctx, pvalue->u.rpp64_4);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "rpp64-4", -1, "RepPerLengthOffset-PICH");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.rpp64_4, 0, 63);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "rpp64-4", -1, "RepPerLengthOffset-PICH");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RepPerLengthOffset_PICH(rtxContext* RT_RESTRICT ctx, const RepPerLengthOffset_PICH* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RepPerLengthOffset_PICH, pvalue);
+}
+
+RT_MERGED_BODY int enc_PagingIndicatorLength(rtxContext* RT_RESTRICT ctx, PagingIndicatorLength value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 2) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "PagingIndicatorLength");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PagingIndicatorLength");
+   return 0;
+}
+
+int asn1PE_UMTS_PagingIndicatorLength(rtxContext* RT_RESTRICT ctx, PagingIndicatorLength value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PagingIndicatorLength, value);
+}
+
+RT_MERGED_BODY int enc_N_GAP(rtxContext* RT_RESTRICT ctx, N_GAP value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 2) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "N-GAP");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "N-GAP");
+   return 0;
+}
+
+int asn1PE_UMTS_N_GAP(rtxContext* RT_RESTRICT ctx, N_GAP value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_N_GAP, value);
+}
+
+RT_MERGED_BODY int enc_N_PCH(rtxContext* RT_RESTRICT ctx, N_PCH value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "N-PCH");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "N-PCH");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "N-PCH");
+   return 0;
+}
+
+int asn1PE_UMTS_N_PCH(rtxContext* RT_RESTRICT ctx, N_PCH value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_N_PCH, value);
+}
+
+RT_MERGED_BODY int enc_PICH_Info_tdd(rtxContext* RT_RESTRICT ctx, const PICH_Info_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
+      ((uint64_t)(pvalue->pagingIndicatorLength != 0) << 2) |
+      ((uint64_t)(pvalue->n_GAP != 1) << 1) |
+      ((uint64_t)(pvalue->n_PCH != 2) << 0), 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* channelisationCode */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->channelisationCode > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TDD-PICH-CCode", "channelisationCode", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->channelisationCode, 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "TDD-PICH-CCode", "channelisationCode", -1, 0);
+   }
+   /* timeslot */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->timeslot > 14u) {
+         rtxErrAddStrParm(ctx, "TimeslotNumber");
+         rtxErrAddUIntParm(ctx, pvalue->timeslot);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber", "timeslot", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslot, 0, 14);
+      RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber", "timeslot", -1, 0);
+   }
+   /* midambleShiftAndBurstType */
+   stat = enc_MidambleShiftAndBurstType(ctx, &pvalue->midambleShiftAndBurstType, cur);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, 0);
+   /* repetitionPeriodLengthOffset */
+   if (pvalue->m & 0x4u) {
+      stat = enc_RepPerLengthOffset_PICH(ctx, &pvalue->repetitionPeriodLengthOffset, cur);
+      RT_CHECK(ctx, stat, 0, "repetitionPeriodLengthOffset", -1, 0);
+   }
+   /* pagingIndicatorLength */
+   if (pvalue->pagingIndicatorLength != 0) {
+      if (pvalue->pagingIndicatorLength > 2) {
+         rtxErrAddUIntParm(ctx, pvalue->pagingIndicatorLength);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PagingIndicatorLength", "pagingIndicatorLength", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->pagingIndicatorLength, 0, 2);
+      RT_CHECK_PUT(ctx, cur, stat, "PagingIndicatorLength", "pagingIndicatorLength", -1, 0);
+   }
+   /* n-GAP */
+   if (pvalue->n_GAP != 1) {
+      if (pvalue->n_GAP > 2) {
+         rtxErrAddUIntParm(ctx, pvalue->n_GAP);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "N-GAP", "n-GAP", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->n_GAP, 0, 2);
+      RT_CHECK_PUT(ctx, cur, stat, "N-GAP", "n-GAP", -1, 0);
+   }
+   /* n-PCH */
+   if (pvalue->n_PCH != 2) {
+      if ((uint64_t)(pvalue->n_PCH - 1) > 7u) {
+         rtxErrAddStrParm(ctx, "N-PCH");
+         rtxErrAddUIntParm(ctx, pvalue->n_PCH);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "N-PCH", "n-PCH", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->n_PCH, 1, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "N-PCH", "n-PCH", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PICH_Info_tdd(rtxContext* RT_RESTRICT ctx, const PICH_Info_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PICH_Info_tdd, pvalue);
+}
+
+static int enc_PICH_Info(rtxContext* RT_RESTRICT ctx, const PICH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PICH-Info");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "PICH-Info");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "PICH-Info");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, "PICH-Info");
+         stat = enc_PICH_Info_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "PICH-Info");
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, "PICH-Info");
+         stat = enc_PICH_Info_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "PICH-Info");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PICH_Info(rtxContext* RT_RESTRICT ctx, const PICH_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PICH_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_SCCPCH_SystemInformation(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SCCPCH-SystemInformation");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SCCPCH-SystemInformation");
+   /* secondaryCCPCH-Info */
+   stat = enc_SecondaryCCPCH_Info(ctx, &pvalue->secondaryCCPCH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "secondaryCCPCH-Info", -1, "SCCPCH-SystemInformation");
+   /* tfcs */
+   if (pvalue->m & 0x1u) {
+      stat = enc_TFCS(ctx, &pvalue->tfcs, cur);
+      RT_CHECK(ctx, stat, 0, "tfcs", -1, "SCCPCH-SystemInformation");
+   }
+   /* fach-PCH-InformationList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_FACH_PCH_InformationList(ctx, &pvalue->fach_PCH_InformationList, cur);
+      RT_CHECK(ctx, stat, 0, "fach-PCH-InformationList", -1, "SCCPCH-SystemInformation");
+   }
+   /* pich-Info */
+   if (pvalue->m & 0x4u) {
+      stat = enc_PICH_Info(ctx, &pvalue->pich_Info, cur);
+      RT_CHECK(ctx, stat, 0, "pich-Info", -1, "SCCPCH-SystemInformation");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SCCPCH_SystemInformation(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SCCPCH_SystemInformation, pvalue);
+}
+
+static int enc_SCCPCH_SystemInformationList(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformationList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SCCPCH-SystemInformationList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "SCCPCH-SystemInformationList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "SCCPCH-SystemInformation", (int32_t)i, "SCCPCH-SystemInformationList");
+      stat = enc_SCCPCH_SystemInformation(ctx, (const SCCPCH_SystemInformation*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "SCCPCH-SystemInformation", (int32_t)i, "SCCPCH-SystemInformationList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SCCPCH_SystemInformationList(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformationList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SCCPCH_SystemInformationList, pvalue);
+}
+
+RT_MERGED_BODY int enc_CBS_DRX_Level1Information(rtxContext* RT_RESTRICT ctx, const CBS_DRX_Level1Information* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CBS-DRX-Level1Information");
+   /* ctch-AllocationPeriod */
+   if ((uint64_t)(pvalue->ctch_AllocationPeriod - 1) > 255u) {
+      rtxErrAddStrParm(ctx, "ctch-AllocationPeriod");
+      rtxErrAddUIntParm(ctx, pvalue->ctch_AllocationPeriod);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ctch-AllocationPeriod", -1, "CBS-DRX-Level1Information");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ctch_AllocationPeriod, 1, 256);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ctch-AllocationPeriod", -1, "CBS-DRX-Level1Information");
+   /* cbs-FrameOffset */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->cbs_FrameOffset, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "cbs-FrameOffset", -1, "CBS-DRX-Level1Information");
+   return 0;
+}
+
+int asn1PE_UMTS_CBS_DRX_Level1Information(rtxContext* RT_RESTRICT ctx, const CBS_DRX_Level1Information* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CBS_DRX_Level1Information, pvalue);
+}
+
+RT_MERGED_BODY int enc_PNBSCH_Allocation_r4_numberOfRepetitionsPerSFNPeriod(rtxContext* RT_RESTRICT ctx, PNBSCH_Allocation_r4_numberOfRepetitionsPerSFNPeriod value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 23) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 23);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PNBSCH_Allocation_r4_numberOfRepetitionsPerSFNPeriod(rtxContext* RT_RESTRICT ctx, PNBSCH_Allocation_r4_numberOfRepetitionsPerSFNPeriod value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PNBSCH_Allocation_r4_numberOfRepetitionsPerSFNPeriod, value);
+}
+
+RT_MERGED_BODY int enc_PNBSCH_Allocation_r4(rtxContext* RT_RESTRICT ctx, const PNBSCH_Allocation_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PNBSCH-Allocation-r4");
+   /* numberOfRepetitionsPerSFNPeriod */
+   if (pvalue->numberOfRepetitionsPerSFNPeriod > 23) {
+      rtxErrAddUIntParm(ctx, pvalue->numberOfRepetitionsPerSFNPeriod);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "numberOfRepetitionsPerSFNPeriod", -1, "PNBSCH-Allocation-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->numberOfRepetitionsPerSFNPeriod, 0, 23);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "numberOfRepetitionsPerSFNPeriod", -1, "PNBSCH-Allocation-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_PNBSCH_Allocation_r4(rtxContext* RT_RESTRICT ctx, const PNBSCH_Allocation_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PNBSCH_Allocation_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_MaxPowerIncrease_r4(rtxContext* RT_RESTRICT ctx, MaxPowerIncrease_r4 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 3u) {
+      rtxErrAddStrParm(ctx, "MaxPowerIncrease-r4");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "MaxPowerIncrease-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaxPowerIncrease-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxPowerIncrease_r4(rtxContext* RT_RESTRICT ctx, MaxPowerIncrease_r4 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MaxPowerIncrease_r4, value);
+}
+
+RT_MERGED_BODY int enc_OpenLoopPowerControl_IPDL_TDD_r4(rtxContext* RT_RESTRICT ctx, const OpenLoopPowerControl_IPDL_TDD_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "OpenLoopPowerControl-IPDL-TDD-r4");
+   /* ipdl-alpha */
+   if ((uint64_t)pvalue->ipdl_alpha > 8u) {
+      rtxErrAddStrParm(ctx, "Alpha");
+      rtxErrAddUIntParm(ctx, pvalue->ipdl_alpha);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Alpha", "ipdl-alpha", -1, "OpenLoopPowerControl-IPDL-TDD-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ipdl_alpha, 0, 8);
+   RT_CHECK_PUT(ctx, cur, stat, "Alpha", "ipdl-alpha", -1, "OpenLoopPowerControl-IPDL-TDD-r4");
+   /* maxPowerIncrease */
+   if ((uint64_t)pvalue->maxPowerIncrease > 3u) {
+      rtxErrAddStrParm(ctx, "MaxPowerIncrease-r4");
+      rtxErrAddUIntParm(ctx, pvalue->maxPowerIncrease);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MaxPowerIncrease-r4", "maxPowerIncrease", -1, "OpenLoopPowerControl-IPDL-TDD-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxPowerIncrease, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxPowerIncrease-r4", "maxPowerIncrease", -1, "OpenLoopPowerControl-IPDL-TDD-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_OpenLoopPowerControl_IPDL_TDD_r4(rtxContext* RT_RESTRICT ctx, const OpenLoopPowerControl_IPDL_TDD_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_OpenLoopPowerControl_IPDL_TDD_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_Sync_UL_Codes_Bitmap(rtxContext* RT_RESTRICT ctx, Sync_UL_Codes_Bitmap value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   {
+      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
+      uint32_t used = (uint32_t)(last + 1);
+      value.numbits = used <= 8 ? 8 : used;
+      if (last < -1) RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "Sync-UL-Codes-Bitmap");
+   }
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32At(ctx, cur, &value, 8, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Sync-UL-Codes-Bitmap");
+   return 0;
+}
+
+int asn1PE_UMTS_Sync_UL_Codes_Bitmap(rtxContext* RT_RESTRICT ctx, Sync_UL_Codes_Bitmap value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Sync_UL_Codes_Bitmap, value);
+}
+
+RT_MERGED_BODY int enc_SYNC_UL_Info_r4_max_SYNC_UL_Transmissions(rtxContext* RT_RESTRICT ctx, SYNC_UL_Info_r4_max_SYNC_UL_Transmissions value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SYNC_UL_Info_r4_max_SYNC_UL_Transmissions(rtxContext* RT_RESTRICT ctx, SYNC_UL_Info_r4_max_SYNC_UL_Transmissions value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SYNC_UL_Info_r4_max_SYNC_UL_Transmissions, value);
+}
+
+RT_MERGED_BODY int enc_SYNC_UL_Info_r4(rtxContext* RT_RESTRICT ctx, const SYNC_UL_Info_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SYNC-UL-Info-r4");
+   /* sync-UL-Codes-Bitmap */
+   stat = enc_Sync_UL_Codes_Bitmap(ctx, pvalue->sync_UL_Codes_Bitmap, cur);
+   RT_CHECK(ctx, stat, 0, "sync-UL-Codes-Bitmap", -1, "SYNC-UL-Info-r4");
+   /* prxUpPCHdes */
+   if ((uint64_t)pvalue->prxUpPCHdes > 62u) {
+      rtxErrAddStrParm(ctx, "prxUpPCHdes");
+      rtxErrAddUIntParm(ctx, pvalue->prxUpPCHdes);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "prxUpPCHdes", -1, "SYNC-UL-Info-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->prxUpPCHdes, 0, 62);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "prxUpPCHdes", -1, "SYNC-UL-Info-r4");
+   /* powerRampStep */
+   if ((uint64_t)pvalue->powerRampStep > 3u) {
+      rtxErrAddStrParm(ctx, "powerRampStep");
+      rtxErrAddUIntParm(ctx, pvalue->powerRampStep);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "powerRampStep", -1, "SYNC-UL-Info-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->powerRampStep, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "powerRampStep", -1, "SYNC-UL-Info-r4");
+   /* max-SYNC-UL-Transmissions */
+   if (pvalue->max_SYNC_UL_Transmissions > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->max_SYNC_UL_Transmissions);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "max-SYNC-UL-Transmissions", -1, "SYNC-UL-Info-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->max_SYNC_UL_Transmissions, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "max-SYNC-UL-Transmissions", -1, "SYNC-UL-Info-r4");
+   /* mmax */
+   if ((uint64_t)(pvalue->mmax - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "mmax");
+      rtxErrAddUIntParm(ctx, pvalue->mmax);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "mmax", -1, "SYNC-UL-Info-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->mmax, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "mmax", -1, "SYNC-UL-Info-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_SYNC_UL_Info_r4(rtxContext* RT_RESTRICT ctx, const SYNC_UL_Info_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SYNC_UL_Info_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_TimeslotNumber_PRACH_LCR_r4(rtxContext* RT_RESTRICT ctx, TimeslotNumber_PRACH_LCR_r4 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 5u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber-PRACH-LCR-r4");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "TimeslotNumber-PRACH-LCR-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TimeslotNumber-PRACH-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_TimeslotNumber_PRACH_LCR_r4(rtxContext* RT_RESTRICT ctx, TimeslotNumber_PRACH_LCR_r4 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TimeslotNumber_PRACH_LCR_r4, value);
+}
+
+RT_MERGED_BODY int enc_TDD_PRACH_CCode_LCR_r4(rtxContext* RT_RESTRICT ctx, TDD_PRACH_CCode_LCR_r4 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 27) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TDD-PRACH-CCode-LCR-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 27);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TDD-PRACH-CCode-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_TDD_PRACH_CCode_LCR_r4(rtxContext* RT_RESTRICT ctx, TDD_PRACH_CCode_LCR_r4 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TDD_PRACH_CCode_LCR_r4, value);
+}
+
+RT_MERGED_BODY int enc_PRACH_ChanCodes_LCR_r4(rtxContext* RT_RESTRICT ctx, const PRACH_ChanCodes_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-ChanCodes-LCR-r4");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "PRACH-ChanCodes-LCR-r4");
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 27) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TDD-PRACH-CCode-LCR-r4", "TDD-PRACH-CCode-LCR-r4", (int32_t)i, "PRACH-ChanCodes-LCR-r4");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 27);
+      RT_CHECK_PUT(ctx, cur, stat, "TDD-PRACH-CCode-LCR-r4", "TDD-PRACH-CCode-LCR-r4", (int32_t)i, "PRACH-ChanCodes-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_ChanCodes_LCR_r4(rtxContext* RT_RESTRICT ctx, const PRACH_ChanCodes_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PRACH_ChanCodes_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleShift */
+   if ((uint64_t)pvalue->midambleShift > 15u) {
+      rtxErrAddStrParm(ctx, "midambleShift");
+      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "midambleShift", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleShift, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode_ueSpecificMidamble, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
+         stat = enc_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_LCR_r4(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MidambleShiftAndBurstType-LCR-r4");
+   /* midambleAllocationMode */
+   stat = enc_MidambleShiftAndBurstType_LCR_r4_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "MidambleShiftAndBurstType-LCR-r4");
+   /* midambleConfiguration */
+   if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "midambleConfiguration");
+      rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "midambleConfiguration", -1, "MidambleShiftAndBurstType-LCR-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "midambleConfiguration", -1, "MidambleShiftAndBurstType-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_LCR_r4(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_TimeslotNumber_LCR_r4(rtxContext* RT_RESTRICT ctx, TimeslotNumber_LCR_r4 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 6u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "TimeslotNumber-LCR-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TimeslotNumber-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_TimeslotNumber_LCR_r4(rtxContext* RT_RESTRICT ctx, TimeslotNumber_LCR_r4 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TimeslotNumber_LCR_r4, value);
+}
+
+RT_MERGED_BODY int enc_TDD_FPACH_CCode16_r4(rtxContext* RT_RESTRICT ctx, TDD_FPACH_CCode16_r4 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TDD-FPACH-CCode16-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TDD-FPACH-CCode16-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_TDD_FPACH_CCode16_r4(rtxContext* RT_RESTRICT ctx, TDD_FPACH_CCode16_r4 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TDD_FPACH_CCode16_r4, value);
+}
+
+RT_MERGED_BODY int enc_Wi_LCR(rtxContext* RT_RESTRICT ctx, Wi_LCR value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 3u) {
+      rtxErrAddStrParm(ctx, "Wi-LCR");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "Wi-LCR");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Wi-LCR");
+   return 0;
+}
+
+int asn1PE_UMTS_Wi_LCR(rtxContext* RT_RESTRICT ctx, Wi_LCR value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Wi_LCR, value);
+}
+
+RT_MERGED_BODY int enc_FPACH_Info_r4(rtxContext* RT_RESTRICT ctx, const FPACH_Info_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "FPACH-Info-r4");
+   /* timeslot */
+   if ((uint64_t)pvalue->timeslot > 6u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
+      rtxErrAddUIntParm(ctx, pvalue->timeslot);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslot", -1, "FPACH-Info-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslot, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber-LCR-r4", "timeslot", -1, "FPACH-Info-r4");
+   /* channelisationCode */
+   if (pvalue->channelisationCode > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TDD-FPACH-CCode16-r4", "channelisationCode", -1, "FPACH-Info-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->channelisationCode, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "TDD-FPACH-CCode16-r4", "channelisationCode", -1, "FPACH-Info-r4");
+   /* midambleShiftAndBurstType */
+   stat = enc_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType, cur);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "FPACH-Info-r4");
+   /* wi */
+   if ((uint64_t)(pvalue->wi - 1) > 3u) {
+      rtxErrAddStrParm(ctx, "Wi-LCR");
+      rtxErrAddUIntParm(ctx, pvalue->wi);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Wi-LCR", "wi", -1, "FPACH-Info-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->wi, 1, 4);
+   RT_CHECK_PUT(ctx, cur, stat, "Wi-LCR", "wi", -1, "FPACH-Info-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_FPACH_Info_r4(rtxContext* RT_RESTRICT ctx, const FPACH_Info_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_FPACH_Info_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_PRACH_Definition_LCR_r4(rtxContext* RT_RESTRICT ctx, const PRACH_Definition_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-Definition-LCR-r4");
+   /* timeslot */
+   if ((uint64_t)(pvalue->timeslot - 1) > 5u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber-PRACH-LCR-r4");
+      rtxErrAddUIntParm(ctx, pvalue->timeslot);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber-PRACH-LCR-r4", "timeslot", -1, "PRACH-Definition-LCR-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslot, 1, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber-PRACH-LCR-r4", "timeslot", -1, "PRACH-Definition-LCR-r4");
+   /* prach-ChanCodes-LCR */
+   stat = enc_PRACH_ChanCodes_LCR_r4(ctx, &pvalue->prach_ChanCodes_LCR, cur);
+   RT_CHECK(ctx, stat, 0, "prach-ChanCodes-LCR", -1, "PRACH-Definition-LCR-r4");
+   /* midambleShiftAndBurstType */
+   stat = enc_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType, cur);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "PRACH-Definition-LCR-r4");
+   /* fpach-Info */
+   stat = enc_FPACH_Info_r4(ctx, &pvalue->fpach_Info, cur);
+   RT_CHECK(ctx, stat, 0, "fpach-Info", -1, "PRACH-Definition-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_Definition_LCR_r4(rtxContext* RT_RESTRICT ctx, const PRACH_Definition_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PRACH_Definition_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_PRACH_RACH_Info_LCR_r4_prach_DefinitionList(rtxContext* RT_RESTRICT ctx, const PRACH_RACH_Info_LCR_r4_prach_DefinitionList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "PRACH-Definition-LCR-r4", (int32_t)i, 0);
+      stat = enc_PRACH_Definition_LCR_r4(ctx, (const PRACH_Definition_LCR_r4*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "PRACH-Definition-LCR-r4", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_RACH_Info_LCR_r4_prach_DefinitionList(rtxContext* RT_RESTRICT ctx, const PRACH_RACH_Info_LCR_r4_prach_DefinitionList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PRACH_RACH_Info_LCR_r4_prach_DefinitionList, pvalue);
+}
+
+RT_MERGED_BODY int enc_PRACH_RACH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, const PRACH_RACH_Info_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-RACH-Info-LCR-r4");
+   /* sync-UL-Info */
+   stat = enc_SYNC_UL_Info_r4(ctx, &pvalue->sync_UL_Info, cur);
+   RT_CHECK(ctx, stat, 0, "sync-UL-Info", -1, "PRACH-RACH-Info-LCR-r4");
+   /* prach-DefinitionList */
+   stat = enc_PRACH_RACH_Info_LCR_r4_prach_DefinitionList(ctx, &pvalue->prach_DefinitionList, cur);
+   RT_CHECK(ctx, stat, 0, "prach-DefinitionList", -1, "PRACH-RACH-Info-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_RACH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, const PRACH_RACH_Info_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PRACH_RACH_Info_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_CommonTransChTFS_LCR_tti(rtxContext* RT_RESTRICT ctx, const CommonTransChTFS_LCR_tti* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 5) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tti5 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tti5", -1, 0);
+         stat = enc_CommonDynamicTF_InfoList(ctx, pvalue->u.tti5, cur);
+         RT_CHECK(ctx, stat, 0, "tti5", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tti10 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tti10", -1, 0);
+         stat = enc_CommonDynamicTF_InfoList(ctx, pvalue->u.tti10, cur);
+         RT_CHECK(ctx, stat, 0, "tti10", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.tti20 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tti20", -1, 0);
+         stat = enc_CommonDynamicTF_InfoList(ctx, pvalue->u.tti20, cur);
+         RT_CHECK(ctx, stat, 0, "tti20", -1, 0);
+         break;
+      case 4:
+         if (pvalue->u.tti40 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tti40", -1, 0);
+         stat = enc_CommonDynamicTF_InfoList(ctx, pvalue->u.tti40, cur);
+         RT_CHECK(ctx, stat, 0, "tti40", -1, 0);
+         break;
+      case 5:
+         if (pvalue->u.tti80 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tti80", -1, 0);
+         stat = enc_CommonDynamicTF_InfoList(ctx, pvalue->u.tti80, cur);
+         RT_CHECK(ctx, stat, 0, "tti80", -1, 0);
+         break;
+      case 6:
+         if (pvalue->u.dynamic == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dynamic", -1, 0);
+         stat = enc_CommonDynamicTF_InfoList_DynamicTTI(ctx, pvalue->u.dynamic, cur);
+         RT_CHECK(ctx, stat, 0, "dynamic", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CommonTransChTFS_LCR_tti(rtxContext* RT_RESTRICT ctx, const CommonTransChTFS_LCR_tti* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CommonTransChTFS_LCR_tti, pvalue);
+}
+
+RT_MERGED_BODY int enc_CommonTransChTFS_LCR(rtxContext* RT_RESTRICT ctx, const CommonTransChTFS_LCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CommonTransChTFS-LCR");
+   /* tti */
+   stat = enc_CommonTransChTFS_LCR_tti(ctx, &pvalue->tti, cur);
+   RT_CHECK(ctx, stat, 0, "tti", -1, "CommonTransChTFS-LCR");
+   /* semistaticTF-Information */
+   stat = enc_SemistaticTF_Information(ctx, &pvalue->semistaticTF_Information, cur);
+   RT_CHECK(ctx, stat, 0, "semistaticTF-Information", -1, "CommonTransChTFS-LCR");
+   return 0;
+}
+
+int asn1PE_UMTS_CommonTransChTFS_LCR(rtxContext* RT_RESTRICT ctx, const CommonTransChTFS_LCR* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CommonTransChTFS_LCR, pvalue);
+}
+
+static int enc_TransportFormatSet_LCR(rtxContext* RT_RESTRICT ctx, const TransportFormatSet_LCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TransportFormatSet-LCR");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "TransportFormatSet-LCR");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "TransportFormatSet-LCR");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.dedicatedTransChTFS == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dedicatedTransChTFS", -1, "TransportFormatSet-LCR");
+         stat = enc_DedicatedTransChTFS(ctx, pvalue->u.dedicatedTransChTFS, cur);
+         RT_CHECK(ctx, stat, 0, "dedicatedTransChTFS", -1, "TransportFormatSet-LCR");
+         break;
+      case 2:
+         if (pvalue->u.commonTransChTFS_LCR == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "commonTransChTFS-LCR", -1, "TransportFormatSet-LCR");
+         stat = enc_CommonTransChTFS_LCR(ctx, pvalue->u.commonTransChTFS_LCR, cur);
+         RT_CHECK(ctx, stat, 0, "commonTransChTFS-LCR", -1, "TransportFormatSet-LCR");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransportFormatSet_LCR(rtxContext* RT_RESTRICT ctx, const TransportFormatSet_LCR* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TransportFormatSet_LCR, pvalue);
+}
+
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_LCR_r4_availableSYNC_UlCodesIndics(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_availableSYNC_UlCodesIndics value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   {
+      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
+      uint32_t used = (uint32_t)(last + 1);
+      value.numbits = used <= 8 ? 8 : used;
+      if (last < -1) RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+   }
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32At(ctx, cur, &value, 8, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_availableSYNC_UlCodesIndics(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_availableSYNC_UlCodesIndics value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AccessServiceClass_TDD_LCR_r4_availableSYNC_UlCodesIndics, value);
+}
+
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_LCR_r4_subchannelSize_size2_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size2_subchannels value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size2_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size2_subchannels value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AccessServiceClass_TDD_LCR_r4_subchannelSize_size2_subchannels, value);
+}
+
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_LCR_r4_subchannelSize_size2(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_LCR_r4_subchannelSize_size2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* subchannels */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->subchannels > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->subchannels);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "subchannels", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->subchannels, 0, 1);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "subchannels", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size2(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_LCR_r4_subchannelSize_size2* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AccessServiceClass_TDD_LCR_r4_subchannelSize_size2, pvalue);
+}
+
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_LCR_r4_subchannelSize_size4_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size4_subchannels value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   {
+      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
+      uint32_t used = (uint32_t)(last + 1);
+      value.numbits = used <= 4 ? 4 : used;
+      if (last < -1) RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+   }
+   RT_SET_SIZE(ctx, 4, 4);
+   stat = pe_BitString32At(ctx, cur, &value, 4, 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size4_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size4_subchannels value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AccessServiceClass_TDD_LCR_r4_subchannelSize_size4_subchannels, value);
+}
+
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_LCR_r4_subchannelSize_size4(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_LCR_r4_subchannelSize_size4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* subchannels */
+   if (pvalue->m & 0x1u) {
+      stat = enc_AccessServiceClass_TDD_LCR_r4_subchannelSize_size4_subchannels(ctx, pvalue->subchannels, cur);
+      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size4(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_LCR_r4_subchannelSize_size4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AccessServiceClass_TDD_LCR_r4_subchannelSize_size4, pvalue);
+}
+
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size8_subchannels value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   {
+      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
+      uint32_t used = (uint32_t)(last + 1);
+      value.numbits = used <= 8 ? 8 : used;
+      if (last < -1) RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+   }
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32At(ctx, cur, &value, 8, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_LCR_r4_subchannelSize_size8_subchannels value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8_subchannels, value);
+}
+
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_LCR_r4_subchannelSize_size8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* subchannels */
+   if (pvalue->m & 0x1u) {
+      stat = enc_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8_subchannels(ctx, pvalue->subchannels, cur);
+      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_LCR_r4_subchannelSize_size8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8, pvalue);
+}
+
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_LCR_r4_subchannelSize(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_LCR_r4_subchannelSize* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 3) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.size2 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "size2", -1, 0);
+         stat = enc_AccessServiceClass_TDD_LCR_r4_subchannelSize_size2(ctx, pvalue->u.size2, cur);
+         RT_CHECK(ctx, stat, 0, "size2", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.size4 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "size4", -1, 0);
+         stat = enc_AccessServiceClass_TDD_LCR_r4_subchannelSize_size4(ctx, pvalue->u.size4, cur);
+         RT_CHECK(ctx, stat, 0, "size4", -1, 0);
+         break;
+      case 4:
+         if (pvalue->u.size8 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "size8", -1, 0);
+         stat = enc_AccessServiceClass_TDD_LCR_r4_subchannelSize_size8(ctx, pvalue->u.size8, cur);
+         RT_CHECK(ctx, stat, 0, "size8", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4_subchannelSize(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_LCR_r4_subchannelSize* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AccessServiceClass_TDD_LCR_r4_subchannelSize, pvalue);
+}
+
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_LCR_r4(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "AccessServiceClass-TDD-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "AccessServiceClass-TDD-LCR-r4");
+   /* availableSYNC-UlCodesIndics */
+   if (pvalue->m & 0x1u) {
+      stat = enc_AccessServiceClass_TDD_LCR_r4_availableSYNC_UlCodesIndics(ctx, pvalue->availableSYNC_UlCodesIndics, cur);
+      RT_CHECK(ctx, stat, 0, "availableSYNC-UlCodesIndics", -1, "AccessServiceClass-TDD-LCR-r4");
+   }
+   /* subchannelSize */
+   stat = enc_AccessServiceClass_TDD_LCR_r4_subchannelSize(ctx, &pvalue->subchannelSize, cur);
+   RT_CHECK(ctx, stat, 0, "subchannelSize", -1, "AccessServiceClass-TDD-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_AccessServiceClass_TDD_LCR_r4(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AccessServiceClass_TDD_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_ASCSetting_TDD_LCR_r4(rtxContext* RT_RESTRICT ctx, const ASCSetting_TDD_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ASCSetting-TDD-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ASCSetting-TDD-LCR-r4");
+   /* accessServiceClass-TDD-LCR */
+   if (pvalue->m & 0x1u) {
+      stat = enc_AccessServiceClass_TDD_LCR_r4(ctx, &pvalue->accessServiceClass_TDD_LCR, cur);
+      RT_CHECK(ctx, stat, 0, "accessServiceClass-TDD-LCR", -1, "ASCSetting-TDD-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ASCSetting_TDD_LCR_r4(rtxContext* RT_RESTRICT ctx, const ASCSetting_TDD_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ASCSetting_TDD_LCR_r4, pvalue);
+}
+
+static int enc_PRACH_Partitioning_LCR_r4(rtxContext* RT_RESTRICT ctx, const PRACH_Partitioning_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-Partitioning-LCR-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "PRACH-Partitioning-LCR-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ASCSetting-TDD-LCR-r4", (int32_t)i, "PRACH-Partitioning-LCR-r4");
+      stat = enc_ASCSetting_TDD_LCR_r4(ctx, (const ASCSetting_TDD_LCR_r4*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "ASCSetting-TDD-LCR-r4", (int32_t)i, "PRACH-Partitioning-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_Partitioning_LCR_r4(rtxContext* RT_RESTRICT ctx, const PRACH_Partitioning_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PRACH_Partitioning_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_PRACH_SystemInformation_LCR_r4(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformation_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-SystemInformation-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PRACH-SystemInformation-LCR-r4");
+   /* prach-RACH-Info-LCR */
+   stat = enc_PRACH_RACH_Info_LCR_r4(ctx, &pvalue->prach_RACH_Info_LCR, cur);
+   RT_CHECK(ctx, stat, 0, "prach-RACH-Info-LCR", -1, "PRACH-SystemInformation-LCR-r4");
+   /* rach-TransportFormatSet-LCR */
+   if (pvalue->m & 0x1u) {
+      stat = enc_TransportFormatSet_LCR(ctx, &pvalue->rach_TransportFormatSet_LCR, cur);
+      RT_CHECK(ctx, stat, 0, "rach-TransportFormatSet-LCR", -1, "PRACH-SystemInformation-LCR-r4");
+   }
+   /* prach-Partitioning-LCR */
+   if (pvalue->m & 0x2u) {
+      stat = enc_PRACH_Partitioning_LCR_r4(ctx, &pvalue->prach_Partitioning_LCR, cur);
+      RT_CHECK(ctx, stat, 0, "prach-Partitioning-LCR", -1, "PRACH-SystemInformation-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_SystemInformation_LCR_r4(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformation_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PRACH_SystemInformation_LCR_r4, pvalue);
+}
+
+static int enc_PRACH_SystemInformationList_LCR_r4(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformationList_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-SystemInformationList-LCR-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "PRACH-SystemInformationList-LCR-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "PRACH-SystemInformation-LCR-r4", (int32_t)i, "PRACH-SystemInformationList-LCR-r4");
+      stat = enc_PRACH_SystemInformation_LCR_r4(ctx, (const PRACH_SystemInformation_LCR_r4*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "PRACH-SystemInformation-LCR-r4", (int32_t)i, "PRACH-SystemInformationList-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_SystemInformationList_LCR_r4(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformationList_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PRACH_SystemInformationList_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_IndividualTimeslotInfo_LCR_r4_modulation(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4_modulation value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_IndividualTimeslotInfo_LCR_r4_modulation(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4_modulation value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IndividualTimeslotInfo_LCR_r4_modulation, value);
+}
+
+RT_MERGED_BODY int enc_IndividualTimeslotInfo_LCR_r4_ss_TPC_Symbols(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4_ss_TPC_Symbols value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 2) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_IndividualTimeslotInfo_LCR_r4_ss_TPC_Symbols(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4_ss_TPC_Symbols value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IndividualTimeslotInfo_LCR_r4_ss_TPC_Symbols, value);
+}
+
+RT_MERGED_BODY int enc_IndividualTimeslotInfo_LCR_r4(rtxContext* RT_RESTRICT ctx, const IndividualTimeslotInfo_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IndividualTimeslotInfo-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IndividualTimeslotInfo-LCR-r4");
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 6u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "IndividualTimeslotInfo-LCR-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslotNumber, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "IndividualTimeslotInfo-LCR-r4");
+   /* tfci-Existence */
+   stat = rtxEncBitAt(ctx, cur, pvalue->tfci_Existence);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tfci-Existence", -1, "IndividualTimeslotInfo-LCR-r4");
+   /* midambleShiftAndBurstType */
+   stat = enc_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType, cur);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "IndividualTimeslotInfo-LCR-r4");
+   /* modulation */
+   if (pvalue->modulation > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->modulation);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "modulation", -1, "IndividualTimeslotInfo-LCR-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->modulation, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "modulation", -1, "IndividualTimeslotInfo-LCR-r4");
+   /* ss-TPC-Symbols */
+   if (pvalue->ss_TPC_Symbols > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->ss_TPC_Symbols);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "ss-TPC-Symbols", -1, "IndividualTimeslotInfo-LCR-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ss_TPC_Symbols, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ss-TPC-Symbols", -1, "IndividualTimeslotInfo-LCR-r4");
+   /* additionalSS-TPC-Symbols */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->additionalSS_TPC_Symbols - 1) > 14u) {
+         rtxErrAddStrParm(ctx, "additionalSS-TPC-Symbols");
+         rtxErrAddUIntParm(ctx, pvalue->additionalSS_TPC_Symbols);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "additionalSS-TPC-Symbols", -1, "IndividualTimeslotInfo-LCR-r4");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->additionalSS_TPC_Symbols, 1, 15);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "additionalSS-TPC-Symbols", -1, "IndividualTimeslotInfo-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IndividualTimeslotInfo_LCR_r4(rtxContext* RT_RESTRICT ctx, const IndividualTimeslotInfo_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IndividualTimeslotInfo_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_consecutive(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_consecutive* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* numAdditionalTimeslots */
+   if ((uint64_t)(pvalue->numAdditionalTimeslots - 1) > 4u) {
+      rtxErrAddStrParm(ctx, "numAdditionalTimeslots");
+      rtxErrAddUIntParm(ctx, pvalue->numAdditionalTimeslots);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "numAdditionalTimeslots", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->numAdditionalTimeslots, 1, 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "numAdditionalTimeslots", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_consecutive(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_consecutive* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_consecutive, pvalue);
+}
+
+RT_MERGED_BODY int enc_UplinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslotNumber, 0, 14);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber", "timeslotNumber", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UplinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast, pvalue);
+}
+
+RT_MERGED_BODY int enc_UplinkAdditionalTimeslots_LCR_r4_parameters_newParameters(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_LCR_r4_parameters_newParameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* individualTimeslotInfo */
+   stat = enc_IndividualTimeslotInfo_LCR_r4(ctx, &pvalue->individualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
+   /* ul-TS-ChannelisationCodeList */
+   stat = enc_UL_TS_ChannelisationCodeList(ctx, &pvalue->ul_TS_ChannelisationCodeList, cur);
+   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r4_parameters_newParameters(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_LCR_r4_parameters_newParameters* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UplinkAdditionalTimeslots_LCR_r4_parameters_newParameters, pvalue);
+}
+
+RT_MERGED_BODY int enc_UplinkAdditionalTimeslots_LCR_r4_parameters(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_LCR_r4_parameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.sameAsLast == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "sameAsLast", -1, 0);
+         stat = enc_UplinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast(ctx, pvalue->u.sameAsLast, cur);
+         RT_CHECK(ctx, stat, 0, "sameAsLast", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.newParameters == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "newParameters", -1, 0);
+         stat = enc_UplinkAdditionalTimeslots_LCR_r4_parameters_newParameters(ctx, pvalue->u.newParameters, cur);
+         RT_CHECK(ctx, stat, 0, "newParameters", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r4_parameters(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_LCR_r4_parameters* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UplinkAdditionalTimeslots_LCR_r4_parameters, pvalue);
+}
+
+RT_MERGED_BODY int enc_UplinkAdditionalTimeslots_LCR_r4(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UplinkAdditionalTimeslots-LCR-r4");
+   /* parameters */
+   stat = enc_UplinkAdditionalTimeslots_LCR_r4_parameters(ctx, &pvalue->parameters, cur);
    RT_CHECK(ctx, stat, 0, "parameters", -1, "UplinkAdditionalTimeslots-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r4(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UplinkAdditionalTimeslots_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 5);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "UplinkAdditionalTimeslots-LCR-r4", (int32_t)i, 0);
+      stat = enc_UplinkAdditionalTimeslots_LCR_r4(ctx, (const UplinkAdditionalTimeslots_LCR_r4*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "UplinkAdditionalTimeslots-LCR-r4", (int32_t)i, 0);
+   }
    return 0;
 }
 
 int asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList, pvalue);
+}
+
+RT_MERGED_BODY int enc_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 5);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UplinkAdditionalTimeslots-LCR-r4", (int32_t)i, 0);
-      stat = asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r4(ctx, (const UplinkAdditionalTimeslots_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat, 0, "UplinkAdditionalTimeslots-LCR-r4", (int32_t)i, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.consecutive == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "consecutive", -1, 0);
+         stat = enc_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_consecutive(ctx, pvalue->u.consecutive, cur);
+         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.timeslotList == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "timeslotList", -1, 0);
+         stat = enc_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList, cur);
+         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
+         break;
+      default:
+         break;
    }
    return 0;
 }
 
 int asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots, pvalue);
+}
+
+RT_MERGED_BODY int enc_UplinkTimeslotsCodes_LCR_r4_moreTimeslots(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r4_moreTimeslots* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.consecutive == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "consecutive", -1, 0);
-         stat = asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_consecutive(ctx, pvalue->u.consecutive);
-         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
          break;
       case 2:
-         if (pvalue->u.timeslotList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "timeslotList", -1, 0);
-         stat = asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList);
-         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
+         if (pvalue->u.additionalTimeslots == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "additionalTimeslots", -1, 0);
+         stat = enc_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots, cur);
+         RT_CHECK(ctx, stat, 0, "additionalTimeslots", -1, 0);
          break;
       default:
          break;
@@ -2316,187 +5428,206 @@ int asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots(rt
 
 int asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r4_moreTimeslots* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_UplinkTimeslotsCodes_LCR_r4_moreTimeslots, pvalue);
+}
+
+static int enc_UplinkTimeslotsCodes_LCR_r4(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.additionalTimeslots == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "additionalTimeslots", -1, 0);
-         stat = asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots);
-         RT_CHECK(ctx, stat, 0, "additionalTimeslots", -1, 0);
-         break;
-      default:
-         break;
-   }
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UplinkTimeslotsCodes-LCR-r4");
+   /* dynamicSFusage */
+   stat = rtxEncBitAt(ctx, cur, pvalue->dynamicSFusage);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "dynamicSFusage", -1, "UplinkTimeslotsCodes-LCR-r4");
+   /* firstIndividualTimeslotInfo */
+   stat = enc_IndividualTimeslotInfo_LCR_r4(ctx, &pvalue->firstIndividualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "UplinkTimeslotsCodes-LCR-r4");
+   /* ul-TS-ChannelisationCodeList */
+   stat = enc_UL_TS_ChannelisationCodeList(ctx, &pvalue->ul_TS_ChannelisationCodeList, cur);
+   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, "UplinkTimeslotsCodes-LCR-r4");
+   /* moreTimeslots */
+   stat = enc_UplinkTimeslotsCodes_LCR_r4_moreTimeslots(ctx, &pvalue->moreTimeslots, cur);
+   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "UplinkTimeslotsCodes-LCR-r4");
    return 0;
 }
 
 int asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r4(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r4* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UplinkTimeslotsCodes-LCR-r4");
-   /* dynamicSFusage */
-   stat = rtxEncBit(ctx, pvalue->dynamicSFusage);
-   RT_CHECK(ctx, stat, 0, "dynamicSFusage", -1, "UplinkTimeslotsCodes-LCR-r4");
-   /* firstIndividualTimeslotInfo */
-   stat = asn1PE_UMTS_IndividualTimeslotInfo_LCR_r4(ctx, &pvalue->firstIndividualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "UplinkTimeslotsCodes-LCR-r4");
-   /* ul-TS-ChannelisationCodeList */
-   stat = asn1PE_UMTS_UL_TS_ChannelisationCodeList(ctx, &pvalue->ul_TS_ChannelisationCodeList);
-   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, "UplinkTimeslotsCodes-LCR-r4");
-   /* moreTimeslots */
-   stat = asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r4_moreTimeslots(ctx, &pvalue->moreTimeslots);
-   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "UplinkTimeslotsCodes-LCR-r4");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_UplinkTimeslotsCodes_LCR_r4, pvalue);
 }
 
-int asn1PE_UMTS_PUSCH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, const PUSCH_Info_LCR_r4* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_PUSCH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, const PUSCH_Info_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-Info-LCR-r4");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-Info-LCR-r4");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 2) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->tfcs_ID != 1) << 2) |
       ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-Info-LCR-r4");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PUSCH-Info-LCR-r4");
    /* tfcs-ID */
    if (pvalue->tfcs_ID != 1) {
       if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
          rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
          rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "PUSCH-Info-LCR-r4");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "PUSCH-Info-LCR-r4");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PUSCH-Info-LCR-r4");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PUSCH-Info-LCR-r4");
    }
    /* commonTimeslotInfo */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
+      stat = enc_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo, cur);
       RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "PUSCH-Info-LCR-r4");
    }
    /* pusch-TimeslotsCodes */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r4(ctx, &pvalue->pusch_TimeslotsCodes);
+      stat = enc_UplinkTimeslotsCodes_LCR_r4(ctx, &pvalue->pusch_TimeslotsCodes, cur);
       RT_CHECK(ctx, stat, 0, "pusch-TimeslotsCodes", -1, "PUSCH-Info-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, const PUSCH_Info_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_Info_LCR_r4, pvalue);
+}
+
+static int enc_PUSCH_SysInfo_LCR_r4(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfo_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-SysInfo-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PUSCH-SysInfo-LCR-r4");
+   /* pusch-Identity */
+   if ((uint64_t)(pvalue->pusch_Identity - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "PUSCH-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->pusch_Identity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PUSCH-Identity", "pusch-Identity", -1, "PUSCH-SysInfo-LCR-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pusch_Identity, 1, 64);
+   RT_CHECK_PUT(ctx, cur, stat, "PUSCH-Identity", "pusch-Identity", -1, "PUSCH-SysInfo-LCR-r4");
+   /* pusch-Info */
+   stat = enc_PUSCH_Info_LCR_r4(ctx, &pvalue->pusch_Info, cur);
+   RT_CHECK(ctx, stat, 0, "pusch-Info", -1, "PUSCH-SysInfo-LCR-r4");
+   /* usch-TFS */
+   if (pvalue->m & 0x1u) {
+      stat = enc_TransportFormatSet(ctx, &pvalue->usch_TFS, cur);
+      RT_CHECK(ctx, stat, 0, "usch-TFS", -1, "PUSCH-SysInfo-LCR-r4");
+   }
+   /* usch-TFCS */
+   if (pvalue->m & 0x2u) {
+      stat = enc_TFCS(ctx, &pvalue->usch_TFCS, cur);
+      RT_CHECK(ctx, stat, 0, "usch-TFCS", -1, "PUSCH-SysInfo-LCR-r4");
    }
    return 0;
 }
 
 int asn1PE_UMTS_PUSCH_SysInfo_LCR_r4(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfo_LCR_r4* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_SysInfo_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_PUSCH_SysInfoList_SFN_LCR_r4_element(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_SFN_LCR_r4_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-SysInfo-LCR-r4");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-SysInfo-LCR-r4");
-   /* pusch-Identity */
-   if ((uint64_t)(pvalue->pusch_Identity - 1) > 63u) {
-      rtxErrAddStrParm(ctx, "PUSCH-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->pusch_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PUSCH-Identity", "pusch-Identity", -1, "PUSCH-SysInfo-LCR-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pusch_Identity, 1, 64);
-   RT_CHECK(ctx, stat, "PUSCH-Identity", "pusch-Identity", -1, "PUSCH-SysInfo-LCR-r4");
-   /* pusch-Info */
-   stat = asn1PE_UMTS_PUSCH_Info_LCR_r4(ctx, &pvalue->pusch_Info);
-   RT_CHECK(ctx, stat, 0, "pusch-Info", -1, "PUSCH-SysInfo-LCR-r4");
-   /* usch-TFS */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pusch-SysInfo */
+   stat = enc_PUSCH_SysInfo_LCR_r4(ctx, &pvalue->pusch_SysInfo, cur);
+   RT_CHECK(ctx, stat, 0, "pusch-SysInfo", -1, 0);
+   /* sfn-TimeInfo */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->usch_TFS);
-      RT_CHECK(ctx, stat, 0, "usch-TFS", -1, "PUSCH-SysInfo-LCR-r4");
-   }
-   /* usch-TFCS */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_TFCS(ctx, &pvalue->usch_TFCS);
-      RT_CHECK(ctx, stat, 0, "usch-TFCS", -1, "PUSCH-SysInfo-LCR-r4");
+      stat = enc_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "sfn-TimeInfo", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_PUSCH_SysInfoList_SFN_LCR_r4_element(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_SFN_LCR_r4_element* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_SysInfoList_SFN_LCR_r4_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_PUSCH_SysInfoList_SFN_LCR_r4(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_SFN_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-SysInfo */
-   stat = asn1PE_UMTS_PUSCH_SysInfo_LCR_r4(ctx, &pvalue->pusch_SysInfo);
-   RT_CHECK(ctx, stat, 0, "pusch-SysInfo", -1, 0);
-   /* sfn-TimeInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo);
-      RT_CHECK(ctx, stat, 0, "sfn-TimeInfo", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-SysInfoList-SFN-LCR-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "PUSCH-SysInfoList-SFN-LCR-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN-LCR-r4");
+      stat = enc_PUSCH_SysInfoList_SFN_LCR_r4_element(ctx, (const PUSCH_SysInfoList_SFN_LCR_r4_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN-LCR-r4");
    }
    return 0;
 }
 
 int asn1PE_UMTS_PUSCH_SysInfoList_SFN_LCR_r4(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_SFN_LCR_r4* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_SysInfoList_SFN_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_DownlinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-SysInfoList-SFN-LCR-r4");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PUSCH-SysInfoList-SFN-LCR-r4");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN-LCR-r4");
-      stat = asn1PE_UMTS_PUSCH_SysInfoList_SFN_LCR_r4_element(ctx, (const PUSCH_SysInfoList_SFN_LCR_r4_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN-LCR-r4");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 6u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, 0);
    }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslotNumber, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_DownlinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_DownlinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast, pvalue);
+}
+
+RT_MERGED_BODY int enc_DownlinkAdditionalTimeslots_LCR_r4_parameters_newParameters(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_LCR_r4_parameters_newParameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* timeslotNumber */
-   if ((uint64_t)pvalue->timeslotNumber > 6u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* individualTimeslotInfo */
+   stat = enc_IndividualTimeslotInfo_LCR_r4(ctx, &pvalue->individualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
+   /* dl-TS-ChannelisationCodesShort */
+   stat = enc_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort, cur);
+   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_DownlinkAdditionalTimeslots_LCR_r4_parameters_newParameters(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_LCR_r4_parameters_newParameters* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* individualTimeslotInfo */
-   stat = asn1PE_UMTS_IndividualTimeslotInfo_LCR_r4(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
-   /* dl-TS-ChannelisationCodesShort */
-   stat = asn1PE_UMTS_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort);
-   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_DownlinkAdditionalTimeslots_LCR_r4_parameters_newParameters, pvalue);
 }
 
-int asn1PE_UMTS_DownlinkAdditionalTimeslots_LCR_r4_parameters(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_LCR_r4_parameters* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_DownlinkAdditionalTimeslots_LCR_r4_parameters(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_LCR_r4_parameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.sameAsLast == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sameAsLast", -1, 0);
-         stat = asn1PE_UMTS_DownlinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast(ctx, pvalue->u.sameAsLast);
+         if (pvalue->u.sameAsLast == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "sameAsLast", -1, 0);
+         stat = enc_DownlinkAdditionalTimeslots_LCR_r4_parameters_sameAsLast(ctx, pvalue->u.sameAsLast, cur);
          RT_CHECK(ctx, stat, 0, "sameAsLast", -1, 0);
          break;
       case 2:
-         if (pvalue->u.newParameters == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "newParameters", -1, 0);
-         stat = asn1PE_UMTS_DownlinkAdditionalTimeslots_LCR_r4_parameters_newParameters(ctx, pvalue->u.newParameters);
+         if (pvalue->u.newParameters == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "newParameters", -1, 0);
+         stat = enc_DownlinkAdditionalTimeslots_LCR_r4_parameters_newParameters(ctx, pvalue->u.newParameters, cur);
          RT_CHECK(ctx, stat, 0, "newParameters", -1, 0);
          break;
       default:
@@ -2505,54 +5636,95 @@ int asn1PE_UMTS_DownlinkAdditionalTimeslots_LCR_r4_parameters(rtxContext* RT_RES
    return 0;
 }
 
-int asn1PE_UMTS_DownlinkAdditionalTimeslots_LCR_r4(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_LCR_r4* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DownlinkAdditionalTimeslots_LCR_r4_parameters(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_LCR_r4_parameters* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DownlinkAdditionalTimeslots_LCR_r4_parameters, pvalue);
+}
+
+RT_MERGED_BODY int enc_DownlinkAdditionalTimeslots_LCR_r4(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DownlinkAdditionalTimeslots-LCR-r4");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DownlinkAdditionalTimeslots-LCR-r4");
    /* parameters */
-   stat = asn1PE_UMTS_DownlinkAdditionalTimeslots_LCR_r4_parameters(ctx, &pvalue->parameters);
+   stat = enc_DownlinkAdditionalTimeslots_LCR_r4_parameters(ctx, &pvalue->parameters, cur);
    RT_CHECK(ctx, stat, 0, "parameters", -1, "DownlinkAdditionalTimeslots-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkAdditionalTimeslots_LCR_r4(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DownlinkAdditionalTimeslots_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 5);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DownlinkAdditionalTimeslots-LCR-r4", (int32_t)i, 0);
+      stat = enc_DownlinkAdditionalTimeslots_LCR_r4(ctx, (const DownlinkAdditionalTimeslots_LCR_r4*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DownlinkAdditionalTimeslots-LCR-r4", (int32_t)i, 0);
+   }
    return 0;
 }
 
 int asn1PE_UMTS_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList, pvalue);
+}
+
+RT_MERGED_BODY int enc_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 5);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DownlinkAdditionalTimeslots-LCR-r4", (int32_t)i, 0);
-      stat = asn1PE_UMTS_DownlinkAdditionalTimeslots_LCR_r4(ctx, (const DownlinkAdditionalTimeslots_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat, 0, "DownlinkAdditionalTimeslots-LCR-r4", (int32_t)i, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)(pvalue->u.consecutive - 1) > 4u) {
+            rtxErrAddStrParm(ctx, "consecutive");
+            rtxErrAddUIntParm(ctx, pvalue->u.consecutive);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "consecutive", -1, 0);
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.consecutive, 1, 5);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "consecutive", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.timeslotList == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "timeslotList", -1, 0);
+         stat = enc_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList, cur);
+         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
+         break;
+      default:
+         break;
    }
    return 0;
 }
 
 int asn1PE_UMTS_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots, pvalue);
+}
+
+static int enc_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_LCR_r4_moreTimeslots* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if ((uint64_t)(pvalue->u.consecutive - 1) > 4u) {
-            rtxErrAddStrParm(ctx, "consecutive");
-            rtxErrAddUIntParm(ctx, pvalue->u.consecutive);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "consecutive", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.consecutive, 1, 5);
-         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
          break;
       case 2:
-         if (pvalue->u.timeslotList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "timeslotList", -1, 0);
-         stat = asn1PE_UMTS_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList);
-         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
+         if (pvalue->u.additionalTimeslots == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "additionalTimeslots", -1, 0);
+         stat = enc_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots, cur);
+         RT_CHECK(ctx, stat, 0, "additionalTimeslots", -1, 0);
          break;
       default:
          break;
@@ -2562,978 +5734,1187 @@ int asn1PE_UMTS_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots(
 
 int asn1PE_UMTS_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_LCR_r4_moreTimeslots* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots, pvalue);
+}
+
+static int enc_DownlinkTimeslotsCodes_LCR_r4(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.additionalTimeslots == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "additionalTimeslots", -1, 0);
-         stat = asn1PE_UMTS_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots);
-         RT_CHECK(ctx, stat, 0, "additionalTimeslots", -1, 0);
-         break;
-      default:
-         break;
-   }
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DownlinkTimeslotsCodes-LCR-r4");
+   /* firstIndividualTimeslotInfo */
+   stat = enc_IndividualTimeslotInfo_LCR_r4(ctx, &pvalue->firstIndividualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "DownlinkTimeslotsCodes-LCR-r4");
+   /* dl-TS-ChannelisationCodesShort */
+   stat = enc_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort, cur);
+   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, "DownlinkTimeslotsCodes-LCR-r4");
+   /* moreTimeslots */
+   stat = enc_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots(ctx, &pvalue->moreTimeslots, cur);
+   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "DownlinkTimeslotsCodes-LCR-r4");
    return 0;
 }
 
 int asn1PE_UMTS_DownlinkTimeslotsCodes_LCR_r4(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_LCR_r4* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DownlinkTimeslotsCodes-LCR-r4");
-   /* firstIndividualTimeslotInfo */
-   stat = asn1PE_UMTS_IndividualTimeslotInfo_LCR_r4(ctx, &pvalue->firstIndividualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "DownlinkTimeslotsCodes-LCR-r4");
-   /* dl-TS-ChannelisationCodesShort */
-   stat = asn1PE_UMTS_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort);
-   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, "DownlinkTimeslotsCodes-LCR-r4");
-   /* moreTimeslots */
-   stat = asn1PE_UMTS_DownlinkTimeslotsCodes_LCR_r4_moreTimeslots(ctx, &pvalue->moreTimeslots);
-   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "DownlinkTimeslotsCodes-LCR-r4");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_DownlinkTimeslotsCodes_LCR_r4, pvalue);
 }
 
-int asn1PE_UMTS_PDSCH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_LCR_r4* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_PDSCH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-Info-LCR-r4");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-Info-LCR-r4");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 2) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->tfcs_ID != 1) << 2) |
       ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-Info-LCR-r4");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PDSCH-Info-LCR-r4");
    /* tfcs-ID */
    if (pvalue->tfcs_ID != 1) {
       if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
          rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
          rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "PDSCH-Info-LCR-r4");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "PDSCH-Info-LCR-r4");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PDSCH-Info-LCR-r4");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PDSCH-Info-LCR-r4");
    }
    /* commonTimeslotInfo */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
+      stat = enc_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo, cur);
       RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "PDSCH-Info-LCR-r4");
    }
    /* pdsch-TimeslotsCodes */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->pdsch_TimeslotsCodes);
+      stat = enc_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->pdsch_TimeslotsCodes, cur);
       RT_CHECK(ctx, stat, 0, "pdsch-TimeslotsCodes", -1, "PDSCH-Info-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_Info_LCR_r4, pvalue);
+}
+
+static int enc_PDSCH_SysInfo_LCR_r4(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfo_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-SysInfo-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PDSCH-SysInfo-LCR-r4");
+   /* pdsch-Identity */
+   if ((uint64_t)(pvalue->pdsch_Identity - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "PDSCH-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->pdsch_Identity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PDSCH-Identity", "pdsch-Identity", -1, "PDSCH-SysInfo-LCR-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pdsch_Identity, 1, 64);
+   RT_CHECK_PUT(ctx, cur, stat, "PDSCH-Identity", "pdsch-Identity", -1, "PDSCH-SysInfo-LCR-r4");
+   /* pdsch-Info */
+   stat = enc_PDSCH_Info_LCR_r4(ctx, &pvalue->pdsch_Info, cur);
+   RT_CHECK(ctx, stat, 0, "pdsch-Info", -1, "PDSCH-SysInfo-LCR-r4");
+   /* dsch-TFS */
+   if (pvalue->m & 0x1u) {
+      stat = enc_TransportFormatSet(ctx, &pvalue->dsch_TFS, cur);
+      RT_CHECK(ctx, stat, 0, "dsch-TFS", -1, "PDSCH-SysInfo-LCR-r4");
+   }
+   /* dsch-TFCS */
+   if (pvalue->m & 0x2u) {
+      stat = enc_TFCS(ctx, &pvalue->dsch_TFCS, cur);
+      RT_CHECK(ctx, stat, 0, "dsch-TFCS", -1, "PDSCH-SysInfo-LCR-r4");
    }
    return 0;
 }
 
 int asn1PE_UMTS_PDSCH_SysInfo_LCR_r4(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfo_LCR_r4* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_SysInfo_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDSCH_SysInfoList_SFN_LCR_r4_element(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList_SFN_LCR_r4_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-SysInfo-LCR-r4");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-SysInfo-LCR-r4");
-   /* pdsch-Identity */
-   if ((uint64_t)(pvalue->pdsch_Identity - 1) > 63u) {
-      rtxErrAddStrParm(ctx, "PDSCH-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->pdsch_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PDSCH-Identity", "pdsch-Identity", -1, "PDSCH-SysInfo-LCR-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pdsch_Identity, 1, 64);
-   RT_CHECK(ctx, stat, "PDSCH-Identity", "pdsch-Identity", -1, "PDSCH-SysInfo-LCR-r4");
-   /* pdsch-Info */
-   stat = asn1PE_UMTS_PDSCH_Info_LCR_r4(ctx, &pvalue->pdsch_Info);
-   RT_CHECK(ctx, stat, 0, "pdsch-Info", -1, "PDSCH-SysInfo-LCR-r4");
-   /* dsch-TFS */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pdsch-SysInfo */
+   stat = enc_PDSCH_SysInfo_LCR_r4(ctx, &pvalue->pdsch_SysInfo, cur);
+   RT_CHECK(ctx, stat, 0, "pdsch-SysInfo", -1, 0);
+   /* sfn-TimeInfo */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->dsch_TFS);
-      RT_CHECK(ctx, stat, 0, "dsch-TFS", -1, "PDSCH-SysInfo-LCR-r4");
-   }
-   /* dsch-TFCS */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_TFCS(ctx, &pvalue->dsch_TFCS);
-      RT_CHECK(ctx, stat, 0, "dsch-TFCS", -1, "PDSCH-SysInfo-LCR-r4");
+      stat = enc_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "sfn-TimeInfo", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_PDSCH_SysInfoList_SFN_LCR_r4_element(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList_SFN_LCR_r4_element* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_SysInfoList_SFN_LCR_r4_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDSCH_SysInfoList_SFN_LCR_r4(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList_SFN_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pdsch-SysInfo */
-   stat = asn1PE_UMTS_PDSCH_SysInfo_LCR_r4(ctx, &pvalue->pdsch_SysInfo);
-   RT_CHECK(ctx, stat, 0, "pdsch-SysInfo", -1, 0);
-   /* sfn-TimeInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo);
-      RT_CHECK(ctx, stat, 0, "sfn-TimeInfo", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-SysInfoList-SFN-LCR-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "PDSCH-SysInfoList-SFN-LCR-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "PDSCH-SysInfoList-SFN-LCR-r4");
+      stat = enc_PDSCH_SysInfoList_SFN_LCR_r4_element(ctx, (const PDSCH_SysInfoList_SFN_LCR_r4_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PDSCH-SysInfoList-SFN-LCR-r4");
    }
    return 0;
 }
 
 int asn1PE_UMTS_PDSCH_SysInfoList_SFN_LCR_r4(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList_SFN_LCR_r4* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_SysInfoList_SFN_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_PrimaryCCPCH_Info_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_LCR_r4_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-SysInfoList-SFN-LCR-r4");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PDSCH-SysInfoList-SFN-LCR-r4");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "PDSCH-SysInfoList-SFN-LCR-r4");
-      stat = asn1PE_UMTS_PDSCH_SysInfoList_SFN_LCR_r4_element(ctx, (const PDSCH_SysInfoList_SFN_LCR_r4_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PDSCH-SysInfoList-SFN-LCR-r4");
-   }
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PrimaryCCPCH-Info-LCR-r4-ext");
+   /* tstd-Indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->tstd_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tstd-Indicator", -1, "PrimaryCCPCH-Info-LCR-r4-ext");
    return 0;
 }
 
 int asn1PE_UMTS_PrimaryCCPCH_Info_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_LCR_r4_ext* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_PrimaryCCPCH_Info_LCR_r4_ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_IndividualTimeslotInfo_LCR_r4_ext_modulation(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4_ext_modulation value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PrimaryCCPCH-Info-LCR-r4-ext");
-   /* tstd-Indicator */
-   stat = rtxEncBit(ctx, pvalue->tstd_Indicator);
-   RT_CHECK(ctx, stat, 0, "tstd-Indicator", -1, "PrimaryCCPCH-Info-LCR-r4-ext");
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_IndividualTimeslotInfo_LCR_r4_ext_modulation(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4_ext_modulation value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_IndividualTimeslotInfo_LCR_r4_ext_modulation, value);
+}
+
+RT_MERGED_BODY int enc_IndividualTimeslotInfo_LCR_r4_ext_ss_TPC_Symbols(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4_ext_ss_TPC_Symbols value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 1) {
+   if (value > 2) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_IndividualTimeslotInfo_LCR_r4_ext_ss_TPC_Symbols(rtxContext* RT_RESTRICT ctx, IndividualTimeslotInfo_LCR_r4_ext_ss_TPC_Symbols value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_IndividualTimeslotInfo_LCR_r4_ext_ss_TPC_Symbols, value);
+}
+
+RT_MERGED_BODY int enc_IndividualTimeslotInfo_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const IndividualTimeslotInfo_LCR_r4_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 2) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IndividualTimeslotInfo-LCR-r4-ext");
+   /* midambleShiftAndBurstType */
+   stat = enc_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType, cur);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "IndividualTimeslotInfo-LCR-r4-ext");
+   /* modulation */
+   if (pvalue->modulation > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->modulation);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "modulation", -1, "IndividualTimeslotInfo-LCR-r4-ext");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->modulation, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "modulation", -1, "IndividualTimeslotInfo-LCR-r4-ext");
+   /* ss-TPC-Symbols */
+   if (pvalue->ss_TPC_Symbols > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->ss_TPC_Symbols);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "ss-TPC-Symbols", -1, "IndividualTimeslotInfo-LCR-r4-ext");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ss_TPC_Symbols, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ss-TPC-Symbols", -1, "IndividualTimeslotInfo-LCR-r4-ext");
    return 0;
 }
 
 int asn1PE_UMTS_IndividualTimeslotInfo_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const IndividualTimeslotInfo_LCR_r4_ext* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_IndividualTimeslotInfo_LCR_r4_ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_SecondaryCCPCH_Info_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_LCR_r4_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IndividualTimeslotInfo-LCR-r4-ext");
-   /* midambleShiftAndBurstType */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "IndividualTimeslotInfo-LCR-r4-ext");
-   /* modulation */
-   if (pvalue->modulation > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->modulation);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "modulation", -1, "IndividualTimeslotInfo-LCR-r4-ext");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->modulation, 0, 1);
-   RT_CHECK(ctx, stat, 0, "modulation", -1, "IndividualTimeslotInfo-LCR-r4-ext");
-   /* ss-TPC-Symbols */
-   if (pvalue->ss_TPC_Symbols > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->ss_TPC_Symbols);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "ss-TPC-Symbols", -1, "IndividualTimeslotInfo-LCR-r4-ext");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ss_TPC_Symbols, 0, 2);
-   RT_CHECK(ctx, stat, 0, "ss-TPC-Symbols", -1, "IndividualTimeslotInfo-LCR-r4-ext");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SecondaryCCPCH-Info-LCR-r4-ext");
+   /* individualTimeslotLCR-Ext */
+   stat = enc_IndividualTimeslotInfo_LCR_r4_ext(ctx, &pvalue->individualTimeslotLCR_Ext, cur);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotLCR-Ext", -1, "SecondaryCCPCH-Info-LCR-r4-ext");
    return 0;
 }
 
 int asn1PE_UMTS_SecondaryCCPCH_Info_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_LCR_r4_ext* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryCCPCH_Info_LCR_r4_ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_PichChannelisationCodeList_LCR_r4(rtxContext* RT_RESTRICT ctx, const PichChannelisationCodeList_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SecondaryCCPCH-Info-LCR-r4-ext");
-   /* individualTimeslotLCR-Ext */
-   stat = asn1PE_UMTS_IndividualTimeslotInfo_LCR_r4_ext(ctx, &pvalue->individualTimeslotLCR_Ext);
-   RT_CHECK(ctx, stat, 0, "individualTimeslotLCR-Ext", -1, "SecondaryCCPCH-Info-LCR-r4-ext");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PichChannelisationCodeList-LCR-r4");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 2);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "PichChannelisationCodeList-LCR-r4");
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "DL-TS-ChannelisationCode", "DL-TS-ChannelisationCode", (int32_t)i, "PichChannelisationCodeList-LCR-r4");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "DL-TS-ChannelisationCode", "DL-TS-ChannelisationCode", (int32_t)i, "PichChannelisationCodeList-LCR-r4");
+   }
    return 0;
 }
 
 int asn1PE_UMTS_PichChannelisationCodeList_LCR_r4(rtxContext* RT_RESTRICT ctx, const PichChannelisationCodeList_LCR_r4* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PichChannelisationCodeList-LCR-r4");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 2);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PichChannelisationCodeList-LCR-r4");
-   for (i = 0; i < pvalue->n; i++) {
-      if (pvalue->elem[i] > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "DL-TS-ChannelisationCode", "DL-TS-ChannelisationCode", (int32_t)i, "PichChannelisationCodeList-LCR-r4");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 15);
-      RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode", "DL-TS-ChannelisationCode", (int32_t)i, "PichChannelisationCodeList-LCR-r4");
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_PichChannelisationCodeList_LCR_r4, pvalue);
 }
 
-int asn1PE_UMTS_PICH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, const PICH_Info_LCR_r4* RT_RESTRICT pvalue)
+static int enc_PICH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, const PICH_Info_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PICH-Info-LCR-r4");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PICH-Info-LCR-r4");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
       ((uint64_t)(pvalue->pagingIndicatorLength != 0) << 2) |
       ((uint64_t)(pvalue->n_GAP != 1) << 1) |
       ((uint64_t)(pvalue->n_PCH != 2) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PICH-Info-LCR-r4");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PICH-Info-LCR-r4");
    /* timeslot */
    if (pvalue->m & 0x1u) {
       if ((uint64_t)pvalue->timeslot > 6u) {
          rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
          rtxErrAddUIntParm(ctx, pvalue->timeslot);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslot", -1, "PICH-Info-LCR-r4");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslot", -1, "PICH-Info-LCR-r4");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 6);
-      RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslot", -1, "PICH-Info-LCR-r4");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslot, 0, 6);
+      RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber-LCR-r4", "timeslot", -1, "PICH-Info-LCR-r4");
    }
    /* pichChannelisationCodeList-LCR-r4 */
-   stat = asn1PE_UMTS_PichChannelisationCodeList_LCR_r4(ctx, &pvalue->pichChannelisationCodeList_LCR_r4);
+   stat = enc_PichChannelisationCodeList_LCR_r4(ctx, &pvalue->pichChannelisationCodeList_LCR_r4, cur);
    RT_CHECK(ctx, stat, 0, "pichChannelisationCodeList-LCR-r4", -1, "PICH-Info-LCR-r4");
    /* midambleShiftAndBurstType */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType);
+   stat = enc_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType, cur);
    RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "PICH-Info-LCR-r4");
    /* repetitionPeriodLengthOffset */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_RepPerLengthOffset_PICH(ctx, &pvalue->repetitionPeriodLengthOffset);
+      stat = enc_RepPerLengthOffset_PICH(ctx, &pvalue->repetitionPeriodLengthOffset, cur);
       RT_CHECK(ctx, stat, 0, "repetitionPeriodLengthOffset", -1, "PICH-Info-LCR-r4");
    }
    /* pagingIndicatorLength */
    if (pvalue->pagingIndicatorLength != 0) {
       if (pvalue->pagingIndicatorLength > 2) {
          rtxErrAddUIntParm(ctx, pvalue->pagingIndicatorLength);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "PagingIndicatorLength", "pagingIndicatorLength", -1, "PICH-Info-LCR-r4");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PagingIndicatorLength", "pagingIndicatorLength", -1, "PICH-Info-LCR-r4");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->pagingIndicatorLength, 0, 2);
-      RT_CHECK(ctx, stat, "PagingIndicatorLength", "pagingIndicatorLength", -1, "PICH-Info-LCR-r4");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->pagingIndicatorLength, 0, 2);
+      RT_CHECK_PUT(ctx, cur, stat, "PagingIndicatorLength", "pagingIndicatorLength", -1, "PICH-Info-LCR-r4");
    }
    /* n-GAP */
    if (pvalue->n_GAP != 1) {
       if (pvalue->n_GAP > 2) {
          rtxErrAddUIntParm(ctx, pvalue->n_GAP);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "N-GAP", "n-GAP", -1, "PICH-Info-LCR-r4");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "N-GAP", "n-GAP", -1, "PICH-Info-LCR-r4");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->n_GAP, 0, 2);
-      RT_CHECK(ctx, stat, "N-GAP", "n-GAP", -1, "PICH-Info-LCR-r4");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->n_GAP, 0, 2);
+      RT_CHECK_PUT(ctx, cur, stat, "N-GAP", "n-GAP", -1, "PICH-Info-LCR-r4");
    }
    /* n-PCH */
    if (pvalue->n_PCH != 2) {
       if ((uint64_t)(pvalue->n_PCH - 1) > 7u) {
          rtxErrAddStrParm(ctx, "N-PCH");
          rtxErrAddUIntParm(ctx, pvalue->n_PCH);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "N-PCH", "n-PCH", -1, "PICH-Info-LCR-r4");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "N-PCH", "n-PCH", -1, "PICH-Info-LCR-r4");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->n_PCH, 1, 8);
-      RT_CHECK(ctx, stat, "N-PCH", "n-PCH", -1, "PICH-Info-LCR-r4");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->n_PCH, 1, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "N-PCH", "n-PCH", -1, "PICH-Info-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PICH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, const PICH_Info_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PICH_Info_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_SCCPCH_SystemInformation_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation_LCR_r4_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SCCPCH-SystemInformation-LCR-r4-ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SCCPCH-SystemInformation-LCR-r4-ext");
+   /* secondaryCCPCH-LCR-Extensions */
+   stat = enc_SecondaryCCPCH_Info_LCR_r4_ext(ctx, &pvalue->secondaryCCPCH_LCR_Extensions, cur);
+   RT_CHECK(ctx, stat, 0, "secondaryCCPCH-LCR-Extensions", -1, "SCCPCH-SystemInformation-LCR-r4-ext");
+   /* pich-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PICH_Info_LCR_r4(ctx, &pvalue->pich_Info, cur);
+      RT_CHECK(ctx, stat, 0, "pich-Info", -1, "SCCPCH-SystemInformation-LCR-r4-ext");
    }
    return 0;
 }
 
 int asn1PE_UMTS_SCCPCH_SystemInformation_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation_LCR_r4_ext* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SCCPCH_SystemInformation_LCR_r4_ext, pvalue);
+}
+
+static int enc_SCCPCH_SystemInformationList_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformationList_LCR_r4_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SCCPCH-SystemInformation-LCR-r4-ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SCCPCH-SystemInformation-LCR-r4-ext");
-   /* secondaryCCPCH-LCR-Extensions */
-   stat = asn1PE_UMTS_SecondaryCCPCH_Info_LCR_r4_ext(ctx, &pvalue->secondaryCCPCH_LCR_Extensions);
-   RT_CHECK(ctx, stat, 0, "secondaryCCPCH-LCR-Extensions", -1, "SCCPCH-SystemInformation-LCR-r4-ext");
-   /* pich-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PICH_Info_LCR_r4(ctx, &pvalue->pich_Info);
-      RT_CHECK(ctx, stat, 0, "pich-Info", -1, "SCCPCH-SystemInformation-LCR-r4-ext");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SCCPCH-SystemInformationList-LCR-r4-ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "SCCPCH-SystemInformationList-LCR-r4-ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "SCCPCH-SystemInformation-LCR-r4-ext", (int32_t)i, "SCCPCH-SystemInformationList-LCR-r4-ext");
+      stat = enc_SCCPCH_SystemInformation_LCR_r4_ext(ctx, (const SCCPCH_SystemInformation_LCR_r4_ext*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "SCCPCH-SystemInformation-LCR-r4-ext", (int32_t)i, "SCCPCH-SystemInformationList-LCR-r4-ext");
    }
    return 0;
 }
 
 int asn1PE_UMTS_SCCPCH_SystemInformationList_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformationList_LCR_r4_ext* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SCCPCH_SystemInformationList_LCR_r4_ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType5_v4b0ext_IEs_tdd128SpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0ext_IEs_tdd128SpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SCCPCH-SystemInformationList-LCR-r4-ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SCCPCH-SystemInformationList-LCR-r4-ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "SCCPCH-SystemInformation-LCR-r4-ext", (int32_t)i, "SCCPCH-SystemInformationList-LCR-r4-ext");
-      stat = asn1PE_UMTS_SCCPCH_SystemInformation_LCR_r4_ext(ctx, (const SCCPCH_SystemInformation_LCR_r4_ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "SCCPCH-SystemInformation-LCR-r4-ext", (int32_t)i, "SCCPCH-SystemInformationList-LCR-r4-ext");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pusch-SysInfoList-SFN */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PUSCH_SysInfoList_SFN_LCR_r4(ctx, &pvalue->pusch_SysInfoList_SFN, cur);
+      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
    }
+   /* pdsch-SysInfoList-SFN */
+   if (pvalue->m & 0x2u) {
+      stat = enc_PDSCH_SysInfoList_SFN_LCR_r4(ctx, &pvalue->pdsch_SysInfoList_SFN, cur);
+      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
+   }
+   /* pCCPCH-LCR-Extensions */
+   if (pvalue->m & 0x4u) {
+      stat = enc_PrimaryCCPCH_Info_LCR_r4_ext(ctx, &pvalue->pCCPCH_LCR_Extensions, cur);
+      RT_CHECK(ctx, stat, 0, "pCCPCH-LCR-Extensions", -1, 0);
+   }
+   /* sCCPCH-LCR-ExtensionsList */
+   stat = enc_SCCPCH_SystemInformationList_LCR_r4_ext(ctx, &pvalue->sCCPCH_LCR_ExtensionsList, cur);
+   RT_CHECK(ctx, stat, 0, "sCCPCH-LCR-ExtensionsList", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType5_v4b0ext_IEs_tdd128SpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0ext_IEs_tdd128SpecificInfo* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5_v4b0ext_IEs_tdd128SpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_RadioFrequencyBandFDD(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandFDD value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-SysInfoList-SFN */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PUSCH_SysInfoList_SFN_LCR_r4(ctx, &pvalue->pusch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "RadioFrequencyBandFDD");
    }
-   /* pdsch-SysInfoList-SFN */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_PDSCH_SysInfoList_SFN_LCR_r4(ctx, &pvalue->pdsch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
-   }
-   /* pCCPCH-LCR-Extensions */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_PrimaryCCPCH_Info_LCR_r4_ext(ctx, &pvalue->pCCPCH_LCR_Extensions);
-      RT_CHECK(ctx, stat, 0, "pCCPCH-LCR-Extensions", -1, 0);
-   }
-   /* sCCPCH-LCR-ExtensionsList */
-   stat = asn1PE_UMTS_SCCPCH_SystemInformationList_LCR_r4_ext(ctx, &pvalue->sCCPCH_LCR_ExtensionsList);
-   RT_CHECK(ctx, stat, 0, "sCCPCH-LCR-ExtensionsList", -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RadioFrequencyBandFDD");
    return 0;
 }
 
 int asn1PE_UMTS_RadioFrequencyBandFDD(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandFDD value)
 {
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "RadioFrequencyBandFDD");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioFrequencyBandFDD");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_RadioFrequencyBandFDD, value);
 }
 
-int asn1PE_UMTS_SysInfoType5_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0ext_IEs* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_SysInfoType5_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType5-v4b0ext-IEs");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType5-v4b0ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5-v4b0ext-IEs");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType5-v4b0ext-IEs");
    /* pNBSCH-Allocation-r4 */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PNBSCH_Allocation_r4(ctx, &pvalue->pNBSCH_Allocation_r4);
+      stat = enc_PNBSCH_Allocation_r4(ctx, &pvalue->pNBSCH_Allocation_r4, cur);
       RT_CHECK(ctx, stat, 0, "pNBSCH-Allocation-r4", -1, "SysInfoType5-v4b0ext-IEs");
    }
    /* openLoopPowerControl-IPDL-TDD */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_OpenLoopPowerControl_IPDL_TDD_r4(ctx, &pvalue->openLoopPowerControl_IPDL_TDD);
+      stat = enc_OpenLoopPowerControl_IPDL_TDD_r4(ctx, &pvalue->openLoopPowerControl_IPDL_TDD, cur);
       RT_CHECK(ctx, stat, 0, "openLoopPowerControl-IPDL-TDD", -1, "SysInfoType5-v4b0ext-IEs");
    }
    /* prach-SystemInformationList-LCR-r4 */
    if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_PRACH_SystemInformationList_LCR_r4(ctx, &pvalue->prach_SystemInformationList_LCR_r4);
+      stat = enc_PRACH_SystemInformationList_LCR_r4(ctx, &pvalue->prach_SystemInformationList_LCR_r4, cur);
       RT_CHECK(ctx, stat, 0, "prach-SystemInformationList-LCR-r4", -1, "SysInfoType5-v4b0ext-IEs");
    }
    /* tdd128SpecificInfo */
    if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_SysInfoType5_v4b0ext_IEs_tdd128SpecificInfo(ctx, &pvalue->tdd128SpecificInfo);
+      stat = enc_SysInfoType5_v4b0ext_IEs_tdd128SpecificInfo(ctx, &pvalue->tdd128SpecificInfo, cur);
       RT_CHECK(ctx, stat, 0, "tdd128SpecificInfo", -1, "SysInfoType5-v4b0ext-IEs");
    }
    /* frequencyBandIndicator */
    if (pvalue->m & 0x10u) {
       if (pvalue->frequencyBandIndicator > 7) {
          rtxErrAddUIntParm(ctx, pvalue->frequencyBandIndicator);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandFDD", "frequencyBandIndicator", -1, "SysInfoType5-v4b0ext-IEs");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "RadioFrequencyBandFDD", "frequencyBandIndicator", -1, "SysInfoType5-v4b0ext-IEs");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->frequencyBandIndicator, 0, 7);
-      RT_CHECK(ctx, stat, "RadioFrequencyBandFDD", "frequencyBandIndicator", -1, "SysInfoType5-v4b0ext-IEs");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->frequencyBandIndicator, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "RadioFrequencyBandFDD", "frequencyBandIndicator", -1, "SysInfoType5-v4b0ext-IEs");
    }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType5_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5_v4b0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_USCH_TransportChannelsInfo_element(rtxContext* RT_RESTRICT ctx, const USCH_TransportChannelsInfo_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* usch-TransportChannelIdentity */
+   if ((uint64_t)(pvalue->usch_TransportChannelIdentity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->usch_TransportChannelIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportChannelIdentity", "usch-TransportChannelIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->usch_TransportChannelIdentity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "TransportChannelIdentity", "usch-TransportChannelIdentity", -1, 0);
+   /* usch-TFS */
+   stat = enc_TransportFormatSet(ctx, &pvalue->usch_TFS, cur);
+   RT_CHECK(ctx, stat, 0, "usch-TFS", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_USCH_TransportChannelsInfo_element(rtxContext* RT_RESTRICT ctx, const USCH_TransportChannelsInfo_element* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_USCH_TransportChannelsInfo_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_USCH_TransportChannelsInfo(rtxContext* RT_RESTRICT ctx, const USCH_TransportChannelsInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* usch-TransportChannelIdentity */
-   if ((uint64_t)(pvalue->usch_TransportChannelIdentity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->usch_TransportChannelIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "usch-TransportChannelIdentity", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "USCH-TransportChannelsInfo");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "USCH-TransportChannelsInfo");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "USCH-TransportChannelsInfo");
+      stat = enc_USCH_TransportChannelsInfo_element(ctx, (const USCH_TransportChannelsInfo_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "USCH-TransportChannelsInfo");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->usch_TransportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "usch-TransportChannelIdentity", -1, 0);
-   /* usch-TFS */
-   stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->usch_TFS);
-   RT_CHECK(ctx, stat, 0, "usch-TFS", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_USCH_TransportChannelsInfo(rtxContext* RT_RESTRICT ctx, const USCH_TransportChannelsInfo* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_USCH_TransportChannelsInfo, pvalue);
+}
+
+static int enc_PUSCH_SysInfo_HCR_r5(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfo_HCR_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "USCH-TransportChannelsInfo");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "USCH-TransportChannelsInfo");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "USCH-TransportChannelsInfo");
-      stat = asn1PE_UMTS_USCH_TransportChannelsInfo_element(ctx, (const USCH_TransportChannelsInfo_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "USCH-TransportChannelsInfo");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-SysInfo-HCR-r5");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PUSCH-SysInfo-HCR-r5");
+   /* pusch-Identity */
+   if ((uint64_t)(pvalue->pusch_Identity - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "PUSCH-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->pusch_Identity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PUSCH-Identity", "pusch-Identity", -1, "PUSCH-SysInfo-HCR-r5");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pusch_Identity, 1, 64);
+   RT_CHECK_PUT(ctx, cur, stat, "PUSCH-Identity", "pusch-Identity", -1, "PUSCH-SysInfo-HCR-r5");
+   /* pusch-Info */
+   stat = enc_PUSCH_Info(ctx, &pvalue->pusch_Info, cur);
+   RT_CHECK(ctx, stat, 0, "pusch-Info", -1, "PUSCH-SysInfo-HCR-r5");
+   /* usch-TransportChannelsInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_USCH_TransportChannelsInfo(ctx, &pvalue->usch_TransportChannelsInfo, cur);
+      RT_CHECK(ctx, stat, 0, "usch-TransportChannelsInfo", -1, "PUSCH-SysInfo-HCR-r5");
+   }
+   /* usch-TFCS */
+   if (pvalue->m & 0x2u) {
+      stat = enc_TFCS(ctx, &pvalue->usch_TFCS, cur);
+      RT_CHECK(ctx, stat, 0, "usch-TFCS", -1, "PUSCH-SysInfo-HCR-r5");
    }
    return 0;
 }
 
 int asn1PE_UMTS_PUSCH_SysInfo_HCR_r5(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfo_HCR_r5* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_SysInfo_HCR_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_PUSCH_SysInfoList_SFN_HCR_r5_element(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_SFN_HCR_r5_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-SysInfo-HCR-r5");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-SysInfo-HCR-r5");
-   /* pusch-Identity */
-   if ((uint64_t)(pvalue->pusch_Identity - 1) > 63u) {
-      rtxErrAddStrParm(ctx, "PUSCH-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->pusch_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PUSCH-Identity", "pusch-Identity", -1, "PUSCH-SysInfo-HCR-r5");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pusch_Identity, 1, 64);
-   RT_CHECK(ctx, stat, "PUSCH-Identity", "pusch-Identity", -1, "PUSCH-SysInfo-HCR-r5");
-   /* pusch-Info */
-   stat = asn1PE_UMTS_PUSCH_Info(ctx, &pvalue->pusch_Info);
-   RT_CHECK(ctx, stat, 0, "pusch-Info", -1, "PUSCH-SysInfo-HCR-r5");
-   /* usch-TransportChannelsInfo */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pusch-SysInfo */
+   stat = enc_PUSCH_SysInfo_HCR_r5(ctx, &pvalue->pusch_SysInfo, cur);
+   RT_CHECK(ctx, stat, 0, "pusch-SysInfo", -1, 0);
+   /* sfn-TimeInfo */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_USCH_TransportChannelsInfo(ctx, &pvalue->usch_TransportChannelsInfo);
-      RT_CHECK(ctx, stat, 0, "usch-TransportChannelsInfo", -1, "PUSCH-SysInfo-HCR-r5");
-   }
-   /* usch-TFCS */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_TFCS(ctx, &pvalue->usch_TFCS);
-      RT_CHECK(ctx, stat, 0, "usch-TFCS", -1, "PUSCH-SysInfo-HCR-r5");
+      stat = enc_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "sfn-TimeInfo", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_PUSCH_SysInfoList_SFN_HCR_r5_element(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_SFN_HCR_r5_element* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_SysInfoList_SFN_HCR_r5_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_PUSCH_SysInfoList_SFN_HCR_r5(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_SFN_HCR_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-SysInfo */
-   stat = asn1PE_UMTS_PUSCH_SysInfo_HCR_r5(ctx, &pvalue->pusch_SysInfo);
-   RT_CHECK(ctx, stat, 0, "pusch-SysInfo", -1, 0);
-   /* sfn-TimeInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo);
-      RT_CHECK(ctx, stat, 0, "sfn-TimeInfo", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-SysInfoList-SFN-HCR-r5");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "PUSCH-SysInfoList-SFN-HCR-r5");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN-HCR-r5");
+      stat = enc_PUSCH_SysInfoList_SFN_HCR_r5_element(ctx, (const PUSCH_SysInfoList_SFN_HCR_r5_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN-HCR-r5");
    }
    return 0;
 }
 
 int asn1PE_UMTS_PUSCH_SysInfoList_SFN_HCR_r5(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_SFN_HCR_r5* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_SysInfoList_SFN_HCR_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_DSCH_TransportChannelsInfo_element(rtxContext* RT_RESTRICT ctx, const DSCH_TransportChannelsInfo_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-SysInfoList-SFN-HCR-r5");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PUSCH-SysInfoList-SFN-HCR-r5");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN-HCR-r5");
-      stat = asn1PE_UMTS_PUSCH_SysInfoList_SFN_HCR_r5_element(ctx, (const PUSCH_SysInfoList_SFN_HCR_r5_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN-HCR-r5");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* dsch-transport-channel-identity */
+   if ((uint64_t)(pvalue->dsch_transport_channel_identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->dsch_transport_channel_identity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportChannelIdentity", "dsch-transport-channel-identity", -1, 0);
    }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dsch_transport_channel_identity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "TransportChannelIdentity", "dsch-transport-channel-identity", -1, 0);
+   /* dsch-TFS */
+   stat = enc_TransportFormatSet(ctx, &pvalue->dsch_TFS, cur);
+   RT_CHECK(ctx, stat, 0, "dsch-TFS", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_DSCH_TransportChannelsInfo_element(rtxContext* RT_RESTRICT ctx, const DSCH_TransportChannelsInfo_element* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_DSCH_TransportChannelsInfo_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_DSCH_TransportChannelsInfo(rtxContext* RT_RESTRICT ctx, const DSCH_TransportChannelsInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* dsch-transport-channel-identity */
-   if ((uint64_t)(pvalue->dsch_transport_channel_identity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->dsch_transport_channel_identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dsch-transport-channel-identity", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DSCH-TransportChannelsInfo");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DSCH-TransportChannelsInfo");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "DSCH-TransportChannelsInfo");
+      stat = enc_DSCH_TransportChannelsInfo_element(ctx, (const DSCH_TransportChannelsInfo_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "DSCH-TransportChannelsInfo");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->dsch_transport_channel_identity, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "dsch-transport-channel-identity", -1, 0);
-   /* dsch-TFS */
-   stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->dsch_TFS);
-   RT_CHECK(ctx, stat, 0, "dsch-TFS", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_DSCH_TransportChannelsInfo(rtxContext* RT_RESTRICT ctx, const DSCH_TransportChannelsInfo* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_DSCH_TransportChannelsInfo, pvalue);
+}
+
+static int enc_PDSCH_SysInfo_HCR_r5(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfo_HCR_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DSCH-TransportChannelsInfo");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DSCH-TransportChannelsInfo");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "DSCH-TransportChannelsInfo");
-      stat = asn1PE_UMTS_DSCH_TransportChannelsInfo_element(ctx, (const DSCH_TransportChannelsInfo_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "DSCH-TransportChannelsInfo");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-SysInfo-HCR-r5");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PDSCH-SysInfo-HCR-r5");
+   /* pdsch-Identity */
+   if ((uint64_t)(pvalue->pdsch_Identity - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "PDSCH-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->pdsch_Identity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PDSCH-Identity", "pdsch-Identity", -1, "PDSCH-SysInfo-HCR-r5");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pdsch_Identity, 1, 64);
+   RT_CHECK_PUT(ctx, cur, stat, "PDSCH-Identity", "pdsch-Identity", -1, "PDSCH-SysInfo-HCR-r5");
+   /* pdsch-Info */
+   stat = enc_PDSCH_Info(ctx, &pvalue->pdsch_Info, cur);
+   RT_CHECK(ctx, stat, 0, "pdsch-Info", -1, "PDSCH-SysInfo-HCR-r5");
+   /* dsch-TransportChannelsInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DSCH_TransportChannelsInfo(ctx, &pvalue->dsch_TransportChannelsInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dsch-TransportChannelsInfo", -1, "PDSCH-SysInfo-HCR-r5");
+   }
+   /* dsch-TFCS */
+   if (pvalue->m & 0x2u) {
+      stat = enc_TFCS(ctx, &pvalue->dsch_TFCS, cur);
+      RT_CHECK(ctx, stat, 0, "dsch-TFCS", -1, "PDSCH-SysInfo-HCR-r5");
    }
    return 0;
 }
 
 int asn1PE_UMTS_PDSCH_SysInfo_HCR_r5(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfo_HCR_r5* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_SysInfo_HCR_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDSCH_SysInfoList_SFN_HCR_r5_element(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList_SFN_HCR_r5_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-SysInfo-HCR-r5");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-SysInfo-HCR-r5");
-   /* pdsch-Identity */
-   if ((uint64_t)(pvalue->pdsch_Identity - 1) > 63u) {
-      rtxErrAddStrParm(ctx, "PDSCH-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->pdsch_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PDSCH-Identity", "pdsch-Identity", -1, "PDSCH-SysInfo-HCR-r5");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pdsch_Identity, 1, 64);
-   RT_CHECK(ctx, stat, "PDSCH-Identity", "pdsch-Identity", -1, "PDSCH-SysInfo-HCR-r5");
-   /* pdsch-Info */
-   stat = asn1PE_UMTS_PDSCH_Info(ctx, &pvalue->pdsch_Info);
-   RT_CHECK(ctx, stat, 0, "pdsch-Info", -1, "PDSCH-SysInfo-HCR-r5");
-   /* dsch-TransportChannelsInfo */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pdsch-SysInfo */
+   stat = enc_PDSCH_SysInfo_HCR_r5(ctx, &pvalue->pdsch_SysInfo, cur);
+   RT_CHECK(ctx, stat, 0, "pdsch-SysInfo", -1, 0);
+   /* sfn-TimeInfo */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DSCH_TransportChannelsInfo(ctx, &pvalue->dsch_TransportChannelsInfo);
-      RT_CHECK(ctx, stat, 0, "dsch-TransportChannelsInfo", -1, "PDSCH-SysInfo-HCR-r5");
-   }
-   /* dsch-TFCS */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_TFCS(ctx, &pvalue->dsch_TFCS);
-      RT_CHECK(ctx, stat, 0, "dsch-TFCS", -1, "PDSCH-SysInfo-HCR-r5");
+      stat = enc_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "sfn-TimeInfo", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_PDSCH_SysInfoList_SFN_HCR_r5_element(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList_SFN_HCR_r5_element* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_SysInfoList_SFN_HCR_r5_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDSCH_SysInfoList_SFN_HCR_r5(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList_SFN_HCR_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pdsch-SysInfo */
-   stat = asn1PE_UMTS_PDSCH_SysInfo_HCR_r5(ctx, &pvalue->pdsch_SysInfo);
-   RT_CHECK(ctx, stat, 0, "pdsch-SysInfo", -1, 0);
-   /* sfn-TimeInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo);
-      RT_CHECK(ctx, stat, 0, "sfn-TimeInfo", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-SysInfoList-SFN-HCR-r5");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "PDSCH-SysInfoList-SFN-HCR-r5");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "PDSCH-SysInfoList-SFN-HCR-r5");
+      stat = enc_PDSCH_SysInfoList_SFN_HCR_r5_element(ctx, (const PDSCH_SysInfoList_SFN_HCR_r5_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PDSCH-SysInfoList-SFN-HCR-r5");
    }
    return 0;
 }
 
 int asn1PE_UMTS_PDSCH_SysInfoList_SFN_HCR_r5(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList_SFN_HCR_r5* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_SysInfoList_SFN_HCR_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType5_v590ext_IEs_hcr_r5_SpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v590ext_IEs_hcr_r5_SpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-SysInfoList-SFN-HCR-r5");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PDSCH-SysInfoList-SFN-HCR-r5");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "PDSCH-SysInfoList-SFN-HCR-r5");
-      stat = asn1PE_UMTS_PDSCH_SysInfoList_SFN_HCR_r5_element(ctx, (const PDSCH_SysInfoList_SFN_HCR_r5_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PDSCH-SysInfoList-SFN-HCR-r5");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pusch-SysInfoList-SFN */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PUSCH_SysInfoList_SFN_HCR_r5(ctx, &pvalue->pusch_SysInfoList_SFN, cur);
+      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
+   }
+   /* pdsch-SysInfoList-SFN */
+   if (pvalue->m & 0x2u) {
+      stat = enc_PDSCH_SysInfoList_SFN_HCR_r5(ctx, &pvalue->pdsch_SysInfoList_SFN, cur);
+      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType5_v590ext_IEs_hcr_r5_SpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v590ext_IEs_hcr_r5_SpecificInfo* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5_v590ext_IEs_hcr_r5_SpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType5_v590ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v590ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType5-v590ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-SysInfoList-SFN */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType5-v590ext-IEs");
+   /* hcr-r5-SpecificInfo */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PUSCH_SysInfoList_SFN_HCR_r5(ctx, &pvalue->pusch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
-   }
-   /* pdsch-SysInfoList-SFN */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_PDSCH_SysInfoList_SFN_HCR_r5(ctx, &pvalue->pdsch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
+      stat = enc_SysInfoType5_v590ext_IEs_hcr_r5_SpecificInfo(ctx, &pvalue->hcr_r5_SpecificInfo, cur);
+      RT_CHECK(ctx, stat, 0, "hcr-r5-SpecificInfo", -1, "SysInfoType5-v590ext-IEs");
    }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType5_v590ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v590ext_IEs* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5_v590ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_RadioFrequencyBandFDD2(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandFDD2 value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType5-v590ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5-v590ext-IEs");
-   /* hcr-r5-SpecificInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType5_v590ext_IEs_hcr_r5_SpecificInfo(ctx, &pvalue->hcr_r5_SpecificInfo);
-      RT_CHECK(ctx, stat, 0, "hcr-r5-SpecificInfo", -1, "SysInfoType5-v590ext-IEs");
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "RadioFrequencyBandFDD2");
    }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RadioFrequencyBandFDD2");
    return 0;
 }
 
 int asn1PE_UMTS_RadioFrequencyBandFDD2(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandFDD2 value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_RadioFrequencyBandFDD2, value);
+}
+
+RT_MERGED_BODY int enc_SysInfoType5_v650ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v650ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "RadioFrequencyBandFDD2");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType5-v650ext-IEs");
+   /* frequencyBandIndicator2 */
+   if (pvalue->frequencyBandIndicator2 > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->frequencyBandIndicator2);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "RadioFrequencyBandFDD2", "frequencyBandIndicator2", -1, "SysInfoType5-v650ext-IEs");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioFrequencyBandFDD2");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->frequencyBandIndicator2, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "RadioFrequencyBandFDD2", "frequencyBandIndicator2", -1, "SysInfoType5-v650ext-IEs");
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType5_v650ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v650ext_IEs* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5_v650ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType5_v680ext_IEs_hsdpa_CellIndicator(rtxContext* RT_RESTRICT ctx, SysInfoType5_v680ext_IEs_hsdpa_CellIndicator value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType5-v650ext-IEs");
-   /* frequencyBandIndicator2 */
-   if (pvalue->frequencyBandIndicator2 > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->frequencyBandIndicator2);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandFDD2", "frequencyBandIndicator2", -1, "SysInfoType5-v650ext-IEs");
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, pvalue->frequencyBandIndicator2, 0, 15);
-   RT_CHECK(ctx, stat, "RadioFrequencyBandFDD2", "frequencyBandIndicator2", -1, "SysInfoType5-v650ext-IEs");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType5_v680ext_IEs_hsdpa_CellIndicator(rtxContext* RT_RESTRICT ctx, SysInfoType5_v680ext_IEs_hsdpa_CellIndicator value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5_v680ext_IEs_hsdpa_CellIndicator, value);
+}
+
+RT_MERGED_BODY int enc_SysInfoType5_v680ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v680ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType5-v680ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType5-v680ext-IEs");
+   /* hsdpa-CellIndicator */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->hsdpa_CellIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->hsdpa_CellIndicator);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "hsdpa-CellIndicator", -1, "SysInfoType5-v680ext-IEs");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->hsdpa_CellIndicator, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "hsdpa-CellIndicator", -1, "SysInfoType5-v680ext-IEs");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType5_v680ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v680ext_IEs* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5_v680ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType5_v690ext_IEs_edch_CellIndicator(rtxContext* RT_RESTRICT ctx, SysInfoType5_v690ext_IEs_edch_CellIndicator value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType5-v680ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5-v680ext-IEs");
-   /* hsdpa-CellIndicator */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->hsdpa_CellIndicator > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->hsdpa_CellIndicator);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "hsdpa-CellIndicator", -1, "SysInfoType5-v680ext-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hsdpa_CellIndicator, 0, 0);
-      RT_CHECK(ctx, stat, 0, "hsdpa-CellIndicator", -1, "SysInfoType5-v680ext-IEs");
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType5_v690ext_IEs_edch_CellIndicator(rtxContext* RT_RESTRICT ctx, SysInfoType5_v690ext_IEs_edch_CellIndicator value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5_v690ext_IEs_edch_CellIndicator, value);
+}
+
+RT_MERGED_BODY int enc_DL_UM_RLC_LI_size(rtxContext* RT_RESTRICT ctx, DL_UM_RLC_LI_size value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 0) {
+   if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "DL-UM-RLC-LI-size");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-UM-RLC-LI-size");
    return 0;
 }
 
 int asn1PE_UMTS_DL_UM_RLC_LI_size(rtxContext* RT_RESTRICT ctx, DL_UM_RLC_LI_size value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_DL_UM_RLC_LI_size, value);
+}
+
+RT_MERGED_BODY int enc_TimerOSD_r6(rtxContext* RT_RESTRICT ctx, TimerOSD_r6 value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 1) {
+   if (value > 13) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "DL-UM-RLC-LI-size");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TimerOSD-r6");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-UM-RLC-LI-size");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 13);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TimerOSD-r6");
    return 0;
 }
 
 int asn1PE_UMTS_TimerOSD_r6(rtxContext* RT_RESTRICT ctx, TimerOSD_r6 value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_TimerOSD_r6, value);
+}
+
+RT_MERGED_BODY int enc_WindowSizeOSD_r6(rtxContext* RT_RESTRICT ctx, WindowSizeOSD_r6 value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 13) {
+   if (value > 6) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TimerOSD-r6");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "WindowSizeOSD-r6");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 13);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimerOSD-r6");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "WindowSizeOSD-r6");
    return 0;
 }
 
 int asn1PE_UMTS_WindowSizeOSD_r6(rtxContext* RT_RESTRICT ctx, WindowSizeOSD_r6 value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_WindowSizeOSD_r6, value);
+}
+
+RT_MERGED_BODY int enc_UM_RLC_OutOSeqDelivery_Info_r6(rtxContext* RT_RESTRICT ctx, const UM_RLC_OutOSeqDelivery_Info_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 6) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "WindowSizeOSD-r6");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UM-RLC-OutOSeqDelivery-Info-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UM-RLC-OutOSeqDelivery-Info-r6");
+   /* timer-OSD */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->timer_OSD > 13) {
+         rtxErrAddUIntParm(ctx, pvalue->timer_OSD);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TimerOSD-r6", "timer-OSD", -1, "UM-RLC-OutOSeqDelivery-Info-r6");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->timer_OSD, 0, 13);
+      RT_CHECK_PUT(ctx, cur, stat, "TimerOSD-r6", "timer-OSD", -1, "UM-RLC-OutOSeqDelivery-Info-r6");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "WindowSizeOSD-r6");
+   /* windowSize-OSD */
+   if (pvalue->windowSize_OSD > 6) {
+      rtxErrAddUIntParm(ctx, pvalue->windowSize_OSD);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "WindowSizeOSD-r6", "windowSize-OSD", -1, "UM-RLC-OutOSeqDelivery-Info-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->windowSize_OSD, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "WindowSizeOSD-r6", "windowSize-OSD", -1, "UM-RLC-OutOSeqDelivery-Info-r6");
    return 0;
 }
 
 int asn1PE_UMTS_UM_RLC_OutOSeqDelivery_Info_r6(rtxContext* RT_RESTRICT ctx, const UM_RLC_OutOSeqDelivery_Info_r6* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UM-RLC-OutOSeqDelivery-Info-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UM-RLC-OutOSeqDelivery-Info-r6");
-   /* timer-OSD */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->timer_OSD > 13) {
-         rtxErrAddUIntParm(ctx, pvalue->timer_OSD);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "TimerOSD-r6", "timer-OSD", -1, "UM-RLC-OutOSeqDelivery-Info-r6");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->timer_OSD, 0, 13);
-      RT_CHECK(ctx, stat, "TimerOSD-r6", "timer-OSD", -1, "UM-RLC-OutOSeqDelivery-Info-r6");
-   }
-   /* windowSize-OSD */
-   if (pvalue->windowSize_OSD > 6) {
-      rtxErrAddUIntParm(ctx, pvalue->windowSize_OSD);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "WindowSizeOSD-r6", "windowSize-OSD", -1, "UM-RLC-OutOSeqDelivery-Info-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->windowSize_OSD, 0, 6);
-   RT_CHECK(ctx, stat, "WindowSizeOSD-r6", "windowSize-OSD", -1, "UM-RLC-OutOSeqDelivery-Info-r6");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_UM_RLC_OutOSeqDelivery_Info_r6, pvalue);
 }
 
-int asn1PE_UMTS_RLC_Info_MCCH_r6(rtxContext* RT_RESTRICT ctx, const RLC_Info_MCCH_r6* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_RLC_Info_MCCH_r6(rtxContext* RT_RESTRICT ctx, const RLC_Info_MCCH_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-Info-MCCH-r6");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RLC-Info-MCCH-r6");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-Info-MCCH-r6");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RLC-Info-MCCH-r6");
    /* dl-UM-RLC-LI-size */
    if (pvalue->dl_UM_RLC_LI_size > 1) {
       rtxErrAddUIntParm(ctx, pvalue->dl_UM_RLC_LI_size);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "RLC-Info-MCCH-r6");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "RLC-Info-MCCH-r6");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->dl_UM_RLC_LI_size, 0, 1);
-   RT_CHECK(ctx, stat, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "RLC-Info-MCCH-r6");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dl_UM_RLC_LI_size, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "RLC-Info-MCCH-r6");
    /* dl-UM-RLC-OutOSeqDelivery-Info */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UM_RLC_OutOSeqDelivery_Info_r6(ctx, &pvalue->dl_UM_RLC_OutOSeqDelivery_Info);
+      stat = enc_UM_RLC_OutOSeqDelivery_Info_r6(ctx, &pvalue->dl_UM_RLC_OutOSeqDelivery_Info, cur);
       RT_CHECK(ctx, stat, 0, "dl-UM-RLC-OutOSeqDelivery-Info", -1, "RLC-Info-MCCH-r6");
    }
    return 0;
 }
 
-int asn1PE_UMTS_MBMS_TCTF_Presence(rtxContext* RT_RESTRICT ctx, MBMS_TCTF_Presence value)
+int asn1PE_UMTS_RLC_Info_MCCH_r6(rtxContext* RT_RESTRICT ctx, const RLC_Info_MCCH_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RLC_Info_MCCH_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_MBMS_TCTF_Presence(rtxContext* RT_RESTRICT ctx, MBMS_TCTF_Presence value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MBMS-TCTF-Presence");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MBMS-TCTF-Presence");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-TCTF-Presence");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MBMS-TCTF-Presence");
    return 0;
 }
 
-int asn1PE_UMTS_MBMS_MCCH_ConfigurationInfo_r6(rtxContext* RT_RESTRICT ctx, const MBMS_MCCH_ConfigurationInfo_r6* RT_RESTRICT pvalue)
+int asn1PE_UMTS_MBMS_TCTF_Presence(rtxContext* RT_RESTRICT ctx, MBMS_TCTF_Presence value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MBMS_TCTF_Presence, value);
+}
+
+RT_MERGED_BODY int enc_MBMS_MCCH_ConfigurationInfo_r6(rtxContext* RT_RESTRICT ctx, const MBMS_MCCH_ConfigurationInfo_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-MCCH-ConfigurationInfo-r6");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-MCCH-ConfigurationInfo-r6");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-MCCH-ConfigurationInfo-r6");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MBMS-MCCH-ConfigurationInfo-r6");
    /* accessInfoPeriodCoefficient */
    if ((uint64_t)pvalue->accessInfoPeriodCoefficient > 3u) {
       rtxErrAddStrParm(ctx, "accessInfoPeriodCoefficient");
       rtxErrAddUIntParm(ctx, pvalue->accessInfoPeriodCoefficient);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "accessInfoPeriodCoefficient", -1, "MBMS-MCCH-ConfigurationInfo-r6");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "accessInfoPeriodCoefficient", -1, "MBMS-MCCH-ConfigurationInfo-r6");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->accessInfoPeriodCoefficient, 0, 3);
-   RT_CHECK(ctx, stat, 0, "accessInfoPeriodCoefficient", -1, "MBMS-MCCH-ConfigurationInfo-r6");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->accessInfoPeriodCoefficient, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "accessInfoPeriodCoefficient", -1, "MBMS-MCCH-ConfigurationInfo-r6");
    /* repetitionPeriodCoefficient */
    if ((uint64_t)pvalue->repetitionPeriodCoefficient > 3u) {
       rtxErrAddStrParm(ctx, "repetitionPeriodCoefficient");
       rtxErrAddUIntParm(ctx, pvalue->repetitionPeriodCoefficient);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "repetitionPeriodCoefficient", -1, "MBMS-MCCH-ConfigurationInfo-r6");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "repetitionPeriodCoefficient", -1, "MBMS-MCCH-ConfigurationInfo-r6");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->repetitionPeriodCoefficient, 0, 3);
-   RT_CHECK(ctx, stat, 0, "repetitionPeriodCoefficient", -1, "MBMS-MCCH-ConfigurationInfo-r6");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->repetitionPeriodCoefficient, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "repetitionPeriodCoefficient", -1, "MBMS-MCCH-ConfigurationInfo-r6");
    /* modificationPeriodCoefficient */
    if ((uint64_t)(pvalue->modificationPeriodCoefficient - 7) > 3u) {
       rtxErrAddStrParm(ctx, "modificationPeriodCoefficient");
       rtxErrAddUIntParm(ctx, pvalue->modificationPeriodCoefficient);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "modificationPeriodCoefficient", -1, "MBMS-MCCH-ConfigurationInfo-r6");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "modificationPeriodCoefficient", -1, "MBMS-MCCH-ConfigurationInfo-r6");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->modificationPeriodCoefficient, 7, 10);
-   RT_CHECK(ctx, stat, 0, "modificationPeriodCoefficient", -1, "MBMS-MCCH-ConfigurationInfo-r6");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->modificationPeriodCoefficient, 7, 10);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "modificationPeriodCoefficient", -1, "MBMS-MCCH-ConfigurationInfo-r6");
    /* rlc-Info */
-   stat = asn1PE_UMTS_RLC_Info_MCCH_r6(ctx, &pvalue->rlc_Info);
+   stat = enc_RLC_Info_MCCH_r6(ctx, &pvalue->rlc_Info, cur);
    RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "MBMS-MCCH-ConfigurationInfo-r6");
    /* tctf-Presence */
    if (pvalue->m & 0x1u) {
       if (pvalue->tctf_Presence > 0) {
          rtxErrAddUIntParm(ctx, pvalue->tctf_Presence);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-TCTF-Presence", "tctf-Presence", -1, "MBMS-MCCH-ConfigurationInfo-r6");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MBMS-TCTF-Presence", "tctf-Presence", -1, "MBMS-MCCH-ConfigurationInfo-r6");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->tctf_Presence, 0, 0);
-      RT_CHECK(ctx, stat, "MBMS-TCTF-Presence", "tctf-Presence", -1, "MBMS-MCCH-ConfigurationInfo-r6");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tctf_Presence, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, "MBMS-TCTF-Presence", "tctf-Presence", -1, "MBMS-MCCH-ConfigurationInfo-r6");
    }
    return 0;
 }
 
-int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_MBMS_MCCH_ConfigurationInfo_r6(rtxContext* RT_RESTRICT ctx, const MBMS_MCCH_ConfigurationInfo_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MBMS_MCCH_ConfigurationInfo_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)(pvalue->timingOffset != 0) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    /* secondaryScramblingCode */
    if (pvalue->m & 0x1u) {
       if ((uint64_t)(pvalue->secondaryScramblingCode - 1) > 14u) {
          rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
          rtxErrAddUIntParm(ctx, pvalue->secondaryScramblingCode);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "SecondaryScramblingCode", "secondaryScramblingCode", -1, 0);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SecondaryScramblingCode", "secondaryScramblingCode", -1, 0);
       }
-      stat = pe_ConsUInt64(ctx, pvalue->secondaryScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, 0);
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->secondaryScramblingCode, 1, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, 0);
    }
    /* sttd-Indicator */
-   stat = rtxEncBit(ctx, pvalue->sttd_Indicator);
-   RT_CHECK(ctx, stat, 0, "sttd-Indicator", -1, 0);
+   stat = rtxEncBitAt(ctx, cur, pvalue->sttd_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sttd-Indicator", -1, 0);
    /* sf-AndCodeNumber */
-   stat = asn1PE_UMTS_SF256_AndCodeNumber(ctx, &pvalue->sf_AndCodeNumber);
+   stat = enc_SF256_AndCodeNumber(ctx, &pvalue->sf_AndCodeNumber, cur);
    RT_CHECK(ctx, stat, 0, "sf-AndCodeNumber", -1, 0);
    /* timingOffset */
    if (pvalue->timingOffset != 0) {
       if ((uint64_t)pvalue->timingOffset > 149u) {
          rtxErrAddStrParm(ctx, "TimingOffset");
          rtxErrAddUIntParm(ctx, pvalue->timingOffset);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TimingOffset", "timingOffset", -1, 0);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimingOffset", "timingOffset", -1, 0);
       }
-      stat = pe_ConsUInt64(ctx, pvalue->timingOffset, 0, 149);
-      RT_CHECK(ctx, stat, "TimingOffset", "timingOffset", -1, 0);
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->timingOffset, 0, 149);
+      RT_CHECK_PUT(ctx, cur, stat, "TimingOffset", "timingOffset", -1, 0);
    }
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_CommonTimeslotInfoMBMS(rtxContext* RT_RESTRICT ctx, const CommonTimeslotInfoMBMS* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CommonTimeslotInfoMBMS");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CommonTimeslotInfoMBMS");
+   /* secondInterleavingMode */
+   if (pvalue->secondInterleavingMode > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->secondInterleavingMode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "SecondInterleavingMode", "secondInterleavingMode", -1, "CommonTimeslotInfoMBMS");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->secondInterleavingMode, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "SecondInterleavingMode", "secondInterleavingMode", -1, "CommonTimeslotInfoMBMS");
+   /* tfci-Coding */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->tfci_Coding > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->tfci_Coding);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TFCI-Coding", "tfci-Coding", -1, "CommonTimeslotInfoMBMS");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tfci_Coding, 0, 3);
+      RT_CHECK_PUT(ctx, cur, stat, "TFCI-Coding", "tfci-Coding", -1, "CommonTimeslotInfoMBMS");
+   }
+   /* puncturingLimit */
+   if (pvalue->puncturingLimit > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->puncturingLimit);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PuncturingLimit", "puncturingLimit", -1, "CommonTimeslotInfoMBMS");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->puncturingLimit, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "PuncturingLimit", "puncturingLimit", -1, "CommonTimeslotInfoMBMS");
    return 0;
 }
 
 int asn1PE_UMTS_CommonTimeslotInfoMBMS(rtxContext* RT_RESTRICT ctx, const CommonTimeslotInfoMBMS* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_CommonTimeslotInfoMBMS, pvalue);
+}
+
+RT_MERGED_BODY int enc_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CommonTimeslotInfoMBMS");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CommonTimeslotInfoMBMS");
-   /* secondInterleavingMode */
-   if (pvalue->secondInterleavingMode > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->secondInterleavingMode);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "SecondInterleavingMode", "secondInterleavingMode", -1, "CommonTimeslotInfoMBMS");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->secondInterleavingMode, 0, 1);
-   RT_CHECK(ctx, stat, "SecondInterleavingMode", "secondInterleavingMode", -1, "CommonTimeslotInfoMBMS");
-   /* tfci-Coding */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->tfci_Coding > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->tfci_Coding);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "TFCI-Coding", "tfci-Coding", -1, "CommonTimeslotInfoMBMS");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tfci_Coding, 0, 3);
-      RT_CHECK(ctx, stat, "TFCI-Coding", "tfci-Coding", -1, "CommonTimeslotInfoMBMS");
-   }
-   /* puncturingLimit */
-   if (pvalue->puncturingLimit > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->puncturingLimit);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PuncturingLimit", "puncturingLimit", -1, "CommonTimeslotInfoMBMS");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->puncturingLimit, 0, 15);
-   RT_CHECK(ctx, stat, "PuncturingLimit", "puncturingLimit", -1, "CommonTimeslotInfoMBMS");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* commonTimeslotInfoMBMS */
+   stat = enc_CommonTimeslotInfoMBMS(ctx, &pvalue->commonTimeslotInfoMBMS, cur);
+   RT_CHECK(ctx, stat, 0, "commonTimeslotInfoMBMS", -1, 0);
+   /* downlinkTimeslotsCodes */
+   stat = enc_DownlinkTimeslotsCodes(ctx, &pvalue->downlinkTimeslotsCodes, cur);
+   RT_CHECK(ctx, stat, 0, "downlinkTimeslotsCodes", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd384* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int enc_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* commonTimeslotInfoMBMS */
-   stat = asn1PE_UMTS_CommonTimeslotInfoMBMS(ctx, &pvalue->commonTimeslotInfoMBMS);
+   stat = enc_CommonTimeslotInfoMBMS(ctx, &pvalue->commonTimeslotInfoMBMS, cur);
    RT_CHECK(ctx, stat, 0, "commonTimeslotInfoMBMS", -1, 0);
    /* downlinkTimeslotsCodes */
-   stat = asn1PE_UMTS_DownlinkTimeslotsCodes(ctx, &pvalue->downlinkTimeslotsCodes);
+   stat = enc_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->downlinkTimeslotsCodes, cur);
    RT_CHECK(ctx, stat, 0, "downlinkTimeslotsCodes", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* commonTimeslotInfoMBMS */
-   stat = asn1PE_UMTS_CommonTimeslotInfoMBMS(ctx, &pvalue->commonTimeslotInfoMBMS);
-   RT_CHECK(ctx, stat, 0, "commonTimeslotInfoMBMS", -1, 0);
-   /* downlinkTimeslotsCodes */
-   stat = asn1PE_UMTS_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->downlinkTimeslotsCodes);
-   RT_CHECK(ctx, stat, 0, "downlinkTimeslotsCodes", -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd128, pvalue);
 }
 
-int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
          RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
-         stat = asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd384(ctx, pvalue->u.tdd384);
+         if (pvalue->u.tdd384 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = enc_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd384(ctx, pvalue->u.tdd384, cur);
          RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
          break;
       case 3:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128, cur);
          RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
          break;
       default:
@@ -3542,102 +6923,122 @@ int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo(rtxContext* RT_RESTR
    return 0;
 }
 
-int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r6(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r6* RT_RESTRICT pvalue)
+int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo, pvalue);
+}
+
+static int enc_SecondaryCCPCHInfo_MBMS_r6(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SecondaryCCPCHInfo-MBMS-r6");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SecondaryCCPCHInfo-MBMS-r6");
    /* modeSpecificInfo */
-   stat = asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   stat = enc_SecondaryCCPCHInfo_MBMS_r6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
    RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SecondaryCCPCHInfo-MBMS-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r6(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryCCPCHInfo_MBMS_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_SCCPCH_SystemInformation_MBMS_r6_fachCarryingMCCH(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation_MBMS_r6_fachCarryingMCCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* mcch-transportFormatSet */
+   stat = enc_TransportFormatSet(ctx, &pvalue->mcch_transportFormatSet, cur);
+   RT_CHECK(ctx, stat, 0, "mcch-transportFormatSet", -1, 0);
+   /* mcch-ConfigurationInfo */
+   stat = enc_MBMS_MCCH_ConfigurationInfo_r6(ctx, &pvalue->mcch_ConfigurationInfo, cur);
+   RT_CHECK(ctx, stat, 0, "mcch-ConfigurationInfo", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_SCCPCH_SystemInformation_MBMS_r6_fachCarryingMCCH(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation_MBMS_r6_fachCarryingMCCH* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* mcch-transportFormatSet */
-   stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->mcch_transportFormatSet);
-   RT_CHECK(ctx, stat, 0, "mcch-transportFormatSet", -1, 0);
-   /* mcch-ConfigurationInfo */
-   stat = asn1PE_UMTS_MBMS_MCCH_ConfigurationInfo_r6(ctx, &pvalue->mcch_ConfigurationInfo);
-   RT_CHECK(ctx, stat, 0, "mcch-ConfigurationInfo", -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_SCCPCH_SystemInformation_MBMS_r6_fachCarryingMCCH, pvalue);
 }
 
-int asn1PE_UMTS_MBMS_FACHCarryingMTCH_List(rtxContext* RT_RESTRICT ctx, const MBMS_FACHCarryingMTCH_List* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_MBMS_FACHCarryingMTCH_List(rtxContext* RT_RESTRICT ctx, const MBMS_FACHCarryingMTCH_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-FACHCarryingMTCH-List");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-FACHCarryingMTCH-List");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-FACHCarryingMTCH-List");
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "MBMS-FACHCarryingMTCH-List");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "TransportFormatSet", (int32_t)i, "MBMS-FACHCarryingMTCH-List");
-      stat = asn1PE_UMTS_TransportFormatSet(ctx, (const TransportFormatSet*)node->data);
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "TransportFormatSet", (int32_t)i, "MBMS-FACHCarryingMTCH-List");
+      stat = enc_TransportFormatSet(ctx, (const TransportFormatSet*)node->data, cur);
       RT_CHECK(ctx, stat, 0, "TransportFormatSet", (int32_t)i, "MBMS-FACHCarryingMTCH-List");
    }
    return 0;
 }
 
-int asn1PE_UMTS_MBMS_MSCHSchedulingInfo(rtxContext* RT_RESTRICT ctx, const MBMS_MSCHSchedulingInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_MBMS_FACHCarryingMTCH_List(rtxContext* RT_RESTRICT ctx, const MBMS_FACHCarryingMTCH_List* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MBMS_FACHCarryingMTCH_List, pvalue);
+}
+
+RT_MERGED_BODY int enc_MBMS_MSCHSchedulingInfo(rtxContext* RT_RESTRICT ctx, const MBMS_MSCHSchedulingInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-MSCHSchedulingInfo");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 5);
-   RT_CHECK(ctx, stat, 0, "t", -1, "MBMS-MSCHSchedulingInfo");
-   if (pvalue->t - 1 > 5) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MBMS-MSCHSchedulingInfo");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-MSCHSchedulingInfo");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "MBMS-MSCHSchedulingInfo");
+   if (pvalue->t - 1 > 5) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "MBMS-MSCHSchedulingInfo");
    switch (pvalue->t) {
       case 1:
          if ((uint64_t)pvalue->u.schedulingPeriod_32_Offset > 31u) {
             rtxErrAddStrParm(ctx, "schedulingPeriod-32-Offset");
             rtxErrAddUIntParm(ctx, pvalue->u.schedulingPeriod_32_Offset);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "schedulingPeriod-32-Offset", -1, "MBMS-MSCHSchedulingInfo");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "schedulingPeriod-32-Offset", -1, "MBMS-MSCHSchedulingInfo");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.schedulingPeriod_32_Offset, 0, 31);
-         RT_CHECK(ctx, stat, 0, "schedulingPeriod-32-Offset", -1, "MBMS-MSCHSchedulingInfo");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.schedulingPeriod_32_Offset, 0, 31);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "schedulingPeriod-32-Offset", -1, "MBMS-MSCHSchedulingInfo");
          break;
       case 2:
          if ((uint64_t)pvalue->u.schedulingPeriod_64_Offset > 63u) {
             rtxErrAddStrParm(ctx, "schedulingPeriod-64-Offset");
             rtxErrAddUIntParm(ctx, pvalue->u.schedulingPeriod_64_Offset);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "schedulingPeriod-64-Offset", -1, "MBMS-MSCHSchedulingInfo");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "schedulingPeriod-64-Offset", -1, "MBMS-MSCHSchedulingInfo");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.schedulingPeriod_64_Offset, 0, 63);
-         RT_CHECK(ctx, stat, 0, "schedulingPeriod-64-Offset", -1, "MBMS-MSCHSchedulingInfo");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.schedulingPeriod_64_Offset, 0, 63);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "schedulingPeriod-64-Offset", -1, "MBMS-MSCHSchedulingInfo");
          break;
       case 3:
          if ((uint64_t)pvalue->u.schedulingPeriod_128_Offset > 127u) {
             rtxErrAddStrParm(ctx, "schedulingPeriod-128-Offset");
             rtxErrAddUIntParm(ctx, pvalue->u.schedulingPeriod_128_Offset);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "schedulingPeriod-128-Offset", -1, "MBMS-MSCHSchedulingInfo");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "schedulingPeriod-128-Offset", -1, "MBMS-MSCHSchedulingInfo");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.schedulingPeriod_128_Offset, 0, 127);
-         RT_CHECK(ctx, stat, 0, "schedulingPeriod-128-Offset", -1, "MBMS-MSCHSchedulingInfo");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.schedulingPeriod_128_Offset, 0, 127);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "schedulingPeriod-128-Offset", -1, "MBMS-MSCHSchedulingInfo");
          break;
       case 4:
-         stat = pe_ConsUInt64(ctx, pvalue->u.schedulingPeriod_256_Offset, 0, 255);
-         RT_CHECK(ctx, stat, 0, "schedulingPeriod-256-Offset", -1, "MBMS-MSCHSchedulingInfo");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.schedulingPeriod_256_Offset, 0, 255);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "schedulingPeriod-256-Offset", -1, "MBMS-MSCHSchedulingInfo");
          break;
       case 5:
          if ((uint64_t)pvalue->u.schedulingPeriod_512_Offset > 511u) {
             rtxErrAddStrParm(ctx, "schedulingPeriod-512-Offset");
             rtxErrAddUIntParm(ctx, pvalue->u.schedulingPeriod_512_Offset);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "schedulingPeriod-512-Offset", -1, "MBMS-MSCHSchedulingInfo");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "schedulingPeriod-512-Offset", -1, "MBMS-MSCHSchedulingInfo");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.schedulingPeriod_512_Offset, 0, 511);
-         RT_CHECK(ctx, stat, 0, "schedulingPeriod-512-Offset", -1, "MBMS-MSCHSchedulingInfo");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.schedulingPeriod_512_Offset, 0, 511);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "schedulingPeriod-512-Offset", -1, "MBMS-MSCHSchedulingInfo");
          break;
       case 6:
          if ((uint64_t)pvalue->u.schedulingPeriod_1024_Offset > 1023u) {
             rtxErrAddStrParm(ctx, "schedulingPeriod-1024-Offset");
             rtxErrAddUIntParm(ctx, pvalue->u.schedulingPeriod_1024_Offset);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "schedulingPeriod-1024-Offset", -1, "MBMS-MSCHSchedulingInfo");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "schedulingPeriod-1024-Offset", -1, "MBMS-MSCHSchedulingInfo");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.schedulingPeriod_1024_Offset, 0, 1023);
-         RT_CHECK(ctx, stat, 0, "schedulingPeriod-1024-Offset", -1, "MBMS-MSCHSchedulingInfo");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.schedulingPeriod_1024_Offset, 0, 1023);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "schedulingPeriod-1024-Offset", -1, "MBMS-MSCHSchedulingInfo");
          break;
       default:
          break;
@@ -3645,110 +7046,135 @@ int asn1PE_UMTS_MBMS_MSCHSchedulingInfo(rtxContext* RT_RESTRICT ctx, const MBMS_
    return 0;
 }
 
-int asn1PE_UMTS_RLC_Info_MSCH_r6(rtxContext* RT_RESTRICT ctx, const RLC_Info_MSCH_r6* RT_RESTRICT pvalue)
+int asn1PE_UMTS_MBMS_MSCHSchedulingInfo(rtxContext* RT_RESTRICT ctx, const MBMS_MSCHSchedulingInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MBMS_MSCHSchedulingInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_RLC_Info_MSCH_r6(rtxContext* RT_RESTRICT ctx, const RLC_Info_MSCH_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-Info-MSCH-r6");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RLC-Info-MSCH-r6");
    /* dl-UM-RLC-LI-size */
    if (pvalue->dl_UM_RLC_LI_size > 1) {
       rtxErrAddUIntParm(ctx, pvalue->dl_UM_RLC_LI_size);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "RLC-Info-MSCH-r6");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "RLC-Info-MSCH-r6");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->dl_UM_RLC_LI_size, 0, 1);
-   RT_CHECK(ctx, stat, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "RLC-Info-MSCH-r6");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dl_UM_RLC_LI_size, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "RLC-Info-MSCH-r6");
    return 0;
 }
 
-int asn1PE_UMTS_MBMS_MSCH_ConfigurationInfo_r6(rtxContext* RT_RESTRICT ctx, const MBMS_MSCH_ConfigurationInfo_r6* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RLC_Info_MSCH_r6(rtxContext* RT_RESTRICT ctx, const RLC_Info_MSCH_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RLC_Info_MSCH_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_MBMS_MSCH_ConfigurationInfo_r6(rtxContext* RT_RESTRICT ctx, const MBMS_MSCH_ConfigurationInfo_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-MSCH-ConfigurationInfo-r6");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-MSCH-ConfigurationInfo-r6");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-MSCH-ConfigurationInfo-r6");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MBMS-MSCH-ConfigurationInfo-r6");
    /* mschShedulingInfo */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MBMS_MSCHSchedulingInfo(ctx, &pvalue->mschShedulingInfo);
+      stat = enc_MBMS_MSCHSchedulingInfo(ctx, &pvalue->mschShedulingInfo, cur);
       RT_CHECK(ctx, stat, 0, "mschShedulingInfo", -1, "MBMS-MSCH-ConfigurationInfo-r6");
    }
    /* rlc-Info */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_RLC_Info_MSCH_r6(ctx, &pvalue->rlc_Info);
+      stat = enc_RLC_Info_MSCH_r6(ctx, &pvalue->rlc_Info, cur);
       RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "MBMS-MSCH-ConfigurationInfo-r6");
    }
    /* tctf-Presence */
    if (pvalue->m & 0x4u) {
       if (pvalue->tctf_Presence > 0) {
          rtxErrAddUIntParm(ctx, pvalue->tctf_Presence);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-TCTF-Presence", "tctf-Presence", -1, "MBMS-MSCH-ConfigurationInfo-r6");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MBMS-TCTF-Presence", "tctf-Presence", -1, "MBMS-MSCH-ConfigurationInfo-r6");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->tctf_Presence, 0, 0);
-      RT_CHECK(ctx, stat, "MBMS-TCTF-Presence", "tctf-Presence", -1, "MBMS-MSCH-ConfigurationInfo-r6");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tctf_Presence, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, "MBMS-TCTF-Presence", "tctf-Presence", -1, "MBMS-MSCH-ConfigurationInfo-r6");
    }
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_MSCH_ConfigurationInfo_r6(rtxContext* RT_RESTRICT ctx, const MBMS_MSCH_ConfigurationInfo_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MBMS_MSCH_ConfigurationInfo_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_SCCPCH_SystemInformation_MBMS_r6_fachCarryingMSCH(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation_MBMS_r6_fachCarryingMSCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* msch-transportFormatSet */
+   stat = enc_TransportFormatSet(ctx, &pvalue->msch_transportFormatSet, cur);
+   RT_CHECK(ctx, stat, 0, "msch-transportFormatSet", -1, 0);
+   /* dummy */
+   stat = enc_MBMS_MSCH_ConfigurationInfo_r6(ctx, &pvalue->dummy, cur);
+   RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_SCCPCH_SystemInformation_MBMS_r6_fachCarryingMSCH(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation_MBMS_r6_fachCarryingMSCH* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* msch-transportFormatSet */
-   stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->msch_transportFormatSet);
-   RT_CHECK(ctx, stat, 0, "msch-transportFormatSet", -1, 0);
-   /* dummy */
-   stat = asn1PE_UMTS_MBMS_MSCH_ConfigurationInfo_r6(ctx, &pvalue->dummy);
-   RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_SCCPCH_SystemInformation_MBMS_r6_fachCarryingMSCH, pvalue);
 }
 
-int asn1PE_UMTS_SCCPCH_SystemInformation_MBMS_r6(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation_MBMS_r6* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_SCCPCH_SystemInformation_MBMS_r6(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation_MBMS_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SCCPCH-SystemInformation-MBMS-r6");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SCCPCH-SystemInformation-MBMS-r6");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SCCPCH-SystemInformation-MBMS-r6");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SCCPCH-SystemInformation-MBMS-r6");
    /* secondaryCCPCHInfo-MBMS */
-   stat = asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r6(ctx, &pvalue->secondaryCCPCHInfo_MBMS);
+   stat = enc_SecondaryCCPCHInfo_MBMS_r6(ctx, &pvalue->secondaryCCPCHInfo_MBMS, cur);
    RT_CHECK(ctx, stat, 0, "secondaryCCPCHInfo-MBMS", -1, "SCCPCH-SystemInformation-MBMS-r6");
    /* transportFormatCombinationSet */
-   stat = asn1PE_UMTS_TFCS(ctx, &pvalue->transportFormatCombinationSet);
+   stat = enc_TFCS(ctx, &pvalue->transportFormatCombinationSet, cur);
    RT_CHECK(ctx, stat, 0, "transportFormatCombinationSet", -1, "SCCPCH-SystemInformation-MBMS-r6");
    /* fachCarryingMCCH */
-   stat = asn1PE_UMTS_SCCPCH_SystemInformation_MBMS_r6_fachCarryingMCCH(ctx, &pvalue->fachCarryingMCCH);
+   stat = enc_SCCPCH_SystemInformation_MBMS_r6_fachCarryingMCCH(ctx, &pvalue->fachCarryingMCCH, cur);
    RT_CHECK(ctx, stat, 0, "fachCarryingMCCH", -1, "SCCPCH-SystemInformation-MBMS-r6");
    /* fachCarryingMTCH-List */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MBMS_FACHCarryingMTCH_List(ctx, &pvalue->fachCarryingMTCH_List);
+      stat = enc_MBMS_FACHCarryingMTCH_List(ctx, &pvalue->fachCarryingMTCH_List, cur);
       RT_CHECK(ctx, stat, 0, "fachCarryingMTCH-List", -1, "SCCPCH-SystemInformation-MBMS-r6");
    }
    /* fachCarryingMSCH */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_SCCPCH_SystemInformation_MBMS_r6_fachCarryingMSCH(ctx, &pvalue->fachCarryingMSCH);
+      stat = enc_SCCPCH_SystemInformation_MBMS_r6_fachCarryingMSCH(ctx, &pvalue->fachCarryingMSCH, cur);
       RT_CHECK(ctx, stat, 0, "fachCarryingMSCH", -1, "SCCPCH-SystemInformation-MBMS-r6");
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType5_v690ext_IEs_sccpch_SystemInformation_MBMS(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v690ext_IEs_sccpch_SystemInformation_MBMS* RT_RESTRICT pvalue)
+int asn1PE_UMTS_SCCPCH_SystemInformation_MBMS_r6(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation_MBMS_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SCCPCH_SystemInformation_MBMS_r6, pvalue);
+}
+
+static int enc_SysInfoType5_v690ext_IEs_sccpch_SystemInformation_MBMS(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v690ext_IEs_sccpch_SystemInformation_MBMS* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.mcchOnSCCPCHusedForNonMBMS == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "mcchOnSCCPCHusedForNonMBMS", -1, 0);
-         stat = asn1PE_UMTS_MBMS_MCCH_ConfigurationInfo_r6(ctx, pvalue->u.mcchOnSCCPCHusedForNonMBMS);
+         if (pvalue->u.mcchOnSCCPCHusedForNonMBMS == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "mcchOnSCCPCHusedForNonMBMS", -1, 0);
+         stat = enc_MBMS_MCCH_ConfigurationInfo_r6(ctx, pvalue->u.mcchOnSCCPCHusedForNonMBMS, cur);
          RT_CHECK(ctx, stat, 0, "mcchOnSCCPCHusedForNonMBMS", -1, 0);
          break;
       case 2:
-         if (pvalue->u.mcchOnSCCPCHusedOnlyForMBMS == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "mcchOnSCCPCHusedOnlyForMBMS", -1, 0);
-         stat = asn1PE_UMTS_SCCPCH_SystemInformation_MBMS_r6(ctx, pvalue->u.mcchOnSCCPCHusedOnlyForMBMS);
+         if (pvalue->u.mcchOnSCCPCHusedOnlyForMBMS == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "mcchOnSCCPCHusedOnlyForMBMS", -1, 0);
+         stat = enc_SCCPCH_SystemInformation_MBMS_r6(ctx, pvalue->u.mcchOnSCCPCHusedOnlyForMBMS, cur);
          RT_CHECK(ctx, stat, 0, "mcchOnSCCPCHusedOnlyForMBMS", -1, 0);
          break;
       default:
@@ -3757,357 +7183,457 @@ int asn1PE_UMTS_SysInfoType5_v690ext_IEs_sccpch_SystemInformation_MBMS(rtxContex
    return 0;
 }
 
-int asn1PE_UMTS_DynamicTFInformationCCCH(rtxContext* RT_RESTRICT ctx, const DynamicTFInformationCCCH* RT_RESTRICT pvalue)
+int asn1PE_UMTS_SysInfoType5_v690ext_IEs_sccpch_SystemInformation_MBMS(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v690ext_IEs_sccpch_SystemInformation_MBMS* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5_v690ext_IEs_sccpch_SystemInformation_MBMS, pvalue);
+}
+
+RT_MERGED_BODY int enc_DynamicTFInformationCCCH(rtxContext* RT_RESTRICT ctx, const DynamicTFInformationCCCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DynamicTFInformationCCCH");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DynamicTFInformationCCCH");
    /* octetModeRLC-SizeInfoType2 */
-   stat = asn1PE_UMTS_OctetModeRLC_SizeInfoType2(ctx, &pvalue->octetModeRLC_SizeInfoType2);
+   stat = enc_OctetModeRLC_SizeInfoType2(ctx, &pvalue->octetModeRLC_SizeInfoType2, cur);
    RT_CHECK(ctx, stat, 0, "octetModeRLC-SizeInfoType2", -1, "DynamicTFInformationCCCH");
+   return 0;
+}
+
+int asn1PE_UMTS_DynamicTFInformationCCCH(rtxContext* RT_RESTRICT ctx, const DynamicTFInformationCCCH* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DynamicTFInformationCCCH, pvalue);
+}
+
+RT_MERGED_BODY int enc_AdditionalPRACH_TF_and_TFCS_CCCH_IEs(rtxContext* RT_RESTRICT ctx, const AdditionalPRACH_TF_and_TFCS_CCCH_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "AdditionalPRACH-TF-and-TFCS-CCCH-IEs");
+   /* powerOffsetInformation */
+   stat = enc_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation, cur);
+   RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, "AdditionalPRACH-TF-and-TFCS-CCCH-IEs");
+   /* dynamicTFInformationCCCH */
+   stat = enc_DynamicTFInformationCCCH(ctx, &pvalue->dynamicTFInformationCCCH, cur);
+   RT_CHECK(ctx, stat, 0, "dynamicTFInformationCCCH", -1, "AdditionalPRACH-TF-and-TFCS-CCCH-IEs");
    return 0;
 }
 
 int asn1PE_UMTS_AdditionalPRACH_TF_and_TFCS_CCCH_IEs(rtxContext* RT_RESTRICT ctx, const AdditionalPRACH_TF_and_TFCS_CCCH_IEs* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_AdditionalPRACH_TF_and_TFCS_CCCH_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_AdditionalPRACH_TF_and_TFCS_CCCH(rtxContext* RT_RESTRICT ctx, const AdditionalPRACH_TF_and_TFCS_CCCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AdditionalPRACH-TF-and-TFCS-CCCH-IEs");
-   /* powerOffsetInformation */
-   stat = asn1PE_UMTS_PowerOffsetInformation(ctx, &pvalue->powerOffsetInformation);
-   RT_CHECK(ctx, stat, 0, "powerOffsetInformation", -1, "AdditionalPRACH-TF-and-TFCS-CCCH-IEs");
-   /* dynamicTFInformationCCCH */
-   stat = asn1PE_UMTS_DynamicTFInformationCCCH(ctx, &pvalue->dynamicTFInformationCCCH);
-   RT_CHECK(ctx, stat, 0, "dynamicTFInformationCCCH", -1, "AdditionalPRACH-TF-and-TFCS-CCCH-IEs");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "AdditionalPRACH-TF-and-TFCS-CCCH");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "AdditionalPRACH-TF-and-TFCS-CCCH");
+   /* additionalPRACH-TF-and-TFCS-CCCH-IEs */
+   if (pvalue->m & 0x1u) {
+      stat = enc_AdditionalPRACH_TF_and_TFCS_CCCH_IEs(ctx, &pvalue->additionalPRACH_TF_and_TFCS_CCCH_IEs, cur);
+      RT_CHECK(ctx, stat, 0, "additionalPRACH-TF-and-TFCS-CCCH-IEs", -1, "AdditionalPRACH-TF-and-TFCS-CCCH");
+   }
    return 0;
 }
 
 int asn1PE_UMTS_AdditionalPRACH_TF_and_TFCS_CCCH(rtxContext* RT_RESTRICT ctx, const AdditionalPRACH_TF_and_TFCS_CCCH* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_AdditionalPRACH_TF_and_TFCS_CCCH, pvalue);
+}
+
+RT_MERGED_BODY int enc_AdditionalPRACH_TF_and_TFCS_CCCH_List(rtxContext* RT_RESTRICT ctx, const AdditionalPRACH_TF_and_TFCS_CCCH_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AdditionalPRACH-TF-and-TFCS-CCCH");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AdditionalPRACH-TF-and-TFCS-CCCH");
-   /* additionalPRACH-TF-and-TFCS-CCCH-IEs */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_AdditionalPRACH_TF_and_TFCS_CCCH_IEs(ctx, &pvalue->additionalPRACH_TF_and_TFCS_CCCH_IEs);
-      RT_CHECK(ctx, stat, 0, "additionalPRACH-TF-and-TFCS-CCCH-IEs", -1, "AdditionalPRACH-TF-and-TFCS-CCCH");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "AdditionalPRACH-TF-and-TFCS-CCCH-List");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "AdditionalPRACH-TF-and-TFCS-CCCH-List");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "AdditionalPRACH-TF-and-TFCS-CCCH", (int32_t)i, "AdditionalPRACH-TF-and-TFCS-CCCH-List");
+      stat = enc_AdditionalPRACH_TF_and_TFCS_CCCH(ctx, (const AdditionalPRACH_TF_and_TFCS_CCCH*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "AdditionalPRACH-TF-and-TFCS-CCCH", (int32_t)i, "AdditionalPRACH-TF-and-TFCS-CCCH-List");
    }
    return 0;
 }
 
 int asn1PE_UMTS_AdditionalPRACH_TF_and_TFCS_CCCH_List(rtxContext* RT_RESTRICT ctx, const AdditionalPRACH_TF_and_TFCS_CCCH_List* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_AdditionalPRACH_TF_and_TFCS_CCCH_List, pvalue);
+}
+
+RT_MERGED_BODY int enc_CBS_DRX_Level1Information_extension_r6(rtxContext* RT_RESTRICT ctx, CBS_DRX_Level1Information_extension_r6 value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AdditionalPRACH-TF-and-TFCS-CCCH-List");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "AdditionalPRACH-TF-and-TFCS-CCCH-List");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "AdditionalPRACH-TF-and-TFCS-CCCH", (int32_t)i, "AdditionalPRACH-TF-and-TFCS-CCCH-List");
-      stat = asn1PE_UMTS_AdditionalPRACH_TF_and_TFCS_CCCH(ctx, (const AdditionalPRACH_TF_and_TFCS_CCCH*)node->data);
-      RT_CHECK(ctx, stat, 0, "AdditionalPRACH-TF-and-TFCS-CCCH", (int32_t)i, "AdditionalPRACH-TF-and-TFCS-CCCH-List");
+   if (value > 5) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "CBS-DRX-Level1Information-extension-r6");
    }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CBS-DRX-Level1Information-extension-r6");
    return 0;
 }
 
 int asn1PE_UMTS_CBS_DRX_Level1Information_extension_r6(rtxContext* RT_RESTRICT ctx, CBS_DRX_Level1Information_extension_r6 value)
 {
-   int stat = 0;
-   if (value > 5) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "CBS-DRX-Level1Information-extension-r6");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CBS-DRX-Level1Information-extension-r6");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_CBS_DRX_Level1Information_extension_r6, value);
 }
 
-int asn1PE_UMTS_SysInfoType5_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v690ext_IEs* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_SysInfoType5_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v690ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType5-v690ext-IEs");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType5-v690ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5-v690ext-IEs");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType5-v690ext-IEs");
    /* edch-CellIndicator */
    if (pvalue->m & 0x1u) {
       if (pvalue->edch_CellIndicator > 0) {
          rtxErrAddUIntParm(ctx, pvalue->edch_CellIndicator);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "edch-CellIndicator", -1, "SysInfoType5-v690ext-IEs");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "edch-CellIndicator", -1, "SysInfoType5-v690ext-IEs");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->edch_CellIndicator, 0, 0);
-      RT_CHECK(ctx, stat, 0, "edch-CellIndicator", -1, "SysInfoType5-v690ext-IEs");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->edch_CellIndicator, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "edch-CellIndicator", -1, "SysInfoType5-v690ext-IEs");
    }
    /* sccpch-SystemInformation-MBMS */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_SysInfoType5_v690ext_IEs_sccpch_SystemInformation_MBMS(ctx, &pvalue->sccpch_SystemInformation_MBMS);
+      stat = enc_SysInfoType5_v690ext_IEs_sccpch_SystemInformation_MBMS(ctx, &pvalue->sccpch_SystemInformation_MBMS, cur);
       RT_CHECK(ctx, stat, 0, "sccpch-SystemInformation-MBMS", -1, "SysInfoType5-v690ext-IEs");
    }
    /* additionalPRACH-TF-and-TFCS-CCCH-List */
    if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_AdditionalPRACH_TF_and_TFCS_CCCH_List(ctx, &pvalue->additionalPRACH_TF_and_TFCS_CCCH_List);
+      stat = enc_AdditionalPRACH_TF_and_TFCS_CCCH_List(ctx, &pvalue->additionalPRACH_TF_and_TFCS_CCCH_List, cur);
       RT_CHECK(ctx, stat, 0, "additionalPRACH-TF-and-TFCS-CCCH-List", -1, "SysInfoType5-v690ext-IEs");
    }
    /* cBS-DRX-Level1Information-extension */
    if (pvalue->m & 0x8u) {
       if (pvalue->cBS_DRX_Level1Information_extension > 5) {
          rtxErrAddUIntParm(ctx, pvalue->cBS_DRX_Level1Information_extension);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "CBS-DRX-Level1Information-extension-r6", "cBS-DRX-Level1Information-extension", -1, "SysInfoType5-v690ext-IEs");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "CBS-DRX-Level1Information-extension-r6", "cBS-DRX-Level1Information-extension", -1, "SysInfoType5-v690ext-IEs");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->cBS_DRX_Level1Information_extension, 0, 5);
-      RT_CHECK(ctx, stat, "CBS-DRX-Level1Information-extension-r6", "cBS-DRX-Level1Information-extension", -1, "SysInfoType5-v690ext-IEs");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->cBS_DRX_Level1Information_extension, 0, 5);
+      RT_CHECK_PUT(ctx, cur, stat, "CBS-DRX-Level1Information-extension-r6", "cBS-DRX-Level1Information-extension", -1, "SysInfoType5-v690ext-IEs");
    }
    return 0;
 }
 
-int asn1PE_UMTS_LogicalChannelIdentity(rtxContext* RT_RESTRICT ctx, LogicalChannelIdentity value)
+int asn1PE_UMTS_SysInfoType5_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5_v690ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_LogicalChannelIdentity(rtxContext* RT_RESTRICT ctx, LogicalChannelIdentity value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)(value - 1) > 14u) {
       rtxErrAddStrParm(ctx, "LogicalChannelIdentity");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "LogicalChannelIdentity");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "LogicalChannelIdentity");
    }
-   stat = pe_ConsUInt64(ctx, value, 1, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "LogicalChannelIdentity");
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "LogicalChannelIdentity");
    return 0;
 }
 
-int asn1PE_UMTS_MAC_ehs_QueueId(rtxContext* RT_RESTRICT ctx, MAC_ehs_QueueId value)
+int asn1PE_UMTS_LogicalChannelIdentity(rtxContext* RT_RESTRICT ctx, LogicalChannelIdentity value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_LogicalChannelIdentity, value);
+}
+
+RT_MERGED_BODY int enc_MAC_ehs_QueueId(rtxContext* RT_RESTRICT ctx, MAC_ehs_QueueId value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)value > 7u) {
       rtxErrAddStrParm(ctx, "MAC-ehs-QueueId");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MAC-ehs-QueueId");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "MAC-ehs-QueueId");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-ehs-QueueId");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MAC-ehs-QueueId");
+   return 0;
+}
+
+int asn1PE_UMTS_MAC_ehs_QueueId(rtxContext* RT_RESTRICT ctx, MAC_ehs_QueueId value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MAC_ehs_QueueId, value);
+}
+
+RT_MERGED_BODY int enc_CommonRBMappingInfo(rtxContext* RT_RESTRICT ctx, const CommonRBMappingInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CommonRBMappingInfo");
+   /* logicalChannelIdentity */
+   if ((uint64_t)(pvalue->logicalChannelIdentity - 1) > 14u) {
+      rtxErrAddStrParm(ctx, "LogicalChannelIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->logicalChannelIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "CommonRBMappingInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->logicalChannelIdentity, 1, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "CommonRBMappingInfo");
+   /* mac-ehs-QueueId */
+   if ((uint64_t)pvalue->mac_ehs_QueueId > 7u) {
+      rtxErrAddStrParm(ctx, "MAC-ehs-QueueId");
+      rtxErrAddUIntParm(ctx, pvalue->mac_ehs_QueueId);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "CommonRBMappingInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_ehs_QueueId, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "CommonRBMappingInfo");
    return 0;
 }
 
 int asn1PE_UMTS_CommonRBMappingInfo(rtxContext* RT_RESTRICT ctx, const CommonRBMappingInfo* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_CommonRBMappingInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_T1_ReleaseTimer(rtxContext* RT_RESTRICT ctx, T1_ReleaseTimer value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CommonRBMappingInfo");
-   /* logicalChannelIdentity */
-   if ((uint64_t)(pvalue->logicalChannelIdentity - 1) > 14u) {
-      rtxErrAddStrParm(ctx, "LogicalChannelIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->logicalChannelIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "CommonRBMappingInfo");
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "T1-ReleaseTimer");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->logicalChannelIdentity, 1, 15);
-   RT_CHECK(ctx, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "CommonRBMappingInfo");
-   /* mac-ehs-QueueId */
-   if ((uint64_t)pvalue->mac_ehs_QueueId > 7u) {
-      rtxErrAddStrParm(ctx, "MAC-ehs-QueueId");
-      rtxErrAddUIntParm(ctx, pvalue->mac_ehs_QueueId);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "CommonRBMappingInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mac_ehs_QueueId, 0, 7);
-   RT_CHECK(ctx, stat, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "CommonRBMappingInfo");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "T1-ReleaseTimer");
    return 0;
 }
 
 int asn1PE_UMTS_T1_ReleaseTimer(rtxContext* RT_RESTRICT ctx, T1_ReleaseTimer value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_T1_ReleaseTimer, value);
+}
+
+RT_MERGED_BODY int enc_Treset_ResetTimer(rtxContext* RT_RESTRICT ctx, Treset_ResetTimer value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 15) {
+   if (value > 3) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T1-ReleaseTimer");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "Treset-ResetTimer");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T1-ReleaseTimer");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Treset-ResetTimer");
    return 0;
 }
 
 int asn1PE_UMTS_Treset_ResetTimer(rtxContext* RT_RESTRICT ctx, Treset_ResetTimer value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_Treset_ResetTimer, value);
+}
+
+RT_MERGED_BODY int enc_MAC_hs_WindowSize(rtxContext* RT_RESTRICT ctx, MAC_hs_WindowSize value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 3) {
+   if (value > 6) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "Treset-ResetTimer");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MAC-hs-WindowSize");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Treset-ResetTimer");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MAC-hs-WindowSize");
    return 0;
 }
 
 int asn1PE_UMTS_MAC_hs_WindowSize(rtxContext* RT_RESTRICT ctx, MAC_hs_WindowSize value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_MAC_hs_WindowSize, value);
+}
+
+RT_MERGED_BODY int enc_Common_MAC_ehs_ReorderingQueue(rtxContext* RT_RESTRICT ctx, const Common_MAC_ehs_ReorderingQueue* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 6) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MAC-hs-WindowSize");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Common-MAC-ehs-ReorderingQueue");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Common-MAC-ehs-ReorderingQueue");
+   /* mac-ehs-QueueId */
+   if ((uint64_t)pvalue->mac_ehs_QueueId > 7u) {
+      rtxErrAddStrParm(ctx, "MAC-ehs-QueueId");
+      rtxErrAddUIntParm(ctx, pvalue->mac_ehs_QueueId);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "Common-MAC-ehs-ReorderingQueue");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-hs-WindowSize");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_ehs_QueueId, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "Common-MAC-ehs-ReorderingQueue");
+   /* t1-ReleaseTimer */
+   if (pvalue->t1_ReleaseTimer > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->t1_ReleaseTimer);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "T1-ReleaseTimer", "t1-ReleaseTimer", -1, "Common-MAC-ehs-ReorderingQueue");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->t1_ReleaseTimer, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "T1-ReleaseTimer", "t1-ReleaseTimer", -1, "Common-MAC-ehs-ReorderingQueue");
+   /* reorderingResetTimer */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->reorderingResetTimer > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->reorderingResetTimer);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "Treset-ResetTimer", "reorderingResetTimer", -1, "Common-MAC-ehs-ReorderingQueue");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->reorderingResetTimer, 0, 3);
+      RT_CHECK_PUT(ctx, cur, stat, "Treset-ResetTimer", "reorderingResetTimer", -1, "Common-MAC-ehs-ReorderingQueue");
+   }
+   /* mac-ehsWindowSize */
+   if (pvalue->mac_ehsWindowSize > 6) {
+      rtxErrAddUIntParm(ctx, pvalue->mac_ehsWindowSize);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MAC-hs-WindowSize", "mac-ehsWindowSize", -1, "Common-MAC-ehs-ReorderingQueue");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_ehsWindowSize, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "MAC-hs-WindowSize", "mac-ehsWindowSize", -1, "Common-MAC-ehs-ReorderingQueue");
    return 0;
 }
 
 int asn1PE_UMTS_Common_MAC_ehs_ReorderingQueue(rtxContext* RT_RESTRICT ctx, const Common_MAC_ehs_ReorderingQueue* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Common-MAC-ehs-ReorderingQueue");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Common-MAC-ehs-ReorderingQueue");
-   /* mac-ehs-QueueId */
-   if ((uint64_t)pvalue->mac_ehs_QueueId > 7u) {
-      rtxErrAddStrParm(ctx, "MAC-ehs-QueueId");
-      rtxErrAddUIntParm(ctx, pvalue->mac_ehs_QueueId);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "Common-MAC-ehs-ReorderingQueue");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mac_ehs_QueueId, 0, 7);
-   RT_CHECK(ctx, stat, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "Common-MAC-ehs-ReorderingQueue");
-   /* t1-ReleaseTimer */
-   if (pvalue->t1_ReleaseTimer > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->t1_ReleaseTimer);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "T1-ReleaseTimer", "t1-ReleaseTimer", -1, "Common-MAC-ehs-ReorderingQueue");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->t1_ReleaseTimer, 0, 15);
-   RT_CHECK(ctx, stat, "T1-ReleaseTimer", "t1-ReleaseTimer", -1, "Common-MAC-ehs-ReorderingQueue");
-   /* reorderingResetTimer */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->reorderingResetTimer > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->reorderingResetTimer);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "Treset-ResetTimer", "reorderingResetTimer", -1, "Common-MAC-ehs-ReorderingQueue");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->reorderingResetTimer, 0, 3);
-      RT_CHECK(ctx, stat, "Treset-ResetTimer", "reorderingResetTimer", -1, "Common-MAC-ehs-ReorderingQueue");
-   }
-   /* mac-ehsWindowSize */
-   if (pvalue->mac_ehsWindowSize > 6) {
-      rtxErrAddUIntParm(ctx, pvalue->mac_ehsWindowSize);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MAC-hs-WindowSize", "mac-ehsWindowSize", -1, "Common-MAC-ehs-ReorderingQueue");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mac_ehsWindowSize, 0, 6);
-   RT_CHECK(ctx, stat, "MAC-hs-WindowSize", "mac-ehsWindowSize", -1, "Common-MAC-ehs-ReorderingQueue");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_Common_MAC_ehs_ReorderingQueue, pvalue);
 }
 
-int asn1PE_UMTS_Common_MAC_ehs_ReorderingQueueList(rtxContext* RT_RESTRICT ctx, const Common_MAC_ehs_ReorderingQueueList* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_Common_MAC_ehs_ReorderingQueueList(rtxContext* RT_RESTRICT ctx, const Common_MAC_ehs_ReorderingQueueList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Common-MAC-ehs-ReorderingQueueList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Common-MAC-ehs-ReorderingQueueList");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 2);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "Common-MAC-ehs-ReorderingQueueList");
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "Common-MAC-ehs-ReorderingQueueList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "Common-MAC-ehs-ReorderingQueue", (int32_t)i, "Common-MAC-ehs-ReorderingQueueList");
-      stat = asn1PE_UMTS_Common_MAC_ehs_ReorderingQueue(ctx, (const Common_MAC_ehs_ReorderingQueue*)node->data);
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "Common-MAC-ehs-ReorderingQueue", (int32_t)i, "Common-MAC-ehs-ReorderingQueueList");
+      stat = enc_Common_MAC_ehs_ReorderingQueue(ctx, (const Common_MAC_ehs_ReorderingQueue*)node->data, cur);
       RT_CHECK(ctx, stat, 0, "Common-MAC-ehs-ReorderingQueue", (int32_t)i, "Common-MAC-ehs-ReorderingQueueList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_HS_SCCH_Codes(rtxContext* RT_RESTRICT ctx, HS_SCCH_Codes value)
+int asn1PE_UMTS_Common_MAC_ehs_ReorderingQueueList(rtxContext* RT_RESTRICT ctx, const Common_MAC_ehs_ReorderingQueueList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Common_MAC_ehs_ReorderingQueueList, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Codes(rtxContext* RT_RESTRICT ctx, HS_SCCH_Codes value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)value > 127u) {
       rtxErrAddStrParm(ctx, "HS-SCCH-Codes");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "HS-SCCH-Codes");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "HS-SCCH-Codes");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 127);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HS-SCCH-Codes");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 127);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "HS-SCCH-Codes");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Codes(rtxContext* RT_RESTRICT ctx, HS_SCCH_Codes value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Codes, value);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_SystemInfo_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_SystemInfo_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 127u) {
+         rtxErrAddStrParm(ctx, "HS-SCCH-Codes");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 127);
+      RT_CHECK_PUT(ctx, cur, stat, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
+   }
    return 0;
 }
 
 int asn1PE_UMTS_HS_SCCH_SystemInfo_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_SystemInfo_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)pvalue->elem[i] > 127u) {
-         rtxErrAddStrParm(ctx, "HS-SCCH-Codes");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 127);
-      RT_CHECK(ctx, stat, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_SystemInfo_hS_SCCHChannelisationCodeInfo, pvalue);
 }
 
-int asn1PE_UMTS_HS_SCCH_SystemInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_SystemInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_HS_SCCH_SystemInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_SystemInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-SystemInfo");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-SystemInfo");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HS-SCCH-SystemInfo");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "HS-SCCH-SystemInfo");
    /* dl-ScramblingCode */
    if (pvalue->m & 0x1u) {
       if ((uint64_t)(pvalue->dl_ScramblingCode - 1) > 14u) {
          rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
          rtxErrAddUIntParm(ctx, pvalue->dl_ScramblingCode);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "SecondaryScramblingCode", "dl-ScramblingCode", -1, "HS-SCCH-SystemInfo");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SecondaryScramblingCode", "dl-ScramblingCode", -1, "HS-SCCH-SystemInfo");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->dl_ScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, "HS-SCCH-SystemInfo");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->dl_ScramblingCode, 1, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, "HS-SCCH-SystemInfo");
    }
    /* hS-SCCHChannelisationCodeInfo */
-   stat = asn1PE_UMTS_HS_SCCH_SystemInfo_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo);
+   stat = enc_HS_SCCH_SystemInfo_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo, cur);
    RT_CHECK(ctx, stat, 0, "hS-SCCHChannelisationCodeInfo", -1, "HS-SCCH-SystemInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_SystemInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_SystemInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_SystemInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_HARQMemorySize(rtxContext* RT_RESTRICT ctx, HARQMemorySize value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 60) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "HARQMemorySize");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 60);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "HARQMemorySize");
    return 0;
 }
 
 int asn1PE_UMTS_HARQMemorySize(rtxContext* RT_RESTRICT ctx, HARQMemorySize value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_HARQMemorySize, value);
+}
+
+RT_MERGED_BODY int enc_HARQ_Info_memoryPartitioning_explicit_(rtxContext* RT_RESTRICT ctx, const HARQ_Info_memoryPartitioning_explicit_* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 60) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "HARQMemorySize");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 60) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "HARQMemorySize", "HARQMemorySize", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 60);
+      RT_CHECK_PUT(ctx, cur, stat, "HARQMemorySize", "HARQMemorySize", (int32_t)i, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 60);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HARQMemorySize");
    return 0;
 }
 
 int asn1PE_UMTS_HARQ_Info_memoryPartitioning_explicit_(rtxContext* RT_RESTRICT ctx, const HARQ_Info_memoryPartitioning_explicit_* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (i = 0; i < pvalue->n; i++) {
-      if (pvalue->elem[i] > 60) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "HARQMemorySize", "HARQMemorySize", (int32_t)i, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 60);
-      RT_CHECK(ctx, stat, "HARQMemorySize", "HARQMemorySize", (int32_t)i, 0);
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_HARQ_Info_memoryPartitioning_explicit_, pvalue);
 }
 
-int asn1PE_UMTS_HARQ_Info_memoryPartitioning(rtxContext* RT_RESTRICT ctx, const HARQ_Info_memoryPartitioning* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_HARQ_Info_memoryPartitioning(rtxContext* RT_RESTRICT ctx, const HARQ_Info_memoryPartitioning* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
          break;
       case 2:
-         if (pvalue->u.explicit_ == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "explicit", -1, 0);
-         stat = asn1PE_UMTS_HARQ_Info_memoryPartitioning_explicit_(ctx, pvalue->u.explicit_);
+         if (pvalue->u.explicit_ == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "explicit", -1, 0);
+         stat = enc_HARQ_Info_memoryPartitioning_explicit_(ctx, pvalue->u.explicit_, cur);
          RT_CHECK(ctx, stat, 0, "explicit", -1, 0);
          break;
       default:
@@ -4116,364 +7642,464 @@ int asn1PE_UMTS_HARQ_Info_memoryPartitioning(rtxContext* RT_RESTRICT ctx, const 
    return 0;
 }
 
-int asn1PE_UMTS_HARQ_Info(rtxContext* RT_RESTRICT ctx, const HARQ_Info* RT_RESTRICT pvalue)
+int asn1PE_UMTS_HARQ_Info_memoryPartitioning(rtxContext* RT_RESTRICT ctx, const HARQ_Info_memoryPartitioning* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HARQ_Info_memoryPartitioning, pvalue);
+}
+
+RT_MERGED_BODY int enc_HARQ_Info(rtxContext* RT_RESTRICT ctx, const HARQ_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HARQ-Info");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HARQ-Info");
    /* numberOfProcesses */
    if ((uint64_t)(pvalue->numberOfProcesses - 1) > 7u) {
       rtxErrAddStrParm(ctx, "numberOfProcesses");
       rtxErrAddUIntParm(ctx, pvalue->numberOfProcesses);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "numberOfProcesses", -1, "HARQ-Info");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "numberOfProcesses", -1, "HARQ-Info");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->numberOfProcesses, 1, 8);
-   RT_CHECK(ctx, stat, 0, "numberOfProcesses", -1, "HARQ-Info");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->numberOfProcesses, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "numberOfProcesses", -1, "HARQ-Info");
    /* memoryPartitioning */
-   stat = asn1PE_UMTS_HARQ_Info_memoryPartitioning(ctx, &pvalue->memoryPartitioning);
+   stat = enc_HARQ_Info_memoryPartitioning(ctx, &pvalue->memoryPartitioning, cur);
    RT_CHECK(ctx, stat, 0, "memoryPartitioning", -1, "HARQ-Info");
+   return 0;
+}
+
+int asn1PE_UMTS_HARQ_Info(rtxContext* RT_RESTRICT ctx, const HARQ_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HARQ_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_H_RNTI(rtxContext* RT_RESTRICT ctx, H_RNTI value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &value, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "H-RNTI");
    return 0;
 }
 
 int asn1PE_UMTS_H_RNTI(rtxContext* RT_RESTRICT ctx, H_RNTI value)
 {
-   int stat = 0;
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &value, 16, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, "H-RNTI");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_H_RNTI, value);
 }
 
-int asn1PE_UMTS_HS_DSCH_CommonSystemInformation_common_H_RNTI_information(rtxContext* RT_RESTRICT ctx, const HS_DSCH_CommonSystemInformation_common_H_RNTI_information* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_HS_DSCH_CommonSystemInformation_common_H_RNTI_information(rtxContext* RT_RESTRICT ctx, const HS_DSCH_CommonSystemInformation_common_H_RNTI_information* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
    for (i = 0; i < pvalue->n; i++) {
-      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->elem[i]);
+      stat = enc_H_RNTI(ctx, pvalue->elem[i], cur);
       RT_CHECK(ctx, stat, 0, "H-RNTI", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_HS_DSCH_CommonSystemInformation(rtxContext* RT_RESTRICT ctx, const HS_DSCH_CommonSystemInformation* RT_RESTRICT pvalue)
+int asn1PE_UMTS_HS_DSCH_CommonSystemInformation_common_H_RNTI_information(rtxContext* RT_RESTRICT ctx, const HS_DSCH_CommonSystemInformation_common_H_RNTI_information* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_DSCH_CommonSystemInformation_common_H_RNTI_information, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_DSCH_CommonSystemInformation(rtxContext* RT_RESTRICT ctx, const HS_DSCH_CommonSystemInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-DSCH-CommonSystemInformation");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HS-DSCH-CommonSystemInformation");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HS-DSCH-CommonSystemInformation");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "HS-DSCH-CommonSystemInformation");
    /* ccch-MappingInfo */
-   stat = asn1PE_UMTS_CommonRBMappingInfo(ctx, &pvalue->ccch_MappingInfo);
+   stat = enc_CommonRBMappingInfo(ctx, &pvalue->ccch_MappingInfo, cur);
    RT_CHECK(ctx, stat, 0, "ccch-MappingInfo", -1, "HS-DSCH-CommonSystemInformation");
    /* srb1-MappingInfo */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CommonRBMappingInfo(ctx, &pvalue->srb1_MappingInfo);
+      stat = enc_CommonRBMappingInfo(ctx, &pvalue->srb1_MappingInfo, cur);
       RT_CHECK(ctx, stat, 0, "srb1-MappingInfo", -1, "HS-DSCH-CommonSystemInformation");
    }
    /* common-MAC-ehs-ReorderingQueueList */
-   stat = asn1PE_UMTS_Common_MAC_ehs_ReorderingQueueList(ctx, &pvalue->common_MAC_ehs_ReorderingQueueList);
+   stat = enc_Common_MAC_ehs_ReorderingQueueList(ctx, &pvalue->common_MAC_ehs_ReorderingQueueList, cur);
    RT_CHECK(ctx, stat, 0, "common-MAC-ehs-ReorderingQueueList", -1, "HS-DSCH-CommonSystemInformation");
    /* hs-scch-SystemInfo */
-   stat = asn1PE_UMTS_HS_SCCH_SystemInfo(ctx, &pvalue->hs_scch_SystemInfo);
+   stat = enc_HS_SCCH_SystemInfo(ctx, &pvalue->hs_scch_SystemInfo, cur);
    RT_CHECK(ctx, stat, 0, "hs-scch-SystemInfo", -1, "HS-DSCH-CommonSystemInformation");
    /* harq-SystemInfo */
-   stat = asn1PE_UMTS_HARQ_Info(ctx, &pvalue->harq_SystemInfo);
+   stat = enc_HARQ_Info(ctx, &pvalue->harq_SystemInfo, cur);
    RT_CHECK(ctx, stat, 0, "harq-SystemInfo", -1, "HS-DSCH-CommonSystemInformation");
    /* common-H-RNTI-information */
-   stat = asn1PE_UMTS_HS_DSCH_CommonSystemInformation_common_H_RNTI_information(ctx, &pvalue->common_H_RNTI_information);
+   stat = enc_HS_DSCH_CommonSystemInformation_common_H_RNTI_information(ctx, &pvalue->common_H_RNTI_information, cur);
    RT_CHECK(ctx, stat, 0, "common-H-RNTI-information", -1, "HS-DSCH-CommonSystemInformation");
    /* bcchSpecific-H-RNTI */
-   stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->bcchSpecific_H_RNTI);
+   stat = enc_H_RNTI(ctx, pvalue->bcchSpecific_H_RNTI, cur);
    RT_CHECK(ctx, stat, 0, "bcchSpecific-H-RNTI", -1, "HS-DSCH-CommonSystemInformation");
    return 0;
 }
 
-int asn1PE_UMTS_PICH_ForHSDPASupportedPaging(rtxContext* RT_RESTRICT ctx, const PICH_ForHSDPASupportedPaging* RT_RESTRICT pvalue)
+int asn1PE_UMTS_HS_DSCH_CommonSystemInformation(rtxContext* RT_RESTRICT ctx, const HS_DSCH_CommonSystemInformation* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_DSCH_CommonSystemInformation, pvalue);
+}
+
+RT_MERGED_BODY int enc_PICH_ForHSDPASupportedPaging(rtxContext* RT_RESTRICT ctx, const PICH_ForHSDPASupportedPaging* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PICH-ForHSDPASupportedPaging");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PICH-ForHSDPASupportedPaging");
    /* hsdpa-AssociatedPichInfo */
-   stat = asn1PE_UMTS_PICH_Info(ctx, &pvalue->hsdpa_AssociatedPichInfo);
+   stat = enc_PICH_Info(ctx, &pvalue->hsdpa_AssociatedPichInfo, cur);
    RT_CHECK(ctx, stat, 0, "hsdpa-AssociatedPichInfo", -1, "PICH-ForHSDPASupportedPaging");
    /* hs-pdschChannelisationCode */
    if ((uint64_t)(pvalue->hs_pdschChannelisationCode - 1) > 14u) {
       rtxErrAddStrParm(ctx, "hs-pdschChannelisationCode");
       rtxErrAddUIntParm(ctx, pvalue->hs_pdschChannelisationCode);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "hs-pdschChannelisationCode", -1, "PICH-ForHSDPASupportedPaging");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "hs-pdschChannelisationCode", -1, "PICH-ForHSDPASupportedPaging");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->hs_pdschChannelisationCode, 1, 15);
-   RT_CHECK(ctx, stat, 0, "hs-pdschChannelisationCode", -1, "PICH-ForHSDPASupportedPaging");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->hs_pdschChannelisationCode, 1, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "hs-pdschChannelisationCode", -1, "PICH-ForHSDPASupportedPaging");
    return 0;
 }
 
-int asn1PE_UMTS_HS_DSCH_PagingSystemInformation_pich_ForHSDPASupportedPagingList(rtxContext* RT_RESTRICT ctx, const HS_DSCH_PagingSystemInformation_pich_ForHSDPASupportedPagingList* RT_RESTRICT pvalue)
+int asn1PE_UMTS_PICH_ForHSDPASupportedPaging(rtxContext* RT_RESTRICT ctx, const PICH_ForHSDPASupportedPaging* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PICH_ForHSDPASupportedPaging, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_DSCH_PagingSystemInformation_pich_ForHSDPASupportedPagingList(rtxContext* RT_RESTRICT ctx, const HS_DSCH_PagingSystemInformation_pich_ForHSDPASupportedPagingList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PICH-ForHSDPASupportedPaging", (int32_t)i, 0);
-      stat = asn1PE_UMTS_PICH_ForHSDPASupportedPaging(ctx, (const PICH_ForHSDPASupportedPaging*)node->data);
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "PICH-ForHSDPASupportedPaging", (int32_t)i, 0);
+      stat = enc_PICH_ForHSDPASupportedPaging(ctx, (const PICH_ForHSDPASupportedPaging*)node->data, cur);
       RT_CHECK(ctx, stat, 0, "PICH-ForHSDPASupportedPaging", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_TransportBlockSizeIndex(rtxContext* RT_RESTRICT ctx, TransportBlockSizeIndex value)
+int asn1PE_UMTS_HS_DSCH_PagingSystemInformation_pich_ForHSDPASupportedPagingList(rtxContext* RT_RESTRICT ctx, const HS_DSCH_PagingSystemInformation_pich_ForHSDPASupportedPagingList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_DSCH_PagingSystemInformation_pich_ForHSDPASupportedPagingList, pvalue);
+}
+
+RT_MERGED_BODY int enc_TransportBlockSizeIndex(rtxContext* RT_RESTRICT ctx, TransportBlockSizeIndex value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)(value - 1) > 31u) {
       rtxErrAddStrParm(ctx, "TransportBlockSizeIndex");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TransportBlockSizeIndex");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "TransportBlockSizeIndex");
    }
-   stat = pe_ConsUInt64(ctx, value, 1, 32);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TransportBlockSizeIndex");
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TransportBlockSizeIndex");
+   return 0;
+}
+
+int asn1PE_UMTS_TransportBlockSizeIndex(rtxContext* RT_RESTRICT ctx, TransportBlockSizeIndex value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TransportBlockSizeIndex, value);
+}
+
+RT_MERGED_BODY int enc_HS_DSCH_PagingSystemInformation_transportBlockSizeList(rtxContext* RT_RESTRICT ctx, const HS_DSCH_PagingSystemInformation_transportBlockSizeList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 2);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)(pvalue->elem[i] - 1) > 31u) {
+         rtxErrAddStrParm(ctx, "TransportBlockSizeIndex");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportBlockSizeIndex", "TransportBlockSizeIndex", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 1, 32);
+      RT_CHECK_PUT(ctx, cur, stat, "TransportBlockSizeIndex", "TransportBlockSizeIndex", (int32_t)i, 0);
+   }
    return 0;
 }
 
 int asn1PE_UMTS_HS_DSCH_PagingSystemInformation_transportBlockSizeList(rtxContext* RT_RESTRICT ctx, const HS_DSCH_PagingSystemInformation_transportBlockSizeList* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 2);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)(pvalue->elem[i] - 1) > 31u) {
-         rtxErrAddStrParm(ctx, "TransportBlockSizeIndex");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportBlockSizeIndex", "TransportBlockSizeIndex", (int32_t)i, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 1, 32);
-      RT_CHECK(ctx, stat, "TransportBlockSizeIndex", "TransportBlockSizeIndex", (int32_t)i, 0);
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_HS_DSCH_PagingSystemInformation_transportBlockSizeList, pvalue);
 }
 
-int asn1PE_UMTS_HS_DSCH_PagingSystemInformation(rtxContext* RT_RESTRICT ctx, const HS_DSCH_PagingSystemInformation* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_HS_DSCH_PagingSystemInformation(rtxContext* RT_RESTRICT ctx, const HS_DSCH_PagingSystemInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-DSCH-PagingSystemInformation");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HS-DSCH-PagingSystemInformation");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HS-DSCH-PagingSystemInformation");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "HS-DSCH-PagingSystemInformation");
    /* dlScramblingCode */
    if (pvalue->m & 0x1u) {
       if ((uint64_t)(pvalue->dlScramblingCode - 1) > 14u) {
          rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
          rtxErrAddUIntParm(ctx, pvalue->dlScramblingCode);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "SecondaryScramblingCode", "dlScramblingCode", -1, "HS-DSCH-PagingSystemInformation");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SecondaryScramblingCode", "dlScramblingCode", -1, "HS-DSCH-PagingSystemInformation");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->dlScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "dlScramblingCode", -1, "HS-DSCH-PagingSystemInformation");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->dlScramblingCode, 1, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "SecondaryScramblingCode", "dlScramblingCode", -1, "HS-DSCH-PagingSystemInformation");
    }
    /* pich-ForHSDPASupportedPagingList */
-   stat = asn1PE_UMTS_HS_DSCH_PagingSystemInformation_pich_ForHSDPASupportedPagingList(ctx, &pvalue->pich_ForHSDPASupportedPagingList);
+   stat = enc_HS_DSCH_PagingSystemInformation_pich_ForHSDPASupportedPagingList(ctx, &pvalue->pich_ForHSDPASupportedPagingList, cur);
    RT_CHECK(ctx, stat, 0, "pich-ForHSDPASupportedPagingList", -1, "HS-DSCH-PagingSystemInformation");
    /* numberOfPcchTransmissions */
    if ((uint64_t)(pvalue->numberOfPcchTransmissions - 1) > 4u) {
       rtxErrAddStrParm(ctx, "numberOfPcchTransmissions");
       rtxErrAddUIntParm(ctx, pvalue->numberOfPcchTransmissions);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "numberOfPcchTransmissions", -1, "HS-DSCH-PagingSystemInformation");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "numberOfPcchTransmissions", -1, "HS-DSCH-PagingSystemInformation");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->numberOfPcchTransmissions, 1, 5);
-   RT_CHECK(ctx, stat, 0, "numberOfPcchTransmissions", -1, "HS-DSCH-PagingSystemInformation");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->numberOfPcchTransmissions, 1, 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "numberOfPcchTransmissions", -1, "HS-DSCH-PagingSystemInformation");
    /* transportBlockSizeList */
-   stat = asn1PE_UMTS_HS_DSCH_PagingSystemInformation_transportBlockSizeList(ctx, &pvalue->transportBlockSizeList);
+   stat = enc_HS_DSCH_PagingSystemInformation_transportBlockSizeList(ctx, &pvalue->transportBlockSizeList, cur);
    RT_CHECK(ctx, stat, 0, "transportBlockSizeList", -1, "HS-DSCH-PagingSystemInformation");
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_HS_DSCH_PagingSystemInformation(rtxContext* RT_RESTRICT ctx, const HS_DSCH_PagingSystemInformation* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_DSCH_PagingSystemInformation, pvalue);
+}
+
+static int enc_SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    /* hs-dsch-CommonSystemInformation */
-   stat = asn1PE_UMTS_HS_DSCH_CommonSystemInformation(ctx, &pvalue->hs_dsch_CommonSystemInformation);
+   stat = enc_HS_DSCH_CommonSystemInformation(ctx, &pvalue->hs_dsch_CommonSystemInformation, cur);
    RT_CHECK(ctx, stat, 0, "hs-dsch-CommonSystemInformation", -1, 0);
    /* hs-dsch-PagingSystemInformation */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_HS_DSCH_PagingSystemInformation(ctx, &pvalue->hs_dsch_PagingSystemInformation);
+      stat = enc_HS_DSCH_PagingSystemInformation(ctx, &pvalue->hs_dsch_PagingSystemInformation, cur);
       RT_CHECK(ctx, stat, 0, "hs-dsch-PagingSystemInformation", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+int asn1PE_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* midambleShift */
    if ((uint64_t)pvalue->midambleShift > 15u) {
       rtxErrAddStrParm(ctx, "MidambleShiftLong");
       rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleShift, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
+         stat = enc_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
+   }
    return 0;
 }
 
 int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_VHCR_burstType_type1(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType_type1* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         break;
-      case 3:
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         break;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleConfigurationBurstType1and3 */
+   if (pvalue->midambleConfigurationBurstType1and3 > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType1and3);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
    }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleConfigurationBurstType1and3, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
+   /* midambleAllocationMode */
+   stat = enc_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type1(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType_type1* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_VHCR_burstType_type1, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleConfigurationBurstType2_VHCR(rtxContext* RT_RESTRICT ctx, MidambleConfigurationBurstType2_VHCR value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* midambleConfigurationBurstType1and3 */
-   if (pvalue->midambleConfigurationBurstType1and3 > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType1and3);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MidambleConfigurationBurstType2-VHCR");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfigurationBurstType1and3, 0, 2);
-   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
-   /* midambleAllocationMode */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type1_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MidambleConfigurationBurstType2-VHCR");
    return 0;
 }
 
 int asn1PE_UMTS_MidambleConfigurationBurstType2_VHCR(rtxContext* RT_RESTRICT ctx, MidambleConfigurationBurstType2_VHCR value)
 {
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MidambleConfigurationBurstType2-VHCR");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MidambleConfigurationBurstType2-VHCR");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_MidambleConfigurationBurstType2_VHCR, value);
 }
 
-int asn1PE_UMTS_MidambleShiftShort_VHCR(rtxContext* RT_RESTRICT ctx, MidambleShiftShort_VHCR value)
+RT_MERGED_BODY int enc_MidambleShiftShort_VHCR(rtxContext* RT_RESTRICT ctx, MidambleShiftShort_VHCR value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)value > 7u) {
       rtxErrAddStrParm(ctx, "MidambleShiftShort-VHCR");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MidambleShiftShort-VHCR");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "MidambleShiftShort-VHCR");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MidambleShiftShort-VHCR");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MidambleShiftShort-VHCR");
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftShort_VHCR(rtxContext* RT_RESTRICT ctx, MidambleShiftShort_VHCR value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftShort_VHCR, value);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleShift */
+   if ((uint64_t)pvalue->midambleShift > 7u) {
+      rtxErrAddStrParm(ctx, "MidambleShiftShort-VHCR");
+      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MidambleShiftShort-VHCR", "midambleShift", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleShift, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleShiftShort-VHCR", "midambleShift", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* midambleShift */
-   if ((uint64_t)pvalue->midambleShift > 7u) {
-      rtxErrAddStrParm(ctx, "MidambleShiftShort-VHCR");
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftShort-VHCR", "midambleShift", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
+         stat = enc_MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
    }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 7);
-   RT_CHECK(ctx, stat, "MidambleShiftShort-VHCR", "midambleShift", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_VHCR_burstType_type2(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType_type2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         break;
-      case 3:
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         break;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleConfigurationBurstType2 */
+   if (pvalue->midambleConfigurationBurstType2 > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType2);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MidambleConfigurationBurstType2-VHCR", "midambleConfigurationBurstType2", -1, 0);
    }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleConfigurationBurstType2, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleConfigurationBurstType2-VHCR", "midambleConfigurationBurstType2", -1, 0);
+   /* midambleAllocationMode */
+   stat = enc_MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type2(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType_type2* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_VHCR_burstType_type2, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* midambleConfigurationBurstType2 */
-   if (pvalue->midambleConfigurationBurstType2 > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType2);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MidambleConfigurationBurstType2-VHCR", "midambleConfigurationBurstType2", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleShift */
+   if ((uint64_t)pvalue->midambleShift > 15u) {
+      rtxErrAddStrParm(ctx, "MidambleShiftLong");
+      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfigurationBurstType2, 0, 1);
-   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType2-VHCR", "midambleConfigurationBurstType2", -1, 0);
-   /* midambleAllocationMode */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type2_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleShift, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleShiftLong", "midambleShift", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* midambleShift */
-   if ((uint64_t)pvalue->midambleShift > 15u) {
-      rtxErrAddStrParm(ctx, "MidambleShiftLong");
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode_ueSpecificMidamble, pvalue);
 }
 
-int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
          break;
       case 2:
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
+         stat = enc_MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
          RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
          break;
       default:
@@ -4482,44 +8108,54 @@ int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocatio
    return 0;
 }
 
-int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type3(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType_type3* RT_RESTRICT pvalue)
+int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_VHCR_burstType_type3(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType_type3* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* midambleConfigurationBurstType1and3 */
    if (pvalue->midambleConfigurationBurstType1and3 > 2) {
       rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType1and3);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfigurationBurstType1and3, 0, 2);
-   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleConfigurationBurstType1and3, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
    /* midambleAllocationMode */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   stat = enc_MidambleShiftAndBurstType_VHCR_burstType_type3_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
    RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType* RT_RESTRICT pvalue)
+int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type3(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType_type3* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_VHCR_burstType_type3, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_VHCR_burstType(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 3) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.type1 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "type1", -1, 0);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type1(ctx, pvalue->u.type1);
+         if (pvalue->u.type1 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "type1", -1, 0);
+         stat = enc_MidambleShiftAndBurstType_VHCR_burstType_type1(ctx, pvalue->u.type1, cur);
          RT_CHECK(ctx, stat, 0, "type1", -1, 0);
          break;
       case 2:
-         if (pvalue->u.type2 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "type2", -1, 0);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type2(ctx, pvalue->u.type2);
+         if (pvalue->u.type2 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "type2", -1, 0);
+         stat = enc_MidambleShiftAndBurstType_VHCR_burstType_type2(ctx, pvalue->u.type2, cur);
          RT_CHECK(ctx, stat, 0, "type2", -1, 0);
          break;
       case 3:
-         if (pvalue->u.type3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "type3", -1, 0);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType_type3(ctx, pvalue->u.type3);
+         if (pvalue->u.type3 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "type3", -1, 0);
+         stat = enc_MidambleShiftAndBurstType_VHCR_burstType_type3(ctx, pvalue->u.type3, cur);
          RT_CHECK(ctx, stat, 0, "type3", -1, 0);
          break;
       case 4:
@@ -4530,127 +8166,167 @@ int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType(rtxContext* RT_RESTRICT
    return 0;
 }
 
-int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR* RT_RESTRICT pvalue)
+int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR_burstType* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_VHCR_burstType, pvalue);
+}
+
+static int enc_MidambleShiftAndBurstType_VHCR(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MidambleShiftAndBurstType-VHCR");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MidambleShiftAndBurstType-VHCR");
    /* burstType */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_VHCR_burstType(ctx, &pvalue->burstType);
+   stat = enc_MidambleShiftAndBurstType_VHCR_burstType(ctx, &pvalue->burstType, cur);
    RT_CHECK(ctx, stat, 0, "burstType", -1, "MidambleShiftAndBurstType-VHCR");
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_VHCR(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_VHCR* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_VHCR, pvalue);
+}
+
+RT_MERGED_BODY int enc_IndividualTimeslotInfo_VHCR(rtxContext* RT_RESTRICT ctx, const IndividualTimeslotInfo_VHCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IndividualTimeslotInfo-VHCR");
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, "IndividualTimeslotInfo-VHCR");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslotNumber, 0, 14);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber", "timeslotNumber", -1, "IndividualTimeslotInfo-VHCR");
+   /* tfci-Existence */
+   stat = rtxEncBitAt(ctx, cur, pvalue->tfci_Existence);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tfci-Existence", -1, "IndividualTimeslotInfo-VHCR");
+   /* midambleShiftAndBurstType-VHCR */
+   stat = enc_MidambleShiftAndBurstType_VHCR(ctx, &pvalue->midambleShiftAndBurstType_VHCR, cur);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType-VHCR", -1, "IndividualTimeslotInfo-VHCR");
    return 0;
 }
 
 int asn1PE_UMTS_IndividualTimeslotInfo_VHCR(rtxContext* RT_RESTRICT ctx, const IndividualTimeslotInfo_VHCR* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_IndividualTimeslotInfo_VHCR, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_TS_ChannelisationCode_VHCR(rtxContext* RT_RESTRICT ctx, UL_TS_ChannelisationCode_VHCR value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IndividualTimeslotInfo-VHCR");
-   /* timeslotNumber */
-   if ((uint64_t)pvalue->timeslotNumber > 14u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber");
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, "IndividualTimeslotInfo-VHCR");
+   if (value > 62) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "UL-TS-ChannelisationCode-VHCR");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, "IndividualTimeslotInfo-VHCR");
-   /* tfci-Existence */
-   stat = rtxEncBit(ctx, pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, "IndividualTimeslotInfo-VHCR");
-   /* midambleShiftAndBurstType-VHCR */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_VHCR(ctx, &pvalue->midambleShiftAndBurstType_VHCR);
-   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType-VHCR", -1, "IndividualTimeslotInfo-VHCR");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 62);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UL-TS-ChannelisationCode-VHCR");
    return 0;
 }
 
 int asn1PE_UMTS_UL_TS_ChannelisationCode_VHCR(rtxContext* RT_RESTRICT ctx, UL_TS_ChannelisationCode_VHCR value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_UL_TS_ChannelisationCode_VHCR, value);
+}
+
+RT_MERGED_BODY int enc_UL_TS_ChannelisationCodeList_VHCR(rtxContext* RT_RESTRICT ctx, const UL_TS_ChannelisationCodeList_VHCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 62) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UL-TS-ChannelisationCode-VHCR");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-TS-ChannelisationCodeList-VHCR");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 2);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "UL-TS-ChannelisationCodeList-VHCR");
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 62) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UL-TS-ChannelisationCode-VHCR", "UL-TS-ChannelisationCode-VHCR", (int32_t)i, "UL-TS-ChannelisationCodeList-VHCR");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 62);
+      RT_CHECK_PUT(ctx, cur, stat, "UL-TS-ChannelisationCode-VHCR", "UL-TS-ChannelisationCode-VHCR", (int32_t)i, "UL-TS-ChannelisationCodeList-VHCR");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 62);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-TS-ChannelisationCode-VHCR");
    return 0;
 }
 
 int asn1PE_UMTS_UL_TS_ChannelisationCodeList_VHCR(rtxContext* RT_RESTRICT ctx, const UL_TS_ChannelisationCodeList_VHCR* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_UL_TS_ChannelisationCodeList_VHCR, pvalue);
+}
+
+RT_MERGED_BODY int enc_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_consecutive(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_consecutive* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-TS-ChannelisationCodeList-VHCR");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 2);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UL-TS-ChannelisationCodeList-VHCR");
-   for (i = 0; i < pvalue->n; i++) {
-      if (pvalue->elem[i] > 62) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "UL-TS-ChannelisationCode-VHCR", "UL-TS-ChannelisationCode-VHCR", (int32_t)i, "UL-TS-ChannelisationCodeList-VHCR");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 62);
-      RT_CHECK(ctx, stat, "UL-TS-ChannelisationCode-VHCR", "UL-TS-ChannelisationCode-VHCR", (int32_t)i, "UL-TS-ChannelisationCodeList-VHCR");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* numAdditionalTimeslots */
+   if ((uint64_t)(pvalue->numAdditionalTimeslots - 1) > 12u) {
+      rtxErrAddStrParm(ctx, "numAdditionalTimeslots");
+      rtxErrAddUIntParm(ctx, pvalue->numAdditionalTimeslots);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "numAdditionalTimeslots", -1, 0);
    }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->numAdditionalTimeslots, 1, 13);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "numAdditionalTimeslots", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_consecutive(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_consecutive* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_consecutive, pvalue);
+}
+
+RT_MERGED_BODY int enc_UplinkAdditionalTimeslots_VHCR_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_VHCR_parameters_sameAsLast* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* numAdditionalTimeslots */
-   if ((uint64_t)(pvalue->numAdditionalTimeslots - 1) > 12u) {
-      rtxErrAddStrParm(ctx, "numAdditionalTimeslots");
-      rtxErrAddUIntParm(ctx, pvalue->numAdditionalTimeslots);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "numAdditionalTimeslots", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, pvalue->numAdditionalTimeslots, 1, 13);
-   RT_CHECK(ctx, stat, 0, "numAdditionalTimeslots", -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslotNumber, 0, 14);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber", "timeslotNumber", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_UplinkAdditionalTimeslots_VHCR_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_VHCR_parameters_sameAsLast* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_UplinkAdditionalTimeslots_VHCR_parameters_sameAsLast, pvalue);
+}
+
+RT_MERGED_BODY int enc_UplinkAdditionalTimeslots_VHCR_parameters_newParameters(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_VHCR_parameters_newParameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* timeslotNumber */
-   if ((uint64_t)pvalue->timeslotNumber > 14u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber");
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* individualTimeslotInfo */
+   stat = enc_IndividualTimeslotInfo_VHCR(ctx, &pvalue->individualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
+   /* ul-TS-ChannelisationCodeList */
+   stat = enc_UL_TS_ChannelisationCodeList(ctx, &pvalue->ul_TS_ChannelisationCodeList, cur);
+   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_UplinkAdditionalTimeslots_VHCR_parameters_newParameters(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_VHCR_parameters_newParameters* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* individualTimeslotInfo */
-   stat = asn1PE_UMTS_IndividualTimeslotInfo_VHCR(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
-   /* ul-TS-ChannelisationCodeList */
-   stat = asn1PE_UMTS_UL_TS_ChannelisationCodeList(ctx, &pvalue->ul_TS_ChannelisationCodeList);
-   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_UplinkAdditionalTimeslots_VHCR_parameters_newParameters, pvalue);
 }
 
-int asn1PE_UMTS_UplinkAdditionalTimeslots_VHCR_parameters(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_VHCR_parameters* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_UplinkAdditionalTimeslots_VHCR_parameters(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_VHCR_parameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.sameAsLast == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sameAsLast", -1, 0);
-         stat = asn1PE_UMTS_UplinkAdditionalTimeslots_VHCR_parameters_sameAsLast(ctx, pvalue->u.sameAsLast);
+         if (pvalue->u.sameAsLast == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "sameAsLast", -1, 0);
+         stat = enc_UplinkAdditionalTimeslots_VHCR_parameters_sameAsLast(ctx, pvalue->u.sameAsLast, cur);
          RT_CHECK(ctx, stat, 0, "sameAsLast", -1, 0);
          break;
       case 2:
-         if (pvalue->u.newParameters == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "newParameters", -1, 0);
-         stat = asn1PE_UMTS_UplinkAdditionalTimeslots_VHCR_parameters_newParameters(ctx, pvalue->u.newParameters);
+         if (pvalue->u.newParameters == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "newParameters", -1, 0);
+         stat = enc_UplinkAdditionalTimeslots_VHCR_parameters_newParameters(ctx, pvalue->u.newParameters, cur);
          RT_CHECK(ctx, stat, 0, "newParameters", -1, 0);
          break;
       default:
@@ -4659,50 +8335,91 @@ int asn1PE_UMTS_UplinkAdditionalTimeslots_VHCR_parameters(rtxContext* RT_RESTRIC
    return 0;
 }
 
-int asn1PE_UMTS_UplinkAdditionalTimeslots_VHCR(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_VHCR* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UplinkAdditionalTimeslots_VHCR_parameters(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_VHCR_parameters* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UplinkAdditionalTimeslots_VHCR_parameters, pvalue);
+}
+
+RT_MERGED_BODY int enc_UplinkAdditionalTimeslots_VHCR(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_VHCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UplinkAdditionalTimeslots-VHCR");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UplinkAdditionalTimeslots-VHCR");
    /* parameters */
-   stat = asn1PE_UMTS_UplinkAdditionalTimeslots_VHCR_parameters(ctx, &pvalue->parameters);
+   stat = enc_UplinkAdditionalTimeslots_VHCR_parameters(ctx, &pvalue->parameters, cur);
    RT_CHECK(ctx, stat, 0, "parameters", -1, "UplinkAdditionalTimeslots-VHCR");
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkAdditionalTimeslots_VHCR(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_VHCR* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UplinkAdditionalTimeslots_VHCR, pvalue);
+}
+
+RT_MERGED_BODY int enc_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 13);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "UplinkAdditionalTimeslots-VHCR", (int32_t)i, 0);
+      stat = enc_UplinkAdditionalTimeslots_VHCR(ctx, (const UplinkAdditionalTimeslots_VHCR*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "UplinkAdditionalTimeslots-VHCR", (int32_t)i, 0);
+   }
    return 0;
 }
 
 int asn1PE_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList, pvalue);
+}
+
+RT_MERGED_BODY int enc_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 13);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UplinkAdditionalTimeslots-VHCR", (int32_t)i, 0);
-      stat = asn1PE_UMTS_UplinkAdditionalTimeslots_VHCR(ctx, (const UplinkAdditionalTimeslots_VHCR*)node->data);
-      RT_CHECK(ctx, stat, 0, "UplinkAdditionalTimeslots-VHCR", (int32_t)i, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.consecutive == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "consecutive", -1, 0);
+         stat = enc_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_consecutive(ctx, pvalue->u.consecutive, cur);
+         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.timeslotList == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "timeslotList", -1, 0);
+         stat = enc_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList, cur);
+         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
+         break;
+      default:
+         break;
    }
    return 0;
 }
 
 int asn1PE_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots, pvalue);
+}
+
+RT_MERGED_BODY int enc_UplinkTimeslotsCodes_VHCR_moreTimeslots(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_VHCR_moreTimeslots* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.consecutive == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "consecutive", -1, 0);
-         stat = asn1PE_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_consecutive(ctx, pvalue->u.consecutive);
-         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
          break;
       case 2:
-         if (pvalue->u.timeslotList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "timeslotList", -1, 0);
-         stat = asn1PE_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList);
-         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
+         if (pvalue->u.additionalTimeslots == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "additionalTimeslots", -1, 0);
+         stat = enc_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots, cur);
+         RT_CHECK(ctx, stat, 0, "additionalTimeslots", -1, 0);
          break;
       default:
          break;
@@ -4712,222 +8429,251 @@ int asn1PE_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots(rtxC
 
 int asn1PE_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_VHCR_moreTimeslots* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_UplinkTimeslotsCodes_VHCR_moreTimeslots, pvalue);
+}
+
+static int enc_UplinkTimeslotsCodes_VHCR(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_VHCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.additionalTimeslots == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "additionalTimeslots", -1, 0);
-         stat = asn1PE_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots);
-         RT_CHECK(ctx, stat, 0, "additionalTimeslots", -1, 0);
-         break;
-      default:
-         break;
-   }
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UplinkTimeslotsCodes-VHCR");
+   /* dynamicSFusage */
+   stat = rtxEncBitAt(ctx, cur, pvalue->dynamicSFusage);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "dynamicSFusage", -1, "UplinkTimeslotsCodes-VHCR");
+   /* firstIndividualTimeslotInfo */
+   stat = enc_IndividualTimeslotInfo_VHCR(ctx, &pvalue->firstIndividualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "UplinkTimeslotsCodes-VHCR");
+   /* ul-TS-ChannelisationCodeList */
+   stat = enc_UL_TS_ChannelisationCodeList_VHCR(ctx, &pvalue->ul_TS_ChannelisationCodeList, cur);
+   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, "UplinkTimeslotsCodes-VHCR");
+   /* moreTimeslots */
+   stat = enc_UplinkTimeslotsCodes_VHCR_moreTimeslots(ctx, &pvalue->moreTimeslots, cur);
+   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "UplinkTimeslotsCodes-VHCR");
    return 0;
 }
 
 int asn1PE_UMTS_UplinkTimeslotsCodes_VHCR(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_VHCR* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UplinkTimeslotsCodes-VHCR");
-   /* dynamicSFusage */
-   stat = rtxEncBit(ctx, pvalue->dynamicSFusage);
-   RT_CHECK(ctx, stat, 0, "dynamicSFusage", -1, "UplinkTimeslotsCodes-VHCR");
-   /* firstIndividualTimeslotInfo */
-   stat = asn1PE_UMTS_IndividualTimeslotInfo_VHCR(ctx, &pvalue->firstIndividualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "UplinkTimeslotsCodes-VHCR");
-   /* ul-TS-ChannelisationCodeList */
-   stat = asn1PE_UMTS_UL_TS_ChannelisationCodeList_VHCR(ctx, &pvalue->ul_TS_ChannelisationCodeList);
-   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, "UplinkTimeslotsCodes-VHCR");
-   /* moreTimeslots */
-   stat = asn1PE_UMTS_UplinkTimeslotsCodes_VHCR_moreTimeslots(ctx, &pvalue->moreTimeslots);
-   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "UplinkTimeslotsCodes-VHCR");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_UplinkTimeslotsCodes_VHCR, pvalue);
 }
 
-int asn1PE_UMTS_PUSCH_Info_VHCR(rtxContext* RT_RESTRICT ctx, const PUSCH_Info_VHCR* RT_RESTRICT pvalue)
+static int enc_PUSCH_Info_VHCR(rtxContext* RT_RESTRICT ctx, const PUSCH_Info_VHCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-Info-VHCR");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-Info-VHCR");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 2) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->tfcs_ID != 1) << 2) |
       ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-Info-VHCR");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PUSCH-Info-VHCR");
    /* tfcs-ID */
    if (pvalue->tfcs_ID != 1) {
       if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
          rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
          rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "PUSCH-Info-VHCR");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "PUSCH-Info-VHCR");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PUSCH-Info-VHCR");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PUSCH-Info-VHCR");
    }
    /* commonTimeslotInfo */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
+      stat = enc_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo, cur);
       RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "PUSCH-Info-VHCR");
    }
    /* pusch-TimeslotsCodes-VHCR */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UplinkTimeslotsCodes_VHCR(ctx, &pvalue->pusch_TimeslotsCodes_VHCR);
+      stat = enc_UplinkTimeslotsCodes_VHCR(ctx, &pvalue->pusch_TimeslotsCodes_VHCR, cur);
       RT_CHECK(ctx, stat, 0, "pusch-TimeslotsCodes-VHCR", -1, "PUSCH-Info-VHCR");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCH_Info_VHCR(rtxContext* RT_RESTRICT ctx, const PUSCH_Info_VHCR* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_Info_VHCR, pvalue);
+}
+
+RT_MERGED_BODY int enc_PUSCH_SysInfo_VHCR(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfo_VHCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-SysInfo-VHCR");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PUSCH-SysInfo-VHCR");
+   /* pusch-Identity */
+   if ((uint64_t)(pvalue->pusch_Identity - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "PUSCH-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->pusch_Identity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PUSCH-Identity", "pusch-Identity", -1, "PUSCH-SysInfo-VHCR");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pusch_Identity, 1, 64);
+   RT_CHECK_PUT(ctx, cur, stat, "PUSCH-Identity", "pusch-Identity", -1, "PUSCH-SysInfo-VHCR");
+   /* pusch-Info-VHCR */
+   stat = enc_PUSCH_Info_VHCR(ctx, &pvalue->pusch_Info_VHCR, cur);
+   RT_CHECK(ctx, stat, 0, "pusch-Info-VHCR", -1, "PUSCH-SysInfo-VHCR");
+   /* usch-TransportChannelsInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_USCH_TransportChannelsInfo(ctx, &pvalue->usch_TransportChannelsInfo, cur);
+      RT_CHECK(ctx, stat, 0, "usch-TransportChannelsInfo", -1, "PUSCH-SysInfo-VHCR");
+   }
+   /* usch-TFCS */
+   if (pvalue->m & 0x2u) {
+      stat = enc_TFCS(ctx, &pvalue->usch_TFCS, cur);
+      RT_CHECK(ctx, stat, 0, "usch-TFCS", -1, "PUSCH-SysInfo-VHCR");
    }
    return 0;
 }
 
 int asn1PE_UMTS_PUSCH_SysInfo_VHCR(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfo_VHCR* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_SysInfo_VHCR, pvalue);
+}
+
+RT_MERGED_BODY int enc_PUSCH_SysInfoList_SFN_VHCR_element(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_SFN_VHCR_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-SysInfo-VHCR");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-SysInfo-VHCR");
-   /* pusch-Identity */
-   if ((uint64_t)(pvalue->pusch_Identity - 1) > 63u) {
-      rtxErrAddStrParm(ctx, "PUSCH-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->pusch_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PUSCH-Identity", "pusch-Identity", -1, "PUSCH-SysInfo-VHCR");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pusch_Identity, 1, 64);
-   RT_CHECK(ctx, stat, "PUSCH-Identity", "pusch-Identity", -1, "PUSCH-SysInfo-VHCR");
-   /* pusch-Info-VHCR */
-   stat = asn1PE_UMTS_PUSCH_Info_VHCR(ctx, &pvalue->pusch_Info_VHCR);
-   RT_CHECK(ctx, stat, 0, "pusch-Info-VHCR", -1, "PUSCH-SysInfo-VHCR");
-   /* usch-TransportChannelsInfo */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pusch-SysInfo-VHCR */
+   stat = enc_PUSCH_SysInfo_VHCR(ctx, &pvalue->pusch_SysInfo_VHCR, cur);
+   RT_CHECK(ctx, stat, 0, "pusch-SysInfo-VHCR", -1, 0);
+   /* sfn-TimeInfo */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_USCH_TransportChannelsInfo(ctx, &pvalue->usch_TransportChannelsInfo);
-      RT_CHECK(ctx, stat, 0, "usch-TransportChannelsInfo", -1, "PUSCH-SysInfo-VHCR");
-   }
-   /* usch-TFCS */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_TFCS(ctx, &pvalue->usch_TFCS);
-      RT_CHECK(ctx, stat, 0, "usch-TFCS", -1, "PUSCH-SysInfo-VHCR");
+      stat = enc_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "sfn-TimeInfo", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_PUSCH_SysInfoList_SFN_VHCR_element(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_SFN_VHCR_element* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_SysInfoList_SFN_VHCR_element, pvalue);
+}
+
+static int enc_PUSCH_SysInfoList_SFN_VHCR(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_SFN_VHCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-SysInfo-VHCR */
-   stat = asn1PE_UMTS_PUSCH_SysInfo_VHCR(ctx, &pvalue->pusch_SysInfo_VHCR);
-   RT_CHECK(ctx, stat, 0, "pusch-SysInfo-VHCR", -1, 0);
-   /* sfn-TimeInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SFN_TimeInfo(ctx, &pvalue->sfn_TimeInfo);
-      RT_CHECK(ctx, stat, 0, "sfn-TimeInfo", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-SysInfoList-SFN-VHCR");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "PUSCH-SysInfoList-SFN-VHCR");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN-VHCR");
+      stat = enc_PUSCH_SysInfoList_SFN_VHCR_element(ctx, (const PUSCH_SysInfoList_SFN_VHCR_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN-VHCR");
    }
    return 0;
 }
 
 int asn1PE_UMTS_PUSCH_SysInfoList_SFN_VHCR(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_SFN_VHCR* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_SysInfoList_SFN_VHCR, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDSCH_Info_r7_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_r7_tddOption_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-SysInfoList-SFN-VHCR");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PUSCH-SysInfoList-SFN-VHCR");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN-VHCR");
-      stat = asn1PE_UMTS_PUSCH_SysInfoList_SFN_VHCR_element(ctx, (const PUSCH_SysInfoList_SFN_VHCR_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "PUSCH-SysInfoList-SFN-VHCR");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pdsch-TimeslotsCodes */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DownlinkTimeslotsCodes(ctx, &pvalue->pdsch_TimeslotsCodes, cur);
+      RT_CHECK(ctx, stat, 0, "pdsch-TimeslotsCodes", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_PDSCH_Info_r7_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_r7_tddOption_tdd384* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_Info_r7_tddOption_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_TS_ChannelisationCode_VHCR(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCode_VHCR value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pdsch-TimeslotsCodes */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DownlinkTimeslotsCodes(ctx, &pvalue->pdsch_TimeslotsCodes);
-      RT_CHECK(ctx, stat, 0, "pdsch-TimeslotsCodes", -1, 0);
+   if (value > 31) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "DL-TS-ChannelisationCode-VHCR");
    }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-TS-ChannelisationCode-VHCR");
    return 0;
 }
 
 int asn1PE_UMTS_DL_TS_ChannelisationCode_VHCR(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCode_VHCR value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_DL_TS_ChannelisationCode_VHCR, value);
+}
+
+RT_MERGED_BODY int enc_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_consecutive(rtxContext* RT_RESTRICT ctx, const DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_consecutive* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 31) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "DL-TS-ChannelisationCode-VHCR");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* firstChannelisationCode */
+   if (pvalue->firstChannelisationCode > 31) {
+      rtxErrAddUIntParm(ctx, pvalue->firstChannelisationCode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "DL-TS-ChannelisationCode-VHCR", "firstChannelisationCode", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-TS-ChannelisationCode-VHCR");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->firstChannelisationCode, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, "DL-TS-ChannelisationCode-VHCR", "firstChannelisationCode", -1, 0);
+   /* lastChannelisationCode */
+   if (pvalue->lastChannelisationCode > 31) {
+      rtxErrAddUIntParm(ctx, pvalue->lastChannelisationCode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "DL-TS-ChannelisationCode-VHCR", "lastChannelisationCode", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->lastChannelisationCode, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, "DL-TS-ChannelisationCode-VHCR", "lastChannelisationCode", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_consecutive(rtxContext* RT_RESTRICT ctx, const DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_consecutive* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* firstChannelisationCode */
-   if (pvalue->firstChannelisationCode > 31) {
-      rtxErrAddUIntParm(ctx, pvalue->firstChannelisationCode);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-TS-ChannelisationCode-VHCR", "firstChannelisationCode", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->firstChannelisationCode, 0, 31);
-   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode-VHCR", "firstChannelisationCode", -1, 0);
-   /* lastChannelisationCode */
-   if (pvalue->lastChannelisationCode > 31) {
-      rtxErrAddUIntParm(ctx, pvalue->lastChannelisationCode);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-TS-ChannelisationCode-VHCR", "lastChannelisationCode", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->lastChannelisationCode, 0, 31);
-   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode-VHCR", "lastChannelisationCode", -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_consecutive, pvalue);
 }
 
-int asn1PE_UMTS_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_bitmap(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_bitmap value)
+RT_MERGED_BODY int enc_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_bitmap(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_bitmap value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    {
       int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
       uint32_t used = (uint32_t)(last + 1);
       value.numbits = used <= 32 ? 32 : used;
-      if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      if (last < -1) RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
    }
    RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &value, 32, 32);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pe_BitString32At(ctx, cur, &value, 32, 32);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation(rtxContext* RT_RESTRICT ctx, const DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_bitmap(rtxContext* RT_RESTRICT ctx, DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_bitmap value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_bitmap, value);
+}
+
+RT_MERGED_BODY int enc_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation(rtxContext* RT_RESTRICT ctx, const DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.consecutive == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "consecutive", -1, 0);
-         stat = asn1PE_UMTS_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_consecutive(ctx, pvalue->u.consecutive);
+         if (pvalue->u.consecutive == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "consecutive", -1, 0);
+         stat = enc_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_consecutive(ctx, pvalue->u.consecutive, cur);
          RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
          break;
       case 2:
-         if (pvalue->u.bitmap == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "bitmap", -1, 0);
-         stat = asn1PE_UMTS_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_bitmap(ctx, *pvalue->u.bitmap);
+         if (pvalue->u.bitmap == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "bitmap", -1, 0);
+         stat = enc_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation_bitmap(ctx, *pvalue->u.bitmap, cur);
          RT_CHECK(ctx, stat, 0, "bitmap", -1, 0);
          break;
       default:
@@ -4936,60 +8682,80 @@ int asn1PE_UMTS_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation(rtxConte
    return 0;
 }
 
-int asn1PE_UMTS_DL_TS_ChannelisationCodesShort_VHCR(rtxContext* RT_RESTRICT ctx, const DL_TS_ChannelisationCodesShort_VHCR* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation(rtxContext* RT_RESTRICT ctx, const DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_TS_ChannelisationCodesShort_VHCR(rtxContext* RT_RESTRICT ctx, const DL_TS_ChannelisationCodesShort_VHCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-TS-ChannelisationCodesShort-VHCR");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-TS-ChannelisationCodesShort-VHCR");
    /* codesRepresentation */
-   stat = asn1PE_UMTS_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation(ctx, &pvalue->codesRepresentation);
+   stat = enc_DL_TS_ChannelisationCodesShort_VHCR_codesRepresentation(ctx, &pvalue->codesRepresentation, cur);
    RT_CHECK(ctx, stat, 0, "codesRepresentation", -1, "DL-TS-ChannelisationCodesShort-VHCR");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_TS_ChannelisationCodesShort_VHCR(rtxContext* RT_RESTRICT ctx, const DL_TS_ChannelisationCodesShort_VHCR* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_TS_ChannelisationCodesShort_VHCR, pvalue);
+}
+
+RT_MERGED_BODY int enc_DownlinkAdditionalTimeslots_VHCR_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_VHCR_parameters_sameAsLast* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslotNumber, 0, 14);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber", "timeslotNumber", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_DownlinkAdditionalTimeslots_VHCR_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_VHCR_parameters_sameAsLast* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_DownlinkAdditionalTimeslots_VHCR_parameters_sameAsLast, pvalue);
+}
+
+RT_MERGED_BODY int enc_DownlinkAdditionalTimeslots_VHCR_parameters_newParameters(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_VHCR_parameters_newParameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* timeslotNumber */
-   if ((uint64_t)pvalue->timeslotNumber > 14u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber");
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* individualTimeslotInfo */
+   stat = enc_IndividualTimeslotInfo_VHCR(ctx, &pvalue->individualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
+   /* dl-TS-ChannelisationCodesShort */
+   stat = enc_DL_TS_ChannelisationCodesShort_VHCR(ctx, &pvalue->dl_TS_ChannelisationCodesShort, cur);
+   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_DownlinkAdditionalTimeslots_VHCR_parameters_newParameters(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_VHCR_parameters_newParameters* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* individualTimeslotInfo */
-   stat = asn1PE_UMTS_IndividualTimeslotInfo_VHCR(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
-   /* dl-TS-ChannelisationCodesShort */
-   stat = asn1PE_UMTS_DL_TS_ChannelisationCodesShort_VHCR(ctx, &pvalue->dl_TS_ChannelisationCodesShort);
-   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_DownlinkAdditionalTimeslots_VHCR_parameters_newParameters, pvalue);
 }
 
-int asn1PE_UMTS_DownlinkAdditionalTimeslots_VHCR_parameters(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_VHCR_parameters* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_DownlinkAdditionalTimeslots_VHCR_parameters(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_VHCR_parameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.sameAsLast == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sameAsLast", -1, 0);
-         stat = asn1PE_UMTS_DownlinkAdditionalTimeslots_VHCR_parameters_sameAsLast(ctx, pvalue->u.sameAsLast);
+         if (pvalue->u.sameAsLast == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "sameAsLast", -1, 0);
+         stat = enc_DownlinkAdditionalTimeslots_VHCR_parameters_sameAsLast(ctx, pvalue->u.sameAsLast, cur);
          RT_CHECK(ctx, stat, 0, "sameAsLast", -1, 0);
          break;
       case 2:
-         if (pvalue->u.newParameters == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "newParameters", -1, 0);
-         stat = asn1PE_UMTS_DownlinkAdditionalTimeslots_VHCR_parameters_newParameters(ctx, pvalue->u.newParameters);
+         if (pvalue->u.newParameters == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "newParameters", -1, 0);
+         stat = enc_DownlinkAdditionalTimeslots_VHCR_parameters_newParameters(ctx, pvalue->u.newParameters, cur);
          RT_CHECK(ctx, stat, 0, "newParameters", -1, 0);
          break;
       default:
@@ -4998,54 +8764,95 @@ int asn1PE_UMTS_DownlinkAdditionalTimeslots_VHCR_parameters(rtxContext* RT_RESTR
    return 0;
 }
 
-int asn1PE_UMTS_DownlinkAdditionalTimeslots_VHCR(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_VHCR* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DownlinkAdditionalTimeslots_VHCR_parameters(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_VHCR_parameters* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DownlinkAdditionalTimeslots_VHCR_parameters, pvalue);
+}
+
+RT_MERGED_BODY int enc_DownlinkAdditionalTimeslots_VHCR(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_VHCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DownlinkAdditionalTimeslots-VHCR");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DownlinkAdditionalTimeslots-VHCR");
    /* parameters */
-   stat = asn1PE_UMTS_DownlinkAdditionalTimeslots_VHCR_parameters(ctx, &pvalue->parameters);
+   stat = enc_DownlinkAdditionalTimeslots_VHCR_parameters(ctx, &pvalue->parameters, cur);
    RT_CHECK(ctx, stat, 0, "parameters", -1, "DownlinkAdditionalTimeslots-VHCR");
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkAdditionalTimeslots_VHCR(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_VHCR* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DownlinkAdditionalTimeslots_VHCR, pvalue);
+}
+
+RT_MERGED_BODY int enc_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 13);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DownlinkAdditionalTimeslots-VHCR", (int32_t)i, 0);
+      stat = enc_DownlinkAdditionalTimeslots_VHCR(ctx, (const DownlinkAdditionalTimeslots_VHCR*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DownlinkAdditionalTimeslots-VHCR", (int32_t)i, 0);
+   }
    return 0;
 }
 
 int asn1PE_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList, pvalue);
+}
+
+RT_MERGED_BODY int enc_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 13);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DownlinkAdditionalTimeslots-VHCR", (int32_t)i, 0);
-      stat = asn1PE_UMTS_DownlinkAdditionalTimeslots_VHCR(ctx, (const DownlinkAdditionalTimeslots_VHCR*)node->data);
-      RT_CHECK(ctx, stat, 0, "DownlinkAdditionalTimeslots-VHCR", (int32_t)i, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)(pvalue->u.consecutive - 1) > 12u) {
+            rtxErrAddStrParm(ctx, "consecutive");
+            rtxErrAddUIntParm(ctx, pvalue->u.consecutive);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "consecutive", -1, 0);
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.consecutive, 1, 13);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "consecutive", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.timeslotList == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "timeslotList", -1, 0);
+         stat = enc_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList, cur);
+         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
+         break;
+      default:
+         break;
    }
    return 0;
 }
 
 int asn1PE_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots, pvalue);
+}
+
+RT_MERGED_BODY int enc_DownlinkTimeslotsCodes_VHCR_moreTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_VHCR_moreTimeslots* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if ((uint64_t)(pvalue->u.consecutive - 1) > 12u) {
-            rtxErrAddStrParm(ctx, "consecutive");
-            rtxErrAddUIntParm(ctx, pvalue->u.consecutive);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "consecutive", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.consecutive, 1, 13);
-         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
          break;
       case 2:
-         if (pvalue->u.timeslotList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "timeslotList", -1, 0);
-         stat = asn1PE_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList);
-         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
+         if (pvalue->u.additionalTimeslots == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "additionalTimeslots", -1, 0);
+         stat = enc_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots, cur);
+         RT_CHECK(ctx, stat, 0, "additionalTimeslots", -1, 0);
          break;
       default:
          break;
@@ -5055,51 +8862,60 @@ int asn1PE_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots(rt
 
 int asn1PE_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_VHCR_moreTimeslots* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_DownlinkTimeslotsCodes_VHCR_moreTimeslots, pvalue);
+}
+
+static int enc_DownlinkTimeslotsCodes_VHCR(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_VHCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.additionalTimeslots == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "additionalTimeslots", -1, 0);
-         stat = asn1PE_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots);
-         RT_CHECK(ctx, stat, 0, "additionalTimeslots", -1, 0);
-         break;
-      default:
-         break;
-   }
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DownlinkTimeslotsCodes-VHCR");
+   /* firstIndividualTimeslotInfo */
+   stat = enc_IndividualTimeslotInfo_VHCR(ctx, &pvalue->firstIndividualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "DownlinkTimeslotsCodes-VHCR");
+   /* dl-TS-ChannelisationCodesShort */
+   stat = enc_DL_TS_ChannelisationCodesShort_VHCR(ctx, &pvalue->dl_TS_ChannelisationCodesShort, cur);
+   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, "DownlinkTimeslotsCodes-VHCR");
+   /* moreTimeslots */
+   stat = enc_DownlinkTimeslotsCodes_VHCR_moreTimeslots(ctx, &pvalue->moreTimeslots, cur);
+   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "DownlinkTimeslotsCodes-VHCR");
    return 0;
 }
 
 int asn1PE_UMTS_DownlinkTimeslotsCodes_VHCR(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_VHCR* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_DownlinkTimeslotsCodes_VHCR, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDSCH_Info_r7_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_r7_tddOption_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DownlinkTimeslotsCodes-VHCR");
-   /* firstIndividualTimeslotInfo */
-   stat = asn1PE_UMTS_IndividualTimeslotInfo_VHCR(ctx, &pvalue->firstIndividualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "DownlinkTimeslotsCodes-VHCR");
-   /* dl-TS-ChannelisationCodesShort */
-   stat = asn1PE_UMTS_DL_TS_ChannelisationCodesShort_VHCR(ctx, &pvalue->dl_TS_ChannelisationCodesShort);
-   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, "DownlinkTimeslotsCodes-VHCR");
-   /* moreTimeslots */
-   stat = asn1PE_UMTS_DownlinkTimeslotsCodes_VHCR_moreTimeslots(ctx, &pvalue->moreTimeslots);
-   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "DownlinkTimeslotsCodes-VHCR");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pdsch-TimeslotsCodes */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DownlinkTimeslotsCodes_VHCR(ctx, &pvalue->pdsch_TimeslotsCodes, cur);
+      RT_CHECK(ctx, stat, 0, "pdsch-TimeslotsCodes", -1, 0);
+   }
    return 0;
 }
 
 int asn1PE_UMTS_PDSCH_Info_r7_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_r7_tddOption_tdd768* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_Info_r7_tddOption_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDSCH_Info_r7_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_r7_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    /* pdsch-TimeslotsCodes */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DownlinkTimeslotsCodes_VHCR(ctx, &pvalue->pdsch_TimeslotsCodes);
+      stat = enc_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->pdsch_TimeslotsCodes, cur);
       RT_CHECK(ctx, stat, 0, "pdsch-TimeslotsCodes", -1, 0);
    }
    return 0;
@@ -5107,40 +8923,30 @@ int asn1PE_UMTS_PDSCH_Info_r7_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, cons
 
 int asn1PE_UMTS_PDSCH_Info_r7_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_r7_tddOption_tdd128* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pdsch-TimeslotsCodes */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->pdsch_TimeslotsCodes);
-      RT_CHECK(ctx, stat, 0, "pdsch-TimeslotsCodes", -1, 0);
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_Info_r7_tddOption_tdd128, pvalue);
 }
 
-int asn1PE_UMTS_PDSCH_Info_r7_tddOption(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_r7_tddOption* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_PDSCH_Info_r7_tddOption(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_r7_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
-         stat = asn1PE_UMTS_PDSCH_Info_r7_tddOption_tdd384(ctx, pvalue->u.tdd384);
+         if (pvalue->u.tdd384 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = enc_PDSCH_Info_r7_tddOption_tdd384(ctx, pvalue->u.tdd384, cur);
          RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
          break;
       case 2:
-         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
-         stat = asn1PE_UMTS_PDSCH_Info_r7_tddOption_tdd768(ctx, pvalue->u.tdd768);
+         if (pvalue->u.tdd768 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
+         stat = enc_PDSCH_Info_r7_tddOption_tdd768(ctx, pvalue->u.tdd768, cur);
          RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
          break;
       case 3:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_PDSCH_Info_r7_tddOption_tdd128(ctx, pvalue->u.tdd128);
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_PDSCH_Info_r7_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
          RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
          break;
       default:
@@ -5149,162 +8955,202 @@ int asn1PE_UMTS_PDSCH_Info_r7_tddOption(rtxContext* RT_RESTRICT ctx, const PDSCH
    return 0;
 }
 
-int asn1PE_UMTS_PDSCH_Info_r7(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_r7* RT_RESTRICT pvalue)
+int asn1PE_UMTS_PDSCH_Info_r7_tddOption(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_r7_tddOption* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_Info_r7_tddOption, pvalue);
+}
+
+static int enc_PDSCH_Info_r7(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-Info-r7");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-Info-r7");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->tfcs_ID != 1) << 1) |
       ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-Info-r7");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PDSCH-Info-r7");
    /* tfcs-ID */
    if (pvalue->tfcs_ID != 1) {
       if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
          rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
          rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "PDSCH-Info-r7");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "PDSCH-Info-r7");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PDSCH-Info-r7");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PDSCH-Info-r7");
    }
    /* commonTimeslotInfo */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
+      stat = enc_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo, cur);
       RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "PDSCH-Info-r7");
    }
    /* tddOption */
-   stat = asn1PE_UMTS_PDSCH_Info_r7_tddOption(ctx, &pvalue->tddOption);
+   stat = enc_PDSCH_Info_r7_tddOption(ctx, &pvalue->tddOption, cur);
    RT_CHECK(ctx, stat, 0, "tddOption", -1, "PDSCH-Info-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_Info_r7(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_Info_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDSCH_SysInfo_VHCR_r7(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfo_VHCR_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-SysInfo-VHCR-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PDSCH-SysInfo-VHCR-r7");
+   /* pdsch-Identity */
+   if ((uint64_t)(pvalue->pdsch_Identity - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "PDSCH-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->pdsch_Identity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PDSCH-Identity", "pdsch-Identity", -1, "PDSCH-SysInfo-VHCR-r7");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pdsch_Identity, 1, 64);
+   RT_CHECK_PUT(ctx, cur, stat, "PDSCH-Identity", "pdsch-Identity", -1, "PDSCH-SysInfo-VHCR-r7");
+   /* pdsch-Info */
+   stat = enc_PDSCH_Info_r7(ctx, &pvalue->pdsch_Info, cur);
+   RT_CHECK(ctx, stat, 0, "pdsch-Info", -1, "PDSCH-SysInfo-VHCR-r7");
+   /* dsch-TransportChannelsInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DSCH_TransportChannelsInfo(ctx, &pvalue->dsch_TransportChannelsInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dsch-TransportChannelsInfo", -1, "PDSCH-SysInfo-VHCR-r7");
+   }
+   /* dsch-TFCS */
+   if (pvalue->m & 0x2u) {
+      stat = enc_TFCS(ctx, &pvalue->dsch_TFCS, cur);
+      RT_CHECK(ctx, stat, 0, "dsch-TFCS", -1, "PDSCH-SysInfo-VHCR-r7");
+   }
    return 0;
 }
 
 int asn1PE_UMTS_PDSCH_SysInfo_VHCR_r7(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfo_VHCR_r7* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_SysInfo_VHCR_r7, pvalue);
+}
+
+static int enc_PDSCH_SysInfoList_VHCR_r7(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList_VHCR_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-SysInfo-VHCR-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-SysInfo-VHCR-r7");
-   /* pdsch-Identity */
-   if ((uint64_t)(pvalue->pdsch_Identity - 1) > 63u) {
-      rtxErrAddStrParm(ctx, "PDSCH-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->pdsch_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PDSCH-Identity", "pdsch-Identity", -1, "PDSCH-SysInfo-VHCR-r7");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pdsch_Identity, 1, 64);
-   RT_CHECK(ctx, stat, "PDSCH-Identity", "pdsch-Identity", -1, "PDSCH-SysInfo-VHCR-r7");
-   /* pdsch-Info */
-   stat = asn1PE_UMTS_PDSCH_Info_r7(ctx, &pvalue->pdsch_Info);
-   RT_CHECK(ctx, stat, 0, "pdsch-Info", -1, "PDSCH-SysInfo-VHCR-r7");
-   /* dsch-TransportChannelsInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DSCH_TransportChannelsInfo(ctx, &pvalue->dsch_TransportChannelsInfo);
-      RT_CHECK(ctx, stat, 0, "dsch-TransportChannelsInfo", -1, "PDSCH-SysInfo-VHCR-r7");
-   }
-   /* dsch-TFCS */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_TFCS(ctx, &pvalue->dsch_TFCS);
-      RT_CHECK(ctx, stat, 0, "dsch-TFCS", -1, "PDSCH-SysInfo-VHCR-r7");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-SysInfoList-VHCR-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "PDSCH-SysInfoList-VHCR-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "PDSCH-SysInfo-VHCR-r7", (int32_t)i, "PDSCH-SysInfoList-VHCR-r7");
+      stat = enc_PDSCH_SysInfo_VHCR_r7(ctx, (const PDSCH_SysInfo_VHCR_r7*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "PDSCH-SysInfo-VHCR-r7", (int32_t)i, "PDSCH-SysInfoList-VHCR-r7");
    }
    return 0;
 }
 
 int asn1PE_UMTS_PDSCH_SysInfoList_VHCR_r7(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList_VHCR_r7* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_SysInfoList_VHCR_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_TDD768_PRACH_CCode32(rtxContext* RT_RESTRICT ctx, TDD768_PRACH_CCode32 value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-SysInfoList-VHCR-r7");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PDSCH-SysInfoList-VHCR-r7");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PDSCH-SysInfo-VHCR-r7", (int32_t)i, "PDSCH-SysInfoList-VHCR-r7");
-      stat = asn1PE_UMTS_PDSCH_SysInfo_VHCR_r7(ctx, (const PDSCH_SysInfo_VHCR_r7*)node->data);
-      RT_CHECK(ctx, stat, 0, "PDSCH-SysInfo-VHCR-r7", (int32_t)i, "PDSCH-SysInfoList-VHCR-r7");
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TDD768-PRACH-CCode32");
    }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TDD768-PRACH-CCode32");
    return 0;
 }
 
 int asn1PE_UMTS_TDD768_PRACH_CCode32(rtxContext* RT_RESTRICT ctx, TDD768_PRACH_CCode32 value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_TDD768_PRACH_CCode32, value);
+}
+
+RT_MERGED_BODY int enc_TDD768_PRACH_CCodeList_sf32(rtxContext* RT_RESTRICT ctx, const TDD768_PRACH_CCodeList_sf32* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TDD768-PRACH-CCode32");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TDD768-PRACH-CCode32", "TDD768-PRACH-CCode32", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "TDD768-PRACH-CCode32", "TDD768-PRACH-CCode32", (int32_t)i, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TDD768-PRACH-CCode32");
    return 0;
 }
 
 int asn1PE_UMTS_TDD768_PRACH_CCodeList_sf32(rtxContext* RT_RESTRICT ctx, const TDD768_PRACH_CCodeList_sf32* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_TDD768_PRACH_CCodeList_sf32, pvalue);
+}
+
+RT_MERGED_BODY int enc_TDD768_PRACH_CCode16(rtxContext* RT_RESTRICT ctx, TDD768_PRACH_CCode16 value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (i = 0; i < pvalue->n; i++) {
-      if (pvalue->elem[i] > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "TDD768-PRACH-CCode32", "TDD768-PRACH-CCode32", (int32_t)i, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 15);
-      RT_CHECK(ctx, stat, "TDD768-PRACH-CCode32", "TDD768-PRACH-CCode32", (int32_t)i, 0);
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TDD768-PRACH-CCode16");
    }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TDD768-PRACH-CCode16");
    return 0;
 }
 
 int asn1PE_UMTS_TDD768_PRACH_CCode16(rtxContext* RT_RESTRICT ctx, TDD768_PRACH_CCode16 value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_TDD768_PRACH_CCode16, value);
+}
+
+RT_MERGED_BODY int enc_TDD768_PRACH_CCodeList_sf16(rtxContext* RT_RESTRICT ctx, const TDD768_PRACH_CCodeList_sf16* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TDD768-PRACH-CCode16");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TDD768-PRACH-CCode16", "TDD768-PRACH-CCode16", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "TDD768-PRACH-CCode16", "TDD768-PRACH-CCode16", (int32_t)i, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TDD768-PRACH-CCode16");
    return 0;
 }
 
 int asn1PE_UMTS_TDD768_PRACH_CCodeList_sf16(rtxContext* RT_RESTRICT ctx, const TDD768_PRACH_CCodeList_sf16* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (i = 0; i < pvalue->n; i++) {
-      if (pvalue->elem[i] > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "TDD768-PRACH-CCode16", "TDD768-PRACH-CCode16", (int32_t)i, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 15);
-      RT_CHECK(ctx, stat, "TDD768-PRACH-CCode16", "TDD768-PRACH-CCode16", (int32_t)i, 0);
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_TDD768_PRACH_CCodeList_sf16, pvalue);
 }
 
-int asn1PE_UMTS_TDD768_PRACH_CCodeList(rtxContext* RT_RESTRICT ctx, const TDD768_PRACH_CCodeList* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_TDD768_PRACH_CCodeList(rtxContext* RT_RESTRICT ctx, const TDD768_PRACH_CCodeList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TDD768-PRACH-CCodeList");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "TDD768-PRACH-CCodeList");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TDD768-PRACH-CCodeList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TDD768-PRACH-CCodeList");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "TDD768-PRACH-CCodeList");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "TDD768-PRACH-CCodeList");
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.sf32 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sf32", -1, "TDD768-PRACH-CCodeList");
-         stat = asn1PE_UMTS_TDD768_PRACH_CCodeList_sf32(ctx, pvalue->u.sf32);
+         if (pvalue->u.sf32 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "sf32", -1, "TDD768-PRACH-CCodeList");
+         stat = enc_TDD768_PRACH_CCodeList_sf32(ctx, pvalue->u.sf32, cur);
          RT_CHECK(ctx, stat, 0, "sf32", -1, "TDD768-PRACH-CCodeList");
          break;
       case 2:
-         if (pvalue->u.sf16 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sf16", -1, "TDD768-PRACH-CCodeList");
-         stat = asn1PE_UMTS_TDD768_PRACH_CCodeList_sf16(ctx, pvalue->u.sf16);
+         if (pvalue->u.sf16 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "sf16", -1, "TDD768-PRACH-CCodeList");
+         stat = enc_TDD768_PRACH_CCodeList_sf16(ctx, pvalue->u.sf16, cur);
          RT_CHECK(ctx, stat, 0, "sf16", -1, "TDD768-PRACH-CCodeList");
          break;
       default:
@@ -5313,3707 +9159,241 @@ int asn1PE_UMTS_TDD768_PRACH_CCodeList(rtxContext* RT_RESTRICT ctx, const TDD768
    return 0;
 }
 
-int asn1PE_UMTS_PRACH_RACH_Info_VHCR_r7(rtxContext* RT_RESTRICT ctx, const PRACH_RACH_Info_VHCR_r7* RT_RESTRICT pvalue)
+int asn1PE_UMTS_TDD768_PRACH_CCodeList(rtxContext* RT_RESTRICT ctx, const TDD768_PRACH_CCodeList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TDD768_PRACH_CCodeList, pvalue);
+}
+
+RT_MERGED_BODY int enc_PRACH_RACH_Info_VHCR_r7(rtxContext* RT_RESTRICT ctx, const PRACH_RACH_Info_VHCR_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-RACH-Info-VHCR-r7");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-RACH-Info-VHCR-r7");
    /* timeslot */
    if ((uint64_t)pvalue->timeslot > 14u) {
       rtxErrAddStrParm(ctx, "TimeslotNumber");
       rtxErrAddUIntParm(ctx, pvalue->timeslot);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslot", -1, "PRACH-RACH-Info-VHCR-r7");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber", "timeslot", -1, "PRACH-RACH-Info-VHCR-r7");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, "PRACH-RACH-Info-VHCR-r7");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslot, 0, 14);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber", "timeslot", -1, "PRACH-RACH-Info-VHCR-r7");
    /* channelisationCodeList */
-   stat = asn1PE_UMTS_TDD768_PRACH_CCodeList(ctx, &pvalue->channelisationCodeList);
+   stat = enc_TDD768_PRACH_CCodeList(ctx, &pvalue->channelisationCodeList, cur);
    RT_CHECK(ctx, stat, 0, "channelisationCodeList", -1, "PRACH-RACH-Info-VHCR-r7");
    /* prach-Midamble */
    if (pvalue->prach_Midamble > 1) {
       rtxErrAddUIntParm(ctx, pvalue->prach_Midamble);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PRACH-Midamble", "prach-Midamble", -1, "PRACH-RACH-Info-VHCR-r7");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PRACH-Midamble", "prach-Midamble", -1, "PRACH-RACH-Info-VHCR-r7");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->prach_Midamble, 0, 1);
-   RT_CHECK(ctx, stat, "PRACH-Midamble", "prach-Midamble", -1, "PRACH-RACH-Info-VHCR-r7");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->prach_Midamble, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "PRACH-Midamble", "prach-Midamble", -1, "PRACH-RACH-Info-VHCR-r7");
    return 0;
 }
 
-int asn1PE_UMTS_PRACH_Partitioning_r7_fdd(rtxContext* RT_RESTRICT ctx, const PRACH_Partitioning_r7_fdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_PRACH_RACH_Info_VHCR_r7(rtxContext* RT_RESTRICT ctx, const PRACH_RACH_Info_VHCR_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PRACH_RACH_Info_VHCR_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_PRACH_Partitioning_r7_fdd(rtxContext* RT_RESTRICT ctx, const PRACH_Partitioning_r7_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ASCSetting-FDD", (int32_t)i, 0);
-      stat = asn1PE_UMTS_ASCSetting_FDD(ctx, (const ASCSetting_FDD*)node->data);
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ASCSetting-FDD", (int32_t)i, 0);
+      stat = enc_ASCSetting_FDD(ctx, (const ASCSetting_FDD*)node->data, cur);
       RT_CHECK(ctx, stat, 0, "ASCSetting-FDD", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_AccessServiceClass_TDD_r7_channelisationCodeIndices(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_channelisationCodeIndices value)
+int asn1PE_UMTS_PRACH_Partitioning_r7_fdd(rtxContext* RT_RESTRICT ctx, const PRACH_Partitioning_r7_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PRACH_Partitioning_r7_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_r7_channelisationCodeIndices(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_channelisationCodeIndices value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    {
       int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
       uint32_t used = (uint32_t)(last + 1);
       value.numbits = used <= 16 ? 16 : used;
-      if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      if (last < -1) RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
    }
    RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &value, 16, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pe_BitString32At(ctx, cur, &value, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_AccessServiceClass_TDD_r7_channelisationCodeIndices(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_channelisationCodeIndices value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AccessServiceClass_TDD_r7_channelisationCodeIndices, value);
+}
+
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_r7_subchannelSize_size2_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size2_subchannels value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size2_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size2_subchannels value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_AccessServiceClass_TDD_r7_subchannelSize_size2_subchannels, value);
+}
+
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_r7_subchannelSize_size2(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_r7_subchannelSize_size2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* subchannels */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->subchannels > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->subchannels);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "subchannels", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->subchannels, 0, 1);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "subchannels", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size2(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_r7_subchannelSize_size2* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* subchannels */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->subchannels > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->subchannels);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "subchannels", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->subchannels, 0, 1);
-      RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_AccessServiceClass_TDD_r7_subchannelSize_size2, pvalue);
 }
 
-int asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size4_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size4_subchannels value)
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_r7_subchannelSize_size4_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size4_subchannels value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    {
       int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
       uint32_t used = (uint32_t)(last + 1);
       value.numbits = used <= 4 ? 4 : used;
-      if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      if (last < -1) RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
    }
    RT_SET_SIZE(ctx, 4, 4);
-   stat = pe_BitString32(ctx, &value, 4, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pe_BitString32At(ctx, cur, &value, 4, 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size4(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_r7_subchannelSize_size4* RT_RESTRICT pvalue)
+int asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size4_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size4_subchannels value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AccessServiceClass_TDD_r7_subchannelSize_size4_subchannels, value);
+}
+
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_r7_subchannelSize_size4(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_r7_subchannelSize_size4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    /* subchannels */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size4_subchannels(ctx, pvalue->subchannels);
+      stat = enc_AccessServiceClass_TDD_r7_subchannelSize_size4_subchannels(ctx, pvalue->subchannels, cur);
       RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size8_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size8_subchannels value)
+int asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size4(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_r7_subchannelSize_size4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AccessServiceClass_TDD_r7_subchannelSize_size4, pvalue);
+}
+
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_r7_subchannelSize_size8_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size8_subchannels value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    {
       int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
       uint32_t used = (uint32_t)(last + 1);
       value.numbits = used <= 8 ? 8 : used;
-      if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      if (last < -1) RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
    }
    RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &value, 8, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pe_BitString32At(ctx, cur, &value, 8, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size8(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_r7_subchannelSize_size8* RT_RESTRICT pvalue)
+int asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size8_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size8_subchannels value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AccessServiceClass_TDD_r7_subchannelSize_size8_subchannels, value);
+}
+
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_r7_subchannelSize_size8(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_r7_subchannelSize_size8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    /* subchannels */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size8_subchannels(ctx, pvalue->subchannels);
+      stat = enc_AccessServiceClass_TDD_r7_subchannelSize_size8_subchannels(ctx, pvalue->subchannels, cur);
       RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size16_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size16_subchannels value)
+int asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size8(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_r7_subchannelSize_size8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AccessServiceClass_TDD_r7_subchannelSize_size8, pvalue);
+}
+
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_r7_subchannelSize_size16_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size16_subchannels value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    {
       int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
       uint32_t used = (uint32_t)(last + 1);
       value.numbits = used <= 16 ? 16 : used;
-      if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      if (last < -1) RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
    }
    RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &value, 16, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pe_BitString32At(ctx, cur, &value, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size16(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_r7_subchannelSize_size16* RT_RESTRICT pvalue)
+int asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size16_subchannels(rtxContext* RT_RESTRICT ctx, AccessServiceClass_TDD_r7_subchannelSize_size16_subchannels value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AccessServiceClass_TDD_r7_subchannelSize_size16_subchannels, value);
+}
+
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_r7_subchannelSize_size16(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_r7_subchannelSize_size16* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    /* subchannels */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size16_subchannels(ctx, pvalue->subchannels);
+      stat = enc_AccessServiceClass_TDD_r7_subchannelSize_size16_subchannels(ctx, pvalue->subchannels, cur);
       RT_CHECK(ctx, stat, 0, "subchannels", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_r7_subchannelSize* RT_RESTRICT pvalue)
+int asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size16(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_r7_subchannelSize_size16* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 4);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 4) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.size2 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "size2", -1, 0);
-         stat = asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size2(ctx, pvalue->u.size2);
-         RT_CHECK(ctx, stat, 0, "size2", -1, 0);
-         break;
-      case 3:
-         if (pvalue->u.size4 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "size4", -1, 0);
-         stat = asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size4(ctx, pvalue->u.size4);
-         RT_CHECK(ctx, stat, 0, "size4", -1, 0);
-         break;
-      case 4:
-         if (pvalue->u.size8 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "size8", -1, 0);
-         stat = asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size8(ctx, pvalue->u.size8);
-         RT_CHECK(ctx, stat, 0, "size8", -1, 0);
-         break;
-      case 5:
-         if (pvalue->u.size16 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "size16", -1, 0);
-         stat = asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize_size16(ctx, pvalue->u.size16);
-         RT_CHECK(ctx, stat, 0, "size16", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AccessServiceClass_TDD_r7(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AccessServiceClass-TDD-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AccessServiceClass-TDD-r7");
-   /* channelisationCodeIndices */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_AccessServiceClass_TDD_r7_channelisationCodeIndices(ctx, pvalue->channelisationCodeIndices);
-      RT_CHECK(ctx, stat, 0, "channelisationCodeIndices", -1, "AccessServiceClass-TDD-r7");
-   }
-   /* subchannelSize */
-   stat = asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize(ctx, &pvalue->subchannelSize);
-   RT_CHECK(ctx, stat, 0, "subchannelSize", -1, "AccessServiceClass-TDD-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_ASCSetting_TDD_r7(rtxContext* RT_RESTRICT ctx, const ASCSetting_TDD_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ASCSetting-TDD-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ASCSetting-TDD-r7");
-   /* accessServiceClass-TDD */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_AccessServiceClass_TDD_r7(ctx, &pvalue->accessServiceClass_TDD);
-      RT_CHECK(ctx, stat, 0, "accessServiceClass-TDD", -1, "ASCSetting-TDD-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_Partitioning_r7_tdd(rtxContext* RT_RESTRICT ctx, const PRACH_Partitioning_r7_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ASCSetting-TDD-r7", (int32_t)i, 0);
-      stat = asn1PE_UMTS_ASCSetting_TDD_r7(ctx, (const ASCSetting_TDD_r7*)node->data);
-      RT_CHECK(ctx, stat, 0, "ASCSetting-TDD-r7", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_Partitioning_r7(rtxContext* RT_RESTRICT ctx, const PRACH_Partitioning_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-Partitioning-r7");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "PRACH-Partitioning-r7");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PRACH-Partitioning-r7");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, "PRACH-Partitioning-r7");
-         stat = asn1PE_UMTS_PRACH_Partitioning_r7_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, "PRACH-Partitioning-r7");
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, "PRACH-Partitioning-r7");
-         stat = asn1PE_UMTS_PRACH_Partitioning_r7_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, "PRACH-Partitioning-r7");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_SystemInformation_VHCR_r7(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformation_VHCR_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-SystemInformation-VHCR-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PRACH-SystemInformation-VHCR-r7");
-   /* prach-RACH-Info */
-   stat = asn1PE_UMTS_PRACH_RACH_Info_VHCR_r7(ctx, &pvalue->prach_RACH_Info);
-   RT_CHECK(ctx, stat, 0, "prach-RACH-Info", -1, "PRACH-SystemInformation-VHCR-r7");
-   /* prach-Partitioning */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PRACH_Partitioning_r7(ctx, &pvalue->prach_Partitioning);
-      RT_CHECK(ctx, stat, 0, "prach-Partitioning", -1, "PRACH-SystemInformation-VHCR-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_SystemInformationList_VHCR_r7(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformationList_VHCR_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-SystemInformationList-VHCR-r7");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PRACH-SystemInformationList-VHCR-r7");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PRACH-SystemInformation-VHCR-r7", (int32_t)i, "PRACH-SystemInformationList-VHCR-r7");
-      stat = asn1PE_UMTS_PRACH_SystemInformation_VHCR_r7(ctx, (const PRACH_SystemInformation_VHCR_r7*)node->data);
-      RT_CHECK(ctx, stat, 0, "PRACH-SystemInformation-VHCR-r7", (int32_t)i, "PRACH-SystemInformationList-VHCR-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-SysInfoList-SFN */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PUSCH_SysInfoList_SFN_VHCR(ctx, &pvalue->pusch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
-   }
-   /* pdsch-SysInfoList-SFN */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_PDSCH_SysInfoList_VHCR_r7(ctx, &pvalue->pdsch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
-   }
-   /* prach-SystemInformationList */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_PRACH_SystemInformationList_VHCR_r7(ctx, &pvalue->prach_SystemInformationList);
-      RT_CHECK(ctx, stat, 0, "prach-SystemInformationList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_RACH_Info_LCR_v770ext(rtxContext* RT_RESTRICT ctx, const PRACH_RACH_Info_LCR_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-RACH-Info-LCR-v770ext");
-   /* e-RUCCH-Sync-UL-Codes-Bitmap */
-   stat = asn1PE_UMTS_Sync_UL_Codes_Bitmap(ctx, pvalue->e_RUCCH_Sync_UL_Codes_Bitmap);
-   RT_CHECK(ctx, stat, 0, "e-RUCCH-Sync-UL-Codes-Bitmap", -1, "PRACH-RACH-Info-LCR-v770ext");
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_SystemInformation_LCR_v770ext(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformation_LCR_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-SystemInformation-LCR-v770ext");
-   /* prach-RACH-Info-LCR */
-   stat = asn1PE_UMTS_PRACH_RACH_Info_LCR_v770ext(ctx, &pvalue->prach_RACH_Info_LCR);
-   RT_CHECK(ctx, stat, 0, "prach-RACH-Info-LCR", -1, "PRACH-SystemInformation-LCR-v770ext");
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_SystemInformationList_LCR_v770ext(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformationList_LCR_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-SystemInformationList-LCR-v770ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PRACH-SystemInformationList-LCR-v770ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PRACH-SystemInformation-LCR-v770ext", (int32_t)i, "PRACH-SystemInformationList-LCR-v770ext");
-      stat = asn1PE_UMTS_PRACH_SystemInformation_LCR_v770ext(ctx, (const PRACH_SystemInformation_LCR_v770ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "PRACH-SystemInformation-LCR-v770ext", (int32_t)i, "PRACH-SystemInformationList-LCR-v770ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* prach-SystemInformationList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PRACH_SystemInformationList_LCR_v770ext(ctx, &pvalue->prach_SystemInformationList);
-      RT_CHECK(ctx, stat, 0, "prach-SystemInformationList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v770ext_IEs_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
-         stat = asn1PE_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
-         break;
-      case 3:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* midambleShift */
-   if ((uint64_t)pvalue->midambleShift > 15u) {
-      rtxErrAddStrParm(ctx, "MidambleShiftLong");
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         break;
-      case 3:
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type1(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type1* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* midambleConfigurationBurstType1and3 */
-   if (pvalue->midambleConfigurationBurstType1and3 > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType1and3);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfigurationBurstType1and3, 0, 2);
-   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
-   /* midambleAllocationMode */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* midambleShift */
-   if ((uint64_t)pvalue->midambleShift > 5u) {
-      rtxErrAddStrParm(ctx, "MidambleShiftShort");
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftShort", "midambleShift", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 5);
-   RT_CHECK(ctx, stat, "MidambleShiftShort", "midambleShift", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         break;
-      case 3:
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type2(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* midambleConfigurationBurstType2 */
-   if (pvalue->midambleConfigurationBurstType2 > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType2);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MidambleConfigurationBurstType2", "midambleConfigurationBurstType2", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfigurationBurstType2, 0, 1);
-   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType2", "midambleConfigurationBurstType2", -1, 0);
-   /* midambleAllocationMode */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* midambleShift */
-   if ((uint64_t)pvalue->midambleShift > 15u) {
-      rtxErrAddStrParm(ctx, "MidambleShiftLong");
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type3(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* midambleConfigurationBurstType1and3 */
-   if (pvalue->midambleConfigurationBurstType1and3 > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType1and3);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfigurationBurstType1and3, 0, 2);
-   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
-   /* midambleAllocationMode */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.type1 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "type1", -1, 0);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type1(ctx, pvalue->u.type1);
-         RT_CHECK(ctx, stat, 0, "type1", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.type2 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "type2", -1, 0);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type2(ctx, pvalue->u.type2);
-         RT_CHECK(ctx, stat, 0, "type2", -1, 0);
-         break;
-      case 3:
-         if (pvalue->u.type3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "type3", -1, 0);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type3(ctx, pvalue->u.type3);
-         RT_CHECK(ctx, stat, 0, "type3", -1, 0);
-         break;
-      case 4:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_r7(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MidambleShiftAndBurstType-r7");
-   /* burstType */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType(ctx, &pvalue->burstType);
-   RT_CHECK(ctx, stat, 0, "burstType", -1, "MidambleShiftAndBurstType-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_IndividualTimeslotInfo_r7(rtxContext* RT_RESTRICT ctx, const IndividualTimeslotInfo_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IndividualTimeslotInfo-r7");
-   /* timeslotNumber */
-   if ((uint64_t)pvalue->timeslotNumber > 14u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber");
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, "IndividualTimeslotInfo-r7");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, "IndividualTimeslotInfo-r7");
-   /* tfci-Existence */
-   stat = rtxEncBit(ctx, pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, "IndividualTimeslotInfo-r7");
-   /* midambleShiftAndBurstType */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_r7(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "IndividualTimeslotInfo-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* individualTimeslotInfo */
-   stat = asn1PE_UMTS_IndividualTimeslotInfo_r7(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
-   /* channelisationCode */
-   stat = asn1PE_UMTS_SCCPCH_ChannelisationCodeList(ctx, &pvalue->channelisationCode);
-   RT_CHECK(ctx, stat, 0, "channelisationCode", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SCCPCH_ChannelisationCode_VHCR(rtxContext* RT_RESTRICT ctx, SCCPCH_ChannelisationCode_VHCR value)
-{
-   int stat = 0;
-   if (value > 31) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SCCPCH-ChannelisationCode-VHCR");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SCCPCH-ChannelisationCode-VHCR");
-   return 0;
-}
-
-int asn1PE_UMTS_SCCPCH_ChannelisationCodeList_VHCR(rtxContext* RT_RESTRICT ctx, const SCCPCH_ChannelisationCodeList_VHCR* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SCCPCH-ChannelisationCodeList-VHCR");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SCCPCH-ChannelisationCodeList-VHCR");
-   for (i = 0; i < pvalue->n; i++) {
-      if (pvalue->elem[i] > 31) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "SCCPCH-ChannelisationCode-VHCR", "SCCPCH-ChannelisationCode-VHCR", (int32_t)i, "SCCPCH-ChannelisationCodeList-VHCR");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 31);
-      RT_CHECK(ctx, stat, "SCCPCH-ChannelisationCode-VHCR", "SCCPCH-ChannelisationCode-VHCR", (int32_t)i, "SCCPCH-ChannelisationCodeList-VHCR");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* individualTimeslotInfo */
-   stat = asn1PE_UMTS_IndividualTimeslotInfo_VHCR(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
-   /* channelisationCode */
-   stat = asn1PE_UMTS_SCCPCH_ChannelisationCodeList_VHCR(ctx, &pvalue->channelisationCode);
-   RT_CHECK(ctx, stat, 0, "channelisationCode", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
-         stat = asn1PE_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
-         stat = asn1PE_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_HCR_VHCR_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SecondaryCCPCH-Info-HCR-VHCR-r7");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SecondaryCCPCH-Info-HCR-VHCR-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_TDD768_PICH_CCode(rtxContext* RT_RESTRICT ctx, TDD768_PICH_CCode value)
-{
-   int stat = 0;
-   if (value > 31) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TDD768-PICH-CCode");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TDD768-PICH-CCode");
-   return 0;
-}
-
-int asn1PE_UMTS_PICH_Info_HCR_VHCR_r7_channelisationCode(rtxContext* RT_RESTRICT ctx, const PICH_Info_HCR_VHCR_r7_channelisationCode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd384 > 15) {
-            rtxErrAddUIntParm(ctx, pvalue->u.tdd384);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "TDD-PICH-CCode", "tdd384", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.tdd384, 0, 15);
-         RT_CHECK(ctx, stat, "TDD-PICH-CCode", "tdd384", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd768 > 31) {
-            rtxErrAddUIntParm(ctx, pvalue->u.tdd768);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "TDD768-PICH-CCode", "tdd768", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.tdd768, 0, 31);
-         RT_CHECK(ctx, stat, "TDD768-PICH-CCode", "tdd768", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PICH_Info_HCR_VHCR_r7(rtxContext* RT_RESTRICT ctx, const PICH_Info_HCR_VHCR_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PICH-Info-HCR-VHCR-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
-      ((uint64_t)(pvalue->pagingIndicatorLength != 0) << 2) |
-      ((uint64_t)(pvalue->n_GAP != 1) << 1) |
-      ((uint64_t)(pvalue->n_PCH != 2) << 0), 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PICH-Info-HCR-VHCR-r7");
-   /* channelisationCode */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PICH_Info_HCR_VHCR_r7_channelisationCode(ctx, &pvalue->channelisationCode);
-      RT_CHECK(ctx, stat, 0, "channelisationCode", -1, "PICH-Info-HCR-VHCR-r7");
-   }
-   /* timeslot */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->timeslot > 14u) {
-         rtxErrAddStrParm(ctx, "TimeslotNumber");
-         rtxErrAddUIntParm(ctx, pvalue->timeslot);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslot", -1, "PICH-Info-HCR-VHCR-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 14);
-      RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, "PICH-Info-HCR-VHCR-r7");
-   }
-   /* midambleShiftAndBurstType */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "PICH-Info-HCR-VHCR-r7");
-   /* repetitionPeriodLengthOffset */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_RepPerLengthOffset_PICH(ctx, &pvalue->repetitionPeriodLengthOffset);
-      RT_CHECK(ctx, stat, 0, "repetitionPeriodLengthOffset", -1, "PICH-Info-HCR-VHCR-r7");
-   }
-   /* pagingIndicatorLength */
-   if (pvalue->pagingIndicatorLength != 0) {
-      if (pvalue->pagingIndicatorLength > 2) {
-         rtxErrAddUIntParm(ctx, pvalue->pagingIndicatorLength);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "PagingIndicatorLength", "pagingIndicatorLength", -1, "PICH-Info-HCR-VHCR-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->pagingIndicatorLength, 0, 2);
-      RT_CHECK(ctx, stat, "PagingIndicatorLength", "pagingIndicatorLength", -1, "PICH-Info-HCR-VHCR-r7");
-   }
-   /* n-GAP */
-   if (pvalue->n_GAP != 1) {
-      if (pvalue->n_GAP > 2) {
-         rtxErrAddUIntParm(ctx, pvalue->n_GAP);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "N-GAP", "n-GAP", -1, "PICH-Info-HCR-VHCR-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->n_GAP, 0, 2);
-      RT_CHECK(ctx, stat, "N-GAP", "n-GAP", -1, "PICH-Info-HCR-VHCR-r7");
-   }
-   /* n-PCH */
-   if (pvalue->n_PCH != 2) {
-      if ((uint64_t)(pvalue->n_PCH - 1) > 7u) {
-         rtxErrAddStrParm(ctx, "N-PCH");
-         rtxErrAddUIntParm(ctx, pvalue->n_PCH);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "N-PCH", "n-PCH", -1, "PICH-Info-HCR-VHCR-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->n_PCH, 1, 8);
-      RT_CHECK(ctx, stat, "N-PCH", "n-PCH", -1, "PICH-Info-HCR-VHCR-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SCCPCH_SystemInformation_HCR_VHCR_r7(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation_HCR_VHCR_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SCCPCH-SystemInformation-HCR-VHCR-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SCCPCH-SystemInformation-HCR-VHCR-r7");
-   /* secondaryCCPCH-Info */
-   stat = asn1PE_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7(ctx, &pvalue->secondaryCCPCH_Info);
-   RT_CHECK(ctx, stat, 0, "secondaryCCPCH-Info", -1, "SCCPCH-SystemInformation-HCR-VHCR-r7");
-   /* tfcs */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_TFCS(ctx, &pvalue->tfcs);
-      RT_CHECK(ctx, stat, 0, "tfcs", -1, "SCCPCH-SystemInformation-HCR-VHCR-r7");
-   }
-   /* fach-PCH-InformationList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_FACH_PCH_InformationList(ctx, &pvalue->fach_PCH_InformationList);
-      RT_CHECK(ctx, stat, 0, "fach-PCH-InformationList", -1, "SCCPCH-SystemInformation-HCR-VHCR-r7");
-   }
-   /* pich-Info */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_PICH_Info_HCR_VHCR_r7(ctx, &pvalue->pich_Info);
-      RT_CHECK(ctx, stat, 0, "pich-Info", -1, "SCCPCH-SystemInformation-HCR-VHCR-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SCCPCH_SystemInformationList_HCR_VHCR_r7(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformationList_HCR_VHCR_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SCCPCH-SystemInformationList-HCR-VHCR-r7");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SCCPCH-SystemInformationList-HCR-VHCR-r7");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "SCCPCH-SystemInformation-HCR-VHCR-r7", (int32_t)i, "SCCPCH-SystemInformationList-HCR-VHCR-r7");
-      stat = asn1PE_UMTS_SCCPCH_SystemInformation_HCR_VHCR_r7(ctx, (const SCCPCH_SystemInformation_HCR_VHCR_r7*)node->data);
-      RT_CHECK(ctx, stat, 0, "SCCPCH-SystemInformation-HCR-VHCR-r7", (int32_t)i, "SCCPCH-SystemInformationList-HCR-VHCR-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd_modulation(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd_modulation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.mod16QAM < -11 || pvalue->u.mod16QAM > 4) {
-            rtxErrAddStrParm(ctx, "mod16QAM");
-            rtxErrAddIntParm(ctx, pvalue->u.mod16QAM);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "mod16QAM", -1, 0);
-         }
-         stat = pe_ConsInt64(ctx, pvalue->u.mod16QAM, -11, 4);
-         RT_CHECK(ctx, stat, 0, "mod16QAM", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)(pvalue->timingOffset != 0) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* secondaryScramblingCode */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->secondaryScramblingCode - 1) > 14u) {
-         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
-         rtxErrAddUIntParm(ctx, pvalue->secondaryScramblingCode);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "SecondaryScramblingCode", "secondaryScramblingCode", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->secondaryScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, 0);
-   }
-   /* sttd-Indicator */
-   stat = rtxEncBit(ctx, pvalue->sttd_Indicator);
-   RT_CHECK(ctx, stat, 0, "sttd-Indicator", -1, 0);
-   /* sf-AndCodeNumber */
-   stat = asn1PE_UMTS_SF256_AndCodeNumber(ctx, &pvalue->sf_AndCodeNumber);
-   RT_CHECK(ctx, stat, 0, "sf-AndCodeNumber", -1, 0);
-   /* timingOffset */
-   if (pvalue->timingOffset != 0) {
-      if ((uint64_t)pvalue->timingOffset > 149u) {
-         rtxErrAddStrParm(ctx, "TimingOffset");
-         rtxErrAddUIntParm(ctx, pvalue->timingOffset);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TimingOffset", "timingOffset", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->timingOffset, 0, 149);
-      RT_CHECK(ctx, stat, "TimingOffset", "timingOffset", -1, 0);
-   }
-   /* modulation */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd_modulation(ctx, &pvalue->modulation);
-      RT_CHECK(ctx, stat, 0, "modulation", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkAdditionalTimeslots_r7_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_r7_parameters_sameAsLast* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* timeslotNumber */
-   if ((uint64_t)pvalue->timeslotNumber > 14u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber");
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkAdditionalTimeslots_r7_parameters_newParameters(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_r7_parameters_newParameters* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* individualTimeslotInfo */
-   stat = asn1PE_UMTS_IndividualTimeslotInfo_r7(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
-   /* dl-TS-ChannelisationCodesShort */
-   stat = asn1PE_UMTS_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort);
-   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkAdditionalTimeslots_r7_parameters(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_r7_parameters* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.sameAsLast == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sameAsLast", -1, 0);
-         stat = asn1PE_UMTS_DownlinkAdditionalTimeslots_r7_parameters_sameAsLast(ctx, pvalue->u.sameAsLast);
-         RT_CHECK(ctx, stat, 0, "sameAsLast", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.newParameters == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "newParameters", -1, 0);
-         stat = asn1PE_UMTS_DownlinkAdditionalTimeslots_r7_parameters_newParameters(ctx, pvalue->u.newParameters);
-         RT_CHECK(ctx, stat, 0, "newParameters", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkAdditionalTimeslots_r7(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DownlinkAdditionalTimeslots-r7");
-   /* parameters */
-   stat = asn1PE_UMTS_DownlinkAdditionalTimeslots_r7_parameters(ctx, &pvalue->parameters);
-   RT_CHECK(ctx, stat, 0, "parameters", -1, "DownlinkAdditionalTimeslots-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 13);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DownlinkAdditionalTimeslots-r7", (int32_t)i, 0);
-      stat = asn1PE_UMTS_DownlinkAdditionalTimeslots_r7(ctx, (const DownlinkAdditionalTimeslots_r7*)node->data);
-      RT_CHECK(ctx, stat, 0, "DownlinkAdditionalTimeslots-r7", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if ((uint64_t)(pvalue->u.consecutive - 1) > 12u) {
-            rtxErrAddStrParm(ctx, "consecutive");
-            rtxErrAddUIntParm(ctx, pvalue->u.consecutive);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "consecutive", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.consecutive, 1, 13);
-         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.timeslotList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "timeslotList", -1, 0);
-         stat = asn1PE_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList);
-         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_r7_moreTimeslots* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.additionalTimeslots == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "additionalTimeslots", -1, 0);
-         stat = asn1PE_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots);
-         RT_CHECK(ctx, stat, 0, "additionalTimeslots", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DownlinkTimeslotsCodes_r7(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DownlinkTimeslotsCodes-r7");
-   /* firstIndividualTimeslotInfo */
-   stat = asn1PE_UMTS_IndividualTimeslotInfo_r7(ctx, &pvalue->firstIndividualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "DownlinkTimeslotsCodes-r7");
-   /* dl-TS-ChannelisationCodesShort */
-   stat = asn1PE_UMTS_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort);
-   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, "DownlinkTimeslotsCodes-r7");
-   /* moreTimeslots */
-   stat = asn1PE_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots(ctx, &pvalue->moreTimeslots);
-   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "DownlinkTimeslotsCodes-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384_modulation(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384_modulation value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* commonTimeslotInfoMBMS */
-   stat = asn1PE_UMTS_CommonTimeslotInfoMBMS(ctx, &pvalue->commonTimeslotInfoMBMS);
-   RT_CHECK(ctx, stat, 0, "commonTimeslotInfoMBMS", -1, 0);
-   /* downlinkTimeslotsCodes */
-   stat = asn1PE_UMTS_DownlinkTimeslotsCodes_r7(ctx, &pvalue->downlinkTimeslotsCodes);
-   RT_CHECK(ctx, stat, 0, "downlinkTimeslotsCodes", -1, 0);
-   /* modulation */
-   if (pvalue->modulation > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->modulation);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "modulation", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->modulation, 0, 1);
-   RT_CHECK(ctx, stat, 0, "modulation", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768_modulation(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768_modulation value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* commonTimeslotInfoMBMS */
-   stat = asn1PE_UMTS_CommonTimeslotInfoMBMS(ctx, &pvalue->commonTimeslotInfoMBMS);
-   RT_CHECK(ctx, stat, 0, "commonTimeslotInfoMBMS", -1, 0);
-   /* downlinkTimeslotsCodes */
-   stat = asn1PE_UMTS_DownlinkTimeslotsCodes_VHCR(ctx, &pvalue->downlinkTimeslotsCodes);
-   RT_CHECK(ctx, stat, 0, "downlinkTimeslotsCodes", -1, 0);
-   /* modulation */
-   if (pvalue->modulation > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->modulation);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "modulation", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->modulation, 0, 1);
-   RT_CHECK(ctx, stat, 0, "modulation", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_TimeSlotLCR_ext(rtxContext* RT_RESTRICT ctx, TimeSlotLCR_ext value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TimeSlotLCR-ext");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimeSlotLCR-ext");
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128_modulation(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128_modulation value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* commonTimeslotInfoMBMS */
-   stat = asn1PE_UMTS_CommonTimeslotInfoMBMS(ctx, &pvalue->commonTimeslotInfoMBMS);
-   RT_CHECK(ctx, stat, 0, "commonTimeslotInfoMBMS", -1, 0);
-   /* downlinkTimeslotsCodes */
-   stat = asn1PE_UMTS_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->downlinkTimeslotsCodes);
-   RT_CHECK(ctx, stat, 0, "downlinkTimeslotsCodes", -1, 0);
-   /* mbsfnSpecialTimeSlot */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->mbsfnSpecialTimeSlot > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->mbsfnSpecialTimeSlot);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "TimeSlotLCR-ext", "mbsfnSpecialTimeSlot", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mbsfnSpecialTimeSlot, 0, 3);
-      RT_CHECK(ctx, stat, "TimeSlotLCR-ext", "mbsfnSpecialTimeSlot", -1, 0);
-   }
-   /* modulation */
-   if (pvalue->modulation > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->modulation);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "modulation", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->modulation, 0, 1);
-   RT_CHECK(ctx, stat, 0, "modulation", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
-         stat = asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 3:
-         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
-         stat = asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
-         break;
-      case 4:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SecondaryCCPCHInfo-MBMS-r7");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SecondaryCCPCHInfo-MBMS-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMCCH(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation_MBMS_r7_fachCarryingMCCH* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* mcch-transportFormatSet */
-   stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->mcch_transportFormatSet);
-   RT_CHECK(ctx, stat, 0, "mcch-transportFormatSet", -1, 0);
-   /* mcch-ConfigurationInfo */
-   stat = asn1PE_UMTS_MBMS_MCCH_ConfigurationInfo_r6(ctx, &pvalue->mcch_ConfigurationInfo);
-   RT_CHECK(ctx, stat, 0, "mcch-ConfigurationInfo", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMSCH(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation_MBMS_r7_fachCarryingMSCH* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* msch-transportFormatSet */
-   stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->msch_transportFormatSet);
-   RT_CHECK(ctx, stat, 0, "msch-transportFormatSet", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SCCPCH_SystemInformation_MBMS_r7(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation_MBMS_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SCCPCH-SystemInformation-MBMS-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SCCPCH-SystemInformation-MBMS-r7");
-   /* secondaryCCPCHInfo-MBMS */
-   stat = asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7(ctx, &pvalue->secondaryCCPCHInfo_MBMS);
-   RT_CHECK(ctx, stat, 0, "secondaryCCPCHInfo-MBMS", -1, "SCCPCH-SystemInformation-MBMS-r7");
-   /* transportFormatCombinationSet */
-   stat = asn1PE_UMTS_TFCS(ctx, &pvalue->transportFormatCombinationSet);
-   RT_CHECK(ctx, stat, 0, "transportFormatCombinationSet", -1, "SCCPCH-SystemInformation-MBMS-r7");
-   /* fachCarryingMCCH */
-   stat = asn1PE_UMTS_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMCCH(ctx, &pvalue->fachCarryingMCCH);
-   RT_CHECK(ctx, stat, 0, "fachCarryingMCCH", -1, "SCCPCH-SystemInformation-MBMS-r7");
-   /* fachCarryingMTCH-List */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MBMS_FACHCarryingMTCH_List(ctx, &pvalue->fachCarryingMTCH_List);
-      RT_CHECK(ctx, stat, 0, "fachCarryingMTCH-List", -1, "SCCPCH-SystemInformation-MBMS-r7");
-   }
-   /* fachCarryingMSCH */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMSCH(ctx, &pvalue->fachCarryingMSCH);
-      RT_CHECK(ctx, stat, 0, "fachCarryingMSCH", -1, "SCCPCH-SystemInformation-MBMS-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType5_v770ext_IEs_sccpch_SystemInformation_MBMS(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v770ext_IEs_sccpch_SystemInformation_MBMS* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 0);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 0) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.mcchOnSCCPCHusedOnlyForMBMS == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "mcchOnSCCPCHusedOnlyForMBMS", -1, 0);
-         stat = asn1PE_UMTS_SCCPCH_SystemInformation_MBMS_r7(ctx, pvalue->u.mcchOnSCCPCHusedOnlyForMBMS);
-         RT_CHECK(ctx, stat, 0, "mcchOnSCCPCHusedOnlyForMBMS", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TDD_MBSFNTSlotInfo(rtxContext* RT_RESTRICT ctx, const TDD_MBSFNTSlotInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TDD-MBSFNTSlotInfo");
-   /* timeSlotNumber */
-   if ((uint64_t)pvalue->timeSlotNumber > 14u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber");
-      rtxErrAddUIntParm(ctx, pvalue->timeSlotNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeSlotNumber", -1, "TDD-MBSFNTSlotInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeSlotNumber, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeSlotNumber", -1, "TDD-MBSFNTSlotInfo");
-   /* cellParametersID */
-   if ((uint64_t)pvalue->cellParametersID > 127u) {
-      rtxErrAddStrParm(ctx, "CellParametersID");
-      rtxErrAddUIntParm(ctx, pvalue->cellParametersID);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "CellParametersID", "cellParametersID", -1, "TDD-MBSFNTSlotInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cellParametersID, 0, 127);
-   RT_CHECK(ctx, stat, "CellParametersID", "cellParametersID", -1, "TDD-MBSFNTSlotInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_TDD_MBSFNInformation(rtxContext* RT_RESTRICT ctx, const TDD_MBSFNInformation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TDD-MBSFNInformation");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 14);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "TDD-MBSFNInformation");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "TDD-MBSFNTSlotInfo", (int32_t)i, "TDD-MBSFNInformation");
-      stat = asn1PE_UMTS_TDD_MBSFNTSlotInfo(ctx, (const TDD_MBSFNTSlotInfo*)node->data);
-      RT_CHECK(ctx, stat, 0, "TDD-MBSFNTSlotInfo", (int32_t)i, "TDD-MBSFNInformation");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType5_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v770ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType5-v770ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5-v770ext-IEs");
-   /* modeSpecificInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-      RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SysInfoType5-v770ext-IEs");
-   }
-   /* sccpch-SystemInformationList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_SCCPCH_SystemInformationList_HCR_VHCR_r7(ctx, &pvalue->sccpch_SystemInformationList);
-      RT_CHECK(ctx, stat, 0, "sccpch-SystemInformationList", -1, "SysInfoType5-v770ext-IEs");
-   }
-   /* sccpch-SystemInformation-MBMS */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_SysInfoType5_v770ext_IEs_sccpch_SystemInformation_MBMS(ctx, &pvalue->sccpch_SystemInformation_MBMS);
-      RT_CHECK(ctx, stat, 0, "sccpch-SystemInformation-MBMS", -1, "SysInfoType5-v770ext-IEs");
-   }
-   /* tDD-MBSFNInformation */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_TDD_MBSFNInformation(ctx, &pvalue->tDD_MBSFNInformation);
-      RT_CHECK(ctx, stat, 0, "tDD-MBSFNInformation", -1, "SysInfoType5-v770ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType5_v860ext_IEs_dummy(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v860ext_IEs_dummy* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_T_321(rtxContext* RT_RESTRICT ctx, T_321 value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-321");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-321");
-   return 0;
-}
-
-int asn1PE_UMTS_HS_DSCH_DrxCycleFach(rtxContext* RT_RESTRICT ctx, HS_DSCH_DrxCycleFach value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "HS-DSCH-DrxCycleFach");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HS-DSCH-DrxCycleFach");
-   return 0;
-}
-
-int asn1PE_UMTS_HS_DSCH_DrxBurstFach(rtxContext* RT_RESTRICT ctx, HS_DSCH_DrxBurstFach value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "HS-DSCH-DrxBurstFach");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HS-DSCH-DrxBurstFach");
-   return 0;
-}
-
-int asn1PE_UMTS_HS_DSCH_DrxCellfach_info(rtxContext* RT_RESTRICT ctx, const HS_DSCH_DrxCellfach_info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-DSCH-DrxCellfach-info");
-   /* t-321 */
-   if (pvalue->t_321 > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->t_321);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "T-321", "t-321", -1, "HS-DSCH-DrxCellfach-info");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->t_321, 0, 3);
-   RT_CHECK(ctx, stat, "T-321", "t-321", -1, "HS-DSCH-DrxCellfach-info");
-   /* hs-dsch-DrxCycleFach */
-   if (pvalue->hs_dsch_DrxCycleFach > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->hs_dsch_DrxCycleFach);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "HS-DSCH-DrxCycleFach", "hs-dsch-DrxCycleFach", -1, "HS-DSCH-DrxCellfach-info");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hs_dsch_DrxCycleFach, 0, 3);
-   RT_CHECK(ctx, stat, "HS-DSCH-DrxCycleFach", "hs-dsch-DrxCycleFach", -1, "HS-DSCH-DrxCellfach-info");
-   /* hs-dsch-DrxBurstFach */
-   if (pvalue->hs_dsch_DrxBurstFach > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->hs_dsch_DrxBurstFach);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "HS-DSCH-DrxBurstFach", "hs-dsch-DrxBurstFach", -1, "HS-DSCH-DrxCellfach-info");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hs_dsch_DrxBurstFach, 0, 7);
-   RT_CHECK(ctx, stat, "HS-DSCH-DrxBurstFach", "hs-dsch-DrxBurstFach", -1, "HS-DSCH-DrxCellfach-info");
-   /* drxInterruption-hs-dsch */
-   stat = rtxEncBit(ctx, pvalue->drxInterruption_hs_dsch);
-   RT_CHECK(ctx, stat, 0, "drxInterruption-hs-dsch", -1, "HS-DSCH-DrxCellfach-info");
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* hs-dsch-DrxCellfach-info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_HS_DSCH_DrxCellfach_info(ctx, &pvalue->hs_dsch_DrxCellfach_info);
-      RT_CHECK(ctx, stat, 0, "hs-dsch-DrxCellfach-info", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_ChannelisationCode_LCR(rtxContext* RT_RESTRICT ctx, HS_ChannelisationCode_LCR value)
-{
-   int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "HS-ChannelisationCode-LCR");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HS-ChannelisationCode-LCR");
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_TDD128_r6_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD128_r6_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         break;
-      case 3:
-         if ((uint64_t)pvalue->u.ueSpecificMidamble > 15u) {
-            rtxErrAddStrParm(ctx, "ueSpecificMidamble");
-            rtxErrAddUIntParm(ctx, pvalue->u.ueSpecificMidamble);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ueSpecificMidamble", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.ueSpecificMidamble, 0, 15);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* midambleShift */
-   if ((uint64_t)pvalue->midambleShift > 15u) {
-      rtxErrAddStrParm(ctx, "MidambleShiftLong");
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD128_r6_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PE_UMTS_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SICH_Configuration_TDD128_r6(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD128_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SICH-Configuration-TDD128-r6");
-   /* timeslotNumber */
-   if ((uint64_t)pvalue->timeslotNumber > 6u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SICH-Configuration-TDD128-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SICH-Configuration-TDD128-r6");
-   /* channelisationCode */
-   if (pvalue->channelisationCode > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "channelisationCode", -1, "HS-SICH-Configuration-TDD128-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode, 0, 15);
-   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "channelisationCode", -1, "HS-SICH-Configuration-TDD128-r6");
-   /* midambleAllocationMode */
-   stat = asn1PE_UMTS_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SICH-Configuration-TDD128-r6");
-   /* midambleConfiguration */
-   if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
-      rtxErrAddStrParm(ctx, "midambleConfiguration");
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "midambleConfiguration", -1, "HS-SICH-Configuration-TDD128-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, "HS-SICH-Configuration-TDD128-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_TDD128_r6(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD128_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-TDD128-r6");
-   /* timeslotNumber */
-   if ((uint64_t)pvalue->timeslotNumber > 6u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SCCH-TDD128-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SCCH-TDD128-r6");
-   /* firstChannelisationCode */
-   if (pvalue->firstChannelisationCode > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->firstChannelisationCode);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "firstChannelisationCode", -1, "HS-SCCH-TDD128-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->firstChannelisationCode, 0, 15);
-   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "firstChannelisationCode", -1, "HS-SCCH-TDD128-r6");
-   /* secondChannelisationCode */
-   if (pvalue->secondChannelisationCode > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->secondChannelisationCode);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "secondChannelisationCode", -1, "HS-SCCH-TDD128-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->secondChannelisationCode, 0, 15);
-   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "secondChannelisationCode", -1, "HS-SCCH-TDD128-r6");
-   /* midambleAllocationMode */
-   stat = asn1PE_UMTS_HS_SCCH_TDD128_r6_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SCCH-TDD128-r6");
-   /* midambleConfiguration */
-   if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
-      rtxErrAddStrParm(ctx, "midambleConfiguration");
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "midambleConfiguration", -1, "HS-SCCH-TDD128-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, "HS-SCCH-TDD128-r6");
-   /* hs-sich-configuration */
-   stat = asn1PE_UMTS_HS_SICH_Configuration_TDD128_r6(ctx, &pvalue->hs_sich_configuration);
-   RT_CHECK(ctx, stat, 0, "hs-sich-configuration", -1, "HS-SCCH-TDD128-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_SystemInfo_TDD128_hs_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_SystemInfo_TDD128_hs_SCCH_SetConfiguration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
-      stat = asn1PE_UMTS_HS_SCCH_TDD128_r6(ctx, (const HS_SCCH_TDD128_r6*)node->data);
-      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_SystemInfo_TDD128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_SystemInfo_TDD128_tpc_step_size value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_Bler_Target(rtxContext* RT_RESTRICT ctx, Bler_Target value)
-{
-   int stat = 0;
-   if (value < -63 || value > 0) {
-      rtxErrAddStrParm(ctx, "Bler-Target");
-      rtxErrAddIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "Bler-Target");
-   }
-   stat = pe_ConsInt64(ctx, value, -63, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Bler-Target");
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_SystemInfo_TDD128(rtxContext* RT_RESTRICT ctx, const HS_SCCH_SystemInfo_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-SystemInfo-TDD128");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HS-SCCH-SystemInfo-TDD128");
-   /* hs-SCCH-SetConfiguration */
-   stat = asn1PE_UMTS_HS_SCCH_SystemInfo_TDD128_hs_SCCH_SetConfiguration(ctx, &pvalue->hs_SCCH_SetConfiguration);
-   RT_CHECK(ctx, stat, 0, "hs-SCCH-SetConfiguration", -1, "HS-SCCH-SystemInfo-TDD128");
-   /* power-level-HSSICH */
-   if (pvalue->power_level_HSSICH < -120 || pvalue->power_level_HSSICH > -58) {
-      rtxErrAddStrParm(ctx, "power-level-HSSICH");
-      rtxErrAddIntParm(ctx, pvalue->power_level_HSSICH);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "power-level-HSSICH", -1, "HS-SCCH-SystemInfo-TDD128");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->power_level_HSSICH, -120, -58);
-   RT_CHECK(ctx, stat, 0, "power-level-HSSICH", -1, "HS-SCCH-SystemInfo-TDD128");
-   /* nack-ack-power-offset */
-   if (pvalue->nack_ack_power_offset < -7 || pvalue->nack_ack_power_offset > 8) {
-      rtxErrAddStrParm(ctx, "nack-ack-power-offset");
-      rtxErrAddIntParm(ctx, pvalue->nack_ack_power_offset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "nack-ack-power-offset", -1, "HS-SCCH-SystemInfo-TDD128");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->nack_ack_power_offset, -7, 8);
-   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, "HS-SCCH-SystemInfo-TDD128");
-   /* tpc-step-size */
-   if (pvalue->tpc_step_size > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->tpc_step_size);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "tpc-step-size", -1, "HS-SCCH-SystemInfo-TDD128");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tpc_step_size, 0, 3);
-   RT_CHECK(ctx, stat, 0, "tpc-step-size", -1, "HS-SCCH-SystemInfo-TDD128");
-   /* bler-target */
-   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
-      rtxErrAddStrParm(ctx, "Bler-Target");
-      rtxErrAddIntParm(ctx, pvalue->bler_target);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Bler-Target", "bler-target", -1, "HS-SCCH-SystemInfo-TDD128");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, "HS-SCCH-SystemInfo-TDD128");
-   /* power-control-gap */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->power_control_gap - 1) > 254u) {
-         rtxErrAddStrParm(ctx, "power-control-gap");
-         rtxErrAddUIntParm(ctx, pvalue->power_control_gap);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "power-control-gap", -1, "HS-SCCH-SystemInfo-TDD128");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->power_control_gap, 1, 255);
-      RT_CHECK(ctx, stat, 0, "power-control-gap", -1, "HS-SCCH-SystemInfo-TDD128");
-   }
-   /* pathloss-compensation-switch */
-   if (pvalue->m & 0x2u) {
-      stat = rtxEncBit(ctx, pvalue->pathloss_compensation_switch);
-      RT_CHECK(ctx, stat, 0, "pathloss-compensation-switch", -1, "HS-SCCH-SystemInfo-TDD128");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_PDSCH_Midamble_Configuration_TDD128_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_PDSCH_Midamble_Configuration_TDD128_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         break;
-      case 3:
-         if ((uint64_t)pvalue->u.ueSpecificMidamble > 15u) {
-            rtxErrAddStrParm(ctx, "ueSpecificMidamble");
-            rtxErrAddUIntParm(ctx, pvalue->u.ueSpecificMidamble);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ueSpecificMidamble", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.ueSpecificMidamble, 0, 15);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(rtxContext* RT_RESTRICT ctx, const HS_PDSCH_Midamble_Configuration_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-PDSCH-Midamble-Configuration-TDD128");
-   /* midambleAllocationMode */
-   stat = asn1PE_UMTS_HS_PDSCH_Midamble_Configuration_TDD128_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-PDSCH-Midamble-Configuration-TDD128");
-   /* midambleConfiguration */
-   if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
-      rtxErrAddStrParm(ctx, "midambleConfiguration");
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "midambleConfiguration", -1, "HS-PDSCH-Midamble-Configuration-TDD128");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, "HS-PDSCH-Midamble-Configuration-TDD128");
-   return 0;
-}
-
-int asn1PE_UMTS_HS_DSCH_CommonSystemInformation_TDD128_common_H_RNTI_information(rtxContext* RT_RESTRICT ctx, const HS_DSCH_CommonSystemInformation_TDD128_common_H_RNTI_information* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (i = 0; i < pvalue->n; i++) {
-      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->elem[i]);
-      RT_CHECK(ctx, stat, 0, "H-RNTI", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_DSCH_CommonSystemInformation_TDD128(rtxContext* RT_RESTRICT ctx, const HS_DSCH_CommonSystemInformation_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-DSCH-CommonSystemInformation-TDD128");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HS-DSCH-CommonSystemInformation-TDD128");
-   /* ccch-MappingInfo */
-   stat = asn1PE_UMTS_CommonRBMappingInfo(ctx, &pvalue->ccch_MappingInfo);
-   RT_CHECK(ctx, stat, 0, "ccch-MappingInfo", -1, "HS-DSCH-CommonSystemInformation-TDD128");
-   /* srb1-MappingInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CommonRBMappingInfo(ctx, &pvalue->srb1_MappingInfo);
-      RT_CHECK(ctx, stat, 0, "srb1-MappingInfo", -1, "HS-DSCH-CommonSystemInformation-TDD128");
-   }
-   /* common-MAC-ehs-ReorderingQueueList */
-   stat = asn1PE_UMTS_Common_MAC_ehs_ReorderingQueueList(ctx, &pvalue->common_MAC_ehs_ReorderingQueueList);
-   RT_CHECK(ctx, stat, 0, "common-MAC-ehs-ReorderingQueueList", -1, "HS-DSCH-CommonSystemInformation-TDD128");
-   /* hs-scch-SystemInfo-tdd128 */
-   stat = asn1PE_UMTS_HS_SCCH_SystemInfo_TDD128(ctx, &pvalue->hs_scch_SystemInfo_tdd128);
-   RT_CHECK(ctx, stat, 0, "hs-scch-SystemInfo-tdd128", -1, "HS-DSCH-CommonSystemInformation-TDD128");
-   /* harq-SystemInfo */
-   stat = asn1PE_UMTS_HARQ_Info(ctx, &pvalue->harq_SystemInfo);
-   RT_CHECK(ctx, stat, 0, "harq-SystemInfo", -1, "HS-DSCH-CommonSystemInformation-TDD128");
-   /* hs-pdsch-MidambleConfiguration */
-   stat = asn1PE_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_pdsch_MidambleConfiguration);
-   RT_CHECK(ctx, stat, 0, "hs-pdsch-MidambleConfiguration", -1, "HS-DSCH-CommonSystemInformation-TDD128");
-   /* common-H-RNTI-information */
-   stat = asn1PE_UMTS_HS_DSCH_CommonSystemInformation_TDD128_common_H_RNTI_information(ctx, &pvalue->common_H_RNTI_information);
-   RT_CHECK(ctx, stat, 0, "common-H-RNTI-information", -1, "HS-DSCH-CommonSystemInformation-TDD128");
-   /* bcchSpecific-H-RNTI */
-   stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->bcchSpecific_H_RNTI);
-   RT_CHECK(ctx, stat, 0, "bcchSpecific-H-RNTI", -1, "HS-DSCH-CommonSystemInformation-TDD128");
-   return 0;
-}
-
-int asn1PE_UMTS_OccurrenceSequenceNumberOfPICH(rtxContext* RT_RESTRICT ctx, OccurrenceSequenceNumberOfPICH value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 15u) {
-      rtxErrAddStrParm(ctx, "OccurrenceSequenceNumberOfPICH");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "OccurrenceSequenceNumberOfPICH");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, "OccurrenceSequenceNumberOfPICH");
-   return 0;
-}
-
-int asn1PE_UMTS_PICH_ForHSDPASupportedPaging_TDD128_implicit(rtxContext* RT_RESTRICT ctx, const PICH_ForHSDPASupportedPaging_TDD128_implicit* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* occurrenceSequenceNumberOfPICH */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->occurrenceSequenceNumberOfPICH - 1) > 15u) {
-         rtxErrAddStrParm(ctx, "OccurrenceSequenceNumberOfPICH");
-         rtxErrAddUIntParm(ctx, pvalue->occurrenceSequenceNumberOfPICH);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "OccurrenceSequenceNumberOfPICH", "occurrenceSequenceNumberOfPICH", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->occurrenceSequenceNumberOfPICH, 1, 16);
-      RT_CHECK(ctx, stat, "OccurrenceSequenceNumberOfPICH", "occurrenceSequenceNumberOfPICH", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PICH_ForHSDPASupportedPaging_TDD128(rtxContext* RT_RESTRICT ctx, const PICH_ForHSDPASupportedPaging_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PICH-ForHSDPASupportedPaging-TDD128");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "PICH-ForHSDPASupportedPaging-TDD128");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PICH-ForHSDPASupportedPaging-TDD128");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.implicit == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "implicit", -1, "PICH-ForHSDPASupportedPaging-TDD128");
-         stat = asn1PE_UMTS_PICH_ForHSDPASupportedPaging_TDD128_implicit(ctx, pvalue->u.implicit);
-         RT_CHECK(ctx, stat, 0, "implicit", -1, "PICH-ForHSDPASupportedPaging-TDD128");
-         break;
-      case 2:
-         if (pvalue->u.explicit_ == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "explicit", -1, "PICH-ForHSDPASupportedPaging-TDD128");
-         stat = asn1PE_UMTS_PICH_Info_LCR_r4(ctx, pvalue->u.explicit_);
-         RT_CHECK(ctx, stat, 0, "explicit", -1, "PICH-ForHSDPASupportedPaging-TDD128");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_DSCH_PagingSystemInformation_TDD128_pich_ForHsdschList(rtxContext* RT_RESTRICT ctx, const HS_DSCH_PagingSystemInformation_TDD128_pich_ForHsdschList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PICH-ForHSDPASupportedPaging-TDD128", (int32_t)i, 0);
-      stat = asn1PE_UMTS_PICH_ForHSDPASupportedPaging_TDD128(ctx, (const PICH_ForHSDPASupportedPaging_TDD128*)node->data);
-      RT_CHECK(ctx, stat, 0, "PICH-ForHSDPASupportedPaging-TDD128", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CodeResourceInformation_TDD128(rtxContext* RT_RESTRICT ctx, const CodeResourceInformation_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CodeResourceInformation-TDD128");
-   /* start-code */
-   if (pvalue->start_code > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->start_code);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "start-code", -1, "CodeResourceInformation-TDD128");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->start_code, 0, 15);
-   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "start-code", -1, "CodeResourceInformation-TDD128");
-   /* stop-code */
-   if (pvalue->stop_code > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->stop_code);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "stop-code", -1, "CodeResourceInformation-TDD128");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->stop_code, 0, 15);
-   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "stop-code", -1, "CodeResourceInformation-TDD128");
-   return 0;
-}
-
-int asn1PE_UMTS_PCCH_InformationList_paging_associatedHspdschInfo_element(rtxContext* RT_RESTRICT ctx, const PCCH_InformationList_paging_associatedHspdschInfo_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* hs-pdsch-MidambleConfiguration */
-   stat = asn1PE_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_pdsch_MidambleConfiguration);
-   RT_CHECK(ctx, stat, 0, "hs-pdsch-MidambleConfiguration", -1, 0);
-   /* timeslotResourceRelatedInfo */
-   RT_SET_SIZE(ctx, 6, 6);
-   stat = pe_BitString32(ctx, &pvalue->timeslotResourceRelatedInfo, 6, 6);
-   RT_CHECK(ctx, stat, 0, "timeslotResourceRelatedInfo", -1, 0);
-   /* codeResourceInformation */
-   stat = asn1PE_UMTS_CodeResourceInformation_TDD128(ctx, &pvalue->codeResourceInformation);
-   RT_CHECK(ctx, stat, 0, "codeResourceInformation", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PCCH_InformationList_paging_associatedHspdschInfo(rtxContext* RT_RESTRICT ctx, const PCCH_InformationList_paging_associatedHspdschInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
-      stat = asn1PE_UMTS_PCCH_InformationList_paging_associatedHspdschInfo_element(ctx, (const PCCH_InformationList_paging_associatedHspdschInfo_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PCCH_InformationList_transportBlockSizeList(rtxContext* RT_RESTRICT ctx, const PCCH_InformationList_transportBlockSizeList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 2);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)(pvalue->elem[i] - 1) > 31u) {
-         rtxErrAddStrParm(ctx, "TransportBlockSizeIndex");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportBlockSizeIndex", "TransportBlockSizeIndex", (int32_t)i, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 1, 32);
-      RT_CHECK(ctx, stat, "TransportBlockSizeIndex", "TransportBlockSizeIndex", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PCCH_InformationList(rtxContext* RT_RESTRICT ctx, const PCCH_InformationList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PCCH-InformationList");
-   /* paging-associatedHspdschInfo */
-   stat = asn1PE_UMTS_PCCH_InformationList_paging_associatedHspdschInfo(ctx, &pvalue->paging_associatedHspdschInfo);
-   RT_CHECK(ctx, stat, 0, "paging-associatedHspdschInfo", -1, "PCCH-InformationList");
-   /* paging-sub-Channel-size */
-   if ((uint64_t)(pvalue->paging_sub_Channel_size - 1) > 2u) {
-      rtxErrAddStrParm(ctx, "paging-sub-Channel-size");
-      rtxErrAddUIntParm(ctx, pvalue->paging_sub_Channel_size);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "paging-sub-Channel-size", -1, "PCCH-InformationList");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->paging_sub_Channel_size, 1, 3);
-   RT_CHECK(ctx, stat, 0, "paging-sub-Channel-size", -1, "PCCH-InformationList");
-   /* transportBlockSizeList */
-   stat = asn1PE_UMTS_PCCH_InformationList_transportBlockSizeList(ctx, &pvalue->transportBlockSizeList);
-   RT_CHECK(ctx, stat, 0, "transportBlockSizeList", -1, "PCCH-InformationList");
-   return 0;
-}
-
-int asn1PE_UMTS_HS_DSCH_PagingSystemInformation_TDD128(rtxContext* RT_RESTRICT ctx, const HS_DSCH_PagingSystemInformation_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-DSCH-PagingSystemInformation-TDD128");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HS-DSCH-PagingSystemInformation-TDD128");
-   /* pich-ForHsdschList */
-   stat = asn1PE_UMTS_HS_DSCH_PagingSystemInformation_TDD128_pich_ForHsdschList(ctx, &pvalue->pich_ForHsdschList);
-   RT_CHECK(ctx, stat, 0, "pich-ForHsdschList", -1, "HS-DSCH-PagingSystemInformation-TDD128");
-   /* dtch-DCCH-reception-window-size */
-   if ((uint64_t)(pvalue->dtch_DCCH_reception_window_size - 1) > 15u) {
-      rtxErrAddStrParm(ctx, "dtch-DCCH-reception-window-size");
-      rtxErrAddUIntParm(ctx, pvalue->dtch_DCCH_reception_window_size);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "dtch-DCCH-reception-window-size", -1, "HS-DSCH-PagingSystemInformation-TDD128");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dtch_DCCH_reception_window_size, 1, 16);
-   RT_CHECK(ctx, stat, 0, "dtch-DCCH-reception-window-size", -1, "HS-DSCH-PagingSystemInformation-TDD128");
-   /* pcch-InformationList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PCCH_InformationList(ctx, &pvalue->pcch_InformationList);
-      RT_CHECK(ctx, stat, 0, "pcch-InformationList", -1, "HS-DSCH-PagingSystemInformation-TDD128");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128_hs_dsch_CommonSysInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128_hs_dsch_CommonSysInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* hs-dsch-CommonSystemInformation */
-   stat = asn1PE_UMTS_HS_DSCH_CommonSystemInformation_TDD128(ctx, &pvalue->hs_dsch_CommonSystemInformation);
-   RT_CHECK(ctx, stat, 0, "hs-dsch-CommonSystemInformation", -1, 0);
-   /* hs-dsch-PagingSystemInformation */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_HS_DSCH_PagingSystemInformation_TDD128(ctx, &pvalue->hs_dsch_PagingSystemInformation);
-      RT_CHECK(ctx, stat, 0, "hs-dsch-PagingSystemInformation", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_DSCH_DrxCellfach_info_TDD128(rtxContext* RT_RESTRICT ctx, const HS_DSCH_DrxCellfach_info_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-DSCH-DrxCellfach-info-TDD128");
-   /* t-321 */
-   if (pvalue->t_321 > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->t_321);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "T-321", "t-321", -1, "HS-DSCH-DrxCellfach-info-TDD128");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->t_321, 0, 3);
-   RT_CHECK(ctx, stat, "T-321", "t-321", -1, "HS-DSCH-DrxCellfach-info-TDD128");
-   /* hs-dsch-DrxCycleFach */
-   if (pvalue->hs_dsch_DrxCycleFach > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->hs_dsch_DrxCycleFach);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "HS-DSCH-DrxCycleFach", "hs-dsch-DrxCycleFach", -1, "HS-DSCH-DrxCellfach-info-TDD128");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hs_dsch_DrxCycleFach, 0, 3);
-   RT_CHECK(ctx, stat, "HS-DSCH-DrxCycleFach", "hs-dsch-DrxCycleFach", -1, "HS-DSCH-DrxCellfach-info-TDD128");
-   /* hs-dsch-DrxBurstFach */
-   if (pvalue->hs_dsch_DrxBurstFach > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->hs_dsch_DrxBurstFach);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "HS-DSCH-DrxBurstFach", "hs-dsch-DrxBurstFach", -1, "HS-DSCH-DrxCellfach-info-TDD128");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hs_dsch_DrxBurstFach, 0, 7);
-   RT_CHECK(ctx, stat, "HS-DSCH-DrxBurstFach", "hs-dsch-DrxBurstFach", -1, "HS-DSCH-DrxCellfach-info-TDD128");
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* hs-dsch-CommonSysInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128_hs_dsch_CommonSysInfo(ctx, &pvalue->hs_dsch_CommonSysInfo);
-      RT_CHECK(ctx, stat, 0, "hs-dsch-CommonSysInfo", -1, 0);
-   }
-   /* hs-dsch-DrxCellfach-info */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_HS_DSCH_DrxCellfach_info_TDD128(ctx, &pvalue->hs_dsch_DrxCellfach_info);
-      RT_CHECK(ctx, stat, 0, "hs-dsch-DrxCellfach-info", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v860ext_IEs_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType5_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v860ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType5-v860ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5-v860ext-IEs");
-   /* dummy */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType5_v860ext_IEs_dummy(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "SysInfoType5-v860ext-IEs");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SysInfoType5-v860ext-IEs");
-   return 0;
-}
-
-int asn1PE_UMTS_UARFCN(rtxContext* RT_RESTRICT ctx, UARFCN value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 16383u) {
-      rtxErrAddStrParm(ctx, "UARFCN");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "UARFCN");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 16383);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UARFCN");
-   return 0;
-}
-
-int asn1PE_UMTS_FrequencyInfoTDD(rtxContext* RT_RESTRICT ctx, const FrequencyInfoTDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "FrequencyInfoTDD");
-   /* uarfcn-Nt */
-   if ((uint64_t)pvalue->uarfcn_Nt > 16383u) {
-      rtxErrAddStrParm(ctx, "UARFCN");
-      rtxErrAddUIntParm(ctx, pvalue->uarfcn_Nt);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "UARFCN", "uarfcn-Nt", -1, "FrequencyInfoTDD");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->uarfcn_Nt, 0, 16383);
-   RT_CHECK(ctx, stat, "UARFCN", "uarfcn-Nt", -1, "FrequencyInfoTDD");
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_MAC_d_FlowIdentity(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowIdentity value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 7u) {
-      rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowIdentity");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "E-DCH-MAC-d-FlowIdentity");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-MAC-d-FlowIdentity");
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_MAC_d_FlowPowerOffset(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowPowerOffset value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 6u) {
-      rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowPowerOffset");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "E-DCH-MAC-d-FlowPowerOffset");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-MAC-d-FlowPowerOffset");
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_MAC_d_FlowMaxRetrans(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowMaxRetrans value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 15u) {
-      rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowMaxRetrans");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "E-DCH-MAC-d-FlowMaxRetrans");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-MAC-d-FlowMaxRetrans");
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_MAC_d_FlowMultiplexingList(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowMultiplexingList value)
-{
-   int stat = 0;
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &value, 8, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-MAC-d-FlowMultiplexingList");
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_MAC_d_FlowRetransTimer(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowRetransTimer value)
-{
-   int stat = 0;
-   if (value > 29) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "E-DCH-MAC-d-FlowRetransTimer");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 29);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-MAC-d-FlowRetransTimer");
-   return 0;
-}
-
-int asn1PE_UMTS_Common_E_DCH_MAC_d_Flow(rtxContext* RT_RESTRICT ctx, const Common_E_DCH_MAC_d_Flow* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Common-E-DCH-MAC-d-Flow");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Common-E-DCH-MAC-d-Flow");
-   /* mac-d-FlowIdentity */
-   if ((uint64_t)pvalue->mac_d_FlowIdentity > 7u) {
-      rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->mac_d_FlowIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "E-DCH-MAC-d-FlowIdentity", "mac-d-FlowIdentity", -1, "Common-E-DCH-MAC-d-Flow");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mac_d_FlowIdentity, 0, 7);
-   RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowIdentity", "mac-d-FlowIdentity", -1, "Common-E-DCH-MAC-d-Flow");
-   /* mac-d-FlowPowerOffset */
-   if ((uint64_t)pvalue->mac_d_FlowPowerOffset > 6u) {
-      rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowPowerOffset");
-      rtxErrAddUIntParm(ctx, pvalue->mac_d_FlowPowerOffset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "E-DCH-MAC-d-FlowPowerOffset", "mac-d-FlowPowerOffset", -1, "Common-E-DCH-MAC-d-Flow");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mac_d_FlowPowerOffset, 0, 6);
-   RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowPowerOffset", "mac-d-FlowPowerOffset", -1, "Common-E-DCH-MAC-d-Flow");
-   /* mac-d-FlowMaxRetrans */
-   if ((uint64_t)pvalue->mac_d_FlowMaxRetrans > 15u) {
-      rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowMaxRetrans");
-      rtxErrAddUIntParm(ctx, pvalue->mac_d_FlowMaxRetrans);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "E-DCH-MAC-d-FlowMaxRetrans", "mac-d-FlowMaxRetrans", -1, "Common-E-DCH-MAC-d-Flow");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mac_d_FlowMaxRetrans, 0, 15);
-   RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowMaxRetrans", "mac-d-FlowMaxRetrans", -1, "Common-E-DCH-MAC-d-Flow");
-   /* mac-d-FlowMultiplexingList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_E_DCH_MAC_d_FlowMultiplexingList(ctx, pvalue->mac_d_FlowMultiplexingList);
-      RT_CHECK(ctx, stat, 0, "mac-d-FlowMultiplexingList", -1, "Common-E-DCH-MAC-d-Flow");
-   }
-   /* e-dch-mac-d-flow-retransmission-timer */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->e_dch_mac_d_flow_retransmission_timer > 29) {
-         rtxErrAddUIntParm(ctx, pvalue->e_dch_mac_d_flow_retransmission_timer);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "E-DCH-MAC-d-FlowRetransTimer", "e-dch-mac-d-flow-retransmission-timer", -1, "Common-E-DCH-MAC-d-Flow");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->e_dch_mac_d_flow_retransmission_timer, 0, 29);
-      RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowRetransTimer", "e-dch-mac-d-flow-retransmission-timer", -1, "Common-E-DCH-MAC-d-Flow");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Common_E_DCH_MAC_d_FlowList(rtxContext* RT_RESTRICT ctx, const Common_E_DCH_MAC_d_FlowList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Common-E-DCH-MAC-d-FlowList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "Common-E-DCH-MAC-d-FlowList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "Common-E-DCH-MAC-d-Flow", (int32_t)i, "Common-E-DCH-MAC-d-FlowList");
-      stat = asn1PE_UMTS_Common_E_DCH_MAC_d_Flow(ctx, (const Common_E_DCH_MAC_d_Flow*)node->data);
-      RT_CHECK(ctx, stat, 0, "Common-E-DCH-MAC-d-Flow", (int32_t)i, "Common-E-DCH-MAC-d-FlowList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_PreambleForEnhancedUplink(rtxContext* RT_RESTRICT ctx, const PRACH_PreambleForEnhancedUplink* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-PreambleForEnhancedUplink");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 0), 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PRACH-PreambleForEnhancedUplink");
-   /* availableSignatures */
-   stat = asn1PE_UMTS_AvailableSignatures(ctx, pvalue->availableSignatures);
-   RT_CHECK(ctx, stat, 0, "availableSignatures", -1, "PRACH-PreambleForEnhancedUplink");
-   /* e-ai-Indication */
-   stat = rtxEncBit(ctx, pvalue->e_ai_Indication);
-   RT_CHECK(ctx, stat, 0, "e-ai-Indication", -1, "PRACH-PreambleForEnhancedUplink");
-   /* preambleScramblingCodeWordNumber */
-   if ((uint64_t)pvalue->preambleScramblingCodeWordNumber > 15u) {
-      rtxErrAddStrParm(ctx, "PreambleScramblingCodeWordNumber");
-      rtxErrAddUIntParm(ctx, pvalue->preambleScramblingCodeWordNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PreambleScramblingCodeWordNumber", "preambleScramblingCodeWordNumber", -1, "PRACH-PreambleForEnhancedUplink");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->preambleScramblingCodeWordNumber, 0, 15);
-   RT_CHECK(ctx, stat, "PreambleScramblingCodeWordNumber", "preambleScramblingCodeWordNumber", -1, "PRACH-PreambleForEnhancedUplink");
-   /* availableSubChannelNumbers */
-   stat = asn1PE_UMTS_AvailableSubChannelNumbers(ctx, pvalue->availableSubChannelNumbers);
-   RT_CHECK(ctx, stat, 0, "availableSubChannelNumbers", -1, "PRACH-PreambleForEnhancedUplink");
-   /* prach-Partitioning */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PRACH_Partitioning_r7(ctx, &pvalue->prach_Partitioning);
-      RT_CHECK(ctx, stat, 0, "prach-Partitioning", -1, "PRACH-PreambleForEnhancedUplink");
-   }
-   /* persistenceScalingFactorList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_PersistenceScalingFactorList(ctx, &pvalue->persistenceScalingFactorList);
-      RT_CHECK(ctx, stat, 0, "persistenceScalingFactorList", -1, "PRACH-PreambleForEnhancedUplink");
-   }
-   /* ac-To-ASC-MappingTable */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_AC_To_ASC_MappingTable(ctx, &pvalue->ac_To_ASC_MappingTable);
-      RT_CHECK(ctx, stat, 0, "ac-To-ASC-MappingTable", -1, "PRACH-PreambleForEnhancedUplink");
-   }
-   /* primaryCPICH-TX-Power */
-   if (pvalue->m & 0x8u) {
-      if (pvalue->primaryCPICH_TX_Power < -10 || pvalue->primaryCPICH_TX_Power > 50) {
-         rtxErrAddStrParm(ctx, "PrimaryCPICH-TX-Power");
-         rtxErrAddIntParm(ctx, pvalue->primaryCPICH_TX_Power);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, "PRACH-PreambleForEnhancedUplink");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->primaryCPICH_TX_Power, -10, 50);
-      RT_CHECK(ctx, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, "PRACH-PreambleForEnhancedUplink");
-   }
-   /* constantValue */
-   if (pvalue->m & 0x10u) {
-      if (pvalue->constantValue < -35 || pvalue->constantValue > -10) {
-         rtxErrAddStrParm(ctx, "ConstantValue");
-         rtxErrAddIntParm(ctx, pvalue->constantValue);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "ConstantValue", "constantValue", -1, "PRACH-PreambleForEnhancedUplink");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->constantValue, -35, -10);
-      RT_CHECK(ctx, stat, "ConstantValue", "constantValue", -1, "PRACH-PreambleForEnhancedUplink");
-   }
-   /* prach-PowerOffset */
-   if (pvalue->m & 0x20u) {
-      stat = asn1PE_UMTS_PRACH_PowerOffset(ctx, &pvalue->prach_PowerOffset);
-      RT_CHECK(ctx, stat, 0, "prach-PowerOffset", -1, "PRACH-PreambleForEnhancedUplink");
-   }
-   /* rach-TransmissionParameters */
-   if (pvalue->m & 0x40u) {
-      stat = asn1PE_UMTS_RACH_TransmissionParameters(ctx, &pvalue->rach_TransmissionParameters);
-      RT_CHECK(ctx, stat, 0, "rach-TransmissionParameters", -1, "PRACH-PreambleForEnhancedUplink");
-   }
-   /* aich-Info */
-   if (pvalue->m & 0x80u) {
-      stat = asn1PE_UMTS_AICH_Info(ctx, &pvalue->aich_Info);
-      RT_CHECK(ctx, stat, 0, "aich-Info", -1, "PRACH-PreambleForEnhancedUplink");
-   }
-   /* powerOffsetPp-e */
-   if (pvalue->powerOffsetPp_e < -5 || pvalue->powerOffsetPp_e > 10) {
-      rtxErrAddStrParm(ctx, "powerOffsetPp-e");
-      rtxErrAddIntParm(ctx, pvalue->powerOffsetPp_e);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "powerOffsetPp-e", -1, "PRACH-PreambleForEnhancedUplink");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->powerOffsetPp_e, -5, 10);
-   RT_CHECK(ctx, stat, 0, "powerOffsetPp-e", -1, "PRACH-PreambleForEnhancedUplink");
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_TTI(rtxContext* RT_RESTRICT ctx, E_DCH_TTI value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "E-DCH-TTI");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-TTI");
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, E_AGCH_ChannelisationCode value)
-{
-   int stat = 0;
-   stat = pe_ConsUInt64(ctx, value, 0, 255);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-AGCH-ChannelisationCode");
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_Information(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-AGCH-Information");
-   /* e-AGCH-ChannelisationCode */
-   stat = pe_ConsUInt64(ctx, pvalue->e_AGCH_ChannelisationCode, 0, 255);
-   RT_CHECK(ctx, stat, "E-AGCH-ChannelisationCode", "e-AGCH-ChannelisationCode", -1, "E-AGCH-Information");
-   return 0;
-}
-
-int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_harq_Info(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_harq_Info value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_TPC_StepSizeFDD(rtxContext* RT_RESTRICT ctx, TPC_StepSizeFDD value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 1u) {
-      rtxErrAddStrParm(ctx, "TPC-StepSizeFDD");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TPC-StepSizeFDD");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TPC-StepSizeFDD");
-   return 0;
-}
-
-int asn1PE_UMTS_PowerControlAlgorithm(rtxContext* RT_RESTRICT ctx, const PowerControlAlgorithm* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PowerControlAlgorithm");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "PowerControlAlgorithm");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PowerControlAlgorithm");
-   switch (pvalue->t) {
-      case 1:
-         if ((uint64_t)pvalue->u.algorithm1 > 1u) {
-            rtxErrAddStrParm(ctx, "TPC-StepSizeFDD");
-            rtxErrAddUIntParm(ctx, pvalue->u.algorithm1);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "TPC-StepSizeFDD", "algorithm1", -1, "PowerControlAlgorithm");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.algorithm1, 0, 1);
-         RT_CHECK(ctx, stat, "TPC-StepSizeFDD", "algorithm1", -1, "PowerControlAlgorithm");
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DeltaACK(rtxContext* RT_RESTRICT ctx, DeltaACK value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 8u) {
-      rtxErrAddStrParm(ctx, "DeltaACK");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DeltaACK");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DeltaACK");
-   return 0;
-}
-
-int asn1PE_UMTS_DeltaNACK(rtxContext* RT_RESTRICT ctx, DeltaNACK value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 8u) {
-      rtxErrAddStrParm(ctx, "DeltaNACK");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DeltaNACK");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DeltaNACK");
-   return 0;
-}
-
-int asn1PE_UMTS_ACK_NACK_repetitionFactor(rtxContext* RT_RESTRICT ctx, ACK_NACK_repetitionFactor value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 3u) {
-      rtxErrAddStrParm(ctx, "ACK-NACK-repetitionFactor");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "ACK-NACK-repetitionFactor");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ACK-NACK-repetitionFactor");
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCHpowerControlInfoForCommonEDCH(rtxContext* RT_RESTRICT ctx, const UL_DPCHpowerControlInfoForCommonEDCH* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCHpowerControlInfoForCommonEDCH");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DPCHpowerControlInfoForCommonEDCH");
-   /* powerControlAlgorithm */
-   stat = asn1PE_UMTS_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm);
-   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, "UL-DPCHpowerControlInfoForCommonEDCH");
-   /* deltaACK */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->deltaACK > 8u) {
-         rtxErrAddStrParm(ctx, "DeltaACK");
-         rtxErrAddUIntParm(ctx, pvalue->deltaACK);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaACK", "deltaACK", -1, "UL-DPCHpowerControlInfoForCommonEDCH");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->deltaACK, 0, 8);
-      RT_CHECK(ctx, stat, "DeltaACK", "deltaACK", -1, "UL-DPCHpowerControlInfoForCommonEDCH");
-   }
-   /* deltaNACK */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->deltaNACK > 8u) {
-         rtxErrAddStrParm(ctx, "DeltaNACK");
-         rtxErrAddUIntParm(ctx, pvalue->deltaNACK);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaNACK", "deltaNACK", -1, "UL-DPCHpowerControlInfoForCommonEDCH");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->deltaNACK, 0, 8);
-      RT_CHECK(ctx, stat, "DeltaNACK", "deltaNACK", -1, "UL-DPCHpowerControlInfoForCommonEDCH");
-   }
-   /* ack-NACK-repetition-factor */
-   if (pvalue->m & 0x4u) {
-      if ((uint64_t)(pvalue->ack_NACK_repetition_factor - 1) > 3u) {
-         rtxErrAddStrParm(ctx, "ACK-NACK-repetitionFactor");
-         rtxErrAddUIntParm(ctx, pvalue->ack_NACK_repetition_factor);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "ACK-NACK-repetitionFactor", "ack-NACK-repetition-factor", -1, "UL-DPCHpowerControlInfoForCommonEDCH");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ack_NACK_repetition_factor, 1, 4);
-      RT_CHECK(ctx, stat, "ACK-NACK-repetitionFactor", "ack-NACK-repetition-factor", -1, "UL-DPCHpowerControlInfoForCommonEDCH");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_DPCCH_DPCCH_PowerOffset(rtxContext* RT_RESTRICT ctx, E_DPCCH_DPCCH_PowerOffset value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 8u) {
-      rtxErrAddStrParm(ctx, "E-DPCCH-DPCCH-PowerOffset");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "E-DPCCH-DPCCH-PowerOffset");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPCCH-DPCCH-PowerOffset");
-   return 0;
-}
-
-int asn1PE_UMTS_HappyBit_DelayCondition(rtxContext* RT_RESTRICT ctx, HappyBit_DelayCondition value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "HappyBit-DelayCondition");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HappyBit-DelayCondition");
-   return 0;
-}
-
-int asn1PE_UMTS_E_TFC_Boost_Info_r7(rtxContext* RT_RESTRICT ctx, const E_TFC_Boost_Info_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-TFC-Boost-Info-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-TFC-Boost-Info-r7");
-   /* e-TFCI-Boost */
-   if ((uint64_t)pvalue->e_TFCI_Boost > 127u) {
-      rtxErrAddStrParm(ctx, "e-TFCI-Boost");
-      rtxErrAddUIntParm(ctx, pvalue->e_TFCI_Boost);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "e-TFCI-Boost", -1, "E-TFC-Boost-Info-r7");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->e_TFCI_Boost, 0, 127);
-   RT_CHECK(ctx, stat, 0, "e-TFCI-Boost", -1, "E-TFC-Boost-Info-r7");
-   /* delta-T2TP */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->delta_T2TP > 6u) {
-         rtxErrAddStrParm(ctx, "delta-T2TP");
-         rtxErrAddUIntParm(ctx, pvalue->delta_T2TP);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "delta-T2TP", -1, "E-TFC-Boost-Info-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->delta_T2TP, 0, 6);
-      RT_CHECK(ctx, stat, 0, "delta-T2TP", -1, "E-TFC-Boost-Info-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_DPDCH_PowerInterpolation(rtxContext* RT_RESTRICT ctx, E_DPDCH_PowerInterpolation value)
-{
-   int stat = 0;
-   stat = rtxEncBit(ctx, value);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPDCH-PowerInterpolation");
-   return 0;
-}
-
-int asn1PE_UMTS_E_DPCCH_Info_r7(rtxContext* RT_RESTRICT ctx, const E_DPCCH_Info_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-DPCCH-Info-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPCCH-Info-r7");
-   /* e-DPCCH-DPCCH-PowerOffset */
-   if ((uint64_t)pvalue->e_DPCCH_DPCCH_PowerOffset > 8u) {
-      rtxErrAddStrParm(ctx, "E-DPCCH-DPCCH-PowerOffset");
-      rtxErrAddUIntParm(ctx, pvalue->e_DPCCH_DPCCH_PowerOffset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "E-DPCCH-DPCCH-PowerOffset", "e-DPCCH-DPCCH-PowerOffset", -1, "E-DPCCH-Info-r7");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->e_DPCCH_DPCCH_PowerOffset, 0, 8);
-   RT_CHECK(ctx, stat, "E-DPCCH-DPCCH-PowerOffset", "e-DPCCH-DPCCH-PowerOffset", -1, "E-DPCCH-Info-r7");
-   /* happyBit-DelayCondition */
-   if (pvalue->happyBit_DelayCondition > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->happyBit_DelayCondition);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "HappyBit-DelayCondition", "happyBit-DelayCondition", -1, "E-DPCCH-Info-r7");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->happyBit_DelayCondition, 0, 7);
-   RT_CHECK(ctx, stat, "HappyBit-DelayCondition", "happyBit-DelayCondition", -1, "E-DPCCH-Info-r7");
-   /* e-TFC-Boost-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_E_TFC_Boost_Info_r7(ctx, &pvalue->e_TFC_Boost_Info);
-      RT_CHECK(ctx, stat, 0, "e-TFC-Boost-Info", -1, "E-DPCCH-Info-r7");
-   }
-   /* e-DPDCH-PowerInterpolation */
-   if (pvalue->m & 0x2u) {
-      stat = rtxEncBit(ctx, pvalue->e_DPDCH_PowerInterpolation);
-      RT_CHECK(ctx, stat, "E-DPDCH-PowerInterpolation", "e-DPDCH-PowerInterpolation", -1, "E-DPCCH-Info-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_TFCI_TableIndex(rtxContext* RT_RESTRICT ctx, E_TFCI_TableIndex value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 1u) {
-      rtxErrAddStrParm(ctx, "E-TFCI-TableIndex");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "E-TFCI-TableIndex");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-TFCI-TableIndex");
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_MinimumSet_E_TFCI(rtxContext* RT_RESTRICT ctx, E_DCH_MinimumSet_E_TFCI value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 127u) {
-      rtxErrAddStrParm(ctx, "E-DCH-MinimumSet-E-TFCI");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "E-DCH-MinimumSet-E-TFCI");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 127);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-MinimumSet-E-TFCI");
-   return 0;
-}
-
-int asn1PE_UMTS_E_DPDCH_Reference_E_TFCI_r7(rtxContext* RT_RESTRICT ctx, const E_DPDCH_Reference_E_TFCI_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-DPDCH-Reference-E-TFCI-r7");
-   /* reference-E-TFCI */
-   if ((uint64_t)pvalue->reference_E_TFCI > 127u) {
-      rtxErrAddStrParm(ctx, "reference-E-TFCI");
-      rtxErrAddUIntParm(ctx, pvalue->reference_E_TFCI);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "reference-E-TFCI", -1, "E-DPDCH-Reference-E-TFCI-r7");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reference_E_TFCI, 0, 127);
-   RT_CHECK(ctx, stat, 0, "reference-E-TFCI", -1, "E-DPDCH-Reference-E-TFCI-r7");
-   /* reference-E-TFCI-PO-r7 */
-   if ((uint64_t)pvalue->reference_E_TFCI_PO_r7 > 31u) {
-      rtxErrAddStrParm(ctx, "reference-E-TFCI-PO-r7");
-      rtxErrAddUIntParm(ctx, pvalue->reference_E_TFCI_PO_r7);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "reference-E-TFCI-PO-r7", -1, "E-DPDCH-Reference-E-TFCI-r7");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reference_E_TFCI_PO_r7, 0, 31);
-   RT_CHECK(ctx, stat, 0, "reference-E-TFCI-PO-r7", -1, "E-DPDCH-Reference-E-TFCI-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_E_DPDCH_Reference_E_TFCIList_r7(rtxContext* RT_RESTRICT ctx, const E_DPDCH_Reference_E_TFCIList_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-DPDCH-Reference-E-TFCIList-r7");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "E-DPDCH-Reference-E-TFCIList-r7");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "E-DPDCH-Reference-E-TFCI-r7", (int32_t)i, "E-DPDCH-Reference-E-TFCIList-r7");
-      stat = asn1PE_UMTS_E_DPDCH_Reference_E_TFCI_r7(ctx, (const E_DPDCH_Reference_E_TFCI_r7*)node->data);
-      RT_CHECK(ctx, stat, 0, "E-DPDCH-Reference-E-TFCI-r7", (int32_t)i, "E-DPDCH-Reference-E-TFCIList-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MinReduced_E_DPDCH_GainFactor(rtxContext* RT_RESTRICT ctx, MinReduced_E_DPDCH_GainFactor value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MinReduced-E-DPDCH-GainFactor");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MinReduced-E-DPDCH-GainFactor");
-   return 0;
-}
-
-int asn1PE_UMTS_E_DPDCH_MaxChannelisationCodes(rtxContext* RT_RESTRICT ctx, E_DPDCH_MaxChannelisationCodes value)
-{
-   int stat = 0;
-   if (value > 9) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "E-DPDCH-MaxChannelisationCodes");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 9);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPDCH-MaxChannelisationCodes");
-   return 0;
-}
-
-int asn1PE_UMTS_E_DPDCH_PL_NonMax(rtxContext* RT_RESTRICT ctx, E_DPDCH_PL_NonMax value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 11) > 14u) {
-      rtxErrAddStrParm(ctx, "E-DPDCH-PL-NonMax");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "E-DPDCH-PL-NonMax");
-   }
-   stat = pe_ConsUInt64(ctx, value, 11, 25);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPDCH-PL-NonMax");
-   return 0;
-}
-
-int asn1PE_UMTS_E_DPDCH_PeriodicyOfSchedInfo(rtxContext* RT_RESTRICT ctx, E_DPDCH_PeriodicyOfSchedInfo value)
-{
-   int stat = 0;
-   if (value > 8) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "E-DPDCH-PeriodicyOfSchedInfo");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPDCH-PeriodicyOfSchedInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_E_DPDCH_SchedulingInfoConfiguration(rtxContext* RT_RESTRICT ctx, const E_DPDCH_SchedulingInfoConfiguration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-DPDCH-SchedulingInfoConfiguration");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPDCH-SchedulingInfoConfiguration");
-   /* periodicityOfSchedInfo-NoGrant */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->periodicityOfSchedInfo_NoGrant > 8) {
-         rtxErrAddUIntParm(ctx, pvalue->periodicityOfSchedInfo_NoGrant);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "E-DPDCH-PeriodicyOfSchedInfo", "periodicityOfSchedInfo-NoGrant", -1, "E-DPDCH-SchedulingInfoConfiguration");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->periodicityOfSchedInfo_NoGrant, 0, 8);
-      RT_CHECK(ctx, stat, "E-DPDCH-PeriodicyOfSchedInfo", "periodicityOfSchedInfo-NoGrant", -1, "E-DPDCH-SchedulingInfoConfiguration");
-   }
-   /* periodicityOfSchedInfo-Grant */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->periodicityOfSchedInfo_Grant > 8) {
-         rtxErrAddUIntParm(ctx, pvalue->periodicityOfSchedInfo_Grant);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "E-DPDCH-PeriodicyOfSchedInfo", "periodicityOfSchedInfo-Grant", -1, "E-DPDCH-SchedulingInfoConfiguration");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->periodicityOfSchedInfo_Grant, 0, 8);
-      RT_CHECK(ctx, stat, "E-DPDCH-PeriodicyOfSchedInfo", "periodicityOfSchedInfo-Grant", -1, "E-DPDCH-SchedulingInfoConfiguration");
-   }
-   /* powerOffsetForSchedInfo */
-   if ((uint64_t)pvalue->powerOffsetForSchedInfo > 6u) {
-      rtxErrAddStrParm(ctx, "powerOffsetForSchedInfo");
-      rtxErrAddUIntParm(ctx, pvalue->powerOffsetForSchedInfo);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "powerOffsetForSchedInfo", -1, "E-DPDCH-SchedulingInfoConfiguration");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->powerOffsetForSchedInfo, 0, 6);
-   RT_CHECK(ctx, stat, 0, "powerOffsetForSchedInfo", -1, "E-DPDCH-SchedulingInfoConfiguration");
-   return 0;
-}
-
-int asn1PE_UMTS_E_DPDCH_Info_r8(rtxContext* RT_RESTRICT ctx, const E_DPDCH_Info_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-DPDCH-Info-r8");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPDCH-Info-r8");
-   /* e-TFCI-TableIndex */
-   if ((uint64_t)pvalue->e_TFCI_TableIndex > 1u) {
-      rtxErrAddStrParm(ctx, "E-TFCI-TableIndex");
-      rtxErrAddUIntParm(ctx, pvalue->e_TFCI_TableIndex);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "E-TFCI-TableIndex", "e-TFCI-TableIndex", -1, "E-DPDCH-Info-r8");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->e_TFCI_TableIndex, 0, 1);
-   RT_CHECK(ctx, stat, "E-TFCI-TableIndex", "e-TFCI-TableIndex", -1, "E-DPDCH-Info-r8");
-   /* e-DCH-MinimumSet-E-TFCI */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->e_DCH_MinimumSet_E_TFCI > 127u) {
-         rtxErrAddStrParm(ctx, "E-DCH-MinimumSet-E-TFCI");
-         rtxErrAddUIntParm(ctx, pvalue->e_DCH_MinimumSet_E_TFCI);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "E-DCH-MinimumSet-E-TFCI", "e-DCH-MinimumSet-E-TFCI", -1, "E-DPDCH-Info-r8");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->e_DCH_MinimumSet_E_TFCI, 0, 127);
-      RT_CHECK(ctx, stat, "E-DCH-MinimumSet-E-TFCI", "e-DCH-MinimumSet-E-TFCI", -1, "E-DPDCH-Info-r8");
-   }
-   /* reference-E-TFCIs */
-   stat = asn1PE_UMTS_E_DPDCH_Reference_E_TFCIList_r7(ctx, &pvalue->reference_E_TFCIs);
-   RT_CHECK(ctx, stat, 0, "reference-E-TFCIs", -1, "E-DPDCH-Info-r8");
-   /* minReduced-E-DPDCH-GainFactor */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->minReduced_E_DPDCH_GainFactor > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->minReduced_E_DPDCH_GainFactor);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "MinReduced-E-DPDCH-GainFactor", "minReduced-E-DPDCH-GainFactor", -1, "E-DPDCH-Info-r8");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->minReduced_E_DPDCH_GainFactor, 0, 7);
-      RT_CHECK(ctx, stat, "MinReduced-E-DPDCH-GainFactor", "minReduced-E-DPDCH-GainFactor", -1, "E-DPDCH-Info-r8");
-   }
-   /* maxChannelisationCodes */
-   if (pvalue->maxChannelisationCodes > 9) {
-      rtxErrAddUIntParm(ctx, pvalue->maxChannelisationCodes);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "E-DPDCH-MaxChannelisationCodes", "maxChannelisationCodes", -1, "E-DPDCH-Info-r8");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxChannelisationCodes, 0, 9);
-   RT_CHECK(ctx, stat, "E-DPDCH-MaxChannelisationCodes", "maxChannelisationCodes", -1, "E-DPDCH-Info-r8");
-   /* pl-NonMax */
-   if ((uint64_t)(pvalue->pl_NonMax - 11) > 14u) {
-      rtxErrAddStrParm(ctx, "E-DPDCH-PL-NonMax");
-      rtxErrAddUIntParm(ctx, pvalue->pl_NonMax);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "E-DPDCH-PL-NonMax", "pl-NonMax", -1, "E-DPDCH-Info-r8");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pl_NonMax, 11, 25);
-   RT_CHECK(ctx, stat, "E-DPDCH-PL-NonMax", "pl-NonMax", -1, "E-DPDCH-Info-r8");
-   /* schedulingInfoConfiguration */
-   stat = asn1PE_UMTS_E_DPDCH_SchedulingInfoConfiguration(ctx, &pvalue->schedulingInfoConfiguration);
-   RT_CHECK(ctx, stat, 0, "schedulingInfoConfiguration", -1, "E-DPDCH-Info-r8");
-   /* threeIndexStepThreshold */
-   if (pvalue->m & 0x4u) {
-      if ((uint64_t)pvalue->threeIndexStepThreshold > 37u) {
-         rtxErrAddStrParm(ctx, "threeIndexStepThreshold");
-         rtxErrAddUIntParm(ctx, pvalue->threeIndexStepThreshold);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "threeIndexStepThreshold", -1, "E-DPDCH-Info-r8");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->threeIndexStepThreshold, 0, 37);
-      RT_CHECK(ctx, stat, 0, "threeIndexStepThreshold", -1, "E-DPDCH-Info-r8");
-   }
-   /* twoIndexStepThreshold */
-   if (pvalue->m & 0x8u) {
-      if ((uint64_t)pvalue->twoIndexStepThreshold > 37u) {
-         rtxErrAddStrParm(ctx, "twoIndexStepThreshold");
-         rtxErrAddUIntParm(ctx, pvalue->twoIndexStepThreshold);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "twoIndexStepThreshold", -1, "E-DPDCH-Info-r8");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->twoIndexStepThreshold, 0, 37);
-      RT_CHECK(ctx, stat, 0, "twoIndexStepThreshold", -1, "E-DPDCH-Info-r8");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_max_CCCH_ResourceAllocation(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_max_CCCH_ResourceAllocation value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_e_dch_TransmitContinuationOffset(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_e_dch_TransmitContinuationOffset value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementPowerOffset(rtxContext* RT_RESTRICT ctx, MeasurementPowerOffset value)
-{
-   int stat = 0;
-   if (value < -12 || value > 26) {
-      rtxErrAddStrParm(ctx, "MeasurementPowerOffset");
-      rtxErrAddIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MeasurementPowerOffset");
-   }
-   stat = pe_ConsInt64(ctx, value, -12, 26);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementPowerOffset");
-   return 0;
-}
-
-int asn1PE_UMTS_Feedback_cycle_r7(rtxContext* RT_RESTRICT ctx, Feedback_cycle_r7 value)
-{
-   int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "Feedback-cycle-r7");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Feedback-cycle-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_CQI_RepetitionFactor(rtxContext* RT_RESTRICT ctx, CQI_RepetitionFactor value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 3u) {
-      rtxErrAddStrParm(ctx, "CQI-RepetitionFactor");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "CQI-RepetitionFactor");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CQI-RepetitionFactor");
-   return 0;
-}
-
-int asn1PE_UMTS_DeltaCQI(rtxContext* RT_RESTRICT ctx, DeltaCQI value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 8u) {
-      rtxErrAddStrParm(ctx, "DeltaCQI");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DeltaCQI");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DeltaCQI");
-   return 0;
-}
-
-int asn1PE_UMTS_Measurement_Feedback_Info_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const Measurement_Feedback_Info_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* measurementPowerOffset */
-   if (pvalue->measurementPowerOffset < -12 || pvalue->measurementPowerOffset > 26) {
-      rtxErrAddStrParm(ctx, "MeasurementPowerOffset");
-      rtxErrAddIntParm(ctx, pvalue->measurementPowerOffset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementPowerOffset", "measurementPowerOffset", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->measurementPowerOffset, -12, 26);
-   RT_CHECK(ctx, stat, "MeasurementPowerOffset", "measurementPowerOffset", -1, 0);
-   /* feedback-cycle */
-   if (pvalue->feedback_cycle > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->feedback_cycle);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "Feedback-cycle-r7", "feedback-cycle", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->feedback_cycle, 0, 15);
-   RT_CHECK(ctx, stat, "Feedback-cycle-r7", "feedback-cycle", -1, 0);
-   /* cqi-RepetitionFactor */
-   if ((uint64_t)(pvalue->cqi_RepetitionFactor - 1) > 3u) {
-      rtxErrAddStrParm(ctx, "CQI-RepetitionFactor");
-      rtxErrAddUIntParm(ctx, pvalue->cqi_RepetitionFactor);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "CQI-RepetitionFactor", "cqi-RepetitionFactor", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cqi_RepetitionFactor, 1, 4);
-   RT_CHECK(ctx, stat, "CQI-RepetitionFactor", "cqi-RepetitionFactor", -1, 0);
-   /* deltaCQI */
-   if ((uint64_t)pvalue->deltaCQI > 8u) {
-      rtxErrAddStrParm(ctx, "DeltaCQI");
-      rtxErrAddUIntParm(ctx, pvalue->deltaCQI);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaCQI", "deltaCQI", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->deltaCQI, 0, 8);
-   RT_CHECK(ctx, stat, "DeltaCQI", "deltaCQI", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_Measurement_Feedback_Info_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const Measurement_Feedback_Info_r7_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_Measurement_Feedback_Info_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Measurement_Feedback_Info_r7(rtxContext* RT_RESTRICT ctx, const Measurement_Feedback_Info_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Measurement-Feedback-Info-r7");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_Measurement_Feedback_Info_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "Measurement-Feedback-Info-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_E_HICH_RGCH_SignatureSequence(rtxContext* RT_RESTRICT ctx, E_HICH_RGCH_SignatureSequence value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 39u) {
-      rtxErrAddStrParm(ctx, "E-HICH-RGCH-SignatureSequence");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "E-HICH-RGCH-SignatureSequence");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 39);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-HICH-RGCH-SignatureSequence");
-   return 0;
-}
-
-int asn1PE_UMTS_E_RGCH_CombinationIndex(rtxContext* RT_RESTRICT ctx, E_RGCH_CombinationIndex value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 5u) {
-      rtxErrAddStrParm(ctx, "E-RGCH-CombinationIndex");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "E-RGCH-CombinationIndex");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-RGCH-CombinationIndex");
-   return 0;
-}
-
-int asn1PE_UMTS_E_RGCH_Information(rtxContext* RT_RESTRICT ctx, const E_RGCH_Information* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-RGCH-Information");
-   /* signatureSequence */
-   if ((uint64_t)pvalue->signatureSequence > 39u) {
-      rtxErrAddStrParm(ctx, "E-HICH-RGCH-SignatureSequence");
-      rtxErrAddUIntParm(ctx, pvalue->signatureSequence);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "E-HICH-RGCH-SignatureSequence", "signatureSequence", -1, "E-RGCH-Information");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->signatureSequence, 0, 39);
-   RT_CHECK(ctx, stat, "E-HICH-RGCH-SignatureSequence", "signatureSequence", -1, "E-RGCH-Information");
-   /* rg-CombinationIndex */
-   if ((uint64_t)pvalue->rg_CombinationIndex > 5u) {
-      rtxErrAddStrParm(ctx, "E-RGCH-CombinationIndex");
-      rtxErrAddUIntParm(ctx, pvalue->rg_CombinationIndex);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "E-RGCH-CombinationIndex", "rg-CombinationIndex", -1, "E-RGCH-Information");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rg_CombinationIndex, 0, 5);
-   RT_CHECK(ctx, stat, "E-RGCH-CombinationIndex", "rg-CombinationIndex", -1, "E-RGCH-Information");
-   return 0;
-}
-
-int asn1PE_UMTS_E_HICH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, E_HICH_ChannelisationCode value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 127u) {
-      rtxErrAddStrParm(ctx, "E-HICH-ChannelisationCode");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "E-HICH-ChannelisationCode");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 127);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-HICH-ChannelisationCode");
-   return 0;
-}
-
-int asn1PE_UMTS_E_HICH_Information(rtxContext* RT_RESTRICT ctx, const E_HICH_Information* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-HICH-Information");
-   /* channelisationCode */
-   if ((uint64_t)pvalue->channelisationCode > 127u) {
-      rtxErrAddStrParm(ctx, "E-HICH-ChannelisationCode");
-      rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "E-HICH-ChannelisationCode", "channelisationCode", -1, "E-HICH-Information");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode, 0, 127);
-   RT_CHECK(ctx, stat, "E-HICH-ChannelisationCode", "channelisationCode", -1, "E-HICH-Information");
-   /* signatureSequence */
-   if ((uint64_t)pvalue->signatureSequence > 39u) {
-      rtxErrAddStrParm(ctx, "E-HICH-RGCH-SignatureSequence");
-      rtxErrAddUIntParm(ctx, pvalue->signatureSequence);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "E-HICH-RGCH-SignatureSequence", "signatureSequence", -1, "E-HICH-Information");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->signatureSequence, 0, 39);
-   RT_CHECK(ctx, stat, "E-HICH-RGCH-SignatureSequence", "signatureSequence", -1, "E-HICH-Information");
-   return 0;
-}
-
-int asn1PE_UMTS_ScramblingCodeType(rtxContext* RT_RESTRICT ctx, ScramblingCodeType value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ScramblingCodeType");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ScramblingCodeType");
-   return 0;
-}
-
-int asn1PE_UMTS_UL_ScramblingCode(rtxContext* RT_RESTRICT ctx, UL_ScramblingCode value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 16777215u) {
-      rtxErrAddStrParm(ctx, "UL-ScramblingCode");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "UL-ScramblingCode");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 16777215);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-ScramblingCode");
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_CodeInfoForCommonEDCH(rtxContext* RT_RESTRICT ctx, const UL_DPCH_CodeInfoForCommonEDCH* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-CodeInfoForCommonEDCH");
-   /* ul-DPCCHscramblingCodeType */
-   if (pvalue->ul_DPCCHscramblingCodeType > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->ul_DPCCHscramblingCodeType);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ScramblingCodeType", "ul-DPCCHscramblingCodeType", -1, "UL-DPCH-CodeInfoForCommonEDCH");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ul_DPCCHscramblingCodeType, 0, 1);
-   RT_CHECK(ctx, stat, "ScramblingCodeType", "ul-DPCCHscramblingCodeType", -1, "UL-DPCH-CodeInfoForCommonEDCH");
-   /* ul-DPCCHscramblingCode */
-   if ((uint64_t)pvalue->ul_DPCCHscramblingCode > 16777215u) {
-      rtxErrAddStrParm(ctx, "UL-ScramblingCode");
-      rtxErrAddUIntParm(ctx, pvalue->ul_DPCCHscramblingCode);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-ScramblingCode", "ul-DPCCHscramblingCode", -1, "UL-DPCH-CodeInfoForCommonEDCH");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ul_DPCCHscramblingCode, 0, 16777215);
-   RT_CHECK(ctx, stat, "UL-ScramblingCode", "ul-DPCCHscramblingCode", -1, "UL-DPCH-CodeInfoForCommonEDCH");
-   return 0;
-}
-
-int asn1PE_UMTS_Common_E_DCH_ResourceInfoList(rtxContext* RT_RESTRICT ctx, const Common_E_DCH_ResourceInfoList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Common-E-DCH-ResourceInfoList");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Common-E-DCH-ResourceInfoList");
-   /* s-offset */
-   if ((uint64_t)pvalue->s_offset > 9u) {
-      rtxErrAddStrParm(ctx, "s-offset");
-      rtxErrAddUIntParm(ctx, pvalue->s_offset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "s-offset", -1, "Common-E-DCH-ResourceInfoList");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->s_offset, 0, 9);
-   RT_CHECK(ctx, stat, 0, "s-offset", -1, "Common-E-DCH-ResourceInfoList");
-   /* f-dpch-ChannelisationCodeNumber */
-   stat = pe_ConsUInt64(ctx, pvalue->f_dpch_ChannelisationCodeNumber, 0, 255);
-   RT_CHECK(ctx, stat, 0, "f-dpch-ChannelisationCodeNumber", -1, "Common-E-DCH-ResourceInfoList");
-   /* e-RGCH-Information */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_E_RGCH_Information(ctx, &pvalue->e_RGCH_Information);
-      RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, "Common-E-DCH-ResourceInfoList");
-   }
-   /* e-hich-Info */
-   stat = asn1PE_UMTS_E_HICH_Information(ctx, &pvalue->e_hich_Info);
-   RT_CHECK(ctx, stat, 0, "e-hich-Info", -1, "Common-E-DCH-ResourceInfoList");
-   /* ul-DPCH-CodeInfoForCommonEDCH */
-   stat = asn1PE_UMTS_UL_DPCH_CodeInfoForCommonEDCH(ctx, &pvalue->ul_DPCH_CodeInfoForCommonEDCH);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-CodeInfoForCommonEDCH", -1, "Common-E-DCH-ResourceInfoList");
-   return 0;
-}
-
-int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_common_E_DCH_ResourceInfoList(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfo_modeSpecificInfo_fdd_common_E_DCH_ResourceInfoList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "Common-E-DCH-ResourceInfoList", (int32_t)i, 0);
-      stat = asn1PE_UMTS_Common_E_DCH_ResourceInfoList(ctx, (const Common_E_DCH_ResourceInfoList*)node->data);
-      RT_CHECK(ctx, stat, 0, "Common-E-DCH-ResourceInfoList", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* prach-PreambleForEnhancedUplink */
-   stat = asn1PE_UMTS_PRACH_PreambleForEnhancedUplink(ctx, &pvalue->prach_PreambleForEnhancedUplink);
-   RT_CHECK(ctx, stat, 0, "prach-PreambleForEnhancedUplink", -1, 0);
-   /* initialServingGrantValue */
-   if ((uint64_t)pvalue->initialServingGrantValue > 37u) {
-      rtxErrAddStrParm(ctx, "initialServingGrantValue");
-      rtxErrAddUIntParm(ctx, pvalue->initialServingGrantValue);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "initialServingGrantValue", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->initialServingGrantValue, 0, 37);
-   RT_CHECK(ctx, stat, 0, "initialServingGrantValue", -1, 0);
-   /* e-dch-TTI */
-   if (pvalue->e_dch_TTI > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->e_dch_TTI);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "E-DCH-TTI", "e-dch-TTI", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->e_dch_TTI, 0, 1);
-   RT_CHECK(ctx, stat, "E-DCH-TTI", "e-dch-TTI", -1, 0);
-   /* e-agch-Information */
-   stat = asn1PE_UMTS_E_AGCH_Information(ctx, &pvalue->e_agch_Information);
-   RT_CHECK(ctx, stat, 0, "e-agch-Information", -1, 0);
-   /* harq-Info */
-   if (pvalue->harq_Info > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->harq_Info);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "harq-Info", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->harq_Info, 0, 1);
-   RT_CHECK(ctx, stat, 0, "harq-Info", -1, 0);
-   /* ul-DPCHpowerControlInfoForCommonEDCH */
-   stat = asn1PE_UMTS_UL_DPCHpowerControlInfoForCommonEDCH(ctx, &pvalue->ul_DPCHpowerControlInfoForCommonEDCH);
-   RT_CHECK(ctx, stat, 0, "ul-DPCHpowerControlInfoForCommonEDCH", -1, 0);
-   /* e-dpcch-Info */
-   stat = asn1PE_UMTS_E_DPCCH_Info_r7(ctx, &pvalue->e_dpcch_Info);
-   RT_CHECK(ctx, stat, 0, "e-dpcch-Info", -1, 0);
-   /* e-dpdch-Info */
-   stat = asn1PE_UMTS_E_DPDCH_Info_r8(ctx, &pvalue->e_dpdch_Info);
-   RT_CHECK(ctx, stat, 0, "e-dpdch-Info", -1, 0);
-   /* dl-FDPCH-TPCcommandErrorRate */
-   if ((uint64_t)(pvalue->dl_FDPCH_TPCcommandErrorRate - 1) > 9u) {
-      rtxErrAddStrParm(ctx, "dl-FDPCH-TPCcommandErrorRate");
-      rtxErrAddUIntParm(ctx, pvalue->dl_FDPCH_TPCcommandErrorRate);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "dl-FDPCH-TPCcommandErrorRate", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dl_FDPCH_TPCcommandErrorRate, 1, 10);
-   RT_CHECK(ctx, stat, 0, "dl-FDPCH-TPCcommandErrorRate", -1, 0);
-   /* additional-E-DCH-TransmitBackoff */
-   if ((uint64_t)pvalue->additional_E_DCH_TransmitBackoff > 15u) {
-      rtxErrAddStrParm(ctx, "additional-E-DCH-TransmitBackoff");
-      rtxErrAddUIntParm(ctx, pvalue->additional_E_DCH_TransmitBackoff);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "additional-E-DCH-TransmitBackoff", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->additional_E_DCH_TransmitBackoff, 0, 15);
-   RT_CHECK(ctx, stat, 0, "additional-E-DCH-TransmitBackoff", -1, 0);
-   /* max-CCCH-ResourceAllocation */
-   if (pvalue->max_CCCH_ResourceAllocation > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->max_CCCH_ResourceAllocation);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "max-CCCH-ResourceAllocation", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->max_CCCH_ResourceAllocation, 0, 7);
-   RT_CHECK(ctx, stat, 0, "max-CCCH-ResourceAllocation", -1, 0);
-   /* max-PeriodForCollisionResolution */
-   if ((uint64_t)(pvalue->max_PeriodForCollisionResolution - 8) > 16u) {
-      rtxErrAddStrParm(ctx, "max-PeriodForCollisionResolution");
-      rtxErrAddUIntParm(ctx, pvalue->max_PeriodForCollisionResolution);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "max-PeriodForCollisionResolution", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->max_PeriodForCollisionResolution, 8, 24);
-   RT_CHECK(ctx, stat, 0, "max-PeriodForCollisionResolution", -1, 0);
-   /* e-dch-TransmitContinuationOffset */
-   if (pvalue->e_dch_TransmitContinuationOffset > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->e_dch_TransmitContinuationOffset);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "e-dch-TransmitContinuationOffset", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->e_dch_TransmitContinuationOffset, 0, 7);
-   RT_CHECK(ctx, stat, 0, "e-dch-TransmitContinuationOffset", -1, 0);
-   /* ack-nack-support-on-HS-DPCCH */
-   stat = rtxEncBit(ctx, pvalue->ack_nack_support_on_HS_DPCCH);
-   RT_CHECK(ctx, stat, 0, "ack-nack-support-on-HS-DPCCH", -1, 0);
-   /* measurement-Feedback-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_Measurement_Feedback_Info_r7(ctx, &pvalue->measurement_Feedback_Info);
-      RT_CHECK(ctx, stat, 0, "measurement-Feedback-Info", -1, 0);
-   }
-   /* common-E-DCH-ResourceInfoList */
-   stat = asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_common_E_DCH_ResourceInfoList(ctx, &pvalue->common_E_DCH_ResourceInfoList);
-   RT_CHECK(ctx, stat, 0, "common-E-DCH-ResourceInfoList", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_E_RUCCH_Info_TDD128_t_RUCCH(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_TDD128_t_RUCCH value)
-{
-   int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_E_RUCCH_Info_TDD128_t_WAIT(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_TDD128_t_WAIT value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_E_RUCCH_Info_TDD128_t_SI(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_TDD128_t_SI value)
-{
-   int stat = 0;
-   if (value > 6) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_E_RUCCH_AccessServiceClass(rtxContext* RT_RESTRICT ctx, const E_RUCCH_AccessServiceClass* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-RUCCH-AccessServiceClass");
-   stat = asn1PE_UMTS_PRACH_Partitioning_LCR_r4(ctx, pvalue);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-RUCCH-AccessServiceClass");
-   return 0;
-}
-
-int asn1PE_UMTS_SYNC_UL_InfoForE_RUCCH_max_SYNC_UL_Transmissions(rtxContext* RT_RESTRICT ctx, SYNC_UL_InfoForE_RUCCH_max_SYNC_UL_Transmissions value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SYNC_UL_InfoForE_RUCCH(rtxContext* RT_RESTRICT ctx, const SYNC_UL_InfoForE_RUCCH* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SYNC-UL-InfoForE-RUCCH");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SYNC-UL-InfoForE-RUCCH");
-   /* prxUpPCHdes */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->prxUpPCHdes > 62u) {
-         rtxErrAddStrParm(ctx, "prxUpPCHdes");
-         rtxErrAddUIntParm(ctx, pvalue->prxUpPCHdes);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "prxUpPCHdes", -1, "SYNC-UL-InfoForE-RUCCH");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->prxUpPCHdes, 0, 62);
-      RT_CHECK(ctx, stat, 0, "prxUpPCHdes", -1, "SYNC-UL-InfoForE-RUCCH");
-   }
-   /* powerRampStep */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->powerRampStep > 3u) {
-         rtxErrAddStrParm(ctx, "powerRampStep");
-         rtxErrAddUIntParm(ctx, pvalue->powerRampStep);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "powerRampStep", -1, "SYNC-UL-InfoForE-RUCCH");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->powerRampStep, 0, 3);
-      RT_CHECK(ctx, stat, 0, "powerRampStep", -1, "SYNC-UL-InfoForE-RUCCH");
-   }
-   /* max-SYNC-UL-Transmissions */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->max_SYNC_UL_Transmissions > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->max_SYNC_UL_Transmissions);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "max-SYNC-UL-Transmissions", -1, "SYNC-UL-InfoForE-RUCCH");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->max_SYNC_UL_Transmissions, 0, 3);
-      RT_CHECK(ctx, stat, 0, "max-SYNC-UL-Transmissions", -1, "SYNC-UL-InfoForE-RUCCH");
-   }
-   /* e-RUCCH-Sync-UL-Codes-Bitmap */
-   stat = asn1PE_UMTS_Sync_UL_Codes_Bitmap(ctx, pvalue->e_RUCCH_Sync_UL_Codes_Bitmap);
-   RT_CHECK(ctx, stat, 0, "e-RUCCH-Sync-UL-Codes-Bitmap", -1, "SYNC-UL-InfoForE-RUCCH");
-   /* mmax */
-   if ((uint64_t)(pvalue->mmax - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "mmax");
-      rtxErrAddUIntParm(ctx, pvalue->mmax);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "mmax", -1, "SYNC-UL-InfoForE-RUCCH");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mmax, 1, 32);
-   RT_CHECK(ctx, stat, 0, "mmax", -1, "SYNC-UL-InfoForE-RUCCH");
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_ChanCodes_List_LCR(rtxContext* RT_RESTRICT ctx, const PRACH_ChanCodes_List_LCR* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-ChanCodes-List-LCR");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 2);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PRACH-ChanCodes-List-LCR");
-   for (i = 0; i < pvalue->n; i++) {
-      if (pvalue->elem[i] > 27) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "TDD-PRACH-CCode-LCR-r4", "TDD-PRACH-CCode-LCR-r4", (int32_t)i, "PRACH-ChanCodes-List-LCR");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 27);
-      RT_CHECK(ctx, stat, "TDD-PRACH-CCode-LCR-r4", "TDD-PRACH-CCode-LCR-r4", (int32_t)i, "PRACH-ChanCodes-List-LCR");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_Information_LCR(rtxContext* RT_RESTRICT ctx, const PRACH_Information_LCR* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-Information-LCR");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PRACH-Information-LCR");
-   /* timeslot */
-   if ((uint64_t)(pvalue->timeslot - 1) > 5u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber-PRACH-LCR-r4");
-      rtxErrAddUIntParm(ctx, pvalue->timeslot);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber-PRACH-LCR-r4", "timeslot", -1, "PRACH-Information-LCR");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslot, 1, 6);
-   RT_CHECK(ctx, stat, "TimeslotNumber-PRACH-LCR-r4", "timeslot", -1, "PRACH-Information-LCR");
-   /* prach-ChanCodes-list-LCR */
-   stat = asn1PE_UMTS_PRACH_ChanCodes_List_LCR(ctx, &pvalue->prach_ChanCodes_list_LCR);
-   RT_CHECK(ctx, stat, 0, "prach-ChanCodes-list-LCR", -1, "PRACH-Information-LCR");
-   /* midambleShiftAndBurstType */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "PRACH-Information-LCR");
-   /* fpach-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_FPACH_Info_r4(ctx, &pvalue->fpach_Info);
-      RT_CHECK(ctx, stat, 0, "fpach-Info", -1, "PRACH-Information-LCR");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PRACH_Information_LCR_List(rtxContext* RT_RESTRICT ctx, const PRACH_Information_LCR_List* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-Information-LCR-List");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PRACH-Information-LCR-List");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PRACH-Information-LCR", (int32_t)i, "PRACH-Information-LCR-List");
-      stat = asn1PE_UMTS_PRACH_Information_LCR(ctx, (const PRACH_Information_LCR*)node->data);
-      RT_CHECK(ctx, stat, 0, "PRACH-Information-LCR", (int32_t)i, "PRACH-Information-LCR-List");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_RUCCH_Info_TDD128(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-RUCCH-Info-TDD128");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 8) & 1u) << 0), 9);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-RUCCH-Info-TDD128");
-   /* t-RUCCH */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->t_RUCCH > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->t_RUCCH);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "t-RUCCH", -1, "E-RUCCH-Info-TDD128");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_RUCCH, 0, 15);
-      RT_CHECK(ctx, stat, 0, "t-RUCCH", -1, "E-RUCCH-Info-TDD128");
-   }
-   /* n-RUCCH */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->n_RUCCH > 7u) {
-         rtxErrAddStrParm(ctx, "n-RUCCH");
-         rtxErrAddUIntParm(ctx, pvalue->n_RUCCH);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "n-RUCCH", -1, "E-RUCCH-Info-TDD128");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->n_RUCCH, 0, 7);
-      RT_CHECK(ctx, stat, 0, "n-RUCCH", -1, "E-RUCCH-Info-TDD128");
-   }
-   /* t-WAIT */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->t_WAIT > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->t_WAIT);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "t-WAIT", -1, "E-RUCCH-Info-TDD128");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_WAIT, 0, 7);
-      RT_CHECK(ctx, stat, 0, "t-WAIT", -1, "E-RUCCH-Info-TDD128");
-   }
-   /* t-SI */
-   if (pvalue->m & 0x8u) {
-      if (pvalue->t_SI > 6) {
-         rtxErrAddUIntParm(ctx, pvalue->t_SI);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "t-SI", -1, "E-RUCCH-Info-TDD128");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_SI, 0, 6);
-      RT_CHECK(ctx, stat, 0, "t-SI", -1, "E-RUCCH-Info-TDD128");
-   }
-   /* extendedEstimationWindow */
-   if (pvalue->m & 0x10u) {
-      if ((uint64_t)(pvalue->extendedEstimationWindow - 2) > 3u) {
-         rtxErrAddStrParm(ctx, "extendedEstimationWindow");
-         rtxErrAddUIntParm(ctx, pvalue->extendedEstimationWindow);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "extendedEstimationWindow", -1, "E-RUCCH-Info-TDD128");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->extendedEstimationWindow, 2, 5);
-      RT_CHECK(ctx, stat, 0, "extendedEstimationWindow", -1, "E-RUCCH-Info-TDD128");
-   }
-   /* e-RUCCH-AccessServiceClass */
-   if (pvalue->m & 0x20u) {
-      stat = asn1PE_UMTS_E_RUCCH_AccessServiceClass(ctx, &pvalue->e_RUCCH_AccessServiceClass);
-      RT_CHECK(ctx, stat, 0, "e-RUCCH-AccessServiceClass", -1, "E-RUCCH-Info-TDD128");
-   }
-   /* e-RUCCH-PersistenceScalingFactor */
-   if (pvalue->m & 0x40u) {
-      stat = asn1PE_UMTS_PersistenceScalingFactorList(ctx, &pvalue->e_RUCCH_PersistenceScalingFactor);
-      RT_CHECK(ctx, stat, 0, "e-RUCCH-PersistenceScalingFactor", -1, "E-RUCCH-Info-TDD128");
-   }
-   /* sync-UL-InfoForE-RUCCH */
-   if (pvalue->m & 0x80u) {
-      stat = asn1PE_UMTS_SYNC_UL_InfoForE_RUCCH(ctx, &pvalue->sync_UL_InfoForE_RUCCH);
-      RT_CHECK(ctx, stat, 0, "sync-UL-InfoForE-RUCCH", -1, "E-RUCCH-Info-TDD128");
-   }
-   /* prach-information */
-   if (pvalue->m & 0x100u) {
-      stat = asn1PE_UMTS_PRACH_Information_LCR_List(ctx, &pvalue->prach_information);
-      RT_CHECK(ctx, stat, 0, "prach-information", -1, "E-RUCCH-Info-TDD128");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Reference_Beta_QPSK(rtxContext* RT_RESTRICT ctx, const Reference_Beta_QPSK* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Reference-Beta-QPSK");
-   /* reference-Code-Rate */
-   if ((uint64_t)pvalue->reference_Code_Rate > 10u) {
-      rtxErrAddStrParm(ctx, "reference-Code-Rate");
-      rtxErrAddUIntParm(ctx, pvalue->reference_Code_Rate);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "reference-Code-Rate", -1, "Reference-Beta-QPSK");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reference_Code_Rate, 0, 10);
-   RT_CHECK(ctx, stat, 0, "reference-Code-Rate", -1, "Reference-Beta-QPSK");
-   /* reference-Beta */
-   if (pvalue->reference_Beta < -15 || pvalue->reference_Beta > 16) {
-      rtxErrAddStrParm(ctx, "reference-Beta");
-      rtxErrAddIntParm(ctx, pvalue->reference_Beta);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "reference-Beta", -1, "Reference-Beta-QPSK");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->reference_Beta, -15, 16);
-   RT_CHECK(ctx, stat, 0, "reference-Beta", -1, "Reference-Beta-QPSK");
-   return 0;
-}
-
-int asn1PE_UMTS_E_TFCS_Info_reference_Beta_QPSK_List(rtxContext* RT_RESTRICT ctx, const E_TFCS_Info_reference_Beta_QPSK_List* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "Reference-Beta-QPSK", (int32_t)i, 0);
-      stat = asn1PE_UMTS_Reference_Beta_QPSK(ctx, (const Reference_Beta_QPSK*)node->data);
-      RT_CHECK(ctx, stat, 0, "Reference-Beta-QPSK", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Reference_Beta_16QAM(rtxContext* RT_RESTRICT ctx, const Reference_Beta_16QAM* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Reference-Beta-16QAM");
-   /* reference-Code-Rate */
-   if ((uint64_t)pvalue->reference_Code_Rate > 10u) {
-      rtxErrAddStrParm(ctx, "reference-Code-Rate");
-      rtxErrAddUIntParm(ctx, pvalue->reference_Code_Rate);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "reference-Code-Rate", -1, "Reference-Beta-16QAM");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reference_Code_Rate, 0, 10);
-   RT_CHECK(ctx, stat, 0, "reference-Code-Rate", -1, "Reference-Beta-16QAM");
-   /* reference-Beta */
-   if (pvalue->reference_Beta < -15 || pvalue->reference_Beta > 16) {
-      rtxErrAddStrParm(ctx, "reference-Beta");
-      rtxErrAddIntParm(ctx, pvalue->reference_Beta);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "reference-Beta", -1, "Reference-Beta-16QAM");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->reference_Beta, -15, 16);
-   RT_CHECK(ctx, stat, 0, "reference-Beta", -1, "Reference-Beta-16QAM");
-   return 0;
-}
-
-int asn1PE_UMTS_E_TFCS_Info_reference_Beta_16QAM_List(rtxContext* RT_RESTRICT ctx, const E_TFCS_Info_reference_Beta_16QAM_List* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "Reference-Beta-16QAM", (int32_t)i, 0);
-      stat = asn1PE_UMTS_Reference_Beta_16QAM(ctx, (const Reference_Beta_16QAM*)node->data);
-      RT_CHECK(ctx, stat, 0, "Reference-Beta-16QAM", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_TFCS_Info(rtxContext* RT_RESTRICT ctx, const E_TFCS_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-TFCS-Info");
-   /* reference-Beta-QPSK-List */
-   stat = asn1PE_UMTS_E_TFCS_Info_reference_Beta_QPSK_List(ctx, &pvalue->reference_Beta_QPSK_List);
-   RT_CHECK(ctx, stat, 0, "reference-Beta-QPSK-List", -1, "E-TFCS-Info");
-   /* reference-Beta-16QAM-List */
-   stat = asn1PE_UMTS_E_TFCS_Info_reference_Beta_16QAM_List(ctx, &pvalue->reference_Beta_16QAM_List);
-   RT_CHECK(ctx, stat, 0, "reference-Beta-16QAM-List", -1, "E-TFCS-Info");
-   return 0;
-}
-
-int asn1PE_UMTS_E_PUCH_Info_TDD128_snpl_ReportType(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_TDD128_snpl_ReportType value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_TPC_StepSizeTDD(rtxContext* RT_RESTRICT ctx, TPC_StepSizeTDD value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 2u) {
-      rtxErrAddStrParm(ctx, "TPC-StepSizeTDD");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TPC-StepSizeTDD");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TPC-StepSizeTDD");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_AccessServiceClass_TDD_r7_subchannelSize_size16, pvalue);
 }
 

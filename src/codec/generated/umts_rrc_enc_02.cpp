@@ -6,46 +6,748 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PE_UMTS_UL_SynchronisationParameters_r4(rtxContext* RT_RESTRICT ctx, const UL_SynchronisationParameters_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-SynchronisationParameters-r4");
-   /* stepSize */
-   if ((uint64_t)(pvalue->stepSize - 1) > 7u) {
-      rtxErrAddStrParm(ctx, "stepSize");
-      rtxErrAddUIntParm(ctx, pvalue->stepSize);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "stepSize", -1, "UL-SynchronisationParameters-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->stepSize, 1, 8);
-   RT_CHECK(ctx, stat, 0, "stepSize", -1, "UL-SynchronisationParameters-r4");
-   /* frequency */
-   if ((uint64_t)(pvalue->frequency - 1) > 7u) {
-      rtxErrAddStrParm(ctx, "frequency");
-      rtxErrAddUIntParm(ctx, pvalue->frequency);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "frequency", -1, "UL-SynchronisationParameters-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->frequency, 1, 8);
-   RT_CHECK(ctx, stat, 0, "frequency", -1, "UL-SynchronisationParameters-r4");
-   return 0;
-}
+/* The bodies of this unit. */
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_r7_subchannelSize(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_r7_subchannelSize* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_r7(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ASCSetting_TDD_r7(rtxContext* RT_RESTRICT ctx, const ASCSetting_TDD_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PRACH_Partitioning_r7_tdd(rtxContext* RT_RESTRICT ctx, const PRACH_Partitioning_r7_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_PRACH_Partitioning_r7(rtxContext* RT_RESTRICT ctx, const PRACH_Partitioning_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PRACH_SystemInformation_VHCR_r7(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformation_VHCR_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_PRACH_SystemInformationList_VHCR_r7(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformationList_VHCR_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PRACH_RACH_Info_LCR_v770ext(rtxContext* RT_RESTRICT ctx, const PRACH_RACH_Info_LCR_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PRACH_SystemInformation_LCR_v770ext(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformation_LCR_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PRACH_SystemInformationList_LCR_v770ext(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformationList_LCR_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType5_v770ext_IEs_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v770ext_IEs_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_r7_burstType_type1(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type1* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_r7_burstType_type2(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_r7_burstType_type3(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type3* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_r7_burstType(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_MidambleShiftAndBurstType_r7(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IndividualTimeslotInfo_r7(rtxContext* RT_RESTRICT ctx, const IndividualTimeslotInfo_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SCCPCH_ChannelisationCode_VHCR(rtxContext* RT_RESTRICT ctx, SCCPCH_ChannelisationCode_VHCR value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SCCPCH_ChannelisationCodeList_VHCR(rtxContext* RT_RESTRICT ctx, const SCCPCH_ChannelisationCodeList_VHCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecondaryCCPCH_Info_HCR_VHCR_r7(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_HCR_VHCR_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TDD768_PICH_CCode(rtxContext* RT_RESTRICT ctx, TDD768_PICH_CCode value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PICH_Info_HCR_VHCR_r7_channelisationCode(rtxContext* RT_RESTRICT ctx, const PICH_Info_HCR_VHCR_r7_channelisationCode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PICH_Info_HCR_VHCR_r7(rtxContext* RT_RESTRICT ctx, const PICH_Info_HCR_VHCR_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_SCCPCH_SystemInformation_HCR_VHCR_r7(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation_HCR_VHCR_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SCCPCH_SystemInformationList_HCR_VHCR_r7(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformationList_HCR_VHCR_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd_modulation(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd_modulation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DownlinkAdditionalTimeslots_r7_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_r7_parameters_sameAsLast* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DownlinkAdditionalTimeslots_r7_parameters_newParameters(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_r7_parameters_newParameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DownlinkAdditionalTimeslots_r7_parameters(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_r7_parameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DownlinkAdditionalTimeslots_r7(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DownlinkTimeslotsCodes_r7_moreTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_r7_moreTimeslots* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DownlinkTimeslotsCodes_r7(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384_modulation(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384_modulation value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768_modulation(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768_modulation value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TimeSlotLCR_ext(rtxContext* RT_RESTRICT ctx, TimeSlotLCR_ext value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128_modulation(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128_modulation value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecondaryCCPCHInfo_MBMS_r7(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMCCH(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation_MBMS_r7_fachCarryingMCCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMSCH(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation_MBMS_r7_fachCarryingMSCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SCCPCH_SystemInformation_MBMS_r7(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation_MBMS_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType5_v770ext_IEs_sccpch_SystemInformation_MBMS(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v770ext_IEs_sccpch_SystemInformation_MBMS* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TDD_MBSFNTSlotInfo(rtxContext* RT_RESTRICT ctx, const TDD_MBSFNTSlotInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TDD_MBSFNInformation(rtxContext* RT_RESTRICT ctx, const TDD_MBSFNInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_SysInfoType5_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v770ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType5_v860ext_IEs_dummy(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v860ext_IEs_dummy* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_T_321(rtxContext* RT_RESTRICT ctx, T_321 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_DSCH_DrxCycleFach(rtxContext* RT_RESTRICT ctx, HS_DSCH_DrxCycleFach value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_DSCH_DrxBurstFach(rtxContext* RT_RESTRICT ctx, HS_DSCH_DrxBurstFach value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_DSCH_DrxCellfach_info(rtxContext* RT_RESTRICT ctx, const HS_DSCH_DrxCellfach_info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_ChannelisationCode_LCR(rtxContext* RT_RESTRICT ctx, HS_ChannelisationCode_LCR value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_TDD128_r6_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD128_r6_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD128_r6_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SICH_Configuration_TDD128_r6(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD128_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_HS_SCCH_TDD128_r6(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD128_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_SystemInfo_TDD128_hs_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_SystemInfo_TDD128_hs_SCCH_SetConfiguration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_SystemInfo_TDD128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_SystemInfo_TDD128_tpc_step_size value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Bler_Target(rtxContext* RT_RESTRICT ctx, Bler_Target value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_SystemInfo_TDD128(rtxContext* RT_RESTRICT ctx, const HS_SCCH_SystemInfo_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_PDSCH_Midamble_Configuration_TDD128_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_PDSCH_Midamble_Configuration_TDD128_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_PDSCH_Midamble_Configuration_TDD128(rtxContext* RT_RESTRICT ctx, const HS_PDSCH_Midamble_Configuration_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_DSCH_CommonSystemInformation_TDD128_common_H_RNTI_information(rtxContext* RT_RESTRICT ctx, const HS_DSCH_CommonSystemInformation_TDD128_common_H_RNTI_information* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_HS_DSCH_CommonSystemInformation_TDD128(rtxContext* RT_RESTRICT ctx, const HS_DSCH_CommonSystemInformation_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_OccurrenceSequenceNumberOfPICH(rtxContext* RT_RESTRICT ctx, OccurrenceSequenceNumberOfPICH value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PICH_ForHSDPASupportedPaging_TDD128_implicit(rtxContext* RT_RESTRICT ctx, const PICH_ForHSDPASupportedPaging_TDD128_implicit* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PICH_ForHSDPASupportedPaging_TDD128(rtxContext* RT_RESTRICT ctx, const PICH_ForHSDPASupportedPaging_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_DSCH_PagingSystemInformation_TDD128_pich_ForHsdschList(rtxContext* RT_RESTRICT ctx, const HS_DSCH_PagingSystemInformation_TDD128_pich_ForHsdschList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CodeResourceInformation_TDD128(rtxContext* RT_RESTRICT ctx, const CodeResourceInformation_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PCCH_InformationList_paging_associatedHspdschInfo_element(rtxContext* RT_RESTRICT ctx, const PCCH_InformationList_paging_associatedHspdschInfo_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PCCH_InformationList_paging_associatedHspdschInfo(rtxContext* RT_RESTRICT ctx, const PCCH_InformationList_paging_associatedHspdschInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PCCH_InformationList_transportBlockSizeList(rtxContext* RT_RESTRICT ctx, const PCCH_InformationList_transportBlockSizeList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PCCH_InformationList(rtxContext* RT_RESTRICT ctx, const PCCH_InformationList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_DSCH_PagingSystemInformation_TDD128(rtxContext* RT_RESTRICT ctx, const HS_DSCH_PagingSystemInformation_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128_hs_dsch_CommonSysInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128_hs_dsch_CommonSysInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_DSCH_DrxCellfach_info_TDD128(rtxContext* RT_RESTRICT ctx, const HS_DSCH_DrxCellfach_info_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_SysInfoType5_v860ext_IEs_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v860ext_IEs_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType5_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v860ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UARFCN(rtxContext* RT_RESTRICT ctx, UARFCN value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_FrequencyInfoTDD(rtxContext* RT_RESTRICT ctx, const FrequencyInfoTDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_MAC_d_FlowIdentity(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowIdentity value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_MAC_d_FlowPowerOffset(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowPowerOffset value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_MAC_d_FlowMaxRetrans(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowMaxRetrans value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_MAC_d_FlowMultiplexingList(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowMultiplexingList value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_MAC_d_FlowRetransTimer(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowRetransTimer value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Common_E_DCH_MAC_d_Flow(rtxContext* RT_RESTRICT ctx, const Common_E_DCH_MAC_d_Flow* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Common_E_DCH_MAC_d_FlowList(rtxContext* RT_RESTRICT ctx, const Common_E_DCH_MAC_d_FlowList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_PRACH_PreambleForEnhancedUplink(rtxContext* RT_RESTRICT ctx, const PRACH_PreambleForEnhancedUplink* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_TTI(rtxContext* RT_RESTRICT ctx, E_DCH_TTI value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_AGCH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, E_AGCH_ChannelisationCode value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_AGCH_Information(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CommonEDCHSystemInfo_modeSpecificInfo_fdd_harq_Info(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_harq_Info value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TPC_StepSizeFDD(rtxContext* RT_RESTRICT ctx, TPC_StepSizeFDD value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PowerControlAlgorithm(rtxContext* RT_RESTRICT ctx, const PowerControlAlgorithm* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DeltaACK(rtxContext* RT_RESTRICT ctx, DeltaACK value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DeltaNACK(rtxContext* RT_RESTRICT ctx, DeltaNACK value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ACK_NACK_repetitionFactor(rtxContext* RT_RESTRICT ctx, ACK_NACK_repetitionFactor value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCHpowerControlInfoForCommonEDCH(rtxContext* RT_RESTRICT ctx, const UL_DPCHpowerControlInfoForCommonEDCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DPCCH_DPCCH_PowerOffset(rtxContext* RT_RESTRICT ctx, E_DPCCH_DPCCH_PowerOffset value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HappyBit_DelayCondition(rtxContext* RT_RESTRICT ctx, HappyBit_DelayCondition value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_TFC_Boost_Info_r7(rtxContext* RT_RESTRICT ctx, const E_TFC_Boost_Info_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DPDCH_PowerInterpolation(rtxContext* RT_RESTRICT ctx, E_DPDCH_PowerInterpolation value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DPCCH_Info_r7(rtxContext* RT_RESTRICT ctx, const E_DPCCH_Info_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_TFCI_TableIndex(rtxContext* RT_RESTRICT ctx, E_TFCI_TableIndex value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_MinimumSet_E_TFCI(rtxContext* RT_RESTRICT ctx, E_DCH_MinimumSet_E_TFCI value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DPDCH_Reference_E_TFCI_r7(rtxContext* RT_RESTRICT ctx, const E_DPDCH_Reference_E_TFCI_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DPDCH_Reference_E_TFCIList_r7(rtxContext* RT_RESTRICT ctx, const E_DPDCH_Reference_E_TFCIList_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MinReduced_E_DPDCH_GainFactor(rtxContext* RT_RESTRICT ctx, MinReduced_E_DPDCH_GainFactor value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DPDCH_MaxChannelisationCodes(rtxContext* RT_RESTRICT ctx, E_DPDCH_MaxChannelisationCodes value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DPDCH_PL_NonMax(rtxContext* RT_RESTRICT ctx, E_DPDCH_PL_NonMax value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DPDCH_PeriodicyOfSchedInfo(rtxContext* RT_RESTRICT ctx, E_DPDCH_PeriodicyOfSchedInfo value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DPDCH_SchedulingInfoConfiguration(rtxContext* RT_RESTRICT ctx, const E_DPDCH_SchedulingInfoConfiguration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_E_DPDCH_Info_r8(rtxContext* RT_RESTRICT ctx, const E_DPDCH_Info_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CommonEDCHSystemInfo_modeSpecificInfo_fdd_max_CCCH_ResourceAllocation(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_max_CCCH_ResourceAllocation value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CommonEDCHSystemInfo_modeSpecificInfo_fdd_e_dch_TransmitContinuationOffset(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_e_dch_TransmitContinuationOffset value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementPowerOffset(rtxContext* RT_RESTRICT ctx, MeasurementPowerOffset value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Feedback_cycle_r7(rtxContext* RT_RESTRICT ctx, Feedback_cycle_r7 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CQI_RepetitionFactor(rtxContext* RT_RESTRICT ctx, CQI_RepetitionFactor value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DeltaCQI(rtxContext* RT_RESTRICT ctx, DeltaCQI value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Measurement_Feedback_Info_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const Measurement_Feedback_Info_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Measurement_Feedback_Info_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const Measurement_Feedback_Info_r7_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Measurement_Feedback_Info_r7(rtxContext* RT_RESTRICT ctx, const Measurement_Feedback_Info_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_HICH_RGCH_SignatureSequence(rtxContext* RT_RESTRICT ctx, E_HICH_RGCH_SignatureSequence value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_RGCH_CombinationIndex(rtxContext* RT_RESTRICT ctx, E_RGCH_CombinationIndex value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_RGCH_Information(rtxContext* RT_RESTRICT ctx, const E_RGCH_Information* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_HICH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, E_HICH_ChannelisationCode value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_HICH_Information(rtxContext* RT_RESTRICT ctx, const E_HICH_Information* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ScramblingCodeType(rtxContext* RT_RESTRICT ctx, ScramblingCodeType value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_ScramblingCode(rtxContext* RT_RESTRICT ctx, UL_ScramblingCode value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_CodeInfoForCommonEDCH(rtxContext* RT_RESTRICT ctx, const UL_DPCH_CodeInfoForCommonEDCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Common_E_DCH_ResourceInfoList(rtxContext* RT_RESTRICT ctx, const Common_E_DCH_ResourceInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CommonEDCHSystemInfo_modeSpecificInfo_fdd_common_E_DCH_ResourceInfoList(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfo_modeSpecificInfo_fdd_common_E_DCH_ResourceInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_CommonEDCHSystemInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_RUCCH_Info_TDD128_t_RUCCH(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_TDD128_t_RUCCH value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_RUCCH_Info_TDD128_t_WAIT(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_TDD128_t_WAIT value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_RUCCH_Info_TDD128_t_SI(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_TDD128_t_SI value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_RUCCH_AccessServiceClass(rtxContext* RT_RESTRICT ctx, const E_RUCCH_AccessServiceClass* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SYNC_UL_InfoForE_RUCCH_max_SYNC_UL_Transmissions(rtxContext* RT_RESTRICT ctx, SYNC_UL_InfoForE_RUCCH_max_SYNC_UL_Transmissions value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SYNC_UL_InfoForE_RUCCH(rtxContext* RT_RESTRICT ctx, const SYNC_UL_InfoForE_RUCCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PRACH_ChanCodes_List_LCR(rtxContext* RT_RESTRICT ctx, const PRACH_ChanCodes_List_LCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PRACH_Information_LCR(rtxContext* RT_RESTRICT ctx, const PRACH_Information_LCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_PRACH_Information_LCR_List(rtxContext* RT_RESTRICT ctx, const PRACH_Information_LCR_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_RUCCH_Info_TDD128(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Reference_Beta_QPSK(rtxContext* RT_RESTRICT ctx, const Reference_Beta_QPSK* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_TFCS_Info_reference_Beta_QPSK_List(rtxContext* RT_RESTRICT ctx, const E_TFCS_Info_reference_Beta_QPSK_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Reference_Beta_16QAM(rtxContext* RT_RESTRICT ctx, const Reference_Beta_16QAM* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_TFCS_Info_reference_Beta_16QAM_List(rtxContext* RT_RESTRICT ctx, const E_TFCS_Info_reference_Beta_16QAM_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_TFCS_Info(rtxContext* RT_RESTRICT ctx, const E_TFCS_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_PUCH_Info_TDD128_snpl_ReportType(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_TDD128_snpl_ReportType value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TPC_StepSizeTDD(rtxContext* RT_RESTRICT ctx, TPC_StepSizeTDD value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_SynchronisationParameters_r4(rtxContext* RT_RESTRICT ctx, const UL_SynchronisationParameters_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_PUCH_TS_Slots_LCR_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const E_PUCH_TS_Slots_LCR_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_PUCH_TS_Slots_LCR(rtxContext* RT_RESTRICT ctx, const E_PUCH_TS_Slots_LCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_PUCH_Info_TDD128_e_PUCH_TS_ConfigurationList(rtxContext* RT_RESTRICT ctx, const E_PUCH_Info_TDD128_e_PUCH_TS_ConfigurationList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_PUCH_Info_TDD128_retransTimerForSchedInfo(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_TDD128_retransTimerForSchedInfo value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_PUCH_Info_TDD128(rtxContext* RT_RESTRICT ctx, const E_PUCH_Info_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_HICH_Information_LCR_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_LCR_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_HICH_Information_LCR(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_LCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_HICH_Information_LCR_List(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_LCR_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_HICH_Information_TDD128(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_AGCH_Individual_LCR_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const E_AGCH_Individual_LCR_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_AGCH_Individual_LCR(rtxContext* RT_RESTRICT ctx, const E_AGCH_Individual_LCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_AGCH_Set_Config_LCR(rtxContext* RT_RESTRICT ctx, const E_AGCH_Set_Config_LCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_AGCH_Information_TDD128(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_harq_Info(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_harq_Info value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_RNTI(rtxContext* RT_RESTRICT ctx, E_RNTI value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Common_E_RNTI_Info_element(rtxContext* RT_RESTRICT ctx, const Common_E_RNTI_Info_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Common_E_RNTI_Info(rtxContext* RT_RESTRICT ctx, const Common_E_RNTI_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info_harq_retransmission_timer(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info_harq_retransmission_timer value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CommonEDCHSystemInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CommonEDCHSystemInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CommonEDCHSystemInfo(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType5_v890ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v890ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType5_v8b0ext_IEs_tresetUsageIndicator(rtxContext* RT_RESTRICT ctx, SysInfoType5_v8b0ext_IEs_tresetUsageIndicator value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UpPCHposition_LCR(rtxContext* RT_RESTRICT ctx, UpPCHposition_LCR value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType5_v8b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v8b0ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CommonEDCHSystemInfoFDD_harq_Info(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfoFDD_harq_Info value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CommonEDCHSystemInfoFDD_max_CCCH_ResourceAllocation(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfoFDD_max_CCCH_ResourceAllocation value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CommonEDCHSystemInfoFDD_e_dch_TransmitContinuationOffset(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfoFDD_e_dch_TransmitContinuationOffset value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CommonEDCHSystemInfoFDD_common_E_DCH_ResourceInfoList(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfoFDD_common_E_DCH_ResourceInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_CommonEDCHSystemInfoFDD(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfoFDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType5_v8d0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v8d0ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType5_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_SysInfoType5(rtxContext* RT_RESTRICT ctx, const SysInfoType5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RAT_Type(rtxContext* RT_RESTRICT ctx, RAT_Type value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_FACH_MeasurementOccasionInfo_inter_RAT_meas_ind(rtxContext* RT_RESTRICT ctx, const FACH_MeasurementOccasionInfo_inter_RAT_meas_ind* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_FACH_MeasurementOccasionInfo(rtxContext* RT_RESTRICT ctx, const FACH_MeasurementOccasionInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementIdentity(rtxContext* RT_RESTRICT ctx, MeasurementIdentity value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqCellID(rtxContext* RT_RESTRICT ctx, IntraFreqCellID value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RemovedIntraFreqCellList_removeSomeIntraFreqCells(rtxContext* RT_RESTRICT ctx, const RemovedIntraFreqCellList_removeSomeIntraFreqCells* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RemovedIntraFreqCellList(rtxContext* RT_RESTRICT ctx, const RemovedIntraFreqCellList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellIndividualOffset(rtxContext* RT_RESTRICT ctx, CellIndividualOffset value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ReferenceTimeDifferenceToCell(rtxContext* RT_RESTRICT ctx, const ReferenceTimeDifferenceToCell* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PrimaryScramblingCode(rtxContext* RT_RESTRICT ctx, PrimaryScramblingCode value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PrimaryCPICH_Info(rtxContext* RT_RESTRICT ctx, const PrimaryCPICH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellInfoSI_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellInfoSI_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_BurstType(rtxContext* RT_RESTRICT ctx, BurstType value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TimeslotInfo(rtxContext* RT_RESTRICT ctx, const TimeslotInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TimeslotInfoList(rtxContext* RT_RESTRICT ctx, const TimeslotInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellInfoSI_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellInfoSI_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellInfoSI_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellInfoSI_RSCP_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Q_OffsetS_N(rtxContext* RT_RESTRICT ctx, Q_OffsetS_N value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_CellSelectReselectInfoSIB_11_12_RSCP(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_CellInfoSI_RSCP(rtxContext* RT_RESTRICT ctx, const CellInfoSI_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewIntraFreqCellSI_RSCP(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewIntraFreqCellSI_List_RSCP(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_List_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqCellInfoSI_List_RSCP(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoSI_List_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_FilterCoefficient(rtxContext* RT_RESTRICT ctx, FilterCoefficient value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqMeasQuantity_FDD(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_FDD value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqMeasQuantity_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasQuantity_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqMeasQuantity_TDD(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_TDD value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqMeasQuantity_TDDList(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasQuantity_TDDList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqMeasQuantity_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasQuantity_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqMeasQuantity_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasQuantity_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqMeasQuantity(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasQuantity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SFN_SFN_OTD_Type(rtxContext* RT_RESTRICT ctx, SFN_SFN_OTD_Type value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqRepQuantityRACH_FDD(rtxContext* RT_RESTRICT ctx, IntraFreqRepQuantityRACH_FDD value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqRepQuantityRACH_TDD(rtxContext* RT_RESTRICT ctx, IntraFreqRepQuantityRACH_TDD value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqRepQuantityRACH_TDDList(rtxContext* RT_RESTRICT ctx, const IntraFreqRepQuantityRACH_TDDList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqReportingQuantityForRACH_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingQuantityForRACH_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqReportingQuantityForRACH(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingQuantityForRACH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaxReportedCellsOnRACH(rtxContext* RT_RESTRICT ctx, MaxReportedCellsOnRACH value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellReportingQuantities_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellReportingQuantities_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellReportingQuantities_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellReportingQuantities_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellReportingQuantities_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellReportingQuantities_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_CellReportingQuantities(rtxContext* RT_RESTRICT ctx, const CellReportingQuantities* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqReportingQuantity(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingQuantity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TransferMode(rtxContext* RT_RESTRICT ctx, TransferMode value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PeriodicalOrEventTrigger(rtxContext* RT_RESTRICT ctx, PeriodicalOrEventTrigger value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementReportingMode(rtxContext* RT_RESTRICT ctx, const MeasurementReportingMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TriggeringCondition2(rtxContext* RT_RESTRICT ctx, TriggeringCondition2 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ReportingRange(rtxContext* RT_RESTRICT ctx, ReportingRange value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ForbiddenAffectCell(rtxContext* RT_RESTRICT ctx, const ForbiddenAffectCell* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_ForbiddenAffectCellList(rtxContext* RT_RESTRICT ctx, const ForbiddenAffectCellList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_W(rtxContext* RT_RESTRICT ctx, W value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ReportDeactivationThreshold(rtxContext* RT_RESTRICT ctx, ReportDeactivationThreshold value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ReportingAmount(rtxContext* RT_RESTRICT ctx, ReportingAmount value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ReportingInterval(rtxContext* RT_RESTRICT ctx, ReportingInterval value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Event1a(rtxContext* RT_RESTRICT ctx, const Event1a* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TriggeringCondition1(rtxContext* RT_RESTRICT ctx, TriggeringCondition1 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Event1b(rtxContext* RT_RESTRICT ctx, const Event1b* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ReplacementActivationThreshold(rtxContext* RT_RESTRICT ctx, ReplacementActivationThreshold value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Event1c(rtxContext* RT_RESTRICT ctx, const Event1c* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ThresholdUsedFrequency(rtxContext* RT_RESTRICT ctx, ThresholdUsedFrequency value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Event1e(rtxContext* RT_RESTRICT ctx, const Event1e* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Event1f(rtxContext* RT_RESTRICT ctx, const Event1f* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqEvent(rtxContext* RT_RESTRICT ctx, const IntraFreqEvent* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Hysteresis(rtxContext* RT_RESTRICT ctx, Hysteresis value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TimeToTrigger(rtxContext* RT_RESTRICT ctx, TimeToTrigger value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaxNumberOfReportingCellsType1(rtxContext* RT_RESTRICT ctx, MaxNumberOfReportingCellsType1 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaxNumberOfReportingCellsType3(rtxContext* RT_RESTRICT ctx, MaxNumberOfReportingCellsType3 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaxNumberOfReportingCellsType2(rtxContext* RT_RESTRICT ctx, MaxNumberOfReportingCellsType2 value, rtxEncCur* RT_RESTRICT cur);
+static int enc_ReportingCellStatus(rtxContext* RT_RESTRICT ctx, const ReportingCellStatus* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_IntraFreqEventCriteria(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteria* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqEventCriteriaList(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteriaList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqReportingCriteria(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingCriteria* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ReportingIntervalLong(rtxContext* RT_RESTRICT ctx, ReportingIntervalLong value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PeriodicalReportingCriteria(rtxContext* RT_RESTRICT ctx, const PeriodicalReportingCriteria* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellDCH_ReportCriteria(rtxContext* RT_RESTRICT ctx, const CellDCH_ReportCriteria* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_ReportingInfoForCellDCH(rtxContext* RT_RESTRICT ctx, const ReportingInfoForCellDCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_IntraFreqMeasurementSysInfo_RSCP(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasurementSysInfo_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqCellID(rtxContext* RT_RESTRICT ctx, InterFreqCellID value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RemovedInterFreqCellList_removeSomeInterFreqCells(rtxContext* RT_RESTRICT ctx, const RemovedInterFreqCellList_removeSomeInterFreqCells* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RemovedInterFreqCellList(rtxContext* RT_RESTRICT ctx, const RemovedInterFreqCellList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_FrequencyInfoFDD(rtxContext* RT_RESTRICT ctx, const FrequencyInfoFDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_FrequencyInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const FrequencyInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_FrequencyInfo(rtxContext* RT_RESTRICT ctx, const FrequencyInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewInterFreqCellSI_RSCP(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_NewInterFreqCellSI_List_RSCP(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_List_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqCellInfoSI_List_RSCP(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoSI_List_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqMeasurementSysInfo_RSCP(rtxContext* RT_RESTRICT ctx, const InterFreqMeasurementSysInfo_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellInfoSI_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellInfoSI_ECN0_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellInfoSI_ECN0_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellInfoSI_ECN0_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellInfoSI_ECN0_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellInfoSI_ECN0_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_gsm* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_CellSelectReselectInfoSIB_11_12_ECN0(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_CellInfoSI_ECN0(rtxContext* RT_RESTRICT ctx, const CellInfoSI_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewIntraFreqCellSI_ECN0(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewIntraFreqCellSI_List_ECN0(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_List_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqCellInfoSI_List_ECN0(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoSI_List_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_IntraFreqMeasurementSysInfo_ECN0(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasurementSysInfo_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewInterFreqCellSI_ECN0(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_NewInterFreqCellSI_List_ECN0(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_List_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqCellInfoSI_List_ECN0(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoSI_List_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqMeasurementSysInfo_ECN0(rtxContext* RT_RESTRICT ctx, const InterFreqMeasurementSysInfo_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterRATCellID(rtxContext* RT_RESTRICT ctx, InterRATCellID value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RemovedInterRATCellList_removeSomeInterRATCells(rtxContext* RT_RESTRICT ctx, const RemovedInterRATCellList_removeSomeInterRATCells* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RemovedInterRATCellList(rtxContext* RT_RESTRICT ctx, const RemovedInterRATCellList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TemporaryOffset1(rtxContext* RT_RESTRICT ctx, TemporaryOffset1 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PenaltyTime_RSCP(rtxContext* RT_RESTRICT ctx, const PenaltyTime_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HCS_CellReselectInformation_RSCP(rtxContext* RT_RESTRICT ctx, const HCS_CellReselectInformation_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HCS_NeighbouringCellInformation_RSCP(rtxContext* RT_RESTRICT ctx, const HCS_NeighbouringCellInformation_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
 
-int asn1PE_UMTS_E_PUCH_TS_Slots_LCR_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const E_PUCH_TS_Slots_LCR_midambleAllocationMode* RT_RESTRICT pvalue)
+/* Bodies held by other units. */
+RT_ENCODE_EXTERN(AccessServiceClass_TDD_r7_subchannelSize_size2)
+RT_ENCODE_EXTERN(AccessServiceClass_TDD_r7_subchannelSize_size4)
+RT_ENCODE_EXTERN(AccessServiceClass_TDD_r7_subchannelSize_size8)
+RT_ENCODE_EXTERN(AccessServiceClass_TDD_r7_subchannelSize_size16)
+RT_ENCODE_EXTERN_VALUE(AccessServiceClass_TDD_r7_channelisationCodeIndices)
+RT_ENCODE_EXTERN(PRACH_Partitioning_r7_fdd)
+RT_ENCODE_EXTERN(PRACH_RACH_Info_VHCR_r7)
+RT_ENCODE_EXTERN(PUSCH_SysInfoList_SFN_VHCR)
+RT_ENCODE_EXTERN(PDSCH_SysInfoList_VHCR_r7)
+RT_ENCODE_EXTERN_VALUE(Sync_UL_Codes_Bitmap)
+RT_ENCODE_EXTERN(SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd)
+RT_ENCODE_EXTERN(SCCPCH_ChannelisationCodeList)
+RT_ENCODE_EXTERN(IndividualTimeslotInfo_VHCR)
+RT_ENCODE_EXTERN(MidambleShiftAndBurstType)
+RT_ENCODE_EXTERN(RepPerLengthOffset_PICH)
+RT_ENCODE_EXTERN(TFCS)
+RT_ENCODE_EXTERN(FACH_PCH_InformationList)
+RT_ENCODE_EXTERN(SF256_AndCodeNumber)
+RT_ENCODE_EXTERN(DL_TS_ChannelisationCodesShort)
+RT_ENCODE_EXTERN(CommonTimeslotInfoMBMS)
+RT_ENCODE_EXTERN(DownlinkTimeslotsCodes_VHCR)
+RT_ENCODE_EXTERN(DownlinkTimeslotsCodes_LCR_r4)
+RT_ENCODE_EXTERN(TransportFormatSet)
+RT_ENCODE_EXTERN(MBMS_MCCH_ConfigurationInfo_r6)
+RT_ENCODE_EXTERN(MBMS_FACHCarryingMTCH_List)
+RT_ENCODE_EXTERN_VALUE(H_RNTI)
+RT_ENCODE_EXTERN(CommonRBMappingInfo)
+RT_ENCODE_EXTERN(Common_MAC_ehs_ReorderingQueueList)
+RT_ENCODE_EXTERN(HARQ_Info)
+RT_ENCODE_EXTERN(PICH_Info_LCR_r4)
+RT_ENCODE_EXTERN_VALUE(AvailableSignatures)
+RT_ENCODE_EXTERN_VALUE(AvailableSubChannelNumbers)
+RT_ENCODE_EXTERN(PersistenceScalingFactorList)
+RT_ENCODE_EXTERN(AC_To_ASC_MappingTable)
+RT_ENCODE_EXTERN(PRACH_PowerOffset)
+RT_ENCODE_EXTERN(RACH_TransmissionParameters)
+RT_ENCODE_EXTERN(AICH_Info)
+RT_ENCODE_EXTERN(PRACH_Partitioning_LCR_r4)
+RT_ENCODE_EXTERN(MidambleShiftAndBurstType_LCR_r4)
+RT_ENCODE_EXTERN(FPACH_Info_r4)
+RT_ENCODE_EXTERN(SysInfoType5_v690ext_IEs)
+RT_ENCODE_EXTERN(SysInfoType5_v680ext_IEs)
+RT_ENCODE_EXTERN(SysInfoType5_v650ext_IEs)
+RT_ENCODE_EXTERN(SysInfoType5_v590ext_IEs)
+RT_ENCODE_EXTERN(SysInfoType5_v4b0ext_IEs)
+RT_ENCODE_EXTERN(SysInfoType5_modeSpecificInfo)
+RT_ENCODE_EXTERN(PrimaryCCPCH_Info)
+RT_ENCODE_EXTERN(PRACH_SystemInformationList)
+RT_ENCODE_EXTERN(SCCPCH_SystemInformationList)
+RT_ENCODE_EXTERN(CBS_DRX_Level1Information)
+
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_r7_subchannelSize(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_r7_subchannelSize* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 4) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
          break;
       case 2:
-         if ((uint64_t)pvalue->u.ueSpecificMidamble > 15u) {
-            rtxErrAddStrParm(ctx, "ueSpecificMidamble");
-            rtxErrAddUIntParm(ctx, pvalue->u.ueSpecificMidamble);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ueSpecificMidamble", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.ueSpecificMidamble, 0, 15);
+         if (pvalue->u.size2 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "size2", -1, 0);
+         stat = enc_AccessServiceClass_TDD_r7_subchannelSize_size2(ctx, pvalue->u.size2, cur);
+         RT_CHECK(ctx, stat, 0, "size2", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.size4 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "size4", -1, 0);
+         stat = enc_AccessServiceClass_TDD_r7_subchannelSize_size4(ctx, pvalue->u.size4, cur);
+         RT_CHECK(ctx, stat, 0, "size4", -1, 0);
+         break;
+      case 4:
+         if (pvalue->u.size8 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "size8", -1, 0);
+         stat = enc_AccessServiceClass_TDD_r7_subchannelSize_size8(ctx, pvalue->u.size8, cur);
+         RT_CHECK(ctx, stat, 0, "size8", -1, 0);
+         break;
+      case 5:
+         if (pvalue->u.size16 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "size16", -1, 0);
+         stat = enc_AccessServiceClass_TDD_r7_subchannelSize_size16(ctx, pvalue->u.size16, cur);
+         RT_CHECK(ctx, stat, 0, "size16", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AccessServiceClass_TDD_r7_subchannelSize(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_r7_subchannelSize* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AccessServiceClass_TDD_r7_subchannelSize, pvalue);
+}
+
+RT_MERGED_BODY int enc_AccessServiceClass_TDD_r7(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "AccessServiceClass-TDD-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "AccessServiceClass-TDD-r7");
+   /* channelisationCodeIndices */
+   if (pvalue->m & 0x1u) {
+      stat = enc_AccessServiceClass_TDD_r7_channelisationCodeIndices(ctx, pvalue->channelisationCodeIndices, cur);
+      RT_CHECK(ctx, stat, 0, "channelisationCodeIndices", -1, "AccessServiceClass-TDD-r7");
+   }
+   /* subchannelSize */
+   stat = enc_AccessServiceClass_TDD_r7_subchannelSize(ctx, &pvalue->subchannelSize, cur);
+   RT_CHECK(ctx, stat, 0, "subchannelSize", -1, "AccessServiceClass-TDD-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_AccessServiceClass_TDD_r7(rtxContext* RT_RESTRICT ctx, const AccessServiceClass_TDD_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AccessServiceClass_TDD_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_ASCSetting_TDD_r7(rtxContext* RT_RESTRICT ctx, const ASCSetting_TDD_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ASCSetting-TDD-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ASCSetting-TDD-r7");
+   /* accessServiceClass-TDD */
+   if (pvalue->m & 0x1u) {
+      stat = enc_AccessServiceClass_TDD_r7(ctx, &pvalue->accessServiceClass_TDD, cur);
+      RT_CHECK(ctx, stat, 0, "accessServiceClass-TDD", -1, "ASCSetting-TDD-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ASCSetting_TDD_r7(rtxContext* RT_RESTRICT ctx, const ASCSetting_TDD_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ASCSetting_TDD_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_PRACH_Partitioning_r7_tdd(rtxContext* RT_RESTRICT ctx, const PRACH_Partitioning_r7_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ASCSetting-TDD-r7", (int32_t)i, 0);
+      stat = enc_ASCSetting_TDD_r7(ctx, (const ASCSetting_TDD_r7*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "ASCSetting-TDD-r7", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_Partitioning_r7_tdd(rtxContext* RT_RESTRICT ctx, const PRACH_Partitioning_r7_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PRACH_Partitioning_r7_tdd, pvalue);
+}
+
+static int enc_PRACH_Partitioning_r7(rtxContext* RT_RESTRICT ctx, const PRACH_Partitioning_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-Partitioning-r7");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "PRACH-Partitioning-r7");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "PRACH-Partitioning-r7");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, "PRACH-Partitioning-r7");
+         stat = enc_PRACH_Partitioning_r7_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "PRACH-Partitioning-r7");
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, "PRACH-Partitioning-r7");
+         stat = enc_PRACH_Partitioning_r7_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "PRACH-Partitioning-r7");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_Partitioning_r7(rtxContext* RT_RESTRICT ctx, const PRACH_Partitioning_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PRACH_Partitioning_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_PRACH_SystemInformation_VHCR_r7(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformation_VHCR_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-SystemInformation-VHCR-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PRACH-SystemInformation-VHCR-r7");
+   /* prach-RACH-Info */
+   stat = enc_PRACH_RACH_Info_VHCR_r7(ctx, &pvalue->prach_RACH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "prach-RACH-Info", -1, "PRACH-SystemInformation-VHCR-r7");
+   /* prach-Partitioning */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PRACH_Partitioning_r7(ctx, &pvalue->prach_Partitioning, cur);
+      RT_CHECK(ctx, stat, 0, "prach-Partitioning", -1, "PRACH-SystemInformation-VHCR-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_SystemInformation_VHCR_r7(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformation_VHCR_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PRACH_SystemInformation_VHCR_r7, pvalue);
+}
+
+static int enc_PRACH_SystemInformationList_VHCR_r7(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformationList_VHCR_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-SystemInformationList-VHCR-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "PRACH-SystemInformationList-VHCR-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "PRACH-SystemInformation-VHCR-r7", (int32_t)i, "PRACH-SystemInformationList-VHCR-r7");
+      stat = enc_PRACH_SystemInformation_VHCR_r7(ctx, (const PRACH_SystemInformation_VHCR_r7*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "PRACH-SystemInformation-VHCR-r7", (int32_t)i, "PRACH-SystemInformationList-VHCR-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_SystemInformationList_VHCR_r7(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformationList_VHCR_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PRACH_SystemInformationList_VHCR_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pusch-SysInfoList-SFN */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PUSCH_SysInfoList_SFN_VHCR(ctx, &pvalue->pusch_SysInfoList_SFN, cur);
+      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
+   }
+   /* pdsch-SysInfoList-SFN */
+   if (pvalue->m & 0x2u) {
+      stat = enc_PDSCH_SysInfoList_VHCR_r7(ctx, &pvalue->pdsch_SysInfoList_SFN, cur);
+      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
+   }
+   /* prach-SystemInformationList */
+   if (pvalue->m & 0x4u) {
+      stat = enc_PRACH_SystemInformationList_VHCR_r7(ctx, &pvalue->prach_SystemInformationList, cur);
+      RT_CHECK(ctx, stat, 0, "prach-SystemInformationList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int enc_PRACH_RACH_Info_LCR_v770ext(rtxContext* RT_RESTRICT ctx, const PRACH_RACH_Info_LCR_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-RACH-Info-LCR-v770ext");
+   /* e-RUCCH-Sync-UL-Codes-Bitmap */
+   stat = enc_Sync_UL_Codes_Bitmap(ctx, pvalue->e_RUCCH_Sync_UL_Codes_Bitmap, cur);
+   RT_CHECK(ctx, stat, 0, "e-RUCCH-Sync-UL-Codes-Bitmap", -1, "PRACH-RACH-Info-LCR-v770ext");
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_RACH_Info_LCR_v770ext(rtxContext* RT_RESTRICT ctx, const PRACH_RACH_Info_LCR_v770ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PRACH_RACH_Info_LCR_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_PRACH_SystemInformation_LCR_v770ext(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformation_LCR_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-SystemInformation-LCR-v770ext");
+   /* prach-RACH-Info-LCR */
+   stat = enc_PRACH_RACH_Info_LCR_v770ext(ctx, &pvalue->prach_RACH_Info_LCR, cur);
+   RT_CHECK(ctx, stat, 0, "prach-RACH-Info-LCR", -1, "PRACH-SystemInformation-LCR-v770ext");
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_SystemInformation_LCR_v770ext(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformation_LCR_v770ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PRACH_SystemInformation_LCR_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_PRACH_SystemInformationList_LCR_v770ext(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformationList_LCR_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-SystemInformationList-LCR-v770ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "PRACH-SystemInformationList-LCR-v770ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "PRACH-SystemInformation-LCR-v770ext", (int32_t)i, "PRACH-SystemInformationList-LCR-v770ext");
+      stat = enc_PRACH_SystemInformation_LCR_v770ext(ctx, (const PRACH_SystemInformation_LCR_v770ext*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "PRACH-SystemInformation-LCR-v770ext", (int32_t)i, "PRACH-SystemInformationList-LCR-v770ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_SystemInformationList_LCR_v770ext(rtxContext* RT_RESTRICT ctx, const PRACH_SystemInformationList_LCR_v770ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PRACH_SystemInformationList_LCR_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* prach-SystemInformationList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PRACH_SystemInformationList_LCR_v770ext(ctx, &pvalue->prach_SystemInformationList, cur);
+      RT_CHECK(ctx, stat, 0, "prach-SystemInformationList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType5_v770ext_IEs_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v770ext_IEs_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_SysInfoType5_v770ext_IEs_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd768 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
+         stat = enc_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd768(ctx, pvalue->u.tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_SysInfoType5_v770ext_IEs_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType5_v770ext_IEs_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v770ext_IEs_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5_v770ext_IEs_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleShift */
+   if ((uint64_t)pvalue->midambleShift > 15u) {
+      rtxErrAddStrParm(ctx, "MidambleShiftLong");
+      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleShift, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode_ueSpecificMidamble, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
+         stat = enc_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
          RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
          break;
       default:
@@ -54,275 +756,4383 @@ int asn1PE_UMTS_E_PUCH_TS_Slots_LCR_midambleAllocationMode(rtxContext* RT_RESTRI
    return 0;
 }
 
-int asn1PE_UMTS_E_PUCH_TS_Slots_LCR(rtxContext* RT_RESTRICT ctx, const E_PUCH_TS_Slots_LCR* RT_RESTRICT pvalue)
+int asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_r7_burstType_type1(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type1* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-PUCH-TS-Slots-LCR");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleConfigurationBurstType1and3 */
+   if (pvalue->midambleConfigurationBurstType1and3 > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType1and3);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleConfigurationBurstType1and3, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
+   /* midambleAllocationMode */
+   stat = enc_MidambleShiftAndBurstType_r7_burstType_type1_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type1(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type1* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_r7_burstType_type1, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleShift */
+   if ((uint64_t)pvalue->midambleShift > 5u) {
+      rtxErrAddStrParm(ctx, "MidambleShiftShort");
+      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MidambleShiftShort", "midambleShift", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleShift, 0, 5);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleShiftShort", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode_ueSpecificMidamble, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
+         stat = enc_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_r7_burstType_type2(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleConfigurationBurstType2 */
+   if (pvalue->midambleConfigurationBurstType2 > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType2);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MidambleConfigurationBurstType2", "midambleConfigurationBurstType2", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleConfigurationBurstType2, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleConfigurationBurstType2", "midambleConfigurationBurstType2", -1, 0);
+   /* midambleAllocationMode */
+   stat = enc_MidambleShiftAndBurstType_r7_burstType_type2_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type2(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type2* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_r7_burstType_type2, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleShift */
+   if ((uint64_t)pvalue->midambleShift > 15u) {
+      rtxErrAddStrParm(ctx, "MidambleShiftLong");
+      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleShift, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode_ueSpecificMidamble, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
+         stat = enc_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_r7_burstType_type3(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type3* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleConfigurationBurstType1and3 */
+   if (pvalue->midambleConfigurationBurstType1and3 > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType1and3);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleConfigurationBurstType1and3, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
+   /* midambleAllocationMode */
+   stat = enc_MidambleShiftAndBurstType_r7_burstType_type3_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType_type3(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType_type3* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_r7_burstType_type3, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_r7_burstType(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 3) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.type1 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "type1", -1, 0);
+         stat = enc_MidambleShiftAndBurstType_r7_burstType_type1(ctx, pvalue->u.type1, cur);
+         RT_CHECK(ctx, stat, 0, "type1", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.type2 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "type2", -1, 0);
+         stat = enc_MidambleShiftAndBurstType_r7_burstType_type2(ctx, pvalue->u.type2, cur);
+         RT_CHECK(ctx, stat, 0, "type2", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.type3 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "type3", -1, 0);
+         stat = enc_MidambleShiftAndBurstType_r7_burstType_type3(ctx, pvalue->u.type3, cur);
+         RT_CHECK(ctx, stat, 0, "type3", -1, 0);
+         break;
+      case 4:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_r7_burstType(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7_burstType* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_r7_burstType, pvalue);
+}
+
+static int enc_MidambleShiftAndBurstType_r7(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MidambleShiftAndBurstType-r7");
+   /* burstType */
+   stat = enc_MidambleShiftAndBurstType_r7_burstType(ctx, &pvalue->burstType, cur);
+   RT_CHECK(ctx, stat, 0, "burstType", -1, "MidambleShiftAndBurstType-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_r7(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_IndividualTimeslotInfo_r7(rtxContext* RT_RESTRICT ctx, const IndividualTimeslotInfo_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IndividualTimeslotInfo-r7");
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, "IndividualTimeslotInfo-r7");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslotNumber, 0, 14);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber", "timeslotNumber", -1, "IndividualTimeslotInfo-r7");
+   /* tfci-Existence */
+   stat = rtxEncBitAt(ctx, cur, pvalue->tfci_Existence);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tfci-Existence", -1, "IndividualTimeslotInfo-r7");
+   /* midambleShiftAndBurstType */
+   stat = enc_MidambleShiftAndBurstType_r7(ctx, &pvalue->midambleShiftAndBurstType, cur);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "IndividualTimeslotInfo-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_IndividualTimeslotInfo_r7(rtxContext* RT_RESTRICT ctx, const IndividualTimeslotInfo_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IndividualTimeslotInfo_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* individualTimeslotInfo */
+   stat = enc_IndividualTimeslotInfo_r7(ctx, &pvalue->individualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
+   /* channelisationCode */
+   stat = enc_SCCPCH_ChannelisationCodeList(ctx, &pvalue->channelisationCode, cur);
+   RT_CHECK(ctx, stat, 0, "channelisationCode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd384* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int enc_SCCPCH_ChannelisationCode_VHCR(rtxContext* RT_RESTRICT ctx, SCCPCH_ChannelisationCode_VHCR value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 31) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "SCCPCH-ChannelisationCode-VHCR");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SCCPCH-ChannelisationCode-VHCR");
+   return 0;
+}
+
+int asn1PE_UMTS_SCCPCH_ChannelisationCode_VHCR(rtxContext* RT_RESTRICT ctx, SCCPCH_ChannelisationCode_VHCR value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SCCPCH_ChannelisationCode_VHCR, value);
+}
+
+RT_MERGED_BODY int enc_SCCPCH_ChannelisationCodeList_VHCR(rtxContext* RT_RESTRICT ctx, const SCCPCH_ChannelisationCodeList_VHCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SCCPCH-ChannelisationCodeList-VHCR");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "SCCPCH-ChannelisationCodeList-VHCR");
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 31) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "SCCPCH-ChannelisationCode-VHCR", "SCCPCH-ChannelisationCode-VHCR", (int32_t)i, "SCCPCH-ChannelisationCodeList-VHCR");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 31);
+      RT_CHECK_PUT(ctx, cur, stat, "SCCPCH-ChannelisationCode-VHCR", "SCCPCH-ChannelisationCode-VHCR", (int32_t)i, "SCCPCH-ChannelisationCodeList-VHCR");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SCCPCH_ChannelisationCodeList_VHCR(rtxContext* RT_RESTRICT ctx, const SCCPCH_ChannelisationCodeList_VHCR* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SCCPCH_ChannelisationCodeList_VHCR, pvalue);
+}
+
+RT_MERGED_BODY int enc_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* individualTimeslotInfo */
+   stat = enc_IndividualTimeslotInfo_VHCR(ctx, &pvalue->individualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
+   /* channelisationCode */
+   stat = enc_SCCPCH_ChannelisationCodeList_VHCR(ctx, &pvalue->channelisationCode, cur);
+   RT_CHECK(ctx, stat, 0, "channelisationCode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd768* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int enc_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = enc_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd768 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
+         stat = enc_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo_tdd768(ctx, pvalue->u.tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_SecondaryCCPCH_Info_HCR_VHCR_r7(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_HCR_VHCR_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SecondaryCCPCH-Info-HCR-VHCR-r7");
+   /* modeSpecificInfo */
+   stat = enc_SecondaryCCPCH_Info_HCR_VHCR_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SecondaryCCPCH-Info-HCR-VHCR-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCH_Info_HCR_VHCR_r7(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_HCR_VHCR_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryCCPCH_Info_HCR_VHCR_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_TDD768_PICH_CCode(rtxContext* RT_RESTRICT ctx, TDD768_PICH_CCode value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 31) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TDD768-PICH-CCode");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TDD768-PICH-CCode");
+   return 0;
+}
+
+int asn1PE_UMTS_TDD768_PICH_CCode(rtxContext* RT_RESTRICT ctx, TDD768_PICH_CCode value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TDD768_PICH_CCode, value);
+}
+
+RT_MERGED_BODY int enc_PICH_Info_HCR_VHCR_r7_channelisationCode(rtxContext* RT_RESTRICT ctx, const PICH_Info_HCR_VHCR_r7_channelisationCode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 > 15) {
+            rtxErrAddUIntParm(ctx, pvalue->u.tdd384);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TDD-PICH-CCode", "tdd384", -1, 0);
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.tdd384, 0, 15);
+         RT_CHECK_PUT(ctx, cur, stat, "TDD-PICH-CCode", "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd768 > 31) {
+            rtxErrAddUIntParm(ctx, pvalue->u.tdd768);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TDD768-PICH-CCode", "tdd768", -1, 0);
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.tdd768, 0, 31);
+         RT_CHECK_PUT(ctx, cur, stat, "TDD768-PICH-CCode", "tdd768", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PICH_Info_HCR_VHCR_r7_channelisationCode(rtxContext* RT_RESTRICT ctx, const PICH_Info_HCR_VHCR_r7_channelisationCode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PICH_Info_HCR_VHCR_r7_channelisationCode, pvalue);
+}
+
+RT_MERGED_BODY int enc_PICH_Info_HCR_VHCR_r7(rtxContext* RT_RESTRICT ctx, const PICH_Info_HCR_VHCR_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PICH-Info-HCR-VHCR-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
+      ((uint64_t)(pvalue->pagingIndicatorLength != 0) << 2) |
+      ((uint64_t)(pvalue->n_GAP != 1) << 1) |
+      ((uint64_t)(pvalue->n_PCH != 2) << 0), 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PICH-Info-HCR-VHCR-r7");
+   /* channelisationCode */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PICH_Info_HCR_VHCR_r7_channelisationCode(ctx, &pvalue->channelisationCode, cur);
+      RT_CHECK(ctx, stat, 0, "channelisationCode", -1, "PICH-Info-HCR-VHCR-r7");
+   }
+   /* timeslot */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->timeslot > 14u) {
+         rtxErrAddStrParm(ctx, "TimeslotNumber");
+         rtxErrAddUIntParm(ctx, pvalue->timeslot);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber", "timeslot", -1, "PICH-Info-HCR-VHCR-r7");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslot, 0, 14);
+      RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber", "timeslot", -1, "PICH-Info-HCR-VHCR-r7");
+   }
+   /* midambleShiftAndBurstType */
+   stat = enc_MidambleShiftAndBurstType(ctx, &pvalue->midambleShiftAndBurstType, cur);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "PICH-Info-HCR-VHCR-r7");
+   /* repetitionPeriodLengthOffset */
+   if (pvalue->m & 0x4u) {
+      stat = enc_RepPerLengthOffset_PICH(ctx, &pvalue->repetitionPeriodLengthOffset, cur);
+      RT_CHECK(ctx, stat, 0, "repetitionPeriodLengthOffset", -1, "PICH-Info-HCR-VHCR-r7");
+   }
+   /* pagingIndicatorLength */
+   if (pvalue->pagingIndicatorLength != 0) {
+      if (pvalue->pagingIndicatorLength > 2) {
+         rtxErrAddUIntParm(ctx, pvalue->pagingIndicatorLength);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PagingIndicatorLength", "pagingIndicatorLength", -1, "PICH-Info-HCR-VHCR-r7");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->pagingIndicatorLength, 0, 2);
+      RT_CHECK_PUT(ctx, cur, stat, "PagingIndicatorLength", "pagingIndicatorLength", -1, "PICH-Info-HCR-VHCR-r7");
+   }
+   /* n-GAP */
+   if (pvalue->n_GAP != 1) {
+      if (pvalue->n_GAP > 2) {
+         rtxErrAddUIntParm(ctx, pvalue->n_GAP);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "N-GAP", "n-GAP", -1, "PICH-Info-HCR-VHCR-r7");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->n_GAP, 0, 2);
+      RT_CHECK_PUT(ctx, cur, stat, "N-GAP", "n-GAP", -1, "PICH-Info-HCR-VHCR-r7");
+   }
+   /* n-PCH */
+   if (pvalue->n_PCH != 2) {
+      if ((uint64_t)(pvalue->n_PCH - 1) > 7u) {
+         rtxErrAddStrParm(ctx, "N-PCH");
+         rtxErrAddUIntParm(ctx, pvalue->n_PCH);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "N-PCH", "n-PCH", -1, "PICH-Info-HCR-VHCR-r7");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->n_PCH, 1, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "N-PCH", "n-PCH", -1, "PICH-Info-HCR-VHCR-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PICH_Info_HCR_VHCR_r7(rtxContext* RT_RESTRICT ctx, const PICH_Info_HCR_VHCR_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PICH_Info_HCR_VHCR_r7, pvalue);
+}
+
+static int enc_SCCPCH_SystemInformation_HCR_VHCR_r7(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation_HCR_VHCR_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SCCPCH-SystemInformation-HCR-VHCR-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SCCPCH-SystemInformation-HCR-VHCR-r7");
+   /* secondaryCCPCH-Info */
+   stat = enc_SecondaryCCPCH_Info_HCR_VHCR_r7(ctx, &pvalue->secondaryCCPCH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "secondaryCCPCH-Info", -1, "SCCPCH-SystemInformation-HCR-VHCR-r7");
+   /* tfcs */
+   if (pvalue->m & 0x1u) {
+      stat = enc_TFCS(ctx, &pvalue->tfcs, cur);
+      RT_CHECK(ctx, stat, 0, "tfcs", -1, "SCCPCH-SystemInformation-HCR-VHCR-r7");
+   }
+   /* fach-PCH-InformationList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_FACH_PCH_InformationList(ctx, &pvalue->fach_PCH_InformationList, cur);
+      RT_CHECK(ctx, stat, 0, "fach-PCH-InformationList", -1, "SCCPCH-SystemInformation-HCR-VHCR-r7");
+   }
+   /* pich-Info */
+   if (pvalue->m & 0x4u) {
+      stat = enc_PICH_Info_HCR_VHCR_r7(ctx, &pvalue->pich_Info, cur);
+      RT_CHECK(ctx, stat, 0, "pich-Info", -1, "SCCPCH-SystemInformation-HCR-VHCR-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SCCPCH_SystemInformation_HCR_VHCR_r7(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation_HCR_VHCR_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SCCPCH_SystemInformation_HCR_VHCR_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_SCCPCH_SystemInformationList_HCR_VHCR_r7(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformationList_HCR_VHCR_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SCCPCH-SystemInformationList-HCR-VHCR-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "SCCPCH-SystemInformationList-HCR-VHCR-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "SCCPCH-SystemInformation-HCR-VHCR-r7", (int32_t)i, "SCCPCH-SystemInformationList-HCR-VHCR-r7");
+      stat = enc_SCCPCH_SystemInformation_HCR_VHCR_r7(ctx, (const SCCPCH_SystemInformation_HCR_VHCR_r7*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "SCCPCH-SystemInformation-HCR-VHCR-r7", (int32_t)i, "SCCPCH-SystemInformationList-HCR-VHCR-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SCCPCH_SystemInformationList_HCR_VHCR_r7(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformationList_HCR_VHCR_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SCCPCH_SystemInformationList_HCR_VHCR_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd_modulation(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd_modulation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.mod16QAM < -11 || pvalue->u.mod16QAM > 4) {
+            rtxErrAddStrParm(ctx, "mod16QAM");
+            rtxErrAddIntParm(ctx, pvalue->u.mod16QAM);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "mod16QAM", -1, 0);
+         }
+         stat = pe_ConsInt64At(ctx, cur, pvalue->u.mod16QAM, -11, 4);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "mod16QAM", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd_modulation(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd_modulation* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd_modulation, pvalue);
+}
+
+RT_MERGED_BODY int enc_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)(pvalue->timingOffset != 0) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* secondaryScramblingCode */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->secondaryScramblingCode - 1) > 14u) {
+         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
+         rtxErrAddUIntParm(ctx, pvalue->secondaryScramblingCode);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SecondaryScramblingCode", "secondaryScramblingCode", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->secondaryScramblingCode, 1, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, 0);
+   }
+   /* sttd-Indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->sttd_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sttd-Indicator", -1, 0);
+   /* sf-AndCodeNumber */
+   stat = enc_SF256_AndCodeNumber(ctx, &pvalue->sf_AndCodeNumber, cur);
+   RT_CHECK(ctx, stat, 0, "sf-AndCodeNumber", -1, 0);
+   /* timingOffset */
+   if (pvalue->timingOffset != 0) {
+      if ((uint64_t)pvalue->timingOffset > 149u) {
+         rtxErrAddStrParm(ctx, "TimingOffset");
+         rtxErrAddUIntParm(ctx, pvalue->timingOffset);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimingOffset", "timingOffset", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->timingOffset, 0, 149);
+      RT_CHECK_PUT(ctx, cur, stat, "TimingOffset", "timingOffset", -1, 0);
+   }
+   /* modulation */
+   if (pvalue->m & 0x2u) {
+      stat = enc_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd_modulation(ctx, &pvalue->modulation, cur);
+      RT_CHECK(ctx, stat, 0, "modulation", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DownlinkAdditionalTimeslots_r7_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_r7_parameters_sameAsLast* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslotNumber, 0, 14);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber", "timeslotNumber", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkAdditionalTimeslots_r7_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_r7_parameters_sameAsLast* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DownlinkAdditionalTimeslots_r7_parameters_sameAsLast, pvalue);
+}
+
+RT_MERGED_BODY int enc_DownlinkAdditionalTimeslots_r7_parameters_newParameters(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_r7_parameters_newParameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* individualTimeslotInfo */
+   stat = enc_IndividualTimeslotInfo_r7(ctx, &pvalue->individualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
+   /* dl-TS-ChannelisationCodesShort */
+   stat = enc_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort, cur);
+   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkAdditionalTimeslots_r7_parameters_newParameters(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_r7_parameters_newParameters* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DownlinkAdditionalTimeslots_r7_parameters_newParameters, pvalue);
+}
+
+RT_MERGED_BODY int enc_DownlinkAdditionalTimeslots_r7_parameters(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_r7_parameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.sameAsLast == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "sameAsLast", -1, 0);
+         stat = enc_DownlinkAdditionalTimeslots_r7_parameters_sameAsLast(ctx, pvalue->u.sameAsLast, cur);
+         RT_CHECK(ctx, stat, 0, "sameAsLast", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.newParameters == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "newParameters", -1, 0);
+         stat = enc_DownlinkAdditionalTimeslots_r7_parameters_newParameters(ctx, pvalue->u.newParameters, cur);
+         RT_CHECK(ctx, stat, 0, "newParameters", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkAdditionalTimeslots_r7_parameters(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_r7_parameters* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DownlinkAdditionalTimeslots_r7_parameters, pvalue);
+}
+
+RT_MERGED_BODY int enc_DownlinkAdditionalTimeslots_r7(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DownlinkAdditionalTimeslots-r7");
+   /* parameters */
+   stat = enc_DownlinkAdditionalTimeslots_r7_parameters(ctx, &pvalue->parameters, cur);
+   RT_CHECK(ctx, stat, 0, "parameters", -1, "DownlinkAdditionalTimeslots-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkAdditionalTimeslots_r7(rtxContext* RT_RESTRICT ctx, const DownlinkAdditionalTimeslots_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DownlinkAdditionalTimeslots_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 13);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DownlinkAdditionalTimeslots-r7", (int32_t)i, 0);
+      stat = enc_DownlinkAdditionalTimeslots_r7(ctx, (const DownlinkAdditionalTimeslots_r7*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DownlinkAdditionalTimeslots-r7", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList, pvalue);
+}
+
+RT_MERGED_BODY int enc_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)(pvalue->u.consecutive - 1) > 12u) {
+            rtxErrAddStrParm(ctx, "consecutive");
+            rtxErrAddUIntParm(ctx, pvalue->u.consecutive);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "consecutive", -1, 0);
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.consecutive, 1, 13);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "consecutive", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.timeslotList == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "timeslotList", -1, 0);
+         stat = enc_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList, cur);
+         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots, pvalue);
+}
+
+RT_MERGED_BODY int enc_DownlinkTimeslotsCodes_r7_moreTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_r7_moreTimeslots* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.additionalTimeslots == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "additionalTimeslots", -1, 0);
+         stat = enc_DownlinkTimeslotsCodes_r7_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots, cur);
+         RT_CHECK(ctx, stat, 0, "additionalTimeslots", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkTimeslotsCodes_r7_moreTimeslots(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_r7_moreTimeslots* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DownlinkTimeslotsCodes_r7_moreTimeslots, pvalue);
+}
+
+static int enc_DownlinkTimeslotsCodes_r7(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DownlinkTimeslotsCodes-r7");
+   /* firstIndividualTimeslotInfo */
+   stat = enc_IndividualTimeslotInfo_r7(ctx, &pvalue->firstIndividualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "DownlinkTimeslotsCodes-r7");
+   /* dl-TS-ChannelisationCodesShort */
+   stat = enc_DL_TS_ChannelisationCodesShort(ctx, &pvalue->dl_TS_ChannelisationCodesShort, cur);
+   RT_CHECK(ctx, stat, 0, "dl-TS-ChannelisationCodesShort", -1, "DownlinkTimeslotsCodes-r7");
+   /* moreTimeslots */
+   stat = enc_DownlinkTimeslotsCodes_r7_moreTimeslots(ctx, &pvalue->moreTimeslots, cur);
+   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "DownlinkTimeslotsCodes-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_DownlinkTimeslotsCodes_r7(rtxContext* RT_RESTRICT ctx, const DownlinkTimeslotsCodes_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DownlinkTimeslotsCodes_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384_modulation(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384_modulation value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384_modulation(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384_modulation value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384_modulation, value);
+}
+
+RT_MERGED_BODY int enc_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* commonTimeslotInfoMBMS */
+   stat = enc_CommonTimeslotInfoMBMS(ctx, &pvalue->commonTimeslotInfoMBMS, cur);
+   RT_CHECK(ctx, stat, 0, "commonTimeslotInfoMBMS", -1, 0);
+   /* downlinkTimeslotsCodes */
+   stat = enc_DownlinkTimeslotsCodes_r7(ctx, &pvalue->downlinkTimeslotsCodes, cur);
+   RT_CHECK(ctx, stat, 0, "downlinkTimeslotsCodes", -1, 0);
+   /* modulation */
+   if (pvalue->modulation > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->modulation);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "modulation", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->modulation, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "modulation", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int enc_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768_modulation(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768_modulation value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768_modulation(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768_modulation value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768_modulation, value);
+}
+
+RT_MERGED_BODY int enc_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* commonTimeslotInfoMBMS */
+   stat = enc_CommonTimeslotInfoMBMS(ctx, &pvalue->commonTimeslotInfoMBMS, cur);
+   RT_CHECK(ctx, stat, 0, "commonTimeslotInfoMBMS", -1, 0);
+   /* downlinkTimeslotsCodes */
+   stat = enc_DownlinkTimeslotsCodes_VHCR(ctx, &pvalue->downlinkTimeslotsCodes, cur);
+   RT_CHECK(ctx, stat, 0, "downlinkTimeslotsCodes", -1, 0);
+   /* modulation */
+   if (pvalue->modulation > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->modulation);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "modulation", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->modulation, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "modulation", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int enc_TimeSlotLCR_ext(rtxContext* RT_RESTRICT ctx, TimeSlotLCR_ext value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TimeSlotLCR-ext");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TimeSlotLCR-ext");
+   return 0;
+}
+
+int asn1PE_UMTS_TimeSlotLCR_ext(rtxContext* RT_RESTRICT ctx, TimeSlotLCR_ext value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TimeSlotLCR_ext, value);
+}
+
+RT_MERGED_BODY int enc_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128_modulation(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128_modulation value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128_modulation(rtxContext* RT_RESTRICT ctx, SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128_modulation value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128_modulation, value);
+}
+
+RT_MERGED_BODY int enc_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* commonTimeslotInfoMBMS */
+   stat = enc_CommonTimeslotInfoMBMS(ctx, &pvalue->commonTimeslotInfoMBMS, cur);
+   RT_CHECK(ctx, stat, 0, "commonTimeslotInfoMBMS", -1, 0);
+   /* downlinkTimeslotsCodes */
+   stat = enc_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->downlinkTimeslotsCodes, cur);
+   RT_CHECK(ctx, stat, 0, "downlinkTimeslotsCodes", -1, 0);
+   /* mbsfnSpecialTimeSlot */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->mbsfnSpecialTimeSlot > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->mbsfnSpecialTimeSlot);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TimeSlotLCR-ext", "mbsfnSpecialTimeSlot", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->mbsfnSpecialTimeSlot, 0, 3);
+      RT_CHECK_PUT(ctx, cur, stat, "TimeSlotLCR-ext", "mbsfnSpecialTimeSlot", -1, 0);
+   }
+   /* modulation */
+   if (pvalue->modulation > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->modulation);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "modulation", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->modulation, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "modulation", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128, pvalue);
+}
+
+static int enc_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 3) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd384 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = enc_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.tdd768 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
+         stat = enc_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd768(ctx, pvalue->u.tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 4:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_SecondaryCCPCHInfo_MBMS_r7(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SecondaryCCPCHInfo-MBMS-r7");
+   /* modeSpecificInfo */
+   stat = enc_SecondaryCCPCHInfo_MBMS_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SecondaryCCPCHInfo-MBMS-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfo_MBMS_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryCCPCHInfo_MBMS_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMCCH(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation_MBMS_r7_fachCarryingMCCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* mcch-transportFormatSet */
+   stat = enc_TransportFormatSet(ctx, &pvalue->mcch_transportFormatSet, cur);
+   RT_CHECK(ctx, stat, 0, "mcch-transportFormatSet", -1, 0);
+   /* mcch-ConfigurationInfo */
+   stat = enc_MBMS_MCCH_ConfigurationInfo_r6(ctx, &pvalue->mcch_ConfigurationInfo, cur);
+   RT_CHECK(ctx, stat, 0, "mcch-ConfigurationInfo", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMCCH(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation_MBMS_r7_fachCarryingMCCH* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMCCH, pvalue);
+}
+
+RT_MERGED_BODY int enc_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMSCH(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation_MBMS_r7_fachCarryingMSCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* msch-transportFormatSet */
+   stat = enc_TransportFormatSet(ctx, &pvalue->msch_transportFormatSet, cur);
+   RT_CHECK(ctx, stat, 0, "msch-transportFormatSet", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMSCH(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation_MBMS_r7_fachCarryingMSCH* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMSCH, pvalue);
+}
+
+RT_MERGED_BODY int enc_SCCPCH_SystemInformation_MBMS_r7(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation_MBMS_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SCCPCH-SystemInformation-MBMS-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SCCPCH-SystemInformation-MBMS-r7");
+   /* secondaryCCPCHInfo-MBMS */
+   stat = enc_SecondaryCCPCHInfo_MBMS_r7(ctx, &pvalue->secondaryCCPCHInfo_MBMS, cur);
+   RT_CHECK(ctx, stat, 0, "secondaryCCPCHInfo-MBMS", -1, "SCCPCH-SystemInformation-MBMS-r7");
+   /* transportFormatCombinationSet */
+   stat = enc_TFCS(ctx, &pvalue->transportFormatCombinationSet, cur);
+   RT_CHECK(ctx, stat, 0, "transportFormatCombinationSet", -1, "SCCPCH-SystemInformation-MBMS-r7");
+   /* fachCarryingMCCH */
+   stat = enc_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMCCH(ctx, &pvalue->fachCarryingMCCH, cur);
+   RT_CHECK(ctx, stat, 0, "fachCarryingMCCH", -1, "SCCPCH-SystemInformation-MBMS-r7");
+   /* fachCarryingMTCH-List */
+   if (pvalue->m & 0x1u) {
+      stat = enc_MBMS_FACHCarryingMTCH_List(ctx, &pvalue->fachCarryingMTCH_List, cur);
+      RT_CHECK(ctx, stat, 0, "fachCarryingMTCH-List", -1, "SCCPCH-SystemInformation-MBMS-r7");
+   }
+   /* fachCarryingMSCH */
+   if (pvalue->m & 0x2u) {
+      stat = enc_SCCPCH_SystemInformation_MBMS_r7_fachCarryingMSCH(ctx, &pvalue->fachCarryingMSCH, cur);
+      RT_CHECK(ctx, stat, 0, "fachCarryingMSCH", -1, "SCCPCH-SystemInformation-MBMS-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SCCPCH_SystemInformation_MBMS_r7(rtxContext* RT_RESTRICT ctx, const SCCPCH_SystemInformation_MBMS_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SCCPCH_SystemInformation_MBMS_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType5_v770ext_IEs_sccpch_SystemInformation_MBMS(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v770ext_IEs_sccpch_SystemInformation_MBMS* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.mcchOnSCCPCHusedOnlyForMBMS == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "mcchOnSCCPCHusedOnlyForMBMS", -1, 0);
+         stat = enc_SCCPCH_SystemInformation_MBMS_r7(ctx, pvalue->u.mcchOnSCCPCHusedOnlyForMBMS, cur);
+         RT_CHECK(ctx, stat, 0, "mcchOnSCCPCHusedOnlyForMBMS", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType5_v770ext_IEs_sccpch_SystemInformation_MBMS(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v770ext_IEs_sccpch_SystemInformation_MBMS* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5_v770ext_IEs_sccpch_SystemInformation_MBMS, pvalue);
+}
+
+RT_MERGED_BODY int enc_TDD_MBSFNTSlotInfo(rtxContext* RT_RESTRICT ctx, const TDD_MBSFNTSlotInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TDD-MBSFNTSlotInfo");
+   /* timeSlotNumber */
+   if ((uint64_t)pvalue->timeSlotNumber > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeSlotNumber);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber", "timeSlotNumber", -1, "TDD-MBSFNTSlotInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeSlotNumber, 0, 14);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber", "timeSlotNumber", -1, "TDD-MBSFNTSlotInfo");
+   /* cellParametersID */
+   if ((uint64_t)pvalue->cellParametersID > 127u) {
+      rtxErrAddStrParm(ctx, "CellParametersID");
+      rtxErrAddUIntParm(ctx, pvalue->cellParametersID);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellParametersID", "cellParametersID", -1, "TDD-MBSFNTSlotInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->cellParametersID, 0, 127);
+   RT_CHECK_PUT(ctx, cur, stat, "CellParametersID", "cellParametersID", -1, "TDD-MBSFNTSlotInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_TDD_MBSFNTSlotInfo(rtxContext* RT_RESTRICT ctx, const TDD_MBSFNTSlotInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TDD_MBSFNTSlotInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_TDD_MBSFNInformation(rtxContext* RT_RESTRICT ctx, const TDD_MBSFNInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TDD-MBSFNInformation");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 14);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "TDD-MBSFNInformation");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "TDD-MBSFNTSlotInfo", (int32_t)i, "TDD-MBSFNInformation");
+      stat = enc_TDD_MBSFNTSlotInfo(ctx, (const TDD_MBSFNTSlotInfo*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "TDD-MBSFNTSlotInfo", (int32_t)i, "TDD-MBSFNInformation");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TDD_MBSFNInformation(rtxContext* RT_RESTRICT ctx, const TDD_MBSFNInformation* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TDD_MBSFNInformation, pvalue);
+}
+
+static int enc_SysInfoType5_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v770ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType5-v770ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType5-v770ext-IEs");
+   /* modeSpecificInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SysInfoType5_v770ext_IEs_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+      RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SysInfoType5-v770ext-IEs");
+   }
+   /* sccpch-SystemInformationList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_SCCPCH_SystemInformationList_HCR_VHCR_r7(ctx, &pvalue->sccpch_SystemInformationList, cur);
+      RT_CHECK(ctx, stat, 0, "sccpch-SystemInformationList", -1, "SysInfoType5-v770ext-IEs");
+   }
+   /* sccpch-SystemInformation-MBMS */
+   if (pvalue->m & 0x4u) {
+      stat = enc_SysInfoType5_v770ext_IEs_sccpch_SystemInformation_MBMS(ctx, &pvalue->sccpch_SystemInformation_MBMS, cur);
+      RT_CHECK(ctx, stat, 0, "sccpch-SystemInformation-MBMS", -1, "SysInfoType5-v770ext-IEs");
+   }
+   /* tDD-MBSFNInformation */
+   if (pvalue->m & 0x8u) {
+      stat = enc_TDD_MBSFNInformation(ctx, &pvalue->tDD_MBSFNInformation, cur);
+      RT_CHECK(ctx, stat, 0, "tDD-MBSFNInformation", -1, "SysInfoType5-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType5_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5_v770ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType5_v860ext_IEs_dummy(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v860ext_IEs_dummy* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType5_v860ext_IEs_dummy(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v860ext_IEs_dummy* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5_v860ext_IEs_dummy, pvalue);
+}
+
+RT_MERGED_BODY int enc_T_321(rtxContext* RT_RESTRICT ctx, T_321 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "T-321");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "T-321");
+   return 0;
+}
+
+int asn1PE_UMTS_T_321(rtxContext* RT_RESTRICT ctx, T_321 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_T_321, value);
+}
+
+RT_MERGED_BODY int enc_HS_DSCH_DrxCycleFach(rtxContext* RT_RESTRICT ctx, HS_DSCH_DrxCycleFach value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "HS-DSCH-DrxCycleFach");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "HS-DSCH-DrxCycleFach");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_DSCH_DrxCycleFach(rtxContext* RT_RESTRICT ctx, HS_DSCH_DrxCycleFach value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_DSCH_DrxCycleFach, value);
+}
+
+RT_MERGED_BODY int enc_HS_DSCH_DrxBurstFach(rtxContext* RT_RESTRICT ctx, HS_DSCH_DrxBurstFach value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "HS-DSCH-DrxBurstFach");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "HS-DSCH-DrxBurstFach");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_DSCH_DrxBurstFach(rtxContext* RT_RESTRICT ctx, HS_DSCH_DrxBurstFach value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_DSCH_DrxBurstFach, value);
+}
+
+RT_MERGED_BODY int enc_HS_DSCH_DrxCellfach_info(rtxContext* RT_RESTRICT ctx, const HS_DSCH_DrxCellfach_info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HS-DSCH-DrxCellfach-info");
+   /* t-321 */
+   if (pvalue->t_321 > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->t_321);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "T-321", "t-321", -1, "HS-DSCH-DrxCellfach-info");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->t_321, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "T-321", "t-321", -1, "HS-DSCH-DrxCellfach-info");
+   /* hs-dsch-DrxCycleFach */
+   if (pvalue->hs_dsch_DrxCycleFach > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->hs_dsch_DrxCycleFach);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "HS-DSCH-DrxCycleFach", "hs-dsch-DrxCycleFach", -1, "HS-DSCH-DrxCellfach-info");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->hs_dsch_DrxCycleFach, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "HS-DSCH-DrxCycleFach", "hs-dsch-DrxCycleFach", -1, "HS-DSCH-DrxCellfach-info");
+   /* hs-dsch-DrxBurstFach */
+   if (pvalue->hs_dsch_DrxBurstFach > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->hs_dsch_DrxBurstFach);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "HS-DSCH-DrxBurstFach", "hs-dsch-DrxBurstFach", -1, "HS-DSCH-DrxCellfach-info");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->hs_dsch_DrxBurstFach, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "HS-DSCH-DrxBurstFach", "hs-dsch-DrxBurstFach", -1, "HS-DSCH-DrxCellfach-info");
+   /* drxInterruption-hs-dsch */
+   stat = rtxEncBitAt(ctx, cur, pvalue->drxInterruption_hs_dsch);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "drxInterruption-hs-dsch", -1, "HS-DSCH-DrxCellfach-info");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_DSCH_DrxCellfach_info(rtxContext* RT_RESTRICT ctx, const HS_DSCH_DrxCellfach_info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_DSCH_DrxCellfach_info, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* hs-dsch-DrxCellfach-info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_HS_DSCH_DrxCellfach_info(ctx, &pvalue->hs_dsch_DrxCellfach_info, cur);
+      RT_CHECK(ctx, stat, 0, "hs-dsch-DrxCellfach-info", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_ChannelisationCode_LCR(rtxContext* RT_RESTRICT ctx, HS_ChannelisationCode_LCR value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "HS-ChannelisationCode-LCR");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "HS-ChannelisationCode-LCR");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_ChannelisationCode_LCR(rtxContext* RT_RESTRICT ctx, HS_ChannelisationCode_LCR value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_ChannelisationCode_LCR, value);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_TDD128_r6_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD128_r6_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if ((uint64_t)pvalue->u.ueSpecificMidamble > 15u) {
+            rtxErrAddStrParm(ctx, "ueSpecificMidamble");
+            rtxErrAddUIntParm(ctx, pvalue->u.ueSpecificMidamble);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ueSpecificMidamble", -1, 0);
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.ueSpecificMidamble, 0, 15);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_TDD128_r6_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD128_r6_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_TDD128_r6_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleShift */
+   if ((uint64_t)pvalue->midambleShift > 15u) {
+      rtxErrAddStrParm(ctx, "MidambleShiftLong");
+      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleShift, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD128_r6_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
+         stat = enc_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD128_r6_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SICH_Configuration_TDD128_r6(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD128_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HS-SICH-Configuration-TDD128-r6");
    /* timeslotNumber */
    if ((uint64_t)pvalue->timeslotNumber > 6u) {
       rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
       rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "E-PUCH-TS-Slots-LCR");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SICH-Configuration-TDD128-r6");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "E-PUCH-TS-Slots-LCR");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslotNumber, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SICH-Configuration-TDD128-r6");
+   /* channelisationCode */
+   if (pvalue->channelisationCode > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "channelisationCode", -1, "HS-SICH-Configuration-TDD128-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->channelisationCode, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "HS-ChannelisationCode-LCR", "channelisationCode", -1, "HS-SICH-Configuration-TDD128-r6");
    /* midambleAllocationMode */
-   stat = asn1PE_UMTS_E_PUCH_TS_Slots_LCR_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   stat = enc_HS_SICH_Configuration_TDD128_r6_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SICH-Configuration-TDD128-r6");
+   /* midambleConfiguration */
+   if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "midambleConfiguration");
+      rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "midambleConfiguration", -1, "HS-SICH-Configuration-TDD128-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "midambleConfiguration", -1, "HS-SICH-Configuration-TDD128-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SICH_Configuration_TDD128_r6(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD128_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SICH_Configuration_TDD128_r6, pvalue);
+}
+
+static int enc_HS_SCCH_TDD128_r6(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD128_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-TDD128-r6");
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 6u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SCCH-TDD128-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslotNumber, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SCCH-TDD128-r6");
+   /* firstChannelisationCode */
+   if (pvalue->firstChannelisationCode > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->firstChannelisationCode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "firstChannelisationCode", -1, "HS-SCCH-TDD128-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->firstChannelisationCode, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "HS-ChannelisationCode-LCR", "firstChannelisationCode", -1, "HS-SCCH-TDD128-r6");
+   /* secondChannelisationCode */
+   if (pvalue->secondChannelisationCode > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->secondChannelisationCode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "secondChannelisationCode", -1, "HS-SCCH-TDD128-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->secondChannelisationCode, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "HS-ChannelisationCode-LCR", "secondChannelisationCode", -1, "HS-SCCH-TDD128-r6");
+   /* midambleAllocationMode */
+   stat = enc_HS_SCCH_TDD128_r6_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SCCH-TDD128-r6");
+   /* midambleConfiguration */
+   if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "midambleConfiguration");
+      rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "midambleConfiguration", -1, "HS-SCCH-TDD128-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "midambleConfiguration", -1, "HS-SCCH-TDD128-r6");
+   /* hs-sich-configuration */
+   stat = enc_HS_SICH_Configuration_TDD128_r6(ctx, &pvalue->hs_sich_configuration, cur);
+   RT_CHECK(ctx, stat, 0, "hs-sich-configuration", -1, "HS-SCCH-TDD128-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_TDD128_r6(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD128_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_TDD128_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_SystemInfo_TDD128_hs_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_SystemInfo_TDD128_hs_SCCH_SetConfiguration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
+      stat = enc_HS_SCCH_TDD128_r6(ctx, (const HS_SCCH_TDD128_r6*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_SystemInfo_TDD128_hs_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_SystemInfo_TDD128_hs_SCCH_SetConfiguration* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_SystemInfo_TDD128_hs_SCCH_SetConfiguration, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_SystemInfo_TDD128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_SystemInfo_TDD128_tpc_step_size value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_SystemInfo_TDD128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_SystemInfo_TDD128_tpc_step_size value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_SystemInfo_TDD128_tpc_step_size, value);
+}
+
+RT_MERGED_BODY int enc_Bler_Target(rtxContext* RT_RESTRICT ctx, Bler_Target value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value < -63 || value > 0) {
+      rtxErrAddStrParm(ctx, "Bler-Target");
+      rtxErrAddIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "Bler-Target");
+   }
+   stat = pe_ConsInt64At(ctx, cur, value, -63, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Bler-Target");
+   return 0;
+}
+
+int asn1PE_UMTS_Bler_Target(rtxContext* RT_RESTRICT ctx, Bler_Target value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Bler_Target, value);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_SystemInfo_TDD128(rtxContext* RT_RESTRICT ctx, const HS_SCCH_SystemInfo_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-SystemInfo-TDD128");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "HS-SCCH-SystemInfo-TDD128");
+   /* hs-SCCH-SetConfiguration */
+   stat = enc_HS_SCCH_SystemInfo_TDD128_hs_SCCH_SetConfiguration(ctx, &pvalue->hs_SCCH_SetConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "hs-SCCH-SetConfiguration", -1, "HS-SCCH-SystemInfo-TDD128");
+   /* power-level-HSSICH */
+   if (pvalue->power_level_HSSICH < -120 || pvalue->power_level_HSSICH > -58) {
+      rtxErrAddStrParm(ctx, "power-level-HSSICH");
+      rtxErrAddIntParm(ctx, pvalue->power_level_HSSICH);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "power-level-HSSICH", -1, "HS-SCCH-SystemInfo-TDD128");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->power_level_HSSICH, -120, -58);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "power-level-HSSICH", -1, "HS-SCCH-SystemInfo-TDD128");
+   /* nack-ack-power-offset */
+   if (pvalue->nack_ack_power_offset < -7 || pvalue->nack_ack_power_offset > 8) {
+      rtxErrAddStrParm(ctx, "nack-ack-power-offset");
+      rtxErrAddIntParm(ctx, pvalue->nack_ack_power_offset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "nack-ack-power-offset", -1, "HS-SCCH-SystemInfo-TDD128");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "nack-ack-power-offset", -1, "HS-SCCH-SystemInfo-TDD128");
+   /* tpc-step-size */
+   if (pvalue->tpc_step_size > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->tpc_step_size);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "tpc-step-size", -1, "HS-SCCH-SystemInfo-TDD128");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tpc_step_size, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tpc-step-size", -1, "HS-SCCH-SystemInfo-TDD128");
+   /* bler-target */
+   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
+      rtxErrAddStrParm(ctx, "Bler-Target");
+      rtxErrAddIntParm(ctx, pvalue->bler_target);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Bler-Target", "bler-target", -1, "HS-SCCH-SystemInfo-TDD128");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->bler_target, -63, 0);
+   RT_CHECK_PUT(ctx, cur, stat, "Bler-Target", "bler-target", -1, "HS-SCCH-SystemInfo-TDD128");
+   /* power-control-gap */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->power_control_gap - 1) > 254u) {
+         rtxErrAddStrParm(ctx, "power-control-gap");
+         rtxErrAddUIntParm(ctx, pvalue->power_control_gap);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "power-control-gap", -1, "HS-SCCH-SystemInfo-TDD128");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->power_control_gap, 1, 255);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "power-control-gap", -1, "HS-SCCH-SystemInfo-TDD128");
+   }
+   /* pathloss-compensation-switch */
+   if (pvalue->m & 0x2u) {
+      stat = rtxEncBitAt(ctx, cur, pvalue->pathloss_compensation_switch);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "pathloss-compensation-switch", -1, "HS-SCCH-SystemInfo-TDD128");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_SystemInfo_TDD128(rtxContext* RT_RESTRICT ctx, const HS_SCCH_SystemInfo_TDD128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_SystemInfo_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_PDSCH_Midamble_Configuration_TDD128_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_PDSCH_Midamble_Configuration_TDD128_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if ((uint64_t)pvalue->u.ueSpecificMidamble > 15u) {
+            rtxErrAddStrParm(ctx, "ueSpecificMidamble");
+            rtxErrAddUIntParm(ctx, pvalue->u.ueSpecificMidamble);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ueSpecificMidamble", -1, 0);
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.ueSpecificMidamble, 0, 15);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_PDSCH_Midamble_Configuration_TDD128_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_PDSCH_Midamble_Configuration_TDD128_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_PDSCH_Midamble_Configuration_TDD128_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_PDSCH_Midamble_Configuration_TDD128(rtxContext* RT_RESTRICT ctx, const HS_PDSCH_Midamble_Configuration_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HS-PDSCH-Midamble-Configuration-TDD128");
+   /* midambleAllocationMode */
+   stat = enc_HS_PDSCH_Midamble_Configuration_TDD128_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-PDSCH-Midamble-Configuration-TDD128");
+   /* midambleConfiguration */
+   if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "midambleConfiguration");
+      rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "midambleConfiguration", -1, "HS-PDSCH-Midamble-Configuration-TDD128");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "midambleConfiguration", -1, "HS-PDSCH-Midamble-Configuration-TDD128");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(rtxContext* RT_RESTRICT ctx, const HS_PDSCH_Midamble_Configuration_TDD128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_PDSCH_Midamble_Configuration_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_DSCH_CommonSystemInformation_TDD128_common_H_RNTI_information(rtxContext* RT_RESTRICT ctx, const HS_DSCH_CommonSystemInformation_TDD128_common_H_RNTI_information* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      stat = enc_H_RNTI(ctx, pvalue->elem[i], cur);
+      RT_CHECK(ctx, stat, 0, "H-RNTI", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_DSCH_CommonSystemInformation_TDD128_common_H_RNTI_information(rtxContext* RT_RESTRICT ctx, const HS_DSCH_CommonSystemInformation_TDD128_common_H_RNTI_information* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_DSCH_CommonSystemInformation_TDD128_common_H_RNTI_information, pvalue);
+}
+
+static int enc_HS_DSCH_CommonSystemInformation_TDD128(rtxContext* RT_RESTRICT ctx, const HS_DSCH_CommonSystemInformation_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HS-DSCH-CommonSystemInformation-TDD128");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "HS-DSCH-CommonSystemInformation-TDD128");
+   /* ccch-MappingInfo */
+   stat = enc_CommonRBMappingInfo(ctx, &pvalue->ccch_MappingInfo, cur);
+   RT_CHECK(ctx, stat, 0, "ccch-MappingInfo", -1, "HS-DSCH-CommonSystemInformation-TDD128");
+   /* srb1-MappingInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_CommonRBMappingInfo(ctx, &pvalue->srb1_MappingInfo, cur);
+      RT_CHECK(ctx, stat, 0, "srb1-MappingInfo", -1, "HS-DSCH-CommonSystemInformation-TDD128");
+   }
+   /* common-MAC-ehs-ReorderingQueueList */
+   stat = enc_Common_MAC_ehs_ReorderingQueueList(ctx, &pvalue->common_MAC_ehs_ReorderingQueueList, cur);
+   RT_CHECK(ctx, stat, 0, "common-MAC-ehs-ReorderingQueueList", -1, "HS-DSCH-CommonSystemInformation-TDD128");
+   /* hs-scch-SystemInfo-tdd128 */
+   stat = enc_HS_SCCH_SystemInfo_TDD128(ctx, &pvalue->hs_scch_SystemInfo_tdd128, cur);
+   RT_CHECK(ctx, stat, 0, "hs-scch-SystemInfo-tdd128", -1, "HS-DSCH-CommonSystemInformation-TDD128");
+   /* harq-SystemInfo */
+   stat = enc_HARQ_Info(ctx, &pvalue->harq_SystemInfo, cur);
+   RT_CHECK(ctx, stat, 0, "harq-SystemInfo", -1, "HS-DSCH-CommonSystemInformation-TDD128");
+   /* hs-pdsch-MidambleConfiguration */
+   stat = enc_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_pdsch_MidambleConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "hs-pdsch-MidambleConfiguration", -1, "HS-DSCH-CommonSystemInformation-TDD128");
+   /* common-H-RNTI-information */
+   stat = enc_HS_DSCH_CommonSystemInformation_TDD128_common_H_RNTI_information(ctx, &pvalue->common_H_RNTI_information, cur);
+   RT_CHECK(ctx, stat, 0, "common-H-RNTI-information", -1, "HS-DSCH-CommonSystemInformation-TDD128");
+   /* bcchSpecific-H-RNTI */
+   stat = enc_H_RNTI(ctx, pvalue->bcchSpecific_H_RNTI, cur);
+   RT_CHECK(ctx, stat, 0, "bcchSpecific-H-RNTI", -1, "HS-DSCH-CommonSystemInformation-TDD128");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_DSCH_CommonSystemInformation_TDD128(rtxContext* RT_RESTRICT ctx, const HS_DSCH_CommonSystemInformation_TDD128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_DSCH_CommonSystemInformation_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int enc_OccurrenceSequenceNumberOfPICH(rtxContext* RT_RESTRICT ctx, OccurrenceSequenceNumberOfPICH value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "OccurrenceSequenceNumberOfPICH");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "OccurrenceSequenceNumberOfPICH");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "OccurrenceSequenceNumberOfPICH");
+   return 0;
+}
+
+int asn1PE_UMTS_OccurrenceSequenceNumberOfPICH(rtxContext* RT_RESTRICT ctx, OccurrenceSequenceNumberOfPICH value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_OccurrenceSequenceNumberOfPICH, value);
+}
+
+RT_MERGED_BODY int enc_PICH_ForHSDPASupportedPaging_TDD128_implicit(rtxContext* RT_RESTRICT ctx, const PICH_ForHSDPASupportedPaging_TDD128_implicit* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* occurrenceSequenceNumberOfPICH */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->occurrenceSequenceNumberOfPICH - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "OccurrenceSequenceNumberOfPICH");
+         rtxErrAddUIntParm(ctx, pvalue->occurrenceSequenceNumberOfPICH);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "OccurrenceSequenceNumberOfPICH", "occurrenceSequenceNumberOfPICH", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->occurrenceSequenceNumberOfPICH, 1, 16);
+      RT_CHECK_PUT(ctx, cur, stat, "OccurrenceSequenceNumberOfPICH", "occurrenceSequenceNumberOfPICH", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PICH_ForHSDPASupportedPaging_TDD128_implicit(rtxContext* RT_RESTRICT ctx, const PICH_ForHSDPASupportedPaging_TDD128_implicit* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PICH_ForHSDPASupportedPaging_TDD128_implicit, pvalue);
+}
+
+RT_MERGED_BODY int enc_PICH_ForHSDPASupportedPaging_TDD128(rtxContext* RT_RESTRICT ctx, const PICH_ForHSDPASupportedPaging_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PICH-ForHSDPASupportedPaging-TDD128");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "PICH-ForHSDPASupportedPaging-TDD128");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "PICH-ForHSDPASupportedPaging-TDD128");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.implicit == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "implicit", -1, "PICH-ForHSDPASupportedPaging-TDD128");
+         stat = enc_PICH_ForHSDPASupportedPaging_TDD128_implicit(ctx, pvalue->u.implicit, cur);
+         RT_CHECK(ctx, stat, 0, "implicit", -1, "PICH-ForHSDPASupportedPaging-TDD128");
+         break;
+      case 2:
+         if (pvalue->u.explicit_ == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "explicit", -1, "PICH-ForHSDPASupportedPaging-TDD128");
+         stat = enc_PICH_Info_LCR_r4(ctx, pvalue->u.explicit_, cur);
+         RT_CHECK(ctx, stat, 0, "explicit", -1, "PICH-ForHSDPASupportedPaging-TDD128");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PICH_ForHSDPASupportedPaging_TDD128(rtxContext* RT_RESTRICT ctx, const PICH_ForHSDPASupportedPaging_TDD128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PICH_ForHSDPASupportedPaging_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_DSCH_PagingSystemInformation_TDD128_pich_ForHsdschList(rtxContext* RT_RESTRICT ctx, const HS_DSCH_PagingSystemInformation_TDD128_pich_ForHsdschList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "PICH-ForHSDPASupportedPaging-TDD128", (int32_t)i, 0);
+      stat = enc_PICH_ForHSDPASupportedPaging_TDD128(ctx, (const PICH_ForHSDPASupportedPaging_TDD128*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "PICH-ForHSDPASupportedPaging-TDD128", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_DSCH_PagingSystemInformation_TDD128_pich_ForHsdschList(rtxContext* RT_RESTRICT ctx, const HS_DSCH_PagingSystemInformation_TDD128_pich_ForHsdschList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_DSCH_PagingSystemInformation_TDD128_pich_ForHsdschList, pvalue);
+}
+
+RT_MERGED_BODY int enc_CodeResourceInformation_TDD128(rtxContext* RT_RESTRICT ctx, const CodeResourceInformation_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CodeResourceInformation-TDD128");
+   /* start-code */
+   if (pvalue->start_code > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->start_code);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "start-code", -1, "CodeResourceInformation-TDD128");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->start_code, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "HS-ChannelisationCode-LCR", "start-code", -1, "CodeResourceInformation-TDD128");
+   /* stop-code */
+   if (pvalue->stop_code > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->stop_code);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "stop-code", -1, "CodeResourceInformation-TDD128");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->stop_code, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "HS-ChannelisationCode-LCR", "stop-code", -1, "CodeResourceInformation-TDD128");
+   return 0;
+}
+
+int asn1PE_UMTS_CodeResourceInformation_TDD128(rtxContext* RT_RESTRICT ctx, const CodeResourceInformation_TDD128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CodeResourceInformation_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int enc_PCCH_InformationList_paging_associatedHspdschInfo_element(rtxContext* RT_RESTRICT ctx, const PCCH_InformationList_paging_associatedHspdschInfo_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* hs-pdsch-MidambleConfiguration */
+   stat = enc_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_pdsch_MidambleConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "hs-pdsch-MidambleConfiguration", -1, 0);
+   /* timeslotResourceRelatedInfo */
+   RT_SET_SIZE(ctx, 6, 6);
+   stat = pe_BitString32At(ctx, cur, &pvalue->timeslotResourceRelatedInfo, 6, 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "timeslotResourceRelatedInfo", -1, 0);
+   /* codeResourceInformation */
+   stat = enc_CodeResourceInformation_TDD128(ctx, &pvalue->codeResourceInformation, cur);
+   RT_CHECK(ctx, stat, 0, "codeResourceInformation", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PCCH_InformationList_paging_associatedHspdschInfo_element(rtxContext* RT_RESTRICT ctx, const PCCH_InformationList_paging_associatedHspdschInfo_element* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PCCH_InformationList_paging_associatedHspdschInfo_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_PCCH_InformationList_paging_associatedHspdschInfo(rtxContext* RT_RESTRICT ctx, const PCCH_InformationList_paging_associatedHspdschInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
+      stat = enc_PCCH_InformationList_paging_associatedHspdschInfo_element(ctx, (const PCCH_InformationList_paging_associatedHspdschInfo_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PCCH_InformationList_paging_associatedHspdschInfo(rtxContext* RT_RESTRICT ctx, const PCCH_InformationList_paging_associatedHspdschInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PCCH_InformationList_paging_associatedHspdschInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_PCCH_InformationList_transportBlockSizeList(rtxContext* RT_RESTRICT ctx, const PCCH_InformationList_transportBlockSizeList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 2);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)(pvalue->elem[i] - 1) > 31u) {
+         rtxErrAddStrParm(ctx, "TransportBlockSizeIndex");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportBlockSizeIndex", "TransportBlockSizeIndex", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 1, 32);
+      RT_CHECK_PUT(ctx, cur, stat, "TransportBlockSizeIndex", "TransportBlockSizeIndex", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PCCH_InformationList_transportBlockSizeList(rtxContext* RT_RESTRICT ctx, const PCCH_InformationList_transportBlockSizeList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PCCH_InformationList_transportBlockSizeList, pvalue);
+}
+
+RT_MERGED_BODY int enc_PCCH_InformationList(rtxContext* RT_RESTRICT ctx, const PCCH_InformationList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PCCH-InformationList");
+   /* paging-associatedHspdschInfo */
+   stat = enc_PCCH_InformationList_paging_associatedHspdschInfo(ctx, &pvalue->paging_associatedHspdschInfo, cur);
+   RT_CHECK(ctx, stat, 0, "paging-associatedHspdschInfo", -1, "PCCH-InformationList");
+   /* paging-sub-Channel-size */
+   if ((uint64_t)(pvalue->paging_sub_Channel_size - 1) > 2u) {
+      rtxErrAddStrParm(ctx, "paging-sub-Channel-size");
+      rtxErrAddUIntParm(ctx, pvalue->paging_sub_Channel_size);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "paging-sub-Channel-size", -1, "PCCH-InformationList");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->paging_sub_Channel_size, 1, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "paging-sub-Channel-size", -1, "PCCH-InformationList");
+   /* transportBlockSizeList */
+   stat = enc_PCCH_InformationList_transportBlockSizeList(ctx, &pvalue->transportBlockSizeList, cur);
+   RT_CHECK(ctx, stat, 0, "transportBlockSizeList", -1, "PCCH-InformationList");
+   return 0;
+}
+
+int asn1PE_UMTS_PCCH_InformationList(rtxContext* RT_RESTRICT ctx, const PCCH_InformationList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PCCH_InformationList, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_DSCH_PagingSystemInformation_TDD128(rtxContext* RT_RESTRICT ctx, const HS_DSCH_PagingSystemInformation_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HS-DSCH-PagingSystemInformation-TDD128");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "HS-DSCH-PagingSystemInformation-TDD128");
+   /* pich-ForHsdschList */
+   stat = enc_HS_DSCH_PagingSystemInformation_TDD128_pich_ForHsdschList(ctx, &pvalue->pich_ForHsdschList, cur);
+   RT_CHECK(ctx, stat, 0, "pich-ForHsdschList", -1, "HS-DSCH-PagingSystemInformation-TDD128");
+   /* dtch-DCCH-reception-window-size */
+   if ((uint64_t)(pvalue->dtch_DCCH_reception_window_size - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "dtch-DCCH-reception-window-size");
+      rtxErrAddUIntParm(ctx, pvalue->dtch_DCCH_reception_window_size);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "dtch-DCCH-reception-window-size", -1, "HS-DSCH-PagingSystemInformation-TDD128");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dtch_DCCH_reception_window_size, 1, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "dtch-DCCH-reception-window-size", -1, "HS-DSCH-PagingSystemInformation-TDD128");
+   /* pcch-InformationList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PCCH_InformationList(ctx, &pvalue->pcch_InformationList, cur);
+      RT_CHECK(ctx, stat, 0, "pcch-InformationList", -1, "HS-DSCH-PagingSystemInformation-TDD128");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_DSCH_PagingSystemInformation_TDD128(rtxContext* RT_RESTRICT ctx, const HS_DSCH_PagingSystemInformation_TDD128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_DSCH_PagingSystemInformation_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128_hs_dsch_CommonSysInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128_hs_dsch_CommonSysInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* hs-dsch-CommonSystemInformation */
+   stat = enc_HS_DSCH_CommonSystemInformation_TDD128(ctx, &pvalue->hs_dsch_CommonSystemInformation, cur);
+   RT_CHECK(ctx, stat, 0, "hs-dsch-CommonSystemInformation", -1, 0);
+   /* hs-dsch-PagingSystemInformation */
+   if (pvalue->m & 0x1u) {
+      stat = enc_HS_DSCH_PagingSystemInformation_TDD128(ctx, &pvalue->hs_dsch_PagingSystemInformation, cur);
+      RT_CHECK(ctx, stat, 0, "hs-dsch-PagingSystemInformation", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128_hs_dsch_CommonSysInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128_hs_dsch_CommonSysInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128_hs_dsch_CommonSysInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_DSCH_DrxCellfach_info_TDD128(rtxContext* RT_RESTRICT ctx, const HS_DSCH_DrxCellfach_info_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HS-DSCH-DrxCellfach-info-TDD128");
+   /* t-321 */
+   if (pvalue->t_321 > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->t_321);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "T-321", "t-321", -1, "HS-DSCH-DrxCellfach-info-TDD128");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->t_321, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "T-321", "t-321", -1, "HS-DSCH-DrxCellfach-info-TDD128");
+   /* hs-dsch-DrxCycleFach */
+   if (pvalue->hs_dsch_DrxCycleFach > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->hs_dsch_DrxCycleFach);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "HS-DSCH-DrxCycleFach", "hs-dsch-DrxCycleFach", -1, "HS-DSCH-DrxCellfach-info-TDD128");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->hs_dsch_DrxCycleFach, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "HS-DSCH-DrxCycleFach", "hs-dsch-DrxCycleFach", -1, "HS-DSCH-DrxCellfach-info-TDD128");
+   /* hs-dsch-DrxBurstFach */
+   if (pvalue->hs_dsch_DrxBurstFach > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->hs_dsch_DrxBurstFach);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "HS-DSCH-DrxBurstFach", "hs-dsch-DrxBurstFach", -1, "HS-DSCH-DrxCellfach-info-TDD128");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->hs_dsch_DrxBurstFach, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "HS-DSCH-DrxBurstFach", "hs-dsch-DrxBurstFach", -1, "HS-DSCH-DrxCellfach-info-TDD128");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_DSCH_DrxCellfach_info_TDD128(rtxContext* RT_RESTRICT ctx, const HS_DSCH_DrxCellfach_info_TDD128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_DSCH_DrxCellfach_info_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* hs-dsch-CommonSysInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128_hs_dsch_CommonSysInfo(ctx, &pvalue->hs_dsch_CommonSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "hs-dsch-CommonSysInfo", -1, 0);
+   }
+   /* hs-dsch-DrxCellfach-info */
+   if (pvalue->m & 0x2u) {
+      stat = enc_HS_DSCH_DrxCellfach_info_TDD128(ctx, &pvalue->hs_dsch_DrxCellfach_info, cur);
+      RT_CHECK(ctx, stat, 0, "hs-dsch-DrxCellfach-info", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128, pvalue);
+}
+
+static int enc_SysInfoType5_v860ext_IEs_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v860ext_IEs_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_SysInfoType5_v860ext_IEs_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_SysInfoType5_v860ext_IEs_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType5_v860ext_IEs_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v860ext_IEs_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5_v860ext_IEs_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType5_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v860ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType5-v860ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType5-v860ext-IEs");
+   /* dummy */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SysInfoType5_v860ext_IEs_dummy(ctx, &pvalue->dummy, cur);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "SysInfoType5-v860ext-IEs");
+   }
+   /* modeSpecificInfo */
+   stat = enc_SysInfoType5_v860ext_IEs_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SysInfoType5-v860ext-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType5_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5_v860ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_UARFCN(rtxContext* RT_RESTRICT ctx, UARFCN value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 16383u) {
+      rtxErrAddStrParm(ctx, "UARFCN");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "UARFCN");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 16383);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UARFCN");
+   return 0;
+}
+
+int asn1PE_UMTS_UARFCN(rtxContext* RT_RESTRICT ctx, UARFCN value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UARFCN, value);
+}
+
+RT_MERGED_BODY int enc_FrequencyInfoTDD(rtxContext* RT_RESTRICT ctx, const FrequencyInfoTDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "FrequencyInfoTDD");
+   /* uarfcn-Nt */
+   if ((uint64_t)pvalue->uarfcn_Nt > 16383u) {
+      rtxErrAddStrParm(ctx, "UARFCN");
+      rtxErrAddUIntParm(ctx, pvalue->uarfcn_Nt);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UARFCN", "uarfcn-Nt", -1, "FrequencyInfoTDD");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->uarfcn_Nt, 0, 16383);
+   RT_CHECK_PUT(ctx, cur, stat, "UARFCN", "uarfcn-Nt", -1, "FrequencyInfoTDD");
+   return 0;
+}
+
+int asn1PE_UMTS_FrequencyInfoTDD(rtxContext* RT_RESTRICT ctx, const FrequencyInfoTDD* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_FrequencyInfoTDD, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_DCH_MAC_d_FlowIdentity(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowIdentity value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 7u) {
+      rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowIdentity");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "E-DCH-MAC-d-FlowIdentity");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-DCH-MAC-d-FlowIdentity");
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_MAC_d_FlowIdentity(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowIdentity value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_MAC_d_FlowIdentity, value);
+}
+
+RT_MERGED_BODY int enc_E_DCH_MAC_d_FlowPowerOffset(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowPowerOffset value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 6u) {
+      rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowPowerOffset");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "E-DCH-MAC-d-FlowPowerOffset");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-DCH-MAC-d-FlowPowerOffset");
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_MAC_d_FlowPowerOffset(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowPowerOffset value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_MAC_d_FlowPowerOffset, value);
+}
+
+RT_MERGED_BODY int enc_E_DCH_MAC_d_FlowMaxRetrans(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowMaxRetrans value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 15u) {
+      rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowMaxRetrans");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "E-DCH-MAC-d-FlowMaxRetrans");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-DCH-MAC-d-FlowMaxRetrans");
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_MAC_d_FlowMaxRetrans(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowMaxRetrans value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_MAC_d_FlowMaxRetrans, value);
+}
+
+RT_MERGED_BODY int enc_E_DCH_MAC_d_FlowMultiplexingList(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowMultiplexingList value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32At(ctx, cur, &value, 8, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-DCH-MAC-d-FlowMultiplexingList");
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_MAC_d_FlowMultiplexingList(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowMultiplexingList value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_MAC_d_FlowMultiplexingList, value);
+}
+
+RT_MERGED_BODY int enc_E_DCH_MAC_d_FlowRetransTimer(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowRetransTimer value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 29) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "E-DCH-MAC-d-FlowRetransTimer");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 29);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-DCH-MAC-d-FlowRetransTimer");
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_MAC_d_FlowRetransTimer(rtxContext* RT_RESTRICT ctx, E_DCH_MAC_d_FlowRetransTimer value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_MAC_d_FlowRetransTimer, value);
+}
+
+RT_MERGED_BODY int enc_Common_E_DCH_MAC_d_Flow(rtxContext* RT_RESTRICT ctx, const Common_E_DCH_MAC_d_Flow* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Common-E-DCH-MAC-d-Flow");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Common-E-DCH-MAC-d-Flow");
+   /* mac-d-FlowIdentity */
+   if ((uint64_t)pvalue->mac_d_FlowIdentity > 7u) {
+      rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->mac_d_FlowIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "E-DCH-MAC-d-FlowIdentity", "mac-d-FlowIdentity", -1, "Common-E-DCH-MAC-d-Flow");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_d_FlowIdentity, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "E-DCH-MAC-d-FlowIdentity", "mac-d-FlowIdentity", -1, "Common-E-DCH-MAC-d-Flow");
+   /* mac-d-FlowPowerOffset */
+   if ((uint64_t)pvalue->mac_d_FlowPowerOffset > 6u) {
+      rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowPowerOffset");
+      rtxErrAddUIntParm(ctx, pvalue->mac_d_FlowPowerOffset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "E-DCH-MAC-d-FlowPowerOffset", "mac-d-FlowPowerOffset", -1, "Common-E-DCH-MAC-d-Flow");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_d_FlowPowerOffset, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "E-DCH-MAC-d-FlowPowerOffset", "mac-d-FlowPowerOffset", -1, "Common-E-DCH-MAC-d-Flow");
+   /* mac-d-FlowMaxRetrans */
+   if ((uint64_t)pvalue->mac_d_FlowMaxRetrans > 15u) {
+      rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowMaxRetrans");
+      rtxErrAddUIntParm(ctx, pvalue->mac_d_FlowMaxRetrans);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "E-DCH-MAC-d-FlowMaxRetrans", "mac-d-FlowMaxRetrans", -1, "Common-E-DCH-MAC-d-Flow");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_d_FlowMaxRetrans, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "E-DCH-MAC-d-FlowMaxRetrans", "mac-d-FlowMaxRetrans", -1, "Common-E-DCH-MAC-d-Flow");
+   /* mac-d-FlowMultiplexingList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_E_DCH_MAC_d_FlowMultiplexingList(ctx, pvalue->mac_d_FlowMultiplexingList, cur);
+      RT_CHECK(ctx, stat, 0, "mac-d-FlowMultiplexingList", -1, "Common-E-DCH-MAC-d-Flow");
+   }
+   /* e-dch-mac-d-flow-retransmission-timer */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->e_dch_mac_d_flow_retransmission_timer > 29) {
+         rtxErrAddUIntParm(ctx, pvalue->e_dch_mac_d_flow_retransmission_timer);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "E-DCH-MAC-d-FlowRetransTimer", "e-dch-mac-d-flow-retransmission-timer", -1, "Common-E-DCH-MAC-d-Flow");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->e_dch_mac_d_flow_retransmission_timer, 0, 29);
+      RT_CHECK_PUT(ctx, cur, stat, "E-DCH-MAC-d-FlowRetransTimer", "e-dch-mac-d-flow-retransmission-timer", -1, "Common-E-DCH-MAC-d-Flow");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Common_E_DCH_MAC_d_Flow(rtxContext* RT_RESTRICT ctx, const Common_E_DCH_MAC_d_Flow* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Common_E_DCH_MAC_d_Flow, pvalue);
+}
+
+RT_MERGED_BODY int enc_Common_E_DCH_MAC_d_FlowList(rtxContext* RT_RESTRICT ctx, const Common_E_DCH_MAC_d_FlowList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Common-E-DCH-MAC-d-FlowList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "Common-E-DCH-MAC-d-FlowList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "Common-E-DCH-MAC-d-Flow", (int32_t)i, "Common-E-DCH-MAC-d-FlowList");
+      stat = enc_Common_E_DCH_MAC_d_Flow(ctx, (const Common_E_DCH_MAC_d_Flow*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "Common-E-DCH-MAC-d-Flow", (int32_t)i, "Common-E-DCH-MAC-d-FlowList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Common_E_DCH_MAC_d_FlowList(rtxContext* RT_RESTRICT ctx, const Common_E_DCH_MAC_d_FlowList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Common_E_DCH_MAC_d_FlowList, pvalue);
+}
+
+static int enc_PRACH_PreambleForEnhancedUplink(rtxContext* RT_RESTRICT ctx, const PRACH_PreambleForEnhancedUplink* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-PreambleForEnhancedUplink");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 0), 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PRACH-PreambleForEnhancedUplink");
+   /* availableSignatures */
+   stat = enc_AvailableSignatures(ctx, pvalue->availableSignatures, cur);
+   RT_CHECK(ctx, stat, 0, "availableSignatures", -1, "PRACH-PreambleForEnhancedUplink");
+   /* e-ai-Indication */
+   stat = rtxEncBitAt(ctx, cur, pvalue->e_ai_Indication);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "e-ai-Indication", -1, "PRACH-PreambleForEnhancedUplink");
+   /* preambleScramblingCodeWordNumber */
+   if ((uint64_t)pvalue->preambleScramblingCodeWordNumber > 15u) {
+      rtxErrAddStrParm(ctx, "PreambleScramblingCodeWordNumber");
+      rtxErrAddUIntParm(ctx, pvalue->preambleScramblingCodeWordNumber);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PreambleScramblingCodeWordNumber", "preambleScramblingCodeWordNumber", -1, "PRACH-PreambleForEnhancedUplink");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->preambleScramblingCodeWordNumber, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "PreambleScramblingCodeWordNumber", "preambleScramblingCodeWordNumber", -1, "PRACH-PreambleForEnhancedUplink");
+   /* availableSubChannelNumbers */
+   stat = enc_AvailableSubChannelNumbers(ctx, pvalue->availableSubChannelNumbers, cur);
+   RT_CHECK(ctx, stat, 0, "availableSubChannelNumbers", -1, "PRACH-PreambleForEnhancedUplink");
+   /* prach-Partitioning */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PRACH_Partitioning_r7(ctx, &pvalue->prach_Partitioning, cur);
+      RT_CHECK(ctx, stat, 0, "prach-Partitioning", -1, "PRACH-PreambleForEnhancedUplink");
+   }
+   /* persistenceScalingFactorList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_PersistenceScalingFactorList(ctx, &pvalue->persistenceScalingFactorList, cur);
+      RT_CHECK(ctx, stat, 0, "persistenceScalingFactorList", -1, "PRACH-PreambleForEnhancedUplink");
+   }
+   /* ac-To-ASC-MappingTable */
+   if (pvalue->m & 0x4u) {
+      stat = enc_AC_To_ASC_MappingTable(ctx, &pvalue->ac_To_ASC_MappingTable, cur);
+      RT_CHECK(ctx, stat, 0, "ac-To-ASC-MappingTable", -1, "PRACH-PreambleForEnhancedUplink");
+   }
+   /* primaryCPICH-TX-Power */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->primaryCPICH_TX_Power < -10 || pvalue->primaryCPICH_TX_Power > 50) {
+         rtxErrAddStrParm(ctx, "PrimaryCPICH-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->primaryCPICH_TX_Power);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, "PRACH-PreambleForEnhancedUplink");
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->primaryCPICH_TX_Power, -10, 50);
+      RT_CHECK_PUT(ctx, cur, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, "PRACH-PreambleForEnhancedUplink");
+   }
+   /* constantValue */
+   if (pvalue->m & 0x10u) {
+      if (pvalue->constantValue < -35 || pvalue->constantValue > -10) {
+         rtxErrAddStrParm(ctx, "ConstantValue");
+         rtxErrAddIntParm(ctx, pvalue->constantValue);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ConstantValue", "constantValue", -1, "PRACH-PreambleForEnhancedUplink");
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->constantValue, -35, -10);
+      RT_CHECK_PUT(ctx, cur, stat, "ConstantValue", "constantValue", -1, "PRACH-PreambleForEnhancedUplink");
+   }
+   /* prach-PowerOffset */
+   if (pvalue->m & 0x20u) {
+      stat = enc_PRACH_PowerOffset(ctx, &pvalue->prach_PowerOffset, cur);
+      RT_CHECK(ctx, stat, 0, "prach-PowerOffset", -1, "PRACH-PreambleForEnhancedUplink");
+   }
+   /* rach-TransmissionParameters */
+   if (pvalue->m & 0x40u) {
+      stat = enc_RACH_TransmissionParameters(ctx, &pvalue->rach_TransmissionParameters, cur);
+      RT_CHECK(ctx, stat, 0, "rach-TransmissionParameters", -1, "PRACH-PreambleForEnhancedUplink");
+   }
+   /* aich-Info */
+   if (pvalue->m & 0x80u) {
+      stat = enc_AICH_Info(ctx, &pvalue->aich_Info, cur);
+      RT_CHECK(ctx, stat, 0, "aich-Info", -1, "PRACH-PreambleForEnhancedUplink");
+   }
+   /* powerOffsetPp-e */
+   if (pvalue->powerOffsetPp_e < -5 || pvalue->powerOffsetPp_e > 10) {
+      rtxErrAddStrParm(ctx, "powerOffsetPp-e");
+      rtxErrAddIntParm(ctx, pvalue->powerOffsetPp_e);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "powerOffsetPp-e", -1, "PRACH-PreambleForEnhancedUplink");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->powerOffsetPp_e, -5, 10);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "powerOffsetPp-e", -1, "PRACH-PreambleForEnhancedUplink");
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_PreambleForEnhancedUplink(rtxContext* RT_RESTRICT ctx, const PRACH_PreambleForEnhancedUplink* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PRACH_PreambleForEnhancedUplink, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_DCH_TTI(rtxContext* RT_RESTRICT ctx, E_DCH_TTI value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "E-DCH-TTI");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-DCH-TTI");
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_TTI(rtxContext* RT_RESTRICT ctx, E_DCH_TTI value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_TTI, value);
+}
+
+RT_MERGED_BODY int enc_E_AGCH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, E_AGCH_ChannelisationCode value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-AGCH-ChannelisationCode");
+   return 0;
+}
+
+int asn1PE_UMTS_E_AGCH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, E_AGCH_ChannelisationCode value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_AGCH_ChannelisationCode, value);
+}
+
+RT_MERGED_BODY int enc_E_AGCH_Information(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-AGCH-Information");
+   /* e-AGCH-ChannelisationCode */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->e_AGCH_ChannelisationCode, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, "E-AGCH-ChannelisationCode", "e-AGCH-ChannelisationCode", -1, "E-AGCH-Information");
+   return 0;
+}
+
+int asn1PE_UMTS_E_AGCH_Information(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_AGCH_Information, pvalue);
+}
+
+RT_MERGED_BODY int enc_CommonEDCHSystemInfo_modeSpecificInfo_fdd_harq_Info(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_harq_Info value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_harq_Info(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_harq_Info value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CommonEDCHSystemInfo_modeSpecificInfo_fdd_harq_Info, value);
+}
+
+RT_MERGED_BODY int enc_TPC_StepSizeFDD(rtxContext* RT_RESTRICT ctx, TPC_StepSizeFDD value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 1u) {
+      rtxErrAddStrParm(ctx, "TPC-StepSizeFDD");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "TPC-StepSizeFDD");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TPC-StepSizeFDD");
+   return 0;
+}
+
+int asn1PE_UMTS_TPC_StepSizeFDD(rtxContext* RT_RESTRICT ctx, TPC_StepSizeFDD value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TPC_StepSizeFDD, value);
+}
+
+RT_MERGED_BODY int enc_PowerControlAlgorithm(rtxContext* RT_RESTRICT ctx, const PowerControlAlgorithm* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PowerControlAlgorithm");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "PowerControlAlgorithm");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "PowerControlAlgorithm");
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)pvalue->u.algorithm1 > 1u) {
+            rtxErrAddStrParm(ctx, "TPC-StepSizeFDD");
+            rtxErrAddUIntParm(ctx, pvalue->u.algorithm1);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TPC-StepSizeFDD", "algorithm1", -1, "PowerControlAlgorithm");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.algorithm1, 0, 1);
+         RT_CHECK_PUT(ctx, cur, stat, "TPC-StepSizeFDD", "algorithm1", -1, "PowerControlAlgorithm");
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PowerControlAlgorithm(rtxContext* RT_RESTRICT ctx, const PowerControlAlgorithm* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PowerControlAlgorithm, pvalue);
+}
+
+RT_MERGED_BODY int enc_DeltaACK(rtxContext* RT_RESTRICT ctx, DeltaACK value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 8u) {
+      rtxErrAddStrParm(ctx, "DeltaACK");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "DeltaACK");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DeltaACK");
+   return 0;
+}
+
+int asn1PE_UMTS_DeltaACK(rtxContext* RT_RESTRICT ctx, DeltaACK value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DeltaACK, value);
+}
+
+RT_MERGED_BODY int enc_DeltaNACK(rtxContext* RT_RESTRICT ctx, DeltaNACK value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 8u) {
+      rtxErrAddStrParm(ctx, "DeltaNACK");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "DeltaNACK");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DeltaNACK");
+   return 0;
+}
+
+int asn1PE_UMTS_DeltaNACK(rtxContext* RT_RESTRICT ctx, DeltaNACK value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DeltaNACK, value);
+}
+
+RT_MERGED_BODY int enc_ACK_NACK_repetitionFactor(rtxContext* RT_RESTRICT ctx, ACK_NACK_repetitionFactor value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 3u) {
+      rtxErrAddStrParm(ctx, "ACK-NACK-repetitionFactor");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "ACK-NACK-repetitionFactor");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ACK-NACK-repetitionFactor");
+   return 0;
+}
+
+int asn1PE_UMTS_ACK_NACK_repetitionFactor(rtxContext* RT_RESTRICT ctx, ACK_NACK_repetitionFactor value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ACK_NACK_repetitionFactor, value);
+}
+
+RT_MERGED_BODY int enc_UL_DPCHpowerControlInfoForCommonEDCH(rtxContext* RT_RESTRICT ctx, const UL_DPCHpowerControlInfoForCommonEDCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCHpowerControlInfoForCommonEDCH");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UL-DPCHpowerControlInfoForCommonEDCH");
+   /* powerControlAlgorithm */
+   stat = enc_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm, cur);
+   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, "UL-DPCHpowerControlInfoForCommonEDCH");
+   /* deltaACK */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->deltaACK > 8u) {
+         rtxErrAddStrParm(ctx, "DeltaACK");
+         rtxErrAddUIntParm(ctx, pvalue->deltaACK);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DeltaACK", "deltaACK", -1, "UL-DPCHpowerControlInfoForCommonEDCH");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->deltaACK, 0, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "DeltaACK", "deltaACK", -1, "UL-DPCHpowerControlInfoForCommonEDCH");
+   }
+   /* deltaNACK */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->deltaNACK > 8u) {
+         rtxErrAddStrParm(ctx, "DeltaNACK");
+         rtxErrAddUIntParm(ctx, pvalue->deltaNACK);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DeltaNACK", "deltaNACK", -1, "UL-DPCHpowerControlInfoForCommonEDCH");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->deltaNACK, 0, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "DeltaNACK", "deltaNACK", -1, "UL-DPCHpowerControlInfoForCommonEDCH");
+   }
+   /* ack-NACK-repetition-factor */
+   if (pvalue->m & 0x4u) {
+      if ((uint64_t)(pvalue->ack_NACK_repetition_factor - 1) > 3u) {
+         rtxErrAddStrParm(ctx, "ACK-NACK-repetitionFactor");
+         rtxErrAddUIntParm(ctx, pvalue->ack_NACK_repetition_factor);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ACK-NACK-repetitionFactor", "ack-NACK-repetition-factor", -1, "UL-DPCHpowerControlInfoForCommonEDCH");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ack_NACK_repetition_factor, 1, 4);
+      RT_CHECK_PUT(ctx, cur, stat, "ACK-NACK-repetitionFactor", "ack-NACK-repetition-factor", -1, "UL-DPCHpowerControlInfoForCommonEDCH");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCHpowerControlInfoForCommonEDCH(rtxContext* RT_RESTRICT ctx, const UL_DPCHpowerControlInfoForCommonEDCH* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCHpowerControlInfoForCommonEDCH, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_DPCCH_DPCCH_PowerOffset(rtxContext* RT_RESTRICT ctx, E_DPCCH_DPCCH_PowerOffset value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 8u) {
+      rtxErrAddStrParm(ctx, "E-DPCCH-DPCCH-PowerOffset");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "E-DPCCH-DPCCH-PowerOffset");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-DPCCH-DPCCH-PowerOffset");
+   return 0;
+}
+
+int asn1PE_UMTS_E_DPCCH_DPCCH_PowerOffset(rtxContext* RT_RESTRICT ctx, E_DPCCH_DPCCH_PowerOffset value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DPCCH_DPCCH_PowerOffset, value);
+}
+
+RT_MERGED_BODY int enc_HappyBit_DelayCondition(rtxContext* RT_RESTRICT ctx, HappyBit_DelayCondition value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "HappyBit-DelayCondition");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "HappyBit-DelayCondition");
+   return 0;
+}
+
+int asn1PE_UMTS_HappyBit_DelayCondition(rtxContext* RT_RESTRICT ctx, HappyBit_DelayCondition value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HappyBit_DelayCondition, value);
+}
+
+RT_MERGED_BODY int enc_E_TFC_Boost_Info_r7(rtxContext* RT_RESTRICT ctx, const E_TFC_Boost_Info_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-TFC-Boost-Info-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-TFC-Boost-Info-r7");
+   /* e-TFCI-Boost */
+   if ((uint64_t)pvalue->e_TFCI_Boost > 127u) {
+      rtxErrAddStrParm(ctx, "e-TFCI-Boost");
+      rtxErrAddUIntParm(ctx, pvalue->e_TFCI_Boost);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "e-TFCI-Boost", -1, "E-TFC-Boost-Info-r7");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->e_TFCI_Boost, 0, 127);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "e-TFCI-Boost", -1, "E-TFC-Boost-Info-r7");
+   /* delta-T2TP */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->delta_T2TP > 6u) {
+         rtxErrAddStrParm(ctx, "delta-T2TP");
+         rtxErrAddUIntParm(ctx, pvalue->delta_T2TP);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "delta-T2TP", -1, "E-TFC-Boost-Info-r7");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->delta_T2TP, 0, 6);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "delta-T2TP", -1, "E-TFC-Boost-Info-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_TFC_Boost_Info_r7(rtxContext* RT_RESTRICT ctx, const E_TFC_Boost_Info_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_TFC_Boost_Info_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_DPDCH_PowerInterpolation(rtxContext* RT_RESTRICT ctx, E_DPDCH_PowerInterpolation value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   stat = rtxEncBitAt(ctx, cur, value);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-DPDCH-PowerInterpolation");
+   return 0;
+}
+
+int asn1PE_UMTS_E_DPDCH_PowerInterpolation(rtxContext* RT_RESTRICT ctx, E_DPDCH_PowerInterpolation value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DPDCH_PowerInterpolation, value);
+}
+
+RT_MERGED_BODY int enc_E_DPCCH_Info_r7(rtxContext* RT_RESTRICT ctx, const E_DPCCH_Info_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-DPCCH-Info-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-DPCCH-Info-r7");
+   /* e-DPCCH-DPCCH-PowerOffset */
+   if ((uint64_t)pvalue->e_DPCCH_DPCCH_PowerOffset > 8u) {
+      rtxErrAddStrParm(ctx, "E-DPCCH-DPCCH-PowerOffset");
+      rtxErrAddUIntParm(ctx, pvalue->e_DPCCH_DPCCH_PowerOffset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "E-DPCCH-DPCCH-PowerOffset", "e-DPCCH-DPCCH-PowerOffset", -1, "E-DPCCH-Info-r7");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->e_DPCCH_DPCCH_PowerOffset, 0, 8);
+   RT_CHECK_PUT(ctx, cur, stat, "E-DPCCH-DPCCH-PowerOffset", "e-DPCCH-DPCCH-PowerOffset", -1, "E-DPCCH-Info-r7");
+   /* happyBit-DelayCondition */
+   if (pvalue->happyBit_DelayCondition > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->happyBit_DelayCondition);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "HappyBit-DelayCondition", "happyBit-DelayCondition", -1, "E-DPCCH-Info-r7");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->happyBit_DelayCondition, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "HappyBit-DelayCondition", "happyBit-DelayCondition", -1, "E-DPCCH-Info-r7");
+   /* e-TFC-Boost-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_E_TFC_Boost_Info_r7(ctx, &pvalue->e_TFC_Boost_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-TFC-Boost-Info", -1, "E-DPCCH-Info-r7");
+   }
+   /* e-DPDCH-PowerInterpolation */
+   if (pvalue->m & 0x2u) {
+      stat = rtxEncBitAt(ctx, cur, pvalue->e_DPDCH_PowerInterpolation);
+      RT_CHECK_PUT(ctx, cur, stat, "E-DPDCH-PowerInterpolation", "e-DPDCH-PowerInterpolation", -1, "E-DPCCH-Info-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_DPCCH_Info_r7(rtxContext* RT_RESTRICT ctx, const E_DPCCH_Info_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DPCCH_Info_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_TFCI_TableIndex(rtxContext* RT_RESTRICT ctx, E_TFCI_TableIndex value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 1u) {
+      rtxErrAddStrParm(ctx, "E-TFCI-TableIndex");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "E-TFCI-TableIndex");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-TFCI-TableIndex");
+   return 0;
+}
+
+int asn1PE_UMTS_E_TFCI_TableIndex(rtxContext* RT_RESTRICT ctx, E_TFCI_TableIndex value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_TFCI_TableIndex, value);
+}
+
+RT_MERGED_BODY int enc_E_DCH_MinimumSet_E_TFCI(rtxContext* RT_RESTRICT ctx, E_DCH_MinimumSet_E_TFCI value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 127u) {
+      rtxErrAddStrParm(ctx, "E-DCH-MinimumSet-E-TFCI");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "E-DCH-MinimumSet-E-TFCI");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 127);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-DCH-MinimumSet-E-TFCI");
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_MinimumSet_E_TFCI(rtxContext* RT_RESTRICT ctx, E_DCH_MinimumSet_E_TFCI value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_MinimumSet_E_TFCI, value);
+}
+
+RT_MERGED_BODY int enc_E_DPDCH_Reference_E_TFCI_r7(rtxContext* RT_RESTRICT ctx, const E_DPDCH_Reference_E_TFCI_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-DPDCH-Reference-E-TFCI-r7");
+   /* reference-E-TFCI */
+   if ((uint64_t)pvalue->reference_E_TFCI > 127u) {
+      rtxErrAddStrParm(ctx, "reference-E-TFCI");
+      rtxErrAddUIntParm(ctx, pvalue->reference_E_TFCI);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "reference-E-TFCI", -1, "E-DPDCH-Reference-E-TFCI-r7");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->reference_E_TFCI, 0, 127);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "reference-E-TFCI", -1, "E-DPDCH-Reference-E-TFCI-r7");
+   /* reference-E-TFCI-PO-r7 */
+   if ((uint64_t)pvalue->reference_E_TFCI_PO_r7 > 31u) {
+      rtxErrAddStrParm(ctx, "reference-E-TFCI-PO-r7");
+      rtxErrAddUIntParm(ctx, pvalue->reference_E_TFCI_PO_r7);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "reference-E-TFCI-PO-r7", -1, "E-DPDCH-Reference-E-TFCI-r7");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->reference_E_TFCI_PO_r7, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "reference-E-TFCI-PO-r7", -1, "E-DPDCH-Reference-E-TFCI-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_E_DPDCH_Reference_E_TFCI_r7(rtxContext* RT_RESTRICT ctx, const E_DPDCH_Reference_E_TFCI_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DPDCH_Reference_E_TFCI_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_DPDCH_Reference_E_TFCIList_r7(rtxContext* RT_RESTRICT ctx, const E_DPDCH_Reference_E_TFCIList_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-DPDCH-Reference-E-TFCIList-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "E-DPDCH-Reference-E-TFCIList-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "E-DPDCH-Reference-E-TFCI-r7", (int32_t)i, "E-DPDCH-Reference-E-TFCIList-r7");
+      stat = enc_E_DPDCH_Reference_E_TFCI_r7(ctx, (const E_DPDCH_Reference_E_TFCI_r7*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "E-DPDCH-Reference-E-TFCI-r7", (int32_t)i, "E-DPDCH-Reference-E-TFCIList-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_DPDCH_Reference_E_TFCIList_r7(rtxContext* RT_RESTRICT ctx, const E_DPDCH_Reference_E_TFCIList_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DPDCH_Reference_E_TFCIList_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_MinReduced_E_DPDCH_GainFactor(rtxContext* RT_RESTRICT ctx, MinReduced_E_DPDCH_GainFactor value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MinReduced-E-DPDCH-GainFactor");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MinReduced-E-DPDCH-GainFactor");
+   return 0;
+}
+
+int asn1PE_UMTS_MinReduced_E_DPDCH_GainFactor(rtxContext* RT_RESTRICT ctx, MinReduced_E_DPDCH_GainFactor value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MinReduced_E_DPDCH_GainFactor, value);
+}
+
+RT_MERGED_BODY int enc_E_DPDCH_MaxChannelisationCodes(rtxContext* RT_RESTRICT ctx, E_DPDCH_MaxChannelisationCodes value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 9) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "E-DPDCH-MaxChannelisationCodes");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 9);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-DPDCH-MaxChannelisationCodes");
+   return 0;
+}
+
+int asn1PE_UMTS_E_DPDCH_MaxChannelisationCodes(rtxContext* RT_RESTRICT ctx, E_DPDCH_MaxChannelisationCodes value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DPDCH_MaxChannelisationCodes, value);
+}
+
+RT_MERGED_BODY int enc_E_DPDCH_PL_NonMax(rtxContext* RT_RESTRICT ctx, E_DPDCH_PL_NonMax value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 11) > 14u) {
+      rtxErrAddStrParm(ctx, "E-DPDCH-PL-NonMax");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "E-DPDCH-PL-NonMax");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 11, 25);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-DPDCH-PL-NonMax");
+   return 0;
+}
+
+int asn1PE_UMTS_E_DPDCH_PL_NonMax(rtxContext* RT_RESTRICT ctx, E_DPDCH_PL_NonMax value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DPDCH_PL_NonMax, value);
+}
+
+RT_MERGED_BODY int enc_E_DPDCH_PeriodicyOfSchedInfo(rtxContext* RT_RESTRICT ctx, E_DPDCH_PeriodicyOfSchedInfo value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 8) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "E-DPDCH-PeriodicyOfSchedInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-DPDCH-PeriodicyOfSchedInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_E_DPDCH_PeriodicyOfSchedInfo(rtxContext* RT_RESTRICT ctx, E_DPDCH_PeriodicyOfSchedInfo value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DPDCH_PeriodicyOfSchedInfo, value);
+}
+
+RT_MERGED_BODY int enc_E_DPDCH_SchedulingInfoConfiguration(rtxContext* RT_RESTRICT ctx, const E_DPDCH_SchedulingInfoConfiguration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-DPDCH-SchedulingInfoConfiguration");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-DPDCH-SchedulingInfoConfiguration");
+   /* periodicityOfSchedInfo-NoGrant */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->periodicityOfSchedInfo_NoGrant > 8) {
+         rtxErrAddUIntParm(ctx, pvalue->periodicityOfSchedInfo_NoGrant);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "E-DPDCH-PeriodicyOfSchedInfo", "periodicityOfSchedInfo-NoGrant", -1, "E-DPDCH-SchedulingInfoConfiguration");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->periodicityOfSchedInfo_NoGrant, 0, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "E-DPDCH-PeriodicyOfSchedInfo", "periodicityOfSchedInfo-NoGrant", -1, "E-DPDCH-SchedulingInfoConfiguration");
+   }
+   /* periodicityOfSchedInfo-Grant */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->periodicityOfSchedInfo_Grant > 8) {
+         rtxErrAddUIntParm(ctx, pvalue->periodicityOfSchedInfo_Grant);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "E-DPDCH-PeriodicyOfSchedInfo", "periodicityOfSchedInfo-Grant", -1, "E-DPDCH-SchedulingInfoConfiguration");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->periodicityOfSchedInfo_Grant, 0, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "E-DPDCH-PeriodicyOfSchedInfo", "periodicityOfSchedInfo-Grant", -1, "E-DPDCH-SchedulingInfoConfiguration");
+   }
+   /* powerOffsetForSchedInfo */
+   if ((uint64_t)pvalue->powerOffsetForSchedInfo > 6u) {
+      rtxErrAddStrParm(ctx, "powerOffsetForSchedInfo");
+      rtxErrAddUIntParm(ctx, pvalue->powerOffsetForSchedInfo);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "powerOffsetForSchedInfo", -1, "E-DPDCH-SchedulingInfoConfiguration");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->powerOffsetForSchedInfo, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "powerOffsetForSchedInfo", -1, "E-DPDCH-SchedulingInfoConfiguration");
+   return 0;
+}
+
+int asn1PE_UMTS_E_DPDCH_SchedulingInfoConfiguration(rtxContext* RT_RESTRICT ctx, const E_DPDCH_SchedulingInfoConfiguration* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DPDCH_SchedulingInfoConfiguration, pvalue);
+}
+
+static int enc_E_DPDCH_Info_r8(rtxContext* RT_RESTRICT ctx, const E_DPDCH_Info_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-DPDCH-Info-r8");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-DPDCH-Info-r8");
+   /* e-TFCI-TableIndex */
+   if ((uint64_t)pvalue->e_TFCI_TableIndex > 1u) {
+      rtxErrAddStrParm(ctx, "E-TFCI-TableIndex");
+      rtxErrAddUIntParm(ctx, pvalue->e_TFCI_TableIndex);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "E-TFCI-TableIndex", "e-TFCI-TableIndex", -1, "E-DPDCH-Info-r8");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->e_TFCI_TableIndex, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "E-TFCI-TableIndex", "e-TFCI-TableIndex", -1, "E-DPDCH-Info-r8");
+   /* e-DCH-MinimumSet-E-TFCI */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->e_DCH_MinimumSet_E_TFCI > 127u) {
+         rtxErrAddStrParm(ctx, "E-DCH-MinimumSet-E-TFCI");
+         rtxErrAddUIntParm(ctx, pvalue->e_DCH_MinimumSet_E_TFCI);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "E-DCH-MinimumSet-E-TFCI", "e-DCH-MinimumSet-E-TFCI", -1, "E-DPDCH-Info-r8");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->e_DCH_MinimumSet_E_TFCI, 0, 127);
+      RT_CHECK_PUT(ctx, cur, stat, "E-DCH-MinimumSet-E-TFCI", "e-DCH-MinimumSet-E-TFCI", -1, "E-DPDCH-Info-r8");
+   }
+   /* reference-E-TFCIs */
+   stat = enc_E_DPDCH_Reference_E_TFCIList_r7(ctx, &pvalue->reference_E_TFCIs, cur);
+   RT_CHECK(ctx, stat, 0, "reference-E-TFCIs", -1, "E-DPDCH-Info-r8");
+   /* minReduced-E-DPDCH-GainFactor */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->minReduced_E_DPDCH_GainFactor > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->minReduced_E_DPDCH_GainFactor);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MinReduced-E-DPDCH-GainFactor", "minReduced-E-DPDCH-GainFactor", -1, "E-DPDCH-Info-r8");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->minReduced_E_DPDCH_GainFactor, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "MinReduced-E-DPDCH-GainFactor", "minReduced-E-DPDCH-GainFactor", -1, "E-DPDCH-Info-r8");
+   }
+   /* maxChannelisationCodes */
+   if (pvalue->maxChannelisationCodes > 9) {
+      rtxErrAddUIntParm(ctx, pvalue->maxChannelisationCodes);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "E-DPDCH-MaxChannelisationCodes", "maxChannelisationCodes", -1, "E-DPDCH-Info-r8");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxChannelisationCodes, 0, 9);
+   RT_CHECK_PUT(ctx, cur, stat, "E-DPDCH-MaxChannelisationCodes", "maxChannelisationCodes", -1, "E-DPDCH-Info-r8");
+   /* pl-NonMax */
+   if ((uint64_t)(pvalue->pl_NonMax - 11) > 14u) {
+      rtxErrAddStrParm(ctx, "E-DPDCH-PL-NonMax");
+      rtxErrAddUIntParm(ctx, pvalue->pl_NonMax);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "E-DPDCH-PL-NonMax", "pl-NonMax", -1, "E-DPDCH-Info-r8");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pl_NonMax, 11, 25);
+   RT_CHECK_PUT(ctx, cur, stat, "E-DPDCH-PL-NonMax", "pl-NonMax", -1, "E-DPDCH-Info-r8");
+   /* schedulingInfoConfiguration */
+   stat = enc_E_DPDCH_SchedulingInfoConfiguration(ctx, &pvalue->schedulingInfoConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "schedulingInfoConfiguration", -1, "E-DPDCH-Info-r8");
+   /* threeIndexStepThreshold */
+   if (pvalue->m & 0x4u) {
+      if ((uint64_t)pvalue->threeIndexStepThreshold > 37u) {
+         rtxErrAddStrParm(ctx, "threeIndexStepThreshold");
+         rtxErrAddUIntParm(ctx, pvalue->threeIndexStepThreshold);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "threeIndexStepThreshold", -1, "E-DPDCH-Info-r8");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->threeIndexStepThreshold, 0, 37);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "threeIndexStepThreshold", -1, "E-DPDCH-Info-r8");
+   }
+   /* twoIndexStepThreshold */
+   if (pvalue->m & 0x8u) {
+      if ((uint64_t)pvalue->twoIndexStepThreshold > 37u) {
+         rtxErrAddStrParm(ctx, "twoIndexStepThreshold");
+         rtxErrAddUIntParm(ctx, pvalue->twoIndexStepThreshold);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "twoIndexStepThreshold", -1, "E-DPDCH-Info-r8");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->twoIndexStepThreshold, 0, 37);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "twoIndexStepThreshold", -1, "E-DPDCH-Info-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_DPDCH_Info_r8(rtxContext* RT_RESTRICT ctx, const E_DPDCH_Info_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DPDCH_Info_r8, pvalue);
+}
+
+RT_MERGED_BODY int enc_CommonEDCHSystemInfo_modeSpecificInfo_fdd_max_CCCH_ResourceAllocation(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_max_CCCH_ResourceAllocation value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_max_CCCH_ResourceAllocation(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_max_CCCH_ResourceAllocation value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CommonEDCHSystemInfo_modeSpecificInfo_fdd_max_CCCH_ResourceAllocation, value);
+}
+
+RT_MERGED_BODY int enc_CommonEDCHSystemInfo_modeSpecificInfo_fdd_e_dch_TransmitContinuationOffset(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_e_dch_TransmitContinuationOffset value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_e_dch_TransmitContinuationOffset(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_fdd_e_dch_TransmitContinuationOffset value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CommonEDCHSystemInfo_modeSpecificInfo_fdd_e_dch_TransmitContinuationOffset, value);
+}
+
+RT_MERGED_BODY int enc_MeasurementPowerOffset(rtxContext* RT_RESTRICT ctx, MeasurementPowerOffset value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value < -12 || value > 26) {
+      rtxErrAddStrParm(ctx, "MeasurementPowerOffset");
+      rtxErrAddIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "MeasurementPowerOffset");
+   }
+   stat = pe_ConsInt64At(ctx, cur, value, -12, 26);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MeasurementPowerOffset");
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementPowerOffset(rtxContext* RT_RESTRICT ctx, MeasurementPowerOffset value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementPowerOffset, value);
+}
+
+RT_MERGED_BODY int enc_Feedback_cycle_r7(rtxContext* RT_RESTRICT ctx, Feedback_cycle_r7 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "Feedback-cycle-r7");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Feedback-cycle-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_Feedback_cycle_r7(rtxContext* RT_RESTRICT ctx, Feedback_cycle_r7 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Feedback_cycle_r7, value);
+}
+
+RT_MERGED_BODY int enc_CQI_RepetitionFactor(rtxContext* RT_RESTRICT ctx, CQI_RepetitionFactor value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 3u) {
+      rtxErrAddStrParm(ctx, "CQI-RepetitionFactor");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "CQI-RepetitionFactor");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CQI-RepetitionFactor");
+   return 0;
+}
+
+int asn1PE_UMTS_CQI_RepetitionFactor(rtxContext* RT_RESTRICT ctx, CQI_RepetitionFactor value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CQI_RepetitionFactor, value);
+}
+
+RT_MERGED_BODY int enc_DeltaCQI(rtxContext* RT_RESTRICT ctx, DeltaCQI value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 8u) {
+      rtxErrAddStrParm(ctx, "DeltaCQI");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "DeltaCQI");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DeltaCQI");
+   return 0;
+}
+
+int asn1PE_UMTS_DeltaCQI(rtxContext* RT_RESTRICT ctx, DeltaCQI value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DeltaCQI, value);
+}
+
+RT_MERGED_BODY int enc_Measurement_Feedback_Info_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const Measurement_Feedback_Info_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* measurementPowerOffset */
+   if (pvalue->measurementPowerOffset < -12 || pvalue->measurementPowerOffset > 26) {
+      rtxErrAddStrParm(ctx, "MeasurementPowerOffset");
+      rtxErrAddIntParm(ctx, pvalue->measurementPowerOffset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MeasurementPowerOffset", "measurementPowerOffset", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->measurementPowerOffset, -12, 26);
+   RT_CHECK_PUT(ctx, cur, stat, "MeasurementPowerOffset", "measurementPowerOffset", -1, 0);
+   /* feedback-cycle */
+   if (pvalue->feedback_cycle > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->feedback_cycle);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "Feedback-cycle-r7", "feedback-cycle", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->feedback_cycle, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "Feedback-cycle-r7", "feedback-cycle", -1, 0);
+   /* cqi-RepetitionFactor */
+   if ((uint64_t)(pvalue->cqi_RepetitionFactor - 1) > 3u) {
+      rtxErrAddStrParm(ctx, "CQI-RepetitionFactor");
+      rtxErrAddUIntParm(ctx, pvalue->cqi_RepetitionFactor);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CQI-RepetitionFactor", "cqi-RepetitionFactor", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->cqi_RepetitionFactor, 1, 4);
+   RT_CHECK_PUT(ctx, cur, stat, "CQI-RepetitionFactor", "cqi-RepetitionFactor", -1, 0);
+   /* deltaCQI */
+   if ((uint64_t)pvalue->deltaCQI > 8u) {
+      rtxErrAddStrParm(ctx, "DeltaCQI");
+      rtxErrAddUIntParm(ctx, pvalue->deltaCQI);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DeltaCQI", "deltaCQI", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->deltaCQI, 0, 8);
+   RT_CHECK_PUT(ctx, cur, stat, "DeltaCQI", "deltaCQI", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_Measurement_Feedback_Info_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const Measurement_Feedback_Info_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Measurement_Feedback_Info_r7_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_Measurement_Feedback_Info_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const Measurement_Feedback_Info_r7_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_Measurement_Feedback_Info_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Measurement_Feedback_Info_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const Measurement_Feedback_Info_r7_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Measurement_Feedback_Info_r7_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_Measurement_Feedback_Info_r7(rtxContext* RT_RESTRICT ctx, const Measurement_Feedback_Info_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Measurement-Feedback-Info-r7");
+   /* modeSpecificInfo */
+   stat = enc_Measurement_Feedback_Info_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "Measurement-Feedback-Info-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_Measurement_Feedback_Info_r7(rtxContext* RT_RESTRICT ctx, const Measurement_Feedback_Info_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Measurement_Feedback_Info_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_HICH_RGCH_SignatureSequence(rtxContext* RT_RESTRICT ctx, E_HICH_RGCH_SignatureSequence value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 39u) {
+      rtxErrAddStrParm(ctx, "E-HICH-RGCH-SignatureSequence");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "E-HICH-RGCH-SignatureSequence");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 39);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-HICH-RGCH-SignatureSequence");
+   return 0;
+}
+
+int asn1PE_UMTS_E_HICH_RGCH_SignatureSequence(rtxContext* RT_RESTRICT ctx, E_HICH_RGCH_SignatureSequence value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_HICH_RGCH_SignatureSequence, value);
+}
+
+RT_MERGED_BODY int enc_E_RGCH_CombinationIndex(rtxContext* RT_RESTRICT ctx, E_RGCH_CombinationIndex value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 5u) {
+      rtxErrAddStrParm(ctx, "E-RGCH-CombinationIndex");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "E-RGCH-CombinationIndex");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-RGCH-CombinationIndex");
+   return 0;
+}
+
+int asn1PE_UMTS_E_RGCH_CombinationIndex(rtxContext* RT_RESTRICT ctx, E_RGCH_CombinationIndex value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_RGCH_CombinationIndex, value);
+}
+
+RT_MERGED_BODY int enc_E_RGCH_Information(rtxContext* RT_RESTRICT ctx, const E_RGCH_Information* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-RGCH-Information");
+   /* signatureSequence */
+   if ((uint64_t)pvalue->signatureSequence > 39u) {
+      rtxErrAddStrParm(ctx, "E-HICH-RGCH-SignatureSequence");
+      rtxErrAddUIntParm(ctx, pvalue->signatureSequence);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "E-HICH-RGCH-SignatureSequence", "signatureSequence", -1, "E-RGCH-Information");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->signatureSequence, 0, 39);
+   RT_CHECK_PUT(ctx, cur, stat, "E-HICH-RGCH-SignatureSequence", "signatureSequence", -1, "E-RGCH-Information");
+   /* rg-CombinationIndex */
+   if ((uint64_t)pvalue->rg_CombinationIndex > 5u) {
+      rtxErrAddStrParm(ctx, "E-RGCH-CombinationIndex");
+      rtxErrAddUIntParm(ctx, pvalue->rg_CombinationIndex);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "E-RGCH-CombinationIndex", "rg-CombinationIndex", -1, "E-RGCH-Information");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->rg_CombinationIndex, 0, 5);
+   RT_CHECK_PUT(ctx, cur, stat, "E-RGCH-CombinationIndex", "rg-CombinationIndex", -1, "E-RGCH-Information");
+   return 0;
+}
+
+int asn1PE_UMTS_E_RGCH_Information(rtxContext* RT_RESTRICT ctx, const E_RGCH_Information* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_RGCH_Information, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_HICH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, E_HICH_ChannelisationCode value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 127u) {
+      rtxErrAddStrParm(ctx, "E-HICH-ChannelisationCode");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "E-HICH-ChannelisationCode");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 127);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-HICH-ChannelisationCode");
+   return 0;
+}
+
+int asn1PE_UMTS_E_HICH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, E_HICH_ChannelisationCode value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_HICH_ChannelisationCode, value);
+}
+
+RT_MERGED_BODY int enc_E_HICH_Information(rtxContext* RT_RESTRICT ctx, const E_HICH_Information* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-HICH-Information");
+   /* channelisationCode */
+   if ((uint64_t)pvalue->channelisationCode > 127u) {
+      rtxErrAddStrParm(ctx, "E-HICH-ChannelisationCode");
+      rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "E-HICH-ChannelisationCode", "channelisationCode", -1, "E-HICH-Information");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->channelisationCode, 0, 127);
+   RT_CHECK_PUT(ctx, cur, stat, "E-HICH-ChannelisationCode", "channelisationCode", -1, "E-HICH-Information");
+   /* signatureSequence */
+   if ((uint64_t)pvalue->signatureSequence > 39u) {
+      rtxErrAddStrParm(ctx, "E-HICH-RGCH-SignatureSequence");
+      rtxErrAddUIntParm(ctx, pvalue->signatureSequence);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "E-HICH-RGCH-SignatureSequence", "signatureSequence", -1, "E-HICH-Information");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->signatureSequence, 0, 39);
+   RT_CHECK_PUT(ctx, cur, stat, "E-HICH-RGCH-SignatureSequence", "signatureSequence", -1, "E-HICH-Information");
+   return 0;
+}
+
+int asn1PE_UMTS_E_HICH_Information(rtxContext* RT_RESTRICT ctx, const E_HICH_Information* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_HICH_Information, pvalue);
+}
+
+RT_MERGED_BODY int enc_ScramblingCodeType(rtxContext* RT_RESTRICT ctx, ScramblingCodeType value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "ScramblingCodeType");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ScramblingCodeType");
+   return 0;
+}
+
+int asn1PE_UMTS_ScramblingCodeType(rtxContext* RT_RESTRICT ctx, ScramblingCodeType value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ScramblingCodeType, value);
+}
+
+RT_MERGED_BODY int enc_UL_ScramblingCode(rtxContext* RT_RESTRICT ctx, UL_ScramblingCode value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 16777215u) {
+      rtxErrAddStrParm(ctx, "UL-ScramblingCode");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "UL-ScramblingCode");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 16777215);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UL-ScramblingCode");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_ScramblingCode(rtxContext* RT_RESTRICT ctx, UL_ScramblingCode value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_ScramblingCode, value);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_CodeInfoForCommonEDCH(rtxContext* RT_RESTRICT ctx, const UL_DPCH_CodeInfoForCommonEDCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-CodeInfoForCommonEDCH");
+   /* ul-DPCCHscramblingCodeType */
+   if (pvalue->ul_DPCCHscramblingCodeType > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->ul_DPCCHscramblingCodeType);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ScramblingCodeType", "ul-DPCCHscramblingCodeType", -1, "UL-DPCH-CodeInfoForCommonEDCH");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ul_DPCCHscramblingCodeType, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "ScramblingCodeType", "ul-DPCCHscramblingCodeType", -1, "UL-DPCH-CodeInfoForCommonEDCH");
+   /* ul-DPCCHscramblingCode */
+   if ((uint64_t)pvalue->ul_DPCCHscramblingCode > 16777215u) {
+      rtxErrAddStrParm(ctx, "UL-ScramblingCode");
+      rtxErrAddUIntParm(ctx, pvalue->ul_DPCCHscramblingCode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UL-ScramblingCode", "ul-DPCCHscramblingCode", -1, "UL-DPCH-CodeInfoForCommonEDCH");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ul_DPCCHscramblingCode, 0, 16777215);
+   RT_CHECK_PUT(ctx, cur, stat, "UL-ScramblingCode", "ul-DPCCHscramblingCode", -1, "UL-DPCH-CodeInfoForCommonEDCH");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_CodeInfoForCommonEDCH(rtxContext* RT_RESTRICT ctx, const UL_DPCH_CodeInfoForCommonEDCH* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_CodeInfoForCommonEDCH, pvalue);
+}
+
+RT_MERGED_BODY int enc_Common_E_DCH_ResourceInfoList(rtxContext* RT_RESTRICT ctx, const Common_E_DCH_ResourceInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Common-E-DCH-ResourceInfoList");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Common-E-DCH-ResourceInfoList");
+   /* s-offset */
+   if ((uint64_t)pvalue->s_offset > 9u) {
+      rtxErrAddStrParm(ctx, "s-offset");
+      rtxErrAddUIntParm(ctx, pvalue->s_offset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "s-offset", -1, "Common-E-DCH-ResourceInfoList");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->s_offset, 0, 9);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "s-offset", -1, "Common-E-DCH-ResourceInfoList");
+   /* f-dpch-ChannelisationCodeNumber */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->f_dpch_ChannelisationCodeNumber, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "f-dpch-ChannelisationCodeNumber", -1, "Common-E-DCH-ResourceInfoList");
+   /* e-RGCH-Information */
+   if (pvalue->m & 0x1u) {
+      stat = enc_E_RGCH_Information(ctx, &pvalue->e_RGCH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, "Common-E-DCH-ResourceInfoList");
+   }
+   /* e-hich-Info */
+   stat = enc_E_HICH_Information(ctx, &pvalue->e_hich_Info, cur);
+   RT_CHECK(ctx, stat, 0, "e-hich-Info", -1, "Common-E-DCH-ResourceInfoList");
+   /* ul-DPCH-CodeInfoForCommonEDCH */
+   stat = enc_UL_DPCH_CodeInfoForCommonEDCH(ctx, &pvalue->ul_DPCH_CodeInfoForCommonEDCH, cur);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-CodeInfoForCommonEDCH", -1, "Common-E-DCH-ResourceInfoList");
+   return 0;
+}
+
+int asn1PE_UMTS_Common_E_DCH_ResourceInfoList(rtxContext* RT_RESTRICT ctx, const Common_E_DCH_ResourceInfoList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Common_E_DCH_ResourceInfoList, pvalue);
+}
+
+RT_MERGED_BODY int enc_CommonEDCHSystemInfo_modeSpecificInfo_fdd_common_E_DCH_ResourceInfoList(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfo_modeSpecificInfo_fdd_common_E_DCH_ResourceInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "Common-E-DCH-ResourceInfoList", (int32_t)i, 0);
+      stat = enc_Common_E_DCH_ResourceInfoList(ctx, (const Common_E_DCH_ResourceInfoList*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "Common-E-DCH-ResourceInfoList", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd_common_E_DCH_ResourceInfoList(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfo_modeSpecificInfo_fdd_common_E_DCH_ResourceInfoList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CommonEDCHSystemInfo_modeSpecificInfo_fdd_common_E_DCH_ResourceInfoList, pvalue);
+}
+
+static int enc_CommonEDCHSystemInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* prach-PreambleForEnhancedUplink */
+   stat = enc_PRACH_PreambleForEnhancedUplink(ctx, &pvalue->prach_PreambleForEnhancedUplink, cur);
+   RT_CHECK(ctx, stat, 0, "prach-PreambleForEnhancedUplink", -1, 0);
+   /* initialServingGrantValue */
+   if ((uint64_t)pvalue->initialServingGrantValue > 37u) {
+      rtxErrAddStrParm(ctx, "initialServingGrantValue");
+      rtxErrAddUIntParm(ctx, pvalue->initialServingGrantValue);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "initialServingGrantValue", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->initialServingGrantValue, 0, 37);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "initialServingGrantValue", -1, 0);
+   /* e-dch-TTI */
+   if (pvalue->e_dch_TTI > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->e_dch_TTI);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "E-DCH-TTI", "e-dch-TTI", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->e_dch_TTI, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "E-DCH-TTI", "e-dch-TTI", -1, 0);
+   /* e-agch-Information */
+   stat = enc_E_AGCH_Information(ctx, &pvalue->e_agch_Information, cur);
+   RT_CHECK(ctx, stat, 0, "e-agch-Information", -1, 0);
+   /* harq-Info */
+   if (pvalue->harq_Info > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->harq_Info);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "harq-Info", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->harq_Info, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "harq-Info", -1, 0);
+   /* ul-DPCHpowerControlInfoForCommonEDCH */
+   stat = enc_UL_DPCHpowerControlInfoForCommonEDCH(ctx, &pvalue->ul_DPCHpowerControlInfoForCommonEDCH, cur);
+   RT_CHECK(ctx, stat, 0, "ul-DPCHpowerControlInfoForCommonEDCH", -1, 0);
+   /* e-dpcch-Info */
+   stat = enc_E_DPCCH_Info_r7(ctx, &pvalue->e_dpcch_Info, cur);
+   RT_CHECK(ctx, stat, 0, "e-dpcch-Info", -1, 0);
+   /* e-dpdch-Info */
+   stat = enc_E_DPDCH_Info_r8(ctx, &pvalue->e_dpdch_Info, cur);
+   RT_CHECK(ctx, stat, 0, "e-dpdch-Info", -1, 0);
+   /* dl-FDPCH-TPCcommandErrorRate */
+   if ((uint64_t)(pvalue->dl_FDPCH_TPCcommandErrorRate - 1) > 9u) {
+      rtxErrAddStrParm(ctx, "dl-FDPCH-TPCcommandErrorRate");
+      rtxErrAddUIntParm(ctx, pvalue->dl_FDPCH_TPCcommandErrorRate);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "dl-FDPCH-TPCcommandErrorRate", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dl_FDPCH_TPCcommandErrorRate, 1, 10);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "dl-FDPCH-TPCcommandErrorRate", -1, 0);
+   /* additional-E-DCH-TransmitBackoff */
+   if ((uint64_t)pvalue->additional_E_DCH_TransmitBackoff > 15u) {
+      rtxErrAddStrParm(ctx, "additional-E-DCH-TransmitBackoff");
+      rtxErrAddUIntParm(ctx, pvalue->additional_E_DCH_TransmitBackoff);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "additional-E-DCH-TransmitBackoff", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->additional_E_DCH_TransmitBackoff, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "additional-E-DCH-TransmitBackoff", -1, 0);
+   /* max-CCCH-ResourceAllocation */
+   if (pvalue->max_CCCH_ResourceAllocation > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->max_CCCH_ResourceAllocation);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "max-CCCH-ResourceAllocation", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->max_CCCH_ResourceAllocation, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "max-CCCH-ResourceAllocation", -1, 0);
+   /* max-PeriodForCollisionResolution */
+   if ((uint64_t)(pvalue->max_PeriodForCollisionResolution - 8) > 16u) {
+      rtxErrAddStrParm(ctx, "max-PeriodForCollisionResolution");
+      rtxErrAddUIntParm(ctx, pvalue->max_PeriodForCollisionResolution);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "max-PeriodForCollisionResolution", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->max_PeriodForCollisionResolution, 8, 24);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "max-PeriodForCollisionResolution", -1, 0);
+   /* e-dch-TransmitContinuationOffset */
+   if (pvalue->e_dch_TransmitContinuationOffset > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->e_dch_TransmitContinuationOffset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "e-dch-TransmitContinuationOffset", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->e_dch_TransmitContinuationOffset, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "e-dch-TransmitContinuationOffset", -1, 0);
+   /* ack-nack-support-on-HS-DPCCH */
+   stat = rtxEncBitAt(ctx, cur, pvalue->ack_nack_support_on_HS_DPCCH);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ack-nack-support-on-HS-DPCCH", -1, 0);
+   /* measurement-Feedback-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_Measurement_Feedback_Info_r7(ctx, &pvalue->measurement_Feedback_Info, cur);
+      RT_CHECK(ctx, stat, 0, "measurement-Feedback-Info", -1, 0);
+   }
+   /* common-E-DCH-ResourceInfoList */
+   stat = enc_CommonEDCHSystemInfo_modeSpecificInfo_fdd_common_E_DCH_ResourceInfoList(ctx, &pvalue->common_E_DCH_ResourceInfoList, cur);
+   RT_CHECK(ctx, stat, 0, "common-E-DCH-ResourceInfoList", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CommonEDCHSystemInfo_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_RUCCH_Info_TDD128_t_RUCCH(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_TDD128_t_RUCCH value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_E_RUCCH_Info_TDD128_t_RUCCH(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_TDD128_t_RUCCH value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_RUCCH_Info_TDD128_t_RUCCH, value);
+}
+
+RT_MERGED_BODY int enc_E_RUCCH_Info_TDD128_t_WAIT(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_TDD128_t_WAIT value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_E_RUCCH_Info_TDD128_t_WAIT(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_TDD128_t_WAIT value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_RUCCH_Info_TDD128_t_WAIT, value);
+}
+
+RT_MERGED_BODY int enc_E_RUCCH_Info_TDD128_t_SI(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_TDD128_t_SI value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 6) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_E_RUCCH_Info_TDD128_t_SI(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_TDD128_t_SI value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_RUCCH_Info_TDD128_t_SI, value);
+}
+
+RT_MERGED_BODY int enc_E_RUCCH_AccessServiceClass(rtxContext* RT_RESTRICT ctx, const E_RUCCH_AccessServiceClass* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-RUCCH-AccessServiceClass");
+   stat = enc_PRACH_Partitioning_LCR_r4(ctx, pvalue, cur);
+   RT_CHECK(ctx, stat, 0, 0, -1, "E-RUCCH-AccessServiceClass");
+   return 0;
+}
+
+int asn1PE_UMTS_E_RUCCH_AccessServiceClass(rtxContext* RT_RESTRICT ctx, const E_RUCCH_AccessServiceClass* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_RUCCH_AccessServiceClass, pvalue);
+}
+
+RT_MERGED_BODY int enc_SYNC_UL_InfoForE_RUCCH_max_SYNC_UL_Transmissions(rtxContext* RT_RESTRICT ctx, SYNC_UL_InfoForE_RUCCH_max_SYNC_UL_Transmissions value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SYNC_UL_InfoForE_RUCCH_max_SYNC_UL_Transmissions(rtxContext* RT_RESTRICT ctx, SYNC_UL_InfoForE_RUCCH_max_SYNC_UL_Transmissions value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SYNC_UL_InfoForE_RUCCH_max_SYNC_UL_Transmissions, value);
+}
+
+RT_MERGED_BODY int enc_SYNC_UL_InfoForE_RUCCH(rtxContext* RT_RESTRICT ctx, const SYNC_UL_InfoForE_RUCCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SYNC-UL-InfoForE-RUCCH");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SYNC-UL-InfoForE-RUCCH");
+   /* prxUpPCHdes */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->prxUpPCHdes > 62u) {
+         rtxErrAddStrParm(ctx, "prxUpPCHdes");
+         rtxErrAddUIntParm(ctx, pvalue->prxUpPCHdes);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "prxUpPCHdes", -1, "SYNC-UL-InfoForE-RUCCH");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->prxUpPCHdes, 0, 62);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "prxUpPCHdes", -1, "SYNC-UL-InfoForE-RUCCH");
+   }
+   /* powerRampStep */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->powerRampStep > 3u) {
+         rtxErrAddStrParm(ctx, "powerRampStep");
+         rtxErrAddUIntParm(ctx, pvalue->powerRampStep);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "powerRampStep", -1, "SYNC-UL-InfoForE-RUCCH");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->powerRampStep, 0, 3);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "powerRampStep", -1, "SYNC-UL-InfoForE-RUCCH");
+   }
+   /* max-SYNC-UL-Transmissions */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->max_SYNC_UL_Transmissions > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->max_SYNC_UL_Transmissions);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "max-SYNC-UL-Transmissions", -1, "SYNC-UL-InfoForE-RUCCH");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->max_SYNC_UL_Transmissions, 0, 3);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "max-SYNC-UL-Transmissions", -1, "SYNC-UL-InfoForE-RUCCH");
+   }
+   /* e-RUCCH-Sync-UL-Codes-Bitmap */
+   stat = enc_Sync_UL_Codes_Bitmap(ctx, pvalue->e_RUCCH_Sync_UL_Codes_Bitmap, cur);
+   RT_CHECK(ctx, stat, 0, "e-RUCCH-Sync-UL-Codes-Bitmap", -1, "SYNC-UL-InfoForE-RUCCH");
+   /* mmax */
+   if ((uint64_t)(pvalue->mmax - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "mmax");
+      rtxErrAddUIntParm(ctx, pvalue->mmax);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "mmax", -1, "SYNC-UL-InfoForE-RUCCH");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->mmax, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "mmax", -1, "SYNC-UL-InfoForE-RUCCH");
+   return 0;
+}
+
+int asn1PE_UMTS_SYNC_UL_InfoForE_RUCCH(rtxContext* RT_RESTRICT ctx, const SYNC_UL_InfoForE_RUCCH* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SYNC_UL_InfoForE_RUCCH, pvalue);
+}
+
+RT_MERGED_BODY int enc_PRACH_ChanCodes_List_LCR(rtxContext* RT_RESTRICT ctx, const PRACH_ChanCodes_List_LCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-ChanCodes-List-LCR");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 2);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "PRACH-ChanCodes-List-LCR");
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 27) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TDD-PRACH-CCode-LCR-r4", "TDD-PRACH-CCode-LCR-r4", (int32_t)i, "PRACH-ChanCodes-List-LCR");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 27);
+      RT_CHECK_PUT(ctx, cur, stat, "TDD-PRACH-CCode-LCR-r4", "TDD-PRACH-CCode-LCR-r4", (int32_t)i, "PRACH-ChanCodes-List-LCR");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_ChanCodes_List_LCR(rtxContext* RT_RESTRICT ctx, const PRACH_ChanCodes_List_LCR* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PRACH_ChanCodes_List_LCR, pvalue);
+}
+
+RT_MERGED_BODY int enc_PRACH_Information_LCR(rtxContext* RT_RESTRICT ctx, const PRACH_Information_LCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-Information-LCR");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PRACH-Information-LCR");
+   /* timeslot */
+   if ((uint64_t)(pvalue->timeslot - 1) > 5u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber-PRACH-LCR-r4");
+      rtxErrAddUIntParm(ctx, pvalue->timeslot);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber-PRACH-LCR-r4", "timeslot", -1, "PRACH-Information-LCR");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslot, 1, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber-PRACH-LCR-r4", "timeslot", -1, "PRACH-Information-LCR");
+   /* prach-ChanCodes-list-LCR */
+   stat = enc_PRACH_ChanCodes_List_LCR(ctx, &pvalue->prach_ChanCodes_list_LCR, cur);
+   RT_CHECK(ctx, stat, 0, "prach-ChanCodes-list-LCR", -1, "PRACH-Information-LCR");
+   /* midambleShiftAndBurstType */
+   stat = enc_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType, cur);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "PRACH-Information-LCR");
+   /* fpach-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_FPACH_Info_r4(ctx, &pvalue->fpach_Info, cur);
+      RT_CHECK(ctx, stat, 0, "fpach-Info", -1, "PRACH-Information-LCR");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_Information_LCR(rtxContext* RT_RESTRICT ctx, const PRACH_Information_LCR* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PRACH_Information_LCR, pvalue);
+}
+
+static int enc_PRACH_Information_LCR_List(rtxContext* RT_RESTRICT ctx, const PRACH_Information_LCR_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PRACH-Information-LCR-List");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "PRACH-Information-LCR-List");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "PRACH-Information-LCR", (int32_t)i, "PRACH-Information-LCR-List");
+      stat = enc_PRACH_Information_LCR(ctx, (const PRACH_Information_LCR*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "PRACH-Information-LCR", (int32_t)i, "PRACH-Information-LCR-List");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PRACH_Information_LCR_List(rtxContext* RT_RESTRICT ctx, const PRACH_Information_LCR_List* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PRACH_Information_LCR_List, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_RUCCH_Info_TDD128(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-RUCCH-Info-TDD128");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 0), 9);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-RUCCH-Info-TDD128");
+   /* t-RUCCH */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->t_RUCCH > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->t_RUCCH);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "t-RUCCH", -1, "E-RUCCH-Info-TDD128");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_RUCCH, 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "t-RUCCH", -1, "E-RUCCH-Info-TDD128");
+   }
+   /* n-RUCCH */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->n_RUCCH > 7u) {
+         rtxErrAddStrParm(ctx, "n-RUCCH");
+         rtxErrAddUIntParm(ctx, pvalue->n_RUCCH);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "n-RUCCH", -1, "E-RUCCH-Info-TDD128");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->n_RUCCH, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "n-RUCCH", -1, "E-RUCCH-Info-TDD128");
+   }
+   /* t-WAIT */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->t_WAIT > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->t_WAIT);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "t-WAIT", -1, "E-RUCCH-Info-TDD128");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_WAIT, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "t-WAIT", -1, "E-RUCCH-Info-TDD128");
+   }
+   /* t-SI */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->t_SI > 6) {
+         rtxErrAddUIntParm(ctx, pvalue->t_SI);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "t-SI", -1, "E-RUCCH-Info-TDD128");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_SI, 0, 6);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "t-SI", -1, "E-RUCCH-Info-TDD128");
+   }
+   /* extendedEstimationWindow */
+   if (pvalue->m & 0x10u) {
+      if ((uint64_t)(pvalue->extendedEstimationWindow - 2) > 3u) {
+         rtxErrAddStrParm(ctx, "extendedEstimationWindow");
+         rtxErrAddUIntParm(ctx, pvalue->extendedEstimationWindow);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "extendedEstimationWindow", -1, "E-RUCCH-Info-TDD128");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->extendedEstimationWindow, 2, 5);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "extendedEstimationWindow", -1, "E-RUCCH-Info-TDD128");
+   }
+   /* e-RUCCH-AccessServiceClass */
+   if (pvalue->m & 0x20u) {
+      stat = enc_E_RUCCH_AccessServiceClass(ctx, &pvalue->e_RUCCH_AccessServiceClass, cur);
+      RT_CHECK(ctx, stat, 0, "e-RUCCH-AccessServiceClass", -1, "E-RUCCH-Info-TDD128");
+   }
+   /* e-RUCCH-PersistenceScalingFactor */
+   if (pvalue->m & 0x40u) {
+      stat = enc_PersistenceScalingFactorList(ctx, &pvalue->e_RUCCH_PersistenceScalingFactor, cur);
+      RT_CHECK(ctx, stat, 0, "e-RUCCH-PersistenceScalingFactor", -1, "E-RUCCH-Info-TDD128");
+   }
+   /* sync-UL-InfoForE-RUCCH */
+   if (pvalue->m & 0x80u) {
+      stat = enc_SYNC_UL_InfoForE_RUCCH(ctx, &pvalue->sync_UL_InfoForE_RUCCH, cur);
+      RT_CHECK(ctx, stat, 0, "sync-UL-InfoForE-RUCCH", -1, "E-RUCCH-Info-TDD128");
+   }
+   /* prach-information */
+   if (pvalue->m & 0x100u) {
+      stat = enc_PRACH_Information_LCR_List(ctx, &pvalue->prach_information, cur);
+      RT_CHECK(ctx, stat, 0, "prach-information", -1, "E-RUCCH-Info-TDD128");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_RUCCH_Info_TDD128(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_TDD128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_RUCCH_Info_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int enc_Reference_Beta_QPSK(rtxContext* RT_RESTRICT ctx, const Reference_Beta_QPSK* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Reference-Beta-QPSK");
+   /* reference-Code-Rate */
+   if ((uint64_t)pvalue->reference_Code_Rate > 10u) {
+      rtxErrAddStrParm(ctx, "reference-Code-Rate");
+      rtxErrAddUIntParm(ctx, pvalue->reference_Code_Rate);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "reference-Code-Rate", -1, "Reference-Beta-QPSK");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->reference_Code_Rate, 0, 10);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "reference-Code-Rate", -1, "Reference-Beta-QPSK");
+   /* reference-Beta */
+   if (pvalue->reference_Beta < -15 || pvalue->reference_Beta > 16) {
+      rtxErrAddStrParm(ctx, "reference-Beta");
+      rtxErrAddIntParm(ctx, pvalue->reference_Beta);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "reference-Beta", -1, "Reference-Beta-QPSK");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->reference_Beta, -15, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "reference-Beta", -1, "Reference-Beta-QPSK");
+   return 0;
+}
+
+int asn1PE_UMTS_Reference_Beta_QPSK(rtxContext* RT_RESTRICT ctx, const Reference_Beta_QPSK* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Reference_Beta_QPSK, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_TFCS_Info_reference_Beta_QPSK_List(rtxContext* RT_RESTRICT ctx, const E_TFCS_Info_reference_Beta_QPSK_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "Reference-Beta-QPSK", (int32_t)i, 0);
+      stat = enc_Reference_Beta_QPSK(ctx, (const Reference_Beta_QPSK*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "Reference-Beta-QPSK", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_TFCS_Info_reference_Beta_QPSK_List(rtxContext* RT_RESTRICT ctx, const E_TFCS_Info_reference_Beta_QPSK_List* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_TFCS_Info_reference_Beta_QPSK_List, pvalue);
+}
+
+RT_MERGED_BODY int enc_Reference_Beta_16QAM(rtxContext* RT_RESTRICT ctx, const Reference_Beta_16QAM* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Reference-Beta-16QAM");
+   /* reference-Code-Rate */
+   if ((uint64_t)pvalue->reference_Code_Rate > 10u) {
+      rtxErrAddStrParm(ctx, "reference-Code-Rate");
+      rtxErrAddUIntParm(ctx, pvalue->reference_Code_Rate);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "reference-Code-Rate", -1, "Reference-Beta-16QAM");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->reference_Code_Rate, 0, 10);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "reference-Code-Rate", -1, "Reference-Beta-16QAM");
+   /* reference-Beta */
+   if (pvalue->reference_Beta < -15 || pvalue->reference_Beta > 16) {
+      rtxErrAddStrParm(ctx, "reference-Beta");
+      rtxErrAddIntParm(ctx, pvalue->reference_Beta);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "reference-Beta", -1, "Reference-Beta-16QAM");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->reference_Beta, -15, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "reference-Beta", -1, "Reference-Beta-16QAM");
+   return 0;
+}
+
+int asn1PE_UMTS_Reference_Beta_16QAM(rtxContext* RT_RESTRICT ctx, const Reference_Beta_16QAM* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Reference_Beta_16QAM, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_TFCS_Info_reference_Beta_16QAM_List(rtxContext* RT_RESTRICT ctx, const E_TFCS_Info_reference_Beta_16QAM_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "Reference-Beta-16QAM", (int32_t)i, 0);
+      stat = enc_Reference_Beta_16QAM(ctx, (const Reference_Beta_16QAM*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "Reference-Beta-16QAM", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_TFCS_Info_reference_Beta_16QAM_List(rtxContext* RT_RESTRICT ctx, const E_TFCS_Info_reference_Beta_16QAM_List* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_TFCS_Info_reference_Beta_16QAM_List, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_TFCS_Info(rtxContext* RT_RESTRICT ctx, const E_TFCS_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-TFCS-Info");
+   /* reference-Beta-QPSK-List */
+   stat = enc_E_TFCS_Info_reference_Beta_QPSK_List(ctx, &pvalue->reference_Beta_QPSK_List, cur);
+   RT_CHECK(ctx, stat, 0, "reference-Beta-QPSK-List", -1, "E-TFCS-Info");
+   /* reference-Beta-16QAM-List */
+   stat = enc_E_TFCS_Info_reference_Beta_16QAM_List(ctx, &pvalue->reference_Beta_16QAM_List, cur);
+   RT_CHECK(ctx, stat, 0, "reference-Beta-16QAM-List", -1, "E-TFCS-Info");
+   return 0;
+}
+
+int asn1PE_UMTS_E_TFCS_Info(rtxContext* RT_RESTRICT ctx, const E_TFCS_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_TFCS_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_PUCH_Info_TDD128_snpl_ReportType(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_TDD128_snpl_ReportType value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_E_PUCH_Info_TDD128_snpl_ReportType(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_TDD128_snpl_ReportType value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_PUCH_Info_TDD128_snpl_ReportType, value);
+}
+
+RT_MERGED_BODY int enc_TPC_StepSizeTDD(rtxContext* RT_RESTRICT ctx, TPC_StepSizeTDD value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 2u) {
+      rtxErrAddStrParm(ctx, "TPC-StepSizeTDD");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "TPC-StepSizeTDD");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TPC-StepSizeTDD");
+   return 0;
+}
+
+int asn1PE_UMTS_TPC_StepSizeTDD(rtxContext* RT_RESTRICT ctx, TPC_StepSizeTDD value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TPC_StepSizeTDD, value);
+}
+
+RT_MERGED_BODY int enc_UL_SynchronisationParameters_r4(rtxContext* RT_RESTRICT ctx, const UL_SynchronisationParameters_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-SynchronisationParameters-r4");
+   /* stepSize */
+   if ((uint64_t)(pvalue->stepSize - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "stepSize");
+      rtxErrAddUIntParm(ctx, pvalue->stepSize);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "stepSize", -1, "UL-SynchronisationParameters-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->stepSize, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "stepSize", -1, "UL-SynchronisationParameters-r4");
+   /* frequency */
+   if ((uint64_t)(pvalue->frequency - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "frequency");
+      rtxErrAddUIntParm(ctx, pvalue->frequency);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "frequency", -1, "UL-SynchronisationParameters-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->frequency, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "frequency", -1, "UL-SynchronisationParameters-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_SynchronisationParameters_r4(rtxContext* RT_RESTRICT ctx, const UL_SynchronisationParameters_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_SynchronisationParameters_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_PUCH_TS_Slots_LCR_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const E_PUCH_TS_Slots_LCR_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if ((uint64_t)pvalue->u.ueSpecificMidamble > 15u) {
+            rtxErrAddStrParm(ctx, "ueSpecificMidamble");
+            rtxErrAddUIntParm(ctx, pvalue->u.ueSpecificMidamble);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ueSpecificMidamble", -1, 0);
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.ueSpecificMidamble, 0, 15);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_PUCH_TS_Slots_LCR_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const E_PUCH_TS_Slots_LCR_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_PUCH_TS_Slots_LCR_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_PUCH_TS_Slots_LCR(rtxContext* RT_RESTRICT ctx, const E_PUCH_TS_Slots_LCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-PUCH-TS-Slots-LCR");
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 6u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "E-PUCH-TS-Slots-LCR");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslotNumber, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "E-PUCH-TS-Slots-LCR");
+   /* midambleAllocationMode */
+   stat = enc_E_PUCH_TS_Slots_LCR_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
    RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "E-PUCH-TS-Slots-LCR");
    /* midambleConfiguration */
    if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
       rtxErrAddStrParm(ctx, "midambleConfiguration");
       rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "midambleConfiguration", -1, "E-PUCH-TS-Slots-LCR");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "midambleConfiguration", -1, "E-PUCH-TS-Slots-LCR");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, "E-PUCH-TS-Slots-LCR");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "midambleConfiguration", -1, "E-PUCH-TS-Slots-LCR");
    return 0;
 }
 
-int asn1PE_UMTS_E_PUCH_Info_TDD128_e_PUCH_TS_ConfigurationList(rtxContext* RT_RESTRICT ctx, const E_PUCH_Info_TDD128_e_PUCH_TS_ConfigurationList* RT_RESTRICT pvalue)
+int asn1PE_UMTS_E_PUCH_TS_Slots_LCR(rtxContext* RT_RESTRICT ctx, const E_PUCH_TS_Slots_LCR* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_PUCH_TS_Slots_LCR, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_PUCH_Info_TDD128_e_PUCH_TS_ConfigurationList(rtxContext* RT_RESTRICT ctx, const E_PUCH_Info_TDD128_e_PUCH_TS_ConfigurationList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 5);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "E-PUCH-TS-Slots-LCR", (int32_t)i, 0);
-      stat = asn1PE_UMTS_E_PUCH_TS_Slots_LCR(ctx, (const E_PUCH_TS_Slots_LCR*)node->data);
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "E-PUCH-TS-Slots-LCR", (int32_t)i, 0);
+      stat = enc_E_PUCH_TS_Slots_LCR(ctx, (const E_PUCH_TS_Slots_LCR*)node->data, cur);
       RT_CHECK(ctx, stat, 0, "E-PUCH-TS-Slots-LCR", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_E_PUCH_Info_TDD128_retransTimerForSchedInfo(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_TDD128_retransTimerForSchedInfo value)
+int asn1PE_UMTS_E_PUCH_Info_TDD128_e_PUCH_TS_ConfigurationList(rtxContext* RT_RESTRICT ctx, const E_PUCH_Info_TDD128_e_PUCH_TS_ConfigurationList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_PUCH_Info_TDD128_e_PUCH_TS_ConfigurationList, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_PUCH_Info_TDD128_retransTimerForSchedInfo(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_TDD128_retransTimerForSchedInfo value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value > 29) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 29);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 29);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_E_PUCH_Info_TDD128(rtxContext* RT_RESTRICT ctx, const E_PUCH_Info_TDD128* RT_RESTRICT pvalue)
+int asn1PE_UMTS_E_PUCH_Info_TDD128_retransTimerForSchedInfo(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_TDD128_retransTimerForSchedInfo value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_PUCH_Info_TDD128_retransTimerForSchedInfo, value);
+}
+
+RT_MERGED_BODY int enc_E_PUCH_Info_TDD128(rtxContext* RT_RESTRICT ctx, const E_PUCH_Info_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-PUCH-Info-TDD128");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-PUCH-Info-TDD128");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-PUCH-Info-TDD128");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-PUCH-Info-TDD128");
    /* e-TFCS-Info */
-   stat = asn1PE_UMTS_E_TFCS_Info(ctx, &pvalue->e_TFCS_Info);
+   stat = enc_E_TFCS_Info(ctx, &pvalue->e_TFCS_Info, cur);
    RT_CHECK(ctx, stat, 0, "e-TFCS-Info", -1, "E-PUCH-Info-TDD128");
    /* snpl-ReportType */
    if (pvalue->m & 0x1u) {
       if (pvalue->snpl_ReportType > 1) {
          rtxErrAddUIntParm(ctx, pvalue->snpl_ReportType);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "snpl-ReportType", -1, "E-PUCH-Info-TDD128");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "snpl-ReportType", -1, "E-PUCH-Info-TDD128");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->snpl_ReportType, 0, 1);
-      RT_CHECK(ctx, stat, 0, "snpl-ReportType", -1, "E-PUCH-Info-TDD128");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->snpl_ReportType, 0, 1);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "snpl-ReportType", -1, "E-PUCH-Info-TDD128");
    }
    /* prxBASEdes */
    if (pvalue->prxBASEdes < -112 || pvalue->prxBASEdes > -50) {
       rtxErrAddStrParm(ctx, "prxBASEdes");
       rtxErrAddIntParm(ctx, pvalue->prxBASEdes);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "prxBASEdes", -1, "E-PUCH-Info-TDD128");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "prxBASEdes", -1, "E-PUCH-Info-TDD128");
    }
-   stat = pe_ConsInt64(ctx, pvalue->prxBASEdes, -112, -50);
-   RT_CHECK(ctx, stat, 0, "prxBASEdes", -1, "E-PUCH-Info-TDD128");
+   stat = pe_ConsInt64At(ctx, cur, pvalue->prxBASEdes, -112, -50);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "prxBASEdes", -1, "E-PUCH-Info-TDD128");
    /* beaconPLEst */
    if (pvalue->m & 0x2u) {
-      stat = rtxEncBit(ctx, pvalue->beaconPLEst);
-      RT_CHECK(ctx, stat, 0, "beaconPLEst", -1, "E-PUCH-Info-TDD128");
+      stat = rtxEncBitAt(ctx, cur, pvalue->beaconPLEst);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "beaconPLEst", -1, "E-PUCH-Info-TDD128");
    }
    /* tpc-StepSize */
    if ((uint64_t)(pvalue->tpc_StepSize - 1) > 2u) {
       rtxErrAddStrParm(ctx, "TPC-StepSizeTDD");
       rtxErrAddUIntParm(ctx, pvalue->tpc_StepSize);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TPC-StepSizeTDD", "tpc-StepSize", -1, "E-PUCH-Info-TDD128");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TPC-StepSizeTDD", "tpc-StepSize", -1, "E-PUCH-Info-TDD128");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->tpc_StepSize, 1, 3);
-   RT_CHECK(ctx, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, "E-PUCH-Info-TDD128");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tpc_StepSize, 1, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, "E-PUCH-Info-TDD128");
    /* pebase-PowerControlGAP */
    if (pvalue->m & 0x4u) {
       if ((uint64_t)(pvalue->pebase_PowerControlGAP - 1) > 254u) {
          rtxErrAddStrParm(ctx, "pebase-PowerControlGAP");
          rtxErrAddUIntParm(ctx, pvalue->pebase_PowerControlGAP);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "pebase-PowerControlGAP", -1, "E-PUCH-Info-TDD128");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "pebase-PowerControlGAP", -1, "E-PUCH-Info-TDD128");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->pebase_PowerControlGAP, 1, 255);
-      RT_CHECK(ctx, stat, 0, "pebase-PowerControlGAP", -1, "E-PUCH-Info-TDD128");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->pebase_PowerControlGAP, 1, 255);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "pebase-PowerControlGAP", -1, "E-PUCH-Info-TDD128");
    }
    /* ul-SynchronisationParameters */
    if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_UL_SynchronisationParameters_r4(ctx, &pvalue->ul_SynchronisationParameters);
+      stat = enc_UL_SynchronisationParameters_r4(ctx, &pvalue->ul_SynchronisationParameters, cur);
       RT_CHECK(ctx, stat, 0, "ul-SynchronisationParameters", -1, "E-PUCH-Info-TDD128");
    }
    /* e-PUCH-TS-ConfigurationList */
-   stat = asn1PE_UMTS_E_PUCH_Info_TDD128_e_PUCH_TS_ConfigurationList(ctx, &pvalue->e_PUCH_TS_ConfigurationList);
+   stat = enc_E_PUCH_Info_TDD128_e_PUCH_TS_ConfigurationList(ctx, &pvalue->e_PUCH_TS_ConfigurationList, cur);
    RT_CHECK(ctx, stat, 0, "e-PUCH-TS-ConfigurationList", -1, "E-PUCH-Info-TDD128");
    /* minimum-Allowed-Code-Rate */
    if ((uint64_t)pvalue->minimum_Allowed_Code_Rate > 63u) {
       rtxErrAddStrParm(ctx, "minimum-Allowed-Code-Rate");
       rtxErrAddUIntParm(ctx, pvalue->minimum_Allowed_Code_Rate);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "minimum-Allowed-Code-Rate", -1, "E-PUCH-Info-TDD128");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "minimum-Allowed-Code-Rate", -1, "E-PUCH-Info-TDD128");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->minimum_Allowed_Code_Rate, 0, 63);
-   RT_CHECK(ctx, stat, 0, "minimum-Allowed-Code-Rate", -1, "E-PUCH-Info-TDD128");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->minimum_Allowed_Code_Rate, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "minimum-Allowed-Code-Rate", -1, "E-PUCH-Info-TDD128");
    /* maximum-Allowed-Code-Rate */
    if ((uint64_t)pvalue->maximum_Allowed_Code_Rate > 63u) {
       rtxErrAddStrParm(ctx, "maximum-Allowed-Code-Rate");
       rtxErrAddUIntParm(ctx, pvalue->maximum_Allowed_Code_Rate);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "maximum-Allowed-Code-Rate", -1, "E-PUCH-Info-TDD128");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "maximum-Allowed-Code-Rate", -1, "E-PUCH-Info-TDD128");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->maximum_Allowed_Code_Rate, 0, 63);
-   RT_CHECK(ctx, stat, 0, "maximum-Allowed-Code-Rate", -1, "E-PUCH-Info-TDD128");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maximum_Allowed_Code_Rate, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "maximum-Allowed-Code-Rate", -1, "E-PUCH-Info-TDD128");
    /* maximumNumOfRetransSchedInfo */
    if ((uint64_t)pvalue->maximumNumOfRetransSchedInfo > 15u) {
       rtxErrAddStrParm(ctx, "maximumNumOfRetransSchedInfo");
       rtxErrAddUIntParm(ctx, pvalue->maximumNumOfRetransSchedInfo);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "maximumNumOfRetransSchedInfo", -1, "E-PUCH-Info-TDD128");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "maximumNumOfRetransSchedInfo", -1, "E-PUCH-Info-TDD128");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->maximumNumOfRetransSchedInfo, 0, 15);
-   RT_CHECK(ctx, stat, 0, "maximumNumOfRetransSchedInfo", -1, "E-PUCH-Info-TDD128");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maximumNumOfRetransSchedInfo, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "maximumNumOfRetransSchedInfo", -1, "E-PUCH-Info-TDD128");
    /* retransTimerForSchedInfo */
    if (pvalue->retransTimerForSchedInfo > 29) {
       rtxErrAddUIntParm(ctx, pvalue->retransTimerForSchedInfo);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "retransTimerForSchedInfo", -1, "E-PUCH-Info-TDD128");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "retransTimerForSchedInfo", -1, "E-PUCH-Info-TDD128");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->retransTimerForSchedInfo, 0, 29);
-   RT_CHECK(ctx, stat, 0, "retransTimerForSchedInfo", -1, "E-PUCH-Info-TDD128");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->retransTimerForSchedInfo, 0, 29);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "retransTimerForSchedInfo", -1, "E-PUCH-Info-TDD128");
    /* dummy */
    if (pvalue->m & 0x10u) {
       if ((uint64_t)pvalue->dummy > 6u) {
          rtxErrAddStrParm(ctx, "dummy");
          rtxErrAddUIntParm(ctx, pvalue->dummy);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "dummy", -1, "E-PUCH-Info-TDD128");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "dummy", -1, "E-PUCH-Info-TDD128");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->dummy, 0, 6);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "E-PUCH-Info-TDD128");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->dummy, 0, 6);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "dummy", -1, "E-PUCH-Info-TDD128");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_PUCH_Info_TDD128(rtxContext* RT_RESTRICT ctx, const E_PUCH_Info_TDD128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_PUCH_Info_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_HICH_Information_LCR_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_LCR_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if ((uint64_t)pvalue->u.ueSpecificMidamble > 15u) {
+            rtxErrAddStrParm(ctx, "ueSpecificMidamble");
+            rtxErrAddUIntParm(ctx, pvalue->u.ueSpecificMidamble);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ueSpecificMidamble", -1, 0);
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.ueSpecificMidamble, 0, 15);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
    }
    return 0;
 }
 
 int asn1PE_UMTS_E_HICH_Information_LCR_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_LCR_midambleAllocationMode* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if ((uint64_t)pvalue->u.ueSpecificMidamble > 15u) {
-            rtxErrAddStrParm(ctx, "ueSpecificMidamble");
-            rtxErrAddUIntParm(ctx, pvalue->u.ueSpecificMidamble);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ueSpecificMidamble", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.ueSpecificMidamble, 0, 15);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_E_HICH_Information_LCR_midambleAllocationMode, pvalue);
 }
 
-int asn1PE_UMTS_E_HICH_Information_LCR(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_LCR* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_E_HICH_Information_LCR(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_LCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-HICH-Information-LCR");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-HICH-Information-LCR");
    /* ei */
    if ((uint64_t)pvalue->ei > 3u) {
       rtxErrAddStrParm(ctx, "ei");
       rtxErrAddUIntParm(ctx, pvalue->ei);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ei", -1, "E-HICH-Information-LCR");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ei", -1, "E-HICH-Information-LCR");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->ei, 0, 3);
-   RT_CHECK(ctx, stat, 0, "ei", -1, "E-HICH-Information-LCR");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ei, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ei", -1, "E-HICH-Information-LCR");
    /* timeslotNumber */
    if ((uint64_t)pvalue->timeslotNumber > 6u) {
       rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
       rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "E-HICH-Information-LCR");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "E-HICH-Information-LCR");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "E-HICH-Information-LCR");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslotNumber, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "E-HICH-Information-LCR");
    /* channelisation-Code */
    if (pvalue->channelisation_Code > 15) {
       rtxErrAddUIntParm(ctx, pvalue->channelisation_Code);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "channelisation-Code", -1, "E-HICH-Information-LCR");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "channelisation-Code", -1, "E-HICH-Information-LCR");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->channelisation_Code, 0, 15);
-   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "channelisation-Code", -1, "E-HICH-Information-LCR");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->channelisation_Code, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "HS-ChannelisationCode-LCR", "channelisation-Code", -1, "E-HICH-Information-LCR");
    /* midambleAllocationMode */
-   stat = asn1PE_UMTS_E_HICH_Information_LCR_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   stat = enc_E_HICH_Information_LCR_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
    RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "E-HICH-Information-LCR");
    /* midambleConfiguration */
    if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
       rtxErrAddStrParm(ctx, "midambleConfiguration");
       rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "midambleConfiguration", -1, "E-HICH-Information-LCR");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "midambleConfiguration", -1, "E-HICH-Information-LCR");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, "E-HICH-Information-LCR");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "midambleConfiguration", -1, "E-HICH-Information-LCR");
    return 0;
 }
 
-int asn1PE_UMTS_E_HICH_Information_LCR_List(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_LCR_List* RT_RESTRICT pvalue)
+int asn1PE_UMTS_E_HICH_Information_LCR(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_LCR* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_HICH_Information_LCR, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_HICH_Information_LCR_List(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_LCR_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-HICH-Information-LCR-List");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-HICH-Information-LCR-List");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "E-HICH-Information-LCR-List");
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "E-HICH-Information-LCR-List");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "E-HICH-Information-LCR", (int32_t)i, "E-HICH-Information-LCR-List");
-      stat = asn1PE_UMTS_E_HICH_Information_LCR(ctx, (const E_HICH_Information_LCR*)node->data);
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "E-HICH-Information-LCR", (int32_t)i, "E-HICH-Information-LCR-List");
+      stat = enc_E_HICH_Information_LCR(ctx, (const E_HICH_Information_LCR*)node->data, cur);
       RT_CHECK(ctx, stat, 0, "E-HICH-Information-LCR", (int32_t)i, "E-HICH-Information-LCR-List");
    }
    return 0;
 }
 
-int asn1PE_UMTS_E_HICH_Information_TDD128(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_TDD128* RT_RESTRICT pvalue)
+int asn1PE_UMTS_E_HICH_Information_LCR_List(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_LCR_List* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_HICH_Information_LCR_List, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_HICH_Information_TDD128(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-HICH-Information-TDD128");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-HICH-Information-TDD128");
    /* n-E-HICH */
    if ((uint64_t)(pvalue->n_E_HICH - 4) > 11u) {
       rtxErrAddStrParm(ctx, "n-E-HICH");
       rtxErrAddUIntParm(ctx, pvalue->n_E_HICH);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "n-E-HICH", -1, "E-HICH-Information-TDD128");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "n-E-HICH", -1, "E-HICH-Information-TDD128");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->n_E_HICH, 4, 15);
-   RT_CHECK(ctx, stat, 0, "n-E-HICH", -1, "E-HICH-Information-TDD128");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->n_E_HICH, 4, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "n-E-HICH", -1, "E-HICH-Information-TDD128");
    /* e-HICH-InfoList */
-   stat = asn1PE_UMTS_E_HICH_Information_LCR_List(ctx, &pvalue->e_HICH_InfoList);
+   stat = enc_E_HICH_Information_LCR_List(ctx, &pvalue->e_HICH_InfoList, cur);
    RT_CHECK(ctx, stat, 0, "e-HICH-InfoList", -1, "E-HICH-Information-TDD128");
    return 0;
 }
 
-int asn1PE_UMTS_E_AGCH_Individual_LCR_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const E_AGCH_Individual_LCR_midambleAllocationMode* RT_RESTRICT pvalue)
+int asn1PE_UMTS_E_HICH_Information_TDD128(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_TDD128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_HICH_Information_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_AGCH_Individual_LCR_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const E_AGCH_Individual_LCR_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
          break;
@@ -332,10 +5142,10 @@ int asn1PE_UMTS_E_AGCH_Individual_LCR_midambleAllocationMode(rtxContext* RT_REST
          if ((uint64_t)pvalue->u.ueSpecificMidamble > 15u) {
             rtxErrAddStrParm(ctx, "ueSpecificMidamble");
             rtxErrAddUIntParm(ctx, pvalue->u.ueSpecificMidamble);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ueSpecificMidamble", -1, 0);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ueSpecificMidamble", -1, 0);
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.ueSpecificMidamble, 0, 15);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.ueSpecificMidamble, 0, 15);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "ueSpecificMidamble", -1, 0);
          break;
       default:
          break;
@@ -343,246 +5153,330 @@ int asn1PE_UMTS_E_AGCH_Individual_LCR_midambleAllocationMode(rtxContext* RT_REST
    return 0;
 }
 
-int asn1PE_UMTS_E_AGCH_Individual_LCR(rtxContext* RT_RESTRICT ctx, const E_AGCH_Individual_LCR* RT_RESTRICT pvalue)
+int asn1PE_UMTS_E_AGCH_Individual_LCR_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const E_AGCH_Individual_LCR_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_AGCH_Individual_LCR_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_AGCH_Individual_LCR(rtxContext* RT_RESTRICT ctx, const E_AGCH_Individual_LCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-AGCH-Individual-LCR");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-AGCH-Individual-LCR");
    /* timeslotNumber */
    if ((uint64_t)pvalue->timeslotNumber > 6u) {
       rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
       rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "E-AGCH-Individual-LCR");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "E-AGCH-Individual-LCR");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "E-AGCH-Individual-LCR");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslotNumber, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "E-AGCH-Individual-LCR");
    /* firstChannelisationCode */
    if (pvalue->firstChannelisationCode > 15) {
       rtxErrAddUIntParm(ctx, pvalue->firstChannelisationCode);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "firstChannelisationCode", -1, "E-AGCH-Individual-LCR");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "firstChannelisationCode", -1, "E-AGCH-Individual-LCR");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->firstChannelisationCode, 0, 15);
-   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "firstChannelisationCode", -1, "E-AGCH-Individual-LCR");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->firstChannelisationCode, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "HS-ChannelisationCode-LCR", "firstChannelisationCode", -1, "E-AGCH-Individual-LCR");
    /* secondChannelisationCode */
    if (pvalue->secondChannelisationCode > 15) {
       rtxErrAddUIntParm(ctx, pvalue->secondChannelisationCode);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "secondChannelisationCode", -1, "E-AGCH-Individual-LCR");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "secondChannelisationCode", -1, "E-AGCH-Individual-LCR");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->secondChannelisationCode, 0, 15);
-   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "secondChannelisationCode", -1, "E-AGCH-Individual-LCR");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->secondChannelisationCode, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "HS-ChannelisationCode-LCR", "secondChannelisationCode", -1, "E-AGCH-Individual-LCR");
    /* midambleAllocationMode */
-   stat = asn1PE_UMTS_E_AGCH_Individual_LCR_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
+   stat = enc_E_AGCH_Individual_LCR_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
    RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "E-AGCH-Individual-LCR");
    /* midambleConfiguration */
    if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
       rtxErrAddStrParm(ctx, "midambleConfiguration");
       rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "midambleConfiguration", -1, "E-AGCH-Individual-LCR");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "midambleConfiguration", -1, "E-AGCH-Individual-LCR");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, "E-AGCH-Individual-LCR");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "midambleConfiguration", -1, "E-AGCH-Individual-LCR");
    return 0;
 }
 
-int asn1PE_UMTS_E_AGCH_Set_Config_LCR(rtxContext* RT_RESTRICT ctx, const E_AGCH_Set_Config_LCR* RT_RESTRICT pvalue)
+int asn1PE_UMTS_E_AGCH_Individual_LCR(rtxContext* RT_RESTRICT ctx, const E_AGCH_Individual_LCR* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_AGCH_Individual_LCR, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_AGCH_Set_Config_LCR(rtxContext* RT_RESTRICT ctx, const E_AGCH_Set_Config_LCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-AGCH-Set-Config-LCR");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-AGCH-Set-Config-LCR");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "E-AGCH-Set-Config-LCR");
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "E-AGCH-Set-Config-LCR");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "E-AGCH-Individual-LCR", (int32_t)i, "E-AGCH-Set-Config-LCR");
-      stat = asn1PE_UMTS_E_AGCH_Individual_LCR(ctx, (const E_AGCH_Individual_LCR*)node->data);
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "E-AGCH-Individual-LCR", (int32_t)i, "E-AGCH-Set-Config-LCR");
+      stat = enc_E_AGCH_Individual_LCR(ctx, (const E_AGCH_Individual_LCR*)node->data, cur);
       RT_CHECK(ctx, stat, 0, "E-AGCH-Individual-LCR", (int32_t)i, "E-AGCH-Set-Config-LCR");
    }
    return 0;
 }
 
-int asn1PE_UMTS_E_AGCH_Information_TDD128(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_TDD128* RT_RESTRICT pvalue)
+int asn1PE_UMTS_E_AGCH_Set_Config_LCR(rtxContext* RT_RESTRICT ctx, const E_AGCH_Set_Config_LCR* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_AGCH_Set_Config_LCR, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_AGCH_Information_TDD128(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-AGCH-Information-TDD128");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-AGCH-Information-TDD128");
    /* rdi-Indicator */
-   stat = rtxEncBit(ctx, pvalue->rdi_Indicator);
-   RT_CHECK(ctx, stat, 0, "rdi-Indicator", -1, "E-AGCH-Information-TDD128");
+   stat = rtxEncBitAt(ctx, cur, pvalue->rdi_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "rdi-Indicator", -1, "E-AGCH-Information-TDD128");
    /* tpc-StepSize */
    if ((uint64_t)(pvalue->tpc_StepSize - 1) > 2u) {
       rtxErrAddStrParm(ctx, "TPC-StepSizeTDD");
       rtxErrAddUIntParm(ctx, pvalue->tpc_StepSize);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TPC-StepSizeTDD", "tpc-StepSize", -1, "E-AGCH-Information-TDD128");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TPC-StepSizeTDD", "tpc-StepSize", -1, "E-AGCH-Information-TDD128");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->tpc_StepSize, 1, 3);
-   RT_CHECK(ctx, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, "E-AGCH-Information-TDD128");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tpc_StepSize, 1, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, "E-AGCH-Information-TDD128");
    /* e-AGCH-Set-Config */
-   stat = asn1PE_UMTS_E_AGCH_Set_Config_LCR(ctx, &pvalue->e_AGCH_Set_Config);
+   stat = enc_E_AGCH_Set_Config_LCR(ctx, &pvalue->e_AGCH_Set_Config, cur);
    RT_CHECK(ctx, stat, 0, "e-AGCH-Set-Config", -1, "E-AGCH-Information-TDD128");
    /* e-AGCH-BLER-Target */
    if (pvalue->e_AGCH_BLER_Target < -63 || pvalue->e_AGCH_BLER_Target > 0) {
       rtxErrAddStrParm(ctx, "Bler-Target");
       rtxErrAddIntParm(ctx, pvalue->e_AGCH_BLER_Target);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Bler-Target", "e-AGCH-BLER-Target", -1, "E-AGCH-Information-TDD128");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Bler-Target", "e-AGCH-BLER-Target", -1, "E-AGCH-Information-TDD128");
    }
-   stat = pe_ConsInt64(ctx, pvalue->e_AGCH_BLER_Target, -63, 0);
-   RT_CHECK(ctx, stat, "Bler-Target", "e-AGCH-BLER-Target", -1, "E-AGCH-Information-TDD128");
+   stat = pe_ConsInt64At(ctx, cur, pvalue->e_AGCH_BLER_Target, -63, 0);
+   RT_CHECK_PUT(ctx, cur, stat, "Bler-Target", "e-AGCH-BLER-Target", -1, "E-AGCH-Information-TDD128");
+   return 0;
+}
+
+int asn1PE_UMTS_E_AGCH_Information_TDD128(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_TDD128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_AGCH_Information_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int enc_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_harq_Info(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_harq_Info value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_harq_Info(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_harq_Info value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_harq_Info, value);
+}
+
+RT_MERGED_BODY int enc_E_RNTI(rtxContext* RT_RESTRICT ctx, E_RNTI value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &value, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-RNTI");
    return 0;
 }
 
 int asn1PE_UMTS_E_RNTI(rtxContext* RT_RESTRICT ctx, E_RNTI value)
 {
-   int stat = 0;
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &value, 16, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-RNTI");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_E_RNTI, value);
 }
 
-int asn1PE_UMTS_Common_E_RNTI_Info_element(rtxContext* RT_RESTRICT ctx, const Common_E_RNTI_Info_element* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_Common_E_RNTI_Info_element(rtxContext* RT_RESTRICT ctx, const Common_E_RNTI_Info_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* starting-E-RNTI */
-   stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->starting_E_RNTI);
+   stat = enc_E_RNTI(ctx, pvalue->starting_E_RNTI, cur);
    RT_CHECK(ctx, stat, 0, "starting-E-RNTI", -1, 0);
    /* number-of-group */
    if ((uint64_t)(pvalue->number_of_group - 1) > 31u) {
       rtxErrAddStrParm(ctx, "number-of-group");
       rtxErrAddUIntParm(ctx, pvalue->number_of_group);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "number-of-group", -1, 0);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "number-of-group", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, pvalue->number_of_group, 1, 32);
-   RT_CHECK(ctx, stat, 0, "number-of-group", -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->number_of_group, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "number-of-group", -1, 0);
    /* number-of-ENRTI-per-group */
    if ((uint64_t)(pvalue->number_of_ENRTI_per_group - 1) > 1u) {
       rtxErrAddStrParm(ctx, "number-of-ENRTI-per-group");
       rtxErrAddUIntParm(ctx, pvalue->number_of_ENRTI_per_group);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "number-of-ENRTI-per-group", -1, 0);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "number-of-ENRTI-per-group", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, pvalue->number_of_ENRTI_per_group, 1, 2);
-   RT_CHECK(ctx, stat, 0, "number-of-ENRTI-per-group", -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->number_of_ENRTI_per_group, 1, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "number-of-ENRTI-per-group", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_Common_E_RNTI_Info(rtxContext* RT_RESTRICT ctx, const Common_E_RNTI_Info* RT_RESTRICT pvalue)
+int asn1PE_UMTS_Common_E_RNTI_Info_element(rtxContext* RT_RESTRICT ctx, const Common_E_RNTI_Info_element* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Common_E_RNTI_Info_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_Common_E_RNTI_Info(rtxContext* RT_RESTRICT ctx, const Common_E_RNTI_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Common-E-RNTI-Info");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Common-E-RNTI-Info");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 256);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "Common-E-RNTI-Info");
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "Common-E-RNTI-Info");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "Common-E-RNTI-Info");
-      stat = asn1PE_UMTS_Common_E_RNTI_Info_element(ctx, (const Common_E_RNTI_Info_element*)node->data);
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "Common-E-RNTI-Info");
+      stat = enc_Common_E_RNTI_Info_element(ctx, (const Common_E_RNTI_Info_element*)node->data, cur);
       RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "Common-E-RNTI-Info");
    }
    return 0;
 }
 
-int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info_harq_retransmission_timer(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info_harq_retransmission_timer value)
+int asn1PE_UMTS_Common_E_RNTI_Info(rtxContext* RT_RESTRICT ctx, const Common_E_RNTI_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Common_E_RNTI_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info_harq_retransmission_timer(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info_harq_retransmission_timer value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value > 22) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 22);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 22);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info_harq_retransmission_timer(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info_harq_retransmission_timer value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info_harq_retransmission_timer, value);
+}
+
+RT_MERGED_BODY int enc_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* common-e-rnti-Info */
-   stat = asn1PE_UMTS_Common_E_RNTI_Info(ctx, &pvalue->common_e_rnti_Info);
+   stat = enc_Common_E_RNTI_Info(ctx, &pvalue->common_e_rnti_Info, cur);
    RT_CHECK(ctx, stat, 0, "common-e-rnti-Info", -1, 0);
    /* harq-MaximumNumberOfRetransmissions */
    if ((uint64_t)pvalue->harq_MaximumNumberOfRetransmissions > 7u) {
       rtxErrAddStrParm(ctx, "harq-MaximumNumberOfRetransmissions");
       rtxErrAddUIntParm(ctx, pvalue->harq_MaximumNumberOfRetransmissions);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "harq-MaximumNumberOfRetransmissions", -1, 0);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "harq-MaximumNumberOfRetransmissions", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, pvalue->harq_MaximumNumberOfRetransmissions, 0, 7);
-   RT_CHECK(ctx, stat, 0, "harq-MaximumNumberOfRetransmissions", -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->harq_MaximumNumberOfRetransmissions, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "harq-MaximumNumberOfRetransmissions", -1, 0);
    /* harq-retransmission-timer */
    if (pvalue->harq_retransmission_timer > 22) {
       rtxErrAddUIntParm(ctx, pvalue->harq_retransmission_timer);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "harq-retransmission-timer", -1, 0);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "harq-retransmission-timer", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, pvalue->harq_retransmission_timer, 0, 22);
-   RT_CHECK(ctx, stat, 0, "harq-retransmission-timer", -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->harq_retransmission_timer, 0, 22);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "harq-retransmission-timer", -1, 0);
    /* harq-power-offset */
    if ((uint64_t)pvalue->harq_power_offset > 6u) {
       rtxErrAddStrParm(ctx, "harq-power-offset");
       rtxErrAddUIntParm(ctx, pvalue->harq_power_offset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "harq-power-offset", -1, 0);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "harq-power-offset", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, pvalue->harq_power_offset, 0, 6);
-   RT_CHECK(ctx, stat, 0, "harq-power-offset", -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->harq_power_offset, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "harq-power-offset", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info, pvalue);
+}
+
+static int enc_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* e-RUCCH-Info */
+   stat = enc_E_RUCCH_Info_TDD128(ctx, &pvalue->e_RUCCH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "e-RUCCH-Info", -1, 0);
+   /* e-PUCH-Info */
+   stat = enc_E_PUCH_Info_TDD128(ctx, &pvalue->e_PUCH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "e-PUCH-Info", -1, 0);
+   /* e-hich-Information */
+   stat = enc_E_HICH_Information_TDD128(ctx, &pvalue->e_hich_Information, cur);
+   RT_CHECK(ctx, stat, 0, "e-hich-Information", -1, 0);
+   /* e-agch-Information */
+   stat = enc_E_AGCH_Information_TDD128(ctx, &pvalue->e_agch_Information, cur);
+   RT_CHECK(ctx, stat, 0, "e-agch-Information", -1, 0);
+   /* harq-Info */
+   if (pvalue->harq_Info > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->harq_Info);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "harq-Info", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->harq_Info, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "harq-Info", -1, 0);
+   /* ccch-transmission-Info */
+   stat = enc_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info(ctx, &pvalue->ccch_transmission_Info, cur);
+   RT_CHECK(ctx, stat, 0, "ccch-transmission-Info", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* e-RUCCH-Info */
-   stat = asn1PE_UMTS_E_RUCCH_Info_TDD128(ctx, &pvalue->e_RUCCH_Info);
-   RT_CHECK(ctx, stat, 0, "e-RUCCH-Info", -1, 0);
-   /* e-PUCH-Info */
-   stat = asn1PE_UMTS_E_PUCH_Info_TDD128(ctx, &pvalue->e_PUCH_Info);
-   RT_CHECK(ctx, stat, 0, "e-PUCH-Info", -1, 0);
-   /* e-hich-Information */
-   stat = asn1PE_UMTS_E_HICH_Information_TDD128(ctx, &pvalue->e_hich_Information);
-   RT_CHECK(ctx, stat, 0, "e-hich-Information", -1, 0);
-   /* e-agch-Information */
-   stat = asn1PE_UMTS_E_AGCH_Information_TDD128(ctx, &pvalue->e_agch_Information);
-   RT_CHECK(ctx, stat, 0, "e-agch-Information", -1, 0);
-   /* harq-Info */
-   if (pvalue->harq_Info > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->harq_Info);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "harq-Info", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->harq_Info, 0, 1);
-   RT_CHECK(ctx, stat, 0, "harq-Info", -1, 0);
-   /* ccch-transmission-Info */
-   stat = asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128_ccch_transmission_Info(ctx, &pvalue->ccch_transmission_Info);
-   RT_CHECK(ctx, stat, 0, "ccch-transmission-Info", -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128, pvalue);
 }
 
-int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_CommonEDCHSystemInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
          break;
       case 2:
          break;
       case 3:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_CommonEDCHSystemInfo_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128, cur);
          RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CommonEDCHSystemInfo_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_CommonEDCHSystemInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_CommonEDCHSystemInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_CommonEDCHSystemInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
          break;
@@ -592,676 +5486,802 @@ int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRIC
 
 int asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfo_modeSpecificInfo* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_CommonEDCHSystemInfo_modeSpecificInfo, pvalue);
 }
 
-int asn1PE_UMTS_CommonEDCHSystemInfo(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_CommonEDCHSystemInfo(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CommonEDCHSystemInfo");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CommonEDCHSystemInfo");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CommonEDCHSystemInfo");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CommonEDCHSystemInfo");
    /* ul-InterferenceForCommonEDCH */
    if (pvalue->m & 0x1u) {
       if (pvalue->ul_InterferenceForCommonEDCH < -110 || pvalue->ul_InterferenceForCommonEDCH > -70) {
          rtxErrAddStrParm(ctx, "UL-Interference");
          rtxErrAddIntParm(ctx, pvalue->ul_InterferenceForCommonEDCH);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-Interference", "ul-InterferenceForCommonEDCH", -1, "CommonEDCHSystemInfo");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UL-Interference", "ul-InterferenceForCommonEDCH", -1, "CommonEDCHSystemInfo");
       }
-      stat = pe_ConsInt64(ctx, pvalue->ul_InterferenceForCommonEDCH, -110, -70);
-      RT_CHECK(ctx, stat, "UL-Interference", "ul-InterferenceForCommonEDCH", -1, "CommonEDCHSystemInfo");
+      stat = pe_ConsInt64At(ctx, cur, pvalue->ul_InterferenceForCommonEDCH, -110, -70);
+      RT_CHECK_PUT(ctx, cur, stat, "UL-Interference", "ul-InterferenceForCommonEDCH", -1, "CommonEDCHSystemInfo");
    }
    /* common-E-DCH-MAC-d-FlowList */
-   stat = asn1PE_UMTS_Common_E_DCH_MAC_d_FlowList(ctx, &pvalue->common_E_DCH_MAC_d_FlowList);
+   stat = enc_Common_E_DCH_MAC_d_FlowList(ctx, &pvalue->common_E_DCH_MAC_d_FlowList, cur);
    RT_CHECK(ctx, stat, 0, "common-E-DCH-MAC-d-FlowList", -1, "CommonEDCHSystemInfo");
    /* modeSpecificInfo */
-   stat = asn1PE_UMTS_CommonEDCHSystemInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   stat = enc_CommonEDCHSystemInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
    RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CommonEDCHSystemInfo");
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType5_v890ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v890ext_IEs* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CommonEDCHSystemInfo(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CommonEDCHSystemInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType5_v890ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v890ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType5-v890ext-IEs");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType5-v890ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5-v890ext-IEs");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType5-v890ext-IEs");
    /* secondFrequencyInfo */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, &pvalue->secondFrequencyInfo);
+      stat = enc_FrequencyInfoTDD(ctx, &pvalue->secondFrequencyInfo, cur);
       RT_CHECK(ctx, stat, 0, "secondFrequencyInfo", -1, "SysInfoType5-v890ext-IEs");
    }
    /* commonEDCHSystemInfo */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_CommonEDCHSystemInfo(ctx, &pvalue->commonEDCHSystemInfo);
+      stat = enc_CommonEDCHSystemInfo(ctx, &pvalue->commonEDCHSystemInfo, cur);
       RT_CHECK(ctx, stat, 0, "commonEDCHSystemInfo", -1, "SysInfoType5-v890ext-IEs");
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType5_v8b0ext_IEs_tresetUsageIndicator(rtxContext* RT_RESTRICT ctx, SysInfoType5_v8b0ext_IEs_tresetUsageIndicator value)
+int asn1PE_UMTS_SysInfoType5_v890ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v890ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5_v890ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType5_v8b0ext_IEs_tresetUsageIndicator(rtxContext* RT_RESTRICT ctx, SysInfoType5_v8b0ext_IEs_tresetUsageIndicator value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_UpPCHposition_LCR(rtxContext* RT_RESTRICT ctx, UpPCHposition_LCR value)
+int asn1PE_UMTS_SysInfoType5_v8b0ext_IEs_tresetUsageIndicator(rtxContext* RT_RESTRICT ctx, SysInfoType5_v8b0ext_IEs_tresetUsageIndicator value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5_v8b0ext_IEs_tresetUsageIndicator, value);
+}
+
+RT_MERGED_BODY int enc_UpPCHposition_LCR(rtxContext* RT_RESTRICT ctx, UpPCHposition_LCR value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)value > 127u) {
       rtxErrAddStrParm(ctx, "UpPCHposition-LCR");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "UpPCHposition-LCR");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "UpPCHposition-LCR");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 127);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UpPCHposition-LCR");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 127);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UpPCHposition-LCR");
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType5_v8b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v8b0ext_IEs* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UpPCHposition_LCR(rtxContext* RT_RESTRICT ctx, UpPCHposition_LCR value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UpPCHposition_LCR, value);
+}
+
+RT_MERGED_BODY int enc_SysInfoType5_v8b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v8b0ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType5-v8b0ext-IEs");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType5-v8b0ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5-v8b0ext-IEs");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType5-v8b0ext-IEs");
    /* tresetUsageIndicator */
    if (pvalue->m & 0x1u) {
       if (pvalue->tresetUsageIndicator > 0) {
          rtxErrAddUIntParm(ctx, pvalue->tresetUsageIndicator);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "tresetUsageIndicator", -1, "SysInfoType5-v8b0ext-IEs");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "tresetUsageIndicator", -1, "SysInfoType5-v8b0ext-IEs");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->tresetUsageIndicator, 0, 0);
-      RT_CHECK(ctx, stat, 0, "tresetUsageIndicator", -1, "SysInfoType5-v8b0ext-IEs");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tresetUsageIndicator, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "tresetUsageIndicator", -1, "SysInfoType5-v8b0ext-IEs");
    }
    /* upPCHpositionInfo */
    if (pvalue->m & 0x2u) {
       if ((uint64_t)pvalue->upPCHpositionInfo > 127u) {
          rtxErrAddStrParm(ctx, "UpPCHposition-LCR");
          rtxErrAddUIntParm(ctx, pvalue->upPCHpositionInfo);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "UpPCHposition-LCR", "upPCHpositionInfo", -1, "SysInfoType5-v8b0ext-IEs");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UpPCHposition-LCR", "upPCHpositionInfo", -1, "SysInfoType5-v8b0ext-IEs");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->upPCHpositionInfo, 0, 127);
-      RT_CHECK(ctx, stat, "UpPCHposition-LCR", "upPCHpositionInfo", -1, "SysInfoType5-v8b0ext-IEs");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->upPCHpositionInfo, 0, 127);
+      RT_CHECK_PUT(ctx, cur, stat, "UpPCHposition-LCR", "upPCHpositionInfo", -1, "SysInfoType5-v8b0ext-IEs");
    }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType5_v8b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v8b0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5_v8b0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_CommonEDCHSystemInfoFDD_harq_Info(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfoFDD_harq_Info value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_CommonEDCHSystemInfoFDD_harq_Info(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfoFDD_harq_Info value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_CommonEDCHSystemInfoFDD_harq_Info, value);
+}
+
+RT_MERGED_BODY int enc_CommonEDCHSystemInfoFDD_max_CCCH_ResourceAllocation(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfoFDD_max_CCCH_ResourceAllocation value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 1) {
+   if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_CommonEDCHSystemInfoFDD_max_CCCH_ResourceAllocation(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfoFDD_max_CCCH_ResourceAllocation value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_CommonEDCHSystemInfoFDD_max_CCCH_ResourceAllocation, value);
+}
+
+RT_MERGED_BODY int enc_CommonEDCHSystemInfoFDD_e_dch_TransmitContinuationOffset(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfoFDD_e_dch_TransmitContinuationOffset value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_CommonEDCHSystemInfoFDD_e_dch_TransmitContinuationOffset(rtxContext* RT_RESTRICT ctx, CommonEDCHSystemInfoFDD_e_dch_TransmitContinuationOffset value)
 {
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_CommonEDCHSystemInfoFDD_e_dch_TransmitContinuationOffset, value);
 }
 
-int asn1PE_UMTS_CommonEDCHSystemInfoFDD_common_E_DCH_ResourceInfoList(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfoFDD_common_E_DCH_ResourceInfoList* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_CommonEDCHSystemInfoFDD_common_E_DCH_ResourceInfoList(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfoFDD_common_E_DCH_ResourceInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "Common-E-DCH-ResourceInfoList", (int32_t)i, 0);
-      stat = asn1PE_UMTS_Common_E_DCH_ResourceInfoList(ctx, (const Common_E_DCH_ResourceInfoList*)node->data);
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "Common-E-DCH-ResourceInfoList", (int32_t)i, 0);
+      stat = enc_Common_E_DCH_ResourceInfoList(ctx, (const Common_E_DCH_ResourceInfoList*)node->data, cur);
       RT_CHECK(ctx, stat, 0, "Common-E-DCH-ResourceInfoList", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_CommonEDCHSystemInfoFDD(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfoFDD* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CommonEDCHSystemInfoFDD_common_E_DCH_ResourceInfoList(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfoFDD_common_E_DCH_ResourceInfoList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CommonEDCHSystemInfoFDD_common_E_DCH_ResourceInfoList, pvalue);
+}
+
+static int enc_CommonEDCHSystemInfoFDD(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfoFDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CommonEDCHSystemInfoFDD");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CommonEDCHSystemInfoFDD");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CommonEDCHSystemInfoFDD");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CommonEDCHSystemInfoFDD");
    /* ul-InterferenceForCommonEDCH */
    if (pvalue->m & 0x1u) {
       if (pvalue->ul_InterferenceForCommonEDCH < -110 || pvalue->ul_InterferenceForCommonEDCH > -70) {
          rtxErrAddStrParm(ctx, "UL-Interference");
          rtxErrAddIntParm(ctx, pvalue->ul_InterferenceForCommonEDCH);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-Interference", "ul-InterferenceForCommonEDCH", -1, "CommonEDCHSystemInfoFDD");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UL-Interference", "ul-InterferenceForCommonEDCH", -1, "CommonEDCHSystemInfoFDD");
       }
-      stat = pe_ConsInt64(ctx, pvalue->ul_InterferenceForCommonEDCH, -110, -70);
-      RT_CHECK(ctx, stat, "UL-Interference", "ul-InterferenceForCommonEDCH", -1, "CommonEDCHSystemInfoFDD");
+      stat = pe_ConsInt64At(ctx, cur, pvalue->ul_InterferenceForCommonEDCH, -110, -70);
+      RT_CHECK_PUT(ctx, cur, stat, "UL-Interference", "ul-InterferenceForCommonEDCH", -1, "CommonEDCHSystemInfoFDD");
    }
    /* common-E-DCH-MAC-d-FlowList */
-   stat = asn1PE_UMTS_Common_E_DCH_MAC_d_FlowList(ctx, &pvalue->common_E_DCH_MAC_d_FlowList);
+   stat = enc_Common_E_DCH_MAC_d_FlowList(ctx, &pvalue->common_E_DCH_MAC_d_FlowList, cur);
    RT_CHECK(ctx, stat, 0, "common-E-DCH-MAC-d-FlowList", -1, "CommonEDCHSystemInfoFDD");
    /* prach-PreambleForEnhancedUplink */
-   stat = asn1PE_UMTS_PRACH_PreambleForEnhancedUplink(ctx, &pvalue->prach_PreambleForEnhancedUplink);
+   stat = enc_PRACH_PreambleForEnhancedUplink(ctx, &pvalue->prach_PreambleForEnhancedUplink, cur);
    RT_CHECK(ctx, stat, 0, "prach-PreambleForEnhancedUplink", -1, "CommonEDCHSystemInfoFDD");
    /* initialServingGrantValue */
    if ((uint64_t)pvalue->initialServingGrantValue > 37u) {
       rtxErrAddStrParm(ctx, "initialServingGrantValue");
       rtxErrAddUIntParm(ctx, pvalue->initialServingGrantValue);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "initialServingGrantValue", -1, "CommonEDCHSystemInfoFDD");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "initialServingGrantValue", -1, "CommonEDCHSystemInfoFDD");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->initialServingGrantValue, 0, 37);
-   RT_CHECK(ctx, stat, 0, "initialServingGrantValue", -1, "CommonEDCHSystemInfoFDD");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->initialServingGrantValue, 0, 37);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "initialServingGrantValue", -1, "CommonEDCHSystemInfoFDD");
    /* e-dch-TTI */
    if (pvalue->e_dch_TTI > 1) {
       rtxErrAddUIntParm(ctx, pvalue->e_dch_TTI);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "E-DCH-TTI", "e-dch-TTI", -1, "CommonEDCHSystemInfoFDD");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "E-DCH-TTI", "e-dch-TTI", -1, "CommonEDCHSystemInfoFDD");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->e_dch_TTI, 0, 1);
-   RT_CHECK(ctx, stat, "E-DCH-TTI", "e-dch-TTI", -1, "CommonEDCHSystemInfoFDD");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->e_dch_TTI, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "E-DCH-TTI", "e-dch-TTI", -1, "CommonEDCHSystemInfoFDD");
    /* e-agch-Information */
-   stat = asn1PE_UMTS_E_AGCH_Information(ctx, &pvalue->e_agch_Information);
+   stat = enc_E_AGCH_Information(ctx, &pvalue->e_agch_Information, cur);
    RT_CHECK(ctx, stat, 0, "e-agch-Information", -1, "CommonEDCHSystemInfoFDD");
    /* harq-Info */
    if (pvalue->harq_Info > 1) {
       rtxErrAddUIntParm(ctx, pvalue->harq_Info);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "harq-Info", -1, "CommonEDCHSystemInfoFDD");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "harq-Info", -1, "CommonEDCHSystemInfoFDD");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->harq_Info, 0, 1);
-   RT_CHECK(ctx, stat, 0, "harq-Info", -1, "CommonEDCHSystemInfoFDD");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->harq_Info, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "harq-Info", -1, "CommonEDCHSystemInfoFDD");
    /* ul-DPCHpowerControlInfoForCommonEDCH */
-   stat = asn1PE_UMTS_UL_DPCHpowerControlInfoForCommonEDCH(ctx, &pvalue->ul_DPCHpowerControlInfoForCommonEDCH);
+   stat = enc_UL_DPCHpowerControlInfoForCommonEDCH(ctx, &pvalue->ul_DPCHpowerControlInfoForCommonEDCH, cur);
    RT_CHECK(ctx, stat, 0, "ul-DPCHpowerControlInfoForCommonEDCH", -1, "CommonEDCHSystemInfoFDD");
    /* e-dpcch-Info */
-   stat = asn1PE_UMTS_E_DPCCH_Info_r7(ctx, &pvalue->e_dpcch_Info);
+   stat = enc_E_DPCCH_Info_r7(ctx, &pvalue->e_dpcch_Info, cur);
    RT_CHECK(ctx, stat, 0, "e-dpcch-Info", -1, "CommonEDCHSystemInfoFDD");
    /* e-dpdch-Info */
-   stat = asn1PE_UMTS_E_DPDCH_Info_r8(ctx, &pvalue->e_dpdch_Info);
+   stat = enc_E_DPDCH_Info_r8(ctx, &pvalue->e_dpdch_Info, cur);
    RT_CHECK(ctx, stat, 0, "e-dpdch-Info", -1, "CommonEDCHSystemInfoFDD");
    /* dl-FDPCH-TPCcommandErrorRate */
    if ((uint64_t)(pvalue->dl_FDPCH_TPCcommandErrorRate - 1) > 9u) {
       rtxErrAddStrParm(ctx, "dl-FDPCH-TPCcommandErrorRate");
       rtxErrAddUIntParm(ctx, pvalue->dl_FDPCH_TPCcommandErrorRate);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "dl-FDPCH-TPCcommandErrorRate", -1, "CommonEDCHSystemInfoFDD");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "dl-FDPCH-TPCcommandErrorRate", -1, "CommonEDCHSystemInfoFDD");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->dl_FDPCH_TPCcommandErrorRate, 1, 10);
-   RT_CHECK(ctx, stat, 0, "dl-FDPCH-TPCcommandErrorRate", -1, "CommonEDCHSystemInfoFDD");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dl_FDPCH_TPCcommandErrorRate, 1, 10);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "dl-FDPCH-TPCcommandErrorRate", -1, "CommonEDCHSystemInfoFDD");
    /* additional-E-DCH-TransmitBackoff */
    if ((uint64_t)pvalue->additional_E_DCH_TransmitBackoff > 15u) {
       rtxErrAddStrParm(ctx, "additional-E-DCH-TransmitBackoff");
       rtxErrAddUIntParm(ctx, pvalue->additional_E_DCH_TransmitBackoff);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "additional-E-DCH-TransmitBackoff", -1, "CommonEDCHSystemInfoFDD");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "additional-E-DCH-TransmitBackoff", -1, "CommonEDCHSystemInfoFDD");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->additional_E_DCH_TransmitBackoff, 0, 15);
-   RT_CHECK(ctx, stat, 0, "additional-E-DCH-TransmitBackoff", -1, "CommonEDCHSystemInfoFDD");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->additional_E_DCH_TransmitBackoff, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "additional-E-DCH-TransmitBackoff", -1, "CommonEDCHSystemInfoFDD");
    /* max-CCCH-ResourceAllocation */
    if (pvalue->max_CCCH_ResourceAllocation > 7) {
       rtxErrAddUIntParm(ctx, pvalue->max_CCCH_ResourceAllocation);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "max-CCCH-ResourceAllocation", -1, "CommonEDCHSystemInfoFDD");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "max-CCCH-ResourceAllocation", -1, "CommonEDCHSystemInfoFDD");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->max_CCCH_ResourceAllocation, 0, 7);
-   RT_CHECK(ctx, stat, 0, "max-CCCH-ResourceAllocation", -1, "CommonEDCHSystemInfoFDD");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->max_CCCH_ResourceAllocation, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "max-CCCH-ResourceAllocation", -1, "CommonEDCHSystemInfoFDD");
    /* max-PeriodForCollisionResolution */
    if ((uint64_t)(pvalue->max_PeriodForCollisionResolution - 8) > 16u) {
       rtxErrAddStrParm(ctx, "max-PeriodForCollisionResolution");
       rtxErrAddUIntParm(ctx, pvalue->max_PeriodForCollisionResolution);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "max-PeriodForCollisionResolution", -1, "CommonEDCHSystemInfoFDD");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "max-PeriodForCollisionResolution", -1, "CommonEDCHSystemInfoFDD");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->max_PeriodForCollisionResolution, 8, 24);
-   RT_CHECK(ctx, stat, 0, "max-PeriodForCollisionResolution", -1, "CommonEDCHSystemInfoFDD");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->max_PeriodForCollisionResolution, 8, 24);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "max-PeriodForCollisionResolution", -1, "CommonEDCHSystemInfoFDD");
    /* e-dch-TransmitContinuationOffset */
    if (pvalue->e_dch_TransmitContinuationOffset > 7) {
       rtxErrAddUIntParm(ctx, pvalue->e_dch_TransmitContinuationOffset);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "e-dch-TransmitContinuationOffset", -1, "CommonEDCHSystemInfoFDD");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "e-dch-TransmitContinuationOffset", -1, "CommonEDCHSystemInfoFDD");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->e_dch_TransmitContinuationOffset, 0, 7);
-   RT_CHECK(ctx, stat, 0, "e-dch-TransmitContinuationOffset", -1, "CommonEDCHSystemInfoFDD");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->e_dch_TransmitContinuationOffset, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "e-dch-TransmitContinuationOffset", -1, "CommonEDCHSystemInfoFDD");
    /* ack-nack-support-on-HS-DPCCH */
-   stat = rtxEncBit(ctx, pvalue->ack_nack_support_on_HS_DPCCH);
-   RT_CHECK(ctx, stat, 0, "ack-nack-support-on-HS-DPCCH", -1, "CommonEDCHSystemInfoFDD");
+   stat = rtxEncBitAt(ctx, cur, pvalue->ack_nack_support_on_HS_DPCCH);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ack-nack-support-on-HS-DPCCH", -1, "CommonEDCHSystemInfoFDD");
    /* measurement-Feedback-Info */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_Measurement_Feedback_Info_r7(ctx, &pvalue->measurement_Feedback_Info);
+      stat = enc_Measurement_Feedback_Info_r7(ctx, &pvalue->measurement_Feedback_Info, cur);
       RT_CHECK(ctx, stat, 0, "measurement-Feedback-Info", -1, "CommonEDCHSystemInfoFDD");
    }
    /* common-E-DCH-ResourceInfoList */
-   stat = asn1PE_UMTS_CommonEDCHSystemInfoFDD_common_E_DCH_ResourceInfoList(ctx, &pvalue->common_E_DCH_ResourceInfoList);
+   stat = enc_CommonEDCHSystemInfoFDD_common_E_DCH_ResourceInfoList(ctx, &pvalue->common_E_DCH_ResourceInfoList, cur);
    RT_CHECK(ctx, stat, 0, "common-E-DCH-ResourceInfoList", -1, "CommonEDCHSystemInfoFDD");
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType5_v8d0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v8d0ext_IEs* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CommonEDCHSystemInfoFDD(rtxContext* RT_RESTRICT ctx, const CommonEDCHSystemInfoFDD* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CommonEDCHSystemInfoFDD, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType5_v8d0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v8d0ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType5-v8d0ext-IEs");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType5-v8d0ext-IEs");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5-v8d0ext-IEs");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType5-v8d0ext-IEs");
    /* commonEDCHSystemInfoFDD */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CommonEDCHSystemInfoFDD(ctx, &pvalue->commonEDCHSystemInfoFDD);
+      stat = enc_CommonEDCHSystemInfoFDD(ctx, &pvalue->commonEDCHSystemInfoFDD, cur);
       RT_CHECK(ctx, stat, 0, "commonEDCHSystemInfoFDD", -1, "SysInfoType5-v8d0ext-IEs");
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PE_UMTS_SysInfoType5_v8d0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v8d0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5_v8d0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType5-v8d0ext */
+   stat = enc_SysInfoType5_v8d0ext_IEs(ctx, &pvalue->sysInfoType5_v8d0ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType5-v8d0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType5-v8d0ext */
-   stat = asn1PE_UMTS_SysInfoType5_v8d0ext_IEs(ctx, &pvalue->sysInfoType5_v8d0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType5-v8d0ext", -1, 0);
-   /* nonCriticalExtensions */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType5-v8b0ext */
+   stat = enc_SysInfoType5_v8b0ext_IEs(ctx, &pvalue->sysInfoType5_v8b0ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType5-v8b0ext", -1, 0);
+   /* v8d0NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+      stat = enc_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions(ctx, &pvalue->v8d0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v8d0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType5-v8b0ext */
-   stat = asn1PE_UMTS_SysInfoType5_v8b0ext_IEs(ctx, &pvalue->sysInfoType5_v8b0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType5-v8b0ext", -1, 0);
-   /* v8d0NonCriticalExtensions */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType5-v890ext */
+   stat = enc_SysInfoType5_v890ext_IEs(ctx, &pvalue->sysInfoType5_v890ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType5-v890ext", -1, 0);
+   /* v8b0NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions_v8d0NonCriticalExtensions(ctx, &pvalue->v8d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v8d0NonCriticalExtensions", -1, 0);
+      stat = enc_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions(ctx, &pvalue->v8b0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v8b0NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions, pvalue);
+}
+
+static int enc_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType5-v890ext */
-   stat = asn1PE_UMTS_SysInfoType5_v890ext_IEs(ctx, &pvalue->sysInfoType5_v890ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType5-v890ext", -1, 0);
-   /* v8b0NonCriticalExtensions */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType5-v860ext */
+   stat = enc_SysInfoType5_v860ext_IEs(ctx, &pvalue->sysInfoType5_v860ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType5-v860ext", -1, 0);
+   /* v890NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions_v8b0NonCriticalExtensions(ctx, &pvalue->v8b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v8b0NonCriticalExtensions", -1, 0);
+      stat = enc_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType5-v860ext */
-   stat = asn1PE_UMTS_SysInfoType5_v860ext_IEs(ctx, &pvalue->sysInfoType5_v860ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType5-v860ext", -1, 0);
-   /* v890NonCriticalExtensions */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType5-v770ext */
+   stat = enc_SysInfoType5_v770ext_IEs(ctx, &pvalue->sysInfoType5_v770ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType5-v770ext", -1, 0);
+   /* v860NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
+      stat = enc_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType5-v770ext */
-   stat = asn1PE_UMTS_SysInfoType5_v770ext_IEs(ctx, &pvalue->sysInfoType5_v770ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType5-v770ext", -1, 0);
-   /* v860NonCriticalExtensions */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType5-v690ext */
+   stat = enc_SysInfoType5_v690ext_IEs(ctx, &pvalue->sysInfoType5_v690ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType5-v690ext", -1, 0);
+   /* v770NonCriticalExtensions */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+      stat = enc_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType5-v690ext */
-   stat = asn1PE_UMTS_SysInfoType5_v690ext_IEs(ctx, &pvalue->sysInfoType5_v690ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType5-v690ext", -1, 0);
-   /* v770NonCriticalExtensions */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType5-v680ext */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+      stat = enc_SysInfoType5_v680ext_IEs(ctx, &pvalue->sysInfoType5_v680ext, cur);
+      RT_CHECK(ctx, stat, 0, "sysInfoType5-v680ext", -1, 0);
+   }
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = enc_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType5-v680ext */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType5-v650ext */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType5_v680ext_IEs(ctx, &pvalue->sysInfoType5_v680ext);
-      RT_CHECK(ctx, stat, 0, "sysInfoType5-v680ext", -1, 0);
+      stat = enc_SysInfoType5_v650ext_IEs(ctx, &pvalue->sysInfoType5_v650ext, cur);
+      RT_CHECK(ctx, stat, 0, "sysInfoType5-v650ext", -1, 0);
    }
-   /* v690NonCriticalExtensions */
+   /* v680NonCriticalExtensions */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+      stat = enc_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions(ctx, &pvalue->v680NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v680NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions, pvalue);
+}
+
+static int enc_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType5-v650ext */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType5-v590ext */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType5_v650ext_IEs(ctx, &pvalue->sysInfoType5_v650ext);
-      RT_CHECK(ctx, stat, 0, "sysInfoType5-v650ext", -1, 0);
+      stat = enc_SysInfoType5_v590ext_IEs(ctx, &pvalue->sysInfoType5_v590ext, cur);
+      RT_CHECK(ctx, stat, 0, "sysInfoType5-v590ext", -1, 0);
    }
-   /* v680NonCriticalExtensions */
+   /* v650NonCriticalExtensions */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions_v680NonCriticalExtensions(ctx, &pvalue->v680NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v680NonCriticalExtensions", -1, 0);
+      stat = enc_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions(ctx, &pvalue->v650NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v650NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType5_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType5-v590ext */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType5-v4b0ext */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType5_v590ext_IEs(ctx, &pvalue->sysInfoType5_v590ext);
-      RT_CHECK(ctx, stat, 0, "sysInfoType5-v590ext", -1, 0);
+      stat = enc_SysInfoType5_v4b0ext_IEs(ctx, &pvalue->sysInfoType5_v4b0ext, cur);
+      RT_CHECK(ctx, stat, 0, "sysInfoType5-v4b0ext", -1, 0);
    }
-   /* v650NonCriticalExtensions */
+   /* v590NonCriticalExtensions */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650NonCriticalExtensions(ctx, &pvalue->v650NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v650NonCriticalExtensions", -1, 0);
+      stat = enc_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType5_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5_v4b0NonCriticalExtensions, pvalue);
+}
+
+static int enc_SysInfoType5(rtxContext* RT_RESTRICT ctx, const SysInfoType5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType5");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType5-v4b0ext */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType5_v4b0ext_IEs(ctx, &pvalue->sysInfoType5_v4b0ext);
-      RT_CHECK(ctx, stat, 0, "sysInfoType5-v4b0ext", -1, 0);
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType5");
+   /* sib6indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->sib6indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sib6indicator", -1, "SysInfoType5");
+   /* pich-PowerOffset */
+   if (pvalue->pich_PowerOffset < -10 || pvalue->pich_PowerOffset > 5) {
+      rtxErrAddStrParm(ctx, "PICH-PowerOffset");
+      rtxErrAddIntParm(ctx, pvalue->pich_PowerOffset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PICH-PowerOffset", "pich-PowerOffset", -1, "SysInfoType5");
    }
-   /* v590NonCriticalExtensions */
+   stat = pe_ConsInt64At(ctx, cur, pvalue->pich_PowerOffset, -10, 5);
+   RT_CHECK_PUT(ctx, cur, stat, "PICH-PowerOffset", "pich-PowerOffset", -1, "SysInfoType5");
+   /* modeSpecificInfo */
+   stat = enc_SysInfoType5_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SysInfoType5");
+   /* primaryCCPCH-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "SysInfoType5");
+   }
+   /* prach-SystemInformationList */
+   stat = enc_PRACH_SystemInformationList(ctx, &pvalue->prach_SystemInformationList, cur);
+   RT_CHECK(ctx, stat, 0, "prach-SystemInformationList", -1, "SysInfoType5");
+   /* sCCPCH-SystemInformationList */
+   stat = enc_SCCPCH_SystemInformationList(ctx, &pvalue->sCCPCH_SystemInformationList, cur);
+   RT_CHECK(ctx, stat, 0, "sCCPCH-SystemInformationList", -1, "SysInfoType5");
+   /* cbs-DRX-Level1Information */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+      stat = enc_CBS_DRX_Level1Information(ctx, &pvalue->cbs_DRX_Level1Information, cur);
+      RT_CHECK(ctx, stat, 0, "cbs-DRX-Level1Information", -1, "SysInfoType5");
+   }
+   /* v4b0NonCriticalExtensions */
+   if (pvalue->m & 0x4u) {
+      stat = enc_SysInfoType5_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType5");
    }
    return 0;
 }
 
 int asn1PE_UMTS_SysInfoType5(rtxContext* RT_RESTRICT ctx, const SysInfoType5* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType5, pvalue);
+}
+
+RT_MERGED_BODY int enc_RAT_Type(rtxContext* RT_RESTRICT ctx, RAT_Type value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType5");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5");
-   /* sib6indicator */
-   stat = rtxEncBit(ctx, pvalue->sib6indicator);
-   RT_CHECK(ctx, stat, 0, "sib6indicator", -1, "SysInfoType5");
-   /* pich-PowerOffset */
-   if (pvalue->pich_PowerOffset < -10 || pvalue->pich_PowerOffset > 5) {
-      rtxErrAddStrParm(ctx, "PICH-PowerOffset");
-      rtxErrAddIntParm(ctx, pvalue->pich_PowerOffset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PICH-PowerOffset", "pich-PowerOffset", -1, "SysInfoType5");
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "RAT-Type");
    }
-   stat = pe_ConsInt64(ctx, pvalue->pich_PowerOffset, -10, 5);
-   RT_CHECK(ctx, stat, "PICH-PowerOffset", "pich-PowerOffset", -1, "SysInfoType5");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_SysInfoType5_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SysInfoType5");
-   /* primaryCCPCH-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info);
-      RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "SysInfoType5");
-   }
-   /* prach-SystemInformationList */
-   stat = asn1PE_UMTS_PRACH_SystemInformationList(ctx, &pvalue->prach_SystemInformationList);
-   RT_CHECK(ctx, stat, 0, "prach-SystemInformationList", -1, "SysInfoType5");
-   /* sCCPCH-SystemInformationList */
-   stat = asn1PE_UMTS_SCCPCH_SystemInformationList(ctx, &pvalue->sCCPCH_SystemInformationList);
-   RT_CHECK(ctx, stat, 0, "sCCPCH-SystemInformationList", -1, "SysInfoType5");
-   /* cbs-DRX-Level1Information */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_CBS_DRX_Level1Information(ctx, &pvalue->cbs_DRX_Level1Information);
-      RT_CHECK(ctx, stat, 0, "cbs-DRX-Level1Information", -1, "SysInfoType5");
-   }
-   /* v4b0NonCriticalExtensions */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_SysInfoType5_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType5");
-   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RAT-Type");
    return 0;
 }
 
 int asn1PE_UMTS_RAT_Type(rtxContext* RT_RESTRICT ctx, RAT_Type value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_RAT_Type, value);
+}
+
+RT_MERGED_BODY int enc_FACH_MeasurementOccasionInfo_inter_RAT_meas_ind(rtxContext* RT_RESTRICT ctx, const FACH_MeasurementOccasionInfo_inter_RAT_meas_ind* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "RAT-Type");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 15);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "RAT-Type", "RAT-Type", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 1);
+      RT_CHECK_PUT(ctx, cur, stat, "RAT-Type", "RAT-Type", (int32_t)i, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAT-Type");
    return 0;
 }
 
 int asn1PE_UMTS_FACH_MeasurementOccasionInfo_inter_RAT_meas_ind(rtxContext* RT_RESTRICT ctx, const FACH_MeasurementOccasionInfo_inter_RAT_meas_ind* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_FACH_MeasurementOccasionInfo_inter_RAT_meas_ind, pvalue);
+}
+
+RT_MERGED_BODY int enc_FACH_MeasurementOccasionInfo(rtxContext* RT_RESTRICT ctx, const FACH_MeasurementOccasionInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 15);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (i = 0; i < pvalue->n; i++) {
-      if (pvalue->elem[i] > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "RAT-Type", "RAT-Type", (int32_t)i, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "FACH-MeasurementOccasionInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "FACH-MeasurementOccasionInfo");
+   /* fACH-meas-occasion-coeff */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->fACH_meas_occasion_coeff - 1) > 11u) {
+         rtxErrAddStrParm(ctx, "fACH-meas-occasion-coeff");
+         rtxErrAddUIntParm(ctx, pvalue->fACH_meas_occasion_coeff);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "fACH-meas-occasion-coeff", -1, "FACH-MeasurementOccasionInfo");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 1);
-      RT_CHECK(ctx, stat, "RAT-Type", "RAT-Type", (int32_t)i, 0);
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->fACH_meas_occasion_coeff, 1, 12);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "fACH-meas-occasion-coeff", -1, "FACH-MeasurementOccasionInfo");
+   }
+   /* inter-freq-FDD-meas-ind */
+   stat = rtxEncBitAt(ctx, cur, pvalue->inter_freq_FDD_meas_ind);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "inter-freq-FDD-meas-ind", -1, "FACH-MeasurementOccasionInfo");
+   /* inter-freq-TDD-meas-ind */
+   stat = rtxEncBitAt(ctx, cur, pvalue->inter_freq_TDD_meas_ind);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "inter-freq-TDD-meas-ind", -1, "FACH-MeasurementOccasionInfo");
+   /* inter-RAT-meas-ind */
+   if (pvalue->m & 0x2u) {
+      stat = enc_FACH_MeasurementOccasionInfo_inter_RAT_meas_ind(ctx, &pvalue->inter_RAT_meas_ind, cur);
+      RT_CHECK(ctx, stat, 0, "inter-RAT-meas-ind", -1, "FACH-MeasurementOccasionInfo");
    }
    return 0;
 }
 
 int asn1PE_UMTS_FACH_MeasurementOccasionInfo(rtxContext* RT_RESTRICT ctx, const FACH_MeasurementOccasionInfo* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "FACH-MeasurementOccasionInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "FACH-MeasurementOccasionInfo");
-   /* fACH-meas-occasion-coeff */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->fACH_meas_occasion_coeff - 1) > 11u) {
-         rtxErrAddStrParm(ctx, "fACH-meas-occasion-coeff");
-         rtxErrAddUIntParm(ctx, pvalue->fACH_meas_occasion_coeff);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "fACH-meas-occasion-coeff", -1, "FACH-MeasurementOccasionInfo");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->fACH_meas_occasion_coeff, 1, 12);
-      RT_CHECK(ctx, stat, 0, "fACH-meas-occasion-coeff", -1, "FACH-MeasurementOccasionInfo");
-   }
-   /* inter-freq-FDD-meas-ind */
-   stat = rtxEncBit(ctx, pvalue->inter_freq_FDD_meas_ind);
-   RT_CHECK(ctx, stat, 0, "inter-freq-FDD-meas-ind", -1, "FACH-MeasurementOccasionInfo");
-   /* inter-freq-TDD-meas-ind */
-   stat = rtxEncBit(ctx, pvalue->inter_freq_TDD_meas_ind);
-   RT_CHECK(ctx, stat, 0, "inter-freq-TDD-meas-ind", -1, "FACH-MeasurementOccasionInfo");
-   /* inter-RAT-meas-ind */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_FACH_MeasurementOccasionInfo_inter_RAT_meas_ind(ctx, &pvalue->inter_RAT_meas_ind);
-      RT_CHECK(ctx, stat, 0, "inter-RAT-meas-ind", -1, "FACH-MeasurementOccasionInfo");
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_FACH_MeasurementOccasionInfo, pvalue);
 }
 
-int asn1PE_UMTS_MeasurementIdentity(rtxContext* RT_RESTRICT ctx, MeasurementIdentity value)
+RT_MERGED_BODY int enc_MeasurementIdentity(rtxContext* RT_RESTRICT ctx, MeasurementIdentity value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)(value - 1) > 15u) {
       rtxErrAddStrParm(ctx, "MeasurementIdentity");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MeasurementIdentity");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "MeasurementIdentity");
    }
-   stat = pe_ConsUInt64(ctx, value, 1, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementIdentity");
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MeasurementIdentity");
    return 0;
 }
 
-int asn1PE_UMTS_IntraFreqCellID(rtxContext* RT_RESTRICT ctx, IntraFreqCellID value)
+int asn1PE_UMTS_MeasurementIdentity(rtxContext* RT_RESTRICT ctx, MeasurementIdentity value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementIdentity, value);
+}
+
+RT_MERGED_BODY int enc_IntraFreqCellID(rtxContext* RT_RESTRICT ctx, IntraFreqCellID value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)value > 31u) {
       rtxErrAddStrParm(ctx, "IntraFreqCellID");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "IntraFreqCellID");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "IntraFreqCellID");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellID");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqCellID");
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqCellID(rtxContext* RT_RESTRICT ctx, IntraFreqCellID value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqCellID, value);
+}
+
+RT_MERGED_BODY int enc_RemovedIntraFreqCellList_removeSomeIntraFreqCells(rtxContext* RT_RESTRICT ctx, const RemovedIntraFreqCellList_removeSomeIntraFreqCells* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 31u) {
+         rtxErrAddStrParm(ctx, "IntraFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "IntraFreqCellID", "IntraFreqCellID", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 31);
+      RT_CHECK_PUT(ctx, cur, stat, "IntraFreqCellID", "IntraFreqCellID", (int32_t)i, 0);
+   }
    return 0;
 }
 
 int asn1PE_UMTS_RemovedIntraFreqCellList_removeSomeIntraFreqCells(rtxContext* RT_RESTRICT ctx, const RemovedIntraFreqCellList_removeSomeIntraFreqCells* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)pvalue->elem[i] > 31u) {
-         rtxErrAddStrParm(ctx, "IntraFreqCellID");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "IntraFreqCellID", "IntraFreqCellID", (int32_t)i, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 31);
-      RT_CHECK(ctx, stat, "IntraFreqCellID", "IntraFreqCellID", (int32_t)i, 0);
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_RemovedIntraFreqCellList_removeSomeIntraFreqCells, pvalue);
 }
 
-int asn1PE_UMTS_RemovedIntraFreqCellList(rtxContext* RT_RESTRICT ctx, const RemovedIntraFreqCellList* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_RemovedIntraFreqCellList(rtxContext* RT_RESTRICT ctx, const RemovedIntraFreqCellList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RemovedIntraFreqCellList");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "RemovedIntraFreqCellList");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RemovedIntraFreqCellList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RemovedIntraFreqCellList");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "RemovedIntraFreqCellList");
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "RemovedIntraFreqCellList");
    switch (pvalue->t) {
       case 1:
          break;
       case 2:
-         if (pvalue->u.removeSomeIntraFreqCells == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "removeSomeIntraFreqCells", -1, "RemovedIntraFreqCellList");
-         stat = asn1PE_UMTS_RemovedIntraFreqCellList_removeSomeIntraFreqCells(ctx, pvalue->u.removeSomeIntraFreqCells);
+         if (pvalue->u.removeSomeIntraFreqCells == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "removeSomeIntraFreqCells", -1, "RemovedIntraFreqCellList");
+         stat = enc_RemovedIntraFreqCellList_removeSomeIntraFreqCells(ctx, pvalue->u.removeSomeIntraFreqCells, cur);
          RT_CHECK(ctx, stat, 0, "removeSomeIntraFreqCells", -1, "RemovedIntraFreqCellList");
          break;
       case 3:
@@ -1272,53 +6292,63 @@ int asn1PE_UMTS_RemovedIntraFreqCellList(rtxContext* RT_RESTRICT ctx, const Remo
    return 0;
 }
 
-int asn1PE_UMTS_CellIndividualOffset(rtxContext* RT_RESTRICT ctx, CellIndividualOffset value)
+int asn1PE_UMTS_RemovedIntraFreqCellList(rtxContext* RT_RESTRICT ctx, const RemovedIntraFreqCellList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RemovedIntraFreqCellList, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellIndividualOffset(rtxContext* RT_RESTRICT ctx, CellIndividualOffset value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value < -20 || value > 20) {
       rtxErrAddStrParm(ctx, "CellIndividualOffset");
       rtxErrAddIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "CellIndividualOffset");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "CellIndividualOffset");
    }
-   stat = pe_ConsInt64(ctx, value, -20, 20);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellIndividualOffset");
+   stat = pe_ConsInt64At(ctx, cur, value, -20, 20);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CellIndividualOffset");
    return 0;
 }
 
-int asn1PE_UMTS_ReferenceTimeDifferenceToCell(rtxContext* RT_RESTRICT ctx, const ReferenceTimeDifferenceToCell* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CellIndividualOffset(rtxContext* RT_RESTRICT ctx, CellIndividualOffset value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellIndividualOffset, value);
+}
+
+RT_MERGED_BODY int enc_ReferenceTimeDifferenceToCell(rtxContext* RT_RESTRICT ctx, const ReferenceTimeDifferenceToCell* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ReferenceTimeDifferenceToCell");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "ReferenceTimeDifferenceToCell");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ReferenceTimeDifferenceToCell");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ReferenceTimeDifferenceToCell");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "ReferenceTimeDifferenceToCell");
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "ReferenceTimeDifferenceToCell");
    switch (pvalue->t) {
       case 1:
          if ((uint64_t)pvalue->u.accuracy40 > 960u) {
             rtxErrAddStrParm(ctx, "accuracy40");
             rtxErrAddUIntParm(ctx, pvalue->u.accuracy40);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "accuracy40", -1, "ReferenceTimeDifferenceToCell");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "accuracy40", -1, "ReferenceTimeDifferenceToCell");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.accuracy40, 0, 960);
-         RT_CHECK(ctx, stat, 0, "accuracy40", -1, "ReferenceTimeDifferenceToCell");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.accuracy40, 0, 960);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "accuracy40", -1, "ReferenceTimeDifferenceToCell");
          break;
       case 2:
          if ((uint64_t)pvalue->u.accuracy256 > 150u) {
             rtxErrAddStrParm(ctx, "accuracy256");
             rtxErrAddUIntParm(ctx, pvalue->u.accuracy256);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "accuracy256", -1, "ReferenceTimeDifferenceToCell");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "accuracy256", -1, "ReferenceTimeDifferenceToCell");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.accuracy256, 0, 150);
-         RT_CHECK(ctx, stat, 0, "accuracy256", -1, "ReferenceTimeDifferenceToCell");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.accuracy256, 0, 150);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "accuracy256", -1, "ReferenceTimeDifferenceToCell");
          break;
       case 3:
          if ((uint64_t)pvalue->u.accuracy2560 > 15u) {
             rtxErrAddStrParm(ctx, "accuracy2560");
             rtxErrAddUIntParm(ctx, pvalue->u.accuracy2560);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "accuracy2560", -1, "ReferenceTimeDifferenceToCell");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "accuracy2560", -1, "ReferenceTimeDifferenceToCell");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.accuracy2560, 0, 15);
-         RT_CHECK(ctx, stat, 0, "accuracy2560", -1, "ReferenceTimeDifferenceToCell");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.accuracy2560, 0, 15);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "accuracy2560", -1, "ReferenceTimeDifferenceToCell");
          break;
       default:
          break;
@@ -1326,45 +6356,60 @@ int asn1PE_UMTS_ReferenceTimeDifferenceToCell(rtxContext* RT_RESTRICT ctx, const
    return 0;
 }
 
-int asn1PE_UMTS_PrimaryScramblingCode(rtxContext* RT_RESTRICT ctx, PrimaryScramblingCode value)
+int asn1PE_UMTS_ReferenceTimeDifferenceToCell(rtxContext* RT_RESTRICT ctx, const ReferenceTimeDifferenceToCell* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ReferenceTimeDifferenceToCell, pvalue);
+}
+
+RT_MERGED_BODY int enc_PrimaryScramblingCode(rtxContext* RT_RESTRICT ctx, PrimaryScramblingCode value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)value > 511u) {
       rtxErrAddStrParm(ctx, "PrimaryScramblingCode");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PrimaryScramblingCode");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "PrimaryScramblingCode");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 511);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PrimaryScramblingCode");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 511);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PrimaryScramblingCode");
+   return 0;
+}
+
+int asn1PE_UMTS_PrimaryScramblingCode(rtxContext* RT_RESTRICT ctx, PrimaryScramblingCode value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PrimaryScramblingCode, value);
+}
+
+RT_MERGED_BODY int enc_PrimaryCPICH_Info(rtxContext* RT_RESTRICT ctx, const PrimaryCPICH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PrimaryCPICH-Info");
+   /* primaryScramblingCode */
+   if ((uint64_t)pvalue->primaryScramblingCode > 511u) {
+      rtxErrAddStrParm(ctx, "PrimaryScramblingCode");
+      rtxErrAddUIntParm(ctx, pvalue->primaryScramblingCode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PrimaryScramblingCode", "primaryScramblingCode", -1, "PrimaryCPICH-Info");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->primaryScramblingCode, 0, 511);
+   RT_CHECK_PUT(ctx, cur, stat, "PrimaryScramblingCode", "primaryScramblingCode", -1, "PrimaryCPICH-Info");
    return 0;
 }
 
 int asn1PE_UMTS_PrimaryCPICH_Info(rtxContext* RT_RESTRICT ctx, const PrimaryCPICH_Info* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PrimaryCPICH-Info");
-   /* primaryScramblingCode */
-   if ((uint64_t)pvalue->primaryScramblingCode > 511u) {
-      rtxErrAddStrParm(ctx, "PrimaryScramblingCode");
-      rtxErrAddUIntParm(ctx, pvalue->primaryScramblingCode);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryScramblingCode", "primaryScramblingCode", -1, "PrimaryCPICH-Info");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->primaryScramblingCode, 0, 511);
-   RT_CHECK(ctx, stat, "PrimaryScramblingCode", "primaryScramblingCode", -1, "PrimaryCPICH-Info");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_PrimaryCPICH_Info, pvalue);
 }
 
-int asn1PE_UMTS_CellInfoSI_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellInfoSI_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_CellInfoSI_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellInfoSI_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    /* primaryCPICH-Info */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+      stat = enc_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
       RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
    }
    /* primaryCPICH-TX-Power */
@@ -1372,119 +6417,144 @@ int asn1PE_UMTS_CellInfoSI_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx
       if (pvalue->primaryCPICH_TX_Power < -10 || pvalue->primaryCPICH_TX_Power > 50) {
          rtxErrAddStrParm(ctx, "PrimaryCPICH-TX-Power");
          rtxErrAddIntParm(ctx, pvalue->primaryCPICH_TX_Power);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
       }
-      stat = pe_ConsInt64(ctx, pvalue->primaryCPICH_TX_Power, -10, 50);
-      RT_CHECK(ctx, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
+      stat = pe_ConsInt64At(ctx, cur, pvalue->primaryCPICH_TX_Power, -10, 50);
+      RT_CHECK_PUT(ctx, cur, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
    }
    /* readSFN-Indicator */
-   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
+   stat = rtxEncBitAt(ctx, cur, pvalue->readSFN_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "readSFN-Indicator", -1, 0);
    /* tx-DiversityIndicator */
-   stat = rtxEncBit(ctx, pvalue->tx_DiversityIndicator);
-   RT_CHECK(ctx, stat, 0, "tx-DiversityIndicator", -1, 0);
+   stat = rtxEncBitAt(ctx, cur, pvalue->tx_DiversityIndicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tx-DiversityIndicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellInfoSI_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellInfoSI_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellInfoSI_RSCP_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_BurstType(rtxContext* RT_RESTRICT ctx, BurstType value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "BurstType");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "BurstType");
    return 0;
 }
 
 int asn1PE_UMTS_BurstType(rtxContext* RT_RESTRICT ctx, BurstType value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_BurstType, value);
+}
+
+RT_MERGED_BODY int enc_TimeslotInfo(rtxContext* RT_RESTRICT ctx, const TimeslotInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "BurstType");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TimeslotInfo");
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, "TimeslotInfo");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "BurstType");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslotNumber, 0, 14);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber", "timeslotNumber", -1, "TimeslotInfo");
+   /* burstType */
+   if (pvalue->burstType > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->burstType);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "BurstType", "burstType", -1, "TimeslotInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->burstType, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "BurstType", "burstType", -1, "TimeslotInfo");
    return 0;
 }
 
 int asn1PE_UMTS_TimeslotInfo(rtxContext* RT_RESTRICT ctx, const TimeslotInfo* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TimeslotInfo");
-   /* timeslotNumber */
-   if ((uint64_t)pvalue->timeslotNumber > 14u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber");
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, "TimeslotInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, "TimeslotInfo");
-   /* burstType */
-   if (pvalue->burstType > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->burstType);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "BurstType", "burstType", -1, "TimeslotInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->burstType, 0, 1);
-   RT_CHECK(ctx, stat, "BurstType", "burstType", -1, "TimeslotInfo");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_TimeslotInfo, pvalue);
 }
 
-int asn1PE_UMTS_TimeslotInfoList(rtxContext* RT_RESTRICT ctx, const TimeslotInfoList* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_TimeslotInfoList(rtxContext* RT_RESTRICT ctx, const TimeslotInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TimeslotInfoList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TimeslotInfoList");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 14);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "TimeslotInfoList");
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "TimeslotInfoList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "TimeslotInfo", (int32_t)i, "TimeslotInfoList");
-      stat = asn1PE_UMTS_TimeslotInfo(ctx, (const TimeslotInfo*)node->data);
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "TimeslotInfo", (int32_t)i, "TimeslotInfoList");
+      stat = enc_TimeslotInfo(ctx, (const TimeslotInfo*)node->data, cur);
       RT_CHECK(ctx, stat, 0, "TimeslotInfo", (int32_t)i, "TimeslotInfoList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellInfoSI_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellInfoSI_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_TimeslotInfoList(rtxContext* RT_RESTRICT ctx, const TimeslotInfoList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TimeslotInfoList, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellInfoSI_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellInfoSI_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    /* primaryCCPCH-Info */
-   stat = asn1PE_UMTS_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info);
+   stat = enc_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info, cur);
    RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, 0);
    /* primaryCCPCH-TX-Power */
    if (pvalue->m & 0x1u) {
       if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
          rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
          rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
       }
-      stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->primaryCCPCH_TX_Power, 6, 43);
+      RT_CHECK_PUT(ctx, cur, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
    }
    /* timeslotInfoList */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_TimeslotInfoList(ctx, &pvalue->timeslotInfoList);
+      stat = enc_TimeslotInfoList(ctx, &pvalue->timeslotInfoList, cur);
       RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, 0);
    }
    /* readSFN-Indicator */
-   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
+   stat = rtxEncBitAt(ctx, cur, pvalue->readSFN_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "readSFN-Indicator", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CellInfoSI_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellInfoSI_RSCP_modeSpecificInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CellInfoSI_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellInfoSI_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellInfoSI_RSCP_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellInfoSI_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellInfoSI_RSCP_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_CellInfoSI_RSCP_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_CellInfoSI_RSCP_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
          RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_CellInfoSI_RSCP_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_CellInfoSI_RSCP_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
          RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
@@ -1493,111 +6563,136 @@ int asn1PE_UMTS_CellInfoSI_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, co
    return 0;
 }
 
-int asn1PE_UMTS_Q_OffsetS_N(rtxContext* RT_RESTRICT ctx, Q_OffsetS_N value)
+int asn1PE_UMTS_CellInfoSI_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellInfoSI_RSCP_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellInfoSI_RSCP_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_Q_OffsetS_N(rtxContext* RT_RESTRICT ctx, Q_OffsetS_N value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value < -50 || value > 50) {
       rtxErrAddStrParm(ctx, "Q-OffsetS-N");
       rtxErrAddIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "Q-OffsetS-N");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "Q-OffsetS-N");
    }
-   stat = pe_ConsInt64(ctx, value, -50, 50);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Q-OffsetS-N");
+   stat = pe_ConsInt64At(ctx, cur, value, -50, 50);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Q-OffsetS-N");
    return 0;
 }
 
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_Q_OffsetS_N(rtxContext* RT_RESTRICT ctx, Q_OffsetS_N value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Q_OffsetS_N, value);
+}
+
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    /* q-QualMin */
    if (pvalue->m & 0x1u) {
       if (pvalue->q_QualMin < -24 || pvalue->q_QualMin > 0) {
          rtxErrAddStrParm(ctx, "Q-QualMin");
          rtxErrAddIntParm(ctx, pvalue->q_QualMin);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-QualMin", "q-QualMin", -1, 0);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-QualMin", "q-QualMin", -1, 0);
       }
-      stat = pe_ConsInt64(ctx, pvalue->q_QualMin, -24, 0);
-      RT_CHECK(ctx, stat, "Q-QualMin", "q-QualMin", -1, 0);
+      stat = pe_ConsInt64At(ctx, cur, pvalue->q_QualMin, -24, 0);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-QualMin", "q-QualMin", -1, 0);
    }
    /* q-RxlevMin */
    if (pvalue->m & 0x2u) {
       if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
          rtxErrAddStrParm(ctx, "Q-RxlevMin");
          rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
       }
-      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      stat = pe_ConsInt64At(ctx, cur, pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* q-RxlevMin */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
+         rtxErrAddStrParm(ctx, "Q-RxlevMin");
+         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    /* q-RxlevMin */
    if (pvalue->m & 0x1u) {
       if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
          rtxErrAddStrParm(ctx, "Q-RxlevMin");
          rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
       }
-      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      stat = pe_ConsInt64At(ctx, cur, pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* q-RxlevMin */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
-         rtxErrAddStrParm(ctx, "Q-RxlevMin");
-         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm, pvalue);
 }
 
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
          RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
          RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       case 3:
-         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm", -1, 0);
-         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm(ctx, pvalue->u.gsm);
+         if (pvalue->u.gsm == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "gsm", -1, 0);
+         stat = enc_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo_gsm(ctx, pvalue->u.gsm, cur);
          RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
          break;
       default:
@@ -1606,441 +6701,566 @@ int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo(rtxContext
    return 0;
 }
 
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_RSCP(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_RSCP* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo, pvalue);
+}
+
+static int enc_CellSelectReselectInfoSIB_11_12_RSCP(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellSelectReselectInfoSIB-11-12-RSCP");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellSelectReselectInfoSIB-11-12-RSCP");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->q_OffsetS_N != 0) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->q_OffsetS_N != 0) << 1) |
       ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellSelectReselectInfoSIB-11-12-RSCP");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CellSelectReselectInfoSIB-11-12-RSCP");
    /* q-OffsetS-N */
    if (pvalue->q_OffsetS_N != 0) {
       if (pvalue->q_OffsetS_N < -50 || pvalue->q_OffsetS_N > 50) {
          rtxErrAddStrParm(ctx, "Q-OffsetS-N");
          rtxErrAddIntParm(ctx, pvalue->q_OffsetS_N);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-OffsetS-N", "q-OffsetS-N", -1, "CellSelectReselectInfoSIB-11-12-RSCP");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-OffsetS-N", "q-OffsetS-N", -1, "CellSelectReselectInfoSIB-11-12-RSCP");
       }
-      stat = pe_ConsInt64(ctx, pvalue->q_OffsetS_N, -50, 50);
-      RT_CHECK(ctx, stat, "Q-OffsetS-N", "q-OffsetS-N", -1, "CellSelectReselectInfoSIB-11-12-RSCP");
+      stat = pe_ConsInt64At(ctx, cur, pvalue->q_OffsetS_N, -50, 50);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-OffsetS-N", "q-OffsetS-N", -1, "CellSelectReselectInfoSIB-11-12-RSCP");
    }
    /* maxAllowedUL-TX-Power */
    if (pvalue->m & 0x1u) {
       if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
          rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
          rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12-RSCP");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12-RSCP");
       }
-      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12-RSCP");
+      stat = pe_ConsInt64At(ctx, cur, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK_PUT(ctx, cur, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12-RSCP");
    }
    /* modeSpecificInfo */
-   stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   stat = enc_CellSelectReselectInfoSIB_11_12_RSCP_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
    RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellSelectReselectInfoSIB-11-12-RSCP");
    return 0;
 }
 
-int asn1PE_UMTS_CellInfoSI_RSCP(rtxContext* RT_RESTRICT ctx, const CellInfoSI_RSCP* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_RSCP(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_RSCP* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellSelectReselectInfoSIB_11_12_RSCP, pvalue);
+}
+
+static int enc_CellInfoSI_RSCP(rtxContext* RT_RESTRICT ctx, const CellInfoSI_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellInfoSI-RSCP");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellInfoSI-RSCP");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->cellIndividualOffset != 0) << 2) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->cellIndividualOffset != 0) << 2) |
       ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellInfoSI-RSCP");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CellInfoSI-RSCP");
    /* cellIndividualOffset */
    if (pvalue->cellIndividualOffset != 0) {
       if (pvalue->cellIndividualOffset < -20 || pvalue->cellIndividualOffset > 20) {
          rtxErrAddStrParm(ctx, "CellIndividualOffset");
          rtxErrAddIntParm(ctx, pvalue->cellIndividualOffset);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-RSCP");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-RSCP");
       }
-      stat = pe_ConsInt64(ctx, pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-RSCP");
+      stat = pe_ConsInt64At(ctx, cur, pvalue->cellIndividualOffset, -20, 20);
+      RT_CHECK_PUT(ctx, cur, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-RSCP");
    }
    /* referenceTimeDifferenceToCell */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
+      stat = enc_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell, cur);
       RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-RSCP");
    }
    /* modeSpecificInfo */
-   stat = asn1PE_UMTS_CellInfoSI_RSCP_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   stat = enc_CellInfoSI_RSCP_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
    RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellInfoSI-RSCP");
    /* cellSelectionReselectionInfo */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_RSCP(ctx, &pvalue->cellSelectionReselectionInfo);
+      stat = enc_CellSelectReselectInfoSIB_11_12_RSCP(ctx, &pvalue->cellSelectionReselectionInfo, cur);
       RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-RSCP");
    }
    return 0;
 }
 
-int asn1PE_UMTS_NewIntraFreqCellSI_RSCP(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_RSCP* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CellInfoSI_RSCP(rtxContext* RT_RESTRICT ctx, const CellInfoSI_RSCP* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellInfoSI_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewIntraFreqCellSI_RSCP(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-RSCP");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-RSCP");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-RSCP");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCellSI-RSCP");
    /* intraFreqCellID */
    if (pvalue->m & 0x1u) {
       if ((uint64_t)pvalue->intraFreqCellID > 31u) {
          rtxErrAddStrParm(ctx, "IntraFreqCellID");
          rtxErrAddUIntParm(ctx, pvalue->intraFreqCellID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-RSCP");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-RSCP");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-RSCP");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->intraFreqCellID, 0, 31);
+      RT_CHECK_PUT(ctx, cur, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-RSCP");
    }
    /* cellInfo */
-   stat = asn1PE_UMTS_CellInfoSI_RSCP(ctx, &pvalue->cellInfo);
+   stat = enc_CellInfoSI_RSCP(ctx, &pvalue->cellInfo, cur);
    RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-RSCP");
    return 0;
 }
 
-int asn1PE_UMTS_NewIntraFreqCellSI_List_RSCP(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_List_RSCP* RT_RESTRICT pvalue)
+int asn1PE_UMTS_NewIntraFreqCellSI_RSCP(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_RSCP* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewIntraFreqCellSI_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewIntraFreqCellSI_List_RSCP(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_List_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-List-RSCP");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-List-RSCP");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-List-RSCP");
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCellSI-List-RSCP");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewIntraFreqCellSI-RSCP", (int32_t)i, "NewIntraFreqCellSI-List-RSCP");
-      stat = asn1PE_UMTS_NewIntraFreqCellSI_RSCP(ctx, (const NewIntraFreqCellSI_RSCP*)node->data);
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "NewIntraFreqCellSI-RSCP", (int32_t)i, "NewIntraFreqCellSI-List-RSCP");
+      stat = enc_NewIntraFreqCellSI_RSCP(ctx, (const NewIntraFreqCellSI_RSCP*)node->data, cur);
       RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-RSCP", (int32_t)i, "NewIntraFreqCellSI-List-RSCP");
    }
    return 0;
 }
 
-int asn1PE_UMTS_IntraFreqCellInfoSI_List_RSCP(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoSI_List_RSCP* RT_RESTRICT pvalue)
+int asn1PE_UMTS_NewIntraFreqCellSI_List_RSCP(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_List_RSCP* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewIntraFreqCellSI_List_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFreqCellInfoSI_List_RSCP(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoSI_List_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqCellInfoSI-List-RSCP");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqCellInfoSI-List-RSCP");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-RSCP");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-RSCP");
    /* removedIntraFreqCellList */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
+      stat = enc_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList, cur);
       RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-RSCP");
    }
    /* newIntraFreqCellList */
-   stat = asn1PE_UMTS_NewIntraFreqCellSI_List_RSCP(ctx, &pvalue->newIntraFreqCellList);
+   stat = enc_NewIntraFreqCellSI_List_RSCP(ctx, &pvalue->newIntraFreqCellList, cur);
    RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-RSCP");
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqCellInfoSI_List_RSCP(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoSI_List_RSCP* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqCellInfoSI_List_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int enc_FilterCoefficient(rtxContext* RT_RESTRICT ctx, FilterCoefficient value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "FilterCoefficient");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "FilterCoefficient");
    return 0;
 }
 
 int asn1PE_UMTS_FilterCoefficient(rtxContext* RT_RESTRICT ctx, FilterCoefficient value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_FilterCoefficient, value);
+}
+
+RT_MERGED_BODY int enc_IntraFreqMeasQuantity_FDD(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_FDD value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 15) {
+   if (value > 3) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "FilterCoefficient");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "IntraFreqMeasQuantity-FDD");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "FilterCoefficient");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqMeasQuantity-FDD");
    return 0;
 }
 
 int asn1PE_UMTS_IntraFreqMeasQuantity_FDD(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_FDD value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqMeasQuantity_FDD, value);
+}
+
+RT_MERGED_BODY int enc_IntraFreqMeasQuantity_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasQuantity_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "IntraFreqMeasQuantity-FDD");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* intraFreqMeasQuantity-FDD */
+   if (pvalue->intraFreqMeasQuantity_FDD > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->intraFreqMeasQuantity_FDD);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "IntraFreqMeasQuantity-FDD", "intraFreqMeasQuantity-FDD", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasQuantity-FDD");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->intraFreqMeasQuantity_FDD, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "IntraFreqMeasQuantity-FDD", "intraFreqMeasQuantity-FDD", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_IntraFreqMeasQuantity_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasQuantity_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqMeasQuantity_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFreqMeasQuantity_TDD(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_TDD value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* intraFreqMeasQuantity-FDD */
-   if (pvalue->intraFreqMeasQuantity_FDD > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->intraFreqMeasQuantity_FDD);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "IntraFreqMeasQuantity-FDD", "intraFreqMeasQuantity-FDD", -1, 0);
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "IntraFreqMeasQuantity-TDD");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->intraFreqMeasQuantity_FDD, 0, 3);
-   RT_CHECK(ctx, stat, "IntraFreqMeasQuantity-FDD", "intraFreqMeasQuantity-FDD", -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqMeasQuantity-TDD");
    return 0;
 }
 
 int asn1PE_UMTS_IntraFreqMeasQuantity_TDD(rtxContext* RT_RESTRICT ctx, IntraFreqMeasQuantity_TDD value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqMeasQuantity_TDD, value);
+}
+
+RT_MERGED_BODY int enc_IntraFreqMeasQuantity_TDDList(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasQuantity_TDDList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "IntraFreqMeasQuantity-TDD");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqMeasQuantity-TDDList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqMeasQuantity-TDDList");
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "IntraFreqMeasQuantity-TDD", "IntraFreqMeasQuantity-TDD", (int32_t)i, "IntraFreqMeasQuantity-TDDList");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 3);
+      RT_CHECK_PUT(ctx, cur, stat, "IntraFreqMeasQuantity-TDD", "IntraFreqMeasQuantity-TDD", (int32_t)i, "IntraFreqMeasQuantity-TDDList");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasQuantity-TDD");
    return 0;
 }
 
 int asn1PE_UMTS_IntraFreqMeasQuantity_TDDList(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasQuantity_TDDList* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqMeasQuantity_TDDList, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFreqMeasQuantity_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasQuantity_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqMeasQuantity-TDDList");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "IntraFreqMeasQuantity-TDDList");
-   for (i = 0; i < pvalue->n; i++) {
-      if (pvalue->elem[i] > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "IntraFreqMeasQuantity-TDD", "IntraFreqMeasQuantity-TDD", (int32_t)i, "IntraFreqMeasQuantity-TDDList");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 3);
-      RT_CHECK(ctx, stat, "IntraFreqMeasQuantity-TDD", "IntraFreqMeasQuantity-TDD", (int32_t)i, "IntraFreqMeasQuantity-TDDList");
-   }
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* intraFreqMeasQuantity-TDDList */
+   stat = enc_IntraFreqMeasQuantity_TDDList(ctx, &pvalue->intraFreqMeasQuantity_TDDList, cur);
+   RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity-TDDList", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_IntraFreqMeasQuantity_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasQuantity_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqMeasQuantity_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFreqMeasQuantity_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasQuantity_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* intraFreqMeasQuantity-TDDList */
-   stat = asn1PE_UMTS_IntraFreqMeasQuantity_TDDList(ctx, &pvalue->intraFreqMeasQuantity_TDDList);
-   RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity-TDDList", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_IntraFreqMeasQuantity_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_IntraFreqMeasQuantity_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
    return 0;
 }
 
 int asn1PE_UMTS_IntraFreqMeasQuantity_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasQuantity_modeSpecificInfo* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqMeasQuantity_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFreqMeasQuantity(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasQuantity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_IntraFreqMeasQuantity_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_IntraFreqMeasQuantity_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqMeasQuantity");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->filterCoefficient != 0) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqMeasQuantity");
+   /* filterCoefficient */
+   if (pvalue->filterCoefficient != 0) {
+      if (pvalue->filterCoefficient > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->filterCoefficient);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "FilterCoefficient", "filterCoefficient", -1, "IntraFreqMeasQuantity");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->filterCoefficient, 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "FilterCoefficient", "filterCoefficient", -1, "IntraFreqMeasQuantity");
    }
+   /* modeSpecificInfo */
+   stat = enc_IntraFreqMeasQuantity_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "IntraFreqMeasQuantity");
    return 0;
 }
 
 int asn1PE_UMTS_IntraFreqMeasQuantity(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasQuantity* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqMeasQuantity, pvalue);
+}
+
+RT_MERGED_BODY int enc_SFN_SFN_OTD_Type(rtxContext* RT_RESTRICT ctx, SFN_SFN_OTD_Type value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqMeasQuantity");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->filterCoefficient != 0) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasQuantity");
-   /* filterCoefficient */
-   if (pvalue->filterCoefficient != 0) {
-      if (pvalue->filterCoefficient > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->filterCoefficient);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "FilterCoefficient", "filterCoefficient", -1, "IntraFreqMeasQuantity");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->filterCoefficient, 0, 15);
-      RT_CHECK(ctx, stat, "FilterCoefficient", "filterCoefficient", -1, "IntraFreqMeasQuantity");
+   if (value > 2) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "SFN-SFN-OTD-Type");
    }
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_IntraFreqMeasQuantity_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "IntraFreqMeasQuantity");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SFN-SFN-OTD-Type");
    return 0;
 }
 
 int asn1PE_UMTS_SFN_SFN_OTD_Type(rtxContext* RT_RESTRICT ctx, SFN_SFN_OTD_Type value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_SFN_SFN_OTD_Type, value);
+}
+
+RT_MERGED_BODY int enc_IntraFreqRepQuantityRACH_FDD(rtxContext* RT_RESTRICT ctx, IntraFreqRepQuantityRACH_FDD value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 2) {
+   if (value > 3) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SFN-SFN-OTD-Type");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "IntraFreqRepQuantityRACH-FDD");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SFN-SFN-OTD-Type");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqRepQuantityRACH-FDD");
    return 0;
 }
 
 int asn1PE_UMTS_IntraFreqRepQuantityRACH_FDD(rtxContext* RT_RESTRICT ctx, IntraFreqRepQuantityRACH_FDD value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqRepQuantityRACH_FDD, value);
+}
+
+RT_MERGED_BODY int enc_IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "IntraFreqRepQuantityRACH-FDD");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* intraFreqRepQuantityRACH-FDD */
+   if (pvalue->intraFreqRepQuantityRACH_FDD > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->intraFreqRepQuantityRACH_FDD);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "IntraFreqRepQuantityRACH-FDD", "intraFreqRepQuantityRACH-FDD", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqRepQuantityRACH-FDD");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->intraFreqRepQuantityRACH_FDD, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "IntraFreqRepQuantityRACH-FDD", "intraFreqRepQuantityRACH-FDD", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFreqRepQuantityRACH_TDD(rtxContext* RT_RESTRICT ctx, IntraFreqRepQuantityRACH_TDD value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* intraFreqRepQuantityRACH-FDD */
-   if (pvalue->intraFreqRepQuantityRACH_FDD > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->intraFreqRepQuantityRACH_FDD);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "IntraFreqRepQuantityRACH-FDD", "intraFreqRepQuantityRACH-FDD", -1, 0);
+   if (value > 2) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "IntraFreqRepQuantityRACH-TDD");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->intraFreqRepQuantityRACH_FDD, 0, 3);
-   RT_CHECK(ctx, stat, "IntraFreqRepQuantityRACH-FDD", "intraFreqRepQuantityRACH-FDD", -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqRepQuantityRACH-TDD");
    return 0;
 }
 
 int asn1PE_UMTS_IntraFreqRepQuantityRACH_TDD(rtxContext* RT_RESTRICT ctx, IntraFreqRepQuantityRACH_TDD value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqRepQuantityRACH_TDD, value);
+}
+
+RT_MERGED_BODY int enc_IntraFreqRepQuantityRACH_TDDList(rtxContext* RT_RESTRICT ctx, const IntraFreqRepQuantityRACH_TDDList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 2) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "IntraFreqRepQuantityRACH-TDD");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqRepQuantityRACH-TDDList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 2);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqRepQuantityRACH-TDDList");
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 2) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "IntraFreqRepQuantityRACH-TDD", "IntraFreqRepQuantityRACH-TDD", (int32_t)i, "IntraFreqRepQuantityRACH-TDDList");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 2);
+      RT_CHECK_PUT(ctx, cur, stat, "IntraFreqRepQuantityRACH-TDD", "IntraFreqRepQuantityRACH-TDD", (int32_t)i, "IntraFreqRepQuantityRACH-TDDList");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqRepQuantityRACH-TDD");
    return 0;
 }
 
 int asn1PE_UMTS_IntraFreqRepQuantityRACH_TDDList(rtxContext* RT_RESTRICT ctx, const IntraFreqRepQuantityRACH_TDDList* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqRepQuantityRACH_TDDList, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqRepQuantityRACH-TDDList");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 2);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "IntraFreqRepQuantityRACH-TDDList");
-   for (i = 0; i < pvalue->n; i++) {
-      if (pvalue->elem[i] > 2) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "IntraFreqRepQuantityRACH-TDD", "IntraFreqRepQuantityRACH-TDD", (int32_t)i, "IntraFreqRepQuantityRACH-TDDList");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 2);
-      RT_CHECK(ctx, stat, "IntraFreqRepQuantityRACH-TDD", "IntraFreqRepQuantityRACH-TDD", (int32_t)i, "IntraFreqRepQuantityRACH-TDDList");
-   }
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* intraFreqRepQuantityRACH-TDDList */
+   stat = enc_IntraFreqRepQuantityRACH_TDDList(ctx, &pvalue->intraFreqRepQuantityRACH_TDDList, cur);
+   RT_CHECK(ctx, stat, 0, "intraFreqRepQuantityRACH-TDDList", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFreqReportingQuantityForRACH_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingQuantityForRACH_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* intraFreqRepQuantityRACH-TDDList */
-   stat = asn1PE_UMTS_IntraFreqRepQuantityRACH_TDDList(ctx, &pvalue->intraFreqRepQuantityRACH_TDDList);
-   RT_CHECK(ctx, stat, 0, "intraFreqRepQuantityRACH-TDDList", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
    return 0;
 }
 
 int asn1PE_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingQuantityForRACH_modeSpecificInfo* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqReportingQuantityForRACH_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFreqReportingQuantityForRACH(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingQuantityForRACH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqReportingQuantityForRACH");
+   /* sfn-SFN-OTD-Type */
+   if (pvalue->sfn_SFN_OTD_Type > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->sfn_SFN_OTD_Type);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "SFN-SFN-OTD-Type", "sfn-SFN-OTD-Type", -1, "IntraFreqReportingQuantityForRACH");
    }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->sfn_SFN_OTD_Type, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, "SFN-SFN-OTD-Type", "sfn-SFN-OTD-Type", -1, "IntraFreqReportingQuantityForRACH");
+   /* modeSpecificInfo */
+   stat = enc_IntraFreqReportingQuantityForRACH_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "IntraFreqReportingQuantityForRACH");
    return 0;
 }
 
 int asn1PE_UMTS_IntraFreqReportingQuantityForRACH(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingQuantityForRACH* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqReportingQuantityForRACH, pvalue);
+}
+
+RT_MERGED_BODY int enc_MaxReportedCellsOnRACH(rtxContext* RT_RESTRICT ctx, MaxReportedCellsOnRACH value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqReportingQuantityForRACH");
-   /* sfn-SFN-OTD-Type */
-   if (pvalue->sfn_SFN_OTD_Type > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->sfn_SFN_OTD_Type);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "SFN-SFN-OTD-Type", "sfn-SFN-OTD-Type", -1, "IntraFreqReportingQuantityForRACH");
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MaxReportedCellsOnRACH");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->sfn_SFN_OTD_Type, 0, 2);
-   RT_CHECK(ctx, stat, "SFN-SFN-OTD-Type", "sfn-SFN-OTD-Type", -1, "IntraFreqReportingQuantityForRACH");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_IntraFreqReportingQuantityForRACH_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "IntraFreqReportingQuantityForRACH");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaxReportedCellsOnRACH");
    return 0;
 }
 
 int asn1PE_UMTS_MaxReportedCellsOnRACH(rtxContext* RT_RESTRICT ctx, MaxReportedCellsOnRACH value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_MaxReportedCellsOnRACH, value);
+}
+
+RT_MERGED_BODY int enc_CellReportingQuantities_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellReportingQuantities_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxReportedCellsOnRACH");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxReportedCellsOnRACH");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* cpich-Ec-N0-reportingIndicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->cpich_Ec_N0_reportingIndicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "cpich-Ec-N0-reportingIndicator", -1, 0);
+   /* cpich-RSCP-reportingIndicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->cpich_RSCP_reportingIndicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "cpich-RSCP-reportingIndicator", -1, 0);
+   /* pathloss-reportingIndicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->pathloss_reportingIndicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "pathloss-reportingIndicator", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_CellReportingQuantities_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellReportingQuantities_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_CellReportingQuantities_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellReportingQuantities_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellReportingQuantities_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* cpich-Ec-N0-reportingIndicator */
-   stat = rtxEncBit(ctx, pvalue->cpich_Ec_N0_reportingIndicator);
-   RT_CHECK(ctx, stat, 0, "cpich-Ec-N0-reportingIndicator", -1, 0);
-   /* cpich-RSCP-reportingIndicator */
-   stat = rtxEncBit(ctx, pvalue->cpich_RSCP_reportingIndicator);
-   RT_CHECK(ctx, stat, 0, "cpich-RSCP-reportingIndicator", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* timeslotISCP-reportingIndicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->timeslotISCP_reportingIndicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "timeslotISCP-reportingIndicator", -1, 0);
+   /* proposedTGSN-ReportingRequired */
+   stat = rtxEncBitAt(ctx, cur, pvalue->proposedTGSN_ReportingRequired);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "proposedTGSN-ReportingRequired", -1, 0);
+   /* primaryCCPCH-RSCP-reportingIndicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->primaryCCPCH_RSCP_reportingIndicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "primaryCCPCH-RSCP-reportingIndicator", -1, 0);
    /* pathloss-reportingIndicator */
-   stat = rtxEncBit(ctx, pvalue->pathloss_reportingIndicator);
-   RT_CHECK(ctx, stat, 0, "pathloss-reportingIndicator", -1, 0);
+   stat = rtxEncBitAt(ctx, cur, pvalue->pathloss_reportingIndicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "pathloss-reportingIndicator", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_CellReportingQuantities_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellReportingQuantities_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* timeslotISCP-reportingIndicator */
-   stat = rtxEncBit(ctx, pvalue->timeslotISCP_reportingIndicator);
-   RT_CHECK(ctx, stat, 0, "timeslotISCP-reportingIndicator", -1, 0);
-   /* proposedTGSN-ReportingRequired */
-   stat = rtxEncBit(ctx, pvalue->proposedTGSN_ReportingRequired);
-   RT_CHECK(ctx, stat, 0, "proposedTGSN-ReportingRequired", -1, 0);
-   /* primaryCCPCH-RSCP-reportingIndicator */
-   stat = rtxEncBit(ctx, pvalue->primaryCCPCH_RSCP_reportingIndicator);
-   RT_CHECK(ctx, stat, 0, "primaryCCPCH-RSCP-reportingIndicator", -1, 0);
-   /* pathloss-reportingIndicator */
-   stat = rtxEncBit(ctx, pvalue->pathloss_reportingIndicator);
-   RT_CHECK(ctx, stat, 0, "pathloss-reportingIndicator", -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_CellReportingQuantities_modeSpecificInfo_tdd, pvalue);
 }
 
-int asn1PE_UMTS_CellReportingQuantities_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellReportingQuantities_modeSpecificInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_CellReportingQuantities_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellReportingQuantities_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_CellReportingQuantities_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_CellReportingQuantities_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
          RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_CellReportingQuantities_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_CellReportingQuantities_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
          RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
@@ -2049,136 +7269,176 @@ int asn1PE_UMTS_CellReportingQuantities_modeSpecificInfo(rtxContext* RT_RESTRICT
    return 0;
 }
 
-int asn1PE_UMTS_CellReportingQuantities(rtxContext* RT_RESTRICT ctx, const CellReportingQuantities* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CellReportingQuantities_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellReportingQuantities_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellReportingQuantities_modeSpecificInfo, pvalue);
+}
+
+static int enc_CellReportingQuantities(rtxContext* RT_RESTRICT ctx, const CellReportingQuantities* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellReportingQuantities");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellReportingQuantities");
    /* dummy */
    if (pvalue->dummy > 2) {
       rtxErrAddUIntParm(ctx, pvalue->dummy);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "SFN-SFN-OTD-Type", "dummy", -1, "CellReportingQuantities");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "SFN-SFN-OTD-Type", "dummy", -1, "CellReportingQuantities");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->dummy, 0, 2);
-   RT_CHECK(ctx, stat, "SFN-SFN-OTD-Type", "dummy", -1, "CellReportingQuantities");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dummy, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, "SFN-SFN-OTD-Type", "dummy", -1, "CellReportingQuantities");
    /* cellIdentity-reportingIndicator */
-   stat = rtxEncBit(ctx, pvalue->cellIdentity_reportingIndicator);
-   RT_CHECK(ctx, stat, 0, "cellIdentity-reportingIndicator", -1, "CellReportingQuantities");
+   stat = rtxEncBitAt(ctx, cur, pvalue->cellIdentity_reportingIndicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "cellIdentity-reportingIndicator", -1, "CellReportingQuantities");
    /* cellSynchronisationInfoReportingIndicator */
-   stat = rtxEncBit(ctx, pvalue->cellSynchronisationInfoReportingIndicator);
-   RT_CHECK(ctx, stat, 0, "cellSynchronisationInfoReportingIndicator", -1, "CellReportingQuantities");
+   stat = rtxEncBitAt(ctx, cur, pvalue->cellSynchronisationInfoReportingIndicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "cellSynchronisationInfoReportingIndicator", -1, "CellReportingQuantities");
    /* modeSpecificInfo */
-   stat = asn1PE_UMTS_CellReportingQuantities_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   stat = enc_CellReportingQuantities_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
    RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellReportingQuantities");
    return 0;
 }
 
-int asn1PE_UMTS_IntraFreqReportingQuantity(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingQuantity* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CellReportingQuantities(rtxContext* RT_RESTRICT ctx, const CellReportingQuantities* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellReportingQuantities, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFreqReportingQuantity(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingQuantity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqReportingQuantity");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqReportingQuantity");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqReportingQuantity");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqReportingQuantity");
    /* activeSetReportingQuantities */
-   stat = asn1PE_UMTS_CellReportingQuantities(ctx, &pvalue->activeSetReportingQuantities);
+   stat = enc_CellReportingQuantities(ctx, &pvalue->activeSetReportingQuantities, cur);
    RT_CHECK(ctx, stat, 0, "activeSetReportingQuantities", -1, "IntraFreqReportingQuantity");
    /* monitoredSetReportingQuantities */
-   stat = asn1PE_UMTS_CellReportingQuantities(ctx, &pvalue->monitoredSetReportingQuantities);
+   stat = enc_CellReportingQuantities(ctx, &pvalue->monitoredSetReportingQuantities, cur);
    RT_CHECK(ctx, stat, 0, "monitoredSetReportingQuantities", -1, "IntraFreqReportingQuantity");
    /* detectedSetReportingQuantities */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellReportingQuantities(ctx, &pvalue->detectedSetReportingQuantities);
+      stat = enc_CellReportingQuantities(ctx, &pvalue->detectedSetReportingQuantities, cur);
       RT_CHECK(ctx, stat, 0, "detectedSetReportingQuantities", -1, "IntraFreqReportingQuantity");
    }
    return 0;
 }
 
-int asn1PE_UMTS_TransferMode(rtxContext* RT_RESTRICT ctx, TransferMode value)
+int asn1PE_UMTS_IntraFreqReportingQuantity(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingQuantity* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqReportingQuantity, pvalue);
+}
+
+RT_MERGED_BODY int enc_TransferMode(rtxContext* RT_RESTRICT ctx, TransferMode value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TransferMode");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TransferMode");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TransferMode");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TransferMode");
+   return 0;
+}
+
+int asn1PE_UMTS_TransferMode(rtxContext* RT_RESTRICT ctx, TransferMode value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TransferMode, value);
+}
+
+RT_MERGED_BODY int enc_PeriodicalOrEventTrigger(rtxContext* RT_RESTRICT ctx, PeriodicalOrEventTrigger value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "PeriodicalOrEventTrigger");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PeriodicalOrEventTrigger");
    return 0;
 }
 
 int asn1PE_UMTS_PeriodicalOrEventTrigger(rtxContext* RT_RESTRICT ctx, PeriodicalOrEventTrigger value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_PeriodicalOrEventTrigger, value);
+}
+
+RT_MERGED_BODY int enc_MeasurementReportingMode(rtxContext* RT_RESTRICT ctx, const MeasurementReportingMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "PeriodicalOrEventTrigger");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementReportingMode");
+   /* measurementReportTransferMode */
+   if (pvalue->measurementReportTransferMode > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->measurementReportTransferMode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TransferMode", "measurementReportTransferMode", -1, "MeasurementReportingMode");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PeriodicalOrEventTrigger");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->measurementReportTransferMode, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "TransferMode", "measurementReportTransferMode", -1, "MeasurementReportingMode");
+   /* periodicalOrEventTrigger */
+   if (pvalue->periodicalOrEventTrigger > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->periodicalOrEventTrigger);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PeriodicalOrEventTrigger", "periodicalOrEventTrigger", -1, "MeasurementReportingMode");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->periodicalOrEventTrigger, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "PeriodicalOrEventTrigger", "periodicalOrEventTrigger", -1, "MeasurementReportingMode");
    return 0;
 }
 
 int asn1PE_UMTS_MeasurementReportingMode(rtxContext* RT_RESTRICT ctx, const MeasurementReportingMode* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementReportingMode, pvalue);
+}
+
+RT_MERGED_BODY int enc_TriggeringCondition2(rtxContext* RT_RESTRICT ctx, TriggeringCondition2 value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementReportingMode");
-   /* measurementReportTransferMode */
-   if (pvalue->measurementReportTransferMode > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->measurementReportTransferMode);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TransferMode", "measurementReportTransferMode", -1, "MeasurementReportingMode");
+   if (value > 4) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TriggeringCondition2");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->measurementReportTransferMode, 0, 1);
-   RT_CHECK(ctx, stat, "TransferMode", "measurementReportTransferMode", -1, "MeasurementReportingMode");
-   /* periodicalOrEventTrigger */
-   if (pvalue->periodicalOrEventTrigger > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->periodicalOrEventTrigger);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PeriodicalOrEventTrigger", "periodicalOrEventTrigger", -1, "MeasurementReportingMode");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->periodicalOrEventTrigger, 0, 1);
-   RT_CHECK(ctx, stat, "PeriodicalOrEventTrigger", "periodicalOrEventTrigger", -1, "MeasurementReportingMode");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TriggeringCondition2");
    return 0;
 }
 
 int asn1PE_UMTS_TriggeringCondition2(rtxContext* RT_RESTRICT ctx, TriggeringCondition2 value)
 {
-   int stat = 0;
-   if (value > 4) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TriggeringCondition2");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TriggeringCondition2");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_TriggeringCondition2, value);
 }
 
-int asn1PE_UMTS_ReportingRange(rtxContext* RT_RESTRICT ctx, ReportingRange value)
+RT_MERGED_BODY int enc_ReportingRange(rtxContext* RT_RESTRICT ctx, ReportingRange value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)value > 29u) {
       rtxErrAddStrParm(ctx, "ReportingRange");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "ReportingRange");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "ReportingRange");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 29);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ReportingRange");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 29);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ReportingRange");
    return 0;
 }
 
-int asn1PE_UMTS_ForbiddenAffectCell(rtxContext* RT_RESTRICT ctx, const ForbiddenAffectCell* RT_RESTRICT pvalue)
+int asn1PE_UMTS_ReportingRange(rtxContext* RT_RESTRICT ctx, ReportingRange value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ReportingRange, value);
+}
+
+RT_MERGED_BODY int enc_ForbiddenAffectCell(rtxContext* RT_RESTRICT ctx, const ForbiddenAffectCell* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ForbiddenAffectCell");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "ForbiddenAffectCell");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ForbiddenAffectCell");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ForbiddenAffectCell");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "ForbiddenAffectCell");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "ForbiddenAffectCell");
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, "ForbiddenAffectCell");
-         stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, pvalue->u.fdd);
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, "ForbiddenAffectCell");
+         stat = enc_PrimaryCPICH_Info(ctx, pvalue->u.fdd, cur);
          RT_CHECK(ctx, stat, 0, "fdd", -1, "ForbiddenAffectCell");
          break;
       case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, "ForbiddenAffectCell");
-         stat = asn1PE_UMTS_PrimaryCCPCH_Info(ctx, pvalue->u.tdd);
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, "ForbiddenAffectCell");
+         stat = enc_PrimaryCCPCH_Info(ctx, pvalue->u.tdd, cur);
          RT_CHECK(ctx, stat, 0, "tdd", -1, "ForbiddenAffectCell");
          break;
       default:
@@ -2187,311 +7447,381 @@ int asn1PE_UMTS_ForbiddenAffectCell(rtxContext* RT_RESTRICT ctx, const Forbidden
    return 0;
 }
 
-int asn1PE_UMTS_ForbiddenAffectCellList(rtxContext* RT_RESTRICT ctx, const ForbiddenAffectCellList* RT_RESTRICT pvalue)
+int asn1PE_UMTS_ForbiddenAffectCell(rtxContext* RT_RESTRICT ctx, const ForbiddenAffectCell* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ForbiddenAffectCell, pvalue);
+}
+
+static int enc_ForbiddenAffectCellList(rtxContext* RT_RESTRICT ctx, const ForbiddenAffectCellList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ForbiddenAffectCellList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ForbiddenAffectCellList");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "ForbiddenAffectCellList");
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "ForbiddenAffectCellList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ForbiddenAffectCell", (int32_t)i, "ForbiddenAffectCellList");
-      stat = asn1PE_UMTS_ForbiddenAffectCell(ctx, (const ForbiddenAffectCell*)node->data);
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ForbiddenAffectCell", (int32_t)i, "ForbiddenAffectCellList");
+      stat = enc_ForbiddenAffectCell(ctx, (const ForbiddenAffectCell*)node->data, cur);
       RT_CHECK(ctx, stat, 0, "ForbiddenAffectCell", (int32_t)i, "ForbiddenAffectCellList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_W(rtxContext* RT_RESTRICT ctx, W value)
+int asn1PE_UMTS_ForbiddenAffectCellList(rtxContext* RT_RESTRICT ctx, const ForbiddenAffectCellList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ForbiddenAffectCellList, pvalue);
+}
+
+RT_MERGED_BODY int enc_W(rtxContext* RT_RESTRICT ctx, W value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)value > 20u) {
       rtxErrAddStrParm(ctx, "W");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "W");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "W");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 20);
-   RT_CHECK(ctx, stat, 0, 0, -1, "W");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 20);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "W");
+   return 0;
+}
+
+int asn1PE_UMTS_W(rtxContext* RT_RESTRICT ctx, W value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_W, value);
+}
+
+RT_MERGED_BODY int enc_ReportDeactivationThreshold(rtxContext* RT_RESTRICT ctx, ReportDeactivationThreshold value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "ReportDeactivationThreshold");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ReportDeactivationThreshold");
    return 0;
 }
 
 int asn1PE_UMTS_ReportDeactivationThreshold(rtxContext* RT_RESTRICT ctx, ReportDeactivationThreshold value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_ReportDeactivationThreshold, value);
+}
+
+RT_MERGED_BODY int enc_ReportingAmount(rtxContext* RT_RESTRICT ctx, ReportingAmount value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ReportDeactivationThreshold");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "ReportingAmount");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ReportDeactivationThreshold");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ReportingAmount");
    return 0;
 }
 
 int asn1PE_UMTS_ReportingAmount(rtxContext* RT_RESTRICT ctx, ReportingAmount value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_ReportingAmount, value);
+}
+
+RT_MERGED_BODY int enc_ReportingInterval(rtxContext* RT_RESTRICT ctx, ReportingInterval value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ReportingAmount");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "ReportingInterval");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ReportingAmount");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ReportingInterval");
    return 0;
 }
 
 int asn1PE_UMTS_ReportingInterval(rtxContext* RT_RESTRICT ctx, ReportingInterval value)
 {
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ReportingInterval");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ReportingInterval");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_ReportingInterval, value);
 }
 
-int asn1PE_UMTS_Event1a(rtxContext* RT_RESTRICT ctx, const Event1a* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_Event1a(rtxContext* RT_RESTRICT ctx, const Event1a* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event1a");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Event1a");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event1a");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Event1a");
    /* triggeringCondition */
    if (pvalue->triggeringCondition > 4) {
       rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TriggeringCondition2", "triggeringCondition", -1, "Event1a");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TriggeringCondition2", "triggeringCondition", -1, "Event1a");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 4);
-   RT_CHECK(ctx, stat, "TriggeringCondition2", "triggeringCondition", -1, "Event1a");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->triggeringCondition, 0, 4);
+   RT_CHECK_PUT(ctx, cur, stat, "TriggeringCondition2", "triggeringCondition", -1, "Event1a");
    /* reportingRange */
    if ((uint64_t)pvalue->reportingRange > 29u) {
       rtxErrAddStrParm(ctx, "ReportingRange");
       rtxErrAddUIntParm(ctx, pvalue->reportingRange);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "ReportingRange", "reportingRange", -1, "Event1a");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ReportingRange", "reportingRange", -1, "Event1a");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingRange, 0, 29);
-   RT_CHECK(ctx, stat, "ReportingRange", "reportingRange", -1, "Event1a");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->reportingRange, 0, 29);
+   RT_CHECK_PUT(ctx, cur, stat, "ReportingRange", "reportingRange", -1, "Event1a");
    /* forbiddenAffectCellList */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ForbiddenAffectCellList(ctx, &pvalue->forbiddenAffectCellList);
+      stat = enc_ForbiddenAffectCellList(ctx, &pvalue->forbiddenAffectCellList, cur);
       RT_CHECK(ctx, stat, 0, "forbiddenAffectCellList", -1, "Event1a");
    }
    /* w */
    if ((uint64_t)pvalue->w > 20u) {
       rtxErrAddStrParm(ctx, "W");
       rtxErrAddUIntParm(ctx, pvalue->w);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "w", -1, "Event1a");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "W", "w", -1, "Event1a");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->w, 0, 20);
-   RT_CHECK(ctx, stat, "W", "w", -1, "Event1a");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->w, 0, 20);
+   RT_CHECK_PUT(ctx, cur, stat, "W", "w", -1, "Event1a");
    /* reportDeactivationThreshold */
    if (pvalue->reportDeactivationThreshold > 7) {
       rtxErrAddUIntParm(ctx, pvalue->reportDeactivationThreshold);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportDeactivationThreshold", "reportDeactivationThreshold", -1, "Event1a");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ReportDeactivationThreshold", "reportDeactivationThreshold", -1, "Event1a");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->reportDeactivationThreshold, 0, 7);
-   RT_CHECK(ctx, stat, "ReportDeactivationThreshold", "reportDeactivationThreshold", -1, "Event1a");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->reportDeactivationThreshold, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "ReportDeactivationThreshold", "reportDeactivationThreshold", -1, "Event1a");
    /* reportingAmount */
    if (pvalue->reportingAmount > 7) {
       rtxErrAddUIntParm(ctx, pvalue->reportingAmount);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportingAmount", "reportingAmount", -1, "Event1a");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ReportingAmount", "reportingAmount", -1, "Event1a");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingAmount, 0, 7);
-   RT_CHECK(ctx, stat, "ReportingAmount", "reportingAmount", -1, "Event1a");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->reportingAmount, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "ReportingAmount", "reportingAmount", -1, "Event1a");
    /* reportingInterval */
    if (pvalue->reportingInterval > 7) {
       rtxErrAddUIntParm(ctx, pvalue->reportingInterval);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportingInterval", "reportingInterval", -1, "Event1a");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ReportingInterval", "reportingInterval", -1, "Event1a");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingInterval, 0, 7);
-   RT_CHECK(ctx, stat, "ReportingInterval", "reportingInterval", -1, "Event1a");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->reportingInterval, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "ReportingInterval", "reportingInterval", -1, "Event1a");
+   return 0;
+}
+
+int asn1PE_UMTS_Event1a(rtxContext* RT_RESTRICT ctx, const Event1a* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Event1a, pvalue);
+}
+
+RT_MERGED_BODY int enc_TriggeringCondition1(rtxContext* RT_RESTRICT ctx, TriggeringCondition1 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 2) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TriggeringCondition1");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TriggeringCondition1");
    return 0;
 }
 
 int asn1PE_UMTS_TriggeringCondition1(rtxContext* RT_RESTRICT ctx, TriggeringCondition1 value)
 {
-   int stat = 0;
-   if (value > 2) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TriggeringCondition1");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TriggeringCondition1");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_TriggeringCondition1, value);
 }
 
-int asn1PE_UMTS_Event1b(rtxContext* RT_RESTRICT ctx, const Event1b* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_Event1b(rtxContext* RT_RESTRICT ctx, const Event1b* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event1b");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Event1b");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event1b");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Event1b");
    /* triggeringCondition */
    if (pvalue->triggeringCondition > 2) {
       rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TriggeringCondition1", "triggeringCondition", -1, "Event1b");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TriggeringCondition1", "triggeringCondition", -1, "Event1b");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 2);
-   RT_CHECK(ctx, stat, "TriggeringCondition1", "triggeringCondition", -1, "Event1b");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->triggeringCondition, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, "TriggeringCondition1", "triggeringCondition", -1, "Event1b");
    /* reportingRange */
    if ((uint64_t)pvalue->reportingRange > 29u) {
       rtxErrAddStrParm(ctx, "ReportingRange");
       rtxErrAddUIntParm(ctx, pvalue->reportingRange);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "ReportingRange", "reportingRange", -1, "Event1b");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ReportingRange", "reportingRange", -1, "Event1b");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingRange, 0, 29);
-   RT_CHECK(ctx, stat, "ReportingRange", "reportingRange", -1, "Event1b");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->reportingRange, 0, 29);
+   RT_CHECK_PUT(ctx, cur, stat, "ReportingRange", "reportingRange", -1, "Event1b");
    /* forbiddenAffectCellList */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ForbiddenAffectCellList(ctx, &pvalue->forbiddenAffectCellList);
+      stat = enc_ForbiddenAffectCellList(ctx, &pvalue->forbiddenAffectCellList, cur);
       RT_CHECK(ctx, stat, 0, "forbiddenAffectCellList", -1, "Event1b");
    }
    /* w */
    if ((uint64_t)pvalue->w > 20u) {
       rtxErrAddStrParm(ctx, "W");
       rtxErrAddUIntParm(ctx, pvalue->w);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "w", -1, "Event1b");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "W", "w", -1, "Event1b");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->w, 0, 20);
-   RT_CHECK(ctx, stat, "W", "w", -1, "Event1b");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->w, 0, 20);
+   RT_CHECK_PUT(ctx, cur, stat, "W", "w", -1, "Event1b");
+   return 0;
+}
+
+int asn1PE_UMTS_Event1b(rtxContext* RT_RESTRICT ctx, const Event1b* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Event1b, pvalue);
+}
+
+RT_MERGED_BODY int enc_ReplacementActivationThreshold(rtxContext* RT_RESTRICT ctx, ReplacementActivationThreshold value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "ReplacementActivationThreshold");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ReplacementActivationThreshold");
    return 0;
 }
 
 int asn1PE_UMTS_ReplacementActivationThreshold(rtxContext* RT_RESTRICT ctx, ReplacementActivationThreshold value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_ReplacementActivationThreshold, value);
+}
+
+RT_MERGED_BODY int enc_Event1c(rtxContext* RT_RESTRICT ctx, const Event1c* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ReplacementActivationThreshold");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Event1c");
+   /* replacementActivationThreshold */
+   if (pvalue->replacementActivationThreshold > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->replacementActivationThreshold);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ReplacementActivationThreshold", "replacementActivationThreshold", -1, "Event1c");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ReplacementActivationThreshold");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->replacementActivationThreshold, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "ReplacementActivationThreshold", "replacementActivationThreshold", -1, "Event1c");
+   /* reportingAmount */
+   if (pvalue->reportingAmount > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->reportingAmount);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ReportingAmount", "reportingAmount", -1, "Event1c");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->reportingAmount, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "ReportingAmount", "reportingAmount", -1, "Event1c");
+   /* reportingInterval */
+   if (pvalue->reportingInterval > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->reportingInterval);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ReportingInterval", "reportingInterval", -1, "Event1c");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->reportingInterval, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "ReportingInterval", "reportingInterval", -1, "Event1c");
    return 0;
 }
 
 int asn1PE_UMTS_Event1c(rtxContext* RT_RESTRICT ctx, const Event1c* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event1c");
-   /* replacementActivationThreshold */
-   if (pvalue->replacementActivationThreshold > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->replacementActivationThreshold);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ReplacementActivationThreshold", "replacementActivationThreshold", -1, "Event1c");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->replacementActivationThreshold, 0, 7);
-   RT_CHECK(ctx, stat, "ReplacementActivationThreshold", "replacementActivationThreshold", -1, "Event1c");
-   /* reportingAmount */
-   if (pvalue->reportingAmount > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->reportingAmount);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportingAmount", "reportingAmount", -1, "Event1c");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingAmount, 0, 7);
-   RT_CHECK(ctx, stat, "ReportingAmount", "reportingAmount", -1, "Event1c");
-   /* reportingInterval */
-   if (pvalue->reportingInterval > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->reportingInterval);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportingInterval", "reportingInterval", -1, "Event1c");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingInterval, 0, 7);
-   RT_CHECK(ctx, stat, "ReportingInterval", "reportingInterval", -1, "Event1c");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_Event1c, pvalue);
 }
 
-int asn1PE_UMTS_ThresholdUsedFrequency(rtxContext* RT_RESTRICT ctx, ThresholdUsedFrequency value)
+RT_MERGED_BODY int enc_ThresholdUsedFrequency(rtxContext* RT_RESTRICT ctx, ThresholdUsedFrequency value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value < -115 || value > 165) {
       rtxErrAddStrParm(ctx, "ThresholdUsedFrequency");
       rtxErrAddIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "ThresholdUsedFrequency");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "ThresholdUsedFrequency");
    }
-   stat = pe_ConsInt64(ctx, value, -115, 165);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ThresholdUsedFrequency");
+   stat = pe_ConsInt64At(ctx, cur, value, -115, 165);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ThresholdUsedFrequency");
+   return 0;
+}
+
+int asn1PE_UMTS_ThresholdUsedFrequency(rtxContext* RT_RESTRICT ctx, ThresholdUsedFrequency value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ThresholdUsedFrequency, value);
+}
+
+RT_MERGED_BODY int enc_Event1e(rtxContext* RT_RESTRICT ctx, const Event1e* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Event1e");
+   /* triggeringCondition */
+   if (pvalue->triggeringCondition > 4) {
+      rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TriggeringCondition2", "triggeringCondition", -1, "Event1e");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->triggeringCondition, 0, 4);
+   RT_CHECK_PUT(ctx, cur, stat, "TriggeringCondition2", "triggeringCondition", -1, "Event1e");
+   /* thresholdUsedFrequency */
+   if (pvalue->thresholdUsedFrequency < -115 || pvalue->thresholdUsedFrequency > 165) {
+      rtxErrAddStrParm(ctx, "ThresholdUsedFrequency");
+      rtxErrAddIntParm(ctx, pvalue->thresholdUsedFrequency);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ThresholdUsedFrequency", "thresholdUsedFrequency", -1, "Event1e");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->thresholdUsedFrequency, -115, 165);
+   RT_CHECK_PUT(ctx, cur, stat, "ThresholdUsedFrequency", "thresholdUsedFrequency", -1, "Event1e");
    return 0;
 }
 
 int asn1PE_UMTS_Event1e(rtxContext* RT_RESTRICT ctx, const Event1e* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_Event1e, pvalue);
+}
+
+RT_MERGED_BODY int enc_Event1f(rtxContext* RT_RESTRICT ctx, const Event1f* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event1e");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Event1f");
    /* triggeringCondition */
-   if (pvalue->triggeringCondition > 4) {
+   if (pvalue->triggeringCondition > 2) {
       rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TriggeringCondition2", "triggeringCondition", -1, "Event1e");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TriggeringCondition1", "triggeringCondition", -1, "Event1f");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 4);
-   RT_CHECK(ctx, stat, "TriggeringCondition2", "triggeringCondition", -1, "Event1e");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->triggeringCondition, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, "TriggeringCondition1", "triggeringCondition", -1, "Event1f");
    /* thresholdUsedFrequency */
    if (pvalue->thresholdUsedFrequency < -115 || pvalue->thresholdUsedFrequency > 165) {
       rtxErrAddStrParm(ctx, "ThresholdUsedFrequency");
       rtxErrAddIntParm(ctx, pvalue->thresholdUsedFrequency);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "ThresholdUsedFrequency", "thresholdUsedFrequency", -1, "Event1e");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ThresholdUsedFrequency", "thresholdUsedFrequency", -1, "Event1f");
    }
-   stat = pe_ConsInt64(ctx, pvalue->thresholdUsedFrequency, -115, 165);
-   RT_CHECK(ctx, stat, "ThresholdUsedFrequency", "thresholdUsedFrequency", -1, "Event1e");
+   stat = pe_ConsInt64At(ctx, cur, pvalue->thresholdUsedFrequency, -115, 165);
+   RT_CHECK_PUT(ctx, cur, stat, "ThresholdUsedFrequency", "thresholdUsedFrequency", -1, "Event1f");
    return 0;
 }
 
 int asn1PE_UMTS_Event1f(rtxContext* RT_RESTRICT ctx, const Event1f* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event1f");
-   /* triggeringCondition */
-   if (pvalue->triggeringCondition > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TriggeringCondition1", "triggeringCondition", -1, "Event1f");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 2);
-   RT_CHECK(ctx, stat, "TriggeringCondition1", "triggeringCondition", -1, "Event1f");
-   /* thresholdUsedFrequency */
-   if (pvalue->thresholdUsedFrequency < -115 || pvalue->thresholdUsedFrequency > 165) {
-      rtxErrAddStrParm(ctx, "ThresholdUsedFrequency");
-      rtxErrAddIntParm(ctx, pvalue->thresholdUsedFrequency);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "ThresholdUsedFrequency", "thresholdUsedFrequency", -1, "Event1f");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->thresholdUsedFrequency, -115, 165);
-   RT_CHECK(ctx, stat, "ThresholdUsedFrequency", "thresholdUsedFrequency", -1, "Event1f");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_Event1f, pvalue);
 }
 
-int asn1PE_UMTS_IntraFreqEvent(rtxContext* RT_RESTRICT ctx, const IntraFreqEvent* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_IntraFreqEvent(rtxContext* RT_RESTRICT ctx, const IntraFreqEvent* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEvent");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 8);
-   RT_CHECK(ctx, stat, 0, "t", -1, "IntraFreqEvent");
-   if (pvalue->t - 1 > 8) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqEvent");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEvent");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "IntraFreqEvent");
+   if (pvalue->t - 1 > 8) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqEvent");
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.e1a == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1a", -1, "IntraFreqEvent");
-         stat = asn1PE_UMTS_Event1a(ctx, pvalue->u.e1a);
+         if (pvalue->u.e1a == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e1a", -1, "IntraFreqEvent");
+         stat = enc_Event1a(ctx, pvalue->u.e1a, cur);
          RT_CHECK(ctx, stat, 0, "e1a", -1, "IntraFreqEvent");
          break;
       case 2:
-         if (pvalue->u.e1b == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1b", -1, "IntraFreqEvent");
-         stat = asn1PE_UMTS_Event1b(ctx, pvalue->u.e1b);
+         if (pvalue->u.e1b == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e1b", -1, "IntraFreqEvent");
+         stat = enc_Event1b(ctx, pvalue->u.e1b, cur);
          RT_CHECK(ctx, stat, 0, "e1b", -1, "IntraFreqEvent");
          break;
       case 3:
-         if (pvalue->u.e1c == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1c", -1, "IntraFreqEvent");
-         stat = asn1PE_UMTS_Event1c(ctx, pvalue->u.e1c);
+         if (pvalue->u.e1c == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e1c", -1, "IntraFreqEvent");
+         stat = enc_Event1c(ctx, pvalue->u.e1c, cur);
          RT_CHECK(ctx, stat, 0, "e1c", -1, "IntraFreqEvent");
          break;
       case 4:
          break;
       case 5:
-         if (pvalue->u.e1e == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1e", -1, "IntraFreqEvent");
-         stat = asn1PE_UMTS_Event1e(ctx, pvalue->u.e1e);
+         if (pvalue->u.e1e == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e1e", -1, "IntraFreqEvent");
+         stat = enc_Event1e(ctx, pvalue->u.e1e, cur);
          RT_CHECK(ctx, stat, 0, "e1e", -1, "IntraFreqEvent");
          break;
       case 6:
-         if (pvalue->u.e1f == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1f", -1, "IntraFreqEvent");
-         stat = asn1PE_UMTS_Event1f(ctx, pvalue->u.e1f);
+         if (pvalue->u.e1f == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e1f", -1, "IntraFreqEvent");
+         stat = enc_Event1f(ctx, pvalue->u.e1f, cur);
          RT_CHECK(ctx, stat, 0, "e1f", -1, "IntraFreqEvent");
          break;
       case 7:
@@ -2500,19 +7830,19 @@ int asn1PE_UMTS_IntraFreqEvent(rtxContext* RT_RESTRICT ctx, const IntraFreqEvent
          if (pvalue->u.e1h < -115 || pvalue->u.e1h > 165) {
             rtxErrAddStrParm(ctx, "ThresholdUsedFrequency");
             rtxErrAddIntParm(ctx, pvalue->u.e1h);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "ThresholdUsedFrequency", "e1h", -1, "IntraFreqEvent");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ThresholdUsedFrequency", "e1h", -1, "IntraFreqEvent");
          }
-         stat = pe_ConsInt64(ctx, pvalue->u.e1h, -115, 165);
-         RT_CHECK(ctx, stat, "ThresholdUsedFrequency", "e1h", -1, "IntraFreqEvent");
+         stat = pe_ConsInt64At(ctx, cur, pvalue->u.e1h, -115, 165);
+         RT_CHECK_PUT(ctx, cur, stat, "ThresholdUsedFrequency", "e1h", -1, "IntraFreqEvent");
          break;
       case 9:
          if (pvalue->u.e1i < -115 || pvalue->u.e1i > 165) {
             rtxErrAddStrParm(ctx, "ThresholdUsedFrequency");
             rtxErrAddIntParm(ctx, pvalue->u.e1i);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "ThresholdUsedFrequency", "e1i", -1, "IntraFreqEvent");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ThresholdUsedFrequency", "e1i", -1, "IntraFreqEvent");
          }
-         stat = pe_ConsInt64(ctx, pvalue->u.e1i, -115, 165);
-         RT_CHECK(ctx, stat, "ThresholdUsedFrequency", "e1i", -1, "IntraFreqEvent");
+         stat = pe_ConsInt64At(ctx, cur, pvalue->u.e1i, -115, 165);
+         RT_CHECK_PUT(ctx, cur, stat, "ThresholdUsedFrequency", "e1i", -1, "IntraFreqEvent");
          break;
       default:
          break;
@@ -2520,312 +7850,372 @@ int asn1PE_UMTS_IntraFreqEvent(rtxContext* RT_RESTRICT ctx, const IntraFreqEvent
    return 0;
 }
 
-int asn1PE_UMTS_Hysteresis(rtxContext* RT_RESTRICT ctx, Hysteresis value)
+int asn1PE_UMTS_IntraFreqEvent(rtxContext* RT_RESTRICT ctx, const IntraFreqEvent* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqEvent, pvalue);
+}
+
+RT_MERGED_BODY int enc_Hysteresis(rtxContext* RT_RESTRICT ctx, Hysteresis value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)value > 15u) {
       rtxErrAddStrParm(ctx, "Hysteresis");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "Hysteresis");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "Hysteresis");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Hysteresis");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Hysteresis");
+   return 0;
+}
+
+int asn1PE_UMTS_Hysteresis(rtxContext* RT_RESTRICT ctx, Hysteresis value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Hysteresis, value);
+}
+
+RT_MERGED_BODY int enc_TimeToTrigger(rtxContext* RT_RESTRICT ctx, TimeToTrigger value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TimeToTrigger");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TimeToTrigger");
    return 0;
 }
 
 int asn1PE_UMTS_TimeToTrigger(rtxContext* RT_RESTRICT ctx, TimeToTrigger value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_TimeToTrigger, value);
+}
+
+RT_MERGED_BODY int enc_MaxNumberOfReportingCellsType1(rtxContext* RT_RESTRICT ctx, MaxNumberOfReportingCellsType1 value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 15) {
+   if (value > 5) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TimeToTrigger");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MaxNumberOfReportingCellsType1");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimeToTrigger");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaxNumberOfReportingCellsType1");
    return 0;
 }
 
 int asn1PE_UMTS_MaxNumberOfReportingCellsType1(rtxContext* RT_RESTRICT ctx, MaxNumberOfReportingCellsType1 value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_MaxNumberOfReportingCellsType1, value);
+}
+
+RT_MERGED_BODY int enc_MaxNumberOfReportingCellsType3(rtxContext* RT_RESTRICT ctx, MaxNumberOfReportingCellsType3 value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
    if (value > 5) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxNumberOfReportingCellsType1");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MaxNumberOfReportingCellsType3");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxNumberOfReportingCellsType1");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaxNumberOfReportingCellsType3");
    return 0;
 }
 
 int asn1PE_UMTS_MaxNumberOfReportingCellsType3(rtxContext* RT_RESTRICT ctx, MaxNumberOfReportingCellsType3 value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_MaxNumberOfReportingCellsType3, value);
+}
+
+RT_MERGED_BODY int enc_MaxNumberOfReportingCellsType2(rtxContext* RT_RESTRICT ctx, MaxNumberOfReportingCellsType2 value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 5) {
+   if (value > 11) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxNumberOfReportingCellsType3");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MaxNumberOfReportingCellsType2");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxNumberOfReportingCellsType3");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 11);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaxNumberOfReportingCellsType2");
    return 0;
 }
 
 int asn1PE_UMTS_MaxNumberOfReportingCellsType2(rtxContext* RT_RESTRICT ctx, MaxNumberOfReportingCellsType2 value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_MaxNumberOfReportingCellsType2, value);
+}
+
+static int enc_ReportingCellStatus(rtxContext* RT_RESTRICT ctx, const ReportingCellStatus* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 11) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxNumberOfReportingCellsType2");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ReportingCellStatus");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 13);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "ReportingCellStatus");
+   if (pvalue->t - 1 > 13) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "ReportingCellStatus");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.withinActiveSet > 5) {
+            rtxErrAddUIntParm(ctx, pvalue->u.withinActiveSet);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType1", "withinActiveSet", -1, "ReportingCellStatus");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.withinActiveSet, 0, 5);
+         RT_CHECK_PUT(ctx, cur, stat, "MaxNumberOfReportingCellsType1", "withinActiveSet", -1, "ReportingCellStatus");
+         break;
+      case 2:
+         if (pvalue->u.withinMonitoredSetUsedFreq > 5) {
+            rtxErrAddUIntParm(ctx, pvalue->u.withinMonitoredSetUsedFreq);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType1", "withinMonitoredSetUsedFreq", -1, "ReportingCellStatus");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.withinMonitoredSetUsedFreq, 0, 5);
+         RT_CHECK_PUT(ctx, cur, stat, "MaxNumberOfReportingCellsType1", "withinMonitoredSetUsedFreq", -1, "ReportingCellStatus");
+         break;
+      case 3:
+         if (pvalue->u.withinActiveAndOrMonitoredUsedFreq > 5) {
+            rtxErrAddUIntParm(ctx, pvalue->u.withinActiveAndOrMonitoredUsedFreq);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType1", "withinActiveAndOrMonitoredUsedFreq", -1, "ReportingCellStatus");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.withinActiveAndOrMonitoredUsedFreq, 0, 5);
+         RT_CHECK_PUT(ctx, cur, stat, "MaxNumberOfReportingCellsType1", "withinActiveAndOrMonitoredUsedFreq", -1, "ReportingCellStatus");
+         break;
+      case 4:
+         if (pvalue->u.withinDetectedSetUsedFreq > 5) {
+            rtxErrAddUIntParm(ctx, pvalue->u.withinDetectedSetUsedFreq);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType1", "withinDetectedSetUsedFreq", -1, "ReportingCellStatus");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.withinDetectedSetUsedFreq, 0, 5);
+         RT_CHECK_PUT(ctx, cur, stat, "MaxNumberOfReportingCellsType1", "withinDetectedSetUsedFreq", -1, "ReportingCellStatus");
+         break;
+      case 5:
+         if (pvalue->u.withinMonitoredAndOrDetectedUsedFreq > 5) {
+            rtxErrAddUIntParm(ctx, pvalue->u.withinMonitoredAndOrDetectedUsedFreq);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType1", "withinMonitoredAndOrDetectedUsedFreq", -1, "ReportingCellStatus");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.withinMonitoredAndOrDetectedUsedFreq, 0, 5);
+         RT_CHECK_PUT(ctx, cur, stat, "MaxNumberOfReportingCellsType1", "withinMonitoredAndOrDetectedUsedFreq", -1, "ReportingCellStatus");
+         break;
+      case 6:
+         if (pvalue->u.allActiveplusMonitoredSet > 5) {
+            rtxErrAddUIntParm(ctx, pvalue->u.allActiveplusMonitoredSet);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType3", "allActiveplusMonitoredSet", -1, "ReportingCellStatus");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.allActiveplusMonitoredSet, 0, 5);
+         RT_CHECK_PUT(ctx, cur, stat, "MaxNumberOfReportingCellsType3", "allActiveplusMonitoredSet", -1, "ReportingCellStatus");
+         break;
+      case 7:
+         if (pvalue->u.allActivePlusDetectedSet > 5) {
+            rtxErrAddUIntParm(ctx, pvalue->u.allActivePlusDetectedSet);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType3", "allActivePlusDetectedSet", -1, "ReportingCellStatus");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.allActivePlusDetectedSet, 0, 5);
+         RT_CHECK_PUT(ctx, cur, stat, "MaxNumberOfReportingCellsType3", "allActivePlusDetectedSet", -1, "ReportingCellStatus");
+         break;
+      case 8:
+         if (pvalue->u.allActivePlusMonitoredAndOrDetectedSet > 5) {
+            rtxErrAddUIntParm(ctx, pvalue->u.allActivePlusMonitoredAndOrDetectedSet);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType3", "allActivePlusMonitoredAndOrDetectedSet", -1, "ReportingCellStatus");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.allActivePlusMonitoredAndOrDetectedSet, 0, 5);
+         RT_CHECK_PUT(ctx, cur, stat, "MaxNumberOfReportingCellsType3", "allActivePlusMonitoredAndOrDetectedSet", -1, "ReportingCellStatus");
+         break;
+      case 9:
+         if (pvalue->u.withinVirtualActSet > 5) {
+            rtxErrAddUIntParm(ctx, pvalue->u.withinVirtualActSet);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType1", "withinVirtualActSet", -1, "ReportingCellStatus");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.withinVirtualActSet, 0, 5);
+         RT_CHECK_PUT(ctx, cur, stat, "MaxNumberOfReportingCellsType1", "withinVirtualActSet", -1, "ReportingCellStatus");
+         break;
+      case 10:
+         if (pvalue->u.withinMonitoredSetNonUsedFreq > 5) {
+            rtxErrAddUIntParm(ctx, pvalue->u.withinMonitoredSetNonUsedFreq);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType1", "withinMonitoredSetNonUsedFreq", -1, "ReportingCellStatus");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.withinMonitoredSetNonUsedFreq, 0, 5);
+         RT_CHECK_PUT(ctx, cur, stat, "MaxNumberOfReportingCellsType1", "withinMonitoredSetNonUsedFreq", -1, "ReportingCellStatus");
+         break;
+      case 11:
+         if (pvalue->u.withinMonitoredAndOrVirtualActiveSetNonUsedFreq > 5) {
+            rtxErrAddUIntParm(ctx, pvalue->u.withinMonitoredAndOrVirtualActiveSetNonUsedFreq);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType1", "withinMonitoredAndOrVirtualActiveSetNonUsedFreq", -1, "ReportingCellStatus");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.withinMonitoredAndOrVirtualActiveSetNonUsedFreq, 0, 5);
+         RT_CHECK_PUT(ctx, cur, stat, "MaxNumberOfReportingCellsType1", "withinMonitoredAndOrVirtualActiveSetNonUsedFreq", -1, "ReportingCellStatus");
+         break;
+      case 12:
+         if (pvalue->u.allVirtualActSetplusMonitoredSetNonUsedFreq > 5) {
+            rtxErrAddUIntParm(ctx, pvalue->u.allVirtualActSetplusMonitoredSetNonUsedFreq);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType3", "allVirtualActSetplusMonitoredSetNonUsedFreq", -1, "ReportingCellStatus");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.allVirtualActSetplusMonitoredSetNonUsedFreq, 0, 5);
+         RT_CHECK_PUT(ctx, cur, stat, "MaxNumberOfReportingCellsType3", "allVirtualActSetplusMonitoredSetNonUsedFreq", -1, "ReportingCellStatus");
+         break;
+      case 13:
+         if (pvalue->u.withinActSetOrVirtualActSet_InterRATcells > 11) {
+            rtxErrAddUIntParm(ctx, pvalue->u.withinActSetOrVirtualActSet_InterRATcells);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType2", "withinActSetOrVirtualActSet-InterRATcells", -1, "ReportingCellStatus");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.withinActSetOrVirtualActSet_InterRATcells, 0, 11);
+         RT_CHECK_PUT(ctx, cur, stat, "MaxNumberOfReportingCellsType2", "withinActSetOrVirtualActSet-InterRATcells", -1, "ReportingCellStatus");
+         break;
+      case 14:
+         if (pvalue->u.withinActSetAndOrMonitoredUsedFreqOrVirtualActSetAndOrMonitoredNonUsedFreq > 11) {
+            rtxErrAddUIntParm(ctx, pvalue->u.withinActSetAndOrMonitoredUsedFreqOrVirtualActSetAndOrMonitoredNonUsedFreq);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType2", "withinActSetAndOrMonitoredUsedFreqOrVirtualActSetAndOrMonitoredNonUsedFreq", -1, "ReportingCellStatus");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.withinActSetAndOrMonitoredUsedFreqOrVirtualActSetAndOrMonitoredNonUsedFreq, 0, 11);
+         RT_CHECK_PUT(ctx, cur, stat, "MaxNumberOfReportingCellsType2", "withinActSetAndOrMonitoredUsedFreqOrVirtualActSetAndOrMonitoredNonUsedFreq", -1, "ReportingCellStatus");
+         break;
+      default:
+         break;
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 11);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxNumberOfReportingCellsType2");
    return 0;
 }
 
 int asn1PE_UMTS_ReportingCellStatus(rtxContext* RT_RESTRICT ctx, const ReportingCellStatus* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_ReportingCellStatus, pvalue);
+}
+
+static int enc_IntraFreqEventCriteria(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteria* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ReportingCellStatus");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 13);
-   RT_CHECK(ctx, stat, 0, "t", -1, "ReportingCellStatus");
-   if (pvalue->t - 1 > 13) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ReportingCellStatus");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.withinActiveSet > 5) {
-            rtxErrAddUIntParm(ctx, pvalue->u.withinActiveSet);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType1", "withinActiveSet", -1, "ReportingCellStatus");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.withinActiveSet, 0, 5);
-         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType1", "withinActiveSet", -1, "ReportingCellStatus");
-         break;
-      case 2:
-         if (pvalue->u.withinMonitoredSetUsedFreq > 5) {
-            rtxErrAddUIntParm(ctx, pvalue->u.withinMonitoredSetUsedFreq);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType1", "withinMonitoredSetUsedFreq", -1, "ReportingCellStatus");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.withinMonitoredSetUsedFreq, 0, 5);
-         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType1", "withinMonitoredSetUsedFreq", -1, "ReportingCellStatus");
-         break;
-      case 3:
-         if (pvalue->u.withinActiveAndOrMonitoredUsedFreq > 5) {
-            rtxErrAddUIntParm(ctx, pvalue->u.withinActiveAndOrMonitoredUsedFreq);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType1", "withinActiveAndOrMonitoredUsedFreq", -1, "ReportingCellStatus");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.withinActiveAndOrMonitoredUsedFreq, 0, 5);
-         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType1", "withinActiveAndOrMonitoredUsedFreq", -1, "ReportingCellStatus");
-         break;
-      case 4:
-         if (pvalue->u.withinDetectedSetUsedFreq > 5) {
-            rtxErrAddUIntParm(ctx, pvalue->u.withinDetectedSetUsedFreq);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType1", "withinDetectedSetUsedFreq", -1, "ReportingCellStatus");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.withinDetectedSetUsedFreq, 0, 5);
-         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType1", "withinDetectedSetUsedFreq", -1, "ReportingCellStatus");
-         break;
-      case 5:
-         if (pvalue->u.withinMonitoredAndOrDetectedUsedFreq > 5) {
-            rtxErrAddUIntParm(ctx, pvalue->u.withinMonitoredAndOrDetectedUsedFreq);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType1", "withinMonitoredAndOrDetectedUsedFreq", -1, "ReportingCellStatus");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.withinMonitoredAndOrDetectedUsedFreq, 0, 5);
-         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType1", "withinMonitoredAndOrDetectedUsedFreq", -1, "ReportingCellStatus");
-         break;
-      case 6:
-         if (pvalue->u.allActiveplusMonitoredSet > 5) {
-            rtxErrAddUIntParm(ctx, pvalue->u.allActiveplusMonitoredSet);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType3", "allActiveplusMonitoredSet", -1, "ReportingCellStatus");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.allActiveplusMonitoredSet, 0, 5);
-         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType3", "allActiveplusMonitoredSet", -1, "ReportingCellStatus");
-         break;
-      case 7:
-         if (pvalue->u.allActivePlusDetectedSet > 5) {
-            rtxErrAddUIntParm(ctx, pvalue->u.allActivePlusDetectedSet);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType3", "allActivePlusDetectedSet", -1, "ReportingCellStatus");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.allActivePlusDetectedSet, 0, 5);
-         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType3", "allActivePlusDetectedSet", -1, "ReportingCellStatus");
-         break;
-      case 8:
-         if (pvalue->u.allActivePlusMonitoredAndOrDetectedSet > 5) {
-            rtxErrAddUIntParm(ctx, pvalue->u.allActivePlusMonitoredAndOrDetectedSet);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType3", "allActivePlusMonitoredAndOrDetectedSet", -1, "ReportingCellStatus");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.allActivePlusMonitoredAndOrDetectedSet, 0, 5);
-         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType3", "allActivePlusMonitoredAndOrDetectedSet", -1, "ReportingCellStatus");
-         break;
-      case 9:
-         if (pvalue->u.withinVirtualActSet > 5) {
-            rtxErrAddUIntParm(ctx, pvalue->u.withinVirtualActSet);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType1", "withinVirtualActSet", -1, "ReportingCellStatus");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.withinVirtualActSet, 0, 5);
-         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType1", "withinVirtualActSet", -1, "ReportingCellStatus");
-         break;
-      case 10:
-         if (pvalue->u.withinMonitoredSetNonUsedFreq > 5) {
-            rtxErrAddUIntParm(ctx, pvalue->u.withinMonitoredSetNonUsedFreq);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType1", "withinMonitoredSetNonUsedFreq", -1, "ReportingCellStatus");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.withinMonitoredSetNonUsedFreq, 0, 5);
-         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType1", "withinMonitoredSetNonUsedFreq", -1, "ReportingCellStatus");
-         break;
-      case 11:
-         if (pvalue->u.withinMonitoredAndOrVirtualActiveSetNonUsedFreq > 5) {
-            rtxErrAddUIntParm(ctx, pvalue->u.withinMonitoredAndOrVirtualActiveSetNonUsedFreq);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType1", "withinMonitoredAndOrVirtualActiveSetNonUsedFreq", -1, "ReportingCellStatus");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.withinMonitoredAndOrVirtualActiveSetNonUsedFreq, 0, 5);
-         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType1", "withinMonitoredAndOrVirtualActiveSetNonUsedFreq", -1, "ReportingCellStatus");
-         break;
-      case 12:
-         if (pvalue->u.allVirtualActSetplusMonitoredSetNonUsedFreq > 5) {
-            rtxErrAddUIntParm(ctx, pvalue->u.allVirtualActSetplusMonitoredSetNonUsedFreq);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType3", "allVirtualActSetplusMonitoredSetNonUsedFreq", -1, "ReportingCellStatus");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.allVirtualActSetplusMonitoredSetNonUsedFreq, 0, 5);
-         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType3", "allVirtualActSetplusMonitoredSetNonUsedFreq", -1, "ReportingCellStatus");
-         break;
-      case 13:
-         if (pvalue->u.withinActSetOrVirtualActSet_InterRATcells > 11) {
-            rtxErrAddUIntParm(ctx, pvalue->u.withinActSetOrVirtualActSet_InterRATcells);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType2", "withinActSetOrVirtualActSet-InterRATcells", -1, "ReportingCellStatus");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.withinActSetOrVirtualActSet_InterRATcells, 0, 11);
-         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType2", "withinActSetOrVirtualActSet-InterRATcells", -1, "ReportingCellStatus");
-         break;
-      case 14:
-         if (pvalue->u.withinActSetAndOrMonitoredUsedFreqOrVirtualActSetAndOrMonitoredNonUsedFreq > 11) {
-            rtxErrAddUIntParm(ctx, pvalue->u.withinActSetAndOrMonitoredUsedFreqOrVirtualActSetAndOrMonitoredNonUsedFreq);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNumberOfReportingCellsType2", "withinActSetAndOrMonitoredUsedFreqOrVirtualActSetAndOrMonitoredNonUsedFreq", -1, "ReportingCellStatus");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.withinActSetAndOrMonitoredUsedFreqOrVirtualActSetAndOrMonitoredNonUsedFreq, 0, 11);
-         RT_CHECK(ctx, stat, "MaxNumberOfReportingCellsType2", "withinActSetAndOrMonitoredUsedFreqOrVirtualActSetAndOrMonitoredNonUsedFreq", -1, "ReportingCellStatus");
-         break;
-      default:
-         break;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventCriteria");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqEventCriteria");
+   /* event */
+   stat = enc_IntraFreqEvent(ctx, &pvalue->event, cur);
+   RT_CHECK(ctx, stat, 0, "event", -1, "IntraFreqEventCriteria");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 15u) {
+      rtxErrAddStrParm(ctx, "Hysteresis");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->hysteresis, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "IntraFreqEventCriteria");
    }
    return 0;
 }
 
 int asn1PE_UMTS_IntraFreqEventCriteria(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteria* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqEventCriteria, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFreqEventCriteriaList(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteriaList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventCriteria");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqEventCriteria");
-   /* event */
-   stat = asn1PE_UMTS_IntraFreqEvent(ctx, &pvalue->event);
-   RT_CHECK(ctx, stat, 0, "event", -1, "IntraFreqEventCriteria");
-   /* hysteresis */
-   if ((uint64_t)pvalue->hysteresis > 15u) {
-      rtxErrAddStrParm(ctx, "Hysteresis");
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 15);
-   RT_CHECK(ctx, stat, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria");
-   /* timeToTrigger */
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria");
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "IntraFreqEventCriteria");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventCriteriaList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqEventCriteriaList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "IntraFreqEventCriteria", (int32_t)i, "IntraFreqEventCriteriaList");
+      stat = enc_IntraFreqEventCriteria(ctx, (const IntraFreqEventCriteria*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "IntraFreqEventCriteria", (int32_t)i, "IntraFreqEventCriteriaList");
    }
    return 0;
 }
 
 int asn1PE_UMTS_IntraFreqEventCriteriaList(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteriaList* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqEventCriteriaList, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFreqReportingCriteria(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingCriteria* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventCriteriaList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "IntraFreqEventCriteriaList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "IntraFreqEventCriteria", (int32_t)i, "IntraFreqEventCriteriaList");
-      stat = asn1PE_UMTS_IntraFreqEventCriteria(ctx, (const IntraFreqEventCriteria*)node->data);
-      RT_CHECK(ctx, stat, 0, "IntraFreqEventCriteria", (int32_t)i, "IntraFreqEventCriteriaList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqReportingCriteria");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqReportingCriteria");
+   /* eventCriteriaList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_IntraFreqEventCriteriaList(ctx, &pvalue->eventCriteriaList, cur);
+      RT_CHECK(ctx, stat, 0, "eventCriteriaList", -1, "IntraFreqReportingCriteria");
    }
    return 0;
 }
 
 int asn1PE_UMTS_IntraFreqReportingCriteria(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingCriteria* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqReportingCriteria, pvalue);
+}
+
+RT_MERGED_BODY int enc_ReportingIntervalLong(rtxContext* RT_RESTRICT ctx, ReportingIntervalLong value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqReportingCriteria");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqReportingCriteria");
-   /* eventCriteriaList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IntraFreqEventCriteriaList(ctx, &pvalue->eventCriteriaList);
-      RT_CHECK(ctx, stat, 0, "eventCriteriaList", -1, "IntraFreqReportingCriteria");
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "ReportingIntervalLong");
    }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ReportingIntervalLong");
    return 0;
 }
 
 int asn1PE_UMTS_ReportingIntervalLong(rtxContext* RT_RESTRICT ctx, ReportingIntervalLong value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_ReportingIntervalLong, value);
+}
+
+RT_MERGED_BODY int enc_PeriodicalReportingCriteria(rtxContext* RT_RESTRICT ctx, const PeriodicalReportingCriteria* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ReportingIntervalLong");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PeriodicalReportingCriteria");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->reportingAmount != 7) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PeriodicalReportingCriteria");
+   /* reportingAmount */
+   if (pvalue->reportingAmount != 7) {
+      if (pvalue->reportingAmount > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->reportingAmount);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ReportingAmount", "reportingAmount", -1, "PeriodicalReportingCriteria");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->reportingAmount, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "ReportingAmount", "reportingAmount", -1, "PeriodicalReportingCriteria");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ReportingIntervalLong");
+   /* reportingInterval */
+   if (pvalue->reportingInterval > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->reportingInterval);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ReportingIntervalLong", "reportingInterval", -1, "PeriodicalReportingCriteria");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->reportingInterval, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "ReportingIntervalLong", "reportingInterval", -1, "PeriodicalReportingCriteria");
    return 0;
 }
 
 int asn1PE_UMTS_PeriodicalReportingCriteria(rtxContext* RT_RESTRICT ctx, const PeriodicalReportingCriteria* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PeriodicalReportingCriteria");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->reportingAmount != 7) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PeriodicalReportingCriteria");
-   /* reportingAmount */
-   if (pvalue->reportingAmount != 7) {
-      if (pvalue->reportingAmount > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->reportingAmount);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "ReportingAmount", "reportingAmount", -1, "PeriodicalReportingCriteria");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->reportingAmount, 0, 7);
-      RT_CHECK(ctx, stat, "ReportingAmount", "reportingAmount", -1, "PeriodicalReportingCriteria");
-   }
-   /* reportingInterval */
-   if (pvalue->reportingInterval > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->reportingInterval);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportingIntervalLong", "reportingInterval", -1, "PeriodicalReportingCriteria");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingInterval, 0, 15);
-   RT_CHECK(ctx, stat, "ReportingIntervalLong", "reportingInterval", -1, "PeriodicalReportingCriteria");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_PeriodicalReportingCriteria, pvalue);
 }
 
-int asn1PE_UMTS_CellDCH_ReportCriteria(rtxContext* RT_RESTRICT ctx, const CellDCH_ReportCriteria* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_CellDCH_ReportCriteria(rtxContext* RT_RESTRICT ctx, const CellDCH_ReportCriteria* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellDCH-ReportCriteria");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "CellDCH-ReportCriteria");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "CellDCH-ReportCriteria");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellDCH-ReportCriteria");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "CellDCH-ReportCriteria");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "CellDCH-ReportCriteria");
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFreqReportingCriteria", -1, "CellDCH-ReportCriteria");
-         stat = asn1PE_UMTS_IntraFreqReportingCriteria(ctx, pvalue->u.intraFreqReportingCriteria);
+         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "intraFreqReportingCriteria", -1, "CellDCH-ReportCriteria");
+         stat = enc_IntraFreqReportingCriteria(ctx, pvalue->u.intraFreqReportingCriteria, cur);
          RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "CellDCH-ReportCriteria");
          break;
       case 2:
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "CellDCH-ReportCriteria");
-         stat = asn1PE_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "CellDCH-ReportCriteria");
+         stat = enc_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria, cur);
          RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "CellDCH-ReportCriteria");
          break;
       default:
@@ -2834,122 +8224,147 @@ int asn1PE_UMTS_CellDCH_ReportCriteria(rtxContext* RT_RESTRICT ctx, const CellDC
    return 0;
 }
 
-int asn1PE_UMTS_ReportingInfoForCellDCH(rtxContext* RT_RESTRICT ctx, const ReportingInfoForCellDCH* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CellDCH_ReportCriteria(rtxContext* RT_RESTRICT ctx, const CellDCH_ReportCriteria* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellDCH_ReportCriteria, pvalue);
+}
+
+static int enc_ReportingInfoForCellDCH(rtxContext* RT_RESTRICT ctx, const ReportingInfoForCellDCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ReportingInfoForCellDCH");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ReportingInfoForCellDCH");
    /* intraFreqReportingQuantity */
-   stat = asn1PE_UMTS_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity);
+   stat = enc_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity, cur);
    RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantity", -1, "ReportingInfoForCellDCH");
    /* measurementReportingMode */
-   stat = asn1PE_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
+   stat = enc_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode, cur);
    RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "ReportingInfoForCellDCH");
    /* reportCriteria */
-   stat = asn1PE_UMTS_CellDCH_ReportCriteria(ctx, &pvalue->reportCriteria);
+   stat = enc_CellDCH_ReportCriteria(ctx, &pvalue->reportCriteria, cur);
    RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "ReportingInfoForCellDCH");
    return 0;
 }
 
-int asn1PE_UMTS_IntraFreqMeasurementSysInfo_RSCP(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasurementSysInfo_RSCP* RT_RESTRICT pvalue)
+int asn1PE_UMTS_ReportingInfoForCellDCH(rtxContext* RT_RESTRICT ctx, const ReportingInfoForCellDCH* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ReportingInfoForCellDCH, pvalue);
+}
+
+static int enc_IntraFreqMeasurementSysInfo_RSCP(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasurementSysInfo_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqMeasurementSysInfo-RSCP");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqMeasurementSysInfo-RSCP");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->intraFreqMeasurementID != 1) << 5) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->intraFreqMeasurementID != 1) << 5) |
       ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-RSCP");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-RSCP");
    /* intraFreqMeasurementID */
    if (pvalue->intraFreqMeasurementID != 1) {
       if ((uint64_t)(pvalue->intraFreqMeasurementID - 1) > 15u) {
          rtxErrAddStrParm(ctx, "MeasurementIdentity");
          rtxErrAddUIntParm(ctx, pvalue->intraFreqMeasurementID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-RSCP");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-RSCP");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->intraFreqMeasurementID, 1, 16);
-      RT_CHECK(ctx, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-RSCP");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->intraFreqMeasurementID, 1, 16);
+      RT_CHECK_PUT(ctx, cur, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-RSCP");
    }
    /* intraFreqCellInfoSI-List */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IntraFreqCellInfoSI_List_RSCP(ctx, &pvalue->intraFreqCellInfoSI_List);
+      stat = enc_IntraFreqCellInfoSI_List_RSCP(ctx, &pvalue->intraFreqCellInfoSI_List, cur);
       RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-RSCP");
    }
    /* intraFreqMeasQuantity */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
+      stat = enc_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity, cur);
       RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-RSCP");
    }
    /* intraFreqReportingQuantityForRACH */
    if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
+      stat = enc_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH, cur);
       RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-RSCP");
    }
    /* maxReportedCellsOnRACH */
    if (pvalue->m & 0x8u) {
       if (pvalue->maxReportedCellsOnRACH > 7) {
          rtxErrAddUIntParm(ctx, pvalue->maxReportedCellsOnRACH);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-RSCP");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-RSCP");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->maxReportedCellsOnRACH, 0, 7);
-      RT_CHECK(ctx, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-RSCP");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->maxReportedCellsOnRACH, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-RSCP");
    }
    /* reportingInfoForCellDCH */
    if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_ReportingInfoForCellDCH(ctx, &pvalue->reportingInfoForCellDCH);
+      stat = enc_ReportingInfoForCellDCH(ctx, &pvalue->reportingInfoForCellDCH, cur);
       RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-RSCP");
    }
    return 0;
 }
 
-int asn1PE_UMTS_InterFreqCellID(rtxContext* RT_RESTRICT ctx, InterFreqCellID value)
+int asn1PE_UMTS_IntraFreqMeasurementSysInfo_RSCP(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasurementSysInfo_RSCP* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqMeasurementSysInfo_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqCellID(rtxContext* RT_RESTRICT ctx, InterFreqCellID value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)value > 31u) {
       rtxErrAddStrParm(ctx, "InterFreqCellID");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "InterFreqCellID");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "InterFreqCellID");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellID");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterFreqCellID");
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqCellID(rtxContext* RT_RESTRICT ctx, InterFreqCellID value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqCellID, value);
+}
+
+RT_MERGED_BODY int enc_RemovedInterFreqCellList_removeSomeInterFreqCells(rtxContext* RT_RESTRICT ctx, const RemovedInterFreqCellList_removeSomeInterFreqCells* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 31u) {
+         rtxErrAddStrParm(ctx, "InterFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "InterFreqCellID", "InterFreqCellID", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 31);
+      RT_CHECK_PUT(ctx, cur, stat, "InterFreqCellID", "InterFreqCellID", (int32_t)i, 0);
+   }
    return 0;
 }
 
 int asn1PE_UMTS_RemovedInterFreqCellList_removeSomeInterFreqCells(rtxContext* RT_RESTRICT ctx, const RemovedInterFreqCellList_removeSomeInterFreqCells* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)pvalue->elem[i] > 31u) {
-         rtxErrAddStrParm(ctx, "InterFreqCellID");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterFreqCellID", "InterFreqCellID", (int32_t)i, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 31);
-      RT_CHECK(ctx, stat, "InterFreqCellID", "InterFreqCellID", (int32_t)i, 0);
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_RemovedInterFreqCellList_removeSomeInterFreqCells, pvalue);
 }
 
-int asn1PE_UMTS_RemovedInterFreqCellList(rtxContext* RT_RESTRICT ctx, const RemovedInterFreqCellList* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_RemovedInterFreqCellList(rtxContext* RT_RESTRICT ctx, const RemovedInterFreqCellList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RemovedInterFreqCellList");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "RemovedInterFreqCellList");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RemovedInterFreqCellList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RemovedInterFreqCellList");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "RemovedInterFreqCellList");
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "RemovedInterFreqCellList");
    switch (pvalue->t) {
       case 1:
          break;
       case 2:
-         if (pvalue->u.removeSomeInterFreqCells == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "removeSomeInterFreqCells", -1, "RemovedInterFreqCellList");
-         stat = asn1PE_UMTS_RemovedInterFreqCellList_removeSomeInterFreqCells(ctx, pvalue->u.removeSomeInterFreqCells);
+         if (pvalue->u.removeSomeInterFreqCells == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "removeSomeInterFreqCells", -1, "RemovedInterFreqCellList");
+         stat = enc_RemovedInterFreqCellList_removeSomeInterFreqCells(ctx, pvalue->u.removeSomeInterFreqCells, cur);
          RT_CHECK(ctx, stat, 0, "removeSomeInterFreqCells", -1, "RemovedInterFreqCellList");
          break;
       case 3:
@@ -2960,50 +8375,60 @@ int asn1PE_UMTS_RemovedInterFreqCellList(rtxContext* RT_RESTRICT ctx, const Remo
    return 0;
 }
 
-int asn1PE_UMTS_FrequencyInfoFDD(rtxContext* RT_RESTRICT ctx, const FrequencyInfoFDD* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RemovedInterFreqCellList(rtxContext* RT_RESTRICT ctx, const RemovedInterFreqCellList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RemovedInterFreqCellList, pvalue);
+}
+
+RT_MERGED_BODY int enc_FrequencyInfoFDD(rtxContext* RT_RESTRICT ctx, const FrequencyInfoFDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "FrequencyInfoFDD");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "FrequencyInfoFDD");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "FrequencyInfoFDD");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "FrequencyInfoFDD");
    /* uarfcn-UL */
    if (pvalue->m & 0x1u) {
       if ((uint64_t)pvalue->uarfcn_UL > 16383u) {
          rtxErrAddStrParm(ctx, "UARFCN");
          rtxErrAddUIntParm(ctx, pvalue->uarfcn_UL);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "UARFCN", "uarfcn-UL", -1, "FrequencyInfoFDD");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UARFCN", "uarfcn-UL", -1, "FrequencyInfoFDD");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->uarfcn_UL, 0, 16383);
-      RT_CHECK(ctx, stat, "UARFCN", "uarfcn-UL", -1, "FrequencyInfoFDD");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->uarfcn_UL, 0, 16383);
+      RT_CHECK_PUT(ctx, cur, stat, "UARFCN", "uarfcn-UL", -1, "FrequencyInfoFDD");
    }
    /* uarfcn-DL */
    if ((uint64_t)pvalue->uarfcn_DL > 16383u) {
       rtxErrAddStrParm(ctx, "UARFCN");
       rtxErrAddUIntParm(ctx, pvalue->uarfcn_DL);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "UARFCN", "uarfcn-DL", -1, "FrequencyInfoFDD");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UARFCN", "uarfcn-DL", -1, "FrequencyInfoFDD");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->uarfcn_DL, 0, 16383);
-   RT_CHECK(ctx, stat, "UARFCN", "uarfcn-DL", -1, "FrequencyInfoFDD");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->uarfcn_DL, 0, 16383);
+   RT_CHECK_PUT(ctx, cur, stat, "UARFCN", "uarfcn-DL", -1, "FrequencyInfoFDD");
    return 0;
 }
 
-int asn1PE_UMTS_FrequencyInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const FrequencyInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_FrequencyInfoFDD(rtxContext* RT_RESTRICT ctx, const FrequencyInfoFDD* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_FrequencyInfoFDD, pvalue);
+}
+
+RT_MERGED_BODY int enc_FrequencyInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const FrequencyInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_FrequencyInfoFDD(ctx, pvalue->u.fdd);
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_FrequencyInfoFDD(ctx, pvalue->u.fdd, cur);
          RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, pvalue->u.tdd);
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_FrequencyInfoTDD(ctx, pvalue->u.tdd, cur);
          RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
@@ -3012,130 +8437,165 @@ int asn1PE_UMTS_FrequencyInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, cons
    return 0;
 }
 
-int asn1PE_UMTS_FrequencyInfo(rtxContext* RT_RESTRICT ctx, const FrequencyInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_FrequencyInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const FrequencyInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_FrequencyInfo_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_FrequencyInfo(rtxContext* RT_RESTRICT ctx, const FrequencyInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "FrequencyInfo");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "FrequencyInfo");
    /* modeSpecificInfo */
-   stat = asn1PE_UMTS_FrequencyInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   stat = enc_FrequencyInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
    RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "FrequencyInfo");
    return 0;
 }
 
-int asn1PE_UMTS_NewInterFreqCellSI_RSCP(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_RSCP* RT_RESTRICT pvalue)
+int asn1PE_UMTS_FrequencyInfo(rtxContext* RT_RESTRICT ctx, const FrequencyInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_FrequencyInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewInterFreqCellSI_RSCP(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-RSCP");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-RSCP");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-RSCP");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellSI-RSCP");
    /* interFreqCellID */
    if (pvalue->m & 0x1u) {
       if ((uint64_t)pvalue->interFreqCellID > 31u) {
          rtxErrAddStrParm(ctx, "InterFreqCellID");
          rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-RSCP");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-RSCP");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-RSCP");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->interFreqCellID, 0, 31);
+      RT_CHECK_PUT(ctx, cur, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-RSCP");
    }
    /* frequencyInfo */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      stat = enc_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
       RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-RSCP");
    }
    /* cellInfo */
-   stat = asn1PE_UMTS_CellInfoSI_RSCP(ctx, &pvalue->cellInfo);
+   stat = enc_CellInfoSI_RSCP(ctx, &pvalue->cellInfo, cur);
    RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-RSCP");
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCellSI_RSCP(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_RSCP* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewInterFreqCellSI_RSCP, pvalue);
+}
+
+static int enc_NewInterFreqCellSI_List_RSCP(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_List_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-List-RSCP");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellSI-List-RSCP");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "NewInterFreqCellSI-RSCP", (int32_t)i, "NewInterFreqCellSI-List-RSCP");
+      stat = enc_NewInterFreqCellSI_RSCP(ctx, (const NewInterFreqCellSI_RSCP*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-RSCP", (int32_t)i, "NewInterFreqCellSI-List-RSCP");
+   }
    return 0;
 }
 
 int asn1PE_UMTS_NewInterFreqCellSI_List_RSCP(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_List_RSCP* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_NewInterFreqCellSI_List_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqCellInfoSI_List_RSCP(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoSI_List_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-List-RSCP");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-List-RSCP");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewInterFreqCellSI-RSCP", (int32_t)i, "NewInterFreqCellSI-List-RSCP");
-      stat = asn1PE_UMTS_NewInterFreqCellSI_RSCP(ctx, (const NewInterFreqCellSI_RSCP*)node->data);
-      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-RSCP", (int32_t)i, "NewInterFreqCellSI-List-RSCP");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellInfoSI-List-RSCP");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterFreqCellInfoSI-List-RSCP");
+   /* removedInterFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-RSCP");
+   }
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_NewInterFreqCellSI_List_RSCP(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-RSCP");
    }
    return 0;
 }
 
 int asn1PE_UMTS_InterFreqCellInfoSI_List_RSCP(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoSI_List_RSCP* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqCellInfoSI_List_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqMeasurementSysInfo_RSCP(rtxContext* RT_RESTRICT ctx, const InterFreqMeasurementSysInfo_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellInfoSI-List-RSCP");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqMeasurementSysInfo-RSCP");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoSI-List-RSCP");
-   /* removedInterFreqCellList */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-RSCP");
+   /* interFreqCellInfoSI-List */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-RSCP");
-   }
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_NewInterFreqCellSI_List_RSCP(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-RSCP");
+      stat = enc_InterFreqCellInfoSI_List_RSCP(ctx, &pvalue->interFreqCellInfoSI_List, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-RSCP");
    }
    return 0;
 }
 
 int asn1PE_UMTS_InterFreqMeasurementSysInfo_RSCP(rtxContext* RT_RESTRICT ctx, const InterFreqMeasurementSysInfo_RSCP* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqMeasurementSysInfo_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqMeasurementSysInfo-RSCP");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-RSCP");
-   /* interFreqCellInfoSI-List */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* intraFreqMeasurementSysInfo */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_InterFreqCellInfoSI_List_RSCP(ctx, &pvalue->interFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-RSCP");
+      stat = enc_IntraFreqMeasurementSysInfo_RSCP(ctx, &pvalue->intraFreqMeasurementSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
+   }
+   /* interFreqMeasurementSysInfo */
+   if (pvalue->m & 0x2u) {
+      stat = enc_InterFreqMeasurementSysInfo_RSCP(ctx, &pvalue->interFreqMeasurementSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* intraFreqMeasurementSysInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IntraFreqMeasurementSysInfo_RSCP(ctx, &pvalue->intraFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
-   }
-   /* interFreqMeasurementSysInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_InterFreqMeasurementSysInfo_RSCP(ctx, &pvalue->interFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP, pvalue);
 }
 
-int asn1PE_UMTS_CellInfoSI_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellInfoSI_ECN0_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_CellInfoSI_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellInfoSI_ECN0_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    /* primaryCPICH-Info */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
+      stat = enc_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
       RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
    }
    /* primaryCPICH-TX-Power */
@@ -3143,68 +8603,78 @@ int asn1PE_UMTS_CellInfoSI_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx
       if (pvalue->primaryCPICH_TX_Power < -10 || pvalue->primaryCPICH_TX_Power > 50) {
          rtxErrAddStrParm(ctx, "PrimaryCPICH-TX-Power");
          rtxErrAddIntParm(ctx, pvalue->primaryCPICH_TX_Power);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
       }
-      stat = pe_ConsInt64(ctx, pvalue->primaryCPICH_TX_Power, -10, 50);
-      RT_CHECK(ctx, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
+      stat = pe_ConsInt64At(ctx, cur, pvalue->primaryCPICH_TX_Power, -10, 50);
+      RT_CHECK_PUT(ctx, cur, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
    }
    /* readSFN-Indicator */
-   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
+   stat = rtxEncBitAt(ctx, cur, pvalue->readSFN_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "readSFN-Indicator", -1, 0);
    /* tx-DiversityIndicator */
-   stat = rtxEncBit(ctx, pvalue->tx_DiversityIndicator);
-   RT_CHECK(ctx, stat, 0, "tx-DiversityIndicator", -1, 0);
+   stat = rtxEncBitAt(ctx, cur, pvalue->tx_DiversityIndicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tx-DiversityIndicator", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CellInfoSI_ECN0_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellInfoSI_ECN0_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CellInfoSI_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellInfoSI_ECN0_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellInfoSI_ECN0_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellInfoSI_ECN0_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellInfoSI_ECN0_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    /* primaryCCPCH-Info */
-   stat = asn1PE_UMTS_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info);
+   stat = enc_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info, cur);
    RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, 0);
    /* primaryCCPCH-TX-Power */
    if (pvalue->m & 0x1u) {
       if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
          rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
          rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
       }
-      stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->primaryCCPCH_TX_Power, 6, 43);
+      RT_CHECK_PUT(ctx, cur, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
    }
    /* timeslotInfoList */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_TimeslotInfoList(ctx, &pvalue->timeslotInfoList);
+      stat = enc_TimeslotInfoList(ctx, &pvalue->timeslotInfoList, cur);
       RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, 0);
    }
    /* readSFN-Indicator */
-   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
+   stat = rtxEncBitAt(ctx, cur, pvalue->readSFN_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "readSFN-Indicator", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CellInfoSI_ECN0_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellInfoSI_ECN0_modeSpecificInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CellInfoSI_ECN0_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellInfoSI_ECN0_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellInfoSI_ECN0_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellInfoSI_ECN0_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellInfoSI_ECN0_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_CellInfoSI_ECN0_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_CellInfoSI_ECN0_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
          RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_CellInfoSI_ECN0_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_CellInfoSI_ECN0_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
          RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
@@ -3213,98 +8683,118 @@ int asn1PE_UMTS_CellInfoSI_ECN0_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, co
    return 0;
 }
 
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CellInfoSI_ECN0_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellInfoSI_ECN0_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellInfoSI_ECN0_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    /* q-QualMin */
    if (pvalue->m & 0x1u) {
       if (pvalue->q_QualMin < -24 || pvalue->q_QualMin > 0) {
          rtxErrAddStrParm(ctx, "Q-QualMin");
          rtxErrAddIntParm(ctx, pvalue->q_QualMin);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-QualMin", "q-QualMin", -1, 0);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-QualMin", "q-QualMin", -1, 0);
       }
-      stat = pe_ConsInt64(ctx, pvalue->q_QualMin, -24, 0);
-      RT_CHECK(ctx, stat, "Q-QualMin", "q-QualMin", -1, 0);
+      stat = pe_ConsInt64At(ctx, cur, pvalue->q_QualMin, -24, 0);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-QualMin", "q-QualMin", -1, 0);
    }
    /* q-RxlevMin */
    if (pvalue->m & 0x2u) {
       if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
          rtxErrAddStrParm(ctx, "Q-RxlevMin");
          rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
       }
-      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      stat = pe_ConsInt64At(ctx, cur, pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* q-RxlevMin */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
+         rtxErrAddStrParm(ctx, "Q-RxlevMin");
+         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_gsm* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    /* q-RxlevMin */
    if (pvalue->m & 0x1u) {
       if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
          rtxErrAddStrParm(ctx, "Q-RxlevMin");
          rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
       }
-      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      stat = pe_ConsInt64At(ctx, cur, pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_gsm* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* q-RxlevMin */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
-         rtxErrAddStrParm(ctx, "Q-RxlevMin");
-         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_gsm, pvalue);
 }
 
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
          RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
          RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       case 3:
-         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm", -1, 0);
-         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_gsm(ctx, pvalue->u.gsm);
+         if (pvalue->u.gsm == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "gsm", -1, 0);
+         stat = enc_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_gsm(ctx, pvalue->u.gsm, cur);
          RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
          break;
       default:
@@ -3313,317 +8803,377 @@ int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo(rtxContext
    return 0;
 }
 
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_ECN0(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_ECN0* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo, pvalue);
+}
+
+static int enc_CellSelectReselectInfoSIB_11_12_ECN0(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellSelectReselectInfoSIB-11-12-ECN0");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellSelectReselectInfoSIB-11-12-ECN0");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->q_Offset1S_N != 0) << 2) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->q_Offset1S_N != 0) << 2) |
       ((uint64_t)(pvalue->q_Offset2S_N != 0) << 1) |
       ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellSelectReselectInfoSIB-11-12-ECN0");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CellSelectReselectInfoSIB-11-12-ECN0");
    /* q-Offset1S-N */
    if (pvalue->q_Offset1S_N != 0) {
       if (pvalue->q_Offset1S_N < -50 || pvalue->q_Offset1S_N > 50) {
          rtxErrAddStrParm(ctx, "Q-OffsetS-N");
          rtxErrAddIntParm(ctx, pvalue->q_Offset1S_N);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-OffsetS-N", "q-Offset1S-N", -1, "CellSelectReselectInfoSIB-11-12-ECN0");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-OffsetS-N", "q-Offset1S-N", -1, "CellSelectReselectInfoSIB-11-12-ECN0");
       }
-      stat = pe_ConsInt64(ctx, pvalue->q_Offset1S_N, -50, 50);
-      RT_CHECK(ctx, stat, "Q-OffsetS-N", "q-Offset1S-N", -1, "CellSelectReselectInfoSIB-11-12-ECN0");
+      stat = pe_ConsInt64At(ctx, cur, pvalue->q_Offset1S_N, -50, 50);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-OffsetS-N", "q-Offset1S-N", -1, "CellSelectReselectInfoSIB-11-12-ECN0");
    }
    /* q-Offset2S-N */
    if (pvalue->q_Offset2S_N != 0) {
       if (pvalue->q_Offset2S_N < -50 || pvalue->q_Offset2S_N > 50) {
          rtxErrAddStrParm(ctx, "Q-OffsetS-N");
          rtxErrAddIntParm(ctx, pvalue->q_Offset2S_N);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-OffsetS-N", "q-Offset2S-N", -1, "CellSelectReselectInfoSIB-11-12-ECN0");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-OffsetS-N", "q-Offset2S-N", -1, "CellSelectReselectInfoSIB-11-12-ECN0");
       }
-      stat = pe_ConsInt64(ctx, pvalue->q_Offset2S_N, -50, 50);
-      RT_CHECK(ctx, stat, "Q-OffsetS-N", "q-Offset2S-N", -1, "CellSelectReselectInfoSIB-11-12-ECN0");
+      stat = pe_ConsInt64At(ctx, cur, pvalue->q_Offset2S_N, -50, 50);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-OffsetS-N", "q-Offset2S-N", -1, "CellSelectReselectInfoSIB-11-12-ECN0");
    }
    /* maxAllowedUL-TX-Power */
    if (pvalue->m & 0x1u) {
       if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
          rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
          rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12-ECN0");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12-ECN0");
       }
-      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12-ECN0");
+      stat = pe_ConsInt64At(ctx, cur, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK_PUT(ctx, cur, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12-ECN0");
    }
    /* modeSpecificInfo */
-   stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   stat = enc_CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
    RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellSelectReselectInfoSIB-11-12-ECN0");
    return 0;
 }
 
-int asn1PE_UMTS_CellInfoSI_ECN0(rtxContext* RT_RESTRICT ctx, const CellInfoSI_ECN0* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_ECN0(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_ECN0* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellSelectReselectInfoSIB_11_12_ECN0, pvalue);
+}
+
+static int enc_CellInfoSI_ECN0(rtxContext* RT_RESTRICT ctx, const CellInfoSI_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellInfoSI-ECN0");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellInfoSI-ECN0");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->cellIndividualOffset != 0) << 2) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->cellIndividualOffset != 0) << 2) |
       ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellInfoSI-ECN0");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CellInfoSI-ECN0");
    /* cellIndividualOffset */
    if (pvalue->cellIndividualOffset != 0) {
       if (pvalue->cellIndividualOffset < -20 || pvalue->cellIndividualOffset > 20) {
          rtxErrAddStrParm(ctx, "CellIndividualOffset");
          rtxErrAddIntParm(ctx, pvalue->cellIndividualOffset);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-ECN0");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-ECN0");
       }
-      stat = pe_ConsInt64(ctx, pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-ECN0");
+      stat = pe_ConsInt64At(ctx, cur, pvalue->cellIndividualOffset, -20, 20);
+      RT_CHECK_PUT(ctx, cur, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-ECN0");
    }
    /* referenceTimeDifferenceToCell */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
+      stat = enc_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell, cur);
       RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-ECN0");
    }
    /* modeSpecificInfo */
-   stat = asn1PE_UMTS_CellInfoSI_ECN0_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   stat = enc_CellInfoSI_ECN0_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
    RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellInfoSI-ECN0");
    /* cellSelectionReselectionInfo */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_ECN0(ctx, &pvalue->cellSelectionReselectionInfo);
+      stat = enc_CellSelectReselectInfoSIB_11_12_ECN0(ctx, &pvalue->cellSelectionReselectionInfo, cur);
       RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-ECN0");
    }
    return 0;
 }
 
-int asn1PE_UMTS_NewIntraFreqCellSI_ECN0(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_ECN0* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CellInfoSI_ECN0(rtxContext* RT_RESTRICT ctx, const CellInfoSI_ECN0* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellInfoSI_ECN0, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewIntraFreqCellSI_ECN0(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-ECN0");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-ECN0");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-ECN0");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCellSI-ECN0");
    /* intraFreqCellID */
    if (pvalue->m & 0x1u) {
       if ((uint64_t)pvalue->intraFreqCellID > 31u) {
          rtxErrAddStrParm(ctx, "IntraFreqCellID");
          rtxErrAddUIntParm(ctx, pvalue->intraFreqCellID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-ECN0");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-ECN0");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-ECN0");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->intraFreqCellID, 0, 31);
+      RT_CHECK_PUT(ctx, cur, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-ECN0");
    }
    /* cellInfo */
-   stat = asn1PE_UMTS_CellInfoSI_ECN0(ctx, &pvalue->cellInfo);
+   stat = enc_CellInfoSI_ECN0(ctx, &pvalue->cellInfo, cur);
    RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-ECN0");
    return 0;
 }
 
-int asn1PE_UMTS_NewIntraFreqCellSI_List_ECN0(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_List_ECN0* RT_RESTRICT pvalue)
+int asn1PE_UMTS_NewIntraFreqCellSI_ECN0(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_ECN0* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewIntraFreqCellSI_ECN0, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewIntraFreqCellSI_List_ECN0(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_List_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-List-ECN0");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-List-ECN0");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-List-ECN0");
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCellSI-List-ECN0");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewIntraFreqCellSI-ECN0", (int32_t)i, "NewIntraFreqCellSI-List-ECN0");
-      stat = asn1PE_UMTS_NewIntraFreqCellSI_ECN0(ctx, (const NewIntraFreqCellSI_ECN0*)node->data);
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "NewIntraFreqCellSI-ECN0", (int32_t)i, "NewIntraFreqCellSI-List-ECN0");
+      stat = enc_NewIntraFreqCellSI_ECN0(ctx, (const NewIntraFreqCellSI_ECN0*)node->data, cur);
       RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-ECN0", (int32_t)i, "NewIntraFreqCellSI-List-ECN0");
    }
    return 0;
 }
 
-int asn1PE_UMTS_IntraFreqCellInfoSI_List_ECN0(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoSI_List_ECN0* RT_RESTRICT pvalue)
+int asn1PE_UMTS_NewIntraFreqCellSI_List_ECN0(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_List_ECN0* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewIntraFreqCellSI_List_ECN0, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFreqCellInfoSI_List_ECN0(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoSI_List_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqCellInfoSI-List-ECN0");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqCellInfoSI-List-ECN0");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-ECN0");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-ECN0");
    /* removedIntraFreqCellList */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
+      stat = enc_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList, cur);
       RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-ECN0");
    }
    /* newIntraFreqCellList */
-   stat = asn1PE_UMTS_NewIntraFreqCellSI_List_ECN0(ctx, &pvalue->newIntraFreqCellList);
+   stat = enc_NewIntraFreqCellSI_List_ECN0(ctx, &pvalue->newIntraFreqCellList, cur);
    RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-ECN0");
    return 0;
 }
 
-int asn1PE_UMTS_IntraFreqMeasurementSysInfo_ECN0(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasurementSysInfo_ECN0* RT_RESTRICT pvalue)
+int asn1PE_UMTS_IntraFreqCellInfoSI_List_ECN0(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoSI_List_ECN0* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqCellInfoSI_List_ECN0, pvalue);
+}
+
+static int enc_IntraFreqMeasurementSysInfo_ECN0(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasurementSysInfo_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqMeasurementSysInfo-ECN0");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqMeasurementSysInfo-ECN0");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->intraFreqMeasurementID != 1) << 5) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->intraFreqMeasurementID != 1) << 5) |
       ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-ECN0");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-ECN0");
    /* intraFreqMeasurementID */
    if (pvalue->intraFreqMeasurementID != 1) {
       if ((uint64_t)(pvalue->intraFreqMeasurementID - 1) > 15u) {
          rtxErrAddStrParm(ctx, "MeasurementIdentity");
          rtxErrAddUIntParm(ctx, pvalue->intraFreqMeasurementID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-ECN0");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-ECN0");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->intraFreqMeasurementID, 1, 16);
-      RT_CHECK(ctx, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-ECN0");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->intraFreqMeasurementID, 1, 16);
+      RT_CHECK_PUT(ctx, cur, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-ECN0");
    }
    /* intraFreqCellInfoSI-List */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IntraFreqCellInfoSI_List_ECN0(ctx, &pvalue->intraFreqCellInfoSI_List);
+      stat = enc_IntraFreqCellInfoSI_List_ECN0(ctx, &pvalue->intraFreqCellInfoSI_List, cur);
       RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-ECN0");
    }
    /* intraFreqMeasQuantity */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
+      stat = enc_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity, cur);
       RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-ECN0");
    }
    /* intraFreqReportingQuantityForRACH */
    if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
+      stat = enc_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH, cur);
       RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-ECN0");
    }
    /* maxReportedCellsOnRACH */
    if (pvalue->m & 0x8u) {
       if (pvalue->maxReportedCellsOnRACH > 7) {
          rtxErrAddUIntParm(ctx, pvalue->maxReportedCellsOnRACH);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-ECN0");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-ECN0");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->maxReportedCellsOnRACH, 0, 7);
-      RT_CHECK(ctx, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-ECN0");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->maxReportedCellsOnRACH, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-ECN0");
    }
    /* reportingInfoForCellDCH */
    if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_ReportingInfoForCellDCH(ctx, &pvalue->reportingInfoForCellDCH);
+      stat = enc_ReportingInfoForCellDCH(ctx, &pvalue->reportingInfoForCellDCH, cur);
       RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-ECN0");
    }
    return 0;
 }
 
-int asn1PE_UMTS_NewInterFreqCellSI_ECN0(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_ECN0* RT_RESTRICT pvalue)
+int asn1PE_UMTS_IntraFreqMeasurementSysInfo_ECN0(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasurementSysInfo_ECN0* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqMeasurementSysInfo_ECN0, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewInterFreqCellSI_ECN0(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-ECN0");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-ECN0");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-ECN0");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellSI-ECN0");
    /* interFreqCellID */
    if (pvalue->m & 0x1u) {
       if ((uint64_t)pvalue->interFreqCellID > 31u) {
          rtxErrAddStrParm(ctx, "InterFreqCellID");
          rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-ECN0");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-ECN0");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-ECN0");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->interFreqCellID, 0, 31);
+      RT_CHECK_PUT(ctx, cur, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-ECN0");
    }
    /* frequencyInfo */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
+      stat = enc_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
       RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-ECN0");
    }
    /* cellInfo */
-   stat = asn1PE_UMTS_CellInfoSI_ECN0(ctx, &pvalue->cellInfo);
+   stat = enc_CellInfoSI_ECN0(ctx, &pvalue->cellInfo, cur);
    RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-ECN0");
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCellSI_ECN0(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_ECN0* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewInterFreqCellSI_ECN0, pvalue);
+}
+
+static int enc_NewInterFreqCellSI_List_ECN0(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_List_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-List-ECN0");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellSI-List-ECN0");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "NewInterFreqCellSI-ECN0", (int32_t)i, "NewInterFreqCellSI-List-ECN0");
+      stat = enc_NewInterFreqCellSI_ECN0(ctx, (const NewInterFreqCellSI_ECN0*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-ECN0", (int32_t)i, "NewInterFreqCellSI-List-ECN0");
+   }
    return 0;
 }
 
 int asn1PE_UMTS_NewInterFreqCellSI_List_ECN0(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_List_ECN0* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_NewInterFreqCellSI_List_ECN0, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqCellInfoSI_List_ECN0(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoSI_List_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-List-ECN0");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-List-ECN0");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewInterFreqCellSI-ECN0", (int32_t)i, "NewInterFreqCellSI-List-ECN0");
-      stat = asn1PE_UMTS_NewInterFreqCellSI_ECN0(ctx, (const NewInterFreqCellSI_ECN0*)node->data);
-      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-ECN0", (int32_t)i, "NewInterFreqCellSI-List-ECN0");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellInfoSI-List-ECN0");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterFreqCellInfoSI-List-ECN0");
+   /* removedInterFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-ECN0");
+   }
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_NewInterFreqCellSI_List_ECN0(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-ECN0");
    }
    return 0;
 }
 
 int asn1PE_UMTS_InterFreqCellInfoSI_List_ECN0(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoSI_List_ECN0* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqCellInfoSI_List_ECN0, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqMeasurementSysInfo_ECN0(rtxContext* RT_RESTRICT ctx, const InterFreqMeasurementSysInfo_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellInfoSI-List-ECN0");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqMeasurementSysInfo-ECN0");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoSI-List-ECN0");
-   /* removedInterFreqCellList */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-ECN0");
+   /* interFreqCellInfoSI-List */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-ECN0");
-   }
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_NewInterFreqCellSI_List_ECN0(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-ECN0");
+      stat = enc_InterFreqCellInfoSI_List_ECN0(ctx, &pvalue->interFreqCellInfoSI_List, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-ECN0");
    }
    return 0;
 }
 
 int asn1PE_UMTS_InterFreqMeasurementSysInfo_ECN0(rtxContext* RT_RESTRICT ctx, const InterFreqMeasurementSysInfo_ECN0* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqMeasurementSysInfo_ECN0, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqMeasurementSysInfo-ECN0");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-ECN0");
-   /* interFreqCellInfoSI-List */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* intraFreqMeasurementSysInfo */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_InterFreqCellInfoSI_List_ECN0(ctx, &pvalue->interFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-ECN0");
+      stat = enc_IntraFreqMeasurementSysInfo_ECN0(ctx, &pvalue->intraFreqMeasurementSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
+   }
+   /* interFreqMeasurementSysInfo */
+   if (pvalue->m & 0x2u) {
+      stat = enc_InterFreqMeasurementSysInfo_ECN0(ctx, &pvalue->interFreqMeasurementSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* intraFreqMeasurementSysInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IntraFreqMeasurementSysInfo_ECN0(ctx, &pvalue->intraFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
-   }
-   /* interFreqMeasurementSysInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_InterFreqMeasurementSysInfo_ECN0(ctx, &pvalue->interFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0, pvalue);
 }
 
-int asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.cpich_RSCP == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cpich-RSCP", -1, 0);
-         stat = asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
+         if (pvalue->u.cpich_RSCP == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "cpich-RSCP", -1, 0);
+         stat = enc_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP, cur);
          RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
          break;
       case 2:
-         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cpich-Ec-N0", -1, 0);
-         stat = asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
+         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "cpich-Ec-N0", -1, 0);
+         stat = enc_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0, cur);
          RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
          break;
       default:
@@ -3632,52 +9182,67 @@ int asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQual
    return 0;
 }
 
-int asn1PE_UMTS_InterRATCellID(rtxContext* RT_RESTRICT ctx, InterRATCellID value)
+int asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterRATCellID(rtxContext* RT_RESTRICT ctx, InterRATCellID value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)value > 31u) {
       rtxErrAddStrParm(ctx, "InterRATCellID");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "InterRATCellID");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "InterRATCellID");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATCellID");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterRATCellID");
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATCellID(rtxContext* RT_RESTRICT ctx, InterRATCellID value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterRATCellID, value);
+}
+
+RT_MERGED_BODY int enc_RemovedInterRATCellList_removeSomeInterRATCells(rtxContext* RT_RESTRICT ctx, const RemovedInterRATCellList_removeSomeInterRATCells* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 31u) {
+         rtxErrAddStrParm(ctx, "InterRATCellID");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "InterRATCellID", "InterRATCellID", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 31);
+      RT_CHECK_PUT(ctx, cur, stat, "InterRATCellID", "InterRATCellID", (int32_t)i, 0);
+   }
    return 0;
 }
 
 int asn1PE_UMTS_RemovedInterRATCellList_removeSomeInterRATCells(rtxContext* RT_RESTRICT ctx, const RemovedInterRATCellList_removeSomeInterRATCells* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)pvalue->elem[i] > 31u) {
-         rtxErrAddStrParm(ctx, "InterRATCellID");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterRATCellID", "InterRATCellID", (int32_t)i, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 31);
-      RT_CHECK(ctx, stat, "InterRATCellID", "InterRATCellID", (int32_t)i, 0);
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_RemovedInterRATCellList_removeSomeInterRATCells, pvalue);
 }
 
-int asn1PE_UMTS_RemovedInterRATCellList(rtxContext* RT_RESTRICT ctx, const RemovedInterRATCellList* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_RemovedInterRATCellList(rtxContext* RT_RESTRICT ctx, const RemovedInterRATCellList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RemovedInterRATCellList");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "RemovedInterRATCellList");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RemovedInterRATCellList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RemovedInterRATCellList");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "RemovedInterRATCellList");
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "RemovedInterRATCellList");
    switch (pvalue->t) {
       case 1:
          break;
       case 2:
-         if (pvalue->u.removeSomeInterRATCells == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "removeSomeInterRATCells", -1, "RemovedInterRATCellList");
-         stat = asn1PE_UMTS_RemovedInterRATCellList_removeSomeInterRATCells(ctx, pvalue->u.removeSomeInterRATCells);
+         if (pvalue->u.removeSomeInterRATCells == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "removeSomeInterRATCells", -1, "RemovedInterRATCellList");
+         stat = enc_RemovedInterRATCellList_removeSomeInterRATCells(ctx, pvalue->u.removeSomeInterRATCells, cur);
          RT_CHECK(ctx, stat, 0, "removeSomeInterRATCells", -1, "RemovedInterRATCellList");
          break;
       case 3:
@@ -3688,5326 +9253,148 @@ int asn1PE_UMTS_RemovedInterRATCellList(rtxContext* RT_RESTRICT ctx, const Remov
    return 0;
 }
 
-int asn1PE_UMTS_TemporaryOffset1(rtxContext* RT_RESTRICT ctx, TemporaryOffset1 value)
+int asn1PE_UMTS_RemovedInterRATCellList(rtxContext* RT_RESTRICT ctx, const RemovedInterRATCellList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RemovedInterRATCellList, pvalue);
+}
+
+RT_MERGED_BODY int enc_TemporaryOffset1(rtxContext* RT_RESTRICT ctx, TemporaryOffset1 value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TemporaryOffset1");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TemporaryOffset1");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TemporaryOffset1");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TemporaryOffset1");
    return 0;
 }
 
-int asn1PE_UMTS_PenaltyTime_RSCP(rtxContext* RT_RESTRICT ctx, const PenaltyTime_RSCP* RT_RESTRICT pvalue)
+int asn1PE_UMTS_TemporaryOffset1(rtxContext* RT_RESTRICT ctx, TemporaryOffset1 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TemporaryOffset1, value);
+}
+
+RT_MERGED_BODY int enc_PenaltyTime_RSCP(rtxContext* RT_RESTRICT ctx, const PenaltyTime_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PenaltyTime-RSCP");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
-   RT_CHECK(ctx, stat, 0, "t", -1, "PenaltyTime-RSCP");
-   if (pvalue->t - 1 > 6) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PenaltyTime-RSCP");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PenaltyTime-RSCP");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "PenaltyTime-RSCP");
+   if (pvalue->t - 1 > 6) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "PenaltyTime-RSCP");
    switch (pvalue->t) {
       case 1:
          break;
       case 2:
          if (pvalue->u.pt10 > 7) {
             rtxErrAddUIntParm(ctx, pvalue->u.pt10);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "TemporaryOffset1", "pt10", -1, "PenaltyTime-RSCP");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TemporaryOffset1", "pt10", -1, "PenaltyTime-RSCP");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.pt10, 0, 7);
-         RT_CHECK(ctx, stat, "TemporaryOffset1", "pt10", -1, "PenaltyTime-RSCP");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.pt10, 0, 7);
+         RT_CHECK_PUT(ctx, cur, stat, "TemporaryOffset1", "pt10", -1, "PenaltyTime-RSCP");
          break;
       case 3:
          if (pvalue->u.pt20 > 7) {
             rtxErrAddUIntParm(ctx, pvalue->u.pt20);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "TemporaryOffset1", "pt20", -1, "PenaltyTime-RSCP");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TemporaryOffset1", "pt20", -1, "PenaltyTime-RSCP");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.pt20, 0, 7);
-         RT_CHECK(ctx, stat, "TemporaryOffset1", "pt20", -1, "PenaltyTime-RSCP");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.pt20, 0, 7);
+         RT_CHECK_PUT(ctx, cur, stat, "TemporaryOffset1", "pt20", -1, "PenaltyTime-RSCP");
          break;
       case 4:
          if (pvalue->u.pt30 > 7) {
             rtxErrAddUIntParm(ctx, pvalue->u.pt30);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "TemporaryOffset1", "pt30", -1, "PenaltyTime-RSCP");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TemporaryOffset1", "pt30", -1, "PenaltyTime-RSCP");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.pt30, 0, 7);
-         RT_CHECK(ctx, stat, "TemporaryOffset1", "pt30", -1, "PenaltyTime-RSCP");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.pt30, 0, 7);
+         RT_CHECK_PUT(ctx, cur, stat, "TemporaryOffset1", "pt30", -1, "PenaltyTime-RSCP");
          break;
       case 5:
          if (pvalue->u.pt40 > 7) {
             rtxErrAddUIntParm(ctx, pvalue->u.pt40);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "TemporaryOffset1", "pt40", -1, "PenaltyTime-RSCP");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TemporaryOffset1", "pt40", -1, "PenaltyTime-RSCP");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.pt40, 0, 7);
-         RT_CHECK(ctx, stat, "TemporaryOffset1", "pt40", -1, "PenaltyTime-RSCP");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.pt40, 0, 7);
+         RT_CHECK_PUT(ctx, cur, stat, "TemporaryOffset1", "pt40", -1, "PenaltyTime-RSCP");
          break;
       case 6:
          if (pvalue->u.pt50 > 7) {
             rtxErrAddUIntParm(ctx, pvalue->u.pt50);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "TemporaryOffset1", "pt50", -1, "PenaltyTime-RSCP");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TemporaryOffset1", "pt50", -1, "PenaltyTime-RSCP");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.pt50, 0, 7);
-         RT_CHECK(ctx, stat, "TemporaryOffset1", "pt50", -1, "PenaltyTime-RSCP");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.pt50, 0, 7);
+         RT_CHECK_PUT(ctx, cur, stat, "TemporaryOffset1", "pt50", -1, "PenaltyTime-RSCP");
          break;
       case 7:
          if (pvalue->u.pt60 > 7) {
             rtxErrAddUIntParm(ctx, pvalue->u.pt60);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "TemporaryOffset1", "pt60", -1, "PenaltyTime-RSCP");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TemporaryOffset1", "pt60", -1, "PenaltyTime-RSCP");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.pt60, 0, 7);
-         RT_CHECK(ctx, stat, "TemporaryOffset1", "pt60", -1, "PenaltyTime-RSCP");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.pt60, 0, 7);
+         RT_CHECK_PUT(ctx, cur, stat, "TemporaryOffset1", "pt60", -1, "PenaltyTime-RSCP");
          break;
       default:
          break;
    }
+   return 0;
+}
+
+int asn1PE_UMTS_PenaltyTime_RSCP(rtxContext* RT_RESTRICT ctx, const PenaltyTime_RSCP* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PenaltyTime_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int enc_HCS_CellReselectInformation_RSCP(rtxContext* RT_RESTRICT ctx, const HCS_CellReselectInformation_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HCS-CellReselectInformation-RSCP");
+   /* penaltyTime */
+   stat = enc_PenaltyTime_RSCP(ctx, &pvalue->penaltyTime, cur);
+   RT_CHECK(ctx, stat, 0, "penaltyTime", -1, "HCS-CellReselectInformation-RSCP");
    return 0;
 }
 
 int asn1PE_UMTS_HCS_CellReselectInformation_RSCP(rtxContext* RT_RESTRICT ctx, const HCS_CellReselectInformation_RSCP* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_HCS_CellReselectInformation_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int enc_HCS_NeighbouringCellInformation_RSCP(rtxContext* RT_RESTRICT ctx, const HCS_NeighbouringCellInformation_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HCS-CellReselectInformation-RSCP");
-   /* penaltyTime */
-   stat = asn1PE_UMTS_PenaltyTime_RSCP(ctx, &pvalue->penaltyTime);
-   RT_CHECK(ctx, stat, 0, "penaltyTime", -1, "HCS-CellReselectInformation-RSCP");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HCS-NeighbouringCellInformation-RSCP");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->hcs_PRIO != 0) << 1) |
+      ((uint64_t)(pvalue->q_HCS != 0) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "HCS-NeighbouringCellInformation-RSCP");
+   /* hcs-PRIO */
+   if (pvalue->hcs_PRIO != 0) {
+      if ((uint64_t)pvalue->hcs_PRIO > 7u) {
+         rtxErrAddStrParm(ctx, "HCS-PRIO");
+         rtxErrAddUIntParm(ctx, pvalue->hcs_PRIO);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HCS-PRIO", "hcs-PRIO", -1, "HCS-NeighbouringCellInformation-RSCP");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->hcs_PRIO, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "HCS-PRIO", "hcs-PRIO", -1, "HCS-NeighbouringCellInformation-RSCP");
+   }
+   /* q-HCS */
+   if (pvalue->q_HCS != 0) {
+      if ((uint64_t)pvalue->q_HCS > 99u) {
+         rtxErrAddStrParm(ctx, "Q-HCS");
+         rtxErrAddUIntParm(ctx, pvalue->q_HCS);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-HCS", "q-HCS", -1, "HCS-NeighbouringCellInformation-RSCP");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->q_HCS, 0, 99);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-HCS", "q-HCS", -1, "HCS-NeighbouringCellInformation-RSCP");
+   }
+   /* hcs-CellReselectInformation */
+   stat = enc_HCS_CellReselectInformation_RSCP(ctx, &pvalue->hcs_CellReselectInformation, cur);
+   RT_CHECK(ctx, stat, 0, "hcs-CellReselectInformation", -1, "HCS-NeighbouringCellInformation-RSCP");
    return 0;
 }
 
 int asn1PE_UMTS_HCS_NeighbouringCellInformation_RSCP(rtxContext* RT_RESTRICT ctx, const HCS_NeighbouringCellInformation_RSCP* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HCS-NeighbouringCellInformation-RSCP");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->hcs_PRIO != 0) << 1) |
-      ((uint64_t)(pvalue->q_HCS != 0) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HCS-NeighbouringCellInformation-RSCP");
-   /* hcs-PRIO */
-   if (pvalue->hcs_PRIO != 0) {
-      if ((uint64_t)pvalue->hcs_PRIO > 7u) {
-         rtxErrAddStrParm(ctx, "HCS-PRIO");
-         rtxErrAddUIntParm(ctx, pvalue->hcs_PRIO);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "HCS-PRIO", "hcs-PRIO", -1, "HCS-NeighbouringCellInformation-RSCP");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hcs_PRIO, 0, 7);
-      RT_CHECK(ctx, stat, "HCS-PRIO", "hcs-PRIO", -1, "HCS-NeighbouringCellInformation-RSCP");
-   }
-   /* q-HCS */
-   if (pvalue->q_HCS != 0) {
-      if ((uint64_t)pvalue->q_HCS > 99u) {
-         rtxErrAddStrParm(ctx, "Q-HCS");
-         rtxErrAddUIntParm(ctx, pvalue->q_HCS);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-HCS", "q-HCS", -1, "HCS-NeighbouringCellInformation-RSCP");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->q_HCS, 0, 99);
-      RT_CHECK(ctx, stat, "Q-HCS", "q-HCS", -1, "HCS-NeighbouringCellInformation-RSCP");
-   }
-   /* hcs-CellReselectInformation */
-   stat = asn1PE_UMTS_HCS_CellReselectInformation_RSCP(ctx, &pvalue->hcs_CellReselectInformation);
-   RT_CHECK(ctx, stat, 0, "hcs-CellReselectInformation", -1, "HCS-NeighbouringCellInformation-RSCP");
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* q-QualMin */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->q_QualMin < -24 || pvalue->q_QualMin > 0) {
-         rtxErrAddStrParm(ctx, "Q-QualMin");
-         rtxErrAddIntParm(ctx, pvalue->q_QualMin);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-QualMin", "q-QualMin", -1, 0);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_QualMin, -24, 0);
-      RT_CHECK(ctx, stat, "Q-QualMin", "q-QualMin", -1, 0);
-   }
-   /* q-RxlevMin */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
-         rtxErrAddStrParm(ctx, "Q-RxlevMin");
-         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* q-RxlevMin */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
-         rtxErrAddStrParm(ctx, "Q-RxlevMin");
-         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* q-RxlevMin */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
-         rtxErrAddStrParm(ctx, "Q-RxlevMin");
-         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      case 3:
-         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm", -1, 0);
-         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellSelectReselectInfoSIB-11-12");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->q_Offset1S_N != 0) << 3) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellSelectReselectInfoSIB-11-12");
-   /* q-Offset1S-N */
-   if (pvalue->q_Offset1S_N != 0) {
-      if (pvalue->q_Offset1S_N < -50 || pvalue->q_Offset1S_N > 50) {
-         rtxErrAddStrParm(ctx, "Q-OffsetS-N");
-         rtxErrAddIntParm(ctx, pvalue->q_Offset1S_N);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-OffsetS-N", "q-Offset1S-N", -1, "CellSelectReselectInfoSIB-11-12");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_Offset1S_N, -50, 50);
-      RT_CHECK(ctx, stat, "Q-OffsetS-N", "q-Offset1S-N", -1, "CellSelectReselectInfoSIB-11-12");
-   }
-   /* q-Offset2S-N */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->q_Offset2S_N < -50 || pvalue->q_Offset2S_N > 50) {
-         rtxErrAddStrParm(ctx, "Q-OffsetS-N");
-         rtxErrAddIntParm(ctx, pvalue->q_Offset2S_N);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-OffsetS-N", "q-Offset2S-N", -1, "CellSelectReselectInfoSIB-11-12");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_Offset2S_N, -50, 50);
-      RT_CHECK(ctx, stat, "Q-OffsetS-N", "q-Offset2S-N", -1, "CellSelectReselectInfoSIB-11-12");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
-         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12");
-   }
-   /* hcs-NeighbouringCellInformation-RSCP */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_HCS_NeighbouringCellInformation_RSCP(ctx, &pvalue->hcs_NeighbouringCellInformation_RSCP);
-      RT_CHECK(ctx, stat, 0, "hcs-NeighbouringCellInformation-RSCP", -1, "CellSelectReselectInfoSIB-11-12");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellSelectReselectInfoSIB-11-12");
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATCellIndividualOffset(rtxContext* RT_RESTRICT ctx, InterRATCellIndividualOffset value)
-{
-   int stat = 0;
-   if (value < -50 || value > 50) {
-      rtxErrAddStrParm(ctx, "InterRATCellIndividualOffset");
-      rtxErrAddIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "InterRATCellIndividualOffset");
-   }
-   stat = pe_ConsInt64(ctx, value, -50, 50);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATCellIndividualOffset");
-   return 0;
-}
-
-int asn1PE_UMTS_NCC(rtxContext* RT_RESTRICT ctx, NCC value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 7u) {
-      rtxErrAddStrParm(ctx, "NCC");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "NCC");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NCC");
-   return 0;
-}
-
-int asn1PE_UMTS_BCC(rtxContext* RT_RESTRICT ctx, BCC value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 7u) {
-      rtxErrAddStrParm(ctx, "BCC");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "BCC");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "BCC");
-   return 0;
-}
-
-int asn1PE_UMTS_BSIC(rtxContext* RT_RESTRICT ctx, const BSIC* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "BSIC");
-   /* ncc */
-   if ((uint64_t)pvalue->ncc > 7u) {
-      rtxErrAddStrParm(ctx, "NCC");
-      rtxErrAddUIntParm(ctx, pvalue->ncc);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "NCC", "ncc", -1, "BSIC");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ncc, 0, 7);
-   RT_CHECK(ctx, stat, "NCC", "ncc", -1, "BSIC");
-   /* bcc */
-   if ((uint64_t)pvalue->bcc > 7u) {
-      rtxErrAddStrParm(ctx, "BCC");
-      rtxErrAddUIntParm(ctx, pvalue->bcc);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "BCC", "bcc", -1, "BSIC");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->bcc, 0, 7);
-   RT_CHECK(ctx, stat, "BCC", "bcc", -1, "BSIC");
-   return 0;
-}
-
-int asn1PE_UMTS_Frequency_Band(rtxContext* RT_RESTRICT ctx, Frequency_Band value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "Frequency-Band");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Frequency-Band");
-   return 0;
-}
-
-int asn1PE_UMTS_BCCH_ARFCN(rtxContext* RT_RESTRICT ctx, BCCH_ARFCN value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 1023u) {
-      rtxErrAddStrParm(ctx, "BCCH-ARFCN");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "BCCH-ARFCN");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1023);
-   RT_CHECK(ctx, stat, 0, 0, -1, "BCCH-ARFCN");
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterRATCell_B_technologySpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const NewInterRATCell_B_technologySpecificInfo_gsm* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellSelectionReselectionInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, 0);
-   }
-   /* interRATCellIndividualOffset */
-   if (pvalue->interRATCellIndividualOffset < -50 || pvalue->interRATCellIndividualOffset > 50) {
-      rtxErrAddStrParm(ctx, "InterRATCellIndividualOffset");
-      rtxErrAddIntParm(ctx, pvalue->interRATCellIndividualOffset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "InterRATCellIndividualOffset", "interRATCellIndividualOffset", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->interRATCellIndividualOffset, -50, 50);
-   RT_CHECK(ctx, stat, "InterRATCellIndividualOffset", "interRATCellIndividualOffset", -1, 0);
-   /* bsic */
-   stat = asn1PE_UMTS_BSIC(ctx, &pvalue->bsic);
-   RT_CHECK(ctx, stat, 0, "bsic", -1, 0);
-   /* frequency-band */
-   if (pvalue->frequency_band > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->frequency_band);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "Frequency-Band", "frequency-band", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->frequency_band, 0, 1);
-   RT_CHECK(ctx, stat, "Frequency-Band", "frequency-band", -1, 0);
-   /* bcch-ARFCN */
-   if ((uint64_t)pvalue->bcch_ARFCN > 1023u) {
-      rtxErrAddStrParm(ctx, "BCCH-ARFCN");
-      rtxErrAddUIntParm(ctx, pvalue->bcch_ARFCN);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "BCCH-ARFCN", "bcch-ARFCN", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->bcch_ARFCN, 0, 1023);
-   RT_CHECK(ctx, stat, "BCCH-ARFCN", "bcch-ARFCN", -1, 0);
-   /* dummy */
-   if (pvalue->m & 0x2u) {
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IS_2000SpecificMeasInfo(rtxContext* RT_RESTRICT ctx, IS_2000SpecificMeasInfo value)
-{
-   int stat = 0;
-   if (value > 4) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "IS-2000SpecificMeasInfo");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IS-2000SpecificMeasInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterRATCell_B_technologySpecificInfo_is_2000(rtxContext* RT_RESTRICT ctx, const NewInterRATCell_B_technologySpecificInfo_is_2000* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* is-2000SpecificMeasInfo */
-   if (pvalue->is_2000SpecificMeasInfo > 4) {
-      rtxErrAddUIntParm(ctx, pvalue->is_2000SpecificMeasInfo);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "IS-2000SpecificMeasInfo", "is-2000SpecificMeasInfo", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->is_2000SpecificMeasInfo, 0, 4);
-   RT_CHECK(ctx, stat, "IS-2000SpecificMeasInfo", "is-2000SpecificMeasInfo", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterRATCell_B_technologySpecificInfo(rtxContext* RT_RESTRICT ctx, const NewInterRATCell_B_technologySpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm", -1, 0);
-         stat = asn1PE_UMTS_NewInterRATCell_B_technologySpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.is_2000 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "is-2000", -1, 0);
-         stat = asn1PE_UMTS_NewInterRATCell_B_technologySpecificInfo_is_2000(ctx, pvalue->u.is_2000);
-         RT_CHECK(ctx, stat, 0, "is-2000", -1, 0);
-         break;
-      case 3:
-         break;
-      case 4:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterRATCell_B(rtxContext* RT_RESTRICT ctx, const NewInterRATCell_B* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterRATCell-B");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterRATCell-B");
-   /* interRATCellID */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->interRATCellID > 31u) {
-         rtxErrAddStrParm(ctx, "InterRATCellID");
-         rtxErrAddUIntParm(ctx, pvalue->interRATCellID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterRATCellID", "interRATCellID", -1, "NewInterRATCell-B");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->interRATCellID, 0, 31);
-      RT_CHECK(ctx, stat, "InterRATCellID", "interRATCellID", -1, "NewInterRATCell-B");
-   }
-   /* technologySpecificInfo */
-   stat = asn1PE_UMTS_NewInterRATCell_B_technologySpecificInfo(ctx, &pvalue->technologySpecificInfo);
-   RT_CHECK(ctx, stat, 0, "technologySpecificInfo", -1, "NewInterRATCell-B");
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterRATCellList_B(rtxContext* RT_RESTRICT ctx, const NewInterRATCellList_B* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterRATCellList-B");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewInterRATCellList-B");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewInterRATCell-B", (int32_t)i, "NewInterRATCellList-B");
-      stat = asn1PE_UMTS_NewInterRATCell_B(ctx, (const NewInterRATCell_B*)node->data);
-      RT_CHECK(ctx, stat, 0, "NewInterRATCell-B", (int32_t)i, "NewInterRATCellList-B");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATCellInfoList_B(rtxContext* RT_RESTRICT ctx, const InterRATCellInfoList_B* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATCellInfoList-B");
-   /* removedInterRATCellList */
-   stat = asn1PE_UMTS_RemovedInterRATCellList(ctx, &pvalue->removedInterRATCellList);
-   RT_CHECK(ctx, stat, 0, "removedInterRATCellList", -1, "InterRATCellInfoList-B");
-   /* newInterRATCellList */
-   stat = asn1PE_UMTS_NewInterRATCellList_B(ctx, &pvalue->newInterRATCellList);
-   RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, "InterRATCellInfoList-B");
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATMeasurementSysInfo_B(rtxContext* RT_RESTRICT ctx, const InterRATMeasurementSysInfo_B* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATMeasurementSysInfo-B");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATMeasurementSysInfo-B");
-   /* interRATCellInfoList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_InterRATCellInfoList_B(ctx, &pvalue->interRATCellInfoList);
-      RT_CHECK(ctx, stat, 0, "interRATCellInfoList", -1, "InterRATMeasurementSysInfo-B");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_not_used* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellSelectQualityMeasure */
-   stat = asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
-   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
-   /* interRATMeasurementSysInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_InterRATMeasurementSysInfo_B(ctx, &pvalue->interRATMeasurementSysInfo);
-      RT_CHECK(ctx, stat, 0, "interRATMeasurementSysInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* primaryCPICH-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   }
-   /* primaryCPICH-TX-Power */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->primaryCPICH_TX_Power < -10 || pvalue->primaryCPICH_TX_Power > 50) {
-         rtxErrAddStrParm(ctx, "PrimaryCPICH-TX-Power");
-         rtxErrAddIntParm(ctx, pvalue->primaryCPICH_TX_Power);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->primaryCPICH_TX_Power, -10, 50);
-      RT_CHECK(ctx, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
-   }
-   /* readSFN-Indicator */
-   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
-   /* tx-DiversityIndicator */
-   stat = rtxEncBit(ctx, pvalue->tx_DiversityIndicator);
-   RT_CHECK(ctx, stat, 0, "tx-DiversityIndicator", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* primaryCCPCH-Info */
-   stat = asn1PE_UMTS_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, 0);
-   /* primaryCCPCH-TX-Power */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-         rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
-         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-   }
-   /* timeslotInfoList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_TimeslotInfoList(ctx, &pvalue->timeslotInfoList);
-      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, 0);
-   }
-   /* readSFN-Indicator */
-   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_RSCP_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* q-QualMin */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->q_QualMin < -24 || pvalue->q_QualMin > 0) {
-         rtxErrAddStrParm(ctx, "Q-QualMin");
-         rtxErrAddIntParm(ctx, pvalue->q_QualMin);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-QualMin", "q-QualMin", -1, 0);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_QualMin, -24, 0);
-      RT_CHECK(ctx, stat, "Q-QualMin", "q-QualMin", -1, 0);
-   }
-   /* q-RxlevMin */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
-         rtxErrAddStrParm(ctx, "Q-RxlevMin");
-         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* q-RxlevMin */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
-         rtxErrAddStrParm(ctx, "Q-RxlevMin");
-         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_gsm* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* q-RxlevMin */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
-         rtxErrAddStrParm(ctx, "Q-RxlevMin");
-         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      case 3:
-         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm", -1, 0);
-         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_RSCP* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellSelectReselectInfoSIB-11-12-HCS-RSCP");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->q_OffsetS_N != 0) << 2) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellSelectReselectInfoSIB-11-12-HCS-RSCP");
-   /* q-OffsetS-N */
-   if (pvalue->q_OffsetS_N != 0) {
-      if (pvalue->q_OffsetS_N < -50 || pvalue->q_OffsetS_N > 50) {
-         rtxErrAddStrParm(ctx, "Q-OffsetS-N");
-         rtxErrAddIntParm(ctx, pvalue->q_OffsetS_N);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-OffsetS-N", "q-OffsetS-N", -1, "CellSelectReselectInfoSIB-11-12-HCS-RSCP");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_OffsetS_N, -50, 50);
-      RT_CHECK(ctx, stat, "Q-OffsetS-N", "q-OffsetS-N", -1, "CellSelectReselectInfoSIB-11-12-HCS-RSCP");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
-         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12-HCS-RSCP");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12-HCS-RSCP");
-   }
-   /* hcs-NeighbouringCellInformation-RSCP */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_HCS_NeighbouringCellInformation_RSCP(ctx, &pvalue->hcs_NeighbouringCellInformation_RSCP);
-      RT_CHECK(ctx, stat, 0, "hcs-NeighbouringCellInformation-RSCP", -1, "CellSelectReselectInfoSIB-11-12-HCS-RSCP");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellSelectReselectInfoSIB-11-12-HCS-RSCP");
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfoSI_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_RSCP* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellInfoSI-HCS-RSCP");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->cellIndividualOffset != 0) << 2) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellInfoSI-HCS-RSCP");
-   /* cellIndividualOffset */
-   if (pvalue->cellIndividualOffset != 0) {
-      if (pvalue->cellIndividualOffset < -20 || pvalue->cellIndividualOffset > 20) {
-         rtxErrAddStrParm(ctx, "CellIndividualOffset");
-         rtxErrAddIntParm(ctx, pvalue->cellIndividualOffset);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-HCS-RSCP");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-HCS-RSCP");
-   }
-   /* referenceTimeDifferenceToCell */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
-      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-HCS-RSCP");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellInfoSI-HCS-RSCP");
-   /* cellSelectionReselectionInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-HCS-RSCP");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCellSI_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_HCS_RSCP* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-HCS-RSCP");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-HCS-RSCP");
-   /* intraFreqCellID */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->intraFreqCellID > 31u) {
-         rtxErrAddStrParm(ctx, "IntraFreqCellID");
-         rtxErrAddUIntParm(ctx, pvalue->intraFreqCellID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-HCS-RSCP");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-HCS-RSCP");
-   }
-   /* cellInfo */
-   stat = asn1PE_UMTS_CellInfoSI_HCS_RSCP(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-HCS-RSCP");
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCellSI_List_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_List_HCS_RSCP* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-List-HCS-RSCP");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-List-HCS-RSCP");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewIntraFreqCellSI-HCS-RSCP", (int32_t)i, "NewIntraFreqCellSI-List-HCS-RSCP");
-      stat = asn1PE_UMTS_NewIntraFreqCellSI_HCS_RSCP(ctx, (const NewIntraFreqCellSI_HCS_RSCP*)node->data);
-      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-HCS-RSCP", (int32_t)i, "NewIntraFreqCellSI-List-HCS-RSCP");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqCellInfoSI_List_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoSI_List_HCS_RSCP* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqCellInfoSI-List-HCS-RSCP");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-HCS-RSCP");
-   /* removedIntraFreqCellList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-RSCP");
-   }
-   /* newIntraFreqCellList */
-   stat = asn1PE_UMTS_NewIntraFreqCellSI_List_HCS_RSCP(ctx, &pvalue->newIntraFreqCellList);
-   RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-RSCP");
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqMeasurementSysInfo_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasurementSysInfo_HCS_RSCP* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->intraFreqMeasurementID != 1) << 5) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
-   /* intraFreqMeasurementID */
-   if (pvalue->intraFreqMeasurementID != 1) {
-      if ((uint64_t)(pvalue->intraFreqMeasurementID - 1) > 15u) {
-         rtxErrAddStrParm(ctx, "MeasurementIdentity");
-         rtxErrAddUIntParm(ctx, pvalue->intraFreqMeasurementID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->intraFreqMeasurementID, 1, 16);
-      RT_CHECK(ctx, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
-   }
-   /* intraFreqCellInfoSI-List */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IntraFreqCellInfoSI_List_HCS_RSCP(ctx, &pvalue->intraFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
-   }
-   /* intraFreqMeasQuantity */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
-   }
-   /* intraFreqReportingQuantityForRACH */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
-      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
-   }
-   /* maxReportedCellsOnRACH */
-   if (pvalue->m & 0x8u) {
-      if (pvalue->maxReportedCellsOnRACH > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->maxReportedCellsOnRACH);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->maxReportedCellsOnRACH, 0, 7);
-      RT_CHECK(ctx, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
-   }
-   /* reportingInfoForCellDCH */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_ReportingInfoForCellDCH(ctx, &pvalue->reportingInfoForCellDCH);
-      RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCellSI_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_HCS_RSCP* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-HCS-RSCP");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-HCS-RSCP");
-   /* interFreqCellID */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->interFreqCellID > 31u) {
-         rtxErrAddStrParm(ctx, "InterFreqCellID");
-         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-HCS-RSCP");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-HCS-RSCP");
-   }
-   /* frequencyInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-HCS-RSCP");
-   }
-   /* cellInfo */
-   stat = asn1PE_UMTS_CellInfoSI_HCS_RSCP(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-HCS-RSCP");
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCellSI_List_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_List_HCS_RSCP* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-List-HCS-RSCP");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-List-HCS-RSCP");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewInterFreqCellSI-HCS-RSCP", (int32_t)i, "NewInterFreqCellSI-List-HCS-RSCP");
-      stat = asn1PE_UMTS_NewInterFreqCellSI_HCS_RSCP(ctx, (const NewInterFreqCellSI_HCS_RSCP*)node->data);
-      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-HCS-RSCP", (int32_t)i, "NewInterFreqCellSI-List-HCS-RSCP");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqCellInfoSI_List_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoSI_List_HCS_RSCP* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellInfoSI-List-HCS-RSCP");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoSI-List-HCS-RSCP");
-   /* removedInterFreqCellList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-RSCP");
-   }
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_NewInterFreqCellSI_List_HCS_RSCP(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-RSCP");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqMeasurementSysInfo_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const InterFreqMeasurementSysInfo_HCS_RSCP* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqMeasurementSysInfo-HCS-RSCP");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-HCS-RSCP");
-   /* interFreqCellInfoSI-List */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_InterFreqCellInfoSI_List_HCS_RSCP(ctx, &pvalue->interFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-HCS-RSCP");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* intraFreqMeasurementSysInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IntraFreqMeasurementSysInfo_HCS_RSCP(ctx, &pvalue->intraFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
-   }
-   /* interFreqMeasurementSysInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_InterFreqMeasurementSysInfo_HCS_RSCP(ctx, &pvalue->interFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* primaryCPICH-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   }
-   /* primaryCPICH-TX-Power */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->primaryCPICH_TX_Power < -10 || pvalue->primaryCPICH_TX_Power > 50) {
-         rtxErrAddStrParm(ctx, "PrimaryCPICH-TX-Power");
-         rtxErrAddIntParm(ctx, pvalue->primaryCPICH_TX_Power);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->primaryCPICH_TX_Power, -10, 50);
-      RT_CHECK(ctx, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
-   }
-   /* readSFN-Indicator */
-   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
-   /* tx-DiversityIndicator */
-   stat = rtxEncBit(ctx, pvalue->tx_DiversityIndicator);
-   RT_CHECK(ctx, stat, 0, "tx-DiversityIndicator", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* primaryCCPCH-Info */
-   stat = asn1PE_UMTS_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, 0);
-   /* primaryCCPCH-TX-Power */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-         rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
-         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-   }
-   /* timeslotInfoList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_TimeslotInfoList(ctx, &pvalue->timeslotInfoList);
-      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, 0);
-   }
-   /* readSFN-Indicator */
-   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_ECN0_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TemporaryOffset2(rtxContext* RT_RESTRICT ctx, TemporaryOffset2 value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TemporaryOffset2");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TemporaryOffset2");
-   return 0;
-}
-
-int asn1PE_UMTS_TemporaryOffsetList(rtxContext* RT_RESTRICT ctx, const TemporaryOffsetList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TemporaryOffsetList");
-   /* temporaryOffset1 */
-   if (pvalue->temporaryOffset1 > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->temporaryOffset1);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TemporaryOffset1", "temporaryOffset1", -1, "TemporaryOffsetList");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->temporaryOffset1, 0, 7);
-   RT_CHECK(ctx, stat, "TemporaryOffset1", "temporaryOffset1", -1, "TemporaryOffsetList");
-   /* temporaryOffset2 */
-   if (pvalue->temporaryOffset2 > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->temporaryOffset2);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TemporaryOffset2", "temporaryOffset2", -1, "TemporaryOffsetList");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->temporaryOffset2, 0, 7);
-   RT_CHECK(ctx, stat, "TemporaryOffset2", "temporaryOffset2", -1, "TemporaryOffsetList");
-   return 0;
-}
-
-int asn1PE_UMTS_PenaltyTime_ECN0(rtxContext* RT_RESTRICT ctx, const PenaltyTime_ECN0* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PenaltyTime-ECN0");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
-   RT_CHECK(ctx, stat, 0, "t", -1, "PenaltyTime-ECN0");
-   if (pvalue->t - 1 > 6) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PenaltyTime-ECN0");
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.pt10 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "pt10", -1, "PenaltyTime-ECN0");
-         stat = asn1PE_UMTS_TemporaryOffsetList(ctx, pvalue->u.pt10);
-         RT_CHECK(ctx, stat, 0, "pt10", -1, "PenaltyTime-ECN0");
-         break;
-      case 3:
-         if (pvalue->u.pt20 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "pt20", -1, "PenaltyTime-ECN0");
-         stat = asn1PE_UMTS_TemporaryOffsetList(ctx, pvalue->u.pt20);
-         RT_CHECK(ctx, stat, 0, "pt20", -1, "PenaltyTime-ECN0");
-         break;
-      case 4:
-         if (pvalue->u.pt30 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "pt30", -1, "PenaltyTime-ECN0");
-         stat = asn1PE_UMTS_TemporaryOffsetList(ctx, pvalue->u.pt30);
-         RT_CHECK(ctx, stat, 0, "pt30", -1, "PenaltyTime-ECN0");
-         break;
-      case 5:
-         if (pvalue->u.pt40 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "pt40", -1, "PenaltyTime-ECN0");
-         stat = asn1PE_UMTS_TemporaryOffsetList(ctx, pvalue->u.pt40);
-         RT_CHECK(ctx, stat, 0, "pt40", -1, "PenaltyTime-ECN0");
-         break;
-      case 6:
-         if (pvalue->u.pt50 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "pt50", -1, "PenaltyTime-ECN0");
-         stat = asn1PE_UMTS_TemporaryOffsetList(ctx, pvalue->u.pt50);
-         RT_CHECK(ctx, stat, 0, "pt50", -1, "PenaltyTime-ECN0");
-         break;
-      case 7:
-         if (pvalue->u.pt60 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "pt60", -1, "PenaltyTime-ECN0");
-         stat = asn1PE_UMTS_TemporaryOffsetList(ctx, pvalue->u.pt60);
-         RT_CHECK(ctx, stat, 0, "pt60", -1, "PenaltyTime-ECN0");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HCS_CellReselectInformation_ECN0(rtxContext* RT_RESTRICT ctx, const HCS_CellReselectInformation_ECN0* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HCS-CellReselectInformation-ECN0");
-   /* penaltyTime */
-   stat = asn1PE_UMTS_PenaltyTime_ECN0(ctx, &pvalue->penaltyTime);
-   RT_CHECK(ctx, stat, 0, "penaltyTime", -1, "HCS-CellReselectInformation-ECN0");
-   return 0;
-}
-
-int asn1PE_UMTS_HCS_NeighbouringCellInformation_ECN0(rtxContext* RT_RESTRICT ctx, const HCS_NeighbouringCellInformation_ECN0* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HCS-NeighbouringCellInformation-ECN0");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->hcs_PRIO != 0) << 1) |
-      ((uint64_t)(pvalue->q_HCS != 0) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HCS-NeighbouringCellInformation-ECN0");
-   /* hcs-PRIO */
-   if (pvalue->hcs_PRIO != 0) {
-      if ((uint64_t)pvalue->hcs_PRIO > 7u) {
-         rtxErrAddStrParm(ctx, "HCS-PRIO");
-         rtxErrAddUIntParm(ctx, pvalue->hcs_PRIO);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "HCS-PRIO", "hcs-PRIO", -1, "HCS-NeighbouringCellInformation-ECN0");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hcs_PRIO, 0, 7);
-      RT_CHECK(ctx, stat, "HCS-PRIO", "hcs-PRIO", -1, "HCS-NeighbouringCellInformation-ECN0");
-   }
-   /* q-HCS */
-   if (pvalue->q_HCS != 0) {
-      if ((uint64_t)pvalue->q_HCS > 99u) {
-         rtxErrAddStrParm(ctx, "Q-HCS");
-         rtxErrAddUIntParm(ctx, pvalue->q_HCS);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-HCS", "q-HCS", -1, "HCS-NeighbouringCellInformation-ECN0");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->q_HCS, 0, 99);
-      RT_CHECK(ctx, stat, "Q-HCS", "q-HCS", -1, "HCS-NeighbouringCellInformation-ECN0");
-   }
-   /* hcs-CellReselectInformation */
-   stat = asn1PE_UMTS_HCS_CellReselectInformation_ECN0(ctx, &pvalue->hcs_CellReselectInformation);
-   RT_CHECK(ctx, stat, 0, "hcs-CellReselectInformation", -1, "HCS-NeighbouringCellInformation-ECN0");
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* q-QualMin */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->q_QualMin < -24 || pvalue->q_QualMin > 0) {
-         rtxErrAddStrParm(ctx, "Q-QualMin");
-         rtxErrAddIntParm(ctx, pvalue->q_QualMin);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-QualMin", "q-QualMin", -1, 0);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_QualMin, -24, 0);
-      RT_CHECK(ctx, stat, "Q-QualMin", "q-QualMin", -1, 0);
-   }
-   /* q-RxlevMin */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
-         rtxErrAddStrParm(ctx, "Q-RxlevMin");
-         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* q-RxlevMin */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
-         rtxErrAddStrParm(ctx, "Q-RxlevMin");
-         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_gsm* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* q-RxlevMin */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
-         rtxErrAddStrParm(ctx, "Q-RxlevMin");
-         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      case 3:
-         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm", -1, 0);
-         stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_ECN0* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->q_Offset1S_N != 0) << 3) |
-      ((uint64_t)(pvalue->q_Offset2S_N != 0) << 2) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
-   /* q-Offset1S-N */
-   if (pvalue->q_Offset1S_N != 0) {
-      if (pvalue->q_Offset1S_N < -50 || pvalue->q_Offset1S_N > 50) {
-         rtxErrAddStrParm(ctx, "Q-OffsetS-N");
-         rtxErrAddIntParm(ctx, pvalue->q_Offset1S_N);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-OffsetS-N", "q-Offset1S-N", -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_Offset1S_N, -50, 50);
-      RT_CHECK(ctx, stat, "Q-OffsetS-N", "q-Offset1S-N", -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
-   }
-   /* q-Offset2S-N */
-   if (pvalue->q_Offset2S_N != 0) {
-      if (pvalue->q_Offset2S_N < -50 || pvalue->q_Offset2S_N > 50) {
-         rtxErrAddStrParm(ctx, "Q-OffsetS-N");
-         rtxErrAddIntParm(ctx, pvalue->q_Offset2S_N);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-OffsetS-N", "q-Offset2S-N", -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_Offset2S_N, -50, 50);
-      RT_CHECK(ctx, stat, "Q-OffsetS-N", "q-Offset2S-N", -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
-         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
-   }
-   /* hcs-NeighbouringCellInformation-ECN0 */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_HCS_NeighbouringCellInformation_ECN0(ctx, &pvalue->hcs_NeighbouringCellInformation_ECN0);
-      RT_CHECK(ctx, stat, 0, "hcs-NeighbouringCellInformation-ECN0", -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfoSI_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_ECN0* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellInfoSI-HCS-ECN0");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->cellIndividualOffset != 0) << 2) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellInfoSI-HCS-ECN0");
-   /* cellIndividualOffset */
-   if (pvalue->cellIndividualOffset != 0) {
-      if (pvalue->cellIndividualOffset < -20 || pvalue->cellIndividualOffset > 20) {
-         rtxErrAddStrParm(ctx, "CellIndividualOffset");
-         rtxErrAddIntParm(ctx, pvalue->cellIndividualOffset);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-HCS-ECN0");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-HCS-ECN0");
-   }
-   /* referenceTimeDifferenceToCell */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
-      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-HCS-ECN0");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellInfoSI-HCS-ECN0");
-   /* cellSelectionReselectionInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-HCS-ECN0");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCellSI_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_HCS_ECN0* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-HCS-ECN0");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-HCS-ECN0");
-   /* intraFreqCellID */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->intraFreqCellID > 31u) {
-         rtxErrAddStrParm(ctx, "IntraFreqCellID");
-         rtxErrAddUIntParm(ctx, pvalue->intraFreqCellID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-HCS-ECN0");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-HCS-ECN0");
-   }
-   /* cellInfo */
-   stat = asn1PE_UMTS_CellInfoSI_HCS_ECN0(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-HCS-ECN0");
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCellSI_List_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_List_HCS_ECN0* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-List-HCS-ECN0");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-List-HCS-ECN0");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewIntraFreqCellSI-HCS-ECN0", (int32_t)i, "NewIntraFreqCellSI-List-HCS-ECN0");
-      stat = asn1PE_UMTS_NewIntraFreqCellSI_HCS_ECN0(ctx, (const NewIntraFreqCellSI_HCS_ECN0*)node->data);
-      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-HCS-ECN0", (int32_t)i, "NewIntraFreqCellSI-List-HCS-ECN0");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqCellInfoSI_List_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoSI_List_HCS_ECN0* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqCellInfoSI-List-HCS-ECN0");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-HCS-ECN0");
-   /* removedIntraFreqCellList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-ECN0");
-   }
-   /* newIntraFreqCellList */
-   stat = asn1PE_UMTS_NewIntraFreqCellSI_List_HCS_ECN0(ctx, &pvalue->newIntraFreqCellList);
-   RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-ECN0");
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqMeasurementSysInfo_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasurementSysInfo_HCS_ECN0* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->intraFreqMeasurementID != 1) << 5) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
-   /* intraFreqMeasurementID */
-   if (pvalue->intraFreqMeasurementID != 1) {
-      if ((uint64_t)(pvalue->intraFreqMeasurementID - 1) > 15u) {
-         rtxErrAddStrParm(ctx, "MeasurementIdentity");
-         rtxErrAddUIntParm(ctx, pvalue->intraFreqMeasurementID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->intraFreqMeasurementID, 1, 16);
-      RT_CHECK(ctx, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
-   }
-   /* intraFreqCellInfoSI-List */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IntraFreqCellInfoSI_List_HCS_ECN0(ctx, &pvalue->intraFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
-   }
-   /* intraFreqMeasQuantity */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
-   }
-   /* intraFreqReportingQuantityForRACH */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
-      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
-   }
-   /* maxReportedCellsOnRACH */
-   if (pvalue->m & 0x8u) {
-      if (pvalue->maxReportedCellsOnRACH > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->maxReportedCellsOnRACH);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->maxReportedCellsOnRACH, 0, 7);
-      RT_CHECK(ctx, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
-   }
-   /* reportingInfoForCellDCH */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_ReportingInfoForCellDCH(ctx, &pvalue->reportingInfoForCellDCH);
-      RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCellSI_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_HCS_ECN0* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-HCS-ECN0");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-HCS-ECN0");
-   /* interFreqCellID */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->interFreqCellID > 31u) {
-         rtxErrAddStrParm(ctx, "InterFreqCellID");
-         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-HCS-ECN0");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-HCS-ECN0");
-   }
-   /* frequencyInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-HCS-ECN0");
-   }
-   /* cellInfo */
-   stat = asn1PE_UMTS_CellInfoSI_HCS_ECN0(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-HCS-ECN0");
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCellSI_List_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_List_HCS_ECN0* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-List-HCS-ECN0");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-List-HCS-ECN0");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewInterFreqCellSI-HCS-ECN0", (int32_t)i, "NewInterFreqCellSI-List-HCS-ECN0");
-      stat = asn1PE_UMTS_NewInterFreqCellSI_HCS_ECN0(ctx, (const NewInterFreqCellSI_HCS_ECN0*)node->data);
-      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-HCS-ECN0", (int32_t)i, "NewInterFreqCellSI-List-HCS-ECN0");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqCellInfoSI_List_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoSI_List_HCS_ECN0* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellInfoSI-List-HCS-ECN0");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoSI-List-HCS-ECN0");
-   /* removedInterFreqCellList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-ECN0");
-   }
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_NewInterFreqCellSI_List_HCS_ECN0(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-ECN0");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqMeasurementSysInfo_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const InterFreqMeasurementSysInfo_HCS_ECN0* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqMeasurementSysInfo-HCS-ECN0");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-HCS-ECN0");
-   /* interFreqCellInfoSI-List */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_InterFreqCellInfoSI_List_HCS_ECN0(ctx, &pvalue->interFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-HCS-ECN0");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* intraFreqMeasurementSysInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IntraFreqMeasurementSysInfo_HCS_ECN0(ctx, &pvalue->intraFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
-   }
-   /* interFreqMeasurementSysInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_InterFreqMeasurementSysInfo_HCS_ECN0(ctx, &pvalue->interFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.cpich_RSCP == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cpich-RSCP", -1, 0);
-         stat = asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
-         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cpich-Ec-N0", -1, 0);
-         stat = asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
-         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterRATCell_technologySpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const NewInterRATCell_technologySpecificInfo_gsm* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellSelectionReselectionInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, 0);
-   }
-   /* interRATCellIndividualOffset */
-   if (pvalue->interRATCellIndividualOffset < -50 || pvalue->interRATCellIndividualOffset > 50) {
-      rtxErrAddStrParm(ctx, "InterRATCellIndividualOffset");
-      rtxErrAddIntParm(ctx, pvalue->interRATCellIndividualOffset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "InterRATCellIndividualOffset", "interRATCellIndividualOffset", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->interRATCellIndividualOffset, -50, 50);
-   RT_CHECK(ctx, stat, "InterRATCellIndividualOffset", "interRATCellIndividualOffset", -1, 0);
-   /* bsic */
-   stat = asn1PE_UMTS_BSIC(ctx, &pvalue->bsic);
-   RT_CHECK(ctx, stat, 0, "bsic", -1, 0);
-   /* frequency-band */
-   if (pvalue->frequency_band > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->frequency_band);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "Frequency-Band", "frequency-band", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->frequency_band, 0, 1);
-   RT_CHECK(ctx, stat, "Frequency-Band", "frequency-band", -1, 0);
-   /* bcch-ARFCN */
-   if ((uint64_t)pvalue->bcch_ARFCN > 1023u) {
-      rtxErrAddStrParm(ctx, "BCCH-ARFCN");
-      rtxErrAddUIntParm(ctx, pvalue->bcch_ARFCN);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "BCCH-ARFCN", "bcch-ARFCN", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->bcch_ARFCN, 0, 1023);
-   RT_CHECK(ctx, stat, "BCCH-ARFCN", "bcch-ARFCN", -1, 0);
-   /* dummy */
-   if (pvalue->m & 0x2u) {
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterRATCell_technologySpecificInfo_is_2000(rtxContext* RT_RESTRICT ctx, const NewInterRATCell_technologySpecificInfo_is_2000* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* is-2000SpecificMeasInfo */
-   if (pvalue->is_2000SpecificMeasInfo > 4) {
-      rtxErrAddUIntParm(ctx, pvalue->is_2000SpecificMeasInfo);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "IS-2000SpecificMeasInfo", "is-2000SpecificMeasInfo", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->is_2000SpecificMeasInfo, 0, 4);
-   RT_CHECK(ctx, stat, "IS-2000SpecificMeasInfo", "is-2000SpecificMeasInfo", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterRATCell_technologySpecificInfo(rtxContext* RT_RESTRICT ctx, const NewInterRATCell_technologySpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm", -1, 0);
-         stat = asn1PE_UMTS_NewInterRATCell_technologySpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.is_2000 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "is-2000", -1, 0);
-         stat = asn1PE_UMTS_NewInterRATCell_technologySpecificInfo_is_2000(ctx, pvalue->u.is_2000);
-         RT_CHECK(ctx, stat, 0, "is-2000", -1, 0);
-         break;
-      case 3:
-         break;
-      case 4:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterRATCell(rtxContext* RT_RESTRICT ctx, const NewInterRATCell* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterRATCell");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterRATCell");
-   /* interRATCellID */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->interRATCellID > 31u) {
-         rtxErrAddStrParm(ctx, "InterRATCellID");
-         rtxErrAddUIntParm(ctx, pvalue->interRATCellID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterRATCellID", "interRATCellID", -1, "NewInterRATCell");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->interRATCellID, 0, 31);
-      RT_CHECK(ctx, stat, "InterRATCellID", "interRATCellID", -1, "NewInterRATCell");
-   }
-   /* technologySpecificInfo */
-   stat = asn1PE_UMTS_NewInterRATCell_technologySpecificInfo(ctx, &pvalue->technologySpecificInfo);
-   RT_CHECK(ctx, stat, 0, "technologySpecificInfo", -1, "NewInterRATCell");
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterRATCellList(rtxContext* RT_RESTRICT ctx, const NewInterRATCellList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterRATCellList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewInterRATCellList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewInterRATCell", (int32_t)i, "NewInterRATCellList");
-      stat = asn1PE_UMTS_NewInterRATCell(ctx, (const NewInterRATCell*)node->data);
-      RT_CHECK(ctx, stat, 0, "NewInterRATCell", (int32_t)i, "NewInterRATCellList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellsForInterRATMeasList(rtxContext* RT_RESTRICT ctx, const CellsForInterRATMeasList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellsForInterRATMeasList");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CellsForInterRATMeasList");
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)pvalue->elem[i] > 31u) {
-         rtxErrAddStrParm(ctx, "InterRATCellID");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterRATCellID", "InterRATCellID", (int32_t)i, "CellsForInterRATMeasList");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 31);
-      RT_CHECK(ctx, stat, "InterRATCellID", "InterRATCellID", (int32_t)i, "CellsForInterRATMeasList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATCellInfoList(rtxContext* RT_RESTRICT ctx, const InterRATCellInfoList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATCellInfoList");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATCellInfoList");
-   /* removedInterRATCellList */
-   stat = asn1PE_UMTS_RemovedInterRATCellList(ctx, &pvalue->removedInterRATCellList);
-   RT_CHECK(ctx, stat, 0, "removedInterRATCellList", -1, "InterRATCellInfoList");
-   /* newInterRATCellList */
-   stat = asn1PE_UMTS_NewInterRATCellList(ctx, &pvalue->newInterRATCellList);
-   RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, "InterRATCellInfoList");
-   /* cellsForInterRATMeasList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellsForInterRATMeasList(ctx, &pvalue->cellsForInterRATMeasList);
-      RT_CHECK(ctx, stat, 0, "cellsForInterRATMeasList", -1, "InterRATCellInfoList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATMeasurementSysInfo(rtxContext* RT_RESTRICT ctx, const InterRATMeasurementSysInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATMeasurementSysInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATMeasurementSysInfo");
-   /* interRATCellInfoList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_InterRATCellInfoList(ctx, &pvalue->interRATCellInfoList);
-      RT_CHECK(ctx, stat, 0, "interRATCellInfoList", -1, "InterRATMeasurementSysInfo");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_used* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellSelectQualityMeasure */
-   stat = asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
-   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
-   /* interRATMeasurementSysInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_InterRATMeasurementSysInfo(ctx, &pvalue->interRATMeasurementSysInfo);
-      RT_CHECK(ctx, stat, 0, "interRATMeasurementSysInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.hcs_not_used == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "hcs-not-used", -1, 0);
-         stat = asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used(ctx, pvalue->u.hcs_not_used);
-         RT_CHECK(ctx, stat, 0, "hcs-not-used", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.hcs_used == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "hcs-used", -1, 0);
-         stat = asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used(ctx, pvalue->u.hcs_used);
-         RT_CHECK(ctx, stat, 0, "hcs-used", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TrCH_Identity(rtxContext* RT_RESTRICT ctx, const UL_TrCH_Identity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-TrCH-Identity");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UL-TrCH-Identity");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-TrCH-Identity");
-   switch (pvalue->t) {
-      case 1:
-         if ((uint64_t)(pvalue->u.dch - 1) > 31u) {
-            rtxErrAddStrParm(ctx, "TransportChannelIdentity");
-            rtxErrAddUIntParm(ctx, pvalue->u.dch);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dch", -1, "UL-TrCH-Identity");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.dch, 1, 32);
-         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch", -1, "UL-TrCH-Identity");
-         break;
-      case 2:
-         break;
-      case 3:
-         if ((uint64_t)(pvalue->u.usch - 1) > 31u) {
-            rtxErrAddStrParm(ctx, "TransportChannelIdentity");
-            rtxErrAddUIntParm(ctx, pvalue->u.usch);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "usch", -1, "UL-TrCH-Identity");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.usch, 1, 32);
-         RT_CHECK(ctx, stat, "TransportChannelIdentity", "usch", -1, "UL-TrCH-Identity");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TrafficVolumeMeasurementObjectList(rtxContext* RT_RESTRICT ctx, const TrafficVolumeMeasurementObjectList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TrafficVolumeMeasurementObjectList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "TrafficVolumeMeasurementObjectList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UL-TrCH-Identity", (int32_t)i, "TrafficVolumeMeasurementObjectList");
-      stat = asn1PE_UMTS_UL_TrCH_Identity(ctx, (const UL_TrCH_Identity*)node->data);
-      RT_CHECK(ctx, stat, 0, "UL-TrCH-Identity", (int32_t)i, "TrafficVolumeMeasurementObjectList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TimeInterval(rtxContext* RT_RESTRICT ctx, TimeInterval value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 12u) {
-      rtxErrAddStrParm(ctx, "TimeInterval");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TimeInterval");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 13);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimeInterval");
-   return 0;
-}
-
-int asn1PE_UMTS_TrafficVolumeMeasQuantity(rtxContext* RT_RESTRICT ctx, const TrafficVolumeMeasQuantity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TrafficVolumeMeasQuantity");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "TrafficVolumeMeasQuantity");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TrafficVolumeMeasQuantity");
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if ((uint64_t)(pvalue->u.averageRLC_BufferPayload - 1) > 12u) {
-            rtxErrAddStrParm(ctx, "TimeInterval");
-            rtxErrAddUIntParm(ctx, pvalue->u.averageRLC_BufferPayload);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeInterval", "averageRLC-BufferPayload", -1, "TrafficVolumeMeasQuantity");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.averageRLC_BufferPayload, 1, 13);
-         RT_CHECK(ctx, stat, "TimeInterval", "averageRLC-BufferPayload", -1, "TrafficVolumeMeasQuantity");
-         break;
-      case 3:
-         if ((uint64_t)(pvalue->u.varianceOfRLC_BufferPayload - 1) > 12u) {
-            rtxErrAddStrParm(ctx, "TimeInterval");
-            rtxErrAddUIntParm(ctx, pvalue->u.varianceOfRLC_BufferPayload);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeInterval", "varianceOfRLC-BufferPayload", -1, "TrafficVolumeMeasQuantity");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.varianceOfRLC_BufferPayload, 1, 13);
-         RT_CHECK(ctx, stat, "TimeInterval", "varianceOfRLC-BufferPayload", -1, "TrafficVolumeMeasQuantity");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TrafficVolumeReportingQuantity(rtxContext* RT_RESTRICT ctx, const TrafficVolumeReportingQuantity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TrafficVolumeReportingQuantity");
-   /* rlc-RB-BufferPayload */
-   stat = rtxEncBit(ctx, pvalue->rlc_RB_BufferPayload);
-   RT_CHECK(ctx, stat, 0, "rlc-RB-BufferPayload", -1, "TrafficVolumeReportingQuantity");
-   /* rlc-RB-BufferPayloadAverage */
-   stat = rtxEncBit(ctx, pvalue->rlc_RB_BufferPayloadAverage);
-   RT_CHECK(ctx, stat, 0, "rlc-RB-BufferPayloadAverage", -1, "TrafficVolumeReportingQuantity");
-   /* rlc-RB-BufferPayloadVariance */
-   stat = rtxEncBit(ctx, pvalue->rlc_RB_BufferPayloadVariance);
-   RT_CHECK(ctx, stat, 0, "rlc-RB-BufferPayloadVariance", -1, "TrafficVolumeReportingQuantity");
-   return 0;
-}
-
-int asn1PE_UMTS_TrafficVolumeEventType(rtxContext* RT_RESTRICT ctx, TrafficVolumeEventType value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TrafficVolumeEventType");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TrafficVolumeEventType");
-   return 0;
-}
-
-int asn1PE_UMTS_TrafficVolumeThreshold(rtxContext* RT_RESTRICT ctx, TrafficVolumeThreshold value)
-{
-   int stat = 0;
-   if (value > 25) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TrafficVolumeThreshold");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 25);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TrafficVolumeThreshold");
-   return 0;
-}
-
-int asn1PE_UMTS_PendingTimeAfterTrigger(rtxContext* RT_RESTRICT ctx, PendingTimeAfterTrigger value)
-{
-   int stat = 0;
-   if (value > 6) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "PendingTimeAfterTrigger");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PendingTimeAfterTrigger");
-   return 0;
-}
-
-int asn1PE_UMTS_TX_InterruptionAfterTrigger(rtxContext* RT_RESTRICT ctx, TX_InterruptionAfterTrigger value)
-{
-   int stat = 0;
-   if (value > 6) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TX-InterruptionAfterTrigger");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TX-InterruptionAfterTrigger");
-   return 0;
-}
-
-int asn1PE_UMTS_TrafficVolumeEventParam(rtxContext* RT_RESTRICT ctx, const TrafficVolumeEventParam* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TrafficVolumeEventParam");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TrafficVolumeEventParam");
-   /* eventID */
-   if (pvalue->eventID > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->eventID);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TrafficVolumeEventType", "eventID", -1, "TrafficVolumeEventParam");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->eventID, 0, 1);
-   RT_CHECK(ctx, stat, "TrafficVolumeEventType", "eventID", -1, "TrafficVolumeEventParam");
-   /* reportingThreshold */
-   if (pvalue->reportingThreshold > 25) {
-      rtxErrAddUIntParm(ctx, pvalue->reportingThreshold);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TrafficVolumeThreshold", "reportingThreshold", -1, "TrafficVolumeEventParam");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingThreshold, 0, 25);
-   RT_CHECK(ctx, stat, "TrafficVolumeThreshold", "reportingThreshold", -1, "TrafficVolumeEventParam");
-   /* timeToTrigger */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->timeToTrigger > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "TrafficVolumeEventParam");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-      RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "TrafficVolumeEventParam");
-   }
-   /* pendingTimeAfterTrigger */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->pendingTimeAfterTrigger > 6) {
-         rtxErrAddUIntParm(ctx, pvalue->pendingTimeAfterTrigger);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "PendingTimeAfterTrigger", "pendingTimeAfterTrigger", -1, "TrafficVolumeEventParam");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->pendingTimeAfterTrigger, 0, 6);
-      RT_CHECK(ctx, stat, "PendingTimeAfterTrigger", "pendingTimeAfterTrigger", -1, "TrafficVolumeEventParam");
-   }
-   /* tx-InterruptionAfterTrigger */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->tx_InterruptionAfterTrigger > 6) {
-         rtxErrAddUIntParm(ctx, pvalue->tx_InterruptionAfterTrigger);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "TX-InterruptionAfterTrigger", "tx-InterruptionAfterTrigger", -1, "TrafficVolumeEventParam");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tx_InterruptionAfterTrigger, 0, 6);
-      RT_CHECK(ctx, stat, "TX-InterruptionAfterTrigger", "tx-InterruptionAfterTrigger", -1, "TrafficVolumeEventParam");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TransChCriteria_eventSpecificParameters(rtxContext* RT_RESTRICT ctx, const TransChCriteria_eventSpecificParameters* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 2);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "TrafficVolumeEventParam", (int32_t)i, 0);
-      stat = asn1PE_UMTS_TrafficVolumeEventParam(ctx, (const TrafficVolumeEventParam*)node->data);
-      RT_CHECK(ctx, stat, 0, "TrafficVolumeEventParam", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TransChCriteria(rtxContext* RT_RESTRICT ctx, const TransChCriteria* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TransChCriteria");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TransChCriteria");
-   /* ul-transportChannelID */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UL_TrCH_Identity(ctx, &pvalue->ul_transportChannelID);
-      RT_CHECK(ctx, stat, 0, "ul-transportChannelID", -1, "TransChCriteria");
-   }
-   /* eventSpecificParameters */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_TransChCriteria_eventSpecificParameters(ctx, &pvalue->eventSpecificParameters);
-      RT_CHECK(ctx, stat, 0, "eventSpecificParameters", -1, "TransChCriteria");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TransChCriteriaList(rtxContext* RT_RESTRICT ctx, const TransChCriteriaList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TransChCriteriaList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "TransChCriteriaList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "TransChCriteria", (int32_t)i, "TransChCriteriaList");
-      stat = asn1PE_UMTS_TransChCriteria(ctx, (const TransChCriteria*)node->data);
-      RT_CHECK(ctx, stat, 0, "TransChCriteria", (int32_t)i, "TransChCriteriaList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TrafficVolumeReportingCriteria(rtxContext* RT_RESTRICT ctx, const TrafficVolumeReportingCriteria* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TrafficVolumeReportingCriteria");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TrafficVolumeReportingCriteria");
-   /* transChCriteriaList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_TransChCriteriaList(ctx, &pvalue->transChCriteriaList);
-      RT_CHECK(ctx, stat, 0, "transChCriteriaList", -1, "TrafficVolumeReportingCriteria");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementValidity_ue_State(rtxContext* RT_RESTRICT ctx, MeasurementValidity_ue_State value)
-{
-   int stat = 0;
-   if (value > 2) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementValidity(rtxContext* RT_RESTRICT ctx, const MeasurementValidity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementValidity");
-   /* ue-State */
-   if (pvalue->ue_State > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->ue_State);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "ue-State", -1, "MeasurementValidity");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_State, 0, 2);
-   RT_CHECK(ctx, stat, 0, "ue-State", -1, "MeasurementValidity");
-   return 0;
-}
-
-int asn1PE_UMTS_TrafficVolumeReportCriteriaSysInfo(rtxContext* RT_RESTRICT ctx, const TrafficVolumeReportCriteriaSysInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TrafficVolumeReportCriteriaSysInfo");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "TrafficVolumeReportCriteriaSysInfo");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TrafficVolumeReportCriteriaSysInfo");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.trafficVolumeReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "trafficVolumeReportingCriteria", -1, "TrafficVolumeReportCriteriaSysInfo");
-         stat = asn1PE_UMTS_TrafficVolumeReportingCriteria(ctx, pvalue->u.trafficVolumeReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "trafficVolumeReportingCriteria", -1, "TrafficVolumeReportCriteriaSysInfo");
-         break;
-      case 2:
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "TrafficVolumeReportCriteriaSysInfo");
-         stat = asn1PE_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "TrafficVolumeReportCriteriaSysInfo");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TrafficVolumeMeasSysInfo(rtxContext* RT_RESTRICT ctx, const TrafficVolumeMeasSysInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TrafficVolumeMeasSysInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->trafficVolumeMeasurementID != 4) << 5) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TrafficVolumeMeasSysInfo");
-   /* trafficVolumeMeasurementID */
-   if (pvalue->trafficVolumeMeasurementID != 4) {
-      if ((uint64_t)(pvalue->trafficVolumeMeasurementID - 1) > 15u) {
-         rtxErrAddStrParm(ctx, "MeasurementIdentity");
-         rtxErrAddUIntParm(ctx, pvalue->trafficVolumeMeasurementID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementIdentity", "trafficVolumeMeasurementID", -1, "TrafficVolumeMeasSysInfo");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->trafficVolumeMeasurementID, 1, 16);
-      RT_CHECK(ctx, stat, "MeasurementIdentity", "trafficVolumeMeasurementID", -1, "TrafficVolumeMeasSysInfo");
-   }
-   /* trafficVolumeMeasurementObjectList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_TrafficVolumeMeasurementObjectList(ctx, &pvalue->trafficVolumeMeasurementObjectList);
-      RT_CHECK(ctx, stat, 0, "trafficVolumeMeasurementObjectList", -1, "TrafficVolumeMeasSysInfo");
-   }
-   /* trafficVolumeMeasQuantity */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_TrafficVolumeMeasQuantity(ctx, &pvalue->trafficVolumeMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "trafficVolumeMeasQuantity", -1, "TrafficVolumeMeasSysInfo");
-   }
-   /* trafficVolumeReportingQuantity */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_TrafficVolumeReportingQuantity(ctx, &pvalue->trafficVolumeReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "trafficVolumeReportingQuantity", -1, "TrafficVolumeMeasSysInfo");
-   }
-   /* dummy */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_TrafficVolumeReportingCriteria(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "TrafficVolumeMeasSysInfo");
-   }
-   /* measurementValidity */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "TrafficVolumeMeasSysInfo");
-   }
-   /* measurementReportingMode */
-   stat = asn1PE_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
-   RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "TrafficVolumeMeasSysInfo");
-   /* reportCriteriaSysInf */
-   stat = asn1PE_UMTS_TrafficVolumeReportCriteriaSysInfo(ctx, &pvalue->reportCriteriaSysInf);
-   RT_CHECK(ctx, stat, 0, "reportCriteriaSysInf", -1, "TrafficVolumeMeasSysInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_MeasurementQuantity(rtxContext* RT_RESTRICT ctx, UE_MeasurementQuantity value)
-{
-   int stat = 0;
-   if (value > 2) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UE-MeasurementQuantity");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-MeasurementQuantity");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalMeasQuantity(rtxContext* RT_RESTRICT ctx, const UE_InternalMeasQuantity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-InternalMeasQuantity");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->filterCoefficient != 0) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-InternalMeasQuantity");
-   /* measurementQuantity */
-   if (pvalue->measurementQuantity > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->measurementQuantity);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UE-MeasurementQuantity", "measurementQuantity", -1, "UE-InternalMeasQuantity");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->measurementQuantity, 0, 2);
-   RT_CHECK(ctx, stat, "UE-MeasurementQuantity", "measurementQuantity", -1, "UE-InternalMeasQuantity");
-   /* filterCoefficient */
-   if (pvalue->filterCoefficient != 0) {
-      if (pvalue->filterCoefficient > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->filterCoefficient);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "FilterCoefficient", "filterCoefficient", -1, "UE-InternalMeasQuantity");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->filterCoefficient, 0, 15);
-      RT_CHECK(ctx, stat, "FilterCoefficient", "filterCoefficient", -1, "UE-InternalMeasQuantity");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalMeasurementSysInfo(rtxContext* RT_RESTRICT ctx, const UE_InternalMeasurementSysInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-InternalMeasurementSysInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->ue_InternalMeasurementID != 5) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-InternalMeasurementSysInfo");
-   /* ue-InternalMeasurementID */
-   if (pvalue->ue_InternalMeasurementID != 5) {
-      if ((uint64_t)(pvalue->ue_InternalMeasurementID - 1) > 15u) {
-         rtxErrAddStrParm(ctx, "MeasurementIdentity");
-         rtxErrAddUIntParm(ctx, pvalue->ue_InternalMeasurementID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementIdentity", "ue-InternalMeasurementID", -1, "UE-InternalMeasurementSysInfo");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ue_InternalMeasurementID, 1, 16);
-      RT_CHECK(ctx, stat, "MeasurementIdentity", "ue-InternalMeasurementID", -1, "UE-InternalMeasurementSysInfo");
-   }
-   /* ue-InternalMeasQuantity */
-   stat = asn1PE_UMTS_UE_InternalMeasQuantity(ctx, &pvalue->ue_InternalMeasQuantity);
-   RT_CHECK(ctx, stat, 0, "ue-InternalMeasQuantity", -1, "UE-InternalMeasurementSysInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfo(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementControlSysInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControlSysInfo");
-   /* use-of-HCS */
-   stat = asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS(ctx, &pvalue->use_of_HCS);
-   RT_CHECK(ctx, stat, 0, "use-of-HCS", -1, "MeasurementControlSysInfo");
-   /* trafficVolumeMeasSysInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_TrafficVolumeMeasSysInfo(ctx, &pvalue->trafficVolumeMeasSysInfo);
-      RT_CHECK(ctx, stat, 0, "trafficVolumeMeasSysInfo", -1, "MeasurementControlSysInfo");
-   }
-   /* dummy */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_InternalMeasurementSysInfo(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "MeasurementControlSysInfo");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_FACH_MeasurementOccasionInfo_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const FACH_MeasurementOccasionInfo_LCR_r4_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "FACH-MeasurementOccasionInfo-LCR-r4-ext");
-   /* inter-freq-TDD128-meas-ind */
-   stat = rtxEncBit(ctx, pvalue->inter_freq_TDD128_meas_ind);
-   RT_CHECK(ctx, stat, 0, "inter-freq-TDD128-meas-ind", -1, "FACH-MeasurementOccasionInfo-LCR-r4-ext");
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PrimaryCCPCH-Info-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PrimaryCCPCH-Info-LCR-r4");
-   /* tstd-Indicator */
-   stat = rtxEncBit(ctx, pvalue->tstd_Indicator);
-   RT_CHECK(ctx, stat, 0, "tstd-Indicator", -1, "PrimaryCCPCH-Info-LCR-r4");
-   /* cellParametersID */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->cellParametersID > 127u) {
-         rtxErrAddStrParm(ctx, "CellParametersID");
-         rtxErrAddUIntParm(ctx, pvalue->cellParametersID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "CellParametersID", "cellParametersID", -1, "PrimaryCCPCH-Info-LCR-r4");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->cellParametersID, 0, 127);
-      RT_CHECK(ctx, stat, "CellParametersID", "cellParametersID", -1, "PrimaryCCPCH-Info-LCR-r4");
-   }
-   /* sctd-Indicator */
-   stat = rtxEncBit(ctx, pvalue->sctd_Indicator);
-   RT_CHECK(ctx, stat, 0, "sctd-Indicator", -1, "PrimaryCCPCH-Info-LCR-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_TimeslotInfo_LCR_r4(rtxContext* RT_RESTRICT ctx, const TimeslotInfo_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TimeslotInfo-LCR-r4");
-   /* timeslotNumber */
-   if ((uint64_t)pvalue->timeslotNumber > 6u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "TimeslotInfo-LCR-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "TimeslotInfo-LCR-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_TimeslotInfoList_LCR_r4(rtxContext* RT_RESTRICT ctx, const TimeslotInfoList_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TimeslotInfoList-LCR-r4");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 6);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "TimeslotInfoList-LCR-r4");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "TimeslotInfo-LCR-r4", (int32_t)i, "TimeslotInfoList-LCR-r4");
-      stat = asn1PE_UMTS_TimeslotInfo_LCR_r4(ctx, (const TimeslotInfo_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat, 0, "TimeslotInfo-LCR-r4", (int32_t)i, "TimeslotInfoList-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfoSI_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const CellInfoSI_RSCP_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellInfoSI-RSCP-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->cellIndividualOffset != 0) << 4) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellInfoSI-RSCP-LCR-r4");
-   /* cellIndividualOffset */
-   if (pvalue->cellIndividualOffset != 0) {
-      if (pvalue->cellIndividualOffset < -20 || pvalue->cellIndividualOffset > 20) {
-         rtxErrAddStrParm(ctx, "CellIndividualOffset");
-         rtxErrAddIntParm(ctx, pvalue->cellIndividualOffset);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-RSCP-LCR-r4");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-RSCP-LCR-r4");
-   }
-   /* referenceTimeDifferenceToCell */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
-      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-RSCP-LCR-r4");
-   }
-   /* primaryCCPCH-Info */
-   stat = asn1PE_UMTS_PrimaryCCPCH_Info_LCR_r4(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "CellInfoSI-RSCP-LCR-r4");
-   /* primaryCCPCH-TX-Power */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-         rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
-         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "CellInfoSI-RSCP-LCR-r4");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "CellInfoSI-RSCP-LCR-r4");
-   }
-   /* timeslotInfoList */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_TimeslotInfoList_LCR_r4(ctx, &pvalue->timeslotInfoList);
-      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, "CellInfoSI-RSCP-LCR-r4");
-   }
-   /* readSFN-Indicator */
-   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, "CellInfoSI-RSCP-LCR-r4");
-   /* cellSelectionReselectionInfo */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_RSCP(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-RSCP-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCellSI_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_RSCP_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-RSCP-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-RSCP-LCR-r4");
-   /* intraFreqCellID */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->intraFreqCellID > 31u) {
-         rtxErrAddStrParm(ctx, "IntraFreqCellID");
-         rtxErrAddUIntParm(ctx, pvalue->intraFreqCellID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-RSCP-LCR-r4");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-RSCP-LCR-r4");
-   }
-   /* cellInfo */
-   stat = asn1PE_UMTS_CellInfoSI_RSCP_LCR_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-RSCP-LCR-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCellSI_List_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_List_RSCP_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-List-RSCP-LCR-r4");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-List-RSCP-LCR-r4");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewIntraFreqCellSI-RSCP-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-RSCP-LCR-r4");
-      stat = asn1PE_UMTS_NewIntraFreqCellSI_RSCP_LCR_r4(ctx, (const NewIntraFreqCellSI_RSCP_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-RSCP-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-RSCP-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqCellInfoSI_List_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoSI_List_RSCP_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqCellInfoSI-List-RSCP-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-RSCP-LCR-r4");
-   /* removedIntraFreqCellList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-RSCP-LCR-r4");
-   }
-   /* newIntraFreqCellList */
-   stat = asn1PE_UMTS_NewIntraFreqCellSI_List_RSCP_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
-   RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-RSCP-LCR-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_ForbiddenAffectCell_LCR_r4(rtxContext* RT_RESTRICT ctx, const ForbiddenAffectCell_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ForbiddenAffectCell-LCR-r4");
-   /* tdd */
-   stat = asn1PE_UMTS_PrimaryCCPCH_Info_LCR_r4(ctx, &pvalue->tdd);
-   RT_CHECK(ctx, stat, 0, "tdd", -1, "ForbiddenAffectCell-LCR-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_ForbiddenAffectCellList_LCR_r4(rtxContext* RT_RESTRICT ctx, const ForbiddenAffectCellList_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ForbiddenAffectCellList-LCR-r4");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "ForbiddenAffectCellList-LCR-r4");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ForbiddenAffectCell-LCR-r4", (int32_t)i, "ForbiddenAffectCellList-LCR-r4");
-      stat = asn1PE_UMTS_ForbiddenAffectCell_LCR_r4(ctx, (const ForbiddenAffectCell_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat, 0, "ForbiddenAffectCell-LCR-r4", (int32_t)i, "ForbiddenAffectCellList-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Event1a_LCR_r4(rtxContext* RT_RESTRICT ctx, const Event1a_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event1a-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event1a-LCR-r4");
-   /* triggeringCondition */
-   if (pvalue->triggeringCondition > 4) {
-      rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TriggeringCondition2", "triggeringCondition", -1, "Event1a-LCR-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 4);
-   RT_CHECK(ctx, stat, "TriggeringCondition2", "triggeringCondition", -1, "Event1a-LCR-r4");
-   /* reportingRange */
-   if ((uint64_t)pvalue->reportingRange > 29u) {
-      rtxErrAddStrParm(ctx, "ReportingRange");
-      rtxErrAddUIntParm(ctx, pvalue->reportingRange);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "ReportingRange", "reportingRange", -1, "Event1a-LCR-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingRange, 0, 29);
-   RT_CHECK(ctx, stat, "ReportingRange", "reportingRange", -1, "Event1a-LCR-r4");
-   /* forbiddenAffectCellList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ForbiddenAffectCellList_LCR_r4(ctx, &pvalue->forbiddenAffectCellList);
-      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellList", -1, "Event1a-LCR-r4");
-   }
-   /* w */
-   if ((uint64_t)pvalue->w > 20u) {
-      rtxErrAddStrParm(ctx, "W");
-      rtxErrAddUIntParm(ctx, pvalue->w);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "w", -1, "Event1a-LCR-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->w, 0, 20);
-   RT_CHECK(ctx, stat, "W", "w", -1, "Event1a-LCR-r4");
-   /* reportDeactivationThreshold */
-   if (pvalue->reportDeactivationThreshold > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->reportDeactivationThreshold);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportDeactivationThreshold", "reportDeactivationThreshold", -1, "Event1a-LCR-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportDeactivationThreshold, 0, 7);
-   RT_CHECK(ctx, stat, "ReportDeactivationThreshold", "reportDeactivationThreshold", -1, "Event1a-LCR-r4");
-   /* reportingAmount */
-   if (pvalue->reportingAmount > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->reportingAmount);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportingAmount", "reportingAmount", -1, "Event1a-LCR-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingAmount, 0, 7);
-   RT_CHECK(ctx, stat, "ReportingAmount", "reportingAmount", -1, "Event1a-LCR-r4");
-   /* reportingInterval */
-   if (pvalue->reportingInterval > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->reportingInterval);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportingInterval", "reportingInterval", -1, "Event1a-LCR-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingInterval, 0, 7);
-   RT_CHECK(ctx, stat, "ReportingInterval", "reportingInterval", -1, "Event1a-LCR-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_Event1b_LCR_r4(rtxContext* RT_RESTRICT ctx, const Event1b_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event1b-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event1b-LCR-r4");
-   /* triggeringCondition */
-   if (pvalue->triggeringCondition > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TriggeringCondition1", "triggeringCondition", -1, "Event1b-LCR-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 2);
-   RT_CHECK(ctx, stat, "TriggeringCondition1", "triggeringCondition", -1, "Event1b-LCR-r4");
-   /* reportingRange */
-   if ((uint64_t)pvalue->reportingRange > 29u) {
-      rtxErrAddStrParm(ctx, "ReportingRange");
-      rtxErrAddUIntParm(ctx, pvalue->reportingRange);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "ReportingRange", "reportingRange", -1, "Event1b-LCR-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingRange, 0, 29);
-   RT_CHECK(ctx, stat, "ReportingRange", "reportingRange", -1, "Event1b-LCR-r4");
-   /* forbiddenAffectCellList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ForbiddenAffectCellList_LCR_r4(ctx, &pvalue->forbiddenAffectCellList);
-      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellList", -1, "Event1b-LCR-r4");
-   }
-   /* w */
-   if ((uint64_t)pvalue->w > 20u) {
-      rtxErrAddStrParm(ctx, "W");
-      rtxErrAddUIntParm(ctx, pvalue->w);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "w", -1, "Event1b-LCR-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->w, 0, 20);
-   RT_CHECK(ctx, stat, "W", "w", -1, "Event1b-LCR-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqEvent_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqEvent_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEvent-LCR-r4");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 8);
-   RT_CHECK(ctx, stat, 0, "t", -1, "IntraFreqEvent-LCR-r4");
-   if (pvalue->t - 1 > 8) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqEvent-LCR-r4");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.e1a == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1a", -1, "IntraFreqEvent-LCR-r4");
-         stat = asn1PE_UMTS_Event1a_LCR_r4(ctx, pvalue->u.e1a);
-         RT_CHECK(ctx, stat, 0, "e1a", -1, "IntraFreqEvent-LCR-r4");
-         break;
-      case 2:
-         if (pvalue->u.e1b == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1b", -1, "IntraFreqEvent-LCR-r4");
-         stat = asn1PE_UMTS_Event1b_LCR_r4(ctx, pvalue->u.e1b);
-         RT_CHECK(ctx, stat, 0, "e1b", -1, "IntraFreqEvent-LCR-r4");
-         break;
-      case 3:
-         if (pvalue->u.e1c == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1c", -1, "IntraFreqEvent-LCR-r4");
-         stat = asn1PE_UMTS_Event1c(ctx, pvalue->u.e1c);
-         RT_CHECK(ctx, stat, 0, "e1c", -1, "IntraFreqEvent-LCR-r4");
-         break;
-      case 4:
-         break;
-      case 5:
-         if (pvalue->u.e1e == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1e", -1, "IntraFreqEvent-LCR-r4");
-         stat = asn1PE_UMTS_Event1e(ctx, pvalue->u.e1e);
-         RT_CHECK(ctx, stat, 0, "e1e", -1, "IntraFreqEvent-LCR-r4");
-         break;
-      case 6:
-         if (pvalue->u.e1f == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1f", -1, "IntraFreqEvent-LCR-r4");
-         stat = asn1PE_UMTS_Event1f(ctx, pvalue->u.e1f);
-         RT_CHECK(ctx, stat, 0, "e1f", -1, "IntraFreqEvent-LCR-r4");
-         break;
-      case 7:
-         break;
-      case 8:
-         if (pvalue->u.e1h < -115 || pvalue->u.e1h > 165) {
-            rtxErrAddStrParm(ctx, "ThresholdUsedFrequency");
-            rtxErrAddIntParm(ctx, pvalue->u.e1h);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "ThresholdUsedFrequency", "e1h", -1, "IntraFreqEvent-LCR-r4");
-         }
-         stat = pe_ConsInt64(ctx, pvalue->u.e1h, -115, 165);
-         RT_CHECK(ctx, stat, "ThresholdUsedFrequency", "e1h", -1, "IntraFreqEvent-LCR-r4");
-         break;
-      case 9:
-         if (pvalue->u.e1i < -115 || pvalue->u.e1i > 165) {
-            rtxErrAddStrParm(ctx, "ThresholdUsedFrequency");
-            rtxErrAddIntParm(ctx, pvalue->u.e1i);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "ThresholdUsedFrequency", "e1i", -1, "IntraFreqEvent-LCR-r4");
-         }
-         stat = pe_ConsInt64(ctx, pvalue->u.e1i, -115, 165);
-         RT_CHECK(ctx, stat, "ThresholdUsedFrequency", "e1i", -1, "IntraFreqEvent-LCR-r4");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqEventCriteria_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteria_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventCriteria-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqEventCriteria-LCR-r4");
-   /* event */
-   stat = asn1PE_UMTS_IntraFreqEvent_LCR_r4(ctx, &pvalue->event);
-   RT_CHECK(ctx, stat, 0, "event", -1, "IntraFreqEventCriteria-LCR-r4");
-   /* hysteresis */
-   if ((uint64_t)pvalue->hysteresis > 15u) {
-      rtxErrAddStrParm(ctx, "Hysteresis");
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria-LCR-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 15);
-   RT_CHECK(ctx, stat, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria-LCR-r4");
-   /* timeToTrigger */
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria-LCR-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria-LCR-r4");
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "IntraFreqEventCriteria-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqEventCriteriaList_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteriaList_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventCriteriaList-LCR-r4");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "IntraFreqEventCriteriaList-LCR-r4");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "IntraFreqEventCriteria-LCR-r4", (int32_t)i, "IntraFreqEventCriteriaList-LCR-r4");
-      stat = asn1PE_UMTS_IntraFreqEventCriteria_LCR_r4(ctx, (const IntraFreqEventCriteria_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat, 0, "IntraFreqEventCriteria-LCR-r4", (int32_t)i, "IntraFreqEventCriteriaList-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqReportingCriteria_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingCriteria_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqReportingCriteria-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqReportingCriteria-LCR-r4");
-   /* eventCriteriaList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IntraFreqEventCriteriaList_LCR_r4(ctx, &pvalue->eventCriteriaList);
-      RT_CHECK(ctx, stat, 0, "eventCriteriaList", -1, "IntraFreqReportingCriteria-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellDCH_ReportCriteria_LCR_r4(rtxContext* RT_RESTRICT ctx, const CellDCH_ReportCriteria_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellDCH-ReportCriteria-LCR-r4");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "CellDCH-ReportCriteria-LCR-r4");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "CellDCH-ReportCriteria-LCR-r4");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFreqReportingCriteria", -1, "CellDCH-ReportCriteria-LCR-r4");
-         stat = asn1PE_UMTS_IntraFreqReportingCriteria_LCR_r4(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "CellDCH-ReportCriteria-LCR-r4");
-         break;
-      case 2:
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "CellDCH-ReportCriteria-LCR-r4");
-         stat = asn1PE_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "CellDCH-ReportCriteria-LCR-r4");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ReportingInfoForCellDCH_LCR_r4(rtxContext* RT_RESTRICT ctx, const ReportingInfoForCellDCH_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ReportingInfoForCellDCH-LCR-r4");
-   /* intraFreqReportingQuantity */
-   stat = asn1PE_UMTS_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity);
-   RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantity", -1, "ReportingInfoForCellDCH-LCR-r4");
-   /* measurementReportingMode */
-   stat = asn1PE_UMTS_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode);
-   RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "ReportingInfoForCellDCH-LCR-r4");
-   /* reportCriteria */
-   stat = asn1PE_UMTS_CellDCH_ReportCriteria_LCR_r4(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "ReportingInfoForCellDCH-LCR-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqMeasurementSysInfo_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasurementSysInfo_RSCP_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->intraFreqMeasurementID != 1) << 5) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
-   /* intraFreqMeasurementID */
-   if (pvalue->intraFreqMeasurementID != 1) {
-      if ((uint64_t)(pvalue->intraFreqMeasurementID - 1) > 15u) {
-         rtxErrAddStrParm(ctx, "MeasurementIdentity");
-         rtxErrAddUIntParm(ctx, pvalue->intraFreqMeasurementID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->intraFreqMeasurementID, 1, 16);
-      RT_CHECK(ctx, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
-   }
-   /* intraFreqCellInfoSI-List */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IntraFreqCellInfoSI_List_RSCP_LCR_r4(ctx, &pvalue->intraFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
-   }
-   /* intraFreqMeasQuantity */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
-   }
-   /* intraFreqReportingQuantityForRACH */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
-      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
-   }
-   /* maxReportedCellsOnRACH */
-   if (pvalue->m & 0x8u) {
-      if (pvalue->maxReportedCellsOnRACH > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->maxReportedCellsOnRACH);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->maxReportedCellsOnRACH, 0, 7);
-      RT_CHECK(ctx, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
-   }
-   /* reportingInfoForCellDCH */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_ReportingInfoForCellDCH_LCR_r4(ctx, &pvalue->reportingInfoForCellDCH);
-      RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCellSI_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_RSCP_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-RSCP-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-RSCP-LCR-r4");
-   /* interFreqCellID */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->interFreqCellID > 31u) {
-         rtxErrAddStrParm(ctx, "InterFreqCellID");
-         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-RSCP-LCR-r4");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-RSCP-LCR-r4");
-   }
-   /* frequencyInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-RSCP-LCR-r4");
-   }
-   /* cellInfo */
-   stat = asn1PE_UMTS_CellInfoSI_RSCP_LCR_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-RSCP-LCR-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCellSI_List_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_List_RSCP_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-List-RSCP-LCR-r4");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-List-RSCP-LCR-r4");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewInterFreqCellSI-RSCP-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-RSCP-LCR-r4");
-      stat = asn1PE_UMTS_NewInterFreqCellSI_RSCP_LCR_r4(ctx, (const NewInterFreqCellSI_RSCP_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-RSCP-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-RSCP-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqCellInfoSI_List_RSCP_LCR(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoSI_List_RSCP_LCR* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellInfoSI-List-RSCP-LCR");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoSI-List-RSCP-LCR");
-   /* removedInterFreqCellList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-RSCP-LCR");
-   }
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_NewInterFreqCellSI_List_RSCP_LCR_r4(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-RSCP-LCR");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqMeasurementSysInfo_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const InterFreqMeasurementSysInfo_RSCP_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqMeasurementSysInfo-RSCP-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-RSCP-LCR-r4");
-   /* interFreqCellInfoSI-List */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_InterFreqCellInfoSI_List_RSCP_LCR(ctx, &pvalue->interFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-RSCP-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* intraFreqMeasurementSysInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IntraFreqMeasurementSysInfo_RSCP_LCR_r4(ctx, &pvalue->intraFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
-   }
-   /* interFreqMeasurementSysInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_InterFreqMeasurementSysInfo_RSCP_LCR_r4(ctx, &pvalue->interFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfoSI_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const CellInfoSI_ECN0_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellInfoSI-ECN0-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->cellIndividualOffset != 0) << 4) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellInfoSI-ECN0-LCR-r4");
-   /* cellIndividualOffset */
-   if (pvalue->cellIndividualOffset != 0) {
-      if (pvalue->cellIndividualOffset < -20 || pvalue->cellIndividualOffset > 20) {
-         rtxErrAddStrParm(ctx, "CellIndividualOffset");
-         rtxErrAddIntParm(ctx, pvalue->cellIndividualOffset);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-ECN0-LCR-r4");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-ECN0-LCR-r4");
-   }
-   /* referenceTimeDifferenceToCell */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
-      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-ECN0-LCR-r4");
-   }
-   /* primaryCCPCH-Info */
-   stat = asn1PE_UMTS_PrimaryCCPCH_Info_LCR_r4(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "CellInfoSI-ECN0-LCR-r4");
-   /* primaryCCPCH-TX-Power */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-         rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
-         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "CellInfoSI-ECN0-LCR-r4");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "CellInfoSI-ECN0-LCR-r4");
-   }
-   /* timeslotInfoList */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_TimeslotInfoList_LCR_r4(ctx, &pvalue->timeslotInfoList);
-      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, "CellInfoSI-ECN0-LCR-r4");
-   }
-   /* readSFN-Indicator */
-   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, "CellInfoSI-ECN0-LCR-r4");
-   /* cellSelectionReselectionInfo */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_ECN0(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-ECN0-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCellSI_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_ECN0_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-ECN0-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-ECN0-LCR-r4");
-   /* intraFreqCellID */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->intraFreqCellID > 31u) {
-         rtxErrAddStrParm(ctx, "IntraFreqCellID");
-         rtxErrAddUIntParm(ctx, pvalue->intraFreqCellID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-ECN0-LCR-r4");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-ECN0-LCR-r4");
-   }
-   /* cellInfo */
-   stat = asn1PE_UMTS_CellInfoSI_ECN0_LCR_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-ECN0-LCR-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCellSI_List_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_List_ECN0_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-List-ECN0-LCR-r4");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-List-ECN0-LCR-r4");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewIntraFreqCellSI-ECN0-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-ECN0-LCR-r4");
-      stat = asn1PE_UMTS_NewIntraFreqCellSI_ECN0_LCR_r4(ctx, (const NewIntraFreqCellSI_ECN0_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-ECN0-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-ECN0-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqCellInfoSI_List_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoSI_List_ECN0_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqCellInfoSI-List-ECN0-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-ECN0-LCR-r4");
-   /* removedIntraFreqCellList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-ECN0-LCR-r4");
-   }
-   /* newIntraFreqCellList */
-   stat = asn1PE_UMTS_NewIntraFreqCellSI_List_ECN0_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
-   RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-ECN0-LCR-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqMeasurementSysInfo_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasurementSysInfo_ECN0_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->intraFreqMeasurementID != 1) << 5) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
-   /* intraFreqMeasurementID */
-   if (pvalue->intraFreqMeasurementID != 1) {
-      if ((uint64_t)(pvalue->intraFreqMeasurementID - 1) > 15u) {
-         rtxErrAddStrParm(ctx, "MeasurementIdentity");
-         rtxErrAddUIntParm(ctx, pvalue->intraFreqMeasurementID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->intraFreqMeasurementID, 1, 16);
-      RT_CHECK(ctx, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
-   }
-   /* intraFreqCellInfoSI-List */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IntraFreqCellInfoSI_List_ECN0_LCR_r4(ctx, &pvalue->intraFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
-   }
-   /* intraFreqMeasQuantity */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
-   }
-   /* intraFreqReportingQuantityForRACH */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
-      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
-   }
-   /* maxReportedCellsOnRACH */
-   if (pvalue->m & 0x8u) {
-      if (pvalue->maxReportedCellsOnRACH > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->maxReportedCellsOnRACH);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->maxReportedCellsOnRACH, 0, 7);
-      RT_CHECK(ctx, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
-   }
-   /* reportingInfoForCellDCH */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_ReportingInfoForCellDCH_LCR_r4(ctx, &pvalue->reportingInfoForCellDCH);
-      RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCellSI_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_ECN0_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-ECN0-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-ECN0-LCR-r4");
-   /* interFreqCellID */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->interFreqCellID > 31u) {
-         rtxErrAddStrParm(ctx, "InterFreqCellID");
-         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-ECN0-LCR-r4");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-ECN0-LCR-r4");
-   }
-   /* frequencyInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-ECN0-LCR-r4");
-   }
-   /* cellInfo */
-   stat = asn1PE_UMTS_CellInfoSI_ECN0_LCR_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-ECN0-LCR-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCellSI_List_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_List_ECN0_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-List-ECN0-LCR-r4");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-List-ECN0-LCR-r4");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewInterFreqCellSI-ECN0-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-ECN0-LCR-r4");
-      stat = asn1PE_UMTS_NewInterFreqCellSI_ECN0_LCR_r4(ctx, (const NewInterFreqCellSI_ECN0_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-ECN0-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-ECN0-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqCellInfoSI_List_ECN0_LCR(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoSI_List_ECN0_LCR* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellInfoSI-List-ECN0-LCR");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoSI-List-ECN0-LCR");
-   /* removedInterFreqCellList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-ECN0-LCR");
-   }
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_NewInterFreqCellSI_List_ECN0_LCR_r4(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-ECN0-LCR");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqMeasurementSysInfo_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const InterFreqMeasurementSysInfo_ECN0_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqMeasurementSysInfo-ECN0-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-ECN0-LCR-r4");
-   /* interFreqCellInfoSI-List */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_InterFreqCellInfoSI_List_ECN0_LCR(ctx, &pvalue->interFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-ECN0-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* intraFreqMeasurementSysInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IntraFreqMeasurementSysInfo_ECN0_LCR_r4(ctx, &pvalue->intraFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
-   }
-   /* interFreqMeasurementSysInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_InterFreqMeasurementSysInfo_ECN0_LCR_r4(ctx, &pvalue->interFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.cpich_RSCP == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cpich-RSCP", -1, 0);
-         stat = asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
-         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cpich-Ec-N0", -1, 0);
-         stat = asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
-         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* cellSelectQualityMeasure */
-   stat = asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
-   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfoSI_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellInfoSI-HCS-RSCP-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->cellIndividualOffset != 0) << 4) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellInfoSI-HCS-RSCP-LCR-r4");
-   /* cellIndividualOffset */
-   if (pvalue->cellIndividualOffset != 0) {
-      if (pvalue->cellIndividualOffset < -20 || pvalue->cellIndividualOffset > 20) {
-         rtxErrAddStrParm(ctx, "CellIndividualOffset");
-         rtxErrAddIntParm(ctx, pvalue->cellIndividualOffset);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
-   }
-   /* referenceTimeDifferenceToCell */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
-      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
-   }
-   /* primaryCCPCH-Info */
-   stat = asn1PE_UMTS_PrimaryCCPCH_Info_LCR_r4(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
-   /* primaryCCPCH-TX-Power */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-         rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
-         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
-   }
-   /* timeslotInfoList */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_TimeslotInfoList_LCR_r4(ctx, &pvalue->timeslotInfoList);
-      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
-   }
-   /* readSFN-Indicator */
-   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
-   /* cellSelectionReselectionInfo */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCellSI_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-HCS-RSCP-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-HCS-RSCP-LCR-r4");
-   /* intraFreqCellID */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->intraFreqCellID > 31u) {
-         rtxErrAddStrParm(ctx, "IntraFreqCellID");
-         rtxErrAddUIntParm(ctx, pvalue->intraFreqCellID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-HCS-RSCP-LCR-r4");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-HCS-RSCP-LCR-r4");
-   }
-   /* cellInfo */
-   stat = asn1PE_UMTS_CellInfoSI_HCS_RSCP_LCR_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-HCS-RSCP-LCR-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-List-HCS-RSCP-LCR-r4");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-List-HCS-RSCP-LCR-r4");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewIntraFreqCellSI-HCS-RSCP-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-HCS-RSCP-LCR-r4");
-      stat = asn1PE_UMTS_NewIntraFreqCellSI_HCS_RSCP_LCR_r4(ctx, (const NewIntraFreqCellSI_HCS_RSCP_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-HCS-RSCP-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-HCS-RSCP-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqCellInfoSI_List_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoSI_List_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqCellInfoSI-List-HCS-RSCP-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-HCS-RSCP-LCR-r4");
-   /* removedIntraFreqCellList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-RSCP-LCR-r4");
-   }
-   /* newIntraFreqCellList */
-   stat = asn1PE_UMTS_NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
-   RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-RSCP-LCR-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasurementSysInfo_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->intraFreqMeasurementID != 1) << 5) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
-   /* intraFreqMeasurementID */
-   if (pvalue->intraFreqMeasurementID != 1) {
-      if ((uint64_t)(pvalue->intraFreqMeasurementID - 1) > 15u) {
-         rtxErrAddStrParm(ctx, "MeasurementIdentity");
-         rtxErrAddUIntParm(ctx, pvalue->intraFreqMeasurementID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->intraFreqMeasurementID, 1, 16);
-      RT_CHECK(ctx, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
-   }
-   /* intraFreqCellInfoSI-List */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IntraFreqCellInfoSI_List_HCS_RSCP_LCR_r4(ctx, &pvalue->intraFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
-   }
-   /* intraFreqMeasQuantity */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
-   }
-   /* intraFreqReportingQuantityForRACH */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
-      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
-   }
-   /* maxReportedCellsOnRACH */
-   if (pvalue->m & 0x8u) {
-      if (pvalue->maxReportedCellsOnRACH > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->maxReportedCellsOnRACH);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->maxReportedCellsOnRACH, 0, 7);
-      RT_CHECK(ctx, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
-   }
-   /* reportingInfoForCellDCH */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_ReportingInfoForCellDCH_LCR_r4(ctx, &pvalue->reportingInfoForCellDCH);
-      RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCellSI_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-HCS-RSCP-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-HCS-RSCP-LCR-r4");
-   /* interFreqCellID */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->interFreqCellID > 31u) {
-         rtxErrAddStrParm(ctx, "InterFreqCellID");
-         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-HCS-RSCP-LCR-r4");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-HCS-RSCP-LCR-r4");
-   }
-   /* frequencyInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-HCS-RSCP-LCR-r4");
-   }
-   /* cellInfo */
-   stat = asn1PE_UMTS_CellInfoSI_HCS_RSCP_LCR_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-HCS-RSCP-LCR-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCellSI_List_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_List_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-List-HCS-RSCP-LCR-r4");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-List-HCS-RSCP-LCR-r4");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewInterFreqCellSI-HCS-RSCP-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-HCS-RSCP-LCR-r4");
-      stat = asn1PE_UMTS_NewInterFreqCellSI_HCS_RSCP_LCR_r4(ctx, (const NewInterFreqCellSI_HCS_RSCP_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-HCS-RSCP-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-HCS-RSCP-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqCellInfoSI_List_HCS_RSCP_LCR(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoSI_List_HCS_RSCP_LCR* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellInfoSI-List-HCS-RSCP-LCR");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoSI-List-HCS-RSCP-LCR");
-   /* removedInterFreqCellList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-RSCP-LCR");
-   }
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_NewInterFreqCellSI_List_HCS_RSCP_LCR_r4(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-RSCP-LCR");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const InterFreqMeasurementSysInfo_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
-   /* interFreqCellInfoSI-List */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_InterFreqCellInfoSI_List_HCS_RSCP_LCR(ctx, &pvalue->interFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* intraFreqMeasurementSysInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IntraFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(ctx, &pvalue->intraFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
-   }
-   /* interFreqMeasurementSysInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_InterFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(ctx, &pvalue->interFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfoSI_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellInfoSI-HCS-ECN0-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->cellIndividualOffset != 0) << 4) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellInfoSI-HCS-ECN0-LCR-r4");
-   /* cellIndividualOffset */
-   if (pvalue->cellIndividualOffset != 0) {
-      if (pvalue->cellIndividualOffset < -20 || pvalue->cellIndividualOffset > 20) {
-         rtxErrAddStrParm(ctx, "CellIndividualOffset");
-         rtxErrAddIntParm(ctx, pvalue->cellIndividualOffset);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
-   }
-   /* referenceTimeDifferenceToCell */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
-      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
-   }
-   /* primaryCCPCH-Info */
-   stat = asn1PE_UMTS_PrimaryCCPCH_Info_LCR_r4(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
-   /* primaryCCPCH-TX-Power */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-         rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
-         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
-   }
-   /* timeslotInfoList */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_TimeslotInfoList_LCR_r4(ctx, &pvalue->timeslotInfoList);
-      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
-   }
-   /* readSFN-Indicator */
-   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
-   /* cellSelectionReselectionInfo */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCellSI_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-HCS-ECN0-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-HCS-ECN0-LCR-r4");
-   /* intraFreqCellID */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->intraFreqCellID > 31u) {
-         rtxErrAddStrParm(ctx, "IntraFreqCellID");
-         rtxErrAddUIntParm(ctx, pvalue->intraFreqCellID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-HCS-ECN0-LCR-r4");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-HCS-ECN0-LCR-r4");
-   }
-   /* cellInfo */
-   stat = asn1PE_UMTS_CellInfoSI_HCS_ECN0_LCR_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-HCS-ECN0-LCR-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-List-HCS-ECN0-LCR-r4");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewIntraFreqCellSI-List-HCS-ECN0-LCR-r4");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewIntraFreqCellSI-HCS-ECN0-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-HCS-ECN0-LCR-r4");
-      stat = asn1PE_UMTS_NewIntraFreqCellSI_HCS_ECN0_LCR_r4(ctx, (const NewIntraFreqCellSI_HCS_ECN0_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-HCS-ECN0-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-HCS-ECN0-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqCellInfoSI_List_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoSI_List_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqCellInfoSI-List-HCS-ECN0-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-HCS-ECN0-LCR-r4");
-   /* removedIntraFreqCellList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-ECN0-LCR-r4");
-   }
-   /* newIntraFreqCellList */
-   stat = asn1PE_UMTS_NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
-   RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-ECN0-LCR-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasurementSysInfo_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->intraFreqMeasurementID != 1) << 5) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
-   /* intraFreqMeasurementID */
-   if (pvalue->intraFreqMeasurementID != 1) {
-      if ((uint64_t)(pvalue->intraFreqMeasurementID - 1) > 15u) {
-         rtxErrAddStrParm(ctx, "MeasurementIdentity");
-         rtxErrAddUIntParm(ctx, pvalue->intraFreqMeasurementID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->intraFreqMeasurementID, 1, 16);
-      RT_CHECK(ctx, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
-   }
-   /* intraFreqCellInfoSI-List */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IntraFreqCellInfoSI_List_HCS_ECN0_LCR_r4(ctx, &pvalue->intraFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
-   }
-   /* intraFreqMeasQuantity */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
-   }
-   /* intraFreqReportingQuantityForRACH */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH);
-      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
-   }
-   /* maxReportedCellsOnRACH */
-   if (pvalue->m & 0x8u) {
-      if (pvalue->maxReportedCellsOnRACH > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->maxReportedCellsOnRACH);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->maxReportedCellsOnRACH, 0, 7);
-      RT_CHECK(ctx, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
-   }
-   /* reportingInfoForCellDCH */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_ReportingInfoForCellDCH_LCR_r4(ctx, &pvalue->reportingInfoForCellDCH);
-      RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCellSI_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-HCS-ECN0-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-HCS-ECN0-LCR-r4");
-   /* interFreqCellID */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->interFreqCellID > 31u) {
-         rtxErrAddStrParm(ctx, "InterFreqCellID");
-         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-HCS-ECN0-LCR-r4");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-HCS-ECN0-LCR-r4");
-   }
-   /* frequencyInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-HCS-ECN0-LCR-r4");
-   }
-   /* cellInfo */
-   stat = asn1PE_UMTS_CellInfoSI_HCS_ECN0_LCR_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-HCS-ECN0-LCR-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCellSI_List_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_List_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-List-HCS-ECN0-LCR-r4");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewInterFreqCellSI-List-HCS-ECN0-LCR-r4");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewInterFreqCellSI-HCS-ECN0-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-HCS-ECN0-LCR-r4");
-      stat = asn1PE_UMTS_NewInterFreqCellSI_HCS_ECN0_LCR_r4(ctx, (const NewInterFreqCellSI_HCS_ECN0_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-HCS-ECN0-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-HCS-ECN0-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqCellInfoSI_List_HCS_ECN0_LCR(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoSI_List_HCS_ECN0_LCR* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellInfoSI-List-HCS-ECN0-LCR");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoSI-List-HCS-ECN0-LCR");
-   /* removedInterFreqCellList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-ECN0-LCR");
-   }
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_NewInterFreqCellSI_List_HCS_ECN0_LCR_r4(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-ECN0-LCR");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const InterFreqMeasurementSysInfo_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
-   /* interFreqCellInfoSI-List */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_InterFreqCellInfoSI_List_HCS_ECN0_LCR(ctx, &pvalue->interFreqCellInfoSI_List);
-      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* intraFreqMeasurementSysInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IntraFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(ctx, &pvalue->intraFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
-   }
-   /* interFreqMeasurementSysInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_InterFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(ctx, &pvalue->interFreqMeasurementSysInfo);
-      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.cpich_RSCP == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cpich-RSCP", -1, 0);
-         stat = asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
-         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cpich-Ec-N0", -1, 0);
-         stat = asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
-         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* cellSelectQualityMeasure */
-   stat = asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
-   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.hcs_not_used == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "hcs-not-used", -1, 0);
-         stat = asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used(ctx, pvalue->u.hcs_not_used);
-         RT_CHECK(ctx, stat, 0, "hcs-not-used", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.hcs_used == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "hcs-used", -1, 0);
-         stat = asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used(ctx, pvalue->u.hcs_used);
-         RT_CHECK(ctx, stat, 0, "hcs-used", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementControlSysInfo-LCR-r4-ext");
-   /* use-of-HCS */
-   stat = asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS(ctx, &pvalue->use_of_HCS);
-   RT_CHECK(ctx, stat, 0, "use-of-HCS", -1, "MeasurementControlSysInfo-LCR-r4-ext");
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType11_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType11-v4b0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11-v4b0ext-IEs");
-   /* fach-MeasurementOccasionInfo-LCR-Ext */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_FACH_MeasurementOccasionInfo_LCR_r4_ext(ctx, &pvalue->fach_MeasurementOccasionInfo_LCR_Ext);
-      RT_CHECK(ctx, stat, 0, "fach-MeasurementOccasionInfo-LCR-Ext", -1, "SysInfoType11-v4b0ext-IEs");
-   }
-   /* measurementControlSysInfo-LCR */
-   stat = asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext(ctx, &pvalue->measurementControlSysInfo_LCR);
-   RT_CHECK(ctx, stat, 0, "measurementControlSysInfo-LCR", -1, "SysInfoType11-v4b0ext-IEs");
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType11_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
-      stat = asn1PE_UMTS_CellSelectReselectInfo_v590ext(ctx, (const CellSelectReselectInfo_v590ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType11_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v590ext_IEs_newInterFrequencyCellInfoList_v590ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
-      stat = asn1PE_UMTS_CellSelectReselectInfo_v590ext(ctx, (const CellSelectReselectInfo_v590ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType11_v590ext_IEs_newInterRATCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v590ext_IEs_newInterRATCellInfoList_v590ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
-      stat = asn1PE_UMTS_CellSelectReselectInfo_v590ext(ctx, (const CellSelectReselectInfo_v590ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Intra_FreqEventCriteriaList_v590ext(rtxContext* RT_RESTRICT ctx, const Intra_FreqEventCriteriaList_v590ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Intra-FreqEventCriteriaList-v590ext");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "Intra-FreqEventCriteriaList-v590ext");
-   for (i = 0; i < pvalue->n; i++) {
-      if (pvalue->elem[i] < -5 || pvalue->elem[i] > -1) {
-         rtxErrAddStrParm(ctx, "DeltaRSCP");
-         rtxErrAddIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaRSCP", "DeltaRSCP", (int32_t)i, "Intra-FreqEventCriteriaList-v590ext");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->elem[i], -5, -1);
-      RT_CHECK(ctx, stat, "DeltaRSCP", "DeltaRSCP", (int32_t)i, "Intra-FreqEventCriteriaList-v590ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PeriodicReportingInfo_1b(rtxContext* RT_RESTRICT ctx, const PeriodicReportingInfo_1b* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PeriodicReportingInfo-1b");
-   /* reportingAmount */
-   if (pvalue->reportingAmount > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->reportingAmount);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportingAmount", "reportingAmount", -1, "PeriodicReportingInfo-1b");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingAmount, 0, 7);
-   RT_CHECK(ctx, stat, "ReportingAmount", "reportingAmount", -1, "PeriodicReportingInfo-1b");
-   /* reportingInterval */
-   if (pvalue->reportingInterval > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->reportingInterval);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportingInterval", "reportingInterval", -1, "PeriodicReportingInfo-1b");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingInterval, 0, 7);
-   RT_CHECK(ctx, stat, "ReportingInterval", "reportingInterval", -1, "PeriodicReportingInfo-1b");
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqReportingCriteria_1b_r5(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingCriteria_1b_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqReportingCriteria-1b-r5");
-   /* periodicReportingInfo-1b */
-   stat = asn1PE_UMTS_PeriodicReportingInfo_1b(ctx, &pvalue->periodicReportingInfo_1b);
-   RT_CHECK(ctx, stat, 0, "periodicReportingInfo-1b", -1, "IntraFreqReportingCriteria-1b-r5");
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqEvent_1d_r5(rtxContext* RT_RESTRICT ctx, const IntraFreqEvent_1d_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEvent-1d-r5");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqEvent-1d-r5");
-   /* triggeringCondition */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->triggeringCondition > 4) {
-         rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "TriggeringCondition2", "triggeringCondition", -1, "IntraFreqEvent-1d-r5");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 4);
-      RT_CHECK(ctx, stat, "TriggeringCondition2", "triggeringCondition", -1, "IntraFreqEvent-1d-r5");
-   }
-   /* useCIO */
-   if (pvalue->m & 0x2u) {
-      stat = rtxEncBit(ctx, pvalue->useCIO);
-      RT_CHECK(ctx, stat, 0, "useCIO", -1, "IntraFreqEvent-1d-r5");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType11_v590ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v590ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType11-v590ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11-v590ext-IEs");
-   /* newIntraFrequencyCellInfoList-v590ext */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType11_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(ctx, &pvalue->newIntraFrequencyCellInfoList_v590ext);
-      RT_CHECK(ctx, stat, 0, "newIntraFrequencyCellInfoList-v590ext", -1, "SysInfoType11-v590ext-IEs");
-   }
-   /* newInterFrequencyCellInfoList-v590ext */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_SysInfoType11_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(ctx, &pvalue->newInterFrequencyCellInfoList_v590ext);
-      RT_CHECK(ctx, stat, 0, "newInterFrequencyCellInfoList-v590ext", -1, "SysInfoType11-v590ext-IEs");
-   }
-   /* newInterRATCellInfoList-v590ext */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_SysInfoType11_v590ext_IEs_newInterRATCellInfoList_v590ext(ctx, &pvalue->newInterRATCellInfoList_v590ext);
-      RT_CHECK(ctx, stat, 0, "newInterRATCellInfoList-v590ext", -1, "SysInfoType11-v590ext-IEs");
-   }
-   /* intraFreqEventCriteriaList-v590ext */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_Intra_FreqEventCriteriaList_v590ext(ctx, &pvalue->intraFreqEventCriteriaList_v590ext);
-      RT_CHECK(ctx, stat, 0, "intraFreqEventCriteriaList-v590ext", -1, "SysInfoType11-v590ext-IEs");
-   }
-   /* intraFreqReportingCriteria-1b-r5 */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_IntraFreqReportingCriteria_1b_r5(ctx, &pvalue->intraFreqReportingCriteria_1b_r5);
-      RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria-1b-r5", -1, "SysInfoType11-v590ext-IEs");
-   }
-   /* intraFreqEvent-1d-r5 */
-   if (pvalue->m & 0x20u) {
-      stat = asn1PE_UMTS_IntraFreqEvent_1d_r5(ctx, &pvalue->intraFreqEvent_1d_r5);
-      RT_CHECK(ctx, stat, 0, "intraFreqEvent-1d-r5", -1, "SysInfoType11-v590ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqRepQuantityRACH_FDD(rtxContext* RT_RESTRICT ctx, InterFreqRepQuantityRACH_FDD value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "InterFreqRepQuantityRACH-FDD");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqRepQuantityRACH-FDD");
-   return 0;
-}
-
-int asn1PE_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* interFreqRepQuantityRACH-FDD */
-   if (pvalue->interFreqRepQuantityRACH_FDD > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->interFreqRepQuantityRACH_FDD);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "InterFreqRepQuantityRACH-FDD", "interFreqRepQuantityRACH-FDD", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->interFreqRepQuantityRACH_FDD, 0, 1);
-   RT_CHECK(ctx, stat, "InterFreqRepQuantityRACH-FDD", "interFreqRepQuantityRACH-FDD", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqRepQuantityRACH_TDD(rtxContext* RT_RESTRICT ctx, InterFreqRepQuantityRACH_TDD value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "InterFreqRepQuantityRACH-TDD");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqRepQuantityRACH-TDD");
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqRepQuantityRACH_TDDList(rtxContext* RT_RESTRICT ctx, const InterFreqRepQuantityRACH_TDDList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqRepQuantityRACH-TDDList");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 2);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "InterFreqRepQuantityRACH-TDDList");
-   for (i = 0; i < pvalue->n; i++) {
-      if (pvalue->elem[i] > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "InterFreqRepQuantityRACH-TDD", "InterFreqRepQuantityRACH-TDD", (int32_t)i, "InterFreqRepQuantityRACH-TDDList");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 1);
-      RT_CHECK(ctx, stat, "InterFreqRepQuantityRACH-TDD", "InterFreqRepQuantityRACH-TDD", (int32_t)i, "InterFreqRepQuantityRACH-TDDList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* interFreqRepQuantityRACH-TDDList */
-   stat = asn1PE_UMTS_InterFreqRepQuantityRACH_TDDList(ctx, &pvalue->interFreqRepQuantityRACH_TDDList);
-   RT_CHECK(ctx, stat, 0, "interFreqRepQuantityRACH-TDDList", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_Threshold(rtxContext* RT_RESTRICT ctx, Threshold value)
-{
-   int stat = 0;
-   if (value < -115 || value > 0) {
-      rtxErrAddStrParm(ctx, "Threshold");
-      rtxErrAddIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "Threshold");
-   }
-   stat = pe_ConsInt64(ctx, value, -115, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Threshold");
-   return 0;
-}
-
-int asn1PE_UMTS_MaxReportedCellsOnRACHinterFreq(rtxContext* RT_RESTRICT ctx, MaxReportedCellsOnRACHinterFreq value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 7u) {
-      rtxErrAddStrParm(ctx, "MaxReportedCellsOnRACHinterFreq");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MaxReportedCellsOnRACHinterFreq");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxReportedCellsOnRACHinterFreq");
-   return 0;
-}
-
-int asn1PE_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const Dummy_InterFreqRACHReportingInfo_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      case 3:
-         if (pvalue->u.interFreqRACHReportingThreshold < -115 || pvalue->u.interFreqRACHReportingThreshold > 0) {
-            rtxErrAddStrParm(ctx, "Threshold");
-            rtxErrAddIntParm(ctx, pvalue->u.interFreqRACHReportingThreshold);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "Threshold", "interFreqRACHReportingThreshold", -1, 0);
-         }
-         stat = pe_ConsInt64(ctx, pvalue->u.interFreqRACHReportingThreshold, -115, 0);
-         RT_CHECK(ctx, stat, "Threshold", "interFreqRACHReportingThreshold", -1, 0);
-         break;
-      case 4:
-         if ((uint64_t)(pvalue->u.maxReportedCellsOnRACHinterFreq - 1) > 7u) {
-            rtxErrAddStrParm(ctx, "MaxReportedCellsOnRACHinterFreq");
-            rtxErrAddUIntParm(ctx, pvalue->u.maxReportedCellsOnRACHinterFreq);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxReportedCellsOnRACHinterFreq", "maxReportedCellsOnRACHinterFreq", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.maxReportedCellsOnRACHinterFreq, 1, 8);
-         RT_CHECK(ctx, stat, "MaxReportedCellsOnRACHinterFreq", "maxReportedCellsOnRACHinterFreq", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Dummy_InterFreqRACHReportingInfo(rtxContext* RT_RESTRICT ctx, const Dummy_InterFreqRACHReportingInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Dummy-InterFreqRACHReportingInfo");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "Dummy-InterFreqRACHReportingInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType11_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v690ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType11-v690ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11-v690ext-IEs");
-   /* dummy */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_Dummy_InterFreqRACHReportingInfo(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "SysInfoType11-v690ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const InterFreqRACHReportingInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* interFreqRepQuantityRACH-FDD */
-   if (pvalue->interFreqRepQuantityRACH_FDD > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->interFreqRepQuantityRACH_FDD);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "InterFreqRepQuantityRACH-FDD", "interFreqRepQuantityRACH-FDD", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->interFreqRepQuantityRACH_FDD, 0, 1);
-   RT_CHECK(ctx, stat, "InterFreqRepQuantityRACH-FDD", "interFreqRepQuantityRACH-FDD", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const InterFreqRACHReportingInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* interFreqRepQuantityRACH-TDDList */
-   stat = asn1PE_UMTS_InterFreqRepQuantityRACH_TDDList(ctx, &pvalue->interFreqRepQuantityRACH_TDDList);
-   RT_CHECK(ctx, stat, 0, "interFreqRepQuantityRACH-TDDList", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const InterFreqRACHReportingInfo_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqRACHReportingInfo(rtxContext* RT_RESTRICT ctx, const InterFreqRACHReportingInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqRACHReportingInfo");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "InterFreqRACHReportingInfo");
-   /* interFreqRACHReportingThreshold */
-   if (pvalue->interFreqRACHReportingThreshold < -115 || pvalue->interFreqRACHReportingThreshold > 0) {
-      rtxErrAddStrParm(ctx, "Threshold");
-      rtxErrAddIntParm(ctx, pvalue->interFreqRACHReportingThreshold);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Threshold", "interFreqRACHReportingThreshold", -1, "InterFreqRACHReportingInfo");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->interFreqRACHReportingThreshold, -115, 0);
-   RT_CHECK(ctx, stat, "Threshold", "interFreqRACHReportingThreshold", -1, "InterFreqRACHReportingInfo");
-   /* maxReportedCellsOnRACHinterFreq */
-   if ((uint64_t)(pvalue->maxReportedCellsOnRACHinterFreq - 1) > 7u) {
-      rtxErrAddStrParm(ctx, "MaxReportedCellsOnRACHinterFreq");
-      rtxErrAddUIntParm(ctx, pvalue->maxReportedCellsOnRACHinterFreq);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxReportedCellsOnRACHinterFreq", "maxReportedCellsOnRACHinterFreq", -1, "InterFreqRACHReportingInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxReportedCellsOnRACHinterFreq, 1, 8);
-   RT_CHECK(ctx, stat, "MaxReportedCellsOnRACHinterFreq", "maxReportedCellsOnRACHinterFreq", -1, "InterFreqRACHReportingInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType11_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v6b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType11-v6b0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11-v6b0ext-IEs");
-   /* interFreqRACHReportingInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_InterFreqRACHReportingInfo(ctx, &pvalue->interFreqRACHReportingInfo);
-      RT_CHECK(ctx, stat, 0, "interFreqRACHReportingInfo", -1, "SysInfoType11-v6b0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBSFNFrequency(rtxContext* RT_RESTRICT ctx, const MBSFNFrequency* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBSFNFrequency");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBSFNFrequency");
-   /* frequencyInfo */
-   stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "MBSFNFrequency");
-   /* cellParametersID */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->cellParametersID > 127u) {
-         rtxErrAddStrParm(ctx, "CellParametersID");
-         rtxErrAddUIntParm(ctx, pvalue->cellParametersID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "CellParametersID", "cellParametersID", -1, "MBSFNFrequency");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->cellParametersID, 0, 127);
-      RT_CHECK(ctx, stat, "CellParametersID", "cellParametersID", -1, "MBSFNFrequency");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBSFNFrequencyList(rtxContext* RT_RESTRICT ctx, const MBSFNFrequencyList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBSFNFrequencyList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 0, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBSFNFrequencyList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBSFNFrequency", (int32_t)i, "MBSFNFrequencyList");
-      stat = asn1PE_UMTS_MBSFNFrequency(ctx, (const MBSFNFrequency*)node->data);
-      RT_CHECK(ctx, stat, 0, "MBSFNFrequency", (int32_t)i, "MBSFNFrequencyList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType11_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v770ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType11-v770ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11-v770ext-IEs");
-   /* mbsfnFrequencyList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MBSFNFrequencyList(ctx, &pvalue->mbsfnFrequencyList);
-      RT_CHECK(ctx, stat, 0, "mbsfnFrequencyList", -1, "SysInfoType11-v770ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCell_v7b0ext(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_v7b0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCell-v7b0ext");
-   /* intraSecondaryFreqIndicator */
-   stat = rtxEncBit(ctx, pvalue->intraSecondaryFreqIndicator);
-   RT_CHECK(ctx, stat, 0, "intraSecondaryFreqIndicator", -1, "NewInterFreqCell-v7b0ext");
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCellList_v7b0ext(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellList_v7b0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellList-v7b0ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewInterFreqCellList-v7b0ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewInterFreqCell-v7b0ext", (int32_t)i, "NewInterFreqCellList-v7b0ext");
-      stat = asn1PE_UMTS_NewInterFreqCell_v7b0ext(ctx, (const NewInterFreqCell_v7b0ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "NewInterFreqCell-v7b0ext", (int32_t)i, "NewInterFreqCellList-v7b0ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType11_v7b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v7b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType11-v7b0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11-v7b0ext-IEs");
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_NewInterFreqCellList_v7b0ext(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "SysInfoType11-v7b0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBSFNFrequency_v860ext_imb_Indication(rtxContext* RT_RESTRICT ctx, MBSFNFrequency_v860ext_imb_Indication value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MBSFNFrequency_v860ext(rtxContext* RT_RESTRICT ctx, const MBSFNFrequency_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBSFNFrequency-v860ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBSFNFrequency-v860ext");
-   /* imb-Indication */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->imb_Indication > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->imb_Indication);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "imb-Indication", -1, "MBSFNFrequency-v860ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->imb_Indication, 0, 0);
-      RT_CHECK(ctx, stat, 0, "imb-Indication", -1, "MBSFNFrequency-v860ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBSFNFrequencyList_v860ext(rtxContext* RT_RESTRICT ctx, const MBSFNFrequencyList_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBSFNFrequencyList-v860ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 0, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBSFNFrequencyList-v860ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBSFNFrequency-v860ext", (int32_t)i, "MBSFNFrequencyList-v860ext");
-      stat = asn1PE_UMTS_MBSFNFrequency_v860ext(ctx, (const MBSFNFrequency_v860ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "MBSFNFrequency-v860ext", (int32_t)i, "MBSFNFrequencyList-v860ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType11_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v860ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType11-v860ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11-v860ext-IEs");
-   /* mbsfnFrequencyList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MBSFNFrequencyList_v860ext(ctx, &pvalue->mbsfnFrequencyList);
-      RT_CHECK(ctx, stat, 0, "mbsfnFrequencyList", -1, "SysInfoType11-v860ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType11-v860ext */
-   stat = asn1PE_UMTS_SysInfoType11_v860ext_IEs(ctx, &pvalue->sysInfoType11_v860ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType11-v860ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType11-v7b0ext */
-   stat = asn1PE_UMTS_SysInfoType11_v7b0ext_IEs(ctx, &pvalue->sysInfoType11_v7b0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType11-v7b0ext", -1, 0);
-   /* v860NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType11-v770ext */
-   stat = asn1PE_UMTS_SysInfoType11_v770ext_IEs(ctx, &pvalue->sysInfoType11_v770ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType11-v770ext", -1, 0);
-   /* v7b0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions(ctx, &pvalue->v7b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7b0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType11-v6b0ext */
-   stat = asn1PE_UMTS_SysInfoType11_v6b0ext_IEs(ctx, &pvalue->sysInfoType11_v6b0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType11-v6b0ext", -1, 0);
-   /* v770NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType11-v690ext */
-   stat = asn1PE_UMTS_SysInfoType11_v690ext_IEs(ctx, &pvalue->sysInfoType11_v690ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType11-v690ext", -1, 0);
-   /* v6b0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType11-v590ext */
-   stat = asn1PE_UMTS_SysInfoType11_v590ext_IEs(ctx, &pvalue->sysInfoType11_v590ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType11-v590ext", -1, 0);
-   /* v690NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType11-v4b0ext */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType11_v4b0ext_IEs(ctx, &pvalue->sysInfoType11_v4b0ext);
-      RT_CHECK(ctx, stat, 0, "sysInfoType11-v4b0ext", -1, 0);
-   }
-   /* v590NonCriticalExtension */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension(ctx, &pvalue->v590NonCriticalExtension);
-      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtension", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType11(rtxContext* RT_RESTRICT ctx, const SysInfoType11* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType11");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11");
-   /* sib12indicator */
-   stat = rtxEncBit(ctx, pvalue->sib12indicator);
-   RT_CHECK(ctx, stat, 0, "sib12indicator", -1, "SysInfoType11");
-   /* fach-MeasurementOccasionInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_FACH_MeasurementOccasionInfo(ctx, &pvalue->fach_MeasurementOccasionInfo);
-      RT_CHECK(ctx, stat, 0, "fach-MeasurementOccasionInfo", -1, "SysInfoType11");
-   }
-   /* measurementControlSysInfo */
-   stat = asn1PE_UMTS_MeasurementControlSysInfo(ctx, &pvalue->measurementControlSysInfo);
-   RT_CHECK(ctx, stat, 0, "measurementControlSysInfo", -1, "SysInfoType11");
-   /* v4b0NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType11");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* newIntraFreqCellList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_NewIntraFreqCellSI_List_RSCP(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
-   }
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_NewInterFreqCellSI_List_RSCP(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* newIntraFreqCellList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_NewIntraFreqCellSI_List_ECN0(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
-   }
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_NewInterFreqCellSI_List_ECN0(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.cpich_RSCP == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cpich-RSCP", -1, 0);
-         stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
-         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cpich-Ec-N0", -1, 0);
-         stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
-         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellSelectQualityMeasure */
-   stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
-   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
-   /* newInterRATCellList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_NewInterRATCellList(ctx, &pvalue->newInterRATCellList);
-      RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* newIntraFreqCellList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_NewIntraFreqCellSI_List_HCS_RSCP(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
-   }
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_NewInterFreqCellSI_List_HCS_RSCP(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* newIntraFreqCellList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_NewIntraFreqCellSI_List_HCS_ECN0(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
-   }
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_NewInterFreqCellSI_List_HCS_ECN0(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.cpich_RSCP == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cpich-RSCP", -1, 0);
-         stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
-         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cpich-Ec-N0", -1, 0);
-         stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
-         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_used* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellSelectQualityMeasure */
-   stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
-   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
-   /* newInterRATCellList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_NewInterRATCellList(ctx, &pvalue->newInterRATCellList);
-      RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.hcs_not_used == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "hcs-not-used", -1, 0);
-         stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used(ctx, pvalue->u.hcs_not_used);
-         RT_CHECK(ctx, stat, 0, "hcs-not-used", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.hcs_used == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "hcs-used", -1, 0);
-         stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used(ctx, pvalue->u.hcs_used);
-         RT_CHECK(ctx, stat, 0, "hcs-used", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfoExtension(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementControlSysInfoExtension");
-   /* use-of-HCS */
-   stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS(ctx, &pvalue->use_of_HCS);
-   RT_CHECK(ctx, stat, 0, "use-of-HCS", -1, "MeasurementControlSysInfoExtension");
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* newIntraFreqCellList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_NewIntraFreqCellSI_List_RSCP_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
-   }
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_NewInterFreqCellSI_List_RSCP_LCR_r4(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* newIntraFreqCellList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_NewIntraFreqCellSI_List_ECN0_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
-   }
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_NewInterFreqCellSI_List_ECN0_LCR_r4(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.cpich_RSCP == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cpich-RSCP", -1, 0);
-         stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
-         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cpich-Ec-N0", -1, 0);
-         stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
-         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellSelectQualityMeasure */
-   stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
-   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
-   /* newInterRATCellList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_NewInterRATCellList(ctx, &pvalue->newInterRATCellList);
-      RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* newIntraFreqCellList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
-   }
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_NewInterFreqCellSI_List_HCS_RSCP_LCR_r4(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* newIntraFreqCellList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
-   }
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_NewInterFreqCellSI_List_HCS_ECN0_LCR_r4(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.cpich_RSCP == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cpich-RSCP", -1, 0);
-         stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP);
-         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cpich-Ec-N0", -1, 0);
-         stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0);
-         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellSelectQualityMeasure */
-   stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure);
-   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
-   /* newInterRATCellList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_NewInterRATCellList(ctx, &pvalue->newInterRATCellList);
-      RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.hcs_not_used == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "hcs-not-used", -1, 0);
-         stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used(ctx, pvalue->u.hcs_not_used);
-         RT_CHECK(ctx, stat, 0, "hcs-not-used", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.hcs_used == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "hcs-used", -1, 0);
-         stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used(ctx, pvalue->u.hcs_used);
-         RT_CHECK(ctx, stat, 0, "hcs-used", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementControlSysInfoExtension-LCR-r4");
-   /* use-of-HCS */
-   stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS(ctx, &pvalue->use_of_HCS);
-   RT_CHECK(ctx, stat, 0, "use-of-HCS", -1, "MeasurementControlSysInfoExtension-LCR-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newIntraFrequencyCellInfoListAddon_r5(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtensionAddon_r5_newIntraFrequencyCellInfoListAddon_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
-      stat = asn1PE_UMTS_CellSelectReselectInfo_v590ext(ctx, (const CellSelectReselectInfo_v590ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newInterFrequencyCellInfoListAddon_r5(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtensionAddon_r5_newInterFrequencyCellInfoListAddon_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
-      stat = asn1PE_UMTS_CellSelectReselectInfo_v590ext(ctx, (const CellSelectReselectInfo_v590ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newInterRATCellInfoListAddon_r5(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtensionAddon_r5_newInterRATCellInfoListAddon_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
-      stat = asn1PE_UMTS_CellSelectReselectInfo_v590ext(ctx, (const CellSelectReselectInfo_v590ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementControlSysInfoExtensionAddon_r5(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtensionAddon_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementControlSysInfoExtensionAddon-r5");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementControlSysInfoExtensionAddon-r5");
-   /* newIntraFrequencyCellInfoListAddon-r5 */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newIntraFrequencyCellInfoListAddon_r5(ctx, &pvalue->newIntraFrequencyCellInfoListAddon_r5);
-      RT_CHECK(ctx, stat, 0, "newIntraFrequencyCellInfoListAddon-r5", -1, "MeasurementControlSysInfoExtensionAddon-r5");
-   }
-   /* newInterFrequencyCellInfoListAddon-r5 */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newInterFrequencyCellInfoListAddon_r5(ctx, &pvalue->newInterFrequencyCellInfoListAddon_r5);
-      RT_CHECK(ctx, stat, 0, "newInterFrequencyCellInfoListAddon-r5", -1, "MeasurementControlSysInfoExtensionAddon-r5");
-   }
-   /* newInterRATCellInfoListAddon-r5 */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newInterRATCellInfoListAddon_r5(ctx, &pvalue->newInterRATCellInfoListAddon_r5);
-      RT_CHECK(ctx, stat, 0, "newInterRATCellInfoListAddon-r5", -1, "MeasurementControlSysInfoExtensionAddon-r5");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType11bis_v7b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11bis_v7b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType11bis-v7b0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11bis-v7b0ext-IEs");
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_NewInterFreqCellList_v7b0ext(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "SysInfoType11bis-v7b0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CSG_DedicatedFrequencyInfoList(rtxContext* RT_RESTRICT ctx, const CSG_DedicatedFrequencyInfoList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CSG-DedicatedFrequencyInfoList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CSG-DedicatedFrequencyInfoList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "FrequencyInfo", (int32_t)i, "CSG-DedicatedFrequencyInfoList");
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, (const FrequencyInfo*)node->data);
-      RT_CHECK(ctx, stat, 0, "FrequencyInfo", (int32_t)i, "CSG-DedicatedFrequencyInfoList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType11bis_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11bis_v860ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType11bis-v860ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11bis-v860ext-IEs");
-   /* csg-PSCSplitInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CSG_PSCSplitInfo(ctx, &pvalue->csg_PSCSplitInfo);
-      RT_CHECK(ctx, stat, 0, "csg-PSCSplitInfo", -1, "SysInfoType11bis-v860ext-IEs");
-   }
-   /* csg-DedicatedFrequencyInfoList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_CSG_DedicatedFrequencyInfoList(ctx, &pvalue->csg_DedicatedFrequencyInfoList);
-      RT_CHECK(ctx, stat, 0, "csg-DedicatedFrequencyInfoList", -1, "SysInfoType11bis-v860ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType11bis-v860ext */
-   stat = asn1PE_UMTS_SysInfoType11bis_v860ext_IEs(ctx, &pvalue->sysInfoType11bis_v860ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType11bis-v860ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11bis_v7b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType11bis-v7b0ext */
-   stat = asn1PE_UMTS_SysInfoType11bis_v7b0ext_IEs(ctx, &pvalue->sysInfoType11bis_v7b0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType11bis-v7b0ext", -1, 0);
-   /* v860NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType11bis(rtxContext* RT_RESTRICT ctx, const SysInfoType11bis* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType11bis");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType11bis");
-   /* measurementControlSysInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MeasurementControlSysInfoExtension(ctx, &pvalue->measurementControlSysInfo);
-      RT_CHECK(ctx, stat, 0, "measurementControlSysInfo", -1, "SysInfoType11bis");
-   }
-   /* measurementControlSysInfo-LCR */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4(ctx, &pvalue->measurementControlSysInfo_LCR);
-      RT_CHECK(ctx, stat, 0, "measurementControlSysInfo-LCR", -1, "SysInfoType11bis");
-   }
-   /* measurementControlSysInfoExtensionAddon-r5 */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_MeasurementControlSysInfoExtensionAddon_r5(ctx, &pvalue->measurementControlSysInfoExtensionAddon_r5);
-      RT_CHECK(ctx, stat, 0, "measurementControlSysInfoExtensionAddon-r5", -1, "SysInfoType11bis");
-   }
-   /* v7b0NonCriticalExtensions */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions(ctx, &pvalue->v7b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7b0NonCriticalExtensions", -1, "SysInfoType11bis");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType12_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v4b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType12-v4b0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType12-v4b0ext-IEs");
-   /* fach-MeasurementOccasionInfo-LCR-Ext */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_FACH_MeasurementOccasionInfo_LCR_r4_ext(ctx, &pvalue->fach_MeasurementOccasionInfo_LCR_Ext);
-      RT_CHECK(ctx, stat, 0, "fach-MeasurementOccasionInfo-LCR-Ext", -1, "SysInfoType12-v4b0ext-IEs");
-   }
-   /* measurementControlSysInfo-LCR */
-   stat = asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext(ctx, &pvalue->measurementControlSysInfo_LCR);
-   RT_CHECK(ctx, stat, 0, "measurementControlSysInfo-LCR", -1, "SysInfoType12-v4b0ext-IEs");
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType12_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
-      stat = asn1PE_UMTS_CellSelectReselectInfo_v590ext(ctx, (const CellSelectReselectInfo_v590ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType12_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v590ext_IEs_newInterFrequencyCellInfoList_v590ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
-      stat = asn1PE_UMTS_CellSelectReselectInfo_v590ext(ctx, (const CellSelectReselectInfo_v590ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_HCS_NeighbouringCellInformation_RSCP, pvalue);
 }
 

@@ -6,398 +6,485 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PE_UMTS_SysInfoType12_v590ext_IEs_newInterRATCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v590ext_IEs_newInterRATCellInfoList_v590ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
-      stat = asn1PE_UMTS_CellSelectReselectInfo_v590ext(ctx, (const CellSelectReselectInfo_v590ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
-   }
-   return 0;
-}
+/* The bodies of this unit. */
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_11_12_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_CellSelectReselectInfoSIB_11_12(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterRATCellIndividualOffset(rtxContext* RT_RESTRICT ctx, InterRATCellIndividualOffset value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NCC(rtxContext* RT_RESTRICT ctx, NCC value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_BCC(rtxContext* RT_RESTRICT ctx, BCC value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_BSIC(rtxContext* RT_RESTRICT ctx, const BSIC* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Frequency_Band(rtxContext* RT_RESTRICT ctx, Frequency_Band value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_BCCH_ARFCN(rtxContext* RT_RESTRICT ctx, BCCH_ARFCN value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewInterRATCell_B_technologySpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const NewInterRATCell_B_technologySpecificInfo_gsm* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IS_2000SpecificMeasInfo(rtxContext* RT_RESTRICT ctx, IS_2000SpecificMeasInfo value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewInterRATCell_B_technologySpecificInfo_is_2000(rtxContext* RT_RESTRICT ctx, const NewInterRATCell_B_technologySpecificInfo_is_2000* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewInterRATCell_B_technologySpecificInfo(rtxContext* RT_RESTRICT ctx, const NewInterRATCell_B_technologySpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewInterRATCell_B(rtxContext* RT_RESTRICT ctx, const NewInterRATCell_B* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewInterRATCellList_B(rtxContext* RT_RESTRICT ctx, const NewInterRATCellList_B* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterRATCellInfoList_B(rtxContext* RT_RESTRICT ctx, const InterRATCellInfoList_B* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterRATMeasurementSysInfo_B(rtxContext* RT_RESTRICT ctx, const InterRATMeasurementSysInfo_B* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_MeasurementControlSysInfo_use_of_HCS_hcs_not_used(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_not_used* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellInfoSI_HCS_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_RSCP_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_gsm* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_CellSelectReselectInfoSIB_11_12_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_CellInfoSI_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewIntraFreqCellSI_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_HCS_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewIntraFreqCellSI_List_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_List_HCS_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqCellInfoSI_List_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoSI_List_HCS_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_IntraFreqMeasurementSysInfo_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasurementSysInfo_HCS_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewInterFreqCellSI_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_HCS_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_NewInterFreqCellSI_List_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_List_HCS_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqCellInfoSI_List_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoSI_List_HCS_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqMeasurementSysInfo_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const InterFreqMeasurementSysInfo_HCS_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellInfoSI_HCS_ECN0_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_ECN0_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TemporaryOffset2(rtxContext* RT_RESTRICT ctx, TemporaryOffset2 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TemporaryOffsetList(rtxContext* RT_RESTRICT ctx, const TemporaryOffsetList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PenaltyTime_ECN0(rtxContext* RT_RESTRICT ctx, const PenaltyTime_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HCS_CellReselectInformation_ECN0(rtxContext* RT_RESTRICT ctx, const HCS_CellReselectInformation_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HCS_NeighbouringCellInformation_ECN0(rtxContext* RT_RESTRICT ctx, const HCS_NeighbouringCellInformation_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_gsm* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_CellSelectReselectInfoSIB_11_12_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_CellInfoSI_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewIntraFreqCellSI_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_HCS_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewIntraFreqCellSI_List_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_List_HCS_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqCellInfoSI_List_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoSI_List_HCS_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_IntraFreqMeasurementSysInfo_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasurementSysInfo_HCS_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewInterFreqCellSI_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_HCS_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_NewInterFreqCellSI_List_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_List_HCS_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqCellInfoSI_List_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoSI_List_HCS_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqMeasurementSysInfo_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const InterFreqMeasurementSysInfo_HCS_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewInterRATCell_technologySpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const NewInterRATCell_technologySpecificInfo_gsm* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewInterRATCell_technologySpecificInfo_is_2000(rtxContext* RT_RESTRICT ctx, const NewInterRATCell_technologySpecificInfo_is_2000* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewInterRATCell_technologySpecificInfo(rtxContext* RT_RESTRICT ctx, const NewInterRATCell_technologySpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewInterRATCell(rtxContext* RT_RESTRICT ctx, const NewInterRATCell* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_NewInterRATCellList(rtxContext* RT_RESTRICT ctx, const NewInterRATCellList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellsForInterRATMeasList(rtxContext* RT_RESTRICT ctx, const CellsForInterRATMeasList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_InterRATCellInfoList(rtxContext* RT_RESTRICT ctx, const InterRATCellInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterRATMeasurementSysInfo(rtxContext* RT_RESTRICT ctx, const InterRATMeasurementSysInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementControlSysInfo_use_of_HCS_hcs_used(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_used* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_MeasurementControlSysInfo_use_of_HCS(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_TrCH_Identity(rtxContext* RT_RESTRICT ctx, const UL_TrCH_Identity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TrafficVolumeMeasurementObjectList(rtxContext* RT_RESTRICT ctx, const TrafficVolumeMeasurementObjectList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TimeInterval(rtxContext* RT_RESTRICT ctx, TimeInterval value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TrafficVolumeMeasQuantity(rtxContext* RT_RESTRICT ctx, const TrafficVolumeMeasQuantity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TrafficVolumeReportingQuantity(rtxContext* RT_RESTRICT ctx, const TrafficVolumeReportingQuantity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TrafficVolumeEventType(rtxContext* RT_RESTRICT ctx, TrafficVolumeEventType value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TrafficVolumeThreshold(rtxContext* RT_RESTRICT ctx, TrafficVolumeThreshold value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PendingTimeAfterTrigger(rtxContext* RT_RESTRICT ctx, PendingTimeAfterTrigger value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TX_InterruptionAfterTrigger(rtxContext* RT_RESTRICT ctx, TX_InterruptionAfterTrigger value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TrafficVolumeEventParam(rtxContext* RT_RESTRICT ctx, const TrafficVolumeEventParam* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TransChCriteria_eventSpecificParameters(rtxContext* RT_RESTRICT ctx, const TransChCriteria_eventSpecificParameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TransChCriteria(rtxContext* RT_RESTRICT ctx, const TransChCriteria* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TransChCriteriaList(rtxContext* RT_RESTRICT ctx, const TransChCriteriaList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_TrafficVolumeReportingCriteria(rtxContext* RT_RESTRICT ctx, const TrafficVolumeReportingCriteria* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementValidity_ue_State(rtxContext* RT_RESTRICT ctx, MeasurementValidity_ue_State value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementValidity(rtxContext* RT_RESTRICT ctx, const MeasurementValidity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TrafficVolumeReportCriteriaSysInfo(rtxContext* RT_RESTRICT ctx, const TrafficVolumeReportCriteriaSysInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TrafficVolumeMeasSysInfo(rtxContext* RT_RESTRICT ctx, const TrafficVolumeMeasSysInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_MeasurementQuantity(rtxContext* RT_RESTRICT ctx, UE_MeasurementQuantity value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_InternalMeasQuantity(rtxContext* RT_RESTRICT ctx, const UE_InternalMeasQuantity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_InternalMeasurementSysInfo(rtxContext* RT_RESTRICT ctx, const UE_InternalMeasurementSysInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_MeasurementControlSysInfo(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_FACH_MeasurementOccasionInfo_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const FACH_MeasurementOccasionInfo_LCR_r4_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PrimaryCCPCH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TimeslotInfo_LCR_r4(rtxContext* RT_RESTRICT ctx, const TimeslotInfo_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TimeslotInfoList_LCR_r4(rtxContext* RT_RESTRICT ctx, const TimeslotInfoList_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_CellInfoSI_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const CellInfoSI_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewIntraFreqCellSI_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewIntraFreqCellSI_List_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_List_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqCellInfoSI_List_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoSI_List_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ForbiddenAffectCell_LCR_r4(rtxContext* RT_RESTRICT ctx, const ForbiddenAffectCell_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ForbiddenAffectCellList_LCR_r4(rtxContext* RT_RESTRICT ctx, const ForbiddenAffectCellList_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Event1a_LCR_r4(rtxContext* RT_RESTRICT ctx, const Event1a_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Event1b_LCR_r4(rtxContext* RT_RESTRICT ctx, const Event1b_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_IntraFreqEvent_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqEvent_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqEventCriteria_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteria_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqEventCriteriaList_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteriaList_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqReportingCriteria_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingCriteria_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellDCH_ReportCriteria_LCR_r4(rtxContext* RT_RESTRICT ctx, const CellDCH_ReportCriteria_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_ReportingInfoForCellDCH_LCR_r4(rtxContext* RT_RESTRICT ctx, const ReportingInfoForCellDCH_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_IntraFreqMeasurementSysInfo_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasurementSysInfo_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewInterFreqCellSI_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_NewInterFreqCellSI_List_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_List_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqCellInfoSI_List_RSCP_LCR(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoSI_List_RSCP_LCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqMeasurementSysInfo_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const InterFreqMeasurementSysInfo_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_CellInfoSI_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const CellInfoSI_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewIntraFreqCellSI_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewIntraFreqCellSI_List_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_List_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqCellInfoSI_List_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoSI_List_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_IntraFreqMeasurementSysInfo_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasurementSysInfo_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewInterFreqCellSI_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_NewInterFreqCellSI_List_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_List_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqCellInfoSI_List_ECN0_LCR(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoSI_List_ECN0_LCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqMeasurementSysInfo_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const InterFreqMeasurementSysInfo_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_CellInfoSI_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewIntraFreqCellSI_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqCellInfoSI_List_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoSI_List_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_IntraFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasurementSysInfo_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewInterFreqCellSI_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_NewInterFreqCellSI_List_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_List_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqCellInfoSI_List_HCS_RSCP_LCR(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoSI_List_HCS_RSCP_LCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const InterFreqMeasurementSysInfo_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_CellInfoSI_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewIntraFreqCellSI_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqCellInfoSI_List_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoSI_List_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_IntraFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasurementSysInfo_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewInterFreqCellSI_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_NewInterFreqCellSI_List_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_List_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqCellInfoSI_List_HCS_ECN0_LCR(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoSI_List_HCS_ECN0_LCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const InterFreqMeasurementSysInfo_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementControlSysInfo_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType11_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType11_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType11_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v590ext_IEs_newInterFrequencyCellInfoList_v590ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType11_v590ext_IEs_newInterRATCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v590ext_IEs_newInterRATCellInfoList_v590ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Intra_FreqEventCriteriaList_v590ext(rtxContext* RT_RESTRICT ctx, const Intra_FreqEventCriteriaList_v590ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PeriodicReportingInfo_1b(rtxContext* RT_RESTRICT ctx, const PeriodicReportingInfo_1b* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqReportingCriteria_1b_r5(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingCriteria_1b_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqEvent_1d_r5(rtxContext* RT_RESTRICT ctx, const IntraFreqEvent_1d_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType11_v590ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v590ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqRepQuantityRACH_FDD(rtxContext* RT_RESTRICT ctx, InterFreqRepQuantityRACH_FDD value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqRepQuantityRACH_TDD(rtxContext* RT_RESTRICT ctx, InterFreqRepQuantityRACH_TDD value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqRepQuantityRACH_TDDList(rtxContext* RT_RESTRICT ctx, const InterFreqRepQuantityRACH_TDDList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Threshold(rtxContext* RT_RESTRICT ctx, Threshold value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaxReportedCellsOnRACHinterFreq(rtxContext* RT_RESTRICT ctx, MaxReportedCellsOnRACHinterFreq value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const Dummy_InterFreqRACHReportingInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Dummy_InterFreqRACHReportingInfo(rtxContext* RT_RESTRICT ctx, const Dummy_InterFreqRACHReportingInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType11_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v690ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const InterFreqRACHReportingInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const InterFreqRACHReportingInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqRACHReportingInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const InterFreqRACHReportingInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqRACHReportingInfo(rtxContext* RT_RESTRICT ctx, const InterFreqRACHReportingInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType11_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v6b0ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MBSFNFrequency(rtxContext* RT_RESTRICT ctx, const MBSFNFrequency* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MBSFNFrequencyList(rtxContext* RT_RESTRICT ctx, const MBSFNFrequencyList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType11_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v770ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewInterFreqCell_v7b0ext(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_v7b0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewInterFreqCellList_v7b0ext(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellList_v7b0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType11_v7b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v7b0ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MBSFNFrequency_v860ext_imb_Indication(rtxContext* RT_RESTRICT ctx, MBSFNFrequency_v860ext_imb_Indication value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MBSFNFrequency_v860ext(rtxContext* RT_RESTRICT ctx, const MBSFNFrequency_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MBSFNFrequencyList_v860ext(rtxContext* RT_RESTRICT ctx, const MBSFNFrequencyList_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType11_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v860ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType11_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType11(rtxContext* RT_RESTRICT ctx, const SysInfoType11* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_used* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_MeasurementControlSysInfoExtension_use_of_HCS(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtension(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtension_LCR_r4(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtensionAddon_r5_newIntraFrequencyCellInfoListAddon_r5(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtensionAddon_r5_newIntraFrequencyCellInfoListAddon_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtensionAddon_r5_newInterFrequencyCellInfoListAddon_r5(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtensionAddon_r5_newInterFrequencyCellInfoListAddon_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtensionAddon_r5_newInterRATCellInfoListAddon_r5(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtensionAddon_r5_newInterRATCellInfoListAddon_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtensionAddon_r5(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtensionAddon_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType11bis_v7b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11bis_v7b0ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CSG_DedicatedFrequencyInfoList(rtxContext* RT_RESTRICT ctx, const CSG_DedicatedFrequencyInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType11bis_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11bis_v860ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType11bis_v7b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11bis_v7b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_SysInfoType11bis(rtxContext* RT_RESTRICT ctx, const SysInfoType11bis* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType12_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v4b0ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType12_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType12_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v590ext_IEs_newInterFrequencyCellInfoList_v590ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType12_v590ext_IEs_newInterRATCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v590ext_IEs_newInterRATCellInfoList_v590ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType12_v590ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v590ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType12_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v690ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType12_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v6b0ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType12_v7b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v7b0ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType12_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v4b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType12(rtxContext* RT_RESTRICT ctx, const SysInfoType12* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Re_EstablishmentTimer(rtxContext* RT_RESTRICT ctx, Re_EstablishmentTimer value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TimerMRW(rtxContext* RT_RESTRICT ctx, TimerMRW value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TimerDiscard(rtxContext* RT_RESTRICT ctx, TimerDiscard value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaxMRW(rtxContext* RT_RESTRICT ctx, MaxMRW value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ExplicitDiscard(rtxContext* RT_RESTRICT ctx, const ExplicitDiscard* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NoExplicitDiscard(rtxContext* RT_RESTRICT ctx, NoExplicitDiscard value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaxDAT(rtxContext* RT_RESTRICT ctx, MaxDAT value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaxDAT_Retransmissions(rtxContext* RT_RESTRICT ctx, const MaxDAT_Retransmissions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_TransmissionRLC_Discard(rtxContext* RT_RESTRICT ctx, const TransmissionRLC_Discard* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TransmissionWindowSize(rtxContext* RT_RESTRICT ctx, TransmissionWindowSize value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TimerRST(rtxContext* RT_RESTRICT ctx, TimerRST value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaxRST(rtxContext* RT_RESTRICT ctx, MaxRST value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TimerPollProhibit(rtxContext* RT_RESTRICT ctx, TimerPollProhibit value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TimerPoll(rtxContext* RT_RESTRICT ctx, TimerPoll value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Poll_PDU(rtxContext* RT_RESTRICT ctx, Poll_PDU value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Poll_SDU(rtxContext* RT_RESTRICT ctx, Poll_SDU value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PollWindow(rtxContext* RT_RESTRICT ctx, PollWindow value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TimerPollPeriodic(rtxContext* RT_RESTRICT ctx, TimerPollPeriodic value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PollingInfo(rtxContext* RT_RESTRICT ctx, const PollingInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_AM_RLC_Mode(rtxContext* RT_RESTRICT ctx, const UL_AM_RLC_Mode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_UM_RLC_Mode(rtxContext* RT_RESTRICT ctx, const UL_UM_RLC_Mode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_TM_RLC_Mode(rtxContext* RT_RESTRICT ctx, const UL_TM_RLC_Mode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UL_RLC_Mode(rtxContext* RT_RESTRICT ctx, const UL_RLC_Mode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ReceivingWindowSize(rtxContext* RT_RESTRICT ctx, ReceivingWindowSize value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TimerStatusProhibit(rtxContext* RT_RESTRICT ctx, TimerStatusProhibit value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TimerEPC(rtxContext* RT_RESTRICT ctx, TimerEPC value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TimerStatusPeriodic(rtxContext* RT_RESTRICT ctx, TimerStatusPeriodic value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_RLC_StatusInfo(rtxContext* RT_RESTRICT ctx, const DL_RLC_StatusInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_AM_RLC_Mode(rtxContext* RT_RESTRICT ctx, const DL_AM_RLC_Mode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_TM_RLC_Mode(rtxContext* RT_RESTRICT ctx, const DL_TM_RLC_Mode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_RLC_Mode(rtxContext* RT_RESTRICT ctx, const DL_RLC_Mode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_RLC_Info(rtxContext* RT_RESTRICT ctx, const RLC_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RLC_InfoChoice(rtxContext* RT_RESTRICT ctx, const RLC_InfoChoice* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_TransportChannelType(rtxContext* RT_RESTRICT ctx, const UL_TransportChannelType* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RLC_SizeInfo(rtxContext* RT_RESTRICT ctx, const RLC_SizeInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RLC_SizeExplicitList(rtxContext* RT_RESTRICT ctx, const RLC_SizeExplicitList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_LogicalChannelMapping_rlc_SizeList(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_rlc_SizeList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MAC_LogicalChannelPriority(rtxContext* RT_RESTRICT ctx, MAC_LogicalChannelPriority value, rtxEncCur* RT_RESTRICT cur);
+static int enc_UL_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_LogicalChannelMappingList_ul_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappingList_ul_LogicalChannelMapping* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_LogicalChannelMappingList(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappingList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UL_LogicalChannelMappings(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappings* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TransportChannelIdentityDCHandDSCH(rtxContext* RT_RESTRICT ctx, const TransportChannelIdentityDCHandDSCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_TransportChannelType(rtxContext* RT_RESTRICT ctx, const DL_TransportChannelType* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, const DL_LogicalChannelMapping* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_LogicalChannelMappingList(rtxContext* RT_RESTRICT ctx, const DL_LogicalChannelMappingList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_MappingOption(rtxContext* RT_RESTRICT ctx, const RB_MappingOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_RB_MappingInfo(rtxContext* RT_RESTRICT ctx, const RB_MappingInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SRB_InformationSetup(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetup* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_SRB_InformationSetupList(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaxPDCP_SN_WindowSize(rtxContext* RT_RESTRICT ctx, MaxPDCP_SN_WindowSize value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_LosslessSRNS_RelocSupport(rtxContext* RT_RESTRICT ctx, const LosslessSRNS_RelocSupport* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDCP_PDU_Header(rtxContext* RT_RESTRICT ctx, PDCP_PDU_Header value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ExpectReordering(rtxContext* RT_RESTRICT ctx, ExpectReordering value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RFC2507_Info(rtxContext* RT_RESTRICT ctx, const RFC2507_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AlgorithmSpecificInfo(rtxContext* RT_RESTRICT ctx, const AlgorithmSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HeaderCompressionInfo(rtxContext* RT_RESTRICT ctx, const HeaderCompressionInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HeaderCompressionInfoList(rtxContext* RT_RESTRICT ctx, const HeaderCompressionInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_PDCP_Info(rtxContext* RT_RESTRICT ctx, const PDCP_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_InformationSetup(rtxContext* RT_RESTRICT ctx, const RB_InformationSetup* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_RB_InformationSetupList(rtxContext* RT_RESTRICT ctx, const RB_InformationSetupList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PredefinedRB_Configuration(rtxContext* RT_RESTRICT ctx, const PredefinedRB_Configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TFC_Value(rtxContext* RT_RESTRICT ctx, TFC_Value value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AllowedTFC_List(rtxContext* RT_RESTRICT ctx, const AllowedTFC_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Non_allowedTFC_List(rtxContext* RT_RESTRICT ctx, const Non_allowedTFC_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_TrCH_Type(rtxContext* RT_RESTRICT ctx, UL_TrCH_Type value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AllowedTFI_List_element(rtxContext* RT_RESTRICT ctx, AllowedTFI_List_element value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AllowedTFI_List(rtxContext* RT_RESTRICT ctx, const AllowedTFI_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RestrictedTrChInfo(rtxContext* RT_RESTRICT ctx, const RestrictedTrChInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RestrictedTrChInfoList(rtxContext* RT_RESTRICT ctx, const RestrictedTrChInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_TFC_Subset(rtxContext* RT_RESTRICT ctx, const TFC_Subset* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_CommonTransChInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_CommonTransChInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TFCS_Identity(rtxContext* RT_RESTRICT ctx, const TFCS_Identity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IndividualUL_CCTrCH_Info(rtxContext* RT_RESTRICT ctx, const IndividualUL_CCTrCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IndividualUL_CCTrCH_InfoList(rtxContext* RT_RESTRICT ctx, const IndividualUL_CCTrCH_InfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_CommonTransChInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_CommonTransChInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_CommonTransChInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_CommonTransChInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UL_CommonTransChInfo(rtxContext* RT_RESTRICT ctx, const UL_CommonTransChInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_AddReconfTransChInformation(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_AddReconfTransChInfoList(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonTransChInfo_modeSpecificInfo_fdd_dl_Parameters(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_modeSpecificInfo_fdd_dl_Parameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonTransChInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IndividualDL_CCTrCH_Info_tfcs_SignallingMode(rtxContext* RT_RESTRICT ctx, const IndividualDL_CCTrCH_Info_tfcs_SignallingMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IndividualDL_CCTrCH_Info(rtxContext* RT_RESTRICT ctx, const IndividualDL_CCTrCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_IndividualDL_CCTrCH_InfoList(rtxContext* RT_RESTRICT ctx, const IndividualDL_CCTrCH_InfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonTransChInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonTransChInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_CommonTransChInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_TrCH_Type(rtxContext* RT_RESTRICT ctx, DL_TrCH_Type value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_TransportChannelIdentity(rtxContext* RT_RESTRICT ctx, const UL_TransportChannelIdentity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_AddReconfTransChInformation_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_tfs_SignallingMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_BLER_QualityValue(rtxContext* RT_RESTRICT ctx, BLER_QualityValue value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_QualityTarget(rtxContext* RT_RESTRICT ctx, const QualityTarget* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
 
-int asn1PE_UMTS_SysInfoType12_v590ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v590ext_IEs* RT_RESTRICT pvalue)
+/* Bodies held by other units. */
+RT_ENCODE_EXTERN(HCS_NeighbouringCellInformation_RSCP)
+RT_ENCODE_EXTERN(RemovedInterRATCellList)
+RT_ENCODE_EXTERN(MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure)
+RT_ENCODE_EXTERN(PrimaryCPICH_Info)
+RT_ENCODE_EXTERN(PrimaryCCPCH_Info)
+RT_ENCODE_EXTERN(TimeslotInfoList)
+RT_ENCODE_EXTERN(ReferenceTimeDifferenceToCell)
+RT_ENCODE_EXTERN(RemovedIntraFreqCellList)
+RT_ENCODE_EXTERN(IntraFreqMeasQuantity)
+RT_ENCODE_EXTERN(IntraFreqReportingQuantityForRACH)
+RT_ENCODE_EXTERN(ReportingInfoForCellDCH)
+RT_ENCODE_EXTERN(FrequencyInfo)
+RT_ENCODE_EXTERN(RemovedInterFreqCellList)
+RT_ENCODE_EXTERN(PeriodicalReportingCriteria)
+RT_ENCODE_EXTERN(MeasurementReportingMode)
+RT_ENCODE_EXTERN(CellSelectReselectInfoSIB_11_12_RSCP)
+RT_ENCODE_EXTERN(Event1c)
+RT_ENCODE_EXTERN(Event1e)
+RT_ENCODE_EXTERN(Event1f)
+RT_ENCODE_EXTERN(ReportingCellStatus)
+RT_ENCODE_EXTERN(IntraFreqReportingQuantity)
+RT_ENCODE_EXTERN(CellSelectReselectInfoSIB_11_12_ECN0)
+RT_ENCODE_EXTERN(CellSelectReselectInfo_v590ext)
+RT_ENCODE_EXTERN(FACH_MeasurementOccasionInfo)
+RT_ENCODE_EXTERN(NewIntraFreqCellSI_List_RSCP)
+RT_ENCODE_EXTERN(NewInterFreqCellSI_List_RSCP)
+RT_ENCODE_EXTERN(NewIntraFreqCellSI_List_ECN0)
+RT_ENCODE_EXTERN(NewInterFreqCellSI_List_ECN0)
+RT_ENCODE_EXTERN(CSG_PSCSplitInfo)
+RT_ENCODE_EXTERN(TFCS)
+RT_ENCODE_EXTERN(TransportFormatSet)
+
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType12-v590ext-IEs");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType12-v590ext-IEs");
-   /* newIntraFrequencyCellInfoList-v590ext */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType12_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(ctx, &pvalue->newIntraFrequencyCellInfoList_v590ext);
-      RT_CHECK(ctx, stat, 0, "newIntraFrequencyCellInfoList-v590ext", -1, "SysInfoType12-v590ext-IEs");
-   }
-   /* newInterFrequencyCellInfoList-v590ext */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_SysInfoType12_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(ctx, &pvalue->newInterFrequencyCellInfoList_v590ext);
-      RT_CHECK(ctx, stat, 0, "newInterFrequencyCellInfoList-v590ext", -1, "SysInfoType12-v590ext-IEs");
-   }
-   /* newInterRATCellInfoList-v590ext */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_SysInfoType12_v590ext_IEs_newInterRATCellInfoList_v590ext(ctx, &pvalue->newInterRATCellInfoList_v590ext);
-      RT_CHECK(ctx, stat, 0, "newInterRATCellInfoList-v590ext", -1, "SysInfoType12-v590ext-IEs");
-   }
-   /* intraFreqEventCriteriaList-v590ext */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_Intra_FreqEventCriteriaList_v590ext(ctx, &pvalue->intraFreqEventCriteriaList_v590ext);
-      RT_CHECK(ctx, stat, 0, "intraFreqEventCriteriaList-v590ext", -1, "SysInfoType12-v590ext-IEs");
-   }
-   /* intraFreqReportingCriteria-1b-r5 */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_IntraFreqReportingCriteria_1b_r5(ctx, &pvalue->intraFreqReportingCriteria_1b_r5);
-      RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria-1b-r5", -1, "SysInfoType12-v590ext-IEs");
-   }
-   /* intraFreqEvent-1d-r5 */
-   if (pvalue->m & 0x20u) {
-      stat = asn1PE_UMTS_IntraFreqEvent_1d_r5(ctx, &pvalue->intraFreqEvent_1d_r5);
-      RT_CHECK(ctx, stat, 0, "intraFreqEvent-1d-r5", -1, "SysInfoType12-v590ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType12_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v690ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType12-v690ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType12-v690ext-IEs");
-   /* dummy */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_Dummy_InterFreqRACHReportingInfo(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "SysInfoType12-v690ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType12_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v6b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType12-v6b0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType12-v6b0ext-IEs");
-   /* interFreqRACHReportingInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_InterFreqRACHReportingInfo(ctx, &pvalue->interFreqRACHReportingInfo);
-      RT_CHECK(ctx, stat, 0, "interFreqRACHReportingInfo", -1, "SysInfoType12-v6b0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType12_v7b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v7b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType12-v7b0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType12-v7b0ext-IEs");
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_NewInterFreqCellList_v7b0ext(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "SysInfoType12-v7b0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType12-v7b0ext */
-   stat = asn1PE_UMTS_SysInfoType12_v7b0ext_IEs(ctx, &pvalue->sysInfoType12_v7b0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType12-v7b0ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType12-v6b0ext */
-   stat = asn1PE_UMTS_SysInfoType12_v6b0ext_IEs(ctx, &pvalue->sysInfoType12_v6b0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType12-v6b0ext", -1, 0);
-   /* v7b0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions(ctx, &pvalue->v7b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7b0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType12-v690ext */
-   stat = asn1PE_UMTS_SysInfoType12_v690ext_IEs(ctx, &pvalue->sysInfoType12_v690ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType12-v690ext", -1, 0);
-   /* v6b0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType12-v590ext */
-   stat = asn1PE_UMTS_SysInfoType12_v590ext_IEs(ctx, &pvalue->sysInfoType12_v590ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType12-v590ext", -1, 0);
-   /* v690NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType12-v4b0ext */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* q-QualMin */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType12_v4b0ext_IEs(ctx, &pvalue->sysInfoType12_v4b0ext);
-      RT_CHECK(ctx, stat, 0, "sysInfoType12-v4b0ext", -1, 0);
+      if (pvalue->q_QualMin < -24 || pvalue->q_QualMin > 0) {
+         rtxErrAddStrParm(ctx, "Q-QualMin");
+         rtxErrAddIntParm(ctx, pvalue->q_QualMin);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-QualMin", "q-QualMin", -1, 0);
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->q_QualMin, -24, 0);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-QualMin", "q-QualMin", -1, 0);
    }
-   /* v590NonCriticalExtension */
+   /* q-RxlevMin */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension(ctx, &pvalue->v590NonCriticalExtension);
-      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtension", -1, 0);
+      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
+         rtxErrAddStrParm(ctx, "Q-RxlevMin");
+         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType12(rtxContext* RT_RESTRICT ctx, const SysInfoType12* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType12");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType12");
-   /* fach-MeasurementOccasionInfo */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* q-RxlevMin */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_FACH_MeasurementOccasionInfo(ctx, &pvalue->fach_MeasurementOccasionInfo);
-      RT_CHECK(ctx, stat, 0, "fach-MeasurementOccasionInfo", -1, "SysInfoType12");
-   }
-   /* measurementControlSysInfo */
-   stat = asn1PE_UMTS_MeasurementControlSysInfo(ctx, &pvalue->measurementControlSysInfo);
-   RT_CHECK(ctx, stat, 0, "measurementControlSysInfo", -1, "SysInfoType12");
-   /* v4b0NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType12");
+      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
+         rtxErrAddStrParm(ctx, "Q-RxlevMin");
+         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_Re_EstablishmentTimer(rtxContext* RT_RESTRICT ctx, Re_EstablishmentTimer value)
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "Re-EstablishmentTimer");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* q-RxlevMin */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
+         rtxErrAddStrParm(ctx, "Q-RxlevMin");
+         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Re-EstablishmentTimer");
    return 0;
 }
 
-int asn1PE_UMTS_TimerMRW(rtxContext* RT_RESTRICT ctx, TimerMRW value)
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TimerMRW");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimerMRW");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm, pvalue);
 }
 
-int asn1PE_UMTS_TimerDiscard(rtxContext* RT_RESTRICT ctx, TimerDiscard value)
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_11_12_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TimerDiscard");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimerDiscard");
-   return 0;
-}
-
-int asn1PE_UMTS_MaxMRW(rtxContext* RT_RESTRICT ctx, MaxMRW value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxMRW");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxMRW");
-   return 0;
-}
-
-int asn1PE_UMTS_ExplicitDiscard(rtxContext* RT_RESTRICT ctx, const ExplicitDiscard* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ExplicitDiscard");
-   /* timerMRW */
-   if (pvalue->timerMRW > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timerMRW);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TimerMRW", "timerMRW", -1, "ExplicitDiscard");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timerMRW, 0, 15);
-   RT_CHECK(ctx, stat, "TimerMRW", "timerMRW", -1, "ExplicitDiscard");
-   /* timerDiscard */
-   if (pvalue->timerDiscard > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timerDiscard);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TimerDiscard", "timerDiscard", -1, "ExplicitDiscard");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timerDiscard, 0, 15);
-   RT_CHECK(ctx, stat, "TimerDiscard", "timerDiscard", -1, "ExplicitDiscard");
-   /* maxMRW */
-   if (pvalue->maxMRW > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->maxMRW);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxMRW", "maxMRW", -1, "ExplicitDiscard");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxMRW, 0, 7);
-   RT_CHECK(ctx, stat, "MaxMRW", "maxMRW", -1, "ExplicitDiscard");
-   return 0;
-}
-
-int asn1PE_UMTS_NoExplicitDiscard(rtxContext* RT_RESTRICT ctx, NoExplicitDiscard value)
-{
-   int stat = 0;
-   if (value > 9) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "NoExplicitDiscard");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 9);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NoExplicitDiscard");
-   return 0;
-}
-
-int asn1PE_UMTS_MaxDAT(rtxContext* RT_RESTRICT ctx, MaxDAT value)
-{
-   int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxDAT");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxDAT");
-   return 0;
-}
-
-int asn1PE_UMTS_MaxDAT_Retransmissions(rtxContext* RT_RESTRICT ctx, const MaxDAT_Retransmissions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MaxDAT-Retransmissions");
-   /* maxDAT */
-   if (pvalue->maxDAT > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->maxDAT);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxDAT", "maxDAT", -1, "MaxDAT-Retransmissions");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxDAT, 0, 15);
-   RT_CHECK(ctx, stat, "MaxDAT", "maxDAT", -1, "MaxDAT-Retransmissions");
-   /* timerMRW */
-   if (pvalue->timerMRW > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timerMRW);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TimerMRW", "timerMRW", -1, "MaxDAT-Retransmissions");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timerMRW, 0, 15);
-   RT_CHECK(ctx, stat, "TimerMRW", "timerMRW", -1, "MaxDAT-Retransmissions");
-   /* maxMRW */
-   if (pvalue->maxMRW > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->maxMRW);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxMRW", "maxMRW", -1, "MaxDAT-Retransmissions");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxMRW, 0, 7);
-   RT_CHECK(ctx, stat, "MaxMRW", "maxMRW", -1, "MaxDAT-Retransmissions");
-   return 0;
-}
-
-int asn1PE_UMTS_TransmissionRLC_Discard(rtxContext* RT_RESTRICT ctx, const TransmissionRLC_Discard* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TransmissionRLC-Discard");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat, 0, "t", -1, "TransmissionRLC-Discard");
-   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TransmissionRLC-Discard");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.timerBasedExplicit == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "timerBasedExplicit", -1, "TransmissionRLC-Discard");
-         stat = asn1PE_UMTS_ExplicitDiscard(ctx, pvalue->u.timerBasedExplicit);
-         RT_CHECK(ctx, stat, 0, "timerBasedExplicit", -1, "TransmissionRLC-Discard");
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         if (pvalue->u.timerBasedNoExplicit > 9) {
-            rtxErrAddUIntParm(ctx, pvalue->u.timerBasedNoExplicit);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "NoExplicitDiscard", "timerBasedNoExplicit", -1, "TransmissionRLC-Discard");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.timerBasedNoExplicit, 0, 9);
-         RT_CHECK(ctx, stat, "NoExplicitDiscard", "timerBasedNoExplicit", -1, "TransmissionRLC-Discard");
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       case 3:
-         if (pvalue->u.maxDAT_Retransmissions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "maxDAT-Retransmissions", -1, "TransmissionRLC-Discard");
-         stat = asn1PE_UMTS_MaxDAT_Retransmissions(ctx, pvalue->u.maxDAT_Retransmissions);
-         RT_CHECK(ctx, stat, 0, "maxDAT-Retransmissions", -1, "TransmissionRLC-Discard");
-         break;
-      case 4:
-         if (pvalue->u.noDiscard > 15) {
-            rtxErrAddUIntParm(ctx, pvalue->u.noDiscard);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "MaxDAT", "noDiscard", -1, "TransmissionRLC-Discard");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.noDiscard, 0, 15);
-         RT_CHECK(ctx, stat, "MaxDAT", "noDiscard", -1, "TransmissionRLC-Discard");
+         if (pvalue->u.gsm == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "gsm", -1, 0);
+         stat = enc_CellSelectReselectInfoSIB_11_12_modeSpecificInfo_gsm(ctx, pvalue->u.gsm, cur);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
          break;
       default:
          break;
@@ -405,282 +492,7094 @@ int asn1PE_UMTS_TransmissionRLC_Discard(rtxContext* RT_RESTRICT ctx, const Trans
    return 0;
 }
 
-int asn1PE_UMTS_TransmissionWindowSize(rtxContext* RT_RESTRICT ctx, TransmissionWindowSize value)
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_modeSpecificInfo* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TransmissionWindowSize");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TransmissionWindowSize");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_CellSelectReselectInfoSIB_11_12_modeSpecificInfo, pvalue);
 }
 
-int asn1PE_UMTS_TimerRST(rtxContext* RT_RESTRICT ctx, TimerRST value)
+static int enc_CellSelectReselectInfoSIB_11_12(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TimerRST");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimerRST");
-   return 0;
-}
-
-int asn1PE_UMTS_MaxRST(rtxContext* RT_RESTRICT ctx, MaxRST value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxRST");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxRST");
-   return 0;
-}
-
-int asn1PE_UMTS_TimerPollProhibit(rtxContext* RT_RESTRICT ctx, TimerPollProhibit value)
-{
-   int stat = 0;
-   if (value > 63) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TimerPollProhibit");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 63);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimerPollProhibit");
-   return 0;
-}
-
-int asn1PE_UMTS_TimerPoll(rtxContext* RT_RESTRICT ctx, TimerPoll value)
-{
-   int stat = 0;
-   if (value > 63) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TimerPoll");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 63);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimerPoll");
-   return 0;
-}
-
-int asn1PE_UMTS_Poll_PDU(rtxContext* RT_RESTRICT ctx, Poll_PDU value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "Poll-PDU");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Poll-PDU");
-   return 0;
-}
-
-int asn1PE_UMTS_Poll_SDU(rtxContext* RT_RESTRICT ctx, Poll_SDU value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "Poll-SDU");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Poll-SDU");
-   return 0;
-}
-
-int asn1PE_UMTS_PollWindow(rtxContext* RT_RESTRICT ctx, PollWindow value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "PollWindow");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PollWindow");
-   return 0;
-}
-
-int asn1PE_UMTS_TimerPollPeriodic(rtxContext* RT_RESTRICT ctx, TimerPollPeriodic value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TimerPollPeriodic");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimerPollPeriodic");
-   return 0;
-}
-
-int asn1PE_UMTS_PollingInfo(rtxContext* RT_RESTRICT ctx, const PollingInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PollingInfo");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellSelectReselectInfoSIB-11-12");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->q_Offset1S_N != 0) << 3) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CellSelectReselectInfoSIB-11-12");
+   /* q-Offset1S-N */
+   if (pvalue->q_Offset1S_N != 0) {
+      if (pvalue->q_Offset1S_N < -50 || pvalue->q_Offset1S_N > 50) {
+         rtxErrAddStrParm(ctx, "Q-OffsetS-N");
+         rtxErrAddIntParm(ctx, pvalue->q_Offset1S_N);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-OffsetS-N", "q-Offset1S-N", -1, "CellSelectReselectInfoSIB-11-12");
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->q_Offset1S_N, -50, 50);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-OffsetS-N", "q-Offset1S-N", -1, "CellSelectReselectInfoSIB-11-12");
+   }
+   /* q-Offset2S-N */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->q_Offset2S_N < -50 || pvalue->q_Offset2S_N > 50) {
+         rtxErrAddStrParm(ctx, "Q-OffsetS-N");
+         rtxErrAddIntParm(ctx, pvalue->q_Offset2S_N);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-OffsetS-N", "q-Offset2S-N", -1, "CellSelectReselectInfoSIB-11-12");
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->q_Offset2S_N, -50, 50);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-OffsetS-N", "q-Offset2S-N", -1, "CellSelectReselectInfoSIB-11-12");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12");
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK_PUT(ctx, cur, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12");
+   }
+   /* hcs-NeighbouringCellInformation-RSCP */
+   if (pvalue->m & 0x4u) {
+      stat = enc_HCS_NeighbouringCellInformation_RSCP(ctx, &pvalue->hcs_NeighbouringCellInformation_RSCP, cur);
+      RT_CHECK(ctx, stat, 0, "hcs-NeighbouringCellInformation-RSCP", -1, "CellSelectReselectInfoSIB-11-12");
+   }
+   /* modeSpecificInfo */
+   stat = enc_CellSelectReselectInfoSIB_11_12_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellSelectReselectInfoSIB-11-12");
+   return 0;
+}
+
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellSelectReselectInfoSIB_11_12, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterRATCellIndividualOffset(rtxContext* RT_RESTRICT ctx, InterRATCellIndividualOffset value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value < -50 || value > 50) {
+      rtxErrAddStrParm(ctx, "InterRATCellIndividualOffset");
+      rtxErrAddIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "InterRATCellIndividualOffset");
+   }
+   stat = pe_ConsInt64At(ctx, cur, value, -50, 50);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterRATCellIndividualOffset");
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATCellIndividualOffset(rtxContext* RT_RESTRICT ctx, InterRATCellIndividualOffset value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterRATCellIndividualOffset, value);
+}
+
+RT_MERGED_BODY int enc_NCC(rtxContext* RT_RESTRICT ctx, NCC value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 7u) {
+      rtxErrAddStrParm(ctx, "NCC");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "NCC");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NCC");
+   return 0;
+}
+
+int asn1PE_UMTS_NCC(rtxContext* RT_RESTRICT ctx, NCC value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NCC, value);
+}
+
+RT_MERGED_BODY int enc_BCC(rtxContext* RT_RESTRICT ctx, BCC value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 7u) {
+      rtxErrAddStrParm(ctx, "BCC");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "BCC");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "BCC");
+   return 0;
+}
+
+int asn1PE_UMTS_BCC(rtxContext* RT_RESTRICT ctx, BCC value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_BCC, value);
+}
+
+RT_MERGED_BODY int enc_BSIC(rtxContext* RT_RESTRICT ctx, const BSIC* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "BSIC");
+   /* ncc */
+   if ((uint64_t)pvalue->ncc > 7u) {
+      rtxErrAddStrParm(ctx, "NCC");
+      rtxErrAddUIntParm(ctx, pvalue->ncc);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "NCC", "ncc", -1, "BSIC");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ncc, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "NCC", "ncc", -1, "BSIC");
+   /* bcc */
+   if ((uint64_t)pvalue->bcc > 7u) {
+      rtxErrAddStrParm(ctx, "BCC");
+      rtxErrAddUIntParm(ctx, pvalue->bcc);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "BCC", "bcc", -1, "BSIC");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->bcc, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "BCC", "bcc", -1, "BSIC");
+   return 0;
+}
+
+int asn1PE_UMTS_BSIC(rtxContext* RT_RESTRICT ctx, const BSIC* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_BSIC, pvalue);
+}
+
+RT_MERGED_BODY int enc_Frequency_Band(rtxContext* RT_RESTRICT ctx, Frequency_Band value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "Frequency-Band");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Frequency-Band");
+   return 0;
+}
+
+int asn1PE_UMTS_Frequency_Band(rtxContext* RT_RESTRICT ctx, Frequency_Band value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Frequency_Band, value);
+}
+
+RT_MERGED_BODY int enc_BCCH_ARFCN(rtxContext* RT_RESTRICT ctx, BCCH_ARFCN value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 1023u) {
+      rtxErrAddStrParm(ctx, "BCCH-ARFCN");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "BCCH-ARFCN");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1023);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "BCCH-ARFCN");
+   return 0;
+}
+
+int asn1PE_UMTS_BCCH_ARFCN(rtxContext* RT_RESTRICT ctx, BCCH_ARFCN value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_BCCH_ARFCN, value);
+}
+
+RT_MERGED_BODY int enc_NewInterRATCell_B_technologySpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const NewInterRATCell_B_technologySpecificInfo_gsm* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellSelectionReselectionInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_CellSelectReselectInfoSIB_11_12(ctx, &pvalue->cellSelectionReselectionInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, 0);
+   }
+   /* interRATCellIndividualOffset */
+   if (pvalue->interRATCellIndividualOffset < -50 || pvalue->interRATCellIndividualOffset > 50) {
+      rtxErrAddStrParm(ctx, "InterRATCellIndividualOffset");
+      rtxErrAddIntParm(ctx, pvalue->interRATCellIndividualOffset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "InterRATCellIndividualOffset", "interRATCellIndividualOffset", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->interRATCellIndividualOffset, -50, 50);
+   RT_CHECK_PUT(ctx, cur, stat, "InterRATCellIndividualOffset", "interRATCellIndividualOffset", -1, 0);
+   /* bsic */
+   stat = enc_BSIC(ctx, &pvalue->bsic, cur);
+   RT_CHECK(ctx, stat, 0, "bsic", -1, 0);
+   /* frequency-band */
+   if (pvalue->frequency_band > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->frequency_band);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "Frequency-Band", "frequency-band", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->frequency_band, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "Frequency-Band", "frequency-band", -1, 0);
+   /* bcch-ARFCN */
+   if ((uint64_t)pvalue->bcch_ARFCN > 1023u) {
+      rtxErrAddStrParm(ctx, "BCCH-ARFCN");
+      rtxErrAddUIntParm(ctx, pvalue->bcch_ARFCN);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "BCCH-ARFCN", "bcch-ARFCN", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->bcch_ARFCN, 0, 1023);
+   RT_CHECK_PUT(ctx, cur, stat, "BCCH-ARFCN", "bcch-ARFCN", -1, 0);
+   /* dummy */
+   if (pvalue->m & 0x2u) {
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterRATCell_B_technologySpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const NewInterRATCell_B_technologySpecificInfo_gsm* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewInterRATCell_B_technologySpecificInfo_gsm, pvalue);
+}
+
+RT_MERGED_BODY int enc_IS_2000SpecificMeasInfo(rtxContext* RT_RESTRICT ctx, IS_2000SpecificMeasInfo value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 4) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "IS-2000SpecificMeasInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IS-2000SpecificMeasInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_IS_2000SpecificMeasInfo(rtxContext* RT_RESTRICT ctx, IS_2000SpecificMeasInfo value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IS_2000SpecificMeasInfo, value);
+}
+
+RT_MERGED_BODY int enc_NewInterRATCell_B_technologySpecificInfo_is_2000(rtxContext* RT_RESTRICT ctx, const NewInterRATCell_B_technologySpecificInfo_is_2000* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* is-2000SpecificMeasInfo */
+   if (pvalue->is_2000SpecificMeasInfo > 4) {
+      rtxErrAddUIntParm(ctx, pvalue->is_2000SpecificMeasInfo);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "IS-2000SpecificMeasInfo", "is-2000SpecificMeasInfo", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->is_2000SpecificMeasInfo, 0, 4);
+   RT_CHECK_PUT(ctx, cur, stat, "IS-2000SpecificMeasInfo", "is-2000SpecificMeasInfo", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterRATCell_B_technologySpecificInfo_is_2000(rtxContext* RT_RESTRICT ctx, const NewInterRATCell_B_technologySpecificInfo_is_2000* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewInterRATCell_B_technologySpecificInfo_is_2000, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewInterRATCell_B_technologySpecificInfo(rtxContext* RT_RESTRICT ctx, const NewInterRATCell_B_technologySpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 3) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.gsm == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "gsm", -1, 0);
+         stat = enc_NewInterRATCell_B_technologySpecificInfo_gsm(ctx, pvalue->u.gsm, cur);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.is_2000 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "is-2000", -1, 0);
+         stat = enc_NewInterRATCell_B_technologySpecificInfo_is_2000(ctx, pvalue->u.is_2000, cur);
+         RT_CHECK(ctx, stat, 0, "is-2000", -1, 0);
+         break;
+      case 3:
+         break;
+      case 4:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterRATCell_B_technologySpecificInfo(rtxContext* RT_RESTRICT ctx, const NewInterRATCell_B_technologySpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewInterRATCell_B_technologySpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewInterRATCell_B(rtxContext* RT_RESTRICT ctx, const NewInterRATCell_B* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewInterRATCell-B");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NewInterRATCell-B");
+   /* interRATCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->interRATCellID > 31u) {
+         rtxErrAddStrParm(ctx, "InterRATCellID");
+         rtxErrAddUIntParm(ctx, pvalue->interRATCellID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "InterRATCellID", "interRATCellID", -1, "NewInterRATCell-B");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->interRATCellID, 0, 31);
+      RT_CHECK_PUT(ctx, cur, stat, "InterRATCellID", "interRATCellID", -1, "NewInterRATCell-B");
+   }
+   /* technologySpecificInfo */
+   stat = enc_NewInterRATCell_B_technologySpecificInfo(ctx, &pvalue->technologySpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "technologySpecificInfo", -1, "NewInterRATCell-B");
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterRATCell_B(rtxContext* RT_RESTRICT ctx, const NewInterRATCell_B* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewInterRATCell_B, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewInterRATCellList_B(rtxContext* RT_RESTRICT ctx, const NewInterRATCellList_B* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewInterRATCellList-B");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "NewInterRATCellList-B");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "NewInterRATCell-B", (int32_t)i, "NewInterRATCellList-B");
+      stat = enc_NewInterRATCell_B(ctx, (const NewInterRATCell_B*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "NewInterRATCell-B", (int32_t)i, "NewInterRATCellList-B");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterRATCellList_B(rtxContext* RT_RESTRICT ctx, const NewInterRATCellList_B* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewInterRATCellList_B, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterRATCellInfoList_B(rtxContext* RT_RESTRICT ctx, const InterRATCellInfoList_B* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterRATCellInfoList-B");
+   /* removedInterRATCellList */
+   stat = enc_RemovedInterRATCellList(ctx, &pvalue->removedInterRATCellList, cur);
+   RT_CHECK(ctx, stat, 0, "removedInterRATCellList", -1, "InterRATCellInfoList-B");
+   /* newInterRATCellList */
+   stat = enc_NewInterRATCellList_B(ctx, &pvalue->newInterRATCellList, cur);
+   RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, "InterRATCellInfoList-B");
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATCellInfoList_B(rtxContext* RT_RESTRICT ctx, const InterRATCellInfoList_B* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterRATCellInfoList_B, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterRATMeasurementSysInfo_B(rtxContext* RT_RESTRICT ctx, const InterRATMeasurementSysInfo_B* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterRATMeasurementSysInfo-B");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterRATMeasurementSysInfo-B");
+   /* interRATCellInfoList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_InterRATCellInfoList_B(ctx, &pvalue->interRATCellInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "interRATCellInfoList", -1, "InterRATMeasurementSysInfo-B");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATMeasurementSysInfo_B(rtxContext* RT_RESTRICT ctx, const InterRATMeasurementSysInfo_B* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterRATMeasurementSysInfo_B, pvalue);
+}
+
+static int enc_MeasurementControlSysInfo_use_of_HCS_hcs_not_used(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_not_used* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellSelectQualityMeasure */
+   stat = enc_MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure, cur);
+   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
+   /* interRATMeasurementSysInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_InterRATMeasurementSysInfo_B(ctx, &pvalue->interRATMeasurementSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "interRATMeasurementSysInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_not_used* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfo_use_of_HCS_hcs_not_used, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   }
+   /* primaryCPICH-TX-Power */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->primaryCPICH_TX_Power < -10 || pvalue->primaryCPICH_TX_Power > 50) {
+         rtxErrAddStrParm(ctx, "PrimaryCPICH-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->primaryCPICH_TX_Power);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->primaryCPICH_TX_Power, -10, 50);
+      RT_CHECK_PUT(ctx, cur, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
+   }
+   /* readSFN-Indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->readSFN_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "readSFN-Indicator", -1, 0);
+   /* tx-DiversityIndicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->tx_DiversityIndicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tx-DiversityIndicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* primaryCCPCH-Info */
+   stat = enc_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+         rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->primaryCCPCH_TX_Power, 6, 43);
+      RT_CHECK_PUT(ctx, cur, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   }
+   /* timeslotInfoList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_TimeslotInfoList(ctx, &pvalue->timeslotInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, 0);
+   }
+   /* readSFN-Indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->readSFN_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "readSFN-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellInfoSI_HCS_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_RSCP_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_CellInfoSI_HCS_RSCP_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_CellInfoSI_HCS_RSCP_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellInfoSI_HCS_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_RSCP_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellInfoSI_HCS_RSCP_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* q-QualMin */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->q_QualMin < -24 || pvalue->q_QualMin > 0) {
+         rtxErrAddStrParm(ctx, "Q-QualMin");
+         rtxErrAddIntParm(ctx, pvalue->q_QualMin);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-QualMin", "q-QualMin", -1, 0);
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->q_QualMin, -24, 0);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-QualMin", "q-QualMin", -1, 0);
+   }
+   /* q-RxlevMin */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
+         rtxErrAddStrParm(ctx, "Q-RxlevMin");
+         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* q-RxlevMin */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
+         rtxErrAddStrParm(ctx, "Q-RxlevMin");
+         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_gsm* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* q-RxlevMin */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
+         rtxErrAddStrParm(ctx, "Q-RxlevMin");
+         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_gsm* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_gsm, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.gsm == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "gsm", -1, 0);
+         stat = enc_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo_gsm(ctx, pvalue->u.gsm, cur);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo, pvalue);
+}
+
+static int enc_CellSelectReselectInfoSIB_11_12_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellSelectReselectInfoSIB-11-12-HCS-RSCP");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->q_OffsetS_N != 0) << 2) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CellSelectReselectInfoSIB-11-12-HCS-RSCP");
+   /* q-OffsetS-N */
+   if (pvalue->q_OffsetS_N != 0) {
+      if (pvalue->q_OffsetS_N < -50 || pvalue->q_OffsetS_N > 50) {
+         rtxErrAddStrParm(ctx, "Q-OffsetS-N");
+         rtxErrAddIntParm(ctx, pvalue->q_OffsetS_N);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-OffsetS-N", "q-OffsetS-N", -1, "CellSelectReselectInfoSIB-11-12-HCS-RSCP");
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->q_OffsetS_N, -50, 50);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-OffsetS-N", "q-OffsetS-N", -1, "CellSelectReselectInfoSIB-11-12-HCS-RSCP");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12-HCS-RSCP");
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK_PUT(ctx, cur, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12-HCS-RSCP");
+   }
+   /* hcs-NeighbouringCellInformation-RSCP */
+   if (pvalue->m & 0x2u) {
+      stat = enc_HCS_NeighbouringCellInformation_RSCP(ctx, &pvalue->hcs_NeighbouringCellInformation_RSCP, cur);
+      RT_CHECK(ctx, stat, 0, "hcs-NeighbouringCellInformation-RSCP", -1, "CellSelectReselectInfoSIB-11-12-HCS-RSCP");
+   }
+   /* modeSpecificInfo */
+   stat = enc_CellSelectReselectInfoSIB_11_12_HCS_RSCP_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellSelectReselectInfoSIB-11-12-HCS-RSCP");
+   return 0;
+}
+
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_RSCP* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellSelectReselectInfoSIB_11_12_HCS_RSCP, pvalue);
+}
+
+static int enc_CellInfoSI_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellInfoSI-HCS-RSCP");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->cellIndividualOffset != 0) << 2) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CellInfoSI-HCS-RSCP");
+   /* cellIndividualOffset */
+   if (pvalue->cellIndividualOffset != 0) {
+      if (pvalue->cellIndividualOffset < -20 || pvalue->cellIndividualOffset > 20) {
+         rtxErrAddStrParm(ctx, "CellIndividualOffset");
+         rtxErrAddIntParm(ctx, pvalue->cellIndividualOffset);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-HCS-RSCP");
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->cellIndividualOffset, -20, 20);
+      RT_CHECK_PUT(ctx, cur, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-HCS-RSCP");
+   }
+   /* referenceTimeDifferenceToCell */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell, cur);
+      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-HCS-RSCP");
+   }
+   /* modeSpecificInfo */
+   stat = enc_CellInfoSI_HCS_RSCP_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellInfoSI-HCS-RSCP");
+   /* cellSelectionReselectionInfo */
+   if (pvalue->m & 0x2u) {
+      stat = enc_CellSelectReselectInfoSIB_11_12_HCS_RSCP(ctx, &pvalue->cellSelectionReselectionInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-HCS-RSCP");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellInfoSI_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_RSCP* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellInfoSI_HCS_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewIntraFreqCellSI_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_HCS_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-HCS-RSCP");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCellSI-HCS-RSCP");
+   /* intraFreqCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->intraFreqCellID > 31u) {
+         rtxErrAddStrParm(ctx, "IntraFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->intraFreqCellID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-HCS-RSCP");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->intraFreqCellID, 0, 31);
+      RT_CHECK_PUT(ctx, cur, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-HCS-RSCP");
+   }
+   /* cellInfo */
+   stat = enc_CellInfoSI_HCS_RSCP(ctx, &pvalue->cellInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-HCS-RSCP");
+   return 0;
+}
+
+int asn1PE_UMTS_NewIntraFreqCellSI_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_HCS_RSCP* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewIntraFreqCellSI_HCS_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewIntraFreqCellSI_List_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_List_HCS_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-List-HCS-RSCP");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCellSI-List-HCS-RSCP");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "NewIntraFreqCellSI-HCS-RSCP", (int32_t)i, "NewIntraFreqCellSI-List-HCS-RSCP");
+      stat = enc_NewIntraFreqCellSI_HCS_RSCP(ctx, (const NewIntraFreqCellSI_HCS_RSCP*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-HCS-RSCP", (int32_t)i, "NewIntraFreqCellSI-List-HCS-RSCP");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewIntraFreqCellSI_List_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_List_HCS_RSCP* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewIntraFreqCellSI_List_HCS_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFreqCellInfoSI_List_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoSI_List_HCS_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqCellInfoSI-List-HCS-RSCP");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-HCS-RSCP");
+   /* removedIntraFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-RSCP");
+   }
+   /* newIntraFreqCellList */
+   stat = enc_NewIntraFreqCellSI_List_HCS_RSCP(ctx, &pvalue->newIntraFreqCellList, cur);
+   RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-RSCP");
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqCellInfoSI_List_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoSI_List_HCS_RSCP* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqCellInfoSI_List_HCS_RSCP, pvalue);
+}
+
+static int enc_IntraFreqMeasurementSysInfo_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasurementSysInfo_HCS_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->intraFreqMeasurementID != 1) << 5) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
+   /* intraFreqMeasurementID */
+   if (pvalue->intraFreqMeasurementID != 1) {
+      if ((uint64_t)(pvalue->intraFreqMeasurementID - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "MeasurementIdentity");
+         rtxErrAddUIntParm(ctx, pvalue->intraFreqMeasurementID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->intraFreqMeasurementID, 1, 16);
+      RT_CHECK_PUT(ctx, cur, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
+   }
+   /* intraFreqCellInfoSI-List */
+   if (pvalue->m & 0x1u) {
+      stat = enc_IntraFreqCellInfoSI_List_HCS_RSCP(ctx, &pvalue->intraFreqCellInfoSI_List, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
+   }
+   /* intraFreqMeasQuantity */
+   if (pvalue->m & 0x2u) {
+      stat = enc_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
+   }
+   /* intraFreqReportingQuantityForRACH */
+   if (pvalue->m & 0x4u) {
+      stat = enc_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
+   }
+   /* maxReportedCellsOnRACH */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->maxReportedCellsOnRACH > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->maxReportedCellsOnRACH);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->maxReportedCellsOnRACH, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
+   }
+   /* reportingInfoForCellDCH */
+   if (pvalue->m & 0x10u) {
+      stat = enc_ReportingInfoForCellDCH(ctx, &pvalue->reportingInfoForCellDCH, cur);
+      RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqMeasurementSysInfo_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasurementSysInfo_HCS_RSCP* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqMeasurementSysInfo_HCS_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewInterFreqCellSI_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_HCS_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-HCS-RSCP");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellSI-HCS-RSCP");
+   /* interFreqCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->interFreqCellID > 31u) {
+         rtxErrAddStrParm(ctx, "InterFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-HCS-RSCP");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->interFreqCellID, 0, 31);
+      RT_CHECK_PUT(ctx, cur, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-HCS-RSCP");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x2u) {
+      stat = enc_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-HCS-RSCP");
+   }
+   /* cellInfo */
+   stat = enc_CellInfoSI_HCS_RSCP(ctx, &pvalue->cellInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-HCS-RSCP");
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCellSI_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_HCS_RSCP* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewInterFreqCellSI_HCS_RSCP, pvalue);
+}
+
+static int enc_NewInterFreqCellSI_List_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_List_HCS_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-List-HCS-RSCP");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellSI-List-HCS-RSCP");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "NewInterFreqCellSI-HCS-RSCP", (int32_t)i, "NewInterFreqCellSI-List-HCS-RSCP");
+      stat = enc_NewInterFreqCellSI_HCS_RSCP(ctx, (const NewInterFreqCellSI_HCS_RSCP*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-HCS-RSCP", (int32_t)i, "NewInterFreqCellSI-List-HCS-RSCP");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCellSI_List_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_List_HCS_RSCP* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewInterFreqCellSI_List_HCS_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqCellInfoSI_List_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoSI_List_HCS_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellInfoSI-List-HCS-RSCP");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterFreqCellInfoSI-List-HCS-RSCP");
+   /* removedInterFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-RSCP");
+   }
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_NewInterFreqCellSI_List_HCS_RSCP(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-RSCP");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqCellInfoSI_List_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoSI_List_HCS_RSCP* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqCellInfoSI_List_HCS_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqMeasurementSysInfo_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const InterFreqMeasurementSysInfo_HCS_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqMeasurementSysInfo-HCS-RSCP");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-HCS-RSCP");
+   /* interFreqCellInfoSI-List */
+   if (pvalue->m & 0x1u) {
+      stat = enc_InterFreqCellInfoSI_List_HCS_RSCP(ctx, &pvalue->interFreqCellInfoSI_List, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-HCS-RSCP");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqMeasurementSysInfo_HCS_RSCP(rtxContext* RT_RESTRICT ctx, const InterFreqMeasurementSysInfo_HCS_RSCP* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqMeasurementSysInfo_HCS_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* intraFreqMeasurementSysInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_IntraFreqMeasurementSysInfo_HCS_RSCP(ctx, &pvalue->intraFreqMeasurementSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
+   }
+   /* interFreqMeasurementSysInfo */
+   if (pvalue->m & 0x2u) {
+      stat = enc_InterFreqMeasurementSysInfo_HCS_RSCP(ctx, &pvalue->interFreqMeasurementSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   }
+   /* primaryCPICH-TX-Power */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->primaryCPICH_TX_Power < -10 || pvalue->primaryCPICH_TX_Power > 50) {
+         rtxErrAddStrParm(ctx, "PrimaryCPICH-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->primaryCPICH_TX_Power);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->primaryCPICH_TX_Power, -10, 50);
+      RT_CHECK_PUT(ctx, cur, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
+   }
+   /* readSFN-Indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->readSFN_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "readSFN-Indicator", -1, 0);
+   /* tx-DiversityIndicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->tx_DiversityIndicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tx-DiversityIndicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* primaryCCPCH-Info */
+   stat = enc_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+         rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->primaryCCPCH_TX_Power, 6, 43);
+      RT_CHECK_PUT(ctx, cur, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   }
+   /* timeslotInfoList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_TimeslotInfoList(ctx, &pvalue->timeslotInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, 0);
+   }
+   /* readSFN-Indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->readSFN_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "readSFN-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellInfoSI_HCS_ECN0_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_ECN0_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_CellInfoSI_HCS_ECN0_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_CellInfoSI_HCS_ECN0_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellInfoSI_HCS_ECN0_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_ECN0_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellInfoSI_HCS_ECN0_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_TemporaryOffset2(rtxContext* RT_RESTRICT ctx, TemporaryOffset2 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TemporaryOffset2");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TemporaryOffset2");
+   return 0;
+}
+
+int asn1PE_UMTS_TemporaryOffset2(rtxContext* RT_RESTRICT ctx, TemporaryOffset2 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TemporaryOffset2, value);
+}
+
+RT_MERGED_BODY int enc_TemporaryOffsetList(rtxContext* RT_RESTRICT ctx, const TemporaryOffsetList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TemporaryOffsetList");
+   /* temporaryOffset1 */
+   if (pvalue->temporaryOffset1 > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->temporaryOffset1);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TemporaryOffset1", "temporaryOffset1", -1, "TemporaryOffsetList");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->temporaryOffset1, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "TemporaryOffset1", "temporaryOffset1", -1, "TemporaryOffsetList");
+   /* temporaryOffset2 */
+   if (pvalue->temporaryOffset2 > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->temporaryOffset2);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TemporaryOffset2", "temporaryOffset2", -1, "TemporaryOffsetList");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->temporaryOffset2, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "TemporaryOffset2", "temporaryOffset2", -1, "TemporaryOffsetList");
+   return 0;
+}
+
+int asn1PE_UMTS_TemporaryOffsetList(rtxContext* RT_RESTRICT ctx, const TemporaryOffsetList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TemporaryOffsetList, pvalue);
+}
+
+RT_MERGED_BODY int enc_PenaltyTime_ECN0(rtxContext* RT_RESTRICT ctx, const PenaltyTime_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PenaltyTime-ECN0");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "PenaltyTime-ECN0");
+   if (pvalue->t - 1 > 6) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "PenaltyTime-ECN0");
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.pt10 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "pt10", -1, "PenaltyTime-ECN0");
+         stat = enc_TemporaryOffsetList(ctx, pvalue->u.pt10, cur);
+         RT_CHECK(ctx, stat, 0, "pt10", -1, "PenaltyTime-ECN0");
+         break;
+      case 3:
+         if (pvalue->u.pt20 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "pt20", -1, "PenaltyTime-ECN0");
+         stat = enc_TemporaryOffsetList(ctx, pvalue->u.pt20, cur);
+         RT_CHECK(ctx, stat, 0, "pt20", -1, "PenaltyTime-ECN0");
+         break;
+      case 4:
+         if (pvalue->u.pt30 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "pt30", -1, "PenaltyTime-ECN0");
+         stat = enc_TemporaryOffsetList(ctx, pvalue->u.pt30, cur);
+         RT_CHECK(ctx, stat, 0, "pt30", -1, "PenaltyTime-ECN0");
+         break;
+      case 5:
+         if (pvalue->u.pt40 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "pt40", -1, "PenaltyTime-ECN0");
+         stat = enc_TemporaryOffsetList(ctx, pvalue->u.pt40, cur);
+         RT_CHECK(ctx, stat, 0, "pt40", -1, "PenaltyTime-ECN0");
+         break;
+      case 6:
+         if (pvalue->u.pt50 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "pt50", -1, "PenaltyTime-ECN0");
+         stat = enc_TemporaryOffsetList(ctx, pvalue->u.pt50, cur);
+         RT_CHECK(ctx, stat, 0, "pt50", -1, "PenaltyTime-ECN0");
+         break;
+      case 7:
+         if (pvalue->u.pt60 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "pt60", -1, "PenaltyTime-ECN0");
+         stat = enc_TemporaryOffsetList(ctx, pvalue->u.pt60, cur);
+         RT_CHECK(ctx, stat, 0, "pt60", -1, "PenaltyTime-ECN0");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PenaltyTime_ECN0(rtxContext* RT_RESTRICT ctx, const PenaltyTime_ECN0* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PenaltyTime_ECN0, pvalue);
+}
+
+RT_MERGED_BODY int enc_HCS_CellReselectInformation_ECN0(rtxContext* RT_RESTRICT ctx, const HCS_CellReselectInformation_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HCS-CellReselectInformation-ECN0");
+   /* penaltyTime */
+   stat = enc_PenaltyTime_ECN0(ctx, &pvalue->penaltyTime, cur);
+   RT_CHECK(ctx, stat, 0, "penaltyTime", -1, "HCS-CellReselectInformation-ECN0");
+   return 0;
+}
+
+int asn1PE_UMTS_HCS_CellReselectInformation_ECN0(rtxContext* RT_RESTRICT ctx, const HCS_CellReselectInformation_ECN0* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HCS_CellReselectInformation_ECN0, pvalue);
+}
+
+RT_MERGED_BODY int enc_HCS_NeighbouringCellInformation_ECN0(rtxContext* RT_RESTRICT ctx, const HCS_NeighbouringCellInformation_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HCS-NeighbouringCellInformation-ECN0");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->hcs_PRIO != 0) << 1) |
+      ((uint64_t)(pvalue->q_HCS != 0) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "HCS-NeighbouringCellInformation-ECN0");
+   /* hcs-PRIO */
+   if (pvalue->hcs_PRIO != 0) {
+      if ((uint64_t)pvalue->hcs_PRIO > 7u) {
+         rtxErrAddStrParm(ctx, "HCS-PRIO");
+         rtxErrAddUIntParm(ctx, pvalue->hcs_PRIO);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HCS-PRIO", "hcs-PRIO", -1, "HCS-NeighbouringCellInformation-ECN0");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->hcs_PRIO, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "HCS-PRIO", "hcs-PRIO", -1, "HCS-NeighbouringCellInformation-ECN0");
+   }
+   /* q-HCS */
+   if (pvalue->q_HCS != 0) {
+      if ((uint64_t)pvalue->q_HCS > 99u) {
+         rtxErrAddStrParm(ctx, "Q-HCS");
+         rtxErrAddUIntParm(ctx, pvalue->q_HCS);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-HCS", "q-HCS", -1, "HCS-NeighbouringCellInformation-ECN0");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->q_HCS, 0, 99);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-HCS", "q-HCS", -1, "HCS-NeighbouringCellInformation-ECN0");
+   }
+   /* hcs-CellReselectInformation */
+   stat = enc_HCS_CellReselectInformation_ECN0(ctx, &pvalue->hcs_CellReselectInformation, cur);
+   RT_CHECK(ctx, stat, 0, "hcs-CellReselectInformation", -1, "HCS-NeighbouringCellInformation-ECN0");
+   return 0;
+}
+
+int asn1PE_UMTS_HCS_NeighbouringCellInformation_ECN0(rtxContext* RT_RESTRICT ctx, const HCS_NeighbouringCellInformation_ECN0* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HCS_NeighbouringCellInformation_ECN0, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* q-QualMin */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->q_QualMin < -24 || pvalue->q_QualMin > 0) {
+         rtxErrAddStrParm(ctx, "Q-QualMin");
+         rtxErrAddIntParm(ctx, pvalue->q_QualMin);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-QualMin", "q-QualMin", -1, 0);
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->q_QualMin, -24, 0);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-QualMin", "q-QualMin", -1, 0);
+   }
+   /* q-RxlevMin */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
+         rtxErrAddStrParm(ctx, "Q-RxlevMin");
+         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* q-RxlevMin */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
+         rtxErrAddStrParm(ctx, "Q-RxlevMin");
+         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_gsm* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* q-RxlevMin */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
+         rtxErrAddStrParm(ctx, "Q-RxlevMin");
+         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_gsm* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_gsm, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.gsm == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "gsm", -1, 0);
+         stat = enc_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo_gsm(ctx, pvalue->u.gsm, cur);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo, pvalue);
+}
+
+static int enc_CellSelectReselectInfoSIB_11_12_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->q_Offset1S_N != 0) << 3) |
+      ((uint64_t)(pvalue->q_Offset2S_N != 0) << 2) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
+   /* q-Offset1S-N */
+   if (pvalue->q_Offset1S_N != 0) {
+      if (pvalue->q_Offset1S_N < -50 || pvalue->q_Offset1S_N > 50) {
+         rtxErrAddStrParm(ctx, "Q-OffsetS-N");
+         rtxErrAddIntParm(ctx, pvalue->q_Offset1S_N);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-OffsetS-N", "q-Offset1S-N", -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->q_Offset1S_N, -50, 50);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-OffsetS-N", "q-Offset1S-N", -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
+   }
+   /* q-Offset2S-N */
+   if (pvalue->q_Offset2S_N != 0) {
+      if (pvalue->q_Offset2S_N < -50 || pvalue->q_Offset2S_N > 50) {
+         rtxErrAddStrParm(ctx, "Q-OffsetS-N");
+         rtxErrAddIntParm(ctx, pvalue->q_Offset2S_N);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-OffsetS-N", "q-Offset2S-N", -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->q_Offset2S_N, -50, 50);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-OffsetS-N", "q-Offset2S-N", -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
+   }
+   /* maxAllowedUL-TX-Power */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK_PUT(ctx, cur, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
+   }
+   /* hcs-NeighbouringCellInformation-ECN0 */
+   if (pvalue->m & 0x2u) {
+      stat = enc_HCS_NeighbouringCellInformation_ECN0(ctx, &pvalue->hcs_NeighbouringCellInformation_ECN0, cur);
+      RT_CHECK(ctx, stat, 0, "hcs-NeighbouringCellInformation-ECN0", -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
+   }
+   /* modeSpecificInfo */
+   stat = enc_CellSelectReselectInfoSIB_11_12_HCS_ECN0_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellSelectReselectInfoSIB-11-12-HCS-ECN0");
+   return 0;
+}
+
+int asn1PE_UMTS_CellSelectReselectInfoSIB_11_12_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoSIB_11_12_HCS_ECN0* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellSelectReselectInfoSIB_11_12_HCS_ECN0, pvalue);
+}
+
+static int enc_CellInfoSI_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellInfoSI-HCS-ECN0");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->cellIndividualOffset != 0) << 2) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CellInfoSI-HCS-ECN0");
+   /* cellIndividualOffset */
+   if (pvalue->cellIndividualOffset != 0) {
+      if (pvalue->cellIndividualOffset < -20 || pvalue->cellIndividualOffset > 20) {
+         rtxErrAddStrParm(ctx, "CellIndividualOffset");
+         rtxErrAddIntParm(ctx, pvalue->cellIndividualOffset);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-HCS-ECN0");
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->cellIndividualOffset, -20, 20);
+      RT_CHECK_PUT(ctx, cur, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-HCS-ECN0");
+   }
+   /* referenceTimeDifferenceToCell */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell, cur);
+      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-HCS-ECN0");
+   }
+   /* modeSpecificInfo */
+   stat = enc_CellInfoSI_HCS_ECN0_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellInfoSI-HCS-ECN0");
+   /* cellSelectionReselectionInfo */
+   if (pvalue->m & 0x2u) {
+      stat = enc_CellSelectReselectInfoSIB_11_12_HCS_ECN0(ctx, &pvalue->cellSelectionReselectionInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-HCS-ECN0");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellInfoSI_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_ECN0* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellInfoSI_HCS_ECN0, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewIntraFreqCellSI_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_HCS_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-HCS-ECN0");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCellSI-HCS-ECN0");
+   /* intraFreqCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->intraFreqCellID > 31u) {
+         rtxErrAddStrParm(ctx, "IntraFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->intraFreqCellID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-HCS-ECN0");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->intraFreqCellID, 0, 31);
+      RT_CHECK_PUT(ctx, cur, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-HCS-ECN0");
+   }
+   /* cellInfo */
+   stat = enc_CellInfoSI_HCS_ECN0(ctx, &pvalue->cellInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-HCS-ECN0");
+   return 0;
+}
+
+int asn1PE_UMTS_NewIntraFreqCellSI_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_HCS_ECN0* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewIntraFreqCellSI_HCS_ECN0, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewIntraFreqCellSI_List_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_List_HCS_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-List-HCS-ECN0");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCellSI-List-HCS-ECN0");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "NewIntraFreqCellSI-HCS-ECN0", (int32_t)i, "NewIntraFreqCellSI-List-HCS-ECN0");
+      stat = enc_NewIntraFreqCellSI_HCS_ECN0(ctx, (const NewIntraFreqCellSI_HCS_ECN0*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-HCS-ECN0", (int32_t)i, "NewIntraFreqCellSI-List-HCS-ECN0");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewIntraFreqCellSI_List_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_List_HCS_ECN0* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewIntraFreqCellSI_List_HCS_ECN0, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFreqCellInfoSI_List_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoSI_List_HCS_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqCellInfoSI-List-HCS-ECN0");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-HCS-ECN0");
+   /* removedIntraFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-ECN0");
+   }
+   /* newIntraFreqCellList */
+   stat = enc_NewIntraFreqCellSI_List_HCS_ECN0(ctx, &pvalue->newIntraFreqCellList, cur);
+   RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-ECN0");
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqCellInfoSI_List_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoSI_List_HCS_ECN0* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqCellInfoSI_List_HCS_ECN0, pvalue);
+}
+
+static int enc_IntraFreqMeasurementSysInfo_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasurementSysInfo_HCS_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->intraFreqMeasurementID != 1) << 5) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
+   /* intraFreqMeasurementID */
+   if (pvalue->intraFreqMeasurementID != 1) {
+      if ((uint64_t)(pvalue->intraFreqMeasurementID - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "MeasurementIdentity");
+         rtxErrAddUIntParm(ctx, pvalue->intraFreqMeasurementID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->intraFreqMeasurementID, 1, 16);
+      RT_CHECK_PUT(ctx, cur, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
+   }
+   /* intraFreqCellInfoSI-List */
+   if (pvalue->m & 0x1u) {
+      stat = enc_IntraFreqCellInfoSI_List_HCS_ECN0(ctx, &pvalue->intraFreqCellInfoSI_List, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
+   }
+   /* intraFreqMeasQuantity */
+   if (pvalue->m & 0x2u) {
+      stat = enc_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
+   }
+   /* intraFreqReportingQuantityForRACH */
+   if (pvalue->m & 0x4u) {
+      stat = enc_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
+   }
+   /* maxReportedCellsOnRACH */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->maxReportedCellsOnRACH > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->maxReportedCellsOnRACH);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->maxReportedCellsOnRACH, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
+   }
+   /* reportingInfoForCellDCH */
+   if (pvalue->m & 0x10u) {
+      stat = enc_ReportingInfoForCellDCH(ctx, &pvalue->reportingInfoForCellDCH, cur);
+      RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqMeasurementSysInfo_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasurementSysInfo_HCS_ECN0* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqMeasurementSysInfo_HCS_ECN0, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewInterFreqCellSI_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_HCS_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-HCS-ECN0");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellSI-HCS-ECN0");
+   /* interFreqCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->interFreqCellID > 31u) {
+         rtxErrAddStrParm(ctx, "InterFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-HCS-ECN0");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->interFreqCellID, 0, 31);
+      RT_CHECK_PUT(ctx, cur, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-HCS-ECN0");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x2u) {
+      stat = enc_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-HCS-ECN0");
+   }
+   /* cellInfo */
+   stat = enc_CellInfoSI_HCS_ECN0(ctx, &pvalue->cellInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-HCS-ECN0");
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCellSI_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_HCS_ECN0* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewInterFreqCellSI_HCS_ECN0, pvalue);
+}
+
+static int enc_NewInterFreqCellSI_List_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_List_HCS_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-List-HCS-ECN0");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellSI-List-HCS-ECN0");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "NewInterFreqCellSI-HCS-ECN0", (int32_t)i, "NewInterFreqCellSI-List-HCS-ECN0");
+      stat = enc_NewInterFreqCellSI_HCS_ECN0(ctx, (const NewInterFreqCellSI_HCS_ECN0*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-HCS-ECN0", (int32_t)i, "NewInterFreqCellSI-List-HCS-ECN0");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCellSI_List_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_List_HCS_ECN0* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewInterFreqCellSI_List_HCS_ECN0, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqCellInfoSI_List_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoSI_List_HCS_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellInfoSI-List-HCS-ECN0");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterFreqCellInfoSI-List-HCS-ECN0");
+   /* removedInterFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-ECN0");
+   }
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_NewInterFreqCellSI_List_HCS_ECN0(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-ECN0");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqCellInfoSI_List_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoSI_List_HCS_ECN0* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqCellInfoSI_List_HCS_ECN0, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqMeasurementSysInfo_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const InterFreqMeasurementSysInfo_HCS_ECN0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqMeasurementSysInfo-HCS-ECN0");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-HCS-ECN0");
+   /* interFreqCellInfoSI-List */
+   if (pvalue->m & 0x1u) {
+      stat = enc_InterFreqCellInfoSI_List_HCS_ECN0(ctx, &pvalue->interFreqCellInfoSI_List, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-HCS-ECN0");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqMeasurementSysInfo_HCS_ECN0(rtxContext* RT_RESTRICT ctx, const InterFreqMeasurementSysInfo_HCS_ECN0* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqMeasurementSysInfo_HCS_ECN0, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* intraFreqMeasurementSysInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_IntraFreqMeasurementSysInfo_HCS_ECN0(ctx, &pvalue->intraFreqMeasurementSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
+   }
+   /* interFreqMeasurementSysInfo */
+   if (pvalue->m & 0x2u) {
+      stat = enc_InterFreqMeasurementSysInfo_HCS_ECN0(ctx, &pvalue->interFreqMeasurementSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.cpich_RSCP == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "cpich-RSCP", -1, 0);
+         stat = enc_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP, cur);
+         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "cpich-Ec-N0", -1, 0);
+         stat = enc_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0, cur);
+         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewInterRATCell_technologySpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const NewInterRATCell_technologySpecificInfo_gsm* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellSelectionReselectionInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_CellSelectReselectInfoSIB_11_12(ctx, &pvalue->cellSelectionReselectionInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, 0);
+   }
+   /* interRATCellIndividualOffset */
+   if (pvalue->interRATCellIndividualOffset < -50 || pvalue->interRATCellIndividualOffset > 50) {
+      rtxErrAddStrParm(ctx, "InterRATCellIndividualOffset");
+      rtxErrAddIntParm(ctx, pvalue->interRATCellIndividualOffset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "InterRATCellIndividualOffset", "interRATCellIndividualOffset", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->interRATCellIndividualOffset, -50, 50);
+   RT_CHECK_PUT(ctx, cur, stat, "InterRATCellIndividualOffset", "interRATCellIndividualOffset", -1, 0);
+   /* bsic */
+   stat = enc_BSIC(ctx, &pvalue->bsic, cur);
+   RT_CHECK(ctx, stat, 0, "bsic", -1, 0);
+   /* frequency-band */
+   if (pvalue->frequency_band > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->frequency_band);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "Frequency-Band", "frequency-band", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->frequency_band, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "Frequency-Band", "frequency-band", -1, 0);
+   /* bcch-ARFCN */
+   if ((uint64_t)pvalue->bcch_ARFCN > 1023u) {
+      rtxErrAddStrParm(ctx, "BCCH-ARFCN");
+      rtxErrAddUIntParm(ctx, pvalue->bcch_ARFCN);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "BCCH-ARFCN", "bcch-ARFCN", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->bcch_ARFCN, 0, 1023);
+   RT_CHECK_PUT(ctx, cur, stat, "BCCH-ARFCN", "bcch-ARFCN", -1, 0);
+   /* dummy */
+   if (pvalue->m & 0x2u) {
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterRATCell_technologySpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const NewInterRATCell_technologySpecificInfo_gsm* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewInterRATCell_technologySpecificInfo_gsm, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewInterRATCell_technologySpecificInfo_is_2000(rtxContext* RT_RESTRICT ctx, const NewInterRATCell_technologySpecificInfo_is_2000* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* is-2000SpecificMeasInfo */
+   if (pvalue->is_2000SpecificMeasInfo > 4) {
+      rtxErrAddUIntParm(ctx, pvalue->is_2000SpecificMeasInfo);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "IS-2000SpecificMeasInfo", "is-2000SpecificMeasInfo", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->is_2000SpecificMeasInfo, 0, 4);
+   RT_CHECK_PUT(ctx, cur, stat, "IS-2000SpecificMeasInfo", "is-2000SpecificMeasInfo", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterRATCell_technologySpecificInfo_is_2000(rtxContext* RT_RESTRICT ctx, const NewInterRATCell_technologySpecificInfo_is_2000* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewInterRATCell_technologySpecificInfo_is_2000, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewInterRATCell_technologySpecificInfo(rtxContext* RT_RESTRICT ctx, const NewInterRATCell_technologySpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 3) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.gsm == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "gsm", -1, 0);
+         stat = enc_NewInterRATCell_technologySpecificInfo_gsm(ctx, pvalue->u.gsm, cur);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.is_2000 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "is-2000", -1, 0);
+         stat = enc_NewInterRATCell_technologySpecificInfo_is_2000(ctx, pvalue->u.is_2000, cur);
+         RT_CHECK(ctx, stat, 0, "is-2000", -1, 0);
+         break;
+      case 3:
+         break;
+      case 4:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterRATCell_technologySpecificInfo(rtxContext* RT_RESTRICT ctx, const NewInterRATCell_technologySpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewInterRATCell_technologySpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewInterRATCell(rtxContext* RT_RESTRICT ctx, const NewInterRATCell* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewInterRATCell");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NewInterRATCell");
+   /* interRATCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->interRATCellID > 31u) {
+         rtxErrAddStrParm(ctx, "InterRATCellID");
+         rtxErrAddUIntParm(ctx, pvalue->interRATCellID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "InterRATCellID", "interRATCellID", -1, "NewInterRATCell");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->interRATCellID, 0, 31);
+      RT_CHECK_PUT(ctx, cur, stat, "InterRATCellID", "interRATCellID", -1, "NewInterRATCell");
+   }
+   /* technologySpecificInfo */
+   stat = enc_NewInterRATCell_technologySpecificInfo(ctx, &pvalue->technologySpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "technologySpecificInfo", -1, "NewInterRATCell");
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterRATCell(rtxContext* RT_RESTRICT ctx, const NewInterRATCell* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewInterRATCell, pvalue);
+}
+
+static int enc_NewInterRATCellList(rtxContext* RT_RESTRICT ctx, const NewInterRATCellList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewInterRATCellList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "NewInterRATCellList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "NewInterRATCell", (int32_t)i, "NewInterRATCellList");
+      stat = enc_NewInterRATCell(ctx, (const NewInterRATCell*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "NewInterRATCell", (int32_t)i, "NewInterRATCellList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterRATCellList(rtxContext* RT_RESTRICT ctx, const NewInterRATCellList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewInterRATCellList, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellsForInterRATMeasList(rtxContext* RT_RESTRICT ctx, const CellsForInterRATMeasList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellsForInterRATMeasList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "CellsForInterRATMeasList");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 31u) {
+         rtxErrAddStrParm(ctx, "InterRATCellID");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "InterRATCellID", "InterRATCellID", (int32_t)i, "CellsForInterRATMeasList");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 31);
+      RT_CHECK_PUT(ctx, cur, stat, "InterRATCellID", "InterRATCellID", (int32_t)i, "CellsForInterRATMeasList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellsForInterRATMeasList(rtxContext* RT_RESTRICT ctx, const CellsForInterRATMeasList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellsForInterRATMeasList, pvalue);
+}
+
+static int enc_InterRATCellInfoList(rtxContext* RT_RESTRICT ctx, const InterRATCellInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterRATCellInfoList");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterRATCellInfoList");
+   /* removedInterRATCellList */
+   stat = enc_RemovedInterRATCellList(ctx, &pvalue->removedInterRATCellList, cur);
+   RT_CHECK(ctx, stat, 0, "removedInterRATCellList", -1, "InterRATCellInfoList");
+   /* newInterRATCellList */
+   stat = enc_NewInterRATCellList(ctx, &pvalue->newInterRATCellList, cur);
+   RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, "InterRATCellInfoList");
+   /* cellsForInterRATMeasList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_CellsForInterRATMeasList(ctx, &pvalue->cellsForInterRATMeasList, cur);
+      RT_CHECK(ctx, stat, 0, "cellsForInterRATMeasList", -1, "InterRATCellInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATCellInfoList(rtxContext* RT_RESTRICT ctx, const InterRATCellInfoList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterRATCellInfoList, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterRATMeasurementSysInfo(rtxContext* RT_RESTRICT ctx, const InterRATMeasurementSysInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterRATMeasurementSysInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterRATMeasurementSysInfo");
+   /* interRATCellInfoList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_InterRATCellInfoList(ctx, &pvalue->interRATCellInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "interRATCellInfoList", -1, "InterRATMeasurementSysInfo");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATMeasurementSysInfo(rtxContext* RT_RESTRICT ctx, const InterRATMeasurementSysInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterRATMeasurementSysInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementControlSysInfo_use_of_HCS_hcs_used(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_used* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellSelectQualityMeasure */
+   stat = enc_MeasurementControlSysInfo_use_of_HCS_hcs_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure, cur);
+   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
+   /* interRATMeasurementSysInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_InterRATMeasurementSysInfo(ctx, &pvalue->interRATMeasurementSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "interRATMeasurementSysInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_used(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS_hcs_used* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfo_use_of_HCS_hcs_used, pvalue);
+}
+
+static int enc_MeasurementControlSysInfo_use_of_HCS(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.hcs_not_used == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "hcs-not-used", -1, 0);
+         stat = enc_MeasurementControlSysInfo_use_of_HCS_hcs_not_used(ctx, pvalue->u.hcs_not_used, cur);
+         RT_CHECK(ctx, stat, 0, "hcs-not-used", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.hcs_used == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "hcs-used", -1, 0);
+         stat = enc_MeasurementControlSysInfo_use_of_HCS_hcs_used(ctx, pvalue->u.hcs_used, cur);
+         RT_CHECK(ctx, stat, 0, "hcs-used", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfo_use_of_HCS(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_use_of_HCS* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfo_use_of_HCS, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_TrCH_Identity(rtxContext* RT_RESTRICT ctx, const UL_TrCH_Identity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-TrCH-Identity");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "UL-TrCH-Identity");
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-TrCH-Identity");
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)(pvalue->u.dch - 1) > 31u) {
+            rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.dch);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportChannelIdentity", "dch", -1, "UL-TrCH-Identity");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.dch, 1, 32);
+         RT_CHECK_PUT(ctx, cur, stat, "TransportChannelIdentity", "dch", -1, "UL-TrCH-Identity");
+         break;
+      case 2:
+         break;
+      case 3:
+         if ((uint64_t)(pvalue->u.usch - 1) > 31u) {
+            rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.usch);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportChannelIdentity", "usch", -1, "UL-TrCH-Identity");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.usch, 1, 32);
+         RT_CHECK_PUT(ctx, cur, stat, "TransportChannelIdentity", "usch", -1, "UL-TrCH-Identity");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_TrCH_Identity(rtxContext* RT_RESTRICT ctx, const UL_TrCH_Identity* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_TrCH_Identity, pvalue);
+}
+
+RT_MERGED_BODY int enc_TrafficVolumeMeasurementObjectList(rtxContext* RT_RESTRICT ctx, const TrafficVolumeMeasurementObjectList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TrafficVolumeMeasurementObjectList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "TrafficVolumeMeasurementObjectList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "UL-TrCH-Identity", (int32_t)i, "TrafficVolumeMeasurementObjectList");
+      stat = enc_UL_TrCH_Identity(ctx, (const UL_TrCH_Identity*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "UL-TrCH-Identity", (int32_t)i, "TrafficVolumeMeasurementObjectList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TrafficVolumeMeasurementObjectList(rtxContext* RT_RESTRICT ctx, const TrafficVolumeMeasurementObjectList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TrafficVolumeMeasurementObjectList, pvalue);
+}
+
+RT_MERGED_BODY int enc_TimeInterval(rtxContext* RT_RESTRICT ctx, TimeInterval value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 12u) {
+      rtxErrAddStrParm(ctx, "TimeInterval");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "TimeInterval");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 13);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TimeInterval");
+   return 0;
+}
+
+int asn1PE_UMTS_TimeInterval(rtxContext* RT_RESTRICT ctx, TimeInterval value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TimeInterval, value);
+}
+
+RT_MERGED_BODY int enc_TrafficVolumeMeasQuantity(rtxContext* RT_RESTRICT ctx, const TrafficVolumeMeasQuantity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TrafficVolumeMeasQuantity");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "TrafficVolumeMeasQuantity");
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "TrafficVolumeMeasQuantity");
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if ((uint64_t)(pvalue->u.averageRLC_BufferPayload - 1) > 12u) {
+            rtxErrAddStrParm(ctx, "TimeInterval");
+            rtxErrAddUIntParm(ctx, pvalue->u.averageRLC_BufferPayload);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeInterval", "averageRLC-BufferPayload", -1, "TrafficVolumeMeasQuantity");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.averageRLC_BufferPayload, 1, 13);
+         RT_CHECK_PUT(ctx, cur, stat, "TimeInterval", "averageRLC-BufferPayload", -1, "TrafficVolumeMeasQuantity");
+         break;
+      case 3:
+         if ((uint64_t)(pvalue->u.varianceOfRLC_BufferPayload - 1) > 12u) {
+            rtxErrAddStrParm(ctx, "TimeInterval");
+            rtxErrAddUIntParm(ctx, pvalue->u.varianceOfRLC_BufferPayload);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeInterval", "varianceOfRLC-BufferPayload", -1, "TrafficVolumeMeasQuantity");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.varianceOfRLC_BufferPayload, 1, 13);
+         RT_CHECK_PUT(ctx, cur, stat, "TimeInterval", "varianceOfRLC-BufferPayload", -1, "TrafficVolumeMeasQuantity");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TrafficVolumeMeasQuantity(rtxContext* RT_RESTRICT ctx, const TrafficVolumeMeasQuantity* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TrafficVolumeMeasQuantity, pvalue);
+}
+
+RT_MERGED_BODY int enc_TrafficVolumeReportingQuantity(rtxContext* RT_RESTRICT ctx, const TrafficVolumeReportingQuantity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TrafficVolumeReportingQuantity");
+   /* rlc-RB-BufferPayload */
+   stat = rtxEncBitAt(ctx, cur, pvalue->rlc_RB_BufferPayload);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "rlc-RB-BufferPayload", -1, "TrafficVolumeReportingQuantity");
+   /* rlc-RB-BufferPayloadAverage */
+   stat = rtxEncBitAt(ctx, cur, pvalue->rlc_RB_BufferPayloadAverage);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "rlc-RB-BufferPayloadAverage", -1, "TrafficVolumeReportingQuantity");
+   /* rlc-RB-BufferPayloadVariance */
+   stat = rtxEncBitAt(ctx, cur, pvalue->rlc_RB_BufferPayloadVariance);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "rlc-RB-BufferPayloadVariance", -1, "TrafficVolumeReportingQuantity");
+   return 0;
+}
+
+int asn1PE_UMTS_TrafficVolumeReportingQuantity(rtxContext* RT_RESTRICT ctx, const TrafficVolumeReportingQuantity* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TrafficVolumeReportingQuantity, pvalue);
+}
+
+RT_MERGED_BODY int enc_TrafficVolumeEventType(rtxContext* RT_RESTRICT ctx, TrafficVolumeEventType value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TrafficVolumeEventType");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TrafficVolumeEventType");
+   return 0;
+}
+
+int asn1PE_UMTS_TrafficVolumeEventType(rtxContext* RT_RESTRICT ctx, TrafficVolumeEventType value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TrafficVolumeEventType, value);
+}
+
+RT_MERGED_BODY int enc_TrafficVolumeThreshold(rtxContext* RT_RESTRICT ctx, TrafficVolumeThreshold value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 25) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TrafficVolumeThreshold");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 25);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TrafficVolumeThreshold");
+   return 0;
+}
+
+int asn1PE_UMTS_TrafficVolumeThreshold(rtxContext* RT_RESTRICT ctx, TrafficVolumeThreshold value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TrafficVolumeThreshold, value);
+}
+
+RT_MERGED_BODY int enc_PendingTimeAfterTrigger(rtxContext* RT_RESTRICT ctx, PendingTimeAfterTrigger value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 6) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "PendingTimeAfterTrigger");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PendingTimeAfterTrigger");
+   return 0;
+}
+
+int asn1PE_UMTS_PendingTimeAfterTrigger(rtxContext* RT_RESTRICT ctx, PendingTimeAfterTrigger value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PendingTimeAfterTrigger, value);
+}
+
+RT_MERGED_BODY int enc_TX_InterruptionAfterTrigger(rtxContext* RT_RESTRICT ctx, TX_InterruptionAfterTrigger value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 6) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TX-InterruptionAfterTrigger");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TX-InterruptionAfterTrigger");
+   return 0;
+}
+
+int asn1PE_UMTS_TX_InterruptionAfterTrigger(rtxContext* RT_RESTRICT ctx, TX_InterruptionAfterTrigger value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TX_InterruptionAfterTrigger, value);
+}
+
+RT_MERGED_BODY int enc_TrafficVolumeEventParam(rtxContext* RT_RESTRICT ctx, const TrafficVolumeEventParam* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TrafficVolumeEventParam");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TrafficVolumeEventParam");
+   /* eventID */
+   if (pvalue->eventID > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->eventID);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TrafficVolumeEventType", "eventID", -1, "TrafficVolumeEventParam");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->eventID, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "TrafficVolumeEventType", "eventID", -1, "TrafficVolumeEventParam");
+   /* reportingThreshold */
+   if (pvalue->reportingThreshold > 25) {
+      rtxErrAddUIntParm(ctx, pvalue->reportingThreshold);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TrafficVolumeThreshold", "reportingThreshold", -1, "TrafficVolumeEventParam");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->reportingThreshold, 0, 25);
+   RT_CHECK_PUT(ctx, cur, stat, "TrafficVolumeThreshold", "reportingThreshold", -1, "TrafficVolumeEventParam");
+   /* timeToTrigger */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->timeToTrigger > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "TrafficVolumeEventParam");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->timeToTrigger, 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "TrafficVolumeEventParam");
+   }
+   /* pendingTimeAfterTrigger */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->pendingTimeAfterTrigger > 6) {
+         rtxErrAddUIntParm(ctx, pvalue->pendingTimeAfterTrigger);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PendingTimeAfterTrigger", "pendingTimeAfterTrigger", -1, "TrafficVolumeEventParam");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->pendingTimeAfterTrigger, 0, 6);
+      RT_CHECK_PUT(ctx, cur, stat, "PendingTimeAfterTrigger", "pendingTimeAfterTrigger", -1, "TrafficVolumeEventParam");
+   }
+   /* tx-InterruptionAfterTrigger */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->tx_InterruptionAfterTrigger > 6) {
+         rtxErrAddUIntParm(ctx, pvalue->tx_InterruptionAfterTrigger);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TX-InterruptionAfterTrigger", "tx-InterruptionAfterTrigger", -1, "TrafficVolumeEventParam");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tx_InterruptionAfterTrigger, 0, 6);
+      RT_CHECK_PUT(ctx, cur, stat, "TX-InterruptionAfterTrigger", "tx-InterruptionAfterTrigger", -1, "TrafficVolumeEventParam");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TrafficVolumeEventParam(rtxContext* RT_RESTRICT ctx, const TrafficVolumeEventParam* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TrafficVolumeEventParam, pvalue);
+}
+
+RT_MERGED_BODY int enc_TransChCriteria_eventSpecificParameters(rtxContext* RT_RESTRICT ctx, const TransChCriteria_eventSpecificParameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 2);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "TrafficVolumeEventParam", (int32_t)i, 0);
+      stat = enc_TrafficVolumeEventParam(ctx, (const TrafficVolumeEventParam*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "TrafficVolumeEventParam", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransChCriteria_eventSpecificParameters(rtxContext* RT_RESTRICT ctx, const TransChCriteria_eventSpecificParameters* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TransChCriteria_eventSpecificParameters, pvalue);
+}
+
+RT_MERGED_BODY int enc_TransChCriteria(rtxContext* RT_RESTRICT ctx, const TransChCriteria* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TransChCriteria");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TransChCriteria");
+   /* ul-transportChannelID */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UL_TrCH_Identity(ctx, &pvalue->ul_transportChannelID, cur);
+      RT_CHECK(ctx, stat, 0, "ul-transportChannelID", -1, "TransChCriteria");
+   }
+   /* eventSpecificParameters */
+   if (pvalue->m & 0x2u) {
+      stat = enc_TransChCriteria_eventSpecificParameters(ctx, &pvalue->eventSpecificParameters, cur);
+      RT_CHECK(ctx, stat, 0, "eventSpecificParameters", -1, "TransChCriteria");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransChCriteria(rtxContext* RT_RESTRICT ctx, const TransChCriteria* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TransChCriteria, pvalue);
+}
+
+RT_MERGED_BODY int enc_TransChCriteriaList(rtxContext* RT_RESTRICT ctx, const TransChCriteriaList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TransChCriteriaList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "TransChCriteriaList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "TransChCriteria", (int32_t)i, "TransChCriteriaList");
+      stat = enc_TransChCriteria(ctx, (const TransChCriteria*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "TransChCriteria", (int32_t)i, "TransChCriteriaList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransChCriteriaList(rtxContext* RT_RESTRICT ctx, const TransChCriteriaList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TransChCriteriaList, pvalue);
+}
+
+static int enc_TrafficVolumeReportingCriteria(rtxContext* RT_RESTRICT ctx, const TrafficVolumeReportingCriteria* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TrafficVolumeReportingCriteria");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TrafficVolumeReportingCriteria");
+   /* transChCriteriaList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_TransChCriteriaList(ctx, &pvalue->transChCriteriaList, cur);
+      RT_CHECK(ctx, stat, 0, "transChCriteriaList", -1, "TrafficVolumeReportingCriteria");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TrafficVolumeReportingCriteria(rtxContext* RT_RESTRICT ctx, const TrafficVolumeReportingCriteria* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TrafficVolumeReportingCriteria, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementValidity_ue_State(rtxContext* RT_RESTRICT ctx, MeasurementValidity_ue_State value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 2) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementValidity_ue_State(rtxContext* RT_RESTRICT ctx, MeasurementValidity_ue_State value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementValidity_ue_State, value);
+}
+
+RT_MERGED_BODY int enc_MeasurementValidity(rtxContext* RT_RESTRICT ctx, const MeasurementValidity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementValidity");
+   /* ue-State */
+   if (pvalue->ue_State > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->ue_State);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "ue-State", -1, "MeasurementValidity");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ue_State, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ue-State", -1, "MeasurementValidity");
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementValidity(rtxContext* RT_RESTRICT ctx, const MeasurementValidity* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementValidity, pvalue);
+}
+
+RT_MERGED_BODY int enc_TrafficVolumeReportCriteriaSysInfo(rtxContext* RT_RESTRICT ctx, const TrafficVolumeReportCriteriaSysInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TrafficVolumeReportCriteriaSysInfo");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "TrafficVolumeReportCriteriaSysInfo");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "TrafficVolumeReportCriteriaSysInfo");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.trafficVolumeReportingCriteria == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "trafficVolumeReportingCriteria", -1, "TrafficVolumeReportCriteriaSysInfo");
+         stat = enc_TrafficVolumeReportingCriteria(ctx, pvalue->u.trafficVolumeReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "trafficVolumeReportingCriteria", -1, "TrafficVolumeReportCriteriaSysInfo");
+         break;
+      case 2:
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "TrafficVolumeReportCriteriaSysInfo");
+         stat = enc_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "TrafficVolumeReportCriteriaSysInfo");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TrafficVolumeReportCriteriaSysInfo(rtxContext* RT_RESTRICT ctx, const TrafficVolumeReportCriteriaSysInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TrafficVolumeReportCriteriaSysInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_TrafficVolumeMeasSysInfo(rtxContext* RT_RESTRICT ctx, const TrafficVolumeMeasSysInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TrafficVolumeMeasSysInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->trafficVolumeMeasurementID != 4) << 5) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TrafficVolumeMeasSysInfo");
+   /* trafficVolumeMeasurementID */
+   if (pvalue->trafficVolumeMeasurementID != 4) {
+      if ((uint64_t)(pvalue->trafficVolumeMeasurementID - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "MeasurementIdentity");
+         rtxErrAddUIntParm(ctx, pvalue->trafficVolumeMeasurementID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MeasurementIdentity", "trafficVolumeMeasurementID", -1, "TrafficVolumeMeasSysInfo");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->trafficVolumeMeasurementID, 1, 16);
+      RT_CHECK_PUT(ctx, cur, stat, "MeasurementIdentity", "trafficVolumeMeasurementID", -1, "TrafficVolumeMeasSysInfo");
+   }
+   /* trafficVolumeMeasurementObjectList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_TrafficVolumeMeasurementObjectList(ctx, &pvalue->trafficVolumeMeasurementObjectList, cur);
+      RT_CHECK(ctx, stat, 0, "trafficVolumeMeasurementObjectList", -1, "TrafficVolumeMeasSysInfo");
+   }
+   /* trafficVolumeMeasQuantity */
+   if (pvalue->m & 0x2u) {
+      stat = enc_TrafficVolumeMeasQuantity(ctx, &pvalue->trafficVolumeMeasQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "trafficVolumeMeasQuantity", -1, "TrafficVolumeMeasSysInfo");
+   }
+   /* trafficVolumeReportingQuantity */
+   if (pvalue->m & 0x4u) {
+      stat = enc_TrafficVolumeReportingQuantity(ctx, &pvalue->trafficVolumeReportingQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "trafficVolumeReportingQuantity", -1, "TrafficVolumeMeasSysInfo");
+   }
+   /* dummy */
+   if (pvalue->m & 0x8u) {
+      stat = enc_TrafficVolumeReportingCriteria(ctx, &pvalue->dummy, cur);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "TrafficVolumeMeasSysInfo");
+   }
+   /* measurementValidity */
+   if (pvalue->m & 0x10u) {
+      stat = enc_MeasurementValidity(ctx, &pvalue->measurementValidity, cur);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "TrafficVolumeMeasSysInfo");
+   }
+   /* measurementReportingMode */
+   stat = enc_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode, cur);
+   RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "TrafficVolumeMeasSysInfo");
+   /* reportCriteriaSysInf */
+   stat = enc_TrafficVolumeReportCriteriaSysInfo(ctx, &pvalue->reportCriteriaSysInf, cur);
+   RT_CHECK(ctx, stat, 0, "reportCriteriaSysInf", -1, "TrafficVolumeMeasSysInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_TrafficVolumeMeasSysInfo(rtxContext* RT_RESTRICT ctx, const TrafficVolumeMeasSysInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TrafficVolumeMeasSysInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_MeasurementQuantity(rtxContext* RT_RESTRICT ctx, UE_MeasurementQuantity value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 2) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "UE-MeasurementQuantity");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-MeasurementQuantity");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_MeasurementQuantity(rtxContext* RT_RESTRICT ctx, UE_MeasurementQuantity value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_MeasurementQuantity, value);
+}
+
+RT_MERGED_BODY int enc_UE_InternalMeasQuantity(rtxContext* RT_RESTRICT ctx, const UE_InternalMeasQuantity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-InternalMeasQuantity");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->filterCoefficient != 0) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-InternalMeasQuantity");
+   /* measurementQuantity */
+   if (pvalue->measurementQuantity > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->measurementQuantity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UE-MeasurementQuantity", "measurementQuantity", -1, "UE-InternalMeasQuantity");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->measurementQuantity, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, "UE-MeasurementQuantity", "measurementQuantity", -1, "UE-InternalMeasQuantity");
+   /* filterCoefficient */
+   if (pvalue->filterCoefficient != 0) {
+      if (pvalue->filterCoefficient > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->filterCoefficient);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "FilterCoefficient", "filterCoefficient", -1, "UE-InternalMeasQuantity");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->filterCoefficient, 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "FilterCoefficient", "filterCoefficient", -1, "UE-InternalMeasQuantity");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_InternalMeasQuantity(rtxContext* RT_RESTRICT ctx, const UE_InternalMeasQuantity* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_InternalMeasQuantity, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_InternalMeasurementSysInfo(rtxContext* RT_RESTRICT ctx, const UE_InternalMeasurementSysInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-InternalMeasurementSysInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->ue_InternalMeasurementID != 5) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-InternalMeasurementSysInfo");
+   /* ue-InternalMeasurementID */
+   if (pvalue->ue_InternalMeasurementID != 5) {
+      if ((uint64_t)(pvalue->ue_InternalMeasurementID - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "MeasurementIdentity");
+         rtxErrAddUIntParm(ctx, pvalue->ue_InternalMeasurementID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MeasurementIdentity", "ue-InternalMeasurementID", -1, "UE-InternalMeasurementSysInfo");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ue_InternalMeasurementID, 1, 16);
+      RT_CHECK_PUT(ctx, cur, stat, "MeasurementIdentity", "ue-InternalMeasurementID", -1, "UE-InternalMeasurementSysInfo");
+   }
+   /* ue-InternalMeasQuantity */
+   stat = enc_UE_InternalMeasQuantity(ctx, &pvalue->ue_InternalMeasQuantity, cur);
+   RT_CHECK(ctx, stat, 0, "ue-InternalMeasQuantity", -1, "UE-InternalMeasurementSysInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_InternalMeasurementSysInfo(rtxContext* RT_RESTRICT ctx, const UE_InternalMeasurementSysInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_InternalMeasurementSysInfo, pvalue);
+}
+
+static int enc_MeasurementControlSysInfo(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementControlSysInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MeasurementControlSysInfo");
+   /* use-of-HCS */
+   stat = enc_MeasurementControlSysInfo_use_of_HCS(ctx, &pvalue->use_of_HCS, cur);
+   RT_CHECK(ctx, stat, 0, "use-of-HCS", -1, "MeasurementControlSysInfo");
+   /* trafficVolumeMeasSysInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_TrafficVolumeMeasSysInfo(ctx, &pvalue->trafficVolumeMeasSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "trafficVolumeMeasSysInfo", -1, "MeasurementControlSysInfo");
+   }
+   /* dummy */
+   if (pvalue->m & 0x2u) {
+      stat = enc_UE_InternalMeasurementSysInfo(ctx, &pvalue->dummy, cur);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "MeasurementControlSysInfo");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfo(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_FACH_MeasurementOccasionInfo_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const FACH_MeasurementOccasionInfo_LCR_r4_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "FACH-MeasurementOccasionInfo-LCR-r4-ext");
+   /* inter-freq-TDD128-meas-ind */
+   stat = rtxEncBitAt(ctx, cur, pvalue->inter_freq_TDD128_meas_ind);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "inter-freq-TDD128-meas-ind", -1, "FACH-MeasurementOccasionInfo-LCR-r4-ext");
+   return 0;
+}
+
+int asn1PE_UMTS_FACH_MeasurementOccasionInfo_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const FACH_MeasurementOccasionInfo_LCR_r4_ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_FACH_MeasurementOccasionInfo_LCR_r4_ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_PrimaryCCPCH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PrimaryCCPCH-Info-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PrimaryCCPCH-Info-LCR-r4");
+   /* tstd-Indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->tstd_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tstd-Indicator", -1, "PrimaryCCPCH-Info-LCR-r4");
+   /* cellParametersID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->cellParametersID > 127u) {
+         rtxErrAddStrParm(ctx, "CellParametersID");
+         rtxErrAddUIntParm(ctx, pvalue->cellParametersID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellParametersID", "cellParametersID", -1, "PrimaryCCPCH-Info-LCR-r4");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->cellParametersID, 0, 127);
+      RT_CHECK_PUT(ctx, cur, stat, "CellParametersID", "cellParametersID", -1, "PrimaryCCPCH-Info-LCR-r4");
+   }
+   /* sctd-Indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->sctd_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sctd-Indicator", -1, "PrimaryCCPCH-Info-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_PrimaryCCPCH_Info_LCR_r4(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PrimaryCCPCH_Info_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_TimeslotInfo_LCR_r4(rtxContext* RT_RESTRICT ctx, const TimeslotInfo_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TimeslotInfo-LCR-r4");
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 6u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "TimeslotInfo-LCR-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslotNumber, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "TimeslotInfo-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_TimeslotInfo_LCR_r4(rtxContext* RT_RESTRICT ctx, const TimeslotInfo_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TimeslotInfo_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_TimeslotInfoList_LCR_r4(rtxContext* RT_RESTRICT ctx, const TimeslotInfoList_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TimeslotInfoList-LCR-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 6);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "TimeslotInfoList-LCR-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "TimeslotInfo-LCR-r4", (int32_t)i, "TimeslotInfoList-LCR-r4");
+      stat = enc_TimeslotInfo_LCR_r4(ctx, (const TimeslotInfo_LCR_r4*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "TimeslotInfo-LCR-r4", (int32_t)i, "TimeslotInfoList-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TimeslotInfoList_LCR_r4(rtxContext* RT_RESTRICT ctx, const TimeslotInfoList_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TimeslotInfoList_LCR_r4, pvalue);
+}
+
+static int enc_CellInfoSI_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const CellInfoSI_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellInfoSI-RSCP-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->cellIndividualOffset != 0) << 4) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CellInfoSI-RSCP-LCR-r4");
+   /* cellIndividualOffset */
+   if (pvalue->cellIndividualOffset != 0) {
+      if (pvalue->cellIndividualOffset < -20 || pvalue->cellIndividualOffset > 20) {
+         rtxErrAddStrParm(ctx, "CellIndividualOffset");
+         rtxErrAddIntParm(ctx, pvalue->cellIndividualOffset);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-RSCP-LCR-r4");
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->cellIndividualOffset, -20, 20);
+      RT_CHECK_PUT(ctx, cur, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-RSCP-LCR-r4");
+   }
+   /* referenceTimeDifferenceToCell */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell, cur);
+      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-RSCP-LCR-r4");
+   }
+   /* primaryCCPCH-Info */
+   stat = enc_PrimaryCCPCH_Info_LCR_r4(ctx, &pvalue->primaryCCPCH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "CellInfoSI-RSCP-LCR-r4");
+   /* primaryCCPCH-TX-Power */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+         rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "CellInfoSI-RSCP-LCR-r4");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->primaryCCPCH_TX_Power, 6, 43);
+      RT_CHECK_PUT(ctx, cur, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "CellInfoSI-RSCP-LCR-r4");
+   }
+   /* timeslotInfoList */
+   if (pvalue->m & 0x4u) {
+      stat = enc_TimeslotInfoList_LCR_r4(ctx, &pvalue->timeslotInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, "CellInfoSI-RSCP-LCR-r4");
+   }
+   /* readSFN-Indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->readSFN_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "readSFN-Indicator", -1, "CellInfoSI-RSCP-LCR-r4");
+   /* cellSelectionReselectionInfo */
+   if (pvalue->m & 0x8u) {
+      stat = enc_CellSelectReselectInfoSIB_11_12_RSCP(ctx, &pvalue->cellSelectionReselectionInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-RSCP-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellInfoSI_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const CellInfoSI_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellInfoSI_RSCP_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewIntraFreqCellSI_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-RSCP-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCellSI-RSCP-LCR-r4");
+   /* intraFreqCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->intraFreqCellID > 31u) {
+         rtxErrAddStrParm(ctx, "IntraFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->intraFreqCellID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-RSCP-LCR-r4");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->intraFreqCellID, 0, 31);
+      RT_CHECK_PUT(ctx, cur, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-RSCP-LCR-r4");
+   }
+   /* cellInfo */
+   stat = enc_CellInfoSI_RSCP_LCR_r4(ctx, &pvalue->cellInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-RSCP-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_NewIntraFreqCellSI_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewIntraFreqCellSI_RSCP_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewIntraFreqCellSI_List_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_List_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-List-RSCP-LCR-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCellSI-List-RSCP-LCR-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "NewIntraFreqCellSI-RSCP-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-RSCP-LCR-r4");
+      stat = enc_NewIntraFreqCellSI_RSCP_LCR_r4(ctx, (const NewIntraFreqCellSI_RSCP_LCR_r4*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-RSCP-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-RSCP-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewIntraFreqCellSI_List_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_List_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewIntraFreqCellSI_List_RSCP_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFreqCellInfoSI_List_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoSI_List_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqCellInfoSI-List-RSCP-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-RSCP-LCR-r4");
+   /* removedIntraFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-RSCP-LCR-r4");
+   }
+   /* newIntraFreqCellList */
+   stat = enc_NewIntraFreqCellSI_List_RSCP_LCR_r4(ctx, &pvalue->newIntraFreqCellList, cur);
+   RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-RSCP-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqCellInfoSI_List_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoSI_List_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqCellInfoSI_List_RSCP_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_ForbiddenAffectCell_LCR_r4(rtxContext* RT_RESTRICT ctx, const ForbiddenAffectCell_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ForbiddenAffectCell-LCR-r4");
+   /* tdd */
+   stat = enc_PrimaryCCPCH_Info_LCR_r4(ctx, &pvalue->tdd, cur);
+   RT_CHECK(ctx, stat, 0, "tdd", -1, "ForbiddenAffectCell-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_ForbiddenAffectCell_LCR_r4(rtxContext* RT_RESTRICT ctx, const ForbiddenAffectCell_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ForbiddenAffectCell_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_ForbiddenAffectCellList_LCR_r4(rtxContext* RT_RESTRICT ctx, const ForbiddenAffectCellList_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ForbiddenAffectCellList-LCR-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "ForbiddenAffectCellList-LCR-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ForbiddenAffectCell-LCR-r4", (int32_t)i, "ForbiddenAffectCellList-LCR-r4");
+      stat = enc_ForbiddenAffectCell_LCR_r4(ctx, (const ForbiddenAffectCell_LCR_r4*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "ForbiddenAffectCell-LCR-r4", (int32_t)i, "ForbiddenAffectCellList-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ForbiddenAffectCellList_LCR_r4(rtxContext* RT_RESTRICT ctx, const ForbiddenAffectCellList_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ForbiddenAffectCellList_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_Event1a_LCR_r4(rtxContext* RT_RESTRICT ctx, const Event1a_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Event1a-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Event1a-LCR-r4");
+   /* triggeringCondition */
+   if (pvalue->triggeringCondition > 4) {
+      rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TriggeringCondition2", "triggeringCondition", -1, "Event1a-LCR-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->triggeringCondition, 0, 4);
+   RT_CHECK_PUT(ctx, cur, stat, "TriggeringCondition2", "triggeringCondition", -1, "Event1a-LCR-r4");
+   /* reportingRange */
+   if ((uint64_t)pvalue->reportingRange > 29u) {
+      rtxErrAddStrParm(ctx, "ReportingRange");
+      rtxErrAddUIntParm(ctx, pvalue->reportingRange);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ReportingRange", "reportingRange", -1, "Event1a-LCR-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->reportingRange, 0, 29);
+   RT_CHECK_PUT(ctx, cur, stat, "ReportingRange", "reportingRange", -1, "Event1a-LCR-r4");
+   /* forbiddenAffectCellList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ForbiddenAffectCellList_LCR_r4(ctx, &pvalue->forbiddenAffectCellList, cur);
+      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellList", -1, "Event1a-LCR-r4");
+   }
+   /* w */
+   if ((uint64_t)pvalue->w > 20u) {
+      rtxErrAddStrParm(ctx, "W");
+      rtxErrAddUIntParm(ctx, pvalue->w);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "W", "w", -1, "Event1a-LCR-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->w, 0, 20);
+   RT_CHECK_PUT(ctx, cur, stat, "W", "w", -1, "Event1a-LCR-r4");
+   /* reportDeactivationThreshold */
+   if (pvalue->reportDeactivationThreshold > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->reportDeactivationThreshold);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ReportDeactivationThreshold", "reportDeactivationThreshold", -1, "Event1a-LCR-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->reportDeactivationThreshold, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "ReportDeactivationThreshold", "reportDeactivationThreshold", -1, "Event1a-LCR-r4");
+   /* reportingAmount */
+   if (pvalue->reportingAmount > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->reportingAmount);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ReportingAmount", "reportingAmount", -1, "Event1a-LCR-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->reportingAmount, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "ReportingAmount", "reportingAmount", -1, "Event1a-LCR-r4");
+   /* reportingInterval */
+   if (pvalue->reportingInterval > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->reportingInterval);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ReportingInterval", "reportingInterval", -1, "Event1a-LCR-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->reportingInterval, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "ReportingInterval", "reportingInterval", -1, "Event1a-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_Event1a_LCR_r4(rtxContext* RT_RESTRICT ctx, const Event1a_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Event1a_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_Event1b_LCR_r4(rtxContext* RT_RESTRICT ctx, const Event1b_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Event1b-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Event1b-LCR-r4");
+   /* triggeringCondition */
+   if (pvalue->triggeringCondition > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TriggeringCondition1", "triggeringCondition", -1, "Event1b-LCR-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->triggeringCondition, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, "TriggeringCondition1", "triggeringCondition", -1, "Event1b-LCR-r4");
+   /* reportingRange */
+   if ((uint64_t)pvalue->reportingRange > 29u) {
+      rtxErrAddStrParm(ctx, "ReportingRange");
+      rtxErrAddUIntParm(ctx, pvalue->reportingRange);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ReportingRange", "reportingRange", -1, "Event1b-LCR-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->reportingRange, 0, 29);
+   RT_CHECK_PUT(ctx, cur, stat, "ReportingRange", "reportingRange", -1, "Event1b-LCR-r4");
+   /* forbiddenAffectCellList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ForbiddenAffectCellList_LCR_r4(ctx, &pvalue->forbiddenAffectCellList, cur);
+      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellList", -1, "Event1b-LCR-r4");
+   }
+   /* w */
+   if ((uint64_t)pvalue->w > 20u) {
+      rtxErrAddStrParm(ctx, "W");
+      rtxErrAddUIntParm(ctx, pvalue->w);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "W", "w", -1, "Event1b-LCR-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->w, 0, 20);
+   RT_CHECK_PUT(ctx, cur, stat, "W", "w", -1, "Event1b-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_Event1b_LCR_r4(rtxContext* RT_RESTRICT ctx, const Event1b_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Event1b_LCR_r4, pvalue);
+}
+
+static int enc_IntraFreqEvent_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqEvent_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEvent-LCR-r4");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "IntraFreqEvent-LCR-r4");
+   if (pvalue->t - 1 > 8) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqEvent-LCR-r4");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.e1a == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e1a", -1, "IntraFreqEvent-LCR-r4");
+         stat = enc_Event1a_LCR_r4(ctx, pvalue->u.e1a, cur);
+         RT_CHECK(ctx, stat, 0, "e1a", -1, "IntraFreqEvent-LCR-r4");
+         break;
+      case 2:
+         if (pvalue->u.e1b == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e1b", -1, "IntraFreqEvent-LCR-r4");
+         stat = enc_Event1b_LCR_r4(ctx, pvalue->u.e1b, cur);
+         RT_CHECK(ctx, stat, 0, "e1b", -1, "IntraFreqEvent-LCR-r4");
+         break;
+      case 3:
+         if (pvalue->u.e1c == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e1c", -1, "IntraFreqEvent-LCR-r4");
+         stat = enc_Event1c(ctx, pvalue->u.e1c, cur);
+         RT_CHECK(ctx, stat, 0, "e1c", -1, "IntraFreqEvent-LCR-r4");
+         break;
+      case 4:
+         break;
+      case 5:
+         if (pvalue->u.e1e == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e1e", -1, "IntraFreqEvent-LCR-r4");
+         stat = enc_Event1e(ctx, pvalue->u.e1e, cur);
+         RT_CHECK(ctx, stat, 0, "e1e", -1, "IntraFreqEvent-LCR-r4");
+         break;
+      case 6:
+         if (pvalue->u.e1f == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e1f", -1, "IntraFreqEvent-LCR-r4");
+         stat = enc_Event1f(ctx, pvalue->u.e1f, cur);
+         RT_CHECK(ctx, stat, 0, "e1f", -1, "IntraFreqEvent-LCR-r4");
+         break;
+      case 7:
+         break;
+      case 8:
+         if (pvalue->u.e1h < -115 || pvalue->u.e1h > 165) {
+            rtxErrAddStrParm(ctx, "ThresholdUsedFrequency");
+            rtxErrAddIntParm(ctx, pvalue->u.e1h);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ThresholdUsedFrequency", "e1h", -1, "IntraFreqEvent-LCR-r4");
+         }
+         stat = pe_ConsInt64At(ctx, cur, pvalue->u.e1h, -115, 165);
+         RT_CHECK_PUT(ctx, cur, stat, "ThresholdUsedFrequency", "e1h", -1, "IntraFreqEvent-LCR-r4");
+         break;
+      case 9:
+         if (pvalue->u.e1i < -115 || pvalue->u.e1i > 165) {
+            rtxErrAddStrParm(ctx, "ThresholdUsedFrequency");
+            rtxErrAddIntParm(ctx, pvalue->u.e1i);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ThresholdUsedFrequency", "e1i", -1, "IntraFreqEvent-LCR-r4");
+         }
+         stat = pe_ConsInt64At(ctx, cur, pvalue->u.e1i, -115, 165);
+         RT_CHECK_PUT(ctx, cur, stat, "ThresholdUsedFrequency", "e1i", -1, "IntraFreqEvent-LCR-r4");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqEvent_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqEvent_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqEvent_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFreqEventCriteria_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteria_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventCriteria-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqEventCriteria-LCR-r4");
+   /* event */
+   stat = enc_IntraFreqEvent_LCR_r4(ctx, &pvalue->event, cur);
+   RT_CHECK(ctx, stat, 0, "event", -1, "IntraFreqEventCriteria-LCR-r4");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 15u) {
+      rtxErrAddStrParm(ctx, "Hysteresis");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria-LCR-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->hysteresis, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria-LCR-r4");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria-LCR-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria-LCR-r4");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "IntraFreqEventCriteria-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqEventCriteria_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteria_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqEventCriteria_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFreqEventCriteriaList_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteriaList_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventCriteriaList-LCR-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqEventCriteriaList-LCR-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "IntraFreqEventCriteria-LCR-r4", (int32_t)i, "IntraFreqEventCriteriaList-LCR-r4");
+      stat = enc_IntraFreqEventCriteria_LCR_r4(ctx, (const IntraFreqEventCriteria_LCR_r4*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "IntraFreqEventCriteria-LCR-r4", (int32_t)i, "IntraFreqEventCriteriaList-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqEventCriteriaList_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteriaList_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqEventCriteriaList_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFreqReportingCriteria_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingCriteria_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqReportingCriteria-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqReportingCriteria-LCR-r4");
+   /* eventCriteriaList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_IntraFreqEventCriteriaList_LCR_r4(ctx, &pvalue->eventCriteriaList, cur);
+      RT_CHECK(ctx, stat, 0, "eventCriteriaList", -1, "IntraFreqReportingCriteria-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqReportingCriteria_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingCriteria_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqReportingCriteria_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellDCH_ReportCriteria_LCR_r4(rtxContext* RT_RESTRICT ctx, const CellDCH_ReportCriteria_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellDCH-ReportCriteria-LCR-r4");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "CellDCH-ReportCriteria-LCR-r4");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "CellDCH-ReportCriteria-LCR-r4");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "intraFreqReportingCriteria", -1, "CellDCH-ReportCriteria-LCR-r4");
+         stat = enc_IntraFreqReportingCriteria_LCR_r4(ctx, pvalue->u.intraFreqReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "CellDCH-ReportCriteria-LCR-r4");
+         break;
+      case 2:
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "CellDCH-ReportCriteria-LCR-r4");
+         stat = enc_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "CellDCH-ReportCriteria-LCR-r4");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellDCH_ReportCriteria_LCR_r4(rtxContext* RT_RESTRICT ctx, const CellDCH_ReportCriteria_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellDCH_ReportCriteria_LCR_r4, pvalue);
+}
+
+static int enc_ReportingInfoForCellDCH_LCR_r4(rtxContext* RT_RESTRICT ctx, const ReportingInfoForCellDCH_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ReportingInfoForCellDCH-LCR-r4");
+   /* intraFreqReportingQuantity */
+   stat = enc_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity, cur);
+   RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantity", -1, "ReportingInfoForCellDCH-LCR-r4");
+   /* measurementReportingMode */
+   stat = enc_MeasurementReportingMode(ctx, &pvalue->measurementReportingMode, cur);
+   RT_CHECK(ctx, stat, 0, "measurementReportingMode", -1, "ReportingInfoForCellDCH-LCR-r4");
+   /* reportCriteria */
+   stat = enc_CellDCH_ReportCriteria_LCR_r4(ctx, &pvalue->reportCriteria, cur);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "ReportingInfoForCellDCH-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_ReportingInfoForCellDCH_LCR_r4(rtxContext* RT_RESTRICT ctx, const ReportingInfoForCellDCH_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ReportingInfoForCellDCH_LCR_r4, pvalue);
+}
+
+static int enc_IntraFreqMeasurementSysInfo_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasurementSysInfo_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->intraFreqMeasurementID != 1) << 5) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
+   /* intraFreqMeasurementID */
+   if (pvalue->intraFreqMeasurementID != 1) {
+      if ((uint64_t)(pvalue->intraFreqMeasurementID - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "MeasurementIdentity");
+         rtxErrAddUIntParm(ctx, pvalue->intraFreqMeasurementID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->intraFreqMeasurementID, 1, 16);
+      RT_CHECK_PUT(ctx, cur, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
+   }
+   /* intraFreqCellInfoSI-List */
+   if (pvalue->m & 0x1u) {
+      stat = enc_IntraFreqCellInfoSI_List_RSCP_LCR_r4(ctx, &pvalue->intraFreqCellInfoSI_List, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
+   }
+   /* intraFreqMeasQuantity */
+   if (pvalue->m & 0x2u) {
+      stat = enc_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
+   }
+   /* intraFreqReportingQuantityForRACH */
+   if (pvalue->m & 0x4u) {
+      stat = enc_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
+   }
+   /* maxReportedCellsOnRACH */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->maxReportedCellsOnRACH > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->maxReportedCellsOnRACH);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->maxReportedCellsOnRACH, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
+   }
+   /* reportingInfoForCellDCH */
+   if (pvalue->m & 0x10u) {
+      stat = enc_ReportingInfoForCellDCH_LCR_r4(ctx, &pvalue->reportingInfoForCellDCH, cur);
+      RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-RSCP-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqMeasurementSysInfo_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasurementSysInfo_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqMeasurementSysInfo_RSCP_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewInterFreqCellSI_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-RSCP-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellSI-RSCP-LCR-r4");
+   /* interFreqCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->interFreqCellID > 31u) {
+         rtxErrAddStrParm(ctx, "InterFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-RSCP-LCR-r4");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->interFreqCellID, 0, 31);
+      RT_CHECK_PUT(ctx, cur, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-RSCP-LCR-r4");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x2u) {
+      stat = enc_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-RSCP-LCR-r4");
+   }
+   /* cellInfo */
+   stat = enc_CellInfoSI_RSCP_LCR_r4(ctx, &pvalue->cellInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-RSCP-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCellSI_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewInterFreqCellSI_RSCP_LCR_r4, pvalue);
+}
+
+static int enc_NewInterFreqCellSI_List_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_List_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-List-RSCP-LCR-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellSI-List-RSCP-LCR-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "NewInterFreqCellSI-RSCP-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-RSCP-LCR-r4");
+      stat = enc_NewInterFreqCellSI_RSCP_LCR_r4(ctx, (const NewInterFreqCellSI_RSCP_LCR_r4*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-RSCP-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-RSCP-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCellSI_List_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_List_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewInterFreqCellSI_List_RSCP_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqCellInfoSI_List_RSCP_LCR(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoSI_List_RSCP_LCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellInfoSI-List-RSCP-LCR");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterFreqCellInfoSI-List-RSCP-LCR");
+   /* removedInterFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-RSCP-LCR");
+   }
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_NewInterFreqCellSI_List_RSCP_LCR_r4(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-RSCP-LCR");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqCellInfoSI_List_RSCP_LCR(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoSI_List_RSCP_LCR* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqCellInfoSI_List_RSCP_LCR, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqMeasurementSysInfo_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const InterFreqMeasurementSysInfo_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqMeasurementSysInfo-RSCP-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-RSCP-LCR-r4");
+   /* interFreqCellInfoSI-List */
+   if (pvalue->m & 0x1u) {
+      stat = enc_InterFreqCellInfoSI_List_RSCP_LCR(ctx, &pvalue->interFreqCellInfoSI_List, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-RSCP-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqMeasurementSysInfo_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const InterFreqMeasurementSysInfo_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqMeasurementSysInfo_RSCP_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* intraFreqMeasurementSysInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_IntraFreqMeasurementSysInfo_RSCP_LCR_r4(ctx, &pvalue->intraFreqMeasurementSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
+   }
+   /* interFreqMeasurementSysInfo */
+   if (pvalue->m & 0x2u) {
+      stat = enc_InterFreqMeasurementSysInfo_RSCP_LCR_r4(ctx, &pvalue->interFreqMeasurementSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP, pvalue);
+}
+
+static int enc_CellInfoSI_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const CellInfoSI_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellInfoSI-ECN0-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->cellIndividualOffset != 0) << 4) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CellInfoSI-ECN0-LCR-r4");
+   /* cellIndividualOffset */
+   if (pvalue->cellIndividualOffset != 0) {
+      if (pvalue->cellIndividualOffset < -20 || pvalue->cellIndividualOffset > 20) {
+         rtxErrAddStrParm(ctx, "CellIndividualOffset");
+         rtxErrAddIntParm(ctx, pvalue->cellIndividualOffset);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-ECN0-LCR-r4");
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->cellIndividualOffset, -20, 20);
+      RT_CHECK_PUT(ctx, cur, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-ECN0-LCR-r4");
+   }
+   /* referenceTimeDifferenceToCell */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell, cur);
+      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-ECN0-LCR-r4");
+   }
+   /* primaryCCPCH-Info */
+   stat = enc_PrimaryCCPCH_Info_LCR_r4(ctx, &pvalue->primaryCCPCH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "CellInfoSI-ECN0-LCR-r4");
+   /* primaryCCPCH-TX-Power */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+         rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "CellInfoSI-ECN0-LCR-r4");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->primaryCCPCH_TX_Power, 6, 43);
+      RT_CHECK_PUT(ctx, cur, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "CellInfoSI-ECN0-LCR-r4");
+   }
+   /* timeslotInfoList */
+   if (pvalue->m & 0x4u) {
+      stat = enc_TimeslotInfoList_LCR_r4(ctx, &pvalue->timeslotInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, "CellInfoSI-ECN0-LCR-r4");
+   }
+   /* readSFN-Indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->readSFN_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "readSFN-Indicator", -1, "CellInfoSI-ECN0-LCR-r4");
+   /* cellSelectionReselectionInfo */
+   if (pvalue->m & 0x8u) {
+      stat = enc_CellSelectReselectInfoSIB_11_12_ECN0(ctx, &pvalue->cellSelectionReselectionInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-ECN0-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellInfoSI_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const CellInfoSI_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellInfoSI_ECN0_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewIntraFreqCellSI_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-ECN0-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCellSI-ECN0-LCR-r4");
+   /* intraFreqCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->intraFreqCellID > 31u) {
+         rtxErrAddStrParm(ctx, "IntraFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->intraFreqCellID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-ECN0-LCR-r4");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->intraFreqCellID, 0, 31);
+      RT_CHECK_PUT(ctx, cur, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-ECN0-LCR-r4");
+   }
+   /* cellInfo */
+   stat = enc_CellInfoSI_ECN0_LCR_r4(ctx, &pvalue->cellInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-ECN0-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_NewIntraFreqCellSI_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewIntraFreqCellSI_ECN0_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewIntraFreqCellSI_List_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_List_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-List-ECN0-LCR-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCellSI-List-ECN0-LCR-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "NewIntraFreqCellSI-ECN0-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-ECN0-LCR-r4");
+      stat = enc_NewIntraFreqCellSI_ECN0_LCR_r4(ctx, (const NewIntraFreqCellSI_ECN0_LCR_r4*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-ECN0-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-ECN0-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewIntraFreqCellSI_List_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_List_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewIntraFreqCellSI_List_ECN0_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFreqCellInfoSI_List_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoSI_List_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqCellInfoSI-List-ECN0-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-ECN0-LCR-r4");
+   /* removedIntraFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-ECN0-LCR-r4");
+   }
+   /* newIntraFreqCellList */
+   stat = enc_NewIntraFreqCellSI_List_ECN0_LCR_r4(ctx, &pvalue->newIntraFreqCellList, cur);
+   RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-ECN0-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqCellInfoSI_List_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoSI_List_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqCellInfoSI_List_ECN0_LCR_r4, pvalue);
+}
+
+static int enc_IntraFreqMeasurementSysInfo_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasurementSysInfo_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->intraFreqMeasurementID != 1) << 5) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
+   /* intraFreqMeasurementID */
+   if (pvalue->intraFreqMeasurementID != 1) {
+      if ((uint64_t)(pvalue->intraFreqMeasurementID - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "MeasurementIdentity");
+         rtxErrAddUIntParm(ctx, pvalue->intraFreqMeasurementID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->intraFreqMeasurementID, 1, 16);
+      RT_CHECK_PUT(ctx, cur, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
+   }
+   /* intraFreqCellInfoSI-List */
+   if (pvalue->m & 0x1u) {
+      stat = enc_IntraFreqCellInfoSI_List_ECN0_LCR_r4(ctx, &pvalue->intraFreqCellInfoSI_List, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
+   }
+   /* intraFreqMeasQuantity */
+   if (pvalue->m & 0x2u) {
+      stat = enc_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
+   }
+   /* intraFreqReportingQuantityForRACH */
+   if (pvalue->m & 0x4u) {
+      stat = enc_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
+   }
+   /* maxReportedCellsOnRACH */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->maxReportedCellsOnRACH > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->maxReportedCellsOnRACH);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->maxReportedCellsOnRACH, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
+   }
+   /* reportingInfoForCellDCH */
+   if (pvalue->m & 0x10u) {
+      stat = enc_ReportingInfoForCellDCH_LCR_r4(ctx, &pvalue->reportingInfoForCellDCH, cur);
+      RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-ECN0-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqMeasurementSysInfo_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasurementSysInfo_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqMeasurementSysInfo_ECN0_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewInterFreqCellSI_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-ECN0-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellSI-ECN0-LCR-r4");
+   /* interFreqCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->interFreqCellID > 31u) {
+         rtxErrAddStrParm(ctx, "InterFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-ECN0-LCR-r4");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->interFreqCellID, 0, 31);
+      RT_CHECK_PUT(ctx, cur, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-ECN0-LCR-r4");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x2u) {
+      stat = enc_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-ECN0-LCR-r4");
+   }
+   /* cellInfo */
+   stat = enc_CellInfoSI_ECN0_LCR_r4(ctx, &pvalue->cellInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-ECN0-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCellSI_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewInterFreqCellSI_ECN0_LCR_r4, pvalue);
+}
+
+static int enc_NewInterFreqCellSI_List_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_List_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-List-ECN0-LCR-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellSI-List-ECN0-LCR-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "NewInterFreqCellSI-ECN0-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-ECN0-LCR-r4");
+      stat = enc_NewInterFreqCellSI_ECN0_LCR_r4(ctx, (const NewInterFreqCellSI_ECN0_LCR_r4*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-ECN0-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-ECN0-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCellSI_List_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_List_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewInterFreqCellSI_List_ECN0_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqCellInfoSI_List_ECN0_LCR(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoSI_List_ECN0_LCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellInfoSI-List-ECN0-LCR");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterFreqCellInfoSI-List-ECN0-LCR");
+   /* removedInterFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-ECN0-LCR");
+   }
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_NewInterFreqCellSI_List_ECN0_LCR_r4(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-ECN0-LCR");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqCellInfoSI_List_ECN0_LCR(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoSI_List_ECN0_LCR* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqCellInfoSI_List_ECN0_LCR, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqMeasurementSysInfo_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const InterFreqMeasurementSysInfo_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqMeasurementSysInfo-ECN0-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-ECN0-LCR-r4");
+   /* interFreqCellInfoSI-List */
+   if (pvalue->m & 0x1u) {
+      stat = enc_InterFreqCellInfoSI_List_ECN0_LCR(ctx, &pvalue->interFreqCellInfoSI_List, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-ECN0-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqMeasurementSysInfo_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const InterFreqMeasurementSysInfo_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqMeasurementSysInfo_ECN0_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* intraFreqMeasurementSysInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_IntraFreqMeasurementSysInfo_ECN0_LCR_r4(ctx, &pvalue->intraFreqMeasurementSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
+   }
+   /* interFreqMeasurementSysInfo */
+   if (pvalue->m & 0x2u) {
+      stat = enc_InterFreqMeasurementSysInfo_ECN0_LCR_r4(ctx, &pvalue->interFreqMeasurementSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.cpich_RSCP == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "cpich-RSCP", -1, 0);
+         stat = enc_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP, cur);
+         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "cpich-Ec-N0", -1, 0);
+         stat = enc_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0, cur);
+         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* cellSelectQualityMeasure */
+   stat = enc_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure, cur);
+   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used, pvalue);
+}
+
+static int enc_CellInfoSI_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellInfoSI-HCS-RSCP-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->cellIndividualOffset != 0) << 4) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CellInfoSI-HCS-RSCP-LCR-r4");
+   /* cellIndividualOffset */
+   if (pvalue->cellIndividualOffset != 0) {
+      if (pvalue->cellIndividualOffset < -20 || pvalue->cellIndividualOffset > 20) {
+         rtxErrAddStrParm(ctx, "CellIndividualOffset");
+         rtxErrAddIntParm(ctx, pvalue->cellIndividualOffset);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->cellIndividualOffset, -20, 20);
+      RT_CHECK_PUT(ctx, cur, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
+   }
+   /* referenceTimeDifferenceToCell */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell, cur);
+      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
+   }
+   /* primaryCCPCH-Info */
+   stat = enc_PrimaryCCPCH_Info_LCR_r4(ctx, &pvalue->primaryCCPCH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
+   /* primaryCCPCH-TX-Power */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+         rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->primaryCCPCH_TX_Power, 6, 43);
+      RT_CHECK_PUT(ctx, cur, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
+   }
+   /* timeslotInfoList */
+   if (pvalue->m & 0x4u) {
+      stat = enc_TimeslotInfoList_LCR_r4(ctx, &pvalue->timeslotInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
+   }
+   /* readSFN-Indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->readSFN_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "readSFN-Indicator", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
+   /* cellSelectionReselectionInfo */
+   if (pvalue->m & 0x8u) {
+      stat = enc_CellSelectReselectInfoSIB_11_12_HCS_RSCP(ctx, &pvalue->cellSelectionReselectionInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-HCS-RSCP-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellInfoSI_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellInfoSI_HCS_RSCP_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewIntraFreqCellSI_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-HCS-RSCP-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCellSI-HCS-RSCP-LCR-r4");
+   /* intraFreqCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->intraFreqCellID > 31u) {
+         rtxErrAddStrParm(ctx, "IntraFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->intraFreqCellID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-HCS-RSCP-LCR-r4");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->intraFreqCellID, 0, 31);
+      RT_CHECK_PUT(ctx, cur, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-HCS-RSCP-LCR-r4");
+   }
+   /* cellInfo */
+   stat = enc_CellInfoSI_HCS_RSCP_LCR_r4(ctx, &pvalue->cellInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-HCS-RSCP-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_NewIntraFreqCellSI_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewIntraFreqCellSI_HCS_RSCP_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-List-HCS-RSCP-LCR-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCellSI-List-HCS-RSCP-LCR-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "NewIntraFreqCellSI-HCS-RSCP-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-HCS-RSCP-LCR-r4");
+      stat = enc_NewIntraFreqCellSI_HCS_RSCP_LCR_r4(ctx, (const NewIntraFreqCellSI_HCS_RSCP_LCR_r4*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-HCS-RSCP-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-HCS-RSCP-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFreqCellInfoSI_List_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoSI_List_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqCellInfoSI-List-HCS-RSCP-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-HCS-RSCP-LCR-r4");
+   /* removedIntraFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-RSCP-LCR-r4");
+   }
+   /* newIntraFreqCellList */
+   stat = enc_NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4(ctx, &pvalue->newIntraFreqCellList, cur);
+   RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-RSCP-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqCellInfoSI_List_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoSI_List_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqCellInfoSI_List_HCS_RSCP_LCR_r4, pvalue);
+}
+
+static int enc_IntraFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasurementSysInfo_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->intraFreqMeasurementID != 1) << 5) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+   /* intraFreqMeasurementID */
+   if (pvalue->intraFreqMeasurementID != 1) {
+      if ((uint64_t)(pvalue->intraFreqMeasurementID - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "MeasurementIdentity");
+         rtxErrAddUIntParm(ctx, pvalue->intraFreqMeasurementID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->intraFreqMeasurementID, 1, 16);
+      RT_CHECK_PUT(ctx, cur, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+   }
+   /* intraFreqCellInfoSI-List */
+   if (pvalue->m & 0x1u) {
+      stat = enc_IntraFreqCellInfoSI_List_HCS_RSCP_LCR_r4(ctx, &pvalue->intraFreqCellInfoSI_List, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+   }
+   /* intraFreqMeasQuantity */
+   if (pvalue->m & 0x2u) {
+      stat = enc_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+   }
+   /* intraFreqReportingQuantityForRACH */
+   if (pvalue->m & 0x4u) {
+      stat = enc_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+   }
+   /* maxReportedCellsOnRACH */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->maxReportedCellsOnRACH > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->maxReportedCellsOnRACH);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->maxReportedCellsOnRACH, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+   }
+   /* reportingInfoForCellDCH */
+   if (pvalue->m & 0x10u) {
+      stat = enc_ReportingInfoForCellDCH_LCR_r4(ctx, &pvalue->reportingInfoForCellDCH, cur);
+      RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasurementSysInfo_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqMeasurementSysInfo_HCS_RSCP_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewInterFreqCellSI_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-HCS-RSCP-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellSI-HCS-RSCP-LCR-r4");
+   /* interFreqCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->interFreqCellID > 31u) {
+         rtxErrAddStrParm(ctx, "InterFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-HCS-RSCP-LCR-r4");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->interFreqCellID, 0, 31);
+      RT_CHECK_PUT(ctx, cur, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-HCS-RSCP-LCR-r4");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x2u) {
+      stat = enc_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-HCS-RSCP-LCR-r4");
+   }
+   /* cellInfo */
+   stat = enc_CellInfoSI_HCS_RSCP_LCR_r4(ctx, &pvalue->cellInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-HCS-RSCP-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCellSI_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewInterFreqCellSI_HCS_RSCP_LCR_r4, pvalue);
+}
+
+static int enc_NewInterFreqCellSI_List_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_List_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-List-HCS-RSCP-LCR-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellSI-List-HCS-RSCP-LCR-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "NewInterFreqCellSI-HCS-RSCP-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-HCS-RSCP-LCR-r4");
+      stat = enc_NewInterFreqCellSI_HCS_RSCP_LCR_r4(ctx, (const NewInterFreqCellSI_HCS_RSCP_LCR_r4*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-HCS-RSCP-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-HCS-RSCP-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCellSI_List_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_List_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewInterFreqCellSI_List_HCS_RSCP_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqCellInfoSI_List_HCS_RSCP_LCR(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoSI_List_HCS_RSCP_LCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellInfoSI-List-HCS-RSCP-LCR");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterFreqCellInfoSI-List-HCS-RSCP-LCR");
+   /* removedInterFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-RSCP-LCR");
+   }
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_NewInterFreqCellSI_List_HCS_RSCP_LCR_r4(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-RSCP-LCR");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqCellInfoSI_List_HCS_RSCP_LCR(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoSI_List_HCS_RSCP_LCR* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqCellInfoSI_List_HCS_RSCP_LCR, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const InterFreqMeasurementSysInfo_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+   /* interFreqCellInfoSI-List */
+   if (pvalue->m & 0x1u) {
+      stat = enc_InterFreqCellInfoSI_List_HCS_RSCP_LCR(ctx, &pvalue->interFreqCellInfoSI_List, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-HCS-RSCP-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(rtxContext* RT_RESTRICT ctx, const InterFreqMeasurementSysInfo_HCS_RSCP_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqMeasurementSysInfo_HCS_RSCP_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* intraFreqMeasurementSysInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_IntraFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(ctx, &pvalue->intraFreqMeasurementSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
+   }
+   /* interFreqMeasurementSysInfo */
+   if (pvalue->m & 0x2u) {
+      stat = enc_InterFreqMeasurementSysInfo_HCS_RSCP_LCR_r4(ctx, &pvalue->interFreqMeasurementSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP, pvalue);
+}
+
+static int enc_CellInfoSI_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellInfoSI-HCS-ECN0-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->cellIndividualOffset != 0) << 4) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CellInfoSI-HCS-ECN0-LCR-r4");
+   /* cellIndividualOffset */
+   if (pvalue->cellIndividualOffset != 0) {
+      if (pvalue->cellIndividualOffset < -20 || pvalue->cellIndividualOffset > 20) {
+         rtxErrAddStrParm(ctx, "CellIndividualOffset");
+         rtxErrAddIntParm(ctx, pvalue->cellIndividualOffset);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->cellIndividualOffset, -20, 20);
+      RT_CHECK_PUT(ctx, cur, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
+   }
+   /* referenceTimeDifferenceToCell */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell, cur);
+      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
+   }
+   /* primaryCCPCH-Info */
+   stat = enc_PrimaryCCPCH_Info_LCR_r4(ctx, &pvalue->primaryCCPCH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
+   /* primaryCCPCH-TX-Power */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+         rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->primaryCCPCH_TX_Power, 6, 43);
+      RT_CHECK_PUT(ctx, cur, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
+   }
+   /* timeslotInfoList */
+   if (pvalue->m & 0x4u) {
+      stat = enc_TimeslotInfoList_LCR_r4(ctx, &pvalue->timeslotInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
+   }
+   /* readSFN-Indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->readSFN_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "readSFN-Indicator", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
+   /* cellSelectionReselectionInfo */
+   if (pvalue->m & 0x8u) {
+      stat = enc_CellSelectReselectInfoSIB_11_12_HCS_ECN0(ctx, &pvalue->cellSelectionReselectionInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfoSI-HCS-ECN0-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellInfoSI_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const CellInfoSI_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellInfoSI_HCS_ECN0_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewIntraFreqCellSI_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-HCS-ECN0-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCellSI-HCS-ECN0-LCR-r4");
+   /* intraFreqCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->intraFreqCellID > 31u) {
+         rtxErrAddStrParm(ctx, "IntraFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->intraFreqCellID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-HCS-ECN0-LCR-r4");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->intraFreqCellID, 0, 31);
+      RT_CHECK_PUT(ctx, cur, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCellSI-HCS-ECN0-LCR-r4");
+   }
+   /* cellInfo */
+   stat = enc_CellInfoSI_HCS_ECN0_LCR_r4(ctx, &pvalue->cellInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellSI-HCS-ECN0-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_NewIntraFreqCellSI_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewIntraFreqCellSI_HCS_ECN0_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellSI-List-HCS-ECN0-LCR-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "NewIntraFreqCellSI-List-HCS-ECN0-LCR-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "NewIntraFreqCellSI-HCS-ECN0-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-HCS-ECN0-LCR-r4");
+      stat = enc_NewIntraFreqCellSI_HCS_ECN0_LCR_r4(ctx, (const NewIntraFreqCellSI_HCS_ECN0_LCR_r4*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellSI-HCS-ECN0-LCR-r4", (int32_t)i, "NewIntraFreqCellSI-List-HCS-ECN0-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFreqCellInfoSI_List_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoSI_List_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqCellInfoSI-List-HCS-ECN0-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqCellInfoSI-List-HCS-ECN0-LCR-r4");
+   /* removedIntraFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-ECN0-LCR-r4");
+   }
+   /* newIntraFreqCellList */
+   stat = enc_NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4(ctx, &pvalue->newIntraFreqCellList, cur);
+   RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoSI-List-HCS-ECN0-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqCellInfoSI_List_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoSI_List_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqCellInfoSI_List_HCS_ECN0_LCR_r4, pvalue);
+}
+
+static int enc_IntraFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasurementSysInfo_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->intraFreqMeasurementID != 1) << 5) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+   /* intraFreqMeasurementID */
+   if (pvalue->intraFreqMeasurementID != 1) {
+      if ((uint64_t)(pvalue->intraFreqMeasurementID - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "MeasurementIdentity");
+         rtxErrAddUIntParm(ctx, pvalue->intraFreqMeasurementID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->intraFreqMeasurementID, 1, 16);
+      RT_CHECK_PUT(ctx, cur, stat, "MeasurementIdentity", "intraFreqMeasurementID", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+   }
+   /* intraFreqCellInfoSI-List */
+   if (pvalue->m & 0x1u) {
+      stat = enc_IntraFreqCellInfoSI_List_HCS_ECN0_LCR_r4(ctx, &pvalue->intraFreqCellInfoSI_List, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoSI-List", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+   }
+   /* intraFreqMeasQuantity */
+   if (pvalue->m & 0x2u) {
+      stat = enc_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+   }
+   /* intraFreqReportingQuantityForRACH */
+   if (pvalue->m & 0x4u) {
+      stat = enc_IntraFreqReportingQuantityForRACH(ctx, &pvalue->intraFreqReportingQuantityForRACH, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantityForRACH", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+   }
+   /* maxReportedCellsOnRACH */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->maxReportedCellsOnRACH > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->maxReportedCellsOnRACH);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->maxReportedCellsOnRACH, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "MaxReportedCellsOnRACH", "maxReportedCellsOnRACH", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+   }
+   /* reportingInfoForCellDCH */
+   if (pvalue->m & 0x10u) {
+      stat = enc_ReportingInfoForCellDCH_LCR_r4(ctx, &pvalue->reportingInfoForCellDCH, cur);
+      RT_CHECK(ctx, stat, 0, "reportingInfoForCellDCH", -1, "IntraFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasurementSysInfo_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqMeasurementSysInfo_HCS_ECN0_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewInterFreqCellSI_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-HCS-ECN0-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellSI-HCS-ECN0-LCR-r4");
+   /* interFreqCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->interFreqCellID > 31u) {
+         rtxErrAddStrParm(ctx, "InterFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-HCS-ECN0-LCR-r4");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->interFreqCellID, 0, 31);
+      RT_CHECK_PUT(ctx, cur, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCellSI-HCS-ECN0-LCR-r4");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x2u) {
+      stat = enc_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCellSI-HCS-ECN0-LCR-r4");
+   }
+   /* cellInfo */
+   stat = enc_CellInfoSI_HCS_ECN0_LCR_r4(ctx, &pvalue->cellInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCellSI-HCS-ECN0-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCellSI_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewInterFreqCellSI_HCS_ECN0_LCR_r4, pvalue);
+}
+
+static int enc_NewInterFreqCellSI_List_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_List_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellSI-List-HCS-ECN0-LCR-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellSI-List-HCS-ECN0-LCR-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "NewInterFreqCellSI-HCS-ECN0-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-HCS-ECN0-LCR-r4");
+      stat = enc_NewInterFreqCellSI_HCS_ECN0_LCR_r4(ctx, (const NewInterFreqCellSI_HCS_ECN0_LCR_r4*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCellSI-HCS-ECN0-LCR-r4", (int32_t)i, "NewInterFreqCellSI-List-HCS-ECN0-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCellSI_List_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellSI_List_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewInterFreqCellSI_List_HCS_ECN0_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqCellInfoSI_List_HCS_ECN0_LCR(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoSI_List_HCS_ECN0_LCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellInfoSI-List-HCS-ECN0-LCR");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterFreqCellInfoSI-List-HCS-ECN0-LCR");
+   /* removedInterFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-ECN0-LCR");
+   }
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_NewInterFreqCellSI_List_HCS_ECN0_LCR_r4(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoSI-List-HCS-ECN0-LCR");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqCellInfoSI_List_HCS_ECN0_LCR(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoSI_List_HCS_ECN0_LCR* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqCellInfoSI_List_HCS_ECN0_LCR, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const InterFreqMeasurementSysInfo_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+   /* interFreqCellInfoSI-List */
+   if (pvalue->m & 0x1u) {
+      stat = enc_InterFreqCellInfoSI_List_HCS_ECN0_LCR(ctx, &pvalue->interFreqCellInfoSI_List, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqCellInfoSI-List", -1, "InterFreqMeasurementSysInfo-HCS-ECN0-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(rtxContext* RT_RESTRICT ctx, const InterFreqMeasurementSysInfo_HCS_ECN0_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqMeasurementSysInfo_HCS_ECN0_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* intraFreqMeasurementSysInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_IntraFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(ctx, &pvalue->intraFreqMeasurementSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqMeasurementSysInfo", -1, 0);
+   }
+   /* interFreqMeasurementSysInfo */
+   if (pvalue->m & 0x2u) {
+      stat = enc_InterFreqMeasurementSysInfo_HCS_ECN0_LCR_r4(ctx, &pvalue->interFreqMeasurementSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasurementSysInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.cpich_RSCP == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "cpich-RSCP", -1, 0);
+         stat = enc_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP, cur);
+         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "cpich-Ec-N0", -1, 0);
+         stat = enc_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0, cur);
+         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* cellSelectQualityMeasure */
+   stat = enc_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure, cur);
+   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used, pvalue);
+}
+
+static int enc_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.hcs_not_used == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "hcs-not-used", -1, 0);
+         stat = enc_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_not_used(ctx, pvalue->u.hcs_not_used, cur);
+         RT_CHECK(ctx, stat, 0, "hcs-not-used", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.hcs_used == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "hcs-used", -1, 0);
+         stat = enc_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS_hcs_used(ctx, pvalue->u.hcs_used, cur);
+         RT_CHECK(ctx, stat, 0, "hcs-used", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementControlSysInfo_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementControlSysInfo-LCR-r4-ext");
+   /* use-of-HCS */
+   stat = enc_MeasurementControlSysInfo_LCR_r4_ext_use_of_HCS(ctx, &pvalue->use_of_HCS, cur);
+   RT_CHECK(ctx, stat, 0, "use-of-HCS", -1, "MeasurementControlSysInfo-LCR-r4-ext");
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfo_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfo_LCR_r4_ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfo_LCR_r4_ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType11_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType11-v4b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType11-v4b0ext-IEs");
+   /* fach-MeasurementOccasionInfo-LCR-Ext */
+   if (pvalue->m & 0x1u) {
+      stat = enc_FACH_MeasurementOccasionInfo_LCR_r4_ext(ctx, &pvalue->fach_MeasurementOccasionInfo_LCR_Ext, cur);
+      RT_CHECK(ctx, stat, 0, "fach-MeasurementOccasionInfo-LCR-Ext", -1, "SysInfoType11-v4b0ext-IEs");
+   }
+   /* measurementControlSysInfo-LCR */
+   stat = enc_MeasurementControlSysInfo_LCR_r4_ext(ctx, &pvalue->measurementControlSysInfo_LCR, cur);
+   RT_CHECK(ctx, stat, 0, "measurementControlSysInfo-LCR", -1, "SysInfoType11-v4b0ext-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType11_v4b0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType11_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+      stat = enc_CellSelectReselectInfo_v590ext(ctx, (const CellSelectReselectInfo_v590ext*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType11_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType11_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v590ext_IEs_newInterFrequencyCellInfoList_v590ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+      stat = enc_CellSelectReselectInfo_v590ext(ctx, (const CellSelectReselectInfo_v590ext*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v590ext_IEs_newInterFrequencyCellInfoList_v590ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType11_v590ext_IEs_newInterFrequencyCellInfoList_v590ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType11_v590ext_IEs_newInterRATCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v590ext_IEs_newInterRATCellInfoList_v590ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+      stat = enc_CellSelectReselectInfo_v590ext(ctx, (const CellSelectReselectInfo_v590ext*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11_v590ext_IEs_newInterRATCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v590ext_IEs_newInterRATCellInfoList_v590ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType11_v590ext_IEs_newInterRATCellInfoList_v590ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_Intra_FreqEventCriteriaList_v590ext(rtxContext* RT_RESTRICT ctx, const Intra_FreqEventCriteriaList_v590ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Intra-FreqEventCriteriaList-v590ext");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "Intra-FreqEventCriteriaList-v590ext");
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] < -5 || pvalue->elem[i] > -1) {
+         rtxErrAddStrParm(ctx, "DeltaRSCP");
+         rtxErrAddIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DeltaRSCP", "DeltaRSCP", (int32_t)i, "Intra-FreqEventCriteriaList-v590ext");
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->elem[i], -5, -1);
+      RT_CHECK_PUT(ctx, cur, stat, "DeltaRSCP", "DeltaRSCP", (int32_t)i, "Intra-FreqEventCriteriaList-v590ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Intra_FreqEventCriteriaList_v590ext(rtxContext* RT_RESTRICT ctx, const Intra_FreqEventCriteriaList_v590ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Intra_FreqEventCriteriaList_v590ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_PeriodicReportingInfo_1b(rtxContext* RT_RESTRICT ctx, const PeriodicReportingInfo_1b* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PeriodicReportingInfo-1b");
+   /* reportingAmount */
+   if (pvalue->reportingAmount > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->reportingAmount);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ReportingAmount", "reportingAmount", -1, "PeriodicReportingInfo-1b");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->reportingAmount, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "ReportingAmount", "reportingAmount", -1, "PeriodicReportingInfo-1b");
+   /* reportingInterval */
+   if (pvalue->reportingInterval > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->reportingInterval);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ReportingInterval", "reportingInterval", -1, "PeriodicReportingInfo-1b");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->reportingInterval, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "ReportingInterval", "reportingInterval", -1, "PeriodicReportingInfo-1b");
+   return 0;
+}
+
+int asn1PE_UMTS_PeriodicReportingInfo_1b(rtxContext* RT_RESTRICT ctx, const PeriodicReportingInfo_1b* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PeriodicReportingInfo_1b, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFreqReportingCriteria_1b_r5(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingCriteria_1b_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqReportingCriteria-1b-r5");
+   /* periodicReportingInfo-1b */
+   stat = enc_PeriodicReportingInfo_1b(ctx, &pvalue->periodicReportingInfo_1b, cur);
+   RT_CHECK(ctx, stat, 0, "periodicReportingInfo-1b", -1, "IntraFreqReportingCriteria-1b-r5");
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqReportingCriteria_1b_r5(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingCriteria_1b_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqReportingCriteria_1b_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFreqEvent_1d_r5(rtxContext* RT_RESTRICT ctx, const IntraFreqEvent_1d_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEvent-1d-r5");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqEvent-1d-r5");
+   /* triggeringCondition */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->triggeringCondition > 4) {
+         rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TriggeringCondition2", "triggeringCondition", -1, "IntraFreqEvent-1d-r5");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->triggeringCondition, 0, 4);
+      RT_CHECK_PUT(ctx, cur, stat, "TriggeringCondition2", "triggeringCondition", -1, "IntraFreqEvent-1d-r5");
+   }
+   /* useCIO */
+   if (pvalue->m & 0x2u) {
+      stat = rtxEncBitAt(ctx, cur, pvalue->useCIO);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "useCIO", -1, "IntraFreqEvent-1d-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqEvent_1d_r5(rtxContext* RT_RESTRICT ctx, const IntraFreqEvent_1d_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqEvent_1d_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType11_v590ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v590ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType11-v590ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PollingInfo");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType11-v590ext-IEs");
+   /* newIntraFrequencyCellInfoList-v590ext */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SysInfoType11_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(ctx, &pvalue->newIntraFrequencyCellInfoList_v590ext, cur);
+      RT_CHECK(ctx, stat, 0, "newIntraFrequencyCellInfoList-v590ext", -1, "SysInfoType11-v590ext-IEs");
+   }
+   /* newInterFrequencyCellInfoList-v590ext */
+   if (pvalue->m & 0x2u) {
+      stat = enc_SysInfoType11_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(ctx, &pvalue->newInterFrequencyCellInfoList_v590ext, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFrequencyCellInfoList-v590ext", -1, "SysInfoType11-v590ext-IEs");
+   }
+   /* newInterRATCellInfoList-v590ext */
+   if (pvalue->m & 0x4u) {
+      stat = enc_SysInfoType11_v590ext_IEs_newInterRATCellInfoList_v590ext(ctx, &pvalue->newInterRATCellInfoList_v590ext, cur);
+      RT_CHECK(ctx, stat, 0, "newInterRATCellInfoList-v590ext", -1, "SysInfoType11-v590ext-IEs");
+   }
+   /* intraFreqEventCriteriaList-v590ext */
+   if (pvalue->m & 0x8u) {
+      stat = enc_Intra_FreqEventCriteriaList_v590ext(ctx, &pvalue->intraFreqEventCriteriaList_v590ext, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqEventCriteriaList-v590ext", -1, "SysInfoType11-v590ext-IEs");
+   }
+   /* intraFreqReportingCriteria-1b-r5 */
+   if (pvalue->m & 0x10u) {
+      stat = enc_IntraFreqReportingCriteria_1b_r5(ctx, &pvalue->intraFreqReportingCriteria_1b_r5, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria-1b-r5", -1, "SysInfoType11-v590ext-IEs");
+   }
+   /* intraFreqEvent-1d-r5 */
+   if (pvalue->m & 0x20u) {
+      stat = enc_IntraFreqEvent_1d_r5(ctx, &pvalue->intraFreqEvent_1d_r5, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqEvent-1d-r5", -1, "SysInfoType11-v590ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11_v590ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType11_v590ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqRepQuantityRACH_FDD(rtxContext* RT_RESTRICT ctx, InterFreqRepQuantityRACH_FDD value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "InterFreqRepQuantityRACH-FDD");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterFreqRepQuantityRACH-FDD");
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqRepQuantityRACH_FDD(rtxContext* RT_RESTRICT ctx, InterFreqRepQuantityRACH_FDD value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqRepQuantityRACH_FDD, value);
+}
+
+RT_MERGED_BODY int enc_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* interFreqRepQuantityRACH-FDD */
+   if (pvalue->interFreqRepQuantityRACH_FDD > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->interFreqRepQuantityRACH_FDD);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "InterFreqRepQuantityRACH-FDD", "interFreqRepQuantityRACH-FDD", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->interFreqRepQuantityRACH_FDD, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "InterFreqRepQuantityRACH-FDD", "interFreqRepQuantityRACH-FDD", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqRepQuantityRACH_TDD(rtxContext* RT_RESTRICT ctx, InterFreqRepQuantityRACH_TDD value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "InterFreqRepQuantityRACH-TDD");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterFreqRepQuantityRACH-TDD");
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqRepQuantityRACH_TDD(rtxContext* RT_RESTRICT ctx, InterFreqRepQuantityRACH_TDD value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqRepQuantityRACH_TDD, value);
+}
+
+RT_MERGED_BODY int enc_InterFreqRepQuantityRACH_TDDList(rtxContext* RT_RESTRICT ctx, const InterFreqRepQuantityRACH_TDDList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqRepQuantityRACH-TDDList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 2);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "InterFreqRepQuantityRACH-TDDList");
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "InterFreqRepQuantityRACH-TDD", "InterFreqRepQuantityRACH-TDD", (int32_t)i, "InterFreqRepQuantityRACH-TDDList");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 1);
+      RT_CHECK_PUT(ctx, cur, stat, "InterFreqRepQuantityRACH-TDD", "InterFreqRepQuantityRACH-TDD", (int32_t)i, "InterFreqRepQuantityRACH-TDDList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqRepQuantityRACH_TDDList(rtxContext* RT_RESTRICT ctx, const InterFreqRepQuantityRACH_TDDList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqRepQuantityRACH_TDDList, pvalue);
+}
+
+RT_MERGED_BODY int enc_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* interFreqRepQuantityRACH-TDDList */
+   stat = enc_InterFreqRepQuantityRACH_TDDList(ctx, &pvalue->interFreqRepQuantityRACH_TDDList, cur);
+   RT_CHECK(ctx, stat, 0, "interFreqRepQuantityRACH-TDDList", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_Threshold(rtxContext* RT_RESTRICT ctx, Threshold value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value < -115 || value > 0) {
+      rtxErrAddStrParm(ctx, "Threshold");
+      rtxErrAddIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "Threshold");
+   }
+   stat = pe_ConsInt64At(ctx, cur, value, -115, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Threshold");
+   return 0;
+}
+
+int asn1PE_UMTS_Threshold(rtxContext* RT_RESTRICT ctx, Threshold value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Threshold, value);
+}
+
+RT_MERGED_BODY int enc_MaxReportedCellsOnRACHinterFreq(rtxContext* RT_RESTRICT ctx, MaxReportedCellsOnRACHinterFreq value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "MaxReportedCellsOnRACHinterFreq");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "MaxReportedCellsOnRACHinterFreq");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaxReportedCellsOnRACHinterFreq");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxReportedCellsOnRACHinterFreq(rtxContext* RT_RESTRICT ctx, MaxReportedCellsOnRACHinterFreq value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MaxReportedCellsOnRACHinterFreq, value);
+}
+
+RT_MERGED_BODY int enc_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const Dummy_InterFreqRACHReportingInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 3) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.interFreqRACHReportingThreshold < -115 || pvalue->u.interFreqRACHReportingThreshold > 0) {
+            rtxErrAddStrParm(ctx, "Threshold");
+            rtxErrAddIntParm(ctx, pvalue->u.interFreqRACHReportingThreshold);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Threshold", "interFreqRACHReportingThreshold", -1, 0);
+         }
+         stat = pe_ConsInt64At(ctx, cur, pvalue->u.interFreqRACHReportingThreshold, -115, 0);
+         RT_CHECK_PUT(ctx, cur, stat, "Threshold", "interFreqRACHReportingThreshold", -1, 0);
+         break;
+      case 4:
+         if ((uint64_t)(pvalue->u.maxReportedCellsOnRACHinterFreq - 1) > 7u) {
+            rtxErrAddStrParm(ctx, "MaxReportedCellsOnRACHinterFreq");
+            rtxErrAddUIntParm(ctx, pvalue->u.maxReportedCellsOnRACHinterFreq);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MaxReportedCellsOnRACHinterFreq", "maxReportedCellsOnRACHinterFreq", -1, 0);
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.maxReportedCellsOnRACHinterFreq, 1, 8);
+         RT_CHECK_PUT(ctx, cur, stat, "MaxReportedCellsOnRACHinterFreq", "maxReportedCellsOnRACHinterFreq", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const Dummy_InterFreqRACHReportingInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_Dummy_InterFreqRACHReportingInfo(rtxContext* RT_RESTRICT ctx, const Dummy_InterFreqRACHReportingInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Dummy-InterFreqRACHReportingInfo");
+   /* modeSpecificInfo */
+   stat = enc_Dummy_InterFreqRACHReportingInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "Dummy-InterFreqRACHReportingInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_Dummy_InterFreqRACHReportingInfo(rtxContext* RT_RESTRICT ctx, const Dummy_InterFreqRACHReportingInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Dummy_InterFreqRACHReportingInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType11_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v690ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType11-v690ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType11-v690ext-IEs");
+   /* dummy */
+   if (pvalue->m & 0x1u) {
+      stat = enc_Dummy_InterFreqRACHReportingInfo(ctx, &pvalue->dummy, cur);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "SysInfoType11-v690ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType11_v690ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const InterFreqRACHReportingInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* interFreqRepQuantityRACH-FDD */
+   if (pvalue->interFreqRepQuantityRACH_FDD > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->interFreqRepQuantityRACH_FDD);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "InterFreqRepQuantityRACH-FDD", "interFreqRepQuantityRACH-FDD", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->interFreqRepQuantityRACH_FDD, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "InterFreqRepQuantityRACH-FDD", "interFreqRepQuantityRACH-FDD", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const InterFreqRACHReportingInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqRACHReportingInfo_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const InterFreqRACHReportingInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* interFreqRepQuantityRACH-TDDList */
+   stat = enc_InterFreqRepQuantityRACH_TDDList(ctx, &pvalue->interFreqRepQuantityRACH_TDDList, cur);
+   RT_CHECK(ctx, stat, 0, "interFreqRepQuantityRACH-TDDList", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const InterFreqRACHReportingInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqRACHReportingInfo_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqRACHReportingInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const InterFreqRACHReportingInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_InterFreqRACHReportingInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_InterFreqRACHReportingInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqRACHReportingInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const InterFreqRACHReportingInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqRACHReportingInfo_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqRACHReportingInfo(rtxContext* RT_RESTRICT ctx, const InterFreqRACHReportingInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqRACHReportingInfo");
+   /* modeSpecificInfo */
+   stat = enc_InterFreqRACHReportingInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "InterFreqRACHReportingInfo");
+   /* interFreqRACHReportingThreshold */
+   if (pvalue->interFreqRACHReportingThreshold < -115 || pvalue->interFreqRACHReportingThreshold > 0) {
+      rtxErrAddStrParm(ctx, "Threshold");
+      rtxErrAddIntParm(ctx, pvalue->interFreqRACHReportingThreshold);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Threshold", "interFreqRACHReportingThreshold", -1, "InterFreqRACHReportingInfo");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->interFreqRACHReportingThreshold, -115, 0);
+   RT_CHECK_PUT(ctx, cur, stat, "Threshold", "interFreqRACHReportingThreshold", -1, "InterFreqRACHReportingInfo");
+   /* maxReportedCellsOnRACHinterFreq */
+   if ((uint64_t)(pvalue->maxReportedCellsOnRACHinterFreq - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "MaxReportedCellsOnRACHinterFreq");
+      rtxErrAddUIntParm(ctx, pvalue->maxReportedCellsOnRACHinterFreq);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MaxReportedCellsOnRACHinterFreq", "maxReportedCellsOnRACHinterFreq", -1, "InterFreqRACHReportingInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxReportedCellsOnRACHinterFreq, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxReportedCellsOnRACHinterFreq", "maxReportedCellsOnRACHinterFreq", -1, "InterFreqRACHReportingInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqRACHReportingInfo(rtxContext* RT_RESTRICT ctx, const InterFreqRACHReportingInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqRACHReportingInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType11_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v6b0ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType11-v6b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType11-v6b0ext-IEs");
+   /* interFreqRACHReportingInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_InterFreqRACHReportingInfo(ctx, &pvalue->interFreqRACHReportingInfo, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqRACHReportingInfo", -1, "SysInfoType11-v6b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v6b0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType11_v6b0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_MBSFNFrequency(rtxContext* RT_RESTRICT ctx, const MBSFNFrequency* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MBSFNFrequency");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MBSFNFrequency");
+   /* frequencyInfo */
+   stat = enc_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "MBSFNFrequency");
+   /* cellParametersID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->cellParametersID > 127u) {
+         rtxErrAddStrParm(ctx, "CellParametersID");
+         rtxErrAddUIntParm(ctx, pvalue->cellParametersID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellParametersID", "cellParametersID", -1, "MBSFNFrequency");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->cellParametersID, 0, 127);
+      RT_CHECK_PUT(ctx, cur, stat, "CellParametersID", "cellParametersID", -1, "MBSFNFrequency");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBSFNFrequency(rtxContext* RT_RESTRICT ctx, const MBSFNFrequency* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MBSFNFrequency, pvalue);
+}
+
+RT_MERGED_BODY int enc_MBSFNFrequencyList(rtxContext* RT_RESTRICT ctx, const MBSFNFrequencyList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MBSFNFrequencyList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 0, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "MBSFNFrequencyList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "MBSFNFrequency", (int32_t)i, "MBSFNFrequencyList");
+      stat = enc_MBSFNFrequency(ctx, (const MBSFNFrequency*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "MBSFNFrequency", (int32_t)i, "MBSFNFrequencyList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBSFNFrequencyList(rtxContext* RT_RESTRICT ctx, const MBSFNFrequencyList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MBSFNFrequencyList, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType11_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v770ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType11-v770ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType11-v770ext-IEs");
+   /* mbsfnFrequencyList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_MBSFNFrequencyList(ctx, &pvalue->mbsfnFrequencyList, cur);
+      RT_CHECK(ctx, stat, 0, "mbsfnFrequencyList", -1, "SysInfoType11-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType11_v770ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewInterFreqCell_v7b0ext(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_v7b0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCell-v7b0ext");
+   /* intraSecondaryFreqIndicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->intraSecondaryFreqIndicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "intraSecondaryFreqIndicator", -1, "NewInterFreqCell-v7b0ext");
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCell_v7b0ext(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_v7b0ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewInterFreqCell_v7b0ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewInterFreqCellList_v7b0ext(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellList_v7b0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellList-v7b0ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellList-v7b0ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "NewInterFreqCell-v7b0ext", (int32_t)i, "NewInterFreqCellList-v7b0ext");
+      stat = enc_NewInterFreqCell_v7b0ext(ctx, (const NewInterFreqCell_v7b0ext*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCell-v7b0ext", (int32_t)i, "NewInterFreqCellList-v7b0ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCellList_v7b0ext(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellList_v7b0ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewInterFreqCellList_v7b0ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType11_v7b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v7b0ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType11-v7b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType11-v7b0ext-IEs");
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_NewInterFreqCellList_v7b0ext(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "SysInfoType11-v7b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11_v7b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v7b0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType11_v7b0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_MBSFNFrequency_v860ext_imb_Indication(rtxContext* RT_RESTRICT ctx, MBSFNFrequency_v860ext_imb_Indication value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MBSFNFrequency_v860ext_imb_Indication(rtxContext* RT_RESTRICT ctx, MBSFNFrequency_v860ext_imb_Indication value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MBSFNFrequency_v860ext_imb_Indication, value);
+}
+
+RT_MERGED_BODY int enc_MBSFNFrequency_v860ext(rtxContext* RT_RESTRICT ctx, const MBSFNFrequency_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MBSFNFrequency-v860ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MBSFNFrequency-v860ext");
+   /* imb-Indication */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->imb_Indication > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->imb_Indication);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "imb-Indication", -1, "MBSFNFrequency-v860ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->imb_Indication, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "imb-Indication", -1, "MBSFNFrequency-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBSFNFrequency_v860ext(rtxContext* RT_RESTRICT ctx, const MBSFNFrequency_v860ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MBSFNFrequency_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_MBSFNFrequencyList_v860ext(rtxContext* RT_RESTRICT ctx, const MBSFNFrequencyList_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MBSFNFrequencyList-v860ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 0, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "MBSFNFrequencyList-v860ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "MBSFNFrequency-v860ext", (int32_t)i, "MBSFNFrequencyList-v860ext");
+      stat = enc_MBSFNFrequency_v860ext(ctx, (const MBSFNFrequency_v860ext*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "MBSFNFrequency-v860ext", (int32_t)i, "MBSFNFrequencyList-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MBSFNFrequencyList_v860ext(rtxContext* RT_RESTRICT ctx, const MBSFNFrequencyList_v860ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MBSFNFrequencyList_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType11_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v860ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType11-v860ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType11-v860ext-IEs");
+   /* mbsfnFrequencyList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_MBSFNFrequencyList_v860ext(ctx, &pvalue->mbsfnFrequencyList, cur);
+      RT_CHECK(ctx, stat, 0, "mbsfnFrequencyList", -1, "SysInfoType11-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType11_v860ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType11-v860ext */
+   stat = enc_SysInfoType11_v860ext_IEs(ctx, &pvalue->sysInfoType11_v860ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType11-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType11-v7b0ext */
+   stat = enc_SysInfoType11_v7b0ext_IEs(ctx, &pvalue->sysInfoType11_v7b0ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType11-v7b0ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType11-v770ext */
+   stat = enc_SysInfoType11_v770ext_IEs(ctx, &pvalue->sysInfoType11_v770ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType11-v770ext", -1, 0);
+   /* v7b0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v7b0NonCriticalExtensions(ctx, &pvalue->v7b0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v7b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions, pvalue);
+}
+
+static int enc_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType11-v6b0ext */
+   stat = enc_SysInfoType11_v6b0ext_IEs(ctx, &pvalue->sysInfoType11_v6b0ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType11-v6b0ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType11-v690ext */
+   stat = enc_SysInfoType11_v690ext_IEs(ctx, &pvalue->sysInfoType11_v690ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType11-v690ext", -1, 0);
+   /* v6b0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions, pvalue);
+}
+
+static int enc_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType11-v590ext */
+   stat = enc_SysInfoType11_v590ext_IEs(ctx, &pvalue->sysInfoType11_v590ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType11-v590ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType11_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType11-v4b0ext */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SysInfoType11_v4b0ext_IEs(ctx, &pvalue->sysInfoType11_v4b0ext, cur);
+      RT_CHECK(ctx, stat, 0, "sysInfoType11-v4b0ext", -1, 0);
+   }
+   /* v590NonCriticalExtension */
+   if (pvalue->m & 0x2u) {
+      stat = enc_SysInfoType11_v4b0NonCriticalExtensions_v590NonCriticalExtension(ctx, &pvalue->v590NonCriticalExtension, cur);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtension", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType11_v4b0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType11(rtxContext* RT_RESTRICT ctx, const SysInfoType11* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType11");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType11");
+   /* sib12indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->sib12indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sib12indicator", -1, "SysInfoType11");
+   /* fach-MeasurementOccasionInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_FACH_MeasurementOccasionInfo(ctx, &pvalue->fach_MeasurementOccasionInfo, cur);
+      RT_CHECK(ctx, stat, 0, "fach-MeasurementOccasionInfo", -1, "SysInfoType11");
+   }
+   /* measurementControlSysInfo */
+   stat = enc_MeasurementControlSysInfo(ctx, &pvalue->measurementControlSysInfo, cur);
+   RT_CHECK(ctx, stat, 0, "measurementControlSysInfo", -1, "SysInfoType11");
+   /* v4b0NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = enc_SysInfoType11_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType11");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11(rtxContext* RT_RESTRICT ctx, const SysInfoType11* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType11, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* newIntraFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_NewIntraFreqCellSI_List_RSCP(ctx, &pvalue->newIntraFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
+   }
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_NewInterFreqCellSI_List_RSCP(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* newIntraFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_NewIntraFreqCellSI_List_ECN0(ctx, &pvalue->newIntraFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
+   }
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_NewInterFreqCellSI_List_ECN0(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.cpich_RSCP == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "cpich-RSCP", -1, 0);
+         stat = enc_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP, cur);
+         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "cpich-Ec-N0", -1, 0);
+         stat = enc_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0, cur);
+         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellSelectQualityMeasure */
+   stat = enc_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure, cur);
+   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
+   /* newInterRATCellList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_NewInterRATCellList(ctx, &pvalue->newInterRATCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* newIntraFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_NewIntraFreqCellSI_List_HCS_RSCP(ctx, &pvalue->newIntraFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
+   }
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_NewInterFreqCellSI_List_HCS_RSCP(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* newIntraFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_NewIntraFreqCellSI_List_HCS_ECN0(ctx, &pvalue->newIntraFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
+   }
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_NewInterFreqCellSI_List_HCS_ECN0(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.cpich_RSCP == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "cpich-RSCP", -1, 0);
+         stat = enc_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP, cur);
+         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "cpich-Ec-N0", -1, 0);
+         stat = enc_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0, cur);
+         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_used* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellSelectQualityMeasure */
+   stat = enc_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure, cur);
+   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
+   /* newInterRATCellList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_NewInterRATCellList(ctx, &pvalue->newInterRATCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS_hcs_used* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used, pvalue);
+}
+
+static int enc_MeasurementControlSysInfoExtension_use_of_HCS(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.hcs_not_used == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "hcs-not-used", -1, 0);
+         stat = enc_MeasurementControlSysInfoExtension_use_of_HCS_hcs_not_used(ctx, pvalue->u.hcs_not_used, cur);
+         RT_CHECK(ctx, stat, 0, "hcs-not-used", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.hcs_used == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "hcs-used", -1, 0);
+         stat = enc_MeasurementControlSysInfoExtension_use_of_HCS_hcs_used(ctx, pvalue->u.hcs_used, cur);
+         RT_CHECK(ctx, stat, 0, "hcs-used", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtension_use_of_HCS(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_use_of_HCS* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfoExtension_use_of_HCS, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtension(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementControlSysInfoExtension");
+   /* use-of-HCS */
+   stat = enc_MeasurementControlSysInfoExtension_use_of_HCS(ctx, &pvalue->use_of_HCS, cur);
+   RT_CHECK(ctx, stat, 0, "use-of-HCS", -1, "MeasurementControlSysInfoExtension");
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtension(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfoExtension, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* newIntraFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_NewIntraFreqCellSI_List_RSCP_LCR_r4(ctx, &pvalue->newIntraFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
+   }
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_NewInterFreqCellSI_List_RSCP_LCR_r4(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* newIntraFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_NewIntraFreqCellSI_List_ECN0_LCR_r4(ctx, &pvalue->newIntraFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
+   }
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_NewInterFreqCellSI_List_ECN0_LCR_r4(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.cpich_RSCP == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "cpich-RSCP", -1, 0);
+         stat = enc_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP, cur);
+         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "cpich-Ec-N0", -1, 0);
+         stat = enc_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0, cur);
+         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellSelectQualityMeasure */
+   stat = enc_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure, cur);
+   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
+   /* newInterRATCellList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_NewInterRATCellList(ctx, &pvalue->newInterRATCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* newIntraFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_NewIntraFreqCellSI_List_HCS_RSCP_LCR_r4(ctx, &pvalue->newIntraFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
+   }
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_NewInterFreqCellSI_List_HCS_RSCP_LCR_r4(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* newIntraFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_NewIntraFreqCellSI_List_HCS_ECN0_LCR_r4(ctx, &pvalue->newIntraFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, 0);
+   }
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_NewInterFreqCellSI_List_HCS_ECN0_LCR_r4(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.cpich_RSCP == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "cpich-RSCP", -1, 0);
+         stat = enc_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_RSCP(ctx, pvalue->u.cpich_RSCP, cur);
+         RT_CHECK(ctx, stat, 0, "cpich-RSCP", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.cpich_Ec_N0 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "cpich-Ec-N0", -1, 0);
+         stat = enc_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure_cpich_Ec_N0(ctx, pvalue->u.cpich_Ec_N0, cur);
+         RT_CHECK(ctx, stat, 0, "cpich-Ec-N0", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellSelectQualityMeasure */
+   stat = enc_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used_cellSelectQualityMeasure(ctx, &pvalue->cellSelectQualityMeasure, cur);
+   RT_CHECK(ctx, stat, 0, "cellSelectQualityMeasure", -1, 0);
+   /* newInterRATCellList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_NewInterRATCellList(ctx, &pvalue->newInterRATCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used, pvalue);
+}
+
+static int enc_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.hcs_not_used == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "hcs-not-used", -1, 0);
+         stat = enc_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_not_used(ctx, pvalue->u.hcs_not_used, cur);
+         RT_CHECK(ctx, stat, 0, "hcs-not-used", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.hcs_used == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "hcs-used", -1, 0);
+         stat = enc_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS_hcs_used(ctx, pvalue->u.hcs_used, cur);
+         RT_CHECK(ctx, stat, 0, "hcs-used", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtension_LCR_r4(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementControlSysInfoExtension-LCR-r4");
+   /* use-of-HCS */
+   stat = enc_MeasurementControlSysInfoExtension_LCR_r4_use_of_HCS(ctx, &pvalue->use_of_HCS, cur);
+   RT_CHECK(ctx, stat, 0, "use-of-HCS", -1, "MeasurementControlSysInfoExtension-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtension_LCR_r4(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtension_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfoExtension_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtensionAddon_r5_newIntraFrequencyCellInfoListAddon_r5(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtensionAddon_r5_newIntraFrequencyCellInfoListAddon_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+      stat = enc_CellSelectReselectInfo_v590ext(ctx, (const CellSelectReselectInfo_v590ext*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newIntraFrequencyCellInfoListAddon_r5(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtensionAddon_r5_newIntraFrequencyCellInfoListAddon_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfoExtensionAddon_r5_newIntraFrequencyCellInfoListAddon_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtensionAddon_r5_newInterFrequencyCellInfoListAddon_r5(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtensionAddon_r5_newInterFrequencyCellInfoListAddon_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+      stat = enc_CellSelectReselectInfo_v590ext(ctx, (const CellSelectReselectInfo_v590ext*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newInterFrequencyCellInfoListAddon_r5(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtensionAddon_r5_newInterFrequencyCellInfoListAddon_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfoExtensionAddon_r5_newInterFrequencyCellInfoListAddon_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtensionAddon_r5_newInterRATCellInfoListAddon_r5(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtensionAddon_r5_newInterRATCellInfoListAddon_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+      stat = enc_CellSelectReselectInfo_v590ext(ctx, (const CellSelectReselectInfo_v590ext*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtensionAddon_r5_newInterRATCellInfoListAddon_r5(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtensionAddon_r5_newInterRATCellInfoListAddon_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfoExtensionAddon_r5_newInterRATCellInfoListAddon_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementControlSysInfoExtensionAddon_r5(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtensionAddon_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementControlSysInfoExtensionAddon-r5");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MeasurementControlSysInfoExtensionAddon-r5");
+   /* newIntraFrequencyCellInfoListAddon-r5 */
+   if (pvalue->m & 0x1u) {
+      stat = enc_MeasurementControlSysInfoExtensionAddon_r5_newIntraFrequencyCellInfoListAddon_r5(ctx, &pvalue->newIntraFrequencyCellInfoListAddon_r5, cur);
+      RT_CHECK(ctx, stat, 0, "newIntraFrequencyCellInfoListAddon-r5", -1, "MeasurementControlSysInfoExtensionAddon-r5");
+   }
+   /* newInterFrequencyCellInfoListAddon-r5 */
+   if (pvalue->m & 0x2u) {
+      stat = enc_MeasurementControlSysInfoExtensionAddon_r5_newInterFrequencyCellInfoListAddon_r5(ctx, &pvalue->newInterFrequencyCellInfoListAddon_r5, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFrequencyCellInfoListAddon-r5", -1, "MeasurementControlSysInfoExtensionAddon-r5");
+   }
+   /* newInterRATCellInfoListAddon-r5 */
+   if (pvalue->m & 0x4u) {
+      stat = enc_MeasurementControlSysInfoExtensionAddon_r5_newInterRATCellInfoListAddon_r5(ctx, &pvalue->newInterRATCellInfoListAddon_r5, cur);
+      RT_CHECK(ctx, stat, 0, "newInterRATCellInfoListAddon-r5", -1, "MeasurementControlSysInfoExtensionAddon-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementControlSysInfoExtensionAddon_r5(rtxContext* RT_RESTRICT ctx, const MeasurementControlSysInfoExtensionAddon_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementControlSysInfoExtensionAddon_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType11bis_v7b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11bis_v7b0ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType11bis-v7b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType11bis-v7b0ext-IEs");
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_NewInterFreqCellList_v7b0ext(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "SysInfoType11bis-v7b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11bis_v7b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11bis_v7b0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType11bis_v7b0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_CSG_DedicatedFrequencyInfoList(rtxContext* RT_RESTRICT ctx, const CSG_DedicatedFrequencyInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CSG-DedicatedFrequencyInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "CSG-DedicatedFrequencyInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "FrequencyInfo", (int32_t)i, "CSG-DedicatedFrequencyInfoList");
+      stat = enc_FrequencyInfo(ctx, (const FrequencyInfo*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "FrequencyInfo", (int32_t)i, "CSG-DedicatedFrequencyInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CSG_DedicatedFrequencyInfoList(rtxContext* RT_RESTRICT ctx, const CSG_DedicatedFrequencyInfoList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CSG_DedicatedFrequencyInfoList, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType11bis_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11bis_v860ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType11bis-v860ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType11bis-v860ext-IEs");
+   /* csg-PSCSplitInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_CSG_PSCSplitInfo(ctx, &pvalue->csg_PSCSplitInfo, cur);
+      RT_CHECK(ctx, stat, 0, "csg-PSCSplitInfo", -1, "SysInfoType11bis-v860ext-IEs");
+   }
+   /* csg-DedicatedFrequencyInfoList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_CSG_DedicatedFrequencyInfoList(ctx, &pvalue->csg_DedicatedFrequencyInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "csg-DedicatedFrequencyInfoList", -1, "SysInfoType11bis-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11bis_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType11bis_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType11bis_v860ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType11bis-v860ext */
+   stat = enc_SysInfoType11bis_v860ext_IEs(ctx, &pvalue->sysInfoType11bis_v860ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType11bis-v860ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType11bis_v7b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11bis_v7b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType11bis-v7b0ext */
+   stat = enc_SysInfoType11bis_v7b0ext_IEs(ctx, &pvalue->sysInfoType11bis_v7b0ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType11bis-v7b0ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SysInfoType11bis_v7b0NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11bis_v7b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType11bis_v7b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType11bis_v7b0NonCriticalExtensions, pvalue);
+}
+
+static int enc_SysInfoType11bis(rtxContext* RT_RESTRICT ctx, const SysInfoType11bis* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType11bis");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType11bis");
+   /* measurementControlSysInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_MeasurementControlSysInfoExtension(ctx, &pvalue->measurementControlSysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "measurementControlSysInfo", -1, "SysInfoType11bis");
+   }
+   /* measurementControlSysInfo-LCR */
+   if (pvalue->m & 0x2u) {
+      stat = enc_MeasurementControlSysInfoExtension_LCR_r4(ctx, &pvalue->measurementControlSysInfo_LCR, cur);
+      RT_CHECK(ctx, stat, 0, "measurementControlSysInfo-LCR", -1, "SysInfoType11bis");
+   }
+   /* measurementControlSysInfoExtensionAddon-r5 */
+   if (pvalue->m & 0x4u) {
+      stat = enc_MeasurementControlSysInfoExtensionAddon_r5(ctx, &pvalue->measurementControlSysInfoExtensionAddon_r5, cur);
+      RT_CHECK(ctx, stat, 0, "measurementControlSysInfoExtensionAddon-r5", -1, "SysInfoType11bis");
+   }
+   /* v7b0NonCriticalExtensions */
+   if (pvalue->m & 0x8u) {
+      stat = enc_SysInfoType11bis_v7b0NonCriticalExtensions(ctx, &pvalue->v7b0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v7b0NonCriticalExtensions", -1, "SysInfoType11bis");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType11bis(rtxContext* RT_RESTRICT ctx, const SysInfoType11bis* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType11bis, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType12_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v4b0ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType12-v4b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType12-v4b0ext-IEs");
+   /* fach-MeasurementOccasionInfo-LCR-Ext */
+   if (pvalue->m & 0x1u) {
+      stat = enc_FACH_MeasurementOccasionInfo_LCR_r4_ext(ctx, &pvalue->fach_MeasurementOccasionInfo_LCR_Ext, cur);
+      RT_CHECK(ctx, stat, 0, "fach-MeasurementOccasionInfo-LCR-Ext", -1, "SysInfoType12-v4b0ext-IEs");
+   }
+   /* measurementControlSysInfo-LCR */
+   stat = enc_MeasurementControlSysInfo_LCR_r4_ext(ctx, &pvalue->measurementControlSysInfo_LCR, cur);
+   RT_CHECK(ctx, stat, 0, "measurementControlSysInfo-LCR", -1, "SysInfoType12-v4b0ext-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType12_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v4b0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType12_v4b0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType12_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+      stat = enc_CellSelectReselectInfo_v590ext(ctx, (const CellSelectReselectInfo_v590ext*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType12_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType12_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType12_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v590ext_IEs_newInterFrequencyCellInfoList_v590ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+      stat = enc_CellSelectReselectInfo_v590ext(ctx, (const CellSelectReselectInfo_v590ext*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType12_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v590ext_IEs_newInterFrequencyCellInfoList_v590ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType12_v590ext_IEs_newInterFrequencyCellInfoList_v590ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType12_v590ext_IEs_newInterRATCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v590ext_IEs_newInterRATCellInfoList_v590ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+      stat = enc_CellSelectReselectInfo_v590ext(ctx, (const CellSelectReselectInfo_v590ext*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "CellSelectReselectInfo-v590ext", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType12_v590ext_IEs_newInterRATCellInfoList_v590ext(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v590ext_IEs_newInterRATCellInfoList_v590ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType12_v590ext_IEs_newInterRATCellInfoList_v590ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType12_v590ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v590ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType12-v590ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType12-v590ext-IEs");
+   /* newIntraFrequencyCellInfoList-v590ext */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SysInfoType12_v590ext_IEs_newIntraFrequencyCellInfoList_v590ext(ctx, &pvalue->newIntraFrequencyCellInfoList_v590ext, cur);
+      RT_CHECK(ctx, stat, 0, "newIntraFrequencyCellInfoList-v590ext", -1, "SysInfoType12-v590ext-IEs");
+   }
+   /* newInterFrequencyCellInfoList-v590ext */
+   if (pvalue->m & 0x2u) {
+      stat = enc_SysInfoType12_v590ext_IEs_newInterFrequencyCellInfoList_v590ext(ctx, &pvalue->newInterFrequencyCellInfoList_v590ext, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFrequencyCellInfoList-v590ext", -1, "SysInfoType12-v590ext-IEs");
+   }
+   /* newInterRATCellInfoList-v590ext */
+   if (pvalue->m & 0x4u) {
+      stat = enc_SysInfoType12_v590ext_IEs_newInterRATCellInfoList_v590ext(ctx, &pvalue->newInterRATCellInfoList_v590ext, cur);
+      RT_CHECK(ctx, stat, 0, "newInterRATCellInfoList-v590ext", -1, "SysInfoType12-v590ext-IEs");
+   }
+   /* intraFreqEventCriteriaList-v590ext */
+   if (pvalue->m & 0x8u) {
+      stat = enc_Intra_FreqEventCriteriaList_v590ext(ctx, &pvalue->intraFreqEventCriteriaList_v590ext, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqEventCriteriaList-v590ext", -1, "SysInfoType12-v590ext-IEs");
+   }
+   /* intraFreqReportingCriteria-1b-r5 */
+   if (pvalue->m & 0x10u) {
+      stat = enc_IntraFreqReportingCriteria_1b_r5(ctx, &pvalue->intraFreqReportingCriteria_1b_r5, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria-1b-r5", -1, "SysInfoType12-v590ext-IEs");
+   }
+   /* intraFreqEvent-1d-r5 */
+   if (pvalue->m & 0x20u) {
+      stat = enc_IntraFreqEvent_1d_r5(ctx, &pvalue->intraFreqEvent_1d_r5, cur);
+      RT_CHECK(ctx, stat, 0, "intraFreqEvent-1d-r5", -1, "SysInfoType12-v590ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType12_v590ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v590ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType12_v590ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType12_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v690ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType12-v690ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType12-v690ext-IEs");
+   /* dummy */
+   if (pvalue->m & 0x1u) {
+      stat = enc_Dummy_InterFreqRACHReportingInfo(ctx, &pvalue->dummy, cur);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "SysInfoType12-v690ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType12_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v690ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType12_v690ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType12_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v6b0ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType12-v6b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType12-v6b0ext-IEs");
+   /* interFreqRACHReportingInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_InterFreqRACHReportingInfo(ctx, &pvalue->interFreqRACHReportingInfo, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqRACHReportingInfo", -1, "SysInfoType12-v6b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType12_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v6b0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType12_v6b0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType12_v7b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v7b0ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType12-v7b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType12-v7b0ext-IEs");
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_NewInterFreqCellList_v7b0ext(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "SysInfoType12-v7b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType12_v7b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v7b0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType12_v7b0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType12-v7b0ext */
+   stat = enc_SysInfoType12_v7b0ext_IEs(ctx, &pvalue->sysInfoType12_v7b0ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType12-v7b0ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType12-v6b0ext */
+   stat = enc_SysInfoType12_v6b0ext_IEs(ctx, &pvalue->sysInfoType12_v6b0ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType12-v6b0ext", -1, 0);
+   /* v7b0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v7b0NonCriticalExtensions(ctx, &pvalue->v7b0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v7b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType12-v690ext */
+   stat = enc_SysInfoType12_v690ext_IEs(ctx, &pvalue->sysInfoType12_v690ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType12-v690ext", -1, 0);
+   /* v6b0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions, pvalue);
+}
+
+static int enc_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType12-v590ext */
+   stat = enc_SysInfoType12_v590ext_IEs(ctx, &pvalue->sysInfoType12_v590ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType12-v590ext", -1, 0);
+   /* v690NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType12_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v4b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType12-v4b0ext */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SysInfoType12_v4b0ext_IEs(ctx, &pvalue->sysInfoType12_v4b0ext, cur);
+      RT_CHECK(ctx, stat, 0, "sysInfoType12-v4b0ext", -1, 0);
+   }
+   /* v590NonCriticalExtension */
+   if (pvalue->m & 0x2u) {
+      stat = enc_SysInfoType12_v4b0NonCriticalExtensions_v590NonCriticalExtension(ctx, &pvalue->v590NonCriticalExtension, cur);
+      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtension", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType12_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType12_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType12_v4b0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType12(rtxContext* RT_RESTRICT ctx, const SysInfoType12* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType12");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType12");
+   /* fach-MeasurementOccasionInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_FACH_MeasurementOccasionInfo(ctx, &pvalue->fach_MeasurementOccasionInfo, cur);
+      RT_CHECK(ctx, stat, 0, "fach-MeasurementOccasionInfo", -1, "SysInfoType12");
+   }
+   /* measurementControlSysInfo */
+   stat = enc_MeasurementControlSysInfo(ctx, &pvalue->measurementControlSysInfo, cur);
+   RT_CHECK(ctx, stat, 0, "measurementControlSysInfo", -1, "SysInfoType12");
+   /* v4b0NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = enc_SysInfoType12_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType12");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType12(rtxContext* RT_RESTRICT ctx, const SysInfoType12* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType12, pvalue);
+}
+
+RT_MERGED_BODY int enc_Re_EstablishmentTimer(rtxContext* RT_RESTRICT ctx, Re_EstablishmentTimer value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "Re-EstablishmentTimer");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Re-EstablishmentTimer");
+   return 0;
+}
+
+int asn1PE_UMTS_Re_EstablishmentTimer(rtxContext* RT_RESTRICT ctx, Re_EstablishmentTimer value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Re_EstablishmentTimer, value);
+}
+
+RT_MERGED_BODY int enc_TimerMRW(rtxContext* RT_RESTRICT ctx, TimerMRW value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TimerMRW");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TimerMRW");
+   return 0;
+}
+
+int asn1PE_UMTS_TimerMRW(rtxContext* RT_RESTRICT ctx, TimerMRW value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TimerMRW, value);
+}
+
+RT_MERGED_BODY int enc_TimerDiscard(rtxContext* RT_RESTRICT ctx, TimerDiscard value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TimerDiscard");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TimerDiscard");
+   return 0;
+}
+
+int asn1PE_UMTS_TimerDiscard(rtxContext* RT_RESTRICT ctx, TimerDiscard value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TimerDiscard, value);
+}
+
+RT_MERGED_BODY int enc_MaxMRW(rtxContext* RT_RESTRICT ctx, MaxMRW value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MaxMRW");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaxMRW");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxMRW(rtxContext* RT_RESTRICT ctx, MaxMRW value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MaxMRW, value);
+}
+
+RT_MERGED_BODY int enc_ExplicitDiscard(rtxContext* RT_RESTRICT ctx, const ExplicitDiscard* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ExplicitDiscard");
+   /* timerMRW */
+   if (pvalue->timerMRW > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timerMRW);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TimerMRW", "timerMRW", -1, "ExplicitDiscard");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timerMRW, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "TimerMRW", "timerMRW", -1, "ExplicitDiscard");
+   /* timerDiscard */
+   if (pvalue->timerDiscard > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timerDiscard);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TimerDiscard", "timerDiscard", -1, "ExplicitDiscard");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timerDiscard, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "TimerDiscard", "timerDiscard", -1, "ExplicitDiscard");
+   /* maxMRW */
+   if (pvalue->maxMRW > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->maxMRW);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxMRW", "maxMRW", -1, "ExplicitDiscard");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxMRW, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxMRW", "maxMRW", -1, "ExplicitDiscard");
+   return 0;
+}
+
+int asn1PE_UMTS_ExplicitDiscard(rtxContext* RT_RESTRICT ctx, const ExplicitDiscard* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ExplicitDiscard, pvalue);
+}
+
+RT_MERGED_BODY int enc_NoExplicitDiscard(rtxContext* RT_RESTRICT ctx, NoExplicitDiscard value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 9) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "NoExplicitDiscard");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 9);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NoExplicitDiscard");
+   return 0;
+}
+
+int asn1PE_UMTS_NoExplicitDiscard(rtxContext* RT_RESTRICT ctx, NoExplicitDiscard value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NoExplicitDiscard, value);
+}
+
+RT_MERGED_BODY int enc_MaxDAT(rtxContext* RT_RESTRICT ctx, MaxDAT value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MaxDAT");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaxDAT");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxDAT(rtxContext* RT_RESTRICT ctx, MaxDAT value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MaxDAT, value);
+}
+
+RT_MERGED_BODY int enc_MaxDAT_Retransmissions(rtxContext* RT_RESTRICT ctx, const MaxDAT_Retransmissions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MaxDAT-Retransmissions");
+   /* maxDAT */
+   if (pvalue->maxDAT > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->maxDAT);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxDAT", "maxDAT", -1, "MaxDAT-Retransmissions");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxDAT, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxDAT", "maxDAT", -1, "MaxDAT-Retransmissions");
+   /* timerMRW */
+   if (pvalue->timerMRW > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timerMRW);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TimerMRW", "timerMRW", -1, "MaxDAT-Retransmissions");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timerMRW, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "TimerMRW", "timerMRW", -1, "MaxDAT-Retransmissions");
+   /* maxMRW */
+   if (pvalue->maxMRW > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->maxMRW);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxMRW", "maxMRW", -1, "MaxDAT-Retransmissions");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxMRW, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxMRW", "maxMRW", -1, "MaxDAT-Retransmissions");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxDAT_Retransmissions(rtxContext* RT_RESTRICT ctx, const MaxDAT_Retransmissions* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MaxDAT_Retransmissions, pvalue);
+}
+
+static int enc_TransmissionRLC_Discard(rtxContext* RT_RESTRICT ctx, const TransmissionRLC_Discard* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TransmissionRLC-Discard");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "TransmissionRLC-Discard");
+   if (pvalue->t - 1 > 3) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "TransmissionRLC-Discard");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.timerBasedExplicit == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "timerBasedExplicit", -1, "TransmissionRLC-Discard");
+         stat = enc_ExplicitDiscard(ctx, pvalue->u.timerBasedExplicit, cur);
+         RT_CHECK(ctx, stat, 0, "timerBasedExplicit", -1, "TransmissionRLC-Discard");
+         break;
+      case 2:
+         if (pvalue->u.timerBasedNoExplicit > 9) {
+            rtxErrAddUIntParm(ctx, pvalue->u.timerBasedNoExplicit);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "NoExplicitDiscard", "timerBasedNoExplicit", -1, "TransmissionRLC-Discard");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.timerBasedNoExplicit, 0, 9);
+         RT_CHECK_PUT(ctx, cur, stat, "NoExplicitDiscard", "timerBasedNoExplicit", -1, "TransmissionRLC-Discard");
+         break;
+      case 3:
+         if (pvalue->u.maxDAT_Retransmissions == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "maxDAT-Retransmissions", -1, "TransmissionRLC-Discard");
+         stat = enc_MaxDAT_Retransmissions(ctx, pvalue->u.maxDAT_Retransmissions, cur);
+         RT_CHECK(ctx, stat, 0, "maxDAT-Retransmissions", -1, "TransmissionRLC-Discard");
+         break;
+      case 4:
+         if (pvalue->u.noDiscard > 15) {
+            rtxErrAddUIntParm(ctx, pvalue->u.noDiscard);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxDAT", "noDiscard", -1, "TransmissionRLC-Discard");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.noDiscard, 0, 15);
+         RT_CHECK_PUT(ctx, cur, stat, "MaxDAT", "noDiscard", -1, "TransmissionRLC-Discard");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TransmissionRLC_Discard(rtxContext* RT_RESTRICT ctx, const TransmissionRLC_Discard* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TransmissionRLC_Discard, pvalue);
+}
+
+RT_MERGED_BODY int enc_TransmissionWindowSize(rtxContext* RT_RESTRICT ctx, TransmissionWindowSize value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TransmissionWindowSize");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TransmissionWindowSize");
+   return 0;
+}
+
+int asn1PE_UMTS_TransmissionWindowSize(rtxContext* RT_RESTRICT ctx, TransmissionWindowSize value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TransmissionWindowSize, value);
+}
+
+RT_MERGED_BODY int enc_TimerRST(rtxContext* RT_RESTRICT ctx, TimerRST value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TimerRST");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TimerRST");
+   return 0;
+}
+
+int asn1PE_UMTS_TimerRST(rtxContext* RT_RESTRICT ctx, TimerRST value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TimerRST, value);
+}
+
+RT_MERGED_BODY int enc_MaxRST(rtxContext* RT_RESTRICT ctx, MaxRST value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MaxRST");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaxRST");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxRST(rtxContext* RT_RESTRICT ctx, MaxRST value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MaxRST, value);
+}
+
+RT_MERGED_BODY int enc_TimerPollProhibit(rtxContext* RT_RESTRICT ctx, TimerPollProhibit value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 63) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TimerPollProhibit");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TimerPollProhibit");
+   return 0;
+}
+
+int asn1PE_UMTS_TimerPollProhibit(rtxContext* RT_RESTRICT ctx, TimerPollProhibit value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TimerPollProhibit, value);
+}
+
+RT_MERGED_BODY int enc_TimerPoll(rtxContext* RT_RESTRICT ctx, TimerPoll value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 63) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TimerPoll");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TimerPoll");
+   return 0;
+}
+
+int asn1PE_UMTS_TimerPoll(rtxContext* RT_RESTRICT ctx, TimerPoll value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TimerPoll, value);
+}
+
+RT_MERGED_BODY int enc_Poll_PDU(rtxContext* RT_RESTRICT ctx, Poll_PDU value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "Poll-PDU");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Poll-PDU");
+   return 0;
+}
+
+int asn1PE_UMTS_Poll_PDU(rtxContext* RT_RESTRICT ctx, Poll_PDU value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Poll_PDU, value);
+}
+
+RT_MERGED_BODY int enc_Poll_SDU(rtxContext* RT_RESTRICT ctx, Poll_SDU value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "Poll-SDU");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Poll-SDU");
+   return 0;
+}
+
+int asn1PE_UMTS_Poll_SDU(rtxContext* RT_RESTRICT ctx, Poll_SDU value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Poll_SDU, value);
+}
+
+RT_MERGED_BODY int enc_PollWindow(rtxContext* RT_RESTRICT ctx, PollWindow value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "PollWindow");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PollWindow");
+   return 0;
+}
+
+int asn1PE_UMTS_PollWindow(rtxContext* RT_RESTRICT ctx, PollWindow value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PollWindow, value);
+}
+
+RT_MERGED_BODY int enc_TimerPollPeriodic(rtxContext* RT_RESTRICT ctx, TimerPollPeriodic value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TimerPollPeriodic");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TimerPollPeriodic");
+   return 0;
+}
+
+int asn1PE_UMTS_TimerPollPeriodic(rtxContext* RT_RESTRICT ctx, TimerPollPeriodic value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TimerPollPeriodic, value);
+}
+
+RT_MERGED_BODY int enc_PollingInfo(rtxContext* RT_RESTRICT ctx, const PollingInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PollingInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PollingInfo");
    /* timerPollProhibit */
    if (pvalue->m & 0x1u) {
       if (pvalue->timerPollProhibit > 63) {
          rtxErrAddUIntParm(ctx, pvalue->timerPollProhibit);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "TimerPollProhibit", "timerPollProhibit", -1, "PollingInfo");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TimerPollProhibit", "timerPollProhibit", -1, "PollingInfo");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->timerPollProhibit, 0, 63);
-      RT_CHECK(ctx, stat, "TimerPollProhibit", "timerPollProhibit", -1, "PollingInfo");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->timerPollProhibit, 0, 63);
+      RT_CHECK_PUT(ctx, cur, stat, "TimerPollProhibit", "timerPollProhibit", -1, "PollingInfo");
    }
    /* timerPoll */
    if (pvalue->m & 0x2u) {
       if (pvalue->timerPoll > 63) {
          rtxErrAddUIntParm(ctx, pvalue->timerPoll);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "TimerPoll", "timerPoll", -1, "PollingInfo");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TimerPoll", "timerPoll", -1, "PollingInfo");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->timerPoll, 0, 63);
-      RT_CHECK(ctx, stat, "TimerPoll", "timerPoll", -1, "PollingInfo");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->timerPoll, 0, 63);
+      RT_CHECK_PUT(ctx, cur, stat, "TimerPoll", "timerPoll", -1, "PollingInfo");
    }
    /* poll-PDU */
    if (pvalue->m & 0x4u) {
       if (pvalue->poll_PDU > 7) {
          rtxErrAddUIntParm(ctx, pvalue->poll_PDU);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "Poll-PDU", "poll-PDU", -1, "PollingInfo");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "Poll-PDU", "poll-PDU", -1, "PollingInfo");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->poll_PDU, 0, 7);
-      RT_CHECK(ctx, stat, "Poll-PDU", "poll-PDU", -1, "PollingInfo");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->poll_PDU, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "Poll-PDU", "poll-PDU", -1, "PollingInfo");
    }
    /* poll-SDU */
    if (pvalue->m & 0x8u) {
       if (pvalue->poll_SDU > 3) {
          rtxErrAddUIntParm(ctx, pvalue->poll_SDU);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "Poll-SDU", "poll-SDU", -1, "PollingInfo");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "Poll-SDU", "poll-SDU", -1, "PollingInfo");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->poll_SDU, 0, 3);
-      RT_CHECK(ctx, stat, "Poll-SDU", "poll-SDU", -1, "PollingInfo");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->poll_SDU, 0, 3);
+      RT_CHECK_PUT(ctx, cur, stat, "Poll-SDU", "poll-SDU", -1, "PollingInfo");
    }
    /* lastTransmissionPDU-Poll */
-   stat = rtxEncBit(ctx, pvalue->lastTransmissionPDU_Poll);
-   RT_CHECK(ctx, stat, 0, "lastTransmissionPDU-Poll", -1, "PollingInfo");
+   stat = rtxEncBitAt(ctx, cur, pvalue->lastTransmissionPDU_Poll);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "lastTransmissionPDU-Poll", -1, "PollingInfo");
    /* lastRetransmissionPDU-Poll */
-   stat = rtxEncBit(ctx, pvalue->lastRetransmissionPDU_Poll);
-   RT_CHECK(ctx, stat, 0, "lastRetransmissionPDU-Poll", -1, "PollingInfo");
+   stat = rtxEncBitAt(ctx, cur, pvalue->lastRetransmissionPDU_Poll);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "lastRetransmissionPDU-Poll", -1, "PollingInfo");
    /* pollWindow */
    if (pvalue->m & 0x10u) {
       if (pvalue->pollWindow > 7) {
          rtxErrAddUIntParm(ctx, pvalue->pollWindow);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "PollWindow", "pollWindow", -1, "PollingInfo");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PollWindow", "pollWindow", -1, "PollingInfo");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->pollWindow, 0, 7);
-      RT_CHECK(ctx, stat, "PollWindow", "pollWindow", -1, "PollingInfo");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->pollWindow, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "PollWindow", "pollWindow", -1, "PollingInfo");
    }
    /* timerPollPeriodic */
    if (pvalue->m & 0x20u) {
       if (pvalue->timerPollPeriodic > 7) {
          rtxErrAddUIntParm(ctx, pvalue->timerPollPeriodic);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "TimerPollPeriodic", "timerPollPeriodic", -1, "PollingInfo");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TimerPollPeriodic", "timerPollPeriodic", -1, "PollingInfo");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->timerPollPeriodic, 0, 7);
-      RT_CHECK(ctx, stat, "TimerPollPeriodic", "timerPollPeriodic", -1, "PollingInfo");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->timerPollPeriodic, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "TimerPollPeriodic", "timerPollPeriodic", -1, "PollingInfo");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PollingInfo(rtxContext* RT_RESTRICT ctx, const PollingInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PollingInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_AM_RLC_Mode(rtxContext* RT_RESTRICT ctx, const UL_AM_RLC_Mode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-AM-RLC-Mode");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UL-AM-RLC-Mode");
+   /* transmissionRLC-Discard */
+   stat = enc_TransmissionRLC_Discard(ctx, &pvalue->transmissionRLC_Discard, cur);
+   RT_CHECK(ctx, stat, 0, "transmissionRLC-Discard", -1, "UL-AM-RLC-Mode");
+   /* transmissionWindowSize */
+   if (pvalue->transmissionWindowSize > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->transmissionWindowSize);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TransmissionWindowSize", "transmissionWindowSize", -1, "UL-AM-RLC-Mode");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->transmissionWindowSize, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "TransmissionWindowSize", "transmissionWindowSize", -1, "UL-AM-RLC-Mode");
+   /* timerRST */
+   if (pvalue->timerRST > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timerRST);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TimerRST", "timerRST", -1, "UL-AM-RLC-Mode");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timerRST, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "TimerRST", "timerRST", -1, "UL-AM-RLC-Mode");
+   /* max-RST */
+   if (pvalue->max_RST > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->max_RST);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxRST", "max-RST", -1, "UL-AM-RLC-Mode");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->max_RST, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxRST", "max-RST", -1, "UL-AM-RLC-Mode");
+   /* pollingInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PollingInfo(ctx, &pvalue->pollingInfo, cur);
+      RT_CHECK(ctx, stat, 0, "pollingInfo", -1, "UL-AM-RLC-Mode");
    }
    return 0;
 }
 
 int asn1PE_UMTS_UL_AM_RLC_Mode(rtxContext* RT_RESTRICT ctx, const UL_AM_RLC_Mode* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_UL_AM_RLC_Mode, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_UM_RLC_Mode(rtxContext* RT_RESTRICT ctx, const UL_UM_RLC_Mode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-AM-RLC-Mode");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-UM-RLC-Mode");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-AM-RLC-Mode");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UL-UM-RLC-Mode");
    /* transmissionRLC-Discard */
-   stat = asn1PE_UMTS_TransmissionRLC_Discard(ctx, &pvalue->transmissionRLC_Discard);
-   RT_CHECK(ctx, stat, 0, "transmissionRLC-Discard", -1, "UL-AM-RLC-Mode");
-   /* transmissionWindowSize */
-   if (pvalue->transmissionWindowSize > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->transmissionWindowSize);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TransmissionWindowSize", "transmissionWindowSize", -1, "UL-AM-RLC-Mode");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->transmissionWindowSize, 0, 15);
-   RT_CHECK(ctx, stat, "TransmissionWindowSize", "transmissionWindowSize", -1, "UL-AM-RLC-Mode");
-   /* timerRST */
-   if (pvalue->timerRST > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timerRST);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TimerRST", "timerRST", -1, "UL-AM-RLC-Mode");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timerRST, 0, 15);
-   RT_CHECK(ctx, stat, "TimerRST", "timerRST", -1, "UL-AM-RLC-Mode");
-   /* max-RST */
-   if (pvalue->max_RST > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->max_RST);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxRST", "max-RST", -1, "UL-AM-RLC-Mode");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->max_RST, 0, 7);
-   RT_CHECK(ctx, stat, "MaxRST", "max-RST", -1, "UL-AM-RLC-Mode");
-   /* pollingInfo */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PollingInfo(ctx, &pvalue->pollingInfo);
-      RT_CHECK(ctx, stat, 0, "pollingInfo", -1, "UL-AM-RLC-Mode");
+      stat = enc_TransmissionRLC_Discard(ctx, &pvalue->transmissionRLC_Discard, cur);
+      RT_CHECK(ctx, stat, 0, "transmissionRLC-Discard", -1, "UL-UM-RLC-Mode");
    }
    return 0;
 }
 
 int asn1PE_UMTS_UL_UM_RLC_Mode(rtxContext* RT_RESTRICT ctx, const UL_UM_RLC_Mode* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_UL_UM_RLC_Mode, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_TM_RLC_Mode(rtxContext* RT_RESTRICT ctx, const UL_TM_RLC_Mode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-UM-RLC-Mode");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-TM-RLC-Mode");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-UM-RLC-Mode");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UL-TM-RLC-Mode");
    /* transmissionRLC-Discard */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_TransmissionRLC_Discard(ctx, &pvalue->transmissionRLC_Discard);
-      RT_CHECK(ctx, stat, 0, "transmissionRLC-Discard", -1, "UL-UM-RLC-Mode");
+      stat = enc_TransmissionRLC_Discard(ctx, &pvalue->transmissionRLC_Discard, cur);
+      RT_CHECK(ctx, stat, 0, "transmissionRLC-Discard", -1, "UL-TM-RLC-Mode");
    }
+   /* segmentationIndication */
+   stat = rtxEncBitAt(ctx, cur, pvalue->segmentationIndication);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "segmentationIndication", -1, "UL-TM-RLC-Mode");
    return 0;
 }
 
 int asn1PE_UMTS_UL_TM_RLC_Mode(rtxContext* RT_RESTRICT ctx, const UL_TM_RLC_Mode* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-TM-RLC-Mode");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-TM-RLC-Mode");
-   /* transmissionRLC-Discard */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_TransmissionRLC_Discard(ctx, &pvalue->transmissionRLC_Discard);
-      RT_CHECK(ctx, stat, 0, "transmissionRLC-Discard", -1, "UL-TM-RLC-Mode");
-   }
-   /* segmentationIndication */
-   stat = rtxEncBit(ctx, pvalue->segmentationIndication);
-   RT_CHECK(ctx, stat, 0, "segmentationIndication", -1, "UL-TM-RLC-Mode");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_UL_TM_RLC_Mode, pvalue);
 }
 
-int asn1PE_UMTS_UL_RLC_Mode(rtxContext* RT_RESTRICT ctx, const UL_RLC_Mode* RT_RESTRICT pvalue)
+static int enc_UL_RLC_Mode(rtxContext* RT_RESTRICT ctx, const UL_RLC_Mode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-RLC-Mode");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UL-RLC-Mode");
-   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-RLC-Mode");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-RLC-Mode");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "UL-RLC-Mode");
+   if (pvalue->t - 1 > 3) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-RLC-Mode");
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.ul_AM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ul-AM-RLC-Mode", -1, "UL-RLC-Mode");
-         stat = asn1PE_UMTS_UL_AM_RLC_Mode(ctx, pvalue->u.ul_AM_RLC_Mode);
+         if (pvalue->u.ul_AM_RLC_Mode == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ul-AM-RLC-Mode", -1, "UL-RLC-Mode");
+         stat = enc_UL_AM_RLC_Mode(ctx, pvalue->u.ul_AM_RLC_Mode, cur);
          RT_CHECK(ctx, stat, 0, "ul-AM-RLC-Mode", -1, "UL-RLC-Mode");
          break;
       case 2:
-         if (pvalue->u.ul_UM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ul-UM-RLC-Mode", -1, "UL-RLC-Mode");
-         stat = asn1PE_UMTS_UL_UM_RLC_Mode(ctx, pvalue->u.ul_UM_RLC_Mode);
+         if (pvalue->u.ul_UM_RLC_Mode == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ul-UM-RLC-Mode", -1, "UL-RLC-Mode");
+         stat = enc_UL_UM_RLC_Mode(ctx, pvalue->u.ul_UM_RLC_Mode, cur);
          RT_CHECK(ctx, stat, 0, "ul-UM-RLC-Mode", -1, "UL-RLC-Mode");
          break;
       case 3:
-         if (pvalue->u.ul_TM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ul-TM-RLC-Mode", -1, "UL-RLC-Mode");
-         stat = asn1PE_UMTS_UL_TM_RLC_Mode(ctx, pvalue->u.ul_TM_RLC_Mode);
+         if (pvalue->u.ul_TM_RLC_Mode == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ul-TM-RLC-Mode", -1, "UL-RLC-Mode");
+         stat = enc_UL_TM_RLC_Mode(ctx, pvalue->u.ul_TM_RLC_Mode, cur);
          RT_CHECK(ctx, stat, 0, "ul-TM-RLC-Mode", -1, "UL-RLC-Mode");
          break;
       case 4:
@@ -691,144 +7590,184 @@ int asn1PE_UMTS_UL_RLC_Mode(rtxContext* RT_RESTRICT ctx, const UL_RLC_Mode* RT_R
    return 0;
 }
 
-int asn1PE_UMTS_ReceivingWindowSize(rtxContext* RT_RESTRICT ctx, ReceivingWindowSize value)
+int asn1PE_UMTS_UL_RLC_Mode(rtxContext* RT_RESTRICT ctx, const UL_RLC_Mode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_RLC_Mode, pvalue);
+}
+
+RT_MERGED_BODY int enc_ReceivingWindowSize(rtxContext* RT_RESTRICT ctx, ReceivingWindowSize value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value > 15) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ReceivingWindowSize");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "ReceivingWindowSize");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ReceivingWindowSize");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ReceivingWindowSize");
+   return 0;
+}
+
+int asn1PE_UMTS_ReceivingWindowSize(rtxContext* RT_RESTRICT ctx, ReceivingWindowSize value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ReceivingWindowSize, value);
+}
+
+RT_MERGED_BODY int enc_TimerStatusProhibit(rtxContext* RT_RESTRICT ctx, TimerStatusProhibit value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 63) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TimerStatusProhibit");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TimerStatusProhibit");
    return 0;
 }
 
 int asn1PE_UMTS_TimerStatusProhibit(rtxContext* RT_RESTRICT ctx, TimerStatusProhibit value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_TimerStatusProhibit, value);
+}
+
+RT_MERGED_BODY int enc_TimerEPC(rtxContext* RT_RESTRICT ctx, TimerEPC value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 63) {
+   if (value > 15) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TimerStatusProhibit");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TimerEPC");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 63);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimerStatusProhibit");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TimerEPC");
    return 0;
 }
 
 int asn1PE_UMTS_TimerEPC(rtxContext* RT_RESTRICT ctx, TimerEPC value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_TimerEPC, value);
+}
+
+RT_MERGED_BODY int enc_TimerStatusPeriodic(rtxContext* RT_RESTRICT ctx, TimerStatusPeriodic value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 15) {
+   if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TimerEPC");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TimerStatusPeriodic");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimerEPC");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TimerStatusPeriodic");
    return 0;
 }
 
 int asn1PE_UMTS_TimerStatusPeriodic(rtxContext* RT_RESTRICT ctx, TimerStatusPeriodic value)
 {
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TimerStatusPeriodic");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimerStatusPeriodic");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_TimerStatusPeriodic, value);
 }
 
-int asn1PE_UMTS_DL_RLC_StatusInfo(rtxContext* RT_RESTRICT ctx, const DL_RLC_StatusInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_DL_RLC_StatusInfo(rtxContext* RT_RESTRICT ctx, const DL_RLC_StatusInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-RLC-StatusInfo");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-RLC-StatusInfo");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-RLC-StatusInfo");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-RLC-StatusInfo");
    /* timerStatusProhibit */
    if (pvalue->m & 0x1u) {
       if (pvalue->timerStatusProhibit > 63) {
          rtxErrAddUIntParm(ctx, pvalue->timerStatusProhibit);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "TimerStatusProhibit", "timerStatusProhibit", -1, "DL-RLC-StatusInfo");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TimerStatusProhibit", "timerStatusProhibit", -1, "DL-RLC-StatusInfo");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->timerStatusProhibit, 0, 63);
-      RT_CHECK(ctx, stat, "TimerStatusProhibit", "timerStatusProhibit", -1, "DL-RLC-StatusInfo");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->timerStatusProhibit, 0, 63);
+      RT_CHECK_PUT(ctx, cur, stat, "TimerStatusProhibit", "timerStatusProhibit", -1, "DL-RLC-StatusInfo");
    }
    /* dummy */
    if (pvalue->m & 0x2u) {
       if (pvalue->dummy > 15) {
          rtxErrAddUIntParm(ctx, pvalue->dummy);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "TimerEPC", "dummy", -1, "DL-RLC-StatusInfo");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TimerEPC", "dummy", -1, "DL-RLC-StatusInfo");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->dummy, 0, 15);
-      RT_CHECK(ctx, stat, "TimerEPC", "dummy", -1, "DL-RLC-StatusInfo");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->dummy, 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "TimerEPC", "dummy", -1, "DL-RLC-StatusInfo");
    }
    /* missingPDU-Indicator */
-   stat = rtxEncBit(ctx, pvalue->missingPDU_Indicator);
-   RT_CHECK(ctx, stat, 0, "missingPDU-Indicator", -1, "DL-RLC-StatusInfo");
+   stat = rtxEncBitAt(ctx, cur, pvalue->missingPDU_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "missingPDU-Indicator", -1, "DL-RLC-StatusInfo");
    /* timerStatusPeriodic */
    if (pvalue->m & 0x4u) {
       if (pvalue->timerStatusPeriodic > 7) {
          rtxErrAddUIntParm(ctx, pvalue->timerStatusPeriodic);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "TimerStatusPeriodic", "timerStatusPeriodic", -1, "DL-RLC-StatusInfo");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TimerStatusPeriodic", "timerStatusPeriodic", -1, "DL-RLC-StatusInfo");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->timerStatusPeriodic, 0, 7);
-      RT_CHECK(ctx, stat, "TimerStatusPeriodic", "timerStatusPeriodic", -1, "DL-RLC-StatusInfo");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->timerStatusPeriodic, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "TimerStatusPeriodic", "timerStatusPeriodic", -1, "DL-RLC-StatusInfo");
    }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_RLC_StatusInfo(rtxContext* RT_RESTRICT ctx, const DL_RLC_StatusInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_RLC_StatusInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_AM_RLC_Mode(rtxContext* RT_RESTRICT ctx, const DL_AM_RLC_Mode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-AM-RLC-Mode");
+   /* inSequenceDelivery */
+   stat = rtxEncBitAt(ctx, cur, pvalue->inSequenceDelivery);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "inSequenceDelivery", -1, "DL-AM-RLC-Mode");
+   /* receivingWindowSize */
+   if (pvalue->receivingWindowSize > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->receivingWindowSize);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ReceivingWindowSize", "receivingWindowSize", -1, "DL-AM-RLC-Mode");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->receivingWindowSize, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "ReceivingWindowSize", "receivingWindowSize", -1, "DL-AM-RLC-Mode");
+   /* dl-RLC-StatusInfo */
+   stat = enc_DL_RLC_StatusInfo(ctx, &pvalue->dl_RLC_StatusInfo, cur);
+   RT_CHECK(ctx, stat, 0, "dl-RLC-StatusInfo", -1, "DL-AM-RLC-Mode");
    return 0;
 }
 
 int asn1PE_UMTS_DL_AM_RLC_Mode(rtxContext* RT_RESTRICT ctx, const DL_AM_RLC_Mode* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_DL_AM_RLC_Mode, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_TM_RLC_Mode(rtxContext* RT_RESTRICT ctx, const DL_TM_RLC_Mode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-AM-RLC-Mode");
-   /* inSequenceDelivery */
-   stat = rtxEncBit(ctx, pvalue->inSequenceDelivery);
-   RT_CHECK(ctx, stat, 0, "inSequenceDelivery", -1, "DL-AM-RLC-Mode");
-   /* receivingWindowSize */
-   if (pvalue->receivingWindowSize > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->receivingWindowSize);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ReceivingWindowSize", "receivingWindowSize", -1, "DL-AM-RLC-Mode");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->receivingWindowSize, 0, 15);
-   RT_CHECK(ctx, stat, "ReceivingWindowSize", "receivingWindowSize", -1, "DL-AM-RLC-Mode");
-   /* dl-RLC-StatusInfo */
-   stat = asn1PE_UMTS_DL_RLC_StatusInfo(ctx, &pvalue->dl_RLC_StatusInfo);
-   RT_CHECK(ctx, stat, 0, "dl-RLC-StatusInfo", -1, "DL-AM-RLC-Mode");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-TM-RLC-Mode");
+   /* segmentationIndication */
+   stat = rtxEncBitAt(ctx, cur, pvalue->segmentationIndication);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "segmentationIndication", -1, "DL-TM-RLC-Mode");
    return 0;
 }
 
 int asn1PE_UMTS_DL_TM_RLC_Mode(rtxContext* RT_RESTRICT ctx, const DL_TM_RLC_Mode* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-TM-RLC-Mode");
-   /* segmentationIndication */
-   stat = rtxEncBit(ctx, pvalue->segmentationIndication);
-   RT_CHECK(ctx, stat, 0, "segmentationIndication", -1, "DL-TM-RLC-Mode");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_DL_TM_RLC_Mode, pvalue);
 }
 
-int asn1PE_UMTS_DL_RLC_Mode(rtxContext* RT_RESTRICT ctx, const DL_RLC_Mode* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_DL_RLC_Mode(rtxContext* RT_RESTRICT ctx, const DL_RLC_Mode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-RLC-Mode");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "DL-RLC-Mode");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-RLC-Mode");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-RLC-Mode");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "DL-RLC-Mode");
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "DL-RLC-Mode");
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.dl_AM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode");
-         stat = asn1PE_UMTS_DL_AM_RLC_Mode(ctx, pvalue->u.dl_AM_RLC_Mode);
+         if (pvalue->u.dl_AM_RLC_Mode == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode");
+         stat = enc_DL_AM_RLC_Mode(ctx, pvalue->u.dl_AM_RLC_Mode, cur);
          RT_CHECK(ctx, stat, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode");
          break;
       case 2:
          break;
       case 3:
-         if (pvalue->u.dl_TM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode");
-         stat = asn1PE_UMTS_DL_TM_RLC_Mode(ctx, pvalue->u.dl_TM_RLC_Mode);
+         if (pvalue->u.dl_TM_RLC_Mode == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode");
+         stat = enc_DL_TM_RLC_Mode(ctx, pvalue->u.dl_TM_RLC_Mode, cur);
          RT_CHECK(ctx, stat, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode");
          break;
       default:
@@ -837,48 +7776,58 @@ int asn1PE_UMTS_DL_RLC_Mode(rtxContext* RT_RESTRICT ctx, const DL_RLC_Mode* RT_R
    return 0;
 }
 
-int asn1PE_UMTS_RLC_Info(rtxContext* RT_RESTRICT ctx, const RLC_Info* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_RLC_Mode(rtxContext* RT_RESTRICT ctx, const DL_RLC_Mode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_RLC_Mode, pvalue);
+}
+
+static int enc_RLC_Info(rtxContext* RT_RESTRICT ctx, const RLC_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-Info");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RLC-Info");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-Info");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RLC-Info");
    /* ul-RLC-Mode */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UL_RLC_Mode(ctx, &pvalue->ul_RLC_Mode);
+      stat = enc_UL_RLC_Mode(ctx, &pvalue->ul_RLC_Mode, cur);
       RT_CHECK(ctx, stat, 0, "ul-RLC-Mode", -1, "RLC-Info");
    }
    /* dl-RLC-Mode */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DL_RLC_Mode(ctx, &pvalue->dl_RLC_Mode);
+      stat = enc_DL_RLC_Mode(ctx, &pvalue->dl_RLC_Mode, cur);
       RT_CHECK(ctx, stat, 0, "dl-RLC-Mode", -1, "RLC-Info");
    }
    return 0;
 }
 
-int asn1PE_UMTS_RLC_InfoChoice(rtxContext* RT_RESTRICT ctx, const RLC_InfoChoice* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RLC_Info(rtxContext* RT_RESTRICT ctx, const RLC_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RLC_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_RLC_InfoChoice(rtxContext* RT_RESTRICT ctx, const RLC_InfoChoice* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-InfoChoice");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "RLC-InfoChoice");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RLC-InfoChoice");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RLC-InfoChoice");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "RLC-InfoChoice");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "RLC-InfoChoice");
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.rlc_Info == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "rlc-Info", -1, "RLC-InfoChoice");
-         stat = asn1PE_UMTS_RLC_Info(ctx, pvalue->u.rlc_Info);
+         if (pvalue->u.rlc_Info == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "rlc-Info", -1, "RLC-InfoChoice");
+         stat = enc_RLC_Info(ctx, pvalue->u.rlc_Info, cur);
          RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RLC-InfoChoice");
          break;
       case 2:
          if ((uint64_t)(pvalue->u.same_as_RB - 1) > 31u) {
             rtxErrAddStrParm(ctx, "RB-Identity");
             rtxErrAddUIntParm(ctx, pvalue->u.same_as_RB);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "same-as-RB", -1, "RLC-InfoChoice");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RB-Identity", "same-as-RB", -1, "RLC-InfoChoice");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.same_as_RB, 1, 32);
-         RT_CHECK(ctx, stat, "RB-Identity", "same-as-RB", -1, "RLC-InfoChoice");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.same_as_RB, 1, 32);
+         RT_CHECK_PUT(ctx, cur, stat, "RB-Identity", "same-as-RB", -1, "RLC-InfoChoice");
          break;
       default:
          break;
@@ -886,22 +7835,27 @@ int asn1PE_UMTS_RLC_InfoChoice(rtxContext* RT_RESTRICT ctx, const RLC_InfoChoice
    return 0;
 }
 
-int asn1PE_UMTS_UL_TransportChannelType(rtxContext* RT_RESTRICT ctx, const UL_TransportChannelType* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RLC_InfoChoice(rtxContext* RT_RESTRICT ctx, const RLC_InfoChoice* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RLC_InfoChoice, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_TransportChannelType(rtxContext* RT_RESTRICT ctx, const UL_TransportChannelType* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-TransportChannelType");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UL-TransportChannelType");
-   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-TransportChannelType");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-TransportChannelType");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "UL-TransportChannelType");
+   if (pvalue->t - 1 > 3) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-TransportChannelType");
    switch (pvalue->t) {
       case 1:
          if ((uint64_t)(pvalue->u.dch - 1) > 31u) {
             rtxErrAddStrParm(ctx, "TransportChannelIdentity");
             rtxErrAddUIntParm(ctx, pvalue->u.dch);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dch", -1, "UL-TransportChannelType");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportChannelIdentity", "dch", -1, "UL-TransportChannelType");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.dch, 1, 32);
-         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch", -1, "UL-TransportChannelType");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.dch, 1, 32);
+         RT_CHECK_PUT(ctx, cur, stat, "TransportChannelIdentity", "dch", -1, "UL-TransportChannelType");
          break;
       case 2:
          break;
@@ -911,10 +7865,10 @@ int asn1PE_UMTS_UL_TransportChannelType(rtxContext* RT_RESTRICT ctx, const UL_Tr
          if ((uint64_t)(pvalue->u.usch - 1) > 31u) {
             rtxErrAddStrParm(ctx, "TransportChannelIdentity");
             rtxErrAddUIntParm(ctx, pvalue->u.usch);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "usch", -1, "UL-TransportChannelType");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportChannelIdentity", "usch", -1, "UL-TransportChannelType");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.usch, 1, 32);
-         RT_CHECK(ctx, stat, "TransportChannelIdentity", "usch", -1, "UL-TransportChannelType");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.usch, 1, 32);
+         RT_CHECK_PUT(ctx, cur, stat, "TransportChannelIdentity", "usch", -1, "UL-TransportChannelType");
          break;
       default:
          break;
@@ -922,53 +7876,68 @@ int asn1PE_UMTS_UL_TransportChannelType(rtxContext* RT_RESTRICT ctx, const UL_Tr
    return 0;
 }
 
-int asn1PE_UMTS_RLC_SizeInfo(rtxContext* RT_RESTRICT ctx, const RLC_SizeInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UL_TransportChannelType(rtxContext* RT_RESTRICT ctx, const UL_TransportChannelType* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_TransportChannelType, pvalue);
+}
+
+RT_MERGED_BODY int enc_RLC_SizeInfo(rtxContext* RT_RESTRICT ctx, const RLC_SizeInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-SizeInfo");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RLC-SizeInfo");
    /* rlc-SizeIndex */
    if ((uint64_t)(pvalue->rlc_SizeIndex - 1) > 31u) {
       rtxErrAddStrParm(ctx, "rlc-SizeIndex");
       rtxErrAddUIntParm(ctx, pvalue->rlc_SizeIndex);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rlc-SizeIndex", -1, "RLC-SizeInfo");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "rlc-SizeIndex", -1, "RLC-SizeInfo");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->rlc_SizeIndex, 1, 32);
-   RT_CHECK(ctx, stat, 0, "rlc-SizeIndex", -1, "RLC-SizeInfo");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->rlc_SizeIndex, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "rlc-SizeIndex", -1, "RLC-SizeInfo");
    return 0;
 }
 
-int asn1PE_UMTS_RLC_SizeExplicitList(rtxContext* RT_RESTRICT ctx, const RLC_SizeExplicitList* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RLC_SizeInfo(rtxContext* RT_RESTRICT ctx, const RLC_SizeInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RLC_SizeInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_RLC_SizeExplicitList(rtxContext* RT_RESTRICT ctx, const RLC_SizeExplicitList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-SizeExplicitList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RLC-SizeExplicitList");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RLC-SizeExplicitList");
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RLC-SizeExplicitList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RLC-SizeInfo", (int32_t)i, "RLC-SizeExplicitList");
-      stat = asn1PE_UMTS_RLC_SizeInfo(ctx, (const RLC_SizeInfo*)node->data);
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RLC-SizeInfo", (int32_t)i, "RLC-SizeExplicitList");
+      stat = enc_RLC_SizeInfo(ctx, (const RLC_SizeInfo*)node->data, cur);
       RT_CHECK(ctx, stat, 0, "RLC-SizeInfo", (int32_t)i, "RLC-SizeExplicitList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_UL_LogicalChannelMapping_rlc_SizeList(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_rlc_SizeList* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RLC_SizeExplicitList(rtxContext* RT_RESTRICT ctx, const RLC_SizeExplicitList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RLC_SizeExplicitList, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_LogicalChannelMapping_rlc_SizeList(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_rlc_SizeList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
          break;
       case 2:
          break;
       case 3:
-         if (pvalue->u.explicitList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "explicitList", -1, 0);
-         stat = asn1PE_UMTS_RLC_SizeExplicitList(ctx, pvalue->u.explicitList);
+         if (pvalue->u.explicitList == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "explicitList", -1, 0);
+         stat = enc_RLC_SizeExplicitList(ctx, pvalue->u.explicitList, cur);
          RT_CHECK(ctx, stat, 0, "explicitList", -1, 0);
          break;
       default:
@@ -977,99 +7946,124 @@ int asn1PE_UMTS_UL_LogicalChannelMapping_rlc_SizeList(rtxContext* RT_RESTRICT ct
    return 0;
 }
 
-int asn1PE_UMTS_MAC_LogicalChannelPriority(rtxContext* RT_RESTRICT ctx, MAC_LogicalChannelPriority value)
+int asn1PE_UMTS_UL_LogicalChannelMapping_rlc_SizeList(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_rlc_SizeList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_LogicalChannelMapping_rlc_SizeList, pvalue);
+}
+
+RT_MERGED_BODY int enc_MAC_LogicalChannelPriority(rtxContext* RT_RESTRICT ctx, MAC_LogicalChannelPriority value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)(value - 1) > 7u) {
       rtxErrAddStrParm(ctx, "MAC-LogicalChannelPriority");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MAC-LogicalChannelPriority");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "MAC-LogicalChannelPriority");
    }
-   stat = pe_ConsUInt64(ctx, value, 1, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-LogicalChannelPriority");
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MAC-LogicalChannelPriority");
    return 0;
 }
 
-int asn1PE_UMTS_UL_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping* RT_RESTRICT pvalue)
+int asn1PE_UMTS_MAC_LogicalChannelPriority(rtxContext* RT_RESTRICT ctx, MAC_LogicalChannelPriority value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MAC_LogicalChannelPriority, value);
+}
+
+static int enc_UL_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-LogicalChannelMapping");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-LogicalChannelMapping");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-LogicalChannelMapping");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UL-LogicalChannelMapping");
    /* ul-TransportChannelType */
-   stat = asn1PE_UMTS_UL_TransportChannelType(ctx, &pvalue->ul_TransportChannelType);
+   stat = enc_UL_TransportChannelType(ctx, &pvalue->ul_TransportChannelType, cur);
    RT_CHECK(ctx, stat, 0, "ul-TransportChannelType", -1, "UL-LogicalChannelMapping");
    /* logicalChannelIdentity */
    if (pvalue->m & 0x1u) {
       if ((uint64_t)(pvalue->logicalChannelIdentity - 1) > 14u) {
          rtxErrAddStrParm(ctx, "LogicalChannelIdentity");
          rtxErrAddUIntParm(ctx, pvalue->logicalChannelIdentity);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "UL-LogicalChannelMapping");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "UL-LogicalChannelMapping");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->logicalChannelIdentity, 1, 15);
-      RT_CHECK(ctx, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "UL-LogicalChannelMapping");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->logicalChannelIdentity, 1, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "UL-LogicalChannelMapping");
    }
    /* rlc-SizeList */
-   stat = asn1PE_UMTS_UL_LogicalChannelMapping_rlc_SizeList(ctx, &pvalue->rlc_SizeList);
+   stat = enc_UL_LogicalChannelMapping_rlc_SizeList(ctx, &pvalue->rlc_SizeList, cur);
    RT_CHECK(ctx, stat, 0, "rlc-SizeList", -1, "UL-LogicalChannelMapping");
    /* mac-LogicalChannelPriority */
    if ((uint64_t)(pvalue->mac_LogicalChannelPriority - 1) > 7u) {
       rtxErrAddStrParm(ctx, "MAC-LogicalChannelPriority");
       rtxErrAddUIntParm(ctx, pvalue->mac_LogicalChannelPriority);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MAC-LogicalChannelPriority", "mac-LogicalChannelPriority", -1, "UL-LogicalChannelMapping");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MAC-LogicalChannelPriority", "mac-LogicalChannelPriority", -1, "UL-LogicalChannelMapping");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->mac_LogicalChannelPriority, 1, 8);
-   RT_CHECK(ctx, stat, "MAC-LogicalChannelPriority", "mac-LogicalChannelPriority", -1, "UL-LogicalChannelMapping");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_LogicalChannelPriority, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, "MAC-LogicalChannelPriority", "mac-LogicalChannelPriority", -1, "UL-LogicalChannelMapping");
    return 0;
 }
 
-int asn1PE_UMTS_UL_LogicalChannelMappingList_ul_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappingList_ul_LogicalChannelMapping* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UL_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_LogicalChannelMapping, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_LogicalChannelMappingList_ul_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappingList_ul_LogicalChannelMapping* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 2, 2);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UL-LogicalChannelMapping", (int32_t)i, 0);
-      stat = asn1PE_UMTS_UL_LogicalChannelMapping(ctx, (const UL_LogicalChannelMapping*)node->data);
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "UL-LogicalChannelMapping", (int32_t)i, 0);
+      stat = enc_UL_LogicalChannelMapping(ctx, (const UL_LogicalChannelMapping*)node->data, cur);
       RT_CHECK(ctx, stat, 0, "UL-LogicalChannelMapping", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_UL_LogicalChannelMappingList(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappingList* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UL_LogicalChannelMappingList_ul_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappingList_ul_LogicalChannelMapping* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_LogicalChannelMappingList_ul_LogicalChannelMapping, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_LogicalChannelMappingList(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappingList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-LogicalChannelMappingList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-LogicalChannelMappingList");
    /* rlc-LogicalChannelMappingIndicator */
-   stat = rtxEncBit(ctx, pvalue->rlc_LogicalChannelMappingIndicator);
-   RT_CHECK(ctx, stat, 0, "rlc-LogicalChannelMappingIndicator", -1, "UL-LogicalChannelMappingList");
+   stat = rtxEncBitAt(ctx, cur, pvalue->rlc_LogicalChannelMappingIndicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "rlc-LogicalChannelMappingIndicator", -1, "UL-LogicalChannelMappingList");
    /* ul-LogicalChannelMapping */
-   stat = asn1PE_UMTS_UL_LogicalChannelMappingList_ul_LogicalChannelMapping(ctx, &pvalue->ul_LogicalChannelMapping);
+   stat = enc_UL_LogicalChannelMappingList_ul_LogicalChannelMapping(ctx, &pvalue->ul_LogicalChannelMapping, cur);
    RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMapping", -1, "UL-LogicalChannelMappingList");
    return 0;
 }
 
-int asn1PE_UMTS_UL_LogicalChannelMappings(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappings* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UL_LogicalChannelMappingList(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappingList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_LogicalChannelMappingList, pvalue);
+}
+
+static int enc_UL_LogicalChannelMappings(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappings* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-LogicalChannelMappings");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UL-LogicalChannelMappings");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-LogicalChannelMappings");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-LogicalChannelMappings");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "UL-LogicalChannelMappings");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-LogicalChannelMappings");
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.oneLogicalChannel == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "oneLogicalChannel", -1, "UL-LogicalChannelMappings");
-         stat = asn1PE_UMTS_UL_LogicalChannelMapping(ctx, pvalue->u.oneLogicalChannel);
+         if (pvalue->u.oneLogicalChannel == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "oneLogicalChannel", -1, "UL-LogicalChannelMappings");
+         stat = enc_UL_LogicalChannelMapping(ctx, pvalue->u.oneLogicalChannel, cur);
          RT_CHECK(ctx, stat, 0, "oneLogicalChannel", -1, "UL-LogicalChannelMappings");
          break;
       case 2:
-         if (pvalue->u.twoLogicalChannels == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "twoLogicalChannels", -1, "UL-LogicalChannelMappings");
-         stat = asn1PE_UMTS_UL_LogicalChannelMappingList(ctx, pvalue->u.twoLogicalChannels);
+         if (pvalue->u.twoLogicalChannels == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "twoLogicalChannels", -1, "UL-LogicalChannelMappings");
+         stat = enc_UL_LogicalChannelMappingList(ctx, pvalue->u.twoLogicalChannels, cur);
          RT_CHECK(ctx, stat, 0, "twoLogicalChannels", -1, "UL-LogicalChannelMappings");
          break;
       default:
@@ -1078,45 +8072,55 @@ int asn1PE_UMTS_UL_LogicalChannelMappings(rtxContext* RT_RESTRICT ctx, const UL_
    return 0;
 }
 
-int asn1PE_UMTS_TransportChannelIdentityDCHandDSCH(rtxContext* RT_RESTRICT ctx, const TransportChannelIdentityDCHandDSCH* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UL_LogicalChannelMappings(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappings* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_LogicalChannelMappings, pvalue);
+}
+
+RT_MERGED_BODY int enc_TransportChannelIdentityDCHandDSCH(rtxContext* RT_RESTRICT ctx, const TransportChannelIdentityDCHandDSCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TransportChannelIdentityDCHandDSCH");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TransportChannelIdentityDCHandDSCH");
    /* dch-transport-ch-id */
    if ((uint64_t)(pvalue->dch_transport_ch_id - 1) > 31u) {
       rtxErrAddStrParm(ctx, "TransportChannelIdentity");
       rtxErrAddUIntParm(ctx, pvalue->dch_transport_ch_id);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dch-transport-ch-id", -1, "TransportChannelIdentityDCHandDSCH");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportChannelIdentity", "dch-transport-ch-id", -1, "TransportChannelIdentityDCHandDSCH");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->dch_transport_ch_id, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch-transport-ch-id", -1, "TransportChannelIdentityDCHandDSCH");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dch_transport_ch_id, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "TransportChannelIdentity", "dch-transport-ch-id", -1, "TransportChannelIdentityDCHandDSCH");
    /* dsch-transport-ch-id */
    if ((uint64_t)(pvalue->dsch_transport_ch_id - 1) > 31u) {
       rtxErrAddStrParm(ctx, "TransportChannelIdentity");
       rtxErrAddUIntParm(ctx, pvalue->dsch_transport_ch_id);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dsch-transport-ch-id", -1, "TransportChannelIdentityDCHandDSCH");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportChannelIdentity", "dsch-transport-ch-id", -1, "TransportChannelIdentityDCHandDSCH");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->dsch_transport_ch_id, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "dsch-transport-ch-id", -1, "TransportChannelIdentityDCHandDSCH");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dsch_transport_ch_id, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "TransportChannelIdentity", "dsch-transport-ch-id", -1, "TransportChannelIdentityDCHandDSCH");
    return 0;
 }
 
-int asn1PE_UMTS_DL_TransportChannelType(rtxContext* RT_RESTRICT ctx, const DL_TransportChannelType* RT_RESTRICT pvalue)
+int asn1PE_UMTS_TransportChannelIdentityDCHandDSCH(rtxContext* RT_RESTRICT ctx, const TransportChannelIdentityDCHandDSCH* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TransportChannelIdentityDCHandDSCH, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_TransportChannelType(rtxContext* RT_RESTRICT ctx, const DL_TransportChannelType* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-TransportChannelType");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat, 0, "t", -1, "DL-TransportChannelType");
-   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-TransportChannelType");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-TransportChannelType");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "DL-TransportChannelType");
+   if (pvalue->t - 1 > 3) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "DL-TransportChannelType");
    switch (pvalue->t) {
       case 1:
          if ((uint64_t)(pvalue->u.dch - 1) > 31u) {
             rtxErrAddStrParm(ctx, "TransportChannelIdentity");
             rtxErrAddUIntParm(ctx, pvalue->u.dch);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dch", -1, "DL-TransportChannelType");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportChannelIdentity", "dch", -1, "DL-TransportChannelType");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.dch, 1, 32);
-         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch", -1, "DL-TransportChannelType");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.dch, 1, 32);
+         RT_CHECK_PUT(ctx, cur, stat, "TransportChannelIdentity", "dch", -1, "DL-TransportChannelType");
          break;
       case 2:
          break;
@@ -1124,14 +8128,14 @@ int asn1PE_UMTS_DL_TransportChannelType(rtxContext* RT_RESTRICT ctx, const DL_Tr
          if ((uint64_t)(pvalue->u.dsch - 1) > 31u) {
             rtxErrAddStrParm(ctx, "TransportChannelIdentity");
             rtxErrAddUIntParm(ctx, pvalue->u.dsch);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dsch", -1, "DL-TransportChannelType");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportChannelIdentity", "dsch", -1, "DL-TransportChannelType");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.dsch, 1, 32);
-         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dsch", -1, "DL-TransportChannelType");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.dsch, 1, 32);
+         RT_CHECK_PUT(ctx, cur, stat, "TransportChannelIdentity", "dsch", -1, "DL-TransportChannelType");
          break;
       case 4:
-         if (pvalue->u.dch_and_dsch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dch-and-dsch", -1, "DL-TransportChannelType");
-         stat = asn1PE_UMTS_TransportChannelIdentityDCHandDSCH(ctx, pvalue->u.dch_and_dsch);
+         if (pvalue->u.dch_and_dsch == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dch-and-dsch", -1, "DL-TransportChannelType");
+         stat = enc_TransportChannelIdentityDCHandDSCH(ctx, pvalue->u.dch_and_dsch, cur);
          RT_CHECK(ctx, stat, 0, "dch-and-dsch", -1, "DL-TransportChannelType");
          break;
       default:
@@ -1140,154 +8144,194 @@ int asn1PE_UMTS_DL_TransportChannelType(rtxContext* RT_RESTRICT ctx, const DL_Tr
    return 0;
 }
 
-int asn1PE_UMTS_DL_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, const DL_LogicalChannelMapping* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_TransportChannelType(rtxContext* RT_RESTRICT ctx, const DL_TransportChannelType* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_TransportChannelType, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, const DL_LogicalChannelMapping* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-LogicalChannelMapping");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-LogicalChannelMapping");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-LogicalChannelMapping");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-LogicalChannelMapping");
    /* dl-TransportChannelType */
-   stat = asn1PE_UMTS_DL_TransportChannelType(ctx, &pvalue->dl_TransportChannelType);
+   stat = enc_DL_TransportChannelType(ctx, &pvalue->dl_TransportChannelType, cur);
    RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-LogicalChannelMapping");
    /* logicalChannelIdentity */
    if (pvalue->m & 0x1u) {
       if ((uint64_t)(pvalue->logicalChannelIdentity - 1) > 14u) {
          rtxErrAddStrParm(ctx, "LogicalChannelIdentity");
          rtxErrAddUIntParm(ctx, pvalue->logicalChannelIdentity);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "DL-LogicalChannelMapping");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "DL-LogicalChannelMapping");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->logicalChannelIdentity, 1, 15);
-      RT_CHECK(ctx, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "DL-LogicalChannelMapping");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->logicalChannelIdentity, 1, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "DL-LogicalChannelMapping");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, const DL_LogicalChannelMapping* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_LogicalChannelMapping, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_LogicalChannelMappingList(rtxContext* RT_RESTRICT ctx, const DL_LogicalChannelMappingList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-LogicalChannelMappingList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 2);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DL-LogicalChannelMappingList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DL-LogicalChannelMapping", (int32_t)i, "DL-LogicalChannelMappingList");
+      stat = enc_DL_LogicalChannelMapping(ctx, (const DL_LogicalChannelMapping*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DL-LogicalChannelMapping", (int32_t)i, "DL-LogicalChannelMappingList");
    }
    return 0;
 }
 
 int asn1PE_UMTS_DL_LogicalChannelMappingList(rtxContext* RT_RESTRICT ctx, const DL_LogicalChannelMappingList* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_DL_LogicalChannelMappingList, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_MappingOption(rtxContext* RT_RESTRICT ctx, const RB_MappingOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-LogicalChannelMappingList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 2);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-LogicalChannelMappingList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-LogicalChannelMapping", (int32_t)i, "DL-LogicalChannelMappingList");
-      stat = asn1PE_UMTS_DL_LogicalChannelMapping(ctx, (const DL_LogicalChannelMapping*)node->data);
-      RT_CHECK(ctx, stat, 0, "DL-LogicalChannelMapping", (int32_t)i, "DL-LogicalChannelMappingList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-MappingOption");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RB-MappingOption");
+   /* ul-LogicalChannelMappings */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UL_LogicalChannelMappings(ctx, &pvalue->ul_LogicalChannelMappings, cur);
+      RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMappings", -1, "RB-MappingOption");
+   }
+   /* dl-LogicalChannelMappingList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_DL_LogicalChannelMappingList(ctx, &pvalue->dl_LogicalChannelMappingList, cur);
+      RT_CHECK(ctx, stat, 0, "dl-LogicalChannelMappingList", -1, "RB-MappingOption");
    }
    return 0;
 }
 
 int asn1PE_UMTS_RB_MappingOption(rtxContext* RT_RESTRICT ctx, const RB_MappingOption* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_RB_MappingOption, pvalue);
+}
+
+static int enc_RB_MappingInfo(rtxContext* RT_RESTRICT ctx, const RB_MappingInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-MappingOption");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-MappingOption");
-   /* ul-LogicalChannelMappings */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UL_LogicalChannelMappings(ctx, &pvalue->ul_LogicalChannelMappings);
-      RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMappings", -1, "RB-MappingOption");
-   }
-   /* dl-LogicalChannelMappingList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DL_LogicalChannelMappingList(ctx, &pvalue->dl_LogicalChannelMappingList);
-      RT_CHECK(ctx, stat, 0, "dl-LogicalChannelMappingList", -1, "RB-MappingOption");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-MappingInfo");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RB-MappingInfo");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RB-MappingOption", (int32_t)i, "RB-MappingInfo");
+      stat = enc_RB_MappingOption(ctx, (const RB_MappingOption*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RB-MappingOption", (int32_t)i, "RB-MappingInfo");
    }
    return 0;
 }
 
 int asn1PE_UMTS_RB_MappingInfo(rtxContext* RT_RESTRICT ctx, const RB_MappingInfo* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-MappingInfo");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-MappingInfo");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-MappingOption", (int32_t)i, "RB-MappingInfo");
-      stat = asn1PE_UMTS_RB_MappingOption(ctx, (const RB_MappingOption*)node->data);
-      RT_CHECK(ctx, stat, 0, "RB-MappingOption", (int32_t)i, "RB-MappingInfo");
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_RB_MappingInfo, pvalue);
 }
 
-int asn1PE_UMTS_SRB_InformationSetup(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetup* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_SRB_InformationSetup(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetup* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetup");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetup");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-InformationSetup");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SRB-InformationSetup");
    /* rb-Identity */
    if (pvalue->m & 0x1u) {
       if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
          rtxErrAddStrParm(ctx, "RB-Identity");
          rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
-      RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->rb_Identity, 1, 32);
+      RT_CHECK_PUT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup");
    }
    /* rlc-InfoChoice */
-   stat = asn1PE_UMTS_RLC_InfoChoice(ctx, &pvalue->rlc_InfoChoice);
+   stat = enc_RLC_InfoChoice(ctx, &pvalue->rlc_InfoChoice, cur);
    RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "SRB-InformationSetup");
    /* rb-MappingInfo */
-   stat = asn1PE_UMTS_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo);
+   stat = enc_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo, cur);
    RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "SRB-InformationSetup");
    return 0;
 }
 
-int asn1PE_UMTS_SRB_InformationSetupList(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList* RT_RESTRICT pvalue)
+int asn1PE_UMTS_SRB_InformationSetup(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetup* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SRB_InformationSetup, pvalue);
+}
+
+static int enc_SRB_InformationSetupList(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetupList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetupList");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SRB-InformationSetupList");
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "SRB-InformationSetupList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "SRB-InformationSetup", (int32_t)i, "SRB-InformationSetupList");
-      stat = asn1PE_UMTS_SRB_InformationSetup(ctx, (const SRB_InformationSetup*)node->data);
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "SRB-InformationSetup", (int32_t)i, "SRB-InformationSetupList");
+      stat = enc_SRB_InformationSetup(ctx, (const SRB_InformationSetup*)node->data, cur);
       RT_CHECK(ctx, stat, 0, "SRB-InformationSetup", (int32_t)i, "SRB-InformationSetupList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_MaxPDCP_SN_WindowSize(rtxContext* RT_RESTRICT ctx, MaxPDCP_SN_WindowSize value)
+int asn1PE_UMTS_SRB_InformationSetupList(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SRB_InformationSetupList, pvalue);
+}
+
+RT_MERGED_BODY int enc_MaxPDCP_SN_WindowSize(rtxContext* RT_RESTRICT ctx, MaxPDCP_SN_WindowSize value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxPDCP-SN-WindowSize");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MaxPDCP-SN-WindowSize");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxPDCP-SN-WindowSize");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaxPDCP-SN-WindowSize");
    return 0;
 }
 
-int asn1PE_UMTS_LosslessSRNS_RelocSupport(rtxContext* RT_RESTRICT ctx, const LosslessSRNS_RelocSupport* RT_RESTRICT pvalue)
+int asn1PE_UMTS_MaxPDCP_SN_WindowSize(rtxContext* RT_RESTRICT ctx, MaxPDCP_SN_WindowSize value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MaxPDCP_SN_WindowSize, value);
+}
+
+RT_MERGED_BODY int enc_LosslessSRNS_RelocSupport(rtxContext* RT_RESTRICT ctx, const LosslessSRNS_RelocSupport* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "LosslessSRNS-RelocSupport");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "LosslessSRNS-RelocSupport");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "LosslessSRNS-RelocSupport");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "LosslessSRNS-RelocSupport");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "LosslessSRNS-RelocSupport");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "LosslessSRNS-RelocSupport");
    switch (pvalue->t) {
       case 1:
          if (pvalue->u.supported > 1) {
             rtxErrAddUIntParm(ctx, pvalue->u.supported);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "MaxPDCP-SN-WindowSize", "supported", -1, "LosslessSRNS-RelocSupport");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxPDCP-SN-WindowSize", "supported", -1, "LosslessSRNS-RelocSupport");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.supported, 0, 1);
-         RT_CHECK(ctx, stat, "MaxPDCP-SN-WindowSize", "supported", -1, "LosslessSRNS-RelocSupport");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.supported, 0, 1);
+         RT_CHECK_PUT(ctx, cur, stat, "MaxPDCP-SN-WindowSize", "supported", -1, "LosslessSRNS-RelocSupport");
          break;
       case 2:
          break;
@@ -1297,112 +8341,132 @@ int asn1PE_UMTS_LosslessSRNS_RelocSupport(rtxContext* RT_RESTRICT ctx, const Los
    return 0;
 }
 
-int asn1PE_UMTS_PDCP_PDU_Header(rtxContext* RT_RESTRICT ctx, PDCP_PDU_Header value)
+int asn1PE_UMTS_LosslessSRNS_RelocSupport(rtxContext* RT_RESTRICT ctx, const LosslessSRNS_RelocSupport* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_LosslessSRNS_RelocSupport, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDCP_PDU_Header(rtxContext* RT_RESTRICT ctx, PDCP_PDU_Header value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "PDCP-PDU-Header");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "PDCP-PDU-Header");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDCP-PDU-Header");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PDCP-PDU-Header");
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_PDU_Header(rtxContext* RT_RESTRICT ctx, PDCP_PDU_Header value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDCP_PDU_Header, value);
+}
+
+RT_MERGED_BODY int enc_ExpectReordering(rtxContext* RT_RESTRICT ctx, ExpectReordering value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "ExpectReordering");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ExpectReordering");
    return 0;
 }
 
 int asn1PE_UMTS_ExpectReordering(rtxContext* RT_RESTRICT ctx, ExpectReordering value)
 {
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ExpectReordering");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ExpectReordering");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_ExpectReordering, value);
 }
 
-int asn1PE_UMTS_RFC2507_Info(rtxContext* RT_RESTRICT ctx, const RFC2507_Info* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_RFC2507_Info(rtxContext* RT_RESTRICT ctx, const RFC2507_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RFC2507-Info");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RFC2507-Info");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->f_MAX_PERIOD != 256) << 4) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->f_MAX_PERIOD != 256) << 4) |
       ((uint64_t)(pvalue->f_MAX_TIME != 5) << 3) |
       ((uint64_t)(pvalue->max_HEADER != 168) << 2) |
       ((uint64_t)(pvalue->tcp_SPACE != 15) << 1) |
       ((uint64_t)(pvalue->non_TCP_SPACE != 15) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RFC2507-Info");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RFC2507-Info");
    /* f-MAX-PERIOD */
    if (pvalue->f_MAX_PERIOD != 256) {
       if ((uint64_t)(pvalue->f_MAX_PERIOD - 1) > 65534u) {
          rtxErrAddStrParm(ctx, "f-MAX-PERIOD");
          rtxErrAddUIntParm(ctx, pvalue->f_MAX_PERIOD);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "f-MAX-PERIOD", -1, "RFC2507-Info");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "f-MAX-PERIOD", -1, "RFC2507-Info");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->f_MAX_PERIOD, 1, 65535);
-      RT_CHECK(ctx, stat, 0, "f-MAX-PERIOD", -1, "RFC2507-Info");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->f_MAX_PERIOD, 1, 65535);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "f-MAX-PERIOD", -1, "RFC2507-Info");
    }
    /* f-MAX-TIME */
    if (pvalue->f_MAX_TIME != 5) {
       if ((uint64_t)(pvalue->f_MAX_TIME - 1) > 254u) {
          rtxErrAddStrParm(ctx, "f-MAX-TIME");
          rtxErrAddUIntParm(ctx, pvalue->f_MAX_TIME);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "f-MAX-TIME", -1, "RFC2507-Info");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "f-MAX-TIME", -1, "RFC2507-Info");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->f_MAX_TIME, 1, 255);
-      RT_CHECK(ctx, stat, 0, "f-MAX-TIME", -1, "RFC2507-Info");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->f_MAX_TIME, 1, 255);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "f-MAX-TIME", -1, "RFC2507-Info");
    }
    /* max-HEADER */
    if (pvalue->max_HEADER != 168) {
       if ((uint64_t)(pvalue->max_HEADER - 60) > 65475u) {
          rtxErrAddStrParm(ctx, "max-HEADER");
          rtxErrAddUIntParm(ctx, pvalue->max_HEADER);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "max-HEADER", -1, "RFC2507-Info");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "max-HEADER", -1, "RFC2507-Info");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->max_HEADER, 60, 65535);
-      RT_CHECK(ctx, stat, 0, "max-HEADER", -1, "RFC2507-Info");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->max_HEADER, 60, 65535);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "max-HEADER", -1, "RFC2507-Info");
    }
    /* tcp-SPACE */
    if (pvalue->tcp_SPACE != 15) {
       if ((uint64_t)(pvalue->tcp_SPACE - 3) > 252u) {
          rtxErrAddStrParm(ctx, "tcp-SPACE");
          rtxErrAddUIntParm(ctx, pvalue->tcp_SPACE);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "tcp-SPACE", -1, "RFC2507-Info");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "tcp-SPACE", -1, "RFC2507-Info");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->tcp_SPACE, 3, 255);
-      RT_CHECK(ctx, stat, 0, "tcp-SPACE", -1, "RFC2507-Info");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tcp_SPACE, 3, 255);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "tcp-SPACE", -1, "RFC2507-Info");
    }
    /* non-TCP-SPACE */
    if (pvalue->non_TCP_SPACE != 15) {
       if ((uint64_t)(pvalue->non_TCP_SPACE - 3) > 65532u) {
          rtxErrAddStrParm(ctx, "non-TCP-SPACE");
          rtxErrAddUIntParm(ctx, pvalue->non_TCP_SPACE);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "non-TCP-SPACE", -1, "RFC2507-Info");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "non-TCP-SPACE", -1, "RFC2507-Info");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->non_TCP_SPACE, 3, 65535);
-      RT_CHECK(ctx, stat, 0, "non-TCP-SPACE", -1, "RFC2507-Info");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->non_TCP_SPACE, 3, 65535);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "non-TCP-SPACE", -1, "RFC2507-Info");
    }
    /* expectReordering */
    if (pvalue->expectReordering > 1) {
       rtxErrAddUIntParm(ctx, pvalue->expectReordering);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ExpectReordering", "expectReordering", -1, "RFC2507-Info");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ExpectReordering", "expectReordering", -1, "RFC2507-Info");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->expectReordering, 0, 1);
-   RT_CHECK(ctx, stat, "ExpectReordering", "expectReordering", -1, "RFC2507-Info");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->expectReordering, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "ExpectReordering", "expectReordering", -1, "RFC2507-Info");
    return 0;
 }
 
-int asn1PE_UMTS_AlgorithmSpecificInfo(rtxContext* RT_RESTRICT ctx, const AlgorithmSpecificInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RFC2507_Info(rtxContext* RT_RESTRICT ctx, const RFC2507_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RFC2507_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_AlgorithmSpecificInfo(rtxContext* RT_RESTRICT ctx, const AlgorithmSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AlgorithmSpecificInfo");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 0);
-   RT_CHECK(ctx, stat, 0, "t", -1, "AlgorithmSpecificInfo");
-   if (pvalue->t - 1 > 0) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "AlgorithmSpecificInfo");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "AlgorithmSpecificInfo");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "AlgorithmSpecificInfo");
+   if (pvalue->t - 1 > 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "AlgorithmSpecificInfo");
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.rfc2507_Info == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "rfc2507-Info", -1, "AlgorithmSpecificInfo");
-         stat = asn1PE_UMTS_RFC2507_Info(ctx, pvalue->u.rfc2507_Info);
+         if (pvalue->u.rfc2507_Info == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "rfc2507-Info", -1, "AlgorithmSpecificInfo");
+         stat = enc_RFC2507_Info(ctx, pvalue->u.rfc2507_Info, cur);
          RT_CHECK(ctx, stat, 0, "rfc2507-Info", -1, "AlgorithmSpecificInfo");
          break;
       default:
@@ -1411,302 +8475,377 @@ int asn1PE_UMTS_AlgorithmSpecificInfo(rtxContext* RT_RESTRICT ctx, const Algorit
    return 0;
 }
 
-int asn1PE_UMTS_HeaderCompressionInfo(rtxContext* RT_RESTRICT ctx, const HeaderCompressionInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_AlgorithmSpecificInfo(rtxContext* RT_RESTRICT ctx, const AlgorithmSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AlgorithmSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_HeaderCompressionInfo(rtxContext* RT_RESTRICT ctx, const HeaderCompressionInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HeaderCompressionInfo");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HeaderCompressionInfo");
    /* algorithmSpecificInfo */
-   stat = asn1PE_UMTS_AlgorithmSpecificInfo(ctx, &pvalue->algorithmSpecificInfo);
+   stat = enc_AlgorithmSpecificInfo(ctx, &pvalue->algorithmSpecificInfo, cur);
    RT_CHECK(ctx, stat, 0, "algorithmSpecificInfo", -1, "HeaderCompressionInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_HeaderCompressionInfo(rtxContext* RT_RESTRICT ctx, const HeaderCompressionInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HeaderCompressionInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_HeaderCompressionInfoList(rtxContext* RT_RESTRICT ctx, const HeaderCompressionInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HeaderCompressionInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "HeaderCompressionInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "HeaderCompressionInfo", (int32_t)i, "HeaderCompressionInfoList");
+      stat = enc_HeaderCompressionInfo(ctx, (const HeaderCompressionInfo*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "HeaderCompressionInfo", (int32_t)i, "HeaderCompressionInfoList");
+   }
    return 0;
 }
 
 int asn1PE_UMTS_HeaderCompressionInfoList(rtxContext* RT_RESTRICT ctx, const HeaderCompressionInfoList* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_HeaderCompressionInfoList, pvalue);
+}
+
+static int enc_PDCP_Info(rtxContext* RT_RESTRICT ctx, const PDCP_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HeaderCompressionInfoList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "HeaderCompressionInfoList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "HeaderCompressionInfo", (int32_t)i, "HeaderCompressionInfoList");
-      stat = asn1PE_UMTS_HeaderCompressionInfo(ctx, (const HeaderCompressionInfo*)node->data);
-      RT_CHECK(ctx, stat, 0, "HeaderCompressionInfo", (int32_t)i, "HeaderCompressionInfoList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PDCP-Info");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PDCP-Info");
+   /* losslessSRNS-RelocSupport */
+   if (pvalue->m & 0x1u) {
+      stat = enc_LosslessSRNS_RelocSupport(ctx, &pvalue->losslessSRNS_RelocSupport, cur);
+      RT_CHECK(ctx, stat, 0, "losslessSRNS-RelocSupport", -1, "PDCP-Info");
+   }
+   /* pdcp-PDU-Header */
+   if (pvalue->pdcp_PDU_Header > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->pdcp_PDU_Header);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PDCP-PDU-Header", "pdcp-PDU-Header", -1, "PDCP-Info");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pdcp_PDU_Header, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "PDCP-PDU-Header", "pdcp-PDU-Header", -1, "PDCP-Info");
+   /* headerCompressionInfoList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_HeaderCompressionInfoList(ctx, &pvalue->headerCompressionInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "headerCompressionInfoList", -1, "PDCP-Info");
    }
    return 0;
 }
 
 int asn1PE_UMTS_PDCP_Info(rtxContext* RT_RESTRICT ctx, const PDCP_Info* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_PDCP_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_InformationSetup(rtxContext* RT_RESTRICT ctx, const RB_InformationSetup* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDCP-Info");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationSetup");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDCP-Info");
-   /* losslessSRNS-RelocSupport */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RB-InformationSetup");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->rb_Identity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup");
+   /* pdcp-Info */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_LosslessSRNS_RelocSupport(ctx, &pvalue->losslessSRNS_RelocSupport);
-      RT_CHECK(ctx, stat, 0, "losslessSRNS-RelocSupport", -1, "PDCP-Info");
+      stat = enc_PDCP_Info(ctx, &pvalue->pdcp_Info, cur);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationSetup");
    }
-   /* pdcp-PDU-Header */
-   if (pvalue->pdcp_PDU_Header > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->pdcp_PDU_Header);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PDCP-PDU-Header", "pdcp-PDU-Header", -1, "PDCP-Info");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pdcp_PDU_Header, 0, 1);
-   RT_CHECK(ctx, stat, "PDCP-PDU-Header", "pdcp-PDU-Header", -1, "PDCP-Info");
-   /* headerCompressionInfoList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_HeaderCompressionInfoList(ctx, &pvalue->headerCompressionInfoList);
-      RT_CHECK(ctx, stat, 0, "headerCompressionInfoList", -1, "PDCP-Info");
-   }
+   /* rlc-InfoChoice */
+   stat = enc_RLC_InfoChoice(ctx, &pvalue->rlc_InfoChoice, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "RB-InformationSetup");
+   /* rb-MappingInfo */
+   stat = enc_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo, cur);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationSetup");
    return 0;
 }
 
 int asn1PE_UMTS_RB_InformationSetup(rtxContext* RT_RESTRICT ctx, const RB_InformationSetup* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationSetup");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationSetup");
-   /* rb-Identity */
-   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "RB-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup");
-   /* pdcp-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PDCP_Info(ctx, &pvalue->pdcp_Info);
-      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationSetup");
-   }
-   /* rlc-InfoChoice */
-   stat = asn1PE_UMTS_RLC_InfoChoice(ctx, &pvalue->rlc_InfoChoice);
-   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "RB-InformationSetup");
-   /* rb-MappingInfo */
-   stat = asn1PE_UMTS_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo);
-   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationSetup");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_RB_InformationSetup, pvalue);
 }
 
-int asn1PE_UMTS_RB_InformationSetupList(rtxContext* RT_RESTRICT ctx, const RB_InformationSetupList* RT_RESTRICT pvalue)
+static int enc_RB_InformationSetupList(rtxContext* RT_RESTRICT ctx, const RB_InformationSetupList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationSetupList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationSetupList");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-InformationSetupList");
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RB-InformationSetupList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-InformationSetup", (int32_t)i, "RB-InformationSetupList");
-      stat = asn1PE_UMTS_RB_InformationSetup(ctx, (const RB_InformationSetup*)node->data);
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RB-InformationSetup", (int32_t)i, "RB-InformationSetupList");
+      stat = enc_RB_InformationSetup(ctx, (const RB_InformationSetup*)node->data, cur);
       RT_CHECK(ctx, stat, 0, "RB-InformationSetup", (int32_t)i, "RB-InformationSetupList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_PredefinedRB_Configuration(rtxContext* RT_RESTRICT ctx, const PredefinedRB_Configuration* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RB_InformationSetupList(rtxContext* RT_RESTRICT ctx, const RB_InformationSetupList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_InformationSetupList, pvalue);
+}
+
+RT_MERGED_BODY int enc_PredefinedRB_Configuration(rtxContext* RT_RESTRICT ctx, const PredefinedRB_Configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PredefinedRB-Configuration");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PredefinedRB-Configuration");
    /* re-EstablishmentTimer */
    if (pvalue->re_EstablishmentTimer > 1) {
       rtxErrAddUIntParm(ctx, pvalue->re_EstablishmentTimer);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "Re-EstablishmentTimer", "re-EstablishmentTimer", -1, "PredefinedRB-Configuration");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "Re-EstablishmentTimer", "re-EstablishmentTimer", -1, "PredefinedRB-Configuration");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->re_EstablishmentTimer, 0, 1);
-   RT_CHECK(ctx, stat, "Re-EstablishmentTimer", "re-EstablishmentTimer", -1, "PredefinedRB-Configuration");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->re_EstablishmentTimer, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "Re-EstablishmentTimer", "re-EstablishmentTimer", -1, "PredefinedRB-Configuration");
    /* srb-InformationList */
-   stat = asn1PE_UMTS_SRB_InformationSetupList(ctx, &pvalue->srb_InformationList);
+   stat = enc_SRB_InformationSetupList(ctx, &pvalue->srb_InformationList, cur);
    RT_CHECK(ctx, stat, 0, "srb-InformationList", -1, "PredefinedRB-Configuration");
    /* rb-InformationList */
-   stat = asn1PE_UMTS_RB_InformationSetupList(ctx, &pvalue->rb_InformationList);
+   stat = enc_RB_InformationSetupList(ctx, &pvalue->rb_InformationList, cur);
    RT_CHECK(ctx, stat, 0, "rb-InformationList", -1, "PredefinedRB-Configuration");
    return 0;
 }
 
-int asn1PE_UMTS_TFC_Value(rtxContext* RT_RESTRICT ctx, TFC_Value value)
+int asn1PE_UMTS_PredefinedRB_Configuration(rtxContext* RT_RESTRICT ctx, const PredefinedRB_Configuration* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PredefinedRB_Configuration, pvalue);
+}
+
+RT_MERGED_BODY int enc_TFC_Value(rtxContext* RT_RESTRICT ctx, TFC_Value value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)value > 1023u) {
       rtxErrAddStrParm(ctx, "TFC-Value");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TFC-Value");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "TFC-Value");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 1023);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TFC-Value");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1023);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TFC-Value");
+   return 0;
+}
+
+int asn1PE_UMTS_TFC_Value(rtxContext* RT_RESTRICT ctx, TFC_Value value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TFC_Value, value);
+}
+
+RT_MERGED_BODY int enc_AllowedTFC_List(rtxContext* RT_RESTRICT ctx, const AllowedTFC_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "AllowedTFC-List");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 1024);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "AllowedTFC-List");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 1023u) {
+         rtxErrAddStrParm(ctx, "TFC-Value");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TFC-Value", "TFC-Value", (int32_t)i, "AllowedTFC-List");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 1023);
+      RT_CHECK_PUT(ctx, cur, stat, "TFC-Value", "TFC-Value", (int32_t)i, "AllowedTFC-List");
+   }
    return 0;
 }
 
 int asn1PE_UMTS_AllowedTFC_List(rtxContext* RT_RESTRICT ctx, const AllowedTFC_List* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_AllowedTFC_List, pvalue);
+}
+
+RT_MERGED_BODY int enc_Non_allowedTFC_List(rtxContext* RT_RESTRICT ctx, const Non_allowedTFC_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AllowedTFC-List");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Non-allowedTFC-List");
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 1024);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "AllowedTFC-List");
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "Non-allowedTFC-List");
    for (i = 0; i < pvalue->n; i++) {
       if ((uint64_t)pvalue->elem[i] > 1023u) {
          rtxErrAddStrParm(ctx, "TFC-Value");
          rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TFC-Value", "TFC-Value", (int32_t)i, "AllowedTFC-List");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TFC-Value", "TFC-Value", (int32_t)i, "Non-allowedTFC-List");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 1023);
-      RT_CHECK(ctx, stat, "TFC-Value", "TFC-Value", (int32_t)i, "AllowedTFC-List");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 1023);
+      RT_CHECK_PUT(ctx, cur, stat, "TFC-Value", "TFC-Value", (int32_t)i, "Non-allowedTFC-List");
    }
    return 0;
 }
 
 int asn1PE_UMTS_Non_allowedTFC_List(rtxContext* RT_RESTRICT ctx, const Non_allowedTFC_List* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_Non_allowedTFC_List, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_TrCH_Type(rtxContext* RT_RESTRICT ctx, UL_TrCH_Type value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Non-allowedTFC-List");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 1024);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "Non-allowedTFC-List");
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)pvalue->elem[i] > 1023u) {
-         rtxErrAddStrParm(ctx, "TFC-Value");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TFC-Value", "TFC-Value", (int32_t)i, "Non-allowedTFC-List");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 1023);
-      RT_CHECK(ctx, stat, "TFC-Value", "TFC-Value", (int32_t)i, "Non-allowedTFC-List");
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "UL-TrCH-Type");
    }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UL-TrCH-Type");
    return 0;
 }
 
 int asn1PE_UMTS_UL_TrCH_Type(rtxContext* RT_RESTRICT ctx, UL_TrCH_Type value)
 {
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UL-TrCH-Type");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-TrCH-Type");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_UL_TrCH_Type, value);
 }
 
-int asn1PE_UMTS_AllowedTFI_List_element(rtxContext* RT_RESTRICT ctx, AllowedTFI_List_element value)
+RT_MERGED_BODY int enc_AllowedTFI_List_element(rtxContext* RT_RESTRICT ctx, AllowedTFI_List_element value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)value > 31u) {
       rtxErrAddStrParm(ctx, 0);
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_AllowedTFI_List_element(rtxContext* RT_RESTRICT ctx, AllowedTFI_List_element value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AllowedTFI_List_element, value);
+}
+
+RT_MERGED_BODY int enc_AllowedTFI_List(rtxContext* RT_RESTRICT ctx, const AllowedTFI_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "AllowedTFI-List");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "AllowedTFI-List");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 31u) {
+         rtxErrAddStrParm(ctx, "element");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "element", (int32_t)i, "AllowedTFI-List");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 31);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "element", (int32_t)i, "AllowedTFI-List");
+   }
    return 0;
 }
 
 int asn1PE_UMTS_AllowedTFI_List(rtxContext* RT_RESTRICT ctx, const AllowedTFI_List* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_AllowedTFI_List, pvalue);
+}
+
+RT_MERGED_BODY int enc_RestrictedTrChInfo(rtxContext* RT_RESTRICT ctx, const RestrictedTrChInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AllowedTFI-List");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "AllowedTFI-List");
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)pvalue->elem[i] > 31u) {
-         rtxErrAddStrParm(ctx, "element");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "element", (int32_t)i, "AllowedTFI-List");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 31);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "AllowedTFI-List");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RestrictedTrChInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RestrictedTrChInfo");
+   /* ul-TransportChannelType */
+   if (pvalue->ul_TransportChannelType > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->ul_TransportChannelType);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UL-TrCH-Type", "ul-TransportChannelType", -1, "RestrictedTrChInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ul_TransportChannelType, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, "RestrictedTrChInfo");
+   /* restrictedTrChIdentity */
+   if ((uint64_t)(pvalue->restrictedTrChIdentity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->restrictedTrChIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportChannelIdentity", "restrictedTrChIdentity", -1, "RestrictedTrChInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->restrictedTrChIdentity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "TransportChannelIdentity", "restrictedTrChIdentity", -1, "RestrictedTrChInfo");
+   /* allowedTFI-List */
+   if (pvalue->m & 0x1u) {
+      stat = enc_AllowedTFI_List(ctx, &pvalue->allowedTFI_List, cur);
+      RT_CHECK(ctx, stat, 0, "allowedTFI-List", -1, "RestrictedTrChInfo");
    }
    return 0;
 }
 
 int asn1PE_UMTS_RestrictedTrChInfo(rtxContext* RT_RESTRICT ctx, const RestrictedTrChInfo* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_RestrictedTrChInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_RestrictedTrChInfoList(rtxContext* RT_RESTRICT ctx, const RestrictedTrChInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RestrictedTrChInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RestrictedTrChInfo");
-   /* ul-TransportChannelType */
-   if (pvalue->ul_TransportChannelType > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->ul_TransportChannelType);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UL-TrCH-Type", "ul-TransportChannelType", -1, "RestrictedTrChInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ul_TransportChannelType, 0, 1);
-   RT_CHECK(ctx, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, "RestrictedTrChInfo");
-   /* restrictedTrChIdentity */
-   if ((uint64_t)(pvalue->restrictedTrChIdentity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->restrictedTrChIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "restrictedTrChIdentity", -1, "RestrictedTrChInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->restrictedTrChIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "restrictedTrChIdentity", -1, "RestrictedTrChInfo");
-   /* allowedTFI-List */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_AllowedTFI_List(ctx, &pvalue->allowedTFI_List);
-      RT_CHECK(ctx, stat, 0, "allowedTFI-List", -1, "RestrictedTrChInfo");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RestrictedTrChInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RestrictedTrChInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RestrictedTrChInfo", (int32_t)i, "RestrictedTrChInfoList");
+      stat = enc_RestrictedTrChInfo(ctx, (const RestrictedTrChInfo*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RestrictedTrChInfo", (int32_t)i, "RestrictedTrChInfoList");
    }
    return 0;
 }
 
 int asn1PE_UMTS_RestrictedTrChInfoList(rtxContext* RT_RESTRICT ctx, const RestrictedTrChInfoList* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RestrictedTrChInfoList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RestrictedTrChInfoList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RestrictedTrChInfo", (int32_t)i, "RestrictedTrChInfoList");
-      stat = asn1PE_UMTS_RestrictedTrChInfo(ctx, (const RestrictedTrChInfo*)node->data);
-      RT_CHECK(ctx, stat, 0, "RestrictedTrChInfo", (int32_t)i, "RestrictedTrChInfoList");
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_RestrictedTrChInfoList, pvalue);
 }
 
-int asn1PE_UMTS_TFC_Subset(rtxContext* RT_RESTRICT ctx, const TFC_Subset* RT_RESTRICT pvalue)
+static int enc_TFC_Subset(rtxContext* RT_RESTRICT ctx, const TFC_Subset* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TFC-Subset");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 4);
-   RT_CHECK(ctx, stat, 0, "t", -1, "TFC-Subset");
-   if (pvalue->t - 1 > 4) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TFC-Subset");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TFC-Subset");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "TFC-Subset");
+   if (pvalue->t - 1 > 4) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "TFC-Subset");
    switch (pvalue->t) {
       case 1:
          if ((uint64_t)pvalue->u.minimumAllowedTFC_Number > 1023u) {
             rtxErrAddStrParm(ctx, "TFC-Value");
             rtxErrAddUIntParm(ctx, pvalue->u.minimumAllowedTFC_Number);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "TFC-Value", "minimumAllowedTFC-Number", -1, "TFC-Subset");
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TFC-Value", "minimumAllowedTFC-Number", -1, "TFC-Subset");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.minimumAllowedTFC_Number, 0, 1023);
-         RT_CHECK(ctx, stat, "TFC-Value", "minimumAllowedTFC-Number", -1, "TFC-Subset");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.minimumAllowedTFC_Number, 0, 1023);
+         RT_CHECK_PUT(ctx, cur, stat, "TFC-Value", "minimumAllowedTFC-Number", -1, "TFC-Subset");
          break;
       case 2:
-         if (pvalue->u.allowedTFC_List == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "allowedTFC-List", -1, "TFC-Subset");
-         stat = asn1PE_UMTS_AllowedTFC_List(ctx, pvalue->u.allowedTFC_List);
+         if (pvalue->u.allowedTFC_List == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "allowedTFC-List", -1, "TFC-Subset");
+         stat = enc_AllowedTFC_List(ctx, pvalue->u.allowedTFC_List, cur);
          RT_CHECK(ctx, stat, 0, "allowedTFC-List", -1, "TFC-Subset");
          break;
       case 3:
-         if (pvalue->u.non_allowedTFC_List == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "non-allowedTFC-List", -1, "TFC-Subset");
-         stat = asn1PE_UMTS_Non_allowedTFC_List(ctx, pvalue->u.non_allowedTFC_List);
+         if (pvalue->u.non_allowedTFC_List == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "non-allowedTFC-List", -1, "TFC-Subset");
+         stat = enc_Non_allowedTFC_List(ctx, pvalue->u.non_allowedTFC_List, cur);
          RT_CHECK(ctx, stat, 0, "non-allowedTFC-List", -1, "TFC-Subset");
          break;
       case 4:
-         if (pvalue->u.restrictedTrChInfoList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "restrictedTrChInfoList", -1, "TFC-Subset");
-         stat = asn1PE_UMTS_RestrictedTrChInfoList(ctx, pvalue->u.restrictedTrChInfoList);
+         if (pvalue->u.restrictedTrChInfoList == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "restrictedTrChInfoList", -1, "TFC-Subset");
+         stat = enc_RestrictedTrChInfoList(ctx, pvalue->u.restrictedTrChInfoList, cur);
          RT_CHECK(ctx, stat, 0, "restrictedTrChInfoList", -1, "TFC-Subset");
          break;
       case 5:
@@ -1717,103 +8856,133 @@ int asn1PE_UMTS_TFC_Subset(rtxContext* RT_RESTRICT ctx, const TFC_Subset* RT_RES
    return 0;
 }
 
-int asn1PE_UMTS_UL_CommonTransChInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_CommonTransChInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_TFC_Subset(rtxContext* RT_RESTRICT ctx, const TFC_Subset* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TFC_Subset, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_CommonTransChInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_CommonTransChInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* ul-TFCS */
-   stat = asn1PE_UMTS_TFCS(ctx, &pvalue->ul_TFCS);
+   stat = enc_TFCS(ctx, &pvalue->ul_TFCS, cur);
    RT_CHECK(ctx, stat, 0, "ul-TFCS", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_TFCS_Identity(rtxContext* RT_RESTRICT ctx, const TFCS_Identity* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UL_CommonTransChInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_CommonTransChInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_CommonTransChInfo_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_TFCS_Identity(rtxContext* RT_RESTRICT ctx, const TFCS_Identity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TFCS-Identity");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TFCS-Identity");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TFCS-Identity");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->tfcs_ID != 1) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TFCS-Identity");
    /* tfcs-ID */
    if (pvalue->tfcs_ID != 1) {
       if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
          rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
          rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "TFCS-Identity");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "TFCS-Identity");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "TFCS-Identity");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "TFCS-Identity");
    }
    /* sharedChannelIndicator */
-   stat = rtxEncBit(ctx, pvalue->sharedChannelIndicator);
-   RT_CHECK(ctx, stat, 0, "sharedChannelIndicator", -1, "TFCS-Identity");
+   stat = rtxEncBitAt(ctx, cur, pvalue->sharedChannelIndicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sharedChannelIndicator", -1, "TFCS-Identity");
+   return 0;
+}
+
+int asn1PE_UMTS_TFCS_Identity(rtxContext* RT_RESTRICT ctx, const TFCS_Identity* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TFCS_Identity, pvalue);
+}
+
+RT_MERGED_BODY int enc_IndividualUL_CCTrCH_Info(rtxContext* RT_RESTRICT ctx, const IndividualUL_CCTrCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IndividualUL-CCTrCH-Info");
+   /* ul-TFCS-Identity */
+   stat = enc_TFCS_Identity(ctx, &pvalue->ul_TFCS_Identity, cur);
+   RT_CHECK(ctx, stat, 0, "ul-TFCS-Identity", -1, "IndividualUL-CCTrCH-Info");
+   /* ul-TFCS */
+   stat = enc_TFCS(ctx, &pvalue->ul_TFCS, cur);
+   RT_CHECK(ctx, stat, 0, "ul-TFCS", -1, "IndividualUL-CCTrCH-Info");
+   /* tfc-Subset */
+   stat = enc_TFC_Subset(ctx, &pvalue->tfc_Subset, cur);
+   RT_CHECK(ctx, stat, 0, "tfc-Subset", -1, "IndividualUL-CCTrCH-Info");
    return 0;
 }
 
 int asn1PE_UMTS_IndividualUL_CCTrCH_Info(rtxContext* RT_RESTRICT ctx, const IndividualUL_CCTrCH_Info* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_IndividualUL_CCTrCH_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_IndividualUL_CCTrCH_InfoList(rtxContext* RT_RESTRICT ctx, const IndividualUL_CCTrCH_InfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IndividualUL-CCTrCH-Info");
-   /* ul-TFCS-Identity */
-   stat = asn1PE_UMTS_TFCS_Identity(ctx, &pvalue->ul_TFCS_Identity);
-   RT_CHECK(ctx, stat, 0, "ul-TFCS-Identity", -1, "IndividualUL-CCTrCH-Info");
-   /* ul-TFCS */
-   stat = asn1PE_UMTS_TFCS(ctx, &pvalue->ul_TFCS);
-   RT_CHECK(ctx, stat, 0, "ul-TFCS", -1, "IndividualUL-CCTrCH-Info");
-   /* tfc-Subset */
-   stat = asn1PE_UMTS_TFC_Subset(ctx, &pvalue->tfc_Subset);
-   RT_CHECK(ctx, stat, 0, "tfc-Subset", -1, "IndividualUL-CCTrCH-Info");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IndividualUL-CCTrCH-InfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "IndividualUL-CCTrCH-InfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "IndividualUL-CCTrCH-Info", (int32_t)i, "IndividualUL-CCTrCH-InfoList");
+      stat = enc_IndividualUL_CCTrCH_Info(ctx, (const IndividualUL_CCTrCH_Info*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "IndividualUL-CCTrCH-Info", (int32_t)i, "IndividualUL-CCTrCH-InfoList");
+   }
    return 0;
 }
 
 int asn1PE_UMTS_IndividualUL_CCTrCH_InfoList(rtxContext* RT_RESTRICT ctx, const IndividualUL_CCTrCH_InfoList* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_IndividualUL_CCTrCH_InfoList, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_CommonTransChInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_CommonTransChInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IndividualUL-CCTrCH-InfoList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "IndividualUL-CCTrCH-InfoList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "IndividualUL-CCTrCH-Info", (int32_t)i, "IndividualUL-CCTrCH-InfoList");
-      stat = asn1PE_UMTS_IndividualUL_CCTrCH_Info(ctx, (const IndividualUL_CCTrCH_Info*)node->data);
-      RT_CHECK(ctx, stat, 0, "IndividualUL-CCTrCH-Info", (int32_t)i, "IndividualUL-CCTrCH-InfoList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* individualUL-CCTrCH-InfoList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_IndividualUL_CCTrCH_InfoList(ctx, &pvalue->individualUL_CCTrCH_InfoList, cur);
+      RT_CHECK(ctx, stat, 0, "individualUL-CCTrCH-InfoList", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_UL_CommonTransChInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_CommonTransChInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* individualUL-CCTrCH-InfoList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IndividualUL_CCTrCH_InfoList(ctx, &pvalue->individualUL_CCTrCH_InfoList);
-      RT_CHECK(ctx, stat, 0, "individualUL-CCTrCH-InfoList", -1, 0);
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_UL_CommonTransChInfo_modeSpecificInfo_tdd, pvalue);
 }
 
-int asn1PE_UMTS_UL_CommonTransChInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_CommonTransChInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_UL_CommonTransChInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_CommonTransChInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_UL_CommonTransChInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_UL_CommonTransChInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
          RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_UL_CommonTransChInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_UL_CommonTransChInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
          RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
@@ -1822,86 +8991,106 @@ int asn1PE_UMTS_UL_CommonTransChInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ct
    return 0;
 }
 
-int asn1PE_UMTS_UL_CommonTransChInfo(rtxContext* RT_RESTRICT ctx, const UL_CommonTransChInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UL_CommonTransChInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_CommonTransChInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_CommonTransChInfo_modeSpecificInfo, pvalue);
+}
+
+static int enc_UL_CommonTransChInfo(rtxContext* RT_RESTRICT ctx, const UL_CommonTransChInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-CommonTransChInfo");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-CommonTransChInfo");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-CommonTransChInfo");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UL-CommonTransChInfo");
    /* tfc-Subset */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_TFC_Subset(ctx, &pvalue->tfc_Subset);
+      stat = enc_TFC_Subset(ctx, &pvalue->tfc_Subset, cur);
       RT_CHECK(ctx, stat, 0, "tfc-Subset", -1, "UL-CommonTransChInfo");
    }
    /* prach-TFCS */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_TFCS(ctx, &pvalue->prach_TFCS);
+      stat = enc_TFCS(ctx, &pvalue->prach_TFCS, cur);
       RT_CHECK(ctx, stat, 0, "prach-TFCS", -1, "UL-CommonTransChInfo");
    }
    /* modeSpecificInfo */
    if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_UL_CommonTransChInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+      stat = enc_UL_CommonTransChInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
       RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-CommonTransChInfo");
    }
    return 0;
 }
 
-int asn1PE_UMTS_UL_AddReconfTransChInformation(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UL_CommonTransChInfo(rtxContext* RT_RESTRICT ctx, const UL_CommonTransChInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_CommonTransChInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_AddReconfTransChInformation(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-AddReconfTransChInformation");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-AddReconfTransChInformation");
    /* ul-TransportChannelType */
    if (pvalue->ul_TransportChannelType > 1) {
       rtxErrAddUIntParm(ctx, pvalue->ul_TransportChannelType);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UL-TrCH-Type", "ul-TransportChannelType", -1, "UL-AddReconfTransChInformation");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UL-TrCH-Type", "ul-TransportChannelType", -1, "UL-AddReconfTransChInformation");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->ul_TransportChannelType, 0, 1);
-   RT_CHECK(ctx, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, "UL-AddReconfTransChInformation");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ul_TransportChannelType, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, "UL-AddReconfTransChInformation");
    /* transportChannelIdentity */
    if ((uint64_t)(pvalue->transportChannelIdentity - 1) > 31u) {
       rtxErrAddStrParm(ctx, "TransportChannelIdentity");
       rtxErrAddUIntParm(ctx, pvalue->transportChannelIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "transportChannelIdentity", -1, "UL-AddReconfTransChInformation");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportChannelIdentity", "transportChannelIdentity", -1, "UL-AddReconfTransChInformation");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->transportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, "UL-AddReconfTransChInformation");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->transportChannelIdentity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, "UL-AddReconfTransChInformation");
    /* transportFormatSet */
-   stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->transportFormatSet);
+   stat = enc_TransportFormatSet(ctx, &pvalue->transportFormatSet, cur);
    RT_CHECK(ctx, stat, 0, "transportFormatSet", -1, "UL-AddReconfTransChInformation");
    return 0;
 }
 
-int asn1PE_UMTS_UL_AddReconfTransChInfoList(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInfoList* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UL_AddReconfTransChInformation(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_AddReconfTransChInformation, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_AddReconfTransChInfoList(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-AddReconfTransChInfoList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-AddReconfTransChInfoList");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UL-AddReconfTransChInfoList");
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "UL-AddReconfTransChInfoList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UL-AddReconfTransChInformation", (int32_t)i, "UL-AddReconfTransChInfoList");
-      stat = asn1PE_UMTS_UL_AddReconfTransChInformation(ctx, (const UL_AddReconfTransChInformation*)node->data);
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "UL-AddReconfTransChInformation", (int32_t)i, "UL-AddReconfTransChInfoList");
+      stat = enc_UL_AddReconfTransChInformation(ctx, (const UL_AddReconfTransChInformation*)node->data, cur);
       RT_CHECK(ctx, stat, 0, "UL-AddReconfTransChInformation", (int32_t)i, "UL-AddReconfTransChInfoList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_DL_CommonTransChInfo_modeSpecificInfo_fdd_dl_Parameters(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_modeSpecificInfo_fdd_dl_Parameters* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UL_AddReconfTransChInfoList(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInfoList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_AddReconfTransChInfoList, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonTransChInfo_modeSpecificInfo_fdd_dl_Parameters(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_modeSpecificInfo_fdd_dl_Parameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.dl_DCH_TFCS == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-DCH-TFCS", -1, 0);
-         stat = asn1PE_UMTS_TFCS(ctx, pvalue->u.dl_DCH_TFCS);
+         if (pvalue->u.dl_DCH_TFCS == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dl-DCH-TFCS", -1, 0);
+         stat = enc_TFCS(ctx, pvalue->u.dl_DCH_TFCS, cur);
          RT_CHECK(ctx, stat, 0, "dl-DCH-TFCS", -1, 0);
          break;
       case 2:
@@ -1912,37 +9101,47 @@ int asn1PE_UMTS_DL_CommonTransChInfo_modeSpecificInfo_fdd_dl_Parameters(rtxConte
    return 0;
 }
 
-int asn1PE_UMTS_DL_CommonTransChInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_CommonTransChInfo_modeSpecificInfo_fdd_dl_Parameters(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_modeSpecificInfo_fdd_dl_Parameters* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonTransChInfo_modeSpecificInfo_fdd_dl_Parameters, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonTransChInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    /* dl-Parameters */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_CommonTransChInfo_modeSpecificInfo_fdd_dl_Parameters(ctx, &pvalue->dl_Parameters);
+      stat = enc_DL_CommonTransChInfo_modeSpecificInfo_fdd_dl_Parameters(ctx, &pvalue->dl_Parameters, cur);
       RT_CHECK(ctx, stat, 0, "dl-Parameters", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_IndividualDL_CCTrCH_Info_tfcs_SignallingMode(rtxContext* RT_RESTRICT ctx, const IndividualDL_CCTrCH_Info_tfcs_SignallingMode* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_CommonTransChInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonTransChInfo_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_IndividualDL_CCTrCH_Info_tfcs_SignallingMode(rtxContext* RT_RESTRICT ctx, const IndividualDL_CCTrCH_Info_tfcs_SignallingMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.explicit_config == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "explicit-config", -1, 0);
-         stat = asn1PE_UMTS_TFCS(ctx, pvalue->u.explicit_config);
+         if (pvalue->u.explicit_config == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "explicit-config", -1, 0);
+         stat = enc_TFCS(ctx, pvalue->u.explicit_config, cur);
          RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
          break;
       case 2:
-         if (pvalue->u.sameAsUL == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sameAsUL", -1, 0);
-         stat = asn1PE_UMTS_TFCS_Identity(ctx, pvalue->u.sameAsUL);
+         if (pvalue->u.sameAsUL == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "sameAsUL", -1, 0);
+         stat = enc_TFCS_Identity(ctx, pvalue->u.sameAsUL, cur);
          RT_CHECK(ctx, stat, 0, "sameAsUL", -1, 0);
          break;
       default:
@@ -1951,67 +9150,87 @@ int asn1PE_UMTS_IndividualDL_CCTrCH_Info_tfcs_SignallingMode(rtxContext* RT_REST
    return 0;
 }
 
-int asn1PE_UMTS_IndividualDL_CCTrCH_Info(rtxContext* RT_RESTRICT ctx, const IndividualDL_CCTrCH_Info* RT_RESTRICT pvalue)
+int asn1PE_UMTS_IndividualDL_CCTrCH_Info_tfcs_SignallingMode(rtxContext* RT_RESTRICT ctx, const IndividualDL_CCTrCH_Info_tfcs_SignallingMode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IndividualDL_CCTrCH_Info_tfcs_SignallingMode, pvalue);
+}
+
+RT_MERGED_BODY int enc_IndividualDL_CCTrCH_Info(rtxContext* RT_RESTRICT ctx, const IndividualDL_CCTrCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IndividualDL-CCTrCH-Info");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IndividualDL-CCTrCH-Info");
    /* dl-TFCS-Identity */
-   stat = asn1PE_UMTS_TFCS_Identity(ctx, &pvalue->dl_TFCS_Identity);
+   stat = enc_TFCS_Identity(ctx, &pvalue->dl_TFCS_Identity, cur);
    RT_CHECK(ctx, stat, 0, "dl-TFCS-Identity", -1, "IndividualDL-CCTrCH-Info");
    /* tfcs-SignallingMode */
-   stat = asn1PE_UMTS_IndividualDL_CCTrCH_Info_tfcs_SignallingMode(ctx, &pvalue->tfcs_SignallingMode);
+   stat = enc_IndividualDL_CCTrCH_Info_tfcs_SignallingMode(ctx, &pvalue->tfcs_SignallingMode, cur);
    RT_CHECK(ctx, stat, 0, "tfcs-SignallingMode", -1, "IndividualDL-CCTrCH-Info");
+   return 0;
+}
+
+int asn1PE_UMTS_IndividualDL_CCTrCH_Info(rtxContext* RT_RESTRICT ctx, const IndividualDL_CCTrCH_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IndividualDL_CCTrCH_Info, pvalue);
+}
+
+static int enc_IndividualDL_CCTrCH_InfoList(rtxContext* RT_RESTRICT ctx, const IndividualDL_CCTrCH_InfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IndividualDL-CCTrCH-InfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "IndividualDL-CCTrCH-InfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "IndividualDL-CCTrCH-Info", (int32_t)i, "IndividualDL-CCTrCH-InfoList");
+      stat = enc_IndividualDL_CCTrCH_Info(ctx, (const IndividualDL_CCTrCH_Info*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "IndividualDL-CCTrCH-Info", (int32_t)i, "IndividualDL-CCTrCH-InfoList");
+   }
    return 0;
 }
 
 int asn1PE_UMTS_IndividualDL_CCTrCH_InfoList(rtxContext* RT_RESTRICT ctx, const IndividualDL_CCTrCH_InfoList* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_IndividualDL_CCTrCH_InfoList, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonTransChInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IndividualDL-CCTrCH-InfoList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "IndividualDL-CCTrCH-InfoList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "IndividualDL-CCTrCH-Info", (int32_t)i, "IndividualDL-CCTrCH-InfoList");
-      stat = asn1PE_UMTS_IndividualDL_CCTrCH_Info(ctx, (const IndividualDL_CCTrCH_Info*)node->data);
-      RT_CHECK(ctx, stat, 0, "IndividualDL-CCTrCH-Info", (int32_t)i, "IndividualDL-CCTrCH-InfoList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* individualDL-CCTrCH-InfoList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_IndividualDL_CCTrCH_InfoList(ctx, &pvalue->individualDL_CCTrCH_InfoList, cur);
+      RT_CHECK(ctx, stat, 0, "individualDL-CCTrCH-InfoList", -1, 0);
    }
    return 0;
 }
 
 int asn1PE_UMTS_DL_CommonTransChInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* individualDL-CCTrCH-InfoList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IndividualDL_CCTrCH_InfoList(ctx, &pvalue->individualDL_CCTrCH_InfoList);
-      RT_CHECK(ctx, stat, 0, "individualDL-CCTrCH-InfoList", -1, 0);
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonTransChInfo_modeSpecificInfo_tdd, pvalue);
 }
 
-int asn1PE_UMTS_DL_CommonTransChInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_DL_CommonTransChInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_DL_CommonTransChInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_DL_CommonTransChInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
          RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_DL_CommonTransChInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_DL_CommonTransChInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
          RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
@@ -2020,74 +9239,94 @@ int asn1PE_UMTS_DL_CommonTransChInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ct
    return 0;
 }
 
-int asn1PE_UMTS_DL_CommonTransChInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_CommonTransChInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonTransChInfo_modeSpecificInfo, pvalue);
+}
+
+static int enc_DL_CommonTransChInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-CommonTransChInfo");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-CommonTransChInfo");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CommonTransChInfo");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-CommonTransChInfo");
    /* sccpch-TFCS */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_TFCS(ctx, &pvalue->sccpch_TFCS);
+      stat = enc_TFCS(ctx, &pvalue->sccpch_TFCS, cur);
       RT_CHECK(ctx, stat, 0, "sccpch-TFCS", -1, "DL-CommonTransChInfo");
    }
    /* modeSpecificInfo */
-   stat = asn1PE_UMTS_DL_CommonTransChInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   stat = enc_DL_CommonTransChInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
    RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonTransChInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonTransChInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonTransChInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_TrCH_Type(rtxContext* RT_RESTRICT ctx, DL_TrCH_Type value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "DL-TrCH-Type");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-TrCH-Type");
    return 0;
 }
 
 int asn1PE_UMTS_DL_TrCH_Type(rtxContext* RT_RESTRICT ctx, DL_TrCH_Type value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_DL_TrCH_Type, value);
+}
+
+RT_MERGED_BODY int enc_UL_TransportChannelIdentity(rtxContext* RT_RESTRICT ctx, const UL_TransportChannelIdentity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "DL-TrCH-Type");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-TransportChannelIdentity");
+   /* ul-TransportChannelType */
+   if (pvalue->ul_TransportChannelType > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->ul_TransportChannelType);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UL-TrCH-Type", "ul-TransportChannelType", -1, "UL-TransportChannelIdentity");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-TrCH-Type");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ul_TransportChannelType, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, "UL-TransportChannelIdentity");
+   /* ul-TransportChannelIdentity */
+   if ((uint64_t)(pvalue->ul_TransportChannelIdentity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->ul_TransportChannelIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportChannelIdentity", "ul-TransportChannelIdentity", -1, "UL-TransportChannelIdentity");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ul_TransportChannelIdentity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "TransportChannelIdentity", "ul-TransportChannelIdentity", -1, "UL-TransportChannelIdentity");
    return 0;
 }
 
 int asn1PE_UMTS_UL_TransportChannelIdentity(rtxContext* RT_RESTRICT ctx, const UL_TransportChannelIdentity* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-TransportChannelIdentity");
-   /* ul-TransportChannelType */
-   if (pvalue->ul_TransportChannelType > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->ul_TransportChannelType);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UL-TrCH-Type", "ul-TransportChannelType", -1, "UL-TransportChannelIdentity");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ul_TransportChannelType, 0, 1);
-   RT_CHECK(ctx, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, "UL-TransportChannelIdentity");
-   /* ul-TransportChannelIdentity */
-   if ((uint64_t)(pvalue->ul_TransportChannelIdentity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->ul_TransportChannelIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "ul-TransportChannelIdentity", -1, "UL-TransportChannelIdentity");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ul_TransportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "ul-TransportChannelIdentity", -1, "UL-TransportChannelIdentity");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_UL_TransportChannelIdentity, pvalue);
 }
 
-int asn1PE_UMTS_DL_AddReconfTransChInformation_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_tfs_SignallingMode* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_DL_AddReconfTransChInformation_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_tfs_SignallingMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.explicit_config == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "explicit-config", -1, 0);
-         stat = asn1PE_UMTS_TransportFormatSet(ctx, pvalue->u.explicit_config);
+         if (pvalue->u.explicit_config == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "explicit-config", -1, 0);
+         stat = enc_TransportFormatSet(ctx, pvalue->u.explicit_config, cur);
          RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
          break;
       case 2:
-         if (pvalue->u.sameAsULTrCH == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sameAsULTrCH", -1, 0);
-         stat = asn1PE_UMTS_UL_TransportChannelIdentity(ctx, pvalue->u.sameAsULTrCH);
+         if (pvalue->u.sameAsULTrCH == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "sameAsULTrCH", -1, 0);
+         stat = enc_UL_TransportChannelIdentity(ctx, pvalue->u.sameAsULTrCH, cur);
          RT_CHECK(ctx, stat, 0, "sameAsULTrCH", -1, 0);
          break;
       default:
@@ -2096,6936 +9335,46 @@ int asn1PE_UMTS_DL_AddReconfTransChInformation_tfs_SignallingMode(rtxContext* RT
    return 0;
 }
 
-int asn1PE_UMTS_BLER_QualityValue(rtxContext* RT_RESTRICT ctx, BLER_QualityValue value)
+int asn1PE_UMTS_DL_AddReconfTransChInformation_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_tfs_SignallingMode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_AddReconfTransChInformation_tfs_SignallingMode, pvalue);
+}
+
+RT_MERGED_BODY int enc_BLER_QualityValue(rtxContext* RT_RESTRICT ctx, BLER_QualityValue value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value < -63 || value > 0) {
       rtxErrAddStrParm(ctx, "BLER-QualityValue");
       rtxErrAddIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "BLER-QualityValue");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "BLER-QualityValue");
    }
-   stat = pe_ConsInt64(ctx, value, -63, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, "BLER-QualityValue");
+   stat = pe_ConsInt64At(ctx, cur, value, -63, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "BLER-QualityValue");
+   return 0;
+}
+
+int asn1PE_UMTS_BLER_QualityValue(rtxContext* RT_RESTRICT ctx, BLER_QualityValue value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_BLER_QualityValue, value);
+}
+
+RT_MERGED_BODY int enc_QualityTarget(rtxContext* RT_RESTRICT ctx, const QualityTarget* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "QualityTarget");
+   /* bler-QualityValue */
+   if (pvalue->bler_QualityValue < -63 || pvalue->bler_QualityValue > 0) {
+      rtxErrAddStrParm(ctx, "BLER-QualityValue");
+      rtxErrAddIntParm(ctx, pvalue->bler_QualityValue);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "BLER-QualityValue", "bler-QualityValue", -1, "QualityTarget");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->bler_QualityValue, -63, 0);
+   RT_CHECK_PUT(ctx, cur, stat, "BLER-QualityValue", "bler-QualityValue", -1, "QualityTarget");
    return 0;
 }
 
 int asn1PE_UMTS_QualityTarget(rtxContext* RT_RESTRICT ctx, const QualityTarget* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "QualityTarget");
-   /* bler-QualityValue */
-   if (pvalue->bler_QualityValue < -63 || pvalue->bler_QualityValue > 0) {
-      rtxErrAddStrParm(ctx, "BLER-QualityValue");
-      rtxErrAddIntParm(ctx, pvalue->bler_QualityValue);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "BLER-QualityValue", "bler-QualityValue", -1, "QualityTarget");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->bler_QualityValue, -63, 0);
-   RT_CHECK(ctx, stat, "BLER-QualityValue", "bler-QualityValue", -1, "QualityTarget");
-   return 0;
-}
-
-int asn1PE_UMTS_MessType(rtxContext* RT_RESTRICT ctx, MessType value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MessType");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MessType");
-   return 0;
-}
-
-int asn1PE_UMTS_UL_ControlledTrChList(rtxContext* RT_RESTRICT ctx, const UL_ControlledTrChList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-ControlledTrChList");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UL-ControlledTrChList");
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)(pvalue->elem[i] - 1) > 31u) {
-         rtxErrAddStrParm(ctx, "TransportChannelIdentity");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "TransportChannelIdentity", (int32_t)i, "UL-ControlledTrChList");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 1, 32);
-      RT_CHECK(ctx, stat, "TransportChannelIdentity", "TransportChannelIdentity", (int32_t)i, "UL-ControlledTrChList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TM_SignallingInfo_tm_SignallingMode_mode2(rtxContext* RT_RESTRICT ctx, const TM_SignallingInfo_tm_SignallingMode_mode2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* ul-controlledTrChList */
-   stat = asn1PE_UMTS_UL_ControlledTrChList(ctx, &pvalue->ul_controlledTrChList);
-   RT_CHECK(ctx, stat, 0, "ul-controlledTrChList", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_TM_SignallingInfo_tm_SignallingMode(rtxContext* RT_RESTRICT ctx, const TM_SignallingInfo_tm_SignallingMode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.mode2 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "mode2", -1, 0);
-         stat = asn1PE_UMTS_TM_SignallingInfo_tm_SignallingMode_mode2(ctx, pvalue->u.mode2);
-         RT_CHECK(ctx, stat, 0, "mode2", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TM_SignallingInfo(rtxContext* RT_RESTRICT ctx, const TM_SignallingInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TM-SignallingInfo");
-   /* messType */
-   if (pvalue->messType > 0) {
-      rtxErrAddUIntParm(ctx, pvalue->messType);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MessType", "messType", -1, "TM-SignallingInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->messType, 0, 0);
-   RT_CHECK(ctx, stat, "MessType", "messType", -1, "TM-SignallingInfo");
-   /* tm-SignallingMode */
-   stat = asn1PE_UMTS_TM_SignallingInfo_tm_SignallingMode(ctx, &pvalue->tm_SignallingMode);
-   RT_CHECK(ctx, stat, 0, "tm-SignallingMode", -1, "TM-SignallingInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_AddReconfTransChInformation(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-AddReconfTransChInformation");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInformation");
-   /* dl-TransportChannelType */
-   if (pvalue->dl_TransportChannelType > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->dl_TransportChannelType);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-TrCH-Type", "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dl_TransportChannelType, 0, 1);
-   RT_CHECK(ctx, stat, "DL-TrCH-Type", "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation");
-   /* dl-transportChannelIdentity */
-   if ((uint64_t)(pvalue->dl_transportChannelIdentity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->dl_transportChannelIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dl-transportChannelIdentity", -1, "DL-AddReconfTransChInformation");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dl_transportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "dl-transportChannelIdentity", -1, "DL-AddReconfTransChInformation");
-   /* tfs-SignallingMode */
-   stat = asn1PE_UMTS_DL_AddReconfTransChInformation_tfs_SignallingMode(ctx, &pvalue->tfs_SignallingMode);
-   RT_CHECK(ctx, stat, 0, "tfs-SignallingMode", -1, "DL-AddReconfTransChInformation");
-   /* dch-QualityTarget */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_QualityTarget(ctx, &pvalue->dch_QualityTarget);
-      RT_CHECK(ctx, stat, 0, "dch-QualityTarget", -1, "DL-AddReconfTransChInformation");
-   }
-   /* dummy */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_TM_SignallingInfo(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "DL-AddReconfTransChInformation");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_AddReconfTransChInfoList(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInfoList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-AddReconfTransChInfoList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInfoList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-AddReconfTransChInformation", (int32_t)i, "DL-AddReconfTransChInfoList");
-      stat = asn1PE_UMTS_DL_AddReconfTransChInformation(ctx, (const DL_AddReconfTransChInformation*)node->data);
-      RT_CHECK(ctx, stat, 0, "DL-AddReconfTransChInformation", (int32_t)i, "DL-AddReconfTransChInfoList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PreDefTransChConfiguration(rtxContext* RT_RESTRICT ctx, const PreDefTransChConfiguration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PreDefTransChConfiguration");
-   /* ul-CommonTransChInfo */
-   stat = asn1PE_UMTS_UL_CommonTransChInfo(ctx, &pvalue->ul_CommonTransChInfo);
-   RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "PreDefTransChConfiguration");
-   /* ul-AddReconfTrChInfoList */
-   stat = asn1PE_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTrChInfoList);
-   RT_CHECK(ctx, stat, 0, "ul-AddReconfTrChInfoList", -1, "PreDefTransChConfiguration");
-   /* dl-CommonTransChInfo */
-   stat = asn1PE_UMTS_DL_CommonTransChInfo(ctx, &pvalue->dl_CommonTransChInfo);
-   RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "PreDefTransChConfiguration");
-   /* dl-TrChInfoList */
-   stat = asn1PE_UMTS_DL_AddReconfTransChInfoList(ctx, &pvalue->dl_TrChInfoList);
-   RT_CHECK(ctx, stat, 0, "dl-TrChInfoList", -1, "PreDefTransChConfiguration");
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfoPredef_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfoPredef_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* powerControlAlgorithm */
-   stat = asn1PE_UMTS_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm);
-   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfoPredef_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfoPredef_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* dpch-ConstantValue */
-   if (pvalue->dpch_ConstantValue < -35 || pvalue->dpch_ConstantValue > 10) {
-      rtxErrAddStrParm(ctx, "ConstantValueTdd");
-      rtxErrAddIntParm(ctx, pvalue->dpch_ConstantValue);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "ConstantValueTdd", "dpch-ConstantValue", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->dpch_ConstantValue, -35, 10);
-   RT_CHECK(ctx, stat, "ConstantValueTdd", "dpch-ConstantValue", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfoPredef(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfoPredef* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-PowerControlInfoPredef");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UL-DPCH-PowerControlInfoPredef");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-DPCH-PowerControlInfoPredef");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, "UL-DPCH-PowerControlInfoPredef");
-         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfoPredef_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, "UL-DPCH-PowerControlInfoPredef");
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, "UL-DPCH-PowerControlInfoPredef");
-         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfoPredef_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, "UL-DPCH-PowerControlInfoPredef");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPredef_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* tfci-Existence */
-   stat = rtxEncBit(ctx, pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, 0);
-   /* puncturingLimit */
-   if (pvalue->puncturingLimit > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->puncturingLimit);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PuncturingLimit", "puncturingLimit", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->puncturingLimit, 0, 15);
-   RT_CHECK(ctx, stat, "PuncturingLimit", "puncturingLimit", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPredef_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* commonTimeslotInfo */
-   stat = asn1PE_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPredef_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_InfoPredef(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPredef* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-InfoPredef");
-   /* ul-DPCH-PowerControlInfo */
-   stat = asn1PE_UMTS_UL_DPCH_PowerControlInfoPredef(ctx, &pvalue->ul_DPCH_PowerControlInfo);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "UL-DPCH-InfoPredef");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-DPCH-InfoPredef");
-   return 0;
-}
-
-int asn1PE_UMTS_PilotBits128(rtxContext* RT_RESTRICT ctx, PilotBits128 value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "PilotBits128");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PilotBits128");
-   return 0;
-}
-
-int asn1PE_UMTS_PilotBits256(rtxContext* RT_RESTRICT ctx, PilotBits256 value)
-{
-   int stat = 0;
-   if (value > 2) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "PilotBits256");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PilotBits256");
-   return 0;
-}
-
-int asn1PE_UMTS_SF512_AndPilot(rtxContext* RT_RESTRICT ctx, const SF512_AndPilot* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SF512-AndPilot");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
-   RT_CHECK(ctx, stat, 0, "t", -1, "SF512-AndPilot");
-   if (pvalue->t - 1 > 7) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "SF512-AndPilot");
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         break;
-      case 3:
-         break;
-      case 4:
-         break;
-      case 5:
-         break;
-      case 6:
-         if (pvalue->u.sfd128 > 1) {
-            rtxErrAddUIntParm(ctx, pvalue->u.sfd128);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "PilotBits128", "sfd128", -1, "SF512-AndPilot");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sfd128, 0, 1);
-         RT_CHECK(ctx, stat, "PilotBits128", "sfd128", -1, "SF512-AndPilot");
-         break;
-      case 7:
-         if (pvalue->u.sfd256 > 2) {
-            rtxErrAddUIntParm(ctx, pvalue->u.sfd256);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "PilotBits256", "sfd256", -1, "SF512-AndPilot");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sfd256, 0, 2);
-         RT_CHECK(ctx, stat, "PilotBits256", "sfd256", -1, "SF512-AndPilot");
-         break;
-      case 8:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* spreadingFactorAndPilot */
-   stat = asn1PE_UMTS_SF512_AndPilot(ctx, &pvalue->spreadingFactorAndPilot);
-   RT_CHECK(ctx, stat, 0, "spreadingFactorAndPilot", -1, 0);
-   /* positionFixedOrFlexible */
-   if (pvalue->positionFixedOrFlexible > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->positionFixedOrFlexible);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->positionFixedOrFlexible, 0, 1);
-   RT_CHECK(ctx, stat, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
-   /* tfci-Existence */
-   stat = rtxEncBit(ctx, pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* commonTimeslotInfo */
-   stat = asn1PE_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommonPredef_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_DPCH_InfoCommonPredef(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommonPredef* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-DPCH-InfoCommonPredef");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-DPCH-InfoCommonPredef");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CommonInformationPredef(rtxContext* RT_RESTRICT ctx, const DL_CommonInformationPredef* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-CommonInformationPredef");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CommonInformationPredef");
-   /* dl-DPCH-InfoCommon */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_DPCH_InfoCommonPredef(ctx, &pvalue->dl_DPCH_InfoCommon);
-      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, "DL-CommonInformationPredef");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PreDefPhyChConfiguration(rtxContext* RT_RESTRICT ctx, const PreDefPhyChConfiguration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PreDefPhyChConfiguration");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PreDefPhyChConfiguration");
-   /* ul-DPCH-InfoPredef */
-   stat = asn1PE_UMTS_UL_DPCH_InfoPredef(ctx, &pvalue->ul_DPCH_InfoPredef);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-InfoPredef", -1, "PreDefPhyChConfiguration");
-   /* dl-CommonInformationPredef */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_CommonInformationPredef(ctx, &pvalue->dl_CommonInformationPredef);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformationPredef", -1, "PreDefPhyChConfiguration");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PreDefRadioConfiguration(rtxContext* RT_RESTRICT ctx, const PreDefRadioConfiguration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PreDefRadioConfiguration");
-   /* predefinedRB-Configuration */
-   stat = asn1PE_UMTS_PredefinedRB_Configuration(ctx, &pvalue->predefinedRB_Configuration);
-   RT_CHECK(ctx, stat, 0, "predefinedRB-Configuration", -1, "PreDefRadioConfiguration");
-   /* preDefTransChConfiguration */
-   stat = asn1PE_UMTS_PreDefTransChConfiguration(ctx, &pvalue->preDefTransChConfiguration);
-   RT_CHECK(ctx, stat, 0, "preDefTransChConfiguration", -1, "PreDefRadioConfiguration");
-   /* preDefPhyChConfiguration */
-   stat = asn1PE_UMTS_PreDefPhyChConfiguration(ctx, &pvalue->preDefPhyChConfiguration);
-   RT_CHECK(ctx, stat, 0, "preDefPhyChConfiguration", -1, "PreDefRadioConfiguration");
-   return 0;
-}
-
-int asn1PE_UMTS_NumberOfTPC_Bits(rtxContext* RT_RESTRICT ctx, NumberOfTPC_Bits value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "NumberOfTPC-Bits");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NumberOfTPC-Bits");
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* numberOfTPC-Bits */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->numberOfTPC_Bits > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->numberOfTPC_Bits);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "NumberOfTPC-Bits", "numberOfTPC-Bits", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->numberOfTPC_Bits, 0, 0);
-      RT_CHECK(ctx, stat, "NumberOfTPC-Bits", "numberOfTPC-Bits", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPredef_v770ext_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_InfoPredef_v770ext(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPredef_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-InfoPredef-v770ext");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-DPCH-InfoPredef-v770ext");
-   return 0;
-}
-
-int asn1PE_UMTS_PreDefPhyChConfiguration_v770ext(rtxContext* RT_RESTRICT ctx, const PreDefPhyChConfiguration_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PreDefPhyChConfiguration-v770ext");
-   /* ul-DPCH-InfoPredef */
-   stat = asn1PE_UMTS_UL_DPCH_InfoPredef_v770ext(ctx, &pvalue->ul_DPCH_InfoPredef);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-InfoPredef", -1, "PreDefPhyChConfiguration-v770ext");
-   return 0;
-}
-
-int asn1PE_UMTS_PreDefRadioConfiguration_v770ext(rtxContext* RT_RESTRICT ctx, const PreDefRadioConfiguration_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PreDefRadioConfiguration-v770ext");
-   /* preDefPhyChConfiguration */
-   stat = asn1PE_UMTS_PreDefPhyChConfiguration_v770ext(ctx, &pvalue->preDefPhyChConfiguration);
-   RT_CHECK(ctx, stat, 0, "preDefPhyChConfiguration", -1, "PreDefRadioConfiguration-v770ext");
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType16_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType16_v770ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType16-v770ext-IEs");
-   /* preDefinedRadioConfiguration */
-   stat = asn1PE_UMTS_PreDefRadioConfiguration_v770ext(ctx, &pvalue->preDefinedRadioConfiguration);
-   RT_CHECK(ctx, stat, 0, "preDefinedRadioConfiguration", -1, "SysInfoType16-v770ext-IEs");
-   return 0;
-}
-
-int asn1PE_UMTS_MAC_hs_WindowSize_r9(rtxContext* RT_RESTRICT ctx, MAC_hs_WindowSize_r9 value)
-{
-   int stat = 0;
-   if (value > 8) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MAC-hs-WindowSize-r9");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-hs-WindowSize-r9");
-   return 0;
-}
-
-int asn1PE_UMTS_PreDefRadioConfiguration_v920ext(rtxContext* RT_RESTRICT ctx, const PreDefRadioConfiguration_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PreDefRadioConfiguration-v920ext");
-   /* mac-ehsWindowSize */
-   if (pvalue->mac_ehsWindowSize > 8) {
-      rtxErrAddUIntParm(ctx, pvalue->mac_ehsWindowSize);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MAC-hs-WindowSize-r9", "mac-ehsWindowSize", -1, "PreDefRadioConfiguration-v920ext");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mac_ehsWindowSize, 0, 8);
-   RT_CHECK(ctx, stat, "MAC-hs-WindowSize-r9", "mac-ehsWindowSize", -1, "PreDefRadioConfiguration-v920ext");
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType16_v920ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType16_v920ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType16-v920ext-IEs");
-   /* preDefinedRadioConfiguration */
-   stat = asn1PE_UMTS_PreDefRadioConfiguration_v920ext(ctx, &pvalue->preDefinedRadioConfiguration);
-   RT_CHECK(ctx, stat, 0, "preDefinedRadioConfiguration", -1, "SysInfoType16-v920ext-IEs");
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType16-v920ext */
-   stat = asn1PE_UMTS_SysInfoType16_v920ext_IEs(ctx, &pvalue->sysInfoType16_v920ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType16-v920ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType16_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType16_v770NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType16-v770ext */
-   stat = asn1PE_UMTS_SysInfoType16_v770ext_IEs(ctx, &pvalue->sysInfoType16_v770ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType16-v770ext", -1, 0);
-   /* v920NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType16(rtxContext* RT_RESTRICT ctx, const SysInfoType16* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType16");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType16");
-   /* preDefinedRadioConfiguration */
-   stat = asn1PE_UMTS_PreDefRadioConfiguration(ctx, &pvalue->preDefinedRadioConfiguration);
-   RT_CHECK(ctx, stat, 0, "preDefinedRadioConfiguration", -1, "SysInfoType16");
-   /* v770NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType16_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, "SysInfoType16");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Ansi_41_IDNNS(rtxContext* RT_RESTRICT ctx, Ansi_41_IDNNS value)
-{
-   int stat = 0;
-   RT_SET_SIZE(ctx, 14, 14);
-   stat = pe_BitString32(ctx, &value, 14, 14);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Ansi-41-IDNNS");
-   return 0;
-}
-
-int asn1PE_UMTS_CN_DomainInformation(rtxContext* RT_RESTRICT ctx, const CN_DomainInformation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CN-DomainInformation");
-   /* cn-DomainIdentity */
-   if (pvalue->cn_DomainIdentity > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "CN-DomainInformation");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "CN-DomainInformation");
-   /* cn-DomainSpecificNAS-Info */
-   stat = asn1PE_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_DomainSpecificNAS_Info);
-   RT_CHECK(ctx, stat, 0, "cn-DomainSpecificNAS-Info", -1, "CN-DomainInformation");
-   return 0;
-}
-
-int asn1PE_UMTS_CN_DomainInformationFull(rtxContext* RT_RESTRICT ctx, const CN_DomainInformationFull* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CN-DomainInformationFull");
-   /* cn-DomainIdentity */
-   if (pvalue->cn_DomainIdentity > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "CN-DomainInformationFull");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "CN-DomainInformationFull");
-   /* cn-DomainSpecificNAS-Info */
-   stat = asn1PE_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_DomainSpecificNAS_Info);
-   RT_CHECK(ctx, stat, 0, "cn-DomainSpecificNAS-Info", -1, "CN-DomainInformationFull");
-   /* cn-DRX-CycleLengthCoeff */
-   if ((uint64_t)(pvalue->cn_DRX_CycleLengthCoeff - 6) > 3u) {
-      rtxErrAddStrParm(ctx, "CN-DRX-CycleLengthCoefficient");
-      rtxErrAddUIntParm(ctx, pvalue->cn_DRX_CycleLengthCoeff);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "CN-DRX-CycleLengthCoefficient", "cn-DRX-CycleLengthCoeff", -1, "CN-DomainInformationFull");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cn_DRX_CycleLengthCoeff, 6, 9);
-   RT_CHECK(ctx, stat, "CN-DRX-CycleLengthCoefficient", "cn-DRX-CycleLengthCoeff", -1, "CN-DomainInformationFull");
-   return 0;
-}
-
-int asn1PE_UMTS_CN_DomainInformationList(rtxContext* RT_RESTRICT ctx, const CN_DomainInformationList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CN-DomainInformationList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CN-DomainInformationList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CN-DomainInformation", (int32_t)i, "CN-DomainInformationList");
-      stat = asn1PE_UMTS_CN_DomainInformation(ctx, (const CN_DomainInformation*)node->data);
-      RT_CHECK(ctx, stat, 0, "CN-DomainInformation", (int32_t)i, "CN-DomainInformationList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CN_DomainInformationListFull(rtxContext* RT_RESTRICT ctx, const CN_DomainInformationListFull* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CN-DomainInformationListFull");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CN-DomainInformationListFull");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CN-DomainInformationFull", (int32_t)i, "CN-DomainInformationListFull");
-      stat = asn1PE_UMTS_CN_DomainInformationFull(ctx, (const CN_DomainInformationFull*)node->data);
-      RT_CHECK(ctx, stat, 0, "CN-DomainInformationFull", (int32_t)i, "CN-DomainInformationListFull");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CN_InformationInfo(rtxContext* RT_RESTRICT ctx, const CN_InformationInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CN-InformationInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CN-InformationInfo");
-   /* plmn-Identity */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
-      RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, "CN-InformationInfo");
-   }
-   /* cn-CommonGSM-MAP-NAS-SysInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_CommonGSM_MAP_NAS_SysInfo);
-      RT_CHECK(ctx, stat, 0, "cn-CommonGSM-MAP-NAS-SysInfo", -1, "CN-InformationInfo");
-   }
-   /* cn-DomainInformationList */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_CN_DomainInformationList(ctx, &pvalue->cn_DomainInformationList);
-      RT_CHECK(ctx, stat, 0, "cn-DomainInformationList", -1, "CN-InformationInfo");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CN_InformationInfo_r6(rtxContext* RT_RESTRICT ctx, const CN_InformationInfo_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CN-InformationInfo-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CN-InformationInfo-r6");
-   /* plmn-Identity */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
-      RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, "CN-InformationInfo-r6");
-   }
-   /* cn-CommonGSM-MAP-NAS-SysInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_CommonGSM_MAP_NAS_SysInfo);
-      RT_CHECK(ctx, stat, 0, "cn-CommonGSM-MAP-NAS-SysInfo", -1, "CN-InformationInfo-r6");
-   }
-   /* cn-DomainInformationList */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_CN_DomainInformationList(ctx, &pvalue->cn_DomainInformationList);
-      RT_CHECK(ctx, stat, 0, "cn-DomainInformationList", -1, "CN-InformationInfo-r6");
-   }
-   /* primary-plmn-Identity */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
-      RT_CHECK(ctx, stat, 0, "primary-plmn-Identity", -1, "CN-InformationInfo-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CN_InformationInfoFull(rtxContext* RT_RESTRICT ctx, const CN_InformationInfoFull* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CN-InformationInfoFull");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CN-InformationInfoFull");
-   /* plmn-Identity */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
-      RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, "CN-InformationInfoFull");
-   }
-   /* cn-CommonGSM-MAP-NAS-SysInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_CommonGSM_MAP_NAS_SysInfo);
-      RT_CHECK(ctx, stat, 0, "cn-CommonGSM-MAP-NAS-SysInfo", -1, "CN-InformationInfoFull");
-   }
-   /* cn-DomainInformationListFull */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_CN_DomainInformationListFull(ctx, &pvalue->cn_DomainInformationListFull);
-      RT_CHECK(ctx, stat, 0, "cn-DomainInformationListFull", -1, "CN-InformationInfoFull");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RoutingParameter(rtxContext* RT_RESTRICT ctx, RoutingParameter value)
-{
-   int stat = 0;
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pe_BitString32(ctx, &value, 10, 10);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RoutingParameter");
-   return 0;
-}
-
-int asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_localPTMSI(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis_localPTMSI* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* routingparameter */
-   stat = asn1PE_UMTS_RoutingParameter(ctx, pvalue->routingparameter);
-   RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_tMSIofsamePLMN(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis_tMSIofsamePLMN* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* routingparameter */
-   stat = asn1PE_UMTS_RoutingParameter(ctx, pvalue->routingparameter);
-   RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_tMSIofdifferentPLMN(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis_tMSIofdifferentPLMN* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* routingparameter */
-   stat = asn1PE_UMTS_RoutingParameter(ctx, pvalue->routingparameter);
-   RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_iMSIresponsetopaging(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis_iMSIresponsetopaging* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* routingparameter */
-   stat = asn1PE_UMTS_RoutingParameter(ctx, pvalue->routingparameter);
-   RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_iMSIcauseUEinitiatedEvent(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis_iMSIcauseUEinitiatedEvent* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* routingparameter */
-   stat = asn1PE_UMTS_RoutingParameter(ctx, pvalue->routingparameter);
-   RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_iMEI(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis_iMEI* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* routingparameter */
-   stat = asn1PE_UMTS_RoutingParameter(ctx, pvalue->routingparameter);
-   RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_spare2(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis_spare2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* routingparameter */
-   stat = asn1PE_UMTS_RoutingParameter(ctx, pvalue->routingparameter);
-   RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_spare1(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis_spare1* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* routingparameter */
-   stat = asn1PE_UMTS_RoutingParameter(ctx, pvalue->routingparameter);
-   RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_Gsm_map_IDNNS_routingbasis(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 7) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.localPTMSI == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "localPTMSI", -1, 0);
-         stat = asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_localPTMSI(ctx, pvalue->u.localPTMSI);
-         RT_CHECK(ctx, stat, 0, "localPTMSI", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tMSIofsamePLMN == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tMSIofsamePLMN", -1, 0);
-         stat = asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_tMSIofsamePLMN(ctx, pvalue->u.tMSIofsamePLMN);
-         RT_CHECK(ctx, stat, 0, "tMSIofsamePLMN", -1, 0);
-         break;
-      case 3:
-         if (pvalue->u.tMSIofdifferentPLMN == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tMSIofdifferentPLMN", -1, 0);
-         stat = asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_tMSIofdifferentPLMN(ctx, pvalue->u.tMSIofdifferentPLMN);
-         RT_CHECK(ctx, stat, 0, "tMSIofdifferentPLMN", -1, 0);
-         break;
-      case 4:
-         if (pvalue->u.iMSIresponsetopaging == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "iMSIresponsetopaging", -1, 0);
-         stat = asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_iMSIresponsetopaging(ctx, pvalue->u.iMSIresponsetopaging);
-         RT_CHECK(ctx, stat, 0, "iMSIresponsetopaging", -1, 0);
-         break;
-      case 5:
-         if (pvalue->u.iMSIcauseUEinitiatedEvent == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "iMSIcauseUEinitiatedEvent", -1, 0);
-         stat = asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_iMSIcauseUEinitiatedEvent(ctx, pvalue->u.iMSIcauseUEinitiatedEvent);
-         RT_CHECK(ctx, stat, 0, "iMSIcauseUEinitiatedEvent", -1, 0);
-         break;
-      case 6:
-         if (pvalue->u.iMEI == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "iMEI", -1, 0);
-         stat = asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_iMEI(ctx, pvalue->u.iMEI);
-         RT_CHECK(ctx, stat, 0, "iMEI", -1, 0);
-         break;
-      case 7:
-         if (pvalue->u.spare2 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "spare2", -1, 0);
-         stat = asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_spare2(ctx, pvalue->u.spare2);
-         RT_CHECK(ctx, stat, 0, "spare2", -1, 0);
-         break;
-      case 8:
-         if (pvalue->u.spare1 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "spare1", -1, 0);
-         stat = asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_spare1(ctx, pvalue->u.spare1);
-         RT_CHECK(ctx, stat, 0, "spare1", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Gsm_map_IDNNS(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Gsm-map-IDNNS");
-   /* routingbasis */
-   stat = asn1PE_UMTS_Gsm_map_IDNNS_routingbasis(ctx, &pvalue->routingbasis);
-   RT_CHECK(ctx, stat, 0, "routingbasis", -1, "Gsm-map-IDNNS");
-   /* dummy */
-   stat = rtxEncBit(ctx, pvalue->dummy);
-   RT_CHECK(ctx, stat, 0, "dummy", -1, "Gsm-map-IDNNS");
-   return 0;
-}
-
-int asn1PE_UMTS_IMEI_Digit(rtxContext* RT_RESTRICT ctx, IMEI_Digit value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 15u) {
-      rtxErrAddStrParm(ctx, "IMEI-Digit");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "IMEI-Digit");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IMEI-Digit");
-   return 0;
-}
-
-int asn1PE_UMTS_IMEI(rtxContext* RT_RESTRICT ctx, const IMEI* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IMEI");
-   uint32_t i;
-   if (pvalue->n != 15) {
-      rtxErrAddStrParm(ctx, "IMEI");
-      rtxErrAddUIntParm(ctx, pvalue->n);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "IMEI");
-   }
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)pvalue->elem[i] > 15u) {
-         rtxErrAddStrParm(ctx, "IMEI-Digit");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "IMEI-Digit", "IMEI-Digit", (int32_t)i, "IMEI");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 15);
-      RT_CHECK(ctx, stat, "IMEI-Digit", "IMEI-Digit", (int32_t)i, "IMEI");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IMSI_GSM_MAP(rtxContext* RT_RESTRICT ctx, const IMSI_GSM_MAP* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IMSI-GSM-MAP");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 6, 21);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "IMSI-GSM-MAP");
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)pvalue->elem[i] > 9u) {
-         rtxErrAddStrParm(ctx, "Digit");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Digit", "Digit", (int32_t)i, "IMSI-GSM-MAP");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 9);
-      RT_CHECK(ctx, stat, "Digit", "Digit", (int32_t)i, "IMSI-GSM-MAP");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraDomainNasNodeSelector_version_release99_cn_Type(rtxContext* RT_RESTRICT ctx, const IntraDomainNasNodeSelector_version_release99_cn_Type* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.gsm_Map_IDNNS == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm-Map-IDNNS", -1, 0);
-         stat = asn1PE_UMTS_Gsm_map_IDNNS(ctx, pvalue->u.gsm_Map_IDNNS);
-         RT_CHECK(ctx, stat, 0, "gsm-Map-IDNNS", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.ansi_41_IDNNS == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ansi-41-IDNNS", -1, 0);
-         stat = asn1PE_UMTS_Ansi_41_IDNNS(ctx, *pvalue->u.ansi_41_IDNNS);
-         RT_CHECK(ctx, stat, 0, "ansi-41-IDNNS", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraDomainNasNodeSelector_version_release99(rtxContext* RT_RESTRICT ctx, const IntraDomainNasNodeSelector_version_release99* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* cn-Type */
-   stat = asn1PE_UMTS_IntraDomainNasNodeSelector_version_release99_cn_Type(ctx, &pvalue->cn_Type);
-   RT_CHECK(ctx, stat, 0, "cn-Type", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraDomainNasNodeSelector_version_later(rtxContext* RT_RESTRICT ctx, const IntraDomainNasNodeSelector_version_later* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* futurecoding */
-   RT_SET_SIZE(ctx, 15, 15);
-   stat = pe_BitString32(ctx, &pvalue->futurecoding, 15, 15);
-   RT_CHECK(ctx, stat, 0, "futurecoding", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_IntraDomainNasNodeSelector_version(rtxContext* RT_RESTRICT ctx, const IntraDomainNasNodeSelector_version* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.release99 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "release99", -1, 0);
-         stat = asn1PE_UMTS_IntraDomainNasNodeSelector_version_release99(ctx, pvalue->u.release99);
-         RT_CHECK(ctx, stat, 0, "release99", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.later == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "later", -1, 0);
-         stat = asn1PE_UMTS_IntraDomainNasNodeSelector_version_later(ctx, pvalue->u.later);
-         RT_CHECK(ctx, stat, 0, "later", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraDomainNasNodeSelector(rtxContext* RT_RESTRICT ctx, const IntraDomainNasNodeSelector* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraDomainNasNodeSelector");
-   /* version */
-   stat = asn1PE_UMTS_IntraDomainNasNodeSelector_version(ctx, &pvalue->version);
-   RT_CHECK(ctx, stat, 0, "version", -1, "IntraDomainNasNodeSelector");
-   return 0;
-}
-
-int asn1PE_UMTS_LAI(rtxContext* RT_RESTRICT ctx, const LAI* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "LAI");
-   /* plmn-Identity */
-   stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
-   RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, "LAI");
-   /* lac */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->lac, 16, 16);
-   RT_CHECK(ctx, stat, 0, "lac", -1, "LAI");
-   return 0;
-}
-
-int asn1PE_UMTS_NAS_Message(rtxContext* RT_RESTRICT ctx, const NAS_Message* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NAS-Message");
-   RT_SET_SIZE(ctx, 1, 4095);
-   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NAS-Message");
-   return 0;
-}
-
-int asn1PE_UMTS_NAS_Synchronisation_Indicator(rtxContext* RT_RESTRICT ctx, NAS_Synchronisation_Indicator value)
-{
-   int stat = 0;
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pe_BitString32(ctx, &value, 4, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NAS-Synchronisation-Indicator");
-   return 0;
-}
-
-int asn1PE_UMTS_P_TMSI_GSM_MAP(rtxContext* RT_RESTRICT ctx, P_TMSI_GSM_MAP value)
-{
-   int stat = 0;
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &value, 32, 32);
-   RT_CHECK(ctx, stat, 0, 0, -1, "P-TMSI-GSM-MAP");
-   return 0;
-}
-
-int asn1PE_UMTS_PagingRecordTypeID(rtxContext* RT_RESTRICT ctx, PagingRecordTypeID value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "PagingRecordTypeID");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PagingRecordTypeID");
-   return 0;
-}
-
-int asn1PE_UMTS_RAB_Identity(rtxContext* RT_RESTRICT ctx, const RAB_Identity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-Identity");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "RAB-Identity");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RAB-Identity");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.gsm_MAP_RAB_Identity == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm-MAP-RAB-Identity", -1, "RAB-Identity");
-         RT_SET_SIZE(ctx, 8, 8);
-         stat = pe_BitString32(ctx, pvalue->u.gsm_MAP_RAB_Identity, 8, 8);
-         RT_CHECK(ctx, stat, 0, "gsm-MAP-RAB-Identity", -1, "RAB-Identity");
-         break;
-      case 2:
-         if (pvalue->u.ansi_41_RAB_Identity == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ansi-41-RAB-Identity", -1, "RAB-Identity");
-         RT_SET_SIZE(ctx, 8, 8);
-         stat = pe_BitString32(ctx, pvalue->u.ansi_41_RAB_Identity, 8, 8);
-         RT_CHECK(ctx, stat, 0, "ansi-41-RAB-Identity", -1, "RAB-Identity");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RoutingAreaCode(rtxContext* RT_RESTRICT ctx, RoutingAreaCode value)
-{
-   int stat = 0;
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &value, 8, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RoutingAreaCode");
-   return 0;
-}
-
-int asn1PE_UMTS_RAI(rtxContext* RT_RESTRICT ctx, const RAI* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAI");
-   /* lai */
-   stat = asn1PE_UMTS_LAI(ctx, &pvalue->lai);
-   RT_CHECK(ctx, stat, 0, "lai", -1, "RAI");
-   /* rac */
-   stat = asn1PE_UMTS_RoutingAreaCode(ctx, pvalue->rac);
-   RT_CHECK(ctx, stat, 0, "rac", -1, "RAI");
-   return 0;
-}
-
-int asn1PE_UMTS_TMSI_GSM_MAP(rtxContext* RT_RESTRICT ctx, TMSI_GSM_MAP value)
-{
-   int stat = 0;
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &value, 32, 32);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TMSI-GSM-MAP");
-   return 0;
-}
-
-int asn1PE_UMTS_CellIdentity_PerRL_List(rtxContext* RT_RESTRICT ctx, const CellIdentity_PerRL_List* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellIdentity-PerRL-List");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CellIdentity-PerRL-List");
-   for (i = 0; i < pvalue->n; i++) {
-      stat = asn1PE_UMTS_CellIdentity(ctx, pvalue->elem[i]);
-      RT_CHECK(ctx, stat, 0, "CellIdentity", (int32_t)i, "CellIdentity-PerRL-List");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_T_322(rtxContext* RT_RESTRICT ctx, T_322 value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-322");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-322");
-   return 0;
-}
-
-int asn1PE_UMTS_PriorityLevel_radioAccessTechnology_utraFDD_element(rtxContext* RT_RESTRICT ctx, const PriorityLevel_radioAccessTechnology_utraFDD_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* uarfcn */
-   if ((uint64_t)pvalue->uarfcn > 16383u) {
-      rtxErrAddStrParm(ctx, "UARFCN");
-      rtxErrAddUIntParm(ctx, pvalue->uarfcn);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "UARFCN", "uarfcn", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->uarfcn, 0, 16383);
-   RT_CHECK(ctx, stat, "UARFCN", "uarfcn", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PriorityLevel_radioAccessTechnology_utraFDD(rtxContext* RT_RESTRICT ctx, const PriorityLevel_radioAccessTechnology_utraFDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
-      stat = asn1PE_UMTS_PriorityLevel_radioAccessTechnology_utraFDD_element(ctx, (const PriorityLevel_radioAccessTechnology_utraFDD_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PriorityLevel_radioAccessTechnology_utraTDD_element(rtxContext* RT_RESTRICT ctx, const PriorityLevel_radioAccessTechnology_utraTDD_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* uarfcn */
-   if ((uint64_t)pvalue->uarfcn > 16383u) {
-      rtxErrAddStrParm(ctx, "UARFCN");
-      rtxErrAddUIntParm(ctx, pvalue->uarfcn);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "UARFCN", "uarfcn", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->uarfcn, 0, 16383);
-   RT_CHECK(ctx, stat, "UARFCN", "uarfcn", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PriorityLevel_radioAccessTechnology_utraTDD(rtxContext* RT_RESTRICT ctx, const PriorityLevel_radioAccessTechnology_utraTDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
-      stat = asn1PE_UMTS_PriorityLevel_radioAccessTechnology_utraTDD_element(ctx, (const PriorityLevel_radioAccessTechnology_utraTDD_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_EARFCN(rtxContext* RT_RESTRICT ctx, EARFCN value)
-{
-   int stat = 0;
-   stat = pe_ConsUInt64(ctx, value, 0, 65535);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EARFCN");
-   return 0;
-}
-
-int asn1PE_UMTS_PriorityLevel_radioAccessTechnology_eutra_element(rtxContext* RT_RESTRICT ctx, const PriorityLevel_radioAccessTechnology_eutra_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* earfcn */
-   stat = pe_ConsUInt64(ctx, pvalue->earfcn, 0, 65535);
-   RT_CHECK(ctx, stat, "EARFCN", "earfcn", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PriorityLevel_radioAccessTechnology_eutra(rtxContext* RT_RESTRICT ctx, const PriorityLevel_radioAccessTechnology_eutra* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
-      stat = asn1PE_UMTS_PriorityLevel_radioAccessTechnology_eutra_element(ctx, (const PriorityLevel_radioAccessTechnology_eutra_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_CellGroup_bandIndicator(rtxContext* RT_RESTRICT ctx, GSM_CellGroup_bandIndicator value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_CellGroup_followingARFCNs_explicitListOfARFCNs(rtxContext* RT_RESTRICT ctx, const GSM_CellGroup_followingARFCNs_explicitListOfARFCNs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 0, 31);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)pvalue->elem[i] > 1023u) {
-         rtxErrAddStrParm(ctx, "BCCH-ARFCN");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "BCCH-ARFCN", "BCCH-ARFCN", (int32_t)i, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 1023);
-      RT_CHECK(ctx, stat, "BCCH-ARFCN", "BCCH-ARFCN", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_CellGroup_followingARFCNs_equallySpacedARFCNs(rtxContext* RT_RESTRICT ctx, const GSM_CellGroup_followingARFCNs_equallySpacedARFCNs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* arfcn-Spacing */
-   if ((uint64_t)(pvalue->arfcn_Spacing - 1) > 7u) {
-      rtxErrAddStrParm(ctx, "arfcn-Spacing");
-      rtxErrAddUIntParm(ctx, pvalue->arfcn_Spacing);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "arfcn-Spacing", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->arfcn_Spacing, 1, 8);
-   RT_CHECK(ctx, stat, 0, "arfcn-Spacing", -1, 0);
-   /* numberOfFollowingARFCNs */
-   if ((uint64_t)pvalue->numberOfFollowingARFCNs > 31u) {
-      rtxErrAddStrParm(ctx, "numberOfFollowingARFCNs");
-      rtxErrAddUIntParm(ctx, pvalue->numberOfFollowingARFCNs);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "numberOfFollowingARFCNs", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->numberOfFollowingARFCNs, 0, 31);
-   RT_CHECK(ctx, stat, 0, "numberOfFollowingARFCNs", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs(rtxContext* RT_RESTRICT ctx, const GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_CellGroup_followingARFCNs_continuousRangeOfARFCNs(rtxContext* RT_RESTRICT ctx, const GSM_CellGroup_followingARFCNs_continuousRangeOfARFCNs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* endingARFCN */
-   if ((uint64_t)pvalue->endingARFCN > 1023u) {
-      rtxErrAddStrParm(ctx, "BCCH-ARFCN");
-      rtxErrAddUIntParm(ctx, pvalue->endingARFCN);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "BCCH-ARFCN", "endingARFCN", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->endingARFCN, 0, 1023);
-   RT_CHECK(ctx, stat, "BCCH-ARFCN", "endingARFCN", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_CellGroup_followingARFCNs(rtxContext* RT_RESTRICT ctx, const GSM_CellGroup_followingARFCNs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.explicitListOfARFCNs == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "explicitListOfARFCNs", -1, 0);
-         stat = asn1PE_UMTS_GSM_CellGroup_followingARFCNs_explicitListOfARFCNs(ctx, pvalue->u.explicitListOfARFCNs);
-         RT_CHECK(ctx, stat, 0, "explicitListOfARFCNs", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.equallySpacedARFCNs == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "equallySpacedARFCNs", -1, 0);
-         stat = asn1PE_UMTS_GSM_CellGroup_followingARFCNs_equallySpacedARFCNs(ctx, pvalue->u.equallySpacedARFCNs);
-         RT_CHECK(ctx, stat, 0, "equallySpacedARFCNs", -1, 0);
-         break;
-      case 3:
-         if (pvalue->u.variableBitMapOfARFCNs == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "variableBitMapOfARFCNs", -1, 0);
-         stat = asn1PE_UMTS_GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs(ctx, pvalue->u.variableBitMapOfARFCNs);
-         RT_CHECK(ctx, stat, 0, "variableBitMapOfARFCNs", -1, 0);
-         break;
-      case 4:
-         if (pvalue->u.continuousRangeOfARFCNs == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "continuousRangeOfARFCNs", -1, 0);
-         stat = asn1PE_UMTS_GSM_CellGroup_followingARFCNs_continuousRangeOfARFCNs(ctx, pvalue->u.continuousRangeOfARFCNs);
-         RT_CHECK(ctx, stat, 0, "continuousRangeOfARFCNs", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_CellGroup(rtxContext* RT_RESTRICT ctx, const GSM_CellGroup* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GSM-CellGroup");
-   /* startingARFCN */
-   if ((uint64_t)pvalue->startingARFCN > 1023u) {
-      rtxErrAddStrParm(ctx, "BCCH-ARFCN");
-      rtxErrAddUIntParm(ctx, pvalue->startingARFCN);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "BCCH-ARFCN", "startingARFCN", -1, "GSM-CellGroup");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->startingARFCN, 0, 1023);
-   RT_CHECK(ctx, stat, "BCCH-ARFCN", "startingARFCN", -1, "GSM-CellGroup");
-   /* bandIndicator */
-   if (pvalue->bandIndicator > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->bandIndicator);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "bandIndicator", -1, "GSM-CellGroup");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->bandIndicator, 0, 1);
-   RT_CHECK(ctx, stat, 0, "bandIndicator", -1, "GSM-CellGroup");
-   /* followingARFCNs */
-   stat = asn1PE_UMTS_GSM_CellGroup_followingARFCNs(ctx, &pvalue->followingARFCNs);
-   RT_CHECK(ctx, stat, 0, "followingARFCNs", -1, "GSM-CellGroup");
-   return 0;
-}
-
-int asn1PE_UMTS_PriorityLevel_radioAccessTechnology_gsm(rtxContext* RT_RESTRICT ctx, const PriorityLevel_radioAccessTechnology_gsm* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* gsm-CellGroup */
-   stat = asn1PE_UMTS_GSM_CellGroup(ctx, &pvalue->gsm_CellGroup);
-   RT_CHECK(ctx, stat, 0, "gsm-CellGroup", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PriorityLevel_radioAccessTechnology(rtxContext* RT_RESTRICT ctx, const PriorityLevel_radioAccessTechnology* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.utraFDD == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "utraFDD", -1, 0);
-         stat = asn1PE_UMTS_PriorityLevel_radioAccessTechnology_utraFDD(ctx, pvalue->u.utraFDD);
-         RT_CHECK(ctx, stat, 0, "utraFDD", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.utraTDD == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "utraTDD", -1, 0);
-         stat = asn1PE_UMTS_PriorityLevel_radioAccessTechnology_utraTDD(ctx, pvalue->u.utraTDD);
-         RT_CHECK(ctx, stat, 0, "utraTDD", -1, 0);
-         break;
-      case 3:
-         if (pvalue->u.eutra == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "eutra", -1, 0);
-         stat = asn1PE_UMTS_PriorityLevel_radioAccessTechnology_eutra(ctx, pvalue->u.eutra);
-         RT_CHECK(ctx, stat, 0, "eutra", -1, 0);
-         break;
-      case 4:
-         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm", -1, 0);
-         stat = asn1PE_UMTS_PriorityLevel_radioAccessTechnology_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PriorityLevel(rtxContext* RT_RESTRICT ctx, const PriorityLevel* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PriorityLevel");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PriorityLevel");
-   /* priority */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->priority > 7u) {
-         rtxErrAddStrParm(ctx, "priority");
-         rtxErrAddUIntParm(ctx, pvalue->priority);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "priority", -1, "PriorityLevel");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->priority, 0, 7);
-      RT_CHECK(ctx, stat, 0, "priority", -1, "PriorityLevel");
-   }
-   /* radioAccessTechnology */
-   stat = asn1PE_UMTS_PriorityLevel_radioAccessTechnology(ctx, &pvalue->radioAccessTechnology);
-   RT_CHECK(ctx, stat, 0, "radioAccessTechnology", -1, "PriorityLevel");
-   return 0;
-}
-
-int asn1PE_UMTS_PriorityLevelList(rtxContext* RT_RESTRICT ctx, const PriorityLevelList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PriorityLevelList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PriorityLevelList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PriorityLevel", (int32_t)i, "PriorityLevelList");
-      stat = asn1PE_UMTS_PriorityLevel(ctx, (const PriorityLevel*)node->data);
-      RT_CHECK(ctx, stat, 0, "PriorityLevel", (int32_t)i, "PriorityLevelList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DedicatedPriorityInformation_action_configureDedicatedPriorities(rtxContext* RT_RESTRICT ctx, const DedicatedPriorityInformation_action_configureDedicatedPriorities* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* t-322 */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->t_322 > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->t_322);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "T-322", "t-322", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_322, 0, 7);
-      RT_CHECK(ctx, stat, "T-322", "t-322", -1, 0);
-   }
-   /* priorityLevelList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_PriorityLevelList(ctx, &pvalue->priorityLevelList);
-      RT_CHECK(ctx, stat, 0, "priorityLevelList", -1, 0);
-   }
-   /* eutraDetection */
-   stat = rtxEncBit(ctx, pvalue->eutraDetection);
-   RT_CHECK(ctx, stat, 0, "eutraDetection", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_DedicatedPriorityInformation_action(rtxContext* RT_RESTRICT ctx, const DedicatedPriorityInformation_action* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.configureDedicatedPriorities == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "configureDedicatedPriorities", -1, 0);
-         stat = asn1PE_UMTS_DedicatedPriorityInformation_action_configureDedicatedPriorities(ctx, pvalue->u.configureDedicatedPriorities);
-         RT_CHECK(ctx, stat, 0, "configureDedicatedPriorities", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DedicatedPriorityInformation(rtxContext* RT_RESTRICT ctx, const DedicatedPriorityInformation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DedicatedPriorityInformation");
-   /* action */
-   stat = asn1PE_UMTS_DedicatedPriorityInformation_action(ctx, &pvalue->action);
-   RT_CHECK(ctx, stat, 0, "action", -1, "DedicatedPriorityInformation");
-   return 0;
-}
-
-int asn1PE_UMTS_Q_Hyst_S_Fine(rtxContext* RT_RESTRICT ctx, Q_Hyst_S_Fine value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 40u) {
-      rtxErrAddStrParm(ctx, "Q-Hyst-S-Fine");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "Q-Hyst-S-Fine");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 40);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Q-Hyst-S-Fine");
-   return 0;
-}
-
-int asn1PE_UMTS_T_Reselection_S_Fine(rtxContext* RT_RESTRICT ctx, T_Reselection_S_Fine value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 31u) {
-      rtxErrAddStrParm(ctx, "T-Reselection-S-Fine");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "T-Reselection-S-Fine");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-Reselection-S-Fine");
-   return 0;
-}
-
-int asn1PE_UMTS_AccessStratumReleaseIndicator(rtxContext* RT_RESTRICT ctx, AccessStratumReleaseIndicator value)
-{
-   int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "AccessStratumReleaseIndicator");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AccessStratumReleaseIndicator");
-   return 0;
-}
-
-int asn1PE_UMTS_ActivationTime(rtxContext* RT_RESTRICT ctx, ActivationTime value)
-{
-   int stat = 0;
-   stat = pe_ConsUInt64(ctx, value, 0, 255);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ActivationTime");
-   return 0;
-}
-
-int asn1PE_UMTS_N_AP_RetransMax(rtxContext* RT_RESTRICT ctx, N_AP_RetransMax value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 63u) {
-      rtxErrAddStrParm(ctx, "N-AP-RetransMax");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "N-AP-RetransMax");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 64);
-   RT_CHECK(ctx, stat, 0, 0, -1, "N-AP-RetransMax");
-   return 0;
-}
-
-int asn1PE_UMTS_N_AccessFails(rtxContext* RT_RESTRICT ctx, N_AccessFails value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 63u) {
-      rtxErrAddStrParm(ctx, "N-AccessFails");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "N-AccessFails");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 64);
-   RT_CHECK(ctx, stat, 0, 0, -1, "N-AccessFails");
-   return 0;
-}
-
-int asn1PE_UMTS_NF_BO_NoAICH(rtxContext* RT_RESTRICT ctx, NF_BO_NoAICH value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 31u) {
-      rtxErrAddStrParm(ctx, "NF-BO-NoAICH");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "NF-BO-NoAICH");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NF-BO-NoAICH");
-   return 0;
-}
-
-int asn1PE_UMTS_NS_BO_Busy(rtxContext* RT_RESTRICT ctx, NS_BO_Busy value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 63u) {
-      rtxErrAddStrParm(ctx, "NS-BO-Busy");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "NS-BO-Busy");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 63);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NS-BO-Busy");
-   return 0;
-}
-
-int asn1PE_UMTS_NF_BO_AllBusy(rtxContext* RT_RESTRICT ctx, NF_BO_AllBusy value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 31u) {
-      rtxErrAddStrParm(ctx, "NF-BO-AllBusy");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "NF-BO-AllBusy");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NF-BO-AllBusy");
-   return 0;
-}
-
-int asn1PE_UMTS_NF_BO_Mismatch(rtxContext* RT_RESTRICT ctx, NF_BO_Mismatch value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 127u) {
-      rtxErrAddStrParm(ctx, "NF-BO-Mismatch");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "NF-BO-Mismatch");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 127);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NF-BO-Mismatch");
-   return 0;
-}
-
-int asn1PE_UMTS_T_CPCH(rtxContext* RT_RESTRICT ctx, T_CPCH value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-CPCH");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-CPCH");
-   return 0;
-}
-
-int asn1PE_UMTS_BackoffControlParams(rtxContext* RT_RESTRICT ctx, const BackoffControlParams* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "BackoffControlParams");
-   /* n-AP-RetransMax */
-   if ((uint64_t)(pvalue->n_AP_RetransMax - 1) > 63u) {
-      rtxErrAddStrParm(ctx, "N-AP-RetransMax");
-      rtxErrAddUIntParm(ctx, pvalue->n_AP_RetransMax);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "N-AP-RetransMax", "n-AP-RetransMax", -1, "BackoffControlParams");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->n_AP_RetransMax, 1, 64);
-   RT_CHECK(ctx, stat, "N-AP-RetransMax", "n-AP-RetransMax", -1, "BackoffControlParams");
-   /* n-AccessFails */
-   if ((uint64_t)(pvalue->n_AccessFails - 1) > 63u) {
-      rtxErrAddStrParm(ctx, "N-AccessFails");
-      rtxErrAddUIntParm(ctx, pvalue->n_AccessFails);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "N-AccessFails", "n-AccessFails", -1, "BackoffControlParams");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->n_AccessFails, 1, 64);
-   RT_CHECK(ctx, stat, "N-AccessFails", "n-AccessFails", -1, "BackoffControlParams");
-   /* nf-BO-NoAICH */
-   if ((uint64_t)pvalue->nf_BO_NoAICH > 31u) {
-      rtxErrAddStrParm(ctx, "NF-BO-NoAICH");
-      rtxErrAddUIntParm(ctx, pvalue->nf_BO_NoAICH);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "NF-BO-NoAICH", "nf-BO-NoAICH", -1, "BackoffControlParams");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->nf_BO_NoAICH, 0, 31);
-   RT_CHECK(ctx, stat, "NF-BO-NoAICH", "nf-BO-NoAICH", -1, "BackoffControlParams");
-   /* ns-BO-Busy */
-   if ((uint64_t)pvalue->ns_BO_Busy > 63u) {
-      rtxErrAddStrParm(ctx, "NS-BO-Busy");
-      rtxErrAddUIntParm(ctx, pvalue->ns_BO_Busy);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "NS-BO-Busy", "ns-BO-Busy", -1, "BackoffControlParams");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ns_BO_Busy, 0, 63);
-   RT_CHECK(ctx, stat, "NS-BO-Busy", "ns-BO-Busy", -1, "BackoffControlParams");
-   /* nf-BO-AllBusy */
-   if ((uint64_t)pvalue->nf_BO_AllBusy > 31u) {
-      rtxErrAddStrParm(ctx, "NF-BO-AllBusy");
-      rtxErrAddUIntParm(ctx, pvalue->nf_BO_AllBusy);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "NF-BO-AllBusy", "nf-BO-AllBusy", -1, "BackoffControlParams");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->nf_BO_AllBusy, 0, 31);
-   RT_CHECK(ctx, stat, "NF-BO-AllBusy", "nf-BO-AllBusy", -1, "BackoffControlParams");
-   /* nf-BO-Mismatch */
-   if ((uint64_t)pvalue->nf_BO_Mismatch > 127u) {
-      rtxErrAddStrParm(ctx, "NF-BO-Mismatch");
-      rtxErrAddUIntParm(ctx, pvalue->nf_BO_Mismatch);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "NF-BO-Mismatch", "nf-BO-Mismatch", -1, "BackoffControlParams");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->nf_BO_Mismatch, 0, 127);
-   RT_CHECK(ctx, stat, "NF-BO-Mismatch", "nf-BO-Mismatch", -1, "BackoffControlParams");
-   /* t-CPCH */
-   if (pvalue->t_CPCH > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->t_CPCH);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "T-CPCH", "t-CPCH", -1, "BackoffControlParams");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->t_CPCH, 0, 1);
-   RT_CHECK(ctx, stat, "T-CPCH", "t-CPCH", -1, "BackoffControlParams");
-   return 0;
-}
-
-int asn1PE_UMTS_BandComb(rtxContext* RT_RESTRICT ctx, BandComb value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 255u) {
-      rtxErrAddStrParm(ctx, "BandComb");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "BandComb");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 256);
-   RT_CHECK(ctx, stat, 0, 0, -1, "BandComb");
-   return 0;
-}
-
-int asn1PE_UMTS_C_RNTI(rtxContext* RT_RESTRICT ctx, C_RNTI value)
-{
-   int stat = 0;
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &value, 16, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, "C-RNTI");
-   return 0;
-}
-
-int asn1PE_UMTS_SystemSpecificCapUpdateReq(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReq value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SystemSpecificCapUpdateReq");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SystemSpecificCapUpdateReq");
-   return 0;
-}
-
-int asn1PE_UMTS_SystemSpecificCapUpdateReqList(rtxContext* RT_RESTRICT ctx, const SystemSpecificCapUpdateReqList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SystemSpecificCapUpdateReqList");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SystemSpecificCapUpdateReqList");
-   for (i = 0; i < pvalue->n; i++) {
-      if (pvalue->elem[i] > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "SystemSpecificCapUpdateReq", "SystemSpecificCapUpdateReq", (int32_t)i, "SystemSpecificCapUpdateReqList");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 0);
-      RT_CHECK(ctx, stat, "SystemSpecificCapUpdateReq", "SystemSpecificCapUpdateReq", (int32_t)i, "SystemSpecificCapUpdateReqList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CapabilityUpdateRequirement(rtxContext* RT_RESTRICT ctx, const CapabilityUpdateRequirement* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CapabilityUpdateRequirement");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CapabilityUpdateRequirement");
-   /* ue-RadioCapabilityFDDUpdateRequirement */
-   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityFDDUpdateRequirement);
-   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityFDDUpdateRequirement", -1, "CapabilityUpdateRequirement");
-   /* ue-RadioCapabilityTDDUpdateRequirement */
-   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityTDDUpdateRequirement);
-   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement", -1, "CapabilityUpdateRequirement");
-   /* systemSpecificCapUpdateReqList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SystemSpecificCapUpdateReqList(ctx, &pvalue->systemSpecificCapUpdateReqList);
-      RT_CHECK(ctx, stat, 0, "systemSpecificCapUpdateReqList", -1, "CapabilityUpdateRequirement");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CapabilityUpdateRequirement_r4_ext(rtxContext* RT_RESTRICT ctx, const CapabilityUpdateRequirement_r4_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CapabilityUpdateRequirement-r4-ext");
-   /* ue-RadioCapabilityUpdateRequirement-TDD128 */
-   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityUpdateRequirement_TDD128);
-   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityUpdateRequirement-TDD128", -1, "CapabilityUpdateRequirement-r4-ext");
-   return 0;
-}
-
-int asn1PE_UMTS_CapabilityUpdateRequirement_r4(rtxContext* RT_RESTRICT ctx, const CapabilityUpdateRequirement_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CapabilityUpdateRequirement-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CapabilityUpdateRequirement-r4");
-   /* ue-RadioCapabilityFDDUpdateRequirement-FDD */
-   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityFDDUpdateRequirement_FDD);
-   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityFDDUpdateRequirement-FDD", -1, "CapabilityUpdateRequirement-r4");
-   /* ue-RadioCapabilityTDDUpdateRequirement-TDD384 */
-   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD384);
-   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD384", -1, "CapabilityUpdateRequirement-r4");
-   /* ue-RadioCapabilityTDDUpdateRequirement-TDD128 */
-   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD128);
-   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD128", -1, "CapabilityUpdateRequirement-r4");
-   /* systemSpecificCapUpdateReqList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SystemSpecificCapUpdateReqList(ctx, &pvalue->systemSpecificCapUpdateReqList);
-      RT_CHECK(ctx, stat, 0, "systemSpecificCapUpdateReqList", -1, "CapabilityUpdateRequirement-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SystemSpecificCapUpdateReq_r5(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReq_r5 value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SystemSpecificCapUpdateReq-r5");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SystemSpecificCapUpdateReq-r5");
-   return 0;
-}
-
-int asn1PE_UMTS_SystemSpecificCapUpdateReqList_r5(rtxContext* RT_RESTRICT ctx, const SystemSpecificCapUpdateReqList_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SystemSpecificCapUpdateReqList-r5");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SystemSpecificCapUpdateReqList-r5");
-   for (i = 0; i < pvalue->n; i++) {
-      if (pvalue->elem[i] > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "SystemSpecificCapUpdateReq-r5", "SystemSpecificCapUpdateReq-r5", (int32_t)i, "SystemSpecificCapUpdateReqList-r5");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 1);
-      RT_CHECK(ctx, stat, "SystemSpecificCapUpdateReq-r5", "SystemSpecificCapUpdateReq-r5", (int32_t)i, "SystemSpecificCapUpdateReqList-r5");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CapabilityUpdateRequirement_r5(rtxContext* RT_RESTRICT ctx, const CapabilityUpdateRequirement_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CapabilityUpdateRequirement-r5");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CapabilityUpdateRequirement-r5");
-   /* ue-RadioCapabilityFDDUpdateRequirement-FDD */
-   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityFDDUpdateRequirement_FDD);
-   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityFDDUpdateRequirement-FDD", -1, "CapabilityUpdateRequirement-r5");
-   /* ue-RadioCapabilityTDDUpdateRequirement-TDD384 */
-   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD384);
-   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD384", -1, "CapabilityUpdateRequirement-r5");
-   /* ue-RadioCapabilityTDDUpdateRequirement-TDD128 */
-   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD128);
-   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD128", -1, "CapabilityUpdateRequirement-r5");
-   /* systemSpecificCapUpdateReqList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SystemSpecificCapUpdateReqList_r5(ctx, &pvalue->systemSpecificCapUpdateReqList);
-      RT_CHECK(ctx, stat, 0, "systemSpecificCapUpdateReqList", -1, "CapabilityUpdateRequirement-r5");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CapabilityUpdateRequirement_v770ext(rtxContext* RT_RESTRICT ctx, const CapabilityUpdateRequirement_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CapabilityUpdateRequirement-v770ext");
-   /* ue-RadioCapabilityTDDUpdateRequirement-TDD768 */
-   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD768);
-   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD768", -1, "CapabilityUpdateRequirement-v770ext");
-   return 0;
-}
-
-int asn1PE_UMTS_CapabilityUpdateRequirement_r7(rtxContext* RT_RESTRICT ctx, const CapabilityUpdateRequirement_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CapabilityUpdateRequirement-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CapabilityUpdateRequirement-r7");
-   /* ue-RadioCapabilityFDDUpdateRequirement-FDD */
-   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityFDDUpdateRequirement_FDD);
-   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityFDDUpdateRequirement-FDD", -1, "CapabilityUpdateRequirement-r7");
-   /* ue-RadioCapabilityTDDUpdateRequirement-TDD384 */
-   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD384);
-   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD384", -1, "CapabilityUpdateRequirement-r7");
-   /* ue-RadioCapabilityTDDUpdateRequirement-TDD768 */
-   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD768);
-   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD768", -1, "CapabilityUpdateRequirement-r7");
-   /* ue-RadioCapabilityTDDUpdateRequirement-TDD128 */
-   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD128);
-   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD128", -1, "CapabilityUpdateRequirement-r7");
-   /* systemSpecificCapUpdateReqList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SystemSpecificCapUpdateReqList_r5(ctx, &pvalue->systemSpecificCapUpdateReqList);
-      RT_CHECK(ctx, stat, 0, "systemSpecificCapUpdateReqList", -1, "CapabilityUpdateRequirement-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SystemSpecificCapUpdateReq_r8(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReq_r8 value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SystemSpecificCapUpdateReq-r8");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SystemSpecificCapUpdateReq-r8");
-   return 0;
-}
-
-int asn1PE_UMTS_SystemSpecificCapUpdateReqList_r8(rtxContext* RT_RESTRICT ctx, const SystemSpecificCapUpdateReqList_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SystemSpecificCapUpdateReqList-r8");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SystemSpecificCapUpdateReqList-r8");
-   for (i = 0; i < pvalue->n; i++) {
-      if (pvalue->elem[i] > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "SystemSpecificCapUpdateReq-r8", "SystemSpecificCapUpdateReq-r8", (int32_t)i, "SystemSpecificCapUpdateReqList-r8");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 7);
-      RT_CHECK(ctx, stat, "SystemSpecificCapUpdateReq-r8", "SystemSpecificCapUpdateReq-r8", (int32_t)i, "SystemSpecificCapUpdateReqList-r8");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CapabilityUpdateRequirement_v860ext(rtxContext* RT_RESTRICT ctx, const CapabilityUpdateRequirement_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CapabilityUpdateRequirement-v860ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CapabilityUpdateRequirement-v860ext");
-   /* systemSpecificCapUpdateReqList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SystemSpecificCapUpdateReqList_r8(ctx, &pvalue->systemSpecificCapUpdateReqList);
-      RT_CHECK(ctx, stat, 0, "systemSpecificCapUpdateReqList", -1, "CapabilityUpdateRequirement-v860ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CapabilityUpdateRequirement_r8(rtxContext* RT_RESTRICT ctx, const CapabilityUpdateRequirement_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CapabilityUpdateRequirement-r8");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CapabilityUpdateRequirement-r8");
-   /* ue-RadioCapabilityFDDUpdateRequirement-FDD */
-   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityFDDUpdateRequirement_FDD);
-   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityFDDUpdateRequirement-FDD", -1, "CapabilityUpdateRequirement-r8");
-   /* ue-RadioCapabilityTDDUpdateRequirement-TDD384 */
-   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD384);
-   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD384", -1, "CapabilityUpdateRequirement-r8");
-   /* ue-RadioCapabilityTDDUpdateRequirement-TDD768 */
-   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD768);
-   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD768", -1, "CapabilityUpdateRequirement-r8");
-   /* ue-RadioCapabilityTDDUpdateRequirement-TDD128 */
-   stat = rtxEncBit(ctx, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD128);
-   RT_CHECK(ctx, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD128", -1, "CapabilityUpdateRequirement-r8");
-   /* systemSpecificCapUpdateReqList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SystemSpecificCapUpdateReqList_r8(ctx, &pvalue->systemSpecificCapUpdateReqList);
-      RT_CHECK(ctx, stat, 0, "systemSpecificCapUpdateReqList", -1, "CapabilityUpdateRequirement-r8");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateCause(rtxContext* RT_RESTRICT ctx, CellUpdateCause value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "CellUpdateCause");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateCause");
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateCause_ext(rtxContext* RT_RESTRICT ctx, CellUpdateCause_ext value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "CellUpdateCause-ext");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateCause-ext");
-   return 0;
-}
-
-int asn1PE_UMTS_ChipRateCapability(rtxContext* RT_RESTRICT ctx, ChipRateCapability value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ChipRateCapability");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ChipRateCapability");
-   return 0;
-}
-
-int asn1PE_UMTS_CipheringAlgorithm(rtxContext* RT_RESTRICT ctx, CipheringAlgorithm value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "CipheringAlgorithm");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CipheringAlgorithm");
-   return 0;
-}
-
-int asn1PE_UMTS_CipheringAlgorithm_r7(rtxContext* RT_RESTRICT ctx, CipheringAlgorithm_r7 value)
-{
-   int stat = 0;
-   if (value > 2) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "CipheringAlgorithm-r7");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CipheringAlgorithm-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_CipheringModeCommand(rtxContext* RT_RESTRICT ctx, const CipheringModeCommand* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CipheringModeCommand");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "CipheringModeCommand");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "CipheringModeCommand");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.startRestart > 1) {
-            rtxErrAddUIntParm(ctx, pvalue->u.startRestart);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "CipheringAlgorithm", "startRestart", -1, "CipheringModeCommand");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.startRestart, 0, 1);
-         RT_CHECK(ctx, stat, "CipheringAlgorithm", "startRestart", -1, "CipheringModeCommand");
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CipheringModeCommand_r7(rtxContext* RT_RESTRICT ctx, const CipheringModeCommand_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CipheringModeCommand-r7");
-   /* startRestart */
-   if (pvalue->startRestart > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->startRestart);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "CipheringAlgorithm-r7", "startRestart", -1, "CipheringModeCommand-r7");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->startRestart, 0, 2);
-   RT_CHECK(ctx, stat, "CipheringAlgorithm-r7", "startRestart", -1, "CipheringModeCommand-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_RLC_SequenceNumber(rtxContext* RT_RESTRICT ctx, RLC_SequenceNumber value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 4095u) {
-      rtxErrAddStrParm(ctx, "RLC-SequenceNumber");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "RLC-SequenceNumber");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 4095);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-SequenceNumber");
-   return 0;
-}
-
-int asn1PE_UMTS_RB_ActivationTimeInfo(rtxContext* RT_RESTRICT ctx, const RB_ActivationTimeInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-ActivationTimeInfo");
-   /* rb-Identity */
-   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "RB-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-ActivationTimeInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-ActivationTimeInfo");
-   /* rlc-SequenceNumber */
-   if ((uint64_t)pvalue->rlc_SequenceNumber > 4095u) {
-      rtxErrAddStrParm(ctx, "RLC-SequenceNumber");
-      rtxErrAddUIntParm(ctx, pvalue->rlc_SequenceNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RLC-SequenceNumber", "rlc-SequenceNumber", -1, "RB-ActivationTimeInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rlc_SequenceNumber, 0, 4095);
-   RT_CHECK(ctx, stat, "RLC-SequenceNumber", "rlc-SequenceNumber", -1, "RB-ActivationTimeInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_RB_ActivationTimeInfoList(rtxContext* RT_RESTRICT ctx, const RB_ActivationTimeInfoList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-ActivationTimeInfoList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-ActivationTimeInfoList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-ActivationTimeInfo", (int32_t)i, "RB-ActivationTimeInfoList");
-      stat = asn1PE_UMTS_RB_ActivationTimeInfo(ctx, (const RB_ActivationTimeInfo*)node->data);
-      RT_CHECK(ctx, stat, 0, "RB-ActivationTimeInfo", (int32_t)i, "RB-ActivationTimeInfoList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CipheringModeInfo(rtxContext* RT_RESTRICT ctx, const CipheringModeInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CipheringModeInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CipheringModeInfo");
-   /* cipheringModeCommand */
-   stat = asn1PE_UMTS_CipheringModeCommand(ctx, &pvalue->cipheringModeCommand);
-   RT_CHECK(ctx, stat, 0, "cipheringModeCommand", -1, "CipheringModeInfo");
-   /* activationTimeForDPCH */
-   if (pvalue->m & 0x1u) {
-      stat = pe_ConsUInt64(ctx, pvalue->activationTimeForDPCH, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTimeForDPCH", -1, "CipheringModeInfo");
-   }
-   /* rb-DL-CiphActivationTimeInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_RB_ActivationTimeInfoList(ctx, &pvalue->rb_DL_CiphActivationTimeInfo);
-      RT_CHECK(ctx, stat, 0, "rb-DL-CiphActivationTimeInfo", -1, "CipheringModeInfo");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CipheringModeInfo_r7(rtxContext* RT_RESTRICT ctx, const CipheringModeInfo_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CipheringModeInfo-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CipheringModeInfo-r7");
-   /* cipheringModeCommand */
-   stat = asn1PE_UMTS_CipheringModeCommand_r7(ctx, &pvalue->cipheringModeCommand);
-   RT_CHECK(ctx, stat, 0, "cipheringModeCommand", -1, "CipheringModeInfo-r7");
-   /* activationTimeForDPCH */
-   if (pvalue->m & 0x1u) {
-      stat = pe_ConsUInt64(ctx, pvalue->activationTimeForDPCH, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTimeForDPCH", -1, "CipheringModeInfo-r7");
-   }
-   /* rb-DL-CiphActivationTimeInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_RB_ActivationTimeInfoList(ctx, &pvalue->rb_DL_CiphActivationTimeInfo);
-      RT_CHECK(ctx, stat, 0, "rb-DL-CiphActivationTimeInfo", -1, "CipheringModeInfo-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IMSI_DS_41(rtxContext* RT_RESTRICT ctx, const IMSI_DS_41* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IMSI-DS-41");
-   RT_SET_SIZE(ctx, 5, 7);
-   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IMSI-DS-41");
-   return 0;
-}
-
-int asn1PE_UMTS_TMSI_DS_41(rtxContext* RT_RESTRICT ctx, const TMSI_DS_41* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TMSI-DS-41");
-   RT_SET_SIZE(ctx, 2, 17);
-   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TMSI-DS-41");
-   return 0;
-}
-
-int asn1PE_UMTS_CN_PagedUE_Identity(rtxContext* RT_RESTRICT ctx, const CN_PagedUE_Identity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CN-PagedUE-Identity");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
-   RT_CHECK(ctx, stat, 0, "t", -1, "CN-PagedUE-Identity");
-   if (pvalue->t - 1 > 7) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "CN-PagedUE-Identity");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.imsi_GSM_MAP == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "imsi-GSM-MAP", -1, "CN-PagedUE-Identity");
-         stat = asn1PE_UMTS_IMSI_GSM_MAP(ctx, pvalue->u.imsi_GSM_MAP);
-         RT_CHECK(ctx, stat, 0, "imsi-GSM-MAP", -1, "CN-PagedUE-Identity");
-         break;
-      case 2:
-         if (pvalue->u.tmsi_GSM_MAP == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tmsi-GSM-MAP", -1, "CN-PagedUE-Identity");
-         stat = asn1PE_UMTS_TMSI_GSM_MAP(ctx, *pvalue->u.tmsi_GSM_MAP);
-         RT_CHECK(ctx, stat, 0, "tmsi-GSM-MAP", -1, "CN-PagedUE-Identity");
-         break;
-      case 3:
-         if (pvalue->u.p_TMSI_GSM_MAP == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "p-TMSI-GSM-MAP", -1, "CN-PagedUE-Identity");
-         stat = asn1PE_UMTS_P_TMSI_GSM_MAP(ctx, *pvalue->u.p_TMSI_GSM_MAP);
-         RT_CHECK(ctx, stat, 0, "p-TMSI-GSM-MAP", -1, "CN-PagedUE-Identity");
-         break;
-      case 4:
-         if (pvalue->u.imsi_DS_41 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "imsi-DS-41", -1, "CN-PagedUE-Identity");
-         stat = asn1PE_UMTS_IMSI_DS_41(ctx, pvalue->u.imsi_DS_41);
-         RT_CHECK(ctx, stat, 0, "imsi-DS-41", -1, "CN-PagedUE-Identity");
-         break;
-      case 5:
-         if (pvalue->u.tmsi_DS_41 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tmsi-DS-41", -1, "CN-PagedUE-Identity");
-         stat = asn1PE_UMTS_TMSI_DS_41(ctx, pvalue->u.tmsi_DS_41);
-         RT_CHECK(ctx, stat, 0, "tmsi-DS-41", -1, "CN-PagedUE-Identity");
-         break;
-      case 6:
-         break;
-      case 7:
-         break;
-      case 8:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_Measurements(rtxContext* RT_RESTRICT ctx, const GSM_Measurements* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GSM-Measurements");
-   /* gsm900 */
-   stat = rtxEncBit(ctx, pvalue->gsm900);
-   RT_CHECK(ctx, stat, 0, "gsm900", -1, "GSM-Measurements");
-   /* dcs1800 */
-   stat = rtxEncBit(ctx, pvalue->dcs1800);
-   RT_CHECK(ctx, stat, 0, "dcs1800", -1, "GSM-Measurements");
-   /* gsm1900 */
-   stat = rtxEncBit(ctx, pvalue->gsm1900);
-   RT_CHECK(ctx, stat, 0, "gsm1900", -1, "GSM-Measurements");
-   return 0;
-}
-
-int asn1PE_UMTS_CompressedModeMeasCapability(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapability");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CompressedModeMeasCapability");
-   /* fdd-Measurements */
-   stat = rtxEncBit(ctx, pvalue->fdd_Measurements);
-   RT_CHECK(ctx, stat, 0, "fdd-Measurements", -1, "CompressedModeMeasCapability");
-   /* tdd-Measurements */
-   if (pvalue->m & 0x1u) {
-      stat = rtxEncBit(ctx, pvalue->tdd_Measurements);
-      RT_CHECK(ctx, stat, 0, "tdd-Measurements", -1, "CompressedModeMeasCapability");
-   }
-   /* gsm-Measurements */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_GSM_Measurements(ctx, &pvalue->gsm_Measurements);
-      RT_CHECK(ctx, stat, 0, "gsm-Measurements", -1, "CompressedModeMeasCapability");
-   }
-   /* multiCarrierMeasurements */
-   if (pvalue->m & 0x4u) {
-      stat = rtxEncBit(ctx, pvalue->multiCarrierMeasurements);
-      RT_CHECK(ctx, stat, 0, "multiCarrierMeasurements", -1, "CompressedModeMeasCapability");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CompressedModeMeasCapability_LCR_r4(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapability_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapability-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CompressedModeMeasCapability-LCR-r4");
-   /* tdd128-Measurements */
-   if (pvalue->m & 0x1u) {
-      stat = rtxEncBit(ctx, pvalue->tdd128_Measurements);
-      RT_CHECK(ctx, stat, 0, "tdd128-Measurements", -1, "CompressedModeMeasCapability-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CompressedModeMeasCapability_v860ext_adjacentFrequencyMeasurements(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability_v860ext_adjacentFrequencyMeasurements value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CompressedModeMeasCapability_v860ext(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapability_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapability-v860ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CompressedModeMeasCapability-v860ext");
-   /* adjacentFrequencyMeasurements */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->adjacentFrequencyMeasurements > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->adjacentFrequencyMeasurements);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "adjacentFrequencyMeasurements", -1, "CompressedModeMeasCapability-v860ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->adjacentFrequencyMeasurements, 0, 0);
-      RT_CHECK(ctx, stat, 0, "adjacentFrequencyMeasurements", -1, "CompressedModeMeasCapability-v860ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CompressedModeMeasCapability_v920ext_interBandMeasurements(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability_v920ext_interBandMeasurements value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CompressedModeMeasCapability_v920ext(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapability_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapability-v920ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CompressedModeMeasCapability-v920ext");
-   /* interBandMeasurements */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->interBandMeasurements > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->interBandMeasurements);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "interBandMeasurements", -1, "CompressedModeMeasCapability-v920ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->interBandMeasurements, 0, 0);
-      RT_CHECK(ctx, stat, 0, "interBandMeasurements", -1, "CompressedModeMeasCapability-v920ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RadioFrequencyBandEUTRA(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandEUTRA value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 63u) {
-      rtxErrAddStrParm(ctx, "RadioFrequencyBandEUTRA");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "RadioFrequencyBandEUTRA");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 64);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioFrequencyBandEUTRA");
-   return 0;
-}
-
-int asn1PE_UMTS_CompressedModeMeasCapabEUTRA(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabEUTRA* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapabEUTRA");
-   /* radioFrequencyBandEUTRA */
-   if ((uint64_t)(pvalue->radioFrequencyBandEUTRA - 1) > 63u) {
-      rtxErrAddStrParm(ctx, "RadioFrequencyBandEUTRA");
-      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandEUTRA);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RadioFrequencyBandEUTRA", "radioFrequencyBandEUTRA", -1, "CompressedModeMeasCapabEUTRA");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandEUTRA, 1, 64);
-   RT_CHECK(ctx, stat, "RadioFrequencyBandEUTRA", "radioFrequencyBandEUTRA", -1, "CompressedModeMeasCapabEUTRA");
-   /* compressedMode */
-   stat = rtxEncBit(ctx, pvalue->compressedMode);
-   RT_CHECK(ctx, stat, 0, "compressedMode", -1, "CompressedModeMeasCapabEUTRA");
-   return 0;
-}
-
-int asn1PE_UMTS_CompressedModeMeasCapabEUTRAList(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabEUTRAList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapabEUTRAList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CompressedModeMeasCapabEUTRAList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CompressedModeMeasCapabEUTRA", (int32_t)i, "CompressedModeMeasCapabEUTRAList");
-      stat = asn1PE_UMTS_CompressedModeMeasCapabEUTRA(ctx, (const CompressedModeMeasCapabEUTRA*)node->data);
-      RT_CHECK(ctx, stat, 0, "CompressedModeMeasCapabEUTRA", (int32_t)i, "CompressedModeMeasCapabEUTRAList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CompressedModeMeasCapabFDD(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabFDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapabFDD");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CompressedModeMeasCapabFDD");
-   /* radioFrequencyBandFDD */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->radioFrequencyBandFDD > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandFDD);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "CompressedModeMeasCapabFDD");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandFDD, 0, 7);
-      RT_CHECK(ctx, stat, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "CompressedModeMeasCapabFDD");
-   }
-   /* dl-MeasurementsFDD */
-   stat = rtxEncBit(ctx, pvalue->dl_MeasurementsFDD);
-   RT_CHECK(ctx, stat, 0, "dl-MeasurementsFDD", -1, "CompressedModeMeasCapabFDD");
-   /* ul-MeasurementsFDD */
-   stat = rtxEncBit(ctx, pvalue->ul_MeasurementsFDD);
-   RT_CHECK(ctx, stat, 0, "ul-MeasurementsFDD", -1, "CompressedModeMeasCapabFDD");
-   return 0;
-}
-
-int asn1PE_UMTS_CompressedModeMeasCapabFDDList(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabFDDList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapabFDDList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CompressedModeMeasCapabFDDList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CompressedModeMeasCapabFDD", (int32_t)i, "CompressedModeMeasCapabFDDList");
-      stat = asn1PE_UMTS_CompressedModeMeasCapabFDD(ctx, (const CompressedModeMeasCapabFDD*)node->data);
-      RT_CHECK(ctx, stat, 0, "CompressedModeMeasCapabFDD", (int32_t)i, "CompressedModeMeasCapabFDDList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CompressedModeMeasCapabFDD2(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabFDD2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapabFDD2");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CompressedModeMeasCapabFDD2");
-   /* radioFrequencyBandFDD */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->radioFrequencyBandFDD > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandFDD);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "CompressedModeMeasCapabFDD2");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandFDD, 0, 7);
-      RT_CHECK(ctx, stat, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "CompressedModeMeasCapabFDD2");
-   }
-   /* radioFrequencyBandFDD2 */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->radioFrequencyBandFDD2 > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandFDD2);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandFDD2", "radioFrequencyBandFDD2", -1, "CompressedModeMeasCapabFDD2");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandFDD2, 0, 15);
-      RT_CHECK(ctx, stat, "RadioFrequencyBandFDD2", "radioFrequencyBandFDD2", -1, "CompressedModeMeasCapabFDD2");
-   }
-   /* dl-MeasurementsFDD */
-   stat = rtxEncBit(ctx, pvalue->dl_MeasurementsFDD);
-   RT_CHECK(ctx, stat, 0, "dl-MeasurementsFDD", -1, "CompressedModeMeasCapabFDD2");
-   /* ul-MeasurementsFDD */
-   stat = rtxEncBit(ctx, pvalue->ul_MeasurementsFDD);
-   RT_CHECK(ctx, stat, 0, "ul-MeasurementsFDD", -1, "CompressedModeMeasCapabFDD2");
-   return 0;
-}
-
-int asn1PE_UMTS_CompressedModeMeasCapabFDDList2(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabFDDList2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapabFDDList2");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CompressedModeMeasCapabFDDList2");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CompressedModeMeasCapabFDD2", (int32_t)i, "CompressedModeMeasCapabFDDList2");
-      stat = asn1PE_UMTS_CompressedModeMeasCapabFDD2(ctx, (const CompressedModeMeasCapabFDD2*)node->data);
-      RT_CHECK(ctx, stat, 0, "CompressedModeMeasCapabFDD2", (int32_t)i, "CompressedModeMeasCapabFDDList2");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CompressedModeMeasCapabFDD_ext(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabFDD_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapabFDD-ext");
-   /* radioFrequencyBandFDD2 */
-   if (pvalue->radioFrequencyBandFDD2 > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandFDD2);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandFDD2", "radioFrequencyBandFDD2", -1, "CompressedModeMeasCapabFDD-ext");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandFDD2, 0, 15);
-   RT_CHECK(ctx, stat, "RadioFrequencyBandFDD2", "radioFrequencyBandFDD2", -1, "CompressedModeMeasCapabFDD-ext");
-   /* dl-MeasurementsFDD */
-   stat = rtxEncBit(ctx, pvalue->dl_MeasurementsFDD);
-   RT_CHECK(ctx, stat, 0, "dl-MeasurementsFDD", -1, "CompressedModeMeasCapabFDD-ext");
-   /* ul-MeasurementsFDD */
-   stat = rtxEncBit(ctx, pvalue->ul_MeasurementsFDD);
-   RT_CHECK(ctx, stat, 0, "ul-MeasurementsFDD", -1, "CompressedModeMeasCapabFDD-ext");
-   return 0;
-}
-
-int asn1PE_UMTS_CompressedModeMeasCapabFDDList_ext(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabFDDList_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapabFDDList-ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CompressedModeMeasCapabFDDList-ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CompressedModeMeasCapabFDD-ext", (int32_t)i, "CompressedModeMeasCapabFDDList-ext");
-      stat = asn1PE_UMTS_CompressedModeMeasCapabFDD_ext(ctx, (const CompressedModeMeasCapabFDD_ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "CompressedModeMeasCapabFDD-ext", (int32_t)i, "CompressedModeMeasCapabFDDList-ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RadioFrequencyBandTDD(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDD value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "RadioFrequencyBandTDD");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioFrequencyBandTDD");
-   return 0;
-}
-
-int asn1PE_UMTS_CompressedModeMeasCapabTDD(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabTDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapabTDD");
-   /* radioFrequencyBandTDD */
-   if (pvalue->radioFrequencyBandTDD > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandTDD);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandTDD", "radioFrequencyBandTDD", -1, "CompressedModeMeasCapabTDD");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandTDD, 0, 3);
-   RT_CHECK(ctx, stat, "RadioFrequencyBandTDD", "radioFrequencyBandTDD", -1, "CompressedModeMeasCapabTDD");
-   /* dl-MeasurementsTDD */
-   stat = rtxEncBit(ctx, pvalue->dl_MeasurementsTDD);
-   RT_CHECK(ctx, stat, 0, "dl-MeasurementsTDD", -1, "CompressedModeMeasCapabTDD");
-   /* ul-MeasurementsTDD */
-   stat = rtxEncBit(ctx, pvalue->ul_MeasurementsTDD);
-   RT_CHECK(ctx, stat, 0, "ul-MeasurementsTDD", -1, "CompressedModeMeasCapabTDD");
-   return 0;
-}
-
-int asn1PE_UMTS_CompressedModeMeasCapabTDDList(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabTDDList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapabTDDList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CompressedModeMeasCapabTDDList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CompressedModeMeasCapabTDD", (int32_t)i, "CompressedModeMeasCapabTDDList");
-      stat = asn1PE_UMTS_CompressedModeMeasCapabTDD(ctx, (const CompressedModeMeasCapabTDD*)node->data);
-      RT_CHECK(ctx, stat, 0, "CompressedModeMeasCapabTDD", (int32_t)i, "CompressedModeMeasCapabTDDList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RadioFrequencyBandGSM(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandGSM value)
-{
-   int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "RadioFrequencyBandGSM");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioFrequencyBandGSM");
-   return 0;
-}
-
-int asn1PE_UMTS_CompressedModeMeasCapabGSM(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabGSM* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapabGSM");
-   /* radioFrequencyBandGSM */
-   if (pvalue->radioFrequencyBandGSM > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandGSM);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandGSM", "radioFrequencyBandGSM", -1, "CompressedModeMeasCapabGSM");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandGSM, 0, 15);
-   RT_CHECK(ctx, stat, "RadioFrequencyBandGSM", "radioFrequencyBandGSM", -1, "CompressedModeMeasCapabGSM");
-   /* dl-MeasurementsGSM */
-   stat = rtxEncBit(ctx, pvalue->dl_MeasurementsGSM);
-   RT_CHECK(ctx, stat, 0, "dl-MeasurementsGSM", -1, "CompressedModeMeasCapabGSM");
-   /* ul-MeasurementsGSM */
-   stat = rtxEncBit(ctx, pvalue->ul_MeasurementsGSM);
-   RT_CHECK(ctx, stat, 0, "ul-MeasurementsGSM", -1, "CompressedModeMeasCapabGSM");
-   return 0;
-}
-
-int asn1PE_UMTS_CompressedModeMeasCapabGSMList(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabGSMList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapabGSMList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CompressedModeMeasCapabGSMList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CompressedModeMeasCapabGSM", (int32_t)i, "CompressedModeMeasCapabGSMList");
-      stat = asn1PE_UMTS_CompressedModeMeasCapabGSM(ctx, (const CompressedModeMeasCapabGSM*)node->data);
-      RT_CHECK(ctx, stat, 0, "CompressedModeMeasCapabGSM", (int32_t)i, "CompressedModeMeasCapabGSMList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CompressedModeMeasCapabMC(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabMC* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapabMC");
-   /* dl-MeasurementsMC */
-   stat = rtxEncBit(ctx, pvalue->dl_MeasurementsMC);
-   RT_CHECK(ctx, stat, 0, "dl-MeasurementsMC", -1, "CompressedModeMeasCapabMC");
-   /* ul-MeasurementsMC */
-   stat = rtxEncBit(ctx, pvalue->ul_MeasurementsMC);
-   RT_CHECK(ctx, stat, 0, "ul-MeasurementsMC", -1, "CompressedModeMeasCapabMC");
-   return 0;
-}
-
-int asn1PE_UMTS_NS_IP(rtxContext* RT_RESTRICT ctx, NS_IP value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 28u) {
-      rtxErrAddStrParm(ctx, "NS-IP");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "NS-IP");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 28);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NS-IP");
-   return 0;
-}
-
-int asn1PE_UMTS_InitialPriorityDelayList(rtxContext* RT_RESTRICT ctx, const InitialPriorityDelayList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InitialPriorityDelayList");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "InitialPriorityDelayList");
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)pvalue->elem[i] > 28u) {
-         rtxErrAddStrParm(ctx, "NS-IP");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "NS-IP", "NS-IP", (int32_t)i, "InitialPriorityDelayList");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 28);
-      RT_CHECK(ctx, stat, "NS-IP", "NS-IP", (int32_t)i, "InitialPriorityDelayList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_DPCCH_BER(rtxContext* RT_RESTRICT ctx, DL_DPCCH_BER value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 63u) {
-      rtxErrAddStrParm(ctx, "DL-DPCCH-BER");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DL-DPCCH-BER");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 63);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-DPCCH-BER");
-   return 0;
-}
-
-int asn1PE_UMTS_CPCH_Parameters(rtxContext* RT_RESTRICT ctx, const CPCH_Parameters* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CPCH-Parameters");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CPCH-Parameters");
-   /* initialPriorityDelayList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_InitialPriorityDelayList(ctx, &pvalue->initialPriorityDelayList);
-      RT_CHECK(ctx, stat, 0, "initialPriorityDelayList", -1, "CPCH-Parameters");
-   }
-   /* backoffControlParams */
-   stat = asn1PE_UMTS_BackoffControlParams(ctx, &pvalue->backoffControlParams);
-   RT_CHECK(ctx, stat, 0, "backoffControlParams", -1, "CPCH-Parameters");
-   /* powerControlAlgorithm */
-   stat = asn1PE_UMTS_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm);
-   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, "CPCH-Parameters");
-   /* dl-DPCCH-BER */
-   if ((uint64_t)pvalue->dl_DPCCH_BER > 63u) {
-      rtxErrAddStrParm(ctx, "DL-DPCCH-BER");
-      rtxErrAddUIntParm(ctx, pvalue->dl_DPCCH_BER);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "DL-DPCCH-BER", "dl-DPCCH-BER", -1, "CPCH-Parameters");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dl_DPCCH_BER, 0, 63);
-   RT_CHECK(ctx, stat, "DL-DPCCH-BER", "dl-DPCCH-BER", -1, "CPCH-Parameters");
-   return 0;
-}
-
-int asn1PE_UMTS_CSG_ProximityIndicationCapability_supportOfIntraFreqProximityIndication(rtxContext* RT_RESTRICT ctx, CSG_ProximityIndicationCapability_supportOfIntraFreqProximityIndication value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CSG_ProximityIndicationCapability_supportOfInterFreqProximityIndication(rtxContext* RT_RESTRICT ctx, CSG_ProximityIndicationCapability_supportOfInterFreqProximityIndication value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CSG_ProximityIndicationCapability_supportOfE_UtraProximityIndication(rtxContext* RT_RESTRICT ctx, CSG_ProximityIndicationCapability_supportOfE_UtraProximityIndication value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CSG_ProximityIndicationCapability(rtxContext* RT_RESTRICT ctx, const CSG_ProximityIndicationCapability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CSG-ProximityIndicationCapability");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CSG-ProximityIndicationCapability");
-   /* supportOfIntraFreqProximityIndication */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->supportOfIntraFreqProximityIndication > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfIntraFreqProximityIndication);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfIntraFreqProximityIndication", -1, "CSG-ProximityIndicationCapability");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfIntraFreqProximityIndication, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportOfIntraFreqProximityIndication", -1, "CSG-ProximityIndicationCapability");
-   }
-   /* supportOfInterFreqProximityIndication */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->supportOfInterFreqProximityIndication > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfInterFreqProximityIndication);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfInterFreqProximityIndication", -1, "CSG-ProximityIndicationCapability");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfInterFreqProximityIndication, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportOfInterFreqProximityIndication", -1, "CSG-ProximityIndicationCapability");
-   }
-   /* supportOfE-UtraProximityIndication */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->supportOfE_UtraProximityIndication > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfE_UtraProximityIndication);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfE-UtraProximityIndication", -1, "CSG-ProximityIndicationCapability");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfE_UtraProximityIndication, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportOfE-UtraProximityIndication", -1, "CSG-ProximityIndicationCapability");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CapabilityWithSimultaneousHS_DSCHConfig(rtxContext* RT_RESTRICT ctx, DL_CapabilityWithSimultaneousHS_DSCHConfig value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "DL-CapabilityWithSimultaneousHS-DSCHConfig");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CapabilityWithSimultaneousHS-DSCHConfig");
-   return 0;
-}
-
-int asn1PE_UMTS_DPCH_FrameOffset(rtxContext* RT_RESTRICT ctx, DPCH_FrameOffset value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 149u) {
-      rtxErrAddStrParm(ctx, "DPCH-FrameOffset");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DPCH-FrameOffset");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 149);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DPCH-FrameOffset");
-   return 0;
-}
-
-int asn1PE_UMTS_FDPCH_SlotFormat(rtxContext* RT_RESTRICT ctx, FDPCH_SlotFormat value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 9u) {
-      rtxErrAddStrParm(ctx, "FDPCH-SlotFormat");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "FDPCH-SlotFormat");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 9);
-   RT_CHECK(ctx, stat, 0, 0, -1, "FDPCH-SlotFormat");
-   return 0;
-}
-
-int asn1PE_UMTS_TPC_CombinationIndex(rtxContext* RT_RESTRICT ctx, TPC_CombinationIndex value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 5u) {
-      rtxErrAddStrParm(ctx, "TPC-CombinationIndex");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TPC-CombinationIndex");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TPC-CombinationIndex");
-   return 0;
-}
-
-int asn1PE_UMTS_STTDIndication(rtxContext* RT_RESTRICT ctx, STTDIndication value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "STTDIndication");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, "STTDIndication");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_FDPCH_InfoPerRL_r7(rtxContext* RT_RESTRICT ctx, const DL_FDPCH_InfoPerRL_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-FDPCH-InfoPerRL-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-FDPCH-InfoPerRL-r7");
-   /* pCPICH-UsageForChannelEst */
-   if (pvalue->pCPICH_UsageForChannelEst > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->pCPICH_UsageForChannelEst);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, "DL-FDPCH-InfoPerRL-r7");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pCPICH_UsageForChannelEst, 0, 1);
-   RT_CHECK(ctx, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, "DL-FDPCH-InfoPerRL-r7");
-   /* fdpch-FrameOffset */
-   if ((uint64_t)pvalue->fdpch_FrameOffset > 149u) {
-      rtxErrAddStrParm(ctx, "DPCH-FrameOffset");
-      rtxErrAddUIntParm(ctx, pvalue->fdpch_FrameOffset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "DPCH-FrameOffset", "fdpch-FrameOffset", -1, "DL-FDPCH-InfoPerRL-r7");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->fdpch_FrameOffset, 0, 149);
-   RT_CHECK(ctx, stat, "DPCH-FrameOffset", "fdpch-FrameOffset", -1, "DL-FDPCH-InfoPerRL-r7");
-   /* fdpch-SlotFormat */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->fdpch_SlotFormat > 9u) {
-         rtxErrAddStrParm(ctx, "FDPCH-SlotFormat");
-         rtxErrAddUIntParm(ctx, pvalue->fdpch_SlotFormat);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "FDPCH-SlotFormat", "fdpch-SlotFormat", -1, "DL-FDPCH-InfoPerRL-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->fdpch_SlotFormat, 0, 9);
-      RT_CHECK(ctx, stat, "FDPCH-SlotFormat", "fdpch-SlotFormat", -1, "DL-FDPCH-InfoPerRL-r7");
-   }
-   /* secondaryCPICH-Info */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_SecondaryCPICH_Info(ctx, &pvalue->secondaryCPICH_Info);
-      RT_CHECK(ctx, stat, 0, "secondaryCPICH-Info", -1, "DL-FDPCH-InfoPerRL-r7");
-   }
-   /* secondaryScramblingCode */
-   if (pvalue->m & 0x4u) {
-      if ((uint64_t)(pvalue->secondaryScramblingCode - 1) > 14u) {
-         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
-         rtxErrAddUIntParm(ctx, pvalue->secondaryScramblingCode);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "SecondaryScramblingCode", "secondaryScramblingCode", -1, "DL-FDPCH-InfoPerRL-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->secondaryScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, "DL-FDPCH-InfoPerRL-r7");
-   }
-   /* dl-ChannelisationCode */
-   stat = pe_ConsUInt64(ctx, pvalue->dl_ChannelisationCode, 0, 255);
-   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCode", -1, "DL-FDPCH-InfoPerRL-r7");
-   /* tpc-CombinationIndex */
-   if ((uint64_t)pvalue->tpc_CombinationIndex > 5u) {
-      rtxErrAddStrParm(ctx, "TPC-CombinationIndex");
-      rtxErrAddUIntParm(ctx, pvalue->tpc_CombinationIndex);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, "DL-FDPCH-InfoPerRL-r7");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tpc_CombinationIndex, 0, 5);
-   RT_CHECK(ctx, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, "DL-FDPCH-InfoPerRL-r7");
-   /* sttdIndication */
-   if (pvalue->m & 0x8u) {
-      if (pvalue->sttdIndication > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->sttdIndication);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "STTDIndication", "sttdIndication", -1, "DL-FDPCH-InfoPerRL-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->sttdIndication, 0, 0);
-      RT_CHECK(ctx, stat, "STTDIndication", "sttdIndication", -1, "DL-FDPCH-InfoPerRL-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerSecondaryRL_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, const DL_InformationPerSecondaryRL_e_RGCH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e-RGCH-Information", -1, 0);
-         stat = asn1PE_UMTS_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information);
-         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerSecondaryRL(rtxContext* RT_RESTRICT ctx, const DL_InformationPerSecondaryRL* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerSecondaryRL");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerSecondaryRL");
-   /* primaryCPICH-Info */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "DL-InformationPerSecondaryRL");
-   /* cell-id */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellIdentity(ctx, pvalue->cell_id);
-      RT_CHECK(ctx, stat, 0, "cell-id", -1, "DL-InformationPerSecondaryRL");
-   }
-   /* dl-FDPCHInfoPerRL-SecULFreq */
-   stat = asn1PE_UMTS_DL_FDPCH_InfoPerRL_r7(ctx, &pvalue->dl_FDPCHInfoPerRL_SecULFreq);
-   RT_CHECK(ctx, stat, 0, "dl-FDPCHInfoPerRL-SecULFreq", -1, "DL-InformationPerSecondaryRL");
-   /* e-AGCH-Information */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_E_AGCH_Information(ctx, &pvalue->e_AGCH_Information);
-      RT_CHECK(ctx, stat, 0, "e-AGCH-Information", -1, "DL-InformationPerSecondaryRL");
-   }
-   /* e-HICH-Information */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_E_HICH_Information(ctx, &pvalue->e_HICH_Information);
-      RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "DL-InformationPerSecondaryRL");
-   }
-   /* e-RGCH-Info */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_DL_InformationPerSecondaryRL_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, "DL-InformationPerSecondaryRL");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerSecondaryRL_List(rtxContext* RT_RESTRICT ctx, const DL_InformationPerSecondaryRL_List* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerSecondaryRL-List");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-InformationPerSecondaryRL-List");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-InformationPerSecondaryRL", (int32_t)i, "DL-InformationPerSecondaryRL-List");
-      stat = asn1PE_UMTS_DL_InformationPerSecondaryRL(ctx, (const DL_InformationPerSecondaryRL*)node->data);
-      RT_CHECK(ctx, stat, 0, "DL-InformationPerSecondaryRL", (int32_t)i, "DL-InformationPerSecondaryRL-List");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MaxNoPhysChBitsReceived(rtxContext* RT_RESTRICT ctx, MaxNoPhysChBitsReceived value)
-{
-   int stat = 0;
-   if (value > 14) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxNoPhysChBitsReceived");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 14);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxNoPhysChBitsReceived");
-   return 0;
-}
-
-int asn1PE_UMTS_MaxNoSCCPCH_RL(rtxContext* RT_RESTRICT ctx, MaxNoSCCPCH_RL value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxNoSCCPCH-RL");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxNoSCCPCH-RL");
-   return 0;
-}
-
-int asn1PE_UMTS_SimultaneousSCCPCH_DPCH_Reception_supported(rtxContext* RT_RESTRICT ctx, const SimultaneousSCCPCH_DPCH_Reception_supported* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* maxNoSCCPCH-RL */
-   if (pvalue->maxNoSCCPCH_RL > 0) {
-      rtxErrAddUIntParm(ctx, pvalue->maxNoSCCPCH_RL);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNoSCCPCH-RL", "maxNoSCCPCH-RL", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxNoSCCPCH_RL, 0, 0);
-   RT_CHECK(ctx, stat, "MaxNoSCCPCH-RL", "maxNoSCCPCH-RL", -1, 0);
-   /* simultaneousSCCPCH-DPCH-DPDCH-Reception */
-   stat = rtxEncBit(ctx, pvalue->simultaneousSCCPCH_DPCH_DPDCH_Reception);
-   RT_CHECK(ctx, stat, 0, "simultaneousSCCPCH-DPCH-DPDCH-Reception", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SimultaneousSCCPCH_DPCH_Reception(rtxContext* RT_RESTRICT ctx, const SimultaneousSCCPCH_DPCH_Reception* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SimultaneousSCCPCH-DPCH-Reception");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "SimultaneousSCCPCH-DPCH-Reception");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "SimultaneousSCCPCH-DPCH-Reception");
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.supported == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "supported", -1, "SimultaneousSCCPCH-DPCH-Reception");
-         stat = asn1PE_UMTS_SimultaneousSCCPCH_DPCH_Reception_supported(ctx, pvalue->u.supported);
-         RT_CHECK(ctx, stat, 0, "supported", -1, "SimultaneousSCCPCH-DPCH-Reception");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PhysChCapabilityFDD(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityFDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-PhysChCapabilityFDD");
-   /* maxNoDPCH-PDSCH-Codes */
-   if ((uint64_t)(pvalue->maxNoDPCH_PDSCH_Codes - 1) > 7u) {
-      rtxErrAddStrParm(ctx, "maxNoDPCH-PDSCH-Codes");
-      rtxErrAddUIntParm(ctx, pvalue->maxNoDPCH_PDSCH_Codes);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "maxNoDPCH-PDSCH-Codes", -1, "DL-PhysChCapabilityFDD");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxNoDPCH_PDSCH_Codes, 1, 8);
-   RT_CHECK(ctx, stat, 0, "maxNoDPCH-PDSCH-Codes", -1, "DL-PhysChCapabilityFDD");
-   /* maxNoPhysChBitsReceived */
-   if (pvalue->maxNoPhysChBitsReceived > 14) {
-      rtxErrAddUIntParm(ctx, pvalue->maxNoPhysChBitsReceived);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNoPhysChBitsReceived", "maxNoPhysChBitsReceived", -1, "DL-PhysChCapabilityFDD");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxNoPhysChBitsReceived, 0, 14);
-   RT_CHECK(ctx, stat, "MaxNoPhysChBitsReceived", "maxNoPhysChBitsReceived", -1, "DL-PhysChCapabilityFDD");
-   /* supportForSF-512 */
-   stat = rtxEncBit(ctx, pvalue->supportForSF_512);
-   RT_CHECK(ctx, stat, 0, "supportForSF-512", -1, "DL-PhysChCapabilityFDD");
-   /* dummy */
-   stat = rtxEncBit(ctx, pvalue->dummy);
-   RT_CHECK(ctx, stat, 0, "dummy", -1, "DL-PhysChCapabilityFDD");
-   /* dummy2 */
-   stat = asn1PE_UMTS_SimultaneousSCCPCH_DPCH_Reception(ctx, &pvalue->dummy2);
-   RT_CHECK(ctx, stat, 0, "dummy2", -1, "DL-PhysChCapabilityFDD");
-   return 0;
-}
-
-int asn1PE_UMTS_SupportOfDedicatedPilotsForChEstimation(rtxContext* RT_RESTRICT ctx, SupportOfDedicatedPilotsForChEstimation value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SupportOfDedicatedPilotsForChEstimation");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SupportOfDedicatedPilotsForChEstimation");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PhysChCapabilityFDD_v380ext(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityFDD_v380ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-PhysChCapabilityFDD-v380ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-PhysChCapabilityFDD-v380ext");
-   /* dummy */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->dummy > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->dummy);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "SupportOfDedicatedPilotsForChEstimation", "dummy", -1, "DL-PhysChCapabilityFDD-v380ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dummy, 0, 0);
-      RT_CHECK(ctx, stat, "SupportOfDedicatedPilotsForChEstimation", "dummy", -1, "DL-PhysChCapabilityFDD-v380ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HSDSCH_physical_layer_category_ext(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category_ext value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 19u) {
-      rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category-ext");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "HSDSCH-physical-layer-category-ext");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 20);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HSDSCH-physical-layer-category-ext");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PhysChCapabilityFDD_v770ext_hsscchlessHsdschOperation(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext_hsscchlessHsdschOperation value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PhysChCapabilityFDD_v770ext_enhancedFdpch(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext_enhancedFdpch value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellFach(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellFach value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellUraPch(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellUraPch value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PhysChCapabilityFDD_v770ext(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityFDD_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-PhysChCapabilityFDD-v770ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-PhysChCapabilityFDD-v770ext");
-   /* hsdsch-physical-layer-category-ext */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->hsdsch_physical_layer_category_ext - 1) > 19u) {
-         rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category-ext");
-         rtxErrAddUIntParm(ctx, pvalue->hsdsch_physical_layer_category_ext);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category-ext", "hsdsch-physical-layer-category-ext", -1, "DL-PhysChCapabilityFDD-v770ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hsdsch_physical_layer_category_ext, 1, 20);
-      RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category-ext", "hsdsch-physical-layer-category-ext", -1, "DL-PhysChCapabilityFDD-v770ext");
-   }
-   /* hsscchlessHsdschOperation */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->hsscchlessHsdschOperation > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->hsscchlessHsdschOperation);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "hsscchlessHsdschOperation", -1, "DL-PhysChCapabilityFDD-v770ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hsscchlessHsdschOperation, 0, 0);
-      RT_CHECK(ctx, stat, 0, "hsscchlessHsdschOperation", -1, "DL-PhysChCapabilityFDD-v770ext");
-   }
-   /* enhancedFdpch */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->enhancedFdpch > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->enhancedFdpch);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "enhancedFdpch", -1, "DL-PhysChCapabilityFDD-v770ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->enhancedFdpch, 0, 0);
-      RT_CHECK(ctx, stat, 0, "enhancedFdpch", -1, "DL-PhysChCapabilityFDD-v770ext");
-   }
-   /* hsdschReception-CellFach */
-   if (pvalue->m & 0x8u) {
-      if (pvalue->hsdschReception_CellFach > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->hsdschReception_CellFach);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "hsdschReception-CellFach", -1, "DL-PhysChCapabilityFDD-v770ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hsdschReception_CellFach, 0, 0);
-      RT_CHECK(ctx, stat, 0, "hsdschReception-CellFach", -1, "DL-PhysChCapabilityFDD-v770ext");
-   }
-   /* hsdschReception-CellUraPch */
-   if (pvalue->m & 0x10u) {
-      if (pvalue->hsdschReception_CellUraPch > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->hsdschReception_CellUraPch);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "hsdschReception-CellUraPch", -1, "DL-PhysChCapabilityFDD-v770ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hsdschReception_CellUraPch, 0, 0);
-      RT_CHECK(ctx, stat, 0, "hsdschReception-CellUraPch", -1, "DL-PhysChCapabilityFDD-v770ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HSDSCH_physical_layer_category_ext2(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category_ext2 value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 21) > 3u) {
-      rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category-ext2");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "HSDSCH-physical-layer-category-ext2");
-   }
-   stat = pe_ConsUInt64(ctx, value, 21, 24);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HSDSCH-physical-layer-category-ext2");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PhysChCapabilityFDD_v860ext_supportOfTargetCellPreConfig(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v860ext_supportOfTargetCellPreConfig value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PhysChCapabilityFDD_v860ext_supportOfHsdschDrxOperation(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v860ext_supportOfHsdschDrxOperation value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PhysChCapabilityFDD_v860ext(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityFDD_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-PhysChCapabilityFDD-v860ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-PhysChCapabilityFDD-v860ext");
-   /* hsdsch-physical-layer-category-ext2 */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->hsdsch_physical_layer_category_ext2 - 21) > 3u) {
-         rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category-ext2");
-         rtxErrAddUIntParm(ctx, pvalue->hsdsch_physical_layer_category_ext2);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category-ext2", "hsdsch-physical-layer-category-ext2", -1, "DL-PhysChCapabilityFDD-v860ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hsdsch_physical_layer_category_ext2, 21, 24);
-      RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category-ext2", "hsdsch-physical-layer-category-ext2", -1, "DL-PhysChCapabilityFDD-v860ext");
-   }
-   /* supportOfTargetCellPreConfig */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->supportOfTargetCellPreConfig > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfTargetCellPreConfig);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfTargetCellPreConfig", -1, "DL-PhysChCapabilityFDD-v860ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfTargetCellPreConfig, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportOfTargetCellPreConfig", -1, "DL-PhysChCapabilityFDD-v860ext");
-   }
-   /* supportOfHsdschDrxOperation */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->supportOfHsdschDrxOperation > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfHsdschDrxOperation);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfHsdschDrxOperation", -1, "DL-PhysChCapabilityFDD-v860ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfHsdschDrxOperation, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportOfHsdschDrxOperation", -1, "DL-PhysChCapabilityFDD-v860ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HSDSCH_physical_layer_category_ext3(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category_ext3 value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 25) > 3u) {
-      rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category-ext3");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "HSDSCH-physical-layer-category-ext3");
-   }
-   stat = pe_ConsUInt64(ctx, value, 25, 28);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HSDSCH-physical-layer-category-ext3");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PhysChCapabilityFDD_v920ext_supportOfMimoOnlySingleStream(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v920ext_supportOfMimoOnlySingleStream value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PhysChCapabilityFDD_v920ext(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityFDD_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-PhysChCapabilityFDD-v920ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-PhysChCapabilityFDD-v920ext");
-   /* hsdsch-physical-layer-category-ext3 */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->hsdsch_physical_layer_category_ext3 - 25) > 3u) {
-         rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category-ext3");
-         rtxErrAddUIntParm(ctx, pvalue->hsdsch_physical_layer_category_ext3);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category-ext3", "hsdsch-physical-layer-category-ext3", -1, "DL-PhysChCapabilityFDD-v920ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hsdsch_physical_layer_category_ext3, 25, 28);
-      RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category-ext3", "hsdsch-physical-layer-category-ext3", -1, "DL-PhysChCapabilityFDD-v920ext");
-   }
-   /* supportOfMimoOnlySingleStream */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->supportOfMimoOnlySingleStream > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfMimoOnlySingleStream);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfMimoOnlySingleStream", -1, "DL-PhysChCapabilityFDD-v920ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfMimoOnlySingleStream, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportOfMimoOnlySingleStream", -1, "DL-PhysChCapabilityFDD-v920ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MaxTS_PerFrame(rtxContext* RT_RESTRICT ctx, MaxTS_PerFrame value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 13u) {
-      rtxErrAddStrParm(ctx, "MaxTS-PerFrame");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MaxTS-PerFrame");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 14);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxTS-PerFrame");
-   return 0;
-}
-
-int asn1PE_UMTS_MaxPhysChPerFrame(rtxContext* RT_RESTRICT ctx, MaxPhysChPerFrame value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 223u) {
-      rtxErrAddStrParm(ctx, "MaxPhysChPerFrame");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MaxPhysChPerFrame");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 224);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxPhysChPerFrame");
-   return 0;
-}
-
-int asn1PE_UMTS_MinimumSF_DL(rtxContext* RT_RESTRICT ctx, MinimumSF_DL value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MinimumSF-DL");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MinimumSF-DL");
-   return 0;
-}
-
-int asn1PE_UMTS_MaxPhysChPerTS(rtxContext* RT_RESTRICT ctx, MaxPhysChPerTS value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 15u) {
-      rtxErrAddStrParm(ctx, "MaxPhysChPerTS");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MaxPhysChPerTS");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxPhysChPerTS");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PhysChCapabilityTDD(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityTDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-PhysChCapabilityTDD");
-   /* maxTS-PerFrame */
-   if ((uint64_t)(pvalue->maxTS_PerFrame - 1) > 13u) {
-      rtxErrAddStrParm(ctx, "MaxTS-PerFrame");
-      rtxErrAddUIntParm(ctx, pvalue->maxTS_PerFrame);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "DL-PhysChCapabilityTDD");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxTS_PerFrame, 1, 14);
-   RT_CHECK(ctx, stat, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "DL-PhysChCapabilityTDD");
-   /* maxPhysChPerFrame */
-   if ((uint64_t)(pvalue->maxPhysChPerFrame - 1) > 223u) {
-      rtxErrAddStrParm(ctx, "MaxPhysChPerFrame");
-      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerFrame);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxPhysChPerFrame", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityTDD");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerFrame, 1, 224);
-   RT_CHECK(ctx, stat, "MaxPhysChPerFrame", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityTDD");
-   /* minimumSF */
-   if (pvalue->minimumSF > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->minimumSF);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MinimumSF-DL", "minimumSF", -1, "DL-PhysChCapabilityTDD");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->minimumSF, 0, 1);
-   RT_CHECK(ctx, stat, "MinimumSF-DL", "minimumSF", -1, "DL-PhysChCapabilityTDD");
-   /* supportOfPDSCH */
-   stat = rtxEncBit(ctx, pvalue->supportOfPDSCH);
-   RT_CHECK(ctx, stat, 0, "supportOfPDSCH", -1, "DL-PhysChCapabilityTDD");
-   /* maxPhysChPerTS */
-   if ((uint64_t)(pvalue->maxPhysChPerTS - 1) > 15u) {
-      rtxErrAddStrParm(ctx, "MaxPhysChPerTS");
-      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerTS);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxPhysChPerTS", "maxPhysChPerTS", -1, "DL-PhysChCapabilityTDD");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerTS, 1, 16);
-   RT_CHECK(ctx, stat, "MaxPhysChPerTS", "maxPhysChPerTS", -1, "DL-PhysChCapabilityTDD");
-   return 0;
-}
-
-int asn1PE_UMTS_MaxTS_PerSubFrame_r4(rtxContext* RT_RESTRICT ctx, MaxTS_PerSubFrame_r4 value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 5u) {
-      rtxErrAddStrParm(ctx, "MaxTS-PerSubFrame-r4");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MaxTS-PerSubFrame-r4");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxTS-PerSubFrame-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_MaxPhysChPerSubFrame_r4(rtxContext* RT_RESTRICT ctx, MaxPhysChPerSubFrame_r4 value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 95u) {
-      rtxErrAddStrParm(ctx, "MaxPhysChPerSubFrame-r4");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MaxPhysChPerSubFrame-r4");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 96);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxPhysChPerSubFrame-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PhysChCapabilityTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityTDD_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-PhysChCapabilityTDD-LCR-r4");
-   /* maxTS-PerSubFrame */
-   if ((uint64_t)(pvalue->maxTS_PerSubFrame - 1) > 5u) {
-      rtxErrAddStrParm(ctx, "MaxTS-PerSubFrame-r4");
-      rtxErrAddUIntParm(ctx, pvalue->maxTS_PerSubFrame);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxTS-PerSubFrame-r4", "maxTS-PerSubFrame", -1, "DL-PhysChCapabilityTDD-LCR-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxTS_PerSubFrame, 1, 6);
-   RT_CHECK(ctx, stat, "MaxTS-PerSubFrame-r4", "maxTS-PerSubFrame", -1, "DL-PhysChCapabilityTDD-LCR-r4");
-   /* maxPhysChPerFrame */
-   if ((uint64_t)(pvalue->maxPhysChPerFrame - 1) > 95u) {
-      rtxErrAddStrParm(ctx, "MaxPhysChPerSubFrame-r4");
-      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerFrame);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxPhysChPerSubFrame-r4", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityTDD-LCR-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerFrame, 1, 96);
-   RT_CHECK(ctx, stat, "MaxPhysChPerSubFrame-r4", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityTDD-LCR-r4");
-   /* minimumSF */
-   if (pvalue->minimumSF > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->minimumSF);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MinimumSF-DL", "minimumSF", -1, "DL-PhysChCapabilityTDD-LCR-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->minimumSF, 0, 1);
-   RT_CHECK(ctx, stat, "MinimumSF-DL", "minimumSF", -1, "DL-PhysChCapabilityTDD-LCR-r4");
-   /* supportOfPDSCH */
-   stat = rtxEncBit(ctx, pvalue->supportOfPDSCH);
-   RT_CHECK(ctx, stat, 0, "supportOfPDSCH", -1, "DL-PhysChCapabilityTDD-LCR-r4");
-   /* maxPhysChPerTS */
-   if ((uint64_t)(pvalue->maxPhysChPerTS - 1) > 15u) {
-      rtxErrAddStrParm(ctx, "MaxPhysChPerTS");
-      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerTS);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxPhysChPerTS", "maxPhysChPerTS", -1, "DL-PhysChCapabilityTDD-LCR-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerTS, 1, 16);
-   RT_CHECK(ctx, stat, "MaxPhysChPerTS", "maxPhysChPerTS", -1, "DL-PhysChCapabilityTDD-LCR-r4");
-   /* supportOf8PSK */
-   stat = rtxEncBit(ctx, pvalue->supportOf8PSK);
-   RT_CHECK(ctx, stat, 0, "supportOf8PSK", -1, "DL-PhysChCapabilityTDD-LCR-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_MultiCarrier_HSDSCH_physical_layer_category(rtxContext* RT_RESTRICT ctx, MultiCarrier_HSDSCH_physical_layer_category value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 63u) {
-      rtxErrAddStrParm(ctx, "MultiCarrier-HSDSCH-physical-layer-category");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MultiCarrier-HSDSCH-physical-layer-category");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 64);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MultiCarrier-HSDSCH-physical-layer-category");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PhysChCapabilityTDD_128_v770ext(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityTDD_128_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-PhysChCapabilityTDD-128-v770ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-PhysChCapabilityTDD-128-v770ext");
-   /* multiCarrier-physical-layer-category */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->multiCarrier_physical_layer_category - 1) > 63u) {
-         rtxErrAddStrParm(ctx, "MultiCarrier-HSDSCH-physical-layer-category");
-         rtxErrAddUIntParm(ctx, pvalue->multiCarrier_physical_layer_category);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "MultiCarrier-HSDSCH-physical-layer-category", "multiCarrier-physical-layer-category", -1, "DL-PhysChCapabilityTDD-128-v770ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->multiCarrier_physical_layer_category, 1, 64);
-      RT_CHECK(ctx, stat, "MultiCarrier-HSDSCH-physical-layer-category", "multiCarrier-physical-layer-category", -1, "DL-PhysChCapabilityTDD-128-v770ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HSDSCH_physical_layer_category_extension(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category_extension value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 63u) {
-      rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category-extension");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "HSDSCH-physical-layer-category-extension");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 64);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HSDSCH-physical-layer-category-extension");
-   return 0;
-}
-
-int asn1PE_UMTS_MultiCarrier_HSDSCH_physical_layer_category_extension(rtxContext* RT_RESTRICT ctx, MultiCarrier_HSDSCH_physical_layer_category_extension value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 35u) {
-      rtxErrAddStrParm(ctx, "MultiCarrier-HSDSCH-physical-layer-category-extension");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MultiCarrier-HSDSCH-physical-layer-category-extension");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 36);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MultiCarrier-HSDSCH-physical-layer-category-extension");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PhysChCapabilityTDD_128_v860ext_supportOfSFModeForHSPDSCHDualStream(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD_128_v860ext_supportOfSFModeForHSPDSCHDualStream value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PhysChCapabilityTDD_128_v860ext(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityTDD_128_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-PhysChCapabilityTDD-128-v860ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-PhysChCapabilityTDD-128-v860ext");
-   /* hSDSCH-physical-layer-category-extension */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->hSDSCH_physical_layer_category_extension - 1) > 63u) {
-         rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category-extension");
-         rtxErrAddUIntParm(ctx, pvalue->hSDSCH_physical_layer_category_extension);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category-extension", "hSDSCH-physical-layer-category-extension", -1, "DL-PhysChCapabilityTDD-128-v860ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hSDSCH_physical_layer_category_extension, 1, 64);
-      RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category-extension", "hSDSCH-physical-layer-category-extension", -1, "DL-PhysChCapabilityTDD-128-v860ext");
-   }
-   /* multiCarrier-physical-layer-category-extension */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)(pvalue->multiCarrier_physical_layer_category_extension - 1) > 35u) {
-         rtxErrAddStrParm(ctx, "MultiCarrier-HSDSCH-physical-layer-category-extension");
-         rtxErrAddUIntParm(ctx, pvalue->multiCarrier_physical_layer_category_extension);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "MultiCarrier-HSDSCH-physical-layer-category-extension", "multiCarrier-physical-layer-category-extension", -1, "DL-PhysChCapabilityTDD-128-v860ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->multiCarrier_physical_layer_category_extension, 1, 36);
-      RT_CHECK(ctx, stat, "MultiCarrier-HSDSCH-physical-layer-category-extension", "multiCarrier-physical-layer-category-extension", -1, "DL-PhysChCapabilityTDD-128-v860ext");
-   }
-   /* supportOfSFModeForHSPDSCHDualStream */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->supportOfSFModeForHSPDSCHDualStream > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfSFModeForHSPDSCHDualStream);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfSFModeForHSPDSCHDualStream", -1, "DL-PhysChCapabilityTDD-128-v860ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfSFModeForHSPDSCHDualStream, 0, 1);
-      RT_CHECK(ctx, stat, 0, "supportOfSFModeForHSPDSCHDualStream", -1, "DL-PhysChCapabilityTDD-128-v860ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MaxPhysChPerFrame_768(rtxContext* RT_RESTRICT ctx, MaxPhysChPerFrame_768 value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 447u) {
-      rtxErrAddStrParm(ctx, "MaxPhysChPerFrame-768");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MaxPhysChPerFrame-768");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 448);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxPhysChPerFrame-768");
-   return 0;
-}
-
-int asn1PE_UMTS_MinimumSF_DL_768(rtxContext* RT_RESTRICT ctx, MinimumSF_DL_768 value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MinimumSF-DL-768");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MinimumSF-DL-768");
-   return 0;
-}
-
-int asn1PE_UMTS_HSDSCH_physical_layer_category(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 63u) {
-      rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "HSDSCH-physical-layer-category");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 64);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HSDSCH-physical-layer-category");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PhysChCapabilityTDD_768_tdd768_hspdsch(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityTDD_768_tdd768_hspdsch* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if ((uint64_t)(pvalue->u.supported - 1) > 63u) {
-            rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category");
-            rtxErrAddUIntParm(ctx, pvalue->u.supported);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category", "supported", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.supported, 1, 64);
-         RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category", "supported", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MaxPhysChPerTS_768(rtxContext* RT_RESTRICT ctx, MaxPhysChPerTS_768 value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "MaxPhysChPerTS-768");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MaxPhysChPerTS-768");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 32);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxPhysChPerTS-768");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PhysChCapabilityTDD_768(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityTDD_768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-PhysChCapabilityTDD-768");
-   /* maxTS-PerFrame */
-   if ((uint64_t)(pvalue->maxTS_PerFrame - 1) > 13u) {
-      rtxErrAddStrParm(ctx, "MaxTS-PerFrame");
-      rtxErrAddUIntParm(ctx, pvalue->maxTS_PerFrame);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "DL-PhysChCapabilityTDD-768");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxTS_PerFrame, 1, 14);
-   RT_CHECK(ctx, stat, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "DL-PhysChCapabilityTDD-768");
-   /* maxPhysChPerFrame */
-   if ((uint64_t)(pvalue->maxPhysChPerFrame - 1) > 447u) {
-      rtxErrAddStrParm(ctx, "MaxPhysChPerFrame-768");
-      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerFrame);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxPhysChPerFrame-768", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityTDD-768");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerFrame, 1, 448);
-   RT_CHECK(ctx, stat, "MaxPhysChPerFrame-768", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityTDD-768");
-   /* minimumSF */
-   if (pvalue->minimumSF > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->minimumSF);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MinimumSF-DL-768", "minimumSF", -1, "DL-PhysChCapabilityTDD-768");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->minimumSF, 0, 1);
-   RT_CHECK(ctx, stat, "MinimumSF-DL-768", "minimumSF", -1, "DL-PhysChCapabilityTDD-768");
-   /* supportOfPDSCH */
-   stat = rtxEncBit(ctx, pvalue->supportOfPDSCH);
-   RT_CHECK(ctx, stat, 0, "supportOfPDSCH", -1, "DL-PhysChCapabilityTDD-768");
-   /* tdd768-hspdsch */
-   stat = asn1PE_UMTS_DL_PhysChCapabilityTDD_768_tdd768_hspdsch(ctx, &pvalue->tdd768_hspdsch);
-   RT_CHECK(ctx, stat, 0, "tdd768-hspdsch", -1, "DL-PhysChCapabilityTDD-768");
-   /* maxPhysChPerTS */
-   if ((uint64_t)(pvalue->maxPhysChPerTS - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "MaxPhysChPerTS-768");
-      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerTS);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxPhysChPerTS-768", "maxPhysChPerTS", -1, "DL-PhysChCapabilityTDD-768");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerTS, 1, 32);
-   RT_CHECK(ctx, stat, "MaxPhysChPerTS-768", "maxPhysChPerTS", -1, "DL-PhysChCapabilityTDD-768");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PhysChCapabilityInfoTDD_768(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityInfoTDD_768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-PhysChCapabilityInfoTDD-768");
-   /* maxTS-PerFrame */
-   if ((uint64_t)(pvalue->maxTS_PerFrame - 1) > 13u) {
-      rtxErrAddStrParm(ctx, "MaxTS-PerFrame");
-      rtxErrAddUIntParm(ctx, pvalue->maxTS_PerFrame);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "DL-PhysChCapabilityInfoTDD-768");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxTS_PerFrame, 1, 14);
-   RT_CHECK(ctx, stat, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "DL-PhysChCapabilityInfoTDD-768");
-   /* maxPhysChPerFrame */
-   if ((uint64_t)(pvalue->maxPhysChPerFrame - 1) > 447u) {
-      rtxErrAddStrParm(ctx, "MaxPhysChPerFrame-768");
-      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerFrame);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxPhysChPerFrame-768", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityInfoTDD-768");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerFrame, 1, 448);
-   RT_CHECK(ctx, stat, "MaxPhysChPerFrame-768", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityInfoTDD-768");
-   /* minimumSF */
-   if (pvalue->minimumSF > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->minimumSF);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MinimumSF-DL-768", "minimumSF", -1, "DL-PhysChCapabilityInfoTDD-768");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->minimumSF, 0, 1);
-   RT_CHECK(ctx, stat, "MinimumSF-DL-768", "minimumSF", -1, "DL-PhysChCapabilityInfoTDD-768");
-   /* supportOfPDSCH */
-   stat = rtxEncBit(ctx, pvalue->supportOfPDSCH);
-   RT_CHECK(ctx, stat, 0, "supportOfPDSCH", -1, "DL-PhysChCapabilityInfoTDD-768");
-   /* maxPhysChPerTS */
-   if ((uint64_t)(pvalue->maxPhysChPerTS - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "MaxPhysChPerTS-768");
-      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerTS);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxPhysChPerTS-768", "maxPhysChPerTS", -1, "DL-PhysChCapabilityInfoTDD-768");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerTS, 1, 32);
-   RT_CHECK(ctx, stat, "MaxPhysChPerTS-768", "maxPhysChPerTS", -1, "DL-PhysChCapabilityInfoTDD-768");
-   return 0;
-}
-
-int asn1PE_UMTS_MaxNoBits(rtxContext* RT_RESTRICT ctx, MaxNoBits value)
-{
-   int stat = 0;
-   if (value > 12) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxNoBits");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 12);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxNoBits");
-   return 0;
-}
-
-int asn1PE_UMTS_TurboSupport(rtxContext* RT_RESTRICT ctx, const TurboSupport* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TurboSupport");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "TurboSupport");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TurboSupport");
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.supported > 12) {
-            rtxErrAddUIntParm(ctx, pvalue->u.supported);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNoBits", "supported", -1, "TurboSupport");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.supported, 0, 12);
-         RT_CHECK(ctx, stat, "MaxNoBits", "supported", -1, "TurboSupport");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MaxSimultaneousTransChsDL(rtxContext* RT_RESTRICT ctx, MaxSimultaneousTransChsDL value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxSimultaneousTransChsDL");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxSimultaneousTransChsDL");
-   return 0;
-}
-
-int asn1PE_UMTS_MaxSimultaneousCCTrCH_Count(rtxContext* RT_RESTRICT ctx, MaxSimultaneousCCTrCH_Count value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 7u) {
-      rtxErrAddStrParm(ctx, "MaxSimultaneousCCTrCH-Count");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MaxSimultaneousCCTrCH-Count");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxSimultaneousCCTrCH-Count");
-   return 0;
-}
-
-int asn1PE_UMTS_MaxTransportBlocksDL(rtxContext* RT_RESTRICT ctx, MaxTransportBlocksDL value)
-{
-   int stat = 0;
-   if (value > 9) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxTransportBlocksDL");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 9);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxTransportBlocksDL");
-   return 0;
-}
-
-int asn1PE_UMTS_MaxNumberOfTFC_DL(rtxContext* RT_RESTRICT ctx, MaxNumberOfTFC_DL value)
-{
-   int stat = 0;
-   if (value > 8) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxNumberOfTFC-DL");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxNumberOfTFC-DL");
-   return 0;
-}
-
-int asn1PE_UMTS_MaxNumberOfTF(rtxContext* RT_RESTRICT ctx, MaxNumberOfTF value)
-{
-   int stat = 0;
-   if (value > 5) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxNumberOfTF");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxNumberOfTF");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_TransChCapability(rtxContext* RT_RESTRICT ctx, const DL_TransChCapability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-TransChCapability");
-   /* maxNoBitsReceived */
-   if (pvalue->maxNoBitsReceived > 12) {
-      rtxErrAddUIntParm(ctx, pvalue->maxNoBitsReceived);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNoBits", "maxNoBitsReceived", -1, "DL-TransChCapability");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxNoBitsReceived, 0, 12);
-   RT_CHECK(ctx, stat, "MaxNoBits", "maxNoBitsReceived", -1, "DL-TransChCapability");
-   /* maxConvCodeBitsReceived */
-   if (pvalue->maxConvCodeBitsReceived > 12) {
-      rtxErrAddUIntParm(ctx, pvalue->maxConvCodeBitsReceived);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNoBits", "maxConvCodeBitsReceived", -1, "DL-TransChCapability");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxConvCodeBitsReceived, 0, 12);
-   RT_CHECK(ctx, stat, "MaxNoBits", "maxConvCodeBitsReceived", -1, "DL-TransChCapability");
-   /* turboDecodingSupport */
-   stat = asn1PE_UMTS_TurboSupport(ctx, &pvalue->turboDecodingSupport);
-   RT_CHECK(ctx, stat, 0, "turboDecodingSupport", -1, "DL-TransChCapability");
-   /* maxSimultaneousTransChs */
-   if (pvalue->maxSimultaneousTransChs > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->maxSimultaneousTransChs);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxSimultaneousTransChsDL", "maxSimultaneousTransChs", -1, "DL-TransChCapability");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxSimultaneousTransChs, 0, 3);
-   RT_CHECK(ctx, stat, "MaxSimultaneousTransChsDL", "maxSimultaneousTransChs", -1, "DL-TransChCapability");
-   /* maxSimultaneousCCTrCH-Count */
-   if ((uint64_t)(pvalue->maxSimultaneousCCTrCH_Count - 1) > 7u) {
-      rtxErrAddStrParm(ctx, "MaxSimultaneousCCTrCH-Count");
-      rtxErrAddUIntParm(ctx, pvalue->maxSimultaneousCCTrCH_Count);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxSimultaneousCCTrCH-Count", "maxSimultaneousCCTrCH-Count", -1, "DL-TransChCapability");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxSimultaneousCCTrCH_Count, 1, 8);
-   RT_CHECK(ctx, stat, "MaxSimultaneousCCTrCH-Count", "maxSimultaneousCCTrCH-Count", -1, "DL-TransChCapability");
-   /* maxReceivedTransportBlocks */
-   if (pvalue->maxReceivedTransportBlocks > 9) {
-      rtxErrAddUIntParm(ctx, pvalue->maxReceivedTransportBlocks);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxTransportBlocksDL", "maxReceivedTransportBlocks", -1, "DL-TransChCapability");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxReceivedTransportBlocks, 0, 9);
-   RT_CHECK(ctx, stat, "MaxTransportBlocksDL", "maxReceivedTransportBlocks", -1, "DL-TransChCapability");
-   /* maxNumberOfTFC */
-   if (pvalue->maxNumberOfTFC > 8) {
-      rtxErrAddUIntParm(ctx, pvalue->maxNumberOfTFC);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNumberOfTFC-DL", "maxNumberOfTFC", -1, "DL-TransChCapability");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxNumberOfTFC, 0, 8);
-   RT_CHECK(ctx, stat, "MaxNumberOfTFC-DL", "maxNumberOfTFC", -1, "DL-TransChCapability");
-   /* maxNumberOfTF */
-   if (pvalue->maxNumberOfTF > 5) {
-      rtxErrAddUIntParm(ctx, pvalue->maxNumberOfTF);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNumberOfTF", "maxNumberOfTF", -1, "DL-TransChCapability");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxNumberOfTF, 0, 5);
-   RT_CHECK(ctx, stat, "MaxNumberOfTF", "maxNumberOfTF", -1, "DL-TransChCapability");
-   return 0;
-}
-
-int asn1PE_UMTS_TransmissionProbability(rtxContext* RT_RESTRICT ctx, TransmissionProbability value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 7u) {
-      rtxErrAddStrParm(ctx, "TransmissionProbability");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TransmissionProbability");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TransmissionProbability");
-   return 0;
-}
-
-int asn1PE_UMTS_MaximumBitRate(rtxContext* RT_RESTRICT ctx, MaximumBitRate value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 32u) {
-      rtxErrAddStrParm(ctx, "MaximumBitRate");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MaximumBitRate");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 32);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaximumBitRate");
-   return 0;
-}
-
-int asn1PE_UMTS_DRAC_SysInfo(rtxContext* RT_RESTRICT ctx, const DRAC_SysInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DRAC-SysInfo");
-   /* transmissionProbability */
-   if ((uint64_t)(pvalue->transmissionProbability - 1) > 7u) {
-      rtxErrAddStrParm(ctx, "TransmissionProbability");
-      rtxErrAddUIntParm(ctx, pvalue->transmissionProbability);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransmissionProbability", "transmissionProbability", -1, "DRAC-SysInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->transmissionProbability, 1, 8);
-   RT_CHECK(ctx, stat, "TransmissionProbability", "transmissionProbability", -1, "DRAC-SysInfo");
-   /* maximumBitRate */
-   if ((uint64_t)pvalue->maximumBitRate > 32u) {
-      rtxErrAddStrParm(ctx, "MaximumBitRate");
-      rtxErrAddUIntParm(ctx, pvalue->maximumBitRate);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaximumBitRate", "maximumBitRate", -1, "DRAC-SysInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maximumBitRate, 0, 32);
-   RT_CHECK(ctx, stat, "MaximumBitRate", "maximumBitRate", -1, "DRAC-SysInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_DRAC_SysInfoList(rtxContext* RT_RESTRICT ctx, const DRAC_SysInfoList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DRAC-SysInfoList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DRAC-SysInfoList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DRAC-SysInfo", (int32_t)i, "DRAC-SysInfoList");
-      stat = asn1PE_UMTS_DRAC_SysInfo(ctx, (const DRAC_SysInfo*)node->data);
-      RT_CHECK(ctx, stat, 0, "DRAC-SysInfo", (int32_t)i, "DRAC-SysInfoList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DSCH_RNTI(rtxContext* RT_RESTRICT ctx, DSCH_RNTI value)
-{
-   int stat = 0;
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &value, 16, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DSCH-RNTI");
-   return 0;
-}
-
-int asn1PE_UMTS_DelayRestrictionFlag(rtxContext* RT_RESTRICT ctx, DelayRestrictionFlag value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "DelayRestrictionFlag");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DelayRestrictionFlag");
-   return 0;
-}
-
-int asn1PE_UMTS_ESN_DS_41(rtxContext* RT_RESTRICT ctx, ESN_DS_41 value)
-{
-   int stat = 0;
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &value, 32, 32);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ESN-DS-41");
-   return 0;
-}
-
-int asn1PE_UMTS_EstablishmentCause(rtxContext* RT_RESTRICT ctx, EstablishmentCause value)
-{
-   int stat = 0;
-   if (value > 31) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "EstablishmentCause");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EstablishmentCause");
-   return 0;
-}
-
-int asn1PE_UMTS_TGPSI(rtxContext* RT_RESTRICT ctx, TGPSI value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 5u) {
-      rtxErrAddStrParm(ctx, "TGPSI");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TGPSI");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TGPSI");
-   return 0;
-}
-
-int asn1PE_UMTS_ProtocolErrorCause(rtxContext* RT_RESTRICT ctx, ProtocolErrorCause value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ProtocolErrorCause");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ProtocolErrorCause");
-   return 0;
-}
-
-int asn1PE_UMTS_ProtocolErrorInformation_diagnosticsType_type1(rtxContext* RT_RESTRICT ctx, const ProtocolErrorInformation_diagnosticsType_type1* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* protocolErrorCause */
-   if (pvalue->protocolErrorCause > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->protocolErrorCause);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ProtocolErrorCause", "protocolErrorCause", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->protocolErrorCause, 0, 7);
-   RT_CHECK(ctx, stat, "ProtocolErrorCause", "protocolErrorCause", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_ProtocolErrorInformation_diagnosticsType(rtxContext* RT_RESTRICT ctx, const ProtocolErrorInformation_diagnosticsType* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.type1 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "type1", -1, 0);
-         stat = asn1PE_UMTS_ProtocolErrorInformation_diagnosticsType_type1(ctx, pvalue->u.type1);
-         RT_CHECK(ctx, stat, 0, "type1", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ProtocolErrorInformation(rtxContext* RT_RESTRICT ctx, const ProtocolErrorInformation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ProtocolErrorInformation");
-   /* diagnosticsType */
-   stat = asn1PE_UMTS_ProtocolErrorInformation_diagnosticsType(ctx, &pvalue->diagnosticsType);
-   RT_CHECK(ctx, stat, 0, "diagnosticsType", -1, "ProtocolErrorInformation");
-   return 0;
-}
-
-int asn1PE_UMTS_FailureCauseWithProtErr(rtxContext* RT_RESTRICT ctx, const FailureCauseWithProtErr* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "FailureCauseWithProtErr");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 15);
-   RT_CHECK(ctx, stat, 0, "t", -1, "FailureCauseWithProtErr");
-   if (pvalue->t - 1 > 15) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "FailureCauseWithProtErr");
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         break;
-      case 3:
-         break;
-      case 4:
-         if ((uint64_t)(pvalue->u.compressedModeRuntimeError - 1) > 5u) {
-            rtxErrAddStrParm(ctx, "TGPSI");
-            rtxErrAddUIntParm(ctx, pvalue->u.compressedModeRuntimeError);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "TGPSI", "compressedModeRuntimeError", -1, "FailureCauseWithProtErr");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.compressedModeRuntimeError, 1, 6);
-         RT_CHECK(ctx, stat, "TGPSI", "compressedModeRuntimeError", -1, "FailureCauseWithProtErr");
-         break;
-      case 5:
-         if (pvalue->u.protocolError == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "protocolError", -1, "FailureCauseWithProtErr");
-         stat = asn1PE_UMTS_ProtocolErrorInformation(ctx, pvalue->u.protocolError);
-         RT_CHECK(ctx, stat, 0, "protocolError", -1, "FailureCauseWithProtErr");
-         break;
-      case 6:
-         break;
-      case 7:
-         break;
-      case 8:
-         break;
-      case 9:
-         break;
-      case 10:
-         break;
-      case 11:
-         break;
-      case 12:
-         break;
-      case 13:
-         break;
-      case 14:
-         break;
-      case 15:
-         break;
-      case 16:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RRC_TransactionIdentifier(rtxContext* RT_RESTRICT ctx, RRC_TransactionIdentifier value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 3u) {
-      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "RRC-TransactionIdentifier");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RRC-TransactionIdentifier");
-   return 0;
-}
-
-int asn1PE_UMTS_FailureCauseWithProtErrTrId(rtxContext* RT_RESTRICT ctx, const FailureCauseWithProtErrTrId* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "FailureCauseWithProtErrTrId");
-   /* rrc-TransactionIdentifier */
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "FailureCauseWithProtErrTrId");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "FailureCauseWithProtErrTrId");
-   /* failureCause */
-   stat = asn1PE_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
-   RT_CHECK(ctx, stat, 0, "failureCause", -1, "FailureCauseWithProtErrTrId");
-   return 0;
-}
-
-int asn1PE_UMTS_GANSS_Mode(rtxContext* RT_RESTRICT ctx, GANSS_Mode value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "GANSS-Mode");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSS-Mode");
-   return 0;
-}
-
-int asn1PE_UMTS_ReleaseCause(rtxContext* RT_RESTRICT ctx, ReleaseCause value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ReleaseCause");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ReleaseCause");
-   return 0;
-}
-
-int asn1PE_UMTS_RRC_ConnectionReleaseInformation_release(rtxContext* RT_RESTRICT ctx, const RRC_ConnectionReleaseInformation_release* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* releaseCause */
-   if (pvalue->releaseCause > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->releaseCause);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ReleaseCause", "releaseCause", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->releaseCause, 0, 7);
-   RT_CHECK(ctx, stat, "ReleaseCause", "releaseCause", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_RRC_ConnectionReleaseInformation(rtxContext* RT_RESTRICT ctx, const RRC_ConnectionReleaseInformation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRC-ConnectionReleaseInformation");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "RRC-ConnectionReleaseInformation");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RRC-ConnectionReleaseInformation");
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.release == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "release", -1, "RRC-ConnectionReleaseInformation");
-         stat = asn1PE_UMTS_RRC_ConnectionReleaseInformation_release(ctx, pvalue->u.release);
-         RT_CHECK(ctx, stat, 0, "release", -1, "RRC-ConnectionReleaseInformation");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_U_RNTI_Group(rtxContext* RT_RESTRICT ctx, const U_RNTI_Group* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "U-RNTI-Group");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 31);
-   RT_CHECK(ctx, stat, 0, "t", -1, "U-RNTI-Group");
-   if (pvalue->t - 1 > 31) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "U-RNTI-Group");
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.u_RNTI_BitMaskIndex_b1 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b1", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 31, 31);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b1, 31, 31);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b1", -1, "U-RNTI-Group");
-         break;
-      case 3:
-         if (pvalue->u.u_RNTI_BitMaskIndex_b2 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b2", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 30, 30);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b2, 30, 30);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b2", -1, "U-RNTI-Group");
-         break;
-      case 4:
-         if (pvalue->u.u_RNTI_BitMaskIndex_b3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b3", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 29, 29);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b3, 29, 29);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b3", -1, "U-RNTI-Group");
-         break;
-      case 5:
-         if (pvalue->u.u_RNTI_BitMaskIndex_b4 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b4", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 28, 28);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b4, 28, 28);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b4", -1, "U-RNTI-Group");
-         break;
-      case 6:
-         if (pvalue->u.u_RNTI_BitMaskIndex_b5 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b5", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 27, 27);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b5, 27, 27);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b5", -1, "U-RNTI-Group");
-         break;
-      case 7:
-         if (pvalue->u.u_RNTI_BitMaskIndex_b6 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b6", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 26, 26);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b6, 26, 26);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b6", -1, "U-RNTI-Group");
-         break;
-      case 8:
-         if (pvalue->u.u_RNTI_BitMaskIndex_b7 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b7", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 25, 25);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b7, 25, 25);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b7", -1, "U-RNTI-Group");
-         break;
-      case 9:
-         if (pvalue->u.u_RNTI_BitMaskIndex_b8 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b8", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 24, 24);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b8, 24, 24);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b8", -1, "U-RNTI-Group");
-         break;
-      case 10:
-         if (pvalue->u.u_RNTI_BitMaskIndex_b9 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b9", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 23, 23);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b9, 23, 23);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b9", -1, "U-RNTI-Group");
-         break;
-      case 11:
-         if (pvalue->u.u_RNTI_BitMaskIndex_b10 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b10", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 22, 22);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b10, 22, 22);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b10", -1, "U-RNTI-Group");
-         break;
-      case 12:
-         if (pvalue->u.u_RNTI_BitMaskIndex_b11 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b11", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 21, 21);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b11, 21, 21);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b11", -1, "U-RNTI-Group");
-         break;
-      case 13:
-         if (pvalue->u.u_RNTI_BitMaskIndex_b12 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b12", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 20, 20);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b12, 20, 20);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b12", -1, "U-RNTI-Group");
-         break;
-      case 14:
-         if (pvalue->u.u_RNTI_BitMaskIndex_b13 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b13", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 19, 19);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b13, 19, 19);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b13", -1, "U-RNTI-Group");
-         break;
-      case 15:
-         if (pvalue->u.u_RNTI_BitMaskIndex_b14 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b14", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 18, 18);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b14, 18, 18);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b14", -1, "U-RNTI-Group");
-         break;
-      case 16:
-         if (pvalue->u.u_RNTI_BitMaskIndex_b15 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b15", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 17, 17);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b15, 17, 17);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b15", -1, "U-RNTI-Group");
-         break;
-      case 17:
-         if (pvalue->u.u_RNTI_BitMaskIndex_b16 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b16", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 16, 16);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b16, 16, 16);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b16", -1, "U-RNTI-Group");
-         break;
-      case 18:
-         if (pvalue->u.u_RNTI_BitMaskIndex_b17 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b17", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 15, 15);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b17, 15, 15);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b17", -1, "U-RNTI-Group");
-         break;
-      case 19:
-         if (pvalue->u.u_RNTI_BitMaskIndex_b18 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b18", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 14, 14);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b18, 14, 14);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b18", -1, "U-RNTI-Group");
-         break;
-      case 20:
-         if (pvalue->u.u_RNTI_BitMaskIndex_b19 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b19", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 13, 13);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b19, 13, 13);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b19", -1, "U-RNTI-Group");
-         break;
-      case 21:
-         if (pvalue->u.u_RNTI_BitMaskIndex_b20 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b20", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 12, 12);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b20, 12, 12);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b20", -1, "U-RNTI-Group");
-         break;
-      case 22:
-         if (pvalue->u.u_RNTI_BitMaskIndex_b21 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b21", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 11, 11);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b21, 11, 11);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b21", -1, "U-RNTI-Group");
-         break;
-      case 23:
-         if (pvalue->u.u_RNTI_BitMaskIndex_b22 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b22", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 10, 10);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b22, 10, 10);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b22", -1, "U-RNTI-Group");
-         break;
-      case 24:
-         if (pvalue->u.u_RNTI_BitMaskIndex_b23 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b23", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 9, 9);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b23, 9, 9);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b23", -1, "U-RNTI-Group");
-         break;
-      case 25:
-         if (pvalue->u.u_RNTI_BitMaskIndex_b24 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b24", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 8, 8);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b24, 8, 8);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b24", -1, "U-RNTI-Group");
-         break;
-      case 26:
-         if (pvalue->u.u_RNTI_BitMaskIndex_b25 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b25", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 7, 7);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b25, 7, 7);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b25", -1, "U-RNTI-Group");
-         break;
-      case 27:
-         if (pvalue->u.u_RNTI_BitMaskIndex_b26 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b26", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 6, 6);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b26, 6, 6);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b26", -1, "U-RNTI-Group");
-         break;
-      case 28:
-         if (pvalue->u.u_RNTI_BitMaskIndex_b27 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b27", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 5, 5);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b27, 5, 5);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b27", -1, "U-RNTI-Group");
-         break;
-      case 29:
-         if (pvalue->u.u_RNTI_BitMaskIndex_b28 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b28", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 4, 4);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b28, 4, 4);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b28", -1, "U-RNTI-Group");
-         break;
-      case 30:
-         if (pvalue->u.u_RNTI_BitMaskIndex_b29 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b29", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 3, 3);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b29, 3, 3);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b29", -1, "U-RNTI-Group");
-         break;
-      case 31:
-         if (pvalue->u.u_RNTI_BitMaskIndex_b30 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b30", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 2, 2);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b30, 2, 2);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b30", -1, "U-RNTI-Group");
-         break;
-      case 32:
-         if (pvalue->u.u_RNTI_BitMaskIndex_b31 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b31", -1, "U-RNTI-Group");
-         RT_SET_SIZE(ctx, 1, 1);
-         stat = pe_BitString32(ctx, pvalue->u.u_RNTI_BitMaskIndex_b31, 1, 1);
-         RT_CHECK(ctx, stat, 0, "u-RNTI-BitMaskIndex-b31", -1, "U-RNTI-Group");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GroupReleaseInformation(rtxContext* RT_RESTRICT ctx, const GroupReleaseInformation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GroupReleaseInformation");
-   /* uRNTI-Group */
-   stat = asn1PE_UMTS_U_RNTI_Group(ctx, &pvalue->uRNTI_Group);
-   RT_CHECK(ctx, stat, 0, "uRNTI-Group", -1, "GroupReleaseInformation");
-   return 0;
-}
-
-int asn1PE_UMTS_GroupIdentityWithReleaseInformation(rtxContext* RT_RESTRICT ctx, const GroupIdentityWithReleaseInformation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GroupIdentityWithReleaseInformation");
-   /* rrc-ConnectionReleaseInformation */
-   stat = asn1PE_UMTS_RRC_ConnectionReleaseInformation(ctx, &pvalue->rrc_ConnectionReleaseInformation);
-   RT_CHECK(ctx, stat, 0, "rrc-ConnectionReleaseInformation", -1, "GroupIdentityWithReleaseInformation");
-   /* groupReleaseInformation */
-   stat = asn1PE_UMTS_GroupReleaseInformation(ctx, &pvalue->groupReleaseInformation);
-   RT_CHECK(ctx, stat, 0, "groupReleaseInformation", -1, "GroupIdentityWithReleaseInformation");
-   return 0;
-}
-
-int asn1PE_UMTS_High_MobilityDetected(rtxContext* RT_RESTRICT ctx, High_MobilityDetected value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "High-MobilityDetected");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, "High-MobilityDetected");
-   return 0;
-}
-
-int asn1PE_UMTS_UESpecificBehaviourInformation1idle(rtxContext* RT_RESTRICT ctx, UESpecificBehaviourInformation1idle value)
-{
-   int stat = 0;
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pe_BitString32(ctx, &value, 4, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UESpecificBehaviourInformation1idle");
-   return 0;
-}
-
-int asn1PE_UMTS_UESpecificBehaviourInformation1interRAT(rtxContext* RT_RESTRICT ctx, UESpecificBehaviourInformation1interRAT value)
-{
-   int stat = 0;
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &value, 8, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UESpecificBehaviourInformation1interRAT");
-   return 0;
-}
-
-int asn1PE_UMTS_IdleIntervalMeasCapabEUTRA(rtxContext* RT_RESTRICT ctx, const IdleIntervalMeasCapabEUTRA* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IdleIntervalMeasCapabEUTRA");
-   /* radioFrequencyBandEUTRA */
-   if ((uint64_t)(pvalue->radioFrequencyBandEUTRA - 1) > 63u) {
-      rtxErrAddStrParm(ctx, "RadioFrequencyBandEUTRA");
-      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandEUTRA);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RadioFrequencyBandEUTRA", "radioFrequencyBandEUTRA", -1, "IdleIntervalMeasCapabEUTRA");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandEUTRA, 1, 64);
-   RT_CHECK(ctx, stat, "RadioFrequencyBandEUTRA", "radioFrequencyBandEUTRA", -1, "IdleIntervalMeasCapabEUTRA");
-   /* idleInterval */
-   stat = rtxEncBit(ctx, pvalue->idleInterval);
-   RT_CHECK(ctx, stat, 0, "idleInterval", -1, "IdleIntervalMeasCapabEUTRA");
-   return 0;
-}
-
-int asn1PE_UMTS_IdleIntervalMeasCapabEUTRAList(rtxContext* RT_RESTRICT ctx, const IdleIntervalMeasCapabEUTRAList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IdleIntervalMeasCapabEUTRAList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "IdleIntervalMeasCapabEUTRAList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "IdleIntervalMeasCapabEUTRA", (int32_t)i, "IdleIntervalMeasCapabEUTRAList");
-      stat = asn1PE_UMTS_IdleIntervalMeasCapabEUTRA(ctx, (const IdleIntervalMeasCapabEUTRA*)node->data);
-      RT_CHECK(ctx, stat, 0, "IdleIntervalMeasCapabEUTRA", (int32_t)i, "IdleIntervalMeasCapabEUTRAList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IMSI_and_ESN_DS_41(rtxContext* RT_RESTRICT ctx, const IMSI_and_ESN_DS_41* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IMSI-and-ESN-DS-41");
-   /* imsi-DS-41 */
-   stat = asn1PE_UMTS_IMSI_DS_41(ctx, &pvalue->imsi_DS_41);
-   RT_CHECK(ctx, stat, 0, "imsi-DS-41", -1, "IMSI-and-ESN-DS-41");
-   /* esn-DS-41 */
-   stat = asn1PE_UMTS_ESN_DS_41(ctx, pvalue->esn_DS_41);
-   RT_CHECK(ctx, stat, 0, "esn-DS-41", -1, "IMSI-and-ESN-DS-41");
-   return 0;
-}
-
-int asn1PE_UMTS_TMSI_and_LAI_GSM_MAP(rtxContext* RT_RESTRICT ctx, const TMSI_and_LAI_GSM_MAP* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TMSI-and-LAI-GSM-MAP");
-   /* tmsi */
-   stat = asn1PE_UMTS_TMSI_GSM_MAP(ctx, pvalue->tmsi);
-   RT_CHECK(ctx, stat, 0, "tmsi", -1, "TMSI-and-LAI-GSM-MAP");
-   /* lai */
-   stat = asn1PE_UMTS_LAI(ctx, &pvalue->lai);
-   RT_CHECK(ctx, stat, 0, "lai", -1, "TMSI-and-LAI-GSM-MAP");
-   return 0;
-}
-
-int asn1PE_UMTS_P_TMSI_and_RAI_GSM_MAP(rtxContext* RT_RESTRICT ctx, const P_TMSI_and_RAI_GSM_MAP* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "P-TMSI-and-RAI-GSM-MAP");
-   /* p-TMSI */
-   stat = asn1PE_UMTS_P_TMSI_GSM_MAP(ctx, pvalue->p_TMSI);
-   RT_CHECK(ctx, stat, 0, "p-TMSI", -1, "P-TMSI-and-RAI-GSM-MAP");
-   /* rai */
-   stat = asn1PE_UMTS_RAI(ctx, &pvalue->rai);
-   RT_CHECK(ctx, stat, 0, "rai", -1, "P-TMSI-and-RAI-GSM-MAP");
-   return 0;
-}
-
-int asn1PE_UMTS_InitialUE_Identity(rtxContext* RT_RESTRICT ctx, const InitialUE_Identity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InitialUE-Identity");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
-   RT_CHECK(ctx, stat, 0, "t", -1, "InitialUE-Identity");
-   if (pvalue->t - 1 > 7) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InitialUE-Identity");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.imsi == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "imsi", -1, "InitialUE-Identity");
-         stat = asn1PE_UMTS_IMSI_GSM_MAP(ctx, pvalue->u.imsi);
-         RT_CHECK(ctx, stat, 0, "imsi", -1, "InitialUE-Identity");
-         break;
-      case 2:
-         if (pvalue->u.tmsi_and_LAI == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tmsi-and-LAI", -1, "InitialUE-Identity");
-         stat = asn1PE_UMTS_TMSI_and_LAI_GSM_MAP(ctx, pvalue->u.tmsi_and_LAI);
-         RT_CHECK(ctx, stat, 0, "tmsi-and-LAI", -1, "InitialUE-Identity");
-         break;
-      case 3:
-         if (pvalue->u.p_TMSI_and_RAI == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "p-TMSI-and-RAI", -1, "InitialUE-Identity");
-         stat = asn1PE_UMTS_P_TMSI_and_RAI_GSM_MAP(ctx, pvalue->u.p_TMSI_and_RAI);
-         RT_CHECK(ctx, stat, 0, "p-TMSI-and-RAI", -1, "InitialUE-Identity");
-         break;
-      case 4:
-         if (pvalue->u.imei == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "imei", -1, "InitialUE-Identity");
-         stat = asn1PE_UMTS_IMEI(ctx, pvalue->u.imei);
-         RT_CHECK(ctx, stat, 0, "imei", -1, "InitialUE-Identity");
-         break;
-      case 5:
-         if (pvalue->u.esn_DS_41 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "esn-DS-41", -1, "InitialUE-Identity");
-         stat = asn1PE_UMTS_ESN_DS_41(ctx, *pvalue->u.esn_DS_41);
-         RT_CHECK(ctx, stat, 0, "esn-DS-41", -1, "InitialUE-Identity");
-         break;
-      case 6:
-         if (pvalue->u.imsi_DS_41 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "imsi-DS-41", -1, "InitialUE-Identity");
-         stat = asn1PE_UMTS_IMSI_DS_41(ctx, pvalue->u.imsi_DS_41);
-         RT_CHECK(ctx, stat, 0, "imsi-DS-41", -1, "InitialUE-Identity");
-         break;
-      case 7:
-         if (pvalue->u.imsi_and_ESN_DS_41 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "imsi-and-ESN-DS-41", -1, "InitialUE-Identity");
-         stat = asn1PE_UMTS_IMSI_and_ESN_DS_41(ctx, pvalue->u.imsi_and_ESN_DS_41);
-         RT_CHECK(ctx, stat, 0, "imsi-and-ESN-DS-41", -1, "InitialUE-Identity");
-         break;
-      case 8:
-         if (pvalue->u.tmsi_DS_41 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tmsi-DS-41", -1, "InitialUE-Identity");
-         stat = asn1PE_UMTS_TMSI_DS_41(ctx, pvalue->u.tmsi_DS_41);
-         RT_CHECK(ctx, stat, 0, "tmsi-DS-41", -1, "InitialUE-Identity");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MessageAuthenticationCode(rtxContext* RT_RESTRICT ctx, MessageAuthenticationCode value)
-{
-   int stat = 0;
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &value, 32, 32);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MessageAuthenticationCode");
-   return 0;
-}
-
-int asn1PE_UMTS_RRC_MessageSequenceNumber(rtxContext* RT_RESTRICT ctx, RRC_MessageSequenceNumber value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 15u) {
-      rtxErrAddStrParm(ctx, "RRC-MessageSequenceNumber");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "RRC-MessageSequenceNumber");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RRC-MessageSequenceNumber");
-   return 0;
-}
-
-int asn1PE_UMTS_IntegrityCheckInfo(rtxContext* RT_RESTRICT ctx, const IntegrityCheckInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntegrityCheckInfo");
-   /* messageAuthenticationCode */
-   stat = asn1PE_UMTS_MessageAuthenticationCode(ctx, pvalue->messageAuthenticationCode);
-   RT_CHECK(ctx, stat, 0, "messageAuthenticationCode", -1, "IntegrityCheckInfo");
-   /* rrc-MessageSequenceNumber */
-   if ((uint64_t)pvalue->rrc_MessageSequenceNumber > 15u) {
-      rtxErrAddStrParm(ctx, "RRC-MessageSequenceNumber");
-      rtxErrAddUIntParm(ctx, pvalue->rrc_MessageSequenceNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-MessageSequenceNumber", "rrc-MessageSequenceNumber", -1, "IntegrityCheckInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_MessageSequenceNumber, 0, 15);
-   RT_CHECK(ctx, stat, "RRC-MessageSequenceNumber", "rrc-MessageSequenceNumber", -1, "IntegrityCheckInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_RRC_MessageSequenceNumberList(rtxContext* RT_RESTRICT ctx, const RRC_MessageSequenceNumberList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RRC-MessageSequenceNumberList");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 4, 5);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RRC-MessageSequenceNumberList");
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)pvalue->elem[i] > 15u) {
-         rtxErrAddStrParm(ctx, "RRC-MessageSequenceNumber");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-MessageSequenceNumber", "RRC-MessageSequenceNumber", (int32_t)i, "RRC-MessageSequenceNumberList");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 15);
-      RT_CHECK(ctx, stat, "RRC-MessageSequenceNumber", "RRC-MessageSequenceNumber", (int32_t)i, "RRC-MessageSequenceNumberList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntegrityProtActivationInfo(rtxContext* RT_RESTRICT ctx, const IntegrityProtActivationInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntegrityProtActivationInfo");
-   /* rrc-MessageSequenceNumberList */
-   stat = asn1PE_UMTS_RRC_MessageSequenceNumberList(ctx, &pvalue->rrc_MessageSequenceNumberList);
-   RT_CHECK(ctx, stat, 0, "rrc-MessageSequenceNumberList", -1, "IntegrityProtActivationInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_IntegrityProtectionAlgorithm(rtxContext* RT_RESTRICT ctx, IntegrityProtectionAlgorithm value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "IntegrityProtectionAlgorithm");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntegrityProtectionAlgorithm");
-   return 0;
-}
-
-int asn1PE_UMTS_IntegrityProtectionAlgorithm_r7(rtxContext* RT_RESTRICT ctx, IntegrityProtectionAlgorithm_r7 value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "IntegrityProtectionAlgorithm-r7");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntegrityProtectionAlgorithm-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_IntegrityProtInitNumber(rtxContext* RT_RESTRICT ctx, IntegrityProtInitNumber value)
-{
-   int stat = 0;
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &value, 32, 32);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntegrityProtInitNumber");
-   return 0;
-}
-
-int asn1PE_UMTS_IntegrityProtectionModeCommand_startIntegrityProtection(rtxContext* RT_RESTRICT ctx, const IntegrityProtectionModeCommand_startIntegrityProtection* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* integrityProtInitNumber */
-   stat = asn1PE_UMTS_IntegrityProtInitNumber(ctx, pvalue->integrityProtInitNumber);
-   RT_CHECK(ctx, stat, 0, "integrityProtInitNumber", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_IntegrityProtectionModeCommand_modify(rtxContext* RT_RESTRICT ctx, const IntegrityProtectionModeCommand_modify* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* dl-IntegrityProtActivationInfo */
-   stat = asn1PE_UMTS_IntegrityProtActivationInfo(ctx, &pvalue->dl_IntegrityProtActivationInfo);
-   RT_CHECK(ctx, stat, 0, "dl-IntegrityProtActivationInfo", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_IntegrityProtectionModeCommand(rtxContext* RT_RESTRICT ctx, const IntegrityProtectionModeCommand* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntegrityProtectionModeCommand");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "IntegrityProtectionModeCommand");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "IntegrityProtectionModeCommand");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.startIntegrityProtection == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "startIntegrityProtection", -1, "IntegrityProtectionModeCommand");
-         stat = asn1PE_UMTS_IntegrityProtectionModeCommand_startIntegrityProtection(ctx, pvalue->u.startIntegrityProtection);
-         RT_CHECK(ctx, stat, 0, "startIntegrityProtection", -1, "IntegrityProtectionModeCommand");
-         break;
-      case 2:
-         if (pvalue->u.modify == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "modify", -1, "IntegrityProtectionModeCommand");
-         stat = asn1PE_UMTS_IntegrityProtectionModeCommand_modify(ctx, pvalue->u.modify);
-         RT_CHECK(ctx, stat, 0, "modify", -1, "IntegrityProtectionModeCommand");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntegrityProtectionModeInfo(rtxContext* RT_RESTRICT ctx, const IntegrityProtectionModeInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntegrityProtectionModeInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntegrityProtectionModeInfo");
-   /* integrityProtectionModeCommand */
-   stat = asn1PE_UMTS_IntegrityProtectionModeCommand(ctx, &pvalue->integrityProtectionModeCommand);
-   RT_CHECK(ctx, stat, 0, "integrityProtectionModeCommand", -1, "IntegrityProtectionModeInfo");
-   /* integrityProtectionAlgorithm */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->integrityProtectionAlgorithm > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->integrityProtectionAlgorithm);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "IntegrityProtectionAlgorithm", "integrityProtectionAlgorithm", -1, "IntegrityProtectionModeInfo");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->integrityProtectionAlgorithm, 0, 0);
-      RT_CHECK(ctx, stat, "IntegrityProtectionAlgorithm", "integrityProtectionAlgorithm", -1, "IntegrityProtectionModeInfo");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntegrityProtectionModeInfo_r7(rtxContext* RT_RESTRICT ctx, const IntegrityProtectionModeInfo_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntegrityProtectionModeInfo-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntegrityProtectionModeInfo-r7");
-   /* integrityProtectionModeCommand */
-   stat = asn1PE_UMTS_IntegrityProtectionModeCommand(ctx, &pvalue->integrityProtectionModeCommand);
-   RT_CHECK(ctx, stat, 0, "integrityProtectionModeCommand", -1, "IntegrityProtectionModeInfo-r7");
-   /* integrityProtectionAlgorithm */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->integrityProtectionAlgorithm > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->integrityProtectionAlgorithm);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "IntegrityProtectionAlgorithm-r7", "integrityProtectionAlgorithm", -1, "IntegrityProtectionModeInfo-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->integrityProtectionAlgorithm, 0, 1);
-      RT_CHECK(ctx, stat, "IntegrityProtectionAlgorithm-r7", "integrityProtectionAlgorithm", -1, "IntegrityProtectionModeInfo-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MaxHcContextSpace(rtxContext* RT_RESTRICT ctx, MaxHcContextSpace value)
-{
-   int stat = 0;
-   if (value > 4) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxHcContextSpace");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxHcContextSpace");
-   return 0;
-}
-
-int asn1PE_UMTS_MaxHcContextSpace_r5_ext(rtxContext* RT_RESTRICT ctx, MaxHcContextSpace_r5_ext value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxHcContextSpace-r5-ext");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxHcContextSpace-r5-ext");
-   return 0;
-}
-
-int asn1PE_UMTS_MaxROHC_ContextSessions_r4(rtxContext* RT_RESTRICT ctx, MaxROHC_ContextSessions_r4 value)
-{
-   int stat = 0;
-   if (value > 13) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxROHC-ContextSessions-r4");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 13);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxROHC-ContextSessions-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_MaximumAM_EntityNumberRLC_Cap(rtxContext* RT_RESTRICT ctx, MaximumAM_EntityNumberRLC_Cap value)
-{
-   int stat = 0;
-   if (value > 6) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaximumAM-EntityNumberRLC-Cap");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaximumAM-EntityNumberRLC-Cap");
-   return 0;
-}
-
-int asn1PE_UMTS_MaximumRLC_WindowSize(rtxContext* RT_RESTRICT ctx, MaximumRLC_WindowSize value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaximumRLC-WindowSize");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaximumRLC-WindowSize");
-   return 0;
-}
-
-int asn1PE_UMTS_MaxNoDPDCH_BitsTransmitted(rtxContext* RT_RESTRICT ctx, MaxNoDPDCH_BitsTransmitted value)
-{
-   int stat = 0;
-   if (value > 9) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxNoDPDCH-BitsTransmitted");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 9);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxNoDPDCH-BitsTransmitted");
-   return 0;
-}
-
-int asn1PE_UMTS_MaxNumberOfTFC_UL(rtxContext* RT_RESTRICT ctx, MaxNumberOfTFC_UL value)
-{
-   int stat = 0;
-   if (value > 10) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxNumberOfTFC-UL");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 10);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxNumberOfTFC-UL");
-   return 0;
-}
-
-int asn1PE_UMTS_MaxPhysChPerTimeslot(rtxContext* RT_RESTRICT ctx, MaxPhysChPerTimeslot value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxPhysChPerTimeslot");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxPhysChPerTimeslot");
-   return 0;
-}
-
-int asn1PE_UMTS_MaxPhysChPerTimeslot_LCR_r7(rtxContext* RT_RESTRICT ctx, MaxPhysChPerTimeslot_LCR_r7 value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 3u) {
-      rtxErrAddStrParm(ctx, "MaxPhysChPerTimeslot-LCR-r7");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MaxPhysChPerTimeslot-LCR-r7");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxPhysChPerTimeslot-LCR-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_MaxSimultaneousTransChsUL(rtxContext* RT_RESTRICT ctx, MaxSimultaneousTransChsUL value)
-{
-   int stat = 0;
-   if (value > 4) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxSimultaneousTransChsUL");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxSimultaneousTransChsUL");
-   return 0;
-}
-
-int asn1PE_UMTS_MaxTransportBlocksUL(rtxContext* RT_RESTRICT ctx, MaxTransportBlocksUL value)
-{
-   int stat = 0;
-   if (value > 10) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MaxTransportBlocksUL");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 10);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxTransportBlocksUL");
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementCapability(rtxContext* RT_RESTRICT ctx, const MeasurementCapability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCapability");
-   /* downlinkCompressedMode */
-   stat = asn1PE_UMTS_CompressedModeMeasCapability(ctx, &pvalue->downlinkCompressedMode);
-   RT_CHECK(ctx, stat, 0, "downlinkCompressedMode", -1, "MeasurementCapability");
-   /* uplinkCompressedMode */
-   stat = asn1PE_UMTS_CompressedModeMeasCapability(ctx, &pvalue->uplinkCompressedMode);
-   RT_CHECK(ctx, stat, 0, "uplinkCompressedMode", -1, "MeasurementCapability");
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementCapabilityExt(rtxContext* RT_RESTRICT ctx, const MeasurementCapabilityExt* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCapabilityExt");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementCapabilityExt");
-   /* compressedModeMeasCapabFDDList */
-   stat = asn1PE_UMTS_CompressedModeMeasCapabFDDList(ctx, &pvalue->compressedModeMeasCapabFDDList);
-   RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabFDDList", -1, "MeasurementCapabilityExt");
-   /* compressedModeMeasCapabTDDList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CompressedModeMeasCapabTDDList(ctx, &pvalue->compressedModeMeasCapabTDDList);
-      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabTDDList", -1, "MeasurementCapabilityExt");
-   }
-   /* compressedModeMeasCapabGSMList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_CompressedModeMeasCapabGSMList(ctx, &pvalue->compressedModeMeasCapabGSMList);
-      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabGSMList", -1, "MeasurementCapabilityExt");
-   }
-   /* compressedModeMeasCapabMC */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_CompressedModeMeasCapabMC(ctx, &pvalue->compressedModeMeasCapabMC);
-      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabMC", -1, "MeasurementCapabilityExt");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementCapabilityExt2(rtxContext* RT_RESTRICT ctx, const MeasurementCapabilityExt2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCapabilityExt2");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementCapabilityExt2");
-   /* compressedModeMeasCapabFDDList */
-   stat = asn1PE_UMTS_CompressedModeMeasCapabFDDList2(ctx, &pvalue->compressedModeMeasCapabFDDList);
-   RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabFDDList", -1, "MeasurementCapabilityExt2");
-   /* compressedModeMeasCapabTDDList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CompressedModeMeasCapabTDDList(ctx, &pvalue->compressedModeMeasCapabTDDList);
-      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabTDDList", -1, "MeasurementCapabilityExt2");
-   }
-   /* compressedModeMeasCapabGSMList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_CompressedModeMeasCapabGSMList(ctx, &pvalue->compressedModeMeasCapabGSMList);
-      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabGSMList", -1, "MeasurementCapabilityExt2");
-   }
-   /* compressedModeMeasCapabMC */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_CompressedModeMeasCapabMC(ctx, &pvalue->compressedModeMeasCapabMC);
-      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabMC", -1, "MeasurementCapabilityExt2");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementCapabilityExt3(rtxContext* RT_RESTRICT ctx, const MeasurementCapabilityExt3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCapabilityExt3");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementCapabilityExt3");
-   /* compressedModeMeasCapabEUTRAList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CompressedModeMeasCapabEUTRAList(ctx, &pvalue->compressedModeMeasCapabEUTRAList);
-      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabEUTRAList", -1, "MeasurementCapabilityExt3");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementCapability_r4_ext(rtxContext* RT_RESTRICT ctx, const MeasurementCapability_r4_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCapability-r4-ext");
-   /* downlinkCompressedMode-LCR */
-   stat = asn1PE_UMTS_CompressedModeMeasCapability_LCR_r4(ctx, &pvalue->downlinkCompressedMode_LCR);
-   RT_CHECK(ctx, stat, 0, "downlinkCompressedMode-LCR", -1, "MeasurementCapability-r4-ext");
-   /* uplinkCompressedMode-LCR */
-   stat = asn1PE_UMTS_CompressedModeMeasCapability_LCR_r4(ctx, &pvalue->uplinkCompressedMode_LCR);
-   RT_CHECK(ctx, stat, 0, "uplinkCompressedMode-LCR", -1, "MeasurementCapability-r4-ext");
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementCapability_v860ext(rtxContext* RT_RESTRICT ctx, const MeasurementCapability_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCapability-v860ext");
-   /* downlinkCompressedMode */
-   stat = asn1PE_UMTS_CompressedModeMeasCapability_v860ext(ctx, &pvalue->downlinkCompressedMode);
-   RT_CHECK(ctx, stat, 0, "downlinkCompressedMode", -1, "MeasurementCapability-v860ext");
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementCapability_v920ext(rtxContext* RT_RESTRICT ctx, const MeasurementCapability_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCapability-v920ext");
-   /* downlinkCompressedMode */
-   stat = asn1PE_UMTS_CompressedModeMeasCapability_v920ext(ctx, &pvalue->downlinkCompressedMode);
-   RT_CHECK(ctx, stat, 0, "downlinkCompressedMode", -1, "MeasurementCapability-v920ext");
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementCapabilityTDD(rtxContext* RT_RESTRICT ctx, const MeasurementCapabilityTDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCapabilityTDD");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementCapabilityTDD");
-   /* idleIntervalMeasCapabEUTRAList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IdleIntervalMeasCapabEUTRAList(ctx, &pvalue->idleIntervalMeasCapabEUTRAList);
-      RT_CHECK(ctx, stat, 0, "idleIntervalMeasCapabEUTRAList", -1, "MeasurementCapabilityTDD");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MinimumSF_UL(rtxContext* RT_RESTRICT ctx, MinimumSF_UL value)
-{
-   int stat = 0;
-   if (value > 4) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MinimumSF-UL");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MinimumSF-UL");
-   return 0;
-}
-
-int asn1PE_UMTS_MultiModeCapability(rtxContext* RT_RESTRICT ctx, MultiModeCapability value)
-{
-   int stat = 0;
-   if (value > 2) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MultiModeCapability");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MultiModeCapability");
-   return 0;
-}
-
-int asn1PE_UMTS_MultiRAT_Capability(rtxContext* RT_RESTRICT ctx, const MultiRAT_Capability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MultiRAT-Capability");
-   /* supportOfGSM */
-   stat = rtxEncBit(ctx, pvalue->supportOfGSM);
-   RT_CHECK(ctx, stat, 0, "supportOfGSM", -1, "MultiRAT-Capability");
-   /* supportOfMulticarrier */
-   stat = rtxEncBit(ctx, pvalue->supportOfMulticarrier);
-   RT_CHECK(ctx, stat, 0, "supportOfMulticarrier", -1, "MultiRAT-Capability");
-   return 0;
-}
-
-int asn1PE_UMTS_MultiModeRAT_Capability_v590ext(rtxContext* RT_RESTRICT ctx, const MultiModeRAT_Capability_v590ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MultiModeRAT-Capability-v590ext");
-   /* supportOfUTRAN-ToGERAN-NACC */
-   stat = rtxEncBit(ctx, pvalue->supportOfUTRAN_ToGERAN_NACC);
-   RT_CHECK(ctx, stat, 0, "supportOfUTRAN-ToGERAN-NACC", -1, "MultiModeRAT-Capability-v590ext");
-   return 0;
-}
-
-int asn1PE_UMTS_MultiModeRAT_Capability_v680ext_supportOfHandoverToGAN(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v680ext_supportOfHandoverToGAN value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MultiModeRAT_Capability_v680ext(rtxContext* RT_RESTRICT ctx, const MultiModeRAT_Capability_v680ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MultiModeRAT-Capability-v680ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MultiModeRAT-Capability-v680ext");
-   /* supportOfHandoverToGAN */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->supportOfHandoverToGAN > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfHandoverToGAN);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfHandoverToGAN", -1, "MultiModeRAT-Capability-v680ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfHandoverToGAN, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportOfHandoverToGAN", -1, "MultiModeRAT-Capability-v680ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MultiModeRAT_Capability_v770ext_supportOfPSHandoverToGAN(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v770ext_supportOfPSHandoverToGAN value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MultiModeRAT_Capability_v770ext(rtxContext* RT_RESTRICT ctx, const MultiModeRAT_Capability_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MultiModeRAT-Capability-v770ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MultiModeRAT-Capability-v770ext");
-   /* supportOfPSHandoverToGAN */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->supportOfPSHandoverToGAN > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfPSHandoverToGAN);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfPSHandoverToGAN", -1, "MultiModeRAT-Capability-v770ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfPSHandoverToGAN, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportOfPSHandoverToGAN", -1, "MultiModeRAT-Capability-v770ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MultiModeRAT_Capability_v860ext_supportOfEUTRAFDD(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext_supportOfEUTRAFDD value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRAFDD(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRAFDD value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MultiModeRAT_Capability_v860ext_supportOfEUTRATDD(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext_supportOfEUTRATDD value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRATDD(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRATDD value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MultiModeRAT_Capability_v860ext(rtxContext* RT_RESTRICT ctx, const MultiModeRAT_Capability_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MultiModeRAT-Capability-v860ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MultiModeRAT-Capability-v860ext");
-   /* supportOfEUTRAFDD */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->supportOfEUTRAFDD > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfEUTRAFDD);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfEUTRAFDD", -1, "MultiModeRAT-Capability-v860ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfEUTRAFDD, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportOfEUTRAFDD", -1, "MultiModeRAT-Capability-v860ext");
-   }
-   /* supportOfInterRATHOToEUTRAFDD */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->supportOfInterRATHOToEUTRAFDD > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfInterRATHOToEUTRAFDD);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfInterRATHOToEUTRAFDD", -1, "MultiModeRAT-Capability-v860ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfInterRATHOToEUTRAFDD, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportOfInterRATHOToEUTRAFDD", -1, "MultiModeRAT-Capability-v860ext");
-   }
-   /* supportOfEUTRATDD */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->supportOfEUTRATDD > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfEUTRATDD);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfEUTRATDD", -1, "MultiModeRAT-Capability-v860ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfEUTRATDD, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportOfEUTRATDD", -1, "MultiModeRAT-Capability-v860ext");
-   }
-   /* supportOfInterRATHOToEUTRATDD */
-   if (pvalue->m & 0x8u) {
-      if (pvalue->supportOfInterRATHOToEUTRATDD > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfInterRATHOToEUTRATDD);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfInterRATHOToEUTRATDD", -1, "MultiModeRAT-Capability-v860ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfInterRATHOToEUTRATDD, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportOfInterRATHOToEUTRATDD", -1, "MultiModeRAT-Capability-v860ext");
-   }
-   /* eutraFeatureGroupIndicators */
-   if (pvalue->m & 0x10u) {
-      RT_SET_SIZE(ctx, 4, 4);
-      stat = pe_BitString32(ctx, &pvalue->eutraFeatureGroupIndicators, 4, 4);
-      RT_CHECK(ctx, stat, 0, "eutraFeatureGroupIndicators", -1, "MultiModeRAT-Capability-v860ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_N_308(rtxContext* RT_RESTRICT ctx, N_308 value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 7u) {
-      rtxErrAddStrParm(ctx, "N-308");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "N-308");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "N-308");
-   return 0;
-}
-
-int asn1PE_UMTS_N_312_r5(rtxContext* RT_RESTRICT ctx, N_312_r5 value)
-{
-   int stat = 0;
-   if (value > 11) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "N-312-r5");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 11);
-   RT_CHECK(ctx, stat, 0, 0, -1, "N-312-r5");
-   return 0;
-}
-
-int asn1PE_UMTS_N_315_r5(rtxContext* RT_RESTRICT ctx, N_315_r5 value)
-{
-   int stat = 0;
-   if (value > 11) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "N-315-r5");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 11);
-   RT_CHECK(ctx, stat, 0, 0, -1, "N-315-r5");
-   return 0;
-}
-
-int asn1PE_UMTS_NeighCellSI_AcquisitionCapability_supportOfIntraFreqSIAcquisitionForHO(rtxContext* RT_RESTRICT ctx, NeighCellSI_AcquisitionCapability_supportOfIntraFreqSIAcquisitionForHO value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_NeighCellSI_AcquisitionCapability_supportOfInterFreqSIAcquisitionForHO(rtxContext* RT_RESTRICT ctx, NeighCellSI_AcquisitionCapability_supportOfInterFreqSIAcquisitionForHO value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_NeighCellSI_AcquisitionCapability_supportOfE_UtraSIAcquisitionForHO(rtxContext* RT_RESTRICT ctx, NeighCellSI_AcquisitionCapability_supportOfE_UtraSIAcquisitionForHO value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_NeighCellSI_AcquisitionCapability(rtxContext* RT_RESTRICT ctx, const NeighCellSI_AcquisitionCapability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NeighCellSI-AcquisitionCapability");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NeighCellSI-AcquisitionCapability");
-   /* supportOfIntraFreqSIAcquisitionForHO */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->supportOfIntraFreqSIAcquisitionForHO > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfIntraFreqSIAcquisitionForHO);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfIntraFreqSIAcquisitionForHO", -1, "NeighCellSI-AcquisitionCapability");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfIntraFreqSIAcquisitionForHO, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportOfIntraFreqSIAcquisitionForHO", -1, "NeighCellSI-AcquisitionCapability");
-   }
-   /* supportOfInterFreqSIAcquisitionForHO */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->supportOfInterFreqSIAcquisitionForHO > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfInterFreqSIAcquisitionForHO);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfInterFreqSIAcquisitionForHO", -1, "NeighCellSI-AcquisitionCapability");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfInterFreqSIAcquisitionForHO, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportOfInterFreqSIAcquisitionForHO", -1, "NeighCellSI-AcquisitionCapability");
-   }
-   /* supportOfE-UtraSIAcquisitionForHO */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->supportOfE_UtraSIAcquisitionForHO > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfE_UtraSIAcquisitionForHO);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfE-UtraSIAcquisitionForHO", -1, "NeighCellSI-AcquisitionCapability");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfE_UtraSIAcquisitionForHO, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportOfE-UtraSIAcquisitionForHO", -1, "NeighCellSI-AcquisitionCapability");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_NetworkAssistedGANSS_Supported_List_element_gANSS_Id(rtxContext* RT_RESTRICT ctx, NetworkAssistedGANSS_Supported_List_element_gANSS_Id value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSS_Signal_Id(rtxContext* RT_RESTRICT ctx, GANSS_Signal_Id value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 7u) {
-      rtxErrAddStrParm(ctx, "GANSS-Signal-Id");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "GANSS-Signal-Id");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSS-Signal-Id");
-   return 0;
-}
-
-int asn1PE_UMTS_NetworkAssistedGANSS_Supported_List_element(rtxContext* RT_RESTRICT ctx, const NetworkAssistedGANSS_Supported_List_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* gANSS-Id */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->gANSS_Id > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->gANSS_Id);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "gANSS-Id", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->gANSS_Id, 0, 7);
-      RT_CHECK(ctx, stat, 0, "gANSS-Id", -1, 0);
-   }
-   /* gANSS-Mode */
-   if (pvalue->gANSS_Mode > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->gANSS_Mode);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "GANSS-Mode", "gANSS-Mode", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->gANSS_Mode, 0, 3);
-   RT_CHECK(ctx, stat, "GANSS-Mode", "gANSS-Mode", -1, 0);
-   /* gANSS-SignalId */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->gANSS_SignalId > 7u) {
-         rtxErrAddStrParm(ctx, "GANSS-Signal-Id");
-         rtxErrAddUIntParm(ctx, pvalue->gANSS_SignalId);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "GANSS-Signal-Id", "gANSS-SignalId", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->gANSS_SignalId, 0, 7);
-      RT_CHECK(ctx, stat, "GANSS-Signal-Id", "gANSS-SignalId", -1, 0);
-   }
-   /* supportForUE-GANSS-TimingOfCellFrames */
-   stat = rtxEncBit(ctx, pvalue->supportForUE_GANSS_TimingOfCellFrames);
-   RT_CHECK(ctx, stat, 0, "supportForUE-GANSS-TimingOfCellFrames", -1, 0);
-   /* supportForUE-GANSS-CarrierPhaseMeasurement */
-   if (pvalue->m & 0x4u) {
-      stat = rtxEncBit(ctx, pvalue->supportForUE_GANSS_CarrierPhaseMeasurement);
-      RT_CHECK(ctx, stat, 0, "supportForUE-GANSS-CarrierPhaseMeasurement", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_NetworkAssistedGANSS_Supported_List(rtxContext* RT_RESTRICT ctx, const NetworkAssistedGANSS_Supported_List* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NetworkAssistedGANSS-Supported-List");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NetworkAssistedGANSS-Supported-List");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "NetworkAssistedGANSS-Supported-List");
-      stat = asn1PE_UMTS_NetworkAssistedGANSS_Supported_List_element(ctx, (const NetworkAssistedGANSS_Supported_List_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "NetworkAssistedGANSS-Supported-List");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_NetworkAssistedGANSS_Supported_List_v860ext_element_non_native_AD_choices_supported(rtxContext* RT_RESTRICT ctx, NetworkAssistedGANSS_Supported_List_v860ext_element_non_native_AD_choices_supported value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_NetworkAssistedGANSS_Supported_List_v860ext_element(rtxContext* RT_RESTRICT ctx, const NetworkAssistedGANSS_Supported_List_v860ext_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sbas-Ids */
-   if (pvalue->m & 0x1u) {
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pe_BitString32(ctx, &pvalue->sbas_Ids, 8, 8);
-      RT_CHECK(ctx, stat, 0, "sbas-Ids", -1, 0);
-   }
-   /* gANSS-SignalIds */
-   if (pvalue->m & 0x2u) {
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pe_BitString32(ctx, &pvalue->gANSS_SignalIds, 8, 8);
-      RT_CHECK(ctx, stat, 0, "gANSS-SignalIds", -1, 0);
-   }
-   /* non-native-AD-choices-supported */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->non_native_AD_choices_supported > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->non_native_AD_choices_supported);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "non-native-AD-choices-supported", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->non_native_AD_choices_supported, 0, 0);
-      RT_CHECK(ctx, stat, 0, "non-native-AD-choices-supported", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_NetworkAssistedGANSS_Supported_List_v860ext(rtxContext* RT_RESTRICT ctx, const NetworkAssistedGANSS_Supported_List_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NetworkAssistedGANSS-Supported-List-v860ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NetworkAssistedGANSS-Supported-List-v860ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "NetworkAssistedGANSS-Supported-List-v860ext");
-      stat = asn1PE_UMTS_NetworkAssistedGANSS_Supported_List_v860ext_element(ctx, (const NetworkAssistedGANSS_Supported_List_v860ext_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "NetworkAssistedGANSS-Supported-List-v860ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_NetworkAssistedGPS_Supported(rtxContext* RT_RESTRICT ctx, NetworkAssistedGPS_Supported value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "NetworkAssistedGPS-Supported");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NetworkAssistedGPS-Supported");
-   return 0;
-}
-
-int asn1PE_UMTS_PagingCause(rtxContext* RT_RESTRICT ctx, PagingCause value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "PagingCause");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PagingCause");
-   return 0;
-}
-
-int asn1PE_UMTS_PagingRecord_cn_Identity(rtxContext* RT_RESTRICT ctx, const PagingRecord_cn_Identity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* pagingCause */
-   if (pvalue->pagingCause > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->pagingCause);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PagingCause", "pagingCause", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pagingCause, 0, 7);
-   RT_CHECK(ctx, stat, "PagingCause", "pagingCause", -1, 0);
-   /* cn-DomainIdentity */
-   if (pvalue->cn_DomainIdentity > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, 0);
-   /* cn-pagedUE-Identity */
-   stat = asn1PE_UMTS_CN_PagedUE_Identity(ctx, &pvalue->cn_pagedUE_Identity);
-   RT_CHECK(ctx, stat, 0, "cn-pagedUE-Identity", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SRNC_Identity(rtxContext* RT_RESTRICT ctx, SRNC_Identity value)
-{
-   int stat = 0;
-   RT_SET_SIZE(ctx, 12, 12);
-   stat = pe_BitString32(ctx, &value, 12, 12);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SRNC-Identity");
-   return 0;
-}
-
-int asn1PE_UMTS_S_RNTI(rtxContext* RT_RESTRICT ctx, S_RNTI value)
-{
-   int stat = 0;
-   RT_SET_SIZE(ctx, 20, 20);
-   stat = pe_BitString32(ctx, &value, 20, 20);
-   RT_CHECK(ctx, stat, 0, 0, -1, "S-RNTI");
-   return 0;
-}
-
-int asn1PE_UMTS_U_RNTI(rtxContext* RT_RESTRICT ctx, const U_RNTI* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "U-RNTI");
-   /* srnc-Identity */
-   stat = asn1PE_UMTS_SRNC_Identity(ctx, pvalue->srnc_Identity);
-   RT_CHECK(ctx, stat, 0, "srnc-Identity", -1, "U-RNTI");
-   /* s-RNTI */
-   stat = asn1PE_UMTS_S_RNTI(ctx, pvalue->s_RNTI);
-   RT_CHECK(ctx, stat, 0, "s-RNTI", -1, "U-RNTI");
-   return 0;
-}
-
-int asn1PE_UMTS_PagingRecord_utran_Identity_cn_OriginatedPage_connectedMode_UE(rtxContext* RT_RESTRICT ctx, const PagingRecord_utran_Identity_cn_OriginatedPage_connectedMode_UE* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* pagingCause */
-   if (pvalue->pagingCause > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->pagingCause);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PagingCause", "pagingCause", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pagingCause, 0, 7);
-   RT_CHECK(ctx, stat, "PagingCause", "pagingCause", -1, 0);
-   /* cn-DomainIdentity */
-   if (pvalue->cn_DomainIdentity > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, 0);
-   /* pagingRecordTypeID */
-   if (pvalue->pagingRecordTypeID > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->pagingRecordTypeID);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PagingRecordTypeID", "pagingRecordTypeID", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pagingRecordTypeID, 0, 3);
-   RT_CHECK(ctx, stat, "PagingRecordTypeID", "pagingRecordTypeID", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PagingRecord_utran_Identity(rtxContext* RT_RESTRICT ctx, const PagingRecord_utran_Identity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* u-RNTI */
-   stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
-   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, 0);
-   /* cn-OriginatedPage-connectedMode-UE */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PagingRecord_utran_Identity_cn_OriginatedPage_connectedMode_UE(ctx, &pvalue->cn_OriginatedPage_connectedMode_UE);
-      RT_CHECK(ctx, stat, 0, "cn-OriginatedPage-connectedMode-UE", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PagingRecord(rtxContext* RT_RESTRICT ctx, const PagingRecord* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PagingRecord");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "PagingRecord");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PagingRecord");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.cn_Identity == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cn-Identity", -1, "PagingRecord");
-         stat = asn1PE_UMTS_PagingRecord_cn_Identity(ctx, pvalue->u.cn_Identity);
-         RT_CHECK(ctx, stat, 0, "cn-Identity", -1, "PagingRecord");
-         break;
-      case 2:
-         if (pvalue->u.utran_Identity == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "utran-Identity", -1, "PagingRecord");
-         stat = asn1PE_UMTS_PagingRecord_utran_Identity(ctx, pvalue->u.utran_Identity);
-         RT_CHECK(ctx, stat, 0, "utran-Identity", -1, "PagingRecord");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PagingRecord2_r5_utran_SingleUE_Identity_cn_OriginatedPage_connectedMode_UE(rtxContext* RT_RESTRICT ctx, const PagingRecord2_r5_utran_SingleUE_Identity_cn_OriginatedPage_connectedMode_UE* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* pagingCause */
-   if (pvalue->pagingCause > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->pagingCause);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PagingCause", "pagingCause", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pagingCause, 0, 7);
-   RT_CHECK(ctx, stat, "PagingCause", "pagingCause", -1, 0);
-   /* cn-DomainIdentity */
-   if (pvalue->cn_DomainIdentity > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, 0);
-   /* pagingRecordTypeID */
-   if (pvalue->pagingRecordTypeID > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->pagingRecordTypeID);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PagingRecordTypeID", "pagingRecordTypeID", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pagingRecordTypeID, 0, 3);
-   RT_CHECK(ctx, stat, "PagingRecordTypeID", "pagingRecordTypeID", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PagingRecord2_r5_utran_SingleUE_Identity(rtxContext* RT_RESTRICT ctx, const PagingRecord2_r5_utran_SingleUE_Identity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* u-RNTI */
-   stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
-   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, 0);
-   /* cn-OriginatedPage-connectedMode-UE */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PagingRecord2_r5_utran_SingleUE_Identity_cn_OriginatedPage_connectedMode_UE(ctx, &pvalue->cn_OriginatedPage_connectedMode_UE);
-      RT_CHECK(ctx, stat, 0, "cn-OriginatedPage-connectedMode-UE", -1, 0);
-   }
-   /* rrc-ConnectionReleaseInformation */
-   stat = asn1PE_UMTS_RRC_ConnectionReleaseInformation(ctx, &pvalue->rrc_ConnectionReleaseInformation);
-   RT_CHECK(ctx, stat, 0, "rrc-ConnectionReleaseInformation", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PagingRecord2_r5_utran_GroupIdentity(rtxContext* RT_RESTRICT ctx, const PagingRecord2_r5_utran_GroupIdentity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "GroupIdentityWithReleaseInformation", (int32_t)i, 0);
-      stat = asn1PE_UMTS_GroupIdentityWithReleaseInformation(ctx, (const GroupIdentityWithReleaseInformation*)node->data);
-      RT_CHECK(ctx, stat, 0, "GroupIdentityWithReleaseInformation", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PagingRecord2_r5(rtxContext* RT_RESTRICT ctx, const PagingRecord2_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PagingRecord2-r5");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "PagingRecord2-r5");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PagingRecord2-r5");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.utran_SingleUE_Identity == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "utran-SingleUE-Identity", -1, "PagingRecord2-r5");
-         stat = asn1PE_UMTS_PagingRecord2_r5_utran_SingleUE_Identity(ctx, pvalue->u.utran_SingleUE_Identity);
-         RT_CHECK(ctx, stat, 0, "utran-SingleUE-Identity", -1, "PagingRecord2-r5");
-         break;
-      case 2:
-         if (pvalue->u.utran_GroupIdentity == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "utran-GroupIdentity", -1, "PagingRecord2-r5");
-         stat = asn1PE_UMTS_PagingRecord2_r5_utran_GroupIdentity(ctx, pvalue->u.utran_GroupIdentity);
-         RT_CHECK(ctx, stat, 0, "utran-GroupIdentity", -1, "PagingRecord2-r5");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PagingRecordList(rtxContext* RT_RESTRICT ctx, const PagingRecordList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PagingRecordList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PagingRecordList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PagingRecord", (int32_t)i, "PagingRecordList");
-      stat = asn1PE_UMTS_PagingRecord(ctx, (const PagingRecord*)node->data);
-      RT_CHECK(ctx, stat, 0, "PagingRecord", (int32_t)i, "PagingRecordList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PagingRecord2List_r5(rtxContext* RT_RESTRICT ctx, const PagingRecord2List_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PagingRecord2List-r5");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PagingRecord2List-r5");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PagingRecord2-r5", (int32_t)i, "PagingRecord2List-r5");
-      stat = asn1PE_UMTS_PagingRecord2_r5(ctx, (const PagingRecord2_r5*)node->data);
-      RT_CHECK(ctx, stat, 0, "PagingRecord2-r5", (int32_t)i, "PagingRecord2List-r5");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDCP_Capability_supportForRfc2507(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_supportForRfc2507* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.supported > 4) {
-            rtxErrAddUIntParm(ctx, pvalue->u.supported);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "MaxHcContextSpace", "supported", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.supported, 0, 4);
-         RT_CHECK(ctx, stat, "MaxHcContextSpace", "supported", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDCP_Capability(rtxContext* RT_RESTRICT ctx, const PDCP_Capability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDCP-Capability");
-   /* losslessSRNS-RelocationSupport */
-   stat = rtxEncBit(ctx, pvalue->losslessSRNS_RelocationSupport);
-   RT_CHECK(ctx, stat, 0, "losslessSRNS-RelocationSupport", -1, "PDCP-Capability");
-   /* supportForRfc2507 */
-   stat = asn1PE_UMTS_PDCP_Capability_supportForRfc2507(ctx, &pvalue->supportForRfc2507);
-   RT_CHECK(ctx, stat, 0, "supportForRfc2507", -1, "PDCP-Capability");
-   return 0;
-}
-
-int asn1PE_UMTS_PDCP_Capability_r4_ext_supportForRfc3095_supported(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_r4_ext_supportForRfc3095_supported* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->maxROHC_ContextSessions != 4) << 1) |
-      ((uint64_t)(pvalue->reverseCompressionDepth != 0) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* maxROHC-ContextSessions */
-   if (pvalue->maxROHC_ContextSessions != 4) {
-      if (pvalue->maxROHC_ContextSessions > 13) {
-         rtxErrAddUIntParm(ctx, pvalue->maxROHC_ContextSessions);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "MaxROHC-ContextSessions-r4", "maxROHC-ContextSessions", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->maxROHC_ContextSessions, 0, 13);
-      RT_CHECK(ctx, stat, "MaxROHC-ContextSessions-r4", "maxROHC-ContextSessions", -1, 0);
-   }
-   /* reverseCompressionDepth */
-   if (pvalue->reverseCompressionDepth != 0) {
-      stat = pe_ConsUInt64(ctx, pvalue->reverseCompressionDepth, 0, 65535);
-      RT_CHECK(ctx, stat, 0, "reverseCompressionDepth", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDCP_Capability_r4_ext_supportForRfc3095(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_r4_ext_supportForRfc3095* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.supported == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "supported", -1, 0);
-         stat = asn1PE_UMTS_PDCP_Capability_r4_ext_supportForRfc3095_supported(ctx, pvalue->u.supported);
-         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDCP_Capability_r4_ext(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_r4_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDCP-Capability-r4-ext");
-   /* supportForRfc3095 */
-   stat = asn1PE_UMTS_PDCP_Capability_r4_ext_supportForRfc3095(ctx, &pvalue->supportForRfc3095);
-   RT_CHECK(ctx, stat, 0, "supportForRfc3095", -1, "PDCP-Capability-r4-ext");
-   return 0;
-}
-
-int asn1PE_UMTS_PDCP_Capability_r5_ext(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_r5_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDCP-Capability-r5-ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDCP-Capability-r5-ext");
-   /* supportForRfc3095ContextRelocation */
-   stat = rtxEncBit(ctx, pvalue->supportForRfc3095ContextRelocation);
-   RT_CHECK(ctx, stat, 0, "supportForRfc3095ContextRelocation", -1, "PDCP-Capability-r5-ext");
-   /* maxHcContextSpace */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->maxHcContextSpace > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->maxHcContextSpace);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "MaxHcContextSpace-r5-ext", "maxHcContextSpace", -1, "PDCP-Capability-r5-ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->maxHcContextSpace, 0, 3);
-      RT_CHECK(ctx, stat, "MaxHcContextSpace-r5-ext", "maxHcContextSpace", -1, "PDCP-Capability-r5-ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDCP_Capability_r5_ext2_losslessDLRLC_PDUSizeChange(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r5_ext2_losslessDLRLC_PDUSizeChange value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PDCP_Capability_r5_ext2(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_r5_ext2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDCP-Capability-r5-ext2");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDCP-Capability-r5-ext2");
-   /* losslessDLRLC-PDUSizeChange */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->losslessDLRLC_PDUSizeChange > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->losslessDLRLC_PDUSizeChange);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "losslessDLRLC-PDUSizeChange", -1, "PDCP-Capability-r5-ext2");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->losslessDLRLC_PDUSizeChange, 0, 0);
-      RT_CHECK(ctx, stat, 0, "losslessDLRLC-PDUSizeChange", -1, "PDCP-Capability-r5-ext2");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDCP_Capability_v770ext_supportForCSVoiceoverHSPA(rtxContext* RT_RESTRICT ctx, PDCP_Capability_v770ext_supportForCSVoiceoverHSPA value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PDCP_Capability_v770ext(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDCP-Capability-v770ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDCP-Capability-v770ext");
-   /* supportForCSVoiceoverHSPA */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->supportForCSVoiceoverHSPA > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportForCSVoiceoverHSPA);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportForCSVoiceoverHSPA", -1, "PDCP-Capability-v770ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportForCSVoiceoverHSPA, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportForCSVoiceoverHSPA", -1, "PDCP-Capability-v770ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_PhysChCapabilityFDD(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityFDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-PhysChCapabilityFDD");
-   /* maxNoDPDCH-BitsTransmitted */
-   if (pvalue->maxNoDPDCH_BitsTransmitted > 9) {
-      rtxErrAddUIntParm(ctx, pvalue->maxNoDPDCH_BitsTransmitted);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNoDPDCH-BitsTransmitted", "maxNoDPDCH-BitsTransmitted", -1, "UL-PhysChCapabilityFDD");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxNoDPDCH_BitsTransmitted, 0, 9);
-   RT_CHECK(ctx, stat, "MaxNoDPDCH-BitsTransmitted", "maxNoDPDCH-BitsTransmitted", -1, "UL-PhysChCapabilityFDD");
-   /* dummy */
-   stat = rtxEncBit(ctx, pvalue->dummy);
-   RT_CHECK(ctx, stat, 0, "dummy", -1, "UL-PhysChCapabilityFDD");
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_fddPhysChCapability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* downlinkPhysChCapability */
-   stat = asn1PE_UMTS_DL_PhysChCapabilityFDD(ctx, &pvalue->downlinkPhysChCapability);
-   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
-   /* uplinkPhysChCapability */
-   stat = asn1PE_UMTS_UL_PhysChCapabilityFDD(ctx, &pvalue->uplinkPhysChCapability);
-   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_PhysChCapabilityTDD(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-PhysChCapabilityTDD");
-   /* maxTS-PerFrame */
-   if ((uint64_t)(pvalue->maxTS_PerFrame - 1) > 13u) {
-      rtxErrAddStrParm(ctx, "MaxTS-PerFrame");
-      rtxErrAddUIntParm(ctx, pvalue->maxTS_PerFrame);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "UL-PhysChCapabilityTDD");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxTS_PerFrame, 1, 14);
-   RT_CHECK(ctx, stat, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "UL-PhysChCapabilityTDD");
-   /* maxPhysChPerTimeslot */
-   if (pvalue->maxPhysChPerTimeslot > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerTimeslot);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxPhysChPerTimeslot", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityTDD");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerTimeslot, 0, 1);
-   RT_CHECK(ctx, stat, "MaxPhysChPerTimeslot", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityTDD");
-   /* minimumSF */
-   if (pvalue->minimumSF > 4) {
-      rtxErrAddUIntParm(ctx, pvalue->minimumSF);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MinimumSF-UL", "minimumSF", -1, "UL-PhysChCapabilityTDD");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->minimumSF, 0, 4);
-   RT_CHECK(ctx, stat, "MinimumSF-UL", "minimumSF", -1, "UL-PhysChCapabilityTDD");
-   /* supportOfPUSCH */
-   stat = rtxEncBit(ctx, pvalue->supportOfPUSCH);
-   RT_CHECK(ctx, stat, 0, "supportOfPUSCH", -1, "UL-PhysChCapabilityTDD");
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_tddPhysChCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_tddPhysChCapability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* downlinkPhysChCapability */
-   stat = asn1PE_UMTS_DL_PhysChCapabilityTDD(ctx, &pvalue->downlinkPhysChCapability);
-   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
-   /* uplinkPhysChCapability */
-   stat = asn1PE_UMTS_UL_PhysChCapabilityTDD(ctx, &pvalue->uplinkPhysChCapability);
-   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelCapability");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelCapability");
-   /* fddPhysChCapability */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PhysicalChannelCapability_fddPhysChCapability(ctx, &pvalue->fddPhysChCapability);
-      RT_CHECK(ctx, stat, 0, "fddPhysChCapability", -1, "PhysicalChannelCapability");
-   }
-   /* tddPhysChCapability */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_PhysicalChannelCapability_tddPhysChCapability(ctx, &pvalue->tddPhysChCapability);
-      RT_CHECK(ctx, stat, 0, "tddPhysChCapability", -1, "PhysicalChannelCapability");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_PhysChCapabilityFDD_v770ext_discontinuousDpcchTransmission(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityFDD_v770ext_discontinuousDpcchTransmission value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_PhysChCapabilityFDD_v770ext_slotFormat4(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityFDD_v770ext_slotFormat4 value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_PhysChCapabilityFDD_v770ext(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityFDD_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-PhysChCapabilityFDD-v770ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-PhysChCapabilityFDD-v770ext");
-   /* edch-PhysicalLayerCategory-extension */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->edch_PhysicalLayerCategory_extension - 7) > 0u) {
-         rtxErrAddStrParm(ctx, "edch-PhysicalLayerCategory-extension");
-         rtxErrAddUIntParm(ctx, pvalue->edch_PhysicalLayerCategory_extension);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "edch-PhysicalLayerCategory-extension", -1, "UL-PhysChCapabilityFDD-v770ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->edch_PhysicalLayerCategory_extension, 7, 7);
-      RT_CHECK(ctx, stat, 0, "edch-PhysicalLayerCategory-extension", -1, "UL-PhysChCapabilityFDD-v770ext");
-   }
-   /* discontinuousDpcchTransmission */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->discontinuousDpcchTransmission > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->discontinuousDpcchTransmission);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "discontinuousDpcchTransmission", -1, "UL-PhysChCapabilityFDD-v770ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->discontinuousDpcchTransmission, 0, 0);
-      RT_CHECK(ctx, stat, 0, "discontinuousDpcchTransmission", -1, "UL-PhysChCapabilityFDD-v770ext");
-   }
-   /* slotFormat4 */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->slotFormat4 > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->slotFormat4);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "slotFormat4", -1, "UL-PhysChCapabilityFDD-v770ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->slotFormat4, 0, 0);
-      RT_CHECK(ctx, stat, 0, "slotFormat4", -1, "UL-PhysChCapabilityFDD-v770ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_v770ext_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v770ext_fddPhysChCapability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* downlinkPhysChCapability */
-   stat = asn1PE_UMTS_DL_PhysChCapabilityFDD_v770ext(ctx, &pvalue->downlinkPhysChCapability);
-   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
-   /* uplinkPhysChCapability */
-   stat = asn1PE_UMTS_UL_PhysChCapabilityFDD_v770ext(ctx, &pvalue->uplinkPhysChCapability);
-   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* tdd-edch-PhysicalLayerCategory */
-   if ((uint64_t)(pvalue->tdd_edch_PhysicalLayerCategory - 1) > 15u) {
-      rtxErrAddStrParm(ctx, "tdd-edch-PhysicalLayerCategory");
-      rtxErrAddUIntParm(ctx, pvalue->tdd_edch_PhysicalLayerCategory);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "tdd-edch-PhysicalLayerCategory", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tdd_edch_PhysicalLayerCategory, 1, 16);
-   RT_CHECK(ctx, stat, 0, "tdd-edch-PhysicalLayerCategory", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.supported == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "supported", -1, 0);
-         stat = asn1PE_UMTS_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported(ctx, pvalue->u.supported);
-         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_PhysChCapabilityTDD_384_v770ext(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_384_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-PhysChCapabilityTDD-384-v770ext");
-   /* tdd384-edch */
-   stat = asn1PE_UMTS_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch(ctx, &pvalue->tdd384_edch);
-   RT_CHECK(ctx, stat, 0, "tdd384-edch", -1, "UL-PhysChCapabilityTDD-384-v770ext");
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_384(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v770ext_tddPhysChCapability_384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* uplinkPhysChCapability */
-   stat = asn1PE_UMTS_UL_PhysChCapabilityTDD_384_v770ext(ctx, &pvalue->uplinkPhysChCapability);
-   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_PhysChCapabilityTDD_768_tdd384_edch_supported(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_768_tdd384_edch_supported* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* tdd-edch-PhysicalLayerCategory */
-   if ((uint64_t)(pvalue->tdd_edch_PhysicalLayerCategory - 1) > 15u) {
-      rtxErrAddStrParm(ctx, "tdd-edch-PhysicalLayerCategory");
-      rtxErrAddUIntParm(ctx, pvalue->tdd_edch_PhysicalLayerCategory);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "tdd-edch-PhysicalLayerCategory", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tdd_edch_PhysicalLayerCategory, 1, 16);
-   RT_CHECK(ctx, stat, 0, "tdd-edch-PhysicalLayerCategory", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_PhysChCapabilityTDD_768_tdd384_edch(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_768_tdd384_edch* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.supported == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "supported", -1, 0);
-         stat = asn1PE_UMTS_UL_PhysChCapabilityTDD_768_tdd384_edch_supported(ctx, pvalue->u.supported);
-         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_PhysChCapabilityTDD_768(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-PhysChCapabilityTDD-768");
-   /* maxTS-PerFrame */
-   if ((uint64_t)(pvalue->maxTS_PerFrame - 1) > 13u) {
-      rtxErrAddStrParm(ctx, "MaxTS-PerFrame");
-      rtxErrAddUIntParm(ctx, pvalue->maxTS_PerFrame);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "UL-PhysChCapabilityTDD-768");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxTS_PerFrame, 1, 14);
-   RT_CHECK(ctx, stat, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "UL-PhysChCapabilityTDD-768");
-   /* maxPhysChPerTimeslot */
-   if (pvalue->maxPhysChPerTimeslot > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerTimeslot);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxPhysChPerTimeslot", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityTDD-768");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerTimeslot, 0, 1);
-   RT_CHECK(ctx, stat, "MaxPhysChPerTimeslot", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityTDD-768");
-   /* minimumSF */
-   if (pvalue->minimumSF > 4) {
-      rtxErrAddUIntParm(ctx, pvalue->minimumSF);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MinimumSF-UL", "minimumSF", -1, "UL-PhysChCapabilityTDD-768");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->minimumSF, 0, 4);
-   RT_CHECK(ctx, stat, "MinimumSF-UL", "minimumSF", -1, "UL-PhysChCapabilityTDD-768");
-   /* supportOfPUSCH */
-   stat = rtxEncBit(ctx, pvalue->supportOfPUSCH);
-   RT_CHECK(ctx, stat, 0, "supportOfPUSCH", -1, "UL-PhysChCapabilityTDD-768");
-   /* tdd384-edch */
-   stat = asn1PE_UMTS_UL_PhysChCapabilityTDD_768_tdd384_edch(ctx, &pvalue->tdd384_edch);
-   RT_CHECK(ctx, stat, 0, "tdd384-edch", -1, "UL-PhysChCapabilityTDD-768");
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_768(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v770ext_tddPhysChCapability_768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* downlinkPhysChCapability */
-   stat = asn1PE_UMTS_DL_PhysChCapabilityTDD_768(ctx, &pvalue->downlinkPhysChCapability);
-   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
-   /* uplinkPhysChCapability */
-   stat = asn1PE_UMTS_UL_PhysChCapabilityTDD_768(ctx, &pvalue->uplinkPhysChCapability);
-   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* tdd-edch-PhysicalLayerCategory */
-   if ((uint64_t)(pvalue->tdd_edch_PhysicalLayerCategory - 1) > 5u) {
-      rtxErrAddStrParm(ctx, "tdd-edch-PhysicalLayerCategory");
-      rtxErrAddUIntParm(ctx, pvalue->tdd_edch_PhysicalLayerCategory);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "tdd-edch-PhysicalLayerCategory", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tdd_edch_PhysicalLayerCategory, 1, 6);
-   RT_CHECK(ctx, stat, 0, "tdd-edch-PhysicalLayerCategory", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.supported == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "supported", -1, 0);
-         stat = asn1PE_UMTS_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported(ctx, pvalue->u.supported);
-         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_PhysChCapabilityTDD_128_v770ext(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_128_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-PhysChCapabilityTDD-128-v770ext");
-   /* maxPhysChPerTimeslot */
-   if ((uint64_t)(pvalue->maxPhysChPerTimeslot - 1) > 3u) {
-      rtxErrAddStrParm(ctx, "MaxPhysChPerTimeslot-LCR-r7");
-      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerTimeslot);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxPhysChPerTimeslot-LCR-r7", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityTDD-128-v770ext");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerTimeslot, 1, 4);
-   RT_CHECK(ctx, stat, "MaxPhysChPerTimeslot-LCR-r7", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityTDD-128-v770ext");
-   /* tdd128-edch */
-   stat = asn1PE_UMTS_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch(ctx, &pvalue->tdd128_edch);
-   RT_CHECK(ctx, stat, 0, "tdd128-edch", -1, "UL-PhysChCapabilityTDD-128-v770ext");
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_128(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v770ext_tddPhysChCapability_128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* downlinkPhysChCapability */
-   stat = asn1PE_UMTS_DL_PhysChCapabilityTDD_128_v770ext(ctx, &pvalue->downlinkPhysChCapability);
-   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
-   /* uplinkPhysChCapability */
-   stat = asn1PE_UMTS_UL_PhysChCapabilityTDD_128_v770ext(ctx, &pvalue->uplinkPhysChCapability);
-   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_v770ext(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelCapability-v770ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelCapability-v770ext");
-   /* fddPhysChCapability */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PhysicalChannelCapability_v770ext_fddPhysChCapability(ctx, &pvalue->fddPhysChCapability);
-      RT_CHECK(ctx, stat, 0, "fddPhysChCapability", -1, "PhysicalChannelCapability-v770ext");
-   }
-   /* tddPhysChCapability-384 */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_384(ctx, &pvalue->tddPhysChCapability_384);
-      RT_CHECK(ctx, stat, 0, "tddPhysChCapability-384", -1, "PhysicalChannelCapability-v770ext");
-   }
-   /* tddPhysChCapability-768 */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_768(ctx, &pvalue->tddPhysChCapability_768);
-      RT_CHECK(ctx, stat, 0, "tddPhysChCapability-768", -1, "PhysicalChannelCapability-v770ext");
-   }
-   /* tddPhysChCapability-128 */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_128(ctx, &pvalue->tddPhysChCapability_128);
-      RT_CHECK(ctx, stat, 0, "tddPhysChCapability-128", -1, "PhysicalChannelCapability-v770ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_v860ext_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v860ext_fddPhysChCapability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* downlinkPhysChCapability */
-   stat = asn1PE_UMTS_DL_PhysChCapabilityFDD_v860ext(ctx, &pvalue->downlinkPhysChCapability);
-   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_v860ext_tddPhysChCapability_128(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v860ext_tddPhysChCapability_128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* downlinkPhysChCapability */
-   stat = asn1PE_UMTS_DL_PhysChCapabilityTDD_128_v860ext(ctx, &pvalue->downlinkPhysChCapability);
-   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_v860ext(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelCapability-v860ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelCapability-v860ext");
-   /* fddPhysChCapability */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PhysicalChannelCapability_v860ext_fddPhysChCapability(ctx, &pvalue->fddPhysChCapability);
-      RT_CHECK(ctx, stat, 0, "fddPhysChCapability", -1, "PhysicalChannelCapability-v860ext");
-   }
-   /* tddPhysChCapability-128 */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_PhysicalChannelCapability_v860ext_tddPhysChCapability_128(ctx, &pvalue->tddPhysChCapability_128);
-      RT_CHECK(ctx, stat, 0, "tddPhysChCapability-128", -1, "PhysicalChannelCapability-v860ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_PhysChCapabilityFDD_v920ext(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityFDD_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-PhysChCapabilityFDD-v920ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-PhysChCapabilityFDD-v920ext");
-   /* edch-PhysicalLayerCategory-extension2 */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->edch_PhysicalLayerCategory_extension2 - 8) > 1u) {
-         rtxErrAddStrParm(ctx, "edch-PhysicalLayerCategory-extension2");
-         rtxErrAddUIntParm(ctx, pvalue->edch_PhysicalLayerCategory_extension2);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "edch-PhysicalLayerCategory-extension2", -1, "UL-PhysChCapabilityFDD-v920ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->edch_PhysicalLayerCategory_extension2, 8, 9);
-      RT_CHECK(ctx, stat, 0, "edch-PhysicalLayerCategory-extension2", -1, "UL-PhysChCapabilityFDD-v920ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_v920ext_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v920ext_fddPhysChCapability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* downlinkPhysChCapability */
-   stat = asn1PE_UMTS_DL_PhysChCapabilityFDD_v920ext(ctx, &pvalue->downlinkPhysChCapability);
-   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
-   /* uplinkPhysChCapability */
-   stat = asn1PE_UMTS_UL_PhysChCapabilityFDD_v920ext(ctx, &pvalue->uplinkPhysChCapability);
-   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_v920ext(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelCapability-v920ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelCapability-v920ext");
-   /* fddPhysChCapability */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PhysicalChannelCapability_v920ext_fddPhysChCapability(ctx, &pvalue->fddPhysChCapability);
-      RT_CHECK(ctx, stat, 0, "fddPhysChCapability", -1, "PhysicalChannelCapability-v920ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_768(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* downlinkPhysChCapability */
-   stat = asn1PE_UMTS_DL_PhysChCapabilityInfoTDD_768(ctx, &pvalue->downlinkPhysChCapability);
-   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
-   /* uplinkPhysChCapability */
-   stat = asn1PE_UMTS_UL_PhysChCapabilityTDD(ctx, &pvalue->uplinkPhysChCapability);
-   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_PhysChCapabilityInfoTDD_128_v770ext(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityInfoTDD_128_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-PhysChCapabilityInfoTDD-128-v770ext");
-   /* maxPhysChPerTimeslot */
-   if ((uint64_t)(pvalue->maxPhysChPerTimeslot - 1) > 3u) {
-      rtxErrAddStrParm(ctx, "MaxPhysChPerTimeslot-LCR-r7");
-      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerTimeslot);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxPhysChPerTimeslot-LCR-r7", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityInfoTDD-128-v770ext");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerTimeslot, 1, 4);
-   RT_CHECK(ctx, stat, "MaxPhysChPerTimeslot-LCR-r7", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityInfoTDD-128-v770ext");
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_128(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* uplinkPhysChCapability */
-   stat = asn1PE_UMTS_UL_PhysChCapabilityInfoTDD_128_v770ext(ctx, &pvalue->uplinkPhysChCapability);
-   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapabilityInfo_v770ext(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapabilityInfo_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelCapabilityInfo-v770ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelCapabilityInfo-v770ext");
-   /* tddPhysChCapability-768 */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_768(ctx, &pvalue->tddPhysChCapability_768);
-      RT_CHECK(ctx, stat, 0, "tddPhysChCapability-768", -1, "PhysicalChannelCapabilityInfo-v770ext");
-   }
-   /* tddPhysChCapability-128 */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_128(ctx, &pvalue->tddPhysChCapability_128);
-      RT_CHECK(ctx, stat, 0, "tddPhysChCapability-128", -1, "PhysicalChannelCapabilityInfo-v770ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_PhysChCapabilityTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-PhysChCapabilityTDD-LCR-r4");
-   /* maxTS-PerSubFrame */
-   if ((uint64_t)(pvalue->maxTS_PerSubFrame - 1) > 5u) {
-      rtxErrAddStrParm(ctx, "MaxTS-PerSubFrame-r4");
-      rtxErrAddUIntParm(ctx, pvalue->maxTS_PerSubFrame);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxTS-PerSubFrame-r4", "maxTS-PerSubFrame", -1, "UL-PhysChCapabilityTDD-LCR-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxTS_PerSubFrame, 1, 6);
-   RT_CHECK(ctx, stat, "MaxTS-PerSubFrame-r4", "maxTS-PerSubFrame", -1, "UL-PhysChCapabilityTDD-LCR-r4");
-   /* maxPhysChPerTimeslot */
-   if (pvalue->maxPhysChPerTimeslot > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerTimeslot);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxPhysChPerTimeslot", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityTDD-LCR-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxPhysChPerTimeslot, 0, 1);
-   RT_CHECK(ctx, stat, "MaxPhysChPerTimeslot", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityTDD-LCR-r4");
-   /* minimumSF */
-   if (pvalue->minimumSF > 4) {
-      rtxErrAddUIntParm(ctx, pvalue->minimumSF);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MinimumSF-UL", "minimumSF", -1, "UL-PhysChCapabilityTDD-LCR-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->minimumSF, 0, 4);
-   RT_CHECK(ctx, stat, "MinimumSF-UL", "minimumSF", -1, "UL-PhysChCapabilityTDD-LCR-r4");
-   /* supportOfPUSCH */
-   stat = rtxEncBit(ctx, pvalue->supportOfPUSCH);
-   RT_CHECK(ctx, stat, 0, "supportOfPUSCH", -1, "UL-PhysChCapabilityTDD-LCR-r4");
-   /* supportOf8PSK */
-   stat = rtxEncBit(ctx, pvalue->supportOf8PSK);
-   RT_CHECK(ctx, stat, 0, "supportOf8PSK", -1, "UL-PhysChCapabilityTDD-LCR-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_LCR_r4_tdd128_PhysChCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_LCR_r4_tdd128_PhysChCapability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* downlinkPhysChCapability */
-   stat = asn1PE_UMTS_DL_PhysChCapabilityTDD_LCR_r4(ctx, &pvalue->downlinkPhysChCapability);
-   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
-   /* uplinkPhysChCapability */
-   stat = asn1PE_UMTS_UL_PhysChCapabilityTDD_LCR_r4(ctx, &pvalue->uplinkPhysChCapability);
-   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_LCR_r4(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelCapability-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PhysicalChannelCapability-LCR-r4");
-   /* tdd128-PhysChCapability */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PhysicalChannelCapability_LCR_r4_tdd128_PhysChCapability(ctx, &pvalue->tdd128_PhysChCapability);
-      RT_CHECK(ctx, stat, 0, "tdd128-PhysChCapability", -1, "PhysicalChannelCapability-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* hsdsch-physical-layer-category */
-   if ((uint64_t)(pvalue->hsdsch_physical_layer_category - 1) > 63u) {
-      rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category");
-      rtxErrAddUIntParm(ctx, pvalue->hsdsch_physical_layer_category);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category", "hsdsch-physical-layer-category", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hsdsch_physical_layer_category, 1, 64);
-   RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category", "hsdsch-physical-layer-category", -1, 0);
-   /* dummy */
-   stat = rtxEncBit(ctx, pvalue->dummy);
-   RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
-   /* dummy2 */
-   stat = rtxEncBit(ctx, pvalue->dummy2);
-   RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.supported == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "supported", -1, 0);
-         stat = asn1PE_UMTS_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported(ctx, pvalue->u.supported);
-         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_hspdsch_r5_tdd384_hspdsch(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_hspdsch_r5_tdd384_hspdsch* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if ((uint64_t)(pvalue->u.supported - 1) > 63u) {
-            rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category");
-            rtxErrAddUIntParm(ctx, pvalue->u.supported);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category", "supported", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.supported, 1, 64);
-         RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category", "supported", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_hspdsch_r5_tdd128_hspdsch(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_hspdsch_r5_tdd128_hspdsch* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if ((uint64_t)(pvalue->u.supported - 1) > 63u) {
-            rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category");
-            rtxErrAddUIntParm(ctx, pvalue->u.supported);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category", "supported", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.supported, 1, 64);
-         RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category", "supported", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_QualityTarget, pvalue);
 }
 

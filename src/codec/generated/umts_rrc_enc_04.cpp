@@ -6,78 +6,9341 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PE_UMTS_PhysicalChannelCapability_hspdsch_r5(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_hspdsch_r5* RT_RESTRICT pvalue)
+/* The bodies of this unit. */
+RT_MERGED_BODY int enc_MessType(rtxContext* RT_RESTRICT ctx, MessType value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_ControlledTrChList(rtxContext* RT_RESTRICT ctx, const UL_ControlledTrChList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TM_SignallingInfo_tm_SignallingMode_mode2(rtxContext* RT_RESTRICT ctx, const TM_SignallingInfo_tm_SignallingMode_mode2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TM_SignallingInfo_tm_SignallingMode(rtxContext* RT_RESTRICT ctx, const TM_SignallingInfo_tm_SignallingMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TM_SignallingInfo(rtxContext* RT_RESTRICT ctx, const TM_SignallingInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_AddReconfTransChInformation(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_AddReconfTransChInfoList(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PreDefTransChConfiguration(rtxContext* RT_RESTRICT ctx, const PreDefTransChConfiguration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfoPredef_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfoPredef_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfoPredef_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfoPredef_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfoPredef(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfoPredef* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_InfoPredef_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPredef_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_InfoPredef_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPredef_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_InfoPredef_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPredef_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_InfoPredef(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPredef* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PilotBits128(rtxContext* RT_RESTRICT ctx, PilotBits128 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PilotBits256(rtxContext* RT_RESTRICT ctx, PilotBits256 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SF512_AndPilot(rtxContext* RT_RESTRICT ctx, const SF512_AndPilot* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DPCH_InfoCommonPredef_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommonPredef_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DPCH_InfoCommonPredef(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommonPredef* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonInformationPredef(rtxContext* RT_RESTRICT ctx, const DL_CommonInformationPredef* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_PreDefPhyChConfiguration(rtxContext* RT_RESTRICT ctx, const PreDefPhyChConfiguration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PreDefRadioConfiguration(rtxContext* RT_RESTRICT ctx, const PreDefRadioConfiguration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NumberOfTPC_Bits(rtxContext* RT_RESTRICT ctx, NumberOfTPC_Bits value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPredef_v770ext_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_InfoPredef_v770ext(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPredef_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PreDefPhyChConfiguration_v770ext(rtxContext* RT_RESTRICT ctx, const PreDefPhyChConfiguration_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PreDefRadioConfiguration_v770ext(rtxContext* RT_RESTRICT ctx, const PreDefRadioConfiguration_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType16_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType16_v770ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MAC_hs_WindowSize_r9(rtxContext* RT_RESTRICT ctx, MAC_hs_WindowSize_r9 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PreDefRadioConfiguration_v920ext(rtxContext* RT_RESTRICT ctx, const PreDefRadioConfiguration_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType16_v920ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType16_v920ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType16_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType16_v770NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SysInfoType16(rtxContext* RT_RESTRICT ctx, const SysInfoType16* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Ansi_41_IDNNS(rtxContext* RT_RESTRICT ctx, Ansi_41_IDNNS value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CN_DomainInformation(rtxContext* RT_RESTRICT ctx, const CN_DomainInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CN_DomainInformationFull(rtxContext* RT_RESTRICT ctx, const CN_DomainInformationFull* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CN_DomainInformationList(rtxContext* RT_RESTRICT ctx, const CN_DomainInformationList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CN_DomainInformationListFull(rtxContext* RT_RESTRICT ctx, const CN_DomainInformationListFull* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_CN_InformationInfo(rtxContext* RT_RESTRICT ctx, const CN_InformationInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_CN_InformationInfo_r6(rtxContext* RT_RESTRICT ctx, const CN_InformationInfo_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_CN_InformationInfoFull(rtxContext* RT_RESTRICT ctx, const CN_InformationInfoFull* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RoutingParameter(rtxContext* RT_RESTRICT ctx, RoutingParameter value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Gsm_map_IDNNS_routingbasis_localPTMSI(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis_localPTMSI* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Gsm_map_IDNNS_routingbasis_tMSIofsamePLMN(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis_tMSIofsamePLMN* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Gsm_map_IDNNS_routingbasis_tMSIofdifferentPLMN(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis_tMSIofdifferentPLMN* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Gsm_map_IDNNS_routingbasis_iMSIresponsetopaging(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis_iMSIresponsetopaging* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Gsm_map_IDNNS_routingbasis_iMSIcauseUEinitiatedEvent(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis_iMSIcauseUEinitiatedEvent* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Gsm_map_IDNNS_routingbasis_iMEI(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis_iMEI* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Gsm_map_IDNNS_routingbasis_spare2(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis_spare2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Gsm_map_IDNNS_routingbasis_spare1(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis_spare1* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Gsm_map_IDNNS_routingbasis(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Gsm_map_IDNNS(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IMEI_Digit(rtxContext* RT_RESTRICT ctx, IMEI_Digit value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IMEI(rtxContext* RT_RESTRICT ctx, const IMEI* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IMSI_GSM_MAP(rtxContext* RT_RESTRICT ctx, const IMSI_GSM_MAP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_IntraDomainNasNodeSelector_version_release99_cn_Type(rtxContext* RT_RESTRICT ctx, const IntraDomainNasNodeSelector_version_release99_cn_Type* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraDomainNasNodeSelector_version_release99(rtxContext* RT_RESTRICT ctx, const IntraDomainNasNodeSelector_version_release99* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraDomainNasNodeSelector_version_later(rtxContext* RT_RESTRICT ctx, const IntraDomainNasNodeSelector_version_later* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraDomainNasNodeSelector_version(rtxContext* RT_RESTRICT ctx, const IntraDomainNasNodeSelector_version* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraDomainNasNodeSelector(rtxContext* RT_RESTRICT ctx, const IntraDomainNasNodeSelector* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_LAI(rtxContext* RT_RESTRICT ctx, const LAI* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NAS_Message(rtxContext* RT_RESTRICT ctx, const NAS_Message* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NAS_Synchronisation_Indicator(rtxContext* RT_RESTRICT ctx, NAS_Synchronisation_Indicator value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_P_TMSI_GSM_MAP(rtxContext* RT_RESTRICT ctx, P_TMSI_GSM_MAP value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PagingRecordTypeID(rtxContext* RT_RESTRICT ctx, PagingRecordTypeID value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RAB_Identity(rtxContext* RT_RESTRICT ctx, const RAB_Identity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RoutingAreaCode(rtxContext* RT_RESTRICT ctx, RoutingAreaCode value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RAI(rtxContext* RT_RESTRICT ctx, const RAI* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TMSI_GSM_MAP(rtxContext* RT_RESTRICT ctx, TMSI_GSM_MAP value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellIdentity_PerRL_List(rtxContext* RT_RESTRICT ctx, const CellIdentity_PerRL_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_T_322(rtxContext* RT_RESTRICT ctx, T_322 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PriorityLevel_radioAccessTechnology_utraFDD_element(rtxContext* RT_RESTRICT ctx, const PriorityLevel_radioAccessTechnology_utraFDD_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PriorityLevel_radioAccessTechnology_utraFDD(rtxContext* RT_RESTRICT ctx, const PriorityLevel_radioAccessTechnology_utraFDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PriorityLevel_radioAccessTechnology_utraTDD_element(rtxContext* RT_RESTRICT ctx, const PriorityLevel_radioAccessTechnology_utraTDD_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PriorityLevel_radioAccessTechnology_utraTDD(rtxContext* RT_RESTRICT ctx, const PriorityLevel_radioAccessTechnology_utraTDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EARFCN(rtxContext* RT_RESTRICT ctx, EARFCN value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PriorityLevel_radioAccessTechnology_eutra_element(rtxContext* RT_RESTRICT ctx, const PriorityLevel_radioAccessTechnology_eutra_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PriorityLevel_radioAccessTechnology_eutra(rtxContext* RT_RESTRICT ctx, const PriorityLevel_radioAccessTechnology_eutra* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GSM_CellGroup_bandIndicator(rtxContext* RT_RESTRICT ctx, GSM_CellGroup_bandIndicator value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GSM_CellGroup_followingARFCNs_explicitListOfARFCNs(rtxContext* RT_RESTRICT ctx, const GSM_CellGroup_followingARFCNs_explicitListOfARFCNs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GSM_CellGroup_followingARFCNs_equallySpacedARFCNs(rtxContext* RT_RESTRICT ctx, const GSM_CellGroup_followingARFCNs_equallySpacedARFCNs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs(rtxContext* RT_RESTRICT ctx, const GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GSM_CellGroup_followingARFCNs_continuousRangeOfARFCNs(rtxContext* RT_RESTRICT ctx, const GSM_CellGroup_followingARFCNs_continuousRangeOfARFCNs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GSM_CellGroup_followingARFCNs(rtxContext* RT_RESTRICT ctx, const GSM_CellGroup_followingARFCNs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_GSM_CellGroup(rtxContext* RT_RESTRICT ctx, const GSM_CellGroup* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PriorityLevel_radioAccessTechnology_gsm(rtxContext* RT_RESTRICT ctx, const PriorityLevel_radioAccessTechnology_gsm* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PriorityLevel_radioAccessTechnology(rtxContext* RT_RESTRICT ctx, const PriorityLevel_radioAccessTechnology* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PriorityLevel(rtxContext* RT_RESTRICT ctx, const PriorityLevel* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PriorityLevelList(rtxContext* RT_RESTRICT ctx, const PriorityLevelList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DedicatedPriorityInformation_action_configureDedicatedPriorities(rtxContext* RT_RESTRICT ctx, const DedicatedPriorityInformation_action_configureDedicatedPriorities* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DedicatedPriorityInformation_action(rtxContext* RT_RESTRICT ctx, const DedicatedPriorityInformation_action* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DedicatedPriorityInformation(rtxContext* RT_RESTRICT ctx, const DedicatedPriorityInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Q_Hyst_S_Fine(rtxContext* RT_RESTRICT ctx, Q_Hyst_S_Fine value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_T_Reselection_S_Fine(rtxContext* RT_RESTRICT ctx, T_Reselection_S_Fine value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AccessStratumReleaseIndicator(rtxContext* RT_RESTRICT ctx, AccessStratumReleaseIndicator value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ActivationTime(rtxContext* RT_RESTRICT ctx, ActivationTime value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_N_AP_RetransMax(rtxContext* RT_RESTRICT ctx, N_AP_RetransMax value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_N_AccessFails(rtxContext* RT_RESTRICT ctx, N_AccessFails value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NF_BO_NoAICH(rtxContext* RT_RESTRICT ctx, NF_BO_NoAICH value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NS_BO_Busy(rtxContext* RT_RESTRICT ctx, NS_BO_Busy value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NF_BO_AllBusy(rtxContext* RT_RESTRICT ctx, NF_BO_AllBusy value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NF_BO_Mismatch(rtxContext* RT_RESTRICT ctx, NF_BO_Mismatch value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_T_CPCH(rtxContext* RT_RESTRICT ctx, T_CPCH value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_BackoffControlParams(rtxContext* RT_RESTRICT ctx, const BackoffControlParams* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_BandComb(rtxContext* RT_RESTRICT ctx, BandComb value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_C_RNTI(rtxContext* RT_RESTRICT ctx, C_RNTI value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SystemSpecificCapUpdateReq(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReq value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SystemSpecificCapUpdateReqList(rtxContext* RT_RESTRICT ctx, const SystemSpecificCapUpdateReqList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CapabilityUpdateRequirement(rtxContext* RT_RESTRICT ctx, const CapabilityUpdateRequirement* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CapabilityUpdateRequirement_r4_ext(rtxContext* RT_RESTRICT ctx, const CapabilityUpdateRequirement_r4_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CapabilityUpdateRequirement_r4(rtxContext* RT_RESTRICT ctx, const CapabilityUpdateRequirement_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SystemSpecificCapUpdateReq_r5(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReq_r5 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SystemSpecificCapUpdateReqList_r5(rtxContext* RT_RESTRICT ctx, const SystemSpecificCapUpdateReqList_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CapabilityUpdateRequirement_r5(rtxContext* RT_RESTRICT ctx, const CapabilityUpdateRequirement_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CapabilityUpdateRequirement_v770ext(rtxContext* RT_RESTRICT ctx, const CapabilityUpdateRequirement_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CapabilityUpdateRequirement_r7(rtxContext* RT_RESTRICT ctx, const CapabilityUpdateRequirement_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SystemSpecificCapUpdateReq_r8(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReq_r8 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SystemSpecificCapUpdateReqList_r8(rtxContext* RT_RESTRICT ctx, const SystemSpecificCapUpdateReqList_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CapabilityUpdateRequirement_v860ext(rtxContext* RT_RESTRICT ctx, const CapabilityUpdateRequirement_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CapabilityUpdateRequirement_r8(rtxContext* RT_RESTRICT ctx, const CapabilityUpdateRequirement_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellUpdateCause(rtxContext* RT_RESTRICT ctx, CellUpdateCause value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellUpdateCause_ext(rtxContext* RT_RESTRICT ctx, CellUpdateCause_ext value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ChipRateCapability(rtxContext* RT_RESTRICT ctx, ChipRateCapability value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CipheringAlgorithm(rtxContext* RT_RESTRICT ctx, CipheringAlgorithm value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CipheringAlgorithm_r7(rtxContext* RT_RESTRICT ctx, CipheringAlgorithm_r7 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CipheringModeCommand(rtxContext* RT_RESTRICT ctx, const CipheringModeCommand* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CipheringModeCommand_r7(rtxContext* RT_RESTRICT ctx, const CipheringModeCommand_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RLC_SequenceNumber(rtxContext* RT_RESTRICT ctx, RLC_SequenceNumber value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_ActivationTimeInfo(rtxContext* RT_RESTRICT ctx, const RB_ActivationTimeInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_ActivationTimeInfoList(rtxContext* RT_RESTRICT ctx, const RB_ActivationTimeInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CipheringModeInfo(rtxContext* RT_RESTRICT ctx, const CipheringModeInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CipheringModeInfo_r7(rtxContext* RT_RESTRICT ctx, const CipheringModeInfo_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IMSI_DS_41(rtxContext* RT_RESTRICT ctx, const IMSI_DS_41* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TMSI_DS_41(rtxContext* RT_RESTRICT ctx, const TMSI_DS_41* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CN_PagedUE_Identity(rtxContext* RT_RESTRICT ctx, const CN_PagedUE_Identity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GSM_Measurements(rtxContext* RT_RESTRICT ctx, const GSM_Measurements* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CompressedModeMeasCapability(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CompressedModeMeasCapability_LCR_r4(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapability_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CompressedModeMeasCapability_v860ext_adjacentFrequencyMeasurements(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability_v860ext_adjacentFrequencyMeasurements value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CompressedModeMeasCapability_v860ext(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapability_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CompressedModeMeasCapability_v920ext_interBandMeasurements(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability_v920ext_interBandMeasurements value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CompressedModeMeasCapability_v920ext(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapability_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RadioFrequencyBandEUTRA(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandEUTRA value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CompressedModeMeasCapabEUTRA(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabEUTRA* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CompressedModeMeasCapabEUTRAList(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabEUTRAList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CompressedModeMeasCapabFDD(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabFDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CompressedModeMeasCapabFDDList(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabFDDList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CompressedModeMeasCapabFDD2(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabFDD2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CompressedModeMeasCapabFDDList2(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabFDDList2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CompressedModeMeasCapabFDD_ext(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabFDD_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CompressedModeMeasCapabFDDList_ext(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabFDDList_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RadioFrequencyBandTDD(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDD value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CompressedModeMeasCapabTDD(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabTDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CompressedModeMeasCapabTDDList(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabTDDList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RadioFrequencyBandGSM(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandGSM value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CompressedModeMeasCapabGSM(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabGSM* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CompressedModeMeasCapabGSMList(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabGSMList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CompressedModeMeasCapabMC(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabMC* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NS_IP(rtxContext* RT_RESTRICT ctx, NS_IP value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InitialPriorityDelayList(rtxContext* RT_RESTRICT ctx, const InitialPriorityDelayList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DPCCH_BER(rtxContext* RT_RESTRICT ctx, DL_DPCCH_BER value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CPCH_Parameters(rtxContext* RT_RESTRICT ctx, const CPCH_Parameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CSG_ProximityIndicationCapability_supportOfIntraFreqProximityIndication(rtxContext* RT_RESTRICT ctx, CSG_ProximityIndicationCapability_supportOfIntraFreqProximityIndication value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CSG_ProximityIndicationCapability_supportOfInterFreqProximityIndication(rtxContext* RT_RESTRICT ctx, CSG_ProximityIndicationCapability_supportOfInterFreqProximityIndication value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CSG_ProximityIndicationCapability_supportOfE_UtraProximityIndication(rtxContext* RT_RESTRICT ctx, CSG_ProximityIndicationCapability_supportOfE_UtraProximityIndication value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CSG_ProximityIndicationCapability(rtxContext* RT_RESTRICT ctx, const CSG_ProximityIndicationCapability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CapabilityWithSimultaneousHS_DSCHConfig(rtxContext* RT_RESTRICT ctx, DL_CapabilityWithSimultaneousHS_DSCHConfig value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DPCH_FrameOffset(rtxContext* RT_RESTRICT ctx, DPCH_FrameOffset value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_FDPCH_SlotFormat(rtxContext* RT_RESTRICT ctx, FDPCH_SlotFormat value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TPC_CombinationIndex(rtxContext* RT_RESTRICT ctx, TPC_CombinationIndex value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_STTDIndication(rtxContext* RT_RESTRICT ctx, STTDIndication value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_FDPCH_InfoPerRL_r7(rtxContext* RT_RESTRICT ctx, const DL_FDPCH_InfoPerRL_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerSecondaryRL_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, const DL_InformationPerSecondaryRL_e_RGCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerSecondaryRL(rtxContext* RT_RESTRICT ctx, const DL_InformationPerSecondaryRL* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerSecondaryRL_List(rtxContext* RT_RESTRICT ctx, const DL_InformationPerSecondaryRL_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaxNoPhysChBitsReceived(rtxContext* RT_RESTRICT ctx, MaxNoPhysChBitsReceived value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaxNoSCCPCH_RL(rtxContext* RT_RESTRICT ctx, MaxNoSCCPCH_RL value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SimultaneousSCCPCH_DPCH_Reception_supported(rtxContext* RT_RESTRICT ctx, const SimultaneousSCCPCH_DPCH_Reception_supported* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SimultaneousSCCPCH_DPCH_Reception(rtxContext* RT_RESTRICT ctx, const SimultaneousSCCPCH_DPCH_Reception* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_PhysChCapabilityFDD(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityFDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SupportOfDedicatedPilotsForChEstimation(rtxContext* RT_RESTRICT ctx, SupportOfDedicatedPilotsForChEstimation value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_PhysChCapabilityFDD_v380ext(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityFDD_v380ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HSDSCH_physical_layer_category_ext(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category_ext value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_PhysChCapabilityFDD_v770ext_hsscchlessHsdschOperation(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext_hsscchlessHsdschOperation value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_PhysChCapabilityFDD_v770ext_enhancedFdpch(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext_enhancedFdpch value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellFach(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellFach value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellUraPch(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellUraPch value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_PhysChCapabilityFDD_v770ext(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityFDD_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HSDSCH_physical_layer_category_ext2(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category_ext2 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_PhysChCapabilityFDD_v860ext_supportOfTargetCellPreConfig(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v860ext_supportOfTargetCellPreConfig value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_PhysChCapabilityFDD_v860ext_supportOfHsdschDrxOperation(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v860ext_supportOfHsdschDrxOperation value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_PhysChCapabilityFDD_v860ext(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityFDD_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HSDSCH_physical_layer_category_ext3(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category_ext3 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_PhysChCapabilityFDD_v920ext_supportOfMimoOnlySingleStream(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v920ext_supportOfMimoOnlySingleStream value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_PhysChCapabilityFDD_v920ext(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityFDD_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaxTS_PerFrame(rtxContext* RT_RESTRICT ctx, MaxTS_PerFrame value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaxPhysChPerFrame(rtxContext* RT_RESTRICT ctx, MaxPhysChPerFrame value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MinimumSF_DL(rtxContext* RT_RESTRICT ctx, MinimumSF_DL value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaxPhysChPerTS(rtxContext* RT_RESTRICT ctx, MaxPhysChPerTS value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_PhysChCapabilityTDD(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityTDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaxTS_PerSubFrame_r4(rtxContext* RT_RESTRICT ctx, MaxTS_PerSubFrame_r4 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaxPhysChPerSubFrame_r4(rtxContext* RT_RESTRICT ctx, MaxPhysChPerSubFrame_r4 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_PhysChCapabilityTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityTDD_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MultiCarrier_HSDSCH_physical_layer_category(rtxContext* RT_RESTRICT ctx, MultiCarrier_HSDSCH_physical_layer_category value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_PhysChCapabilityTDD_128_v770ext(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityTDD_128_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HSDSCH_physical_layer_category_extension(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category_extension value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MultiCarrier_HSDSCH_physical_layer_category_extension(rtxContext* RT_RESTRICT ctx, MultiCarrier_HSDSCH_physical_layer_category_extension value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_PhysChCapabilityTDD_128_v860ext_supportOfSFModeForHSPDSCHDualStream(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD_128_v860ext_supportOfSFModeForHSPDSCHDualStream value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_PhysChCapabilityTDD_128_v860ext(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityTDD_128_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaxPhysChPerFrame_768(rtxContext* RT_RESTRICT ctx, MaxPhysChPerFrame_768 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MinimumSF_DL_768(rtxContext* RT_RESTRICT ctx, MinimumSF_DL_768 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HSDSCH_physical_layer_category(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_PhysChCapabilityTDD_768_tdd768_hspdsch(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityTDD_768_tdd768_hspdsch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaxPhysChPerTS_768(rtxContext* RT_RESTRICT ctx, MaxPhysChPerTS_768 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_PhysChCapabilityTDD_768(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityTDD_768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_PhysChCapabilityInfoTDD_768(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityInfoTDD_768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaxNoBits(rtxContext* RT_RESTRICT ctx, MaxNoBits value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TurboSupport(rtxContext* RT_RESTRICT ctx, const TurboSupport* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaxSimultaneousTransChsDL(rtxContext* RT_RESTRICT ctx, MaxSimultaneousTransChsDL value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaxSimultaneousCCTrCH_Count(rtxContext* RT_RESTRICT ctx, MaxSimultaneousCCTrCH_Count value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaxTransportBlocksDL(rtxContext* RT_RESTRICT ctx, MaxTransportBlocksDL value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaxNumberOfTFC_DL(rtxContext* RT_RESTRICT ctx, MaxNumberOfTFC_DL value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaxNumberOfTF(rtxContext* RT_RESTRICT ctx, MaxNumberOfTF value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_TransChCapability(rtxContext* RT_RESTRICT ctx, const DL_TransChCapability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TransmissionProbability(rtxContext* RT_RESTRICT ctx, TransmissionProbability value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaximumBitRate(rtxContext* RT_RESTRICT ctx, MaximumBitRate value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DRAC_SysInfo(rtxContext* RT_RESTRICT ctx, const DRAC_SysInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DRAC_SysInfoList(rtxContext* RT_RESTRICT ctx, const DRAC_SysInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DSCH_RNTI(rtxContext* RT_RESTRICT ctx, DSCH_RNTI value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DelayRestrictionFlag(rtxContext* RT_RESTRICT ctx, DelayRestrictionFlag value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ESN_DS_41(rtxContext* RT_RESTRICT ctx, ESN_DS_41 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EstablishmentCause(rtxContext* RT_RESTRICT ctx, EstablishmentCause value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TGPSI(rtxContext* RT_RESTRICT ctx, TGPSI value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ProtocolErrorCause(rtxContext* RT_RESTRICT ctx, ProtocolErrorCause value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ProtocolErrorInformation_diagnosticsType_type1(rtxContext* RT_RESTRICT ctx, const ProtocolErrorInformation_diagnosticsType_type1* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ProtocolErrorInformation_diagnosticsType(rtxContext* RT_RESTRICT ctx, const ProtocolErrorInformation_diagnosticsType* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ProtocolErrorInformation(rtxContext* RT_RESTRICT ctx, const ProtocolErrorInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_FailureCauseWithProtErr(rtxContext* RT_RESTRICT ctx, const FailureCauseWithProtErr* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RRC_TransactionIdentifier(rtxContext* RT_RESTRICT ctx, RRC_TransactionIdentifier value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_FailureCauseWithProtErrTrId(rtxContext* RT_RESTRICT ctx, const FailureCauseWithProtErrTrId* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSS_Mode(rtxContext* RT_RESTRICT ctx, GANSS_Mode value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ReleaseCause(rtxContext* RT_RESTRICT ctx, ReleaseCause value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RRC_ConnectionReleaseInformation_release(rtxContext* RT_RESTRICT ctx, const RRC_ConnectionReleaseInformation_release* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RRC_ConnectionReleaseInformation(rtxContext* RT_RESTRICT ctx, const RRC_ConnectionReleaseInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_U_RNTI_Group(rtxContext* RT_RESTRICT ctx, const U_RNTI_Group* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GroupReleaseInformation(rtxContext* RT_RESTRICT ctx, const GroupReleaseInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GroupIdentityWithReleaseInformation(rtxContext* RT_RESTRICT ctx, const GroupIdentityWithReleaseInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_High_MobilityDetected(rtxContext* RT_RESTRICT ctx, High_MobilityDetected value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UESpecificBehaviourInformation1idle(rtxContext* RT_RESTRICT ctx, UESpecificBehaviourInformation1idle value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UESpecificBehaviourInformation1interRAT(rtxContext* RT_RESTRICT ctx, UESpecificBehaviourInformation1interRAT value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IdleIntervalMeasCapabEUTRA(rtxContext* RT_RESTRICT ctx, const IdleIntervalMeasCapabEUTRA* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IdleIntervalMeasCapabEUTRAList(rtxContext* RT_RESTRICT ctx, const IdleIntervalMeasCapabEUTRAList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IMSI_and_ESN_DS_41(rtxContext* RT_RESTRICT ctx, const IMSI_and_ESN_DS_41* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TMSI_and_LAI_GSM_MAP(rtxContext* RT_RESTRICT ctx, const TMSI_and_LAI_GSM_MAP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_P_TMSI_and_RAI_GSM_MAP(rtxContext* RT_RESTRICT ctx, const P_TMSI_and_RAI_GSM_MAP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_InitialUE_Identity(rtxContext* RT_RESTRICT ctx, const InitialUE_Identity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MessageAuthenticationCode(rtxContext* RT_RESTRICT ctx, MessageAuthenticationCode value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RRC_MessageSequenceNumber(rtxContext* RT_RESTRICT ctx, RRC_MessageSequenceNumber value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntegrityCheckInfo(rtxContext* RT_RESTRICT ctx, const IntegrityCheckInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RRC_MessageSequenceNumberList(rtxContext* RT_RESTRICT ctx, const RRC_MessageSequenceNumberList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntegrityProtActivationInfo(rtxContext* RT_RESTRICT ctx, const IntegrityProtActivationInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntegrityProtectionAlgorithm(rtxContext* RT_RESTRICT ctx, IntegrityProtectionAlgorithm value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntegrityProtectionAlgorithm_r7(rtxContext* RT_RESTRICT ctx, IntegrityProtectionAlgorithm_r7 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntegrityProtInitNumber(rtxContext* RT_RESTRICT ctx, IntegrityProtInitNumber value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntegrityProtectionModeCommand_startIntegrityProtection(rtxContext* RT_RESTRICT ctx, const IntegrityProtectionModeCommand_startIntegrityProtection* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntegrityProtectionModeCommand_modify(rtxContext* RT_RESTRICT ctx, const IntegrityProtectionModeCommand_modify* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntegrityProtectionModeCommand(rtxContext* RT_RESTRICT ctx, const IntegrityProtectionModeCommand* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_IntegrityProtectionModeInfo(rtxContext* RT_RESTRICT ctx, const IntegrityProtectionModeInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_IntegrityProtectionModeInfo_r7(rtxContext* RT_RESTRICT ctx, const IntegrityProtectionModeInfo_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaxHcContextSpace(rtxContext* RT_RESTRICT ctx, MaxHcContextSpace value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaxHcContextSpace_r5_ext(rtxContext* RT_RESTRICT ctx, MaxHcContextSpace_r5_ext value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaxROHC_ContextSessions_r4(rtxContext* RT_RESTRICT ctx, MaxROHC_ContextSessions_r4 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaximumAM_EntityNumberRLC_Cap(rtxContext* RT_RESTRICT ctx, MaximumAM_EntityNumberRLC_Cap value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaximumRLC_WindowSize(rtxContext* RT_RESTRICT ctx, MaximumRLC_WindowSize value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaxNoDPDCH_BitsTransmitted(rtxContext* RT_RESTRICT ctx, MaxNoDPDCH_BitsTransmitted value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaxNumberOfTFC_UL(rtxContext* RT_RESTRICT ctx, MaxNumberOfTFC_UL value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaxPhysChPerTimeslot(rtxContext* RT_RESTRICT ctx, MaxPhysChPerTimeslot value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaxPhysChPerTimeslot_LCR_r7(rtxContext* RT_RESTRICT ctx, MaxPhysChPerTimeslot_LCR_r7 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaxSimultaneousTransChsUL(rtxContext* RT_RESTRICT ctx, MaxSimultaneousTransChsUL value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaxTransportBlocksUL(rtxContext* RT_RESTRICT ctx, MaxTransportBlocksUL value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementCapability(rtxContext* RT_RESTRICT ctx, const MeasurementCapability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementCapabilityExt(rtxContext* RT_RESTRICT ctx, const MeasurementCapabilityExt* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementCapabilityExt2(rtxContext* RT_RESTRICT ctx, const MeasurementCapabilityExt2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementCapabilityExt3(rtxContext* RT_RESTRICT ctx, const MeasurementCapabilityExt3* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementCapability_r4_ext(rtxContext* RT_RESTRICT ctx, const MeasurementCapability_r4_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementCapability_v860ext(rtxContext* RT_RESTRICT ctx, const MeasurementCapability_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementCapability_v920ext(rtxContext* RT_RESTRICT ctx, const MeasurementCapability_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementCapabilityTDD(rtxContext* RT_RESTRICT ctx, const MeasurementCapabilityTDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MinimumSF_UL(rtxContext* RT_RESTRICT ctx, MinimumSF_UL value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MultiModeCapability(rtxContext* RT_RESTRICT ctx, MultiModeCapability value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MultiRAT_Capability(rtxContext* RT_RESTRICT ctx, const MultiRAT_Capability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MultiModeRAT_Capability_v590ext(rtxContext* RT_RESTRICT ctx, const MultiModeRAT_Capability_v590ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MultiModeRAT_Capability_v680ext_supportOfHandoverToGAN(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v680ext_supportOfHandoverToGAN value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MultiModeRAT_Capability_v680ext(rtxContext* RT_RESTRICT ctx, const MultiModeRAT_Capability_v680ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MultiModeRAT_Capability_v770ext_supportOfPSHandoverToGAN(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v770ext_supportOfPSHandoverToGAN value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MultiModeRAT_Capability_v770ext(rtxContext* RT_RESTRICT ctx, const MultiModeRAT_Capability_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MultiModeRAT_Capability_v860ext_supportOfEUTRAFDD(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext_supportOfEUTRAFDD value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRAFDD(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRAFDD value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MultiModeRAT_Capability_v860ext_supportOfEUTRATDD(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext_supportOfEUTRATDD value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRATDD(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRATDD value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MultiModeRAT_Capability_v860ext(rtxContext* RT_RESTRICT ctx, const MultiModeRAT_Capability_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_N_308(rtxContext* RT_RESTRICT ctx, N_308 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_N_312_r5(rtxContext* RT_RESTRICT ctx, N_312_r5 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_N_315_r5(rtxContext* RT_RESTRICT ctx, N_315_r5 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NeighCellSI_AcquisitionCapability_supportOfIntraFreqSIAcquisitionForHO(rtxContext* RT_RESTRICT ctx, NeighCellSI_AcquisitionCapability_supportOfIntraFreqSIAcquisitionForHO value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NeighCellSI_AcquisitionCapability_supportOfInterFreqSIAcquisitionForHO(rtxContext* RT_RESTRICT ctx, NeighCellSI_AcquisitionCapability_supportOfInterFreqSIAcquisitionForHO value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NeighCellSI_AcquisitionCapability_supportOfE_UtraSIAcquisitionForHO(rtxContext* RT_RESTRICT ctx, NeighCellSI_AcquisitionCapability_supportOfE_UtraSIAcquisitionForHO value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NeighCellSI_AcquisitionCapability(rtxContext* RT_RESTRICT ctx, const NeighCellSI_AcquisitionCapability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NetworkAssistedGANSS_Supported_List_element_gANSS_Id(rtxContext* RT_RESTRICT ctx, NetworkAssistedGANSS_Supported_List_element_gANSS_Id value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSS_Signal_Id(rtxContext* RT_RESTRICT ctx, GANSS_Signal_Id value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NetworkAssistedGANSS_Supported_List_element(rtxContext* RT_RESTRICT ctx, const NetworkAssistedGANSS_Supported_List_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NetworkAssistedGANSS_Supported_List(rtxContext* RT_RESTRICT ctx, const NetworkAssistedGANSS_Supported_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NetworkAssistedGANSS_Supported_List_v860ext_element_non_native_AD_choices_supported(rtxContext* RT_RESTRICT ctx, NetworkAssistedGANSS_Supported_List_v860ext_element_non_native_AD_choices_supported value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NetworkAssistedGANSS_Supported_List_v860ext_element(rtxContext* RT_RESTRICT ctx, const NetworkAssistedGANSS_Supported_List_v860ext_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NetworkAssistedGANSS_Supported_List_v860ext(rtxContext* RT_RESTRICT ctx, const NetworkAssistedGANSS_Supported_List_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NetworkAssistedGPS_Supported(rtxContext* RT_RESTRICT ctx, NetworkAssistedGPS_Supported value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PagingCause(rtxContext* RT_RESTRICT ctx, PagingCause value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PagingRecord_cn_Identity(rtxContext* RT_RESTRICT ctx, const PagingRecord_cn_Identity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SRNC_Identity(rtxContext* RT_RESTRICT ctx, SRNC_Identity value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_S_RNTI(rtxContext* RT_RESTRICT ctx, S_RNTI value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_U_RNTI(rtxContext* RT_RESTRICT ctx, const U_RNTI* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PagingRecord_utran_Identity_cn_OriginatedPage_connectedMode_UE(rtxContext* RT_RESTRICT ctx, const PagingRecord_utran_Identity_cn_OriginatedPage_connectedMode_UE* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PagingRecord_utran_Identity(rtxContext* RT_RESTRICT ctx, const PagingRecord_utran_Identity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PagingRecord(rtxContext* RT_RESTRICT ctx, const PagingRecord* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PagingRecord2_r5_utran_SingleUE_Identity_cn_OriginatedPage_connectedMode_UE(rtxContext* RT_RESTRICT ctx, const PagingRecord2_r5_utran_SingleUE_Identity_cn_OriginatedPage_connectedMode_UE* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PagingRecord2_r5_utran_SingleUE_Identity(rtxContext* RT_RESTRICT ctx, const PagingRecord2_r5_utran_SingleUE_Identity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PagingRecord2_r5_utran_GroupIdentity(rtxContext* RT_RESTRICT ctx, const PagingRecord2_r5_utran_GroupIdentity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PagingRecord2_r5(rtxContext* RT_RESTRICT ctx, const PagingRecord2_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_PagingRecordList(rtxContext* RT_RESTRICT ctx, const PagingRecordList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PagingRecord2List_r5(rtxContext* RT_RESTRICT ctx, const PagingRecord2List_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDCP_Capability_supportForRfc2507(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_supportForRfc2507* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDCP_Capability(rtxContext* RT_RESTRICT ctx, const PDCP_Capability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDCP_Capability_r4_ext_supportForRfc3095_supported(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_r4_ext_supportForRfc3095_supported* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDCP_Capability_r4_ext_supportForRfc3095(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_r4_ext_supportForRfc3095* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDCP_Capability_r4_ext(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_r4_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDCP_Capability_r5_ext(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_r5_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDCP_Capability_r5_ext2_losslessDLRLC_PDUSizeChange(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r5_ext2_losslessDLRLC_PDUSizeChange value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDCP_Capability_r5_ext2(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_r5_ext2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDCP_Capability_v770ext_supportForCSVoiceoverHSPA(rtxContext* RT_RESTRICT ctx, PDCP_Capability_v770ext_supportForCSVoiceoverHSPA value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDCP_Capability_v770ext(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_PhysChCapabilityFDD(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityFDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PhysicalChannelCapability_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_fddPhysChCapability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_PhysChCapabilityTDD(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PhysicalChannelCapability_tddPhysChCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_tddPhysChCapability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PhysicalChannelCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_PhysChCapabilityFDD_v770ext_discontinuousDpcchTransmission(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityFDD_v770ext_discontinuousDpcchTransmission value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_PhysChCapabilityFDD_v770ext_slotFormat4(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityFDD_v770ext_slotFormat4 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_PhysChCapabilityFDD_v770ext(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityFDD_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PhysicalChannelCapability_v770ext_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v770ext_fddPhysChCapability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_PhysChCapabilityTDD_384_v770ext(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_384_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PhysicalChannelCapability_v770ext_tddPhysChCapability_384(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v770ext_tddPhysChCapability_384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_PhysChCapabilityTDD_768_tdd384_edch_supported(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_768_tdd384_edch_supported* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_PhysChCapabilityTDD_768_tdd384_edch(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_768_tdd384_edch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_PhysChCapabilityTDD_768(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PhysicalChannelCapability_v770ext_tddPhysChCapability_768(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v770ext_tddPhysChCapability_768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_PhysChCapabilityTDD_128_v770ext(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_128_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PhysicalChannelCapability_v770ext_tddPhysChCapability_128(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v770ext_tddPhysChCapability_128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_PhysicalChannelCapability_v770ext(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PhysicalChannelCapability_v860ext_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v860ext_fddPhysChCapability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PhysicalChannelCapability_v860ext_tddPhysChCapability_128(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v860ext_tddPhysChCapability_128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PhysicalChannelCapability_v860ext(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_PhysChCapabilityFDD_v920ext(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityFDD_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PhysicalChannelCapability_v920ext_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v920ext_fddPhysChCapability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PhysicalChannelCapability_v920ext(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_768(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_PhysChCapabilityInfoTDD_128_v770ext(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityInfoTDD_128_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_128(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PhysicalChannelCapabilityInfo_v770ext(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapabilityInfo_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_PhysChCapabilityTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PhysicalChannelCapability_LCR_r4_tdd128_PhysChCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_LCR_r4_tdd128_PhysChCapability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PhysicalChannelCapability_LCR_r4(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PhysicalChannelCapability_hspdsch_r5_tdd384_hspdsch(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_hspdsch_r5_tdd384_hspdsch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PhysicalChannelCapability_hspdsch_r5_tdd128_hspdsch(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_hspdsch_r5_tdd128_hspdsch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PhysicalChannelCapability_hspdsch_r5(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_hspdsch_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Pre_RedirectionInfo(rtxContext* RT_RESTRICT ctx, const Pre_RedirectionInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ProtocolErrorIndicator(rtxContext* RT_RESTRICT ctx, ProtocolErrorIndicator value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ProtocolErrorIndicatorWithMoreInfo_errorOccurred(rtxContext* RT_RESTRICT ctx, const ProtocolErrorIndicatorWithMoreInfo_errorOccurred* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ProtocolErrorIndicatorWithMoreInfo(rtxContext* RT_RESTRICT ctx, const ProtocolErrorIndicatorWithMoreInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ReceivedMessageType(rtxContext* RT_RESTRICT ctx, ReceivedMessageType value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IdentificationOfReceivedMessage(rtxContext* RT_RESTRICT ctx, const IdentificationOfReceivedMessage* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ProtocolErrorMoreInformation_diagnosticsType_type1(rtxContext* RT_RESTRICT ctx, const ProtocolErrorMoreInformation_diagnosticsType_type1* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+
+/* Bodies held by other units. */
+RT_ENCODE_EXTERN(DL_AddReconfTransChInformation_tfs_SignallingMode)
+RT_ENCODE_EXTERN(QualityTarget)
+RT_ENCODE_EXTERN(UL_CommonTransChInfo)
+RT_ENCODE_EXTERN(UL_AddReconfTransChInfoList)
+RT_ENCODE_EXTERN(DL_CommonTransChInfo)
+RT_ENCODE_EXTERN(PowerControlAlgorithm)
+RT_ENCODE_EXTERN(CommonTimeslotInfo)
+RT_ENCODE_EXTERN(PredefinedRB_Configuration)
+RT_ENCODE_EXTERN(NAS_SystemInformationGSM_MAP)
+RT_ENCODE_EXTERN(PLMN_Identity)
+RT_ENCODE_EXTERN_VALUE(CellIdentity)
+RT_ENCODE_EXTERN(SecondaryCPICH_Info)
+RT_ENCODE_EXTERN(E_RGCH_Information)
+RT_ENCODE_EXTERN(PrimaryCPICH_Info)
+RT_ENCODE_EXTERN(E_AGCH_Information)
+RT_ENCODE_EXTERN(E_HICH_Information)
+
+RT_MERGED_BODY int enc_MessType(rtxContext* RT_RESTRICT ctx, MessType value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelCapability-hspdsch-r5");
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MessType");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MessType");
+   return 0;
+}
+
+int asn1PE_UMTS_MessType(rtxContext* RT_RESTRICT ctx, MessType value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MessType, value);
+}
+
+RT_MERGED_BODY int enc_UL_ControlledTrChList(rtxContext* RT_RESTRICT ctx, const UL_ControlledTrChList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-ControlledTrChList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "UL-ControlledTrChList");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)(pvalue->elem[i] - 1) > 31u) {
+         rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportChannelIdentity", "TransportChannelIdentity", (int32_t)i, "UL-ControlledTrChList");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 1, 32);
+      RT_CHECK_PUT(ctx, cur, stat, "TransportChannelIdentity", "TransportChannelIdentity", (int32_t)i, "UL-ControlledTrChList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_ControlledTrChList(rtxContext* RT_RESTRICT ctx, const UL_ControlledTrChList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_ControlledTrChList, pvalue);
+}
+
+RT_MERGED_BODY int enc_TM_SignallingInfo_tm_SignallingMode_mode2(rtxContext* RT_RESTRICT ctx, const TM_SignallingInfo_tm_SignallingMode_mode2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ul-controlledTrChList */
+   stat = enc_UL_ControlledTrChList(ctx, &pvalue->ul_controlledTrChList, cur);
+   RT_CHECK(ctx, stat, 0, "ul-controlledTrChList", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_TM_SignallingInfo_tm_SignallingMode_mode2(rtxContext* RT_RESTRICT ctx, const TM_SignallingInfo_tm_SignallingMode_mode2* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TM_SignallingInfo_tm_SignallingMode_mode2, pvalue);
+}
+
+RT_MERGED_BODY int enc_TM_SignallingInfo_tm_SignallingMode(rtxContext* RT_RESTRICT ctx, const TM_SignallingInfo_tm_SignallingMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.mode2 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "mode2", -1, 0);
+         stat = enc_TM_SignallingInfo_tm_SignallingMode_mode2(ctx, pvalue->u.mode2, cur);
+         RT_CHECK(ctx, stat, 0, "mode2", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TM_SignallingInfo_tm_SignallingMode(rtxContext* RT_RESTRICT ctx, const TM_SignallingInfo_tm_SignallingMode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TM_SignallingInfo_tm_SignallingMode, pvalue);
+}
+
+RT_MERGED_BODY int enc_TM_SignallingInfo(rtxContext* RT_RESTRICT ctx, const TM_SignallingInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TM-SignallingInfo");
+   /* messType */
+   if (pvalue->messType > 0) {
+      rtxErrAddUIntParm(ctx, pvalue->messType);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MessType", "messType", -1, "TM-SignallingInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->messType, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, "MessType", "messType", -1, "TM-SignallingInfo");
+   /* tm-SignallingMode */
+   stat = enc_TM_SignallingInfo_tm_SignallingMode(ctx, &pvalue->tm_SignallingMode, cur);
+   RT_CHECK(ctx, stat, 0, "tm-SignallingMode", -1, "TM-SignallingInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_TM_SignallingInfo(rtxContext* RT_RESTRICT ctx, const TM_SignallingInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TM_SignallingInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_AddReconfTransChInformation(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-AddReconfTransChInformation");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-AddReconfTransChInformation");
+   /* dl-TransportChannelType */
+   if (pvalue->dl_TransportChannelType > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->dl_TransportChannelType);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "DL-TrCH-Type", "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dl_TransportChannelType, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "DL-TrCH-Type", "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation");
+   /* dl-transportChannelIdentity */
+   if ((uint64_t)(pvalue->dl_transportChannelIdentity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->dl_transportChannelIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportChannelIdentity", "dl-transportChannelIdentity", -1, "DL-AddReconfTransChInformation");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dl_transportChannelIdentity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "TransportChannelIdentity", "dl-transportChannelIdentity", -1, "DL-AddReconfTransChInformation");
+   /* tfs-SignallingMode */
+   stat = enc_DL_AddReconfTransChInformation_tfs_SignallingMode(ctx, &pvalue->tfs_SignallingMode, cur);
+   RT_CHECK(ctx, stat, 0, "tfs-SignallingMode", -1, "DL-AddReconfTransChInformation");
+   /* dch-QualityTarget */
+   if (pvalue->m & 0x1u) {
+      stat = enc_QualityTarget(ctx, &pvalue->dch_QualityTarget, cur);
+      RT_CHECK(ctx, stat, 0, "dch-QualityTarget", -1, "DL-AddReconfTransChInformation");
+   }
+   /* dummy */
+   if (pvalue->m & 0x2u) {
+      stat = enc_TM_SignallingInfo(ctx, &pvalue->dummy, cur);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "DL-AddReconfTransChInformation");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AddReconfTransChInformation(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_AddReconfTransChInformation, pvalue);
+}
+
+static int enc_DL_AddReconfTransChInfoList(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-AddReconfTransChInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DL-AddReconfTransChInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DL-AddReconfTransChInformation", (int32_t)i, "DL-AddReconfTransChInfoList");
+      stat = enc_DL_AddReconfTransChInformation(ctx, (const DL_AddReconfTransChInformation*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DL-AddReconfTransChInformation", (int32_t)i, "DL-AddReconfTransChInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AddReconfTransChInfoList(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInfoList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_AddReconfTransChInfoList, pvalue);
+}
+
+RT_MERGED_BODY int enc_PreDefTransChConfiguration(rtxContext* RT_RESTRICT ctx, const PreDefTransChConfiguration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PreDefTransChConfiguration");
+   /* ul-CommonTransChInfo */
+   stat = enc_UL_CommonTransChInfo(ctx, &pvalue->ul_CommonTransChInfo, cur);
+   RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "PreDefTransChConfiguration");
+   /* ul-AddReconfTrChInfoList */
+   stat = enc_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTrChInfoList, cur);
+   RT_CHECK(ctx, stat, 0, "ul-AddReconfTrChInfoList", -1, "PreDefTransChConfiguration");
+   /* dl-CommonTransChInfo */
+   stat = enc_DL_CommonTransChInfo(ctx, &pvalue->dl_CommonTransChInfo, cur);
+   RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "PreDefTransChConfiguration");
+   /* dl-TrChInfoList */
+   stat = enc_DL_AddReconfTransChInfoList(ctx, &pvalue->dl_TrChInfoList, cur);
+   RT_CHECK(ctx, stat, 0, "dl-TrChInfoList", -1, "PreDefTransChConfiguration");
+   return 0;
+}
+
+int asn1PE_UMTS_PreDefTransChConfiguration(rtxContext* RT_RESTRICT ctx, const PreDefTransChConfiguration* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PreDefTransChConfiguration, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfoPredef_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfoPredef_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* powerControlAlgorithm */
+   stat = enc_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm, cur);
+   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfoPredef_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfoPredef_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfoPredef_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfoPredef_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfoPredef_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* dpch-ConstantValue */
+   if (pvalue->dpch_ConstantValue < -35 || pvalue->dpch_ConstantValue > 10) {
+      rtxErrAddStrParm(ctx, "ConstantValueTdd");
+      rtxErrAddIntParm(ctx, pvalue->dpch_ConstantValue);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ConstantValueTdd", "dpch-ConstantValue", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->dpch_ConstantValue, -35, 10);
+   RT_CHECK_PUT(ctx, cur, stat, "ConstantValueTdd", "dpch-ConstantValue", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfoPredef_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfoPredef_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfoPredef_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfoPredef(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfoPredef* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-PowerControlInfoPredef");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "UL-DPCH-PowerControlInfoPredef");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-DPCH-PowerControlInfoPredef");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, "UL-DPCH-PowerControlInfoPredef");
+         stat = enc_UL_DPCH_PowerControlInfoPredef_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "UL-DPCH-PowerControlInfoPredef");
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, "UL-DPCH-PowerControlInfoPredef");
+         stat = enc_UL_DPCH_PowerControlInfoPredef_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "UL-DPCH-PowerControlInfoPredef");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfoPredef(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfoPredef* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfoPredef, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_InfoPredef_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPredef_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tfci-Existence */
+   stat = rtxEncBitAt(ctx, cur, pvalue->tfci_Existence);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tfci-Existence", -1, 0);
+   /* puncturingLimit */
+   if (pvalue->puncturingLimit > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->puncturingLimit);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PuncturingLimit", "puncturingLimit", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->puncturingLimit, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "PuncturingLimit", "puncturingLimit", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPredef_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_InfoPredef_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_InfoPredef_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPredef_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* commonTimeslotInfo */
+   stat = enc_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPredef_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_InfoPredef_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_InfoPredef_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPredef_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_UL_DPCH_InfoPredef_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_UL_DPCH_InfoPredef_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_InfoPredef_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPredef_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_InfoPredef_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_InfoPredef(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPredef* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-InfoPredef");
+   /* ul-DPCH-PowerControlInfo */
+   stat = enc_UL_DPCH_PowerControlInfoPredef(ctx, &pvalue->ul_DPCH_PowerControlInfo, cur);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "UL-DPCH-InfoPredef");
+   /* modeSpecificInfo */
+   stat = enc_UL_DPCH_InfoPredef_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-DPCH-InfoPredef");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_InfoPredef(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPredef* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_InfoPredef, pvalue);
+}
+
+RT_MERGED_BODY int enc_PilotBits128(rtxContext* RT_RESTRICT ctx, PilotBits128 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "PilotBits128");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PilotBits128");
+   return 0;
+}
+
+int asn1PE_UMTS_PilotBits128(rtxContext* RT_RESTRICT ctx, PilotBits128 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PilotBits128, value);
+}
+
+RT_MERGED_BODY int enc_PilotBits256(rtxContext* RT_RESTRICT ctx, PilotBits256 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 2) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "PilotBits256");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PilotBits256");
+   return 0;
+}
+
+int asn1PE_UMTS_PilotBits256(rtxContext* RT_RESTRICT ctx, PilotBits256 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PilotBits256, value);
+}
+
+RT_MERGED_BODY int enc_SF512_AndPilot(rtxContext* RT_RESTRICT ctx, const SF512_AndPilot* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SF512-AndPilot");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "SF512-AndPilot");
+   if (pvalue->t - 1 > 7) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "SF512-AndPilot");
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         break;
+      case 4:
+         break;
+      case 5:
+         break;
+      case 6:
+         if (pvalue->u.sfd128 > 1) {
+            rtxErrAddUIntParm(ctx, pvalue->u.sfd128);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PilotBits128", "sfd128", -1, "SF512-AndPilot");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sfd128, 0, 1);
+         RT_CHECK_PUT(ctx, cur, stat, "PilotBits128", "sfd128", -1, "SF512-AndPilot");
+         break;
+      case 7:
+         if (pvalue->u.sfd256 > 2) {
+            rtxErrAddUIntParm(ctx, pvalue->u.sfd256);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PilotBits256", "sfd256", -1, "SF512-AndPilot");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sfd256, 0, 2);
+         RT_CHECK_PUT(ctx, cur, stat, "PilotBits256", "sfd256", -1, "SF512-AndPilot");
+         break;
+      case 8:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SF512_AndPilot(rtxContext* RT_RESTRICT ctx, const SF512_AndPilot* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SF512_AndPilot, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* spreadingFactorAndPilot */
+   stat = enc_SF512_AndPilot(ctx, &pvalue->spreadingFactorAndPilot, cur);
+   RT_CHECK(ctx, stat, 0, "spreadingFactorAndPilot", -1, 0);
+   /* positionFixedOrFlexible */
+   if (pvalue->positionFixedOrFlexible > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->positionFixedOrFlexible);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->positionFixedOrFlexible, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
+   /* tfci-Existence */
+   stat = rtxEncBitAt(ctx, cur, pvalue->tfci_Existence);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tfci-Existence", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* commonTimeslotInfo */
+   stat = enc_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_DPCH_InfoCommonPredef_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommonPredef_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_DL_DPCH_InfoCommonPredef_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_DL_DPCH_InfoCommonPredef_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoCommonPredef_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommonPredef_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoCommonPredef_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_DPCH_InfoCommonPredef(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommonPredef* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-DPCH-InfoCommonPredef");
+   /* modeSpecificInfo */
+   stat = enc_DL_DPCH_InfoCommonPredef_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-DPCH-InfoCommonPredef");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoCommonPredef(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommonPredef* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoCommonPredef, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonInformationPredef(rtxContext* RT_RESTRICT ctx, const DL_CommonInformationPredef* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-CommonInformationPredef");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-CommonInformationPredef");
+   /* dl-DPCH-InfoCommon */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DL_DPCH_InfoCommonPredef(ctx, &pvalue->dl_DPCH_InfoCommon, cur);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, "DL-CommonInformationPredef");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformationPredef(rtxContext* RT_RESTRICT ctx, const DL_CommonInformationPredef* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformationPredef, pvalue);
+}
+
+static int enc_PreDefPhyChConfiguration(rtxContext* RT_RESTRICT ctx, const PreDefPhyChConfiguration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PreDefPhyChConfiguration");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PreDefPhyChConfiguration");
+   /* ul-DPCH-InfoPredef */
+   stat = enc_UL_DPCH_InfoPredef(ctx, &pvalue->ul_DPCH_InfoPredef, cur);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-InfoPredef", -1, "PreDefPhyChConfiguration");
+   /* dl-CommonInformationPredef */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DL_CommonInformationPredef(ctx, &pvalue->dl_CommonInformationPredef, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CommonInformationPredef", -1, "PreDefPhyChConfiguration");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PreDefPhyChConfiguration(rtxContext* RT_RESTRICT ctx, const PreDefPhyChConfiguration* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PreDefPhyChConfiguration, pvalue);
+}
+
+RT_MERGED_BODY int enc_PreDefRadioConfiguration(rtxContext* RT_RESTRICT ctx, const PreDefRadioConfiguration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PreDefRadioConfiguration");
+   /* predefinedRB-Configuration */
+   stat = enc_PredefinedRB_Configuration(ctx, &pvalue->predefinedRB_Configuration, cur);
+   RT_CHECK(ctx, stat, 0, "predefinedRB-Configuration", -1, "PreDefRadioConfiguration");
+   /* preDefTransChConfiguration */
+   stat = enc_PreDefTransChConfiguration(ctx, &pvalue->preDefTransChConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "preDefTransChConfiguration", -1, "PreDefRadioConfiguration");
+   /* preDefPhyChConfiguration */
+   stat = enc_PreDefPhyChConfiguration(ctx, &pvalue->preDefPhyChConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "preDefPhyChConfiguration", -1, "PreDefRadioConfiguration");
+   return 0;
+}
+
+int asn1PE_UMTS_PreDefRadioConfiguration(rtxContext* RT_RESTRICT ctx, const PreDefRadioConfiguration* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PreDefRadioConfiguration, pvalue);
+}
+
+RT_MERGED_BODY int enc_NumberOfTPC_Bits(rtxContext* RT_RESTRICT ctx, NumberOfTPC_Bits value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "NumberOfTPC-Bits");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NumberOfTPC-Bits");
+   return 0;
+}
+
+int asn1PE_UMTS_NumberOfTPC_Bits(rtxContext* RT_RESTRICT ctx, NumberOfTPC_Bits value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NumberOfTPC_Bits, value);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* numberOfTPC-Bits */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->numberOfTPC_Bits > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->numberOfTPC_Bits);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "NumberOfTPC-Bits", "numberOfTPC-Bits", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->numberOfTPC_Bits, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, "NumberOfTPC-Bits", "numberOfTPC-Bits", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPredef_v770ext_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPredef_v770ext_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_InfoPredef_v770ext(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPredef_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-InfoPredef-v770ext");
+   /* modeSpecificInfo */
+   stat = enc_UL_DPCH_InfoPredef_v770ext_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-DPCH-InfoPredef-v770ext");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_InfoPredef_v770ext(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPredef_v770ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_InfoPredef_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_PreDefPhyChConfiguration_v770ext(rtxContext* RT_RESTRICT ctx, const PreDefPhyChConfiguration_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PreDefPhyChConfiguration-v770ext");
+   /* ul-DPCH-InfoPredef */
+   stat = enc_UL_DPCH_InfoPredef_v770ext(ctx, &pvalue->ul_DPCH_InfoPredef, cur);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-InfoPredef", -1, "PreDefPhyChConfiguration-v770ext");
+   return 0;
+}
+
+int asn1PE_UMTS_PreDefPhyChConfiguration_v770ext(rtxContext* RT_RESTRICT ctx, const PreDefPhyChConfiguration_v770ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PreDefPhyChConfiguration_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_PreDefRadioConfiguration_v770ext(rtxContext* RT_RESTRICT ctx, const PreDefRadioConfiguration_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PreDefRadioConfiguration-v770ext");
+   /* preDefPhyChConfiguration */
+   stat = enc_PreDefPhyChConfiguration_v770ext(ctx, &pvalue->preDefPhyChConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "preDefPhyChConfiguration", -1, "PreDefRadioConfiguration-v770ext");
+   return 0;
+}
+
+int asn1PE_UMTS_PreDefRadioConfiguration_v770ext(rtxContext* RT_RESTRICT ctx, const PreDefRadioConfiguration_v770ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PreDefRadioConfiguration_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType16_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType16_v770ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType16-v770ext-IEs");
+   /* preDefinedRadioConfiguration */
+   stat = enc_PreDefRadioConfiguration_v770ext(ctx, &pvalue->preDefinedRadioConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "preDefinedRadioConfiguration", -1, "SysInfoType16-v770ext-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType16_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType16_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType16_v770ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_MAC_hs_WindowSize_r9(rtxContext* RT_RESTRICT ctx, MAC_hs_WindowSize_r9 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 8) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MAC-hs-WindowSize-r9");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MAC-hs-WindowSize-r9");
+   return 0;
+}
+
+int asn1PE_UMTS_MAC_hs_WindowSize_r9(rtxContext* RT_RESTRICT ctx, MAC_hs_WindowSize_r9 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MAC_hs_WindowSize_r9, value);
+}
+
+RT_MERGED_BODY int enc_PreDefRadioConfiguration_v920ext(rtxContext* RT_RESTRICT ctx, const PreDefRadioConfiguration_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PreDefRadioConfiguration-v920ext");
+   /* mac-ehsWindowSize */
+   if (pvalue->mac_ehsWindowSize > 8) {
+      rtxErrAddUIntParm(ctx, pvalue->mac_ehsWindowSize);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MAC-hs-WindowSize-r9", "mac-ehsWindowSize", -1, "PreDefRadioConfiguration-v920ext");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_ehsWindowSize, 0, 8);
+   RT_CHECK_PUT(ctx, cur, stat, "MAC-hs-WindowSize-r9", "mac-ehsWindowSize", -1, "PreDefRadioConfiguration-v920ext");
+   return 0;
+}
+
+int asn1PE_UMTS_PreDefRadioConfiguration_v920ext(rtxContext* RT_RESTRICT ctx, const PreDefRadioConfiguration_v920ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PreDefRadioConfiguration_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType16_v920ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType16_v920ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType16-v920ext-IEs");
+   /* preDefinedRadioConfiguration */
+   stat = enc_PreDefRadioConfiguration_v920ext(ctx, &pvalue->preDefinedRadioConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "preDefinedRadioConfiguration", -1, "SysInfoType16-v920ext-IEs");
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType16_v920ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType16_v920ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType16_v920ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType16-v920ext */
+   stat = enc_SysInfoType16_v920ext_IEs(ctx, &pvalue->sysInfoType16_v920ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType16-v920ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType16_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType16_v770NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sysInfoType16-v770ext */
+   stat = enc_SysInfoType16_v770ext_IEs(ctx, &pvalue->sysInfoType16_v770ext, cur);
+   RT_CHECK(ctx, stat, 0, "sysInfoType16-v770ext", -1, 0);
+   /* v920NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SysInfoType16_v770NonCriticalExtensions_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType16_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType16_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType16_v770NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_SysInfoType16(rtxContext* RT_RESTRICT ctx, const SysInfoType16* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType16");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SysInfoType16");
+   /* preDefinedRadioConfiguration */
+   stat = enc_PreDefRadioConfiguration(ctx, &pvalue->preDefinedRadioConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "preDefinedRadioConfiguration", -1, "SysInfoType16");
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SysInfoType16_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, "SysInfoType16");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SysInfoType16(rtxContext* RT_RESTRICT ctx, const SysInfoType16* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SysInfoType16, pvalue);
+}
+
+RT_MERGED_BODY int enc_Ansi_41_IDNNS(rtxContext* RT_RESTRICT ctx, Ansi_41_IDNNS value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 14, 14);
+   stat = pe_BitString32At(ctx, cur, &value, 14, 14);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Ansi-41-IDNNS");
+   return 0;
+}
+
+int asn1PE_UMTS_Ansi_41_IDNNS(rtxContext* RT_RESTRICT ctx, Ansi_41_IDNNS value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Ansi_41_IDNNS, value);
+}
+
+RT_MERGED_BODY int enc_CN_DomainInformation(rtxContext* RT_RESTRICT ctx, const CN_DomainInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CN-DomainInformation");
+   /* cn-DomainIdentity */
+   if (pvalue->cn_DomainIdentity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "CN-DomainInformation");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "CN-DomainInformation");
+   /* cn-DomainSpecificNAS-Info */
+   stat = enc_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_DomainSpecificNAS_Info, cur);
+   RT_CHECK(ctx, stat, 0, "cn-DomainSpecificNAS-Info", -1, "CN-DomainInformation");
+   return 0;
+}
+
+int asn1PE_UMTS_CN_DomainInformation(rtxContext* RT_RESTRICT ctx, const CN_DomainInformation* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CN_DomainInformation, pvalue);
+}
+
+RT_MERGED_BODY int enc_CN_DomainInformationFull(rtxContext* RT_RESTRICT ctx, const CN_DomainInformationFull* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CN-DomainInformationFull");
+   /* cn-DomainIdentity */
+   if (pvalue->cn_DomainIdentity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "CN-DomainInformationFull");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "CN-DomainInformationFull");
+   /* cn-DomainSpecificNAS-Info */
+   stat = enc_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_DomainSpecificNAS_Info, cur);
+   RT_CHECK(ctx, stat, 0, "cn-DomainSpecificNAS-Info", -1, "CN-DomainInformationFull");
+   /* cn-DRX-CycleLengthCoeff */
+   if ((uint64_t)(pvalue->cn_DRX_CycleLengthCoeff - 6) > 3u) {
+      rtxErrAddStrParm(ctx, "CN-DRX-CycleLengthCoefficient");
+      rtxErrAddUIntParm(ctx, pvalue->cn_DRX_CycleLengthCoeff);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CN-DRX-CycleLengthCoefficient", "cn-DRX-CycleLengthCoeff", -1, "CN-DomainInformationFull");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->cn_DRX_CycleLengthCoeff, 6, 9);
+   RT_CHECK_PUT(ctx, cur, stat, "CN-DRX-CycleLengthCoefficient", "cn-DRX-CycleLengthCoeff", -1, "CN-DomainInformationFull");
+   return 0;
+}
+
+int asn1PE_UMTS_CN_DomainInformationFull(rtxContext* RT_RESTRICT ctx, const CN_DomainInformationFull* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CN_DomainInformationFull, pvalue);
+}
+
+RT_MERGED_BODY int enc_CN_DomainInformationList(rtxContext* RT_RESTRICT ctx, const CN_DomainInformationList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CN-DomainInformationList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "CN-DomainInformationList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "CN-DomainInformation", (int32_t)i, "CN-DomainInformationList");
+      stat = enc_CN_DomainInformation(ctx, (const CN_DomainInformation*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "CN-DomainInformation", (int32_t)i, "CN-DomainInformationList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CN_DomainInformationList(rtxContext* RT_RESTRICT ctx, const CN_DomainInformationList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CN_DomainInformationList, pvalue);
+}
+
+RT_MERGED_BODY int enc_CN_DomainInformationListFull(rtxContext* RT_RESTRICT ctx, const CN_DomainInformationListFull* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CN-DomainInformationListFull");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "CN-DomainInformationListFull");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "CN-DomainInformationFull", (int32_t)i, "CN-DomainInformationListFull");
+      stat = enc_CN_DomainInformationFull(ctx, (const CN_DomainInformationFull*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "CN-DomainInformationFull", (int32_t)i, "CN-DomainInformationListFull");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CN_DomainInformationListFull(rtxContext* RT_RESTRICT ctx, const CN_DomainInformationListFull* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CN_DomainInformationListFull, pvalue);
+}
+
+static int enc_CN_InformationInfo(rtxContext* RT_RESTRICT ctx, const CN_InformationInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CN-InformationInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CN-InformationInfo");
+   /* plmn-Identity */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PLMN_Identity(ctx, &pvalue->plmn_Identity, cur);
+      RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, "CN-InformationInfo");
+   }
+   /* cn-CommonGSM-MAP-NAS-SysInfo */
+   if (pvalue->m & 0x2u) {
+      stat = enc_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_CommonGSM_MAP_NAS_SysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cn-CommonGSM-MAP-NAS-SysInfo", -1, "CN-InformationInfo");
+   }
+   /* cn-DomainInformationList */
+   if (pvalue->m & 0x4u) {
+      stat = enc_CN_DomainInformationList(ctx, &pvalue->cn_DomainInformationList, cur);
+      RT_CHECK(ctx, stat, 0, "cn-DomainInformationList", -1, "CN-InformationInfo");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CN_InformationInfo(rtxContext* RT_RESTRICT ctx, const CN_InformationInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CN_InformationInfo, pvalue);
+}
+
+static int enc_CN_InformationInfo_r6(rtxContext* RT_RESTRICT ctx, const CN_InformationInfo_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CN-InformationInfo-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CN-InformationInfo-r6");
+   /* plmn-Identity */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PLMN_Identity(ctx, &pvalue->plmn_Identity, cur);
+      RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, "CN-InformationInfo-r6");
+   }
+   /* cn-CommonGSM-MAP-NAS-SysInfo */
+   if (pvalue->m & 0x2u) {
+      stat = enc_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_CommonGSM_MAP_NAS_SysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cn-CommonGSM-MAP-NAS-SysInfo", -1, "CN-InformationInfo-r6");
+   }
+   /* cn-DomainInformationList */
+   if (pvalue->m & 0x4u) {
+      stat = enc_CN_DomainInformationList(ctx, &pvalue->cn_DomainInformationList, cur);
+      RT_CHECK(ctx, stat, 0, "cn-DomainInformationList", -1, "CN-InformationInfo-r6");
+   }
+   /* primary-plmn-Identity */
+   if (pvalue->m & 0x8u) {
+      stat = enc_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity, cur);
+      RT_CHECK(ctx, stat, 0, "primary-plmn-Identity", -1, "CN-InformationInfo-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CN_InformationInfo_r6(rtxContext* RT_RESTRICT ctx, const CN_InformationInfo_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CN_InformationInfo_r6, pvalue);
+}
+
+static int enc_CN_InformationInfoFull(rtxContext* RT_RESTRICT ctx, const CN_InformationInfoFull* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CN-InformationInfoFull");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CN-InformationInfoFull");
+   /* plmn-Identity */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PLMN_Identity(ctx, &pvalue->plmn_Identity, cur);
+      RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, "CN-InformationInfoFull");
+   }
+   /* cn-CommonGSM-MAP-NAS-SysInfo */
+   if (pvalue->m & 0x2u) {
+      stat = enc_NAS_SystemInformationGSM_MAP(ctx, &pvalue->cn_CommonGSM_MAP_NAS_SysInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cn-CommonGSM-MAP-NAS-SysInfo", -1, "CN-InformationInfoFull");
+   }
+   /* cn-DomainInformationListFull */
+   if (pvalue->m & 0x4u) {
+      stat = enc_CN_DomainInformationListFull(ctx, &pvalue->cn_DomainInformationListFull, cur);
+      RT_CHECK(ctx, stat, 0, "cn-DomainInformationListFull", -1, "CN-InformationInfoFull");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CN_InformationInfoFull(rtxContext* RT_RESTRICT ctx, const CN_InformationInfoFull* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CN_InformationInfoFull, pvalue);
+}
+
+RT_MERGED_BODY int enc_RoutingParameter(rtxContext* RT_RESTRICT ctx, RoutingParameter value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 10, 10);
+   stat = pe_BitString32At(ctx, cur, &value, 10, 10);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RoutingParameter");
+   return 0;
+}
+
+int asn1PE_UMTS_RoutingParameter(rtxContext* RT_RESTRICT ctx, RoutingParameter value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RoutingParameter, value);
+}
+
+RT_MERGED_BODY int enc_Gsm_map_IDNNS_routingbasis_localPTMSI(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis_localPTMSI* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* routingparameter */
+   stat = enc_RoutingParameter(ctx, pvalue->routingparameter, cur);
+   RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_localPTMSI(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis_localPTMSI* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Gsm_map_IDNNS_routingbasis_localPTMSI, pvalue);
+}
+
+RT_MERGED_BODY int enc_Gsm_map_IDNNS_routingbasis_tMSIofsamePLMN(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis_tMSIofsamePLMN* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* routingparameter */
+   stat = enc_RoutingParameter(ctx, pvalue->routingparameter, cur);
+   RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_tMSIofsamePLMN(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis_tMSIofsamePLMN* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Gsm_map_IDNNS_routingbasis_tMSIofsamePLMN, pvalue);
+}
+
+RT_MERGED_BODY int enc_Gsm_map_IDNNS_routingbasis_tMSIofdifferentPLMN(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis_tMSIofdifferentPLMN* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* routingparameter */
+   stat = enc_RoutingParameter(ctx, pvalue->routingparameter, cur);
+   RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_tMSIofdifferentPLMN(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis_tMSIofdifferentPLMN* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Gsm_map_IDNNS_routingbasis_tMSIofdifferentPLMN, pvalue);
+}
+
+RT_MERGED_BODY int enc_Gsm_map_IDNNS_routingbasis_iMSIresponsetopaging(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis_iMSIresponsetopaging* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* routingparameter */
+   stat = enc_RoutingParameter(ctx, pvalue->routingparameter, cur);
+   RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_iMSIresponsetopaging(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis_iMSIresponsetopaging* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Gsm_map_IDNNS_routingbasis_iMSIresponsetopaging, pvalue);
+}
+
+RT_MERGED_BODY int enc_Gsm_map_IDNNS_routingbasis_iMSIcauseUEinitiatedEvent(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis_iMSIcauseUEinitiatedEvent* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* routingparameter */
+   stat = enc_RoutingParameter(ctx, pvalue->routingparameter, cur);
+   RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_iMSIcauseUEinitiatedEvent(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis_iMSIcauseUEinitiatedEvent* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Gsm_map_IDNNS_routingbasis_iMSIcauseUEinitiatedEvent, pvalue);
+}
+
+RT_MERGED_BODY int enc_Gsm_map_IDNNS_routingbasis_iMEI(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis_iMEI* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* routingparameter */
+   stat = enc_RoutingParameter(ctx, pvalue->routingparameter, cur);
+   RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_iMEI(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis_iMEI* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Gsm_map_IDNNS_routingbasis_iMEI, pvalue);
+}
+
+RT_MERGED_BODY int enc_Gsm_map_IDNNS_routingbasis_spare2(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis_spare2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* routingparameter */
+   stat = enc_RoutingParameter(ctx, pvalue->routingparameter, cur);
+   RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_spare2(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis_spare2* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Gsm_map_IDNNS_routingbasis_spare2, pvalue);
+}
+
+RT_MERGED_BODY int enc_Gsm_map_IDNNS_routingbasis_spare1(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis_spare1* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* routingparameter */
+   stat = enc_RoutingParameter(ctx, pvalue->routingparameter, cur);
+   RT_CHECK(ctx, stat, 0, "routingparameter", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_Gsm_map_IDNNS_routingbasis_spare1(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis_spare1* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Gsm_map_IDNNS_routingbasis_spare1, pvalue);
+}
+
+RT_MERGED_BODY int enc_Gsm_map_IDNNS_routingbasis(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 7) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.localPTMSI == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "localPTMSI", -1, 0);
+         stat = enc_Gsm_map_IDNNS_routingbasis_localPTMSI(ctx, pvalue->u.localPTMSI, cur);
+         RT_CHECK(ctx, stat, 0, "localPTMSI", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tMSIofsamePLMN == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tMSIofsamePLMN", -1, 0);
+         stat = enc_Gsm_map_IDNNS_routingbasis_tMSIofsamePLMN(ctx, pvalue->u.tMSIofsamePLMN, cur);
+         RT_CHECK(ctx, stat, 0, "tMSIofsamePLMN", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.tMSIofdifferentPLMN == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tMSIofdifferentPLMN", -1, 0);
+         stat = enc_Gsm_map_IDNNS_routingbasis_tMSIofdifferentPLMN(ctx, pvalue->u.tMSIofdifferentPLMN, cur);
+         RT_CHECK(ctx, stat, 0, "tMSIofdifferentPLMN", -1, 0);
+         break;
+      case 4:
+         if (pvalue->u.iMSIresponsetopaging == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "iMSIresponsetopaging", -1, 0);
+         stat = enc_Gsm_map_IDNNS_routingbasis_iMSIresponsetopaging(ctx, pvalue->u.iMSIresponsetopaging, cur);
+         RT_CHECK(ctx, stat, 0, "iMSIresponsetopaging", -1, 0);
+         break;
+      case 5:
+         if (pvalue->u.iMSIcauseUEinitiatedEvent == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "iMSIcauseUEinitiatedEvent", -1, 0);
+         stat = enc_Gsm_map_IDNNS_routingbasis_iMSIcauseUEinitiatedEvent(ctx, pvalue->u.iMSIcauseUEinitiatedEvent, cur);
+         RT_CHECK(ctx, stat, 0, "iMSIcauseUEinitiatedEvent", -1, 0);
+         break;
+      case 6:
+         if (pvalue->u.iMEI == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "iMEI", -1, 0);
+         stat = enc_Gsm_map_IDNNS_routingbasis_iMEI(ctx, pvalue->u.iMEI, cur);
+         RT_CHECK(ctx, stat, 0, "iMEI", -1, 0);
+         break;
+      case 7:
+         if (pvalue->u.spare2 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "spare2", -1, 0);
+         stat = enc_Gsm_map_IDNNS_routingbasis_spare2(ctx, pvalue->u.spare2, cur);
+         RT_CHECK(ctx, stat, 0, "spare2", -1, 0);
+         break;
+      case 8:
+         if (pvalue->u.spare1 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "spare1", -1, 0);
+         stat = enc_Gsm_map_IDNNS_routingbasis_spare1(ctx, pvalue->u.spare1, cur);
+         RT_CHECK(ctx, stat, 0, "spare1", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Gsm_map_IDNNS_routingbasis(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS_routingbasis* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Gsm_map_IDNNS_routingbasis, pvalue);
+}
+
+RT_MERGED_BODY int enc_Gsm_map_IDNNS(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Gsm-map-IDNNS");
+   /* routingbasis */
+   stat = enc_Gsm_map_IDNNS_routingbasis(ctx, &pvalue->routingbasis, cur);
+   RT_CHECK(ctx, stat, 0, "routingbasis", -1, "Gsm-map-IDNNS");
+   /* dummy */
+   stat = rtxEncBitAt(ctx, cur, pvalue->dummy);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "dummy", -1, "Gsm-map-IDNNS");
+   return 0;
+}
+
+int asn1PE_UMTS_Gsm_map_IDNNS(rtxContext* RT_RESTRICT ctx, const Gsm_map_IDNNS* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Gsm_map_IDNNS, pvalue);
+}
+
+RT_MERGED_BODY int enc_IMEI_Digit(rtxContext* RT_RESTRICT ctx, IMEI_Digit value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 15u) {
+      rtxErrAddStrParm(ctx, "IMEI-Digit");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "IMEI-Digit");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IMEI-Digit");
+   return 0;
+}
+
+int asn1PE_UMTS_IMEI_Digit(rtxContext* RT_RESTRICT ctx, IMEI_Digit value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IMEI_Digit, value);
+}
+
+RT_MERGED_BODY int enc_IMEI(rtxContext* RT_RESTRICT ctx, const IMEI* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IMEI");
+   uint32_t i;
+   if (pvalue->n != 15) {
+      rtxErrAddStrParm(ctx, "IMEI");
+      rtxErrAddUIntParm(ctx, pvalue->n);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "IMEI");
+   }
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 15u) {
+         rtxErrAddStrParm(ctx, "IMEI-Digit");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "IMEI-Digit", "IMEI-Digit", (int32_t)i, "IMEI");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "IMEI-Digit", "IMEI-Digit", (int32_t)i, "IMEI");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IMEI(rtxContext* RT_RESTRICT ctx, const IMEI* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IMEI, pvalue);
+}
+
+RT_MERGED_BODY int enc_IMSI_GSM_MAP(rtxContext* RT_RESTRICT ctx, const IMSI_GSM_MAP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IMSI-GSM-MAP");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 6, 21);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "IMSI-GSM-MAP");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 9u) {
+         rtxErrAddStrParm(ctx, "Digit");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Digit", "Digit", (int32_t)i, "IMSI-GSM-MAP");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 9);
+      RT_CHECK_PUT(ctx, cur, stat, "Digit", "Digit", (int32_t)i, "IMSI-GSM-MAP");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IMSI_GSM_MAP(rtxContext* RT_RESTRICT ctx, const IMSI_GSM_MAP* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IMSI_GSM_MAP, pvalue);
+}
+
+static int enc_IntraDomainNasNodeSelector_version_release99_cn_Type(rtxContext* RT_RESTRICT ctx, const IntraDomainNasNodeSelector_version_release99_cn_Type* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.gsm_Map_IDNNS == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "gsm-Map-IDNNS", -1, 0);
+         stat = enc_Gsm_map_IDNNS(ctx, pvalue->u.gsm_Map_IDNNS, cur);
+         RT_CHECK(ctx, stat, 0, "gsm-Map-IDNNS", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.ansi_41_IDNNS == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ansi-41-IDNNS", -1, 0);
+         stat = enc_Ansi_41_IDNNS(ctx, *pvalue->u.ansi_41_IDNNS, cur);
+         RT_CHECK(ctx, stat, 0, "ansi-41-IDNNS", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraDomainNasNodeSelector_version_release99_cn_Type(rtxContext* RT_RESTRICT ctx, const IntraDomainNasNodeSelector_version_release99_cn_Type* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraDomainNasNodeSelector_version_release99_cn_Type, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraDomainNasNodeSelector_version_release99(rtxContext* RT_RESTRICT ctx, const IntraDomainNasNodeSelector_version_release99* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* cn-Type */
+   stat = enc_IntraDomainNasNodeSelector_version_release99_cn_Type(ctx, &pvalue->cn_Type, cur);
+   RT_CHECK(ctx, stat, 0, "cn-Type", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_IntraDomainNasNodeSelector_version_release99(rtxContext* RT_RESTRICT ctx, const IntraDomainNasNodeSelector_version_release99* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraDomainNasNodeSelector_version_release99, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraDomainNasNodeSelector_version_later(rtxContext* RT_RESTRICT ctx, const IntraDomainNasNodeSelector_version_later* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* futurecoding */
+   RT_SET_SIZE(ctx, 15, 15);
+   stat = pe_BitString32At(ctx, cur, &pvalue->futurecoding, 15, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "futurecoding", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_IntraDomainNasNodeSelector_version_later(rtxContext* RT_RESTRICT ctx, const IntraDomainNasNodeSelector_version_later* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraDomainNasNodeSelector_version_later, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraDomainNasNodeSelector_version(rtxContext* RT_RESTRICT ctx, const IntraDomainNasNodeSelector_version* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.release99 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "release99", -1, 0);
+         stat = enc_IntraDomainNasNodeSelector_version_release99(ctx, pvalue->u.release99, cur);
+         RT_CHECK(ctx, stat, 0, "release99", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.later == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "later", -1, 0);
+         stat = enc_IntraDomainNasNodeSelector_version_later(ctx, pvalue->u.later, cur);
+         RT_CHECK(ctx, stat, 0, "later", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraDomainNasNodeSelector_version(rtxContext* RT_RESTRICT ctx, const IntraDomainNasNodeSelector_version* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraDomainNasNodeSelector_version, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraDomainNasNodeSelector(rtxContext* RT_RESTRICT ctx, const IntraDomainNasNodeSelector* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraDomainNasNodeSelector");
+   /* version */
+   stat = enc_IntraDomainNasNodeSelector_version(ctx, &pvalue->version, cur);
+   RT_CHECK(ctx, stat, 0, "version", -1, "IntraDomainNasNodeSelector");
+   return 0;
+}
+
+int asn1PE_UMTS_IntraDomainNasNodeSelector(rtxContext* RT_RESTRICT ctx, const IntraDomainNasNodeSelector* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraDomainNasNodeSelector, pvalue);
+}
+
+RT_MERGED_BODY int enc_LAI(rtxContext* RT_RESTRICT ctx, const LAI* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "LAI");
+   /* plmn-Identity */
+   stat = enc_PLMN_Identity(ctx, &pvalue->plmn_Identity, cur);
+   RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, "LAI");
+   /* lac */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &pvalue->lac, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "lac", -1, "LAI");
+   return 0;
+}
+
+int asn1PE_UMTS_LAI(rtxContext* RT_RESTRICT ctx, const LAI* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_LAI, pvalue);
+}
+
+RT_MERGED_BODY int enc_NAS_Message(rtxContext* RT_RESTRICT ctx, const NAS_Message* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NAS-Message");
+   RT_SET_SIZE(ctx, 1, 4095);
+   stat = pe_OctetStringAt(ctx, cur, pvalue->numocts, pvalue->data);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NAS-Message");
+   return 0;
+}
+
+int asn1PE_UMTS_NAS_Message(rtxContext* RT_RESTRICT ctx, const NAS_Message* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NAS_Message, pvalue);
+}
+
+RT_MERGED_BODY int enc_NAS_Synchronisation_Indicator(rtxContext* RT_RESTRICT ctx, NAS_Synchronisation_Indicator value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 4, 4);
+   stat = pe_BitString32At(ctx, cur, &value, 4, 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NAS-Synchronisation-Indicator");
+   return 0;
+}
+
+int asn1PE_UMTS_NAS_Synchronisation_Indicator(rtxContext* RT_RESTRICT ctx, NAS_Synchronisation_Indicator value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NAS_Synchronisation_Indicator, value);
+}
+
+RT_MERGED_BODY int enc_P_TMSI_GSM_MAP(rtxContext* RT_RESTRICT ctx, P_TMSI_GSM_MAP value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32At(ctx, cur, &value, 32, 32);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "P-TMSI-GSM-MAP");
+   return 0;
+}
+
+int asn1PE_UMTS_P_TMSI_GSM_MAP(rtxContext* RT_RESTRICT ctx, P_TMSI_GSM_MAP value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_P_TMSI_GSM_MAP, value);
+}
+
+RT_MERGED_BODY int enc_PagingRecordTypeID(rtxContext* RT_RESTRICT ctx, PagingRecordTypeID value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "PagingRecordTypeID");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PagingRecordTypeID");
+   return 0;
+}
+
+int asn1PE_UMTS_PagingRecordTypeID(rtxContext* RT_RESTRICT ctx, PagingRecordTypeID value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PagingRecordTypeID, value);
+}
+
+RT_MERGED_BODY int enc_RAB_Identity(rtxContext* RT_RESTRICT ctx, const RAB_Identity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RAB-Identity");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "RAB-Identity");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "RAB-Identity");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.gsm_MAP_RAB_Identity == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "gsm-MAP-RAB-Identity", -1, "RAB-Identity");
+         RT_SET_SIZE(ctx, 8, 8);
+         stat = pe_BitString32At(ctx, cur, pvalue->u.gsm_MAP_RAB_Identity, 8, 8);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "gsm-MAP-RAB-Identity", -1, "RAB-Identity");
+         break;
+      case 2:
+         if (pvalue->u.ansi_41_RAB_Identity == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ansi-41-RAB-Identity", -1, "RAB-Identity");
+         RT_SET_SIZE(ctx, 8, 8);
+         stat = pe_BitString32At(ctx, cur, pvalue->u.ansi_41_RAB_Identity, 8, 8);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "ansi-41-RAB-Identity", -1, "RAB-Identity");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_Identity(rtxContext* RT_RESTRICT ctx, const RAB_Identity* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAB_Identity, pvalue);
+}
+
+RT_MERGED_BODY int enc_RoutingAreaCode(rtxContext* RT_RESTRICT ctx, RoutingAreaCode value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32At(ctx, cur, &value, 8, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RoutingAreaCode");
+   return 0;
+}
+
+int asn1PE_UMTS_RoutingAreaCode(rtxContext* RT_RESTRICT ctx, RoutingAreaCode value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RoutingAreaCode, value);
+}
+
+RT_MERGED_BODY int enc_RAI(rtxContext* RT_RESTRICT ctx, const RAI* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RAI");
+   /* lai */
+   stat = enc_LAI(ctx, &pvalue->lai, cur);
+   RT_CHECK(ctx, stat, 0, "lai", -1, "RAI");
+   /* rac */
+   stat = enc_RoutingAreaCode(ctx, pvalue->rac, cur);
+   RT_CHECK(ctx, stat, 0, "rac", -1, "RAI");
+   return 0;
+}
+
+int asn1PE_UMTS_RAI(rtxContext* RT_RESTRICT ctx, const RAI* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAI, pvalue);
+}
+
+RT_MERGED_BODY int enc_TMSI_GSM_MAP(rtxContext* RT_RESTRICT ctx, TMSI_GSM_MAP value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32At(ctx, cur, &value, 32, 32);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TMSI-GSM-MAP");
+   return 0;
+}
+
+int asn1PE_UMTS_TMSI_GSM_MAP(rtxContext* RT_RESTRICT ctx, TMSI_GSM_MAP value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TMSI_GSM_MAP, value);
+}
+
+RT_MERGED_BODY int enc_CellIdentity_PerRL_List(rtxContext* RT_RESTRICT ctx, const CellIdentity_PerRL_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellIdentity-PerRL-List");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "CellIdentity-PerRL-List");
+   for (i = 0; i < pvalue->n; i++) {
+      stat = enc_CellIdentity(ctx, pvalue->elem[i], cur);
+      RT_CHECK(ctx, stat, 0, "CellIdentity", (int32_t)i, "CellIdentity-PerRL-List");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellIdentity_PerRL_List(rtxContext* RT_RESTRICT ctx, const CellIdentity_PerRL_List* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellIdentity_PerRL_List, pvalue);
+}
+
+RT_MERGED_BODY int enc_T_322(rtxContext* RT_RESTRICT ctx, T_322 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "T-322");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "T-322");
+   return 0;
+}
+
+int asn1PE_UMTS_T_322(rtxContext* RT_RESTRICT ctx, T_322 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_T_322, value);
+}
+
+RT_MERGED_BODY int enc_PriorityLevel_radioAccessTechnology_utraFDD_element(rtxContext* RT_RESTRICT ctx, const PriorityLevel_radioAccessTechnology_utraFDD_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* uarfcn */
+   if ((uint64_t)pvalue->uarfcn > 16383u) {
+      rtxErrAddStrParm(ctx, "UARFCN");
+      rtxErrAddUIntParm(ctx, pvalue->uarfcn);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UARFCN", "uarfcn", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->uarfcn, 0, 16383);
+   RT_CHECK_PUT(ctx, cur, stat, "UARFCN", "uarfcn", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PriorityLevel_radioAccessTechnology_utraFDD_element(rtxContext* RT_RESTRICT ctx, const PriorityLevel_radioAccessTechnology_utraFDD_element* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PriorityLevel_radioAccessTechnology_utraFDD_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_PriorityLevel_radioAccessTechnology_utraFDD(rtxContext* RT_RESTRICT ctx, const PriorityLevel_radioAccessTechnology_utraFDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
+      stat = enc_PriorityLevel_radioAccessTechnology_utraFDD_element(ctx, (const PriorityLevel_radioAccessTechnology_utraFDD_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PriorityLevel_radioAccessTechnology_utraFDD(rtxContext* RT_RESTRICT ctx, const PriorityLevel_radioAccessTechnology_utraFDD* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PriorityLevel_radioAccessTechnology_utraFDD, pvalue);
+}
+
+RT_MERGED_BODY int enc_PriorityLevel_radioAccessTechnology_utraTDD_element(rtxContext* RT_RESTRICT ctx, const PriorityLevel_radioAccessTechnology_utraTDD_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* uarfcn */
+   if ((uint64_t)pvalue->uarfcn > 16383u) {
+      rtxErrAddStrParm(ctx, "UARFCN");
+      rtxErrAddUIntParm(ctx, pvalue->uarfcn);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UARFCN", "uarfcn", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->uarfcn, 0, 16383);
+   RT_CHECK_PUT(ctx, cur, stat, "UARFCN", "uarfcn", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PriorityLevel_radioAccessTechnology_utraTDD_element(rtxContext* RT_RESTRICT ctx, const PriorityLevel_radioAccessTechnology_utraTDD_element* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PriorityLevel_radioAccessTechnology_utraTDD_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_PriorityLevel_radioAccessTechnology_utraTDD(rtxContext* RT_RESTRICT ctx, const PriorityLevel_radioAccessTechnology_utraTDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
+      stat = enc_PriorityLevel_radioAccessTechnology_utraTDD_element(ctx, (const PriorityLevel_radioAccessTechnology_utraTDD_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PriorityLevel_radioAccessTechnology_utraTDD(rtxContext* RT_RESTRICT ctx, const PriorityLevel_radioAccessTechnology_utraTDD* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PriorityLevel_radioAccessTechnology_utraTDD, pvalue);
+}
+
+RT_MERGED_BODY int enc_EARFCN(rtxContext* RT_RESTRICT ctx, EARFCN value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 65535);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "EARFCN");
+   return 0;
+}
+
+int asn1PE_UMTS_EARFCN(rtxContext* RT_RESTRICT ctx, EARFCN value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EARFCN, value);
+}
+
+RT_MERGED_BODY int enc_PriorityLevel_radioAccessTechnology_eutra_element(rtxContext* RT_RESTRICT ctx, const PriorityLevel_radioAccessTechnology_eutra_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* earfcn */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->earfcn, 0, 65535);
+   RT_CHECK_PUT(ctx, cur, stat, "EARFCN", "earfcn", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PriorityLevel_radioAccessTechnology_eutra_element(rtxContext* RT_RESTRICT ctx, const PriorityLevel_radioAccessTechnology_eutra_element* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PriorityLevel_radioAccessTechnology_eutra_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_PriorityLevel_radioAccessTechnology_eutra(rtxContext* RT_RESTRICT ctx, const PriorityLevel_radioAccessTechnology_eutra* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
+      stat = enc_PriorityLevel_radioAccessTechnology_eutra_element(ctx, (const PriorityLevel_radioAccessTechnology_eutra_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PriorityLevel_radioAccessTechnology_eutra(rtxContext* RT_RESTRICT ctx, const PriorityLevel_radioAccessTechnology_eutra* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PriorityLevel_radioAccessTechnology_eutra, pvalue);
+}
+
+RT_MERGED_BODY int enc_GSM_CellGroup_bandIndicator(rtxContext* RT_RESTRICT ctx, GSM_CellGroup_bandIndicator value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_GSM_CellGroup_bandIndicator(rtxContext* RT_RESTRICT ctx, GSM_CellGroup_bandIndicator value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GSM_CellGroup_bandIndicator, value);
+}
+
+RT_MERGED_BODY int enc_GSM_CellGroup_followingARFCNs_explicitListOfARFCNs(rtxContext* RT_RESTRICT ctx, const GSM_CellGroup_followingARFCNs_explicitListOfARFCNs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 0, 31);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 1023u) {
+         rtxErrAddStrParm(ctx, "BCCH-ARFCN");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "BCCH-ARFCN", "BCCH-ARFCN", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 1023);
+      RT_CHECK_PUT(ctx, cur, stat, "BCCH-ARFCN", "BCCH-ARFCN", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GSM_CellGroup_followingARFCNs_explicitListOfARFCNs(rtxContext* RT_RESTRICT ctx, const GSM_CellGroup_followingARFCNs_explicitListOfARFCNs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GSM_CellGroup_followingARFCNs_explicitListOfARFCNs, pvalue);
+}
+
+RT_MERGED_BODY int enc_GSM_CellGroup_followingARFCNs_equallySpacedARFCNs(rtxContext* RT_RESTRICT ctx, const GSM_CellGroup_followingARFCNs_equallySpacedARFCNs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* arfcn-Spacing */
+   if ((uint64_t)(pvalue->arfcn_Spacing - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "arfcn-Spacing");
+      rtxErrAddUIntParm(ctx, pvalue->arfcn_Spacing);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "arfcn-Spacing", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->arfcn_Spacing, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "arfcn-Spacing", -1, 0);
+   /* numberOfFollowingARFCNs */
+   if ((uint64_t)pvalue->numberOfFollowingARFCNs > 31u) {
+      rtxErrAddStrParm(ctx, "numberOfFollowingARFCNs");
+      rtxErrAddUIntParm(ctx, pvalue->numberOfFollowingARFCNs);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "numberOfFollowingARFCNs", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->numberOfFollowingARFCNs, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "numberOfFollowingARFCNs", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_GSM_CellGroup_followingARFCNs_equallySpacedARFCNs(rtxContext* RT_RESTRICT ctx, const GSM_CellGroup_followingARFCNs_equallySpacedARFCNs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GSM_CellGroup_followingARFCNs_equallySpacedARFCNs, pvalue);
+}
+
+RT_MERGED_BODY int enc_GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs(rtxContext* RT_RESTRICT ctx, const GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_OctetStringAt(ctx, cur, pvalue->numocts, pvalue->data);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs(rtxContext* RT_RESTRICT ctx, const GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs, pvalue);
+}
+
+RT_MERGED_BODY int enc_GSM_CellGroup_followingARFCNs_continuousRangeOfARFCNs(rtxContext* RT_RESTRICT ctx, const GSM_CellGroup_followingARFCNs_continuousRangeOfARFCNs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* endingARFCN */
+   if ((uint64_t)pvalue->endingARFCN > 1023u) {
+      rtxErrAddStrParm(ctx, "BCCH-ARFCN");
+      rtxErrAddUIntParm(ctx, pvalue->endingARFCN);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "BCCH-ARFCN", "endingARFCN", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->endingARFCN, 0, 1023);
+   RT_CHECK_PUT(ctx, cur, stat, "BCCH-ARFCN", "endingARFCN", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_GSM_CellGroup_followingARFCNs_continuousRangeOfARFCNs(rtxContext* RT_RESTRICT ctx, const GSM_CellGroup_followingARFCNs_continuousRangeOfARFCNs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GSM_CellGroup_followingARFCNs_continuousRangeOfARFCNs, pvalue);
+}
+
+RT_MERGED_BODY int enc_GSM_CellGroup_followingARFCNs(rtxContext* RT_RESTRICT ctx, const GSM_CellGroup_followingARFCNs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 3) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.explicitListOfARFCNs == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "explicitListOfARFCNs", -1, 0);
+         stat = enc_GSM_CellGroup_followingARFCNs_explicitListOfARFCNs(ctx, pvalue->u.explicitListOfARFCNs, cur);
+         RT_CHECK(ctx, stat, 0, "explicitListOfARFCNs", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.equallySpacedARFCNs == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "equallySpacedARFCNs", -1, 0);
+         stat = enc_GSM_CellGroup_followingARFCNs_equallySpacedARFCNs(ctx, pvalue->u.equallySpacedARFCNs, cur);
+         RT_CHECK(ctx, stat, 0, "equallySpacedARFCNs", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.variableBitMapOfARFCNs == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "variableBitMapOfARFCNs", -1, 0);
+         stat = enc_GSM_CellGroup_followingARFCNs_variableBitMapOfARFCNs(ctx, pvalue->u.variableBitMapOfARFCNs, cur);
+         RT_CHECK(ctx, stat, 0, "variableBitMapOfARFCNs", -1, 0);
+         break;
+      case 4:
+         if (pvalue->u.continuousRangeOfARFCNs == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "continuousRangeOfARFCNs", -1, 0);
+         stat = enc_GSM_CellGroup_followingARFCNs_continuousRangeOfARFCNs(ctx, pvalue->u.continuousRangeOfARFCNs, cur);
+         RT_CHECK(ctx, stat, 0, "continuousRangeOfARFCNs", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GSM_CellGroup_followingARFCNs(rtxContext* RT_RESTRICT ctx, const GSM_CellGroup_followingARFCNs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GSM_CellGroup_followingARFCNs, pvalue);
+}
+
+static int enc_GSM_CellGroup(rtxContext* RT_RESTRICT ctx, const GSM_CellGroup* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GSM-CellGroup");
+   /* startingARFCN */
+   if ((uint64_t)pvalue->startingARFCN > 1023u) {
+      rtxErrAddStrParm(ctx, "BCCH-ARFCN");
+      rtxErrAddUIntParm(ctx, pvalue->startingARFCN);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "BCCH-ARFCN", "startingARFCN", -1, "GSM-CellGroup");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->startingARFCN, 0, 1023);
+   RT_CHECK_PUT(ctx, cur, stat, "BCCH-ARFCN", "startingARFCN", -1, "GSM-CellGroup");
+   /* bandIndicator */
+   if (pvalue->bandIndicator > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->bandIndicator);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "bandIndicator", -1, "GSM-CellGroup");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->bandIndicator, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "bandIndicator", -1, "GSM-CellGroup");
+   /* followingARFCNs */
+   stat = enc_GSM_CellGroup_followingARFCNs(ctx, &pvalue->followingARFCNs, cur);
+   RT_CHECK(ctx, stat, 0, "followingARFCNs", -1, "GSM-CellGroup");
+   return 0;
+}
+
+int asn1PE_UMTS_GSM_CellGroup(rtxContext* RT_RESTRICT ctx, const GSM_CellGroup* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GSM_CellGroup, pvalue);
+}
+
+RT_MERGED_BODY int enc_PriorityLevel_radioAccessTechnology_gsm(rtxContext* RT_RESTRICT ctx, const PriorityLevel_radioAccessTechnology_gsm* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* gsm-CellGroup */
+   stat = enc_GSM_CellGroup(ctx, &pvalue->gsm_CellGroup, cur);
+   RT_CHECK(ctx, stat, 0, "gsm-CellGroup", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PriorityLevel_radioAccessTechnology_gsm(rtxContext* RT_RESTRICT ctx, const PriorityLevel_radioAccessTechnology_gsm* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PriorityLevel_radioAccessTechnology_gsm, pvalue);
+}
+
+RT_MERGED_BODY int enc_PriorityLevel_radioAccessTechnology(rtxContext* RT_RESTRICT ctx, const PriorityLevel_radioAccessTechnology* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 3) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.utraFDD == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "utraFDD", -1, 0);
+         stat = enc_PriorityLevel_radioAccessTechnology_utraFDD(ctx, pvalue->u.utraFDD, cur);
+         RT_CHECK(ctx, stat, 0, "utraFDD", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.utraTDD == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "utraTDD", -1, 0);
+         stat = enc_PriorityLevel_radioAccessTechnology_utraTDD(ctx, pvalue->u.utraTDD, cur);
+         RT_CHECK(ctx, stat, 0, "utraTDD", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.eutra == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "eutra", -1, 0);
+         stat = enc_PriorityLevel_radioAccessTechnology_eutra(ctx, pvalue->u.eutra, cur);
+         RT_CHECK(ctx, stat, 0, "eutra", -1, 0);
+         break;
+      case 4:
+         if (pvalue->u.gsm == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "gsm", -1, 0);
+         stat = enc_PriorityLevel_radioAccessTechnology_gsm(ctx, pvalue->u.gsm, cur);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PriorityLevel_radioAccessTechnology(rtxContext* RT_RESTRICT ctx, const PriorityLevel_radioAccessTechnology* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PriorityLevel_radioAccessTechnology, pvalue);
+}
+
+RT_MERGED_BODY int enc_PriorityLevel(rtxContext* RT_RESTRICT ctx, const PriorityLevel* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PriorityLevel");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PriorityLevel");
+   /* priority */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->priority > 7u) {
+         rtxErrAddStrParm(ctx, "priority");
+         rtxErrAddUIntParm(ctx, pvalue->priority);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "priority", -1, "PriorityLevel");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->priority, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "priority", -1, "PriorityLevel");
+   }
+   /* radioAccessTechnology */
+   stat = enc_PriorityLevel_radioAccessTechnology(ctx, &pvalue->radioAccessTechnology, cur);
+   RT_CHECK(ctx, stat, 0, "radioAccessTechnology", -1, "PriorityLevel");
+   return 0;
+}
+
+int asn1PE_UMTS_PriorityLevel(rtxContext* RT_RESTRICT ctx, const PriorityLevel* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PriorityLevel, pvalue);
+}
+
+RT_MERGED_BODY int enc_PriorityLevelList(rtxContext* RT_RESTRICT ctx, const PriorityLevelList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PriorityLevelList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "PriorityLevelList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "PriorityLevel", (int32_t)i, "PriorityLevelList");
+      stat = enc_PriorityLevel(ctx, (const PriorityLevel*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "PriorityLevel", (int32_t)i, "PriorityLevelList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PriorityLevelList(rtxContext* RT_RESTRICT ctx, const PriorityLevelList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PriorityLevelList, pvalue);
+}
+
+RT_MERGED_BODY int enc_DedicatedPriorityInformation_action_configureDedicatedPriorities(rtxContext* RT_RESTRICT ctx, const DedicatedPriorityInformation_action_configureDedicatedPriorities* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* t-322 */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->t_322 > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->t_322);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "T-322", "t-322", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_322, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "T-322", "t-322", -1, 0);
+   }
+   /* priorityLevelList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_PriorityLevelList(ctx, &pvalue->priorityLevelList, cur);
+      RT_CHECK(ctx, stat, 0, "priorityLevelList", -1, 0);
+   }
+   /* eutraDetection */
+   stat = rtxEncBitAt(ctx, cur, pvalue->eutraDetection);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "eutraDetection", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DedicatedPriorityInformation_action_configureDedicatedPriorities(rtxContext* RT_RESTRICT ctx, const DedicatedPriorityInformation_action_configureDedicatedPriorities* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DedicatedPriorityInformation_action_configureDedicatedPriorities, pvalue);
+}
+
+RT_MERGED_BODY int enc_DedicatedPriorityInformation_action(rtxContext* RT_RESTRICT ctx, const DedicatedPriorityInformation_action* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.configureDedicatedPriorities == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "configureDedicatedPriorities", -1, 0);
+         stat = enc_DedicatedPriorityInformation_action_configureDedicatedPriorities(ctx, pvalue->u.configureDedicatedPriorities, cur);
+         RT_CHECK(ctx, stat, 0, "configureDedicatedPriorities", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DedicatedPriorityInformation_action(rtxContext* RT_RESTRICT ctx, const DedicatedPriorityInformation_action* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DedicatedPriorityInformation_action, pvalue);
+}
+
+RT_MERGED_BODY int enc_DedicatedPriorityInformation(rtxContext* RT_RESTRICT ctx, const DedicatedPriorityInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DedicatedPriorityInformation");
+   /* action */
+   stat = enc_DedicatedPriorityInformation_action(ctx, &pvalue->action, cur);
+   RT_CHECK(ctx, stat, 0, "action", -1, "DedicatedPriorityInformation");
+   return 0;
+}
+
+int asn1PE_UMTS_DedicatedPriorityInformation(rtxContext* RT_RESTRICT ctx, const DedicatedPriorityInformation* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DedicatedPriorityInformation, pvalue);
+}
+
+RT_MERGED_BODY int enc_Q_Hyst_S_Fine(rtxContext* RT_RESTRICT ctx, Q_Hyst_S_Fine value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 40u) {
+      rtxErrAddStrParm(ctx, "Q-Hyst-S-Fine");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "Q-Hyst-S-Fine");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 40);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Q-Hyst-S-Fine");
+   return 0;
+}
+
+int asn1PE_UMTS_Q_Hyst_S_Fine(rtxContext* RT_RESTRICT ctx, Q_Hyst_S_Fine value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Q_Hyst_S_Fine, value);
+}
+
+RT_MERGED_BODY int enc_T_Reselection_S_Fine(rtxContext* RT_RESTRICT ctx, T_Reselection_S_Fine value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 31u) {
+      rtxErrAddStrParm(ctx, "T-Reselection-S-Fine");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "T-Reselection-S-Fine");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "T-Reselection-S-Fine");
+   return 0;
+}
+
+int asn1PE_UMTS_T_Reselection_S_Fine(rtxContext* RT_RESTRICT ctx, T_Reselection_S_Fine value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_T_Reselection_S_Fine, value);
+}
+
+RT_MERGED_BODY int enc_AccessStratumReleaseIndicator(rtxContext* RT_RESTRICT ctx, AccessStratumReleaseIndicator value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "AccessStratumReleaseIndicator");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "AccessStratumReleaseIndicator");
+   return 0;
+}
+
+int asn1PE_UMTS_AccessStratumReleaseIndicator(rtxContext* RT_RESTRICT ctx, AccessStratumReleaseIndicator value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AccessStratumReleaseIndicator, value);
+}
+
+RT_MERGED_BODY int enc_ActivationTime(rtxContext* RT_RESTRICT ctx, ActivationTime value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ActivationTime");
+   return 0;
+}
+
+int asn1PE_UMTS_ActivationTime(rtxContext* RT_RESTRICT ctx, ActivationTime value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ActivationTime, value);
+}
+
+RT_MERGED_BODY int enc_N_AP_RetransMax(rtxContext* RT_RESTRICT ctx, N_AP_RetransMax value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "N-AP-RetransMax");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "N-AP-RetransMax");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 64);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "N-AP-RetransMax");
+   return 0;
+}
+
+int asn1PE_UMTS_N_AP_RetransMax(rtxContext* RT_RESTRICT ctx, N_AP_RetransMax value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_N_AP_RetransMax, value);
+}
+
+RT_MERGED_BODY int enc_N_AccessFails(rtxContext* RT_RESTRICT ctx, N_AccessFails value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "N-AccessFails");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "N-AccessFails");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 64);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "N-AccessFails");
+   return 0;
+}
+
+int asn1PE_UMTS_N_AccessFails(rtxContext* RT_RESTRICT ctx, N_AccessFails value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_N_AccessFails, value);
+}
+
+RT_MERGED_BODY int enc_NF_BO_NoAICH(rtxContext* RT_RESTRICT ctx, NF_BO_NoAICH value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 31u) {
+      rtxErrAddStrParm(ctx, "NF-BO-NoAICH");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "NF-BO-NoAICH");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NF-BO-NoAICH");
+   return 0;
+}
+
+int asn1PE_UMTS_NF_BO_NoAICH(rtxContext* RT_RESTRICT ctx, NF_BO_NoAICH value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NF_BO_NoAICH, value);
+}
+
+RT_MERGED_BODY int enc_NS_BO_Busy(rtxContext* RT_RESTRICT ctx, NS_BO_Busy value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 63u) {
+      rtxErrAddStrParm(ctx, "NS-BO-Busy");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "NS-BO-Busy");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NS-BO-Busy");
+   return 0;
+}
+
+int asn1PE_UMTS_NS_BO_Busy(rtxContext* RT_RESTRICT ctx, NS_BO_Busy value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NS_BO_Busy, value);
+}
+
+RT_MERGED_BODY int enc_NF_BO_AllBusy(rtxContext* RT_RESTRICT ctx, NF_BO_AllBusy value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 31u) {
+      rtxErrAddStrParm(ctx, "NF-BO-AllBusy");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "NF-BO-AllBusy");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NF-BO-AllBusy");
+   return 0;
+}
+
+int asn1PE_UMTS_NF_BO_AllBusy(rtxContext* RT_RESTRICT ctx, NF_BO_AllBusy value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NF_BO_AllBusy, value);
+}
+
+RT_MERGED_BODY int enc_NF_BO_Mismatch(rtxContext* RT_RESTRICT ctx, NF_BO_Mismatch value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 127u) {
+      rtxErrAddStrParm(ctx, "NF-BO-Mismatch");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "NF-BO-Mismatch");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 127);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NF-BO-Mismatch");
+   return 0;
+}
+
+int asn1PE_UMTS_NF_BO_Mismatch(rtxContext* RT_RESTRICT ctx, NF_BO_Mismatch value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NF_BO_Mismatch, value);
+}
+
+RT_MERGED_BODY int enc_T_CPCH(rtxContext* RT_RESTRICT ctx, T_CPCH value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "T-CPCH");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "T-CPCH");
+   return 0;
+}
+
+int asn1PE_UMTS_T_CPCH(rtxContext* RT_RESTRICT ctx, T_CPCH value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_T_CPCH, value);
+}
+
+RT_MERGED_BODY int enc_BackoffControlParams(rtxContext* RT_RESTRICT ctx, const BackoffControlParams* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "BackoffControlParams");
+   /* n-AP-RetransMax */
+   if ((uint64_t)(pvalue->n_AP_RetransMax - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "N-AP-RetransMax");
+      rtxErrAddUIntParm(ctx, pvalue->n_AP_RetransMax);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "N-AP-RetransMax", "n-AP-RetransMax", -1, "BackoffControlParams");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->n_AP_RetransMax, 1, 64);
+   RT_CHECK_PUT(ctx, cur, stat, "N-AP-RetransMax", "n-AP-RetransMax", -1, "BackoffControlParams");
+   /* n-AccessFails */
+   if ((uint64_t)(pvalue->n_AccessFails - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "N-AccessFails");
+      rtxErrAddUIntParm(ctx, pvalue->n_AccessFails);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "N-AccessFails", "n-AccessFails", -1, "BackoffControlParams");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->n_AccessFails, 1, 64);
+   RT_CHECK_PUT(ctx, cur, stat, "N-AccessFails", "n-AccessFails", -1, "BackoffControlParams");
+   /* nf-BO-NoAICH */
+   if ((uint64_t)pvalue->nf_BO_NoAICH > 31u) {
+      rtxErrAddStrParm(ctx, "NF-BO-NoAICH");
+      rtxErrAddUIntParm(ctx, pvalue->nf_BO_NoAICH);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "NF-BO-NoAICH", "nf-BO-NoAICH", -1, "BackoffControlParams");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->nf_BO_NoAICH, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, "NF-BO-NoAICH", "nf-BO-NoAICH", -1, "BackoffControlParams");
+   /* ns-BO-Busy */
+   if ((uint64_t)pvalue->ns_BO_Busy > 63u) {
+      rtxErrAddStrParm(ctx, "NS-BO-Busy");
+      rtxErrAddUIntParm(ctx, pvalue->ns_BO_Busy);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "NS-BO-Busy", "ns-BO-Busy", -1, "BackoffControlParams");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ns_BO_Busy, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, "NS-BO-Busy", "ns-BO-Busy", -1, "BackoffControlParams");
+   /* nf-BO-AllBusy */
+   if ((uint64_t)pvalue->nf_BO_AllBusy > 31u) {
+      rtxErrAddStrParm(ctx, "NF-BO-AllBusy");
+      rtxErrAddUIntParm(ctx, pvalue->nf_BO_AllBusy);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "NF-BO-AllBusy", "nf-BO-AllBusy", -1, "BackoffControlParams");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->nf_BO_AllBusy, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, "NF-BO-AllBusy", "nf-BO-AllBusy", -1, "BackoffControlParams");
+   /* nf-BO-Mismatch */
+   if ((uint64_t)pvalue->nf_BO_Mismatch > 127u) {
+      rtxErrAddStrParm(ctx, "NF-BO-Mismatch");
+      rtxErrAddUIntParm(ctx, pvalue->nf_BO_Mismatch);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "NF-BO-Mismatch", "nf-BO-Mismatch", -1, "BackoffControlParams");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->nf_BO_Mismatch, 0, 127);
+   RT_CHECK_PUT(ctx, cur, stat, "NF-BO-Mismatch", "nf-BO-Mismatch", -1, "BackoffControlParams");
+   /* t-CPCH */
+   if (pvalue->t_CPCH > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->t_CPCH);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "T-CPCH", "t-CPCH", -1, "BackoffControlParams");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->t_CPCH, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "T-CPCH", "t-CPCH", -1, "BackoffControlParams");
+   return 0;
+}
+
+int asn1PE_UMTS_BackoffControlParams(rtxContext* RT_RESTRICT ctx, const BackoffControlParams* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_BackoffControlParams, pvalue);
+}
+
+RT_MERGED_BODY int enc_BandComb(rtxContext* RT_RESTRICT ctx, BandComb value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 255u) {
+      rtxErrAddStrParm(ctx, "BandComb");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "BandComb");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 256);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "BandComb");
+   return 0;
+}
+
+int asn1PE_UMTS_BandComb(rtxContext* RT_RESTRICT ctx, BandComb value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_BandComb, value);
+}
+
+RT_MERGED_BODY int enc_C_RNTI(rtxContext* RT_RESTRICT ctx, C_RNTI value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &value, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "C-RNTI");
+   return 0;
+}
+
+int asn1PE_UMTS_C_RNTI(rtxContext* RT_RESTRICT ctx, C_RNTI value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_C_RNTI, value);
+}
+
+RT_MERGED_BODY int enc_SystemSpecificCapUpdateReq(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReq value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "SystemSpecificCapUpdateReq");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SystemSpecificCapUpdateReq");
+   return 0;
+}
+
+int asn1PE_UMTS_SystemSpecificCapUpdateReq(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReq value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SystemSpecificCapUpdateReq, value);
+}
+
+RT_MERGED_BODY int enc_SystemSpecificCapUpdateReqList(rtxContext* RT_RESTRICT ctx, const SystemSpecificCapUpdateReqList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SystemSpecificCapUpdateReqList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "SystemSpecificCapUpdateReqList");
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "SystemSpecificCapUpdateReq", "SystemSpecificCapUpdateReq", (int32_t)i, "SystemSpecificCapUpdateReqList");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, "SystemSpecificCapUpdateReq", "SystemSpecificCapUpdateReq", (int32_t)i, "SystemSpecificCapUpdateReqList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SystemSpecificCapUpdateReqList(rtxContext* RT_RESTRICT ctx, const SystemSpecificCapUpdateReqList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SystemSpecificCapUpdateReqList, pvalue);
+}
+
+RT_MERGED_BODY int enc_CapabilityUpdateRequirement(rtxContext* RT_RESTRICT ctx, const CapabilityUpdateRequirement* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CapabilityUpdateRequirement");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CapabilityUpdateRequirement");
+   /* ue-RadioCapabilityFDDUpdateRequirement */
+   stat = rtxEncBitAt(ctx, cur, pvalue->ue_RadioCapabilityFDDUpdateRequirement);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ue-RadioCapabilityFDDUpdateRequirement", -1, "CapabilityUpdateRequirement");
+   /* ue-RadioCapabilityTDDUpdateRequirement */
+   stat = rtxEncBitAt(ctx, cur, pvalue->ue_RadioCapabilityTDDUpdateRequirement);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement", -1, "CapabilityUpdateRequirement");
+   /* systemSpecificCapUpdateReqList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SystemSpecificCapUpdateReqList(ctx, &pvalue->systemSpecificCapUpdateReqList, cur);
+      RT_CHECK(ctx, stat, 0, "systemSpecificCapUpdateReqList", -1, "CapabilityUpdateRequirement");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CapabilityUpdateRequirement(rtxContext* RT_RESTRICT ctx, const CapabilityUpdateRequirement* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CapabilityUpdateRequirement, pvalue);
+}
+
+RT_MERGED_BODY int enc_CapabilityUpdateRequirement_r4_ext(rtxContext* RT_RESTRICT ctx, const CapabilityUpdateRequirement_r4_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CapabilityUpdateRequirement-r4-ext");
+   /* ue-RadioCapabilityUpdateRequirement-TDD128 */
+   stat = rtxEncBitAt(ctx, cur, pvalue->ue_RadioCapabilityUpdateRequirement_TDD128);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ue-RadioCapabilityUpdateRequirement-TDD128", -1, "CapabilityUpdateRequirement-r4-ext");
+   return 0;
+}
+
+int asn1PE_UMTS_CapabilityUpdateRequirement_r4_ext(rtxContext* RT_RESTRICT ctx, const CapabilityUpdateRequirement_r4_ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CapabilityUpdateRequirement_r4_ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_CapabilityUpdateRequirement_r4(rtxContext* RT_RESTRICT ctx, const CapabilityUpdateRequirement_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CapabilityUpdateRequirement-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CapabilityUpdateRequirement-r4");
+   /* ue-RadioCapabilityFDDUpdateRequirement-FDD */
+   stat = rtxEncBitAt(ctx, cur, pvalue->ue_RadioCapabilityFDDUpdateRequirement_FDD);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ue-RadioCapabilityFDDUpdateRequirement-FDD", -1, "CapabilityUpdateRequirement-r4");
+   /* ue-RadioCapabilityTDDUpdateRequirement-TDD384 */
+   stat = rtxEncBitAt(ctx, cur, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD384);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD384", -1, "CapabilityUpdateRequirement-r4");
+   /* ue-RadioCapabilityTDDUpdateRequirement-TDD128 */
+   stat = rtxEncBitAt(ctx, cur, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD128);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD128", -1, "CapabilityUpdateRequirement-r4");
+   /* systemSpecificCapUpdateReqList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SystemSpecificCapUpdateReqList(ctx, &pvalue->systemSpecificCapUpdateReqList, cur);
+      RT_CHECK(ctx, stat, 0, "systemSpecificCapUpdateReqList", -1, "CapabilityUpdateRequirement-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CapabilityUpdateRequirement_r4(rtxContext* RT_RESTRICT ctx, const CapabilityUpdateRequirement_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CapabilityUpdateRequirement_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_SystemSpecificCapUpdateReq_r5(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReq_r5 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "SystemSpecificCapUpdateReq-r5");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SystemSpecificCapUpdateReq-r5");
+   return 0;
+}
+
+int asn1PE_UMTS_SystemSpecificCapUpdateReq_r5(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReq_r5 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SystemSpecificCapUpdateReq_r5, value);
+}
+
+RT_MERGED_BODY int enc_SystemSpecificCapUpdateReqList_r5(rtxContext* RT_RESTRICT ctx, const SystemSpecificCapUpdateReqList_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SystemSpecificCapUpdateReqList-r5");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "SystemSpecificCapUpdateReqList-r5");
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "SystemSpecificCapUpdateReq-r5", "SystemSpecificCapUpdateReq-r5", (int32_t)i, "SystemSpecificCapUpdateReqList-r5");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 1);
+      RT_CHECK_PUT(ctx, cur, stat, "SystemSpecificCapUpdateReq-r5", "SystemSpecificCapUpdateReq-r5", (int32_t)i, "SystemSpecificCapUpdateReqList-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SystemSpecificCapUpdateReqList_r5(rtxContext* RT_RESTRICT ctx, const SystemSpecificCapUpdateReqList_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SystemSpecificCapUpdateReqList_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_CapabilityUpdateRequirement_r5(rtxContext* RT_RESTRICT ctx, const CapabilityUpdateRequirement_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CapabilityUpdateRequirement-r5");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CapabilityUpdateRequirement-r5");
+   /* ue-RadioCapabilityFDDUpdateRequirement-FDD */
+   stat = rtxEncBitAt(ctx, cur, pvalue->ue_RadioCapabilityFDDUpdateRequirement_FDD);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ue-RadioCapabilityFDDUpdateRequirement-FDD", -1, "CapabilityUpdateRequirement-r5");
+   /* ue-RadioCapabilityTDDUpdateRequirement-TDD384 */
+   stat = rtxEncBitAt(ctx, cur, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD384);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD384", -1, "CapabilityUpdateRequirement-r5");
+   /* ue-RadioCapabilityTDDUpdateRequirement-TDD128 */
+   stat = rtxEncBitAt(ctx, cur, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD128);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD128", -1, "CapabilityUpdateRequirement-r5");
+   /* systemSpecificCapUpdateReqList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SystemSpecificCapUpdateReqList_r5(ctx, &pvalue->systemSpecificCapUpdateReqList, cur);
+      RT_CHECK(ctx, stat, 0, "systemSpecificCapUpdateReqList", -1, "CapabilityUpdateRequirement-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CapabilityUpdateRequirement_r5(rtxContext* RT_RESTRICT ctx, const CapabilityUpdateRequirement_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CapabilityUpdateRequirement_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_CapabilityUpdateRequirement_v770ext(rtxContext* RT_RESTRICT ctx, const CapabilityUpdateRequirement_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CapabilityUpdateRequirement-v770ext");
+   /* ue-RadioCapabilityTDDUpdateRequirement-TDD768 */
+   stat = rtxEncBitAt(ctx, cur, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD768);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD768", -1, "CapabilityUpdateRequirement-v770ext");
+   return 0;
+}
+
+int asn1PE_UMTS_CapabilityUpdateRequirement_v770ext(rtxContext* RT_RESTRICT ctx, const CapabilityUpdateRequirement_v770ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CapabilityUpdateRequirement_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_CapabilityUpdateRequirement_r7(rtxContext* RT_RESTRICT ctx, const CapabilityUpdateRequirement_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CapabilityUpdateRequirement-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CapabilityUpdateRequirement-r7");
+   /* ue-RadioCapabilityFDDUpdateRequirement-FDD */
+   stat = rtxEncBitAt(ctx, cur, pvalue->ue_RadioCapabilityFDDUpdateRequirement_FDD);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ue-RadioCapabilityFDDUpdateRequirement-FDD", -1, "CapabilityUpdateRequirement-r7");
+   /* ue-RadioCapabilityTDDUpdateRequirement-TDD384 */
+   stat = rtxEncBitAt(ctx, cur, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD384);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD384", -1, "CapabilityUpdateRequirement-r7");
+   /* ue-RadioCapabilityTDDUpdateRequirement-TDD768 */
+   stat = rtxEncBitAt(ctx, cur, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD768);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD768", -1, "CapabilityUpdateRequirement-r7");
+   /* ue-RadioCapabilityTDDUpdateRequirement-TDD128 */
+   stat = rtxEncBitAt(ctx, cur, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD128);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD128", -1, "CapabilityUpdateRequirement-r7");
+   /* systemSpecificCapUpdateReqList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SystemSpecificCapUpdateReqList_r5(ctx, &pvalue->systemSpecificCapUpdateReqList, cur);
+      RT_CHECK(ctx, stat, 0, "systemSpecificCapUpdateReqList", -1, "CapabilityUpdateRequirement-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CapabilityUpdateRequirement_r7(rtxContext* RT_RESTRICT ctx, const CapabilityUpdateRequirement_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CapabilityUpdateRequirement_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_SystemSpecificCapUpdateReq_r8(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReq_r8 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "SystemSpecificCapUpdateReq-r8");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SystemSpecificCapUpdateReq-r8");
+   return 0;
+}
+
+int asn1PE_UMTS_SystemSpecificCapUpdateReq_r8(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReq_r8 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SystemSpecificCapUpdateReq_r8, value);
+}
+
+RT_MERGED_BODY int enc_SystemSpecificCapUpdateReqList_r8(rtxContext* RT_RESTRICT ctx, const SystemSpecificCapUpdateReqList_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SystemSpecificCapUpdateReqList-r8");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "SystemSpecificCapUpdateReqList-r8");
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "SystemSpecificCapUpdateReq-r8", "SystemSpecificCapUpdateReq-r8", (int32_t)i, "SystemSpecificCapUpdateReqList-r8");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "SystemSpecificCapUpdateReq-r8", "SystemSpecificCapUpdateReq-r8", (int32_t)i, "SystemSpecificCapUpdateReqList-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SystemSpecificCapUpdateReqList_r8(rtxContext* RT_RESTRICT ctx, const SystemSpecificCapUpdateReqList_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SystemSpecificCapUpdateReqList_r8, pvalue);
+}
+
+RT_MERGED_BODY int enc_CapabilityUpdateRequirement_v860ext(rtxContext* RT_RESTRICT ctx, const CapabilityUpdateRequirement_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CapabilityUpdateRequirement-v860ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CapabilityUpdateRequirement-v860ext");
+   /* systemSpecificCapUpdateReqList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SystemSpecificCapUpdateReqList_r8(ctx, &pvalue->systemSpecificCapUpdateReqList, cur);
+      RT_CHECK(ctx, stat, 0, "systemSpecificCapUpdateReqList", -1, "CapabilityUpdateRequirement-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CapabilityUpdateRequirement_v860ext(rtxContext* RT_RESTRICT ctx, const CapabilityUpdateRequirement_v860ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CapabilityUpdateRequirement_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_CapabilityUpdateRequirement_r8(rtxContext* RT_RESTRICT ctx, const CapabilityUpdateRequirement_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CapabilityUpdateRequirement-r8");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CapabilityUpdateRequirement-r8");
+   /* ue-RadioCapabilityFDDUpdateRequirement-FDD */
+   stat = rtxEncBitAt(ctx, cur, pvalue->ue_RadioCapabilityFDDUpdateRequirement_FDD);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ue-RadioCapabilityFDDUpdateRequirement-FDD", -1, "CapabilityUpdateRequirement-r8");
+   /* ue-RadioCapabilityTDDUpdateRequirement-TDD384 */
+   stat = rtxEncBitAt(ctx, cur, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD384);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD384", -1, "CapabilityUpdateRequirement-r8");
+   /* ue-RadioCapabilityTDDUpdateRequirement-TDD768 */
+   stat = rtxEncBitAt(ctx, cur, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD768);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD768", -1, "CapabilityUpdateRequirement-r8");
+   /* ue-RadioCapabilityTDDUpdateRequirement-TDD128 */
+   stat = rtxEncBitAt(ctx, cur, pvalue->ue_RadioCapabilityTDDUpdateRequirement_TDD128);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ue-RadioCapabilityTDDUpdateRequirement-TDD128", -1, "CapabilityUpdateRequirement-r8");
+   /* systemSpecificCapUpdateReqList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SystemSpecificCapUpdateReqList_r8(ctx, &pvalue->systemSpecificCapUpdateReqList, cur);
+      RT_CHECK(ctx, stat, 0, "systemSpecificCapUpdateReqList", -1, "CapabilityUpdateRequirement-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CapabilityUpdateRequirement_r8(rtxContext* RT_RESTRICT ctx, const CapabilityUpdateRequirement_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CapabilityUpdateRequirement_r8, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellUpdateCause(rtxContext* RT_RESTRICT ctx, CellUpdateCause value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "CellUpdateCause");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CellUpdateCause");
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateCause(rtxContext* RT_RESTRICT ctx, CellUpdateCause value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellUpdateCause, value);
+}
+
+RT_MERGED_BODY int enc_CellUpdateCause_ext(rtxContext* RT_RESTRICT ctx, CellUpdateCause_ext value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "CellUpdateCause-ext");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CellUpdateCause-ext");
+   return 0;
+}
+
+int asn1PE_UMTS_CellUpdateCause_ext(rtxContext* RT_RESTRICT ctx, CellUpdateCause_ext value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellUpdateCause_ext, value);
+}
+
+RT_MERGED_BODY int enc_ChipRateCapability(rtxContext* RT_RESTRICT ctx, ChipRateCapability value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "ChipRateCapability");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ChipRateCapability");
+   return 0;
+}
+
+int asn1PE_UMTS_ChipRateCapability(rtxContext* RT_RESTRICT ctx, ChipRateCapability value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ChipRateCapability, value);
+}
+
+RT_MERGED_BODY int enc_CipheringAlgorithm(rtxContext* RT_RESTRICT ctx, CipheringAlgorithm value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "CipheringAlgorithm");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CipheringAlgorithm");
+   return 0;
+}
+
+int asn1PE_UMTS_CipheringAlgorithm(rtxContext* RT_RESTRICT ctx, CipheringAlgorithm value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CipheringAlgorithm, value);
+}
+
+RT_MERGED_BODY int enc_CipheringAlgorithm_r7(rtxContext* RT_RESTRICT ctx, CipheringAlgorithm_r7 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 2) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "CipheringAlgorithm-r7");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CipheringAlgorithm-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_CipheringAlgorithm_r7(rtxContext* RT_RESTRICT ctx, CipheringAlgorithm_r7 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CipheringAlgorithm_r7, value);
+}
+
+RT_MERGED_BODY int enc_CipheringModeCommand(rtxContext* RT_RESTRICT ctx, const CipheringModeCommand* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CipheringModeCommand");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "CipheringModeCommand");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "CipheringModeCommand");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.startRestart > 1) {
+            rtxErrAddUIntParm(ctx, pvalue->u.startRestart);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "CipheringAlgorithm", "startRestart", -1, "CipheringModeCommand");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.startRestart, 0, 1);
+         RT_CHECK_PUT(ctx, cur, stat, "CipheringAlgorithm", "startRestart", -1, "CipheringModeCommand");
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CipheringModeCommand(rtxContext* RT_RESTRICT ctx, const CipheringModeCommand* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CipheringModeCommand, pvalue);
+}
+
+RT_MERGED_BODY int enc_CipheringModeCommand_r7(rtxContext* RT_RESTRICT ctx, const CipheringModeCommand_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CipheringModeCommand-r7");
+   /* startRestart */
+   if (pvalue->startRestart > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->startRestart);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "CipheringAlgorithm-r7", "startRestart", -1, "CipheringModeCommand-r7");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->startRestart, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, "CipheringAlgorithm-r7", "startRestart", -1, "CipheringModeCommand-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_CipheringModeCommand_r7(rtxContext* RT_RESTRICT ctx, const CipheringModeCommand_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CipheringModeCommand_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_RLC_SequenceNumber(rtxContext* RT_RESTRICT ctx, RLC_SequenceNumber value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 4095u) {
+      rtxErrAddStrParm(ctx, "RLC-SequenceNumber");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "RLC-SequenceNumber");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 4095);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RLC-SequenceNumber");
+   return 0;
+}
+
+int asn1PE_UMTS_RLC_SequenceNumber(rtxContext* RT_RESTRICT ctx, RLC_SequenceNumber value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RLC_SequenceNumber, value);
+}
+
+RT_MERGED_BODY int enc_RB_ActivationTimeInfo(rtxContext* RT_RESTRICT ctx, const RB_ActivationTimeInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-ActivationTimeInfo");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-ActivationTimeInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->rb_Identity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-ActivationTimeInfo");
+   /* rlc-SequenceNumber */
+   if ((uint64_t)pvalue->rlc_SequenceNumber > 4095u) {
+      rtxErrAddStrParm(ctx, "RLC-SequenceNumber");
+      rtxErrAddUIntParm(ctx, pvalue->rlc_SequenceNumber);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RLC-SequenceNumber", "rlc-SequenceNumber", -1, "RB-ActivationTimeInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->rlc_SequenceNumber, 0, 4095);
+   RT_CHECK_PUT(ctx, cur, stat, "RLC-SequenceNumber", "rlc-SequenceNumber", -1, "RB-ActivationTimeInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_RB_ActivationTimeInfo(rtxContext* RT_RESTRICT ctx, const RB_ActivationTimeInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_ActivationTimeInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_ActivationTimeInfoList(rtxContext* RT_RESTRICT ctx, const RB_ActivationTimeInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-ActivationTimeInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RB-ActivationTimeInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RB-ActivationTimeInfo", (int32_t)i, "RB-ActivationTimeInfoList");
+      stat = enc_RB_ActivationTimeInfo(ctx, (const RB_ActivationTimeInfo*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RB-ActivationTimeInfo", (int32_t)i, "RB-ActivationTimeInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_ActivationTimeInfoList(rtxContext* RT_RESTRICT ctx, const RB_ActivationTimeInfoList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_ActivationTimeInfoList, pvalue);
+}
+
+RT_MERGED_BODY int enc_CipheringModeInfo(rtxContext* RT_RESTRICT ctx, const CipheringModeInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CipheringModeInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CipheringModeInfo");
+   /* cipheringModeCommand */
+   stat = enc_CipheringModeCommand(ctx, &pvalue->cipheringModeCommand, cur);
+   RT_CHECK(ctx, stat, 0, "cipheringModeCommand", -1, "CipheringModeInfo");
+   /* activationTimeForDPCH */
+   if (pvalue->m & 0x1u) {
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->activationTimeForDPCH, 0, 255);
+      RT_CHECK_PUT(ctx, cur, stat, "ActivationTime", "activationTimeForDPCH", -1, "CipheringModeInfo");
+   }
+   /* rb-DL-CiphActivationTimeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = enc_RB_ActivationTimeInfoList(ctx, &pvalue->rb_DL_CiphActivationTimeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "rb-DL-CiphActivationTimeInfo", -1, "CipheringModeInfo");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CipheringModeInfo(rtxContext* RT_RESTRICT ctx, const CipheringModeInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CipheringModeInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_CipheringModeInfo_r7(rtxContext* RT_RESTRICT ctx, const CipheringModeInfo_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CipheringModeInfo-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CipheringModeInfo-r7");
+   /* cipheringModeCommand */
+   stat = enc_CipheringModeCommand_r7(ctx, &pvalue->cipheringModeCommand, cur);
+   RT_CHECK(ctx, stat, 0, "cipheringModeCommand", -1, "CipheringModeInfo-r7");
+   /* activationTimeForDPCH */
+   if (pvalue->m & 0x1u) {
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->activationTimeForDPCH, 0, 255);
+      RT_CHECK_PUT(ctx, cur, stat, "ActivationTime", "activationTimeForDPCH", -1, "CipheringModeInfo-r7");
+   }
+   /* rb-DL-CiphActivationTimeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = enc_RB_ActivationTimeInfoList(ctx, &pvalue->rb_DL_CiphActivationTimeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "rb-DL-CiphActivationTimeInfo", -1, "CipheringModeInfo-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CipheringModeInfo_r7(rtxContext* RT_RESTRICT ctx, const CipheringModeInfo_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CipheringModeInfo_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_IMSI_DS_41(rtxContext* RT_RESTRICT ctx, const IMSI_DS_41* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IMSI-DS-41");
+   RT_SET_SIZE(ctx, 5, 7);
+   stat = pe_OctetStringAt(ctx, cur, pvalue->numocts, pvalue->data);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IMSI-DS-41");
+   return 0;
+}
+
+int asn1PE_UMTS_IMSI_DS_41(rtxContext* RT_RESTRICT ctx, const IMSI_DS_41* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IMSI_DS_41, pvalue);
+}
+
+RT_MERGED_BODY int enc_TMSI_DS_41(rtxContext* RT_RESTRICT ctx, const TMSI_DS_41* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TMSI-DS-41");
+   RT_SET_SIZE(ctx, 2, 17);
+   stat = pe_OctetStringAt(ctx, cur, pvalue->numocts, pvalue->data);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TMSI-DS-41");
+   return 0;
+}
+
+int asn1PE_UMTS_TMSI_DS_41(rtxContext* RT_RESTRICT ctx, const TMSI_DS_41* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TMSI_DS_41, pvalue);
+}
+
+RT_MERGED_BODY int enc_CN_PagedUE_Identity(rtxContext* RT_RESTRICT ctx, const CN_PagedUE_Identity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CN-PagedUE-Identity");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "CN-PagedUE-Identity");
+   if (pvalue->t - 1 > 7) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "CN-PagedUE-Identity");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.imsi_GSM_MAP == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "imsi-GSM-MAP", -1, "CN-PagedUE-Identity");
+         stat = enc_IMSI_GSM_MAP(ctx, pvalue->u.imsi_GSM_MAP, cur);
+         RT_CHECK(ctx, stat, 0, "imsi-GSM-MAP", -1, "CN-PagedUE-Identity");
+         break;
+      case 2:
+         if (pvalue->u.tmsi_GSM_MAP == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tmsi-GSM-MAP", -1, "CN-PagedUE-Identity");
+         stat = enc_TMSI_GSM_MAP(ctx, *pvalue->u.tmsi_GSM_MAP, cur);
+         RT_CHECK(ctx, stat, 0, "tmsi-GSM-MAP", -1, "CN-PagedUE-Identity");
+         break;
+      case 3:
+         if (pvalue->u.p_TMSI_GSM_MAP == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "p-TMSI-GSM-MAP", -1, "CN-PagedUE-Identity");
+         stat = enc_P_TMSI_GSM_MAP(ctx, *pvalue->u.p_TMSI_GSM_MAP, cur);
+         RT_CHECK(ctx, stat, 0, "p-TMSI-GSM-MAP", -1, "CN-PagedUE-Identity");
+         break;
+      case 4:
+         if (pvalue->u.imsi_DS_41 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "imsi-DS-41", -1, "CN-PagedUE-Identity");
+         stat = enc_IMSI_DS_41(ctx, pvalue->u.imsi_DS_41, cur);
+         RT_CHECK(ctx, stat, 0, "imsi-DS-41", -1, "CN-PagedUE-Identity");
+         break;
+      case 5:
+         if (pvalue->u.tmsi_DS_41 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tmsi-DS-41", -1, "CN-PagedUE-Identity");
+         stat = enc_TMSI_DS_41(ctx, pvalue->u.tmsi_DS_41, cur);
+         RT_CHECK(ctx, stat, 0, "tmsi-DS-41", -1, "CN-PagedUE-Identity");
+         break;
+      case 6:
+         break;
+      case 7:
+         break;
+      case 8:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CN_PagedUE_Identity(rtxContext* RT_RESTRICT ctx, const CN_PagedUE_Identity* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CN_PagedUE_Identity, pvalue);
+}
+
+RT_MERGED_BODY int enc_GSM_Measurements(rtxContext* RT_RESTRICT ctx, const GSM_Measurements* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GSM-Measurements");
+   /* gsm900 */
+   stat = rtxEncBitAt(ctx, cur, pvalue->gsm900);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "gsm900", -1, "GSM-Measurements");
+   /* dcs1800 */
+   stat = rtxEncBitAt(ctx, cur, pvalue->dcs1800);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "dcs1800", -1, "GSM-Measurements");
+   /* gsm1900 */
+   stat = rtxEncBitAt(ctx, cur, pvalue->gsm1900);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "gsm1900", -1, "GSM-Measurements");
+   return 0;
+}
+
+int asn1PE_UMTS_GSM_Measurements(rtxContext* RT_RESTRICT ctx, const GSM_Measurements* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GSM_Measurements, pvalue);
+}
+
+RT_MERGED_BODY int enc_CompressedModeMeasCapability(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapability");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CompressedModeMeasCapability");
+   /* fdd-Measurements */
+   stat = rtxEncBitAt(ctx, cur, pvalue->fdd_Measurements);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "fdd-Measurements", -1, "CompressedModeMeasCapability");
+   /* tdd-Measurements */
+   if (pvalue->m & 0x1u) {
+      stat = rtxEncBitAt(ctx, cur, pvalue->tdd_Measurements);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "tdd-Measurements", -1, "CompressedModeMeasCapability");
+   }
+   /* gsm-Measurements */
+   if (pvalue->m & 0x2u) {
+      stat = enc_GSM_Measurements(ctx, &pvalue->gsm_Measurements, cur);
+      RT_CHECK(ctx, stat, 0, "gsm-Measurements", -1, "CompressedModeMeasCapability");
+   }
+   /* multiCarrierMeasurements */
+   if (pvalue->m & 0x4u) {
+      stat = rtxEncBitAt(ctx, cur, pvalue->multiCarrierMeasurements);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "multiCarrierMeasurements", -1, "CompressedModeMeasCapability");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CompressedModeMeasCapability(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapability* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CompressedModeMeasCapability, pvalue);
+}
+
+RT_MERGED_BODY int enc_CompressedModeMeasCapability_LCR_r4(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapability_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapability-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CompressedModeMeasCapability-LCR-r4");
+   /* tdd128-Measurements */
+   if (pvalue->m & 0x1u) {
+      stat = rtxEncBitAt(ctx, cur, pvalue->tdd128_Measurements);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "tdd128-Measurements", -1, "CompressedModeMeasCapability-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CompressedModeMeasCapability_LCR_r4(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapability_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CompressedModeMeasCapability_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_CompressedModeMeasCapability_v860ext_adjacentFrequencyMeasurements(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability_v860ext_adjacentFrequencyMeasurements value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CompressedModeMeasCapability_v860ext_adjacentFrequencyMeasurements(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability_v860ext_adjacentFrequencyMeasurements value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CompressedModeMeasCapability_v860ext_adjacentFrequencyMeasurements, value);
+}
+
+RT_MERGED_BODY int enc_CompressedModeMeasCapability_v860ext(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapability_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapability-v860ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CompressedModeMeasCapability-v860ext");
+   /* adjacentFrequencyMeasurements */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->adjacentFrequencyMeasurements > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->adjacentFrequencyMeasurements);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "adjacentFrequencyMeasurements", -1, "CompressedModeMeasCapability-v860ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->adjacentFrequencyMeasurements, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "adjacentFrequencyMeasurements", -1, "CompressedModeMeasCapability-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CompressedModeMeasCapability_v860ext(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapability_v860ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CompressedModeMeasCapability_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_CompressedModeMeasCapability_v920ext_interBandMeasurements(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability_v920ext_interBandMeasurements value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CompressedModeMeasCapability_v920ext_interBandMeasurements(rtxContext* RT_RESTRICT ctx, CompressedModeMeasCapability_v920ext_interBandMeasurements value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CompressedModeMeasCapability_v920ext_interBandMeasurements, value);
+}
+
+RT_MERGED_BODY int enc_CompressedModeMeasCapability_v920ext(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapability_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapability-v920ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CompressedModeMeasCapability-v920ext");
+   /* interBandMeasurements */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->interBandMeasurements > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->interBandMeasurements);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "interBandMeasurements", -1, "CompressedModeMeasCapability-v920ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->interBandMeasurements, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "interBandMeasurements", -1, "CompressedModeMeasCapability-v920ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CompressedModeMeasCapability_v920ext(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapability_v920ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CompressedModeMeasCapability_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_RadioFrequencyBandEUTRA(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandEUTRA value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "RadioFrequencyBandEUTRA");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "RadioFrequencyBandEUTRA");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 64);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RadioFrequencyBandEUTRA");
+   return 0;
+}
+
+int asn1PE_UMTS_RadioFrequencyBandEUTRA(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandEUTRA value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RadioFrequencyBandEUTRA, value);
+}
+
+RT_MERGED_BODY int enc_CompressedModeMeasCapabEUTRA(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabEUTRA* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapabEUTRA");
+   /* radioFrequencyBandEUTRA */
+   if ((uint64_t)(pvalue->radioFrequencyBandEUTRA - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "RadioFrequencyBandEUTRA");
+      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandEUTRA);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RadioFrequencyBandEUTRA", "radioFrequencyBandEUTRA", -1, "CompressedModeMeasCapabEUTRA");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->radioFrequencyBandEUTRA, 1, 64);
+   RT_CHECK_PUT(ctx, cur, stat, "RadioFrequencyBandEUTRA", "radioFrequencyBandEUTRA", -1, "CompressedModeMeasCapabEUTRA");
+   /* compressedMode */
+   stat = rtxEncBitAt(ctx, cur, pvalue->compressedMode);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "compressedMode", -1, "CompressedModeMeasCapabEUTRA");
+   return 0;
+}
+
+int asn1PE_UMTS_CompressedModeMeasCapabEUTRA(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabEUTRA* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CompressedModeMeasCapabEUTRA, pvalue);
+}
+
+RT_MERGED_BODY int enc_CompressedModeMeasCapabEUTRAList(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabEUTRAList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapabEUTRAList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "CompressedModeMeasCapabEUTRAList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "CompressedModeMeasCapabEUTRA", (int32_t)i, "CompressedModeMeasCapabEUTRAList");
+      stat = enc_CompressedModeMeasCapabEUTRA(ctx, (const CompressedModeMeasCapabEUTRA*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "CompressedModeMeasCapabEUTRA", (int32_t)i, "CompressedModeMeasCapabEUTRAList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CompressedModeMeasCapabEUTRAList(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabEUTRAList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CompressedModeMeasCapabEUTRAList, pvalue);
+}
+
+RT_MERGED_BODY int enc_CompressedModeMeasCapabFDD(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabFDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapabFDD");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CompressedModeMeasCapabFDD");
+   /* radioFrequencyBandFDD */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->radioFrequencyBandFDD > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandFDD);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "CompressedModeMeasCapabFDD");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->radioFrequencyBandFDD, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "CompressedModeMeasCapabFDD");
+   }
+   /* dl-MeasurementsFDD */
+   stat = rtxEncBitAt(ctx, cur, pvalue->dl_MeasurementsFDD);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "dl-MeasurementsFDD", -1, "CompressedModeMeasCapabFDD");
+   /* ul-MeasurementsFDD */
+   stat = rtxEncBitAt(ctx, cur, pvalue->ul_MeasurementsFDD);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ul-MeasurementsFDD", -1, "CompressedModeMeasCapabFDD");
+   return 0;
+}
+
+int asn1PE_UMTS_CompressedModeMeasCapabFDD(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabFDD* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CompressedModeMeasCapabFDD, pvalue);
+}
+
+RT_MERGED_BODY int enc_CompressedModeMeasCapabFDDList(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabFDDList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapabFDDList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "CompressedModeMeasCapabFDDList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "CompressedModeMeasCapabFDD", (int32_t)i, "CompressedModeMeasCapabFDDList");
+      stat = enc_CompressedModeMeasCapabFDD(ctx, (const CompressedModeMeasCapabFDD*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "CompressedModeMeasCapabFDD", (int32_t)i, "CompressedModeMeasCapabFDDList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CompressedModeMeasCapabFDDList(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabFDDList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CompressedModeMeasCapabFDDList, pvalue);
+}
+
+RT_MERGED_BODY int enc_CompressedModeMeasCapabFDD2(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabFDD2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapabFDD2");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CompressedModeMeasCapabFDD2");
+   /* radioFrequencyBandFDD */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->radioFrequencyBandFDD > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandFDD);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "CompressedModeMeasCapabFDD2");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->radioFrequencyBandFDD, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "CompressedModeMeasCapabFDD2");
+   }
+   /* radioFrequencyBandFDD2 */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->radioFrequencyBandFDD2 > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandFDD2);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "RadioFrequencyBandFDD2", "radioFrequencyBandFDD2", -1, "CompressedModeMeasCapabFDD2");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->radioFrequencyBandFDD2, 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "RadioFrequencyBandFDD2", "radioFrequencyBandFDD2", -1, "CompressedModeMeasCapabFDD2");
+   }
+   /* dl-MeasurementsFDD */
+   stat = rtxEncBitAt(ctx, cur, pvalue->dl_MeasurementsFDD);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "dl-MeasurementsFDD", -1, "CompressedModeMeasCapabFDD2");
+   /* ul-MeasurementsFDD */
+   stat = rtxEncBitAt(ctx, cur, pvalue->ul_MeasurementsFDD);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ul-MeasurementsFDD", -1, "CompressedModeMeasCapabFDD2");
+   return 0;
+}
+
+int asn1PE_UMTS_CompressedModeMeasCapabFDD2(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabFDD2* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CompressedModeMeasCapabFDD2, pvalue);
+}
+
+RT_MERGED_BODY int enc_CompressedModeMeasCapabFDDList2(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabFDDList2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapabFDDList2");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "CompressedModeMeasCapabFDDList2");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "CompressedModeMeasCapabFDD2", (int32_t)i, "CompressedModeMeasCapabFDDList2");
+      stat = enc_CompressedModeMeasCapabFDD2(ctx, (const CompressedModeMeasCapabFDD2*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "CompressedModeMeasCapabFDD2", (int32_t)i, "CompressedModeMeasCapabFDDList2");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CompressedModeMeasCapabFDDList2(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabFDDList2* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CompressedModeMeasCapabFDDList2, pvalue);
+}
+
+RT_MERGED_BODY int enc_CompressedModeMeasCapabFDD_ext(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabFDD_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapabFDD-ext");
+   /* radioFrequencyBandFDD2 */
+   if (pvalue->radioFrequencyBandFDD2 > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandFDD2);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "RadioFrequencyBandFDD2", "radioFrequencyBandFDD2", -1, "CompressedModeMeasCapabFDD-ext");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->radioFrequencyBandFDD2, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "RadioFrequencyBandFDD2", "radioFrequencyBandFDD2", -1, "CompressedModeMeasCapabFDD-ext");
+   /* dl-MeasurementsFDD */
+   stat = rtxEncBitAt(ctx, cur, pvalue->dl_MeasurementsFDD);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "dl-MeasurementsFDD", -1, "CompressedModeMeasCapabFDD-ext");
+   /* ul-MeasurementsFDD */
+   stat = rtxEncBitAt(ctx, cur, pvalue->ul_MeasurementsFDD);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ul-MeasurementsFDD", -1, "CompressedModeMeasCapabFDD-ext");
+   return 0;
+}
+
+int asn1PE_UMTS_CompressedModeMeasCapabFDD_ext(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabFDD_ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CompressedModeMeasCapabFDD_ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_CompressedModeMeasCapabFDDList_ext(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabFDDList_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapabFDDList-ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "CompressedModeMeasCapabFDDList-ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "CompressedModeMeasCapabFDD-ext", (int32_t)i, "CompressedModeMeasCapabFDDList-ext");
+      stat = enc_CompressedModeMeasCapabFDD_ext(ctx, (const CompressedModeMeasCapabFDD_ext*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "CompressedModeMeasCapabFDD-ext", (int32_t)i, "CompressedModeMeasCapabFDDList-ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CompressedModeMeasCapabFDDList_ext(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabFDDList_ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CompressedModeMeasCapabFDDList_ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_RadioFrequencyBandTDD(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDD value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "RadioFrequencyBandTDD");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RadioFrequencyBandTDD");
+   return 0;
+}
+
+int asn1PE_UMTS_RadioFrequencyBandTDD(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDD value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RadioFrequencyBandTDD, value);
+}
+
+RT_MERGED_BODY int enc_CompressedModeMeasCapabTDD(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabTDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapabTDD");
+   /* radioFrequencyBandTDD */
+   if (pvalue->radioFrequencyBandTDD > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandTDD);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "RadioFrequencyBandTDD", "radioFrequencyBandTDD", -1, "CompressedModeMeasCapabTDD");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->radioFrequencyBandTDD, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "RadioFrequencyBandTDD", "radioFrequencyBandTDD", -1, "CompressedModeMeasCapabTDD");
+   /* dl-MeasurementsTDD */
+   stat = rtxEncBitAt(ctx, cur, pvalue->dl_MeasurementsTDD);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "dl-MeasurementsTDD", -1, "CompressedModeMeasCapabTDD");
+   /* ul-MeasurementsTDD */
+   stat = rtxEncBitAt(ctx, cur, pvalue->ul_MeasurementsTDD);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ul-MeasurementsTDD", -1, "CompressedModeMeasCapabTDD");
+   return 0;
+}
+
+int asn1PE_UMTS_CompressedModeMeasCapabTDD(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabTDD* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CompressedModeMeasCapabTDD, pvalue);
+}
+
+RT_MERGED_BODY int enc_CompressedModeMeasCapabTDDList(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabTDDList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapabTDDList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "CompressedModeMeasCapabTDDList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "CompressedModeMeasCapabTDD", (int32_t)i, "CompressedModeMeasCapabTDDList");
+      stat = enc_CompressedModeMeasCapabTDD(ctx, (const CompressedModeMeasCapabTDD*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "CompressedModeMeasCapabTDD", (int32_t)i, "CompressedModeMeasCapabTDDList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CompressedModeMeasCapabTDDList(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabTDDList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CompressedModeMeasCapabTDDList, pvalue);
+}
+
+RT_MERGED_BODY int enc_RadioFrequencyBandGSM(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandGSM value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "RadioFrequencyBandGSM");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RadioFrequencyBandGSM");
+   return 0;
+}
+
+int asn1PE_UMTS_RadioFrequencyBandGSM(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandGSM value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RadioFrequencyBandGSM, value);
+}
+
+RT_MERGED_BODY int enc_CompressedModeMeasCapabGSM(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabGSM* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapabGSM");
+   /* radioFrequencyBandGSM */
+   if (pvalue->radioFrequencyBandGSM > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandGSM);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "RadioFrequencyBandGSM", "radioFrequencyBandGSM", -1, "CompressedModeMeasCapabGSM");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->radioFrequencyBandGSM, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "RadioFrequencyBandGSM", "radioFrequencyBandGSM", -1, "CompressedModeMeasCapabGSM");
+   /* dl-MeasurementsGSM */
+   stat = rtxEncBitAt(ctx, cur, pvalue->dl_MeasurementsGSM);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "dl-MeasurementsGSM", -1, "CompressedModeMeasCapabGSM");
+   /* ul-MeasurementsGSM */
+   stat = rtxEncBitAt(ctx, cur, pvalue->ul_MeasurementsGSM);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ul-MeasurementsGSM", -1, "CompressedModeMeasCapabGSM");
+   return 0;
+}
+
+int asn1PE_UMTS_CompressedModeMeasCapabGSM(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabGSM* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CompressedModeMeasCapabGSM, pvalue);
+}
+
+RT_MERGED_BODY int enc_CompressedModeMeasCapabGSMList(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabGSMList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapabGSMList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "CompressedModeMeasCapabGSMList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "CompressedModeMeasCapabGSM", (int32_t)i, "CompressedModeMeasCapabGSMList");
+      stat = enc_CompressedModeMeasCapabGSM(ctx, (const CompressedModeMeasCapabGSM*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "CompressedModeMeasCapabGSM", (int32_t)i, "CompressedModeMeasCapabGSMList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CompressedModeMeasCapabGSMList(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabGSMList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CompressedModeMeasCapabGSMList, pvalue);
+}
+
+RT_MERGED_BODY int enc_CompressedModeMeasCapabMC(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabMC* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CompressedModeMeasCapabMC");
+   /* dl-MeasurementsMC */
+   stat = rtxEncBitAt(ctx, cur, pvalue->dl_MeasurementsMC);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "dl-MeasurementsMC", -1, "CompressedModeMeasCapabMC");
+   /* ul-MeasurementsMC */
+   stat = rtxEncBitAt(ctx, cur, pvalue->ul_MeasurementsMC);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ul-MeasurementsMC", -1, "CompressedModeMeasCapabMC");
+   return 0;
+}
+
+int asn1PE_UMTS_CompressedModeMeasCapabMC(rtxContext* RT_RESTRICT ctx, const CompressedModeMeasCapabMC* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CompressedModeMeasCapabMC, pvalue);
+}
+
+RT_MERGED_BODY int enc_NS_IP(rtxContext* RT_RESTRICT ctx, NS_IP value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 28u) {
+      rtxErrAddStrParm(ctx, "NS-IP");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "NS-IP");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 28);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NS-IP");
+   return 0;
+}
+
+int asn1PE_UMTS_NS_IP(rtxContext* RT_RESTRICT ctx, NS_IP value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NS_IP, value);
+}
+
+RT_MERGED_BODY int enc_InitialPriorityDelayList(rtxContext* RT_RESTRICT ctx, const InitialPriorityDelayList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InitialPriorityDelayList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "InitialPriorityDelayList");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 28u) {
+         rtxErrAddStrParm(ctx, "NS-IP");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "NS-IP", "NS-IP", (int32_t)i, "InitialPriorityDelayList");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 28);
+      RT_CHECK_PUT(ctx, cur, stat, "NS-IP", "NS-IP", (int32_t)i, "InitialPriorityDelayList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InitialPriorityDelayList(rtxContext* RT_RESTRICT ctx, const InitialPriorityDelayList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InitialPriorityDelayList, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_DPCCH_BER(rtxContext* RT_RESTRICT ctx, DL_DPCCH_BER value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 63u) {
+      rtxErrAddStrParm(ctx, "DL-DPCCH-BER");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "DL-DPCCH-BER");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-DPCCH-BER");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCCH_BER(rtxContext* RT_RESTRICT ctx, DL_DPCCH_BER value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCCH_BER, value);
+}
+
+RT_MERGED_BODY int enc_CPCH_Parameters(rtxContext* RT_RESTRICT ctx, const CPCH_Parameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CPCH-Parameters");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CPCH-Parameters");
+   /* initialPriorityDelayList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_InitialPriorityDelayList(ctx, &pvalue->initialPriorityDelayList, cur);
+      RT_CHECK(ctx, stat, 0, "initialPriorityDelayList", -1, "CPCH-Parameters");
+   }
+   /* backoffControlParams */
+   stat = enc_BackoffControlParams(ctx, &pvalue->backoffControlParams, cur);
+   RT_CHECK(ctx, stat, 0, "backoffControlParams", -1, "CPCH-Parameters");
+   /* powerControlAlgorithm */
+   stat = enc_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm, cur);
+   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, "CPCH-Parameters");
+   /* dl-DPCCH-BER */
+   if ((uint64_t)pvalue->dl_DPCCH_BER > 63u) {
+      rtxErrAddStrParm(ctx, "DL-DPCCH-BER");
+      rtxErrAddUIntParm(ctx, pvalue->dl_DPCCH_BER);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DL-DPCCH-BER", "dl-DPCCH-BER", -1, "CPCH-Parameters");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dl_DPCCH_BER, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, "DL-DPCCH-BER", "dl-DPCCH-BER", -1, "CPCH-Parameters");
+   return 0;
+}
+
+int asn1PE_UMTS_CPCH_Parameters(rtxContext* RT_RESTRICT ctx, const CPCH_Parameters* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CPCH_Parameters, pvalue);
+}
+
+RT_MERGED_BODY int enc_CSG_ProximityIndicationCapability_supportOfIntraFreqProximityIndication(rtxContext* RT_RESTRICT ctx, CSG_ProximityIndicationCapability_supportOfIntraFreqProximityIndication value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CSG_ProximityIndicationCapability_supportOfIntraFreqProximityIndication(rtxContext* RT_RESTRICT ctx, CSG_ProximityIndicationCapability_supportOfIntraFreqProximityIndication value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CSG_ProximityIndicationCapability_supportOfIntraFreqProximityIndication, value);
+}
+
+RT_MERGED_BODY int enc_CSG_ProximityIndicationCapability_supportOfInterFreqProximityIndication(rtxContext* RT_RESTRICT ctx, CSG_ProximityIndicationCapability_supportOfInterFreqProximityIndication value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CSG_ProximityIndicationCapability_supportOfInterFreqProximityIndication(rtxContext* RT_RESTRICT ctx, CSG_ProximityIndicationCapability_supportOfInterFreqProximityIndication value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CSG_ProximityIndicationCapability_supportOfInterFreqProximityIndication, value);
+}
+
+RT_MERGED_BODY int enc_CSG_ProximityIndicationCapability_supportOfE_UtraProximityIndication(rtxContext* RT_RESTRICT ctx, CSG_ProximityIndicationCapability_supportOfE_UtraProximityIndication value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CSG_ProximityIndicationCapability_supportOfE_UtraProximityIndication(rtxContext* RT_RESTRICT ctx, CSG_ProximityIndicationCapability_supportOfE_UtraProximityIndication value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CSG_ProximityIndicationCapability_supportOfE_UtraProximityIndication, value);
+}
+
+RT_MERGED_BODY int enc_CSG_ProximityIndicationCapability(rtxContext* RT_RESTRICT ctx, const CSG_ProximityIndicationCapability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CSG-ProximityIndicationCapability");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CSG-ProximityIndicationCapability");
+   /* supportOfIntraFreqProximityIndication */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportOfIntraFreqProximityIndication > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfIntraFreqProximityIndication);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportOfIntraFreqProximityIndication", -1, "CSG-ProximityIndicationCapability");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportOfIntraFreqProximityIndication, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfIntraFreqProximityIndication", -1, "CSG-ProximityIndicationCapability");
+   }
+   /* supportOfInterFreqProximityIndication */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->supportOfInterFreqProximityIndication > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfInterFreqProximityIndication);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportOfInterFreqProximityIndication", -1, "CSG-ProximityIndicationCapability");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportOfInterFreqProximityIndication, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfInterFreqProximityIndication", -1, "CSG-ProximityIndicationCapability");
+   }
+   /* supportOfE-UtraProximityIndication */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->supportOfE_UtraProximityIndication > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfE_UtraProximityIndication);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportOfE-UtraProximityIndication", -1, "CSG-ProximityIndicationCapability");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportOfE_UtraProximityIndication, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfE-UtraProximityIndication", -1, "CSG-ProximityIndicationCapability");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CSG_ProximityIndicationCapability(rtxContext* RT_RESTRICT ctx, const CSG_ProximityIndicationCapability* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CSG_ProximityIndicationCapability, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CapabilityWithSimultaneousHS_DSCHConfig(rtxContext* RT_RESTRICT ctx, DL_CapabilityWithSimultaneousHS_DSCHConfig value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "DL-CapabilityWithSimultaneousHS-DSCHConfig");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-CapabilityWithSimultaneousHS-DSCHConfig");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CapabilityWithSimultaneousHS_DSCHConfig(rtxContext* RT_RESTRICT ctx, DL_CapabilityWithSimultaneousHS_DSCHConfig value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CapabilityWithSimultaneousHS_DSCHConfig, value);
+}
+
+RT_MERGED_BODY int enc_DPCH_FrameOffset(rtxContext* RT_RESTRICT ctx, DPCH_FrameOffset value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 149u) {
+      rtxErrAddStrParm(ctx, "DPCH-FrameOffset");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "DPCH-FrameOffset");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 149);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DPCH-FrameOffset");
+   return 0;
+}
+
+int asn1PE_UMTS_DPCH_FrameOffset(rtxContext* RT_RESTRICT ctx, DPCH_FrameOffset value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DPCH_FrameOffset, value);
+}
+
+RT_MERGED_BODY int enc_FDPCH_SlotFormat(rtxContext* RT_RESTRICT ctx, FDPCH_SlotFormat value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 9u) {
+      rtxErrAddStrParm(ctx, "FDPCH-SlotFormat");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "FDPCH-SlotFormat");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 9);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "FDPCH-SlotFormat");
+   return 0;
+}
+
+int asn1PE_UMTS_FDPCH_SlotFormat(rtxContext* RT_RESTRICT ctx, FDPCH_SlotFormat value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_FDPCH_SlotFormat, value);
+}
+
+RT_MERGED_BODY int enc_TPC_CombinationIndex(rtxContext* RT_RESTRICT ctx, TPC_CombinationIndex value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 5u) {
+      rtxErrAddStrParm(ctx, "TPC-CombinationIndex");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "TPC-CombinationIndex");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TPC-CombinationIndex");
+   return 0;
+}
+
+int asn1PE_UMTS_TPC_CombinationIndex(rtxContext* RT_RESTRICT ctx, TPC_CombinationIndex value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TPC_CombinationIndex, value);
+}
+
+RT_MERGED_BODY int enc_STTDIndication(rtxContext* RT_RESTRICT ctx, STTDIndication value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "STTDIndication");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "STTDIndication");
+   return 0;
+}
+
+int asn1PE_UMTS_STTDIndication(rtxContext* RT_RESTRICT ctx, STTDIndication value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_STTDIndication, value);
+}
+
+RT_MERGED_BODY int enc_DL_FDPCH_InfoPerRL_r7(rtxContext* RT_RESTRICT ctx, const DL_FDPCH_InfoPerRL_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-FDPCH-InfoPerRL-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-FDPCH-InfoPerRL-r7");
+   /* pCPICH-UsageForChannelEst */
+   if (pvalue->pCPICH_UsageForChannelEst > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->pCPICH_UsageForChannelEst);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, "DL-FDPCH-InfoPerRL-r7");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pCPICH_UsageForChannelEst, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, "DL-FDPCH-InfoPerRL-r7");
+   /* fdpch-FrameOffset */
+   if ((uint64_t)pvalue->fdpch_FrameOffset > 149u) {
+      rtxErrAddStrParm(ctx, "DPCH-FrameOffset");
+      rtxErrAddUIntParm(ctx, pvalue->fdpch_FrameOffset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DPCH-FrameOffset", "fdpch-FrameOffset", -1, "DL-FDPCH-InfoPerRL-r7");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->fdpch_FrameOffset, 0, 149);
+   RT_CHECK_PUT(ctx, cur, stat, "DPCH-FrameOffset", "fdpch-FrameOffset", -1, "DL-FDPCH-InfoPerRL-r7");
+   /* fdpch-SlotFormat */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->fdpch_SlotFormat > 9u) {
+         rtxErrAddStrParm(ctx, "FDPCH-SlotFormat");
+         rtxErrAddUIntParm(ctx, pvalue->fdpch_SlotFormat);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "FDPCH-SlotFormat", "fdpch-SlotFormat", -1, "DL-FDPCH-InfoPerRL-r7");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->fdpch_SlotFormat, 0, 9);
+      RT_CHECK_PUT(ctx, cur, stat, "FDPCH-SlotFormat", "fdpch-SlotFormat", -1, "DL-FDPCH-InfoPerRL-r7");
+   }
+   /* secondaryCPICH-Info */
+   if (pvalue->m & 0x2u) {
+      stat = enc_SecondaryCPICH_Info(ctx, &pvalue->secondaryCPICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "secondaryCPICH-Info", -1, "DL-FDPCH-InfoPerRL-r7");
+   }
+   /* secondaryScramblingCode */
+   if (pvalue->m & 0x4u) {
+      if ((uint64_t)(pvalue->secondaryScramblingCode - 1) > 14u) {
+         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
+         rtxErrAddUIntParm(ctx, pvalue->secondaryScramblingCode);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SecondaryScramblingCode", "secondaryScramblingCode", -1, "DL-FDPCH-InfoPerRL-r7");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->secondaryScramblingCode, 1, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, "DL-FDPCH-InfoPerRL-r7");
+   }
+   /* dl-ChannelisationCode */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dl_ChannelisationCode, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "dl-ChannelisationCode", -1, "DL-FDPCH-InfoPerRL-r7");
+   /* tpc-CombinationIndex */
+   if ((uint64_t)pvalue->tpc_CombinationIndex > 5u) {
+      rtxErrAddStrParm(ctx, "TPC-CombinationIndex");
+      rtxErrAddUIntParm(ctx, pvalue->tpc_CombinationIndex);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, "DL-FDPCH-InfoPerRL-r7");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tpc_CombinationIndex, 0, 5);
+   RT_CHECK_PUT(ctx, cur, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, "DL-FDPCH-InfoPerRL-r7");
+   /* sttdIndication */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->sttdIndication > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->sttdIndication);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "STTDIndication", "sttdIndication", -1, "DL-FDPCH-InfoPerRL-r7");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->sttdIndication, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, "STTDIndication", "sttdIndication", -1, "DL-FDPCH-InfoPerRL-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_FDPCH_InfoPerRL_r7(rtxContext* RT_RESTRICT ctx, const DL_FDPCH_InfoPerRL_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_FDPCH_InfoPerRL_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerSecondaryRL_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, const DL_InformationPerSecondaryRL_e_RGCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e-RGCH-Information", -1, 0);
+         stat = enc_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information, cur);
+         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerSecondaryRL_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, const DL_InformationPerSecondaryRL_e_RGCH_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerSecondaryRL_e_RGCH_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerSecondaryRL(rtxContext* RT_RESTRICT ctx, const DL_InformationPerSecondaryRL* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerSecondaryRL");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-InformationPerSecondaryRL");
+   /* primaryCPICH-Info */
+   stat = enc_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "DL-InformationPerSecondaryRL");
+   /* cell-id */
+   if (pvalue->m & 0x1u) {
+      stat = enc_CellIdentity(ctx, pvalue->cell_id, cur);
+      RT_CHECK(ctx, stat, 0, "cell-id", -1, "DL-InformationPerSecondaryRL");
+   }
+   /* dl-FDPCHInfoPerRL-SecULFreq */
+   stat = enc_DL_FDPCH_InfoPerRL_r7(ctx, &pvalue->dl_FDPCHInfoPerRL_SecULFreq, cur);
+   RT_CHECK(ctx, stat, 0, "dl-FDPCHInfoPerRL-SecULFreq", -1, "DL-InformationPerSecondaryRL");
+   /* e-AGCH-Information */
+   if (pvalue->m & 0x2u) {
+      stat = enc_E_AGCH_Information(ctx, &pvalue->e_AGCH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "e-AGCH-Information", -1, "DL-InformationPerSecondaryRL");
+   }
+   /* e-HICH-Information */
+   if (pvalue->m & 0x4u) {
+      stat = enc_E_HICH_Information(ctx, &pvalue->e_HICH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "DL-InformationPerSecondaryRL");
+   }
+   /* e-RGCH-Info */
+   if (pvalue->m & 0x8u) {
+      stat = enc_DL_InformationPerSecondaryRL_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, "DL-InformationPerSecondaryRL");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerSecondaryRL(rtxContext* RT_RESTRICT ctx, const DL_InformationPerSecondaryRL* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerSecondaryRL, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerSecondaryRL_List(rtxContext* RT_RESTRICT ctx, const DL_InformationPerSecondaryRL_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerSecondaryRL-List");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DL-InformationPerSecondaryRL-List");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DL-InformationPerSecondaryRL", (int32_t)i, "DL-InformationPerSecondaryRL-List");
+      stat = enc_DL_InformationPerSecondaryRL(ctx, (const DL_InformationPerSecondaryRL*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DL-InformationPerSecondaryRL", (int32_t)i, "DL-InformationPerSecondaryRL-List");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerSecondaryRL_List(rtxContext* RT_RESTRICT ctx, const DL_InformationPerSecondaryRL_List* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerSecondaryRL_List, pvalue);
+}
+
+RT_MERGED_BODY int enc_MaxNoPhysChBitsReceived(rtxContext* RT_RESTRICT ctx, MaxNoPhysChBitsReceived value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 14) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MaxNoPhysChBitsReceived");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 14);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaxNoPhysChBitsReceived");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxNoPhysChBitsReceived(rtxContext* RT_RESTRICT ctx, MaxNoPhysChBitsReceived value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MaxNoPhysChBitsReceived, value);
+}
+
+RT_MERGED_BODY int enc_MaxNoSCCPCH_RL(rtxContext* RT_RESTRICT ctx, MaxNoSCCPCH_RL value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MaxNoSCCPCH-RL");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaxNoSCCPCH-RL");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxNoSCCPCH_RL(rtxContext* RT_RESTRICT ctx, MaxNoSCCPCH_RL value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MaxNoSCCPCH_RL, value);
+}
+
+RT_MERGED_BODY int enc_SimultaneousSCCPCH_DPCH_Reception_supported(rtxContext* RT_RESTRICT ctx, const SimultaneousSCCPCH_DPCH_Reception_supported* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* maxNoSCCPCH-RL */
+   if (pvalue->maxNoSCCPCH_RL > 0) {
+      rtxErrAddUIntParm(ctx, pvalue->maxNoSCCPCH_RL);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxNoSCCPCH-RL", "maxNoSCCPCH-RL", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxNoSCCPCH_RL, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxNoSCCPCH-RL", "maxNoSCCPCH-RL", -1, 0);
+   /* simultaneousSCCPCH-DPCH-DPDCH-Reception */
+   stat = rtxEncBitAt(ctx, cur, pvalue->simultaneousSCCPCH_DPCH_DPDCH_Reception);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "simultaneousSCCPCH-DPCH-DPDCH-Reception", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SimultaneousSCCPCH_DPCH_Reception_supported(rtxContext* RT_RESTRICT ctx, const SimultaneousSCCPCH_DPCH_Reception_supported* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SimultaneousSCCPCH_DPCH_Reception_supported, pvalue);
+}
+
+RT_MERGED_BODY int enc_SimultaneousSCCPCH_DPCH_Reception(rtxContext* RT_RESTRICT ctx, const SimultaneousSCCPCH_DPCH_Reception* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SimultaneousSCCPCH-DPCH-Reception");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "SimultaneousSCCPCH-DPCH-Reception");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "SimultaneousSCCPCH-DPCH-Reception");
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.supported == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "supported", -1, "SimultaneousSCCPCH-DPCH-Reception");
+         stat = enc_SimultaneousSCCPCH_DPCH_Reception_supported(ctx, pvalue->u.supported, cur);
+         RT_CHECK(ctx, stat, 0, "supported", -1, "SimultaneousSCCPCH-DPCH-Reception");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SimultaneousSCCPCH_DPCH_Reception(rtxContext* RT_RESTRICT ctx, const SimultaneousSCCPCH_DPCH_Reception* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SimultaneousSCCPCH_DPCH_Reception, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_PhysChCapabilityFDD(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityFDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-PhysChCapabilityFDD");
+   /* maxNoDPCH-PDSCH-Codes */
+   if ((uint64_t)(pvalue->maxNoDPCH_PDSCH_Codes - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "maxNoDPCH-PDSCH-Codes");
+      rtxErrAddUIntParm(ctx, pvalue->maxNoDPCH_PDSCH_Codes);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "maxNoDPCH-PDSCH-Codes", -1, "DL-PhysChCapabilityFDD");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxNoDPCH_PDSCH_Codes, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "maxNoDPCH-PDSCH-Codes", -1, "DL-PhysChCapabilityFDD");
+   /* maxNoPhysChBitsReceived */
+   if (pvalue->maxNoPhysChBitsReceived > 14) {
+      rtxErrAddUIntParm(ctx, pvalue->maxNoPhysChBitsReceived);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxNoPhysChBitsReceived", "maxNoPhysChBitsReceived", -1, "DL-PhysChCapabilityFDD");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxNoPhysChBitsReceived, 0, 14);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxNoPhysChBitsReceived", "maxNoPhysChBitsReceived", -1, "DL-PhysChCapabilityFDD");
+   /* supportForSF-512 */
+   stat = rtxEncBitAt(ctx, cur, pvalue->supportForSF_512);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "supportForSF-512", -1, "DL-PhysChCapabilityFDD");
+   /* dummy */
+   stat = rtxEncBitAt(ctx, cur, pvalue->dummy);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "dummy", -1, "DL-PhysChCapabilityFDD");
+   /* dummy2 */
+   stat = enc_SimultaneousSCCPCH_DPCH_Reception(ctx, &pvalue->dummy2, cur);
+   RT_CHECK(ctx, stat, 0, "dummy2", -1, "DL-PhysChCapabilityFDD");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityFDD(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityFDD* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_PhysChCapabilityFDD, pvalue);
+}
+
+RT_MERGED_BODY int enc_SupportOfDedicatedPilotsForChEstimation(rtxContext* RT_RESTRICT ctx, SupportOfDedicatedPilotsForChEstimation value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "SupportOfDedicatedPilotsForChEstimation");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SupportOfDedicatedPilotsForChEstimation");
+   return 0;
+}
+
+int asn1PE_UMTS_SupportOfDedicatedPilotsForChEstimation(rtxContext* RT_RESTRICT ctx, SupportOfDedicatedPilotsForChEstimation value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SupportOfDedicatedPilotsForChEstimation, value);
+}
+
+RT_MERGED_BODY int enc_DL_PhysChCapabilityFDD_v380ext(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityFDD_v380ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-PhysChCapabilityFDD-v380ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-PhysChCapabilityFDD-v380ext");
+   /* dummy */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->dummy > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->dummy);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "SupportOfDedicatedPilotsForChEstimation", "dummy", -1, "DL-PhysChCapabilityFDD-v380ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->dummy, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, "SupportOfDedicatedPilotsForChEstimation", "dummy", -1, "DL-PhysChCapabilityFDD-v380ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityFDD_v380ext(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityFDD_v380ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_PhysChCapabilityFDD_v380ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_HSDSCH_physical_layer_category_ext(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category_ext value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 19u) {
+      rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category-ext");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "HSDSCH-physical-layer-category-ext");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 20);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "HSDSCH-physical-layer-category-ext");
+   return 0;
+}
+
+int asn1PE_UMTS_HSDSCH_physical_layer_category_ext(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category_ext value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HSDSCH_physical_layer_category_ext, value);
+}
+
+RT_MERGED_BODY int enc_DL_PhysChCapabilityFDD_v770ext_hsscchlessHsdschOperation(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext_hsscchlessHsdschOperation value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityFDD_v770ext_hsscchlessHsdschOperation(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext_hsscchlessHsdschOperation value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_PhysChCapabilityFDD_v770ext_hsscchlessHsdschOperation, value);
+}
+
+RT_MERGED_BODY int enc_DL_PhysChCapabilityFDD_v770ext_enhancedFdpch(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext_enhancedFdpch value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityFDD_v770ext_enhancedFdpch(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext_enhancedFdpch value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_PhysChCapabilityFDD_v770ext_enhancedFdpch, value);
+}
+
+RT_MERGED_BODY int enc_DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellFach(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellFach value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellFach(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellFach value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellFach, value);
+}
+
+RT_MERGED_BODY int enc_DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellUraPch(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellUraPch value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellUraPch(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellUraPch value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_PhysChCapabilityFDD_v770ext_hsdschReception_CellUraPch, value);
+}
+
+RT_MERGED_BODY int enc_DL_PhysChCapabilityFDD_v770ext(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityFDD_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-PhysChCapabilityFDD-v770ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-PhysChCapabilityFDD-v770ext");
+   /* hsdsch-physical-layer-category-ext */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->hsdsch_physical_layer_category_ext - 1) > 19u) {
+         rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category-ext");
+         rtxErrAddUIntParm(ctx, pvalue->hsdsch_physical_layer_category_ext);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category-ext", "hsdsch-physical-layer-category-ext", -1, "DL-PhysChCapabilityFDD-v770ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->hsdsch_physical_layer_category_ext, 1, 20);
+      RT_CHECK_PUT(ctx, cur, stat, "HSDSCH-physical-layer-category-ext", "hsdsch-physical-layer-category-ext", -1, "DL-PhysChCapabilityFDD-v770ext");
+   }
+   /* hsscchlessHsdschOperation */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->hsscchlessHsdschOperation > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->hsscchlessHsdschOperation);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "hsscchlessHsdschOperation", -1, "DL-PhysChCapabilityFDD-v770ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->hsscchlessHsdschOperation, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "hsscchlessHsdschOperation", -1, "DL-PhysChCapabilityFDD-v770ext");
+   }
+   /* enhancedFdpch */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->enhancedFdpch > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->enhancedFdpch);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "enhancedFdpch", -1, "DL-PhysChCapabilityFDD-v770ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->enhancedFdpch, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "enhancedFdpch", -1, "DL-PhysChCapabilityFDD-v770ext");
+   }
+   /* hsdschReception-CellFach */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->hsdschReception_CellFach > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->hsdschReception_CellFach);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "hsdschReception-CellFach", -1, "DL-PhysChCapabilityFDD-v770ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->hsdschReception_CellFach, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "hsdschReception-CellFach", -1, "DL-PhysChCapabilityFDD-v770ext");
+   }
+   /* hsdschReception-CellUraPch */
+   if (pvalue->m & 0x10u) {
+      if (pvalue->hsdschReception_CellUraPch > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->hsdschReception_CellUraPch);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "hsdschReception-CellUraPch", -1, "DL-PhysChCapabilityFDD-v770ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->hsdschReception_CellUraPch, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "hsdschReception-CellUraPch", -1, "DL-PhysChCapabilityFDD-v770ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityFDD_v770ext(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityFDD_v770ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_PhysChCapabilityFDD_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_HSDSCH_physical_layer_category_ext2(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category_ext2 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 21) > 3u) {
+      rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category-ext2");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "HSDSCH-physical-layer-category-ext2");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 21, 24);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "HSDSCH-physical-layer-category-ext2");
+   return 0;
+}
+
+int asn1PE_UMTS_HSDSCH_physical_layer_category_ext2(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category_ext2 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HSDSCH_physical_layer_category_ext2, value);
+}
+
+RT_MERGED_BODY int enc_DL_PhysChCapabilityFDD_v860ext_supportOfTargetCellPreConfig(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v860ext_supportOfTargetCellPreConfig value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityFDD_v860ext_supportOfTargetCellPreConfig(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v860ext_supportOfTargetCellPreConfig value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_PhysChCapabilityFDD_v860ext_supportOfTargetCellPreConfig, value);
+}
+
+RT_MERGED_BODY int enc_DL_PhysChCapabilityFDD_v860ext_supportOfHsdschDrxOperation(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v860ext_supportOfHsdschDrxOperation value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityFDD_v860ext_supportOfHsdschDrxOperation(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v860ext_supportOfHsdschDrxOperation value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_PhysChCapabilityFDD_v860ext_supportOfHsdschDrxOperation, value);
+}
+
+RT_MERGED_BODY int enc_DL_PhysChCapabilityFDD_v860ext(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityFDD_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-PhysChCapabilityFDD-v860ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-PhysChCapabilityFDD-v860ext");
+   /* hsdsch-physical-layer-category-ext2 */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->hsdsch_physical_layer_category_ext2 - 21) > 3u) {
+         rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category-ext2");
+         rtxErrAddUIntParm(ctx, pvalue->hsdsch_physical_layer_category_ext2);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category-ext2", "hsdsch-physical-layer-category-ext2", -1, "DL-PhysChCapabilityFDD-v860ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->hsdsch_physical_layer_category_ext2, 21, 24);
+      RT_CHECK_PUT(ctx, cur, stat, "HSDSCH-physical-layer-category-ext2", "hsdsch-physical-layer-category-ext2", -1, "DL-PhysChCapabilityFDD-v860ext");
+   }
+   /* supportOfTargetCellPreConfig */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->supportOfTargetCellPreConfig > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfTargetCellPreConfig);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportOfTargetCellPreConfig", -1, "DL-PhysChCapabilityFDD-v860ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportOfTargetCellPreConfig, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfTargetCellPreConfig", -1, "DL-PhysChCapabilityFDD-v860ext");
+   }
+   /* supportOfHsdschDrxOperation */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->supportOfHsdschDrxOperation > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfHsdschDrxOperation);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportOfHsdschDrxOperation", -1, "DL-PhysChCapabilityFDD-v860ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportOfHsdschDrxOperation, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfHsdschDrxOperation", -1, "DL-PhysChCapabilityFDD-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityFDD_v860ext(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityFDD_v860ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_PhysChCapabilityFDD_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_HSDSCH_physical_layer_category_ext3(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category_ext3 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 25) > 3u) {
+      rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category-ext3");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "HSDSCH-physical-layer-category-ext3");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 25, 28);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "HSDSCH-physical-layer-category-ext3");
+   return 0;
+}
+
+int asn1PE_UMTS_HSDSCH_physical_layer_category_ext3(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category_ext3 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HSDSCH_physical_layer_category_ext3, value);
+}
+
+RT_MERGED_BODY int enc_DL_PhysChCapabilityFDD_v920ext_supportOfMimoOnlySingleStream(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v920ext_supportOfMimoOnlySingleStream value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityFDD_v920ext_supportOfMimoOnlySingleStream(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityFDD_v920ext_supportOfMimoOnlySingleStream value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_PhysChCapabilityFDD_v920ext_supportOfMimoOnlySingleStream, value);
+}
+
+RT_MERGED_BODY int enc_DL_PhysChCapabilityFDD_v920ext(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityFDD_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-PhysChCapabilityFDD-v920ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-PhysChCapabilityFDD-v920ext");
+   /* hsdsch-physical-layer-category-ext3 */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->hsdsch_physical_layer_category_ext3 - 25) > 3u) {
+         rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category-ext3");
+         rtxErrAddUIntParm(ctx, pvalue->hsdsch_physical_layer_category_ext3);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category-ext3", "hsdsch-physical-layer-category-ext3", -1, "DL-PhysChCapabilityFDD-v920ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->hsdsch_physical_layer_category_ext3, 25, 28);
+      RT_CHECK_PUT(ctx, cur, stat, "HSDSCH-physical-layer-category-ext3", "hsdsch-physical-layer-category-ext3", -1, "DL-PhysChCapabilityFDD-v920ext");
+   }
+   /* supportOfMimoOnlySingleStream */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->supportOfMimoOnlySingleStream > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfMimoOnlySingleStream);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportOfMimoOnlySingleStream", -1, "DL-PhysChCapabilityFDD-v920ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportOfMimoOnlySingleStream, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfMimoOnlySingleStream", -1, "DL-PhysChCapabilityFDD-v920ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityFDD_v920ext(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityFDD_v920ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_PhysChCapabilityFDD_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_MaxTS_PerFrame(rtxContext* RT_RESTRICT ctx, MaxTS_PerFrame value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 13u) {
+      rtxErrAddStrParm(ctx, "MaxTS-PerFrame");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "MaxTS-PerFrame");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 14);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaxTS-PerFrame");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxTS_PerFrame(rtxContext* RT_RESTRICT ctx, MaxTS_PerFrame value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MaxTS_PerFrame, value);
+}
+
+RT_MERGED_BODY int enc_MaxPhysChPerFrame(rtxContext* RT_RESTRICT ctx, MaxPhysChPerFrame value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 223u) {
+      rtxErrAddStrParm(ctx, "MaxPhysChPerFrame");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "MaxPhysChPerFrame");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 224);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaxPhysChPerFrame");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxPhysChPerFrame(rtxContext* RT_RESTRICT ctx, MaxPhysChPerFrame value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MaxPhysChPerFrame, value);
+}
+
+RT_MERGED_BODY int enc_MinimumSF_DL(rtxContext* RT_RESTRICT ctx, MinimumSF_DL value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MinimumSF-DL");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MinimumSF-DL");
+   return 0;
+}
+
+int asn1PE_UMTS_MinimumSF_DL(rtxContext* RT_RESTRICT ctx, MinimumSF_DL value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MinimumSF_DL, value);
+}
+
+RT_MERGED_BODY int enc_MaxPhysChPerTS(rtxContext* RT_RESTRICT ctx, MaxPhysChPerTS value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "MaxPhysChPerTS");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "MaxPhysChPerTS");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaxPhysChPerTS");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxPhysChPerTS(rtxContext* RT_RESTRICT ctx, MaxPhysChPerTS value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MaxPhysChPerTS, value);
+}
+
+RT_MERGED_BODY int enc_DL_PhysChCapabilityTDD(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityTDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-PhysChCapabilityTDD");
+   /* maxTS-PerFrame */
+   if ((uint64_t)(pvalue->maxTS_PerFrame - 1) > 13u) {
+      rtxErrAddStrParm(ctx, "MaxTS-PerFrame");
+      rtxErrAddUIntParm(ctx, pvalue->maxTS_PerFrame);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "DL-PhysChCapabilityTDD");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxTS_PerFrame, 1, 14);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "DL-PhysChCapabilityTDD");
+   /* maxPhysChPerFrame */
+   if ((uint64_t)(pvalue->maxPhysChPerFrame - 1) > 223u) {
+      rtxErrAddStrParm(ctx, "MaxPhysChPerFrame");
+      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerFrame);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MaxPhysChPerFrame", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityTDD");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxPhysChPerFrame, 1, 224);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxPhysChPerFrame", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityTDD");
+   /* minimumSF */
+   if (pvalue->minimumSF > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->minimumSF);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MinimumSF-DL", "minimumSF", -1, "DL-PhysChCapabilityTDD");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->minimumSF, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "MinimumSF-DL", "minimumSF", -1, "DL-PhysChCapabilityTDD");
+   /* supportOfPDSCH */
+   stat = rtxEncBitAt(ctx, cur, pvalue->supportOfPDSCH);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfPDSCH", -1, "DL-PhysChCapabilityTDD");
+   /* maxPhysChPerTS */
+   if ((uint64_t)(pvalue->maxPhysChPerTS - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "MaxPhysChPerTS");
+      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerTS);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MaxPhysChPerTS", "maxPhysChPerTS", -1, "DL-PhysChCapabilityTDD");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxPhysChPerTS, 1, 16);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxPhysChPerTS", "maxPhysChPerTS", -1, "DL-PhysChCapabilityTDD");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityTDD(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityTDD* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_PhysChCapabilityTDD, pvalue);
+}
+
+RT_MERGED_BODY int enc_MaxTS_PerSubFrame_r4(rtxContext* RT_RESTRICT ctx, MaxTS_PerSubFrame_r4 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 5u) {
+      rtxErrAddStrParm(ctx, "MaxTS-PerSubFrame-r4");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "MaxTS-PerSubFrame-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaxTS-PerSubFrame-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxTS_PerSubFrame_r4(rtxContext* RT_RESTRICT ctx, MaxTS_PerSubFrame_r4 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MaxTS_PerSubFrame_r4, value);
+}
+
+RT_MERGED_BODY int enc_MaxPhysChPerSubFrame_r4(rtxContext* RT_RESTRICT ctx, MaxPhysChPerSubFrame_r4 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 95u) {
+      rtxErrAddStrParm(ctx, "MaxPhysChPerSubFrame-r4");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "MaxPhysChPerSubFrame-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 96);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaxPhysChPerSubFrame-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxPhysChPerSubFrame_r4(rtxContext* RT_RESTRICT ctx, MaxPhysChPerSubFrame_r4 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MaxPhysChPerSubFrame_r4, value);
+}
+
+RT_MERGED_BODY int enc_DL_PhysChCapabilityTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityTDD_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-PhysChCapabilityTDD-LCR-r4");
+   /* maxTS-PerSubFrame */
+   if ((uint64_t)(pvalue->maxTS_PerSubFrame - 1) > 5u) {
+      rtxErrAddStrParm(ctx, "MaxTS-PerSubFrame-r4");
+      rtxErrAddUIntParm(ctx, pvalue->maxTS_PerSubFrame);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MaxTS-PerSubFrame-r4", "maxTS-PerSubFrame", -1, "DL-PhysChCapabilityTDD-LCR-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxTS_PerSubFrame, 1, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxTS-PerSubFrame-r4", "maxTS-PerSubFrame", -1, "DL-PhysChCapabilityTDD-LCR-r4");
+   /* maxPhysChPerFrame */
+   if ((uint64_t)(pvalue->maxPhysChPerFrame - 1) > 95u) {
+      rtxErrAddStrParm(ctx, "MaxPhysChPerSubFrame-r4");
+      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerFrame);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MaxPhysChPerSubFrame-r4", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityTDD-LCR-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxPhysChPerFrame, 1, 96);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxPhysChPerSubFrame-r4", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityTDD-LCR-r4");
+   /* minimumSF */
+   if (pvalue->minimumSF > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->minimumSF);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MinimumSF-DL", "minimumSF", -1, "DL-PhysChCapabilityTDD-LCR-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->minimumSF, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "MinimumSF-DL", "minimumSF", -1, "DL-PhysChCapabilityTDD-LCR-r4");
+   /* supportOfPDSCH */
+   stat = rtxEncBitAt(ctx, cur, pvalue->supportOfPDSCH);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfPDSCH", -1, "DL-PhysChCapabilityTDD-LCR-r4");
+   /* maxPhysChPerTS */
+   if ((uint64_t)(pvalue->maxPhysChPerTS - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "MaxPhysChPerTS");
+      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerTS);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MaxPhysChPerTS", "maxPhysChPerTS", -1, "DL-PhysChCapabilityTDD-LCR-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxPhysChPerTS, 1, 16);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxPhysChPerTS", "maxPhysChPerTS", -1, "DL-PhysChCapabilityTDD-LCR-r4");
+   /* supportOf8PSK */
+   stat = rtxEncBitAt(ctx, cur, pvalue->supportOf8PSK);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "supportOf8PSK", -1, "DL-PhysChCapabilityTDD-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityTDD_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_PhysChCapabilityTDD_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_MultiCarrier_HSDSCH_physical_layer_category(rtxContext* RT_RESTRICT ctx, MultiCarrier_HSDSCH_physical_layer_category value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "MultiCarrier-HSDSCH-physical-layer-category");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "MultiCarrier-HSDSCH-physical-layer-category");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 64);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MultiCarrier-HSDSCH-physical-layer-category");
+   return 0;
+}
+
+int asn1PE_UMTS_MultiCarrier_HSDSCH_physical_layer_category(rtxContext* RT_RESTRICT ctx, MultiCarrier_HSDSCH_physical_layer_category value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MultiCarrier_HSDSCH_physical_layer_category, value);
+}
+
+RT_MERGED_BODY int enc_DL_PhysChCapabilityTDD_128_v770ext(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityTDD_128_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-PhysChCapabilityTDD-128-v770ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-PhysChCapabilityTDD-128-v770ext");
+   /* multiCarrier-physical-layer-category */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->multiCarrier_physical_layer_category - 1) > 63u) {
+         rtxErrAddStrParm(ctx, "MultiCarrier-HSDSCH-physical-layer-category");
+         rtxErrAddUIntParm(ctx, pvalue->multiCarrier_physical_layer_category);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MultiCarrier-HSDSCH-physical-layer-category", "multiCarrier-physical-layer-category", -1, "DL-PhysChCapabilityTDD-128-v770ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->multiCarrier_physical_layer_category, 1, 64);
+      RT_CHECK_PUT(ctx, cur, stat, "MultiCarrier-HSDSCH-physical-layer-category", "multiCarrier-physical-layer-category", -1, "DL-PhysChCapabilityTDD-128-v770ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityTDD_128_v770ext(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityTDD_128_v770ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_PhysChCapabilityTDD_128_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_HSDSCH_physical_layer_category_extension(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category_extension value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category-extension");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "HSDSCH-physical-layer-category-extension");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 64);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "HSDSCH-physical-layer-category-extension");
+   return 0;
+}
+
+int asn1PE_UMTS_HSDSCH_physical_layer_category_extension(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category_extension value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HSDSCH_physical_layer_category_extension, value);
+}
+
+RT_MERGED_BODY int enc_MultiCarrier_HSDSCH_physical_layer_category_extension(rtxContext* RT_RESTRICT ctx, MultiCarrier_HSDSCH_physical_layer_category_extension value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 35u) {
+      rtxErrAddStrParm(ctx, "MultiCarrier-HSDSCH-physical-layer-category-extension");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "MultiCarrier-HSDSCH-physical-layer-category-extension");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 36);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MultiCarrier-HSDSCH-physical-layer-category-extension");
+   return 0;
+}
+
+int asn1PE_UMTS_MultiCarrier_HSDSCH_physical_layer_category_extension(rtxContext* RT_RESTRICT ctx, MultiCarrier_HSDSCH_physical_layer_category_extension value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MultiCarrier_HSDSCH_physical_layer_category_extension, value);
+}
+
+RT_MERGED_BODY int enc_DL_PhysChCapabilityTDD_128_v860ext_supportOfSFModeForHSPDSCHDualStream(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD_128_v860ext_supportOfSFModeForHSPDSCHDualStream value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityTDD_128_v860ext_supportOfSFModeForHSPDSCHDualStream(rtxContext* RT_RESTRICT ctx, DL_PhysChCapabilityTDD_128_v860ext_supportOfSFModeForHSPDSCHDualStream value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_PhysChCapabilityTDD_128_v860ext_supportOfSFModeForHSPDSCHDualStream, value);
+}
+
+RT_MERGED_BODY int enc_DL_PhysChCapabilityTDD_128_v860ext(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityTDD_128_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-PhysChCapabilityTDD-128-v860ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-PhysChCapabilityTDD-128-v860ext");
+   /* hSDSCH-physical-layer-category-extension */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->hSDSCH_physical_layer_category_extension - 1) > 63u) {
+         rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category-extension");
+         rtxErrAddUIntParm(ctx, pvalue->hSDSCH_physical_layer_category_extension);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category-extension", "hSDSCH-physical-layer-category-extension", -1, "DL-PhysChCapabilityTDD-128-v860ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->hSDSCH_physical_layer_category_extension, 1, 64);
+      RT_CHECK_PUT(ctx, cur, stat, "HSDSCH-physical-layer-category-extension", "hSDSCH-physical-layer-category-extension", -1, "DL-PhysChCapabilityTDD-128-v860ext");
+   }
+   /* multiCarrier-physical-layer-category-extension */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)(pvalue->multiCarrier_physical_layer_category_extension - 1) > 35u) {
+         rtxErrAddStrParm(ctx, "MultiCarrier-HSDSCH-physical-layer-category-extension");
+         rtxErrAddUIntParm(ctx, pvalue->multiCarrier_physical_layer_category_extension);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MultiCarrier-HSDSCH-physical-layer-category-extension", "multiCarrier-physical-layer-category-extension", -1, "DL-PhysChCapabilityTDD-128-v860ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->multiCarrier_physical_layer_category_extension, 1, 36);
+      RT_CHECK_PUT(ctx, cur, stat, "MultiCarrier-HSDSCH-physical-layer-category-extension", "multiCarrier-physical-layer-category-extension", -1, "DL-PhysChCapabilityTDD-128-v860ext");
+   }
+   /* supportOfSFModeForHSPDSCHDualStream */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->supportOfSFModeForHSPDSCHDualStream > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfSFModeForHSPDSCHDualStream);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportOfSFModeForHSPDSCHDualStream", -1, "DL-PhysChCapabilityTDD-128-v860ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportOfSFModeForHSPDSCHDualStream, 0, 1);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfSFModeForHSPDSCHDualStream", -1, "DL-PhysChCapabilityTDD-128-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityTDD_128_v860ext(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityTDD_128_v860ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_PhysChCapabilityTDD_128_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_MaxPhysChPerFrame_768(rtxContext* RT_RESTRICT ctx, MaxPhysChPerFrame_768 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 447u) {
+      rtxErrAddStrParm(ctx, "MaxPhysChPerFrame-768");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "MaxPhysChPerFrame-768");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 448);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaxPhysChPerFrame-768");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxPhysChPerFrame_768(rtxContext* RT_RESTRICT ctx, MaxPhysChPerFrame_768 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MaxPhysChPerFrame_768, value);
+}
+
+RT_MERGED_BODY int enc_MinimumSF_DL_768(rtxContext* RT_RESTRICT ctx, MinimumSF_DL_768 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MinimumSF-DL-768");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MinimumSF-DL-768");
+   return 0;
+}
+
+int asn1PE_UMTS_MinimumSF_DL_768(rtxContext* RT_RESTRICT ctx, MinimumSF_DL_768 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MinimumSF_DL_768, value);
+}
+
+RT_MERGED_BODY int enc_HSDSCH_physical_layer_category(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "HSDSCH-physical-layer-category");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 64);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "HSDSCH-physical-layer-category");
+   return 0;
+}
+
+int asn1PE_UMTS_HSDSCH_physical_layer_category(rtxContext* RT_RESTRICT ctx, HSDSCH_physical_layer_category value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HSDSCH_physical_layer_category, value);
+}
+
+RT_MERGED_BODY int enc_DL_PhysChCapabilityTDD_768_tdd768_hspdsch(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityTDD_768_tdd768_hspdsch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)(pvalue->u.supported - 1) > 63u) {
+            rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category");
+            rtxErrAddUIntParm(ctx, pvalue->u.supported);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category", "supported", -1, 0);
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.supported, 1, 64);
+         RT_CHECK_PUT(ctx, cur, stat, "HSDSCH-physical-layer-category", "supported", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityTDD_768_tdd768_hspdsch(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityTDD_768_tdd768_hspdsch* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_PhysChCapabilityTDD_768_tdd768_hspdsch, pvalue);
+}
+
+RT_MERGED_BODY int enc_MaxPhysChPerTS_768(rtxContext* RT_RESTRICT ctx, MaxPhysChPerTS_768 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "MaxPhysChPerTS-768");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "MaxPhysChPerTS-768");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaxPhysChPerTS-768");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxPhysChPerTS_768(rtxContext* RT_RESTRICT ctx, MaxPhysChPerTS_768 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MaxPhysChPerTS_768, value);
+}
+
+RT_MERGED_BODY int enc_DL_PhysChCapabilityTDD_768(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityTDD_768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-PhysChCapabilityTDD-768");
+   /* maxTS-PerFrame */
+   if ((uint64_t)(pvalue->maxTS_PerFrame - 1) > 13u) {
+      rtxErrAddStrParm(ctx, "MaxTS-PerFrame");
+      rtxErrAddUIntParm(ctx, pvalue->maxTS_PerFrame);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "DL-PhysChCapabilityTDD-768");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxTS_PerFrame, 1, 14);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "DL-PhysChCapabilityTDD-768");
+   /* maxPhysChPerFrame */
+   if ((uint64_t)(pvalue->maxPhysChPerFrame - 1) > 447u) {
+      rtxErrAddStrParm(ctx, "MaxPhysChPerFrame-768");
+      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerFrame);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MaxPhysChPerFrame-768", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityTDD-768");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxPhysChPerFrame, 1, 448);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxPhysChPerFrame-768", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityTDD-768");
+   /* minimumSF */
+   if (pvalue->minimumSF > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->minimumSF);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MinimumSF-DL-768", "minimumSF", -1, "DL-PhysChCapabilityTDD-768");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->minimumSF, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "MinimumSF-DL-768", "minimumSF", -1, "DL-PhysChCapabilityTDD-768");
+   /* supportOfPDSCH */
+   stat = rtxEncBitAt(ctx, cur, pvalue->supportOfPDSCH);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfPDSCH", -1, "DL-PhysChCapabilityTDD-768");
+   /* tdd768-hspdsch */
+   stat = enc_DL_PhysChCapabilityTDD_768_tdd768_hspdsch(ctx, &pvalue->tdd768_hspdsch, cur);
+   RT_CHECK(ctx, stat, 0, "tdd768-hspdsch", -1, "DL-PhysChCapabilityTDD-768");
+   /* maxPhysChPerTS */
+   if ((uint64_t)(pvalue->maxPhysChPerTS - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "MaxPhysChPerTS-768");
+      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerTS);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MaxPhysChPerTS-768", "maxPhysChPerTS", -1, "DL-PhysChCapabilityTDD-768");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxPhysChPerTS, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxPhysChPerTS-768", "maxPhysChPerTS", -1, "DL-PhysChCapabilityTDD-768");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityTDD_768(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityTDD_768* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_PhysChCapabilityTDD_768, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_PhysChCapabilityInfoTDD_768(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityInfoTDD_768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-PhysChCapabilityInfoTDD-768");
+   /* maxTS-PerFrame */
+   if ((uint64_t)(pvalue->maxTS_PerFrame - 1) > 13u) {
+      rtxErrAddStrParm(ctx, "MaxTS-PerFrame");
+      rtxErrAddUIntParm(ctx, pvalue->maxTS_PerFrame);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "DL-PhysChCapabilityInfoTDD-768");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxTS_PerFrame, 1, 14);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "DL-PhysChCapabilityInfoTDD-768");
+   /* maxPhysChPerFrame */
+   if ((uint64_t)(pvalue->maxPhysChPerFrame - 1) > 447u) {
+      rtxErrAddStrParm(ctx, "MaxPhysChPerFrame-768");
+      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerFrame);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MaxPhysChPerFrame-768", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityInfoTDD-768");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxPhysChPerFrame, 1, 448);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxPhysChPerFrame-768", "maxPhysChPerFrame", -1, "DL-PhysChCapabilityInfoTDD-768");
+   /* minimumSF */
+   if (pvalue->minimumSF > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->minimumSF);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MinimumSF-DL-768", "minimumSF", -1, "DL-PhysChCapabilityInfoTDD-768");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->minimumSF, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "MinimumSF-DL-768", "minimumSF", -1, "DL-PhysChCapabilityInfoTDD-768");
+   /* supportOfPDSCH */
+   stat = rtxEncBitAt(ctx, cur, pvalue->supportOfPDSCH);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfPDSCH", -1, "DL-PhysChCapabilityInfoTDD-768");
+   /* maxPhysChPerTS */
+   if ((uint64_t)(pvalue->maxPhysChPerTS - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "MaxPhysChPerTS-768");
+      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerTS);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MaxPhysChPerTS-768", "maxPhysChPerTS", -1, "DL-PhysChCapabilityInfoTDD-768");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxPhysChPerTS, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxPhysChPerTS-768", "maxPhysChPerTS", -1, "DL-PhysChCapabilityInfoTDD-768");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PhysChCapabilityInfoTDD_768(rtxContext* RT_RESTRICT ctx, const DL_PhysChCapabilityInfoTDD_768* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_PhysChCapabilityInfoTDD_768, pvalue);
+}
+
+RT_MERGED_BODY int enc_MaxNoBits(rtxContext* RT_RESTRICT ctx, MaxNoBits value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 12) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MaxNoBits");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 12);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaxNoBits");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxNoBits(rtxContext* RT_RESTRICT ctx, MaxNoBits value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MaxNoBits, value);
+}
+
+RT_MERGED_BODY int enc_TurboSupport(rtxContext* RT_RESTRICT ctx, const TurboSupport* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TurboSupport");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "TurboSupport");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "TurboSupport");
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.supported > 12) {
+            rtxErrAddUIntParm(ctx, pvalue->u.supported);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxNoBits", "supported", -1, "TurboSupport");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.supported, 0, 12);
+         RT_CHECK_PUT(ctx, cur, stat, "MaxNoBits", "supported", -1, "TurboSupport");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TurboSupport(rtxContext* RT_RESTRICT ctx, const TurboSupport* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TurboSupport, pvalue);
+}
+
+RT_MERGED_BODY int enc_MaxSimultaneousTransChsDL(rtxContext* RT_RESTRICT ctx, MaxSimultaneousTransChsDL value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MaxSimultaneousTransChsDL");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaxSimultaneousTransChsDL");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxSimultaneousTransChsDL(rtxContext* RT_RESTRICT ctx, MaxSimultaneousTransChsDL value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MaxSimultaneousTransChsDL, value);
+}
+
+RT_MERGED_BODY int enc_MaxSimultaneousCCTrCH_Count(rtxContext* RT_RESTRICT ctx, MaxSimultaneousCCTrCH_Count value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "MaxSimultaneousCCTrCH-Count");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "MaxSimultaneousCCTrCH-Count");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaxSimultaneousCCTrCH-Count");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxSimultaneousCCTrCH_Count(rtxContext* RT_RESTRICT ctx, MaxSimultaneousCCTrCH_Count value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MaxSimultaneousCCTrCH_Count, value);
+}
+
+RT_MERGED_BODY int enc_MaxTransportBlocksDL(rtxContext* RT_RESTRICT ctx, MaxTransportBlocksDL value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 9) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MaxTransportBlocksDL");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 9);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaxTransportBlocksDL");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxTransportBlocksDL(rtxContext* RT_RESTRICT ctx, MaxTransportBlocksDL value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MaxTransportBlocksDL, value);
+}
+
+RT_MERGED_BODY int enc_MaxNumberOfTFC_DL(rtxContext* RT_RESTRICT ctx, MaxNumberOfTFC_DL value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 8) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MaxNumberOfTFC-DL");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaxNumberOfTFC-DL");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxNumberOfTFC_DL(rtxContext* RT_RESTRICT ctx, MaxNumberOfTFC_DL value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MaxNumberOfTFC_DL, value);
+}
+
+RT_MERGED_BODY int enc_MaxNumberOfTF(rtxContext* RT_RESTRICT ctx, MaxNumberOfTF value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 5) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MaxNumberOfTF");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaxNumberOfTF");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxNumberOfTF(rtxContext* RT_RESTRICT ctx, MaxNumberOfTF value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MaxNumberOfTF, value);
+}
+
+RT_MERGED_BODY int enc_DL_TransChCapability(rtxContext* RT_RESTRICT ctx, const DL_TransChCapability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-TransChCapability");
+   /* maxNoBitsReceived */
+   if (pvalue->maxNoBitsReceived > 12) {
+      rtxErrAddUIntParm(ctx, pvalue->maxNoBitsReceived);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxNoBits", "maxNoBitsReceived", -1, "DL-TransChCapability");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxNoBitsReceived, 0, 12);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxNoBits", "maxNoBitsReceived", -1, "DL-TransChCapability");
+   /* maxConvCodeBitsReceived */
+   if (pvalue->maxConvCodeBitsReceived > 12) {
+      rtxErrAddUIntParm(ctx, pvalue->maxConvCodeBitsReceived);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxNoBits", "maxConvCodeBitsReceived", -1, "DL-TransChCapability");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxConvCodeBitsReceived, 0, 12);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxNoBits", "maxConvCodeBitsReceived", -1, "DL-TransChCapability");
+   /* turboDecodingSupport */
+   stat = enc_TurboSupport(ctx, &pvalue->turboDecodingSupport, cur);
+   RT_CHECK(ctx, stat, 0, "turboDecodingSupport", -1, "DL-TransChCapability");
+   /* maxSimultaneousTransChs */
+   if (pvalue->maxSimultaneousTransChs > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->maxSimultaneousTransChs);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxSimultaneousTransChsDL", "maxSimultaneousTransChs", -1, "DL-TransChCapability");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxSimultaneousTransChs, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxSimultaneousTransChsDL", "maxSimultaneousTransChs", -1, "DL-TransChCapability");
+   /* maxSimultaneousCCTrCH-Count */
+   if ((uint64_t)(pvalue->maxSimultaneousCCTrCH_Count - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "MaxSimultaneousCCTrCH-Count");
+      rtxErrAddUIntParm(ctx, pvalue->maxSimultaneousCCTrCH_Count);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MaxSimultaneousCCTrCH-Count", "maxSimultaneousCCTrCH-Count", -1, "DL-TransChCapability");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxSimultaneousCCTrCH_Count, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxSimultaneousCCTrCH-Count", "maxSimultaneousCCTrCH-Count", -1, "DL-TransChCapability");
+   /* maxReceivedTransportBlocks */
+   if (pvalue->maxReceivedTransportBlocks > 9) {
+      rtxErrAddUIntParm(ctx, pvalue->maxReceivedTransportBlocks);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxTransportBlocksDL", "maxReceivedTransportBlocks", -1, "DL-TransChCapability");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxReceivedTransportBlocks, 0, 9);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxTransportBlocksDL", "maxReceivedTransportBlocks", -1, "DL-TransChCapability");
+   /* maxNumberOfTFC */
+   if (pvalue->maxNumberOfTFC > 8) {
+      rtxErrAddUIntParm(ctx, pvalue->maxNumberOfTFC);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxNumberOfTFC-DL", "maxNumberOfTFC", -1, "DL-TransChCapability");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxNumberOfTFC, 0, 8);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxNumberOfTFC-DL", "maxNumberOfTFC", -1, "DL-TransChCapability");
+   /* maxNumberOfTF */
+   if (pvalue->maxNumberOfTF > 5) {
+      rtxErrAddUIntParm(ctx, pvalue->maxNumberOfTF);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxNumberOfTF", "maxNumberOfTF", -1, "DL-TransChCapability");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxNumberOfTF, 0, 5);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxNumberOfTF", "maxNumberOfTF", -1, "DL-TransChCapability");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_TransChCapability(rtxContext* RT_RESTRICT ctx, const DL_TransChCapability* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_TransChCapability, pvalue);
+}
+
+RT_MERGED_BODY int enc_TransmissionProbability(rtxContext* RT_RESTRICT ctx, TransmissionProbability value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "TransmissionProbability");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "TransmissionProbability");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TransmissionProbability");
+   return 0;
+}
+
+int asn1PE_UMTS_TransmissionProbability(rtxContext* RT_RESTRICT ctx, TransmissionProbability value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TransmissionProbability, value);
+}
+
+RT_MERGED_BODY int enc_MaximumBitRate(rtxContext* RT_RESTRICT ctx, MaximumBitRate value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 32u) {
+      rtxErrAddStrParm(ctx, "MaximumBitRate");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "MaximumBitRate");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 32);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaximumBitRate");
+   return 0;
+}
+
+int asn1PE_UMTS_MaximumBitRate(rtxContext* RT_RESTRICT ctx, MaximumBitRate value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MaximumBitRate, value);
+}
+
+RT_MERGED_BODY int enc_DRAC_SysInfo(rtxContext* RT_RESTRICT ctx, const DRAC_SysInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DRAC-SysInfo");
+   /* transmissionProbability */
+   if ((uint64_t)(pvalue->transmissionProbability - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "TransmissionProbability");
+      rtxErrAddUIntParm(ctx, pvalue->transmissionProbability);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransmissionProbability", "transmissionProbability", -1, "DRAC-SysInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->transmissionProbability, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, "TransmissionProbability", "transmissionProbability", -1, "DRAC-SysInfo");
+   /* maximumBitRate */
+   if ((uint64_t)pvalue->maximumBitRate > 32u) {
+      rtxErrAddStrParm(ctx, "MaximumBitRate");
+      rtxErrAddUIntParm(ctx, pvalue->maximumBitRate);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MaximumBitRate", "maximumBitRate", -1, "DRAC-SysInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maximumBitRate, 0, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "MaximumBitRate", "maximumBitRate", -1, "DRAC-SysInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_DRAC_SysInfo(rtxContext* RT_RESTRICT ctx, const DRAC_SysInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DRAC_SysInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_DRAC_SysInfoList(rtxContext* RT_RESTRICT ctx, const DRAC_SysInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DRAC-SysInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DRAC-SysInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DRAC-SysInfo", (int32_t)i, "DRAC-SysInfoList");
+      stat = enc_DRAC_SysInfo(ctx, (const DRAC_SysInfo*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DRAC-SysInfo", (int32_t)i, "DRAC-SysInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DRAC_SysInfoList(rtxContext* RT_RESTRICT ctx, const DRAC_SysInfoList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DRAC_SysInfoList, pvalue);
+}
+
+RT_MERGED_BODY int enc_DSCH_RNTI(rtxContext* RT_RESTRICT ctx, DSCH_RNTI value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &value, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DSCH-RNTI");
+   return 0;
+}
+
+int asn1PE_UMTS_DSCH_RNTI(rtxContext* RT_RESTRICT ctx, DSCH_RNTI value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DSCH_RNTI, value);
+}
+
+RT_MERGED_BODY int enc_DelayRestrictionFlag(rtxContext* RT_RESTRICT ctx, DelayRestrictionFlag value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "DelayRestrictionFlag");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DelayRestrictionFlag");
+   return 0;
+}
+
+int asn1PE_UMTS_DelayRestrictionFlag(rtxContext* RT_RESTRICT ctx, DelayRestrictionFlag value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DelayRestrictionFlag, value);
+}
+
+RT_MERGED_BODY int enc_ESN_DS_41(rtxContext* RT_RESTRICT ctx, ESN_DS_41 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32At(ctx, cur, &value, 32, 32);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ESN-DS-41");
+   return 0;
+}
+
+int asn1PE_UMTS_ESN_DS_41(rtxContext* RT_RESTRICT ctx, ESN_DS_41 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ESN_DS_41, value);
+}
+
+RT_MERGED_BODY int enc_EstablishmentCause(rtxContext* RT_RESTRICT ctx, EstablishmentCause value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 31) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "EstablishmentCause");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "EstablishmentCause");
+   return 0;
+}
+
+int asn1PE_UMTS_EstablishmentCause(rtxContext* RT_RESTRICT ctx, EstablishmentCause value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EstablishmentCause, value);
+}
+
+RT_MERGED_BODY int enc_TGPSI(rtxContext* RT_RESTRICT ctx, TGPSI value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 5u) {
+      rtxErrAddStrParm(ctx, "TGPSI");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "TGPSI");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TGPSI");
+   return 0;
+}
+
+int asn1PE_UMTS_TGPSI(rtxContext* RT_RESTRICT ctx, TGPSI value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TGPSI, value);
+}
+
+RT_MERGED_BODY int enc_ProtocolErrorCause(rtxContext* RT_RESTRICT ctx, ProtocolErrorCause value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "ProtocolErrorCause");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ProtocolErrorCause");
+   return 0;
+}
+
+int asn1PE_UMTS_ProtocolErrorCause(rtxContext* RT_RESTRICT ctx, ProtocolErrorCause value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ProtocolErrorCause, value);
+}
+
+RT_MERGED_BODY int enc_ProtocolErrorInformation_diagnosticsType_type1(rtxContext* RT_RESTRICT ctx, const ProtocolErrorInformation_diagnosticsType_type1* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* protocolErrorCause */
+   if (pvalue->protocolErrorCause > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->protocolErrorCause);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ProtocolErrorCause", "protocolErrorCause", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->protocolErrorCause, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "ProtocolErrorCause", "protocolErrorCause", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_ProtocolErrorInformation_diagnosticsType_type1(rtxContext* RT_RESTRICT ctx, const ProtocolErrorInformation_diagnosticsType_type1* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ProtocolErrorInformation_diagnosticsType_type1, pvalue);
+}
+
+RT_MERGED_BODY int enc_ProtocolErrorInformation_diagnosticsType(rtxContext* RT_RESTRICT ctx, const ProtocolErrorInformation_diagnosticsType* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.type1 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "type1", -1, 0);
+         stat = enc_ProtocolErrorInformation_diagnosticsType_type1(ctx, pvalue->u.type1, cur);
+         RT_CHECK(ctx, stat, 0, "type1", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ProtocolErrorInformation_diagnosticsType(rtxContext* RT_RESTRICT ctx, const ProtocolErrorInformation_diagnosticsType* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ProtocolErrorInformation_diagnosticsType, pvalue);
+}
+
+RT_MERGED_BODY int enc_ProtocolErrorInformation(rtxContext* RT_RESTRICT ctx, const ProtocolErrorInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ProtocolErrorInformation");
+   /* diagnosticsType */
+   stat = enc_ProtocolErrorInformation_diagnosticsType(ctx, &pvalue->diagnosticsType, cur);
+   RT_CHECK(ctx, stat, 0, "diagnosticsType", -1, "ProtocolErrorInformation");
+   return 0;
+}
+
+int asn1PE_UMTS_ProtocolErrorInformation(rtxContext* RT_RESTRICT ctx, const ProtocolErrorInformation* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ProtocolErrorInformation, pvalue);
+}
+
+RT_MERGED_BODY int enc_FailureCauseWithProtErr(rtxContext* RT_RESTRICT ctx, const FailureCauseWithProtErr* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "FailureCauseWithProtErr");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "FailureCauseWithProtErr");
+   if (pvalue->t - 1 > 15) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "FailureCauseWithProtErr");
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         break;
+      case 4:
+         if ((uint64_t)(pvalue->u.compressedModeRuntimeError - 1) > 5u) {
+            rtxErrAddStrParm(ctx, "TGPSI");
+            rtxErrAddUIntParm(ctx, pvalue->u.compressedModeRuntimeError);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TGPSI", "compressedModeRuntimeError", -1, "FailureCauseWithProtErr");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.compressedModeRuntimeError, 1, 6);
+         RT_CHECK_PUT(ctx, cur, stat, "TGPSI", "compressedModeRuntimeError", -1, "FailureCauseWithProtErr");
+         break;
+      case 5:
+         if (pvalue->u.protocolError == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "protocolError", -1, "FailureCauseWithProtErr");
+         stat = enc_ProtocolErrorInformation(ctx, pvalue->u.protocolError, cur);
+         RT_CHECK(ctx, stat, 0, "protocolError", -1, "FailureCauseWithProtErr");
+         break;
+      case 6:
+         break;
+      case 7:
+         break;
+      case 8:
+         break;
+      case 9:
+         break;
+      case 10:
+         break;
+      case 11:
+         break;
+      case 12:
+         break;
+      case 13:
+         break;
+      case 14:
+         break;
+      case 15:
+         break;
+      case 16:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_FailureCauseWithProtErr(rtxContext* RT_RESTRICT ctx, const FailureCauseWithProtErr* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_FailureCauseWithProtErr, pvalue);
+}
+
+RT_MERGED_BODY int enc_RRC_TransactionIdentifier(rtxContext* RT_RESTRICT ctx, RRC_TransactionIdentifier value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "RRC-TransactionIdentifier");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RRC-TransactionIdentifier");
+   return 0;
+}
+
+int asn1PE_UMTS_RRC_TransactionIdentifier(rtxContext* RT_RESTRICT ctx, RRC_TransactionIdentifier value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RRC_TransactionIdentifier, value);
+}
+
+RT_MERGED_BODY int enc_FailureCauseWithProtErrTrId(rtxContext* RT_RESTRICT ctx, const FailureCauseWithProtErrTrId* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "FailureCauseWithProtErrTrId");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "FailureCauseWithProtErrTrId");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "FailureCauseWithProtErrTrId");
+   /* failureCause */
+   stat = enc_FailureCauseWithProtErr(ctx, &pvalue->failureCause, cur);
+   RT_CHECK(ctx, stat, 0, "failureCause", -1, "FailureCauseWithProtErrTrId");
+   return 0;
+}
+
+int asn1PE_UMTS_FailureCauseWithProtErrTrId(rtxContext* RT_RESTRICT ctx, const FailureCauseWithProtErrTrId* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_FailureCauseWithProtErrTrId, pvalue);
+}
+
+RT_MERGED_BODY int enc_GANSS_Mode(rtxContext* RT_RESTRICT ctx, GANSS_Mode value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "GANSS-Mode");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "GANSS-Mode");
+   return 0;
+}
+
+int asn1PE_UMTS_GANSS_Mode(rtxContext* RT_RESTRICT ctx, GANSS_Mode value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSS_Mode, value);
+}
+
+RT_MERGED_BODY int enc_ReleaseCause(rtxContext* RT_RESTRICT ctx, ReleaseCause value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "ReleaseCause");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ReleaseCause");
+   return 0;
+}
+
+int asn1PE_UMTS_ReleaseCause(rtxContext* RT_RESTRICT ctx, ReleaseCause value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ReleaseCause, value);
+}
+
+RT_MERGED_BODY int enc_RRC_ConnectionReleaseInformation_release(rtxContext* RT_RESTRICT ctx, const RRC_ConnectionReleaseInformation_release* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* releaseCause */
+   if (pvalue->releaseCause > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->releaseCause);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ReleaseCause", "releaseCause", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->releaseCause, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "ReleaseCause", "releaseCause", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RRC_ConnectionReleaseInformation_release(rtxContext* RT_RESTRICT ctx, const RRC_ConnectionReleaseInformation_release* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RRC_ConnectionReleaseInformation_release, pvalue);
+}
+
+RT_MERGED_BODY int enc_RRC_ConnectionReleaseInformation(rtxContext* RT_RESTRICT ctx, const RRC_ConnectionReleaseInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RRC-ConnectionReleaseInformation");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "RRC-ConnectionReleaseInformation");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "RRC-ConnectionReleaseInformation");
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.release == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "release", -1, "RRC-ConnectionReleaseInformation");
+         stat = enc_RRC_ConnectionReleaseInformation_release(ctx, pvalue->u.release, cur);
+         RT_CHECK(ctx, stat, 0, "release", -1, "RRC-ConnectionReleaseInformation");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRC_ConnectionReleaseInformation(rtxContext* RT_RESTRICT ctx, const RRC_ConnectionReleaseInformation* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RRC_ConnectionReleaseInformation, pvalue);
+}
+
+static int enc_U_RNTI_Group(rtxContext* RT_RESTRICT ctx, const U_RNTI_Group* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "U-RNTI-Group");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "U-RNTI-Group");
+   if (pvalue->t - 1 > 31) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "U-RNTI-Group");
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b1 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b1", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 31, 31);
+         stat = pe_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b1, 31, 31);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b1", -1, "U-RNTI-Group");
+         break;
+      case 3:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b2 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b2", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 30, 30);
+         stat = pe_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b2, 30, 30);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b2", -1, "U-RNTI-Group");
+         break;
+      case 4:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b3 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b3", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 29, 29);
+         stat = pe_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b3, 29, 29);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b3", -1, "U-RNTI-Group");
+         break;
+      case 5:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b4 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b4", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 28, 28);
+         stat = pe_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b4, 28, 28);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b4", -1, "U-RNTI-Group");
+         break;
+      case 6:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b5 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b5", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 27, 27);
+         stat = pe_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b5, 27, 27);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b5", -1, "U-RNTI-Group");
+         break;
+      case 7:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b6 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b6", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 26, 26);
+         stat = pe_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b6, 26, 26);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b6", -1, "U-RNTI-Group");
+         break;
+      case 8:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b7 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b7", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 25, 25);
+         stat = pe_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b7, 25, 25);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b7", -1, "U-RNTI-Group");
+         break;
+      case 9:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b8 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b8", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 24, 24);
+         stat = pe_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b8, 24, 24);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b8", -1, "U-RNTI-Group");
+         break;
+      case 10:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b9 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b9", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 23, 23);
+         stat = pe_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b9, 23, 23);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b9", -1, "U-RNTI-Group");
+         break;
+      case 11:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b10 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b10", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 22, 22);
+         stat = pe_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b10, 22, 22);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b10", -1, "U-RNTI-Group");
+         break;
+      case 12:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b11 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b11", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 21, 21);
+         stat = pe_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b11, 21, 21);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b11", -1, "U-RNTI-Group");
+         break;
+      case 13:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b12 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b12", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 20, 20);
+         stat = pe_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b12, 20, 20);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b12", -1, "U-RNTI-Group");
+         break;
+      case 14:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b13 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b13", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 19, 19);
+         stat = pe_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b13, 19, 19);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b13", -1, "U-RNTI-Group");
+         break;
+      case 15:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b14 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b14", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 18, 18);
+         stat = pe_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b14, 18, 18);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b14", -1, "U-RNTI-Group");
+         break;
+      case 16:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b15 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b15", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 17, 17);
+         stat = pe_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b15, 17, 17);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b15", -1, "U-RNTI-Group");
+         break;
+      case 17:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b16 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b16", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 16, 16);
+         stat = pe_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b16, 16, 16);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b16", -1, "U-RNTI-Group");
+         break;
+      case 18:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b17 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b17", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 15, 15);
+         stat = pe_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b17, 15, 15);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b17", -1, "U-RNTI-Group");
+         break;
+      case 19:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b18 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b18", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 14, 14);
+         stat = pe_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b18, 14, 14);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b18", -1, "U-RNTI-Group");
+         break;
+      case 20:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b19 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b19", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 13, 13);
+         stat = pe_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b19, 13, 13);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b19", -1, "U-RNTI-Group");
+         break;
+      case 21:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b20 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b20", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 12, 12);
+         stat = pe_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b20, 12, 12);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b20", -1, "U-RNTI-Group");
+         break;
+      case 22:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b21 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b21", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 11, 11);
+         stat = pe_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b21, 11, 11);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b21", -1, "U-RNTI-Group");
+         break;
+      case 23:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b22 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b22", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 10, 10);
+         stat = pe_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b22, 10, 10);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b22", -1, "U-RNTI-Group");
+         break;
+      case 24:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b23 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b23", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 9, 9);
+         stat = pe_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b23, 9, 9);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b23", -1, "U-RNTI-Group");
+         break;
+      case 25:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b24 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b24", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 8, 8);
+         stat = pe_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b24, 8, 8);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b24", -1, "U-RNTI-Group");
+         break;
+      case 26:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b25 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b25", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 7, 7);
+         stat = pe_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b25, 7, 7);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b25", -1, "U-RNTI-Group");
+         break;
+      case 27:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b26 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b26", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 6, 6);
+         stat = pe_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b26, 6, 6);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b26", -1, "U-RNTI-Group");
+         break;
+      case 28:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b27 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b27", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 5, 5);
+         stat = pe_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b27, 5, 5);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b27", -1, "U-RNTI-Group");
+         break;
+      case 29:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b28 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b28", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 4, 4);
+         stat = pe_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b28, 4, 4);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b28", -1, "U-RNTI-Group");
+         break;
+      case 30:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b29 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b29", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 3, 3);
+         stat = pe_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b29, 3, 3);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b29", -1, "U-RNTI-Group");
+         break;
+      case 31:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b30 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b30", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 2, 2);
+         stat = pe_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b30, 2, 2);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b30", -1, "U-RNTI-Group");
+         break;
+      case 32:
+         if (pvalue->u.u_RNTI_BitMaskIndex_b31 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "u-RNTI-BitMaskIndex-b31", -1, "U-RNTI-Group");
+         RT_SET_SIZE(ctx, 1, 1);
+         stat = pe_BitString32At(ctx, cur, pvalue->u.u_RNTI_BitMaskIndex_b31, 1, 1);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "u-RNTI-BitMaskIndex-b31", -1, "U-RNTI-Group");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_U_RNTI_Group(rtxContext* RT_RESTRICT ctx, const U_RNTI_Group* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_U_RNTI_Group, pvalue);
+}
+
+RT_MERGED_BODY int enc_GroupReleaseInformation(rtxContext* RT_RESTRICT ctx, const GroupReleaseInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GroupReleaseInformation");
+   /* uRNTI-Group */
+   stat = enc_U_RNTI_Group(ctx, &pvalue->uRNTI_Group, cur);
+   RT_CHECK(ctx, stat, 0, "uRNTI-Group", -1, "GroupReleaseInformation");
+   return 0;
+}
+
+int asn1PE_UMTS_GroupReleaseInformation(rtxContext* RT_RESTRICT ctx, const GroupReleaseInformation* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GroupReleaseInformation, pvalue);
+}
+
+RT_MERGED_BODY int enc_GroupIdentityWithReleaseInformation(rtxContext* RT_RESTRICT ctx, const GroupIdentityWithReleaseInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GroupIdentityWithReleaseInformation");
+   /* rrc-ConnectionReleaseInformation */
+   stat = enc_RRC_ConnectionReleaseInformation(ctx, &pvalue->rrc_ConnectionReleaseInformation, cur);
+   RT_CHECK(ctx, stat, 0, "rrc-ConnectionReleaseInformation", -1, "GroupIdentityWithReleaseInformation");
+   /* groupReleaseInformation */
+   stat = enc_GroupReleaseInformation(ctx, &pvalue->groupReleaseInformation, cur);
+   RT_CHECK(ctx, stat, 0, "groupReleaseInformation", -1, "GroupIdentityWithReleaseInformation");
+   return 0;
+}
+
+int asn1PE_UMTS_GroupIdentityWithReleaseInformation(rtxContext* RT_RESTRICT ctx, const GroupIdentityWithReleaseInformation* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GroupIdentityWithReleaseInformation, pvalue);
+}
+
+RT_MERGED_BODY int enc_High_MobilityDetected(rtxContext* RT_RESTRICT ctx, High_MobilityDetected value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "High-MobilityDetected");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "High-MobilityDetected");
+   return 0;
+}
+
+int asn1PE_UMTS_High_MobilityDetected(rtxContext* RT_RESTRICT ctx, High_MobilityDetected value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_High_MobilityDetected, value);
+}
+
+RT_MERGED_BODY int enc_UESpecificBehaviourInformation1idle(rtxContext* RT_RESTRICT ctx, UESpecificBehaviourInformation1idle value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 4, 4);
+   stat = pe_BitString32At(ctx, cur, &value, 4, 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UESpecificBehaviourInformation1idle");
+   return 0;
+}
+
+int asn1PE_UMTS_UESpecificBehaviourInformation1idle(rtxContext* RT_RESTRICT ctx, UESpecificBehaviourInformation1idle value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UESpecificBehaviourInformation1idle, value);
+}
+
+RT_MERGED_BODY int enc_UESpecificBehaviourInformation1interRAT(rtxContext* RT_RESTRICT ctx, UESpecificBehaviourInformation1interRAT value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32At(ctx, cur, &value, 8, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UESpecificBehaviourInformation1interRAT");
+   return 0;
+}
+
+int asn1PE_UMTS_UESpecificBehaviourInformation1interRAT(rtxContext* RT_RESTRICT ctx, UESpecificBehaviourInformation1interRAT value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UESpecificBehaviourInformation1interRAT, value);
+}
+
+RT_MERGED_BODY int enc_IdleIntervalMeasCapabEUTRA(rtxContext* RT_RESTRICT ctx, const IdleIntervalMeasCapabEUTRA* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IdleIntervalMeasCapabEUTRA");
+   /* radioFrequencyBandEUTRA */
+   if ((uint64_t)(pvalue->radioFrequencyBandEUTRA - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "RadioFrequencyBandEUTRA");
+      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandEUTRA);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RadioFrequencyBandEUTRA", "radioFrequencyBandEUTRA", -1, "IdleIntervalMeasCapabEUTRA");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->radioFrequencyBandEUTRA, 1, 64);
+   RT_CHECK_PUT(ctx, cur, stat, "RadioFrequencyBandEUTRA", "radioFrequencyBandEUTRA", -1, "IdleIntervalMeasCapabEUTRA");
+   /* idleInterval */
+   stat = rtxEncBitAt(ctx, cur, pvalue->idleInterval);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "idleInterval", -1, "IdleIntervalMeasCapabEUTRA");
+   return 0;
+}
+
+int asn1PE_UMTS_IdleIntervalMeasCapabEUTRA(rtxContext* RT_RESTRICT ctx, const IdleIntervalMeasCapabEUTRA* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IdleIntervalMeasCapabEUTRA, pvalue);
+}
+
+RT_MERGED_BODY int enc_IdleIntervalMeasCapabEUTRAList(rtxContext* RT_RESTRICT ctx, const IdleIntervalMeasCapabEUTRAList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IdleIntervalMeasCapabEUTRAList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "IdleIntervalMeasCapabEUTRAList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "IdleIntervalMeasCapabEUTRA", (int32_t)i, "IdleIntervalMeasCapabEUTRAList");
+      stat = enc_IdleIntervalMeasCapabEUTRA(ctx, (const IdleIntervalMeasCapabEUTRA*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "IdleIntervalMeasCapabEUTRA", (int32_t)i, "IdleIntervalMeasCapabEUTRAList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IdleIntervalMeasCapabEUTRAList(rtxContext* RT_RESTRICT ctx, const IdleIntervalMeasCapabEUTRAList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IdleIntervalMeasCapabEUTRAList, pvalue);
+}
+
+RT_MERGED_BODY int enc_IMSI_and_ESN_DS_41(rtxContext* RT_RESTRICT ctx, const IMSI_and_ESN_DS_41* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IMSI-and-ESN-DS-41");
+   /* imsi-DS-41 */
+   stat = enc_IMSI_DS_41(ctx, &pvalue->imsi_DS_41, cur);
+   RT_CHECK(ctx, stat, 0, "imsi-DS-41", -1, "IMSI-and-ESN-DS-41");
+   /* esn-DS-41 */
+   stat = enc_ESN_DS_41(ctx, pvalue->esn_DS_41, cur);
+   RT_CHECK(ctx, stat, 0, "esn-DS-41", -1, "IMSI-and-ESN-DS-41");
+   return 0;
+}
+
+int asn1PE_UMTS_IMSI_and_ESN_DS_41(rtxContext* RT_RESTRICT ctx, const IMSI_and_ESN_DS_41* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IMSI_and_ESN_DS_41, pvalue);
+}
+
+RT_MERGED_BODY int enc_TMSI_and_LAI_GSM_MAP(rtxContext* RT_RESTRICT ctx, const TMSI_and_LAI_GSM_MAP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TMSI-and-LAI-GSM-MAP");
+   /* tmsi */
+   stat = enc_TMSI_GSM_MAP(ctx, pvalue->tmsi, cur);
+   RT_CHECK(ctx, stat, 0, "tmsi", -1, "TMSI-and-LAI-GSM-MAP");
+   /* lai */
+   stat = enc_LAI(ctx, &pvalue->lai, cur);
+   RT_CHECK(ctx, stat, 0, "lai", -1, "TMSI-and-LAI-GSM-MAP");
+   return 0;
+}
+
+int asn1PE_UMTS_TMSI_and_LAI_GSM_MAP(rtxContext* RT_RESTRICT ctx, const TMSI_and_LAI_GSM_MAP* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TMSI_and_LAI_GSM_MAP, pvalue);
+}
+
+RT_MERGED_BODY int enc_P_TMSI_and_RAI_GSM_MAP(rtxContext* RT_RESTRICT ctx, const P_TMSI_and_RAI_GSM_MAP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "P-TMSI-and-RAI-GSM-MAP");
+   /* p-TMSI */
+   stat = enc_P_TMSI_GSM_MAP(ctx, pvalue->p_TMSI, cur);
+   RT_CHECK(ctx, stat, 0, "p-TMSI", -1, "P-TMSI-and-RAI-GSM-MAP");
+   /* rai */
+   stat = enc_RAI(ctx, &pvalue->rai, cur);
+   RT_CHECK(ctx, stat, 0, "rai", -1, "P-TMSI-and-RAI-GSM-MAP");
+   return 0;
+}
+
+int asn1PE_UMTS_P_TMSI_and_RAI_GSM_MAP(rtxContext* RT_RESTRICT ctx, const P_TMSI_and_RAI_GSM_MAP* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_P_TMSI_and_RAI_GSM_MAP, pvalue);
+}
+
+static int enc_InitialUE_Identity(rtxContext* RT_RESTRICT ctx, const InitialUE_Identity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InitialUE-Identity");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "InitialUE-Identity");
+   if (pvalue->t - 1 > 7) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "InitialUE-Identity");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.imsi == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "imsi", -1, "InitialUE-Identity");
+         stat = enc_IMSI_GSM_MAP(ctx, pvalue->u.imsi, cur);
+         RT_CHECK(ctx, stat, 0, "imsi", -1, "InitialUE-Identity");
+         break;
+      case 2:
+         if (pvalue->u.tmsi_and_LAI == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tmsi-and-LAI", -1, "InitialUE-Identity");
+         stat = enc_TMSI_and_LAI_GSM_MAP(ctx, pvalue->u.tmsi_and_LAI, cur);
+         RT_CHECK(ctx, stat, 0, "tmsi-and-LAI", -1, "InitialUE-Identity");
+         break;
+      case 3:
+         if (pvalue->u.p_TMSI_and_RAI == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "p-TMSI-and-RAI", -1, "InitialUE-Identity");
+         stat = enc_P_TMSI_and_RAI_GSM_MAP(ctx, pvalue->u.p_TMSI_and_RAI, cur);
+         RT_CHECK(ctx, stat, 0, "p-TMSI-and-RAI", -1, "InitialUE-Identity");
+         break;
+      case 4:
+         if (pvalue->u.imei == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "imei", -1, "InitialUE-Identity");
+         stat = enc_IMEI(ctx, pvalue->u.imei, cur);
+         RT_CHECK(ctx, stat, 0, "imei", -1, "InitialUE-Identity");
+         break;
+      case 5:
+         if (pvalue->u.esn_DS_41 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "esn-DS-41", -1, "InitialUE-Identity");
+         stat = enc_ESN_DS_41(ctx, *pvalue->u.esn_DS_41, cur);
+         RT_CHECK(ctx, stat, 0, "esn-DS-41", -1, "InitialUE-Identity");
+         break;
+      case 6:
+         if (pvalue->u.imsi_DS_41 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "imsi-DS-41", -1, "InitialUE-Identity");
+         stat = enc_IMSI_DS_41(ctx, pvalue->u.imsi_DS_41, cur);
+         RT_CHECK(ctx, stat, 0, "imsi-DS-41", -1, "InitialUE-Identity");
+         break;
+      case 7:
+         if (pvalue->u.imsi_and_ESN_DS_41 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "imsi-and-ESN-DS-41", -1, "InitialUE-Identity");
+         stat = enc_IMSI_and_ESN_DS_41(ctx, pvalue->u.imsi_and_ESN_DS_41, cur);
+         RT_CHECK(ctx, stat, 0, "imsi-and-ESN-DS-41", -1, "InitialUE-Identity");
+         break;
+      case 8:
+         if (pvalue->u.tmsi_DS_41 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tmsi-DS-41", -1, "InitialUE-Identity");
+         stat = enc_TMSI_DS_41(ctx, pvalue->u.tmsi_DS_41, cur);
+         RT_CHECK(ctx, stat, 0, "tmsi-DS-41", -1, "InitialUE-Identity");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InitialUE_Identity(rtxContext* RT_RESTRICT ctx, const InitialUE_Identity* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InitialUE_Identity, pvalue);
+}
+
+RT_MERGED_BODY int enc_MessageAuthenticationCode(rtxContext* RT_RESTRICT ctx, MessageAuthenticationCode value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32At(ctx, cur, &value, 32, 32);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MessageAuthenticationCode");
+   return 0;
+}
+
+int asn1PE_UMTS_MessageAuthenticationCode(rtxContext* RT_RESTRICT ctx, MessageAuthenticationCode value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MessageAuthenticationCode, value);
+}
+
+RT_MERGED_BODY int enc_RRC_MessageSequenceNumber(rtxContext* RT_RESTRICT ctx, RRC_MessageSequenceNumber value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 15u) {
+      rtxErrAddStrParm(ctx, "RRC-MessageSequenceNumber");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "RRC-MessageSequenceNumber");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RRC-MessageSequenceNumber");
+   return 0;
+}
+
+int asn1PE_UMTS_RRC_MessageSequenceNumber(rtxContext* RT_RESTRICT ctx, RRC_MessageSequenceNumber value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RRC_MessageSequenceNumber, value);
+}
+
+RT_MERGED_BODY int enc_IntegrityCheckInfo(rtxContext* RT_RESTRICT ctx, const IntegrityCheckInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntegrityCheckInfo");
+   /* messageAuthenticationCode */
+   stat = enc_MessageAuthenticationCode(ctx, pvalue->messageAuthenticationCode, cur);
+   RT_CHECK(ctx, stat, 0, "messageAuthenticationCode", -1, "IntegrityCheckInfo");
+   /* rrc-MessageSequenceNumber */
+   if ((uint64_t)pvalue->rrc_MessageSequenceNumber > 15u) {
+      rtxErrAddStrParm(ctx, "RRC-MessageSequenceNumber");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_MessageSequenceNumber);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RRC-MessageSequenceNumber", "rrc-MessageSequenceNumber", -1, "IntegrityCheckInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->rrc_MessageSequenceNumber, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "RRC-MessageSequenceNumber", "rrc-MessageSequenceNumber", -1, "IntegrityCheckInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_IntegrityCheckInfo(rtxContext* RT_RESTRICT ctx, const IntegrityCheckInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntegrityCheckInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_RRC_MessageSequenceNumberList(rtxContext* RT_RESTRICT ctx, const RRC_MessageSequenceNumberList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RRC-MessageSequenceNumberList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 4, 5);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RRC-MessageSequenceNumberList");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 15u) {
+         rtxErrAddStrParm(ctx, "RRC-MessageSequenceNumber");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RRC-MessageSequenceNumber", "RRC-MessageSequenceNumber", (int32_t)i, "RRC-MessageSequenceNumberList");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "RRC-MessageSequenceNumber", "RRC-MessageSequenceNumber", (int32_t)i, "RRC-MessageSequenceNumberList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RRC_MessageSequenceNumberList(rtxContext* RT_RESTRICT ctx, const RRC_MessageSequenceNumberList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RRC_MessageSequenceNumberList, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntegrityProtActivationInfo(rtxContext* RT_RESTRICT ctx, const IntegrityProtActivationInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntegrityProtActivationInfo");
+   /* rrc-MessageSequenceNumberList */
+   stat = enc_RRC_MessageSequenceNumberList(ctx, &pvalue->rrc_MessageSequenceNumberList, cur);
+   RT_CHECK(ctx, stat, 0, "rrc-MessageSequenceNumberList", -1, "IntegrityProtActivationInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_IntegrityProtActivationInfo(rtxContext* RT_RESTRICT ctx, const IntegrityProtActivationInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntegrityProtActivationInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntegrityProtectionAlgorithm(rtxContext* RT_RESTRICT ctx, IntegrityProtectionAlgorithm value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "IntegrityProtectionAlgorithm");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntegrityProtectionAlgorithm");
+   return 0;
+}
+
+int asn1PE_UMTS_IntegrityProtectionAlgorithm(rtxContext* RT_RESTRICT ctx, IntegrityProtectionAlgorithm value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntegrityProtectionAlgorithm, value);
+}
+
+RT_MERGED_BODY int enc_IntegrityProtectionAlgorithm_r7(rtxContext* RT_RESTRICT ctx, IntegrityProtectionAlgorithm_r7 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "IntegrityProtectionAlgorithm-r7");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntegrityProtectionAlgorithm-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_IntegrityProtectionAlgorithm_r7(rtxContext* RT_RESTRICT ctx, IntegrityProtectionAlgorithm_r7 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntegrityProtectionAlgorithm_r7, value);
+}
+
+RT_MERGED_BODY int enc_IntegrityProtInitNumber(rtxContext* RT_RESTRICT ctx, IntegrityProtInitNumber value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32At(ctx, cur, &value, 32, 32);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntegrityProtInitNumber");
+   return 0;
+}
+
+int asn1PE_UMTS_IntegrityProtInitNumber(rtxContext* RT_RESTRICT ctx, IntegrityProtInitNumber value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntegrityProtInitNumber, value);
+}
+
+RT_MERGED_BODY int enc_IntegrityProtectionModeCommand_startIntegrityProtection(rtxContext* RT_RESTRICT ctx, const IntegrityProtectionModeCommand_startIntegrityProtection* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* integrityProtInitNumber */
+   stat = enc_IntegrityProtInitNumber(ctx, pvalue->integrityProtInitNumber, cur);
+   RT_CHECK(ctx, stat, 0, "integrityProtInitNumber", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_IntegrityProtectionModeCommand_startIntegrityProtection(rtxContext* RT_RESTRICT ctx, const IntegrityProtectionModeCommand_startIntegrityProtection* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntegrityProtectionModeCommand_startIntegrityProtection, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntegrityProtectionModeCommand_modify(rtxContext* RT_RESTRICT ctx, const IntegrityProtectionModeCommand_modify* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* dl-IntegrityProtActivationInfo */
+   stat = enc_IntegrityProtActivationInfo(ctx, &pvalue->dl_IntegrityProtActivationInfo, cur);
+   RT_CHECK(ctx, stat, 0, "dl-IntegrityProtActivationInfo", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_IntegrityProtectionModeCommand_modify(rtxContext* RT_RESTRICT ctx, const IntegrityProtectionModeCommand_modify* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntegrityProtectionModeCommand_modify, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntegrityProtectionModeCommand(rtxContext* RT_RESTRICT ctx, const IntegrityProtectionModeCommand* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntegrityProtectionModeCommand");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "IntegrityProtectionModeCommand");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "IntegrityProtectionModeCommand");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.startIntegrityProtection == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "startIntegrityProtection", -1, "IntegrityProtectionModeCommand");
+         stat = enc_IntegrityProtectionModeCommand_startIntegrityProtection(ctx, pvalue->u.startIntegrityProtection, cur);
+         RT_CHECK(ctx, stat, 0, "startIntegrityProtection", -1, "IntegrityProtectionModeCommand");
+         break;
+      case 2:
+         if (pvalue->u.modify == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "modify", -1, "IntegrityProtectionModeCommand");
+         stat = enc_IntegrityProtectionModeCommand_modify(ctx, pvalue->u.modify, cur);
+         RT_CHECK(ctx, stat, 0, "modify", -1, "IntegrityProtectionModeCommand");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntegrityProtectionModeCommand(rtxContext* RT_RESTRICT ctx, const IntegrityProtectionModeCommand* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntegrityProtectionModeCommand, pvalue);
+}
+
+static int enc_IntegrityProtectionModeInfo(rtxContext* RT_RESTRICT ctx, const IntegrityProtectionModeInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntegrityProtectionModeInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntegrityProtectionModeInfo");
+   /* integrityProtectionModeCommand */
+   stat = enc_IntegrityProtectionModeCommand(ctx, &pvalue->integrityProtectionModeCommand, cur);
+   RT_CHECK(ctx, stat, 0, "integrityProtectionModeCommand", -1, "IntegrityProtectionModeInfo");
+   /* integrityProtectionAlgorithm */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->integrityProtectionAlgorithm > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->integrityProtectionAlgorithm);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "IntegrityProtectionAlgorithm", "integrityProtectionAlgorithm", -1, "IntegrityProtectionModeInfo");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->integrityProtectionAlgorithm, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, "IntegrityProtectionAlgorithm", "integrityProtectionAlgorithm", -1, "IntegrityProtectionModeInfo");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntegrityProtectionModeInfo(rtxContext* RT_RESTRICT ctx, const IntegrityProtectionModeInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntegrityProtectionModeInfo, pvalue);
+}
+
+static int enc_IntegrityProtectionModeInfo_r7(rtxContext* RT_RESTRICT ctx, const IntegrityProtectionModeInfo_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntegrityProtectionModeInfo-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntegrityProtectionModeInfo-r7");
+   /* integrityProtectionModeCommand */
+   stat = enc_IntegrityProtectionModeCommand(ctx, &pvalue->integrityProtectionModeCommand, cur);
+   RT_CHECK(ctx, stat, 0, "integrityProtectionModeCommand", -1, "IntegrityProtectionModeInfo-r7");
+   /* integrityProtectionAlgorithm */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->integrityProtectionAlgorithm > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->integrityProtectionAlgorithm);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "IntegrityProtectionAlgorithm-r7", "integrityProtectionAlgorithm", -1, "IntegrityProtectionModeInfo-r7");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->integrityProtectionAlgorithm, 0, 1);
+      RT_CHECK_PUT(ctx, cur, stat, "IntegrityProtectionAlgorithm-r7", "integrityProtectionAlgorithm", -1, "IntegrityProtectionModeInfo-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntegrityProtectionModeInfo_r7(rtxContext* RT_RESTRICT ctx, const IntegrityProtectionModeInfo_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntegrityProtectionModeInfo_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_MaxHcContextSpace(rtxContext* RT_RESTRICT ctx, MaxHcContextSpace value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 4) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MaxHcContextSpace");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaxHcContextSpace");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxHcContextSpace(rtxContext* RT_RESTRICT ctx, MaxHcContextSpace value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MaxHcContextSpace, value);
+}
+
+RT_MERGED_BODY int enc_MaxHcContextSpace_r5_ext(rtxContext* RT_RESTRICT ctx, MaxHcContextSpace_r5_ext value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MaxHcContextSpace-r5-ext");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaxHcContextSpace-r5-ext");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxHcContextSpace_r5_ext(rtxContext* RT_RESTRICT ctx, MaxHcContextSpace_r5_ext value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MaxHcContextSpace_r5_ext, value);
+}
+
+RT_MERGED_BODY int enc_MaxROHC_ContextSessions_r4(rtxContext* RT_RESTRICT ctx, MaxROHC_ContextSessions_r4 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 13) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MaxROHC-ContextSessions-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 13);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaxROHC-ContextSessions-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxROHC_ContextSessions_r4(rtxContext* RT_RESTRICT ctx, MaxROHC_ContextSessions_r4 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MaxROHC_ContextSessions_r4, value);
+}
+
+RT_MERGED_BODY int enc_MaximumAM_EntityNumberRLC_Cap(rtxContext* RT_RESTRICT ctx, MaximumAM_EntityNumberRLC_Cap value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 6) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MaximumAM-EntityNumberRLC-Cap");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaximumAM-EntityNumberRLC-Cap");
+   return 0;
+}
+
+int asn1PE_UMTS_MaximumAM_EntityNumberRLC_Cap(rtxContext* RT_RESTRICT ctx, MaximumAM_EntityNumberRLC_Cap value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MaximumAM_EntityNumberRLC_Cap, value);
+}
+
+RT_MERGED_BODY int enc_MaximumRLC_WindowSize(rtxContext* RT_RESTRICT ctx, MaximumRLC_WindowSize value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MaximumRLC-WindowSize");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaximumRLC-WindowSize");
+   return 0;
+}
+
+int asn1PE_UMTS_MaximumRLC_WindowSize(rtxContext* RT_RESTRICT ctx, MaximumRLC_WindowSize value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MaximumRLC_WindowSize, value);
+}
+
+RT_MERGED_BODY int enc_MaxNoDPDCH_BitsTransmitted(rtxContext* RT_RESTRICT ctx, MaxNoDPDCH_BitsTransmitted value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 9) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MaxNoDPDCH-BitsTransmitted");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 9);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaxNoDPDCH-BitsTransmitted");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxNoDPDCH_BitsTransmitted(rtxContext* RT_RESTRICT ctx, MaxNoDPDCH_BitsTransmitted value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MaxNoDPDCH_BitsTransmitted, value);
+}
+
+RT_MERGED_BODY int enc_MaxNumberOfTFC_UL(rtxContext* RT_RESTRICT ctx, MaxNumberOfTFC_UL value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 10) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MaxNumberOfTFC-UL");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 10);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaxNumberOfTFC-UL");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxNumberOfTFC_UL(rtxContext* RT_RESTRICT ctx, MaxNumberOfTFC_UL value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MaxNumberOfTFC_UL, value);
+}
+
+RT_MERGED_BODY int enc_MaxPhysChPerTimeslot(rtxContext* RT_RESTRICT ctx, MaxPhysChPerTimeslot value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MaxPhysChPerTimeslot");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaxPhysChPerTimeslot");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxPhysChPerTimeslot(rtxContext* RT_RESTRICT ctx, MaxPhysChPerTimeslot value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MaxPhysChPerTimeslot, value);
+}
+
+RT_MERGED_BODY int enc_MaxPhysChPerTimeslot_LCR_r7(rtxContext* RT_RESTRICT ctx, MaxPhysChPerTimeslot_LCR_r7 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 3u) {
+      rtxErrAddStrParm(ctx, "MaxPhysChPerTimeslot-LCR-r7");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "MaxPhysChPerTimeslot-LCR-r7");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaxPhysChPerTimeslot-LCR-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxPhysChPerTimeslot_LCR_r7(rtxContext* RT_RESTRICT ctx, MaxPhysChPerTimeslot_LCR_r7 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MaxPhysChPerTimeslot_LCR_r7, value);
+}
+
+RT_MERGED_BODY int enc_MaxSimultaneousTransChsUL(rtxContext* RT_RESTRICT ctx, MaxSimultaneousTransChsUL value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 4) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MaxSimultaneousTransChsUL");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaxSimultaneousTransChsUL");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxSimultaneousTransChsUL(rtxContext* RT_RESTRICT ctx, MaxSimultaneousTransChsUL value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MaxSimultaneousTransChsUL, value);
+}
+
+RT_MERGED_BODY int enc_MaxTransportBlocksUL(rtxContext* RT_RESTRICT ctx, MaxTransportBlocksUL value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 10) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MaxTransportBlocksUL");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 10);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaxTransportBlocksUL");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxTransportBlocksUL(rtxContext* RT_RESTRICT ctx, MaxTransportBlocksUL value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MaxTransportBlocksUL, value);
+}
+
+RT_MERGED_BODY int enc_MeasurementCapability(rtxContext* RT_RESTRICT ctx, const MeasurementCapability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCapability");
+   /* downlinkCompressedMode */
+   stat = enc_CompressedModeMeasCapability(ctx, &pvalue->downlinkCompressedMode, cur);
+   RT_CHECK(ctx, stat, 0, "downlinkCompressedMode", -1, "MeasurementCapability");
+   /* uplinkCompressedMode */
+   stat = enc_CompressedModeMeasCapability(ctx, &pvalue->uplinkCompressedMode, cur);
+   RT_CHECK(ctx, stat, 0, "uplinkCompressedMode", -1, "MeasurementCapability");
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementCapability(rtxContext* RT_RESTRICT ctx, const MeasurementCapability* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementCapability, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementCapabilityExt(rtxContext* RT_RESTRICT ctx, const MeasurementCapabilityExt* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCapabilityExt");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MeasurementCapabilityExt");
+   /* compressedModeMeasCapabFDDList */
+   stat = enc_CompressedModeMeasCapabFDDList(ctx, &pvalue->compressedModeMeasCapabFDDList, cur);
+   RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabFDDList", -1, "MeasurementCapabilityExt");
+   /* compressedModeMeasCapabTDDList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_CompressedModeMeasCapabTDDList(ctx, &pvalue->compressedModeMeasCapabTDDList, cur);
+      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabTDDList", -1, "MeasurementCapabilityExt");
+   }
+   /* compressedModeMeasCapabGSMList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_CompressedModeMeasCapabGSMList(ctx, &pvalue->compressedModeMeasCapabGSMList, cur);
+      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabGSMList", -1, "MeasurementCapabilityExt");
+   }
+   /* compressedModeMeasCapabMC */
+   if (pvalue->m & 0x4u) {
+      stat = enc_CompressedModeMeasCapabMC(ctx, &pvalue->compressedModeMeasCapabMC, cur);
+      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabMC", -1, "MeasurementCapabilityExt");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementCapabilityExt(rtxContext* RT_RESTRICT ctx, const MeasurementCapabilityExt* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementCapabilityExt, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementCapabilityExt2(rtxContext* RT_RESTRICT ctx, const MeasurementCapabilityExt2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCapabilityExt2");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MeasurementCapabilityExt2");
+   /* compressedModeMeasCapabFDDList */
+   stat = enc_CompressedModeMeasCapabFDDList2(ctx, &pvalue->compressedModeMeasCapabFDDList, cur);
+   RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabFDDList", -1, "MeasurementCapabilityExt2");
+   /* compressedModeMeasCapabTDDList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_CompressedModeMeasCapabTDDList(ctx, &pvalue->compressedModeMeasCapabTDDList, cur);
+      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabTDDList", -1, "MeasurementCapabilityExt2");
+   }
+   /* compressedModeMeasCapabGSMList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_CompressedModeMeasCapabGSMList(ctx, &pvalue->compressedModeMeasCapabGSMList, cur);
+      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabGSMList", -1, "MeasurementCapabilityExt2");
+   }
+   /* compressedModeMeasCapabMC */
+   if (pvalue->m & 0x4u) {
+      stat = enc_CompressedModeMeasCapabMC(ctx, &pvalue->compressedModeMeasCapabMC, cur);
+      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabMC", -1, "MeasurementCapabilityExt2");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementCapabilityExt2(rtxContext* RT_RESTRICT ctx, const MeasurementCapabilityExt2* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementCapabilityExt2, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementCapabilityExt3(rtxContext* RT_RESTRICT ctx, const MeasurementCapabilityExt3* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCapabilityExt3");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MeasurementCapabilityExt3");
+   /* compressedModeMeasCapabEUTRAList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_CompressedModeMeasCapabEUTRAList(ctx, &pvalue->compressedModeMeasCapabEUTRAList, cur);
+      RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabEUTRAList", -1, "MeasurementCapabilityExt3");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementCapabilityExt3(rtxContext* RT_RESTRICT ctx, const MeasurementCapabilityExt3* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementCapabilityExt3, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementCapability_r4_ext(rtxContext* RT_RESTRICT ctx, const MeasurementCapability_r4_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCapability-r4-ext");
+   /* downlinkCompressedMode-LCR */
+   stat = enc_CompressedModeMeasCapability_LCR_r4(ctx, &pvalue->downlinkCompressedMode_LCR, cur);
+   RT_CHECK(ctx, stat, 0, "downlinkCompressedMode-LCR", -1, "MeasurementCapability-r4-ext");
+   /* uplinkCompressedMode-LCR */
+   stat = enc_CompressedModeMeasCapability_LCR_r4(ctx, &pvalue->uplinkCompressedMode_LCR, cur);
+   RT_CHECK(ctx, stat, 0, "uplinkCompressedMode-LCR", -1, "MeasurementCapability-r4-ext");
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementCapability_r4_ext(rtxContext* RT_RESTRICT ctx, const MeasurementCapability_r4_ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementCapability_r4_ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementCapability_v860ext(rtxContext* RT_RESTRICT ctx, const MeasurementCapability_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCapability-v860ext");
+   /* downlinkCompressedMode */
+   stat = enc_CompressedModeMeasCapability_v860ext(ctx, &pvalue->downlinkCompressedMode, cur);
+   RT_CHECK(ctx, stat, 0, "downlinkCompressedMode", -1, "MeasurementCapability-v860ext");
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementCapability_v860ext(rtxContext* RT_RESTRICT ctx, const MeasurementCapability_v860ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementCapability_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementCapability_v920ext(rtxContext* RT_RESTRICT ctx, const MeasurementCapability_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCapability-v920ext");
+   /* downlinkCompressedMode */
+   stat = enc_CompressedModeMeasCapability_v920ext(ctx, &pvalue->downlinkCompressedMode, cur);
+   RT_CHECK(ctx, stat, 0, "downlinkCompressedMode", -1, "MeasurementCapability-v920ext");
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementCapability_v920ext(rtxContext* RT_RESTRICT ctx, const MeasurementCapability_v920ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementCapability_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementCapabilityTDD(rtxContext* RT_RESTRICT ctx, const MeasurementCapabilityTDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCapabilityTDD");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MeasurementCapabilityTDD");
+   /* idleIntervalMeasCapabEUTRAList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_IdleIntervalMeasCapabEUTRAList(ctx, &pvalue->idleIntervalMeasCapabEUTRAList, cur);
+      RT_CHECK(ctx, stat, 0, "idleIntervalMeasCapabEUTRAList", -1, "MeasurementCapabilityTDD");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementCapabilityTDD(rtxContext* RT_RESTRICT ctx, const MeasurementCapabilityTDD* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementCapabilityTDD, pvalue);
+}
+
+RT_MERGED_BODY int enc_MinimumSF_UL(rtxContext* RT_RESTRICT ctx, MinimumSF_UL value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 4) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MinimumSF-UL");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MinimumSF-UL");
+   return 0;
+}
+
+int asn1PE_UMTS_MinimumSF_UL(rtxContext* RT_RESTRICT ctx, MinimumSF_UL value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MinimumSF_UL, value);
+}
+
+RT_MERGED_BODY int enc_MultiModeCapability(rtxContext* RT_RESTRICT ctx, MultiModeCapability value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 2) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MultiModeCapability");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MultiModeCapability");
+   return 0;
+}
+
+int asn1PE_UMTS_MultiModeCapability(rtxContext* RT_RESTRICT ctx, MultiModeCapability value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MultiModeCapability, value);
+}
+
+RT_MERGED_BODY int enc_MultiRAT_Capability(rtxContext* RT_RESTRICT ctx, const MultiRAT_Capability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MultiRAT-Capability");
+   /* supportOfGSM */
+   stat = rtxEncBitAt(ctx, cur, pvalue->supportOfGSM);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfGSM", -1, "MultiRAT-Capability");
+   /* supportOfMulticarrier */
+   stat = rtxEncBitAt(ctx, cur, pvalue->supportOfMulticarrier);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfMulticarrier", -1, "MultiRAT-Capability");
+   return 0;
+}
+
+int asn1PE_UMTS_MultiRAT_Capability(rtxContext* RT_RESTRICT ctx, const MultiRAT_Capability* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MultiRAT_Capability, pvalue);
+}
+
+RT_MERGED_BODY int enc_MultiModeRAT_Capability_v590ext(rtxContext* RT_RESTRICT ctx, const MultiModeRAT_Capability_v590ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MultiModeRAT-Capability-v590ext");
+   /* supportOfUTRAN-ToGERAN-NACC */
+   stat = rtxEncBitAt(ctx, cur, pvalue->supportOfUTRAN_ToGERAN_NACC);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfUTRAN-ToGERAN-NACC", -1, "MultiModeRAT-Capability-v590ext");
+   return 0;
+}
+
+int asn1PE_UMTS_MultiModeRAT_Capability_v590ext(rtxContext* RT_RESTRICT ctx, const MultiModeRAT_Capability_v590ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MultiModeRAT_Capability_v590ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_MultiModeRAT_Capability_v680ext_supportOfHandoverToGAN(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v680ext_supportOfHandoverToGAN value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MultiModeRAT_Capability_v680ext_supportOfHandoverToGAN(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v680ext_supportOfHandoverToGAN value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MultiModeRAT_Capability_v680ext_supportOfHandoverToGAN, value);
+}
+
+RT_MERGED_BODY int enc_MultiModeRAT_Capability_v680ext(rtxContext* RT_RESTRICT ctx, const MultiModeRAT_Capability_v680ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MultiModeRAT-Capability-v680ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MultiModeRAT-Capability-v680ext");
+   /* supportOfHandoverToGAN */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportOfHandoverToGAN > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfHandoverToGAN);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportOfHandoverToGAN", -1, "MultiModeRAT-Capability-v680ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportOfHandoverToGAN, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfHandoverToGAN", -1, "MultiModeRAT-Capability-v680ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MultiModeRAT_Capability_v680ext(rtxContext* RT_RESTRICT ctx, const MultiModeRAT_Capability_v680ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MultiModeRAT_Capability_v680ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_MultiModeRAT_Capability_v770ext_supportOfPSHandoverToGAN(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v770ext_supportOfPSHandoverToGAN value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MultiModeRAT_Capability_v770ext_supportOfPSHandoverToGAN(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v770ext_supportOfPSHandoverToGAN value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MultiModeRAT_Capability_v770ext_supportOfPSHandoverToGAN, value);
+}
+
+RT_MERGED_BODY int enc_MultiModeRAT_Capability_v770ext(rtxContext* RT_RESTRICT ctx, const MultiModeRAT_Capability_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MultiModeRAT-Capability-v770ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MultiModeRAT-Capability-v770ext");
+   /* supportOfPSHandoverToGAN */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportOfPSHandoverToGAN > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfPSHandoverToGAN);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportOfPSHandoverToGAN", -1, "MultiModeRAT-Capability-v770ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportOfPSHandoverToGAN, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfPSHandoverToGAN", -1, "MultiModeRAT-Capability-v770ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MultiModeRAT_Capability_v770ext(rtxContext* RT_RESTRICT ctx, const MultiModeRAT_Capability_v770ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MultiModeRAT_Capability_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_MultiModeRAT_Capability_v860ext_supportOfEUTRAFDD(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext_supportOfEUTRAFDD value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MultiModeRAT_Capability_v860ext_supportOfEUTRAFDD(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext_supportOfEUTRAFDD value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MultiModeRAT_Capability_v860ext_supportOfEUTRAFDD, value);
+}
+
+RT_MERGED_BODY int enc_MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRAFDD(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRAFDD value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRAFDD(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRAFDD value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRAFDD, value);
+}
+
+RT_MERGED_BODY int enc_MultiModeRAT_Capability_v860ext_supportOfEUTRATDD(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext_supportOfEUTRATDD value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MultiModeRAT_Capability_v860ext_supportOfEUTRATDD(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext_supportOfEUTRATDD value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MultiModeRAT_Capability_v860ext_supportOfEUTRATDD, value);
+}
+
+RT_MERGED_BODY int enc_MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRATDD(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRATDD value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRATDD(rtxContext* RT_RESTRICT ctx, MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRATDD value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MultiModeRAT_Capability_v860ext_supportOfInterRATHOToEUTRATDD, value);
+}
+
+RT_MERGED_BODY int enc_MultiModeRAT_Capability_v860ext(rtxContext* RT_RESTRICT ctx, const MultiModeRAT_Capability_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MultiModeRAT-Capability-v860ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MultiModeRAT-Capability-v860ext");
+   /* supportOfEUTRAFDD */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportOfEUTRAFDD > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfEUTRAFDD);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportOfEUTRAFDD", -1, "MultiModeRAT-Capability-v860ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportOfEUTRAFDD, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfEUTRAFDD", -1, "MultiModeRAT-Capability-v860ext");
+   }
+   /* supportOfInterRATHOToEUTRAFDD */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->supportOfInterRATHOToEUTRAFDD > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfInterRATHOToEUTRAFDD);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportOfInterRATHOToEUTRAFDD", -1, "MultiModeRAT-Capability-v860ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportOfInterRATHOToEUTRAFDD, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfInterRATHOToEUTRAFDD", -1, "MultiModeRAT-Capability-v860ext");
+   }
+   /* supportOfEUTRATDD */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->supportOfEUTRATDD > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfEUTRATDD);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportOfEUTRATDD", -1, "MultiModeRAT-Capability-v860ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportOfEUTRATDD, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfEUTRATDD", -1, "MultiModeRAT-Capability-v860ext");
+   }
+   /* supportOfInterRATHOToEUTRATDD */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->supportOfInterRATHOToEUTRATDD > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfInterRATHOToEUTRATDD);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportOfInterRATHOToEUTRATDD", -1, "MultiModeRAT-Capability-v860ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportOfInterRATHOToEUTRATDD, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfInterRATHOToEUTRATDD", -1, "MultiModeRAT-Capability-v860ext");
+   }
+   /* eutraFeatureGroupIndicators */
+   if (pvalue->m & 0x10u) {
+      RT_SET_SIZE(ctx, 4, 4);
+      stat = pe_BitString32At(ctx, cur, &pvalue->eutraFeatureGroupIndicators, 4, 4);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "eutraFeatureGroupIndicators", -1, "MultiModeRAT-Capability-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MultiModeRAT_Capability_v860ext(rtxContext* RT_RESTRICT ctx, const MultiModeRAT_Capability_v860ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MultiModeRAT_Capability_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_N_308(rtxContext* RT_RESTRICT ctx, N_308 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "N-308");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "N-308");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "N-308");
+   return 0;
+}
+
+int asn1PE_UMTS_N_308(rtxContext* RT_RESTRICT ctx, N_308 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_N_308, value);
+}
+
+RT_MERGED_BODY int enc_N_312_r5(rtxContext* RT_RESTRICT ctx, N_312_r5 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 11) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "N-312-r5");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 11);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "N-312-r5");
+   return 0;
+}
+
+int asn1PE_UMTS_N_312_r5(rtxContext* RT_RESTRICT ctx, N_312_r5 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_N_312_r5, value);
+}
+
+RT_MERGED_BODY int enc_N_315_r5(rtxContext* RT_RESTRICT ctx, N_315_r5 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 11) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "N-315-r5");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 11);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "N-315-r5");
+   return 0;
+}
+
+int asn1PE_UMTS_N_315_r5(rtxContext* RT_RESTRICT ctx, N_315_r5 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_N_315_r5, value);
+}
+
+RT_MERGED_BODY int enc_NeighCellSI_AcquisitionCapability_supportOfIntraFreqSIAcquisitionForHO(rtxContext* RT_RESTRICT ctx, NeighCellSI_AcquisitionCapability_supportOfIntraFreqSIAcquisitionForHO value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_NeighCellSI_AcquisitionCapability_supportOfIntraFreqSIAcquisitionForHO(rtxContext* RT_RESTRICT ctx, NeighCellSI_AcquisitionCapability_supportOfIntraFreqSIAcquisitionForHO value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NeighCellSI_AcquisitionCapability_supportOfIntraFreqSIAcquisitionForHO, value);
+}
+
+RT_MERGED_BODY int enc_NeighCellSI_AcquisitionCapability_supportOfInterFreqSIAcquisitionForHO(rtxContext* RT_RESTRICT ctx, NeighCellSI_AcquisitionCapability_supportOfInterFreqSIAcquisitionForHO value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_NeighCellSI_AcquisitionCapability_supportOfInterFreqSIAcquisitionForHO(rtxContext* RT_RESTRICT ctx, NeighCellSI_AcquisitionCapability_supportOfInterFreqSIAcquisitionForHO value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NeighCellSI_AcquisitionCapability_supportOfInterFreqSIAcquisitionForHO, value);
+}
+
+RT_MERGED_BODY int enc_NeighCellSI_AcquisitionCapability_supportOfE_UtraSIAcquisitionForHO(rtxContext* RT_RESTRICT ctx, NeighCellSI_AcquisitionCapability_supportOfE_UtraSIAcquisitionForHO value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_NeighCellSI_AcquisitionCapability_supportOfE_UtraSIAcquisitionForHO(rtxContext* RT_RESTRICT ctx, NeighCellSI_AcquisitionCapability_supportOfE_UtraSIAcquisitionForHO value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NeighCellSI_AcquisitionCapability_supportOfE_UtraSIAcquisitionForHO, value);
+}
+
+RT_MERGED_BODY int enc_NeighCellSI_AcquisitionCapability(rtxContext* RT_RESTRICT ctx, const NeighCellSI_AcquisitionCapability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NeighCellSI-AcquisitionCapability");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NeighCellSI-AcquisitionCapability");
+   /* supportOfIntraFreqSIAcquisitionForHO */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportOfIntraFreqSIAcquisitionForHO > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfIntraFreqSIAcquisitionForHO);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportOfIntraFreqSIAcquisitionForHO", -1, "NeighCellSI-AcquisitionCapability");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportOfIntraFreqSIAcquisitionForHO, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfIntraFreqSIAcquisitionForHO", -1, "NeighCellSI-AcquisitionCapability");
+   }
+   /* supportOfInterFreqSIAcquisitionForHO */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->supportOfInterFreqSIAcquisitionForHO > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfInterFreqSIAcquisitionForHO);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportOfInterFreqSIAcquisitionForHO", -1, "NeighCellSI-AcquisitionCapability");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportOfInterFreqSIAcquisitionForHO, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfInterFreqSIAcquisitionForHO", -1, "NeighCellSI-AcquisitionCapability");
+   }
+   /* supportOfE-UtraSIAcquisitionForHO */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->supportOfE_UtraSIAcquisitionForHO > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfE_UtraSIAcquisitionForHO);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportOfE-UtraSIAcquisitionForHO", -1, "NeighCellSI-AcquisitionCapability");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportOfE_UtraSIAcquisitionForHO, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfE-UtraSIAcquisitionForHO", -1, "NeighCellSI-AcquisitionCapability");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NeighCellSI_AcquisitionCapability(rtxContext* RT_RESTRICT ctx, const NeighCellSI_AcquisitionCapability* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NeighCellSI_AcquisitionCapability, pvalue);
+}
+
+RT_MERGED_BODY int enc_NetworkAssistedGANSS_Supported_List_element_gANSS_Id(rtxContext* RT_RESTRICT ctx, NetworkAssistedGANSS_Supported_List_element_gANSS_Id value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_NetworkAssistedGANSS_Supported_List_element_gANSS_Id(rtxContext* RT_RESTRICT ctx, NetworkAssistedGANSS_Supported_List_element_gANSS_Id value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NetworkAssistedGANSS_Supported_List_element_gANSS_Id, value);
+}
+
+RT_MERGED_BODY int enc_GANSS_Signal_Id(rtxContext* RT_RESTRICT ctx, GANSS_Signal_Id value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 7u) {
+      rtxErrAddStrParm(ctx, "GANSS-Signal-Id");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "GANSS-Signal-Id");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "GANSS-Signal-Id");
+   return 0;
+}
+
+int asn1PE_UMTS_GANSS_Signal_Id(rtxContext* RT_RESTRICT ctx, GANSS_Signal_Id value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSS_Signal_Id, value);
+}
+
+RT_MERGED_BODY int enc_NetworkAssistedGANSS_Supported_List_element(rtxContext* RT_RESTRICT ctx, const NetworkAssistedGANSS_Supported_List_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* gANSS-Id */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->gANSS_Id > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->gANSS_Id);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "gANSS-Id", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->gANSS_Id, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "gANSS-Id", -1, 0);
+   }
+   /* gANSS-Mode */
+   if (pvalue->gANSS_Mode > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->gANSS_Mode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "GANSS-Mode", "gANSS-Mode", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->gANSS_Mode, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "GANSS-Mode", "gANSS-Mode", -1, 0);
+   /* gANSS-SignalId */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->gANSS_SignalId > 7u) {
+         rtxErrAddStrParm(ctx, "GANSS-Signal-Id");
+         rtxErrAddUIntParm(ctx, pvalue->gANSS_SignalId);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "GANSS-Signal-Id", "gANSS-SignalId", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->gANSS_SignalId, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "GANSS-Signal-Id", "gANSS-SignalId", -1, 0);
+   }
+   /* supportForUE-GANSS-TimingOfCellFrames */
+   stat = rtxEncBitAt(ctx, cur, pvalue->supportForUE_GANSS_TimingOfCellFrames);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "supportForUE-GANSS-TimingOfCellFrames", -1, 0);
+   /* supportForUE-GANSS-CarrierPhaseMeasurement */
+   if (pvalue->m & 0x4u) {
+      stat = rtxEncBitAt(ctx, cur, pvalue->supportForUE_GANSS_CarrierPhaseMeasurement);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportForUE-GANSS-CarrierPhaseMeasurement", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NetworkAssistedGANSS_Supported_List_element(rtxContext* RT_RESTRICT ctx, const NetworkAssistedGANSS_Supported_List_element* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NetworkAssistedGANSS_Supported_List_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_NetworkAssistedGANSS_Supported_List(rtxContext* RT_RESTRICT ctx, const NetworkAssistedGANSS_Supported_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NetworkAssistedGANSS-Supported-List");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "NetworkAssistedGANSS-Supported-List");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "NetworkAssistedGANSS-Supported-List");
+      stat = enc_NetworkAssistedGANSS_Supported_List_element(ctx, (const NetworkAssistedGANSS_Supported_List_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "NetworkAssistedGANSS-Supported-List");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NetworkAssistedGANSS_Supported_List(rtxContext* RT_RESTRICT ctx, const NetworkAssistedGANSS_Supported_List* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NetworkAssistedGANSS_Supported_List, pvalue);
+}
+
+RT_MERGED_BODY int enc_NetworkAssistedGANSS_Supported_List_v860ext_element_non_native_AD_choices_supported(rtxContext* RT_RESTRICT ctx, NetworkAssistedGANSS_Supported_List_v860ext_element_non_native_AD_choices_supported value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_NetworkAssistedGANSS_Supported_List_v860ext_element_non_native_AD_choices_supported(rtxContext* RT_RESTRICT ctx, NetworkAssistedGANSS_Supported_List_v860ext_element_non_native_AD_choices_supported value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NetworkAssistedGANSS_Supported_List_v860ext_element_non_native_AD_choices_supported, value);
+}
+
+RT_MERGED_BODY int enc_NetworkAssistedGANSS_Supported_List_v860ext_element(rtxContext* RT_RESTRICT ctx, const NetworkAssistedGANSS_Supported_List_v860ext_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* sbas-Ids */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pe_BitString32At(ctx, cur, &pvalue->sbas_Ids, 8, 8);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "sbas-Ids", -1, 0);
+   }
+   /* gANSS-SignalIds */
+   if (pvalue->m & 0x2u) {
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pe_BitString32At(ctx, cur, &pvalue->gANSS_SignalIds, 8, 8);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "gANSS-SignalIds", -1, 0);
+   }
+   /* non-native-AD-choices-supported */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->non_native_AD_choices_supported > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->non_native_AD_choices_supported);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "non-native-AD-choices-supported", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->non_native_AD_choices_supported, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "non-native-AD-choices-supported", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NetworkAssistedGANSS_Supported_List_v860ext_element(rtxContext* RT_RESTRICT ctx, const NetworkAssistedGANSS_Supported_List_v860ext_element* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NetworkAssistedGANSS_Supported_List_v860ext_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_NetworkAssistedGANSS_Supported_List_v860ext(rtxContext* RT_RESTRICT ctx, const NetworkAssistedGANSS_Supported_List_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NetworkAssistedGANSS-Supported-List-v860ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "NetworkAssistedGANSS-Supported-List-v860ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "NetworkAssistedGANSS-Supported-List-v860ext");
+      stat = enc_NetworkAssistedGANSS_Supported_List_v860ext_element(ctx, (const NetworkAssistedGANSS_Supported_List_v860ext_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "NetworkAssistedGANSS-Supported-List-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NetworkAssistedGANSS_Supported_List_v860ext(rtxContext* RT_RESTRICT ctx, const NetworkAssistedGANSS_Supported_List_v860ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NetworkAssistedGANSS_Supported_List_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_NetworkAssistedGPS_Supported(rtxContext* RT_RESTRICT ctx, NetworkAssistedGPS_Supported value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "NetworkAssistedGPS-Supported");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NetworkAssistedGPS-Supported");
+   return 0;
+}
+
+int asn1PE_UMTS_NetworkAssistedGPS_Supported(rtxContext* RT_RESTRICT ctx, NetworkAssistedGPS_Supported value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NetworkAssistedGPS_Supported, value);
+}
+
+RT_MERGED_BODY int enc_PagingCause(rtxContext* RT_RESTRICT ctx, PagingCause value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "PagingCause");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PagingCause");
+   return 0;
+}
+
+int asn1PE_UMTS_PagingCause(rtxContext* RT_RESTRICT ctx, PagingCause value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PagingCause, value);
+}
+
+RT_MERGED_BODY int enc_PagingRecord_cn_Identity(rtxContext* RT_RESTRICT ctx, const PagingRecord_cn_Identity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* pagingCause */
+   if (pvalue->pagingCause > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->pagingCause);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PagingCause", "pagingCause", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pagingCause, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "PagingCause", "pagingCause", -1, 0);
+   /* cn-DomainIdentity */
+   if (pvalue->cn_DomainIdentity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, 0);
+   /* cn-pagedUE-Identity */
+   stat = enc_CN_PagedUE_Identity(ctx, &pvalue->cn_pagedUE_Identity, cur);
+   RT_CHECK(ctx, stat, 0, "cn-pagedUE-Identity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PagingRecord_cn_Identity(rtxContext* RT_RESTRICT ctx, const PagingRecord_cn_Identity* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PagingRecord_cn_Identity, pvalue);
+}
+
+RT_MERGED_BODY int enc_SRNC_Identity(rtxContext* RT_RESTRICT ctx, SRNC_Identity value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 12, 12);
+   stat = pe_BitString32At(ctx, cur, &value, 12, 12);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SRNC-Identity");
+   return 0;
+}
+
+int asn1PE_UMTS_SRNC_Identity(rtxContext* RT_RESTRICT ctx, SRNC_Identity value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SRNC_Identity, value);
+}
+
+RT_MERGED_BODY int enc_S_RNTI(rtxContext* RT_RESTRICT ctx, S_RNTI value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 20, 20);
+   stat = pe_BitString32At(ctx, cur, &value, 20, 20);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "S-RNTI");
+   return 0;
+}
+
+int asn1PE_UMTS_S_RNTI(rtxContext* RT_RESTRICT ctx, S_RNTI value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_S_RNTI, value);
+}
+
+RT_MERGED_BODY int enc_U_RNTI(rtxContext* RT_RESTRICT ctx, const U_RNTI* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "U-RNTI");
+   /* srnc-Identity */
+   stat = enc_SRNC_Identity(ctx, pvalue->srnc_Identity, cur);
+   RT_CHECK(ctx, stat, 0, "srnc-Identity", -1, "U-RNTI");
+   /* s-RNTI */
+   stat = enc_S_RNTI(ctx, pvalue->s_RNTI, cur);
+   RT_CHECK(ctx, stat, 0, "s-RNTI", -1, "U-RNTI");
+   return 0;
+}
+
+int asn1PE_UMTS_U_RNTI(rtxContext* RT_RESTRICT ctx, const U_RNTI* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_U_RNTI, pvalue);
+}
+
+RT_MERGED_BODY int enc_PagingRecord_utran_Identity_cn_OriginatedPage_connectedMode_UE(rtxContext* RT_RESTRICT ctx, const PagingRecord_utran_Identity_cn_OriginatedPage_connectedMode_UE* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* pagingCause */
+   if (pvalue->pagingCause > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->pagingCause);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PagingCause", "pagingCause", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pagingCause, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "PagingCause", "pagingCause", -1, 0);
+   /* cn-DomainIdentity */
+   if (pvalue->cn_DomainIdentity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, 0);
+   /* pagingRecordTypeID */
+   if (pvalue->pagingRecordTypeID > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->pagingRecordTypeID);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PagingRecordTypeID", "pagingRecordTypeID", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pagingRecordTypeID, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "PagingRecordTypeID", "pagingRecordTypeID", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PagingRecord_utran_Identity_cn_OriginatedPage_connectedMode_UE(rtxContext* RT_RESTRICT ctx, const PagingRecord_utran_Identity_cn_OriginatedPage_connectedMode_UE* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PagingRecord_utran_Identity_cn_OriginatedPage_connectedMode_UE, pvalue);
+}
+
+RT_MERGED_BODY int enc_PagingRecord_utran_Identity(rtxContext* RT_RESTRICT ctx, const PagingRecord_utran_Identity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* u-RNTI */
+   stat = enc_U_RNTI(ctx, &pvalue->u_RNTI, cur);
+   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, 0);
+   /* cn-OriginatedPage-connectedMode-UE */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PagingRecord_utran_Identity_cn_OriginatedPage_connectedMode_UE(ctx, &pvalue->cn_OriginatedPage_connectedMode_UE, cur);
+      RT_CHECK(ctx, stat, 0, "cn-OriginatedPage-connectedMode-UE", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PagingRecord_utran_Identity(rtxContext* RT_RESTRICT ctx, const PagingRecord_utran_Identity* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PagingRecord_utran_Identity, pvalue);
+}
+
+RT_MERGED_BODY int enc_PagingRecord(rtxContext* RT_RESTRICT ctx, const PagingRecord* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PagingRecord");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "PagingRecord");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "PagingRecord");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.cn_Identity == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "cn-Identity", -1, "PagingRecord");
+         stat = enc_PagingRecord_cn_Identity(ctx, pvalue->u.cn_Identity, cur);
+         RT_CHECK(ctx, stat, 0, "cn-Identity", -1, "PagingRecord");
+         break;
+      case 2:
+         if (pvalue->u.utran_Identity == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "utran-Identity", -1, "PagingRecord");
+         stat = enc_PagingRecord_utran_Identity(ctx, pvalue->u.utran_Identity, cur);
+         RT_CHECK(ctx, stat, 0, "utran-Identity", -1, "PagingRecord");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PagingRecord(rtxContext* RT_RESTRICT ctx, const PagingRecord* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PagingRecord, pvalue);
+}
+
+RT_MERGED_BODY int enc_PagingRecord2_r5_utran_SingleUE_Identity_cn_OriginatedPage_connectedMode_UE(rtxContext* RT_RESTRICT ctx, const PagingRecord2_r5_utran_SingleUE_Identity_cn_OriginatedPage_connectedMode_UE* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* pagingCause */
+   if (pvalue->pagingCause > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->pagingCause);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PagingCause", "pagingCause", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pagingCause, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "PagingCause", "pagingCause", -1, 0);
+   /* cn-DomainIdentity */
+   if (pvalue->cn_DomainIdentity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, 0);
+   /* pagingRecordTypeID */
+   if (pvalue->pagingRecordTypeID > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->pagingRecordTypeID);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PagingRecordTypeID", "pagingRecordTypeID", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pagingRecordTypeID, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "PagingRecordTypeID", "pagingRecordTypeID", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PagingRecord2_r5_utran_SingleUE_Identity_cn_OriginatedPage_connectedMode_UE(rtxContext* RT_RESTRICT ctx, const PagingRecord2_r5_utran_SingleUE_Identity_cn_OriginatedPage_connectedMode_UE* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PagingRecord2_r5_utran_SingleUE_Identity_cn_OriginatedPage_connectedMode_UE, pvalue);
+}
+
+RT_MERGED_BODY int enc_PagingRecord2_r5_utran_SingleUE_Identity(rtxContext* RT_RESTRICT ctx, const PagingRecord2_r5_utran_SingleUE_Identity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* u-RNTI */
+   stat = enc_U_RNTI(ctx, &pvalue->u_RNTI, cur);
+   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, 0);
+   /* cn-OriginatedPage-connectedMode-UE */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PagingRecord2_r5_utran_SingleUE_Identity_cn_OriginatedPage_connectedMode_UE(ctx, &pvalue->cn_OriginatedPage_connectedMode_UE, cur);
+      RT_CHECK(ctx, stat, 0, "cn-OriginatedPage-connectedMode-UE", -1, 0);
+   }
+   /* rrc-ConnectionReleaseInformation */
+   stat = enc_RRC_ConnectionReleaseInformation(ctx, &pvalue->rrc_ConnectionReleaseInformation, cur);
+   RT_CHECK(ctx, stat, 0, "rrc-ConnectionReleaseInformation", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PagingRecord2_r5_utran_SingleUE_Identity(rtxContext* RT_RESTRICT ctx, const PagingRecord2_r5_utran_SingleUE_Identity* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PagingRecord2_r5_utran_SingleUE_Identity, pvalue);
+}
+
+RT_MERGED_BODY int enc_PagingRecord2_r5_utran_GroupIdentity(rtxContext* RT_RESTRICT ctx, const PagingRecord2_r5_utran_GroupIdentity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "GroupIdentityWithReleaseInformation", (int32_t)i, 0);
+      stat = enc_GroupIdentityWithReleaseInformation(ctx, (const GroupIdentityWithReleaseInformation*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "GroupIdentityWithReleaseInformation", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PagingRecord2_r5_utran_GroupIdentity(rtxContext* RT_RESTRICT ctx, const PagingRecord2_r5_utran_GroupIdentity* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PagingRecord2_r5_utran_GroupIdentity, pvalue);
+}
+
+RT_MERGED_BODY int enc_PagingRecord2_r5(rtxContext* RT_RESTRICT ctx, const PagingRecord2_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PagingRecord2-r5");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "PagingRecord2-r5");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "PagingRecord2-r5");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.utran_SingleUE_Identity == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "utran-SingleUE-Identity", -1, "PagingRecord2-r5");
+         stat = enc_PagingRecord2_r5_utran_SingleUE_Identity(ctx, pvalue->u.utran_SingleUE_Identity, cur);
+         RT_CHECK(ctx, stat, 0, "utran-SingleUE-Identity", -1, "PagingRecord2-r5");
+         break;
+      case 2:
+         if (pvalue->u.utran_GroupIdentity == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "utran-GroupIdentity", -1, "PagingRecord2-r5");
+         stat = enc_PagingRecord2_r5_utran_GroupIdentity(ctx, pvalue->u.utran_GroupIdentity, cur);
+         RT_CHECK(ctx, stat, 0, "utran-GroupIdentity", -1, "PagingRecord2-r5");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PagingRecord2_r5(rtxContext* RT_RESTRICT ctx, const PagingRecord2_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PagingRecord2_r5, pvalue);
+}
+
+static int enc_PagingRecordList(rtxContext* RT_RESTRICT ctx, const PagingRecordList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PagingRecordList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "PagingRecordList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "PagingRecord", (int32_t)i, "PagingRecordList");
+      stat = enc_PagingRecord(ctx, (const PagingRecord*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "PagingRecord", (int32_t)i, "PagingRecordList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PagingRecordList(rtxContext* RT_RESTRICT ctx, const PagingRecordList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PagingRecordList, pvalue);
+}
+
+RT_MERGED_BODY int enc_PagingRecord2List_r5(rtxContext* RT_RESTRICT ctx, const PagingRecord2List_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PagingRecord2List-r5");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "PagingRecord2List-r5");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "PagingRecord2-r5", (int32_t)i, "PagingRecord2List-r5");
+      stat = enc_PagingRecord2_r5(ctx, (const PagingRecord2_r5*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "PagingRecord2-r5", (int32_t)i, "PagingRecord2List-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PagingRecord2List_r5(rtxContext* RT_RESTRICT ctx, const PagingRecord2List_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PagingRecord2List_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDCP_Capability_supportForRfc2507(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_supportForRfc2507* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.supported > 4) {
+            rtxErrAddUIntParm(ctx, pvalue->u.supported);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxHcContextSpace", "supported", -1, 0);
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.supported, 0, 4);
+         RT_CHECK_PUT(ctx, cur, stat, "MaxHcContextSpace", "supported", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_Capability_supportForRfc2507(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_supportForRfc2507* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDCP_Capability_supportForRfc2507, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDCP_Capability(rtxContext* RT_RESTRICT ctx, const PDCP_Capability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PDCP-Capability");
+   /* losslessSRNS-RelocationSupport */
+   stat = rtxEncBitAt(ctx, cur, pvalue->losslessSRNS_RelocationSupport);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "losslessSRNS-RelocationSupport", -1, "PDCP-Capability");
+   /* supportForRfc2507 */
+   stat = enc_PDCP_Capability_supportForRfc2507(ctx, &pvalue->supportForRfc2507, cur);
+   RT_CHECK(ctx, stat, 0, "supportForRfc2507", -1, "PDCP-Capability");
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_Capability(rtxContext* RT_RESTRICT ctx, const PDCP_Capability* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDCP_Capability, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDCP_Capability_r4_ext_supportForRfc3095_supported(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_r4_ext_supportForRfc3095_supported* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->maxROHC_ContextSessions != 4) << 1) |
+      ((uint64_t)(pvalue->reverseCompressionDepth != 0) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* maxROHC-ContextSessions */
+   if (pvalue->maxROHC_ContextSessions != 4) {
+      if (pvalue->maxROHC_ContextSessions > 13) {
+         rtxErrAddUIntParm(ctx, pvalue->maxROHC_ContextSessions);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxROHC-ContextSessions-r4", "maxROHC-ContextSessions", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->maxROHC_ContextSessions, 0, 13);
+      RT_CHECK_PUT(ctx, cur, stat, "MaxROHC-ContextSessions-r4", "maxROHC-ContextSessions", -1, 0);
+   }
+   /* reverseCompressionDepth */
+   if (pvalue->reverseCompressionDepth != 0) {
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->reverseCompressionDepth, 0, 65535);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "reverseCompressionDepth", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_Capability_r4_ext_supportForRfc3095_supported(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_r4_ext_supportForRfc3095_supported* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDCP_Capability_r4_ext_supportForRfc3095_supported, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDCP_Capability_r4_ext_supportForRfc3095(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_r4_ext_supportForRfc3095* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.supported == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "supported", -1, 0);
+         stat = enc_PDCP_Capability_r4_ext_supportForRfc3095_supported(ctx, pvalue->u.supported, cur);
+         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_Capability_r4_ext_supportForRfc3095(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_r4_ext_supportForRfc3095* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDCP_Capability_r4_ext_supportForRfc3095, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDCP_Capability_r4_ext(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_r4_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PDCP-Capability-r4-ext");
+   /* supportForRfc3095 */
+   stat = enc_PDCP_Capability_r4_ext_supportForRfc3095(ctx, &pvalue->supportForRfc3095, cur);
+   RT_CHECK(ctx, stat, 0, "supportForRfc3095", -1, "PDCP-Capability-r4-ext");
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_Capability_r4_ext(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_r4_ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDCP_Capability_r4_ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDCP_Capability_r5_ext(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_r5_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PDCP-Capability-r5-ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PDCP-Capability-r5-ext");
+   /* supportForRfc3095ContextRelocation */
+   stat = rtxEncBitAt(ctx, cur, pvalue->supportForRfc3095ContextRelocation);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "supportForRfc3095ContextRelocation", -1, "PDCP-Capability-r5-ext");
+   /* maxHcContextSpace */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->maxHcContextSpace > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->maxHcContextSpace);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxHcContextSpace-r5-ext", "maxHcContextSpace", -1, "PDCP-Capability-r5-ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->maxHcContextSpace, 0, 3);
+      RT_CHECK_PUT(ctx, cur, stat, "MaxHcContextSpace-r5-ext", "maxHcContextSpace", -1, "PDCP-Capability-r5-ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_Capability_r5_ext(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_r5_ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDCP_Capability_r5_ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDCP_Capability_r5_ext2_losslessDLRLC_PDUSizeChange(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r5_ext2_losslessDLRLC_PDUSizeChange value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_Capability_r5_ext2_losslessDLRLC_PDUSizeChange(rtxContext* RT_RESTRICT ctx, PDCP_Capability_r5_ext2_losslessDLRLC_PDUSizeChange value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDCP_Capability_r5_ext2_losslessDLRLC_PDUSizeChange, value);
+}
+
+RT_MERGED_BODY int enc_PDCP_Capability_r5_ext2(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_r5_ext2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PDCP-Capability-r5-ext2");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PDCP-Capability-r5-ext2");
+   /* losslessDLRLC-PDUSizeChange */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->losslessDLRLC_PDUSizeChange > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->losslessDLRLC_PDUSizeChange);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "losslessDLRLC-PDUSizeChange", -1, "PDCP-Capability-r5-ext2");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->losslessDLRLC_PDUSizeChange, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "losslessDLRLC-PDUSizeChange", -1, "PDCP-Capability-r5-ext2");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_Capability_r5_ext2(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_r5_ext2* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDCP_Capability_r5_ext2, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDCP_Capability_v770ext_supportForCSVoiceoverHSPA(rtxContext* RT_RESTRICT ctx, PDCP_Capability_v770ext_supportForCSVoiceoverHSPA value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_Capability_v770ext_supportForCSVoiceoverHSPA(rtxContext* RT_RESTRICT ctx, PDCP_Capability_v770ext_supportForCSVoiceoverHSPA value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDCP_Capability_v770ext_supportForCSVoiceoverHSPA, value);
+}
+
+RT_MERGED_BODY int enc_PDCP_Capability_v770ext(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PDCP-Capability-v770ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PDCP-Capability-v770ext");
+   /* supportForCSVoiceoverHSPA */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportForCSVoiceoverHSPA > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportForCSVoiceoverHSPA);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportForCSVoiceoverHSPA", -1, "PDCP-Capability-v770ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportForCSVoiceoverHSPA, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportForCSVoiceoverHSPA", -1, "PDCP-Capability-v770ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_Capability_v770ext(rtxContext* RT_RESTRICT ctx, const PDCP_Capability_v770ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDCP_Capability_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_PhysChCapabilityFDD(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityFDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-PhysChCapabilityFDD");
+   /* maxNoDPDCH-BitsTransmitted */
+   if (pvalue->maxNoDPDCH_BitsTransmitted > 9) {
+      rtxErrAddUIntParm(ctx, pvalue->maxNoDPDCH_BitsTransmitted);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxNoDPDCH-BitsTransmitted", "maxNoDPDCH-BitsTransmitted", -1, "UL-PhysChCapabilityFDD");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxNoDPDCH_BitsTransmitted, 0, 9);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxNoDPDCH-BitsTransmitted", "maxNoDPDCH-BitsTransmitted", -1, "UL-PhysChCapabilityFDD");
+   /* dummy */
+   stat = rtxEncBitAt(ctx, cur, pvalue->dummy);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "dummy", -1, "UL-PhysChCapabilityFDD");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_PhysChCapabilityFDD(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityFDD* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_PhysChCapabilityFDD, pvalue);
+}
+
+RT_MERGED_BODY int enc_PhysicalChannelCapability_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_fddPhysChCapability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* downlinkPhysChCapability */
+   stat = enc_DL_PhysChCapabilityFDD(ctx, &pvalue->downlinkPhysChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = enc_UL_PhysChCapabilityFDD(ctx, &pvalue->uplinkPhysChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_fddPhysChCapability* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PhysicalChannelCapability_fddPhysChCapability, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_PhysChCapabilityTDD(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-PhysChCapabilityTDD");
+   /* maxTS-PerFrame */
+   if ((uint64_t)(pvalue->maxTS_PerFrame - 1) > 13u) {
+      rtxErrAddStrParm(ctx, "MaxTS-PerFrame");
+      rtxErrAddUIntParm(ctx, pvalue->maxTS_PerFrame);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "UL-PhysChCapabilityTDD");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxTS_PerFrame, 1, 14);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "UL-PhysChCapabilityTDD");
+   /* maxPhysChPerTimeslot */
+   if (pvalue->maxPhysChPerTimeslot > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerTimeslot);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxPhysChPerTimeslot", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityTDD");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxPhysChPerTimeslot, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxPhysChPerTimeslot", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityTDD");
+   /* minimumSF */
+   if (pvalue->minimumSF > 4) {
+      rtxErrAddUIntParm(ctx, pvalue->minimumSF);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MinimumSF-UL", "minimumSF", -1, "UL-PhysChCapabilityTDD");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->minimumSF, 0, 4);
+   RT_CHECK_PUT(ctx, cur, stat, "MinimumSF-UL", "minimumSF", -1, "UL-PhysChCapabilityTDD");
+   /* supportOfPUSCH */
+   stat = rtxEncBitAt(ctx, cur, pvalue->supportOfPUSCH);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfPUSCH", -1, "UL-PhysChCapabilityTDD");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_PhysChCapabilityTDD(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_PhysChCapabilityTDD, pvalue);
+}
+
+RT_MERGED_BODY int enc_PhysicalChannelCapability_tddPhysChCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_tddPhysChCapability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* downlinkPhysChCapability */
+   stat = enc_DL_PhysChCapabilityTDD(ctx, &pvalue->downlinkPhysChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = enc_UL_PhysChCapabilityTDD(ctx, &pvalue->uplinkPhysChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_tddPhysChCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_tddPhysChCapability* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PhysicalChannelCapability_tddPhysChCapability, pvalue);
+}
+
+RT_MERGED_BODY int enc_PhysicalChannelCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelCapability");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PhysicalChannelCapability");
+   /* fddPhysChCapability */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PhysicalChannelCapability_fddPhysChCapability(ctx, &pvalue->fddPhysChCapability, cur);
+      RT_CHECK(ctx, stat, 0, "fddPhysChCapability", -1, "PhysicalChannelCapability");
+   }
+   /* tddPhysChCapability */
+   if (pvalue->m & 0x2u) {
+      stat = enc_PhysicalChannelCapability_tddPhysChCapability(ctx, &pvalue->tddPhysChCapability, cur);
+      RT_CHECK(ctx, stat, 0, "tddPhysChCapability", -1, "PhysicalChannelCapability");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PhysicalChannelCapability, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_PhysChCapabilityFDD_v770ext_discontinuousDpcchTransmission(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityFDD_v770ext_discontinuousDpcchTransmission value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_PhysChCapabilityFDD_v770ext_discontinuousDpcchTransmission(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityFDD_v770ext_discontinuousDpcchTransmission value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_PhysChCapabilityFDD_v770ext_discontinuousDpcchTransmission, value);
+}
+
+RT_MERGED_BODY int enc_UL_PhysChCapabilityFDD_v770ext_slotFormat4(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityFDD_v770ext_slotFormat4 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_PhysChCapabilityFDD_v770ext_slotFormat4(rtxContext* RT_RESTRICT ctx, UL_PhysChCapabilityFDD_v770ext_slotFormat4 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_PhysChCapabilityFDD_v770ext_slotFormat4, value);
+}
+
+RT_MERGED_BODY int enc_UL_PhysChCapabilityFDD_v770ext(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityFDD_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-PhysChCapabilityFDD-v770ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UL-PhysChCapabilityFDD-v770ext");
+   /* edch-PhysicalLayerCategory-extension */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->edch_PhysicalLayerCategory_extension - 7) > 0u) {
+         rtxErrAddStrParm(ctx, "edch-PhysicalLayerCategory-extension");
+         rtxErrAddUIntParm(ctx, pvalue->edch_PhysicalLayerCategory_extension);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "edch-PhysicalLayerCategory-extension", -1, "UL-PhysChCapabilityFDD-v770ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->edch_PhysicalLayerCategory_extension, 7, 7);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "edch-PhysicalLayerCategory-extension", -1, "UL-PhysChCapabilityFDD-v770ext");
+   }
+   /* discontinuousDpcchTransmission */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->discontinuousDpcchTransmission > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->discontinuousDpcchTransmission);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "discontinuousDpcchTransmission", -1, "UL-PhysChCapabilityFDD-v770ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->discontinuousDpcchTransmission, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "discontinuousDpcchTransmission", -1, "UL-PhysChCapabilityFDD-v770ext");
+   }
+   /* slotFormat4 */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->slotFormat4 > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->slotFormat4);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "slotFormat4", -1, "UL-PhysChCapabilityFDD-v770ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->slotFormat4, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "slotFormat4", -1, "UL-PhysChCapabilityFDD-v770ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_PhysChCapabilityFDD_v770ext(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityFDD_v770ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_PhysChCapabilityFDD_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_PhysicalChannelCapability_v770ext_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v770ext_fddPhysChCapability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* downlinkPhysChCapability */
+   stat = enc_DL_PhysChCapabilityFDD_v770ext(ctx, &pvalue->downlinkPhysChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = enc_UL_PhysChCapabilityFDD_v770ext(ctx, &pvalue->uplinkPhysChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_v770ext_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v770ext_fddPhysChCapability* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PhysicalChannelCapability_v770ext_fddPhysChCapability, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tdd-edch-PhysicalLayerCategory */
+   if ((uint64_t)(pvalue->tdd_edch_PhysicalLayerCategory - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "tdd-edch-PhysicalLayerCategory");
+      rtxErrAddUIntParm(ctx, pvalue->tdd_edch_PhysicalLayerCategory);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "tdd-edch-PhysicalLayerCategory", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tdd_edch_PhysicalLayerCategory, 1, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tdd-edch-PhysicalLayerCategory", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.supported == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "supported", -1, 0);
+         stat = enc_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch_supported(ctx, pvalue->u.supported, cur);
+         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_PhysChCapabilityTDD_384_v770ext(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_384_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-PhysChCapabilityTDD-384-v770ext");
+   /* tdd384-edch */
+   stat = enc_UL_PhysChCapabilityTDD_384_v770ext_tdd384_edch(ctx, &pvalue->tdd384_edch, cur);
+   RT_CHECK(ctx, stat, 0, "tdd384-edch", -1, "UL-PhysChCapabilityTDD-384-v770ext");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_PhysChCapabilityTDD_384_v770ext(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_384_v770ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_PhysChCapabilityTDD_384_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_PhysicalChannelCapability_v770ext_tddPhysChCapability_384(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v770ext_tddPhysChCapability_384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* uplinkPhysChCapability */
+   stat = enc_UL_PhysChCapabilityTDD_384_v770ext(ctx, &pvalue->uplinkPhysChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_384(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v770ext_tddPhysChCapability_384* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PhysicalChannelCapability_v770ext_tddPhysChCapability_384, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_PhysChCapabilityTDD_768_tdd384_edch_supported(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_768_tdd384_edch_supported* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tdd-edch-PhysicalLayerCategory */
+   if ((uint64_t)(pvalue->tdd_edch_PhysicalLayerCategory - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "tdd-edch-PhysicalLayerCategory");
+      rtxErrAddUIntParm(ctx, pvalue->tdd_edch_PhysicalLayerCategory);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "tdd-edch-PhysicalLayerCategory", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tdd_edch_PhysicalLayerCategory, 1, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tdd-edch-PhysicalLayerCategory", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_PhysChCapabilityTDD_768_tdd384_edch_supported(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_768_tdd384_edch_supported* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_PhysChCapabilityTDD_768_tdd384_edch_supported, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_PhysChCapabilityTDD_768_tdd384_edch(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_768_tdd384_edch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.supported == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "supported", -1, 0);
+         stat = enc_UL_PhysChCapabilityTDD_768_tdd384_edch_supported(ctx, pvalue->u.supported, cur);
+         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_PhysChCapabilityTDD_768_tdd384_edch(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_768_tdd384_edch* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_PhysChCapabilityTDD_768_tdd384_edch, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_PhysChCapabilityTDD_768(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-PhysChCapabilityTDD-768");
+   /* maxTS-PerFrame */
+   if ((uint64_t)(pvalue->maxTS_PerFrame - 1) > 13u) {
+      rtxErrAddStrParm(ctx, "MaxTS-PerFrame");
+      rtxErrAddUIntParm(ctx, pvalue->maxTS_PerFrame);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "UL-PhysChCapabilityTDD-768");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxTS_PerFrame, 1, 14);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxTS-PerFrame", "maxTS-PerFrame", -1, "UL-PhysChCapabilityTDD-768");
+   /* maxPhysChPerTimeslot */
+   if (pvalue->maxPhysChPerTimeslot > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerTimeslot);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxPhysChPerTimeslot", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityTDD-768");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxPhysChPerTimeslot, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxPhysChPerTimeslot", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityTDD-768");
+   /* minimumSF */
+   if (pvalue->minimumSF > 4) {
+      rtxErrAddUIntParm(ctx, pvalue->minimumSF);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MinimumSF-UL", "minimumSF", -1, "UL-PhysChCapabilityTDD-768");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->minimumSF, 0, 4);
+   RT_CHECK_PUT(ctx, cur, stat, "MinimumSF-UL", "minimumSF", -1, "UL-PhysChCapabilityTDD-768");
+   /* supportOfPUSCH */
+   stat = rtxEncBitAt(ctx, cur, pvalue->supportOfPUSCH);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfPUSCH", -1, "UL-PhysChCapabilityTDD-768");
+   /* tdd384-edch */
+   stat = enc_UL_PhysChCapabilityTDD_768_tdd384_edch(ctx, &pvalue->tdd384_edch, cur);
+   RT_CHECK(ctx, stat, 0, "tdd384-edch", -1, "UL-PhysChCapabilityTDD-768");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_PhysChCapabilityTDD_768(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_768* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_PhysChCapabilityTDD_768, pvalue);
+}
+
+RT_MERGED_BODY int enc_PhysicalChannelCapability_v770ext_tddPhysChCapability_768(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v770ext_tddPhysChCapability_768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* downlinkPhysChCapability */
+   stat = enc_DL_PhysChCapabilityTDD_768(ctx, &pvalue->downlinkPhysChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = enc_UL_PhysChCapabilityTDD_768(ctx, &pvalue->uplinkPhysChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_768(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v770ext_tddPhysChCapability_768* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PhysicalChannelCapability_v770ext_tddPhysChCapability_768, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tdd-edch-PhysicalLayerCategory */
+   if ((uint64_t)(pvalue->tdd_edch_PhysicalLayerCategory - 1) > 5u) {
+      rtxErrAddStrParm(ctx, "tdd-edch-PhysicalLayerCategory");
+      rtxErrAddUIntParm(ctx, pvalue->tdd_edch_PhysicalLayerCategory);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "tdd-edch-PhysicalLayerCategory", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tdd_edch_PhysicalLayerCategory, 1, 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tdd-edch-PhysicalLayerCategory", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.supported == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "supported", -1, 0);
+         stat = enc_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch_supported(ctx, pvalue->u.supported, cur);
+         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_PhysChCapabilityTDD_128_v770ext(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_128_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-PhysChCapabilityTDD-128-v770ext");
+   /* maxPhysChPerTimeslot */
+   if ((uint64_t)(pvalue->maxPhysChPerTimeslot - 1) > 3u) {
+      rtxErrAddStrParm(ctx, "MaxPhysChPerTimeslot-LCR-r7");
+      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerTimeslot);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MaxPhysChPerTimeslot-LCR-r7", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityTDD-128-v770ext");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxPhysChPerTimeslot, 1, 4);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxPhysChPerTimeslot-LCR-r7", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityTDD-128-v770ext");
+   /* tdd128-edch */
+   stat = enc_UL_PhysChCapabilityTDD_128_v770ext_tdd128_edch(ctx, &pvalue->tdd128_edch, cur);
+   RT_CHECK(ctx, stat, 0, "tdd128-edch", -1, "UL-PhysChCapabilityTDD-128-v770ext");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_PhysChCapabilityTDD_128_v770ext(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_128_v770ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_PhysChCapabilityTDD_128_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_PhysicalChannelCapability_v770ext_tddPhysChCapability_128(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v770ext_tddPhysChCapability_128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* downlinkPhysChCapability */
+   stat = enc_DL_PhysChCapabilityTDD_128_v770ext(ctx, &pvalue->downlinkPhysChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = enc_UL_PhysChCapabilityTDD_128_v770ext(ctx, &pvalue->uplinkPhysChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_v770ext_tddPhysChCapability_128(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v770ext_tddPhysChCapability_128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PhysicalChannelCapability_v770ext_tddPhysChCapability_128, pvalue);
+}
+
+static int enc_PhysicalChannelCapability_v770ext(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelCapability-v770ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PhysicalChannelCapability-v770ext");
+   /* fddPhysChCapability */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PhysicalChannelCapability_v770ext_fddPhysChCapability(ctx, &pvalue->fddPhysChCapability, cur);
+      RT_CHECK(ctx, stat, 0, "fddPhysChCapability", -1, "PhysicalChannelCapability-v770ext");
+   }
+   /* tddPhysChCapability-384 */
+   if (pvalue->m & 0x2u) {
+      stat = enc_PhysicalChannelCapability_v770ext_tddPhysChCapability_384(ctx, &pvalue->tddPhysChCapability_384, cur);
+      RT_CHECK(ctx, stat, 0, "tddPhysChCapability-384", -1, "PhysicalChannelCapability-v770ext");
+   }
+   /* tddPhysChCapability-768 */
+   if (pvalue->m & 0x4u) {
+      stat = enc_PhysicalChannelCapability_v770ext_tddPhysChCapability_768(ctx, &pvalue->tddPhysChCapability_768, cur);
+      RT_CHECK(ctx, stat, 0, "tddPhysChCapability-768", -1, "PhysicalChannelCapability-v770ext");
+   }
+   /* tddPhysChCapability-128 */
+   if (pvalue->m & 0x8u) {
+      stat = enc_PhysicalChannelCapability_v770ext_tddPhysChCapability_128(ctx, &pvalue->tddPhysChCapability_128, cur);
+      RT_CHECK(ctx, stat, 0, "tddPhysChCapability-128", -1, "PhysicalChannelCapability-v770ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_v770ext(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v770ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PhysicalChannelCapability_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_PhysicalChannelCapability_v860ext_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v860ext_fddPhysChCapability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* downlinkPhysChCapability */
+   stat = enc_DL_PhysChCapabilityFDD_v860ext(ctx, &pvalue->downlinkPhysChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_v860ext_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v860ext_fddPhysChCapability* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PhysicalChannelCapability_v860ext_fddPhysChCapability, pvalue);
+}
+
+RT_MERGED_BODY int enc_PhysicalChannelCapability_v860ext_tddPhysChCapability_128(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v860ext_tddPhysChCapability_128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* downlinkPhysChCapability */
+   stat = enc_DL_PhysChCapabilityTDD_128_v860ext(ctx, &pvalue->downlinkPhysChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_v860ext_tddPhysChCapability_128(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v860ext_tddPhysChCapability_128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PhysicalChannelCapability_v860ext_tddPhysChCapability_128, pvalue);
+}
+
+RT_MERGED_BODY int enc_PhysicalChannelCapability_v860ext(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelCapability-v860ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PhysicalChannelCapability-v860ext");
+   /* fddPhysChCapability */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PhysicalChannelCapability_v860ext_fddPhysChCapability(ctx, &pvalue->fddPhysChCapability, cur);
+      RT_CHECK(ctx, stat, 0, "fddPhysChCapability", -1, "PhysicalChannelCapability-v860ext");
+   }
+   /* tddPhysChCapability-128 */
+   if (pvalue->m & 0x2u) {
+      stat = enc_PhysicalChannelCapability_v860ext_tddPhysChCapability_128(ctx, &pvalue->tddPhysChCapability_128, cur);
+      RT_CHECK(ctx, stat, 0, "tddPhysChCapability-128", -1, "PhysicalChannelCapability-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_v860ext(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v860ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PhysicalChannelCapability_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_PhysChCapabilityFDD_v920ext(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityFDD_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-PhysChCapabilityFDD-v920ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UL-PhysChCapabilityFDD-v920ext");
+   /* edch-PhysicalLayerCategory-extension2 */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->edch_PhysicalLayerCategory_extension2 - 8) > 1u) {
+         rtxErrAddStrParm(ctx, "edch-PhysicalLayerCategory-extension2");
+         rtxErrAddUIntParm(ctx, pvalue->edch_PhysicalLayerCategory_extension2);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "edch-PhysicalLayerCategory-extension2", -1, "UL-PhysChCapabilityFDD-v920ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->edch_PhysicalLayerCategory_extension2, 8, 9);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "edch-PhysicalLayerCategory-extension2", -1, "UL-PhysChCapabilityFDD-v920ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_PhysChCapabilityFDD_v920ext(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityFDD_v920ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_PhysChCapabilityFDD_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_PhysicalChannelCapability_v920ext_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v920ext_fddPhysChCapability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* downlinkPhysChCapability */
+   stat = enc_DL_PhysChCapabilityFDD_v920ext(ctx, &pvalue->downlinkPhysChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = enc_UL_PhysChCapabilityFDD_v920ext(ctx, &pvalue->uplinkPhysChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_v920ext_fddPhysChCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v920ext_fddPhysChCapability* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PhysicalChannelCapability_v920ext_fddPhysChCapability, pvalue);
+}
+
+RT_MERGED_BODY int enc_PhysicalChannelCapability_v920ext(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelCapability-v920ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PhysicalChannelCapability-v920ext");
+   /* fddPhysChCapability */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PhysicalChannelCapability_v920ext_fddPhysChCapability(ctx, &pvalue->fddPhysChCapability, cur);
+      RT_CHECK(ctx, stat, 0, "fddPhysChCapability", -1, "PhysicalChannelCapability-v920ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_v920ext(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_v920ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PhysicalChannelCapability_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_768(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* downlinkPhysChCapability */
+   stat = enc_DL_PhysChCapabilityInfoTDD_768(ctx, &pvalue->downlinkPhysChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = enc_UL_PhysChCapabilityTDD(ctx, &pvalue->uplinkPhysChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_768(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_768* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_768, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_PhysChCapabilityInfoTDD_128_v770ext(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityInfoTDD_128_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-PhysChCapabilityInfoTDD-128-v770ext");
+   /* maxPhysChPerTimeslot */
+   if ((uint64_t)(pvalue->maxPhysChPerTimeslot - 1) > 3u) {
+      rtxErrAddStrParm(ctx, "MaxPhysChPerTimeslot-LCR-r7");
+      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerTimeslot);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MaxPhysChPerTimeslot-LCR-r7", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityInfoTDD-128-v770ext");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxPhysChPerTimeslot, 1, 4);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxPhysChPerTimeslot-LCR-r7", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityInfoTDD-128-v770ext");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_PhysChCapabilityInfoTDD_128_v770ext(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityInfoTDD_128_v770ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_PhysChCapabilityInfoTDD_128_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_128(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* uplinkPhysChCapability */
+   stat = enc_UL_PhysChCapabilityInfoTDD_128_v770ext(ctx, &pvalue->uplinkPhysChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_128(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_128, pvalue);
+}
+
+RT_MERGED_BODY int enc_PhysicalChannelCapabilityInfo_v770ext(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapabilityInfo_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelCapabilityInfo-v770ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PhysicalChannelCapabilityInfo-v770ext");
+   /* tddPhysChCapability-768 */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_768(ctx, &pvalue->tddPhysChCapability_768, cur);
+      RT_CHECK(ctx, stat, 0, "tddPhysChCapability-768", -1, "PhysicalChannelCapabilityInfo-v770ext");
+   }
+   /* tddPhysChCapability-128 */
+   if (pvalue->m & 0x2u) {
+      stat = enc_PhysicalChannelCapabilityInfo_v770ext_tddPhysChCapability_128(ctx, &pvalue->tddPhysChCapability_128, cur);
+      RT_CHECK(ctx, stat, 0, "tddPhysChCapability-128", -1, "PhysicalChannelCapabilityInfo-v770ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapabilityInfo_v770ext(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapabilityInfo_v770ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PhysicalChannelCapabilityInfo_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_PhysChCapabilityTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-PhysChCapabilityTDD-LCR-r4");
+   /* maxTS-PerSubFrame */
+   if ((uint64_t)(pvalue->maxTS_PerSubFrame - 1) > 5u) {
+      rtxErrAddStrParm(ctx, "MaxTS-PerSubFrame-r4");
+      rtxErrAddUIntParm(ctx, pvalue->maxTS_PerSubFrame);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MaxTS-PerSubFrame-r4", "maxTS-PerSubFrame", -1, "UL-PhysChCapabilityTDD-LCR-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxTS_PerSubFrame, 1, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxTS-PerSubFrame-r4", "maxTS-PerSubFrame", -1, "UL-PhysChCapabilityTDD-LCR-r4");
+   /* maxPhysChPerTimeslot */
+   if (pvalue->maxPhysChPerTimeslot > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->maxPhysChPerTimeslot);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxPhysChPerTimeslot", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityTDD-LCR-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxPhysChPerTimeslot, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxPhysChPerTimeslot", "maxPhysChPerTimeslot", -1, "UL-PhysChCapabilityTDD-LCR-r4");
+   /* minimumSF */
+   if (pvalue->minimumSF > 4) {
+      rtxErrAddUIntParm(ctx, pvalue->minimumSF);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MinimumSF-UL", "minimumSF", -1, "UL-PhysChCapabilityTDD-LCR-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->minimumSF, 0, 4);
+   RT_CHECK_PUT(ctx, cur, stat, "MinimumSF-UL", "minimumSF", -1, "UL-PhysChCapabilityTDD-LCR-r4");
+   /* supportOfPUSCH */
+   stat = rtxEncBitAt(ctx, cur, pvalue->supportOfPUSCH);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfPUSCH", -1, "UL-PhysChCapabilityTDD-LCR-r4");
+   /* supportOf8PSK */
+   stat = rtxEncBitAt(ctx, cur, pvalue->supportOf8PSK);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "supportOf8PSK", -1, "UL-PhysChCapabilityTDD-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_PhysChCapabilityTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityTDD_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_PhysChCapabilityTDD_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_PhysicalChannelCapability_LCR_r4_tdd128_PhysChCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_LCR_r4_tdd128_PhysChCapability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* downlinkPhysChCapability */
+   stat = enc_DL_PhysChCapabilityTDD_LCR_r4(ctx, &pvalue->downlinkPhysChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "downlinkPhysChCapability", -1, 0);
+   /* uplinkPhysChCapability */
+   stat = enc_UL_PhysChCapabilityTDD_LCR_r4(ctx, &pvalue->uplinkPhysChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "uplinkPhysChCapability", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_LCR_r4_tdd128_PhysChCapability(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_LCR_r4_tdd128_PhysChCapability* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PhysicalChannelCapability_LCR_r4_tdd128_PhysChCapability, pvalue);
+}
+
+RT_MERGED_BODY int enc_PhysicalChannelCapability_LCR_r4(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelCapability-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PhysicalChannelCapability-LCR-r4");
+   /* tdd128-PhysChCapability */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PhysicalChannelCapability_LCR_r4_tdd128_PhysChCapability(ctx, &pvalue->tdd128_PhysChCapability, cur);
+      RT_CHECK(ctx, stat, 0, "tdd128-PhysChCapability", -1, "PhysicalChannelCapability-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_LCR_r4(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PhysicalChannelCapability_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* hsdsch-physical-layer-category */
+   if ((uint64_t)(pvalue->hsdsch_physical_layer_category - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category");
+      rtxErrAddUIntParm(ctx, pvalue->hsdsch_physical_layer_category);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category", "hsdsch-physical-layer-category", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->hsdsch_physical_layer_category, 1, 64);
+   RT_CHECK_PUT(ctx, cur, stat, "HSDSCH-physical-layer-category", "hsdsch-physical-layer-category", -1, 0);
+   /* dummy */
+   stat = rtxEncBitAt(ctx, cur, pvalue->dummy);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "dummy", -1, 0);
+   /* dummy2 */
+   stat = rtxEncBitAt(ctx, cur, pvalue->dummy2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "dummy2", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported, pvalue);
+}
+
+RT_MERGED_BODY int enc_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.supported == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "supported", -1, 0);
+         stat = enc_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch_supported(ctx, pvalue->u.supported, cur);
+         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch, pvalue);
+}
+
+RT_MERGED_BODY int enc_PhysicalChannelCapability_hspdsch_r5_tdd384_hspdsch(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_hspdsch_r5_tdd384_hspdsch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)(pvalue->u.supported - 1) > 63u) {
+            rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category");
+            rtxErrAddUIntParm(ctx, pvalue->u.supported);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category", "supported", -1, 0);
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.supported, 1, 64);
+         RT_CHECK_PUT(ctx, cur, stat, "HSDSCH-physical-layer-category", "supported", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_hspdsch_r5_tdd384_hspdsch(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_hspdsch_r5_tdd384_hspdsch* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PhysicalChannelCapability_hspdsch_r5_tdd384_hspdsch, pvalue);
+}
+
+RT_MERGED_BODY int enc_PhysicalChannelCapability_hspdsch_r5_tdd128_hspdsch(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_hspdsch_r5_tdd128_hspdsch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)(pvalue->u.supported - 1) > 63u) {
+            rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category");
+            rtxErrAddUIntParm(ctx, pvalue->u.supported);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category", "supported", -1, 0);
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.supported, 1, 64);
+         RT_CHECK_PUT(ctx, cur, stat, "HSDSCH-physical-layer-category", "supported", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_hspdsch_r5_tdd128_hspdsch(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_hspdsch_r5_tdd128_hspdsch* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PhysicalChannelCapability_hspdsch_r5_tdd128_hspdsch, pvalue);
+}
+
+RT_MERGED_BODY int enc_PhysicalChannelCapability_hspdsch_r5(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_hspdsch_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelCapability-hspdsch-r5");
    /* fdd-hspdsch */
-   stat = asn1PE_UMTS_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch(ctx, &pvalue->fdd_hspdsch);
+   stat = enc_PhysicalChannelCapability_hspdsch_r5_fdd_hspdsch(ctx, &pvalue->fdd_hspdsch, cur);
    RT_CHECK(ctx, stat, 0, "fdd-hspdsch", -1, "PhysicalChannelCapability-hspdsch-r5");
    /* tdd384-hspdsch */
-   stat = asn1PE_UMTS_PhysicalChannelCapability_hspdsch_r5_tdd384_hspdsch(ctx, &pvalue->tdd384_hspdsch);
+   stat = enc_PhysicalChannelCapability_hspdsch_r5_tdd384_hspdsch(ctx, &pvalue->tdd384_hspdsch, cur);
    RT_CHECK(ctx, stat, 0, "tdd384-hspdsch", -1, "PhysicalChannelCapability-hspdsch-r5");
    /* tdd128-hspdsch */
-   stat = asn1PE_UMTS_PhysicalChannelCapability_hspdsch_r5_tdd128_hspdsch(ctx, &pvalue->tdd128_hspdsch);
+   stat = enc_PhysicalChannelCapability_hspdsch_r5_tdd128_hspdsch(ctx, &pvalue->tdd128_hspdsch, cur);
    RT_CHECK(ctx, stat, 0, "tdd128-hspdsch", -1, "PhysicalChannelCapability-hspdsch-r5");
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_hspdsch_r5(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_hspdsch_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PhysicalChannelCapability_hspdsch_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_Pre_RedirectionInfo(rtxContext* RT_RESTRICT ctx, const Pre_RedirectionInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Pre-RedirectionInfo");
+   /* supportEUTRA-FDD */
+   stat = rtxEncBitAt(ctx, cur, pvalue->supportEUTRA_FDD);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "supportEUTRA-FDD", -1, "Pre-RedirectionInfo");
+   /* supportEUTRA-TDD */
+   stat = rtxEncBitAt(ctx, cur, pvalue->supportEUTRA_TDD);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "supportEUTRA-TDD", -1, "Pre-RedirectionInfo");
    return 0;
 }
 
 int asn1PE_UMTS_Pre_RedirectionInfo(rtxContext* RT_RESTRICT ctx, const Pre_RedirectionInfo* RT_RESTRICT pvalue)
 {
+   RT_ENCODE_ENTRY(ctx, enc_Pre_RedirectionInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_ProtocolErrorIndicator(rtxContext* RT_RESTRICT ctx, ProtocolErrorIndicator value, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Pre-RedirectionInfo");
-   /* supportEUTRA-FDD */
-   stat = rtxEncBit(ctx, pvalue->supportEUTRA_FDD);
-   RT_CHECK(ctx, stat, 0, "supportEUTRA-FDD", -1, "Pre-RedirectionInfo");
-   /* supportEUTRA-TDD */
-   stat = rtxEncBit(ctx, pvalue->supportEUTRA_TDD);
-   RT_CHECK(ctx, stat, 0, "supportEUTRA-TDD", -1, "Pre-RedirectionInfo");
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "ProtocolErrorIndicator");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ProtocolErrorIndicator");
    return 0;
 }
 
 int asn1PE_UMTS_ProtocolErrorIndicator(rtxContext* RT_RESTRICT ctx, ProtocolErrorIndicator value)
 {
+   RT_ENCODE_ENTRY(ctx, enc_ProtocolErrorIndicator, value);
+}
+
+RT_MERGED_BODY int enc_ProtocolErrorIndicatorWithMoreInfo_errorOccurred(rtxContext* RT_RESTRICT ctx, const ProtocolErrorIndicatorWithMoreInfo_errorOccurred* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
    int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ProtocolErrorIndicator");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ProtocolErrorIndicator");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
+   /* protocolErrorInformation */
+   stat = enc_ProtocolErrorInformation(ctx, &pvalue->protocolErrorInformation, cur);
+   RT_CHECK(ctx, stat, 0, "protocolErrorInformation", -1, 0);
    return 0;
 }
 
 int asn1PE_UMTS_ProtocolErrorIndicatorWithMoreInfo_errorOccurred(rtxContext* RT_RESTRICT ctx, const ProtocolErrorIndicatorWithMoreInfo_errorOccurred* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* rrc-TransactionIdentifier */
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
-   /* protocolErrorInformation */
-   stat = asn1PE_UMTS_ProtocolErrorInformation(ctx, &pvalue->protocolErrorInformation);
-   RT_CHECK(ctx, stat, 0, "protocolErrorInformation", -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_ProtocolErrorIndicatorWithMoreInfo_errorOccurred, pvalue);
 }
 
-int asn1PE_UMTS_ProtocolErrorIndicatorWithMoreInfo(rtxContext* RT_RESTRICT ctx, const ProtocolErrorIndicatorWithMoreInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_ProtocolErrorIndicatorWithMoreInfo(rtxContext* RT_RESTRICT ctx, const ProtocolErrorIndicatorWithMoreInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ProtocolErrorIndicatorWithMoreInfo");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "ProtocolErrorIndicatorWithMoreInfo");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ProtocolErrorIndicatorWithMoreInfo");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ProtocolErrorIndicatorWithMoreInfo");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "ProtocolErrorIndicatorWithMoreInfo");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "ProtocolErrorIndicatorWithMoreInfo");
    switch (pvalue->t) {
       case 1:
          break;
       case 2:
-         if (pvalue->u.errorOccurred == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "errorOccurred", -1, "ProtocolErrorIndicatorWithMoreInfo");
-         stat = asn1PE_UMTS_ProtocolErrorIndicatorWithMoreInfo_errorOccurred(ctx, pvalue->u.errorOccurred);
+         if (pvalue->u.errorOccurred == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "errorOccurred", -1, "ProtocolErrorIndicatorWithMoreInfo");
+         stat = enc_ProtocolErrorIndicatorWithMoreInfo_errorOccurred(ctx, pvalue->u.errorOccurred, cur);
          RT_CHECK(ctx, stat, 0, "errorOccurred", -1, "ProtocolErrorIndicatorWithMoreInfo");
          break;
       default:
@@ -86,70 +9349,85 @@ int asn1PE_UMTS_ProtocolErrorIndicatorWithMoreInfo(rtxContext* RT_RESTRICT ctx, 
    return 0;
 }
 
-int asn1PE_UMTS_ReceivedMessageType(rtxContext* RT_RESTRICT ctx, ReceivedMessageType value)
+int asn1PE_UMTS_ProtocolErrorIndicatorWithMoreInfo(rtxContext* RT_RESTRICT ctx, const ProtocolErrorIndicatorWithMoreInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ProtocolErrorIndicatorWithMoreInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_ReceivedMessageType(rtxContext* RT_RESTRICT ctx, ReceivedMessageType value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value > 31) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ReceivedMessageType");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "ReceivedMessageType");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ReceivedMessageType");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ReceivedMessageType");
+   return 0;
+}
+
+int asn1PE_UMTS_ReceivedMessageType(rtxContext* RT_RESTRICT ctx, ReceivedMessageType value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ReceivedMessageType, value);
+}
+
+RT_MERGED_BODY int enc_IdentificationOfReceivedMessage(rtxContext* RT_RESTRICT ctx, const IdentificationOfReceivedMessage* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IdentificationOfReceivedMessage");
+   /* rrc-TransactionIdentifier */
+   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
+      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "IdentificationOfReceivedMessage");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->rrc_TransactionIdentifier, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "IdentificationOfReceivedMessage");
+   /* receivedMessageType */
+   if (pvalue->receivedMessageType > 31) {
+      rtxErrAddUIntParm(ctx, pvalue->receivedMessageType);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ReceivedMessageType", "receivedMessageType", -1, "IdentificationOfReceivedMessage");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->receivedMessageType, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, "ReceivedMessageType", "receivedMessageType", -1, "IdentificationOfReceivedMessage");
    return 0;
 }
 
 int asn1PE_UMTS_IdentificationOfReceivedMessage(rtxContext* RT_RESTRICT ctx, const IdentificationOfReceivedMessage* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IdentificationOfReceivedMessage");
-   /* rrc-TransactionIdentifier */
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "IdentificationOfReceivedMessage");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "IdentificationOfReceivedMessage");
-   /* receivedMessageType */
-   if (pvalue->receivedMessageType > 31) {
-      rtxErrAddUIntParm(ctx, pvalue->receivedMessageType);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ReceivedMessageType", "receivedMessageType", -1, "IdentificationOfReceivedMessage");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->receivedMessageType, 0, 31);
-   RT_CHECK(ctx, stat, "ReceivedMessageType", "receivedMessageType", -1, "IdentificationOfReceivedMessage");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_IdentificationOfReceivedMessage, pvalue);
 }
 
-int asn1PE_UMTS_ProtocolErrorMoreInformation_diagnosticsType_type1(rtxContext* RT_RESTRICT ctx, const ProtocolErrorMoreInformation_diagnosticsType_type1* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_ProtocolErrorMoreInformation_diagnosticsType_type1(rtxContext* RT_RESTRICT ctx, const ProtocolErrorMoreInformation_diagnosticsType_type1* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 7) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 7) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
          break;
       case 2:
          break;
       case 3:
-         if (pvalue->u.messageNotCompatibleWithReceiverState == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "messageNotCompatibleWithReceiverState", -1, 0);
-         stat = asn1PE_UMTS_IdentificationOfReceivedMessage(ctx, pvalue->u.messageNotCompatibleWithReceiverState);
+         if (pvalue->u.messageNotCompatibleWithReceiverState == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "messageNotCompatibleWithReceiverState", -1, 0);
+         stat = enc_IdentificationOfReceivedMessage(ctx, pvalue->u.messageNotCompatibleWithReceiverState, cur);
          RT_CHECK(ctx, stat, 0, "messageNotCompatibleWithReceiverState", -1, 0);
          break;
       case 4:
-         if (pvalue->u.ie_ValueNotComprehended == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ie-ValueNotComprehended", -1, 0);
-         stat = asn1PE_UMTS_IdentificationOfReceivedMessage(ctx, pvalue->u.ie_ValueNotComprehended);
+         if (pvalue->u.ie_ValueNotComprehended == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ie-ValueNotComprehended", -1, 0);
+         stat = enc_IdentificationOfReceivedMessage(ctx, pvalue->u.ie_ValueNotComprehended, cur);
          RT_CHECK(ctx, stat, 0, "ie-ValueNotComprehended", -1, 0);
          break;
       case 5:
-         if (pvalue->u.conditionalInformationElementError == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "conditionalInformationElementError", -1, 0);
-         stat = asn1PE_UMTS_IdentificationOfReceivedMessage(ctx, pvalue->u.conditionalInformationElementError);
+         if (pvalue->u.conditionalInformationElementError == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "conditionalInformationElementError", -1, 0);
+         stat = enc_IdentificationOfReceivedMessage(ctx, pvalue->u.conditionalInformationElementError, cur);
          RT_CHECK(ctx, stat, 0, "conditionalInformationElementError", -1, 0);
          break;
       case 6:
-         if (pvalue->u.messageExtensionNotComprehended == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "messageExtensionNotComprehended", -1, 0);
-         stat = asn1PE_UMTS_IdentificationOfReceivedMessage(ctx, pvalue->u.messageExtensionNotComprehended);
+         if (pvalue->u.messageExtensionNotComprehended == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "messageExtensionNotComprehended", -1, 0);
+         stat = enc_IdentificationOfReceivedMessage(ctx, pvalue->u.messageExtensionNotComprehended, cur);
          RT_CHECK(ctx, stat, 0, "messageExtensionNotComprehended", -1, 0);
          break;
       case 7:
@@ -162,8848 +9440,8 @@ int asn1PE_UMTS_ProtocolErrorMoreInformation_diagnosticsType_type1(rtxContext* R
    return 0;
 }
 
-int asn1PE_UMTS_ProtocolErrorMoreInformation_diagnosticsType(rtxContext* RT_RESTRICT ctx, const ProtocolErrorMoreInformation_diagnosticsType* RT_RESTRICT pvalue)
+int asn1PE_UMTS_ProtocolErrorMoreInformation_diagnosticsType_type1(rtxContext* RT_RESTRICT ctx, const ProtocolErrorMoreInformation_diagnosticsType_type1* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.type1 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "type1", -1, 0);
-         stat = asn1PE_UMTS_ProtocolErrorMoreInformation_diagnosticsType_type1(ctx, pvalue->u.type1);
-         RT_CHECK(ctx, stat, 0, "type1", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ProtocolErrorMoreInformation(rtxContext* RT_RESTRICT ctx, const ProtocolErrorMoreInformation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ProtocolErrorMoreInformation");
-   /* diagnosticsType */
-   stat = asn1PE_UMTS_ProtocolErrorMoreInformation_diagnosticsType(ctx, &pvalue->diagnosticsType);
-   RT_CHECK(ctx, stat, 0, "diagnosticsType", -1, "ProtocolErrorMoreInformation");
-   return 0;
-}
-
-int asn1PE_UMTS_RadioFrequencyBandTDDList(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDDList value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "RadioFrequencyBandTDDList");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioFrequencyBandTDDList");
-   return 0;
-}
-
-int asn1PE_UMTS_RadioFrequencyBandTDDList_r7(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDDList_r7 value)
-{
-   int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "RadioFrequencyBandTDDList-r7");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioFrequencyBandTDDList-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_RadioFrequencyBandTDDext(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDDext value)
-{
-   int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "RadioFrequencyBandTDDext");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RadioFrequencyBandTDDext");
-   return 0;
-}
-
-int asn1PE_UMTS_RadioFrequencyBandTDDextList(rtxContext* RT_RESTRICT ctx, const RadioFrequencyBandTDDextList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RadioFrequencyBandTDDextList");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RadioFrequencyBandTDDextList");
-   for (i = 0; i < pvalue->n; i++) {
-      if (pvalue->elem[i] > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandTDDext", "RadioFrequencyBandTDDext", (int32_t)i, "RadioFrequencyBandTDDextList");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 15);
-      RT_CHECK(ctx, stat, "RadioFrequencyBandTDDext", "RadioFrequencyBandTDDext", (int32_t)i, "RadioFrequencyBandTDDextList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Rb_timer_indicator(rtxContext* RT_RESTRICT ctx, const Rb_timer_indicator* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Rb-timer-indicator");
-   /* t314-expired */
-   stat = rtxEncBit(ctx, pvalue->t314_expired);
-   RT_CHECK(ctx, stat, 0, "t314-expired", -1, "Rb-timer-indicator");
-   /* t315-expired */
-   stat = rtxEncBit(ctx, pvalue->t315_expired);
-   RT_CHECK(ctx, stat, 0, "t315-expired", -1, "Rb-timer-indicator");
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATInfo(rtxContext* RT_RESTRICT ctx, InterRATInfo value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "InterRATInfo");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_RedirectionInfo(rtxContext* RT_RESTRICT ctx, const RedirectionInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RedirectionInfo");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "RedirectionInfo");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RedirectionInfo");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.frequencyInfo == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "frequencyInfo", -1, "RedirectionInfo");
-         stat = asn1PE_UMTS_FrequencyInfo(ctx, pvalue->u.frequencyInfo);
-         RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RedirectionInfo");
-         break;
-      case 2:
-         if (pvalue->u.interRATInfo > 0) {
-            rtxErrAddUIntParm(ctx, pvalue->u.interRATInfo);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "InterRATInfo", "interRATInfo", -1, "RedirectionInfo");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.interRATInfo, 0, 0);
-         RT_CHECK(ctx, stat, "InterRATInfo", "interRATInfo", -1, "RedirectionInfo");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_TargetCellInfo(rtxContext* RT_RESTRICT ctx, const GSM_TargetCellInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GSM-TargetCellInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GSM-TargetCellInfo");
-   /* bcch-ARFCN */
-   if ((uint64_t)pvalue->bcch_ARFCN > 1023u) {
-      rtxErrAddStrParm(ctx, "BCCH-ARFCN");
-      rtxErrAddUIntParm(ctx, pvalue->bcch_ARFCN);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "BCCH-ARFCN", "bcch-ARFCN", -1, "GSM-TargetCellInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->bcch_ARFCN, 0, 1023);
-   RT_CHECK(ctx, stat, "BCCH-ARFCN", "bcch-ARFCN", -1, "GSM-TargetCellInfo");
-   /* frequency-band */
-   if (pvalue->frequency_band > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->frequency_band);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "Frequency-Band", "frequency-band", -1, "GSM-TargetCellInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->frequency_band, 0, 1);
-   RT_CHECK(ctx, stat, "Frequency-Band", "frequency-band", -1, "GSM-TargetCellInfo");
-   /* bsic */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_BSIC(ctx, &pvalue->bsic);
-      RT_CHECK(ctx, stat, 0, "bsic", -1, "GSM-TargetCellInfo");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_TargetCellInfoList(rtxContext* RT_RESTRICT ctx, const GSM_TargetCellInfoList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GSM-TargetCellInfoList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GSM-TargetCellInfoList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "GSM-TargetCellInfo", (int32_t)i, "GSM-TargetCellInfoList");
-      stat = asn1PE_UMTS_GSM_TargetCellInfo(ctx, (const GSM_TargetCellInfo*)node->data);
-      RT_CHECK(ctx, stat, 0, "GSM-TargetCellInfo", (int32_t)i, "GSM-TargetCellInfoList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATInfo_r6(rtxContext* RT_RESTRICT ctx, const InterRATInfo_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATInfo-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATInfo-r6");
-   /* rat */
-   if (pvalue->rat > 0) {
-      rtxErrAddUIntParm(ctx, pvalue->rat);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "InterRATInfo", "rat", -1, "InterRATInfo-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rat, 0, 0);
-   RT_CHECK(ctx, stat, "InterRATInfo", "rat", -1, "InterRATInfo-r6");
-   /* gsm-TargetCellInfoList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_GSM_TargetCellInfoList(ctx, &pvalue->gsm_TargetCellInfoList);
-      RT_CHECK(ctx, stat, 0, "gsm-TargetCellInfoList", -1, "InterRATInfo-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RedirectionInfo_r6(rtxContext* RT_RESTRICT ctx, const RedirectionInfo_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RedirectionInfo-r6");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "RedirectionInfo-r6");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RedirectionInfo-r6");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.frequencyInfo == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "frequencyInfo", -1, "RedirectionInfo-r6");
-         stat = asn1PE_UMTS_FrequencyInfo(ctx, pvalue->u.frequencyInfo);
-         RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RedirectionInfo-r6");
-         break;
-      case 2:
-         if (pvalue->u.interRATInfo == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interRATInfo", -1, "RedirectionInfo-r6");
-         stat = asn1PE_UMTS_InterRATInfo_r6(ctx, pvalue->u.interRATInfo);
-         RT_CHECK(ctx, stat, 0, "interRATInfo", -1, "RedirectionInfo-r6");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_EUTRA_PhysicalCellIdentity(rtxContext* RT_RESTRICT ctx, EUTRA_PhysicalCellIdentity value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 503u) {
-      rtxErrAddStrParm(ctx, "EUTRA-PhysicalCellIdentity");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "EUTRA-PhysicalCellIdentity");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 503);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EUTRA-PhysicalCellIdentity");
-   return 0;
-}
-
-int asn1PE_UMTS_EUTRA_BlacklistedCell(rtxContext* RT_RESTRICT ctx, const EUTRA_BlacklistedCell* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-BlacklistedCell");
-   /* physicalCellIdentity */
-   if ((uint64_t)pvalue->physicalCellIdentity > 503u) {
-      rtxErrAddStrParm(ctx, "EUTRA-PhysicalCellIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->physicalCellIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "EUTRA-PhysicalCellIdentity", "physicalCellIdentity", -1, "EUTRA-BlacklistedCell");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->physicalCellIdentity, 0, 503);
-   RT_CHECK(ctx, stat, "EUTRA-PhysicalCellIdentity", "physicalCellIdentity", -1, "EUTRA-BlacklistedCell");
-   return 0;
-}
-
-int asn1PE_UMTS_EUTRA_BlacklistedCellPerFreqList(rtxContext* RT_RESTRICT ctx, const EUTRA_BlacklistedCellPerFreqList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-BlacklistedCellPerFreqList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "EUTRA-BlacklistedCellPerFreqList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "EUTRA-BlacklistedCell", (int32_t)i, "EUTRA-BlacklistedCellPerFreqList");
-      stat = asn1PE_UMTS_EUTRA_BlacklistedCell(ctx, (const EUTRA_BlacklistedCell*)node->data);
-      RT_CHECK(ctx, stat, 0, "EUTRA-BlacklistedCell", (int32_t)i, "EUTRA-BlacklistedCellPerFreqList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_EUTRA_TargetFreqInfo(rtxContext* RT_RESTRICT ctx, const EUTRA_TargetFreqInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-TargetFreqInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EUTRA-TargetFreqInfo");
-   /* dlEUTRACarrierFreq */
-   stat = pe_ConsUInt64(ctx, pvalue->dlEUTRACarrierFreq, 0, 65535);
-   RT_CHECK(ctx, stat, "EARFCN", "dlEUTRACarrierFreq", -1, "EUTRA-TargetFreqInfo");
-   /* eutraBlacklistedCellPerFreqList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_EUTRA_BlacklistedCellPerFreqList(ctx, &pvalue->eutraBlacklistedCellPerFreqList);
-      RT_CHECK(ctx, stat, 0, "eutraBlacklistedCellPerFreqList", -1, "EUTRA-TargetFreqInfo");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_EUTRA_TargetFreqInfoList(rtxContext* RT_RESTRICT ctx, const EUTRA_TargetFreqInfoList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-TargetFreqInfoList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "EUTRA-TargetFreqInfoList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "EUTRA-TargetFreqInfo", (int32_t)i, "EUTRA-TargetFreqInfoList");
-      stat = asn1PE_UMTS_EUTRA_TargetFreqInfo(ctx, (const EUTRA_TargetFreqInfo*)node->data);
-      RT_CHECK(ctx, stat, 0, "EUTRA-TargetFreqInfo", (int32_t)i, "EUTRA-TargetFreqInfoList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATInfo_v860ext_eutra(rtxContext* RT_RESTRICT ctx, const InterRATInfo_v860ext_eutra* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* eutra-TargetFreqInfoList */
-   stat = asn1PE_UMTS_EUTRA_TargetFreqInfoList(ctx, &pvalue->eutra_TargetFreqInfoList);
-   RT_CHECK(ctx, stat, 0, "eutra-TargetFreqInfoList", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATInfo_v860ext(rtxContext* RT_RESTRICT ctx, const InterRATInfo_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATInfo-v860ext");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "InterRATInfo-v860ext");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterRATInfo-v860ext");
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.eutra == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "eutra", -1, "InterRATInfo-v860ext");
-         stat = asn1PE_UMTS_InterRATInfo_v860ext_eutra(ctx, pvalue->u.eutra);
-         RT_CHECK(ctx, stat, 0, "eutra", -1, "InterRATInfo-v860ext");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RedirectionInfo_v860ext(rtxContext* RT_RESTRICT ctx, const RedirectionInfo_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RedirectionInfo-v860ext");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "RedirectionInfo-v860ext");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RedirectionInfo-v860ext");
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.interRATInfo == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interRATInfo", -1, "RedirectionInfo-v860ext");
-         stat = asn1PE_UMTS_InterRATInfo_v860ext(ctx, pvalue->u.interRATInfo);
-         RT_CHECK(ctx, stat, 0, "interRATInfo", -1, "RedirectionInfo-v860ext");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RejectionCause(rtxContext* RT_RESTRICT ctx, RejectionCause value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "RejectionCause");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RejectionCause");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_PowerClass(rtxContext* RT_RESTRICT ctx, UE_PowerClass value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 3u) {
-      rtxErrAddStrParm(ctx, "UE-PowerClass");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "UE-PowerClass");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-PowerClass");
-   return 0;
-}
-
-int asn1PE_UMTS_TxRxFrequencySeparation(rtxContext* RT_RESTRICT ctx, TxRxFrequencySeparation value)
-{
-   int stat = 0;
-   if (value > 2) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TxRxFrequencySeparation");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TxRxFrequencySeparation");
-   return 0;
-}
-
-int asn1PE_UMTS_RF_Capability_fddRF_Capability(rtxContext* RT_RESTRICT ctx, const RF_Capability_fddRF_Capability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* ue-PowerClass */
-   if ((uint64_t)(pvalue->ue_PowerClass - 1) > 3u) {
-      rtxErrAddStrParm(ctx, "UE-PowerClass");
-      rtxErrAddUIntParm(ctx, pvalue->ue_PowerClass);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "UE-PowerClass", "ue-PowerClass", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_PowerClass, 1, 4);
-   RT_CHECK(ctx, stat, "UE-PowerClass", "ue-PowerClass", -1, 0);
-   /* txRxFrequencySeparation */
-   if (pvalue->txRxFrequencySeparation > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->txRxFrequencySeparation);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TxRxFrequencySeparation", "txRxFrequencySeparation", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->txRxFrequencySeparation, 0, 2);
-   RT_CHECK(ctx, stat, "TxRxFrequencySeparation", "txRxFrequencySeparation", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_RF_Capability_tddRF_Capability(rtxContext* RT_RESTRICT ctx, const RF_Capability_tddRF_Capability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* ue-PowerClass */
-   if ((uint64_t)(pvalue->ue_PowerClass - 1) > 3u) {
-      rtxErrAddStrParm(ctx, "UE-PowerClass");
-      rtxErrAddUIntParm(ctx, pvalue->ue_PowerClass);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "UE-PowerClass", "ue-PowerClass", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_PowerClass, 1, 4);
-   RT_CHECK(ctx, stat, "UE-PowerClass", "ue-PowerClass", -1, 0);
-   /* radioFrequencyTDDBandList */
-   if (pvalue->radioFrequencyTDDBandList > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyTDDBandList);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandTDDList", "radioFrequencyTDDBandList", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyTDDBandList, 0, 7);
-   RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList", "radioFrequencyTDDBandList", -1, 0);
-   /* chipRateCapability */
-   if (pvalue->chipRateCapability > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->chipRateCapability);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ChipRateCapability", "chipRateCapability", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->chipRateCapability, 0, 1);
-   RT_CHECK(ctx, stat, "ChipRateCapability", "chipRateCapability", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_RF_Capability(rtxContext* RT_RESTRICT ctx, const RF_Capability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RF-Capability");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RF-Capability");
-   /* fddRF-Capability */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RF_Capability_fddRF_Capability(ctx, &pvalue->fddRF_Capability);
-      RT_CHECK(ctx, stat, 0, "fddRF-Capability", -1, "RF-Capability");
-   }
-   /* tddRF-Capability */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_RF_Capability_tddRF_Capability(ctx, &pvalue->tddRF_Capability);
-      RT_CHECK(ctx, stat, 0, "tddRF-Capability", -1, "RF-Capability");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RF_Capability_r4_ext_tddRF_Capability(rtxContext* RT_RESTRICT ctx, const RF_Capability_r4_ext_tddRF_Capability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* ue-PowerClass */
-   if ((uint64_t)(pvalue->ue_PowerClass - 1) > 3u) {
-      rtxErrAddStrParm(ctx, "UE-PowerClass");
-      rtxErrAddUIntParm(ctx, pvalue->ue_PowerClass);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "UE-PowerClass", "ue-PowerClass", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_PowerClass, 1, 4);
-   RT_CHECK(ctx, stat, "UE-PowerClass", "ue-PowerClass", -1, 0);
-   /* radioFrequencyBandTDDList */
-   if (pvalue->radioFrequencyBandTDDList > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandTDDList);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandTDDList", "radioFrequencyBandTDDList", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandTDDList, 0, 7);
-   RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList", "radioFrequencyBandTDDList", -1, 0);
-   /* chipRateCapability */
-   if (pvalue->chipRateCapability > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->chipRateCapability);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ChipRateCapability", "chipRateCapability", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->chipRateCapability, 0, 1);
-   RT_CHECK(ctx, stat, "ChipRateCapability", "chipRateCapability", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_RF_Capability_r4_ext(rtxContext* RT_RESTRICT ctx, const RF_Capability_r4_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RF-Capability-r4-ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RF-Capability-r4-ext");
-   /* tddRF-Capability */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RF_Capability_r4_ext_tddRF_Capability(ctx, &pvalue->tddRF_Capability);
-      RT_CHECK(ctx, stat, 0, "tddRF-Capability", -1, "RF-Capability-r4-ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RF_Capability_v770ext_tdd768RF_Capability(rtxContext* RT_RESTRICT ctx, const RF_Capability_v770ext_tdd768RF_Capability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* ue-PowerClass */
-   if ((uint64_t)(pvalue->ue_PowerClass - 1) > 3u) {
-      rtxErrAddStrParm(ctx, "UE-PowerClass");
-      rtxErrAddUIntParm(ctx, pvalue->ue_PowerClass);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "UE-PowerClass", "ue-PowerClass", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_PowerClass, 1, 4);
-   RT_CHECK(ctx, stat, "UE-PowerClass", "ue-PowerClass", -1, 0);
-   /* radioFrequencyBandTDDList */
-   if (pvalue->radioFrequencyBandTDDList > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandTDDList);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandTDDList-r7", "radioFrequencyBandTDDList", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandTDDList, 0, 15);
-   RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList-r7", "radioFrequencyBandTDDList", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_RF_Capability_v770ext(rtxContext* RT_RESTRICT ctx, const RF_Capability_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RF-Capability-v770ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RF-Capability-v770ext");
-   /* tdd384RF-Capability */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->tdd384RF_Capability > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->tdd384RF_Capability);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandTDDList-r7", "tdd384RF-Capability", -1, "RF-Capability-v770ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tdd384RF_Capability, 0, 15);
-      RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList-r7", "tdd384RF-Capability", -1, "RF-Capability-v770ext");
-   }
-   /* tdd768RF-Capability */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_RF_Capability_v770ext_tdd768RF_Capability(ctx, &pvalue->tdd768RF_Capability);
-      RT_CHECK(ctx, stat, 0, "tdd768RF-Capability", -1, "RF-Capability-v770ext");
-   }
-   /* tdd128RF-Capability */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->tdd128RF_Capability > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->tdd128RF_Capability);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandTDDList-r7", "tdd128RF-Capability", -1, "RF-Capability-v770ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tdd128RF_Capability, 0, 15);
-      RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList-r7", "tdd128RF-Capability", -1, "RF-Capability-v770ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RF_Capability_v860ext(rtxContext* RT_RESTRICT ctx, const RF_Capability_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RF-Capability-v860ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RF-Capability-v860ext");
-   /* tdd128RF-Capability */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RadioFrequencyBandTDDextList(ctx, &pvalue->tdd128RF_Capability);
-      RT_CHECK(ctx, stat, 0, "tdd128RF-Capability", -1, "RF-Capability-v860ext");
-   }
-   /* tdd384RF-Capability */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_RadioFrequencyBandTDDextList(ctx, &pvalue->tdd384RF_Capability);
-      RT_CHECK(ctx, stat, 0, "tdd384RF-Capability", -1, "RF-Capability-v860ext");
-   }
-   /* tdd768RF-Capability */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_RadioFrequencyBandTDDextList(ctx, &pvalue->tdd768RF_Capability);
-      RT_CHECK(ctx, stat, 0, "tdd768RF-Capability", -1, "RF-Capability-v860ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TotalRLC_AM_BufferSize(rtxContext* RT_RESTRICT ctx, TotalRLC_AM_BufferSize value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TotalRLC-AM-BufferSize");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TotalRLC-AM-BufferSize");
-   return 0;
-}
-
-int asn1PE_UMTS_RLC_Capability(rtxContext* RT_RESTRICT ctx, const RLC_Capability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-Capability");
-   /* totalRLC-AM-BufferSize */
-   if (pvalue->totalRLC_AM_BufferSize > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->totalRLC_AM_BufferSize);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TotalRLC-AM-BufferSize", "totalRLC-AM-BufferSize", -1, "RLC-Capability");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->totalRLC_AM_BufferSize, 0, 7);
-   RT_CHECK(ctx, stat, "TotalRLC-AM-BufferSize", "totalRLC-AM-BufferSize", -1, "RLC-Capability");
-   /* maximumRLC-WindowSize */
-   if (pvalue->maximumRLC_WindowSize > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->maximumRLC_WindowSize);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MaximumRLC-WindowSize", "maximumRLC-WindowSize", -1, "RLC-Capability");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maximumRLC_WindowSize, 0, 1);
-   RT_CHECK(ctx, stat, "MaximumRLC-WindowSize", "maximumRLC-WindowSize", -1, "RLC-Capability");
-   /* maximumAM-EntityNumber */
-   if (pvalue->maximumAM_EntityNumber > 6) {
-      rtxErrAddUIntParm(ctx, pvalue->maximumAM_EntityNumber);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MaximumAM-EntityNumberRLC-Cap", "maximumAM-EntityNumber", -1, "RLC-Capability");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maximumAM_EntityNumber, 0, 6);
-   RT_CHECK(ctx, stat, "MaximumAM-EntityNumberRLC-Cap", "maximumAM-EntityNumber", -1, "RLC-Capability");
-   return 0;
-}
-
-int asn1PE_UMTS_TotalRLC_AM_BufferSize_r5_ext(rtxContext* RT_RESTRICT ctx, TotalRLC_AM_BufferSize_r5_ext value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TotalRLC-AM-BufferSize-r5-ext");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TotalRLC-AM-BufferSize-r5-ext");
-   return 0;
-}
-
-int asn1PE_UMTS_RLC_Capability_r5_ext(rtxContext* RT_RESTRICT ctx, const RLC_Capability_r5_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-Capability-r5-ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-Capability-r5-ext");
-   /* totalRLC-AM-BufferSize */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->totalRLC_AM_BufferSize > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->totalRLC_AM_BufferSize);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "TotalRLC-AM-BufferSize-r5-ext", "totalRLC-AM-BufferSize", -1, "RLC-Capability-r5-ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->totalRLC_AM_BufferSize, 0, 3);
-      RT_CHECK(ctx, stat, "TotalRLC-AM-BufferSize-r5-ext", "totalRLC-AM-BufferSize", -1, "RLC-Capability-r5-ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RLC_Capability_v770ext(rtxContext* RT_RESTRICT ctx, const RLC_Capability_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-Capability-v770ext");
-   /* supportOfTwoLogicalChannel */
-   stat = rtxEncBit(ctx, pvalue->supportOfTwoLogicalChannel);
-   RT_CHECK(ctx, stat, 0, "supportOfTwoLogicalChannel", -1, "RLC-Capability-v770ext");
-   return 0;
-}
-
-int asn1PE_UMTS_TotalRLC_AM_BufferSize_v920ext(rtxContext* RT_RESTRICT ctx, TotalRLC_AM_BufferSize_v920ext value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TotalRLC-AM-BufferSize-v920ext");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TotalRLC-AM-BufferSize-v920ext");
-   return 0;
-}
-
-int asn1PE_UMTS_RLC_Capability_v920ext(rtxContext* RT_RESTRICT ctx, const RLC_Capability_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-Capability-v920ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-Capability-v920ext");
-   /* totalRLC-AM-BufferSize */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->totalRLC_AM_BufferSize > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->totalRLC_AM_BufferSize);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "TotalRLC-AM-BufferSize-v920ext", "totalRLC-AM-BufferSize", -1, "RLC-Capability-v920ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->totalRLC_AM_BufferSize, 0, 1);
-      RT_CHECK(ctx, stat, "TotalRLC-AM-BufferSize-v920ext", "totalRLC-AM-BufferSize", -1, "RLC-Capability-v920ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RRC_StateIndicator(rtxContext* RT_RESTRICT ctx, RRC_StateIndicator value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "RRC-StateIndicator");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RRC-StateIndicator");
-   return 0;
-}
-
-int asn1PE_UMTS_S_RNTI_2(rtxContext* RT_RESTRICT ctx, S_RNTI_2 value)
-{
-   int stat = 0;
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pe_BitString32(ctx, &value, 10, 10);
-   RT_CHECK(ctx, stat, 0, 0, -1, "S-RNTI-2");
-   return 0;
-}
-
-int asn1PE_UMTS_SecurityCapability_cipheringAlgorithmCap(rtxContext* RT_RESTRICT ctx, SecurityCapability_cipheringAlgorithmCap value)
-{
-   int stat = 0;
-   {
-      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
-      uint32_t used = (uint32_t)(last + 1);
-      value.numbits = used <= 16 ? 16 : used;
-      if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-   }
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &value, 16, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SecurityCapability_integrityProtectionAlgorithmCap(rtxContext* RT_RESTRICT ctx, SecurityCapability_integrityProtectionAlgorithmCap value)
-{
-   int stat = 0;
-   {
-      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
-      uint32_t used = (uint32_t)(last + 1);
-      value.numbits = used <= 16 ? 16 : used;
-      if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-   }
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &value, 16, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SecurityCapability(rtxContext* RT_RESTRICT ctx, const SecurityCapability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SecurityCapability");
-   /* cipheringAlgorithmCap */
-   stat = asn1PE_UMTS_SecurityCapability_cipheringAlgorithmCap(ctx, pvalue->cipheringAlgorithmCap);
-   RT_CHECK(ctx, stat, 0, "cipheringAlgorithmCap", -1, "SecurityCapability");
-   /* integrityProtectionAlgorithmCap */
-   stat = asn1PE_UMTS_SecurityCapability_integrityProtectionAlgorithmCap(ctx, pvalue->integrityProtectionAlgorithmCap);
-   RT_CHECK(ctx, stat, 0, "integrityProtectionAlgorithmCap", -1, "SecurityCapability");
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryServingEDCHCell_Info(rtxContext* RT_RESTRICT ctx, const SecondaryServingEDCHCell_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SecondaryServingEDCHCell-Info");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SecondaryServingEDCHCell-Info");
-   /* primary-E-RNTI */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->primary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "primary-E-RNTI", -1, "SecondaryServingEDCHCell-Info");
-   }
-   /* secondary-E-RNTI */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->secondary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "secondary-E-RNTI", -1, "SecondaryServingEDCHCell-Info");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryEDCH_Info_Common_servingGrant_primary_Secondary_GrantSelector(rtxContext* RT_RESTRICT ctx, SecondaryEDCH_Info_Common_servingGrant_primary_Secondary_GrantSelector value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryEDCH_Info_Common_servingGrant(rtxContext* RT_RESTRICT ctx, const SecondaryEDCH_Info_Common_servingGrant* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* primary-Secondary-GrantSelector */
-   if (pvalue->primary_Secondary_GrantSelector > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->primary_Secondary_GrantSelector);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "primary-Secondary-GrantSelector", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->primary_Secondary_GrantSelector, 0, 1);
-   RT_CHECK(ctx, stat, 0, "primary-Secondary-GrantSelector", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PC_Preamble(rtxContext* RT_RESTRICT ctx, PC_Preamble value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 7u) {
-      rtxErrAddStrParm(ctx, "PC-Preamble");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PC-Preamble");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PC-Preamble");
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryEDCH_Info_Common(rtxContext* RT_RESTRICT ctx, const SecondaryEDCH_Info_Common* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SecondaryEDCH-Info-Common");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SecondaryEDCH-Info-Common");
-   /* frequencyInfo */
-   stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "SecondaryEDCH-Info-Common");
-   /* scramblingCodeType */
-   if (pvalue->scramblingCodeType > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->scramblingCodeType);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ScramblingCodeType", "scramblingCodeType", -1, "SecondaryEDCH-Info-Common");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->scramblingCodeType, 0, 1);
-   RT_CHECK(ctx, stat, "ScramblingCodeType", "scramblingCodeType", -1, "SecondaryEDCH-Info-Common");
-   /* scramblingCodeNumber */
-   if ((uint64_t)pvalue->scramblingCodeNumber > 16777215u) {
-      rtxErrAddStrParm(ctx, "UL-ScramblingCode");
-      rtxErrAddUIntParm(ctx, pvalue->scramblingCodeNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-ScramblingCode", "scramblingCodeNumber", -1, "SecondaryEDCH-Info-Common");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->scramblingCodeNumber, 0, 16777215);
-   RT_CHECK(ctx, stat, "UL-ScramblingCode", "scramblingCodeNumber", -1, "SecondaryEDCH-Info-Common");
-   /* ms2-SchedTransmGrantHARQAlloc */
-   if (pvalue->m & 0x1u) {
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pe_BitString32(ctx, &pvalue->ms2_SchedTransmGrantHARQAlloc, 8, 8);
-      RT_CHECK(ctx, stat, 0, "ms2-SchedTransmGrantHARQAlloc", -1, "SecondaryEDCH-Info-Common");
-   }
-   /* servingGrant */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_SecondaryEDCH_Info_Common_servingGrant(ctx, &pvalue->servingGrant);
-      RT_CHECK(ctx, stat, 0, "servingGrant", -1, "SecondaryEDCH-Info-Common");
-   }
-   /* minReduced-E-DPDCH-GainFactor */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->minReduced_E_DPDCH_GainFactor > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->minReduced_E_DPDCH_GainFactor);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "MinReduced-E-DPDCH-GainFactor", "minReduced-E-DPDCH-GainFactor", -1, "SecondaryEDCH-Info-Common");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->minReduced_E_DPDCH_GainFactor, 0, 7);
-      RT_CHECK(ctx, stat, "MinReduced-E-DPDCH-GainFactor", "minReduced-E-DPDCH-GainFactor", -1, "SecondaryEDCH-Info-Common");
-   }
-   /* e-DCH-minimumSet-E-TFCI */
-   if (pvalue->m & 0x8u) {
-      if ((uint64_t)pvalue->e_DCH_minimumSet_E_TFCI > 127u) {
-         rtxErrAddStrParm(ctx, "E-DCH-MinimumSet-E-TFCI");
-         rtxErrAddUIntParm(ctx, pvalue->e_DCH_minimumSet_E_TFCI);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "E-DCH-MinimumSet-E-TFCI", "e-DCH-minimumSet-E-TFCI", -1, "SecondaryEDCH-Info-Common");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->e_DCH_minimumSet_E_TFCI, 0, 127);
-      RT_CHECK(ctx, stat, "E-DCH-MinimumSet-E-TFCI", "e-DCH-minimumSet-E-TFCI", -1, "SecondaryEDCH-Info-Common");
-   }
-   /* dpcchPowerOffset-SecondaryULFrequency */
-   if ((uint64_t)pvalue->dpcchPowerOffset_SecondaryULFrequency > 7u) {
-      rtxErrAddStrParm(ctx, "dpcchPowerOffset-SecondaryULFrequency");
-      rtxErrAddUIntParm(ctx, pvalue->dpcchPowerOffset_SecondaryULFrequency);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "dpcchPowerOffset-SecondaryULFrequency", -1, "SecondaryEDCH-Info-Common");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dpcchPowerOffset_SecondaryULFrequency, 0, 7);
-   RT_CHECK(ctx, stat, 0, "dpcchPowerOffset-SecondaryULFrequency", -1, "SecondaryEDCH-Info-Common");
-   /* pc-Preamble */
-   if ((uint64_t)pvalue->pc_Preamble > 7u) {
-      rtxErrAddStrParm(ctx, "PC-Preamble");
-      rtxErrAddUIntParm(ctx, pvalue->pc_Preamble);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PC-Preamble", "pc-Preamble", -1, "SecondaryEDCH-Info-Common");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pc_Preamble, 0, 7);
-   RT_CHECK(ctx, stat, "PC-Preamble", "pc-Preamble", -1, "SecondaryEDCH-Info-Common");
-   return 0;
-}
-
-int asn1PE_UMTS_HARQ_Preamble_Mode(rtxContext* RT_RESTRICT ctx, HARQ_Preamble_Mode value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 1u) {
-      rtxErrAddStrParm(ctx, "HARQ-Preamble-Mode");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "HARQ-Preamble-Mode");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HARQ-Preamble-Mode");
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)pvalue->elem[i] > 127u) {
-         rtxErrAddStrParm(ctx, "HS-SCCH-Codes");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 127);
-      RT_CHECK(ctx, stat, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* hS-SCCHChannelisationCodeInfo */
-   stat = asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo);
-   RT_CHECK(ctx, stat, 0, "hS-SCCHChannelisationCodeInfo", -1, 0);
-   /* dl-ScramblingCode */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->dl_ScramblingCode - 1) > 14u) {
-         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
-         rtxErrAddUIntParm(ctx, pvalue->dl_ScramblingCode);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dl_ScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SICH_Power_Control_Info_TDD384(rtxContext* RT_RESTRICT ctx, const HS_SICH_Power_Control_Info_TDD384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SICH-Power-Control-Info-TDD384");
-   /* ul-target-SIR */
-   if (pvalue->ul_target_SIR < -22 || pvalue->ul_target_SIR > 40) {
-      rtxErrAddStrParm(ctx, "ul-target-SIR");
-      rtxErrAddIntParm(ctx, pvalue->ul_target_SIR);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ul-target-SIR", -1, "HS-SICH-Power-Control-Info-TDD384");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->ul_target_SIR, -22, 40);
-   RT_CHECK(ctx, stat, 0, "ul-target-SIR", -1, "HS-SICH-Power-Control-Info-TDD384");
-   /* hs-sich-ConstantValue */
-   if (pvalue->hs_sich_ConstantValue < -35 || pvalue->hs_sich_ConstantValue > -10) {
-      rtxErrAddStrParm(ctx, "ConstantValue");
-      rtxErrAddIntParm(ctx, pvalue->hs_sich_ConstantValue);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "ConstantValue", "hs-sich-ConstantValue", -1, "HS-SICH-Power-Control-Info-TDD384");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->hs_sich_ConstantValue, -35, -10);
-   RT_CHECK(ctx, stat, "ConstantValue", "hs-sich-ConstantValue", -1, "HS-SICH-Power-Control-Info-TDD384");
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* midambleShift */
-   if ((uint64_t)pvalue->midambleShift > 15u) {
-      rtxErrAddStrParm(ctx, "MidambleShiftLong");
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_TDD384_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD384_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         break;
-      case 3:
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PE_UMTS_HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* midambleShift */
-   if ((uint64_t)pvalue->midambleShift > 15u) {
-      rtxErrAddStrParm(ctx, "MidambleShiftLong");
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SICH_Configuration_TDD384_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD384_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PE_UMTS_HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SICH_Configuration_TDD384(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SICH-Configuration-TDD384");
-   /* timeslotNumber */
-   if ((uint64_t)pvalue->timeslotNumber > 14u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber");
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, "HS-SICH-Configuration-TDD384");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, "HS-SICH-Configuration-TDD384");
-   /* channelisationCode */
-   if (pvalue->channelisationCode > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-TS-ChannelisationCode", "channelisationCode", -1, "HS-SICH-Configuration-TDD384");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode, 0, 15);
-   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode", "channelisationCode", -1, "HS-SICH-Configuration-TDD384");
-   /* midambleAllocationMode */
-   stat = asn1PE_UMTS_HS_SICH_Configuration_TDD384_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SICH-Configuration-TDD384");
-   /* midambleconfiguration */
-   if (pvalue->midambleconfiguration > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->midambleconfiguration);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SICH-Configuration-TDD384");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleconfiguration, 0, 2);
-   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SICH-Configuration-TDD384");
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_TDD384(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-TDD384");
-   /* timeslotNumber */
-   if ((uint64_t)pvalue->timeslotNumber > 14u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber");
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, "HS-SCCH-TDD384");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, "HS-SCCH-TDD384");
-   /* channelisationCode */
-   if (pvalue->channelisationCode > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-TS-ChannelisationCode", "channelisationCode", -1, "HS-SCCH-TDD384");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode, 0, 15);
-   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode", "channelisationCode", -1, "HS-SCCH-TDD384");
-   /* midambleAllocationMode */
-   stat = asn1PE_UMTS_HS_SCCH_TDD384_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SCCH-TDD384");
-   /* midambleconfiguration */
-   if (pvalue->midambleconfiguration > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->midambleconfiguration);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SCCH-TDD384");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleconfiguration, 0, 2);
-   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SCCH-TDD384");
-   /* bler-target */
-   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
-      rtxErrAddStrParm(ctx, "Bler-Target");
-      rtxErrAddIntParm(ctx, pvalue->bler_target);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Bler-Target", "bler-target", -1, "HS-SCCH-TDD384");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, "HS-SCCH-TDD384");
-   /* hs-sich-configuration */
-   stat = asn1PE_UMTS_HS_SICH_Configuration_TDD384(ctx, &pvalue->hs_sich_configuration);
-   RT_CHECK(ctx, stat, 0, "hs-sich-configuration", -1, "HS-SCCH-TDD384");
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "HS-SCCH-TDD384", (int32_t)i, 0);
-      stat = asn1PE_UMTS_HS_SCCH_TDD384(ctx, (const HS_SCCH_TDD384*)node->data);
-      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD384", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* nack-ack-power-offset */
-   if (pvalue->nack_ack_power_offset < -7 || pvalue->nack_ack_power_offset > 8) {
-      rtxErrAddStrParm(ctx, "nack-ack-power-offset");
-      rtxErrAddIntParm(ctx, pvalue->nack_ack_power_offset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "nack-ack-power-offset", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->nack_ack_power_offset, -7, 8);
-   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, 0);
-   /* hs-SICH-PowerControl-Info */
-   stat = asn1PE_UMTS_HS_SICH_Power_Control_Info_TDD384(ctx, &pvalue->hs_SICH_PowerControl_Info);
-   RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl-Info", -1, 0);
-   /* hS-SCCH-SetConfiguration */
-   stat = asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
-   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_TDD128_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD128_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         break;
-      case 3:
-         if ((uint64_t)pvalue->u.ueSpecificMidamble > 15u) {
-            rtxErrAddStrParm(ctx, "ueSpecificMidamble");
-            rtxErrAddUIntParm(ctx, pvalue->u.ueSpecificMidamble);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ueSpecificMidamble", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.ueSpecificMidamble, 0, 15);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* midambleShift */
-   if ((uint64_t)pvalue->midambleShift > 15u) {
-      rtxErrAddStrParm(ctx, "MidambleShiftLong");
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SICH_Configuration_TDD128_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD128_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PE_UMTS_HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SICH_Configuration_TDD128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD128_tpc_step_size value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SICH_Configuration_TDD128(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SICH-Configuration-TDD128");
-   /* timeslotNumber */
-   if ((uint64_t)pvalue->timeslotNumber > 6u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SICH-Configuration-TDD128");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SICH-Configuration-TDD128");
-   /* channelisationCode */
-   if (pvalue->channelisationCode > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "channelisationCode", -1, "HS-SICH-Configuration-TDD128");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode, 0, 15);
-   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "channelisationCode", -1, "HS-SICH-Configuration-TDD128");
-   /* midambleAllocationMode */
-   stat = asn1PE_UMTS_HS_SICH_Configuration_TDD128_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SICH-Configuration-TDD128");
-   /* midambleConfiguration */
-   if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
-      rtxErrAddStrParm(ctx, "midambleConfiguration");
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "midambleConfiguration", -1, "HS-SICH-Configuration-TDD128");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, "HS-SICH-Configuration-TDD128");
-   /* nack-ack-power-offset */
-   if (pvalue->nack_ack_power_offset < -7 || pvalue->nack_ack_power_offset > 8) {
-      rtxErrAddStrParm(ctx, "nack-ack-power-offset");
-      rtxErrAddIntParm(ctx, pvalue->nack_ack_power_offset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "nack-ack-power-offset", -1, "HS-SICH-Configuration-TDD128");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->nack_ack_power_offset, -7, 8);
-   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, "HS-SICH-Configuration-TDD128");
-   /* power-level-HSSICH */
-   if (pvalue->power_level_HSSICH < -120 || pvalue->power_level_HSSICH > -58) {
-      rtxErrAddStrParm(ctx, "power-level-HSSICH");
-      rtxErrAddIntParm(ctx, pvalue->power_level_HSSICH);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "power-level-HSSICH", -1, "HS-SICH-Configuration-TDD128");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->power_level_HSSICH, -120, -58);
-   RT_CHECK(ctx, stat, 0, "power-level-HSSICH", -1, "HS-SICH-Configuration-TDD128");
-   /* tpc-step-size */
-   if (pvalue->tpc_step_size > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->tpc_step_size);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "tpc-step-size", -1, "HS-SICH-Configuration-TDD128");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tpc_step_size, 0, 3);
-   RT_CHECK(ctx, stat, 0, "tpc-step-size", -1, "HS-SICH-Configuration-TDD128");
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_TDD128(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-TDD128");
-   /* timeslotNumber */
-   if ((uint64_t)pvalue->timeslotNumber > 6u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SCCH-TDD128");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SCCH-TDD128");
-   /* firstChannelisationCode */
-   if (pvalue->firstChannelisationCode > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->firstChannelisationCode);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "firstChannelisationCode", -1, "HS-SCCH-TDD128");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->firstChannelisationCode, 0, 15);
-   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "firstChannelisationCode", -1, "HS-SCCH-TDD128");
-   /* secondChannelisationCode */
-   if (pvalue->secondChannelisationCode > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->secondChannelisationCode);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "secondChannelisationCode", -1, "HS-SCCH-TDD128");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->secondChannelisationCode, 0, 15);
-   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "secondChannelisationCode", -1, "HS-SCCH-TDD128");
-   /* midambleAllocationMode */
-   stat = asn1PE_UMTS_HS_SCCH_TDD128_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SCCH-TDD128");
-   /* midambleConfiguration */
-   if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
-      rtxErrAddStrParm(ctx, "midambleConfiguration");
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "midambleConfiguration", -1, "HS-SCCH-TDD128");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, "HS-SCCH-TDD128");
-   /* bler-target */
-   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
-      rtxErrAddStrParm(ctx, "Bler-Target");
-      rtxErrAddIntParm(ctx, pvalue->bler_target);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Bler-Target", "bler-target", -1, "HS-SCCH-TDD128");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, "HS-SCCH-TDD128");
-   /* hs-sich-configuration */
-   stat = asn1PE_UMTS_HS_SICH_Configuration_TDD128(ctx, &pvalue->hs_sich_configuration);
-   RT_CHECK(ctx, stat, 0, "hs-sich-configuration", -1, "HS-SCCH-TDD128");
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "HS-SCCH-TDD128", (int32_t)i, 0);
-      stat = asn1PE_UMTS_HS_SCCH_TDD128(ctx, (const HS_SCCH_TDD128*)node->data);
-      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD128", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
-         stat = asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-Info");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "HS-SCCH-Info");
-   return 0;
-}
-
-int asn1PE_UMTS_Feedback_cycle(rtxContext* RT_RESTRICT ctx, Feedback_cycle value)
-{
-   int stat = 0;
-   if (value > 8) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "Feedback-cycle");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Feedback-cycle");
-   return 0;
-}
-
-int asn1PE_UMTS_Measurement_Feedback_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const Measurement_Feedback_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* measurementPowerOffset */
-   if (pvalue->measurementPowerOffset < -12 || pvalue->measurementPowerOffset > 26) {
-      rtxErrAddStrParm(ctx, "MeasurementPowerOffset");
-      rtxErrAddIntParm(ctx, pvalue->measurementPowerOffset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementPowerOffset", "measurementPowerOffset", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->measurementPowerOffset, -12, 26);
-   RT_CHECK(ctx, stat, "MeasurementPowerOffset", "measurementPowerOffset", -1, 0);
-   /* feedback-cycle */
-   if (pvalue->feedback_cycle > 8) {
-      rtxErrAddUIntParm(ctx, pvalue->feedback_cycle);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "Feedback-cycle", "feedback-cycle", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->feedback_cycle, 0, 8);
-   RT_CHECK(ctx, stat, "Feedback-cycle", "feedback-cycle", -1, 0);
-   /* cqi-RepetitionFactor */
-   if ((uint64_t)(pvalue->cqi_RepetitionFactor - 1) > 3u) {
-      rtxErrAddStrParm(ctx, "CQI-RepetitionFactor");
-      rtxErrAddUIntParm(ctx, pvalue->cqi_RepetitionFactor);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "CQI-RepetitionFactor", "cqi-RepetitionFactor", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cqi_RepetitionFactor, 1, 4);
-   RT_CHECK(ctx, stat, "CQI-RepetitionFactor", "cqi-RepetitionFactor", -1, 0);
-   /* deltaCQI */
-   if ((uint64_t)pvalue->deltaCQI > 8u) {
-      rtxErrAddStrParm(ctx, "DeltaCQI");
-      rtxErrAddUIntParm(ctx, pvalue->deltaCQI);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaCQI", "deltaCQI", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->deltaCQI, 0, 8);
-   RT_CHECK(ctx, stat, "DeltaCQI", "deltaCQI", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_Measurement_Feedback_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const Measurement_Feedback_Info_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_Measurement_Feedback_Info_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Measurement_Feedback_Info(rtxContext* RT_RESTRICT ctx, const Measurement_Feedback_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Measurement-Feedback-Info");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_Measurement_Feedback_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "Measurement-Feedback-Info");
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* midambleShift */
-   if ((uint64_t)pvalue->midambleShift > 15u) {
-      rtxErrAddStrParm(ctx, "MidambleShiftLong");
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         break;
-      case 3:
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type1(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_burstType_type1* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* midambleConfigurationBurstType1and3 */
-   if (pvalue->midambleConfigurationBurstType1and3 > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType1and3);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfigurationBurstType1and3, 0, 2);
-   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
-   /* midambleAllocationMode */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* midambleShift */
-   if ((uint64_t)pvalue->midambleShift > 5u) {
-      rtxErrAddStrParm(ctx, "MidambleShiftShort");
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftShort", "midambleShift", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 5);
-   RT_CHECK(ctx, stat, "MidambleShiftShort", "midambleShift", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         break;
-      case 3:
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type2(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_burstType_type2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* midambleConfigurationBurstType2 */
-   if (pvalue->midambleConfigurationBurstType2 > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType2);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MidambleConfigurationBurstType2", "midambleConfigurationBurstType2", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfigurationBurstType2, 0, 1);
-   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType2", "midambleConfigurationBurstType2", -1, 0);
-   /* midambleAllocationMode */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_burstType* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.type1 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "type1", -1, 0);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type1(ctx, pvalue->u.type1);
-         RT_CHECK(ctx, stat, 0, "type1", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.type2 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "type2", -1, 0);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type2(ctx, pvalue->u.type2);
-         RT_CHECK(ctx, stat, 0, "type2", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_DL(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MidambleShiftAndBurstType-DL");
-   /* burstType */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType(ctx, &pvalue->burstType);
-   RT_CHECK(ctx, stat, 0, "burstType", -1, "MidambleShiftAndBurstType-DL");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_TS_Configuration_element(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_TS_Configuration_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* timeslot */
-   if ((uint64_t)pvalue->timeslot > 14u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber");
-      rtxErrAddUIntParm(ctx, pvalue->timeslot);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslot", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, 0);
-   /* midambleShiftAndBurstType */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_TS_Configuration(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_TS_Configuration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-HSPDSCH-TS-Configuration");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 13);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-HSPDSCH-TS-Configuration");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "DL-HSPDSCH-TS-Configuration");
-      stat = asn1PE_UMTS_DL_HSPDSCH_TS_Configuration_element(ctx, (const DL_HSPDSCH_TS_Configuration_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "DL-HSPDSCH-TS-Configuration");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-HSPDSCH-TS-Configuration */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_HSPDSCH_TS_Configuration(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* hs-PDSCH-Midamble-Configuration-tdd128 */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration_tdd128);
-      RT_CHECK(ctx, stat, 0, "hs-PDSCH-Midamble-Configuration-tdd128", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-HSPDSCH-Information");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-HSPDSCH-Information");
-   /* hs-scch-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_HS_SCCH_Info(ctx, &pvalue->hs_scch_Info);
-      RT_CHECK(ctx, stat, 0, "hs-scch-Info", -1, "DL-HSPDSCH-Information");
-   }
-   /* measurement-feedback-Info */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_Measurement_Feedback_Info(ctx, &pvalue->measurement_feedback_Info);
-      RT_CHECK(ctx, stat, 0, "measurement-feedback-Info", -1, "DL-HSPDSCH-Information");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_DL_HSPDSCH_Information_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-HSPDSCH-Information");
-   return 0;
-}
-
-int asn1PE_UMTS_Serving_HSDSCH_CellInformation_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_mac_hsResetIndicator value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_Serving_HSDSCH_CellInformation(rtxContext* RT_RESTRICT ctx, const Serving_HSDSCH_CellInformation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Serving-HSDSCH-CellInformation");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Serving-HSDSCH-CellInformation");
-   /* deltaACK */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->deltaACK > 8u) {
-         rtxErrAddStrParm(ctx, "DeltaACK");
-         rtxErrAddUIntParm(ctx, pvalue->deltaACK);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaACK", "deltaACK", -1, "Serving-HSDSCH-CellInformation");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->deltaACK, 0, 8);
-      RT_CHECK(ctx, stat, "DeltaACK", "deltaACK", -1, "Serving-HSDSCH-CellInformation");
-   }
-   /* deltaNACK */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->deltaNACK > 8u) {
-         rtxErrAddStrParm(ctx, "DeltaNACK");
-         rtxErrAddUIntParm(ctx, pvalue->deltaNACK);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaNACK", "deltaNACK", -1, "Serving-HSDSCH-CellInformation");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->deltaNACK, 0, 8);
-      RT_CHECK(ctx, stat, "DeltaNACK", "deltaNACK", -1, "Serving-HSDSCH-CellInformation");
-   }
-   /* harq-Preamble-Mode */
-   if ((uint64_t)pvalue->harq_Preamble_Mode > 1u) {
-      rtxErrAddStrParm(ctx, "HARQ-Preamble-Mode");
-      rtxErrAddUIntParm(ctx, pvalue->harq_Preamble_Mode);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "Serving-HSDSCH-CellInformation");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->harq_Preamble_Mode, 0, 1);
-   RT_CHECK(ctx, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "Serving-HSDSCH-CellInformation");
-   /* primaryCPICH-Info */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "Serving-HSDSCH-CellInformation");
-   }
-   /* dl-hspdsch-Information */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_DL_HSPDSCH_Information(ctx, &pvalue->dl_hspdsch_Information);
-      RT_CHECK(ctx, stat, 0, "dl-hspdsch-Information", -1, "Serving-HSDSCH-CellInformation");
-   }
-   /* harqInfo */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_HARQ_Info(ctx, &pvalue->harqInfo);
-      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "Serving-HSDSCH-CellInformation");
-   }
-   /* mac-hsResetIndicator */
-   if (pvalue->m & 0x20u) {
-      if (pvalue->mac_hsResetIndicator > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->mac_hsResetIndicator);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mac_hsResetIndicator, 0, 0);
-      RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)pvalue->elem[i] > 127u) {
-         rtxErrAddStrParm(ctx, "HS-SCCH-Codes");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 127);
-      RT_CHECK(ctx, stat, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* hS-SCCHChannelisationCodeInfo */
-   stat = asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo);
-   RT_CHECK(ctx, stat, 0, "hS-SCCHChannelisationCodeInfo", -1, 0);
-   /* dl-ScramblingCode */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->dl_ScramblingCode - 1) > 14u) {
-         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
-         rtxErrAddUIntParm(ctx, pvalue->dl_ScramblingCode);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dl_ScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DHS_Sync(rtxContext* RT_RESTRICT ctx, DHS_Sync value)
-{
-   int stat = 0;
-   if (value < -20 || value > 10) {
-      rtxErrAddStrParm(ctx, "DHS-Sync");
-      rtxErrAddIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DHS-Sync");
-   }
-   stat = pe_ConsInt64(ctx, value, -20, 10);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DHS-Sync");
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* midambleShift */
-   if ((uint64_t)pvalue->midambleShift > 15u) {
-      rtxErrAddStrParm(ctx, "MidambleShiftLong");
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_TDD384_r6_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD384_r6_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         break;
-      case 3:
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PE_UMTS_HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_TDD384_r6(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD384_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-TDD384-r6");
-   /* timeslotNumber */
-   if ((uint64_t)pvalue->timeslotNumber > 14u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber");
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, "HS-SCCH-TDD384-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, "HS-SCCH-TDD384-r6");
-   /* channelisationCode */
-   if (pvalue->channelisationCode > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-TS-ChannelisationCode", "channelisationCode", -1, "HS-SCCH-TDD384-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode, 0, 15);
-   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode", "channelisationCode", -1, "HS-SCCH-TDD384-r6");
-   /* midambleAllocationMode */
-   stat = asn1PE_UMTS_HS_SCCH_TDD384_r6_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SCCH-TDD384-r6");
-   /* midambleconfiguration */
-   if (pvalue->midambleconfiguration > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->midambleconfiguration);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SCCH-TDD384-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleconfiguration, 0, 2);
-   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SCCH-TDD384-r6");
-   /* hs-sich-configuration */
-   stat = asn1PE_UMTS_HS_SICH_Configuration_TDD384(ctx, &pvalue->hs_sich_configuration);
-   RT_CHECK(ctx, stat, 0, "hs-sich-configuration", -1, "HS-SCCH-TDD384-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "HS-SCCH-TDD384-r6", (int32_t)i, 0);
-      stat = asn1PE_UMTS_HS_SCCH_TDD384_r6(ctx, (const HS_SCCH_TDD384_r6*)node->data);
-      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD384-r6", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* nack-ack-power-offset */
-   if (pvalue->nack_ack_power_offset < -7 || pvalue->nack_ack_power_offset > 8) {
-      rtxErrAddStrParm(ctx, "nack-ack-power-offset");
-      rtxErrAddIntParm(ctx, pvalue->nack_ack_power_offset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "nack-ack-power-offset", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->nack_ack_power_offset, -7, 8);
-   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, 0);
-   /* hs-SICH-PowerControl-Info */
-   stat = asn1PE_UMTS_HS_SICH_Power_Control_Info_TDD384(ctx, &pvalue->hs_SICH_PowerControl_Info);
-   RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl-Info", -1, 0);
-   /* dhs-sync */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->dhs_sync < -20 || pvalue->dhs_sync > 10) {
-         rtxErrAddStrParm(ctx, "DHS-Sync");
-         rtxErrAddIntParm(ctx, pvalue->dhs_sync);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DHS-Sync", "dhs-sync", -1, 0);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->dhs_sync, -20, 10);
-      RT_CHECK(ctx, stat, "DHS-Sync", "dhs-sync", -1, 0);
-   }
-   /* bler-target */
-   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
-      rtxErrAddStrParm(ctx, "Bler-Target");
-      rtxErrAddIntParm(ctx, pvalue->bler_target);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Bler-Target", "bler-target", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, 0);
-   /* hS-SCCH-SetConfiguration */
-   stat = asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
-   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SICH_Power_Control_Info_TDD768(rtxContext* RT_RESTRICT ctx, const HS_SICH_Power_Control_Info_TDD768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SICH-Power-Control-Info-TDD768");
-   /* ul-target-SIR */
-   if (pvalue->ul_target_SIR < -22 || pvalue->ul_target_SIR > 40) {
-      rtxErrAddStrParm(ctx, "ul-target-SIR");
-      rtxErrAddIntParm(ctx, pvalue->ul_target_SIR);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ul-target-SIR", -1, "HS-SICH-Power-Control-Info-TDD768");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->ul_target_SIR, -22, 40);
-   RT_CHECK(ctx, stat, 0, "ul-target-SIR", -1, "HS-SICH-Power-Control-Info-TDD768");
-   /* hs-sich-ConstantValue */
-   if (pvalue->hs_sich_ConstantValue < -35 || pvalue->hs_sich_ConstantValue > -10) {
-      rtxErrAddStrParm(ctx, "ConstantValue");
-      rtxErrAddIntParm(ctx, pvalue->hs_sich_ConstantValue);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "ConstantValue", "hs-sich-ConstantValue", -1, "HS-SICH-Power-Control-Info-TDD768");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->hs_sich_ConstantValue, -35, -10);
-   RT_CHECK(ctx, stat, "ConstantValue", "hs-sich-ConstantValue", -1, "HS-SICH-Power-Control-Info-TDD768");
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* midambleShift */
-   if ((uint64_t)pvalue->midambleShift > 15u) {
-      rtxErrAddStrParm(ctx, "MidambleShiftLong");
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_TDD768_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD768_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         break;
-      case 3:
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PE_UMTS_HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* midambleShift */
-   if ((uint64_t)pvalue->midambleShift > 15u) {
-      rtxErrAddStrParm(ctx, "MidambleShiftLong");
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SICH_Configuration_TDD768_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD768_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PE_UMTS_HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SICH_Configuration_TDD768(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SICH-Configuration-TDD768");
-   /* timeslotNumber */
-   if ((uint64_t)pvalue->timeslotNumber > 14u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber");
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, "HS-SICH-Configuration-TDD768");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, "HS-SICH-Configuration-TDD768");
-   /* channelisationCode */
-   if (pvalue->channelisationCode > 31) {
-      rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-TS-ChannelisationCode-VHCR", "channelisationCode", -1, "HS-SICH-Configuration-TDD768");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode, 0, 31);
-   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode-VHCR", "channelisationCode", -1, "HS-SICH-Configuration-TDD768");
-   /* midambleAllocationMode */
-   stat = asn1PE_UMTS_HS_SICH_Configuration_TDD768_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SICH-Configuration-TDD768");
-   /* midambleconfiguration */
-   if (pvalue->midambleconfiguration > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->midambleconfiguration);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SICH-Configuration-TDD768");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleconfiguration, 0, 2);
-   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SICH-Configuration-TDD768");
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_TDD768(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-TDD768");
-   /* timeslotNumber */
-   if ((uint64_t)pvalue->timeslotNumber > 14u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber");
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, "HS-SCCH-TDD768");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, "HS-SCCH-TDD768");
-   /* channelisationCode */
-   if (pvalue->channelisationCode > 31) {
-      rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-TS-ChannelisationCode-VHCR", "channelisationCode", -1, "HS-SCCH-TDD768");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode, 0, 31);
-   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode-VHCR", "channelisationCode", -1, "HS-SCCH-TDD768");
-   /* midambleAllocationMode */
-   stat = asn1PE_UMTS_HS_SCCH_TDD768_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SCCH-TDD768");
-   /* midambleconfiguration */
-   if (pvalue->midambleconfiguration > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->midambleconfiguration);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SCCH-TDD768");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleconfiguration, 0, 2);
-   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SCCH-TDD768");
-   /* hs-sich-configuration */
-   stat = asn1PE_UMTS_HS_SICH_Configuration_TDD768(ctx, &pvalue->hs_sich_configuration);
-   RT_CHECK(ctx, stat, 0, "hs-sich-configuration", -1, "HS-SCCH-TDD768");
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "HS-SCCH-TDD768", (int32_t)i, 0);
-      stat = asn1PE_UMTS_HS_SCCH_TDD768(ctx, (const HS_SCCH_TDD768*)node->data);
-      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD768", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* nack-ack-power-offset */
-   if (pvalue->nack_ack_power_offset < -7 || pvalue->nack_ack_power_offset > 8) {
-      rtxErrAddStrParm(ctx, "nack-ack-power-offset");
-      rtxErrAddIntParm(ctx, pvalue->nack_ack_power_offset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "nack-ack-power-offset", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->nack_ack_power_offset, -7, 8);
-   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, 0);
-   /* hs-SICH-PowerControl-Info */
-   stat = asn1PE_UMTS_HS_SICH_Power_Control_Info_TDD768(ctx, &pvalue->hs_SICH_PowerControl_Info);
-   RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl-Info", -1, 0);
-   /* dhs-sync */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->dhs_sync < -20 || pvalue->dhs_sync > 10) {
-         rtxErrAddStrParm(ctx, "DHS-Sync");
-         rtxErrAddIntParm(ctx, pvalue->dhs_sync);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DHS-Sync", "dhs-sync", -1, 0);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->dhs_sync, -20, 10);
-      RT_CHECK(ctx, stat, "DHS-Sync", "dhs-sync", -1, 0);
-   }
-   /* bler-target */
-   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
-      rtxErrAddStrParm(ctx, "Bler-Target");
-      rtxErrAddIntParm(ctx, pvalue->bler_target);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Bler-Target", "bler-target", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, 0);
-   /* hS-SCCH-SetConfiguration */
-   stat = asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
-   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_tpc_step_size value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PowerControlGAP(rtxContext* RT_RESTRICT ctx, PowerControlGAP value)
-{
-   int stat = 0;
-   stat = pe_ConsUInt64(ctx, value, 0, 255);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PowerControlGAP");
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
-      stat = asn1PE_UMTS_HS_SCCH_TDD128_r6(ctx, (const HS_SCCH_TDD128_r6*)node->data);
-      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* nack-ack-power-offset */
-   if (pvalue->nack_ack_power_offset < -7 || pvalue->nack_ack_power_offset > 8) {
-      rtxErrAddStrParm(ctx, "nack-ack-power-offset");
-      rtxErrAddIntParm(ctx, pvalue->nack_ack_power_offset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "nack-ack-power-offset", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->nack_ack_power_offset, -7, 8);
-   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, 0);
-   /* power-level-HSSICH */
-   if (pvalue->power_level_HSSICH < -120 || pvalue->power_level_HSSICH > -58) {
-      rtxErrAddStrParm(ctx, "power-level-HSSICH");
-      rtxErrAddIntParm(ctx, pvalue->power_level_HSSICH);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "power-level-HSSICH", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->power_level_HSSICH, -120, -58);
-   RT_CHECK(ctx, stat, 0, "power-level-HSSICH", -1, 0);
-   /* tpc-step-size */
-   if (pvalue->tpc_step_size > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->tpc_step_size);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "tpc-step-size", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tpc_step_size, 0, 3);
-   RT_CHECK(ctx, stat, 0, "tpc-step-size", -1, 0);
-   /* bler-target */
-   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
-      rtxErrAddStrParm(ctx, "Bler-Target");
-      rtxErrAddIntParm(ctx, pvalue->bler_target);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Bler-Target", "bler-target", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, 0);
-   /* powerControlGAP */
-   if (pvalue->m & 0x1u) {
-      stat = pe_ConsUInt64(ctx, pvalue->powerControlGAP, 0, 255);
-      RT_CHECK(ctx, stat, "PowerControlGAP", "powerControlGAP", -1, 0);
-   }
-   /* pathlossCompensationSwitch */
-   if (pvalue->m & 0x2u) {
-      stat = rtxEncBit(ctx, pvalue->pathlossCompensationSwitch);
-      RT_CHECK(ctx, stat, 0, "pathlossCompensationSwitch", -1, 0);
-   }
-   /* hS-SCCH-SetConfiguration */
-   stat = asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
-   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
-         stat = asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
-         stat = asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
-         break;
-      case 3:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r7(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-Info-r7");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "HS-SCCH-Info-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-HSPDSCH-TS-Configuration */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_HSPDSCH_TS_Configuration(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* midambleShift */
-   if ((uint64_t)pvalue->midambleShift > 15u) {
-      rtxErrAddStrParm(ctx, "MidambleShiftLong");
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         break;
-      case 3:
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType_type1* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* midambleConfigurationBurstType1and3 */
-   if (pvalue->midambleConfigurationBurstType1and3 > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType1and3);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfigurationBurstType1and3, 0, 2);
-   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
-   /* midambleAllocationMode */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* midambleShift */
-   if ((uint64_t)pvalue->midambleShift > 7u) {
-      rtxErrAddStrParm(ctx, "MidambleShiftShort-VHCR");
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftShort-VHCR", "midambleShift", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 7);
-   RT_CHECK(ctx, stat, "MidambleShiftShort-VHCR", "midambleShift", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         break;
-      case 3:
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType_type2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* midambleConfigurationBurstType2 */
-   if (pvalue->midambleConfigurationBurstType2 > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType2);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MidambleConfigurationBurstType2-VHCR", "midambleConfigurationBurstType2", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfigurationBurstType2, 0, 1);
-   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType2-VHCR", "midambleConfigurationBurstType2", -1, 0);
-   /* midambleAllocationMode */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.type1 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "type1", -1, 0);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1(ctx, pvalue->u.type1);
-         RT_CHECK(ctx, stat, 0, "type1", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.type2 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "type2", -1, 0);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2(ctx, pvalue->u.type2);
-         RT_CHECK(ctx, stat, 0, "type2", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_VHCR* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MidambleShiftAndBurstType-DL-VHCR");
-   /* burstType */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType(ctx, &pvalue->burstType);
-   RT_CHECK(ctx, stat, 0, "burstType", -1, "MidambleShiftAndBurstType-DL-VHCR");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_TS_Configuration_VHCR_element(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_TS_Configuration_VHCR_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* timeslot */
-   if ((uint64_t)pvalue->timeslot > 14u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber");
-      rtxErrAddUIntParm(ctx, pvalue->timeslot);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslot", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, 0);
-   /* midambleShiftAndBurstType */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_TS_Configuration_VHCR(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_TS_Configuration_VHCR* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-HSPDSCH-TS-Configuration-VHCR");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 13);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-HSPDSCH-TS-Configuration-VHCR");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "DL-HSPDSCH-TS-Configuration-VHCR");
-      stat = asn1PE_UMTS_DL_HSPDSCH_TS_Configuration_VHCR_element(ctx, (const DL_HSPDSCH_TS_Configuration_VHCR_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "DL-HSPDSCH-TS-Configuration-VHCR");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-HSPDSCH-TS-Configuration */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_HSPDSCH_TS_Configuration_VHCR(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_MultiCarrier_Information_tsn_Length(rtxContext* RT_RESTRICT ctx, DL_MultiCarrier_Information_tsn_Length value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_TDD128_MultiCarrier_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD128_MultiCarrier_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         break;
-      case 3:
-         if ((uint64_t)pvalue->u.ueSpecificMidamble > 15u) {
-            rtxErrAddStrParm(ctx, "ueSpecificMidamble");
-            rtxErrAddUIntParm(ctx, pvalue->u.ueSpecificMidamble);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ueSpecificMidamble", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.ueSpecificMidamble, 0, 15);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_TDD128_MultiCarrier(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD128_MultiCarrier* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-TDD128-MultiCarrier");
-   /* uarfcn-HS-SCCH-Rx */
-   if ((uint64_t)pvalue->uarfcn_HS_SCCH_Rx > 16383u) {
-      rtxErrAddStrParm(ctx, "UARFCN");
-      rtxErrAddUIntParm(ctx, pvalue->uarfcn_HS_SCCH_Rx);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "UARFCN", "uarfcn-HS-SCCH-Rx", -1, "HS-SCCH-TDD128-MultiCarrier");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->uarfcn_HS_SCCH_Rx, 0, 16383);
-   RT_CHECK(ctx, stat, "UARFCN", "uarfcn-HS-SCCH-Rx", -1, "HS-SCCH-TDD128-MultiCarrier");
-   /* timeslotNumber */
-   if ((uint64_t)pvalue->timeslotNumber > 6u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SCCH-TDD128-MultiCarrier");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SCCH-TDD128-MultiCarrier");
-   /* firstChannelisationCode */
-   if (pvalue->firstChannelisationCode > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->firstChannelisationCode);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "firstChannelisationCode", -1, "HS-SCCH-TDD128-MultiCarrier");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->firstChannelisationCode, 0, 15);
-   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "firstChannelisationCode", -1, "HS-SCCH-TDD128-MultiCarrier");
-   /* secondChannelisationCode */
-   if (pvalue->secondChannelisationCode > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->secondChannelisationCode);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "secondChannelisationCode", -1, "HS-SCCH-TDD128-MultiCarrier");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->secondChannelisationCode, 0, 15);
-   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "secondChannelisationCode", -1, "HS-SCCH-TDD128-MultiCarrier");
-   /* midambleAllocationMode */
-   stat = asn1PE_UMTS_HS_SCCH_TDD128_MultiCarrier_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SCCH-TDD128-MultiCarrier");
-   /* midambleConfiguration */
-   if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
-      rtxErrAddStrParm(ctx, "midambleConfiguration");
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "midambleConfiguration", -1, "HS-SCCH-TDD128-MultiCarrier");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, "HS-SCCH-TDD128-MultiCarrier");
-   /* bler-target */
-   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
-      rtxErrAddStrParm(ctx, "Bler-Target");
-      rtxErrAddIntParm(ctx, pvalue->bler_target);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Bler-Target", "bler-target", -1, "HS-SCCH-TDD128-MultiCarrier");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, "HS-SCCH-TDD128-MultiCarrier");
-   /* hs-sich-configuration */
-   stat = asn1PE_UMTS_HS_SICH_Configuration_TDD128(ctx, &pvalue->hs_sich_configuration);
-   RT_CHECK(ctx, stat, 0, "hs-sich-configuration", -1, "HS-SCCH-TDD128-MultiCarrier");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_MultiCarrier_Information_element_hs_SCCH_TDD128_MultiCarrier(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_MultiCarrier_Information_element_hs_SCCH_TDD128_MultiCarrier* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "HS-SCCH-TDD128-MultiCarrier", (int32_t)i, 0);
-      stat = asn1PE_UMTS_HS_SCCH_TDD128_MultiCarrier(ctx, (const HS_SCCH_TDD128_MultiCarrier*)node->data);
-      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD128-MultiCarrier", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_MultiCarrier_Information_element(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_MultiCarrier_Information_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* uarfcn-Carrier */
-   if ((uint64_t)pvalue->uarfcn_Carrier > 16383u) {
-      rtxErrAddStrParm(ctx, "UARFCN");
-      rtxErrAddUIntParm(ctx, pvalue->uarfcn_Carrier);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "UARFCN", "uarfcn-Carrier", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->uarfcn_Carrier, 0, 16383);
-   RT_CHECK(ctx, stat, "UARFCN", "uarfcn-Carrier", -1, 0);
-   /* harqInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_HARQ_Info(ctx, &pvalue->harqInfo);
-      RT_CHECK(ctx, stat, 0, "harqInfo", -1, 0);
-   }
-   /* hs-PDSCH-Midamble-Configuration */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration);
-      RT_CHECK(ctx, stat, 0, "hs-PDSCH-Midamble-Configuration", -1, 0);
-   }
-   /* hs-SCCH-TDD128-MultiCarrier */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_DL_HSPDSCH_MultiCarrier_Information_element_hs_SCCH_TDD128_MultiCarrier(ctx, &pvalue->hs_SCCH_TDD128_MultiCarrier);
-      RT_CHECK(ctx, stat, 0, "hs-SCCH-TDD128-MultiCarrier", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_MultiCarrier_Information(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_MultiCarrier_Information* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-HSPDSCH-MultiCarrier-Information");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 6);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-HSPDSCH-MultiCarrier-Information");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "DL-HSPDSCH-MultiCarrier-Information");
-      stat = asn1PE_UMTS_DL_HSPDSCH_MultiCarrier_Information_element(ctx, (const DL_HSPDSCH_MultiCarrier_Information_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "DL-HSPDSCH-MultiCarrier-Information");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_MultiCarrier_Information(rtxContext* RT_RESTRICT ctx, const DL_MultiCarrier_Information* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-MultiCarrier-Information");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-MultiCarrier-Information");
-   /* tsn-Length */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->tsn_Length > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->tsn_Length);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "tsn-Length", -1, "DL-MultiCarrier-Information");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tsn_Length, 0, 1);
-      RT_CHECK(ctx, stat, 0, "tsn-Length", -1, "DL-MultiCarrier-Information");
-   }
-   /* multiCarrierNumber */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)(pvalue->multiCarrierNumber - 1) > 5u) {
-         rtxErrAddStrParm(ctx, "multiCarrierNumber");
-         rtxErrAddUIntParm(ctx, pvalue->multiCarrierNumber);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "multiCarrierNumber", -1, "DL-MultiCarrier-Information");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->multiCarrierNumber, 1, 6);
-      RT_CHECK(ctx, stat, 0, "multiCarrierNumber", -1, "DL-MultiCarrier-Information");
-   }
-   /* dl-HSPDSCH-MultiCarrier-Information */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_DL_HSPDSCH_MultiCarrier_Information(ctx, &pvalue->dl_HSPDSCH_MultiCarrier_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-MultiCarrier-Information", -1, "DL-MultiCarrier-Information");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* hs-PDSCH-Midamble-Configuration-tdd128 */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration_tdd128);
-      RT_CHECK(ctx, stat, 0, "hs-PDSCH-Midamble-Configuration-tdd128", -1, 0);
-   }
-   /* dl-MultiCarrier-Information */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DL_MultiCarrier_Information(ctx, &pvalue->dl_MultiCarrier_Information);
-      RT_CHECK(ctx, stat, 0, "dl-MultiCarrier-Information", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
-         break;
-      case 3:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd_dl_64QAM_Configured value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-64QAM-Configured */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->dl_64QAM_Configured > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->dl_64QAM_Configured);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "dl-64QAM-Configured", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dl_64QAM_Configured, 0, 0);
-      RT_CHECK(ctx, stat, 0, "dl-64QAM-Configured", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r7_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r7(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-HSPDSCH-Information-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-HSPDSCH-Information-r7");
-   /* hs-scch-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_HS_SCCH_Info_r7(ctx, &pvalue->hs_scch_Info);
-      RT_CHECK(ctx, stat, 0, "hs-scch-Info", -1, "DL-HSPDSCH-Information-r7");
-   }
-   /* measurement-feedback-Info */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_Measurement_Feedback_Info_r7(ctx, &pvalue->measurement_feedback_Info);
-      RT_CHECK(ctx, stat, 0, "measurement-feedback-Info", -1, "DL-HSPDSCH-Information-r7");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-HSPDSCH-Information-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_HARQ_Info_r7_numberOfProcesses(rtxContext* RT_RESTRICT ctx, HARQ_Info_r7_numberOfProcesses value)
-{
-   int stat = 0;
-   if (value > 10) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 10);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_HARQ_Info_r7_memoryPartitioning_explicit__memorySize(rtxContext* RT_RESTRICT ctx, const HARQ_Info_r7_memoryPartitioning_explicit__memorySize* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (i = 0; i < pvalue->n; i++) {
-      if (pvalue->elem[i] > 60) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "HARQMemorySize", "HARQMemorySize", (int32_t)i, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 60);
-      RT_CHECK(ctx, stat, "HARQMemorySize", "HARQMemorySize", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HARQ_Info_r7_memoryPartitioning_explicit__additionalMemorySizesForMIMO(rtxContext* RT_RESTRICT ctx, const HARQ_Info_r7_memoryPartitioning_explicit__additionalMemorySizesForMIMO* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (i = 0; i < pvalue->n; i++) {
-      if (pvalue->elem[i] > 60) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "HARQMemorySize", "HARQMemorySize", (int32_t)i, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 60);
-      RT_CHECK(ctx, stat, "HARQMemorySize", "HARQMemorySize", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HARQ_Info_r7_memoryPartitioning_explicit_(rtxContext* RT_RESTRICT ctx, const HARQ_Info_r7_memoryPartitioning_explicit_* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* memorySize */
-   stat = asn1PE_UMTS_HARQ_Info_r7_memoryPartitioning_explicit__memorySize(ctx, &pvalue->memorySize);
-   RT_CHECK(ctx, stat, 0, "memorySize", -1, 0);
-   /* additionalMemorySizesForMIMO */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_HARQ_Info_r7_memoryPartitioning_explicit__additionalMemorySizesForMIMO(ctx, &pvalue->additionalMemorySizesForMIMO);
-      RT_CHECK(ctx, stat, 0, "additionalMemorySizesForMIMO", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HARQ_Info_r7_memoryPartitioning(rtxContext* RT_RESTRICT ctx, const HARQ_Info_r7_memoryPartitioning* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.explicit_ == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "explicit", -1, 0);
-         stat = asn1PE_UMTS_HARQ_Info_r7_memoryPartitioning_explicit_(ctx, pvalue->u.explicit_);
-         RT_CHECK(ctx, stat, 0, "explicit", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HARQ_Info_r7(rtxContext* RT_RESTRICT ctx, const HARQ_Info_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HARQ-Info-r7");
-   /* numberOfProcesses */
-   if (pvalue->numberOfProcesses > 10) {
-      rtxErrAddUIntParm(ctx, pvalue->numberOfProcesses);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "numberOfProcesses", -1, "HARQ-Info-r7");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->numberOfProcesses, 0, 10);
-   RT_CHECK(ctx, stat, 0, "numberOfProcesses", -1, "HARQ-Info-r7");
-   /* memoryPartitioning */
-   stat = asn1PE_UMTS_HARQ_Info_r7_memoryPartitioning(ctx, &pvalue->memoryPartitioning);
-   RT_CHECK(ctx, stat, 0, "memoryPartitioning", -1, "HARQ-Info-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_Serving_HSDSCH_CellInformation_r7_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r7_mac_hsResetIndicator value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_Serving_HSDSCH_CellInformation_r7(rtxContext* RT_RESTRICT ctx, const Serving_HSDSCH_CellInformation_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Serving-HSDSCH-CellInformation-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Serving-HSDSCH-CellInformation-r7");
-   /* deltaACK */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->deltaACK > 8u) {
-         rtxErrAddStrParm(ctx, "DeltaACK");
-         rtxErrAddUIntParm(ctx, pvalue->deltaACK);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaACK", "deltaACK", -1, "Serving-HSDSCH-CellInformation-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->deltaACK, 0, 8);
-      RT_CHECK(ctx, stat, "DeltaACK", "deltaACK", -1, "Serving-HSDSCH-CellInformation-r7");
-   }
-   /* deltaNACK */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->deltaNACK > 8u) {
-         rtxErrAddStrParm(ctx, "DeltaNACK");
-         rtxErrAddUIntParm(ctx, pvalue->deltaNACK);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaNACK", "deltaNACK", -1, "Serving-HSDSCH-CellInformation-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->deltaNACK, 0, 8);
-      RT_CHECK(ctx, stat, "DeltaNACK", "deltaNACK", -1, "Serving-HSDSCH-CellInformation-r7");
-   }
-   /* harq-Preamble-Mode */
-   if ((uint64_t)pvalue->harq_Preamble_Mode > 1u) {
-      rtxErrAddStrParm(ctx, "HARQ-Preamble-Mode");
-      rtxErrAddUIntParm(ctx, pvalue->harq_Preamble_Mode);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "Serving-HSDSCH-CellInformation-r7");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->harq_Preamble_Mode, 0, 1);
-   RT_CHECK(ctx, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "Serving-HSDSCH-CellInformation-r7");
-   /* primaryCPICH-Info */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "Serving-HSDSCH-CellInformation-r7");
-   }
-   /* dl-hspdsch-Information */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r7(ctx, &pvalue->dl_hspdsch_Information);
-      RT_CHECK(ctx, stat, 0, "dl-hspdsch-Information", -1, "Serving-HSDSCH-CellInformation-r7");
-   }
-   /* harqInfo */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
-      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "Serving-HSDSCH-CellInformation-r7");
-   }
-   /* mac-hsResetIndicator */
-   if (pvalue->m & 0x20u) {
-      if (pvalue->mac_hsResetIndicator > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->mac_hsResetIndicator);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mac_hsResetIndicator, 0, 0);
-      RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-HSPDSCH-TS-Configuration */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_HSPDSCH_TS_Configuration(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-HSPDSCH-TS-Configuration */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_HSPDSCH_TS_Configuration_VHCR(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* hs-PDSCH-Midamble-Configuration-tdd128 */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration_tdd128);
-      RT_CHECK(ctx, stat, 0, "hs-PDSCH-Midamble-Configuration-tdd128", -1, 0);
-   }
-   /* dl-MultiCarrier-Information */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DL_MultiCarrier_Information(ctx, &pvalue->dl_MultiCarrier_Information);
-      RT_CHECK(ctx, stat, 0, "dl-MultiCarrier-Information", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
-         break;
-      case 3:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd_dl_64QAM_Configured value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_DSCH_TBSizeTable(rtxContext* RT_RESTRICT ctx, HS_DSCH_TBSizeTable value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "HS-DSCH-TBSizeTable");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HS-DSCH-TBSizeTable");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-64QAM-Configured */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->dl_64QAM_Configured > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->dl_64QAM_Configured);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "dl-64QAM-Configured", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dl_64QAM_Configured, 0, 0);
-      RT_CHECK(ctx, stat, 0, "dl-64QAM-Configured", -1, 0);
-   }
-   /* hs-DSCH-TBSizeTable */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->hs_DSCH_TBSizeTable > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->hs_DSCH_TBSizeTable);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hs_DSCH_TBSizeTable, 0, 0);
-      RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r8(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-HSPDSCH-Information-r8");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-HSPDSCH-Information-r8");
-   /* hs-scch-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_HS_SCCH_Info_r7(ctx, &pvalue->hs_scch_Info);
-      RT_CHECK(ctx, stat, 0, "hs-scch-Info", -1, "DL-HSPDSCH-Information-r8");
-   }
-   /* measurement-feedback-Info */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_Measurement_Feedback_Info_r7(ctx, &pvalue->measurement_feedback_Info);
-      RT_CHECK(ctx, stat, 0, "measurement-feedback-Info", -1, "DL-HSPDSCH-Information-r8");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-HSPDSCH-Information-r8");
-   return 0;
-}
-
-int asn1PE_UMTS_Serving_HSDSCH_CellInformation_r8_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r8_mac_hsResetIndicator value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_Serving_HSDSCH_CellInformation_r8(rtxContext* RT_RESTRICT ctx, const Serving_HSDSCH_CellInformation_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Serving-HSDSCH-CellInformation-r8");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Serving-HSDSCH-CellInformation-r8");
-   /* deltaACK */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->deltaACK > 8u) {
-         rtxErrAddStrParm(ctx, "DeltaACK");
-         rtxErrAddUIntParm(ctx, pvalue->deltaACK);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaACK", "deltaACK", -1, "Serving-HSDSCH-CellInformation-r8");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->deltaACK, 0, 8);
-      RT_CHECK(ctx, stat, "DeltaACK", "deltaACK", -1, "Serving-HSDSCH-CellInformation-r8");
-   }
-   /* deltaNACK */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->deltaNACK > 8u) {
-         rtxErrAddStrParm(ctx, "DeltaNACK");
-         rtxErrAddUIntParm(ctx, pvalue->deltaNACK);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaNACK", "deltaNACK", -1, "Serving-HSDSCH-CellInformation-r8");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->deltaNACK, 0, 8);
-      RT_CHECK(ctx, stat, "DeltaNACK", "deltaNACK", -1, "Serving-HSDSCH-CellInformation-r8");
-   }
-   /* harq-Preamble-Mode */
-   if ((uint64_t)pvalue->harq_Preamble_Mode > 1u) {
-      rtxErrAddStrParm(ctx, "HARQ-Preamble-Mode");
-      rtxErrAddUIntParm(ctx, pvalue->harq_Preamble_Mode);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "Serving-HSDSCH-CellInformation-r8");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->harq_Preamble_Mode, 0, 1);
-   RT_CHECK(ctx, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "Serving-HSDSCH-CellInformation-r8");
-   /* primaryCPICH-Info */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "Serving-HSDSCH-CellInformation-r8");
-   }
-   /* dl-hspdsch-Information */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_hspdsch_Information);
-      RT_CHECK(ctx, stat, 0, "dl-hspdsch-Information", -1, "Serving-HSDSCH-CellInformation-r8");
-   }
-   /* harqInfo */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
-      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "Serving-HSDSCH-CellInformation-r8");
-   }
-   /* mac-hsResetIndicator */
-   if (pvalue->m & 0x20u) {
-      if (pvalue->mac_hsResetIndicator > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->mac_hsResetIndicator);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation-r8");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mac_hsResetIndicator, 0, 0);
-      RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation-r8");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)pvalue->elem[i] > 127u) {
-         rtxErrAddStrParm(ctx, "HS-SCCH-Codes");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 127);
-      RT_CHECK(ctx, stat, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* hS-SCCHChannelisationCodeInfo */
-   stat = asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo);
-   RT_CHECK(ctx, stat, 0, "hS-SCCHChannelisationCodeInfo", -1, 0);
-   /* dl-ScramblingCode */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->dl_ScramblingCode - 1) > 14u) {
-         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
-         rtxErrAddUIntParm(ctx, pvalue->dl_ScramblingCode);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dl_ScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "HS-SCCH-TDD384-r6", (int32_t)i, 0);
-      stat = asn1PE_UMTS_HS_SCCH_TDD384_r6(ctx, (const HS_SCCH_TDD384_r6*)node->data);
-      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD384-r6", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* nack-ack-power-offset */
-   if (pvalue->nack_ack_power_offset < -7 || pvalue->nack_ack_power_offset > 8) {
-      rtxErrAddStrParm(ctx, "nack-ack-power-offset");
-      rtxErrAddIntParm(ctx, pvalue->nack_ack_power_offset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "nack-ack-power-offset", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->nack_ack_power_offset, -7, 8);
-   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, 0);
-   /* hs-SICH-PowerControl-Info */
-   stat = asn1PE_UMTS_HS_SICH_Power_Control_Info_TDD384(ctx, &pvalue->hs_SICH_PowerControl_Info);
-   RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl-Info", -1, 0);
-   /* dhs-sync */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->dhs_sync < -20 || pvalue->dhs_sync > 10) {
-         rtxErrAddStrParm(ctx, "DHS-Sync");
-         rtxErrAddIntParm(ctx, pvalue->dhs_sync);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DHS-Sync", "dhs-sync", -1, 0);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->dhs_sync, -20, 10);
-      RT_CHECK(ctx, stat, "DHS-Sync", "dhs-sync", -1, 0);
-   }
-   /* bler-target */
-   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
-      rtxErrAddStrParm(ctx, "Bler-Target");
-      rtxErrAddIntParm(ctx, pvalue->bler_target);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Bler-Target", "bler-target", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, 0);
-   /* hS-SCCH-SetConfiguration */
-   stat = asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
-   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "HS-SCCH-TDD768", (int32_t)i, 0);
-      stat = asn1PE_UMTS_HS_SCCH_TDD768(ctx, (const HS_SCCH_TDD768*)node->data);
-      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD768", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* nack-ack-power-offset */
-   if (pvalue->nack_ack_power_offset < -7 || pvalue->nack_ack_power_offset > 8) {
-      rtxErrAddStrParm(ctx, "nack-ack-power-offset");
-      rtxErrAddIntParm(ctx, pvalue->nack_ack_power_offset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "nack-ack-power-offset", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->nack_ack_power_offset, -7, 8);
-   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, 0);
-   /* hs-SICH-PowerControl-Info */
-   stat = asn1PE_UMTS_HS_SICH_Power_Control_Info_TDD768(ctx, &pvalue->hs_SICH_PowerControl_Info);
-   RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl-Info", -1, 0);
-   /* dhs-sync */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->dhs_sync < -20 || pvalue->dhs_sync > 10) {
-         rtxErrAddStrParm(ctx, "DHS-Sync");
-         rtxErrAddIntParm(ctx, pvalue->dhs_sync);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DHS-Sync", "dhs-sync", -1, 0);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->dhs_sync, -20, 10);
-      RT_CHECK(ctx, stat, "DHS-Sync", "dhs-sync", -1, 0);
-   }
-   /* bler-target */
-   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
-      rtxErrAddStrParm(ctx, "Bler-Target");
-      rtxErrAddIntParm(ctx, pvalue->bler_target);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Bler-Target", "bler-target", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, 0);
-   /* hS-SCCH-SetConfiguration */
-   stat = asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
-   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_tpc_step_size value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
-      stat = asn1PE_UMTS_HS_SCCH_TDD128_r6(ctx, (const HS_SCCH_TDD128_r6*)node->data);
-      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* nack-ack-power-offset */
-   if (pvalue->nack_ack_power_offset < -7 || pvalue->nack_ack_power_offset > 8) {
-      rtxErrAddStrParm(ctx, "nack-ack-power-offset");
-      rtxErrAddIntParm(ctx, pvalue->nack_ack_power_offset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "nack-ack-power-offset", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->nack_ack_power_offset, -7, 8);
-   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, 0);
-   /* power-level-HSSICH */
-   if (pvalue->power_level_HSSICH < -120 || pvalue->power_level_HSSICH > -58) {
-      rtxErrAddStrParm(ctx, "power-level-HSSICH");
-      rtxErrAddIntParm(ctx, pvalue->power_level_HSSICH);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "power-level-HSSICH", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->power_level_HSSICH, -120, -58);
-   RT_CHECK(ctx, stat, 0, "power-level-HSSICH", -1, 0);
-   /* tpc-step-size */
-   if (pvalue->tpc_step_size > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->tpc_step_size);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "tpc-step-size", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tpc_step_size, 0, 3);
-   RT_CHECK(ctx, stat, 0, "tpc-step-size", -1, 0);
-   /* bler-target */
-   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
-      rtxErrAddStrParm(ctx, "Bler-Target");
-      rtxErrAddIntParm(ctx, pvalue->bler_target);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Bler-Target", "bler-target", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, 0);
-   /* hS-SCCH-tpc-step-size */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->hS_SCCH_tpc_step_size > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->hS_SCCH_tpc_step_size);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "hS-SCCH-tpc-step-size", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hS_SCCH_tpc_step_size, 0, 3);
-      RT_CHECK(ctx, stat, 0, "hS-SCCH-tpc-step-size", -1, 0);
-   }
-   /* powerControlGAP */
-   if (pvalue->m & 0x2u) {
-      stat = pe_ConsUInt64(ctx, pvalue->powerControlGAP, 0, 255);
-      RT_CHECK(ctx, stat, "PowerControlGAP", "powerControlGAP", -1, 0);
-   }
-   /* pathlossCompensationSwitch */
-   if (pvalue->m & 0x4u) {
-      stat = rtxEncBit(ctx, pvalue->pathlossCompensationSwitch);
-      RT_CHECK(ctx, stat, 0, "pathlossCompensationSwitch", -1, 0);
-   }
-   /* hS-SCCH-SetConfiguration */
-   stat = asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
-   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
-         stat = asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
-         stat = asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
-         break;
-      case 3:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r9(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-Info-r9");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "HS-SCCH-Info-r9");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-HSPDSCH-TS-Configuration */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_HSPDSCH_TS_Configuration(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-HSPDSCH-TS-Configuration */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_HSPDSCH_TS_Configuration_VHCR(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128_tS0_Indicator(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128_tS0_Indicator value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_OutofSyncWindow(rtxContext* RT_RESTRICT ctx, OutofSyncWindow value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "OutofSyncWindow");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "OutofSyncWindow");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* hs-PDSCH-Midamble-Configuration-tdd128 */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration_tdd128);
-      RT_CHECK(ctx, stat, 0, "hs-PDSCH-Midamble-Configuration-tdd128", -1, 0);
-   }
-   /* dl-MultiCarrier-Information */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DL_MultiCarrier_Information(ctx, &pvalue->dl_MultiCarrier_Information);
-      RT_CHECK(ctx, stat, 0, "dl-MultiCarrier-Information", -1, 0);
-   }
-   /* tS0-Indicator */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->tS0_Indicator > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->tS0_Indicator);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "tS0-Indicator", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tS0_Indicator, 0, 0);
-      RT_CHECK(ctx, stat, 0, "tS0-Indicator", -1, 0);
-   }
-   /* outofSyncWindow */
-   if (pvalue->m & 0x8u) {
-      if (pvalue->outofSyncWindow > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->outofSyncWindow);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "OutofSyncWindow", "outofSyncWindow", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->outofSyncWindow, 0, 7);
-      RT_CHECK(ctx, stat, "OutofSyncWindow", "outofSyncWindow", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
-         break;
-      case 3:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd_dl_64QAM_Configured value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-64QAM-Configured */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->dl_64QAM_Configured > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->dl_64QAM_Configured);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "dl-64QAM-Configured", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dl_64QAM_Configured, 0, 0);
-      RT_CHECK(ctx, stat, 0, "dl-64QAM-Configured", -1, 0);
-   }
-   /* hs-DSCH-TBSizeTable */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->hs_DSCH_TBSizeTable > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->hs_DSCH_TBSizeTable);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hs_DSCH_TBSizeTable, 0, 0);
-      RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r9_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r9(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-HSPDSCH-Information-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-HSPDSCH-Information-r9");
-   /* hs-scch-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_HS_SCCH_Info_r9(ctx, &pvalue->hs_scch_Info);
-      RT_CHECK(ctx, stat, 0, "hs-scch-Info", -1, "DL-HSPDSCH-Information-r9");
-   }
-   /* measurement-feedback-Info */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_Measurement_Feedback_Info_r7(ctx, &pvalue->measurement_feedback_Info);
-      RT_CHECK(ctx, stat, 0, "measurement-feedback-Info", -1, "DL-HSPDSCH-Information-r9");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-HSPDSCH-Information-r9");
-   return 0;
-}
-
-int asn1PE_UMTS_Serving_HSDSCH_CellInformation_r9_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r9_mac_hsResetIndicator value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_Serving_HSDSCH_CellInformation_r9(rtxContext* RT_RESTRICT ctx, const Serving_HSDSCH_CellInformation_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Serving-HSDSCH-CellInformation-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Serving-HSDSCH-CellInformation-r9");
-   /* deltaACK */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->deltaACK > 8u) {
-         rtxErrAddStrParm(ctx, "DeltaACK");
-         rtxErrAddUIntParm(ctx, pvalue->deltaACK);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaACK", "deltaACK", -1, "Serving-HSDSCH-CellInformation-r9");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->deltaACK, 0, 8);
-      RT_CHECK(ctx, stat, "DeltaACK", "deltaACK", -1, "Serving-HSDSCH-CellInformation-r9");
-   }
-   /* deltaNACK */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->deltaNACK > 8u) {
-         rtxErrAddStrParm(ctx, "DeltaNACK");
-         rtxErrAddUIntParm(ctx, pvalue->deltaNACK);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaNACK", "deltaNACK", -1, "Serving-HSDSCH-CellInformation-r9");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->deltaNACK, 0, 8);
-      RT_CHECK(ctx, stat, "DeltaNACK", "deltaNACK", -1, "Serving-HSDSCH-CellInformation-r9");
-   }
-   /* harq-Preamble-Mode */
-   if ((uint64_t)pvalue->harq_Preamble_Mode > 1u) {
-      rtxErrAddStrParm(ctx, "HARQ-Preamble-Mode");
-      rtxErrAddUIntParm(ctx, pvalue->harq_Preamble_Mode);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "Serving-HSDSCH-CellInformation-r9");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->harq_Preamble_Mode, 0, 1);
-   RT_CHECK(ctx, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "Serving-HSDSCH-CellInformation-r9");
-   /* primaryCPICH-Info */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "Serving-HSDSCH-CellInformation-r9");
-   }
-   /* dl-hspdsch-Information */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_hspdsch_Information);
-      RT_CHECK(ctx, stat, 0, "dl-hspdsch-Information", -1, "Serving-HSDSCH-CellInformation-r9");
-   }
-   /* harqInfo */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
-      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "Serving-HSDSCH-CellInformation-r9");
-   }
-   /* mac-hsResetIndicator */
-   if (pvalue->m & 0x20u) {
-      if (pvalue->mac_hsResetIndicator > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->mac_hsResetIndicator);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation-r9");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mac_hsResetIndicator, 0, 0);
-      RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation-r9");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SR_VCC_Info_nonce(rtxContext* RT_RESTRICT ctx, const SR_VCC_Info_nonce* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   RT_SET_SIZE(ctx, 128, 128);
-   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SR_VCC_Info(rtxContext* RT_RESTRICT ctx, const SR_VCC_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SR-VCC-Info");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SR-VCC-Info");
-   /* nonce */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SR_VCC_Info_nonce(ctx, &pvalue->nonce);
-      RT_CHECK(ctx, stat, 0, "nonce", -1, "SR-VCC-Info");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RAB_InfoReplace(rtxContext* RT_RESTRICT ctx, const RAB_InfoReplace* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InfoReplace");
-   /* rab-Identity */
-   stat = asn1PE_UMTS_RAB_Identity(ctx, &pvalue->rab_Identity);
-   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-InfoReplace");
-   /* cn-DomainIdentity */
-   if (pvalue->cn_DomainIdentity > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-InfoReplace");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-InfoReplace");
-   return 0;
-}
-
-int asn1PE_UMTS_SR_VCC_SecurityRABInfo_v860ext(rtxContext* RT_RESTRICT ctx, const SR_VCC_SecurityRABInfo_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SR-VCC-SecurityRABInfo-v860ext");
-   /* sr-vcc-Info */
-   stat = asn1PE_UMTS_SR_VCC_Info(ctx, &pvalue->sr_vcc_Info);
-   RT_CHECK(ctx, stat, 0, "sr-vcc-Info", -1, "SR-VCC-SecurityRABInfo-v860ext");
-   /* rab-InfoReplace */
-   stat = asn1PE_UMTS_RAB_InfoReplace(ctx, &pvalue->rab_InfoReplace);
-   RT_CHECK(ctx, stat, 0, "rab-InfoReplace", -1, "SR-VCC-SecurityRABInfo-v860ext");
-   return 0;
-}
-
-int asn1PE_UMTS_START_Value(rtxContext* RT_RESTRICT ctx, START_Value value)
-{
-   int stat = 0;
-   RT_SET_SIZE(ctx, 20, 20);
-   stat = pe_BitString32(ctx, &value, 20, 20);
-   RT_CHECK(ctx, stat, 0, 0, -1, "START-Value");
-   return 0;
-}
-
-int asn1PE_UMTS_STARTSingle(rtxContext* RT_RESTRICT ctx, const STARTSingle* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "STARTSingle");
-   /* cn-DomainIdentity */
-   if (pvalue->cn_DomainIdentity > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "STARTSingle");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "STARTSingle");
-   /* start-Value */
-   stat = asn1PE_UMTS_START_Value(ctx, pvalue->start_Value);
-   RT_CHECK(ctx, stat, 0, "start-Value", -1, "STARTSingle");
-   return 0;
-}
-
-int asn1PE_UMTS_STARTList(rtxContext* RT_RESTRICT ctx, const STARTList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "STARTList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "STARTList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "STARTSingle", (int32_t)i, "STARTList");
-      stat = asn1PE_UMTS_STARTSingle(ctx, (const STARTSingle*)node->data);
-      RT_CHECK(ctx, stat, 0, "STARTSingle", (int32_t)i, "STARTList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SystemSpecificCapUpdateReq_v590ext(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReq_v590ext value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SystemSpecificCapUpdateReq-v590ext");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SystemSpecificCapUpdateReq-v590ext");
-   return 0;
-}
-
-int asn1PE_UMTS_T_318(rtxContext* RT_RESTRICT ctx, T_318 value)
-{
-   int stat = 0;
-   if (value > 14) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-318");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 14);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-318");
-   return 0;
-}
-
-int asn1PE_UMTS_T_319(rtxContext* RT_RESTRICT ctx, T_319 value)
-{
-   int stat = 0;
-   if (value > 6) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "T-319");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "T-319");
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TransChCapability_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_TransChCapability_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* maxSimultaneousCCTrCH-Count */
-   if ((uint64_t)(pvalue->maxSimultaneousCCTrCH_Count - 1) > 7u) {
-      rtxErrAddStrParm(ctx, "MaxSimultaneousCCTrCH-Count");
-      rtxErrAddUIntParm(ctx, pvalue->maxSimultaneousCCTrCH_Count);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxSimultaneousCCTrCH-Count", "maxSimultaneousCCTrCH-Count", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxSimultaneousCCTrCH_Count, 1, 8);
-   RT_CHECK(ctx, stat, "MaxSimultaneousCCTrCH-Count", "maxSimultaneousCCTrCH-Count", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TransChCapability_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_TransChCapability_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_UL_TransChCapability_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TransChCapability(rtxContext* RT_RESTRICT ctx, const UL_TransChCapability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-TransChCapability");
-   /* maxNoBitsTransmitted */
-   if (pvalue->maxNoBitsTransmitted > 12) {
-      rtxErrAddUIntParm(ctx, pvalue->maxNoBitsTransmitted);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNoBits", "maxNoBitsTransmitted", -1, "UL-TransChCapability");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxNoBitsTransmitted, 0, 12);
-   RT_CHECK(ctx, stat, "MaxNoBits", "maxNoBitsTransmitted", -1, "UL-TransChCapability");
-   /* maxConvCodeBitsTransmitted */
-   if (pvalue->maxConvCodeBitsTransmitted > 12) {
-      rtxErrAddUIntParm(ctx, pvalue->maxConvCodeBitsTransmitted);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNoBits", "maxConvCodeBitsTransmitted", -1, "UL-TransChCapability");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxConvCodeBitsTransmitted, 0, 12);
-   RT_CHECK(ctx, stat, "MaxNoBits", "maxConvCodeBitsTransmitted", -1, "UL-TransChCapability");
-   /* turboEncodingSupport */
-   stat = asn1PE_UMTS_TurboSupport(ctx, &pvalue->turboEncodingSupport);
-   RT_CHECK(ctx, stat, 0, "turboEncodingSupport", -1, "UL-TransChCapability");
-   /* maxSimultaneousTransChs */
-   if (pvalue->maxSimultaneousTransChs > 4) {
-      rtxErrAddUIntParm(ctx, pvalue->maxSimultaneousTransChs);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxSimultaneousTransChsUL", "maxSimultaneousTransChs", -1, "UL-TransChCapability");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxSimultaneousTransChs, 0, 4);
-   RT_CHECK(ctx, stat, "MaxSimultaneousTransChsUL", "maxSimultaneousTransChs", -1, "UL-TransChCapability");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_UL_TransChCapability_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-TransChCapability");
-   /* maxTransmittedBlocks */
-   if (pvalue->maxTransmittedBlocks > 10) {
-      rtxErrAddUIntParm(ctx, pvalue->maxTransmittedBlocks);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxTransportBlocksUL", "maxTransmittedBlocks", -1, "UL-TransChCapability");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxTransmittedBlocks, 0, 10);
-   RT_CHECK(ctx, stat, "MaxTransportBlocksUL", "maxTransmittedBlocks", -1, "UL-TransChCapability");
-   /* maxNumberOfTFC */
-   if (pvalue->maxNumberOfTFC > 10) {
-      rtxErrAddUIntParm(ctx, pvalue->maxNumberOfTFC);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNumberOfTFC-UL", "maxNumberOfTFC", -1, "UL-TransChCapability");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxNumberOfTFC, 0, 10);
-   RT_CHECK(ctx, stat, "MaxNumberOfTFC-UL", "maxNumberOfTFC", -1, "UL-TransChCapability");
-   /* maxNumberOfTF */
-   if (pvalue->maxNumberOfTF > 5) {
-      rtxErrAddUIntParm(ctx, pvalue->maxNumberOfTF);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNumberOfTF", "maxNumberOfTF", -1, "UL-TransChCapability");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxNumberOfTF, 0, 5);
-   RT_CHECK(ctx, stat, "MaxNumberOfTF", "maxNumberOfTF", -1, "UL-TransChCapability");
-   return 0;
-}
-
-int asn1PE_UMTS_TransportChannelCapability(rtxContext* RT_RESTRICT ctx, const TransportChannelCapability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TransportChannelCapability");
-   /* dl-TransChCapability */
-   stat = asn1PE_UMTS_DL_TransChCapability(ctx, &pvalue->dl_TransChCapability);
-   RT_CHECK(ctx, stat, 0, "dl-TransChCapability", -1, "TransportChannelCapability");
-   /* ul-TransChCapability */
-   stat = asn1PE_UMTS_UL_TransChCapability(ctx, &pvalue->ul_TransChCapability);
-   RT_CHECK(ctx, stat, 0, "ul-TransChCapability", -1, "TransportChannelCapability");
-   return 0;
-}
-
-int asn1PE_UMTS_U_RNTI_Short(rtxContext* RT_RESTRICT ctx, const U_RNTI_Short* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "U-RNTI-Short");
-   /* srnc-Identity */
-   stat = asn1PE_UMTS_SRNC_Identity(ctx, pvalue->srnc_Identity);
-   RT_CHECK(ctx, stat, 0, "srnc-Identity", -1, "U-RNTI-Short");
-   /* s-RNTI-2 */
-   stat = asn1PE_UMTS_S_RNTI_2(ctx, pvalue->s_RNTI_2);
-   RT_CHECK(ctx, stat, 0, "s-RNTI-2", -1, "U-RNTI-Short");
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_edch_r6_fdd_edch_supported(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_edch_r6_fdd_edch_supported* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* edch-PhysicalLayerCategory */
-   if ((uint64_t)(pvalue->edch_PhysicalLayerCategory - 1) > 15u) {
-      rtxErrAddStrParm(ctx, "edch-PhysicalLayerCategory");
-      rtxErrAddUIntParm(ctx, pvalue->edch_PhysicalLayerCategory);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "edch-PhysicalLayerCategory", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->edch_PhysicalLayerCategory, 1, 16);
-   RT_CHECK(ctx, stat, 0, "edch-PhysicalLayerCategory", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_edch_r6_fdd_edch(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_edch_r6_fdd_edch* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.supported == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "supported", -1, 0);
-         stat = asn1PE_UMTS_PhysicalChannelCapability_edch_r6_fdd_edch_supported(ctx, pvalue->u.supported);
-         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PhysicalChannelCapability_edch_r6(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_edch_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelCapability-edch-r6");
-   /* fdd-edch */
-   stat = asn1PE_UMTS_PhysicalChannelCapability_edch_r6_fdd_edch(ctx, &pvalue->fdd_edch);
-   RT_CHECK(ctx, stat, 0, "fdd-edch", -1, "PhysicalChannelCapability-edch-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v690ext_deviceType(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v690ext_deviceType value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v690ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v690ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v690ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v690ext");
-   /* physicalchannelcapability-edch */
-   stat = asn1PE_UMTS_PhysicalChannelCapability_edch_r6(ctx, &pvalue->physicalchannelcapability_edch);
-   RT_CHECK(ctx, stat, 0, "physicalchannelcapability-edch", -1, "UE-RadioAccessCapability-v690ext");
-   /* deviceType */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->deviceType > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->deviceType);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "deviceType", -1, "UE-RadioAccessCapability-v690ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->deviceType, 0, 0);
-      RT_CHECK(ctx, stat, 0, "deviceType", -1, "UE-RadioAccessCapability-v690ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterRAT_UE_RadioAccessCapability_v690ext_supportOfInter_RAT_PS_Handover(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapability_v690ext_supportOfInter_RAT_PS_Handover value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_MS_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, const GSM_MS_RadioAccessCapability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GSM-MS-RadioAccessCapability");
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GSM-MS-RadioAccessCapability");
-   return 0;
-}
-
-int asn1PE_UMTS_InterRAT_UE_RadioAccessCapability_v690ext(rtxContext* RT_RESTRICT ctx, const InterRAT_UE_RadioAccessCapability_v690ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRAT-UE-RadioAccessCapability-v690ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRAT-UE-RadioAccessCapability-v690ext");
-   /* supportOfInter-RAT-PS-Handover */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->supportOfInter_RAT_PS_Handover > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfInter_RAT_PS_Handover);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfInter-RAT-PS-Handover", -1, "InterRAT-UE-RadioAccessCapability-v690ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfInter_RAT_PS_Handover, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportOfInter-RAT-PS-Handover", -1, "InterRAT-UE-RadioAccessCapability-v690ext");
-   }
-   /* gsm-MS-RadioAccessCapability */
-   stat = asn1PE_UMTS_GSM_MS_RadioAccessCapability(ctx, &pvalue->gsm_MS_RadioAccessCapability);
-   RT_CHECK(ctx, stat, 0, "gsm-MS-RadioAccessCapability", -1, "InterRAT-UE-RadioAccessCapability-v690ext");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v6b0ext_IEs_supportForSIB11bis(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v6b0ext_IEs_supportForSIB11bis value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v6b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v6b0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v6b0ext-IEs");
-   /* supportForSIB11bis */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->supportForSIB11bis > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportForSIB11bis);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportForSIB11bis", -1, "UE-RadioAccessCapability-v6b0ext-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportForSIB11bis, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportForSIB11bis", -1, "UE-RadioAccessCapability-v6b0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v6e0ext_IEs_supportForFDPCH(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v6e0ext_IEs_supportForFDPCH value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v6e0ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v6e0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v6e0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v6e0ext-IEs");
-   /* supportForFDPCH */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->supportForFDPCH > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportForFDPCH);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportForFDPCH", -1, "UE-RadioAccessCapability-v6e0ext-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportForFDPCH, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportForFDPCH", -1, "UE-RadioAccessCapability-v6e0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_GANSSPositioning_Capability(rtxContext* RT_RESTRICT ctx, const UE_GANSSPositioning_Capability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-GANSSPositioning-Capability");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-GANSSPositioning-Capability");
-   /* networkAssistedGANSS-supportedList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_NetworkAssistedGANSS_Supported_List(ctx, &pvalue->networkAssistedGANSS_supportedList);
-      RT_CHECK(ctx, stat, 0, "networkAssistedGANSS-supportedList", -1, "UE-GANSSPositioning-Capability");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_PositioningCapability_v770ext(rtxContext* RT_RESTRICT ctx, const UE_PositioningCapability_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-PositioningCapability-v770ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-PositioningCapability-v770ext");
-   /* ue-GANSSPositioning-Capability */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_GANSSPositioning_Capability(ctx, &pvalue->ue_GANSSPositioning_Capability);
-      RT_CHECK(ctx, stat, 0, "ue-GANSSPositioning-Capability", -1, "UE-PositioningCapability-v770ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v770ext_IEs_mac_ehsSupport(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v770ext_IEs_mac_ehsSupport value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_SpecificCapabilityInformation_LCRTDD(rtxContext* RT_RESTRICT ctx, UE_SpecificCapabilityInformation_LCRTDD value)
-{
-   int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UE-SpecificCapabilityInformation-LCRTDD");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-SpecificCapabilityInformation-LCRTDD");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v770ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v770ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v770ext-IEs");
-   /* pdcp-Capability */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PDCP_Capability_v770ext(ctx, &pvalue->pdcp_Capability);
-      RT_CHECK(ctx, stat, 0, "pdcp-Capability", -1, "UE-RadioAccessCapability-v770ext-IEs");
-   }
-   /* rlc-Capability */
-   stat = asn1PE_UMTS_RLC_Capability_v770ext(ctx, &pvalue->rlc_Capability);
-   RT_CHECK(ctx, stat, 0, "rlc-Capability", -1, "UE-RadioAccessCapability-v770ext-IEs");
-   /* rf-Capability */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_RF_Capability_v770ext(ctx, &pvalue->rf_Capability);
-      RT_CHECK(ctx, stat, 0, "rf-Capability", -1, "UE-RadioAccessCapability-v770ext-IEs");
-   }
-   /* physicalChannelCapability */
-   stat = asn1PE_UMTS_PhysicalChannelCapability_v770ext(ctx, &pvalue->physicalChannelCapability);
-   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapability-v770ext-IEs");
-   /* multiModeRAT-Capability */
-   stat = asn1PE_UMTS_MultiModeRAT_Capability_v770ext(ctx, &pvalue->multiModeRAT_Capability);
-   RT_CHECK(ctx, stat, 0, "multiModeRAT-Capability", -1, "UE-RadioAccessCapability-v770ext-IEs");
-   /* ue-PositioningCapability */
-   stat = asn1PE_UMTS_UE_PositioningCapability_v770ext(ctx, &pvalue->ue_PositioningCapability);
-   RT_CHECK(ctx, stat, 0, "ue-PositioningCapability", -1, "UE-RadioAccessCapability-v770ext-IEs");
-   /* mac-ehsSupport */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->mac_ehsSupport > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->mac_ehsSupport);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "mac-ehsSupport", -1, "UE-RadioAccessCapability-v770ext-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mac_ehsSupport, 0, 0);
-      RT_CHECK(ctx, stat, 0, "mac-ehsSupport", -1, "UE-RadioAccessCapability-v770ext-IEs");
-   }
-   /* ue-specificCapabilityInformation */
-   if (pvalue->m & 0x8u) {
-      if (pvalue->ue_specificCapabilityInformation > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->ue_specificCapabilityInformation);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "UE-SpecificCapabilityInformation-LCRTDD", "ue-specificCapabilityInformation", -1, "UE-RadioAccessCapability-v770ext-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ue_specificCapabilityInformation, 0, 15);
-      RT_CHECK(ctx, stat, "UE-SpecificCapabilityInformation-LCRTDD", "ue-specificCapabilityInformation", -1, "UE-RadioAccessCapability-v770ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v790ext_IEs_supportForEDPCCHPowerBoosting(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v790ext_IEs_supportForEDPCCHPowerBoosting value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v790ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v790ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v790ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v790ext-IEs");
-   /* supportForEDPCCHPowerBoosting */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->supportForEDPCCHPowerBoosting > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportForEDPCCHPowerBoosting);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportForEDPCCHPowerBoosting", -1, "UE-RadioAccessCapability-v790ext-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportForEDPCCHPowerBoosting, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportForEDPCCHPowerBoosting", -1, "UE-RadioAccessCapability-v790ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_GANSSPositioning_Capability_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_GANSSPositioning_Capability_v860ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-GANSSPositioning-Capability-v860ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-GANSSPositioning-Capability-v860ext-IEs");
-   /* networkAssistedGANSS-supportedList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_NetworkAssistedGANSS_Supported_List_v860ext(ctx, &pvalue->networkAssistedGANSS_supportedList);
-      RT_CHECK(ctx, stat, 0, "networkAssistedGANSS-supportedList", -1, "UE-GANSSPositioning-Capability-v860ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_PositioningCapability_v860ext(rtxContext* RT_RESTRICT ctx, const UE_PositioningCapability_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-PositioningCapability-v860ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-PositioningCapability-v860ext");
-   /* ue-GANSSPositioning-Capability-v860ext */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_GANSSPositioning_Capability_v860ext_IEs(ctx, &pvalue->ue_GANSSPositioning_Capability_v860ext);
-      RT_CHECK(ctx, stat, 0, "ue-GANSSPositioning-Capability-v860ext", -1, "UE-PositioningCapability-v860ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfCommonEDCH(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfCommonEDCH value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfMACiis(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfMACiis value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfSPSOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfSPSOperation value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfControlChannelDRXOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfControlChannelDRXOperation value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfCSG(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfCSG value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabBandFDD3(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDD3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabBandFDD3");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDD3");
-   /* radioFrequencyBandFDD */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->radioFrequencyBandFDD > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandFDD);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "UE-RadioAccessCapabBandFDD3");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandFDD, 0, 7);
-      RT_CHECK(ctx, stat, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "UE-RadioAccessCapabBandFDD3");
-   }
-   /* radioFrequencyBandFDD2 */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->radioFrequencyBandFDD2 > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandFDD2);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandFDD2", "radioFrequencyBandFDD2", -1, "UE-RadioAccessCapabBandFDD3");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandFDD2, 0, 15);
-      RT_CHECK(ctx, stat, "RadioFrequencyBandFDD2", "radioFrequencyBandFDD2", -1, "UE-RadioAccessCapabBandFDD3");
-   }
-   /* measurementCapability3 */
-   stat = asn1PE_UMTS_MeasurementCapabilityExt3(ctx, &pvalue->measurementCapability3);
-   RT_CHECK(ctx, stat, 0, "measurementCapability3", -1, "UE-RadioAccessCapabBandFDD3");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabBandFDDList3(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDDList3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabBandFDDList3");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDDList3");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UE-RadioAccessCapabBandFDD3", (int32_t)i, "UE-RadioAccessCapabBandFDDList3");
-      stat = asn1PE_UMTS_UE_RadioAccessCapabBandFDD3(ctx, (const UE_RadioAccessCapabBandFDD3*)node->data);
-      RT_CHECK(ctx, stat, 0, "UE-RadioAccessCapabBandFDD3", (int32_t)i, "UE-RadioAccessCapabBandFDDList3");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v860ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v860ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 8) & 1u) << 0), 9);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v860ext-IEs");
-   /* rf-Capability */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RF_Capability_v860ext(ctx, &pvalue->rf_Capability);
-      RT_CHECK(ctx, stat, 0, "rf-Capability", -1, "UE-RadioAccessCapability-v860ext-IEs");
-   }
-   /* physicalChannelCapability */
-   stat = asn1PE_UMTS_PhysicalChannelCapability_v860ext(ctx, &pvalue->physicalChannelCapability);
-   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapability-v860ext-IEs");
-   /* multiModeRAT-Capability */
-   stat = asn1PE_UMTS_MultiModeRAT_Capability_v860ext(ctx, &pvalue->multiModeRAT_Capability);
-   RT_CHECK(ctx, stat, 0, "multiModeRAT-Capability", -1, "UE-RadioAccessCapability-v860ext-IEs");
-   /* ue-PositioningCapability */
-   stat = asn1PE_UMTS_UE_PositioningCapability_v860ext(ctx, &pvalue->ue_PositioningCapability);
-   RT_CHECK(ctx, stat, 0, "ue-PositioningCapability", -1, "UE-RadioAccessCapability-v860ext-IEs");
-   /* measurementCapability */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_MeasurementCapability_v860ext(ctx, &pvalue->measurementCapability);
-      RT_CHECK(ctx, stat, 0, "measurementCapability", -1, "UE-RadioAccessCapability-v860ext-IEs");
-   }
-   /* measurementCapabilityTDD */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_MeasurementCapabilityTDD(ctx, &pvalue->measurementCapabilityTDD);
-      RT_CHECK(ctx, stat, 0, "measurementCapabilityTDD", -1, "UE-RadioAccessCapability-v860ext-IEs");
-   }
-   /* supportOfCommonEDCH */
-   if (pvalue->m & 0x8u) {
-      if (pvalue->supportOfCommonEDCH > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfCommonEDCH);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfCommonEDCH", -1, "UE-RadioAccessCapability-v860ext-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfCommonEDCH, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportOfCommonEDCH", -1, "UE-RadioAccessCapability-v860ext-IEs");
-   }
-   /* supportOfMACiis */
-   if (pvalue->m & 0x10u) {
-      if (pvalue->supportOfMACiis > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfMACiis);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfMACiis", -1, "UE-RadioAccessCapability-v860ext-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfMACiis, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportOfMACiis", -1, "UE-RadioAccessCapability-v860ext-IEs");
-   }
-   /* supportOfSPSOperation */
-   if (pvalue->m & 0x20u) {
-      if (pvalue->supportOfSPSOperation > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfSPSOperation);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfSPSOperation", -1, "UE-RadioAccessCapability-v860ext-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfSPSOperation, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportOfSPSOperation", -1, "UE-RadioAccessCapability-v860ext-IEs");
-   }
-   /* supportOfControlChannelDRXOperation */
-   if (pvalue->m & 0x40u) {
-      if (pvalue->supportOfControlChannelDRXOperation > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfControlChannelDRXOperation);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfControlChannelDRXOperation", -1, "UE-RadioAccessCapability-v860ext-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfControlChannelDRXOperation, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportOfControlChannelDRXOperation", -1, "UE-RadioAccessCapability-v860ext-IEs");
-   }
-   /* supportOfCSG */
-   if (pvalue->m & 0x80u) {
-      if (pvalue->supportOfCSG > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfCSG);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfCSG", -1, "UE-RadioAccessCapability-v860ext-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfCSG, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportOfCSG", -1, "UE-RadioAccessCapability-v860ext-IEs");
-   }
-   /* ue-RadioAccessCapabBandFDDList3 */
-   if (pvalue->m & 0x100u) {
-      stat = asn1PE_UMTS_UE_RadioAccessCapabBandFDDList3(ctx, &pvalue->ue_RadioAccessCapabBandFDDList3);
-      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabBandFDDList3", -1, "UE-RadioAccessCapability-v860ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_EUTRA_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, const EUTRA_RadioAccessCapability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-RadioAccessCapability");
-   /* ue-EUTRA-Capability */
-   RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-   stat = pe_OctetString(ctx, pvalue->ue_EUTRA_Capability.numocts, pvalue->ue_EUTRA_Capability.data);
-   RT_CHECK(ctx, stat, 0, "ue-EUTRA-Capability", -1, "EUTRA-RadioAccessCapability");
-   return 0;
-}
-
-int asn1PE_UMTS_InterRAT_UE_RadioAccessCapability_v860ext(rtxContext* RT_RESTRICT ctx, const InterRAT_UE_RadioAccessCapability_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRAT-UE-RadioAccessCapability-v860ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRAT-UE-RadioAccessCapability-v860ext");
-   /* eutra-RadioAccessCapability */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_EUTRA_RadioAccessCapability(ctx, &pvalue->eutra_RadioAccessCapability);
-      RT_CHECK(ctx, stat, 0, "eutra-RadioAccessCapability", -1, "InterRAT-UE-RadioAccessCapability-v860ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v880ext_IEs_supportForPriorityReselectionInUTRAN(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v880ext_IEs_supportForPriorityReselectionInUTRAN value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v880ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v880ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v880ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v880ext-IEs");
-   /* supportForPriorityReselectionInUTRAN */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->supportForPriorityReselectionInUTRAN > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportForPriorityReselectionInUTRAN);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportForPriorityReselectionInUTRAN", -1, "UE-RadioAccessCapability-v880ext-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportForPriorityReselectionInUTRAN, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportForPriorityReselectionInUTRAN", -1, "UE-RadioAccessCapability-v880ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v890ext_IEs_supportCellSpecificTxDiversityinDC_Operation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v890ext_IEs_supportCellSpecificTxDiversityinDC_Operation value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v890ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v890ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v890ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v890ext-IEs");
-   /* supportCellSpecificTxDiversityinDC-Operation */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->supportCellSpecificTxDiversityinDC_Operation > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportCellSpecificTxDiversityinDC_Operation);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportCellSpecificTxDiversityinDC-Operation", -1, "UE-RadioAccessCapability-v890ext-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportCellSpecificTxDiversityinDC_Operation, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportCellSpecificTxDiversityinDC-Operation", -1, "UE-RadioAccessCapability-v890ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabBandCombList(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandCombList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabBandCombList");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabBandCombList");
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)(pvalue->elem[i] - 1) > 255u) {
-         rtxErrAddStrParm(ctx, "BandComb");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "BandComb", "BandComb", (int32_t)i, "UE-RadioAccessCapabBandCombList");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 1, 256);
-      RT_CHECK(ctx, stat, "BandComb", "BandComb", (int32_t)i, "UE-RadioAccessCapabBandCombList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v920ext_IEs_supportOfenhancedTS0(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v920ext_IEs_supportOfenhancedTS0 value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v920ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v920ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v920ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v920ext-IEs");
-   /* ue-RadioAccessCapabBandCombList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_RadioAccessCapabBandCombList(ctx, &pvalue->ue_RadioAccessCapabBandCombList);
-      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabBandCombList", -1, "UE-RadioAccessCapability-v920ext-IEs");
-   }
-   /* physicalChannelCapability */
-   stat = asn1PE_UMTS_PhysicalChannelCapability_v920ext(ctx, &pvalue->physicalChannelCapability);
-   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapability-v920ext-IEs");
-   /* rlc-Capability */
-   stat = asn1PE_UMTS_RLC_Capability_v920ext(ctx, &pvalue->rlc_Capability);
-   RT_CHECK(ctx, stat, 0, "rlc-Capability", -1, "UE-RadioAccessCapability-v920ext-IEs");
-   /* supportOfenhancedTS0 */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->supportOfenhancedTS0 > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfenhancedTS0);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfenhancedTS0", -1, "UE-RadioAccessCapability-v920ext-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfenhancedTS0, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportOfenhancedTS0", -1, "UE-RadioAccessCapability-v920ext-IEs");
-   }
-   /* measurementCapability */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_MeasurementCapability_v920ext(ctx, &pvalue->measurementCapability);
-      RT_CHECK(ctx, stat, 0, "measurementCapability", -1, "UE-RadioAccessCapability-v920ext-IEs");
-   }
-   /* csgProximityIndicationCapability */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_CSG_ProximityIndicationCapability(ctx, &pvalue->csgProximityIndicationCapability);
-      RT_CHECK(ctx, stat, 0, "csgProximityIndicationCapability", -1, "UE-RadioAccessCapability-v920ext-IEs");
-   }
-   /* neighCellSI-AcquisitionCapability */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_NeighCellSI_AcquisitionCapability(ctx, &pvalue->neighCellSI_AcquisitionCapability);
-      RT_CHECK(ctx, stat, 0, "neighCellSI-AcquisitionCapability", -1, "UE-RadioAccessCapability-v920ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ue-RadioAccessCapability-v920ext */
-   stat = asn1PE_UMTS_UE_RadioAccessCapability_v920ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v920ext);
-   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v920ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ue-RadioAccessCapability-v890ext */
-   stat = asn1PE_UMTS_UE_RadioAccessCapability_v890ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v890ext);
-   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v890ext", -1, 0);
-   /* v920NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ue-RadioAccessCapability-v880ext */
-   stat = asn1PE_UMTS_UE_RadioAccessCapability_v880ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v880ext);
-   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v880ext", -1, 0);
-   /* v890NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ue-RadioAccessCapability-v860ext */
-   stat = asn1PE_UMTS_UE_RadioAccessCapability_v860ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v860ext);
-   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v860ext", -1, 0);
-   /* ue-RATSpecificCapability-v860ext */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_InterRAT_UE_RadioAccessCapability_v860ext(ctx, &pvalue->ue_RATSpecificCapability_v860ext);
-      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability-v860ext", -1, 0);
-   }
-   /* v880NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions(ctx, &pvalue->v880NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v880NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ue-RadioAccessCapability-v790ext */
-   stat = asn1PE_UMTS_UE_RadioAccessCapability_v790ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v790ext);
-   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v790ext", -1, 0);
-   /* v860NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ue-RadioAccessCapability-v770ext */
-   stat = asn1PE_UMTS_UE_RadioAccessCapability_v770ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v770ext);
-   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v770ext", -1, 0);
-   /* v790NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions(ctx, &pvalue->v790NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v790NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ue-RadioAccessCapability-v6e0ext */
-   stat = asn1PE_UMTS_UE_RadioAccessCapability_v6e0ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v6e0ext);
-   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v6e0ext", -1, 0);
-   /* v770NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ue-RadioAccessCapability-v6b0ext */
-   stat = asn1PE_UMTS_UE_RadioAccessCapability_v6b0ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v6b0ext);
-   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v6b0ext", -1, 0);
-   /* v6e0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions(ctx, &pvalue->v6e0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v6e0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_CapabilityContainer_IEs(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-CapabilityContainer-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-CapabilityContainer-IEs");
-   /* ue-RadioAccessCapability-v690ext */
-   stat = asn1PE_UMTS_UE_RadioAccessCapability_v690ext(ctx, &pvalue->ue_RadioAccessCapability_v690ext);
-   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v690ext", -1, "UE-CapabilityContainer-IEs");
-   /* ue-RATSpecificCapability-v690ext */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_InterRAT_UE_RadioAccessCapability_v690ext(ctx, &pvalue->ue_RATSpecificCapability_v690ext);
-      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability-v690ext", -1, "UE-CapabilityContainer-IEs");
-   }
-   /* v6b0NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, "UE-CapabilityContainer-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_ConnTimersAndConstants_r5(rtxContext* RT_RESTRICT ctx, const UE_ConnTimersAndConstants_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-ConnTimersAndConstants-r5");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->t_301 != 10) << 21) |
-      ((uint64_t)(pvalue->n_301 != 2) << 20) |
-      ((uint64_t)(pvalue->t_302 != 12) << 19) |
-      ((uint64_t)(pvalue->n_302 != 3) << 18) |
-      ((uint64_t)(pvalue->t_304 != 4) << 17) |
-      ((uint64_t)(pvalue->n_304 != 2) << 16) |
-      ((uint64_t)(pvalue->t_305 != 3) << 15) |
-      ((uint64_t)(pvalue->t_307 != 4) << 14) |
-      ((uint64_t)(pvalue->t_308 != 2) << 13) |
-      ((uint64_t)(pvalue->t_309 != 5) << 12) |
-      ((uint64_t)(pvalue->t_310 != 3) << 11) |
-      ((uint64_t)(pvalue->n_310 != 4) << 10) |
-      ((uint64_t)(pvalue->t_311 != 7) << 9) |
-      ((uint64_t)(pvalue->t_312 != 1) << 8) |
-      ((uint64_t)(pvalue->n_312 != 0) << 7) |
-      ((uint64_t)(pvalue->t_313 != 3) << 6) |
-      ((uint64_t)(pvalue->n_313 != 4) << 5) |
-      ((uint64_t)(pvalue->t_314 != 5) << 4) |
-      ((uint64_t)(pvalue->t_315 != 4) << 3) |
-      ((uint64_t)(pvalue->n_315 != 0) << 2) |
-      ((uint64_t)(pvalue->t_316 != 3) << 1) |
-      ((uint64_t)(pvalue->t_317 != 4) << 0), 22);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-ConnTimersAndConstants-r5");
-   /* t-301 */
-   if (pvalue->t_301 != 10) {
-      if (pvalue->t_301 > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->t_301);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "T-301", "t-301", -1, "UE-ConnTimersAndConstants-r5");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_301, 0, 15);
-      RT_CHECK(ctx, stat, "T-301", "t-301", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   /* n-301 */
-   if (pvalue->n_301 != 2) {
-      if ((uint64_t)pvalue->n_301 > 7u) {
-         rtxErrAddStrParm(ctx, "N-301");
-         rtxErrAddUIntParm(ctx, pvalue->n_301);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "N-301", "n-301", -1, "UE-ConnTimersAndConstants-r5");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->n_301, 0, 7);
-      RT_CHECK(ctx, stat, "N-301", "n-301", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   /* t-302 */
-   if (pvalue->t_302 != 12) {
-      if (pvalue->t_302 > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->t_302);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "T-302", "t-302", -1, "UE-ConnTimersAndConstants-r5");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_302, 0, 15);
-      RT_CHECK(ctx, stat, "T-302", "t-302", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   /* n-302 */
-   if (pvalue->n_302 != 3) {
-      if ((uint64_t)pvalue->n_302 > 7u) {
-         rtxErrAddStrParm(ctx, "N-302");
-         rtxErrAddUIntParm(ctx, pvalue->n_302);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "N-302", "n-302", -1, "UE-ConnTimersAndConstants-r5");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->n_302, 0, 7);
-      RT_CHECK(ctx, stat, "N-302", "n-302", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   /* t-304 */
-   if (pvalue->t_304 != 4) {
-      if (pvalue->t_304 > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->t_304);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "T-304", "t-304", -1, "UE-ConnTimersAndConstants-r5");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_304, 0, 7);
-      RT_CHECK(ctx, stat, "T-304", "t-304", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   /* n-304 */
-   if (pvalue->n_304 != 2) {
-      if ((uint64_t)pvalue->n_304 > 7u) {
-         rtxErrAddStrParm(ctx, "N-304");
-         rtxErrAddUIntParm(ctx, pvalue->n_304);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "N-304", "n-304", -1, "UE-ConnTimersAndConstants-r5");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->n_304, 0, 7);
-      RT_CHECK(ctx, stat, "N-304", "n-304", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   /* t-305 */
-   if (pvalue->t_305 != 3) {
-      if (pvalue->t_305 > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->t_305);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "T-305", "t-305", -1, "UE-ConnTimersAndConstants-r5");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_305, 0, 7);
-      RT_CHECK(ctx, stat, "T-305", "t-305", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   /* t-307 */
-   if (pvalue->t_307 != 4) {
-      if (pvalue->t_307 > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->t_307);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "T-307", "t-307", -1, "UE-ConnTimersAndConstants-r5");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_307, 0, 7);
-      RT_CHECK(ctx, stat, "T-307", "t-307", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   /* t-308 */
-   if (pvalue->t_308 != 2) {
-      if (pvalue->t_308 > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->t_308);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "T-308", "t-308", -1, "UE-ConnTimersAndConstants-r5");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_308, 0, 3);
-      RT_CHECK(ctx, stat, "T-308", "t-308", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   /* t-309 */
-   if (pvalue->t_309 != 5) {
-      if ((uint64_t)(pvalue->t_309 - 1) > 7u) {
-         rtxErrAddStrParm(ctx, "T-309");
-         rtxErrAddUIntParm(ctx, pvalue->t_309);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "T-309", "t-309", -1, "UE-ConnTimersAndConstants-r5");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_309, 1, 8);
-      RT_CHECK(ctx, stat, "T-309", "t-309", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   /* t-310 */
-   if (pvalue->t_310 != 3) {
-      if (pvalue->t_310 > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->t_310);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "T-310", "t-310", -1, "UE-ConnTimersAndConstants-r5");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_310, 0, 7);
-      RT_CHECK(ctx, stat, "T-310", "t-310", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   /* n-310 */
-   if (pvalue->n_310 != 4) {
-      if ((uint64_t)pvalue->n_310 > 7u) {
-         rtxErrAddStrParm(ctx, "N-310");
-         rtxErrAddUIntParm(ctx, pvalue->n_310);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "N-310", "n-310", -1, "UE-ConnTimersAndConstants-r5");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->n_310, 0, 7);
-      RT_CHECK(ctx, stat, "N-310", "n-310", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   /* t-311 */
-   if (pvalue->t_311 != 7) {
-      if (pvalue->t_311 > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->t_311);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "T-311", "t-311", -1, "UE-ConnTimersAndConstants-r5");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_311, 0, 7);
-      RT_CHECK(ctx, stat, "T-311", "t-311", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   /* t-312 */
-   if (pvalue->t_312 != 1) {
-      if ((uint64_t)pvalue->t_312 > 15u) {
-         rtxErrAddStrParm(ctx, "T-312");
-         rtxErrAddUIntParm(ctx, pvalue->t_312);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "T-312", "t-312", -1, "UE-ConnTimersAndConstants-r5");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_312, 0, 15);
-      RT_CHECK(ctx, stat, "T-312", "t-312", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   /* n-312 */
-   if (pvalue->n_312 != 0) {
-      if (pvalue->n_312 > 11) {
-         rtxErrAddUIntParm(ctx, pvalue->n_312);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "N-312-r5", "n-312", -1, "UE-ConnTimersAndConstants-r5");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->n_312, 0, 11);
-      RT_CHECK(ctx, stat, "N-312-r5", "n-312", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   /* t-313 */
-   if (pvalue->t_313 != 3) {
-      if ((uint64_t)pvalue->t_313 > 15u) {
-         rtxErrAddStrParm(ctx, "T-313");
-         rtxErrAddUIntParm(ctx, pvalue->t_313);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "T-313", "t-313", -1, "UE-ConnTimersAndConstants-r5");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_313, 0, 15);
-      RT_CHECK(ctx, stat, "T-313", "t-313", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   /* n-313 */
-   if (pvalue->n_313 != 4) {
-      if (pvalue->n_313 > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->n_313);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "N-313", "n-313", -1, "UE-ConnTimersAndConstants-r5");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->n_313, 0, 7);
-      RT_CHECK(ctx, stat, "N-313", "n-313", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   /* t-314 */
-   if (pvalue->t_314 != 5) {
-      if (pvalue->t_314 > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->t_314);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "T-314", "t-314", -1, "UE-ConnTimersAndConstants-r5");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_314, 0, 7);
-      RT_CHECK(ctx, stat, "T-314", "t-314", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   /* t-315 */
-   if (pvalue->t_315 != 4) {
-      if (pvalue->t_315 > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->t_315);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "T-315", "t-315", -1, "UE-ConnTimersAndConstants-r5");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_315, 0, 7);
-      RT_CHECK(ctx, stat, "T-315", "t-315", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   /* n-315 */
-   if (pvalue->n_315 != 0) {
-      if (pvalue->n_315 > 11) {
-         rtxErrAddUIntParm(ctx, pvalue->n_315);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "N-315-r5", "n-315", -1, "UE-ConnTimersAndConstants-r5");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->n_315, 0, 11);
-      RT_CHECK(ctx, stat, "N-315-r5", "n-315", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   /* t-316 */
-   if (pvalue->t_316 != 3) {
-      if (pvalue->t_316 > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->t_316);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "T-316", "t-316", -1, "UE-ConnTimersAndConstants-r5");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_316, 0, 7);
-      RT_CHECK(ctx, stat, "T-316", "t-316", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   /* t-317 */
-   if (pvalue->t_317 != 4) {
-      if (pvalue->t_317 > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->t_317);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "T-317", "t-317", -1, "UE-ConnTimersAndConstants-r5");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_317, 0, 7);
-      RT_CHECK(ctx, stat, "T-317", "t-317", -1, "UE-ConnTimersAndConstants-r5");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_HSPA_Identities_r6(rtxContext* RT_RESTRICT ctx, const UE_HSPA_Identities_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-HSPA-Identities-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-HSPA-Identities-r6");
-   /* new-H-RNTI */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "UE-HSPA-Identities-r6");
-   }
-   /* newPrimary-E-RNTI */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "UE-HSPA-Identities-r6");
-   }
-   /* newSecondary-E-RNTI */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "UE-HSPA-Identities-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_MultiModeRAT_Capability(rtxContext* RT_RESTRICT ctx, const UE_MultiModeRAT_Capability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-MultiModeRAT-Capability");
-   /* multiRAT-CapabilityList */
-   stat = asn1PE_UMTS_MultiRAT_Capability(ctx, &pvalue->multiRAT_CapabilityList);
-   RT_CHECK(ctx, stat, 0, "multiRAT-CapabilityList", -1, "UE-MultiModeRAT-Capability");
-   /* multiModeCapability */
-   if (pvalue->multiModeCapability > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->multiModeCapability);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MultiModeCapability", "multiModeCapability", -1, "UE-MultiModeRAT-Capability");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->multiModeCapability, 0, 2);
-   RT_CHECK(ctx, stat, "MultiModeCapability", "multiModeCapability", -1, "UE-MultiModeRAT-Capability");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_PowerClassExt(rtxContext* RT_RESTRICT ctx, UE_PowerClassExt value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UE-PowerClassExt");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-PowerClassExt");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_Capability(rtxContext* RT_RESTRICT ctx, const UE_Positioning_Capability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-Capability");
-   /* standaloneLocMethodsSupported */
-   stat = rtxEncBit(ctx, pvalue->standaloneLocMethodsSupported);
-   RT_CHECK(ctx, stat, 0, "standaloneLocMethodsSupported", -1, "UE-Positioning-Capability");
-   /* ue-BasedOTDOA-Supported */
-   stat = rtxEncBit(ctx, pvalue->ue_BasedOTDOA_Supported);
-   RT_CHECK(ctx, stat, 0, "ue-BasedOTDOA-Supported", -1, "UE-Positioning-Capability");
-   /* networkAssistedGPS-Supported */
-   if (pvalue->networkAssistedGPS_Supported > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->networkAssistedGPS_Supported);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "NetworkAssistedGPS-Supported", "networkAssistedGPS-Supported", -1, "UE-Positioning-Capability");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->networkAssistedGPS_Supported, 0, 3);
-   RT_CHECK(ctx, stat, "NetworkAssistedGPS-Supported", "networkAssistedGPS-Supported", -1, "UE-Positioning-Capability");
-   /* supportForUE-GPS-TimingOfCellFrames */
-   stat = rtxEncBit(ctx, pvalue->supportForUE_GPS_TimingOfCellFrames);
-   RT_CHECK(ctx, stat, 0, "supportForUE-GPS-TimingOfCellFrames", -1, "UE-Positioning-Capability");
-   /* supportForIPDL */
-   stat = rtxEncBit(ctx, pvalue->supportForIPDL);
-   RT_CHECK(ctx, stat, 0, "supportForIPDL", -1, "UE-Positioning-Capability");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability");
-   /* pdcp-Capability */
-   stat = asn1PE_UMTS_PDCP_Capability(ctx, &pvalue->pdcp_Capability);
-   RT_CHECK(ctx, stat, 0, "pdcp-Capability", -1, "UE-RadioAccessCapability");
-   /* rlc-Capability */
-   stat = asn1PE_UMTS_RLC_Capability(ctx, &pvalue->rlc_Capability);
-   RT_CHECK(ctx, stat, 0, "rlc-Capability", -1, "UE-RadioAccessCapability");
-   /* transportChannelCapability */
-   stat = asn1PE_UMTS_TransportChannelCapability(ctx, &pvalue->transportChannelCapability);
-   RT_CHECK(ctx, stat, 0, "transportChannelCapability", -1, "UE-RadioAccessCapability");
-   /* rf-Capability */
-   stat = asn1PE_UMTS_RF_Capability(ctx, &pvalue->rf_Capability);
-   RT_CHECK(ctx, stat, 0, "rf-Capability", -1, "UE-RadioAccessCapability");
-   /* physicalChannelCapability */
-   stat = asn1PE_UMTS_PhysicalChannelCapability(ctx, &pvalue->physicalChannelCapability);
-   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapability");
-   /* ue-MultiModeRAT-Capability */
-   stat = asn1PE_UMTS_UE_MultiModeRAT_Capability(ctx, &pvalue->ue_MultiModeRAT_Capability);
-   RT_CHECK(ctx, stat, 0, "ue-MultiModeRAT-Capability", -1, "UE-RadioAccessCapability");
-   /* securityCapability */
-   stat = asn1PE_UMTS_SecurityCapability(ctx, &pvalue->securityCapability);
-   RT_CHECK(ctx, stat, 0, "securityCapability", -1, "UE-RadioAccessCapability");
-   /* ue-positioning-Capability */
-   stat = asn1PE_UMTS_UE_Positioning_Capability(ctx, &pvalue->ue_positioning_Capability);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-Capability", -1, "UE-RadioAccessCapability");
-   /* measurementCapability */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MeasurementCapability(ctx, &pvalue->measurementCapability);
-      RT_CHECK(ctx, stat, 0, "measurementCapability", -1, "UE-RadioAccessCapability");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabBandFDD_fddRF_Capability(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDD_fddRF_Capability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* ue-PowerClass */
-   if (pvalue->ue_PowerClass > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->ue_PowerClass);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UE-PowerClassExt", "ue-PowerClass", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_PowerClass, 0, 7);
-   RT_CHECK(ctx, stat, "UE-PowerClassExt", "ue-PowerClass", -1, 0);
-   /* txRxFrequencySeparation */
-   if (pvalue->txRxFrequencySeparation > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->txRxFrequencySeparation);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TxRxFrequencySeparation", "txRxFrequencySeparation", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->txRxFrequencySeparation, 0, 2);
-   RT_CHECK(ctx, stat, "TxRxFrequencySeparation", "txRxFrequencySeparation", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabBandFDD(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabBandFDD");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDD");
-   /* radioFrequencyBandFDD */
-   if (pvalue->radioFrequencyBandFDD > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandFDD);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "UE-RadioAccessCapabBandFDD");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandFDD, 0, 7);
-   RT_CHECK(ctx, stat, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "UE-RadioAccessCapabBandFDD");
-   /* fddRF-Capability */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_RadioAccessCapabBandFDD_fddRF_Capability(ctx, &pvalue->fddRF_Capability);
-      RT_CHECK(ctx, stat, 0, "fddRF-Capability", -1, "UE-RadioAccessCapabBandFDD");
-   }
-   /* measurementCapability */
-   stat = asn1PE_UMTS_MeasurementCapabilityExt(ctx, &pvalue->measurementCapability);
-   RT_CHECK(ctx, stat, 0, "measurementCapability", -1, "UE-RadioAccessCapabBandFDD");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabBandFDDList(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDDList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabBandFDDList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDDList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UE-RadioAccessCapabBandFDD", (int32_t)i, "UE-RadioAccessCapabBandFDDList");
-      stat = asn1PE_UMTS_UE_RadioAccessCapabBandFDD(ctx, (const UE_RadioAccessCapabBandFDD*)node->data);
-      RT_CHECK(ctx, stat, 0, "UE-RadioAccessCapabBandFDD", (int32_t)i, "UE-RadioAccessCapabBandFDDList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v370ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v370ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v370ext");
-   /* ue-RadioAccessCapabBandFDDList */
-   stat = asn1PE_UMTS_UE_RadioAccessCapabBandFDDList(ctx, &pvalue->ue_RadioAccessCapabBandFDDList);
-   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabBandFDDList", -1, "UE-RadioAccessCapability-v370ext");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabilityInfo(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabilityInfo");
-   /* ue-RadioAccessCapability */
-   stat = asn1PE_UMTS_UE_RadioAccessCapability(ctx, &pvalue->ue_RadioAccessCapability);
-   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "UE-RadioAccessCapabilityInfo");
-   /* ue-RadioAccessCapability-v370ext */
-   stat = asn1PE_UMTS_UE_RadioAccessCapability_v370ext(ctx, &pvalue->ue_RadioAccessCapability_v370ext);
-   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v370ext", -1, "UE-RadioAccessCapabilityInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_PositioningCapabilityExt_v380(rtxContext* RT_RESTRICT ctx, const UE_PositioningCapabilityExt_v380* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-PositioningCapabilityExt-v380");
-   /* rx-tx-TimeDifferenceType2Capable */
-   stat = rtxEncBit(ctx, pvalue->rx_tx_TimeDifferenceType2Capable);
-   RT_CHECK(ctx, stat, 0, "rx-tx-TimeDifferenceType2Capable", -1, "UE-PositioningCapabilityExt-v380");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v380ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v380ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v380ext");
-   /* ue-PositioningCapabilityExt-v380 */
-   stat = asn1PE_UMTS_UE_PositioningCapabilityExt_v380(ctx, &pvalue->ue_PositioningCapabilityExt_v380);
-   RT_CHECK(ctx, stat, 0, "ue-PositioningCapabilityExt-v380", -1, "UE-RadioAccessCapability-v380ext");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_PositioningCapabilityExt_v3a0_validity_CellPCH_UraPCH(rtxContext* RT_RESTRICT ctx, UE_PositioningCapabilityExt_v3a0_validity_CellPCH_UraPCH value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_PositioningCapabilityExt_v3a0(rtxContext* RT_RESTRICT ctx, const UE_PositioningCapabilityExt_v3a0* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-PositioningCapabilityExt-v3a0");
-   /* validity-CellPCH-UraPCH */
-   if (pvalue->validity_CellPCH_UraPCH > 0) {
-      rtxErrAddUIntParm(ctx, pvalue->validity_CellPCH_UraPCH);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "validity-CellPCH-UraPCH", -1, "UE-PositioningCapabilityExt-v3a0");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->validity_CellPCH_UraPCH, 0, 0);
-   RT_CHECK(ctx, stat, 0, "validity-CellPCH-UraPCH", -1, "UE-PositioningCapabilityExt-v3a0");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v3a0ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v3a0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v3a0ext");
-   /* ue-PositioningCapabilityExt-v3a0 */
-   stat = asn1PE_UMTS_UE_PositioningCapabilityExt_v3a0(ctx, &pvalue->ue_PositioningCapabilityExt_v3a0);
-   RT_CHECK(ctx, stat, 0, "ue-PositioningCapabilityExt-v3a0", -1, "UE-RadioAccessCapability-v3a0ext");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_PositioningCapabilityExt_v3g0_sfn_sfnType2Capability(rtxContext* RT_RESTRICT ctx, UE_PositioningCapabilityExt_v3g0_sfn_sfnType2Capability value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_PositioningCapabilityExt_v3g0(rtxContext* RT_RESTRICT ctx, const UE_PositioningCapabilityExt_v3g0* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-PositioningCapabilityExt-v3g0");
-   /* sfn-sfnType2Capability */
-   if (pvalue->sfn_sfnType2Capability > 0) {
-      rtxErrAddUIntParm(ctx, pvalue->sfn_sfnType2Capability);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "sfn-sfnType2Capability", -1, "UE-PositioningCapabilityExt-v3g0");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->sfn_sfnType2Capability, 0, 0);
-   RT_CHECK(ctx, stat, 0, "sfn-sfnType2Capability", -1, "UE-PositioningCapabilityExt-v3g0");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v3g0ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v3g0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v3g0ext");
-   /* ue-PositioningCapabilityExt-v3g0 */
-   stat = asn1PE_UMTS_UE_PositioningCapabilityExt_v3g0(ctx, &pvalue->ue_PositioningCapabilityExt_v3g0);
-   RT_CHECK(ctx, stat, 0, "ue-PositioningCapabilityExt-v3g0", -1, "UE-RadioAccessCapability-v3g0ext");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabBandFDD2_fddRF_Capability(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDD2_fddRF_Capability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* ue-PowerClass */
-   if (pvalue->ue_PowerClass > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->ue_PowerClass);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UE-PowerClassExt", "ue-PowerClass", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_PowerClass, 0, 7);
-   RT_CHECK(ctx, stat, "UE-PowerClassExt", "ue-PowerClass", -1, 0);
-   /* txRxFrequencySeparation */
-   if (pvalue->txRxFrequencySeparation > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->txRxFrequencySeparation);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TxRxFrequencySeparation", "txRxFrequencySeparation", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->txRxFrequencySeparation, 0, 2);
-   RT_CHECK(ctx, stat, "TxRxFrequencySeparation", "txRxFrequencySeparation", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabBandFDD2(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDD2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabBandFDD2");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDD2");
-   /* radioFrequencyBandFDD2 */
-   if (pvalue->radioFrequencyBandFDD2 > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandFDD2);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandFDD2", "radioFrequencyBandFDD2", -1, "UE-RadioAccessCapabBandFDD2");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandFDD2, 0, 15);
-   RT_CHECK(ctx, stat, "RadioFrequencyBandFDD2", "radioFrequencyBandFDD2", -1, "UE-RadioAccessCapabBandFDD2");
-   /* fddRF-Capability */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_RadioAccessCapabBandFDD2_fddRF_Capability(ctx, &pvalue->fddRF_Capability);
-      RT_CHECK(ctx, stat, 0, "fddRF-Capability", -1, "UE-RadioAccessCapabBandFDD2");
-   }
-   /* measurementCapability2 */
-   stat = asn1PE_UMTS_MeasurementCapabilityExt2(ctx, &pvalue->measurementCapability2);
-   RT_CHECK(ctx, stat, 0, "measurementCapability2", -1, "UE-RadioAccessCapabBandFDD2");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabBandFDDList2(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDDList2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabBandFDDList2");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDDList2");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UE-RadioAccessCapabBandFDD2", (int32_t)i, "UE-RadioAccessCapabBandFDDList2");
-      stat = asn1PE_UMTS_UE_RadioAccessCapabBandFDD2(ctx, (const UE_RadioAccessCapabBandFDD2*)node->data);
-      RT_CHECK(ctx, stat, 0, "UE-RadioAccessCapabBandFDD2", (int32_t)i, "UE-RadioAccessCapabBandFDDList2");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabBandFDD_ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDD_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabBandFDD-ext");
-   /* radioFrequencyBandFDD */
-   if (pvalue->radioFrequencyBandFDD > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandFDD);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "UE-RadioAccessCapabBandFDD-ext");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->radioFrequencyBandFDD, 0, 7);
-   RT_CHECK(ctx, stat, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "UE-RadioAccessCapabBandFDD-ext");
-   /* compressedModeMeasCapabFDDList-ext */
-   stat = asn1PE_UMTS_CompressedModeMeasCapabFDDList_ext(ctx, &pvalue->compressedModeMeasCapabFDDList_ext);
-   RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabFDDList-ext", -1, "UE-RadioAccessCapabBandFDD-ext");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabBandFDDList_ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDDList_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabBandFDDList-ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDDList-ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UE-RadioAccessCapabBandFDD-ext", (int32_t)i, "UE-RadioAccessCapabBandFDDList-ext");
-      stat = asn1PE_UMTS_UE_RadioAccessCapabBandFDD_ext(ctx, (const UE_RadioAccessCapabBandFDD_ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "UE-RadioAccessCapabBandFDD-ext", (int32_t)i, "UE-RadioAccessCapabBandFDDList-ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v650ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v650ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v650ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v650ext");
-   /* ue-RadioAccessCapabBandFDDList2 */
-   stat = asn1PE_UMTS_UE_RadioAccessCapabBandFDDList2(ctx, &pvalue->ue_RadioAccessCapabBandFDDList2);
-   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabBandFDDList2", -1, "UE-RadioAccessCapability-v650ext");
-   /* ue-RadioAccessCapabBandFDDList-ext */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_RadioAccessCapabBandFDDList_ext(ctx, &pvalue->ue_RadioAccessCapabBandFDDList_ext);
-      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabBandFDDList-ext", -1, "UE-RadioAccessCapability-v650ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v7e0ext_supportForTwoDRXSchemesInPCH(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v7e0ext_supportForTwoDRXSchemesInPCH value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v7e0ext_supportEDPDCHPowerInterpolation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v7e0ext_supportEDPDCHPowerInterpolation value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v7e0ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v7e0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v7e0ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v7e0ext");
-   /* supportForTwoDRXSchemesInPCH */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->supportForTwoDRXSchemesInPCH > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportForTwoDRXSchemesInPCH);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportForTwoDRXSchemesInPCH", -1, "UE-RadioAccessCapability-v7e0ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportForTwoDRXSchemesInPCH, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportForTwoDRXSchemesInPCH", -1, "UE-RadioAccessCapability-v7e0ext");
-   }
-   /* supportEDPDCHPowerInterpolation */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->supportEDPDCHPowerInterpolation > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportEDPDCHPowerInterpolation);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportEDPDCHPowerInterpolation", -1, "UE-RadioAccessCapability-v7e0ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportEDPDCHPowerInterpolation, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportEDPDCHPowerInterpolation", -1, "UE-RadioAccessCapability-v7e0ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v7f0ext_supportofTxDivOnNonMIMOChannel(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v7f0ext_supportofTxDivOnNonMIMOChannel value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabilityComp_TDD128_v7f0ext_supportForCSVoiceoverHSPA(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_v7f0ext_supportForCSVoiceoverHSPA value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabilityComp_TDD128_v7f0ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp_TDD128_v7f0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
-   /* hSDSCH-physical-layer-category */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->hSDSCH_physical_layer_category - 1) > 63u) {
-         rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category");
-         rtxErrAddUIntParm(ctx, pvalue->hSDSCH_physical_layer_category);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category", "hSDSCH-physical-layer-category", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hSDSCH_physical_layer_category, 1, 64);
-      RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category", "hSDSCH-physical-layer-category", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
-   }
-   /* multiCarrier-physical-layer-category */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)(pvalue->multiCarrier_physical_layer_category - 1) > 63u) {
-         rtxErrAddStrParm(ctx, "MultiCarrier-HSDSCH-physical-layer-category");
-         rtxErrAddUIntParm(ctx, pvalue->multiCarrier_physical_layer_category);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "MultiCarrier-HSDSCH-physical-layer-category", "multiCarrier-physical-layer-category", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->multiCarrier_physical_layer_category, 1, 64);
-      RT_CHECK(ctx, stat, "MultiCarrier-HSDSCH-physical-layer-category", "multiCarrier-physical-layer-category", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
-   }
-   /* tdd-edch-PhysicalLayerCategory */
-   if (pvalue->m & 0x4u) {
-      if ((uint64_t)(pvalue->tdd_edch_PhysicalLayerCategory - 1) > 5u) {
-         rtxErrAddStrParm(ctx, "tdd-edch-PhysicalLayerCategory");
-         rtxErrAddUIntParm(ctx, pvalue->tdd_edch_PhysicalLayerCategory);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "tdd-edch-PhysicalLayerCategory", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tdd_edch_PhysicalLayerCategory, 1, 6);
-      RT_CHECK(ctx, stat, 0, "tdd-edch-PhysicalLayerCategory", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
-   }
-   /* dl-CapabilityWithSimultaneousHS-DSCHConfig */
-   if (pvalue->m & 0x8u) {
-      if (pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "DL-CapabilityWithSimultaneousHS-DSCHConfig", "dl-CapabilityWithSimultaneousHS-DSCHConfig", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig, 0, 3);
-      RT_CHECK(ctx, stat, "DL-CapabilityWithSimultaneousHS-DSCHConfig", "dl-CapabilityWithSimultaneousHS-DSCHConfig", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
-   }
-   /* supportForCSVoiceoverHSPA */
-   if (pvalue->m & 0x10u) {
-      if (pvalue->supportForCSVoiceoverHSPA > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportForCSVoiceoverHSPA);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportForCSVoiceoverHSPA", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportForCSVoiceoverHSPA, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportForCSVoiceoverHSPA", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
-   }
-   /* totalRLC-AM-BufferSize */
-   if (pvalue->m & 0x20u) {
-      if (pvalue->totalRLC_AM_BufferSize > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->totalRLC_AM_BufferSize);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "TotalRLC-AM-BufferSize-r5-ext", "totalRLC-AM-BufferSize", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->totalRLC_AM_BufferSize, 0, 3);
-      RT_CHECK(ctx, stat, "TotalRLC-AM-BufferSize-r5-ext", "totalRLC-AM-BufferSize", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v7f0ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v7f0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v7f0ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v7f0ext");
-   /* supportofTxDivOnNonMIMOChannel */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->supportofTxDivOnNonMIMOChannel > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportofTxDivOnNonMIMOChannel);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportofTxDivOnNonMIMOChannel", -1, "UE-RadioAccessCapability-v7f0ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportofTxDivOnNonMIMOChannel, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportofTxDivOnNonMIMOChannel", -1, "UE-RadioAccessCapability-v7f0ext");
-   }
-   /* physicalChannelCapability-LCR */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_PhysicalChannelCapability_LCR_r4(ctx, &pvalue->physicalChannelCapability_LCR);
-      RT_CHECK(ctx, stat, 0, "physicalChannelCapability-LCR", -1, "UE-RadioAccessCapability-v7f0ext");
-   }
-   /* ue-RadioAccessCapabilityComp-TDD128 */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_UE_RadioAccessCapabilityComp_TDD128_v7f0ext(ctx, &pvalue->ue_RadioAccessCapabilityComp_TDD128);
-      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityComp-TDD128", -1, "UE-RadioAccessCapability-v7f0ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabilityInfo_v770ext_ganssSupportIndication(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityInfo_v770ext_ganssSupportIndication value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabilityInfo_v770ext_mac_ehsSupport(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityInfo_v770ext_mac_ehsSupport value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabilityInfo_v770ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityInfo_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabilityInfo-v770ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabilityInfo-v770ext");
-   /* rf-Capability */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RF_Capability_v770ext(ctx, &pvalue->rf_Capability);
-      RT_CHECK(ctx, stat, 0, "rf-Capability", -1, "UE-RadioAccessCapabilityInfo-v770ext");
-   }
-   /* physicalChannelCapability */
-   stat = asn1PE_UMTS_PhysicalChannelCapabilityInfo_v770ext(ctx, &pvalue->physicalChannelCapability);
-   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapabilityInfo-v770ext");
-   /* ganssSupportIndication */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->ganssSupportIndication > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->ganssSupportIndication);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "ganssSupportIndication", -1, "UE-RadioAccessCapabilityInfo-v770ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssSupportIndication, 0, 0);
-      RT_CHECK(ctx, stat, 0, "ganssSupportIndication", -1, "UE-RadioAccessCapabilityInfo-v770ext");
-   }
-   /* mac-ehsSupport */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->mac_ehsSupport > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->mac_ehsSupport);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "mac-ehsSupport", -1, "UE-RadioAccessCapabilityInfo-v770ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mac_ehsSupport, 0, 0);
-      RT_CHECK(ctx, stat, 0, "mac-ehsSupport", -1, "UE-RadioAccessCapabilityInfo-v770ext");
-   }
-   /* ue-SpecificCapabilityInformation */
-   if (pvalue->m & 0x8u) {
-      if (pvalue->ue_SpecificCapabilityInformation > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->ue_SpecificCapabilityInformation);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "UE-SpecificCapabilityInformation-LCRTDD", "ue-SpecificCapabilityInformation", -1, "UE-RadioAccessCapabilityInfo-v770ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ue_SpecificCapabilityInformation, 0, 15);
-      RT_CHECK(ctx, stat, "UE-SpecificCapabilityInformation-LCRTDD", "ue-SpecificCapabilityInformation", -1, "UE-RadioAccessCapabilityInfo-v770ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v860ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v860ext");
-   /* ue-RadioAccessCapabBandFDDList3 */
-   stat = asn1PE_UMTS_UE_RadioAccessCapabBandFDDList3(ctx, &pvalue->ue_RadioAccessCapabBandFDDList3);
-   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabBandFDDList3", -1, "UE-RadioAccessCapability-v860ext");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v880ext_supportForPriorityReselectionInUTRAN(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v880ext_supportForPriorityReselectionInUTRAN value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v880ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v880ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v880ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v880ext");
-   /* supportForPriorityReselectionInUTRAN */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->supportForPriorityReselectionInUTRAN > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportForPriorityReselectionInUTRAN);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportForPriorityReselectionInUTRAN", -1, "UE-RadioAccessCapability-v880ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportForPriorityReselectionInUTRAN, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportForPriorityReselectionInUTRAN", -1, "UE-RadioAccessCapability-v880ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v890ext_supportCellSpecificTxDiversityinDC_Operation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v890ext_supportCellSpecificTxDiversityinDC_Operation value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v890ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v890ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v890ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v890ext");
-   /* supportCellSpecificTxDiversityinDC-Operation */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->supportCellSpecificTxDiversityinDC_Operation > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportCellSpecificTxDiversityinDC_Operation);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportCellSpecificTxDiversityinDC-Operation", -1, "UE-RadioAccessCapability-v890ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportCellSpecificTxDiversityinDC_Operation, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportCellSpecificTxDiversityinDC-Operation", -1, "UE-RadioAccessCapability-v890ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v920ext_supportOfenhancedTS0(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v920ext_supportOfenhancedTS0 value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v920ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v920ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v920ext");
-   /* supportOfenhancedTS0 */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->supportOfenhancedTS0 > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfenhancedTS0);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfenhancedTS0", -1, "UE-RadioAccessCapability-v920ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfenhancedTS0, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportOfenhancedTS0", -1, "UE-RadioAccessCapability-v920ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v4b0ext_tdd_CapabilityExt(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v4b0ext_tdd_CapabilityExt* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* rf-Capability */
-   stat = asn1PE_UMTS_RF_Capability_r4_ext(ctx, &pvalue->rf_Capability);
-   RT_CHECK(ctx, stat, 0, "rf-Capability", -1, 0);
-   /* physicalChannelCapability-LCR */
-   stat = asn1PE_UMTS_PhysicalChannelCapability_LCR_r4(ctx, &pvalue->physicalChannelCapability_LCR);
-   RT_CHECK(ctx, stat, 0, "physicalChannelCapability-LCR", -1, 0);
-   /* measurementCapability-r4-ext */
-   stat = asn1PE_UMTS_MeasurementCapability_r4_ext(ctx, &pvalue->measurementCapability_r4_ext);
-   RT_CHECK(ctx, stat, 0, "measurementCapability-r4-ext", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v4b0ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v4b0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v4b0ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v4b0ext");
-   /* pdcp-Capability-r4-ext */
-   stat = asn1PE_UMTS_PDCP_Capability_r4_ext(ctx, &pvalue->pdcp_Capability_r4_ext);
-   RT_CHECK(ctx, stat, 0, "pdcp-Capability-r4-ext", -1, "UE-RadioAccessCapability-v4b0ext");
-   /* tdd-CapabilityExt */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_RadioAccessCapability_v4b0ext_tdd_CapabilityExt(ctx, &pvalue->tdd_CapabilityExt);
-      RT_CHECK(ctx, stat, 0, "tdd-CapabilityExt", -1, "UE-RadioAccessCapability-v4b0ext");
-   }
-   /* accessStratumReleaseIndicator */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->accessStratumReleaseIndicator > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->accessStratumReleaseIndicator);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "AccessStratumReleaseIndicator", "accessStratumReleaseIndicator", -1, "UE-RadioAccessCapability-v4b0ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->accessStratumReleaseIndicator, 0, 15);
-      RT_CHECK(ctx, stat, "AccessStratumReleaseIndicator", "accessStratumReleaseIndicator", -1, "UE-RadioAccessCapability-v4b0ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RF_CapabBandFDDComp(rtxContext* RT_RESTRICT ctx, RF_CapabBandFDDComp value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "RF-CapabBandFDDComp");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RF-CapabBandFDDComp");
-   return 0;
-}
-
-int asn1PE_UMTS_RF_CapabBandListFDDComp(rtxContext* RT_RESTRICT ctx, const RF_CapabBandListFDDComp* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RF-CapabBandListFDDComp");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RF-CapabBandListFDDComp");
-   for (i = 0; i < pvalue->n; i++) {
-      if (pvalue->elem[i] > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "RF-CapabBandFDDComp", "RF-CapabBandFDDComp", (int32_t)i, "RF-CapabBandListFDDComp");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 3);
-      RT_CHECK(ctx, stat, "RF-CapabBandFDDComp", "RF-CapabBandFDDComp", (int32_t)i, "RF-CapabBandListFDDComp");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RF_CapabilityComp_fdd(rtxContext* RT_RESTRICT ctx, const RF_CapabilityComp_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.supported == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "supported", -1, 0);
-         stat = asn1PE_UMTS_RF_CapabBandListFDDComp(ctx, pvalue->u.supported);
-         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RF_CapabilityComp_tdd384_RF_Capability(rtxContext* RT_RESTRICT ctx, const RF_CapabilityComp_tdd384_RF_Capability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.supported > 7) {
-            rtxErrAddUIntParm(ctx, pvalue->u.supported);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandTDDList", "supported", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.supported, 0, 7);
-         RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList", "supported", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RF_CapabilityComp_tdd128_RF_Capability(rtxContext* RT_RESTRICT ctx, const RF_CapabilityComp_tdd128_RF_Capability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.supported > 7) {
-            rtxErrAddUIntParm(ctx, pvalue->u.supported);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandTDDList", "supported", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.supported, 0, 7);
-         RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList", "supported", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RF_CapabilityComp(rtxContext* RT_RESTRICT ctx, const RF_CapabilityComp* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RF-CapabilityComp");
-   /* fdd */
-   stat = asn1PE_UMTS_RF_CapabilityComp_fdd(ctx, &pvalue->fdd);
-   RT_CHECK(ctx, stat, 0, "fdd", -1, "RF-CapabilityComp");
-   /* tdd384-RF-Capability */
-   stat = asn1PE_UMTS_RF_CapabilityComp_tdd384_RF_Capability(ctx, &pvalue->tdd384_RF_Capability);
-   RT_CHECK(ctx, stat, 0, "tdd384-RF-Capability", -1, "RF-CapabilityComp");
-   /* tdd128-RF-Capability */
-   stat = asn1PE_UMTS_RF_CapabilityComp_tdd128_RF_Capability(ctx, &pvalue->tdd128_RF_Capability);
-   RT_CHECK(ctx, stat, 0, "tdd128-RF-Capability", -1, "RF-CapabilityComp");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabilityComp(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabilityComp");
-   /* totalAM-RLCMemoryExceeds10kB */
-   stat = rtxEncBit(ctx, pvalue->totalAM_RLCMemoryExceeds10kB);
-   RT_CHECK(ctx, stat, 0, "totalAM-RLCMemoryExceeds10kB", -1, "UE-RadioAccessCapabilityComp");
-   /* rf-CapabilityComp */
-   stat = asn1PE_UMTS_RF_CapabilityComp(ctx, &pvalue->rf_CapabilityComp);
-   RT_CHECK(ctx, stat, 0, "rf-CapabilityComp", -1, "UE-RadioAccessCapabilityComp");
-   return 0;
-}
-
-int asn1PE_UMTS_RF_CapabBandListFDDComp_ext(rtxContext* RT_RESTRICT ctx, const RF_CapabBandListFDDComp_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RF-CapabBandListFDDComp-ext");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 15);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RF-CapabBandListFDDComp-ext");
-   for (i = 0; i < pvalue->n; i++) {
-      if (pvalue->elem[i] > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "RF-CapabBandFDDComp", "RF-CapabBandFDDComp", (int32_t)i, "RF-CapabBandListFDDComp-ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 3);
-      RT_CHECK(ctx, stat, "RF-CapabBandFDDComp", "RF-CapabBandFDDComp", (int32_t)i, "RF-CapabBandListFDDComp-ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabilityComp_ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabilityComp-ext");
-   /* rf-CapabilityFDDComp */
-   stat = asn1PE_UMTS_RF_CapabBandListFDDComp_ext(ctx, &pvalue->rf_CapabilityFDDComp);
-   RT_CHECK(ctx, stat, 0, "rf-CapabilityFDDComp", -1, "UE-RadioAccessCapabilityComp-ext");
-   return 0;
-}
-
-int asn1PE_UMTS_RF_CapabilityComp_v770ext_tdd768_RF_Capability(rtxContext* RT_RESTRICT ctx, const RF_CapabilityComp_v770ext_tdd768_RF_Capability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.supported > 15) {
-            rtxErrAddUIntParm(ctx, pvalue->u.supported);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandTDDList-r7", "supported", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.supported, 0, 15);
-         RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList-r7", "supported", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RF_CapabilityComp_v770ext(rtxContext* RT_RESTRICT ctx, const RF_CapabilityComp_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RF-CapabilityComp-v770ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RF-CapabilityComp-v770ext");
-   /* tdd384-RF-Capability */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->tdd384_RF_Capability > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->tdd384_RF_Capability);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandTDDList-r7", "tdd384-RF-Capability", -1, "RF-CapabilityComp-v770ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tdd384_RF_Capability, 0, 15);
-      RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList-r7", "tdd384-RF-Capability", -1, "RF-CapabilityComp-v770ext");
-   }
-   /* tdd768-RF-Capability */
-   stat = asn1PE_UMTS_RF_CapabilityComp_v770ext_tdd768_RF_Capability(ctx, &pvalue->tdd768_RF_Capability);
-   RT_CHECK(ctx, stat, 0, "tdd768-RF-Capability", -1, "RF-CapabilityComp-v770ext");
-   /* tdd128-RF-Capability */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->tdd128_RF_Capability > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->tdd128_RF_Capability);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandTDDList-r7", "tdd128-RF-Capability", -1, "RF-CapabilityComp-v770ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tdd128_RF_Capability, 0, 15);
-      RT_CHECK(ctx, stat, "RadioFrequencyBandTDDList-r7", "tdd128-RF-Capability", -1, "RF-CapabilityComp-v770ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabilityComp_v770ext_securityCapabilityIndication(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_v770ext_securityCapabilityIndication value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabilityComp_v770ext_ganssSupportIndication(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_v770ext_ganssSupportIndication value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabilityComp_v770ext_mac_ehsSupport(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_v770ext_mac_ehsSupport value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabilityComp_v770ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabilityComp-v770ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp-v770ext");
-   /* rf-CapabilityComp */
-   stat = asn1PE_UMTS_RF_CapabilityComp_v770ext(ctx, &pvalue->rf_CapabilityComp);
-   RT_CHECK(ctx, stat, 0, "rf-CapabilityComp", -1, "UE-RadioAccessCapabilityComp-v770ext");
-   /* securityCapabilityIndication */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->securityCapabilityIndication > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->securityCapabilityIndication);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "securityCapabilityIndication", -1, "UE-RadioAccessCapabilityComp-v770ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->securityCapabilityIndication, 0, 0);
-      RT_CHECK(ctx, stat, 0, "securityCapabilityIndication", -1, "UE-RadioAccessCapabilityComp-v770ext");
-   }
-   /* ganssSupportIndication */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->ganssSupportIndication > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->ganssSupportIndication);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "ganssSupportIndication", -1, "UE-RadioAccessCapabilityComp-v770ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssSupportIndication, 0, 0);
-      RT_CHECK(ctx, stat, 0, "ganssSupportIndication", -1, "UE-RadioAccessCapabilityComp-v770ext");
-   }
-   /* mac-ehsSupport */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->mac_ehsSupport > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->mac_ehsSupport);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "mac-ehsSupport", -1, "UE-RadioAccessCapabilityComp-v770ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mac_ehsSupport, 0, 0);
-      RT_CHECK(ctx, stat, 0, "mac-ehsSupport", -1, "UE-RadioAccessCapabilityComp-v770ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabilityComp2_fddPhysicalChannelCapab_hspdsch_edch(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp2_fddPhysicalChannelCapab_hspdsch_edch* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-CapabilityWithSimultaneousHS-DSCHConfig */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "DL-CapabilityWithSimultaneousHS-DSCHConfig", "dl-CapabilityWithSimultaneousHS-DSCHConfig", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig, 0, 3);
-      RT_CHECK(ctx, stat, "DL-CapabilityWithSimultaneousHS-DSCHConfig", "dl-CapabilityWithSimultaneousHS-DSCHConfig", -1, 0);
-   }
-   /* physicalChannelCapabComp-hspdsch-r6 */
-   if ((uint64_t)(pvalue->physicalChannelCapabComp_hspdsch_r6 - 1) > 63u) {
-      rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category");
-      rtxErrAddUIntParm(ctx, pvalue->physicalChannelCapabComp_hspdsch_r6);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category", "physicalChannelCapabComp-hspdsch-r6", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->physicalChannelCapabComp_hspdsch_r6, 1, 64);
-   RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category", "physicalChannelCapabComp-hspdsch-r6", -1, 0);
-   /* physicalChannelCapability-edch-r6 */
-   stat = asn1PE_UMTS_PhysicalChannelCapability_edch_r6(ctx, &pvalue->physicalChannelCapability_edch_r6);
-   RT_CHECK(ctx, stat, 0, "physicalChannelCapability-edch-r6", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabilityComp2(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabilityComp2");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp2");
-   /* fddPhysicalChannelCapab-hspdsch-edch */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_RadioAccessCapabilityComp2_fddPhysicalChannelCapab_hspdsch_edch(ctx, &pvalue->fddPhysicalChannelCapab_hspdsch_edch);
-      RT_CHECK(ctx, stat, 0, "fddPhysicalChannelCapab-hspdsch-edch", -1, "UE-RadioAccessCapabilityComp2");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v770ext_hsscchlessHsdschOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_hsscchlessHsdschOperation value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v770ext_enhancedFdpch(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_enhancedFdpch value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellFach(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellFach value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellUraPch(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellUraPch value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v770ext_discontinuousDpcchTransmission(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_discontinuousDpcchTransmission value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v770ext_slotFormat4(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_slotFormat4 value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v770ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp2_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabilityComp2-v770ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 8) & 1u) << 0), 9);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp2-v770ext");
-   /* hsdsch-physical-layer-category-ext */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->hsdsch_physical_layer_category_ext - 1) > 19u) {
-         rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category-ext");
-         rtxErrAddUIntParm(ctx, pvalue->hsdsch_physical_layer_category_ext);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category-ext", "hsdsch-physical-layer-category-ext", -1, "UE-RadioAccessCapabilityComp2-v770ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hsdsch_physical_layer_category_ext, 1, 20);
-      RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category-ext", "hsdsch-physical-layer-category-ext", -1, "UE-RadioAccessCapabilityComp2-v770ext");
-   }
-   /* edch-PhysicalLayerCategory-extension */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)(pvalue->edch_PhysicalLayerCategory_extension - 7) > 0u) {
-         rtxErrAddStrParm(ctx, "edch-PhysicalLayerCategory-extension");
-         rtxErrAddUIntParm(ctx, pvalue->edch_PhysicalLayerCategory_extension);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "edch-PhysicalLayerCategory-extension", -1, "UE-RadioAccessCapabilityComp2-v770ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->edch_PhysicalLayerCategory_extension, 7, 7);
-      RT_CHECK(ctx, stat, 0, "edch-PhysicalLayerCategory-extension", -1, "UE-RadioAccessCapabilityComp2-v770ext");
-   }
-   /* hsscchlessHsdschOperation */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->hsscchlessHsdschOperation > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->hsscchlessHsdschOperation);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "hsscchlessHsdschOperation", -1, "UE-RadioAccessCapabilityComp2-v770ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hsscchlessHsdschOperation, 0, 0);
-      RT_CHECK(ctx, stat, 0, "hsscchlessHsdschOperation", -1, "UE-RadioAccessCapabilityComp2-v770ext");
-   }
-   /* enhancedFdpch */
-   if (pvalue->m & 0x8u) {
-      if (pvalue->enhancedFdpch > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->enhancedFdpch);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "enhancedFdpch", -1, "UE-RadioAccessCapabilityComp2-v770ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->enhancedFdpch, 0, 0);
-      RT_CHECK(ctx, stat, 0, "enhancedFdpch", -1, "UE-RadioAccessCapabilityComp2-v770ext");
-   }
-   /* hsdschReception-CellFach */
-   if (pvalue->m & 0x10u) {
-      if (pvalue->hsdschReception_CellFach > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->hsdschReception_CellFach);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "hsdschReception-CellFach", -1, "UE-RadioAccessCapabilityComp2-v770ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hsdschReception_CellFach, 0, 0);
-      RT_CHECK(ctx, stat, 0, "hsdschReception-CellFach", -1, "UE-RadioAccessCapabilityComp2-v770ext");
-   }
-   /* hsdschReception-CellUraPch */
-   if (pvalue->m & 0x20u) {
-      if (pvalue->hsdschReception_CellUraPch > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->hsdschReception_CellUraPch);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "hsdschReception-CellUraPch", -1, "UE-RadioAccessCapabilityComp2-v770ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hsdschReception_CellUraPch, 0, 0);
-      RT_CHECK(ctx, stat, 0, "hsdschReception-CellUraPch", -1, "UE-RadioAccessCapabilityComp2-v770ext");
-   }
-   /* discontinuousDpcchTransmission */
-   if (pvalue->m & 0x40u) {
-      if (pvalue->discontinuousDpcchTransmission > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->discontinuousDpcchTransmission);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "discontinuousDpcchTransmission", -1, "UE-RadioAccessCapabilityComp2-v770ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->discontinuousDpcchTransmission, 0, 0);
-      RT_CHECK(ctx, stat, 0, "discontinuousDpcchTransmission", -1, "UE-RadioAccessCapabilityComp2-v770ext");
-   }
-   /* slotFormat4 */
-   if (pvalue->m & 0x80u) {
-      if (pvalue->slotFormat4 > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->slotFormat4);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "slotFormat4", -1, "UE-RadioAccessCapabilityComp2-v770ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->slotFormat4, 0, 0);
-      RT_CHECK(ctx, stat, 0, "slotFormat4", -1, "UE-RadioAccessCapabilityComp2-v770ext");
-   }
-   /* pdcp-Capability */
-   if (pvalue->m & 0x100u) {
-      stat = asn1PE_UMTS_PDCP_Capability_v770ext(ctx, &pvalue->pdcp_Capability);
-      RT_CHECK(ctx, stat, 0, "pdcp-Capability", -1, "UE-RadioAccessCapabilityComp2-v770ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v7f0ext_supportofTxDivOnNonMIMOChannel(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v7f0ext_supportofTxDivOnNonMIMOChannel value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v7f0ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp2_v7f0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabilityComp2-v7f0ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp2-v7f0ext");
-   /* supportofTxDivOnNonMIMOChannel */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->supportofTxDivOnNonMIMOChannel > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportofTxDivOnNonMIMOChannel);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportofTxDivOnNonMIMOChannel", -1, "UE-RadioAccessCapabilityComp2-v7f0ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportofTxDivOnNonMIMOChannel, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportofTxDivOnNonMIMOChannel", -1, "UE-RadioAccessCapabilityComp2-v7f0ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v860ext_supportOfMACiis(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v860ext_supportOfMACiis value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v860ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp2_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabilityComp2-v860ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp2-v860ext");
-   /* hsdsch-physical-layer-category-ext2 */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->hsdsch_physical_layer_category_ext2 - 21) > 3u) {
-         rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category-ext2");
-         rtxErrAddUIntParm(ctx, pvalue->hsdsch_physical_layer_category_ext2);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category-ext2", "hsdsch-physical-layer-category-ext2", -1, "UE-RadioAccessCapabilityComp2-v860ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hsdsch_physical_layer_category_ext2, 21, 24);
-      RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category-ext2", "hsdsch-physical-layer-category-ext2", -1, "UE-RadioAccessCapabilityComp2-v860ext");
-   }
-   /* supportOfMACiis */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->supportOfMACiis > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfMACiis);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfMACiis", -1, "UE-RadioAccessCapabilityComp2-v860ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfMACiis, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportOfMACiis", -1, "UE-RadioAccessCapabilityComp2-v860ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v920ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp2_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabilityComp2-v920ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp2-v920ext");
-   /* hsdsch-physical-layer-category-ext3 */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->hsdsch_physical_layer_category_ext3 - 25) > 3u) {
-         rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category-ext3");
-         rtxErrAddUIntParm(ctx, pvalue->hsdsch_physical_layer_category_ext3);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category-ext3", "hsdsch-physical-layer-category-ext3", -1, "UE-RadioAccessCapabilityComp2-v920ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hsdsch_physical_layer_category_ext3, 25, 28);
-      RT_CHECK(ctx, stat, "HSDSCH-physical-layer-category-ext3", "hsdsch-physical-layer-category-ext3", -1, "UE-RadioAccessCapabilityComp2-v920ext");
-   }
-   /* edch-PhysicalLayerCategory-extension2 */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)(pvalue->edch_PhysicalLayerCategory_extension2 - 8) > 1u) {
-         rtxErrAddStrParm(ctx, "edch-PhysicalLayerCategory-extension2");
-         rtxErrAddUIntParm(ctx, pvalue->edch_PhysicalLayerCategory_extension2);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "edch-PhysicalLayerCategory-extension2", -1, "UE-RadioAccessCapabilityComp2-v920ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->edch_PhysicalLayerCategory_extension2, 8, 9);
-      RT_CHECK(ctx, stat, 0, "edch-PhysicalLayerCategory-extension2", -1, "UE-RadioAccessCapabilityComp2-v920ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfSFModeForHSPDSCHDualStream(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfSFModeForHSPDSCHDualStream value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfCommonEDCH(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfCommonEDCH value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfMACiis(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfMACiis value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfSPSOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfSPSOperation value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfControlChannelDRXOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfControlChannelDRXOperation value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapabilityComp_TDD128(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabilityComp-TDD128");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp-TDD128");
-   /* tdd128RF-Capability */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RadioFrequencyBandTDDextList(ctx, &pvalue->tdd128RF_Capability);
-      RT_CHECK(ctx, stat, 0, "tdd128RF-Capability", -1, "UE-RadioAccessCapabilityComp-TDD128");
-   }
-   /* supportOfSFModeForHSPDSCHDualStream */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->supportOfSFModeForHSPDSCHDualStream > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfSFModeForHSPDSCHDualStream);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfSFModeForHSPDSCHDualStream", -1, "UE-RadioAccessCapabilityComp-TDD128");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfSFModeForHSPDSCHDualStream, 0, 1);
-      RT_CHECK(ctx, stat, 0, "supportOfSFModeForHSPDSCHDualStream", -1, "UE-RadioAccessCapabilityComp-TDD128");
-   }
-   /* supportOfCommonEDCH */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->supportOfCommonEDCH > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfCommonEDCH);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfCommonEDCH", -1, "UE-RadioAccessCapabilityComp-TDD128");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfCommonEDCH, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportOfCommonEDCH", -1, "UE-RadioAccessCapabilityComp-TDD128");
-   }
-   /* supportOfMACiis */
-   if (pvalue->m & 0x8u) {
-      if (pvalue->supportOfMACiis > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfMACiis);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfMACiis", -1, "UE-RadioAccessCapabilityComp-TDD128");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfMACiis, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportOfMACiis", -1, "UE-RadioAccessCapabilityComp-TDD128");
-   }
-   /* supportOfSPSOperation */
-   if (pvalue->m & 0x10u) {
-      if (pvalue->supportOfSPSOperation > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfSPSOperation);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfSPSOperation", -1, "UE-RadioAccessCapabilityComp-TDD128");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfSPSOperation, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportOfSPSOperation", -1, "UE-RadioAccessCapabilityComp-TDD128");
-   }
-   /* supportOfControlChannelDRXOperation */
-   if (pvalue->m & 0x20u) {
-      if (pvalue->supportOfControlChannelDRXOperation > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfControlChannelDRXOperation);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfControlChannelDRXOperation", -1, "UE-RadioAccessCapabilityComp-TDD128");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfControlChannelDRXOperation, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportOfControlChannelDRXOperation", -1, "UE-RadioAccessCapabilityComp-TDD128");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v590ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v590ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v590ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RadioAccessCapability-v590ext");
-   /* dl-CapabilityWithSimultaneousHS-DSCHConfig */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "DL-CapabilityWithSimultaneousHS-DSCHConfig", "dl-CapabilityWithSimultaneousHS-DSCHConfig", -1, "UE-RadioAccessCapability-v590ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig, 0, 3);
-      RT_CHECK(ctx, stat, "DL-CapabilityWithSimultaneousHS-DSCHConfig", "dl-CapabilityWithSimultaneousHS-DSCHConfig", -1, "UE-RadioAccessCapability-v590ext");
-   }
-   /* pdcp-Capability-r5-ext */
-   stat = asn1PE_UMTS_PDCP_Capability_r5_ext(ctx, &pvalue->pdcp_Capability_r5_ext);
-   RT_CHECK(ctx, stat, 0, "pdcp-Capability-r5-ext", -1, "UE-RadioAccessCapability-v590ext");
-   /* rlc-Capability-r5-ext */
-   stat = asn1PE_UMTS_RLC_Capability_r5_ext(ctx, &pvalue->rlc_Capability_r5_ext);
-   RT_CHECK(ctx, stat, 0, "rlc-Capability-r5-ext", -1, "UE-RadioAccessCapability-v590ext");
-   /* physicalChannelCapability */
-   stat = asn1PE_UMTS_PhysicalChannelCapability_hspdsch_r5(ctx, &pvalue->physicalChannelCapability);
-   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapability-v590ext");
-   /* multiModeRAT-Capability-v590ext */
-   stat = asn1PE_UMTS_MultiModeRAT_Capability_v590ext(ctx, &pvalue->multiModeRAT_Capability_v590ext);
-   RT_CHECK(ctx, stat, 0, "multiModeRAT-Capability-v590ext", -1, "UE-RadioAccessCapability-v590ext");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v5c0ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v5c0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v5c0ext");
-   /* pdcp-Capability-r5-ext2 */
-   stat = asn1PE_UMTS_PDCP_Capability_r5_ext2(ctx, &pvalue->pdcp_Capability_r5_ext2);
-   RT_CHECK(ctx, stat, 0, "pdcp-Capability-r5-ext2", -1, "UE-RadioAccessCapability-v5c0ext");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RadioAccessCapability_v680ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v680ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v680ext");
-   /* multiModeRAT-Capability-v680ext */
-   stat = asn1PE_UMTS_MultiModeRAT_Capability_v680ext(ctx, &pvalue->multiModeRAT_Capability_v680ext);
-   RT_CHECK(ctx, stat, 0, "multiModeRAT-Capability-v680ext", -1, "UE-RadioAccessCapability-v680ext");
-   return 0;
-}
-
-int asn1PE_UMTS_UL_PhysChCapabilityFDD_r6(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityFDD_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-PhysChCapabilityFDD-r6");
-   /* maxNoDPDCH-BitsTransmitted */
-   if (pvalue->maxNoDPDCH_BitsTransmitted > 9) {
-      rtxErrAddUIntParm(ctx, pvalue->maxNoDPDCH_BitsTransmitted);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MaxNoDPDCH-BitsTransmitted", "maxNoDPDCH-BitsTransmitted", -1, "UL-PhysChCapabilityFDD-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxNoDPDCH_BitsTransmitted, 0, 9);
-   RT_CHECK(ctx, stat, "MaxNoDPDCH-BitsTransmitted", "maxNoDPDCH-BitsTransmitted", -1, "UL-PhysChCapabilityFDD-r6");
-   /* physicalchannelcapability-edch */
-   stat = asn1PE_UMTS_PhysicalChannelCapability_edch_r6(ctx, &pvalue->physicalchannelcapability_edch);
-   RT_CHECK(ctx, stat, 0, "physicalchannelcapability-edch", -1, "UL-PhysChCapabilityFDD-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_UL_SecondaryCellInfoFDD_newConfiguration(rtxContext* RT_RESTRICT ctx, const UL_SecondaryCellInfoFDD_newConfiguration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* secondaryServingEDCHCell-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SecondaryServingEDCHCell_Info(ctx, &pvalue->secondaryServingEDCHCell_Info);
-      RT_CHECK(ctx, stat, 0, "secondaryServingEDCHCell-Info", -1, 0);
-   }
-   /* secondaryEDCH-Info-Common */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_SecondaryEDCH_Info_Common(ctx, &pvalue->secondaryEDCH_Info_Common);
-      RT_CHECK(ctx, stat, 0, "secondaryEDCH-Info-Common", -1, 0);
-   }
-   /* dl-InformationPerSecondaryRL-List */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_DL_InformationPerSecondaryRL_List(ctx, &pvalue->dl_InformationPerSecondaryRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerSecondaryRL-List", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_SecondaryCellInfoFDD(rtxContext* RT_RESTRICT ctx, const UL_SecondaryCellInfoFDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-SecondaryCellInfoFDD");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UL-SecondaryCellInfoFDD");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-SecondaryCellInfoFDD");
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.newConfiguration == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "newConfiguration", -1, "UL-SecondaryCellInfoFDD");
-         stat = asn1PE_UMTS_UL_SecondaryCellInfoFDD_newConfiguration(ctx, pvalue->u.newConfiguration);
-         RT_CHECK(ctx, stat, 0, "newConfiguration", -1, "UL-SecondaryCellInfoFDD");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_SecurityInformation(rtxContext* RT_RESTRICT ctx, const UE_SecurityInformation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-SecurityInformation");
-   /* start-CS */
-   stat = asn1PE_UMTS_START_Value(ctx, pvalue->start_CS);
-   RT_CHECK(ctx, stat, 0, "start-CS", -1, "UE-SecurityInformation");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_SecurityInformation2(rtxContext* RT_RESTRICT ctx, const UE_SecurityInformation2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-SecurityInformation2");
-   /* start-PS */
-   stat = asn1PE_UMTS_START_Value(ctx, pvalue->start_PS);
-   RT_CHECK(ctx, stat, 0, "start-PS", -1, "UE-SecurityInformation2");
-   return 0;
-}
-
-int asn1PE_UMTS_URA_UpdateCause(rtxContext* RT_RESTRICT ctx, URA_UpdateCause value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "URA-UpdateCause");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "URA-UpdateCause");
-   return 0;
-}
-
-int asn1PE_UMTS_UTRAN_DRX_CycleLengthCoefficient(rtxContext* RT_RESTRICT ctx, UTRAN_DRX_CycleLengthCoefficient value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 3) > 6u) {
-      rtxErrAddStrParm(ctx, "UTRAN-DRX-CycleLengthCoefficient");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "UTRAN-DRX-CycleLengthCoefficient");
-   }
-   stat = pe_ConsUInt64(ctx, value, 3, 9);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UTRAN-DRX-CycleLengthCoefficient");
-   return 0;
-}
-
-int asn1PE_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(rtxContext* RT_RESTRICT ctx, const UTRAN_DRX_CycleLengthCoefficient_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UTRAN-DRX-CycleLengthCoefficient-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UTRAN-DRX-CycleLengthCoefficient-r7");
-   /* drx-CycleLengthCoefficient */
-   if ((uint64_t)(pvalue->drx_CycleLengthCoefficient - 3) > 6u) {
-      rtxErrAddStrParm(ctx, "drx-CycleLengthCoefficient");
-      rtxErrAddUIntParm(ctx, pvalue->drx_CycleLengthCoefficient);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "drx-CycleLengthCoefficient", -1, "UTRAN-DRX-CycleLengthCoefficient-r7");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->drx_CycleLengthCoefficient, 3, 9);
-   RT_CHECK(ctx, stat, 0, "drx-CycleLengthCoefficient", -1, "UTRAN-DRX-CycleLengthCoefficient-r7");
-   /* drx-CycleLengthCoefficient2 */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->drx_CycleLengthCoefficient2 - 3) > 6u) {
-         rtxErrAddStrParm(ctx, "drx-CycleLengthCoefficient2");
-         rtxErrAddUIntParm(ctx, pvalue->drx_CycleLengthCoefficient2);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "drx-CycleLengthCoefficient2", -1, "UTRAN-DRX-CycleLengthCoefficient-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->drx_CycleLengthCoefficient2, 3, 9);
-      RT_CHECK(ctx, stat, 0, "drx-CycleLengthCoefficient2", -1, "UTRAN-DRX-CycleLengthCoefficient-r7");
-   }
-   /* timeForDRXCycle2 */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->timeForDRXCycle2 > 6) {
-         rtxErrAddUIntParm(ctx, pvalue->timeForDRXCycle2);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "T-319", "timeForDRXCycle2", -1, "UTRAN-DRX-CycleLengthCoefficient-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->timeForDRXCycle2, 0, 6);
-      RT_CHECK(ctx, stat, "T-319", "timeForDRXCycle2", -1, "UTRAN-DRX-CycleLengthCoefficient-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_WaitTime(rtxContext* RT_RESTRICT ctx, WaitTime value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 15u) {
-      rtxErrAddStrParm(ctx, "WaitTime");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "WaitTime");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "WaitTime");
-   return 0;
-}
-
-int asn1PE_UMTS_ROHC_Profile_r4(rtxContext* RT_RESTRICT ctx, ROHC_Profile_r4 value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 2u) {
-      rtxErrAddStrParm(ctx, "ROHC-Profile-r4");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "ROHC-Profile-r4");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ROHC-Profile-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_ROHC_ProfileList_r4(rtxContext* RT_RESTRICT ctx, const ROHC_ProfileList_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ROHC-ProfileList-r4");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "ROHC-ProfileList-r4");
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)(pvalue->elem[i] - 1) > 2u) {
-         rtxErrAddStrParm(ctx, "ROHC-Profile-r4");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "ROHC-Profile-r4", "ROHC-Profile-r4", (int32_t)i, "ROHC-ProfileList-r4");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 1, 3);
-      RT_CHECK(ctx, stat, "ROHC-Profile-r4", "ROHC-Profile-r4", (int32_t)i, "ROHC-ProfileList-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CID_InclusionInfo_r4(rtxContext* RT_RESTRICT ctx, CID_InclusionInfo_r4 value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "CID-InclusionInfo-r4");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CID-InclusionInfo-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_ROHC_PacketSize_r4(rtxContext* RT_RESTRICT ctx, ROHC_PacketSize_r4 value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 2) > 1498u) {
-      rtxErrAddStrParm(ctx, "ROHC-PacketSize-r4");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "ROHC-PacketSize-r4");
-   }
-   stat = pe_ConsUInt64(ctx, value, 2, 1500);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ROHC-PacketSize-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_ROHC_PacketSizeList_r4(rtxContext* RT_RESTRICT ctx, const ROHC_PacketSizeList_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ROHC-PacketSizeList-r4");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "ROHC-PacketSizeList-r4");
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)(pvalue->elem[i] - 2) > 1498u) {
-         rtxErrAddStrParm(ctx, "ROHC-PacketSize-r4");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "ROHC-PacketSize-r4", "ROHC-PacketSize-r4", (int32_t)i, "ROHC-PacketSizeList-r4");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 2, 1500);
-      RT_CHECK(ctx, stat, "ROHC-PacketSize-r4", "ROHC-PacketSize-r4", (int32_t)i, "ROHC-PacketSizeList-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_RFC3095_r4(rtxContext* RT_RESTRICT ctx, const UL_RFC3095_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-RFC3095-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->max_CID != 15) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-RFC3095-r4");
-   /* dummy1 */
-   if (pvalue->dummy1 > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->dummy1);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "CID-InclusionInfo-r4", "dummy1", -1, "UL-RFC3095-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dummy1, 0, 1);
-   RT_CHECK(ctx, stat, "CID-InclusionInfo-r4", "dummy1", -1, "UL-RFC3095-r4");
-   /* max-CID */
-   if (pvalue->max_CID != 15) {
-      if ((uint64_t)(pvalue->max_CID - 1) > 16382u) {
-         rtxErrAddStrParm(ctx, "max-CID");
-         rtxErrAddUIntParm(ctx, pvalue->max_CID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "max-CID", -1, "UL-RFC3095-r4");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->max_CID, 1, 16383);
-      RT_CHECK(ctx, stat, 0, "max-CID", -1, "UL-RFC3095-r4");
-   }
-   /* dummy */
-   stat = asn1PE_UMTS_ROHC_PacketSizeList_r4(ctx, &pvalue->dummy);
-   RT_CHECK(ctx, stat, 0, "dummy", -1, "UL-RFC3095-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_RFC3095_r4(rtxContext* RT_RESTRICT ctx, const DL_RFC3095_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-RFC3095-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->max_CID != 15) << 1) |
-      ((uint64_t)(pvalue->reverseDecompressionDepth != 0) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-RFC3095-r4");
-   /* dummy */
-   if (pvalue->dummy > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->dummy);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "CID-InclusionInfo-r4", "dummy", -1, "DL-RFC3095-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dummy, 0, 1);
-   RT_CHECK(ctx, stat, "CID-InclusionInfo-r4", "dummy", -1, "DL-RFC3095-r4");
-   /* max-CID */
-   if (pvalue->max_CID != 15) {
-      if ((uint64_t)(pvalue->max_CID - 1) > 16382u) {
-         rtxErrAddStrParm(ctx, "max-CID");
-         rtxErrAddUIntParm(ctx, pvalue->max_CID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "max-CID", -1, "DL-RFC3095-r4");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->max_CID, 1, 16383);
-      RT_CHECK(ctx, stat, 0, "max-CID", -1, "DL-RFC3095-r4");
-   }
-   /* reverseDecompressionDepth */
-   if (pvalue->reverseDecompressionDepth != 0) {
-      stat = pe_ConsUInt64(ctx, pvalue->reverseDecompressionDepth, 0, 65535);
-      RT_CHECK(ctx, stat, 0, "reverseDecompressionDepth", -1, "DL-RFC3095-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RFC3095_Info_r4(rtxContext* RT_RESTRICT ctx, const RFC3095_Info_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RFC3095-Info-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RFC3095-Info-r4");
-   /* rohcProfileList */
-   stat = asn1PE_UMTS_ROHC_ProfileList_r4(ctx, &pvalue->rohcProfileList);
-   RT_CHECK(ctx, stat, 0, "rohcProfileList", -1, "RFC3095-Info-r4");
-   /* ul-RFC3095 */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UL_RFC3095_r4(ctx, &pvalue->ul_RFC3095);
-      RT_CHECK(ctx, stat, 0, "ul-RFC3095", -1, "RFC3095-Info-r4");
-   }
-   /* dl-RFC3095 */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DL_RFC3095_r4(ctx, &pvalue->dl_RFC3095);
-      RT_CHECK(ctx, stat, 0, "dl-RFC3095", -1, "RFC3095-Info-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AlgorithmSpecificInfo_r4(rtxContext* RT_RESTRICT ctx, const AlgorithmSpecificInfo_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AlgorithmSpecificInfo-r4");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "AlgorithmSpecificInfo-r4");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "AlgorithmSpecificInfo-r4");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.rfc2507_Info == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "rfc2507-Info", -1, "AlgorithmSpecificInfo-r4");
-         stat = asn1PE_UMTS_RFC2507_Info(ctx, pvalue->u.rfc2507_Info);
-         RT_CHECK(ctx, stat, 0, "rfc2507-Info", -1, "AlgorithmSpecificInfo-r4");
-         break;
-      case 2:
-         if (pvalue->u.rfc3095_Info == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "rfc3095-Info", -1, "AlgorithmSpecificInfo-r4");
-         stat = asn1PE_UMTS_RFC3095_Info_r4(ctx, pvalue->u.rfc3095_Info);
-         RT_CHECK(ctx, stat, 0, "rfc3095-Info", -1, "AlgorithmSpecificInfo-r4");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_COUNT_C(rtxContext* RT_RESTRICT ctx, COUNT_C value)
-{
-   int stat = 0;
-   stat = pe_ConsUInt64(ctx, value, 0, 4294967295ULL);
-   RT_CHECK(ctx, stat, 0, 0, -1, "COUNT-C");
-   return 0;
-}
-
-int asn1PE_UMTS_COUNT_C_MSB(rtxContext* RT_RESTRICT ctx, COUNT_C_MSB value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 33554431u) {
-      rtxErrAddStrParm(ctx, "COUNT-C-MSB");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "COUNT-C-MSB");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 33554431);
-   RT_CHECK(ctx, stat, 0, 0, -1, "COUNT-C-MSB");
-   return 0;
-}
-
-int asn1PE_UMTS_UL_AMR_Rate(rtxContext* RT_RESTRICT ctx, UL_AMR_Rate value)
-{
-   int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UL-AMR-Rate");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-AMR-Rate");
-   return 0;
-}
-
-int asn1PE_UMTS_MaxCS_Delay(rtxContext* RT_RESTRICT ctx, MaxCS_Delay value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 18u) {
-      rtxErrAddStrParm(ctx, "MaxCS-Delay");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MaxCS-Delay");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 18);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxCS-Delay");
-   return 0;
-}
-
-int asn1PE_UMTS_CS_HSPA_Information(rtxContext* RT_RESTRICT ctx, const CS_HSPA_Information* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CS-HSPA-Information");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CS-HSPA-Information");
-   /* ul-AMR-Rate */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->ul_AMR_Rate > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->ul_AMR_Rate);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "UL-AMR-Rate", "ul-AMR-Rate", -1, "CS-HSPA-Information");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ul_AMR_Rate, 0, 15);
-      RT_CHECK(ctx, stat, "UL-AMR-Rate", "ul-AMR-Rate", -1, "CS-HSPA-Information");
-   }
-   /* maxCS-Delay */
-   if ((uint64_t)pvalue->maxCS_Delay > 18u) {
-      rtxErrAddStrParm(ctx, "MaxCS-Delay");
-      rtxErrAddUIntParm(ctx, pvalue->maxCS_Delay);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxCS-Delay", "maxCS-Delay", -1, "CS-HSPA-Information");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxCS_Delay, 0, 18);
-   RT_CHECK(ctx, stat, "MaxCS-Delay", "maxCS-Delay", -1, "CS-HSPA-Information");
-   return 0;
-}
-
-int asn1PE_UMTS_DefaultConfigMode(rtxContext* RT_RESTRICT ctx, DefaultConfigMode value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "DefaultConfigMode");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DefaultConfigMode");
-   return 0;
-}
-
-int asn1PE_UMTS_DefaultConfigIdForCellFACH(rtxContext* RT_RESTRICT ctx, DefaultConfigIdForCellFACH value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 15u) {
-      rtxErrAddStrParm(ctx, "DefaultConfigIdForCellFACH");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DefaultConfigIdForCellFACH");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DefaultConfigIdForCellFACH");
-   return 0;
-}
-
-int asn1PE_UMTS_DefaultConfigForCellFACH(rtxContext* RT_RESTRICT ctx, const DefaultConfigForCellFACH* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DefaultConfigForCellFACH");
-   /* defaultConfigMode */
-   if (pvalue->defaultConfigMode > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->defaultConfigMode);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "DefaultConfigMode", "defaultConfigMode", -1, "DefaultConfigForCellFACH");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigMode, 0, 1);
-   RT_CHECK(ctx, stat, "DefaultConfigMode", "defaultConfigMode", -1, "DefaultConfigForCellFACH");
-   /* defaultConfigIdForCellFACH */
-   if ((uint64_t)pvalue->defaultConfigIdForCellFACH > 15u) {
-      rtxErrAddStrParm(ctx, "DefaultConfigIdForCellFACH");
-      rtxErrAddUIntParm(ctx, pvalue->defaultConfigIdForCellFACH);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "DefaultConfigIdForCellFACH", "defaultConfigIdForCellFACH", -1, "DefaultConfigForCellFACH");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->defaultConfigIdForCellFACH, 0, 15);
-   RT_CHECK(ctx, stat, "DefaultConfigIdForCellFACH", "defaultConfigIdForCellFACH", -1, "DefaultConfigForCellFACH");
-   return 0;
-}
-
-int asn1PE_UMTS_DefaultConfigIdentity(rtxContext* RT_RESTRICT ctx, DefaultConfigIdentity value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 10u) {
-      rtxErrAddStrParm(ctx, "DefaultConfigIdentity");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DefaultConfigIdentity");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 10);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DefaultConfigIdentity");
-   return 0;
-}
-
-int asn1PE_UMTS_DefaultConfigIdentity_r4(rtxContext* RT_RESTRICT ctx, DefaultConfigIdentity_r4 value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 12u) {
-      rtxErrAddStrParm(ctx, "DefaultConfigIdentity-r4");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DefaultConfigIdentity-r4");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 12);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DefaultConfigIdentity-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_DefaultConfigIdentity_r5(rtxContext* RT_RESTRICT ctx, DefaultConfigIdentity_r5 value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 13u) {
-      rtxErrAddStrParm(ctx, "DefaultConfigIdentity-r5");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DefaultConfigIdentity-r5");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 13);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DefaultConfigIdentity-r5");
-   return 0;
-}
-
-int asn1PE_UMTS_DefaultConfigIdentity_r6(rtxContext* RT_RESTRICT ctx, DefaultConfigIdentity_r6 value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 31u) {
-      rtxErrAddStrParm(ctx, "DefaultConfigIdentity-r6");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DefaultConfigIdentity-r6");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DefaultConfigIdentity-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_DDI(rtxContext* RT_RESTRICT ctx, DDI value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 62u) {
-      rtxErrAddStrParm(ctx, "DDI");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DDI");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 62);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DDI");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_AM_RLC_Mode_r5(rtxContext* RT_RESTRICT ctx, const DL_AM_RLC_Mode_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-AM-RLC-Mode-r5");
-   /* dl-RLC-PDU-size */
-   stat = asn1PE_UMTS_OctetModeRLC_SizeInfoType1(ctx, &pvalue->dl_RLC_PDU_size);
-   RT_CHECK(ctx, stat, 0, "dl-RLC-PDU-size", -1, "DL-AM-RLC-Mode-r5");
-   /* inSequenceDelivery */
-   stat = rtxEncBit(ctx, pvalue->inSequenceDelivery);
-   RT_CHECK(ctx, stat, 0, "inSequenceDelivery", -1, "DL-AM-RLC-Mode-r5");
-   /* receivingWindowSize */
-   if (pvalue->receivingWindowSize > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->receivingWindowSize);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ReceivingWindowSize", "receivingWindowSize", -1, "DL-AM-RLC-Mode-r5");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->receivingWindowSize, 0, 15);
-   RT_CHECK(ctx, stat, "ReceivingWindowSize", "receivingWindowSize", -1, "DL-AM-RLC-Mode-r5");
-   /* dl-RLC-StatusInfo */
-   stat = asn1PE_UMTS_DL_RLC_StatusInfo(ctx, &pvalue->dl_RLC_StatusInfo);
-   RT_CHECK(ctx, stat, 0, "dl-RLC-StatusInfo", -1, "DL-AM-RLC-Mode-r5");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_AM_RLC_Mode_r7_dl_RLC_PDU_size_flexibleSize(rtxContext* RT_RESTRICT ctx, DL_AM_RLC_Mode_r7_dl_RLC_PDU_size_flexibleSize value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_AM_RLC_Mode_r7_dl_RLC_PDU_size(rtxContext* RT_RESTRICT ctx, const DL_AM_RLC_Mode_r7_dl_RLC_PDU_size* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fixedSize == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fixedSize", -1, 0);
-         stat = asn1PE_UMTS_OctetModeRLC_SizeInfoType1(ctx, pvalue->u.fixedSize);
-         RT_CHECK(ctx, stat, 0, "fixedSize", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.flexibleSize > 1) {
-            rtxErrAddUIntParm(ctx, pvalue->u.flexibleSize);
-            RT_FAIL(ctx, RT_ERR_INVENUM, 0, "flexibleSize", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.flexibleSize, 0, 1);
-         RT_CHECK(ctx, stat, 0, "flexibleSize", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_AM_RLC_Mode_r7(rtxContext* RT_RESTRICT ctx, const DL_AM_RLC_Mode_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-AM-RLC-Mode-r7");
-   /* dl-RLC-PDU-size */
-   stat = asn1PE_UMTS_DL_AM_RLC_Mode_r7_dl_RLC_PDU_size(ctx, &pvalue->dl_RLC_PDU_size);
-   RT_CHECK(ctx, stat, 0, "dl-RLC-PDU-size", -1, "DL-AM-RLC-Mode-r7");
-   /* inSequenceDelivery */
-   stat = rtxEncBit(ctx, pvalue->inSequenceDelivery);
-   RT_CHECK(ctx, stat, 0, "inSequenceDelivery", -1, "DL-AM-RLC-Mode-r7");
-   /* receivingWindowSize */
-   if (pvalue->receivingWindowSize > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->receivingWindowSize);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ReceivingWindowSize", "receivingWindowSize", -1, "DL-AM-RLC-Mode-r7");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->receivingWindowSize, 0, 15);
-   RT_CHECK(ctx, stat, "ReceivingWindowSize", "receivingWindowSize", -1, "DL-AM-RLC-Mode-r7");
-   /* dl-RLC-StatusInfo */
-   stat = asn1PE_UMTS_DL_RLC_StatusInfo(ctx, &pvalue->dl_RLC_StatusInfo);
-   RT_CHECK(ctx, stat, 0, "dl-RLC-StatusInfo", -1, "DL-AM-RLC-Mode-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_PDCP_SN_Info(rtxContext* RT_RESTRICT ctx, PDCP_SN_Info value)
-{
-   int stat = 0;
-   stat = pe_ConsUInt64(ctx, value, 0, 65535);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDCP-SN-Info");
-   return 0;
-}
-
-int asn1PE_UMTS_RB_WithPDCP_Info(rtxContext* RT_RESTRICT ctx, const RB_WithPDCP_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-WithPDCP-Info");
-   /* rb-Identity */
-   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "RB-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-WithPDCP-Info");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-WithPDCP-Info");
-   /* pdcp-SN-Info */
-   stat = pe_ConsUInt64(ctx, pvalue->pdcp_SN_Info, 0, 65535);
-   RT_CHECK(ctx, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-WithPDCP-Info");
-   return 0;
-}
-
-int asn1PE_UMTS_RB_WithPDCP_InfoList(rtxContext* RT_RESTRICT ctx, const RB_WithPDCP_InfoList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-WithPDCP-InfoList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 27);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-WithPDCP-InfoList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-WithPDCP-Info", (int32_t)i, "RB-WithPDCP-InfoList");
-      stat = asn1PE_UMTS_RB_WithPDCP_Info(ctx, (const RB_WithPDCP_Info*)node->data);
-      RT_CHECK(ctx, stat, 0, "RB-WithPDCP-Info", (int32_t)i, "RB-WithPDCP-InfoList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CounterSynchronisationInfo(rtxContext* RT_RESTRICT ctx, const DL_CounterSynchronisationInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-CounterSynchronisationInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CounterSynchronisationInfo");
-   /* rB-WithPDCP-InfoList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RB_WithPDCP_InfoList(ctx, &pvalue->rB_WithPDCP_InfoList);
-      RT_CHECK(ctx, stat, 0, "rB-WithPDCP-InfoList", -1, "DL-CounterSynchronisationInfo");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RB_PDCPContextRelocation(rtxContext* RT_RESTRICT ctx, const RB_PDCPContextRelocation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-PDCPContextRelocation");
-   /* rb-Identity */
-   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "RB-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-PDCPContextRelocation");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-PDCPContextRelocation");
-   /* dl-RFC3095-Context-Relocation */
-   stat = rtxEncBit(ctx, pvalue->dl_RFC3095_Context_Relocation);
-   RT_CHECK(ctx, stat, 0, "dl-RFC3095-Context-Relocation", -1, "RB-PDCPContextRelocation");
-   /* ul-RFC3095-Context-Relocation */
-   stat = rtxEncBit(ctx, pvalue->ul_RFC3095_Context_Relocation);
-   RT_CHECK(ctx, stat, 0, "ul-RFC3095-Context-Relocation", -1, "RB-PDCPContextRelocation");
-   return 0;
-}
-
-int asn1PE_UMTS_RB_PDCPContextRelocationList(rtxContext* RT_RESTRICT ctx, const RB_PDCPContextRelocationList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-PDCPContextRelocationList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 27);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-PDCPContextRelocationList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-PDCPContextRelocation", (int32_t)i, "RB-PDCPContextRelocationList");
-      stat = asn1PE_UMTS_RB_PDCPContextRelocation(ctx, (const RB_PDCPContextRelocation*)node->data);
-      RT_CHECK(ctx, stat, 0, "RB-PDCPContextRelocation", (int32_t)i, "RB-PDCPContextRelocationList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CounterSynchronisationInfo_r5(rtxContext* RT_RESTRICT ctx, const DL_CounterSynchronisationInfo_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-CounterSynchronisationInfo-r5");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CounterSynchronisationInfo-r5");
-   /* rb-WithPDCP-InfoList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RB_WithPDCP_InfoList(ctx, &pvalue->rb_WithPDCP_InfoList);
-      RT_CHECK(ctx, stat, 0, "rb-WithPDCP-InfoList", -1, "DL-CounterSynchronisationInfo-r5");
-   }
-   /* rb-PDCPContextRelocationList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_RB_PDCPContextRelocationList(ctx, &pvalue->rb_PDCPContextRelocationList);
-      RT_CHECK(ctx, stat, 0, "rb-PDCPContextRelocationList", -1, "DL-CounterSynchronisationInfo-r5");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MAC_d_FlowIdentity(rtxContext* RT_RESTRICT ctx, MAC_d_FlowIdentity value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 7u) {
-      rtxErrAddStrParm(ctx, "MAC-d-FlowIdentity");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MAC-d-FlowIdentity");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-d-FlowIdentity");
-   return 0;
-}
-
-int asn1PE_UMTS_MAC_d_FlowIdentityDCHandHSDSCH(rtxContext* RT_RESTRICT ctx, const MAC_d_FlowIdentityDCHandHSDSCH* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MAC-d-FlowIdentityDCHandHSDSCH");
-   /* dch-transport-ch-id */
-   if ((uint64_t)(pvalue->dch_transport_ch_id - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->dch_transport_ch_id);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dch-transport-ch-id", -1, "MAC-d-FlowIdentityDCHandHSDSCH");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dch_transport_ch_id, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch-transport-ch-id", -1, "MAC-d-FlowIdentityDCHandHSDSCH");
-   /* hsdsch-mac-d-flow-id */
-   if ((uint64_t)pvalue->hsdsch_mac_d_flow_id > 7u) {
-      rtxErrAddStrParm(ctx, "MAC-d-FlowIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->hsdsch_mac_d_flow_id);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MAC-d-FlowIdentity", "hsdsch-mac-d-flow-id", -1, "MAC-d-FlowIdentityDCHandHSDSCH");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hsdsch_mac_d_flow_id, 0, 7);
-   RT_CHECK(ctx, stat, "MAC-d-FlowIdentity", "hsdsch-mac-d-flow-id", -1, "MAC-d-FlowIdentityDCHandHSDSCH");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_TransportChannelType_r5(rtxContext* RT_RESTRICT ctx, const DL_TransportChannelType_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-TransportChannelType-r5");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 5);
-   RT_CHECK(ctx, stat, 0, "t", -1, "DL-TransportChannelType-r5");
-   if (pvalue->t - 1 > 5) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-TransportChannelType-r5");
-   switch (pvalue->t) {
-      case 1:
-         if ((uint64_t)(pvalue->u.dch - 1) > 31u) {
-            rtxErrAddStrParm(ctx, "TransportChannelIdentity");
-            rtxErrAddUIntParm(ctx, pvalue->u.dch);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dch", -1, "DL-TransportChannelType-r5");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.dch, 1, 32);
-         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch", -1, "DL-TransportChannelType-r5");
-         break;
-      case 2:
-         break;
-      case 3:
-         if ((uint64_t)(pvalue->u.dsch - 1) > 31u) {
-            rtxErrAddStrParm(ctx, "TransportChannelIdentity");
-            rtxErrAddUIntParm(ctx, pvalue->u.dsch);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dsch", -1, "DL-TransportChannelType-r5");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.dsch, 1, 32);
-         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dsch", -1, "DL-TransportChannelType-r5");
-         break;
-      case 4:
-         if (pvalue->u.dch_and_dsch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dch-and-dsch", -1, "DL-TransportChannelType-r5");
-         stat = asn1PE_UMTS_TransportChannelIdentityDCHandDSCH(ctx, pvalue->u.dch_and_dsch);
-         RT_CHECK(ctx, stat, 0, "dch-and-dsch", -1, "DL-TransportChannelType-r5");
-         break;
-      case 5:
-         if ((uint64_t)pvalue->u.hsdsch > 7u) {
-            rtxErrAddStrParm(ctx, "MAC-d-FlowIdentity");
-            rtxErrAddUIntParm(ctx, pvalue->u.hsdsch);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "MAC-d-FlowIdentity", "hsdsch", -1, "DL-TransportChannelType-r5");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.hsdsch, 0, 7);
-         RT_CHECK(ctx, stat, "MAC-d-FlowIdentity", "hsdsch", -1, "DL-TransportChannelType-r5");
-         break;
-      case 6:
-         if (pvalue->u.dch_and_hsdsch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dch-and-hsdsch", -1, "DL-TransportChannelType-r5");
-         stat = asn1PE_UMTS_MAC_d_FlowIdentityDCHandHSDSCH(ctx, pvalue->u.dch_and_hsdsch);
-         RT_CHECK(ctx, stat, 0, "dch-and-hsdsch", -1, "DL-TransportChannelType-r5");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_LogicalChannelMapping_r5(rtxContext* RT_RESTRICT ctx, const DL_LogicalChannelMapping_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-LogicalChannelMapping-r5");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-LogicalChannelMapping-r5");
-   /* dl-TransportChannelType */
-   stat = asn1PE_UMTS_DL_TransportChannelType_r5(ctx, &pvalue->dl_TransportChannelType);
-   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-LogicalChannelMapping-r5");
-   /* logicalChannelIdentity */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->logicalChannelIdentity - 1) > 14u) {
-         rtxErrAddStrParm(ctx, "LogicalChannelIdentity");
-         rtxErrAddUIntParm(ctx, pvalue->logicalChannelIdentity);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "DL-LogicalChannelMapping-r5");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->logicalChannelIdentity, 1, 15);
-      RT_CHECK(ctx, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "DL-LogicalChannelMapping-r5");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_TransportChannelType_r7_hsdsch(rtxContext* RT_RESTRICT ctx, const DL_TransportChannelType_r7_hsdsch* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if ((uint64_t)pvalue->u.mac_hs > 7u) {
-            rtxErrAddStrParm(ctx, "MAC-d-FlowIdentity");
-            rtxErrAddUIntParm(ctx, pvalue->u.mac_hs);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "MAC-d-FlowIdentity", "mac-hs", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.mac_hs, 0, 7);
-         RT_CHECK(ctx, stat, "MAC-d-FlowIdentity", "mac-hs", -1, 0);
-         break;
-      case 2:
-         if ((uint64_t)pvalue->u.mac_ehs > 7u) {
-            rtxErrAddStrParm(ctx, "MAC-ehs-QueueId");
-            rtxErrAddUIntParm(ctx, pvalue->u.mac_ehs);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "MAC-ehs-QueueId", "mac-ehs", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.mac_ehs, 0, 7);
-         RT_CHECK(ctx, stat, "MAC-ehs-QueueId", "mac-ehs", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MAC_ehs_QueueIdDCHandHSDSCH(rtxContext* RT_RESTRICT ctx, const MAC_ehs_QueueIdDCHandHSDSCH* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MAC-ehs-QueueIdDCHandHSDSCH");
-   /* dch-transport-ch-id */
-   if ((uint64_t)(pvalue->dch_transport_ch_id - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->dch_transport_ch_id);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dch-transport-ch-id", -1, "MAC-ehs-QueueIdDCHandHSDSCH");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dch_transport_ch_id, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch-transport-ch-id", -1, "MAC-ehs-QueueIdDCHandHSDSCH");
-   /* hsdsch-mac-ehs-QueueId */
-   if ((uint64_t)pvalue->hsdsch_mac_ehs_QueueId > 7u) {
-      rtxErrAddStrParm(ctx, "MAC-ehs-QueueId");
-      rtxErrAddUIntParm(ctx, pvalue->hsdsch_mac_ehs_QueueId);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MAC-ehs-QueueId", "hsdsch-mac-ehs-QueueId", -1, "MAC-ehs-QueueIdDCHandHSDSCH");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hsdsch_mac_ehs_QueueId, 0, 7);
-   RT_CHECK(ctx, stat, "MAC-ehs-QueueId", "hsdsch-mac-ehs-QueueId", -1, "MAC-ehs-QueueIdDCHandHSDSCH");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_TransportChannelType_r7_dch_and_hsdsch(rtxContext* RT_RESTRICT ctx, const DL_TransportChannelType_r7_dch_and_hsdsch* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.mac_hs == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "mac-hs", -1, 0);
-         stat = asn1PE_UMTS_MAC_d_FlowIdentityDCHandHSDSCH(ctx, pvalue->u.mac_hs);
-         RT_CHECK(ctx, stat, 0, "mac-hs", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.mac_ehs == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "mac-ehs", -1, 0);
-         stat = asn1PE_UMTS_MAC_ehs_QueueIdDCHandHSDSCH(ctx, pvalue->u.mac_ehs);
-         RT_CHECK(ctx, stat, 0, "mac-ehs", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_TransportChannelType_r7(rtxContext* RT_RESTRICT ctx, const DL_TransportChannelType_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-TransportChannelType-r7");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 5);
-   RT_CHECK(ctx, stat, 0, "t", -1, "DL-TransportChannelType-r7");
-   if (pvalue->t - 1 > 5) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-TransportChannelType-r7");
-   switch (pvalue->t) {
-      case 1:
-         if ((uint64_t)(pvalue->u.dch - 1) > 31u) {
-            rtxErrAddStrParm(ctx, "TransportChannelIdentity");
-            rtxErrAddUIntParm(ctx, pvalue->u.dch);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dch", -1, "DL-TransportChannelType-r7");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.dch, 1, 32);
-         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch", -1, "DL-TransportChannelType-r7");
-         break;
-      case 2:
-         break;
-      case 3:
-         if ((uint64_t)(pvalue->u.dsch - 1) > 31u) {
-            rtxErrAddStrParm(ctx, "TransportChannelIdentity");
-            rtxErrAddUIntParm(ctx, pvalue->u.dsch);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dsch", -1, "DL-TransportChannelType-r7");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.dsch, 1, 32);
-         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dsch", -1, "DL-TransportChannelType-r7");
-         break;
-      case 4:
-         if (pvalue->u.dch_and_dsch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dch-and-dsch", -1, "DL-TransportChannelType-r7");
-         stat = asn1PE_UMTS_TransportChannelIdentityDCHandDSCH(ctx, pvalue->u.dch_and_dsch);
-         RT_CHECK(ctx, stat, 0, "dch-and-dsch", -1, "DL-TransportChannelType-r7");
-         break;
-      case 5:
-         if (pvalue->u.hsdsch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "hsdsch", -1, "DL-TransportChannelType-r7");
-         stat = asn1PE_UMTS_DL_TransportChannelType_r7_hsdsch(ctx, pvalue->u.hsdsch);
-         RT_CHECK(ctx, stat, 0, "hsdsch", -1, "DL-TransportChannelType-r7");
-         break;
-      case 6:
-         if (pvalue->u.dch_and_hsdsch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dch-and-hsdsch", -1, "DL-TransportChannelType-r7");
-         stat = asn1PE_UMTS_DL_TransportChannelType_r7_dch_and_hsdsch(ctx, pvalue->u.dch_and_hsdsch);
-         RT_CHECK(ctx, stat, 0, "dch-and-hsdsch", -1, "DL-TransportChannelType-r7");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_LogicalChannelMapping_r7(rtxContext* RT_RESTRICT ctx, const DL_LogicalChannelMapping_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-LogicalChannelMapping-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-LogicalChannelMapping-r7");
-   /* dl-TransportChannelType */
-   stat = asn1PE_UMTS_DL_TransportChannelType_r7(ctx, &pvalue->dl_TransportChannelType);
-   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-LogicalChannelMapping-r7");
-   /* logicalChannelIdentity */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->logicalChannelIdentity - 1) > 14u) {
-         rtxErrAddStrParm(ctx, "LogicalChannelIdentity");
-         rtxErrAddUIntParm(ctx, pvalue->logicalChannelIdentity);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "DL-LogicalChannelMapping-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->logicalChannelIdentity, 1, 15);
-      RT_CHECK(ctx, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "DL-LogicalChannelMapping-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_LogicalChannelMappingList_r5(rtxContext* RT_RESTRICT ctx, const DL_LogicalChannelMappingList_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-LogicalChannelMappingList-r5");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 2);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-LogicalChannelMappingList-r5");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-LogicalChannelMapping-r5", (int32_t)i, "DL-LogicalChannelMappingList-r5");
-      stat = asn1PE_UMTS_DL_LogicalChannelMapping_r5(ctx, (const DL_LogicalChannelMapping_r5*)node->data);
-      RT_CHECK(ctx, stat, 0, "DL-LogicalChannelMapping-r5", (int32_t)i, "DL-LogicalChannelMappingList-r5");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_LogicalChannelMappingList_r7(rtxContext* RT_RESTRICT ctx, const DL_LogicalChannelMappingList_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-LogicalChannelMappingList-r7");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 2);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-LogicalChannelMappingList-r7");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-LogicalChannelMapping-r7", (int32_t)i, "DL-LogicalChannelMappingList-r7");
-      stat = asn1PE_UMTS_DL_LogicalChannelMapping_r7(ctx, (const DL_LogicalChannelMapping_r7*)node->data);
-      RT_CHECK(ctx, stat, 0, "DL-LogicalChannelMapping-r7", (int32_t)i, "DL-LogicalChannelMappingList-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_Reception_Window_Size_r6(rtxContext* RT_RESTRICT ctx, DL_Reception_Window_Size_r6 value)
-{
-   int stat = 0;
-   if (value > 5) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "DL-Reception-Window-Size-r6");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-Reception-Window-Size-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_UM_RLC_Mode_r5(rtxContext* RT_RESTRICT ctx, const DL_UM_RLC_Mode_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-UM-RLC-Mode-r5");
-   /* dl-UM-RLC-LI-size */
-   if (pvalue->dl_UM_RLC_LI_size > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->dl_UM_RLC_LI_size);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "DL-UM-RLC-Mode-r5");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dl_UM_RLC_LI_size, 0, 1);
-   RT_CHECK(ctx, stat, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "DL-UM-RLC-Mode-r5");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_RLC_Mode_r5(rtxContext* RT_RESTRICT ctx, const DL_RLC_Mode_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-RLC-Mode-r5");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "DL-RLC-Mode-r5");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-RLC-Mode-r5");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.dl_AM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode-r5");
-         stat = asn1PE_UMTS_DL_AM_RLC_Mode_r5(ctx, pvalue->u.dl_AM_RLC_Mode);
-         RT_CHECK(ctx, stat, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode-r5");
-         break;
-      case 2:
-         if (pvalue->u.dl_UM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-UM-RLC-Mode", -1, "DL-RLC-Mode-r5");
-         stat = asn1PE_UMTS_DL_UM_RLC_Mode_r5(ctx, pvalue->u.dl_UM_RLC_Mode);
-         RT_CHECK(ctx, stat, 0, "dl-UM-RLC-Mode", -1, "DL-RLC-Mode-r5");
-         break;
-      case 3:
-         if (pvalue->u.dl_TM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode-r5");
-         stat = asn1PE_UMTS_DL_TM_RLC_Mode(ctx, pvalue->u.dl_TM_RLC_Mode);
-         RT_CHECK(ctx, stat, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode-r5");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_UM_RLC_Mode_r6(rtxContext* RT_RESTRICT ctx, const DL_UM_RLC_Mode_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-UM-RLC-Mode-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-UM-RLC-Mode-r6");
-   /* dl-UM-RLC-LI-size */
-   if (pvalue->dl_UM_RLC_LI_size > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->dl_UM_RLC_LI_size);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "DL-UM-RLC-Mode-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dl_UM_RLC_LI_size, 0, 1);
-   RT_CHECK(ctx, stat, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "DL-UM-RLC-Mode-r6");
-   /* dl-Reception-Window-Size */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->dl_Reception_Window_Size > 5) {
-         rtxErrAddUIntParm(ctx, pvalue->dl_Reception_Window_Size);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "DL-Reception-Window-Size-r6", "dl-Reception-Window-Size", -1, "DL-UM-RLC-Mode-r6");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dl_Reception_Window_Size, 0, 5);
-      RT_CHECK(ctx, stat, "DL-Reception-Window-Size-r6", "dl-Reception-Window-Size", -1, "DL-UM-RLC-Mode-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_RLC_Mode_r6(rtxContext* RT_RESTRICT ctx, const DL_RLC_Mode_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-RLC-Mode-r6");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "DL-RLC-Mode-r6");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-RLC-Mode-r6");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.dl_AM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode-r6");
-         stat = asn1PE_UMTS_DL_AM_RLC_Mode_r5(ctx, pvalue->u.dl_AM_RLC_Mode);
-         RT_CHECK(ctx, stat, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode-r6");
-         break;
-      case 2:
-         if (pvalue->u.dl_UM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-UM-RLC-Mode", -1, "DL-RLC-Mode-r6");
-         stat = asn1PE_UMTS_DL_UM_RLC_Mode_r6(ctx, pvalue->u.dl_UM_RLC_Mode);
-         RT_CHECK(ctx, stat, 0, "dl-UM-RLC-Mode", -1, "DL-RLC-Mode-r6");
-         break;
-      case 3:
-         if (pvalue->u.dl_TM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode-r6");
-         stat = asn1PE_UMTS_DL_TM_RLC_Mode(ctx, pvalue->u.dl_TM_RLC_Mode);
-         RT_CHECK(ctx, stat, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode-r6");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_RLC_Mode_r7(rtxContext* RT_RESTRICT ctx, const DL_RLC_Mode_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-RLC-Mode-r7");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "DL-RLC-Mode-r7");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-RLC-Mode-r7");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.dl_AM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode-r7");
-         stat = asn1PE_UMTS_DL_AM_RLC_Mode_r7(ctx, pvalue->u.dl_AM_RLC_Mode);
-         RT_CHECK(ctx, stat, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode-r7");
-         break;
-      case 2:
-         if (pvalue->u.dl_UM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-UM-RLC-Mode", -1, "DL-RLC-Mode-r7");
-         stat = asn1PE_UMTS_DL_UM_RLC_Mode_r6(ctx, pvalue->u.dl_UM_RLC_Mode);
-         RT_CHECK(ctx, stat, 0, "dl-UM-RLC-Mode", -1, "DL-RLC-Mode-r7");
-         break;
-      case 3:
-         if (pvalue->u.dl_TM_RLC_Mode == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode-r7");
-         stat = asn1PE_UMTS_DL_TM_RLC_Mode(ctx, pvalue->u.dl_TM_RLC_Mode);
-         RT_CHECK(ctx, stat, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode-r7");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HeaderCompressionInfo_r4(rtxContext* RT_RESTRICT ctx, const HeaderCompressionInfo_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HeaderCompressionInfo-r4");
-   /* algorithmSpecificInfo */
-   stat = asn1PE_UMTS_AlgorithmSpecificInfo_r4(ctx, &pvalue->algorithmSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "algorithmSpecificInfo", -1, "HeaderCompressionInfo-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_HeaderCompressionInfoList_r4(rtxContext* RT_RESTRICT ctx, const HeaderCompressionInfoList_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HeaderCompressionInfoList-r4");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "HeaderCompressionInfoList-r4");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "HeaderCompressionInfo-r4", (int32_t)i, "HeaderCompressionInfoList-r4");
-      stat = asn1PE_UMTS_HeaderCompressionInfo_r4(ctx, (const HeaderCompressionInfo_r4*)node->data);
-      RT_CHECK(ctx, stat, 0, "HeaderCompressionInfo-r4", (int32_t)i, "HeaderCompressionInfoList-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MAC_d_HFN_initial_value(rtxContext* RT_RESTRICT ctx, MAC_d_HFN_initial_value value)
-{
-   int stat = 0;
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &value, 24, 24);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-d-HFN-initial-value");
-   return 0;
-}
-
-int asn1PE_UMTS_PDCP_Info_r4(rtxContext* RT_RESTRICT ctx, const PDCP_Info_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDCP-Info-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDCP-Info-r4");
-   /* losslessSRNS-RelocSupport */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_LosslessSRNS_RelocSupport(ctx, &pvalue->losslessSRNS_RelocSupport);
-      RT_CHECK(ctx, stat, 0, "losslessSRNS-RelocSupport", -1, "PDCP-Info-r4");
-   }
-   /* pdcp-PDU-Header */
-   if (pvalue->pdcp_PDU_Header > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->pdcp_PDU_Header);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PDCP-PDU-Header", "pdcp-PDU-Header", -1, "PDCP-Info-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pdcp_PDU_Header, 0, 1);
-   RT_CHECK(ctx, stat, "PDCP-PDU-Header", "pdcp-PDU-Header", -1, "PDCP-Info-r4");
-   /* headerCompressionInfoList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_HeaderCompressionInfoList_r4(ctx, &pvalue->headerCompressionInfoList);
-      RT_CHECK(ctx, stat, 0, "headerCompressionInfoList", -1, "PDCP-Info-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDCP_InfoReconfig(rtxContext* RT_RESTRICT ctx, const PDCP_InfoReconfig* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDCP-InfoReconfig");
-   /* pdcp-Info */
-   stat = asn1PE_UMTS_PDCP_Info(ctx, &pvalue->pdcp_Info);
-   RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "PDCP-InfoReconfig");
-   /* dummy */
-   stat = pe_ConsUInt64(ctx, pvalue->dummy, 0, 65535);
-   RT_CHECK(ctx, stat, 0, "dummy", -1, "PDCP-InfoReconfig");
-   return 0;
-}
-
-int asn1PE_UMTS_PDCP_InfoReconfig_r4(rtxContext* RT_RESTRICT ctx, const PDCP_InfoReconfig_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDCP-InfoReconfig-r4");
-   /* pdcp-Info */
-   stat = asn1PE_UMTS_PDCP_Info_r4(ctx, &pvalue->pdcp_Info);
-   RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "PDCP-InfoReconfig-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_PDCP_ROHC_TargetMode(rtxContext* RT_RESTRICT ctx, PDCP_ROHC_TargetMode value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "PDCP-ROHC-TargetMode");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDCP-ROHC-TargetMode");
-   return 0;
-}
-
-int asn1PE_UMTS_PredefinedConfigStatusInfo_other(rtxContext* RT_RESTRICT ctx, const PredefinedConfigStatusInfo_other* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if ((uint64_t)pvalue->u.storedWithDifferentValueTag > 15u) {
-            rtxErrAddStrParm(ctx, "PredefinedConfigValueTag");
-            rtxErrAddUIntParm(ctx, pvalue->u.storedWithDifferentValueTag);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "PredefinedConfigValueTag", "storedWithDifferentValueTag", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.storedWithDifferentValueTag, 0, 15);
-         RT_CHECK(ctx, stat, "PredefinedConfigValueTag", "storedWithDifferentValueTag", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PredefinedConfigStatusInfo(rtxContext* RT_RESTRICT ctx, const PredefinedConfigStatusInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PredefinedConfigStatusInfo");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "PredefinedConfigStatusInfo");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PredefinedConfigStatusInfo");
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.other == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "other", -1, "PredefinedConfigStatusInfo");
-         stat = asn1PE_UMTS_PredefinedConfigStatusInfo_other(ctx, pvalue->u.other);
-         RT_CHECK(ctx, stat, 0, "other", -1, "PredefinedConfigStatusInfo");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PredefinedConfigStatusList(rtxContext* RT_RESTRICT ctx, const PredefinedConfigStatusList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PredefinedConfigStatusList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PredefinedConfigStatusList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PredefinedConfigStatusInfo", (int32_t)i, "PredefinedConfigStatusList");
-      stat = asn1PE_UMTS_PredefinedConfigStatusInfo(ctx, (const PredefinedConfigStatusInfo*)node->data);
-      RT_CHECK(ctx, stat, 0, "PredefinedConfigStatusInfo", (int32_t)i, "PredefinedConfigStatusList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PredefinedConfigValueTagList(rtxContext* RT_RESTRICT ctx, const PredefinedConfigValueTagList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PredefinedConfigValueTagList");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PredefinedConfigValueTagList");
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)pvalue->elem[i] > 15u) {
-         rtxErrAddStrParm(ctx, "PredefinedConfigValueTag");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "PredefinedConfigValueTag", "PredefinedConfigValueTag", (int32_t)i, "PredefinedConfigValueTagList");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 15);
-      RT_CHECK(ctx, stat, "PredefinedConfigValueTag", "PredefinedConfigValueTag", (int32_t)i, "PredefinedConfigValueTagList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PredefinedConfigSetWithDifferentValueTag(rtxContext* RT_RESTRICT ctx, const PredefinedConfigSetWithDifferentValueTag* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PredefinedConfigSetWithDifferentValueTag");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->startPosition != 0) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PredefinedConfigSetWithDifferentValueTag");
-   /* startPosition */
-   if (pvalue->startPosition != 0) {
-      if ((uint64_t)pvalue->startPosition > 10u) {
-         rtxErrAddStrParm(ctx, "startPosition");
-         rtxErrAddUIntParm(ctx, pvalue->startPosition);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "startPosition", -1, "PredefinedConfigSetWithDifferentValueTag");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->startPosition, 0, 10);
-      RT_CHECK(ctx, stat, 0, "startPosition", -1, "PredefinedConfigSetWithDifferentValueTag");
-   }
-   /* valueTagList */
-   stat = asn1PE_UMTS_PredefinedConfigValueTagList(ctx, &pvalue->valueTagList);
-   RT_CHECK(ctx, stat, 0, "valueTagList", -1, "PredefinedConfigSetWithDifferentValueTag");
-   return 0;
-}
-
-int asn1PE_UMTS_PredefinedConfigSetsWithDifferentValueTag(rtxContext* RT_RESTRICT ctx, const PredefinedConfigSetsWithDifferentValueTag* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PredefinedConfigSetsWithDifferentValueTag");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 2);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PredefinedConfigSetsWithDifferentValueTag");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PredefinedConfigSetWithDifferentValueTag", (int32_t)i, "PredefinedConfigSetsWithDifferentValueTag");
-      stat = asn1PE_UMTS_PredefinedConfigSetWithDifferentValueTag(ctx, (const PredefinedConfigSetWithDifferentValueTag*)node->data);
-      RT_CHECK(ctx, stat, 0, "PredefinedConfigSetWithDifferentValueTag", (int32_t)i, "PredefinedConfigSetsWithDifferentValueTag");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PredefinedConfigStatusListVarSz(rtxContext* RT_RESTRICT ctx, const PredefinedConfigStatusListVarSz* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PredefinedConfigStatusListVarSz");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PredefinedConfigStatusListVarSz");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PredefinedConfigStatusInfo", (int32_t)i, "PredefinedConfigStatusListVarSz");
-      stat = asn1PE_UMTS_PredefinedConfigStatusInfo(ctx, (const PredefinedConfigStatusInfo*)node->data);
-      RT_CHECK(ctx, stat, 0, "PredefinedConfigStatusInfo", (int32_t)i, "PredefinedConfigStatusListVarSz");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PredefinedConfigStatusListComp(rtxContext* RT_RESTRICT ctx, const PredefinedConfigStatusListComp* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PredefinedConfigStatusListComp");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PredefinedConfigStatusListComp");
-   /* setsWithDifferentValueTag */
-   stat = asn1PE_UMTS_PredefinedConfigSetsWithDifferentValueTag(ctx, &pvalue->setsWithDifferentValueTag);
-   RT_CHECK(ctx, stat, 0, "setsWithDifferentValueTag", -1, "PredefinedConfigStatusListComp");
-   /* otherEntries */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PredefinedConfigStatusListVarSz(ctx, &pvalue->otherEntries);
-      RT_CHECK(ctx, stat, 0, "otherEntries", -1, "PredefinedConfigStatusListComp");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RAB_Info(rtxContext* RT_RESTRICT ctx, const RAB_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-Info");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-Info");
-   /* rab-Identity */
-   stat = asn1PE_UMTS_RAB_Identity(ctx, &pvalue->rab_Identity);
-   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-Info");
-   /* cn-DomainIdentity */
-   if (pvalue->cn_DomainIdentity > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-Info");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-Info");
-   /* nas-Synchronisation-Indicator */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_NAS_Synchronisation_Indicator(ctx, pvalue->nas_Synchronisation_Indicator);
-      RT_CHECK(ctx, stat, 0, "nas-Synchronisation-Indicator", -1, "RAB-Info");
-   }
-   /* re-EstablishmentTimer */
-   if (pvalue->re_EstablishmentTimer > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->re_EstablishmentTimer);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "Re-EstablishmentTimer", "re-EstablishmentTimer", -1, "RAB-Info");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->re_EstablishmentTimer, 0, 1);
-   RT_CHECK(ctx, stat, "Re-EstablishmentTimer", "re-EstablishmentTimer", -1, "RAB-Info");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_SessionIdentity(rtxContext* RT_RESTRICT ctx, const MBMS_SessionIdentity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-SessionIdentity");
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-SessionIdentity");
-   return 0;
-}
-
-int asn1PE_UMTS_RAB_Info_r6_ext(rtxContext* RT_RESTRICT ctx, const RAB_Info_r6_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-Info-r6-ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-Info-r6-ext");
-   /* mbms-SessionIdentity */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MBMS_SessionIdentity(ctx, &pvalue->mbms_SessionIdentity);
-      RT_CHECK(ctx, stat, 0, "mbms-SessionIdentity", -1, "RAB-Info-r6-ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RAB_Info_v6b0ext_mbms_ServiceIdentity(rtxContext* RT_RESTRICT ctx, const RAB_Info_v6b0ext_mbms_ServiceIdentity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   RT_SET_SIZE(ctx, 3, 3);
-   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_RAB_Info_v6b0ext(rtxContext* RT_RESTRICT ctx, const RAB_Info_v6b0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-Info-v6b0ext");
-   /* mbms-ServiceIdentity */
-   stat = asn1PE_UMTS_RAB_Info_v6b0ext_mbms_ServiceIdentity(ctx, &pvalue->mbms_ServiceIdentity);
-   RT_CHECK(ctx, stat, 0, "mbms-ServiceIdentity", -1, "RAB-Info-v6b0ext");
-   return 0;
-}
-
-int asn1PE_UMTS_RAB_Info_r6(rtxContext* RT_RESTRICT ctx, const RAB_Info_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-Info-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-Info-r6");
-   /* rab-Identity */
-   stat = asn1PE_UMTS_RAB_Identity(ctx, &pvalue->rab_Identity);
-   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-Info-r6");
-   /* mbms-SessionIdentity */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MBMS_SessionIdentity(ctx, &pvalue->mbms_SessionIdentity);
-      RT_CHECK(ctx, stat, 0, "mbms-SessionIdentity", -1, "RAB-Info-r6");
-   }
-   /* cn-DomainIdentity */
-   if (pvalue->cn_DomainIdentity > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-Info-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-Info-r6");
-   /* nas-Synchronisation-Indicator */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_NAS_Synchronisation_Indicator(ctx, pvalue->nas_Synchronisation_Indicator);
-      RT_CHECK(ctx, stat, 0, "nas-Synchronisation-Indicator", -1, "RAB-Info-r6");
-   }
-   /* re-EstablishmentTimer */
-   if (pvalue->re_EstablishmentTimer > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->re_EstablishmentTimer);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "Re-EstablishmentTimer", "re-EstablishmentTimer", -1, "RAB-Info-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->re_EstablishmentTimer, 0, 1);
-   RT_CHECK(ctx, stat, "Re-EstablishmentTimer", "re-EstablishmentTimer", -1, "RAB-Info-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_RAB_Info_r7_mbms_ServiceIdentity(rtxContext* RT_RESTRICT ctx, const RAB_Info_r7_mbms_ServiceIdentity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   RT_SET_SIZE(ctx, 3, 3);
-   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_RAB_Info_r7(rtxContext* RT_RESTRICT ctx, const RAB_Info_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-Info-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-Info-r7");
-   /* rab-Identity */
-   stat = asn1PE_UMTS_RAB_Identity(ctx, &pvalue->rab_Identity);
-   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-Info-r7");
-   /* mbms-SessionIdentity */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MBMS_SessionIdentity(ctx, &pvalue->mbms_SessionIdentity);
-      RT_CHECK(ctx, stat, 0, "mbms-SessionIdentity", -1, "RAB-Info-r7");
-   }
-   /* mbms-ServiceIdentity */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_RAB_Info_r7_mbms_ServiceIdentity(ctx, &pvalue->mbms_ServiceIdentity);
-      RT_CHECK(ctx, stat, 0, "mbms-ServiceIdentity", -1, "RAB-Info-r7");
-   }
-   /* cn-DomainIdentity */
-   if (pvalue->cn_DomainIdentity > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-Info-r7");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-Info-r7");
-   /* nas-Synchronisation-Indicator */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_NAS_Synchronisation_Indicator(ctx, pvalue->nas_Synchronisation_Indicator);
-      RT_CHECK(ctx, stat, 0, "nas-Synchronisation-Indicator", -1, "RAB-Info-r7");
-   }
-   /* re-EstablishmentTimer */
-   if (pvalue->re_EstablishmentTimer > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->re_EstablishmentTimer);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "Re-EstablishmentTimer", "re-EstablishmentTimer", -1, "RAB-Info-r7");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->re_EstablishmentTimer, 0, 1);
-   RT_CHECK(ctx, stat, "Re-EstablishmentTimer", "re-EstablishmentTimer", -1, "RAB-Info-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_RAB_InformationList(rtxContext* RT_RESTRICT ctx, const RAB_InformationList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RAB-InformationList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RAB-Info", (int32_t)i, "RAB-InformationList");
-      stat = asn1PE_UMTS_RAB_Info(ctx, (const RAB_Info*)node->data);
-      RT_CHECK(ctx, stat, 0, "RAB-Info", (int32_t)i, "RAB-InformationList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RAB_InformationList_r6(rtxContext* RT_RESTRICT ctx, const RAB_InformationList_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationList-r6");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RAB-InformationList-r6");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RAB-Info-r6", (int32_t)i, "RAB-InformationList-r6");
-      stat = asn1PE_UMTS_RAB_Info_r6(ctx, (const RAB_Info_r6*)node->data);
-      RT_CHECK(ctx, stat, 0, "RAB-Info-r6", (int32_t)i, "RAB-InformationList-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RAB_InformationReconfig(rtxContext* RT_RESTRICT ctx, const RAB_InformationReconfig* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationReconfig");
-   /* rab-Identity */
-   stat = asn1PE_UMTS_RAB_Identity(ctx, &pvalue->rab_Identity);
-   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-InformationReconfig");
-   /* cn-DomainIdentity */
-   if (pvalue->cn_DomainIdentity > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-InformationReconfig");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-InformationReconfig");
-   /* nas-Synchronisation-Indicator */
-   stat = asn1PE_UMTS_NAS_Synchronisation_Indicator(ctx, pvalue->nas_Synchronisation_Indicator);
-   RT_CHECK(ctx, stat, 0, "nas-Synchronisation-Indicator", -1, "RAB-InformationReconfig");
-   return 0;
-}
-
-int asn1PE_UMTS_RAB_InformationReconfigList(rtxContext* RT_RESTRICT ctx, const RAB_InformationReconfigList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationReconfigList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RAB-InformationReconfigList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RAB-InformationReconfig", (int32_t)i, "RAB-InformationReconfigList");
-      stat = asn1PE_UMTS_RAB_InformationReconfig(ctx, (const RAB_InformationReconfig*)node->data);
-      RT_CHECK(ctx, stat, 0, "RAB-InformationReconfig", (int32_t)i, "RAB-InformationReconfigList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RAB_InformationReconfig_r8(rtxContext* RT_RESTRICT ctx, const RAB_InformationReconfig_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationReconfig-r8");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationReconfig-r8");
-   /* rab-Identity */
-   stat = asn1PE_UMTS_RAB_Identity(ctx, &pvalue->rab_Identity);
-   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-InformationReconfig-r8");
-   /* cn-DomainIdentity */
-   if (pvalue->cn_DomainIdentity > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-InformationReconfig-r8");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-InformationReconfig-r8");
-   /* nas-Synchronisation-Indicator */
-   stat = asn1PE_UMTS_NAS_Synchronisation_Indicator(ctx, pvalue->nas_Synchronisation_Indicator);
-   RT_CHECK(ctx, stat, 0, "nas-Synchronisation-Indicator", -1, "RAB-InformationReconfig-r8");
-   /* cs-HSPA-Information */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CS_HSPA_Information(ctx, &pvalue->cs_HSPA_Information);
-      RT_CHECK(ctx, stat, 0, "cs-HSPA-Information", -1, "RAB-InformationReconfig-r8");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RAB_InformationReconfigList_r8(rtxContext* RT_RESTRICT ctx, const RAB_InformationReconfigList_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationReconfigList-r8");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RAB-InformationReconfigList-r8");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RAB-InformationReconfig-r8", (int32_t)i, "RAB-InformationReconfigList-r8");
-      stat = asn1PE_UMTS_RAB_InformationReconfig_r8(ctx, (const RAB_InformationReconfig_r8*)node->data);
-      RT_CHECK(ctx, stat, 0, "RAB-InformationReconfig-r8", (int32_t)i, "RAB-InformationReconfigList-r8");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RAB_Info_Post(rtxContext* RT_RESTRICT ctx, const RAB_Info_Post* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-Info-Post");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-Info-Post");
-   /* rab-Identity */
-   stat = asn1PE_UMTS_RAB_Identity(ctx, &pvalue->rab_Identity);
-   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-Info-Post");
-   /* cn-DomainIdentity */
-   if (pvalue->cn_DomainIdentity > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-Info-Post");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cn_DomainIdentity, 0, 1);
-   RT_CHECK(ctx, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-Info-Post");
-   /* nas-Synchronisation-Indicator */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_NAS_Synchronisation_Indicator(ctx, pvalue->nas_Synchronisation_Indicator);
-      RT_CHECK(ctx, stat, 0, "nas-Synchronisation-Indicator", -1, "RAB-Info-Post");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RAB_InformationMBMSPtp_mbms_ServiceIdentity(rtxContext* RT_RESTRICT ctx, const RAB_InformationMBMSPtp_mbms_ServiceIdentity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   RT_SET_SIZE(ctx, 3, 3);
-   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_RAB_InformationMBMSPtp(rtxContext* RT_RESTRICT ctx, const RAB_InformationMBMSPtp* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationMBMSPtp");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationMBMSPtp");
-   /* rb-Identity */
-   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "RB-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RAB-InformationMBMSPtp");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RAB-InformationMBMSPtp");
-   /* mbms-ServiceIdentity */
-   stat = asn1PE_UMTS_RAB_InformationMBMSPtp_mbms_ServiceIdentity(ctx, &pvalue->mbms_ServiceIdentity);
-   RT_CHECK(ctx, stat, 0, "mbms-ServiceIdentity", -1, "RAB-InformationMBMSPtp");
-   /* mbms-SessionIdentity */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MBMS_SessionIdentity(ctx, &pvalue->mbms_SessionIdentity);
-      RT_CHECK(ctx, stat, 0, "mbms-SessionIdentity", -1, "RAB-InformationMBMSPtp");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RAB_InformationMBMSPtpList(rtxContext* RT_RESTRICT ctx, const RAB_InformationMBMSPtpList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationMBMSPtpList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RAB-InformationMBMSPtpList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RAB-InformationMBMSPtp", (int32_t)i, "RAB-InformationMBMSPtpList");
-      stat = asn1PE_UMTS_RAB_InformationMBMSPtp(ctx, (const RAB_InformationMBMSPtp*)node->data);
-      RT_CHECK(ctx, stat, 0, "RAB-InformationMBMSPtp", (int32_t)i, "RAB-InformationMBMSPtpList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RAB_InformationSetup(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetup");
-   /* rab-Info */
-   stat = asn1PE_UMTS_RAB_Info(ctx, &pvalue->rab_Info);
-   RT_CHECK(ctx, stat, 0, "rab-Info", -1, "RAB-InformationSetup");
-   /* rb-InformationSetupList */
-   stat = asn1PE_UMTS_RB_InformationSetupList(ctx, &pvalue->rb_InformationSetupList);
-   RT_CHECK(ctx, stat, 0, "rb-InformationSetupList", -1, "RAB-InformationSetup");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_ProtocolErrorMoreInformation_diagnosticsType_type1, pvalue);
 }
 

@@ -6,110 +6,414 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PE_UMTS_RB_InformationSetup_r4(rtxContext* RT_RESTRICT ctx, const RB_InformationSetup_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationSetup-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationSetup-r4");
-   /* rb-Identity */
-   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "RB-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r4");
-   /* pdcp-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PDCP_Info_r4(ctx, &pvalue->pdcp_Info);
-      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationSetup-r4");
-   }
-   /* rlc-InfoChoice */
-   stat = asn1PE_UMTS_RLC_InfoChoice(ctx, &pvalue->rlc_InfoChoice);
-   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "RB-InformationSetup-r4");
-   /* rb-MappingInfo */
-   stat = asn1PE_UMTS_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo);
-   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationSetup-r4");
-   return 0;
-}
+/* The bodies of this unit. */
+RT_MERGED_BODY int enc_ProtocolErrorMoreInformation_diagnosticsType(rtxContext* RT_RESTRICT ctx, const ProtocolErrorMoreInformation_diagnosticsType* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ProtocolErrorMoreInformation(rtxContext* RT_RESTRICT ctx, const ProtocolErrorMoreInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RadioFrequencyBandTDDList(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDDList value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RadioFrequencyBandTDDList_r7(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDDList_r7 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RadioFrequencyBandTDDext(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDDext value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RadioFrequencyBandTDDextList(rtxContext* RT_RESTRICT ctx, const RadioFrequencyBandTDDextList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Rb_timer_indicator(rtxContext* RT_RESTRICT ctx, const Rb_timer_indicator* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterRATInfo(rtxContext* RT_RESTRICT ctx, InterRATInfo value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RedirectionInfo(rtxContext* RT_RESTRICT ctx, const RedirectionInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GSM_TargetCellInfo(rtxContext* RT_RESTRICT ctx, const GSM_TargetCellInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GSM_TargetCellInfoList(rtxContext* RT_RESTRICT ctx, const GSM_TargetCellInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterRATInfo_r6(rtxContext* RT_RESTRICT ctx, const InterRATInfo_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RedirectionInfo_r6(rtxContext* RT_RESTRICT ctx, const RedirectionInfo_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EUTRA_PhysicalCellIdentity(rtxContext* RT_RESTRICT ctx, EUTRA_PhysicalCellIdentity value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EUTRA_BlacklistedCell(rtxContext* RT_RESTRICT ctx, const EUTRA_BlacklistedCell* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EUTRA_BlacklistedCellPerFreqList(rtxContext* RT_RESTRICT ctx, const EUTRA_BlacklistedCellPerFreqList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EUTRA_TargetFreqInfo(rtxContext* RT_RESTRICT ctx, const EUTRA_TargetFreqInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EUTRA_TargetFreqInfoList(rtxContext* RT_RESTRICT ctx, const EUTRA_TargetFreqInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterRATInfo_v860ext_eutra(rtxContext* RT_RESTRICT ctx, const InterRATInfo_v860ext_eutra* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterRATInfo_v860ext(rtxContext* RT_RESTRICT ctx, const InterRATInfo_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_RedirectionInfo_v860ext(rtxContext* RT_RESTRICT ctx, const RedirectionInfo_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RejectionCause(rtxContext* RT_RESTRICT ctx, RejectionCause value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_PowerClass(rtxContext* RT_RESTRICT ctx, UE_PowerClass value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TxRxFrequencySeparation(rtxContext* RT_RESTRICT ctx, TxRxFrequencySeparation value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RF_Capability_fddRF_Capability(rtxContext* RT_RESTRICT ctx, const RF_Capability_fddRF_Capability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RF_Capability_tddRF_Capability(rtxContext* RT_RESTRICT ctx, const RF_Capability_tddRF_Capability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RF_Capability(rtxContext* RT_RESTRICT ctx, const RF_Capability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RF_Capability_r4_ext_tddRF_Capability(rtxContext* RT_RESTRICT ctx, const RF_Capability_r4_ext_tddRF_Capability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RF_Capability_r4_ext(rtxContext* RT_RESTRICT ctx, const RF_Capability_r4_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RF_Capability_v770ext_tdd768RF_Capability(rtxContext* RT_RESTRICT ctx, const RF_Capability_v770ext_tdd768RF_Capability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RF_Capability_v770ext(rtxContext* RT_RESTRICT ctx, const RF_Capability_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RF_Capability_v860ext(rtxContext* RT_RESTRICT ctx, const RF_Capability_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TotalRLC_AM_BufferSize(rtxContext* RT_RESTRICT ctx, TotalRLC_AM_BufferSize value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RLC_Capability(rtxContext* RT_RESTRICT ctx, const RLC_Capability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TotalRLC_AM_BufferSize_r5_ext(rtxContext* RT_RESTRICT ctx, TotalRLC_AM_BufferSize_r5_ext value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RLC_Capability_r5_ext(rtxContext* RT_RESTRICT ctx, const RLC_Capability_r5_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RLC_Capability_v770ext(rtxContext* RT_RESTRICT ctx, const RLC_Capability_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TotalRLC_AM_BufferSize_v920ext(rtxContext* RT_RESTRICT ctx, TotalRLC_AM_BufferSize_v920ext value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RLC_Capability_v920ext(rtxContext* RT_RESTRICT ctx, const RLC_Capability_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RRC_StateIndicator(rtxContext* RT_RESTRICT ctx, RRC_StateIndicator value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_S_RNTI_2(rtxContext* RT_RESTRICT ctx, S_RNTI_2 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecurityCapability_cipheringAlgorithmCap(rtxContext* RT_RESTRICT ctx, SecurityCapability_cipheringAlgorithmCap value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecurityCapability_integrityProtectionAlgorithmCap(rtxContext* RT_RESTRICT ctx, SecurityCapability_integrityProtectionAlgorithmCap value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecurityCapability(rtxContext* RT_RESTRICT ctx, const SecurityCapability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecondaryServingEDCHCell_Info(rtxContext* RT_RESTRICT ctx, const SecondaryServingEDCHCell_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecondaryEDCH_Info_Common_servingGrant_primary_Secondary_GrantSelector(rtxContext* RT_RESTRICT ctx, SecondaryEDCH_Info_Common_servingGrant_primary_Secondary_GrantSelector value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecondaryEDCH_Info_Common_servingGrant(rtxContext* RT_RESTRICT ctx, const SecondaryEDCH_Info_Common_servingGrant* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PC_Preamble(rtxContext* RT_RESTRICT ctx, PC_Preamble value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecondaryEDCH_Info_Common(rtxContext* RT_RESTRICT ctx, const SecondaryEDCH_Info_Common* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HARQ_Preamble_Mode(rtxContext* RT_RESTRICT ctx, HARQ_Preamble_Mode value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SICH_Power_Control_Info_TDD384(rtxContext* RT_RESTRICT ctx, const HS_SICH_Power_Control_Info_TDD384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_TDD384_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD384_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SICH_Configuration_TDD384_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD384_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SICH_Configuration_TDD384(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_TDD384(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_TDD128_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD128_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SICH_Configuration_TDD128_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD128_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SICH_Configuration_TDD128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD128_tpc_step_size value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SICH_Configuration_TDD128(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_TDD128(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_HS_SCCH_Info_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Feedback_cycle(rtxContext* RT_RESTRICT ctx, Feedback_cycle value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Measurement_Feedback_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const Measurement_Feedback_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Measurement_Feedback_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const Measurement_Feedback_Info_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Measurement_Feedback_Info(rtxContext* RT_RESTRICT ctx, const Measurement_Feedback_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_DL_burstType_type1(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_burstType_type1* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_DL_burstType_type2(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_burstType_type2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_DL_burstType(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_burstType* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_DL(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_HSPDSCH_TS_Configuration_element(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_TS_Configuration_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_HSPDSCH_TS_Configuration(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_TS_Configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_HSPDSCH_Information(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Serving_HSDSCH_CellInformation_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_mac_hsResetIndicator value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Serving_HSDSCH_CellInformation(rtxContext* RT_RESTRICT ctx, const Serving_HSDSCH_CellInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_r7_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DHS_Sync(rtxContext* RT_RESTRICT ctx, DHS_Sync value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_TDD384_r6_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD384_r6_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_HS_SCCH_TDD384_r6(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD384_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SICH_Power_Control_Info_TDD768(rtxContext* RT_RESTRICT ctx, const HS_SICH_Power_Control_Info_TDD768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_TDD768_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD768_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SICH_Configuration_TDD768_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD768_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SICH_Configuration_TDD768(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_HS_SCCH_TDD768(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_tpc_step_size value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PowerControlGAP(rtxContext* RT_RESTRICT ctx, PowerControlGAP value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_HS_SCCH_Info_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_HS_SCCH_Info_r7(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_DL_VHCR_burstType_type1(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType_type1* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_DL_VHCR_burstType_type2(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType_type2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_DL_VHCR_burstType(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_DL_VHCR(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_VHCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_HSPDSCH_TS_Configuration_VHCR_element(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_TS_Configuration_VHCR_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_HSPDSCH_TS_Configuration_VHCR(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_TS_Configuration_VHCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_MultiCarrier_Information_tsn_Length(rtxContext* RT_RESTRICT ctx, DL_MultiCarrier_Information_tsn_Length value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_TDD128_MultiCarrier_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD128_MultiCarrier_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_TDD128_MultiCarrier(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD128_MultiCarrier* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_HSPDSCH_MultiCarrier_Information_element_hs_SCCH_TDD128_MultiCarrier(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_MultiCarrier_Information_element_hs_SCCH_TDD128_MultiCarrier* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_HSPDSCH_MultiCarrier_Information_element(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_MultiCarrier_Information_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_HSPDSCH_MultiCarrier_Information(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_MultiCarrier_Information* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_MultiCarrier_Information(rtxContext* RT_RESTRICT ctx, const DL_MultiCarrier_Information* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd_dl_64QAM_Configured value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r7_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_HSPDSCH_Information_r7(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HARQ_Info_r7_numberOfProcesses(rtxContext* RT_RESTRICT ctx, HARQ_Info_r7_numberOfProcesses value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HARQ_Info_r7_memoryPartitioning_explicit__memorySize(rtxContext* RT_RESTRICT ctx, const HARQ_Info_r7_memoryPartitioning_explicit__memorySize* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HARQ_Info_r7_memoryPartitioning_explicit__additionalMemorySizesForMIMO(rtxContext* RT_RESTRICT ctx, const HARQ_Info_r7_memoryPartitioning_explicit__additionalMemorySizesForMIMO* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HARQ_Info_r7_memoryPartitioning_explicit_(rtxContext* RT_RESTRICT ctx, const HARQ_Info_r7_memoryPartitioning_explicit_* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HARQ_Info_r7_memoryPartitioning(rtxContext* RT_RESTRICT ctx, const HARQ_Info_r7_memoryPartitioning* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HARQ_Info_r7(rtxContext* RT_RESTRICT ctx, const HARQ_Info_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Serving_HSDSCH_CellInformation_r7_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r7_mac_hsResetIndicator value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Serving_HSDSCH_CellInformation_r7(rtxContext* RT_RESTRICT ctx, const Serving_HSDSCH_CellInformation_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd_dl_64QAM_Configured value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_DSCH_TBSizeTable(rtxContext* RT_RESTRICT ctx, HS_DSCH_TBSizeTable value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_HSPDSCH_Information_r8(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Serving_HSDSCH_CellInformation_r8_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r8_mac_hsResetIndicator value, rtxEncCur* RT_RESTRICT cur);
+static int enc_Serving_HSDSCH_CellInformation_r8(rtxContext* RT_RESTRICT ctx, const Serving_HSDSCH_CellInformation_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_r9_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_tpc_step_size value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_HS_SCCH_Info_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_r9(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128_tS0_Indicator(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128_tS0_Indicator value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_OutofSyncWindow(rtxContext* RT_RESTRICT ctx, OutofSyncWindow value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd_dl_64QAM_Configured value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r9_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_HSPDSCH_Information_r9(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Serving_HSDSCH_CellInformation_r9_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r9_mac_hsResetIndicator value, rtxEncCur* RT_RESTRICT cur);
+static int enc_Serving_HSDSCH_CellInformation_r9(rtxContext* RT_RESTRICT ctx, const Serving_HSDSCH_CellInformation_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SR_VCC_Info_nonce(rtxContext* RT_RESTRICT ctx, const SR_VCC_Info_nonce* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SR_VCC_Info(rtxContext* RT_RESTRICT ctx, const SR_VCC_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RAB_InfoReplace(rtxContext* RT_RESTRICT ctx, const RAB_InfoReplace* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SR_VCC_SecurityRABInfo_v860ext(rtxContext* RT_RESTRICT ctx, const SR_VCC_SecurityRABInfo_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_START_Value(rtxContext* RT_RESTRICT ctx, START_Value value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_STARTSingle(rtxContext* RT_RESTRICT ctx, const STARTSingle* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_STARTList(rtxContext* RT_RESTRICT ctx, const STARTList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SystemSpecificCapUpdateReq_v590ext(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReq_v590ext value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_T_318(rtxContext* RT_RESTRICT ctx, T_318 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_T_319(rtxContext* RT_RESTRICT ctx, T_319 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_TransChCapability_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_TransChCapability_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_TransChCapability_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_TransChCapability_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_TransChCapability(rtxContext* RT_RESTRICT ctx, const UL_TransChCapability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_TransportChannelCapability(rtxContext* RT_RESTRICT ctx, const TransportChannelCapability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_U_RNTI_Short(rtxContext* RT_RESTRICT ctx, const U_RNTI_Short* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PhysicalChannelCapability_edch_r6_fdd_edch_supported(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_edch_r6_fdd_edch_supported* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PhysicalChannelCapability_edch_r6_fdd_edch(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_edch_r6_fdd_edch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PhysicalChannelCapability_edch_r6(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_edch_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v690ext_deviceType(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v690ext_deviceType value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v690ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v690ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterRAT_UE_RadioAccessCapability_v690ext_supportOfInter_RAT_PS_Handover(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapability_v690ext_supportOfInter_RAT_PS_Handover value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GSM_MS_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, const GSM_MS_RadioAccessCapability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterRAT_UE_RadioAccessCapability_v690ext(rtxContext* RT_RESTRICT ctx, const InterRAT_UE_RadioAccessCapability_v690ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v6b0ext_IEs_supportForSIB11bis(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v6b0ext_IEs_supportForSIB11bis value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v6b0ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v6e0ext_IEs_supportForFDPCH(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v6e0ext_IEs_supportForFDPCH value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v6e0ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v6e0ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_GANSSPositioning_Capability(rtxContext* RT_RESTRICT ctx, const UE_GANSSPositioning_Capability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_PositioningCapability_v770ext(rtxContext* RT_RESTRICT ctx, const UE_PositioningCapability_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v770ext_IEs_mac_ehsSupport(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v770ext_IEs_mac_ehsSupport value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_SpecificCapabilityInformation_LCRTDD(rtxContext* RT_RESTRICT ctx, UE_SpecificCapabilityInformation_LCRTDD value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v770ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v790ext_IEs_supportForEDPCCHPowerBoosting(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v790ext_IEs_supportForEDPCCHPowerBoosting value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v790ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v790ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_GANSSPositioning_Capability_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_GANSSPositioning_Capability_v860ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_PositioningCapability_v860ext(rtxContext* RT_RESTRICT ctx, const UE_PositioningCapability_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v860ext_IEs_supportOfCommonEDCH(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfCommonEDCH value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v860ext_IEs_supportOfMACiis(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfMACiis value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v860ext_IEs_supportOfSPSOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfSPSOperation value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v860ext_IEs_supportOfControlChannelDRXOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfControlChannelDRXOperation value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v860ext_IEs_supportOfCSG(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfCSG value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabBandFDD3(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDD3* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UE_RadioAccessCapabBandFDDList3(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDDList3* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UE_RadioAccessCapability_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v860ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EUTRA_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, const EUTRA_RadioAccessCapability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterRAT_UE_RadioAccessCapability_v860ext(rtxContext* RT_RESTRICT ctx, const InterRAT_UE_RadioAccessCapability_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v880ext_IEs_supportForPriorityReselectionInUTRAN(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v880ext_IEs_supportForPriorityReselectionInUTRAN value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v880ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v880ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v890ext_IEs_supportCellSpecificTxDiversityinDC_Operation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v890ext_IEs_supportCellSpecificTxDiversityinDC_Operation value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v890ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v890ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabBandCombList(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandCombList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v920ext_IEs_supportOfenhancedTS0(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v920ext_IEs_supportOfenhancedTS0 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v920ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v920ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UE_CapabilityContainer_IEs(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UE_ConnTimersAndConstants_r5(rtxContext* RT_RESTRICT ctx, const UE_ConnTimersAndConstants_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_HSPA_Identities_r6(rtxContext* RT_RESTRICT ctx, const UE_HSPA_Identities_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_MultiModeRAT_Capability(rtxContext* RT_RESTRICT ctx, const UE_MultiModeRAT_Capability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_PowerClassExt(rtxContext* RT_RESTRICT ctx, UE_PowerClassExt value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_Positioning_Capability(rtxContext* RT_RESTRICT ctx, const UE_Positioning_Capability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UE_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabBandFDD_fddRF_Capability(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDD_fddRF_Capability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabBandFDD(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UE_RadioAccessCapabBandFDDList(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDDList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v370ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v370ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityInfo(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_PositioningCapabilityExt_v380(rtxContext* RT_RESTRICT ctx, const UE_PositioningCapabilityExt_v380* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v380ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v380ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_PositioningCapabilityExt_v3a0_validity_CellPCH_UraPCH(rtxContext* RT_RESTRICT ctx, UE_PositioningCapabilityExt_v3a0_validity_CellPCH_UraPCH value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_PositioningCapabilityExt_v3a0(rtxContext* RT_RESTRICT ctx, const UE_PositioningCapabilityExt_v3a0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v3a0ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v3a0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_PositioningCapabilityExt_v3g0_sfn_sfnType2Capability(rtxContext* RT_RESTRICT ctx, UE_PositioningCapabilityExt_v3g0_sfn_sfnType2Capability value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_PositioningCapabilityExt_v3g0(rtxContext* RT_RESTRICT ctx, const UE_PositioningCapabilityExt_v3g0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v3g0ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v3g0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabBandFDD2_fddRF_Capability(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDD2_fddRF_Capability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabBandFDD2(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDD2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabBandFDDList2(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDDList2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabBandFDD_ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDD_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabBandFDDList_ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDDList_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UE_RadioAccessCapability_v650ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v650ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v7e0ext_supportForTwoDRXSchemesInPCH(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v7e0ext_supportForTwoDRXSchemesInPCH value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v7e0ext_supportEDPDCHPowerInterpolation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v7e0ext_supportEDPDCHPowerInterpolation value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v7e0ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v7e0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v7f0ext_supportofTxDivOnNonMIMOChannel(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v7f0ext_supportofTxDivOnNonMIMOChannel value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp_TDD128_v7f0ext_supportForCSVoiceoverHSPA(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_v7f0ext_supportForCSVoiceoverHSPA value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp_TDD128_v7f0ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp_TDD128_v7f0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UE_RadioAccessCapability_v7f0ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v7f0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityInfo_v770ext_ganssSupportIndication(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityInfo_v770ext_ganssSupportIndication value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityInfo_v770ext_mac_ehsSupport(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityInfo_v770ext_mac_ehsSupport value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityInfo_v770ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityInfo_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v860ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v880ext_supportForPriorityReselectionInUTRAN(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v880ext_supportForPriorityReselectionInUTRAN value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v880ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v880ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v890ext_supportCellSpecificTxDiversityinDC_Operation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v890ext_supportCellSpecificTxDiversityinDC_Operation value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v890ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v890ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v920ext_supportOfenhancedTS0(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v920ext_supportOfenhancedTS0 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v920ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v4b0ext_tdd_CapabilityExt(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v4b0ext_tdd_CapabilityExt* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UE_RadioAccessCapability_v4b0ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v4b0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RF_CapabBandFDDComp(rtxContext* RT_RESTRICT ctx, RF_CapabBandFDDComp value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RF_CapabBandListFDDComp(rtxContext* RT_RESTRICT ctx, const RF_CapabBandListFDDComp* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RF_CapabilityComp_fdd(rtxContext* RT_RESTRICT ctx, const RF_CapabilityComp_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RF_CapabilityComp_tdd384_RF_Capability(rtxContext* RT_RESTRICT ctx, const RF_CapabilityComp_tdd384_RF_Capability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RF_CapabilityComp_tdd128_RF_Capability(rtxContext* RT_RESTRICT ctx, const RF_CapabilityComp_tdd128_RF_Capability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RF_CapabilityComp(rtxContext* RT_RESTRICT ctx, const RF_CapabilityComp* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RF_CapabBandListFDDComp_ext(rtxContext* RT_RESTRICT ctx, const RF_CapabBandListFDDComp_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp_ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RF_CapabilityComp_v770ext_tdd768_RF_Capability(rtxContext* RT_RESTRICT ctx, const RF_CapabilityComp_v770ext_tdd768_RF_Capability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RF_CapabilityComp_v770ext(rtxContext* RT_RESTRICT ctx, const RF_CapabilityComp_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp_v770ext_securityCapabilityIndication(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_v770ext_securityCapabilityIndication value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp_v770ext_ganssSupportIndication(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_v770ext_ganssSupportIndication value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp_v770ext_mac_ehsSupport(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_v770ext_mac_ehsSupport value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp_v770ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp2_fddPhysicalChannelCapab_hspdsch_edch(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp2_fddPhysicalChannelCapab_hspdsch_edch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp2(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp2_v770ext_hsscchlessHsdschOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_hsscchlessHsdschOperation value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp2_v770ext_enhancedFdpch(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_enhancedFdpch value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellFach(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellFach value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellUraPch(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellUraPch value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp2_v770ext_discontinuousDpcchTransmission(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_discontinuousDpcchTransmission value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp2_v770ext_slotFormat4(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_slotFormat4 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp2_v770ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp2_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp2_v7f0ext_supportofTxDivOnNonMIMOChannel(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v7f0ext_supportofTxDivOnNonMIMOChannel value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp2_v7f0ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp2_v7f0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp2_v860ext_supportOfMACiis(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v860ext_supportOfMACiis value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp2_v860ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp2_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp2_v920ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp2_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp_TDD128_supportOfSFModeForHSPDSCHDualStream(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfSFModeForHSPDSCHDualStream value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp_TDD128_supportOfCommonEDCH(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfCommonEDCH value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp_TDD128_supportOfMACiis(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfMACiis value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp_TDD128_supportOfSPSOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfSPSOperation value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp_TDD128_supportOfControlChannelDRXOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfControlChannelDRXOperation value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp_TDD128(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UE_RadioAccessCapability_v590ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v590ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v5c0ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v5c0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v680ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v680ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_PhysChCapabilityFDD_r6(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityFDD_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UL_SecondaryCellInfoFDD_newConfiguration(rtxContext* RT_RESTRICT ctx, const UL_SecondaryCellInfoFDD_newConfiguration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_SecondaryCellInfoFDD(rtxContext* RT_RESTRICT ctx, const UL_SecondaryCellInfoFDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_SecurityInformation(rtxContext* RT_RESTRICT ctx, const UE_SecurityInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_SecurityInformation2(rtxContext* RT_RESTRICT ctx, const UE_SecurityInformation2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_URA_UpdateCause(rtxContext* RT_RESTRICT ctx, URA_UpdateCause value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UTRAN_DRX_CycleLengthCoefficient(rtxContext* RT_RESTRICT ctx, UTRAN_DRX_CycleLengthCoefficient value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UTRAN_DRX_CycleLengthCoefficient_r7(rtxContext* RT_RESTRICT ctx, const UTRAN_DRX_CycleLengthCoefficient_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_WaitTime(rtxContext* RT_RESTRICT ctx, WaitTime value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ROHC_Profile_r4(rtxContext* RT_RESTRICT ctx, ROHC_Profile_r4 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ROHC_ProfileList_r4(rtxContext* RT_RESTRICT ctx, const ROHC_ProfileList_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CID_InclusionInfo_r4(rtxContext* RT_RESTRICT ctx, CID_InclusionInfo_r4 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ROHC_PacketSize_r4(rtxContext* RT_RESTRICT ctx, ROHC_PacketSize_r4 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ROHC_PacketSizeList_r4(rtxContext* RT_RESTRICT ctx, const ROHC_PacketSizeList_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_RFC3095_r4(rtxContext* RT_RESTRICT ctx, const UL_RFC3095_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
 
-int asn1PE_UMTS_RB_InformationSetupList_r4(rtxContext* RT_RESTRICT ctx, const RB_InformationSetupList_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationSetupList-r4");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-InformationSetupList-r4");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-InformationSetup-r4", (int32_t)i, "RB-InformationSetupList-r4");
-      stat = asn1PE_UMTS_RB_InformationSetup_r4(ctx, (const RB_InformationSetup_r4*)node->data);
-      RT_CHECK(ctx, stat, 0, "RB-InformationSetup-r4", (int32_t)i, "RB-InformationSetupList-r4");
-   }
-   return 0;
-}
+/* Bodies held by other units. */
+RT_ENCODE_EXTERN(ProtocolErrorMoreInformation_diagnosticsType_type1)
+RT_ENCODE_EXTERN(FrequencyInfo)
+RT_ENCODE_EXTERN(BSIC)
+RT_ENCODE_EXTERN_VALUE(E_RNTI)
+RT_ENCODE_EXTERN(HS_PDSCH_Midamble_Configuration_TDD128)
+RT_ENCODE_EXTERN(PrimaryCPICH_Info)
+RT_ENCODE_EXTERN(HARQ_Info)
+RT_ENCODE_EXTERN(HS_SCCH_TDD128_r6)
+RT_ENCODE_EXTERN(Measurement_Feedback_Info_r7)
+RT_ENCODE_EXTERN(RAB_Identity)
+RT_ENCODE_EXTERN(TurboSupport)
+RT_ENCODE_EXTERN(DL_TransChCapability)
+RT_ENCODE_EXTERN_VALUE(SRNC_Identity)
+RT_ENCODE_EXTERN(NetworkAssistedGANSS_Supported_List)
+RT_ENCODE_EXTERN(PDCP_Capability_v770ext)
+RT_ENCODE_EXTERN(PhysicalChannelCapability_v770ext)
+RT_ENCODE_EXTERN(MultiModeRAT_Capability_v770ext)
+RT_ENCODE_EXTERN(NetworkAssistedGANSS_Supported_List_v860ext)
+RT_ENCODE_EXTERN(MeasurementCapabilityExt3)
+RT_ENCODE_EXTERN(PhysicalChannelCapability_v860ext)
+RT_ENCODE_EXTERN(MultiModeRAT_Capability_v860ext)
+RT_ENCODE_EXTERN(MeasurementCapability_v860ext)
+RT_ENCODE_EXTERN(MeasurementCapabilityTDD)
+RT_ENCODE_EXTERN(PhysicalChannelCapability_v920ext)
+RT_ENCODE_EXTERN(MeasurementCapability_v920ext)
+RT_ENCODE_EXTERN(CSG_ProximityIndicationCapability)
+RT_ENCODE_EXTERN(NeighCellSI_AcquisitionCapability)
+RT_ENCODE_EXTERN_VALUE(H_RNTI)
+RT_ENCODE_EXTERN(MultiRAT_Capability)
+RT_ENCODE_EXTERN(PDCP_Capability)
+RT_ENCODE_EXTERN(PhysicalChannelCapability)
+RT_ENCODE_EXTERN(MeasurementCapability)
+RT_ENCODE_EXTERN(MeasurementCapabilityExt)
+RT_ENCODE_EXTERN(MeasurementCapabilityExt2)
+RT_ENCODE_EXTERN(CompressedModeMeasCapabFDDList_ext)
+RT_ENCODE_EXTERN(PhysicalChannelCapability_LCR_r4)
+RT_ENCODE_EXTERN(PhysicalChannelCapabilityInfo_v770ext)
+RT_ENCODE_EXTERN(MeasurementCapability_r4_ext)
+RT_ENCODE_EXTERN(PDCP_Capability_r4_ext)
+RT_ENCODE_EXTERN(PDCP_Capability_r5_ext)
+RT_ENCODE_EXTERN(PhysicalChannelCapability_hspdsch_r5)
+RT_ENCODE_EXTERN(MultiModeRAT_Capability_v590ext)
+RT_ENCODE_EXTERN(PDCP_Capability_r5_ext2)
+RT_ENCODE_EXTERN(MultiModeRAT_Capability_v680ext)
+RT_ENCODE_EXTERN(DL_InformationPerSecondaryRL_List)
 
-int asn1PE_UMTS_RAB_InformationSetup_r4(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup_r4* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_ProtocolErrorMoreInformation_diagnosticsType(rtxContext* RT_RESTRICT ctx, const ProtocolErrorMoreInformation_diagnosticsType* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetup-r4");
-   /* rab-Info */
-   stat = asn1PE_UMTS_RAB_Info(ctx, &pvalue->rab_Info);
-   RT_CHECK(ctx, stat, 0, "rab-Info", -1, "RAB-InformationSetup-r4");
-   /* rb-InformationSetupList */
-   stat = asn1PE_UMTS_RB_InformationSetupList_r4(ctx, &pvalue->rb_InformationSetupList);
-   RT_CHECK(ctx, stat, 0, "rb-InformationSetupList", -1, "RAB-InformationSetup-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_RLC_Info_r5(rtxContext* RT_RESTRICT ctx, const RLC_Info_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-Info-r5");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-Info-r5");
-   /* ul-RLC-Mode */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UL_RLC_Mode(ctx, &pvalue->ul_RLC_Mode);
-      RT_CHECK(ctx, stat, 0, "ul-RLC-Mode", -1, "RLC-Info-r5");
-   }
-   /* dl-RLC-Mode */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DL_RLC_Mode_r5(ctx, &pvalue->dl_RLC_Mode);
-      RT_CHECK(ctx, stat, 0, "dl-RLC-Mode", -1, "RLC-Info-r5");
-   }
-   /* rlc-OneSidedReEst */
-   stat = rtxEncBit(ctx, pvalue->rlc_OneSidedReEst);
-   RT_CHECK(ctx, stat, 0, "rlc-OneSidedReEst", -1, "RLC-Info-r5");
-   return 0;
-}
-
-int asn1PE_UMTS_RLC_InfoChoice_r5(rtxContext* RT_RESTRICT ctx, const RLC_InfoChoice_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-InfoChoice-r5");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "RLC-InfoChoice-r5");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RLC-InfoChoice-r5");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.rlc_Info == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "rlc-Info", -1, "RLC-InfoChoice-r5");
-         stat = asn1PE_UMTS_RLC_Info_r5(ctx, pvalue->u.rlc_Info);
-         RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RLC-InfoChoice-r5");
+         if (pvalue->u.type1 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "type1", -1, 0);
+         stat = enc_ProtocolErrorMoreInformation_diagnosticsType_type1(ctx, pvalue->u.type1, cur);
+         RT_CHECK(ctx, stat, 0, "type1", -1, 0);
          break;
       case 2:
-         if ((uint64_t)(pvalue->u.same_as_RB - 1) > 31u) {
-            rtxErrAddStrParm(ctx, "RB-Identity");
-            rtxErrAddUIntParm(ctx, pvalue->u.same_as_RB);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "same-as-RB", -1, "RLC-InfoChoice-r5");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.same_as_RB, 1, 32);
-         RT_CHECK(ctx, stat, "RB-Identity", "same-as-RB", -1, "RLC-InfoChoice-r5");
          break;
       default:
          break;
@@ -117,4537 +421,156 @@ int asn1PE_UMTS_RLC_InfoChoice_r5(rtxContext* RT_RESTRICT ctx, const RLC_InfoCho
    return 0;
 }
 
-int asn1PE_UMTS_RB_MappingOption_r5(rtxContext* RT_RESTRICT ctx, const RB_MappingOption_r5* RT_RESTRICT pvalue)
+int asn1PE_UMTS_ProtocolErrorMoreInformation_diagnosticsType(rtxContext* RT_RESTRICT ctx, const ProtocolErrorMoreInformation_diagnosticsType* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-MappingOption-r5");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-MappingOption-r5");
-   /* ul-LogicalChannelMappings */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UL_LogicalChannelMappings(ctx, &pvalue->ul_LogicalChannelMappings);
-      RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMappings", -1, "RB-MappingOption-r5");
-   }
-   /* dl-LogicalChannelMappingList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DL_LogicalChannelMappingList_r5(ctx, &pvalue->dl_LogicalChannelMappingList);
-      RT_CHECK(ctx, stat, 0, "dl-LogicalChannelMappingList", -1, "RB-MappingOption-r5");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RB_MappingInfo_r5(rtxContext* RT_RESTRICT ctx, const RB_MappingInfo_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-MappingInfo-r5");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-MappingInfo-r5");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-MappingOption-r5", (int32_t)i, "RB-MappingInfo-r5");
-      stat = asn1PE_UMTS_RB_MappingOption_r5(ctx, (const RB_MappingOption_r5*)node->data);
-      RT_CHECK(ctx, stat, 0, "RB-MappingOption-r5", (int32_t)i, "RB-MappingInfo-r5");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RB_InformationSetup_r5(rtxContext* RT_RESTRICT ctx, const RB_InformationSetup_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationSetup-r5");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationSetup-r5");
-   /* rb-Identity */
-   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "RB-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r5");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r5");
-   /* pdcp-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PDCP_Info_r4(ctx, &pvalue->pdcp_Info);
-      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationSetup-r5");
-   }
-   /* rlc-InfoChoice */
-   stat = asn1PE_UMTS_RLC_InfoChoice_r5(ctx, &pvalue->rlc_InfoChoice);
-   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "RB-InformationSetup-r5");
-   /* rb-MappingInfo */
-   stat = asn1PE_UMTS_RB_MappingInfo_r5(ctx, &pvalue->rb_MappingInfo);
-   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationSetup-r5");
-   return 0;
-}
-
-int asn1PE_UMTS_RB_InformationSetupList_r5(rtxContext* RT_RESTRICT ctx, const RB_InformationSetupList_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationSetupList-r5");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-InformationSetupList-r5");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-InformationSetup-r5", (int32_t)i, "RB-InformationSetupList-r5");
-      stat = asn1PE_UMTS_RB_InformationSetup_r5(ctx, (const RB_InformationSetup_r5*)node->data);
-      RT_CHECK(ctx, stat, 0, "RB-InformationSetup-r5", (int32_t)i, "RB-InformationSetupList-r5");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RAB_InformationSetup_r5(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetup-r5");
-   /* rab-Info */
-   stat = asn1PE_UMTS_RAB_Info(ctx, &pvalue->rab_Info);
-   RT_CHECK(ctx, stat, 0, "rab-Info", -1, "RAB-InformationSetup-r5");
-   /* rb-InformationSetupList */
-   stat = asn1PE_UMTS_RB_InformationSetupList_r5(ctx, &pvalue->rb_InformationSetupList);
-   RT_CHECK(ctx, stat, 0, "rb-InformationSetupList", -1, "RAB-InformationSetup-r5");
-   return 0;
-}
-
-int asn1PE_UMTS_RAB_InformationSetup_r6_ext(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup_r6_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetup-r6-ext");
-   /* rab-Info-r6-ext */
-   stat = asn1PE_UMTS_RAB_Info_r6_ext(ctx, &pvalue->rab_Info_r6_ext);
-   RT_CHECK(ctx, stat, 0, "rab-Info-r6-ext", -1, "RAB-InformationSetup-r6-ext");
-   return 0;
-}
-
-int asn1PE_UMTS_RLC_Info_r6_altE_bitInterpretation(rtxContext* RT_RESTRICT ctx, RLC_Info_r6_altE_bitInterpretation value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_RLC_Info_r6(rtxContext* RT_RESTRICT ctx, const RLC_Info_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-Info-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-Info-r6");
-   /* ul-RLC-Mode */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UL_RLC_Mode(ctx, &pvalue->ul_RLC_Mode);
-      RT_CHECK(ctx, stat, 0, "ul-RLC-Mode", -1, "RLC-Info-r6");
-   }
-   /* dl-RLC-Mode */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DL_RLC_Mode_r6(ctx, &pvalue->dl_RLC_Mode);
-      RT_CHECK(ctx, stat, 0, "dl-RLC-Mode", -1, "RLC-Info-r6");
-   }
-   /* rlc-OneSidedReEst */
-   stat = rtxEncBit(ctx, pvalue->rlc_OneSidedReEst);
-   RT_CHECK(ctx, stat, 0, "rlc-OneSidedReEst", -1, "RLC-Info-r6");
-   /* altE-bitInterpretation */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->altE_bitInterpretation > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->altE_bitInterpretation);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "altE-bitInterpretation", -1, "RLC-Info-r6");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->altE_bitInterpretation, 0, 0);
-      RT_CHECK(ctx, stat, 0, "altE-bitInterpretation", -1, "RLC-Info-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RLC_InfoChoice_r6(rtxContext* RT_RESTRICT ctx, const RLC_InfoChoice_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-InfoChoice-r6");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "RLC-InfoChoice-r6");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RLC-InfoChoice-r6");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.rlc_Info == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "rlc-Info", -1, "RLC-InfoChoice-r6");
-         stat = asn1PE_UMTS_RLC_Info_r6(ctx, pvalue->u.rlc_Info);
-         RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RLC-InfoChoice-r6");
-         break;
-      case 2:
-         if ((uint64_t)(pvalue->u.same_as_RB - 1) > 31u) {
-            rtxErrAddStrParm(ctx, "RB-Identity");
-            rtxErrAddUIntParm(ctx, pvalue->u.same_as_RB);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "same-as-RB", -1, "RLC-InfoChoice-r6");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.same_as_RB, 1, 32);
-         RT_CHECK(ctx, stat, "RB-Identity", "same-as-RB", -1, "RLC-InfoChoice-r6");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch_rlc_SizeList(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch_rlc_SizeList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         break;
-      case 3:
-         if (pvalue->u.explicitList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "explicitList", -1, 0);
-         stat = asn1PE_UMTS_RLC_SizeExplicitList(ctx, pvalue->u.explicitList);
-         RT_CHECK(ctx, stat, 0, "explicitList", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-TransportChannelType */
-   stat = asn1PE_UMTS_UL_TransportChannelType(ctx, &pvalue->ul_TransportChannelType);
-   RT_CHECK(ctx, stat, 0, "ul-TransportChannelType", -1, 0);
-   /* logicalChannelIdentity */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->logicalChannelIdentity - 1) > 14u) {
-         rtxErrAddStrParm(ctx, "LogicalChannelIdentity");
-         rtxErrAddUIntParm(ctx, pvalue->logicalChannelIdentity);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "LogicalChannelIdentity", "logicalChannelIdentity", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->logicalChannelIdentity, 1, 15);
-      RT_CHECK(ctx, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, 0);
-   }
-   /* rlc-SizeList */
-   stat = asn1PE_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch_rlc_SizeList(ctx, &pvalue->rlc_SizeList);
-   RT_CHECK(ctx, stat, 0, "rlc-SizeList", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_RLC_PDU_Size(rtxContext* RT_RESTRICT ctx, const RLC_PDU_Size* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-PDU-Size");
-   stat = asn1PE_UMTS_OctetModeRLC_SizeInfoType1(ctx, pvalue);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-PDU-Size");
-   return 0;
-}
-
-int asn1PE_UMTS_RLC_PDU_SizeList(rtxContext* RT_RESTRICT ctx, const RLC_PDU_SizeList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-PDU-SizeList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RLC-PDU-SizeList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RLC-PDU-Size", (int32_t)i, "RLC-PDU-SizeList");
-      stat = asn1PE_UMTS_RLC_PDU_Size(ctx, (const RLC_PDU_Size*)node->data);
-      RT_CHECK(ctx, stat, 0, "RLC-PDU-Size", (int32_t)i, "RLC-PDU-SizeList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type_e_dch(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r6_ul_TrCH_Type_e_dch* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* logicalChannelIdentity */
-   if ((uint64_t)(pvalue->logicalChannelIdentity - 1) > 14u) {
-      rtxErrAddStrParm(ctx, "LogicalChannelIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->logicalChannelIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "LogicalChannelIdentity", "logicalChannelIdentity", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->logicalChannelIdentity, 1, 15);
-   RT_CHECK(ctx, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, 0);
-   /* e-DCH-MAC-d-FlowIdentity */
-   if ((uint64_t)pvalue->e_DCH_MAC_d_FlowIdentity > 7u) {
-      rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->e_DCH_MAC_d_FlowIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "E-DCH-MAC-d-FlowIdentity", "e-DCH-MAC-d-FlowIdentity", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->e_DCH_MAC_d_FlowIdentity, 0, 7);
-   RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowIdentity", "e-DCH-MAC-d-FlowIdentity", -1, 0);
-   /* ddi */
-   if ((uint64_t)pvalue->ddi > 62u) {
-      rtxErrAddStrParm(ctx, "DDI");
-      rtxErrAddUIntParm(ctx, pvalue->ddi);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "DDI", "ddi", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ddi, 0, 62);
-   RT_CHECK(ctx, stat, "DDI", "ddi", -1, 0);
-   /* rlc-PDU-SizeList */
-   stat = asn1PE_UMTS_RLC_PDU_SizeList(ctx, &pvalue->rlc_PDU_SizeList);
-   RT_CHECK(ctx, stat, 0, "rlc-PDU-SizeList", -1, 0);
-   /* includeInSchedulingInfo */
-   stat = rtxEncBit(ctx, pvalue->includeInSchedulingInfo);
-   RT_CHECK(ctx, stat, 0, "includeInSchedulingInfo", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r6_ul_TrCH_Type* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.dch_rach_usch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dch-rach-usch", -1, 0);
-         stat = asn1PE_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch(ctx, pvalue->u.dch_rach_usch);
-         RT_CHECK(ctx, stat, 0, "dch-rach-usch", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.e_dch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e-dch", -1, 0);
-         stat = asn1PE_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type_e_dch(ctx, pvalue->u.e_dch);
-         RT_CHECK(ctx, stat, 0, "e-dch", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_LogicalChannelMapping_r6(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-LogicalChannelMapping-r6");
-   /* ul-TrCH-Type */
-   stat = asn1PE_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type(ctx, &pvalue->ul_TrCH_Type);
-   RT_CHECK(ctx, stat, 0, "ul-TrCH-Type", -1, "UL-LogicalChannelMapping-r6");
-   /* mac-LogicalChannelPriority */
-   if ((uint64_t)(pvalue->mac_LogicalChannelPriority - 1) > 7u) {
-      rtxErrAddStrParm(ctx, "MAC-LogicalChannelPriority");
-      rtxErrAddUIntParm(ctx, pvalue->mac_LogicalChannelPriority);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MAC-LogicalChannelPriority", "mac-LogicalChannelPriority", -1, "UL-LogicalChannelMapping-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mac_LogicalChannelPriority, 1, 8);
-   RT_CHECK(ctx, stat, "MAC-LogicalChannelPriority", "mac-LogicalChannelPriority", -1, "UL-LogicalChannelMapping-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_UL_LogicalChannelMappingList_r6_ul_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappingList_r6_ul_LogicalChannelMapping* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 2, 2);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UL-LogicalChannelMapping-r6", (int32_t)i, 0);
-      stat = asn1PE_UMTS_UL_LogicalChannelMapping_r6(ctx, (const UL_LogicalChannelMapping_r6*)node->data);
-      RT_CHECK(ctx, stat, 0, "UL-LogicalChannelMapping-r6", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_LogicalChannelMappingList_r6(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappingList_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-LogicalChannelMappingList-r6");
-   /* rlc-LogicalChannelMappingIndicator */
-   stat = rtxEncBit(ctx, pvalue->rlc_LogicalChannelMappingIndicator);
-   RT_CHECK(ctx, stat, 0, "rlc-LogicalChannelMappingIndicator", -1, "UL-LogicalChannelMappingList-r6");
-   /* ul-LogicalChannelMapping */
-   stat = asn1PE_UMTS_UL_LogicalChannelMappingList_r6_ul_LogicalChannelMapping(ctx, &pvalue->ul_LogicalChannelMapping);
-   RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMapping", -1, "UL-LogicalChannelMappingList-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_UL_LogicalChannelMappings_r6(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappings_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-LogicalChannelMappings-r6");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UL-LogicalChannelMappings-r6");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-LogicalChannelMappings-r6");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.oneLogicalChannel == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "oneLogicalChannel", -1, "UL-LogicalChannelMappings-r6");
-         stat = asn1PE_UMTS_UL_LogicalChannelMapping_r6(ctx, pvalue->u.oneLogicalChannel);
-         RT_CHECK(ctx, stat, 0, "oneLogicalChannel", -1, "UL-LogicalChannelMappings-r6");
-         break;
-      case 2:
-         if (pvalue->u.twoLogicalChannels == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "twoLogicalChannels", -1, "UL-LogicalChannelMappings-r6");
-         stat = asn1PE_UMTS_UL_LogicalChannelMappingList_r6(ctx, pvalue->u.twoLogicalChannels);
-         RT_CHECK(ctx, stat, 0, "twoLogicalChannels", -1, "UL-LogicalChannelMappings-r6");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RB_MappingOption_r6(rtxContext* RT_RESTRICT ctx, const RB_MappingOption_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-MappingOption-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-MappingOption-r6");
-   /* ul-LogicalChannelMappings */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UL_LogicalChannelMappings_r6(ctx, &pvalue->ul_LogicalChannelMappings);
-      RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMappings", -1, "RB-MappingOption-r6");
-   }
-   /* dl-LogicalChannelMappingList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DL_LogicalChannelMappingList_r5(ctx, &pvalue->dl_LogicalChannelMappingList);
-      RT_CHECK(ctx, stat, 0, "dl-LogicalChannelMappingList", -1, "RB-MappingOption-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RB_MappingInfo_r6(rtxContext* RT_RESTRICT ctx, const RB_MappingInfo_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-MappingInfo-r6");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-MappingInfo-r6");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-MappingOption-r6", (int32_t)i, "RB-MappingInfo-r6");
-      stat = asn1PE_UMTS_RB_MappingOption_r6(ctx, (const RB_MappingOption_r6*)node->data);
-      RT_CHECK(ctx, stat, 0, "RB-MappingOption-r6", (int32_t)i, "RB-MappingInfo-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RB_InformationSetup_r6(rtxContext* RT_RESTRICT ctx, const RB_InformationSetup_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationSetup-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationSetup-r6");
-   /* rb-Identity */
-   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "RB-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r6");
-   /* pdcp-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PDCP_Info_r4(ctx, &pvalue->pdcp_Info);
-      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationSetup-r6");
-   }
-   /* rlc-InfoChoice */
-   stat = asn1PE_UMTS_RLC_InfoChoice_r6(ctx, &pvalue->rlc_InfoChoice);
-   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "RB-InformationSetup-r6");
-   /* rb-MappingInfo */
-   stat = asn1PE_UMTS_RB_MappingInfo_r6(ctx, &pvalue->rb_MappingInfo);
-   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationSetup-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_RB_InformationSetupList_r6(rtxContext* RT_RESTRICT ctx, const RB_InformationSetupList_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationSetupList-r6");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-InformationSetupList-r6");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-InformationSetup-r6", (int32_t)i, "RB-InformationSetupList-r6");
-      stat = asn1PE_UMTS_RB_InformationSetup_r6(ctx, (const RB_InformationSetup_r6*)node->data);
-      RT_CHECK(ctx, stat, 0, "RB-InformationSetup-r6", (int32_t)i, "RB-InformationSetupList-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RAB_InformationSetup_r6(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetup-r6");
-   /* rab-Info */
-   stat = asn1PE_UMTS_RAB_Info_r6(ctx, &pvalue->rab_Info);
-   RT_CHECK(ctx, stat, 0, "rab-Info", -1, "RAB-InformationSetup-r6");
-   /* rb-InformationSetupList */
-   stat = asn1PE_UMTS_RB_InformationSetupList_r6(ctx, &pvalue->rb_InformationSetupList);
-   RT_CHECK(ctx, stat, 0, "rb-InformationSetupList", -1, "RAB-InformationSetup-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_RAB_InformationSetup_v6b0ext(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup_v6b0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetup-v6b0ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationSetup-v6b0ext");
-   /* rab-Info-v6b0ext */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RAB_Info_v6b0ext(ctx, &pvalue->rab_Info_v6b0ext);
-      RT_CHECK(ctx, stat, 0, "rab-Info-v6b0ext", -1, "RAB-InformationSetup-v6b0ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RLC_Info_r7_altE_bitInterpretation(rtxContext* RT_RESTRICT ctx, RLC_Info_r7_altE_bitInterpretation value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_RLC_Info_r7_useSpecialValueOfHEField(rtxContext* RT_RESTRICT ctx, RLC_Info_r7_useSpecialValueOfHEField value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_RLC_Info_r7(rtxContext* RT_RESTRICT ctx, const RLC_Info_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-Info-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-Info-r7");
-   /* ul-RLC-Mode */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UL_RLC_Mode(ctx, &pvalue->ul_RLC_Mode);
-      RT_CHECK(ctx, stat, 0, "ul-RLC-Mode", -1, "RLC-Info-r7");
-   }
-   /* dl-RLC-Mode */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DL_RLC_Mode_r7(ctx, &pvalue->dl_RLC_Mode);
-      RT_CHECK(ctx, stat, 0, "dl-RLC-Mode", -1, "RLC-Info-r7");
-   }
-   /* rlc-OneSidedReEst */
-   stat = rtxEncBit(ctx, pvalue->rlc_OneSidedReEst);
-   RT_CHECK(ctx, stat, 0, "rlc-OneSidedReEst", -1, "RLC-Info-r7");
-   /* altE-bitInterpretation */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->altE_bitInterpretation > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->altE_bitInterpretation);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "altE-bitInterpretation", -1, "RLC-Info-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->altE_bitInterpretation, 0, 0);
-      RT_CHECK(ctx, stat, 0, "altE-bitInterpretation", -1, "RLC-Info-r7");
-   }
-   /* useSpecialValueOfHEField */
-   if (pvalue->m & 0x8u) {
-      if (pvalue->useSpecialValueOfHEField > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->useSpecialValueOfHEField);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "useSpecialValueOfHEField", -1, "RLC-Info-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->useSpecialValueOfHEField, 0, 0);
-      RT_CHECK(ctx, stat, 0, "useSpecialValueOfHEField", -1, "RLC-Info-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RLC_InfoChoice_r7(rtxContext* RT_RESTRICT ctx, const RLC_InfoChoice_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-InfoChoice-r7");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "RLC-InfoChoice-r7");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RLC-InfoChoice-r7");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.rlc_Info == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "rlc-Info", -1, "RLC-InfoChoice-r7");
-         stat = asn1PE_UMTS_RLC_Info_r7(ctx, pvalue->u.rlc_Info);
-         RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RLC-InfoChoice-r7");
-         break;
-      case 2:
-         if ((uint64_t)(pvalue->u.same_as_RB - 1) > 31u) {
-            rtxErrAddStrParm(ctx, "RB-Identity");
-            rtxErrAddUIntParm(ctx, pvalue->u.same_as_RB);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "same-as-RB", -1, "RLC-InfoChoice-r7");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.same_as_RB, 1, 32);
-         RT_CHECK(ctx, stat, "RB-Identity", "same-as-RB", -1, "RLC-InfoChoice-r7");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RB_MappingOption_r7(rtxContext* RT_RESTRICT ctx, const RB_MappingOption_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-MappingOption-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-MappingOption-r7");
-   /* ul-LogicalChannelMappings */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UL_LogicalChannelMappings_r6(ctx, &pvalue->ul_LogicalChannelMappings);
-      RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMappings", -1, "RB-MappingOption-r7");
-   }
-   /* dl-LogicalChannelMappingList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DL_LogicalChannelMappingList_r7(ctx, &pvalue->dl_LogicalChannelMappingList);
-      RT_CHECK(ctx, stat, 0, "dl-LogicalChannelMappingList", -1, "RB-MappingOption-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RB_MappingInfo_r7(rtxContext* RT_RESTRICT ctx, const RB_MappingInfo_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-MappingInfo-r7");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-MappingInfo-r7");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-MappingOption-r7", (int32_t)i, "RB-MappingInfo-r7");
-      stat = asn1PE_UMTS_RB_MappingOption_r7(ctx, (const RB_MappingOption_r7*)node->data);
-      RT_CHECK(ctx, stat, 0, "RB-MappingOption-r7", (int32_t)i, "RB-MappingInfo-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RB_InformationSetup_r7(rtxContext* RT_RESTRICT ctx, const RB_InformationSetup_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationSetup-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationSetup-r7");
-   /* rb-Identity */
-   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "RB-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r7");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r7");
-   /* pdcp-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PDCP_Info_r4(ctx, &pvalue->pdcp_Info);
-      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationSetup-r7");
-   }
-   /* rlc-InfoChoice */
-   stat = asn1PE_UMTS_RLC_InfoChoice_r7(ctx, &pvalue->rlc_InfoChoice);
-   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "RB-InformationSetup-r7");
-   /* rb-MappingInfo */
-   stat = asn1PE_UMTS_RB_MappingInfo_r7(ctx, &pvalue->rb_MappingInfo);
-   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationSetup-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_RB_InformationSetupList_r7(rtxContext* RT_RESTRICT ctx, const RB_InformationSetupList_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationSetupList-r7");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-InformationSetupList-r7");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-InformationSetup-r7", (int32_t)i, "RB-InformationSetupList-r7");
-      stat = asn1PE_UMTS_RB_InformationSetup_r7(ctx, (const RB_InformationSetup_r7*)node->data);
-      RT_CHECK(ctx, stat, 0, "RB-InformationSetup-r7", (int32_t)i, "RB-InformationSetupList-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RAB_InformationSetup_r7(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetup-r7");
-   /* rab-Info */
-   stat = asn1PE_UMTS_RAB_Info_r7(ctx, &pvalue->rab_Info);
-   RT_CHECK(ctx, stat, 0, "rab-Info", -1, "RAB-InformationSetup-r7");
-   /* rb-InformationSetupList */
-   stat = asn1PE_UMTS_RB_InformationSetupList_r7(ctx, &pvalue->rb_InformationSetupList);
-   RT_CHECK(ctx, stat, 0, "rb-InformationSetupList", -1, "RAB-InformationSetup-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch_rlc_SizeList(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch_rlc_SizeList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         break;
-      case 3:
-         if (pvalue->u.explicitList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "explicitList", -1, 0);
-         stat = asn1PE_UMTS_RLC_SizeExplicitList(ctx, pvalue->u.explicitList);
-         RT_CHECK(ctx, stat, 0, "explicitList", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-TransportChannelType */
-   stat = asn1PE_UMTS_UL_TransportChannelType(ctx, &pvalue->ul_TransportChannelType);
-   RT_CHECK(ctx, stat, 0, "ul-TransportChannelType", -1, 0);
-   /* logicalChannelIdentity */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->logicalChannelIdentity - 1) > 14u) {
-         rtxErrAddStrParm(ctx, "LogicalChannelIdentity");
-         rtxErrAddUIntParm(ctx, pvalue->logicalChannelIdentity);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "LogicalChannelIdentity", "logicalChannelIdentity", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->logicalChannelIdentity, 1, 15);
-      RT_CHECK(ctx, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, 0);
-   }
-   /* rlc-SizeList */
-   stat = asn1PE_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch_rlc_SizeList(ctx, &pvalue->rlc_SizeList);
-   RT_CHECK(ctx, stat, 0, "rlc-SizeList", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size_fixedSize(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size_fixedSize* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* ddi */
-   if ((uint64_t)pvalue->ddi > 62u) {
-      rtxErrAddStrParm(ctx, "DDI");
-      rtxErrAddUIntParm(ctx, pvalue->ddi);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "DDI", "ddi", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ddi, 0, 62);
-   RT_CHECK(ctx, stat, "DDI", "ddi", -1, 0);
-   /* rlc-PDU-SizeList */
-   stat = asn1PE_UMTS_RLC_PDU_SizeList(ctx, &pvalue->rlc_PDU_SizeList);
-   RT_CHECK(ctx, stat, 0, "rlc-PDU-SizeList", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_RLC_PDU_SizeConstraint_lengthIndicatorSize(rtxContext* RT_RESTRICT ctx, RLC_PDU_SizeConstraint_lengthIndicatorSize value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_RLC_PDU_SizeConstraint(rtxContext* RT_RESTRICT ctx, const RLC_PDU_SizeConstraint* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-PDU-SizeConstraint");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-PDU-SizeConstraint");
-   /* lengthIndicatorSize */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->lengthIndicatorSize > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->lengthIndicatorSize);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "lengthIndicatorSize", -1, "RLC-PDU-SizeConstraint");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->lengthIndicatorSize, 0, 1);
-      RT_CHECK(ctx, stat, 0, "lengthIndicatorSize", -1, "RLC-PDU-SizeConstraint");
-   }
-   /* minRLC-PDU-Size */
-   if ((uint64_t)pvalue->minRLC_PDU_Size > 1503u) {
-      rtxErrAddStrParm(ctx, "minRLC-PDU-Size");
-      rtxErrAddUIntParm(ctx, pvalue->minRLC_PDU_Size);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "minRLC-PDU-Size", -1, "RLC-PDU-SizeConstraint");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->minRLC_PDU_Size, 0, 1503);
-   RT_CHECK(ctx, stat, 0, "minRLC-PDU-Size", -1, "RLC-PDU-SizeConstraint");
-   /* largestRLC-PDU-Size */
-   if ((uint64_t)pvalue->largestRLC_PDU_Size > 1503u) {
-      rtxErrAddStrParm(ctx, "largestRLC-PDU-Size");
-      rtxErrAddUIntParm(ctx, pvalue->largestRLC_PDU_Size);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "largestRLC-PDU-Size", -1, "RLC-PDU-SizeConstraint");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->largestRLC_PDU_Size, 0, 1503);
-   RT_CHECK(ctx, stat, 0, "largestRLC-PDU-Size", -1, "RLC-PDU-SizeConstraint");
-   return 0;
-}
-
-int asn1PE_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fixedSize == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fixedSize", -1, 0);
-         stat = asn1PE_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size_fixedSize(ctx, pvalue->u.fixedSize);
-         RT_CHECK(ctx, stat, 0, "fixedSize", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.flexibleSize == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "flexibleSize", -1, 0);
-         stat = asn1PE_UMTS_RLC_PDU_SizeConstraint(ctx, pvalue->u.flexibleSize);
-         RT_CHECK(ctx, stat, 0, "flexibleSize", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* logicalChannelIdentity */
-   if ((uint64_t)(pvalue->logicalChannelIdentity - 1) > 14u) {
-      rtxErrAddStrParm(ctx, "LogicalChannelIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->logicalChannelIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "LogicalChannelIdentity", "logicalChannelIdentity", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->logicalChannelIdentity, 1, 15);
-   RT_CHECK(ctx, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, 0);
-   /* e-DCH-MAC-d-FlowIdentity */
-   if ((uint64_t)pvalue->e_DCH_MAC_d_FlowIdentity > 7u) {
-      rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->e_DCH_MAC_d_FlowIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "E-DCH-MAC-d-FlowIdentity", "e-DCH-MAC-d-FlowIdentity", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->e_DCH_MAC_d_FlowIdentity, 0, 7);
-   RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowIdentity", "e-DCH-MAC-d-FlowIdentity", -1, 0);
-   /* rlc-PDU-Size */
-   stat = asn1PE_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size(ctx, &pvalue->rlc_PDU_Size);
-   RT_CHECK(ctx, stat, 0, "rlc-PDU-Size", -1, 0);
-   /* includeInSchedulingInfo */
-   stat = rtxEncBit(ctx, pvalue->includeInSchedulingInfo);
-   RT_CHECK(ctx, stat, 0, "includeInSchedulingInfo", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r8_ul_TrCH_Type* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.dch_rach_usch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dch-rach-usch", -1, 0);
-         stat = asn1PE_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch(ctx, pvalue->u.dch_rach_usch);
-         RT_CHECK(ctx, stat, 0, "dch-rach-usch", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.e_dch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e-dch", -1, 0);
-         stat = asn1PE_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch(ctx, pvalue->u.e_dch);
-         RT_CHECK(ctx, stat, 0, "e-dch", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_LogicalChannelMapping_r8(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-LogicalChannelMapping-r8");
-   /* ul-TrCH-Type */
-   stat = asn1PE_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type(ctx, &pvalue->ul_TrCH_Type);
-   RT_CHECK(ctx, stat, 0, "ul-TrCH-Type", -1, "UL-LogicalChannelMapping-r8");
-   /* mac-LogicalChannelPriority */
-   if ((uint64_t)(pvalue->mac_LogicalChannelPriority - 1) > 7u) {
-      rtxErrAddStrParm(ctx, "MAC-LogicalChannelPriority");
-      rtxErrAddUIntParm(ctx, pvalue->mac_LogicalChannelPriority);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MAC-LogicalChannelPriority", "mac-LogicalChannelPriority", -1, "UL-LogicalChannelMapping-r8");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mac_LogicalChannelPriority, 1, 8);
-   RT_CHECK(ctx, stat, "MAC-LogicalChannelPriority", "mac-LogicalChannelPriority", -1, "UL-LogicalChannelMapping-r8");
-   return 0;
-}
-
-int asn1PE_UMTS_UL_LogicalChannelMappingList_r8_ul_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappingList_r8_ul_LogicalChannelMapping* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 2, 2);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UL-LogicalChannelMapping-r8", (int32_t)i, 0);
-      stat = asn1PE_UMTS_UL_LogicalChannelMapping_r8(ctx, (const UL_LogicalChannelMapping_r8*)node->data);
-      RT_CHECK(ctx, stat, 0, "UL-LogicalChannelMapping-r8", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_LogicalChannelMappingList_r8(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappingList_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-LogicalChannelMappingList-r8");
-   /* rlc-LogicalChannelMappingIndicator */
-   stat = rtxEncBit(ctx, pvalue->rlc_LogicalChannelMappingIndicator);
-   RT_CHECK(ctx, stat, 0, "rlc-LogicalChannelMappingIndicator", -1, "UL-LogicalChannelMappingList-r8");
-   /* ul-LogicalChannelMapping */
-   stat = asn1PE_UMTS_UL_LogicalChannelMappingList_r8_ul_LogicalChannelMapping(ctx, &pvalue->ul_LogicalChannelMapping);
-   RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMapping", -1, "UL-LogicalChannelMappingList-r8");
-   return 0;
-}
-
-int asn1PE_UMTS_UL_LogicalChannelMappings_r8(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappings_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-LogicalChannelMappings-r8");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UL-LogicalChannelMappings-r8");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-LogicalChannelMappings-r8");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.oneLogicalChannel == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "oneLogicalChannel", -1, "UL-LogicalChannelMappings-r8");
-         stat = asn1PE_UMTS_UL_LogicalChannelMapping_r8(ctx, pvalue->u.oneLogicalChannel);
-         RT_CHECK(ctx, stat, 0, "oneLogicalChannel", -1, "UL-LogicalChannelMappings-r8");
-         break;
-      case 2:
-         if (pvalue->u.twoLogicalChannels == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "twoLogicalChannels", -1, "UL-LogicalChannelMappings-r8");
-         stat = asn1PE_UMTS_UL_LogicalChannelMappingList_r8(ctx, pvalue->u.twoLogicalChannels);
-         RT_CHECK(ctx, stat, 0, "twoLogicalChannels", -1, "UL-LogicalChannelMappings-r8");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RB_MappingOption_r8(rtxContext* RT_RESTRICT ctx, const RB_MappingOption_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-MappingOption-r8");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-MappingOption-r8");
-   /* ul-LogicalChannelMappings */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UL_LogicalChannelMappings_r8(ctx, &pvalue->ul_LogicalChannelMappings);
-      RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMappings", -1, "RB-MappingOption-r8");
-   }
-   /* dl-LogicalChannelMappingList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DL_LogicalChannelMappingList_r7(ctx, &pvalue->dl_LogicalChannelMappingList);
-      RT_CHECK(ctx, stat, 0, "dl-LogicalChannelMappingList", -1, "RB-MappingOption-r8");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RB_MappingInfo_r8(rtxContext* RT_RESTRICT ctx, const RB_MappingInfo_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-MappingInfo-r8");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-MappingInfo-r8");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-MappingOption-r8", (int32_t)i, "RB-MappingInfo-r8");
-      stat = asn1PE_UMTS_RB_MappingOption_r8(ctx, (const RB_MappingOption_r8*)node->data);
-      RT_CHECK(ctx, stat, 0, "RB-MappingOption-r8", (int32_t)i, "RB-MappingInfo-r8");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RB_InformationSetup_r8(rtxContext* RT_RESTRICT ctx, const RB_InformationSetup_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationSetup-r8");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationSetup-r8");
-   /* rb-Identity */
-   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "RB-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r8");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r8");
-   /* pdcp-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PDCP_Info_r4(ctx, &pvalue->pdcp_Info);
-      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationSetup-r8");
-   }
-   /* rlc-InfoChoice */
-   stat = asn1PE_UMTS_RLC_InfoChoice_r7(ctx, &pvalue->rlc_InfoChoice);
-   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "RB-InformationSetup-r8");
-   /* rb-MappingInfo */
-   stat = asn1PE_UMTS_RB_MappingInfo_r8(ctx, &pvalue->rb_MappingInfo);
-   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationSetup-r8");
-   return 0;
-}
-
-int asn1PE_UMTS_RB_InformationSetupList_r8(rtxContext* RT_RESTRICT ctx, const RB_InformationSetupList_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationSetupList-r8");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-InformationSetupList-r8");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-InformationSetup-r8", (int32_t)i, "RB-InformationSetupList-r8");
-      stat = asn1PE_UMTS_RB_InformationSetup_r8(ctx, (const RB_InformationSetup_r8*)node->data);
-      RT_CHECK(ctx, stat, 0, "RB-InformationSetup-r8", (int32_t)i, "RB-InformationSetupList-r8");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RAB_InformationSetup_r8(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetup-r8");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationSetup-r8");
-   /* rab-Info */
-   stat = asn1PE_UMTS_RAB_Info_r7(ctx, &pvalue->rab_Info);
-   RT_CHECK(ctx, stat, 0, "rab-Info", -1, "RAB-InformationSetup-r8");
-   /* cs-HSPA-Information */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CS_HSPA_Information(ctx, &pvalue->cs_HSPA_Information);
-      RT_CHECK(ctx, stat, 0, "cs-HSPA-Information", -1, "RAB-InformationSetup-r8");
-   }
-   /* rab-InfoReplace */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_RAB_InfoReplace(ctx, &pvalue->rab_InfoReplace);
-      RT_CHECK(ctx, stat, 0, "rab-InfoReplace", -1, "RAB-InformationSetup-r8");
-   }
-   /* rb-InformationSetupList */
-   stat = asn1PE_UMTS_RB_InformationSetupList_r8(ctx, &pvalue->rb_InformationSetupList);
-   RT_CHECK(ctx, stat, 0, "rb-InformationSetupList", -1, "RAB-InformationSetup-r8");
-   return 0;
-}
-
-int asn1PE_UMTS_RAB_InformationSetup_v820ext(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup_v820ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetup-v820ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RAB-InformationSetup-v820ext");
-   /* cs-HSPA-Information */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CS_HSPA_Information(ctx, &pvalue->cs_HSPA_Information);
-      RT_CHECK(ctx, stat, 0, "cs-HSPA-Information", -1, "RAB-InformationSetup-v820ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RAB_InformationSetupList(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetupList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RAB-InformationSetupList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RAB-InformationSetup", (int32_t)i, "RAB-InformationSetupList");
-      stat = asn1PE_UMTS_RAB_InformationSetup(ctx, (const RAB_InformationSetup*)node->data);
-      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup", (int32_t)i, "RAB-InformationSetupList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RAB_InformationSetupList_r4(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetupList-r4");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RAB-InformationSetupList-r4");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RAB-InformationSetup-r4", (int32_t)i, "RAB-InformationSetupList-r4");
-      stat = asn1PE_UMTS_RAB_InformationSetup_r4(ctx, (const RAB_InformationSetup_r4*)node->data);
-      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-r4", (int32_t)i, "RAB-InformationSetupList-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RAB_InformationSetupList_r5(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetupList-r5");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RAB-InformationSetupList-r5");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RAB-InformationSetup-r5", (int32_t)i, "RAB-InformationSetupList-r5");
-      stat = asn1PE_UMTS_RAB_InformationSetup_r5(ctx, (const RAB_InformationSetup_r5*)node->data);
-      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-r5", (int32_t)i, "RAB-InformationSetupList-r5");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RAB_InformationSetupList_r6(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetupList-r6");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RAB-InformationSetupList-r6");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RAB-InformationSetup-r6", (int32_t)i, "RAB-InformationSetupList-r6");
-      stat = asn1PE_UMTS_RAB_InformationSetup_r6(ctx, (const RAB_InformationSetup_r6*)node->data);
-      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-r6", (int32_t)i, "RAB-InformationSetupList-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RAB_InformationSetupList_r6_ext(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList_r6_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetupList-r6-ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RAB-InformationSetupList-r6-ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RAB-InformationSetup-r6-ext", (int32_t)i, "RAB-InformationSetupList-r6-ext");
-      stat = asn1PE_UMTS_RAB_InformationSetup_r6_ext(ctx, (const RAB_InformationSetup_r6_ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-r6-ext", (int32_t)i, "RAB-InformationSetupList-r6-ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RAB_InformationSetupList_v6b0ext(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList_v6b0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetupList-v6b0ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RAB-InformationSetupList-v6b0ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RAB-InformationSetup-v6b0ext", (int32_t)i, "RAB-InformationSetupList-v6b0ext");
-      stat = asn1PE_UMTS_RAB_InformationSetup_v6b0ext(ctx, (const RAB_InformationSetup_v6b0ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-v6b0ext", (int32_t)i, "RAB-InformationSetupList-v6b0ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RAB_InformationSetupList_r7(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetupList-r7");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RAB-InformationSetupList-r7");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RAB-InformationSetup-r7", (int32_t)i, "RAB-InformationSetupList-r7");
-      stat = asn1PE_UMTS_RAB_InformationSetup_r7(ctx, (const RAB_InformationSetup_r7*)node->data);
-      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-r7", (int32_t)i, "RAB-InformationSetupList-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RAB_InformationSetupList_r8(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetupList-r8");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RAB-InformationSetupList-r8");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RAB-InformationSetup-r8", (int32_t)i, "RAB-InformationSetupList-r8");
-      stat = asn1PE_UMTS_RAB_InformationSetup_r8(ctx, (const RAB_InformationSetup_r8*)node->data);
-      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-r8", (int32_t)i, "RAB-InformationSetupList-r8");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RAB_InformationSetupList_v820ext(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList_v820ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetupList-v820ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RAB-InformationSetupList-v820ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RAB-InformationSetup-v820ext", (int32_t)i, "RAB-InformationSetupList-v820ext");
-      stat = asn1PE_UMTS_RAB_InformationSetup_v820ext(ctx, (const RAB_InformationSetup_v820ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-v820ext", (int32_t)i, "RAB-InformationSetupList-v820ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RB_COUNT_C_Information(rtxContext* RT_RESTRICT ctx, const RB_COUNT_C_Information* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-COUNT-C-Information");
-   /* rb-Identity */
-   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "RB-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-COUNT-C-Information");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-COUNT-C-Information");
-   /* count-C-UL */
-   stat = pe_ConsUInt64(ctx, pvalue->count_C_UL, 0, 4294967295ULL);
-   RT_CHECK(ctx, stat, "COUNT-C", "count-C-UL", -1, "RB-COUNT-C-Information");
-   /* count-C-DL */
-   stat = pe_ConsUInt64(ctx, pvalue->count_C_DL, 0, 4294967295ULL);
-   RT_CHECK(ctx, stat, "COUNT-C", "count-C-DL", -1, "RB-COUNT-C-Information");
-   return 0;
-}
-
-int asn1PE_UMTS_RB_COUNT_C_InformationList(rtxContext* RT_RESTRICT ctx, const RB_COUNT_C_InformationList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-COUNT-C-InformationList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 27);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-COUNT-C-InformationList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-COUNT-C-Information", (int32_t)i, "RB-COUNT-C-InformationList");
-      stat = asn1PE_UMTS_RB_COUNT_C_Information(ctx, (const RB_COUNT_C_Information*)node->data);
-      RT_CHECK(ctx, stat, 0, "RB-COUNT-C-Information", (int32_t)i, "RB-COUNT-C-InformationList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RB_COUNT_C_MSB_Information(rtxContext* RT_RESTRICT ctx, const RB_COUNT_C_MSB_Information* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-COUNT-C-MSB-Information");
-   /* rb-Identity */
-   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "RB-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-COUNT-C-MSB-Information");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-COUNT-C-MSB-Information");
-   /* count-C-MSB-UL */
-   if ((uint64_t)pvalue->count_C_MSB_UL > 33554431u) {
-      rtxErrAddStrParm(ctx, "COUNT-C-MSB");
-      rtxErrAddUIntParm(ctx, pvalue->count_C_MSB_UL);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "COUNT-C-MSB", "count-C-MSB-UL", -1, "RB-COUNT-C-MSB-Information");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->count_C_MSB_UL, 0, 33554431);
-   RT_CHECK(ctx, stat, "COUNT-C-MSB", "count-C-MSB-UL", -1, "RB-COUNT-C-MSB-Information");
-   /* count-C-MSB-DL */
-   if ((uint64_t)pvalue->count_C_MSB_DL > 33554431u) {
-      rtxErrAddStrParm(ctx, "COUNT-C-MSB");
-      rtxErrAddUIntParm(ctx, pvalue->count_C_MSB_DL);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "COUNT-C-MSB", "count-C-MSB-DL", -1, "RB-COUNT-C-MSB-Information");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->count_C_MSB_DL, 0, 33554431);
-   RT_CHECK(ctx, stat, "COUNT-C-MSB", "count-C-MSB-DL", -1, "RB-COUNT-C-MSB-Information");
-   return 0;
-}
-
-int asn1PE_UMTS_RB_COUNT_C_MSB_InformationList(rtxContext* RT_RESTRICT ctx, const RB_COUNT_C_MSB_InformationList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-COUNT-C-MSB-InformationList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 27);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-COUNT-C-MSB-InformationList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-COUNT-C-MSB-Information", (int32_t)i, "RB-COUNT-C-MSB-InformationList");
-      stat = asn1PE_UMTS_RB_COUNT_C_MSB_Information(ctx, (const RB_COUNT_C_MSB_Information*)node->data);
-      RT_CHECK(ctx, stat, 0, "RB-COUNT-C-MSB-Information", (int32_t)i, "RB-COUNT-C-MSB-InformationList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RB_IdentityList(rtxContext* RT_RESTRICT ctx, const RB_IdentityList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-IdentityList");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-IdentityList");
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)(pvalue->elem[i] - 1) > 31u) {
-         rtxErrAddStrParm(ctx, "RB-Identity");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "RB-Identity", (int32_t)i, "RB-IdentityList");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 1, 32);
-      RT_CHECK(ctx, stat, "RB-Identity", "RB-Identity", (int32_t)i, "RB-IdentityList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RB_InformationAffected(rtxContext* RT_RESTRICT ctx, const RB_InformationAffected* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationAffected");
-   /* rb-Identity */
-   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "RB-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected");
-   /* rb-MappingInfo */
-   stat = asn1PE_UMTS_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo);
-   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationAffected");
-   return 0;
-}
-
-int asn1PE_UMTS_RB_InformationAffected_r5(rtxContext* RT_RESTRICT ctx, const RB_InformationAffected_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationAffected-r5");
-   /* rb-Identity */
-   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "RB-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected-r5");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected-r5");
-   /* rb-MappingInfo */
-   stat = asn1PE_UMTS_RB_MappingInfo_r5(ctx, &pvalue->rb_MappingInfo);
-   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationAffected-r5");
-   return 0;
-}
-
-int asn1PE_UMTS_RB_InformationAffected_r6(rtxContext* RT_RESTRICT ctx, const RB_InformationAffected_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationAffected-r6");
-   /* rb-Identity */
-   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "RB-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected-r6");
-   /* rb-MappingInfo */
-   stat = asn1PE_UMTS_RB_MappingInfo_r6(ctx, &pvalue->rb_MappingInfo);
-   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationAffected-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_RB_InformationAffected_r7(rtxContext* RT_RESTRICT ctx, const RB_InformationAffected_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationAffected-r7");
-   /* rb-Identity */
-   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "RB-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected-r7");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected-r7");
-   /* rb-MappingInfo */
-   stat = asn1PE_UMTS_RB_MappingInfo_r7(ctx, &pvalue->rb_MappingInfo);
-   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationAffected-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_RB_InformationAffected_r8(rtxContext* RT_RESTRICT ctx, const RB_InformationAffected_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationAffected-r8");
-   /* rb-Identity */
-   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "RB-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected-r8");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected-r8");
-   /* rb-MappingInfo */
-   stat = asn1PE_UMTS_RB_MappingInfo_r8(ctx, &pvalue->rb_MappingInfo);
-   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationAffected-r8");
-   return 0;
-}
-
-int asn1PE_UMTS_RB_InformationAffectedList(rtxContext* RT_RESTRICT ctx, const RB_InformationAffectedList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationAffectedList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-InformationAffectedList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-InformationAffected", (int32_t)i, "RB-InformationAffectedList");
-      stat = asn1PE_UMTS_RB_InformationAffected(ctx, (const RB_InformationAffected*)node->data);
-      RT_CHECK(ctx, stat, 0, "RB-InformationAffected", (int32_t)i, "RB-InformationAffectedList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RB_InformationAffectedList_r5(rtxContext* RT_RESTRICT ctx, const RB_InformationAffectedList_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationAffectedList-r5");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-InformationAffectedList-r5");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-InformationAffected-r5", (int32_t)i, "RB-InformationAffectedList-r5");
-      stat = asn1PE_UMTS_RB_InformationAffected_r5(ctx, (const RB_InformationAffected_r5*)node->data);
-      RT_CHECK(ctx, stat, 0, "RB-InformationAffected-r5", (int32_t)i, "RB-InformationAffectedList-r5");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RB_InformationAffectedList_r6(rtxContext* RT_RESTRICT ctx, const RB_InformationAffectedList_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationAffectedList-r6");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-InformationAffectedList-r6");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-InformationAffected-r6", (int32_t)i, "RB-InformationAffectedList-r6");
-      stat = asn1PE_UMTS_RB_InformationAffected_r6(ctx, (const RB_InformationAffected_r6*)node->data);
-      RT_CHECK(ctx, stat, 0, "RB-InformationAffected-r6", (int32_t)i, "RB-InformationAffectedList-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RB_InformationAffectedList_r7(rtxContext* RT_RESTRICT ctx, const RB_InformationAffectedList_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationAffectedList-r7");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-InformationAffectedList-r7");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-InformationAffected-r7", (int32_t)i, "RB-InformationAffectedList-r7");
-      stat = asn1PE_UMTS_RB_InformationAffected_r7(ctx, (const RB_InformationAffected_r7*)node->data);
-      RT_CHECK(ctx, stat, 0, "RB-InformationAffected-r7", (int32_t)i, "RB-InformationAffectedList-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RB_InformationAffectedList_r8(rtxContext* RT_RESTRICT ctx, const RB_InformationAffectedList_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationAffectedList-r8");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-InformationAffectedList-r8");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-InformationAffected-r8", (int32_t)i, "RB-InformationAffectedList-r8");
-      stat = asn1PE_UMTS_RB_InformationAffected_r8(ctx, (const RB_InformationAffected_r8*)node->data);
-      RT_CHECK(ctx, stat, 0, "RB-InformationAffected-r8", (int32_t)i, "RB-InformationAffectedList-r8");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RB_InformationChanged_r6_rb_Change(rtxContext* RT_RESTRICT ctx, const RB_InformationChanged_r6_rb_Change* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if ((uint64_t)(pvalue->u.re_mapToDefaultRb - 1) > 31u) {
-            rtxErrAddStrParm(ctx, "RB-Identity");
-            rtxErrAddUIntParm(ctx, pvalue->u.re_mapToDefaultRb);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "re-mapToDefaultRb", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.re_mapToDefaultRb, 1, 32);
-         RT_CHECK(ctx, stat, "RB-Identity", "re-mapToDefaultRb", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RB_InformationChanged_r6(rtxContext* RT_RESTRICT ctx, const RB_InformationChanged_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationChanged-r6");
-   /* rb-Identity */
-   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "RB-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationChanged-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationChanged-r6");
-   /* rb-Change */
-   stat = asn1PE_UMTS_RB_InformationChanged_r6_rb_Change(ctx, &pvalue->rb_Change);
-   RT_CHECK(ctx, stat, 0, "rb-Change", -1, "RB-InformationChanged-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_RB_InformationChangedList_r6(rtxContext* RT_RESTRICT ctx, const RB_InformationChangedList_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationChangedList-r6");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-InformationChangedList-r6");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-InformationChanged-r6", (int32_t)i, "RB-InformationChangedList-r6");
-      stat = asn1PE_UMTS_RB_InformationChanged_r6(ctx, (const RB_InformationChanged_r6*)node->data);
-      RT_CHECK(ctx, stat, 0, "RB-InformationChanged-r6", (int32_t)i, "RB-InformationChangedList-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RB_StopContinue(rtxContext* RT_RESTRICT ctx, RB_StopContinue value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "RB-StopContinue");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-StopContinue");
-   return 0;
-}
-
-int asn1PE_UMTS_RB_InformationReconfig(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfig* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationReconfig");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationReconfig");
-   /* rb-Identity */
-   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "RB-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig");
-   /* pdcp-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PDCP_InfoReconfig(ctx, &pvalue->pdcp_Info);
-      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationReconfig");
-   }
-   /* pdcp-SN-Info */
-   if (pvalue->m & 0x2u) {
-      stat = pe_ConsUInt64(ctx, pvalue->pdcp_SN_Info, 0, 65535);
-      RT_CHECK(ctx, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-InformationReconfig");
-   }
-   /* rlc-Info */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_RLC_Info(ctx, &pvalue->rlc_Info);
-      RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RB-InformationReconfig");
-   }
-   /* rb-MappingInfo */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo);
-      RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationReconfig");
-   }
-   /* rb-StopContinue */
-   if (pvalue->m & 0x10u) {
-      if (pvalue->rb_StopContinue > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->rb_StopContinue);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->rb_StopContinue, 0, 1);
-      RT_CHECK(ctx, stat, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RB_InformationReconfig_r4(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfig_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationReconfig-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationReconfig-r4");
-   /* rb-Identity */
-   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "RB-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r4");
-   /* pdcp-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PDCP_InfoReconfig_r4(ctx, &pvalue->pdcp_Info);
-      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationReconfig-r4");
-   }
-   /* pdcp-SN-Info */
-   if (pvalue->m & 0x2u) {
-      stat = pe_ConsUInt64(ctx, pvalue->pdcp_SN_Info, 0, 65535);
-      RT_CHECK(ctx, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-InformationReconfig-r4");
-   }
-   /* rlc-Info */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_RLC_Info(ctx, &pvalue->rlc_Info);
-      RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RB-InformationReconfig-r4");
-   }
-   /* rb-MappingInfo */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo);
-      RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationReconfig-r4");
-   }
-   /* rb-StopContinue */
-   if (pvalue->m & 0x10u) {
-      if (pvalue->rb_StopContinue > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->rb_StopContinue);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r4");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->rb_StopContinue, 0, 1);
-      RT_CHECK(ctx, stat, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RB_InformationReconfig_r5(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfig_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationReconfig-r5");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationReconfig-r5");
-   /* rb-Identity */
-   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "RB-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r5");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r5");
-   /* pdcp-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PDCP_InfoReconfig_r4(ctx, &pvalue->pdcp_Info);
-      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationReconfig-r5");
-   }
-   /* pdcp-SN-Info */
-   if (pvalue->m & 0x2u) {
-      stat = pe_ConsUInt64(ctx, pvalue->pdcp_SN_Info, 0, 65535);
-      RT_CHECK(ctx, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-InformationReconfig-r5");
-   }
-   /* rlc-Info */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_RLC_Info_r5(ctx, &pvalue->rlc_Info);
-      RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RB-InformationReconfig-r5");
-   }
-   /* rb-MappingInfo */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_RB_MappingInfo_r5(ctx, &pvalue->rb_MappingInfo);
-      RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationReconfig-r5");
-   }
-   /* rb-StopContinue */
-   if (pvalue->m & 0x10u) {
-      if (pvalue->rb_StopContinue > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->rb_StopContinue);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r5");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->rb_StopContinue, 0, 1);
-      RT_CHECK(ctx, stat, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r5");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RB_InformationReconfig_r6(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfig_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationReconfig-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationReconfig-r6");
-   /* rb-Identity */
-   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "RB-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r6");
-   /* pdcp-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PDCP_InfoReconfig_r4(ctx, &pvalue->pdcp_Info);
-      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationReconfig-r6");
-   }
-   /* pdcp-SN-Info */
-   if (pvalue->m & 0x2u) {
-      stat = pe_ConsUInt64(ctx, pvalue->pdcp_SN_Info, 0, 65535);
-      RT_CHECK(ctx, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-InformationReconfig-r6");
-   }
-   /* rlc-Info */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_RLC_Info_r6(ctx, &pvalue->rlc_Info);
-      RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RB-InformationReconfig-r6");
-   }
-   /* rb-MappingInfo */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_RB_MappingInfo_r6(ctx, &pvalue->rb_MappingInfo);
-      RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationReconfig-r6");
-   }
-   /* rb-StopContinue */
-   if (pvalue->m & 0x10u) {
-      if (pvalue->rb_StopContinue > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->rb_StopContinue);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r6");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->rb_StopContinue, 0, 1);
-      RT_CHECK(ctx, stat, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RB_InformationReconfig_r7(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfig_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationReconfig-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationReconfig-r7");
-   /* rb-Identity */
-   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "RB-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r7");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r7");
-   /* pdcp-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PDCP_InfoReconfig_r4(ctx, &pvalue->pdcp_Info);
-      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationReconfig-r7");
-   }
-   /* pdcp-SN-Info */
-   if (pvalue->m & 0x2u) {
-      stat = pe_ConsUInt64(ctx, pvalue->pdcp_SN_Info, 0, 65535);
-      RT_CHECK(ctx, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-InformationReconfig-r7");
-   }
-   /* rlc-Info */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_RLC_Info_r7(ctx, &pvalue->rlc_Info);
-      RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RB-InformationReconfig-r7");
-   }
-   /* rb-MappingInfo */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_RB_MappingInfo_r7(ctx, &pvalue->rb_MappingInfo);
-      RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationReconfig-r7");
-   }
-   /* rb-StopContinue */
-   if (pvalue->m & 0x10u) {
-      if (pvalue->rb_StopContinue > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->rb_StopContinue);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->rb_StopContinue, 0, 1);
-      RT_CHECK(ctx, stat, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RB_InformationReconfig_r8(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfig_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationReconfig-r8");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RB-InformationReconfig-r8");
-   /* rb-Identity */
-   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "RB-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r8");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r8");
-   /* pdcp-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PDCP_InfoReconfig_r4(ctx, &pvalue->pdcp_Info);
-      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationReconfig-r8");
-   }
-   /* pdcp-SN-Info */
-   if (pvalue->m & 0x2u) {
-      stat = pe_ConsUInt64(ctx, pvalue->pdcp_SN_Info, 0, 65535);
-      RT_CHECK(ctx, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-InformationReconfig-r8");
-   }
-   /* rlc-Info */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_RLC_Info_r7(ctx, &pvalue->rlc_Info);
-      RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RB-InformationReconfig-r8");
-   }
-   /* rb-MappingInfo */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_RB_MappingInfo_r8(ctx, &pvalue->rb_MappingInfo);
-      RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationReconfig-r8");
-   }
-   /* rb-StopContinue */
-   if (pvalue->m & 0x10u) {
-      if (pvalue->rb_StopContinue > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->rb_StopContinue);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r8");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->rb_StopContinue, 0, 1);
-      RT_CHECK(ctx, stat, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r8");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RB_InformationReconfigList(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfigList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationReconfigList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-InformationReconfigList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-InformationReconfig", (int32_t)i, "RB-InformationReconfigList");
-      stat = asn1PE_UMTS_RB_InformationReconfig(ctx, (const RB_InformationReconfig*)node->data);
-      RT_CHECK(ctx, stat, 0, "RB-InformationReconfig", (int32_t)i, "RB-InformationReconfigList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RB_InformationReconfigList_r4(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfigList_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationReconfigList-r4");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-InformationReconfigList-r4");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-InformationReconfig-r4", (int32_t)i, "RB-InformationReconfigList-r4");
-      stat = asn1PE_UMTS_RB_InformationReconfig_r4(ctx, (const RB_InformationReconfig_r4*)node->data);
-      RT_CHECK(ctx, stat, 0, "RB-InformationReconfig-r4", (int32_t)i, "RB-InformationReconfigList-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RB_InformationReconfigList_r5(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfigList_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationReconfigList-r5");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-InformationReconfigList-r5");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-InformationReconfig-r5", (int32_t)i, "RB-InformationReconfigList-r5");
-      stat = asn1PE_UMTS_RB_InformationReconfig_r5(ctx, (const RB_InformationReconfig_r5*)node->data);
-      RT_CHECK(ctx, stat, 0, "RB-InformationReconfig-r5", (int32_t)i, "RB-InformationReconfigList-r5");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RB_InformationReconfigList_r6(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfigList_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationReconfigList-r6");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-InformationReconfigList-r6");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-InformationReconfig-r6", (int32_t)i, "RB-InformationReconfigList-r6");
-      stat = asn1PE_UMTS_RB_InformationReconfig_r6(ctx, (const RB_InformationReconfig_r6*)node->data);
-      RT_CHECK(ctx, stat, 0, "RB-InformationReconfig-r6", (int32_t)i, "RB-InformationReconfigList-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RB_InformationReconfigList_r7(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfigList_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationReconfigList-r7");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-InformationReconfigList-r7");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-InformationReconfig-r7", (int32_t)i, "RB-InformationReconfigList-r7");
-      stat = asn1PE_UMTS_RB_InformationReconfig_r7(ctx, (const RB_InformationReconfig_r7*)node->data);
-      RT_CHECK(ctx, stat, 0, "RB-InformationReconfig-r7", (int32_t)i, "RB-InformationReconfigList-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RB_InformationReconfigList_r8(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfigList_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationReconfigList-r8");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-InformationReconfigList-r8");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RB-InformationReconfig-r8", (int32_t)i, "RB-InformationReconfigList-r8");
-      stat = asn1PE_UMTS_RB_InformationReconfig_r8(ctx, (const RB_InformationReconfig_r8*)node->data);
-      RT_CHECK(ctx, stat, 0, "RB-InformationReconfig-r8", (int32_t)i, "RB-InformationReconfigList-r8");
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_ProtocolErrorMoreInformation_diagnosticsType, pvalue);
 }
 
-int asn1PE_UMTS_RB_InformationReleaseList(rtxContext* RT_RESTRICT ctx, const RB_InformationReleaseList* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_ProtocolErrorMoreInformation(rtxContext* RT_RESTRICT ctx, const ProtocolErrorMoreInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationReleaseList");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RB-InformationReleaseList");
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)(pvalue->elem[i] - 1) > 31u) {
-         rtxErrAddStrParm(ctx, "RB-Identity");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "RB-Identity", (int32_t)i, "RB-InformationReleaseList");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 1, 32);
-      RT_CHECK(ctx, stat, "RB-Identity", "RB-Identity", (int32_t)i, "RB-InformationReleaseList");
-   }
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ProtocolErrorMoreInformation");
+   /* diagnosticsType */
+   stat = enc_ProtocolErrorMoreInformation_diagnosticsType(ctx, &pvalue->diagnosticsType, cur);
+   RT_CHECK(ctx, stat, 0, "diagnosticsType", -1, "ProtocolErrorMoreInformation");
    return 0;
 }
 
-int asn1PE_UMTS_TimerDAR_r6(rtxContext* RT_RESTRICT ctx, TimerDAR_r6 value)
+int asn1PE_UMTS_ProtocolErrorMoreInformation(rtxContext* RT_RESTRICT ctx, const ProtocolErrorMoreInformation* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (value > 13) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TimerDAR-r6");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 13);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimerDAR-r6");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_ProtocolErrorMoreInformation, pvalue);
 }
 
-int asn1PE_UMTS_WindowSizeDAR_r6(rtxContext* RT_RESTRICT ctx, WindowSizeDAR_r6 value)
+RT_MERGED_BODY int enc_RadioFrequencyBandTDDList(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDDList value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "WindowSizeDAR-r6");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "RadioFrequencyBandTDDList");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "WindowSizeDAR-r6");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RadioFrequencyBandTDDList");
    return 0;
 }
 
-int asn1PE_UMTS_UM_RLC_DuplAvoid_Reord_Info_r6(rtxContext* RT_RESTRICT ctx, const UM_RLC_DuplAvoid_Reord_Info_r6* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RadioFrequencyBandTDDList(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDDList value)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UM-RLC-DuplAvoid-Reord-Info-r6");
-   /* timer-DAR */
-   if (pvalue->timer_DAR > 13) {
-      rtxErrAddUIntParm(ctx, pvalue->timer_DAR);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TimerDAR-r6", "timer-DAR", -1, "UM-RLC-DuplAvoid-Reord-Info-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timer_DAR, 0, 13);
-   RT_CHECK(ctx, stat, "TimerDAR-r6", "timer-DAR", -1, "UM-RLC-DuplAvoid-Reord-Info-r6");
-   /* widowSize-DAR */
-   if (pvalue->widowSize_DAR > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->widowSize_DAR);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "WindowSizeDAR-r6", "widowSize-DAR", -1, "UM-RLC-DuplAvoid-Reord-Info-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->widowSize_DAR, 0, 7);
-   RT_CHECK(ctx, stat, "WindowSizeDAR-r6", "widowSize-DAR", -1, "UM-RLC-DuplAvoid-Reord-Info-r6");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_RadioFrequencyBandTDDList, value);
 }
 
-int asn1PE_UMTS_RLC_Info_MTCH_r6(rtxContext* RT_RESTRICT ctx, const RLC_Info_MTCH_r6* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_RadioFrequencyBandTDDList_r7(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDDList_r7 value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RLC-Info-MTCH-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-Info-MTCH-r6");
-   /* dl-UM-RLC-LI-size */
-   if (pvalue->dl_UM_RLC_LI_size > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->dl_UM_RLC_LI_size);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "RLC-Info-MTCH-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dl_UM_RLC_LI_size, 0, 1);
-   RT_CHECK(ctx, stat, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "RLC-Info-MTCH-r6");
-   /* dl-UM-RLC-DuplAvoid-Reord-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UM_RLC_DuplAvoid_Reord_Info_r6(ctx, &pvalue->dl_UM_RLC_DuplAvoid_Reord_Info);
-      RT_CHECK(ctx, stat, 0, "dl-UM-RLC-DuplAvoid-Reord-Info", -1, "RLC-Info-MTCH-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SRB_InformationSetup_r5(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetup_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetup-r5");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-InformationSetup-r5");
-   /* rb-Identity */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
-         rtxErrAddStrParm(ctx, "RB-Identity");
-         rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup-r5");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
-      RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup-r5");
-   }
-   /* rlc-InfoChoice */
-   stat = asn1PE_UMTS_RLC_InfoChoice_r5(ctx, &pvalue->rlc_InfoChoice);
-   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "SRB-InformationSetup-r5");
-   /* rb-MappingInfo */
-   stat = asn1PE_UMTS_RB_MappingInfo_r5(ctx, &pvalue->rb_MappingInfo);
-   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "SRB-InformationSetup-r5");
-   return 0;
-}
-
-int asn1PE_UMTS_SRB_InformationSetup_r6(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetup_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetup-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-InformationSetup-r6");
-   /* rb-Identity */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
-         rtxErrAddStrParm(ctx, "RB-Identity");
-         rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup-r6");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
-      RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup-r6");
-   }
-   /* rlc-InfoChoice */
-   stat = asn1PE_UMTS_RLC_InfoChoice_r6(ctx, &pvalue->rlc_InfoChoice);
-   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "SRB-InformationSetup-r6");
-   /* rb-MappingInfo */
-   stat = asn1PE_UMTS_RB_MappingInfo_r6(ctx, &pvalue->rb_MappingInfo);
-   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "SRB-InformationSetup-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_SRB_InformationSetup_r7(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetup_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetup-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-InformationSetup-r7");
-   /* rb-Identity */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
-         rtxErrAddStrParm(ctx, "RB-Identity");
-         rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
-      RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup-r7");
-   }
-   /* rlc-InfoChoice */
-   stat = asn1PE_UMTS_RLC_InfoChoice_r7(ctx, &pvalue->rlc_InfoChoice);
-   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "SRB-InformationSetup-r7");
-   /* rb-MappingInfo */
-   stat = asn1PE_UMTS_RB_MappingInfo_r7(ctx, &pvalue->rb_MappingInfo);
-   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "SRB-InformationSetup-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_SRB_InformationSetup_r8(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetup_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetup-r8");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-InformationSetup-r8");
-   /* rb-Identity */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
-         rtxErrAddStrParm(ctx, "RB-Identity");
-         rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup-r8");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
-      RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup-r8");
-   }
-   /* rlc-InfoChoice */
-   stat = asn1PE_UMTS_RLC_InfoChoice_r7(ctx, &pvalue->rlc_InfoChoice);
-   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "SRB-InformationSetup-r8");
-   /* rb-MappingInfo */
-   stat = asn1PE_UMTS_RB_MappingInfo_r8(ctx, &pvalue->rb_MappingInfo);
-   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "SRB-InformationSetup-r8");
-   return 0;
-}
-
-int asn1PE_UMTS_SRB_InformationSetupList_r5(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetupList-r5");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SRB-InformationSetupList-r5");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "SRB-InformationSetup-r5", (int32_t)i, "SRB-InformationSetupList-r5");
-      stat = asn1PE_UMTS_SRB_InformationSetup_r5(ctx, (const SRB_InformationSetup_r5*)node->data);
-      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r5", (int32_t)i, "SRB-InformationSetupList-r5");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SRB_InformationSetupList_r6(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetupList-r6");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SRB-InformationSetupList-r6");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "SRB-InformationSetup-r6", (int32_t)i, "SRB-InformationSetupList-r6");
-      stat = asn1PE_UMTS_SRB_InformationSetup_r6(ctx, (const SRB_InformationSetup_r6*)node->data);
-      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r6", (int32_t)i, "SRB-InformationSetupList-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SRB_InformationSetupList_r7(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetupList-r7");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SRB-InformationSetupList-r7");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "SRB-InformationSetup-r7", (int32_t)i, "SRB-InformationSetupList-r7");
-      stat = asn1PE_UMTS_SRB_InformationSetup_r7(ctx, (const SRB_InformationSetup_r7*)node->data);
-      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r7", (int32_t)i, "SRB-InformationSetupList-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SRB_InformationSetupList_r8(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetupList-r8");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SRB-InformationSetupList-r8");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "SRB-InformationSetup-r8", (int32_t)i, "SRB-InformationSetupList-r8");
-      stat = asn1PE_UMTS_SRB_InformationSetup_r8(ctx, (const SRB_InformationSetup_r8*)node->data);
-      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r8", (int32_t)i, "SRB-InformationSetupList-r8");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SRB_InformationSetupList2(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetupList2");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 3, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SRB-InformationSetupList2");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "SRB-InformationSetup", (int32_t)i, "SRB-InformationSetupList2");
-      stat = asn1PE_UMTS_SRB_InformationSetup(ctx, (const SRB_InformationSetup*)node->data);
-      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup", (int32_t)i, "SRB-InformationSetupList2");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SRB_InformationSetupList2_r6(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList2_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetupList2-r6");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 3, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SRB-InformationSetupList2-r6");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "SRB-InformationSetup-r6", (int32_t)i, "SRB-InformationSetupList2-r6");
-      stat = asn1PE_UMTS_SRB_InformationSetup_r6(ctx, (const SRB_InformationSetup_r6*)node->data);
-      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r6", (int32_t)i, "SRB-InformationSetupList2-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SRB_InformationSetupList2_r7(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList2_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetupList2-r7");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 3, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SRB-InformationSetupList2-r7");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "SRB-InformationSetup-r7", (int32_t)i, "SRB-InformationSetupList2-r7");
-      stat = asn1PE_UMTS_SRB_InformationSetup_r7(ctx, (const SRB_InformationSetup_r7*)node->data);
-      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r7", (int32_t)i, "SRB-InformationSetupList2-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SRB_InformationSetupList2_r8(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList2_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetupList2-r8");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 3, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SRB-InformationSetupList2-r8");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "SRB-InformationSetup-r8", (int32_t)i, "SRB-InformationSetupList2-r8");
-      stat = asn1PE_UMTS_SRB_InformationSetup_r8(ctx, (const SRB_InformationSetup_r8*)node->data);
-      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r8", (int32_t)i, "SRB-InformationSetupList2-r8");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_CounterSynchronisationInfo(rtxContext* RT_RESTRICT ctx, const UL_CounterSynchronisationInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-CounterSynchronisationInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-CounterSynchronisationInfo");
-   /* rB-WithPDCP-InfoList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RB_WithPDCP_InfoList(ctx, &pvalue->rB_WithPDCP_InfoList);
-      RT_CHECK(ctx, stat, 0, "rB-WithPDCP-InfoList", -1, "UL-CounterSynchronisationInfo");
-   }
-   /* startList */
-   stat = asn1PE_UMTS_STARTList(ctx, &pvalue->startList);
-   RT_CHECK(ctx, stat, 0, "startList", -1, "UL-CounterSynchronisationInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_MAC_d_PDUsizeInfo(rtxContext* RT_RESTRICT ctx, const MAC_d_PDUsizeInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MAC-d-PDUsizeInfo");
-   /* mac-d-PDU-Size */
-   if ((uint64_t)(pvalue->mac_d_PDU_Size - 1) > 4999u) {
-      rtxErrAddStrParm(ctx, "mac-d-PDU-Size");
-      rtxErrAddUIntParm(ctx, pvalue->mac_d_PDU_Size);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "mac-d-PDU-Size", -1, "MAC-d-PDUsizeInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mac_d_PDU_Size, 1, 5000);
-   RT_CHECK(ctx, stat, 0, "mac-d-PDU-Size", -1, "MAC-d-PDUsizeInfo");
-   /* mac-d-PDU-Index */
-   if ((uint64_t)pvalue->mac_d_PDU_Index > 7u) {
-      rtxErrAddStrParm(ctx, "mac-d-PDU-Index");
-      rtxErrAddUIntParm(ctx, pvalue->mac_d_PDU_Index);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "mac-d-PDU-Index", -1, "MAC-d-PDUsizeInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mac_d_PDU_Index, 0, 7);
-   RT_CHECK(ctx, stat, 0, "mac-d-PDU-Index", -1, "MAC-d-PDUsizeInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_MAC_d_PDU_SizeInfo_List(rtxContext* RT_RESTRICT ctx, const MAC_d_PDU_SizeInfo_List* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MAC-d-PDU-SizeInfo-List");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MAC-d-PDU-SizeInfo-List");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MAC-d-PDUsizeInfo", (int32_t)i, "MAC-d-PDU-SizeInfo-List");
-      stat = asn1PE_UMTS_MAC_d_PDUsizeInfo(ctx, (const MAC_d_PDUsizeInfo*)node->data);
-      RT_CHECK(ctx, stat, 0, "MAC-d-PDUsizeInfo", (int32_t)i, "MAC-d-PDU-SizeInfo-List");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MAC_hs_AddReconfQueue(rtxContext* RT_RESTRICT ctx, const MAC_hs_AddReconfQueue* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MAC-hs-AddReconfQueue");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-hs-AddReconfQueue");
-   /* mac-hsQueueId */
-   if ((uint64_t)pvalue->mac_hsQueueId > 7u) {
-      rtxErrAddStrParm(ctx, "mac-hsQueueId");
-      rtxErrAddUIntParm(ctx, pvalue->mac_hsQueueId);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "mac-hsQueueId", -1, "MAC-hs-AddReconfQueue");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mac_hsQueueId, 0, 7);
-   RT_CHECK(ctx, stat, 0, "mac-hsQueueId", -1, "MAC-hs-AddReconfQueue");
-   /* mac-dFlowId */
-   if ((uint64_t)pvalue->mac_dFlowId > 7u) {
-      rtxErrAddStrParm(ctx, "MAC-d-FlowIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->mac_dFlowId);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MAC-d-FlowIdentity", "mac-dFlowId", -1, "MAC-hs-AddReconfQueue");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mac_dFlowId, 0, 7);
-   RT_CHECK(ctx, stat, "MAC-d-FlowIdentity", "mac-dFlowId", -1, "MAC-hs-AddReconfQueue");
-   /* reorderingReleaseTimer */
-   if (pvalue->reorderingReleaseTimer > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->reorderingReleaseTimer);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "T1-ReleaseTimer", "reorderingReleaseTimer", -1, "MAC-hs-AddReconfQueue");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reorderingReleaseTimer, 0, 15);
-   RT_CHECK(ctx, stat, "T1-ReleaseTimer", "reorderingReleaseTimer", -1, "MAC-hs-AddReconfQueue");
-   /* mac-hsWindowSize */
-   if (pvalue->mac_hsWindowSize > 6) {
-      rtxErrAddUIntParm(ctx, pvalue->mac_hsWindowSize);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MAC-hs-WindowSize", "mac-hsWindowSize", -1, "MAC-hs-AddReconfQueue");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mac_hsWindowSize, 0, 6);
-   RT_CHECK(ctx, stat, "MAC-hs-WindowSize", "mac-hsWindowSize", -1, "MAC-hs-AddReconfQueue");
-   /* mac-d-PDU-SizeInfo-List */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MAC_d_PDU_SizeInfo_List(ctx, &pvalue->mac_d_PDU_SizeInfo_List);
-      RT_CHECK(ctx, stat, 0, "mac-d-PDU-SizeInfo-List", -1, "MAC-hs-AddReconfQueue");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MAC_hs_AddReconfQueue_List(rtxContext* RT_RESTRICT ctx, const MAC_hs_AddReconfQueue_List* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MAC-hs-AddReconfQueue-List");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MAC-hs-AddReconfQueue-List");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MAC-hs-AddReconfQueue", (int32_t)i, "MAC-hs-AddReconfQueue-List");
-      stat = asn1PE_UMTS_MAC_hs_AddReconfQueue(ctx, (const MAC_hs_AddReconfQueue*)node->data);
-      RT_CHECK(ctx, stat, 0, "MAC-hs-AddReconfQueue", (int32_t)i, "MAC-hs-AddReconfQueue-List");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MAC_hs_DelQueue(rtxContext* RT_RESTRICT ctx, const MAC_hs_DelQueue* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MAC-hs-DelQueue");
-   /* mac-hsQueueId */
-   if ((uint64_t)pvalue->mac_hsQueueId > 7u) {
-      rtxErrAddStrParm(ctx, "mac-hsQueueId");
-      rtxErrAddUIntParm(ctx, pvalue->mac_hsQueueId);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "mac-hsQueueId", -1, "MAC-hs-DelQueue");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mac_hsQueueId, 0, 7);
-   RT_CHECK(ctx, stat, 0, "mac-hsQueueId", -1, "MAC-hs-DelQueue");
-   return 0;
-}
-
-int asn1PE_UMTS_MAC_hs_DelQueue_List(rtxContext* RT_RESTRICT ctx, const MAC_hs_DelQueue_List* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MAC-hs-DelQueue-List");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MAC-hs-DelQueue-List");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MAC-hs-DelQueue", (int32_t)i, "MAC-hs-DelQueue-List");
-      stat = asn1PE_UMTS_MAC_hs_DelQueue(ctx, (const MAC_hs_DelQueue*)node->data);
-      RT_CHECK(ctx, stat, 0, "MAC-hs-DelQueue", (int32_t)i, "MAC-hs-DelQueue-List");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AddOrReconfMAC_dFlow(rtxContext* RT_RESTRICT ctx, const AddOrReconfMAC_dFlow* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AddOrReconfMAC-dFlow");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AddOrReconfMAC-dFlow");
-   /* mac-hs-AddReconfQueue-List */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MAC_hs_AddReconfQueue_List(ctx, &pvalue->mac_hs_AddReconfQueue_List);
-      RT_CHECK(ctx, stat, 0, "mac-hs-AddReconfQueue-List", -1, "AddOrReconfMAC-dFlow");
-   }
-   /* mac-hs-DelQueue-List */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_MAC_hs_DelQueue_List(ctx, &pvalue->mac_hs_DelQueue_List);
-      RT_CHECK(ctx, stat, 0, "mac-hs-DelQueue-List", -1, "AddOrReconfMAC-dFlow");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MAC_ehs_AddReconfReordQ(rtxContext* RT_RESTRICT ctx, const MAC_ehs_AddReconfReordQ* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MAC-ehs-AddReconfReordQ");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-ehs-AddReconfReordQ");
-   /* mac-ehs-QueueId */
-   if ((uint64_t)pvalue->mac_ehs_QueueId > 7u) {
-      rtxErrAddStrParm(ctx, "MAC-ehs-QueueId");
-      rtxErrAddUIntParm(ctx, pvalue->mac_ehs_QueueId);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "MAC-ehs-AddReconfReordQ");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mac_ehs_QueueId, 0, 7);
-   RT_CHECK(ctx, stat, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "MAC-ehs-AddReconfReordQ");
-   /* reorderingReleaseTimer */
-   if (pvalue->reorderingReleaseTimer > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->reorderingReleaseTimer);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "T1-ReleaseTimer", "reorderingReleaseTimer", -1, "MAC-ehs-AddReconfReordQ");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reorderingReleaseTimer, 0, 15);
-   RT_CHECK(ctx, stat, "T1-ReleaseTimer", "reorderingReleaseTimer", -1, "MAC-ehs-AddReconfReordQ");
-   /* reorderingResetTimer */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->reorderingResetTimer > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->reorderingResetTimer);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "Treset-ResetTimer", "reorderingResetTimer", -1, "MAC-ehs-AddReconfReordQ");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->reorderingResetTimer, 0, 3);
-      RT_CHECK(ctx, stat, "Treset-ResetTimer", "reorderingResetTimer", -1, "MAC-ehs-AddReconfReordQ");
-   }
-   /* mac-ehsWindowSize */
-   if (pvalue->mac_ehsWindowSize > 6) {
-      rtxErrAddUIntParm(ctx, pvalue->mac_ehsWindowSize);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MAC-hs-WindowSize", "mac-ehsWindowSize", -1, "MAC-ehs-AddReconfReordQ");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mac_ehsWindowSize, 0, 6);
-   RT_CHECK(ctx, stat, "MAC-hs-WindowSize", "mac-ehsWindowSize", -1, "MAC-ehs-AddReconfReordQ");
-   return 0;
-}
-
-int asn1PE_UMTS_MAC_ehs_AddReconfReordQ_List(rtxContext* RT_RESTRICT ctx, const MAC_ehs_AddReconfReordQ_List* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MAC-ehs-AddReconfReordQ-List");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MAC-ehs-AddReconfReordQ-List");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MAC-ehs-AddReconfReordQ", (int32_t)i, "MAC-ehs-AddReconfReordQ-List");
-      stat = asn1PE_UMTS_MAC_ehs_AddReconfReordQ(ctx, (const MAC_ehs_AddReconfReordQ*)node->data);
-      RT_CHECK(ctx, stat, 0, "MAC-ehs-AddReconfReordQ", (int32_t)i, "MAC-ehs-AddReconfReordQ-List");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MAC_ehs_DelReordQ(rtxContext* RT_RESTRICT ctx, const MAC_ehs_DelReordQ* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MAC-ehs-DelReordQ");
-   /* mac-ehs-QueueId */
-   if ((uint64_t)pvalue->mac_ehs_QueueId > 7u) {
-      rtxErrAddStrParm(ctx, "MAC-ehs-QueueId");
-      rtxErrAddUIntParm(ctx, pvalue->mac_ehs_QueueId);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "MAC-ehs-DelReordQ");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mac_ehs_QueueId, 0, 7);
-   RT_CHECK(ctx, stat, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "MAC-ehs-DelReordQ");
-   return 0;
-}
-
-int asn1PE_UMTS_MAC_ehs_DelReordQ_List(rtxContext* RT_RESTRICT ctx, const MAC_ehs_DelReordQ_List* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MAC-ehs-DelReordQ-List");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MAC-ehs-DelReordQ-List");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MAC-ehs-DelReordQ", (int32_t)i, "MAC-ehs-DelReordQ-List");
-      stat = asn1PE_UMTS_MAC_ehs_DelReordQ(ctx, (const MAC_ehs_DelReordQ*)node->data);
-      RT_CHECK(ctx, stat, 0, "MAC-ehs-DelReordQ", (int32_t)i, "MAC-ehs-DelReordQ-List");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AddOrReconfMAC_ehs_ReordQ(rtxContext* RT_RESTRICT ctx, const AddOrReconfMAC_ehs_ReordQ* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AddOrReconfMAC-ehs-ReordQ");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AddOrReconfMAC-ehs-ReordQ");
-   /* mac-ehs-AddReconfQueue-List */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MAC_ehs_AddReconfReordQ_List(ctx, &pvalue->mac_ehs_AddReconfQueue_List);
-      RT_CHECK(ctx, stat, 0, "mac-ehs-AddReconfQueue-List", -1, "AddOrReconfMAC-ehs-ReordQ");
-   }
-   /* dummy */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_MAC_ehs_DelReordQ_List(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "AddOrReconfMAC-ehs-ReordQ");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MAC_ehs_AddReconfReordQ_r9(rtxContext* RT_RESTRICT ctx, const MAC_ehs_AddReconfReordQ_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MAC-ehs-AddReconfReordQ-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-ehs-AddReconfReordQ-r9");
-   /* mac-ehs-QueueId */
-   if ((uint64_t)pvalue->mac_ehs_QueueId > 7u) {
-      rtxErrAddStrParm(ctx, "MAC-ehs-QueueId");
-      rtxErrAddUIntParm(ctx, pvalue->mac_ehs_QueueId);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "MAC-ehs-AddReconfReordQ-r9");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mac_ehs_QueueId, 0, 7);
-   RT_CHECK(ctx, stat, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "MAC-ehs-AddReconfReordQ-r9");
-   /* reorderingReleaseTimer */
-   if (pvalue->reorderingReleaseTimer > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->reorderingReleaseTimer);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "T1-ReleaseTimer", "reorderingReleaseTimer", -1, "MAC-ehs-AddReconfReordQ-r9");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reorderingReleaseTimer, 0, 15);
-   RT_CHECK(ctx, stat, "T1-ReleaseTimer", "reorderingReleaseTimer", -1, "MAC-ehs-AddReconfReordQ-r9");
-   /* reorderingResetTimer */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->reorderingResetTimer > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->reorderingResetTimer);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "Treset-ResetTimer", "reorderingResetTimer", -1, "MAC-ehs-AddReconfReordQ-r9");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->reorderingResetTimer, 0, 3);
-      RT_CHECK(ctx, stat, "Treset-ResetTimer", "reorderingResetTimer", -1, "MAC-ehs-AddReconfReordQ-r9");
-   }
-   /* mac-ehsWindowSize */
-   if (pvalue->mac_ehsWindowSize > 8) {
-      rtxErrAddUIntParm(ctx, pvalue->mac_ehsWindowSize);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MAC-hs-WindowSize-r9", "mac-ehsWindowSize", -1, "MAC-ehs-AddReconfReordQ-r9");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mac_ehsWindowSize, 0, 8);
-   RT_CHECK(ctx, stat, "MAC-hs-WindowSize-r9", "mac-ehsWindowSize", -1, "MAC-ehs-AddReconfReordQ-r9");
-   return 0;
-}
-
-int asn1PE_UMTS_MAC_ehs_AddReconfReordQ_List_r9(rtxContext* RT_RESTRICT ctx, const MAC_ehs_AddReconfReordQ_List_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MAC-ehs-AddReconfReordQ-List-r9");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MAC-ehs-AddReconfReordQ-List-r9");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MAC-ehs-AddReconfReordQ-r9", (int32_t)i, "MAC-ehs-AddReconfReordQ-List-r9");
-      stat = asn1PE_UMTS_MAC_ehs_AddReconfReordQ_r9(ctx, (const MAC_ehs_AddReconfReordQ_r9*)node->data);
-      RT_CHECK(ctx, stat, 0, "MAC-ehs-AddReconfReordQ-r9", (int32_t)i, "MAC-ehs-AddReconfReordQ-List-r9");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AddOrReconfMAC_ehs_ReordQ_r9(rtxContext* RT_RESTRICT ctx, const AddOrReconfMAC_ehs_ReordQ_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AddOrReconfMAC-ehs-ReordQ-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AddOrReconfMAC-ehs-ReordQ-r9");
-   /* mac-ehs-AddReconfQueue-List */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MAC_ehs_AddReconfReordQ_List_r9(ctx, &pvalue->mac_ehs_AddReconfQueue_List);
-      RT_CHECK(ctx, stat, 0, "mac-ehs-AddReconfQueue-List", -1, "AddOrReconfMAC-ehs-ReordQ-r9");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CPCH_SetID(rtxContext* RT_RESTRICT ctx, CPCH_SetID value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 15u) {
-      rtxErrAddStrParm(ctx, "CPCH-SetID");
+   if (value > 15) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "CPCH-SetID");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "RadioFrequencyBandTDDList-r7");
    }
-   stat = pe_ConsUInt64(ctx, value, 1, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CPCH-SetID");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RadioFrequencyBandTDDList-r7");
    return 0;
 }
 
-int asn1PE_UMTS_DL_AddReconfTransChInformation2_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation2_tfs_SignallingMode* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RadioFrequencyBandTDDList_r7(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDDList_r7 value)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.explicit_config == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "explicit-config", -1, 0);
-         stat = asn1PE_UMTS_TransportFormatSet(ctx, pvalue->u.explicit_config);
-         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.sameAsULTrCH == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sameAsULTrCH", -1, 0);
-         stat = asn1PE_UMTS_UL_TransportChannelIdentity(ctx, pvalue->u.sameAsULTrCH);
-         RT_CHECK(ctx, stat, 0, "sameAsULTrCH", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_RadioFrequencyBandTDDList_r7, value);
 }
 
-int asn1PE_UMTS_DL_AddReconfTransChInformation2(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation2* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_RadioFrequencyBandTDDext(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDDext value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-AddReconfTransChInformation2");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInformation2");
-   /* dl-TransportChannelType */
-   if (pvalue->dl_TransportChannelType > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->dl_TransportChannelType);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-TrCH-Type", "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation2");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dl_TransportChannelType, 0, 1);
-   RT_CHECK(ctx, stat, "DL-TrCH-Type", "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation2");
-   /* transportChannelIdentity */
-   if ((uint64_t)(pvalue->transportChannelIdentity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->transportChannelIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "transportChannelIdentity", -1, "DL-AddReconfTransChInformation2");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->transportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, "DL-AddReconfTransChInformation2");
-   /* tfs-SignallingMode */
-   stat = asn1PE_UMTS_DL_AddReconfTransChInformation2_tfs_SignallingMode(ctx, &pvalue->tfs_SignallingMode);
-   RT_CHECK(ctx, stat, 0, "tfs-SignallingMode", -1, "DL-AddReconfTransChInformation2");
-   /* qualityTarget */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_QualityTarget(ctx, &pvalue->qualityTarget);
-      RT_CHECK(ctx, stat, 0, "qualityTarget", -1, "DL-AddReconfTransChInformation2");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_AddReconfTransChInfo2List(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInfo2List* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-AddReconfTransChInfo2List");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInfo2List");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-AddReconfTransChInformation2", (int32_t)i, "DL-AddReconfTransChInfo2List");
-      stat = asn1PE_UMTS_DL_AddReconfTransChInformation2(ctx, (const DL_AddReconfTransChInformation2*)node->data);
-      RT_CHECK(ctx, stat, 0, "DL-AddReconfTransChInformation2", (int32_t)i, "DL-AddReconfTransChInfo2List");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_AddReconfTransChInformation_r4_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_r4_tfs_SignallingMode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.explicit_config == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "explicit-config", -1, 0);
-         stat = asn1PE_UMTS_TransportFormatSet(ctx, pvalue->u.explicit_config);
-         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.sameAsULTrCH == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sameAsULTrCH", -1, 0);
-         stat = asn1PE_UMTS_UL_TransportChannelIdentity(ctx, pvalue->u.sameAsULTrCH);
-         RT_CHECK(ctx, stat, 0, "sameAsULTrCH", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_AddReconfTransChInformation_r4(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-AddReconfTransChInformation-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInformation-r4");
-   /* dl-TransportChannelType */
-   if (pvalue->dl_TransportChannelType > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->dl_TransportChannelType);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-TrCH-Type", "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dl_TransportChannelType, 0, 1);
-   RT_CHECK(ctx, stat, "DL-TrCH-Type", "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation-r4");
-   /* dl-transportChannelIdentity */
-   if ((uint64_t)(pvalue->dl_transportChannelIdentity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->dl_transportChannelIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dl-transportChannelIdentity", -1, "DL-AddReconfTransChInformation-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dl_transportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "dl-transportChannelIdentity", -1, "DL-AddReconfTransChInformation-r4");
-   /* tfs-SignallingMode */
-   stat = asn1PE_UMTS_DL_AddReconfTransChInformation_r4_tfs_SignallingMode(ctx, &pvalue->tfs_SignallingMode);
-   RT_CHECK(ctx, stat, 0, "tfs-SignallingMode", -1, "DL-AddReconfTransChInformation-r4");
-   /* dch-QualityTarget */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_QualityTarget(ctx, &pvalue->dch_QualityTarget);
-      RT_CHECK(ctx, stat, 0, "dch-QualityTarget", -1, "DL-AddReconfTransChInformation-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_AddReconfTransChInfoList_r4(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInfoList_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-AddReconfTransChInfoList-r4");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInfoList-r4");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-AddReconfTransChInformation-r4", (int32_t)i, "DL-AddReconfTransChInfoList-r4");
-      stat = asn1PE_UMTS_DL_AddReconfTransChInformation_r4(ctx, (const DL_AddReconfTransChInformation_r4*)node->data);
-      RT_CHECK(ctx, stat, 0, "DL-AddReconfTransChInformation-r4", (int32_t)i, "DL-AddReconfTransChInfoList-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_TrCH_TypeId1_r5(rtxContext* RT_RESTRICT ctx, const DL_TrCH_TypeId1_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-TrCH-TypeId1-r5");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "DL-TrCH-TypeId1-r5");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-TrCH-TypeId1-r5");
-   switch (pvalue->t) {
-      case 1:
-         if ((uint64_t)(pvalue->u.dch - 1) > 31u) {
-            rtxErrAddStrParm(ctx, "TransportChannelIdentity");
-            rtxErrAddUIntParm(ctx, pvalue->u.dch);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dch", -1, "DL-TrCH-TypeId1-r5");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.dch, 1, 32);
-         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch", -1, "DL-TrCH-TypeId1-r5");
-         break;
-      case 2:
-         if ((uint64_t)(pvalue->u.dsch - 1) > 31u) {
-            rtxErrAddStrParm(ctx, "TransportChannelIdentity");
-            rtxErrAddUIntParm(ctx, pvalue->u.dsch);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dsch", -1, "DL-TrCH-TypeId1-r5");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.dsch, 1, 32);
-         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dsch", -1, "DL-TrCH-TypeId1-r5");
-         break;
-      case 3:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HSDSCH_Info(rtxContext* RT_RESTRICT ctx, const HSDSCH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HSDSCH-Info");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HSDSCH-Info");
-   /* harqInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_HARQ_Info(ctx, &pvalue->harqInfo);
-      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "HSDSCH-Info");
-   }
-   /* addOrReconfMAC-dFlow */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_AddOrReconfMAC_dFlow(ctx, &pvalue->addOrReconfMAC_dFlow);
-      RT_CHECK(ctx, stat, 0, "addOrReconfMAC-dFlow", -1, "HSDSCH-Info");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_AddReconfTransChInformation_r5_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_r5_tfs_SignallingMode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.explicit_config == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "explicit-config", -1, 0);
-         stat = asn1PE_UMTS_TransportFormatSet(ctx, pvalue->u.explicit_config);
-         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.sameAsULTrCH == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sameAsULTrCH", -1, 0);
-         stat = asn1PE_UMTS_UL_TransportChannelIdentity(ctx, pvalue->u.sameAsULTrCH);
-         RT_CHECK(ctx, stat, 0, "sameAsULTrCH", -1, 0);
-         break;
-      case 3:
-         if (pvalue->u.hsdsch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "hsdsch", -1, 0);
-         stat = asn1PE_UMTS_HSDSCH_Info(ctx, pvalue->u.hsdsch);
-         RT_CHECK(ctx, stat, 0, "hsdsch", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_AddReconfTransChInformation_r5(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-AddReconfTransChInformation-r5");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInformation-r5");
-   /* dl-TransportChannelType */
-   stat = asn1PE_UMTS_DL_TrCH_TypeId1_r5(ctx, &pvalue->dl_TransportChannelType);
-   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation-r5");
-   /* tfs-SignallingMode */
-   stat = asn1PE_UMTS_DL_AddReconfTransChInformation_r5_tfs_SignallingMode(ctx, &pvalue->tfs_SignallingMode);
-   RT_CHECK(ctx, stat, 0, "tfs-SignallingMode", -1, "DL-AddReconfTransChInformation-r5");
-   /* dch-QualityTarget */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_QualityTarget(ctx, &pvalue->dch_QualityTarget);
-      RT_CHECK(ctx, stat, 0, "dch-QualityTarget", -1, "DL-AddReconfTransChInformation-r5");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_AddReconfTransChInfoList_r5(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInfoList_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-AddReconfTransChInfoList-r5");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInfoList-r5");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-AddReconfTransChInformation-r5", (int32_t)i, "DL-AddReconfTransChInfoList-r5");
-      stat = asn1PE_UMTS_DL_AddReconfTransChInformation_r5(ctx, (const DL_AddReconfTransChInformation_r5*)node->data);
-      RT_CHECK(ctx, stat, 0, "DL-AddReconfTransChInformation-r5", (int32_t)i, "DL-AddReconfTransChInfoList-r5");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HSDSCH_Info_r7_dl_MAC_HeaderType(rtxContext* RT_RESTRICT ctx, const HSDSCH_Info_r7_dl_MAC_HeaderType* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.mac_hs == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "mac-hs", -1, 0);
-         stat = asn1PE_UMTS_AddOrReconfMAC_dFlow(ctx, pvalue->u.mac_hs);
-         RT_CHECK(ctx, stat, 0, "mac-hs", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.mac_ehs == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "mac-ehs", -1, 0);
-         stat = asn1PE_UMTS_AddOrReconfMAC_ehs_ReordQ(ctx, pvalue->u.mac_ehs);
-         RT_CHECK(ctx, stat, 0, "mac-ehs", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HSDSCH_Info_r7(rtxContext* RT_RESTRICT ctx, const HSDSCH_Info_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HSDSCH-Info-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HSDSCH-Info-r7");
-   /* harqInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
-      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "HSDSCH-Info-r7");
-   }
-   /* dl-MAC-HeaderType */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_HSDSCH_Info_r7_dl_MAC_HeaderType(ctx, &pvalue->dl_MAC_HeaderType);
-      RT_CHECK(ctx, stat, 0, "dl-MAC-HeaderType", -1, "HSDSCH-Info-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_AddReconfTransChInformation_r7_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_r7_tfs_SignallingMode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.explicit_config == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "explicit-config", -1, 0);
-         stat = asn1PE_UMTS_TransportFormatSet(ctx, pvalue->u.explicit_config);
-         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.sameAsULTrCH == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sameAsULTrCH", -1, 0);
-         stat = asn1PE_UMTS_UL_TransportChannelIdentity(ctx, pvalue->u.sameAsULTrCH);
-         RT_CHECK(ctx, stat, 0, "sameAsULTrCH", -1, 0);
-         break;
-      case 3:
-         if (pvalue->u.hsdsch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "hsdsch", -1, 0);
-         stat = asn1PE_UMTS_HSDSCH_Info_r7(ctx, pvalue->u.hsdsch);
-         RT_CHECK(ctx, stat, 0, "hsdsch", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_AddReconfTransChInformation_r7(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-AddReconfTransChInformation-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInformation-r7");
-   /* dl-TransportChannelType */
-   stat = asn1PE_UMTS_DL_TrCH_TypeId1_r5(ctx, &pvalue->dl_TransportChannelType);
-   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation-r7");
-   /* tfs-SignallingMode */
-   stat = asn1PE_UMTS_DL_AddReconfTransChInformation_r7_tfs_SignallingMode(ctx, &pvalue->tfs_SignallingMode);
-   RT_CHECK(ctx, stat, 0, "tfs-SignallingMode", -1, "DL-AddReconfTransChInformation-r7");
-   /* dch-QualityTarget */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_QualityTarget(ctx, &pvalue->dch_QualityTarget);
-      RT_CHECK(ctx, stat, 0, "dch-QualityTarget", -1, "DL-AddReconfTransChInformation-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_AddReconfTransChInfoList_r7(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInfoList_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-AddReconfTransChInfoList-r7");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInfoList-r7");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-AddReconfTransChInformation-r7", (int32_t)i, "DL-AddReconfTransChInfoList-r7");
-      stat = asn1PE_UMTS_DL_AddReconfTransChInformation_r7(ctx, (const DL_AddReconfTransChInformation_r7*)node->data);
-      RT_CHECK(ctx, stat, 0, "DL-AddReconfTransChInformation-r7", (int32_t)i, "DL-AddReconfTransChInfoList-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HSDSCH_Info_r9_dl_MAC_HeaderType(rtxContext* RT_RESTRICT ctx, const HSDSCH_Info_r9_dl_MAC_HeaderType* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.mac_hs == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "mac-hs", -1, 0);
-         stat = asn1PE_UMTS_AddOrReconfMAC_dFlow(ctx, pvalue->u.mac_hs);
-         RT_CHECK(ctx, stat, 0, "mac-hs", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.mac_ehs == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "mac-ehs", -1, 0);
-         stat = asn1PE_UMTS_AddOrReconfMAC_ehs_ReordQ_r9(ctx, pvalue->u.mac_ehs);
-         RT_CHECK(ctx, stat, 0, "mac-ehs", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HSDSCH_Info_r9(rtxContext* RT_RESTRICT ctx, const HSDSCH_Info_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HSDSCH-Info-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HSDSCH-Info-r9");
-   /* harqInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_HARQ_Info_r7(ctx, &pvalue->harqInfo);
-      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "HSDSCH-Info-r9");
-   }
-   /* dl-MAC-HeaderType */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_HSDSCH_Info_r9_dl_MAC_HeaderType(ctx, &pvalue->dl_MAC_HeaderType);
-      RT_CHECK(ctx, stat, 0, "dl-MAC-HeaderType", -1, "HSDSCH-Info-r9");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_AddReconfTransChInformation_r9_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_r9_tfs_SignallingMode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.explicit_config == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "explicit-config", -1, 0);
-         stat = asn1PE_UMTS_TransportFormatSet(ctx, pvalue->u.explicit_config);
-         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.sameAsULTrCH == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sameAsULTrCH", -1, 0);
-         stat = asn1PE_UMTS_UL_TransportChannelIdentity(ctx, pvalue->u.sameAsULTrCH);
-         RT_CHECK(ctx, stat, 0, "sameAsULTrCH", -1, 0);
-         break;
-      case 3:
-         if (pvalue->u.hsdsch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "hsdsch", -1, 0);
-         stat = asn1PE_UMTS_HSDSCH_Info_r9(ctx, pvalue->u.hsdsch);
-         RT_CHECK(ctx, stat, 0, "hsdsch", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_AddReconfTransChInformation_r9(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-AddReconfTransChInformation-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInformation-r9");
-   /* dl-TransportChannelType */
-   stat = asn1PE_UMTS_DL_TrCH_TypeId1_r5(ctx, &pvalue->dl_TransportChannelType);
-   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation-r9");
-   /* tfs-SignallingMode */
-   stat = asn1PE_UMTS_DL_AddReconfTransChInformation_r9_tfs_SignallingMode(ctx, &pvalue->tfs_SignallingMode);
-   RT_CHECK(ctx, stat, 0, "tfs-SignallingMode", -1, "DL-AddReconfTransChInformation-r9");
-   /* dch-QualityTarget */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_QualityTarget(ctx, &pvalue->dch_QualityTarget);
-      RT_CHECK(ctx, stat, 0, "dch-QualityTarget", -1, "DL-AddReconfTransChInformation-r9");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_AddReconfTransChInfoList_r9(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInfoList_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-AddReconfTransChInfoList-r9");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-AddReconfTransChInfoList-r9");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-AddReconfTransChInformation-r9", (int32_t)i, "DL-AddReconfTransChInfoList-r9");
-      stat = asn1PE_UMTS_DL_AddReconfTransChInformation_r9(ctx, (const DL_AddReconfTransChInformation_r9*)node->data);
-      RT_CHECK(ctx, stat, 0, "DL-AddReconfTransChInformation-r9", (int32_t)i, "DL-AddReconfTransChInfoList-r9");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters_dl_DCH_TFCS(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters_dl_DCH_TFCS* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tfcs */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_TFCS(ctx, &pvalue->tfcs);
-      RT_CHECK(ctx, stat, 0, "tfcs", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.dl_DCH_TFCS == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-DCH-TFCS", -1, 0);
-         stat = asn1PE_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters_dl_DCH_TFCS(ctx, pvalue->u.dl_DCH_TFCS);
-         RT_CHECK(ctx, stat, 0, "dl-DCH-TFCS", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-Parameters */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters(ctx, &pvalue->dl_Parameters);
-      RT_CHECK(ctx, stat, 0, "dl-Parameters", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* individualDL-CCTrCH-InfoList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IndividualDL_CCTrCH_InfoList(ctx, &pvalue->individualDL_CCTrCH_InfoList);
-      RT_CHECK(ctx, stat, 0, "individualDL-CCTrCH-InfoList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_r4_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CommonTransChInfo_r4(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-CommonTransChInfo-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CommonTransChInfo-r4");
-   /* sccpch-TFCS */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_TFCS(ctx, &pvalue->sccpch_TFCS);
-      RT_CHECK(ctx, stat, 0, "sccpch-TFCS", -1, "DL-CommonTransChInfo-r4");
-   }
-   /* modeSpecificInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-      RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonTransChInfo-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_TransportChannelIdentity(rtxContext* RT_RESTRICT ctx, const DL_TransportChannelIdentity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-TransportChannelIdentity");
-   /* dl-TransportChannelType */
-   if (pvalue->dl_TransportChannelType > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->dl_TransportChannelType);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-TrCH-Type", "dl-TransportChannelType", -1, "DL-TransportChannelIdentity");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dl_TransportChannelType, 0, 1);
-   RT_CHECK(ctx, stat, "DL-TrCH-Type", "dl-TransportChannelType", -1, "DL-TransportChannelIdentity");
-   /* dl-TransportChannelIdentity */
-   if ((uint64_t)(pvalue->dl_TransportChannelIdentity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->dl_TransportChannelIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dl-TransportChannelIdentity", -1, "DL-TransportChannelIdentity");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dl_TransportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "dl-TransportChannelIdentity", -1, "DL-TransportChannelIdentity");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_DeletedTransChInfoList(rtxContext* RT_RESTRICT ctx, const DL_DeletedTransChInfoList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-DeletedTransChInfoList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-DeletedTransChInfoList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-TransportChannelIdentity", (int32_t)i, "DL-DeletedTransChInfoList");
-      stat = asn1PE_UMTS_DL_TransportChannelIdentity(ctx, (const DL_TransportChannelIdentity*)node->data);
-      RT_CHECK(ctx, stat, 0, "DL-TransportChannelIdentity", (int32_t)i, "DL-DeletedTransChInfoList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_TrCH_TypeId2_r5(rtxContext* RT_RESTRICT ctx, const DL_TrCH_TypeId2_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-TrCH-TypeId2-r5");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "DL-TrCH-TypeId2-r5");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-TrCH-TypeId2-r5");
-   switch (pvalue->t) {
-      case 1:
-         if ((uint64_t)(pvalue->u.dch - 1) > 31u) {
-            rtxErrAddStrParm(ctx, "TransportChannelIdentity");
-            rtxErrAddUIntParm(ctx, pvalue->u.dch);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dch", -1, "DL-TrCH-TypeId2-r5");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.dch, 1, 32);
-         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch", -1, "DL-TrCH-TypeId2-r5");
-         break;
-      case 2:
-         if ((uint64_t)(pvalue->u.dsch - 1) > 31u) {
-            rtxErrAddStrParm(ctx, "TransportChannelIdentity");
-            rtxErrAddUIntParm(ctx, pvalue->u.dsch);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dsch", -1, "DL-TrCH-TypeId2-r5");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.dsch, 1, 32);
-         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dsch", -1, "DL-TrCH-TypeId2-r5");
-         break;
-      case 3:
-         if ((uint64_t)pvalue->u.hsdsch > 7u) {
-            rtxErrAddStrParm(ctx, "MAC-d-FlowIdentity");
-            rtxErrAddUIntParm(ctx, pvalue->u.hsdsch);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "MAC-d-FlowIdentity", "hsdsch", -1, "DL-TrCH-TypeId2-r5");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.hsdsch, 0, 7);
-         RT_CHECK(ctx, stat, "MAC-d-FlowIdentity", "hsdsch", -1, "DL-TrCH-TypeId2-r5");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_TransportChannelIdentity_r5(rtxContext* RT_RESTRICT ctx, const DL_TransportChannelIdentity_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-TransportChannelIdentity-r5");
-   /* dl-TransportChannelType */
-   stat = asn1PE_UMTS_DL_TrCH_TypeId2_r5(ctx, &pvalue->dl_TransportChannelType);
-   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-TransportChannelIdentity-r5");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_DeletedTransChInfoList_r5(rtxContext* RT_RESTRICT ctx, const DL_DeletedTransChInfoList_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-DeletedTransChInfoList-r5");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-DeletedTransChInfoList-r5");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-TransportChannelIdentity-r5", (int32_t)i, "DL-DeletedTransChInfoList-r5");
-      stat = asn1PE_UMTS_DL_TransportChannelIdentity_r5(ctx, (const DL_TransportChannelIdentity_r5*)node->data);
-      RT_CHECK(ctx, stat, 0, "DL-TransportChannelIdentity-r5", (int32_t)i, "DL-DeletedTransChInfoList-r5");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_TrCH_TypeId2_r7_hsdsch(rtxContext* RT_RESTRICT ctx, const DL_TrCH_TypeId2_r7_hsdsch* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if ((uint64_t)pvalue->u.mac_hs > 7u) {
-            rtxErrAddStrParm(ctx, "MAC-d-FlowIdentity");
-            rtxErrAddUIntParm(ctx, pvalue->u.mac_hs);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "MAC-d-FlowIdentity", "mac-hs", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.mac_hs, 0, 7);
-         RT_CHECK(ctx, stat, "MAC-d-FlowIdentity", "mac-hs", -1, 0);
-         break;
-      case 2:
-         if ((uint64_t)pvalue->u.mac_ehs > 7u) {
-            rtxErrAddStrParm(ctx, "MAC-ehs-QueueId");
-            rtxErrAddUIntParm(ctx, pvalue->u.mac_ehs);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "MAC-ehs-QueueId", "mac-ehs", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.mac_ehs, 0, 7);
-         RT_CHECK(ctx, stat, "MAC-ehs-QueueId", "mac-ehs", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_TrCH_TypeId2_r7(rtxContext* RT_RESTRICT ctx, const DL_TrCH_TypeId2_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-TrCH-TypeId2-r7");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "DL-TrCH-TypeId2-r7");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-TrCH-TypeId2-r7");
-   switch (pvalue->t) {
-      case 1:
-         if ((uint64_t)(pvalue->u.dch - 1) > 31u) {
-            rtxErrAddStrParm(ctx, "TransportChannelIdentity");
-            rtxErrAddUIntParm(ctx, pvalue->u.dch);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dch", -1, "DL-TrCH-TypeId2-r7");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.dch, 1, 32);
-         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dch", -1, "DL-TrCH-TypeId2-r7");
-         break;
-      case 2:
-         if ((uint64_t)(pvalue->u.dsch - 1) > 31u) {
-            rtxErrAddStrParm(ctx, "TransportChannelIdentity");
-            rtxErrAddUIntParm(ctx, pvalue->u.dsch);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "dsch", -1, "DL-TrCH-TypeId2-r7");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.dsch, 1, 32);
-         RT_CHECK(ctx, stat, "TransportChannelIdentity", "dsch", -1, "DL-TrCH-TypeId2-r7");
-         break;
-      case 3:
-         if (pvalue->u.hsdsch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "hsdsch", -1, "DL-TrCH-TypeId2-r7");
-         stat = asn1PE_UMTS_DL_TrCH_TypeId2_r7_hsdsch(ctx, pvalue->u.hsdsch);
-         RT_CHECK(ctx, stat, 0, "hsdsch", -1, "DL-TrCH-TypeId2-r7");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_TransportChannelIdentity_r7(rtxContext* RT_RESTRICT ctx, const DL_TransportChannelIdentity_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-TransportChannelIdentity-r7");
-   /* dl-TransportChannelType */
-   stat = asn1PE_UMTS_DL_TrCH_TypeId2_r7(ctx, &pvalue->dl_TransportChannelType);
-   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-TransportChannelIdentity-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_DeletedTransChInfoList_r7(rtxContext* RT_RESTRICT ctx, const DL_DeletedTransChInfoList_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-DeletedTransChInfoList-r7");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-DeletedTransChInfoList-r7");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-TransportChannelIdentity-r7", (int32_t)i, "DL-DeletedTransChInfoList-r7");
-      stat = asn1PE_UMTS_DL_TransportChannelIdentity_r7(ctx, (const DL_TransportChannelIdentity_r7*)node->data);
-      RT_CHECK(ctx, stat, 0, "DL-TransportChannelIdentity-r7", (int32_t)i, "DL-DeletedTransChInfoList-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DRAC_ClassIdentity(rtxContext* RT_RESTRICT ctx, DRAC_ClassIdentity value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 7u) {
-      rtxErrAddStrParm(ctx, "DRAC-ClassIdentity");
+   if (value > 15) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DRAC-ClassIdentity");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "RadioFrequencyBandTDDext");
    }
-   stat = pe_ConsUInt64(ctx, value, 1, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DRAC-ClassIdentity");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RadioFrequencyBandTDDext");
    return 0;
 }
 
-int asn1PE_UMTS_TransmissionTimeValidity(rtxContext* RT_RESTRICT ctx, TransmissionTimeValidity value)
+int asn1PE_UMTS_RadioFrequencyBandTDDext(rtxContext* RT_RESTRICT ctx, RadioFrequencyBandTDDext value)
 {
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 255u) {
-      rtxErrAddStrParm(ctx, "TransmissionTimeValidity");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TransmissionTimeValidity");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 256);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TransmissionTimeValidity");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_RadioFrequencyBandTDDext, value);
 }
 
-int asn1PE_UMTS_TimeDurationBeforeRetry(rtxContext* RT_RESTRICT ctx, TimeDurationBeforeRetry value)
+RT_MERGED_BODY int enc_RadioFrequencyBandTDDextList(rtxContext* RT_RESTRICT ctx, const RadioFrequencyBandTDDextList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if ((uint64_t)(value - 1) > 255u) {
-      rtxErrAddStrParm(ctx, "TimeDurationBeforeRetry");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TimeDurationBeforeRetry");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 256);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimeDurationBeforeRetry");
-   return 0;
-}
-
-int asn1PE_UMTS_DRAC_StaticInformation(rtxContext* RT_RESTRICT ctx, const DRAC_StaticInformation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DRAC-StaticInformation");
-   /* transmissionTimeValidity */
-   if ((uint64_t)(pvalue->transmissionTimeValidity - 1) > 255u) {
-      rtxErrAddStrParm(ctx, "TransmissionTimeValidity");
-      rtxErrAddUIntParm(ctx, pvalue->transmissionTimeValidity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransmissionTimeValidity", "transmissionTimeValidity", -1, "DRAC-StaticInformation");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->transmissionTimeValidity, 1, 256);
-   RT_CHECK(ctx, stat, "TransmissionTimeValidity", "transmissionTimeValidity", -1, "DRAC-StaticInformation");
-   /* timeDurationBeforeRetry */
-   if ((uint64_t)(pvalue->timeDurationBeforeRetry - 1) > 255u) {
-      rtxErrAddStrParm(ctx, "TimeDurationBeforeRetry");
-      rtxErrAddUIntParm(ctx, pvalue->timeDurationBeforeRetry);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeDurationBeforeRetry", "timeDurationBeforeRetry", -1, "DRAC-StaticInformation");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeDurationBeforeRetry, 1, 256);
-   RT_CHECK(ctx, stat, "TimeDurationBeforeRetry", "timeDurationBeforeRetry", -1, "DRAC-StaticInformation");
-   /* drac-ClassIdentity */
-   if ((uint64_t)(pvalue->drac_ClassIdentity - 1) > 7u) {
-      rtxErrAddStrParm(ctx, "DRAC-ClassIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->drac_ClassIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "DRAC-ClassIdentity", "drac-ClassIdentity", -1, "DRAC-StaticInformation");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->drac_ClassIdentity, 1, 8);
-   RT_CHECK(ctx, stat, "DRAC-ClassIdentity", "drac-ClassIdentity", -1, "DRAC-StaticInformation");
-   return 0;
-}
-
-int asn1PE_UMTS_DRAC_StaticInformationList(rtxContext* RT_RESTRICT ctx, const DRAC_StaticInformationList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DRAC-StaticInformationList");
-   const rtxDListNode* node;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RadioFrequencyBandTDDextList");
    uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DRAC-StaticInformationList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DRAC-StaticInformation", (int32_t)i, "DRAC-StaticInformationList");
-      stat = asn1PE_UMTS_DRAC_StaticInformation(ctx, (const DRAC_StaticInformation*)node->data);
-      RT_CHECK(ctx, stat, 0, "DRAC-StaticInformation", (int32_t)i, "DRAC-StaticInformationList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType_non_ScheduledTransGrantInfo(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType_non_ScheduledTransGrantInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* maxMAC-e-PDUContents */
-   if ((uint64_t)(pvalue->maxMAC_e_PDUContents - 1) > 19981u) {
-      rtxErrAddStrParm(ctx, "maxMAC-e-PDUContents");
-      rtxErrAddUIntParm(ctx, pvalue->maxMAC_e_PDUContents);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "maxMAC-e-PDUContents", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxMAC_e_PDUContents, 1, 19982);
-   RT_CHECK(ctx, stat, 0, "maxMAC-e-PDUContents", -1, 0);
-   /* ms2-NonSchedTransmGrantHARQAlloc */
-   if (pvalue->m & 0x1u) {
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pe_BitString32(ctx, &pvalue->ms2_NonSchedTransmGrantHARQAlloc, 8, 8);
-      RT_CHECK(ctx, stat, 0, "ms2-NonSchedTransmGrantHARQAlloc", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.non_ScheduledTransGrantInfo == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "non-ScheduledTransGrantInfo", -1, 0);
-         stat = asn1PE_UMTS_E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType_non_ScheduledTransGrantInfo(ctx, pvalue->u.non_ScheduledTransGrantInfo);
-         RT_CHECK(ctx, stat, 0, "non-ScheduledTransGrantInfo", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_AddReconf_MAC_d_Flow(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_Flow* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-DCH-AddReconf-MAC-d-Flow");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-AddReconf-MAC-d-Flow");
-   /* mac-d-FlowIdentity */
-   if ((uint64_t)pvalue->mac_d_FlowIdentity > 7u) {
-      rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->mac_d_FlowIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "E-DCH-MAC-d-FlowIdentity", "mac-d-FlowIdentity", -1, "E-DCH-AddReconf-MAC-d-Flow");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mac_d_FlowIdentity, 0, 7);
-   RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowIdentity", "mac-d-FlowIdentity", -1, "E-DCH-AddReconf-MAC-d-Flow");
-   /* mac-d-FlowPowerOffset */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->mac_d_FlowPowerOffset > 6u) {
-         rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowPowerOffset");
-         rtxErrAddUIntParm(ctx, pvalue->mac_d_FlowPowerOffset);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "E-DCH-MAC-d-FlowPowerOffset", "mac-d-FlowPowerOffset", -1, "E-DCH-AddReconf-MAC-d-Flow");
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RadioFrequencyBandTDDextList");
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "RadioFrequencyBandTDDext", "RadioFrequencyBandTDDext", (int32_t)i, "RadioFrequencyBandTDDextList");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->mac_d_FlowPowerOffset, 0, 6);
-      RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowPowerOffset", "mac-d-FlowPowerOffset", -1, "E-DCH-AddReconf-MAC-d-Flow");
-   }
-   /* mac-d-FlowMaxRetrans */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->mac_d_FlowMaxRetrans > 15u) {
-         rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowMaxRetrans");
-         rtxErrAddUIntParm(ctx, pvalue->mac_d_FlowMaxRetrans);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "E-DCH-MAC-d-FlowMaxRetrans", "mac-d-FlowMaxRetrans", -1, "E-DCH-AddReconf-MAC-d-Flow");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mac_d_FlowMaxRetrans, 0, 15);
-      RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowMaxRetrans", "mac-d-FlowMaxRetrans", -1, "E-DCH-AddReconf-MAC-d-Flow");
-   }
-   /* mac-d-FlowMultiplexingList */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_E_DCH_MAC_d_FlowMultiplexingList(ctx, pvalue->mac_d_FlowMultiplexingList);
-      RT_CHECK(ctx, stat, 0, "mac-d-FlowMultiplexingList", -1, "E-DCH-AddReconf-MAC-d-Flow");
-   }
-   /* transmissionGrantType */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType(ctx, &pvalue->transmissionGrantType);
-      RT_CHECK(ctx, stat, 0, "transmissionGrantType", -1, "E-DCH-AddReconf-MAC-d-Flow");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "RadioFrequencyBandTDDext", "RadioFrequencyBandTDDext", (int32_t)i, "RadioFrequencyBandTDDextList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RadioFrequencyBandTDDextList(rtxContext* RT_RESTRICT ctx, const RadioFrequencyBandTDDextList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RadioFrequencyBandTDDextList, pvalue);
+}
+
+RT_MERGED_BODY int enc_Rb_timer_indicator(rtxContext* RT_RESTRICT ctx, const Rb_timer_indicator* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* maxMAC-e-PDUContents */
-   if ((uint64_t)(pvalue->maxMAC_e_PDUContents - 1) > 19981u) {
-      rtxErrAddStrParm(ctx, "maxMAC-e-PDUContents");
-      rtxErrAddUIntParm(ctx, pvalue->maxMAC_e_PDUContents);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "maxMAC-e-PDUContents", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxMAC_e_PDUContents, 1, 19982);
-   RT_CHECK(ctx, stat, 0, "maxMAC-e-PDUContents", -1, 0);
-   /* ms2-NonSchedTransmGrantHARQAlloc */
-   if (pvalue->m & 0x1u) {
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pe_BitString32(ctx, &pvalue->ms2_NonSchedTransmGrantHARQAlloc, 8, 8);
-      RT_CHECK(ctx, stat, 0, "ms2-NonSchedTransmGrantHARQAlloc", -1, 0);
-   }
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Rb-timer-indicator");
+   /* t314-expired */
+   stat = rtxEncBitAt(ctx, cur, pvalue->t314_expired);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t314-expired", -1, "Rb-timer-indicator");
+   /* t315-expired */
+   stat = rtxEncBitAt(ctx, cur, pvalue->t315_expired);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t315-expired", -1, "Rb-timer-indicator");
    return 0;
 }
 
-int asn1PE_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_Rb_timer_indicator(rtxContext* RT_RESTRICT ctx, const Rb_timer_indicator* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_Rb_timer_indicator, pvalue);
 }
 
-int asn1PE_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.non_ScheduledTransGrantInfo == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "non-ScheduledTransGrantInfo", -1, 0);
-         stat = asn1PE_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo(ctx, pvalue->u.non_ScheduledTransGrantInfo);
-         RT_CHECK(ctx, stat, 0, "non-ScheduledTransGrantInfo", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_Flow_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
-   /* mac-d-FlowIdentity */
-   if ((uint64_t)pvalue->mac_d_FlowIdentity > 7u) {
-      rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->mac_d_FlowIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "E-DCH-MAC-d-FlowIdentity", "mac-d-FlowIdentity", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mac_d_FlowIdentity, 0, 7);
-   RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowIdentity", "mac-d-FlowIdentity", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
-   /* mac-d-FlowPowerOffset */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->mac_d_FlowPowerOffset > 6u) {
-         rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowPowerOffset");
-         rtxErrAddUIntParm(ctx, pvalue->mac_d_FlowPowerOffset);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "E-DCH-MAC-d-FlowPowerOffset", "mac-d-FlowPowerOffset", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mac_d_FlowPowerOffset, 0, 6);
-      RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowPowerOffset", "mac-d-FlowPowerOffset", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
-   }
-   /* mac-d-FlowMaxRetrans */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->mac_d_FlowMaxRetrans > 15u) {
-         rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowMaxRetrans");
-         rtxErrAddUIntParm(ctx, pvalue->mac_d_FlowMaxRetrans);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "E-DCH-MAC-d-FlowMaxRetrans", "mac-d-FlowMaxRetrans", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mac_d_FlowMaxRetrans, 0, 15);
-      RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowMaxRetrans", "mac-d-FlowMaxRetrans", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
-   }
-   /* mac-d-FlowRetransTimer */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->mac_d_FlowRetransTimer > 29) {
-         rtxErrAddUIntParm(ctx, pvalue->mac_d_FlowRetransTimer);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "E-DCH-MAC-d-FlowRetransTimer", "mac-d-FlowRetransTimer", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mac_d_FlowRetransTimer, 0, 29);
-      RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowRetransTimer", "mac-d-FlowRetransTimer", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
-   }
-   /* mac-d-FlowMultiplexingList */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_E_DCH_MAC_d_FlowMultiplexingList(ctx, pvalue->mac_d_FlowMultiplexingList);
-      RT_CHECK(ctx, stat, 0, "mac-d-FlowMultiplexingList", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
-   }
-   /* transmissionGrantType */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType(ctx, &pvalue->transmissionGrantType);
-      RT_CHECK(ctx, stat, 0, "transmissionGrantType", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_AddReconf_MAC_d_FlowList(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_FlowList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-DCH-AddReconf-MAC-d-FlowList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "E-DCH-AddReconf-MAC-d-FlowList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "E-DCH-AddReconf-MAC-d-Flow", (int32_t)i, "E-DCH-AddReconf-MAC-d-FlowList");
-      stat = asn1PE_UMTS_E_DCH_AddReconf_MAC_d_Flow(ctx, (const E_DCH_AddReconf_MAC_d_Flow*)node->data);
-      RT_CHECK(ctx, stat, 0, "E-DCH-AddReconf-MAC-d-Flow", (int32_t)i, "E-DCH-AddReconf-MAC-d-FlowList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_AddReconf_MAC_d_FlowList_r7(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_FlowList_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-DCH-AddReconf-MAC-d-FlowList-r7");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "E-DCH-AddReconf-MAC-d-FlowList-r7");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "E-DCH-AddReconf-MAC-d-Flow-r7", (int32_t)i, "E-DCH-AddReconf-MAC-d-FlowList-r7");
-      stat = asn1PE_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7(ctx, (const E_DCH_AddReconf_MAC_d_Flow_r7*)node->data);
-      RT_CHECK(ctx, stat, 0, "E-DCH-AddReconf-MAC-d-Flow-r7", (int32_t)i, "E-DCH-AddReconf-MAC-d-FlowList-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PowerOffsetInfoShort_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const PowerOffsetInfoShort_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* gainFactorBetaC */
-   if ((uint64_t)pvalue->gainFactorBetaC > 15u) {
-      rtxErrAddStrParm(ctx, "GainFactor");
-      rtxErrAddUIntParm(ctx, pvalue->gainFactorBetaC);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "GainFactor", "gainFactorBetaC", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->gainFactorBetaC, 0, 15);
-   RT_CHECK(ctx, stat, "GainFactor", "gainFactorBetaC", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PowerOffsetInfoShort_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const PowerOffsetInfoShort_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_PowerOffsetInfoShort_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PowerOffsetInfoShort(rtxContext* RT_RESTRICT ctx, const PowerOffsetInfoShort* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PowerOffsetInfoShort");
-   /* referenceTFC */
-   if ((uint64_t)pvalue->referenceTFC > 1023u) {
-      rtxErrAddStrParm(ctx, "TFC-Value");
-      rtxErrAddUIntParm(ctx, pvalue->referenceTFC);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TFC-Value", "referenceTFC", -1, "PowerOffsetInfoShort");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->referenceTFC, 0, 1023);
-   RT_CHECK(ctx, stat, "TFC-Value", "referenceTFC", -1, "PowerOffsetInfoShort");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_PowerOffsetInfoShort_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "PowerOffsetInfoShort");
-   /* gainFactorBetaD */
-   if ((uint64_t)pvalue->gainFactorBetaD > 15u) {
-      rtxErrAddStrParm(ctx, "GainFactor");
-      rtxErrAddUIntParm(ctx, pvalue->gainFactorBetaD);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "GainFactor", "gainFactorBetaD", -1, "PowerOffsetInfoShort");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->gainFactorBetaD, 0, 15);
-   RT_CHECK(ctx, stat, "GainFactor", "gainFactorBetaD", -1, "PowerOffsetInfoShort");
-   return 0;
-}
-
-int asn1PE_UMTS_TFC_SubsetList_element_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const TFC_SubsetList_element_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tfcs-ID */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_TFCS_Identity(ctx, &pvalue->tfcs_ID);
-      RT_CHECK(ctx, stat, 0, "tfcs-ID", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TFC_SubsetList_element_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const TFC_SubsetList_element_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_TFC_SubsetList_element_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TFC_SubsetList_element(rtxContext* RT_RESTRICT ctx, const TFC_SubsetList_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_TFC_SubsetList_element_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
-   /* tfc-Subset */
-   stat = asn1PE_UMTS_TFC_Subset(ctx, &pvalue->tfc_Subset);
-   RT_CHECK(ctx, stat, 0, "tfc-Subset", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_TFC_SubsetList(rtxContext* RT_RESTRICT ctx, const TFC_SubsetList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TFC-SubsetList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 1024);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "TFC-SubsetList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "TFC-SubsetList");
-      stat = asn1PE_UMTS_TFC_SubsetList_element(ctx, (const TFC_SubsetList_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "TFC-SubsetList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_AddReconfTransChInformation_r6_dch_usch(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r6_dch_usch* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* ul-TransportChannelType */
-   if (pvalue->ul_TransportChannelType > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->ul_TransportChannelType);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UL-TrCH-Type", "ul-TransportChannelType", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ul_TransportChannelType, 0, 1);
-   RT_CHECK(ctx, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, 0);
-   /* transportChannelIdentity */
-   if ((uint64_t)(pvalue->transportChannelIdentity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->transportChannelIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "transportChannelIdentity", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->transportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, 0);
-   /* transportFormatSet */
-   stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->transportFormatSet);
-   RT_CHECK(ctx, stat, 0, "transportFormatSet", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_AddReconfTransChInformation_r6_e_dch_harq_Info(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r6_e_dch_harq_Info value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_AddReconfTransChInformation_r6_e_dch(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r6_e_dch* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tti */
-   if (pvalue->tti > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->tti);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "E-DCH-TTI", "tti", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tti, 0, 1);
-   RT_CHECK(ctx, stat, "E-DCH-TTI", "tti", -1, 0);
-   /* harq-Info */
-   if (pvalue->harq_Info > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->harq_Info);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "harq-Info", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->harq_Info, 0, 1);
-   RT_CHECK(ctx, stat, 0, "harq-Info", -1, 0);
-   /* addReconf-MAC-d-FlowList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_E_DCH_AddReconf_MAC_d_FlowList(ctx, &pvalue->addReconf_MAC_d_FlowList);
-      RT_CHECK(ctx, stat, 0, "addReconf-MAC-d-FlowList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_AddReconfTransChInformation_r6(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-AddReconfTransChInformation-r6");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UL-AddReconfTransChInformation-r6");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-AddReconfTransChInformation-r6");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.dch_usch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dch-usch", -1, "UL-AddReconfTransChInformation-r6");
-         stat = asn1PE_UMTS_UL_AddReconfTransChInformation_r6_dch_usch(ctx, pvalue->u.dch_usch);
-         RT_CHECK(ctx, stat, 0, "dch-usch", -1, "UL-AddReconfTransChInformation-r6");
-         break;
-      case 2:
-         if (pvalue->u.e_dch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e-dch", -1, "UL-AddReconfTransChInformation-r6");
-         stat = asn1PE_UMTS_UL_AddReconfTransChInformation_r6_e_dch(ctx, pvalue->u.e_dch);
-         RT_CHECK(ctx, stat, 0, "e-dch", -1, "UL-AddReconfTransChInformation-r6");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_AddReconfTransChInfoList_r6(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInfoList_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-AddReconfTransChInfoList-r6");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UL-AddReconfTransChInfoList-r6");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UL-AddReconfTransChInformation-r6", (int32_t)i, "UL-AddReconfTransChInfoList-r6");
-      stat = asn1PE_UMTS_UL_AddReconfTransChInformation_r6(ctx, (const UL_AddReconfTransChInformation_r6*)node->data);
-      RT_CHECK(ctx, stat, 0, "UL-AddReconfTransChInformation-r6", (int32_t)i, "UL-AddReconfTransChInfoList-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_AddReconfTransChInformation_r7_dch_usch(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r7_dch_usch* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* ul-TransportChannelType */
-   if (pvalue->ul_TransportChannelType > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->ul_TransportChannelType);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UL-TrCH-Type", "ul-TransportChannelType", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ul_TransportChannelType, 0, 1);
-   RT_CHECK(ctx, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, 0);
-   /* transportChannelIdentity */
-   if ((uint64_t)(pvalue->transportChannelIdentity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->transportChannelIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "transportChannelIdentity", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->transportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, 0);
-   /* transportFormatSet */
-   stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->transportFormatSet);
-   RT_CHECK(ctx, stat, 0, "transportFormatSet", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_AddReconfTransChInformation_r7_e_dch_modeSpecific_fdd(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r7_e_dch_modeSpecific_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* tti */
-   if (pvalue->tti > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->tti);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "E-DCH-TTI", "tti", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tti, 0, 1);
-   RT_CHECK(ctx, stat, "E-DCH-TTI", "tti", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_AddReconfTransChInformation_r7_e_dch_modeSpecific(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r7_e_dch_modeSpecific* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_UL_AddReconfTransChInformation_r7_e_dch_modeSpecific_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_AddReconfTransChInformation_r7_e_dch_harq_Info(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r7_e_dch_harq_Info value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_AddReconfTransChInformation_r7_e_dch(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r7_e_dch* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* modeSpecific */
-   stat = asn1PE_UMTS_UL_AddReconfTransChInformation_r7_e_dch_modeSpecific(ctx, &pvalue->modeSpecific);
-   RT_CHECK(ctx, stat, 0, "modeSpecific", -1, 0);
-   /* harq-Info */
-   if (pvalue->harq_Info > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->harq_Info);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "harq-Info", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->harq_Info, 0, 1);
-   RT_CHECK(ctx, stat, 0, "harq-Info", -1, 0);
-   /* addReconf-MAC-d-FlowList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_E_DCH_AddReconf_MAC_d_FlowList_r7(ctx, &pvalue->addReconf_MAC_d_FlowList);
-      RT_CHECK(ctx, stat, 0, "addReconf-MAC-d-FlowList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_AddReconfTransChInformation_r7(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-AddReconfTransChInformation-r7");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UL-AddReconfTransChInformation-r7");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-AddReconfTransChInformation-r7");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.dch_usch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dch-usch", -1, "UL-AddReconfTransChInformation-r7");
-         stat = asn1PE_UMTS_UL_AddReconfTransChInformation_r7_dch_usch(ctx, pvalue->u.dch_usch);
-         RT_CHECK(ctx, stat, 0, "dch-usch", -1, "UL-AddReconfTransChInformation-r7");
-         break;
-      case 2:
-         if (pvalue->u.e_dch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e-dch", -1, "UL-AddReconfTransChInformation-r7");
-         stat = asn1PE_UMTS_UL_AddReconfTransChInformation_r7_e_dch(ctx, pvalue->u.e_dch);
-         RT_CHECK(ctx, stat, 0, "e-dch", -1, "UL-AddReconfTransChInformation-r7");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_AddReconfTransChInfoList_r7(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInfoList_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-AddReconfTransChInfoList-r7");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UL-AddReconfTransChInfoList-r7");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UL-AddReconfTransChInformation-r7", (int32_t)i, "UL-AddReconfTransChInfoList-r7");
-      stat = asn1PE_UMTS_UL_AddReconfTransChInformation_r7(ctx, (const UL_AddReconfTransChInformation_r7*)node->data);
-      RT_CHECK(ctx, stat, 0, "UL-AddReconfTransChInformation-r7", (int32_t)i, "UL-AddReconfTransChInfoList-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_AddReconfTransChInformation_r8_dch_usch(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r8_dch_usch* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* ul-TransportChannelType */
-   if (pvalue->ul_TransportChannelType > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->ul_TransportChannelType);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UL-TrCH-Type", "ul-TransportChannelType", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ul_TransportChannelType, 0, 1);
-   RT_CHECK(ctx, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, 0);
-   /* transportChannelIdentity */
-   if ((uint64_t)(pvalue->transportChannelIdentity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->transportChannelIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "transportChannelIdentity", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->transportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, 0);
-   /* transportFormatSet */
-   stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->transportFormatSet);
-   RT_CHECK(ctx, stat, 0, "transportFormatSet", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_AddReconfTransChInformation_r8_e_dch_ul_MAC_HeaderType(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8_e_dch_ul_MAC_HeaderType value)
+RT_MERGED_BODY int enc_InterRATInfo(rtxContext* RT_RESTRICT ctx, InterRATInfo value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "InterRATInfo");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterRATInfo");
    return 0;
 }
 
-int asn1PE_UMTS_UL_AddReconfTransChInformation_r8_e_dch_modeSpecific_fdd(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r8_e_dch_modeSpecific_fdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_InterRATInfo(rtxContext* RT_RESTRICT ctx, InterRATInfo value)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* tti */
-   if (pvalue->tti > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->tti);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "E-DCH-TTI", "tti", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tti, 0, 1);
-   RT_CHECK(ctx, stat, "E-DCH-TTI", "tti", -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_InterRATInfo, value);
 }
 
-int asn1PE_UMTS_UL_AddReconfTransChInformation_r8_e_dch_modeSpecific(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r8_e_dch_modeSpecific* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_RedirectionInfo(rtxContext* RT_RESTRICT ctx, const RedirectionInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RedirectionInfo");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "RedirectionInfo");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "RedirectionInfo");
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_UL_AddReconfTransChInformation_r8_e_dch_modeSpecific_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         if (pvalue->u.frequencyInfo == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "frequencyInfo", -1, "RedirectionInfo");
+         stat = enc_FrequencyInfo(ctx, pvalue->u.frequencyInfo, cur);
+         RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RedirectionInfo");
          break;
       case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_AddReconfTransChInformation_r8_e_dch_harq_Info(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8_e_dch_harq_Info value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_AddReconfTransChInformation_r8_e_dch(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r8_e_dch* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-MAC-HeaderType */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->ul_MAC_HeaderType > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->ul_MAC_HeaderType);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "ul-MAC-HeaderType", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ul_MAC_HeaderType, 0, 0);
-      RT_CHECK(ctx, stat, 0, "ul-MAC-HeaderType", -1, 0);
-   }
-   /* modeSpecific */
-   stat = asn1PE_UMTS_UL_AddReconfTransChInformation_r8_e_dch_modeSpecific(ctx, &pvalue->modeSpecific);
-   RT_CHECK(ctx, stat, 0, "modeSpecific", -1, 0);
-   /* harq-Info */
-   if (pvalue->harq_Info > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->harq_Info);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "harq-Info", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->harq_Info, 0, 1);
-   RT_CHECK(ctx, stat, 0, "harq-Info", -1, 0);
-   /* addReconf-MAC-d-FlowList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_E_DCH_AddReconf_MAC_d_FlowList_r7(ctx, &pvalue->addReconf_MAC_d_FlowList);
-      RT_CHECK(ctx, stat, 0, "addReconf-MAC-d-FlowList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_AddReconfTransChInformation_r8(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-AddReconfTransChInformation-r8");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UL-AddReconfTransChInformation-r8");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-AddReconfTransChInformation-r8");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.dch_usch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dch-usch", -1, "UL-AddReconfTransChInformation-r8");
-         stat = asn1PE_UMTS_UL_AddReconfTransChInformation_r8_dch_usch(ctx, pvalue->u.dch_usch);
-         RT_CHECK(ctx, stat, 0, "dch-usch", -1, "UL-AddReconfTransChInformation-r8");
-         break;
-      case 2:
-         if (pvalue->u.e_dch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e-dch", -1, "UL-AddReconfTransChInformation-r8");
-         stat = asn1PE_UMTS_UL_AddReconfTransChInformation_r8_e_dch(ctx, pvalue->u.e_dch);
-         RT_CHECK(ctx, stat, 0, "e-dch", -1, "UL-AddReconfTransChInformation-r8");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_AddReconfTransChInfoList_r8(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInfoList_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-AddReconfTransChInfoList-r8");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UL-AddReconfTransChInfoList-r8");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UL-AddReconfTransChInformation-r8", (int32_t)i, "UL-AddReconfTransChInfoList-r8");
-      stat = asn1PE_UMTS_UL_AddReconfTransChInformation_r8(ctx, (const UL_AddReconfTransChInformation_r8*)node->data);
-      RT_CHECK(ctx, stat, 0, "UL-AddReconfTransChInformation-r8", (int32_t)i, "UL-AddReconfTransChInfoList-r8");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_CommonTransChInfo_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_CommonTransChInfo_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* ul-TFCS */
-   stat = asn1PE_UMTS_TFCS(ctx, &pvalue->ul_TFCS);
-   RT_CHECK(ctx, stat, 0, "ul-TFCS", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_CommonTransChInfo_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_CommonTransChInfo_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* individualUL-CCTrCH-InfoList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IndividualUL_CCTrCH_InfoList(ctx, &pvalue->individualUL_CCTrCH_InfoList);
-      RT_CHECK(ctx, stat, 0, "individualUL-CCTrCH-InfoList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_CommonTransChInfo_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_CommonTransChInfo_r4_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_UL_CommonTransChInfo_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_UL_CommonTransChInfo_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_CommonTransChInfo_r4(rtxContext* RT_RESTRICT ctx, const UL_CommonTransChInfo_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-CommonTransChInfo-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-CommonTransChInfo-r4");
-   /* tfc-Subset */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_TFC_Subset(ctx, &pvalue->tfc_Subset);
-      RT_CHECK(ctx, stat, 0, "tfc-Subset", -1, "UL-CommonTransChInfo-r4");
-   }
-   /* prach-TFCS */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_TFCS(ctx, &pvalue->prach_TFCS);
-      RT_CHECK(ctx, stat, 0, "prach-TFCS", -1, "UL-CommonTransChInfo-r4");
-   }
-   /* modeSpecificInfo */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-      RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-CommonTransChInfo-r4");
-   }
-   /* tfc-SubsetList */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_TFC_SubsetList(ctx, &pvalue->tfc_SubsetList);
-      RT_CHECK(ctx, stat, 0, "tfc-SubsetList", -1, "UL-CommonTransChInfo-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DeletedTransChInfoList(rtxContext* RT_RESTRICT ctx, const UL_DeletedTransChInfoList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-DeletedTransChInfoList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UL-DeletedTransChInfoList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UL-TransportChannelIdentity", (int32_t)i, "UL-DeletedTransChInfoList");
-      stat = asn1PE_UMTS_UL_TransportChannelIdentity(ctx, (const UL_TransportChannelIdentity*)node->data);
-      RT_CHECK(ctx, stat, 0, "UL-TransportChannelIdentity", (int32_t)i, "UL-DeletedTransChInfoList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TransportChannelIdentity_r6_dch_usch(rtxContext* RT_RESTRICT ctx, const UL_TransportChannelIdentity_r6_dch_usch* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* ul-TransportChannelType */
-   if (pvalue->ul_TransportChannelType > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->ul_TransportChannelType);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UL-TrCH-Type", "ul-TransportChannelType", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ul_TransportChannelType, 0, 1);
-   RT_CHECK(ctx, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, 0);
-   /* ul-TransportChannelIdentity */
-   if ((uint64_t)(pvalue->ul_TransportChannelIdentity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->ul_TransportChannelIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "ul-TransportChannelIdentity", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ul_TransportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "ul-TransportChannelIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TransportChannelIdentity_r6(rtxContext* RT_RESTRICT ctx, const UL_TransportChannelIdentity_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-TransportChannelIdentity-r6");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UL-TransportChannelIdentity-r6");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-TransportChannelIdentity-r6");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.dch_usch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dch-usch", -1, "UL-TransportChannelIdentity-r6");
-         stat = asn1PE_UMTS_UL_TransportChannelIdentity_r6_dch_usch(ctx, pvalue->u.dch_usch);
-         RT_CHECK(ctx, stat, 0, "dch-usch", -1, "UL-TransportChannelIdentity-r6");
-         break;
-      case 2:
-         if ((uint64_t)pvalue->u.e_dch > 7u) {
-            rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowIdentity");
-            rtxErrAddUIntParm(ctx, pvalue->u.e_dch);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "E-DCH-MAC-d-FlowIdentity", "e-dch", -1, "UL-TransportChannelIdentity-r6");
+         if (pvalue->u.interRATInfo > 0) {
+            rtxErrAddUIntParm(ctx, pvalue->u.interRATInfo);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "InterRATInfo", "interRATInfo", -1, "RedirectionInfo");
          }
-         stat = pe_ConsUInt64(ctx, pvalue->u.e_dch, 0, 7);
-         RT_CHECK(ctx, stat, "E-DCH-MAC-d-FlowIdentity", "e-dch", -1, "UL-TransportChannelIdentity-r6");
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.interRATInfo, 0, 0);
+         RT_CHECK_PUT(ctx, cur, stat, "InterRATInfo", "interRATInfo", -1, "RedirectionInfo");
          break;
       default:
          break;
@@ -4655,442 +578,258 @@ int asn1PE_UMTS_UL_TransportChannelIdentity_r6(rtxContext* RT_RESTRICT ctx, cons
    return 0;
 }
 
-int asn1PE_UMTS_UL_DeletedTransChInfoList_r6(rtxContext* RT_RESTRICT ctx, const UL_DeletedTransChInfoList_r6* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RedirectionInfo(rtxContext* RT_RESTRICT ctx, const RedirectionInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RedirectionInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_GSM_TargetCellInfo(rtxContext* RT_RESTRICT ctx, const GSM_TargetCellInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-DeletedTransChInfoList-r6");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GSM-TargetCellInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "GSM-TargetCellInfo");
+   /* bcch-ARFCN */
+   if ((uint64_t)pvalue->bcch_ARFCN > 1023u) {
+      rtxErrAddStrParm(ctx, "BCCH-ARFCN");
+      rtxErrAddUIntParm(ctx, pvalue->bcch_ARFCN);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "BCCH-ARFCN", "bcch-ARFCN", -1, "GSM-TargetCellInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->bcch_ARFCN, 0, 1023);
+   RT_CHECK_PUT(ctx, cur, stat, "BCCH-ARFCN", "bcch-ARFCN", -1, "GSM-TargetCellInfo");
+   /* frequency-band */
+   if (pvalue->frequency_band > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->frequency_band);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "Frequency-Band", "frequency-band", -1, "GSM-TargetCellInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->frequency_band, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "Frequency-Band", "frequency-band", -1, "GSM-TargetCellInfo");
+   /* bsic */
+   if (pvalue->m & 0x1u) {
+      stat = enc_BSIC(ctx, &pvalue->bsic, cur);
+      RT_CHECK(ctx, stat, 0, "bsic", -1, "GSM-TargetCellInfo");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GSM_TargetCellInfo(rtxContext* RT_RESTRICT ctx, const GSM_TargetCellInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GSM_TargetCellInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_GSM_TargetCellInfoList(rtxContext* RT_RESTRICT ctx, const GSM_TargetCellInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GSM-TargetCellInfoList");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UL-DeletedTransChInfoList-r6");
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "GSM-TargetCellInfoList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UL-TransportChannelIdentity-r6", (int32_t)i, "UL-DeletedTransChInfoList-r6");
-      stat = asn1PE_UMTS_UL_TransportChannelIdentity_r6(ctx, (const UL_TransportChannelIdentity_r6*)node->data);
-      RT_CHECK(ctx, stat, 0, "UL-TransportChannelIdentity-r6", (int32_t)i, "UL-DeletedTransChInfoList-r6");
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "GSM-TargetCellInfo", (int32_t)i, "GSM-TargetCellInfoList");
+      stat = enc_GSM_TargetCellInfo(ctx, (const GSM_TargetCellInfo*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "GSM-TargetCellInfo", (int32_t)i, "GSM-TargetCellInfoList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_ActivationTimeOffset(rtxContext* RT_RESTRICT ctx, ActivationTimeOffset value)
+int asn1PE_UMTS_GSM_TargetCellInfoList(rtxContext* RT_RESTRICT ctx, const GSM_TargetCellInfoList* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   stat = pe_ConsUInt64(ctx, value, 0, 255);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ActivationTimeOffset");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_GSM_TargetCellInfoList, pvalue);
 }
 
-int asn1PE_UMTS_AllocationPeriodInfo(rtxContext* RT_RESTRICT ctx, const AllocationPeriodInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_InterRATInfo_r6(rtxContext* RT_RESTRICT ctx, const InterRATInfo_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AllocationPeriodInfo");
-   /* allocationActivationTime */
-   stat = pe_ConsUInt64(ctx, pvalue->allocationActivationTime, 0, 255);
-   RT_CHECK(ctx, stat, 0, "allocationActivationTime", -1, "AllocationPeriodInfo");
-   /* allocationDuration */
-   if ((uint64_t)(pvalue->allocationDuration - 1) > 255u) {
-      rtxErrAddStrParm(ctx, "allocationDuration");
-      rtxErrAddUIntParm(ctx, pvalue->allocationDuration);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "allocationDuration", -1, "AllocationPeriodInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->allocationDuration, 1, 256);
-   RT_CHECK(ctx, stat, 0, "allocationDuration", -1, "AllocationPeriodInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_AP_AICH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, AP_AICH_ChannelisationCode value)
-{
-   int stat = 0;
-   stat = pe_ConsUInt64(ctx, value, 0, 255);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AP-AICH-ChannelisationCode");
-   return 0;
-}
-
-int asn1PE_UMTS_AP_PreambleScramblingCode(rtxContext* RT_RESTRICT ctx, AP_PreambleScramblingCode value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 79u) {
-      rtxErrAddStrParm(ctx, "AP-PreambleScramblingCode");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "AP-PreambleScramblingCode");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 79);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AP-PreambleScramblingCode");
-   return 0;
-}
-
-int asn1PE_UMTS_AP_Signature(rtxContext* RT_RESTRICT ctx, AP_Signature value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 15u) {
-      rtxErrAddStrParm(ctx, "AP-Signature");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "AP-Signature");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AP-Signature");
-   return 0;
-}
-
-int asn1PE_UMTS_AP_Subchannel(rtxContext* RT_RESTRICT ctx, AP_Subchannel value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 11u) {
-      rtxErrAddStrParm(ctx, "AP-Subchannel");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "AP-Subchannel");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 11);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AP-Subchannel");
-   return 0;
-}
-
-int asn1PE_UMTS_AvailableAP_SubchannelList(rtxContext* RT_RESTRICT ctx, const AvailableAP_SubchannelList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AvailableAP-SubchannelList");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 12);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "AvailableAP-SubchannelList");
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)pvalue->elem[i] > 11u) {
-         rtxErrAddStrParm(ctx, "AP-Subchannel");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "AP-Subchannel", "AP-Subchannel", (int32_t)i, "AvailableAP-SubchannelList");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 11);
-      RT_CHECK(ctx, stat, "AP-Subchannel", "AP-Subchannel", (int32_t)i, "AvailableAP-SubchannelList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AP_Signature_VCAM(rtxContext* RT_RESTRICT ctx, const AP_Signature_VCAM* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AP-Signature-VCAM");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterRATInfo-r6");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AP-Signature-VCAM");
-   /* ap-Signature */
-   if ((uint64_t)pvalue->ap_Signature > 15u) {
-      rtxErrAddStrParm(ctx, "AP-Signature");
-      rtxErrAddUIntParm(ctx, pvalue->ap_Signature);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "AP-Signature", "ap-Signature", -1, "AP-Signature-VCAM");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterRATInfo-r6");
+   /* rat */
+   if (pvalue->rat > 0) {
+      rtxErrAddUIntParm(ctx, pvalue->rat);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "InterRATInfo", "rat", -1, "InterRATInfo-r6");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->ap_Signature, 0, 15);
-   RT_CHECK(ctx, stat, "AP-Signature", "ap-Signature", -1, "AP-Signature-VCAM");
-   /* availableAP-SubchannelList */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->rat, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, "InterRATInfo", "rat", -1, "InterRATInfo-r6");
+   /* gsm-TargetCellInfoList */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_AvailableAP_SubchannelList(ctx, &pvalue->availableAP_SubchannelList);
-      RT_CHECK(ctx, stat, 0, "availableAP-SubchannelList", -1, "AP-Signature-VCAM");
+      stat = enc_GSM_TargetCellInfoList(ctx, &pvalue->gsm_TargetCellInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "gsm-TargetCellInfoList", -1, "InterRATInfo-r6");
    }
    return 0;
 }
 
-int asn1PE_UMTS_AvailableAP_Signature_VCAMList(rtxContext* RT_RESTRICT ctx, const AvailableAP_Signature_VCAMList* RT_RESTRICT pvalue)
+int asn1PE_UMTS_InterRATInfo_r6(rtxContext* RT_RESTRICT ctx, const InterRATInfo_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterRATInfo_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_RedirectionInfo_r6(rtxContext* RT_RESTRICT ctx, const RedirectionInfo_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AvailableAP-Signature-VCAMList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RedirectionInfo-r6");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "RedirectionInfo-r6");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "RedirectionInfo-r6");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.frequencyInfo == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "frequencyInfo", -1, "RedirectionInfo-r6");
+         stat = enc_FrequencyInfo(ctx, pvalue->u.frequencyInfo, cur);
+         RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "RedirectionInfo-r6");
+         break;
+      case 2:
+         if (pvalue->u.interRATInfo == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "interRATInfo", -1, "RedirectionInfo-r6");
+         stat = enc_InterRATInfo_r6(ctx, pvalue->u.interRATInfo, cur);
+         RT_CHECK(ctx, stat, 0, "interRATInfo", -1, "RedirectionInfo-r6");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RedirectionInfo_r6(rtxContext* RT_RESTRICT ctx, const RedirectionInfo_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RedirectionInfo_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_EUTRA_PhysicalCellIdentity(rtxContext* RT_RESTRICT ctx, EUTRA_PhysicalCellIdentity value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 503u) {
+      rtxErrAddStrParm(ctx, "EUTRA-PhysicalCellIdentity");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "EUTRA-PhysicalCellIdentity");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 503);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "EUTRA-PhysicalCellIdentity");
+   return 0;
+}
+
+int asn1PE_UMTS_EUTRA_PhysicalCellIdentity(rtxContext* RT_RESTRICT ctx, EUTRA_PhysicalCellIdentity value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EUTRA_PhysicalCellIdentity, value);
+}
+
+RT_MERGED_BODY int enc_EUTRA_BlacklistedCell(rtxContext* RT_RESTRICT ctx, const EUTRA_BlacklistedCell* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-BlacklistedCell");
+   /* physicalCellIdentity */
+   if ((uint64_t)pvalue->physicalCellIdentity > 503u) {
+      rtxErrAddStrParm(ctx, "EUTRA-PhysicalCellIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->physicalCellIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "EUTRA-PhysicalCellIdentity", "physicalCellIdentity", -1, "EUTRA-BlacklistedCell");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->physicalCellIdentity, 0, 503);
+   RT_CHECK_PUT(ctx, cur, stat, "EUTRA-PhysicalCellIdentity", "physicalCellIdentity", -1, "EUTRA-BlacklistedCell");
+   return 0;
+}
+
+int asn1PE_UMTS_EUTRA_BlacklistedCell(rtxContext* RT_RESTRICT ctx, const EUTRA_BlacklistedCell* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EUTRA_BlacklistedCell, pvalue);
+}
+
+RT_MERGED_BODY int enc_EUTRA_BlacklistedCellPerFreqList(rtxContext* RT_RESTRICT ctx, const EUTRA_BlacklistedCellPerFreqList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-BlacklistedCellPerFreqList");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "AvailableAP-Signature-VCAMList");
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "EUTRA-BlacklistedCellPerFreqList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "AP-Signature-VCAM", (int32_t)i, "AvailableAP-Signature-VCAMList");
-      stat = asn1PE_UMTS_AP_Signature_VCAM(ctx, (const AP_Signature_VCAM*)node->data);
-      RT_CHECK(ctx, stat, 0, "AP-Signature-VCAM", (int32_t)i, "AvailableAP-Signature-VCAMList");
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "EUTRA-BlacklistedCell", (int32_t)i, "EUTRA-BlacklistedCellPerFreqList");
+      stat = enc_EUTRA_BlacklistedCell(ctx, (const EUTRA_BlacklistedCell*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "EUTRA-BlacklistedCell", (int32_t)i, "EUTRA-BlacklistedCellPerFreqList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_AvailableAP_SignatureList(rtxContext* RT_RESTRICT ctx, const AvailableAP_SignatureList* RT_RESTRICT pvalue)
+int asn1PE_UMTS_EUTRA_BlacklistedCellPerFreqList(rtxContext* RT_RESTRICT ctx, const EUTRA_BlacklistedCellPerFreqList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EUTRA_BlacklistedCellPerFreqList, pvalue);
+}
+
+RT_MERGED_BODY int enc_EUTRA_TargetFreqInfo(rtxContext* RT_RESTRICT ctx, const EUTRA_TargetFreqInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AvailableAP-SignatureList");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "AvailableAP-SignatureList");
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)pvalue->elem[i] > 15u) {
-         rtxErrAddStrParm(ctx, "AP-Signature");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "AP-Signature", "AP-Signature", (int32_t)i, "AvailableAP-SignatureList");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 15);
-      RT_CHECK(ctx, stat, "AP-Signature", "AP-Signature", (int32_t)i, "AvailableAP-SignatureList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-TargetFreqInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "EUTRA-TargetFreqInfo");
+   /* dlEUTRACarrierFreq */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dlEUTRACarrierFreq, 0, 65535);
+   RT_CHECK_PUT(ctx, cur, stat, "EARFCN", "dlEUTRACarrierFreq", -1, "EUTRA-TargetFreqInfo");
+   /* eutraBlacklistedCellPerFreqList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_EUTRA_BlacklistedCellPerFreqList(ctx, &pvalue->eutraBlacklistedCellPerFreqList, cur);
+      RT_CHECK(ctx, stat, 0, "eutraBlacklistedCellPerFreqList", -1, "EUTRA-TargetFreqInfo");
    }
    return 0;
 }
 
-int asn1PE_UMTS_MinimumSpreadingFactor(rtxContext* RT_RESTRICT ctx, MinimumSpreadingFactor value)
+int asn1PE_UMTS_EUTRA_TargetFreqInfo(rtxContext* RT_RESTRICT ctx, const EUTRA_TargetFreqInfo* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (value > 6) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MinimumSpreadingFactor");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MinimumSpreadingFactor");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_EUTRA_TargetFreqInfo, pvalue);
 }
 
-int asn1PE_UMTS_NF_Max(rtxContext* RT_RESTRICT ctx, NF_Max value)
+RT_MERGED_BODY int enc_EUTRA_TargetFreqInfoList(rtxContext* RT_RESTRICT ctx, const EUTRA_TargetFreqInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if ((uint64_t)(value - 1) > 63u) {
-      rtxErrAddStrParm(ctx, "NF-Max");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "NF-Max");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 64);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NF-Max");
-   return 0;
-}
-
-int asn1PE_UMTS_MaxAvailablePCPCH_Number(rtxContext* RT_RESTRICT ctx, MaxAvailablePCPCH_Number value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 63u) {
-      rtxErrAddStrParm(ctx, "MaxAvailablePCPCH-Number");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MaxAvailablePCPCH-Number");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 64);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxAvailablePCPCH-Number");
-   return 0;
-}
-
-int asn1PE_UMTS_AvailableMinimumSF_VCAM(rtxContext* RT_RESTRICT ctx, const AvailableMinimumSF_VCAM* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AvailableMinimumSF-VCAM");
-   /* minimumSpreadingFactor */
-   if (pvalue->minimumSpreadingFactor > 6) {
-      rtxErrAddUIntParm(ctx, pvalue->minimumSpreadingFactor);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MinimumSpreadingFactor", "minimumSpreadingFactor", -1, "AvailableMinimumSF-VCAM");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->minimumSpreadingFactor, 0, 6);
-   RT_CHECK(ctx, stat, "MinimumSpreadingFactor", "minimumSpreadingFactor", -1, "AvailableMinimumSF-VCAM");
-   /* nf-Max */
-   if ((uint64_t)(pvalue->nf_Max - 1) > 63u) {
-      rtxErrAddStrParm(ctx, "NF-Max");
-      rtxErrAddUIntParm(ctx, pvalue->nf_Max);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "NF-Max", "nf-Max", -1, "AvailableMinimumSF-VCAM");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->nf_Max, 1, 64);
-   RT_CHECK(ctx, stat, "NF-Max", "nf-Max", -1, "AvailableMinimumSF-VCAM");
-   /* maxAvailablePCPCH-Number */
-   if ((uint64_t)(pvalue->maxAvailablePCPCH_Number - 1) > 63u) {
-      rtxErrAddStrParm(ctx, "MaxAvailablePCPCH-Number");
-      rtxErrAddUIntParm(ctx, pvalue->maxAvailablePCPCH_Number);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAvailablePCPCH-Number", "maxAvailablePCPCH-Number", -1, "AvailableMinimumSF-VCAM");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxAvailablePCPCH_Number, 1, 64);
-   RT_CHECK(ctx, stat, "MaxAvailablePCPCH-Number", "maxAvailablePCPCH-Number", -1, "AvailableMinimumSF-VCAM");
-   /* availableAP-Signature-VCAMList */
-   stat = asn1PE_UMTS_AvailableAP_Signature_VCAMList(ctx, &pvalue->availableAP_Signature_VCAMList);
-   RT_CHECK(ctx, stat, 0, "availableAP-Signature-VCAMList", -1, "AvailableMinimumSF-VCAM");
-   return 0;
-}
-
-int asn1PE_UMTS_AvailableMinimumSF_ListVCAM(rtxContext* RT_RESTRICT ctx, const AvailableMinimumSF_ListVCAM* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AvailableMinimumSF-ListVCAM");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-TargetFreqInfoList");
    const rtxDListNode* node;
    uint32_t i;
-   RT_SET_SIZE(ctx, 1, 7);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "AvailableMinimumSF-ListVCAM");
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "EUTRA-TargetFreqInfoList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "AvailableMinimumSF-VCAM", (int32_t)i, "AvailableMinimumSF-ListVCAM");
-      stat = asn1PE_UMTS_AvailableMinimumSF_VCAM(ctx, (const AvailableMinimumSF_VCAM*)node->data);
-      RT_CHECK(ctx, stat, 0, "AvailableMinimumSF-VCAM", (int32_t)i, "AvailableMinimumSF-ListVCAM");
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "EUTRA-TargetFreqInfo", (int32_t)i, "EUTRA-TargetFreqInfoList");
+      stat = enc_EUTRA_TargetFreqInfo(ctx, (const EUTRA_TargetFreqInfo*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "EUTRA-TargetFreqInfo", (int32_t)i, "EUTRA-TargetFreqInfoList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_BEACON_PL_Est(rtxContext* RT_RESTRICT ctx, BEACON_PL_Est value)
+int asn1PE_UMTS_EUTRA_TargetFreqInfoList(rtxContext* RT_RESTRICT ctx, const EUTRA_TargetFreqInfoList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EUTRA_TargetFreqInfoList, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterRATInfo_v860ext_eutra(rtxContext* RT_RESTRICT ctx, const InterRATInfo_v860ext_eutra* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "BEACON-PL-Est");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, "BEACON-PL-Est");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* eutra-TargetFreqInfoList */
+   stat = enc_EUTRA_TargetFreqInfoList(ctx, &pvalue->eutra_TargetFreqInfoList, cur);
+   RT_CHECK(ctx, stat, 0, "eutra-TargetFreqInfoList", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_DPCCH_PowerOffset(rtxContext* RT_RESTRICT ctx, DPCCH_PowerOffset value)
+int asn1PE_UMTS_InterRATInfo_v860ext_eutra(rtxContext* RT_RESTRICT ctx, const InterRATInfo_v860ext_eutra* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (value < -82 || value > -3) {
-      rtxErrAddStrParm(ctx, "DPCCH-PowerOffset");
-      rtxErrAddIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DPCCH-PowerOffset");
-   }
-   stat = pe_ConsInt64(ctx, value, -82, -3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DPCCH-PowerOffset");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_InterRATInfo_v860ext_eutra, pvalue);
 }
 
-int asn1PE_UMTS_SRB_delay(rtxContext* RT_RESTRICT ctx, SRB_delay value)
+RT_MERGED_BODY int enc_InterRATInfo_v860ext(rtxContext* RT_RESTRICT ctx, const InterRATInfo_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if ((uint64_t)value > 7u) {
-      rtxErrAddStrParm(ctx, "SRB-delay");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "SRB-delay");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SRB-delay");
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* dpcch-PowerOffset */
-   if (pvalue->dpcch_PowerOffset < -82 || pvalue->dpcch_PowerOffset > -3) {
-      rtxErrAddStrParm(ctx, "DPCCH-PowerOffset");
-      rtxErrAddIntParm(ctx, pvalue->dpcch_PowerOffset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->dpcch_PowerOffset, -82, -3);
-   RT_CHECK(ctx, stat, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
-   /* pc-Preamble */
-   if ((uint64_t)pvalue->pc_Preamble > 7u) {
-      rtxErrAddStrParm(ctx, "PC-Preamble");
-      rtxErrAddUIntParm(ctx, pvalue->pc_Preamble);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PC-Preamble", "pc-Preamble", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pc_Preamble, 0, 7);
-   RT_CHECK(ctx, stat, "PC-Preamble", "pc-Preamble", -1, 0);
-   /* sRB-delay */
-   if ((uint64_t)pvalue->sRB_delay > 7u) {
-      rtxErrAddStrParm(ctx, "SRB-delay");
-      rtxErrAddUIntParm(ctx, pvalue->sRB_delay);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "SRB-delay", "sRB-delay", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->sRB_delay, 0, 7);
-   RT_CHECK(ctx, stat, "SRB-delay", "sRB-delay", -1, 0);
-   /* powerControlAlgorithm */
-   stat = asn1PE_UMTS_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm);
-   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TargetSIR(rtxContext* RT_RESTRICT ctx, UL_TargetSIR value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 62u) {
-      rtxErrAddStrParm(ctx, "UL-TargetSIR");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "UL-TargetSIR");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 62);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-TargetSIR");
-   return 0;
-}
-
-int asn1PE_UMTS_TDD_UL_Interference(rtxContext* RT_RESTRICT ctx, TDD_UL_Interference value)
-{
-   int stat = 0;
-   if (value < -110 || value > -52) {
-      rtxErrAddStrParm(ctx, "TDD-UL-Interference");
-      rtxErrAddIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TDD-UL-Interference");
-   }
-   stat = pe_ConsInt64(ctx, value, -110, -52);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TDD-UL-Interference");
-   return 0;
-}
-
-int asn1PE_UMTS_IndividualTS_Interference(rtxContext* RT_RESTRICT ctx, const IndividualTS_Interference* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IndividualTS-Interference");
-   /* timeslot */
-   if ((uint64_t)pvalue->timeslot > 14u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber");
-      rtxErrAddUIntParm(ctx, pvalue->timeslot);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslot", -1, "IndividualTS-Interference");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, "IndividualTS-Interference");
-   /* ul-TimeslotInterference */
-   if (pvalue->ul_TimeslotInterference < -110 || pvalue->ul_TimeslotInterference > -52) {
-      rtxErrAddStrParm(ctx, "TDD-UL-Interference");
-      rtxErrAddIntParm(ctx, pvalue->ul_TimeslotInterference);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TDD-UL-Interference", "ul-TimeslotInterference", -1, "IndividualTS-Interference");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->ul_TimeslotInterference, -110, -52);
-   RT_CHECK(ctx, stat, "TDD-UL-Interference", "ul-TimeslotInterference", -1, "IndividualTS-Interference");
-   return 0;
-}
-
-int asn1PE_UMTS_IndividualTS_InterferenceList(rtxContext* RT_RESTRICT ctx, const IndividualTS_InterferenceList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IndividualTS-InterferenceList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 14);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "IndividualTS-InterferenceList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "IndividualTS-Interference", (int32_t)i, "IndividualTS-InterferenceList");
-      stat = asn1PE_UMTS_IndividualTS_Interference(ctx, (const IndividualTS_Interference*)node->data);
-      RT_CHECK(ctx, stat, 0, "IndividualTS-Interference", (int32_t)i, "IndividualTS-InterferenceList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* individualTS-InterferenceList */
-   stat = asn1PE_UMTS_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList);
-   RT_CHECK(ctx, stat, 0, "individualTS-InterferenceList", -1, 0);
-   /* dpch-ConstantValue */
-   if (pvalue->dpch_ConstantValue < -35 || pvalue->dpch_ConstantValue > 10) {
-      rtxErrAddStrParm(ctx, "ConstantValueTdd");
-      rtxErrAddIntParm(ctx, pvalue->dpch_ConstantValue);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "ConstantValueTdd", "dpch-ConstantValue", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->dpch_ConstantValue, -35, 10);
-   RT_CHECK(ctx, stat, "ConstantValueTdd", "dpch-ConstantValue", -1, 0);
-   /* primaryCCPCH-TX-Power */
-   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-      rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
-      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterRATInfo-v860ext");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "InterRATInfo-v860ext");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "InterRATInfo-v860ext");
    switch (pvalue->t) {
       case 1:
          break;
       case 2:
-         if (pvalue->u.individuallySignalled == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "individuallySignalled", -1, 0);
-         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling_individuallySignalled(ctx, pvalue->u.individuallySignalled);
-         RT_CHECK(ctx, stat, 0, "individuallySignalled", -1, 0);
+         if (pvalue->u.eutra == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "eutra", -1, "InterRATInfo-v860ext");
+         stat = enc_InterRATInfo_v860ext_eutra(ctx, pvalue->u.eutra, cur);
+         RT_CHECK(ctx, stat, 0, "eutra", -1, "InterRATInfo-v860ext");
          break;
       default:
          break;
@@ -5098,49 +837,25 @@ int asn1PE_UMTS_UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling(rtxContext* RT_
    return 0;
 }
 
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_tdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_InterRATInfo_v860ext(rtxContext* RT_RESTRICT ctx, const InterRATInfo_v860ext* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-TargetSIR */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->ul_TargetSIR > 62u) {
-         rtxErrAddStrParm(ctx, "UL-TargetSIR");
-         rtxErrAddUIntParm(ctx, pvalue->ul_TargetSIR);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ul_TargetSIR, 0, 62);
-      RT_CHECK(ctx, stat, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
-   }
-   /* ul-OL-PC-Signalling */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling(ctx, &pvalue->ul_OL_PC_Signalling);
-      RT_CHECK(ctx, stat, 0, "ul-OL-PC-Signalling", -1, 0);
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_InterRATInfo_v860ext, pvalue);
 }
 
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo* RT_RESTRICT pvalue)
+static int enc_RedirectionInfo_v860ext(rtxContext* RT_RESTRICT ctx, const RedirectionInfo_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-PowerControlInfo");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UL-DPCH-PowerControlInfo");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-DPCH-PowerControlInfo");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RedirectionInfo-v860ext");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "RedirectionInfo-v860ext");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "RedirectionInfo-v860ext");
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, "UL-DPCH-PowerControlInfo");
-         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, "UL-DPCH-PowerControlInfo");
          break;
       case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, "UL-DPCH-PowerControlInfo");
-         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, "UL-DPCH-PowerControlInfo");
+         if (pvalue->u.interRATInfo == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "interRATInfo", -1, "RedirectionInfo-v860ext");
+         stat = enc_InterRATInfo_v860ext(ctx, pvalue->u.interRATInfo, cur);
+         RT_CHECK(ctx, stat, 0, "interRATInfo", -1, "RedirectionInfo-v860ext");
          break;
       default:
          break;
@@ -5148,2629 +863,836 @@ int asn1PE_UMTS_UL_DPCH_PowerControlInfo(rtxContext* RT_RESTRICT ctx, const UL_D
    return 0;
 }
 
-int asn1PE_UMTS_CCTrCH_PowerControlInfo(rtxContext* RT_RESTRICT ctx, const CCTrCH_PowerControlInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RedirectionInfo_v860ext(rtxContext* RT_RESTRICT ctx, const RedirectionInfo_v860ext* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CCTrCH-PowerControlInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CCTrCH-PowerControlInfo");
-   /* tfcs-Identity */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_TFCS_Identity(ctx, &pvalue->tfcs_Identity);
-      RT_CHECK(ctx, stat, 0, "tfcs-Identity", -1, "CCTrCH-PowerControlInfo");
-   }
-   /* ul-DPCH-PowerControlInfo */
-   stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo(ctx, &pvalue->ul_DPCH_PowerControlInfo);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "CCTrCH-PowerControlInfo");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_RedirectionInfo_v860ext, pvalue);
 }
 
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r4_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* dpcch-PowerOffset */
-   if (pvalue->dpcch_PowerOffset < -82 || pvalue->dpcch_PowerOffset > -3) {
-      rtxErrAddStrParm(ctx, "DPCCH-PowerOffset");
-      rtxErrAddIntParm(ctx, pvalue->dpcch_PowerOffset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->dpcch_PowerOffset, -82, -3);
-   RT_CHECK(ctx, stat, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
-   /* pc-Preamble */
-   if ((uint64_t)pvalue->pc_Preamble > 7u) {
-      rtxErrAddStrParm(ctx, "PC-Preamble");
-      rtxErrAddUIntParm(ctx, pvalue->pc_Preamble);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PC-Preamble", "pc-Preamble", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pc_Preamble, 0, 7);
-   RT_CHECK(ctx, stat, "PC-Preamble", "pc-Preamble", -1, 0);
-   /* sRB-delay */
-   if ((uint64_t)pvalue->sRB_delay > 7u) {
-      rtxErrAddStrParm(ctx, "SRB-delay");
-      rtxErrAddUIntParm(ctx, pvalue->sRB_delay);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "SRB-delay", "sRB-delay", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->sRB_delay, 0, 7);
-   RT_CHECK(ctx, stat, "SRB-delay", "sRB-delay", -1, 0);
-   /* powerControlAlgorithm */
-   stat = asn1PE_UMTS_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm);
-   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* individualTS-InterferenceList */
-   stat = asn1PE_UMTS_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList);
-   RT_CHECK(ctx, stat, 0, "individualTS-InterferenceList", -1, 0);
-   /* dpch-ConstantValue */
-   if (pvalue->dpch_ConstantValue < -35 || pvalue->dpch_ConstantValue > -10) {
-      rtxErrAddStrParm(ctx, "ConstantValue");
-      rtxErrAddIntParm(ctx, pvalue->dpch_ConstantValue);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "ConstantValue", "dpch-ConstantValue", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->dpch_ConstantValue, -35, -10);
-   RT_CHECK(ctx, stat, "ConstantValue", "dpch-ConstantValue", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* tpc-StepSize */
-   if ((uint64_t)(pvalue->tpc_StepSize - 1) > 2u) {
-      rtxErrAddStrParm(ctx, "TPC-StepSizeTDD");
-      rtxErrAddUIntParm(ctx, pvalue->tpc_StepSize);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tpc_StepSize, 1, 3);
-   RT_CHECK(ctx, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
-         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* tddOption */
-   stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
-   /* primaryCCPCH-TX-Power */
-   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-      rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
-      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.individuallySignalled == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "individuallySignalled", -1, 0);
-         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled(ctx, pvalue->u.individuallySignalled);
-         RT_CHECK(ctx, stat, 0, "individuallySignalled", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r4_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-TargetSIR */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->ul_TargetSIR > 62u) {
-         rtxErrAddStrParm(ctx, "UL-TargetSIR");
-         rtxErrAddUIntParm(ctx, pvalue->ul_TargetSIR);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ul_TargetSIR, 0, 62);
-      RT_CHECK(ctx, stat, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
-   }
-   /* ul-OL-PC-Signalling */
-   stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling(ctx, &pvalue->ul_OL_PC_Signalling);
-   RT_CHECK(ctx, stat, 0, "ul-OL-PC-Signalling", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-PowerControlInfo-r4");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UL-DPCH-PowerControlInfo-r4");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-DPCH-PowerControlInfo-r4");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r4");
-         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r4");
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r4");
-         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r4");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CCTrCH_PowerControlInfo_r4(rtxContext* RT_RESTRICT ctx, const CCTrCH_PowerControlInfo_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CCTrCH-PowerControlInfo-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CCTrCH-PowerControlInfo-r4");
-   /* tfcs-Identity */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_TFCS_Identity(ctx, &pvalue->tfcs_Identity);
-      RT_CHECK(ctx, stat, 0, "tfcs-Identity", -1, "CCTrCH-PowerControlInfo-r4");
-   }
-   /* ul-DPCH-PowerControlInfo */
-   stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4(ctx, &pvalue->ul_DPCH_PowerControlInfo);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "CCTrCH-PowerControlInfo-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r5_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dpcch-PowerOffset */
-   if (pvalue->dpcch_PowerOffset < -82 || pvalue->dpcch_PowerOffset > -3) {
-      rtxErrAddStrParm(ctx, "DPCCH-PowerOffset");
-      rtxErrAddIntParm(ctx, pvalue->dpcch_PowerOffset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->dpcch_PowerOffset, -82, -3);
-   RT_CHECK(ctx, stat, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
-   /* pc-Preamble */
-   if ((uint64_t)pvalue->pc_Preamble > 7u) {
-      rtxErrAddStrParm(ctx, "PC-Preamble");
-      rtxErrAddUIntParm(ctx, pvalue->pc_Preamble);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PC-Preamble", "pc-Preamble", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pc_Preamble, 0, 7);
-   RT_CHECK(ctx, stat, "PC-Preamble", "pc-Preamble", -1, 0);
-   /* sRB-delay */
-   if ((uint64_t)pvalue->sRB_delay > 7u) {
-      rtxErrAddStrParm(ctx, "SRB-delay");
-      rtxErrAddUIntParm(ctx, pvalue->sRB_delay);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "SRB-delay", "sRB-delay", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->sRB_delay, 0, 7);
-   RT_CHECK(ctx, stat, "SRB-delay", "sRB-delay", -1, 0);
-   /* powerControlAlgorithm */
-   stat = asn1PE_UMTS_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm);
-   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, 0);
-   /* deltaACK */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->deltaACK > 8u) {
-         rtxErrAddStrParm(ctx, "DeltaACK");
-         rtxErrAddUIntParm(ctx, pvalue->deltaACK);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaACK", "deltaACK", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->deltaACK, 0, 8);
-      RT_CHECK(ctx, stat, "DeltaACK", "deltaACK", -1, 0);
-   }
-   /* deltaNACK */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->deltaNACK > 8u) {
-         rtxErrAddStrParm(ctx, "DeltaNACK");
-         rtxErrAddUIntParm(ctx, pvalue->deltaNACK);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaNACK", "deltaNACK", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->deltaNACK, 0, 8);
-      RT_CHECK(ctx, stat, "DeltaNACK", "deltaNACK", -1, 0);
-   }
-   /* ack-NACK-repetition-factor */
-   if (pvalue->m & 0x4u) {
-      if ((uint64_t)(pvalue->ack_NACK_repetition_factor - 1) > 3u) {
-         rtxErrAddStrParm(ctx, "ACK-NACK-repetitionFactor");
-         rtxErrAddUIntParm(ctx, pvalue->ack_NACK_repetition_factor);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "ACK-NACK-repetitionFactor", "ack-NACK-repetition-factor", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ack_NACK_repetition_factor, 1, 4);
-      RT_CHECK(ctx, stat, "ACK-NACK-repetitionFactor", "ack-NACK-repetition-factor", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* individualTS-InterferenceList */
-   stat = asn1PE_UMTS_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList);
-   RT_CHECK(ctx, stat, 0, "individualTS-InterferenceList", -1, 0);
-   /* dpch-ConstantValue */
-   if (pvalue->dpch_ConstantValue < -35 || pvalue->dpch_ConstantValue > -10) {
-      rtxErrAddStrParm(ctx, "ConstantValue");
-      rtxErrAddIntParm(ctx, pvalue->dpch_ConstantValue);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "ConstantValue", "dpch-ConstantValue", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->dpch_ConstantValue, -35, -10);
-   RT_CHECK(ctx, stat, "ConstantValue", "dpch-ConstantValue", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* tpc-StepSize */
-   if ((uint64_t)(pvalue->tpc_StepSize - 1) > 2u) {
-      rtxErrAddStrParm(ctx, "TPC-StepSizeTDD");
-      rtxErrAddUIntParm(ctx, pvalue->tpc_StepSize);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tpc_StepSize, 1, 3);
-   RT_CHECK(ctx, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
-         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* tddOption */
-   stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
-   /* primaryCCPCH-TX-Power */
-   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-      rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
-      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.individuallySignalled == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "individuallySignalled", -1, 0);
-         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled(ctx, pvalue->u.individuallySignalled);
-         RT_CHECK(ctx, stat, 0, "individuallySignalled", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r5_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-TargetSIR */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->ul_TargetSIR > 62u) {
-         rtxErrAddStrParm(ctx, "UL-TargetSIR");
-         rtxErrAddUIntParm(ctx, pvalue->ul_TargetSIR);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ul_TargetSIR, 0, 62);
-      RT_CHECK(ctx, stat, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
-   }
-   /* ul-OL-PC-Signalling */
-   stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling(ctx, &pvalue->ul_OL_PC_Signalling);
-   RT_CHECK(ctx, stat, 0, "ul-OL-PC-Signalling", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-PowerControlInfo-r5");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UL-DPCH-PowerControlInfo-r5");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-DPCH-PowerControlInfo-r5");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r5");
-         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r5");
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r5");
-         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r5");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CCTrCH_PowerControlInfo_r5(rtxContext* RT_RESTRICT ctx, const CCTrCH_PowerControlInfo_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CCTrCH-PowerControlInfo-r5");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CCTrCH-PowerControlInfo-r5");
-   /* tfcs-Identity */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_TFCS_Identity(ctx, &pvalue->tfcs_Identity);
-      RT_CHECK(ctx, stat, 0, "tfcs-Identity", -1, "CCTrCH-PowerControlInfo-r5");
-   }
-   /* ul-DPCH-PowerControlInfo */
-   stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5(ctx, &pvalue->ul_DPCH_PowerControlInfo);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "CCTrCH-PowerControlInfo-r5");
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dpcch-PowerOffset */
-   if (pvalue->dpcch_PowerOffset < -82 || pvalue->dpcch_PowerOffset > -3) {
-      rtxErrAddStrParm(ctx, "DPCCH-PowerOffset");
-      rtxErrAddIntParm(ctx, pvalue->dpcch_PowerOffset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->dpcch_PowerOffset, -82, -3);
-   RT_CHECK(ctx, stat, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
-   /* pc-Preamble */
-   if ((uint64_t)pvalue->pc_Preamble > 7u) {
-      rtxErrAddStrParm(ctx, "PC-Preamble");
-      rtxErrAddUIntParm(ctx, pvalue->pc_Preamble);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PC-Preamble", "pc-Preamble", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pc_Preamble, 0, 7);
-   RT_CHECK(ctx, stat, "PC-Preamble", "pc-Preamble", -1, 0);
-   /* sRB-delay */
-   if ((uint64_t)pvalue->sRB_delay > 7u) {
-      rtxErrAddStrParm(ctx, "SRB-delay");
-      rtxErrAddUIntParm(ctx, pvalue->sRB_delay);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "SRB-delay", "sRB-delay", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->sRB_delay, 0, 7);
-   RT_CHECK(ctx, stat, "SRB-delay", "sRB-delay", -1, 0);
-   /* powerControlAlgorithm */
-   stat = asn1PE_UMTS_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm);
-   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, 0);
-   /* deltaACK */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->deltaACK > 8u) {
-         rtxErrAddStrParm(ctx, "DeltaACK");
-         rtxErrAddUIntParm(ctx, pvalue->deltaACK);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaACK", "deltaACK", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->deltaACK, 0, 8);
-      RT_CHECK(ctx, stat, "DeltaACK", "deltaACK", -1, 0);
-   }
-   /* deltaNACK */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->deltaNACK > 8u) {
-         rtxErrAddStrParm(ctx, "DeltaNACK");
-         rtxErrAddUIntParm(ctx, pvalue->deltaNACK);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaNACK", "deltaNACK", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->deltaNACK, 0, 8);
-      RT_CHECK(ctx, stat, "DeltaNACK", "deltaNACK", -1, 0);
-   }
-   /* ack-NACK-repetition-factor */
-   if (pvalue->m & 0x4u) {
-      if ((uint64_t)(pvalue->ack_NACK_repetition_factor - 1) > 3u) {
-         rtxErrAddStrParm(ctx, "ACK-NACK-repetitionFactor");
-         rtxErrAddUIntParm(ctx, pvalue->ack_NACK_repetition_factor);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "ACK-NACK-repetitionFactor", "ack-NACK-repetition-factor", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ack_NACK_repetition_factor, 1, 4);
-      RT_CHECK(ctx, stat, "ACK-NACK-repetitionFactor", "ack-NACK-repetition-factor", -1, 0);
-   }
-   /* harq-Preamble-Mode */
-   if ((uint64_t)pvalue->harq_Preamble_Mode > 1u) {
-      rtxErrAddStrParm(ctx, "HARQ-Preamble-Mode");
-      rtxErrAddUIntParm(ctx, pvalue->harq_Preamble_Mode);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->harq_Preamble_Mode, 0, 1);
-   RT_CHECK(ctx, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* individualTS-InterferenceList */
-   stat = asn1PE_UMTS_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList);
-   RT_CHECK(ctx, stat, 0, "individualTS-InterferenceList", -1, 0);
-   /* dpch-ConstantValue */
-   if (pvalue->dpch_ConstantValue < -35 || pvalue->dpch_ConstantValue > -10) {
-      rtxErrAddStrParm(ctx, "ConstantValue");
-      rtxErrAddIntParm(ctx, pvalue->dpch_ConstantValue);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "ConstantValue", "dpch-ConstantValue", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->dpch_ConstantValue, -35, -10);
-   RT_CHECK(ctx, stat, "ConstantValue", "dpch-ConstantValue", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* individualTS-InterferenceList */
-   stat = asn1PE_UMTS_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList);
-   RT_CHECK(ctx, stat, 0, "individualTS-InterferenceList", -1, 0);
-   /* dpch-ConstantValue */
-   if (pvalue->dpch_ConstantValue < -35 || pvalue->dpch_ConstantValue > -10) {
-      rtxErrAddStrParm(ctx, "ConstantValue");
-      rtxErrAddIntParm(ctx, pvalue->dpch_ConstantValue);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "ConstantValue", "dpch-ConstantValue", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->dpch_ConstantValue, -35, -10);
-   RT_CHECK(ctx, stat, "ConstantValue", "dpch-ConstantValue", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* beaconPLEst */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->beaconPLEst > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->beaconPLEst);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "BEACON-PL-Est", "beaconPLEst", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->beaconPLEst, 0, 0);
-      RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, 0);
-   }
-   /* tpc-StepSize */
-   if ((uint64_t)(pvalue->tpc_StepSize - 1) > 2u) {
-      rtxErrAddStrParm(ctx, "TPC-StepSizeTDD");
-      rtxErrAddUIntParm(ctx, pvalue->tpc_StepSize);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tpc_StepSize, 1, 3);
-   RT_CHECK(ctx, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
-         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
-         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
-         break;
-      case 3:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* tddOption */
-   stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
-   /* primaryCCPCH-TX-Power */
-   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-      rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
-      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.individuallySignalled == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "individuallySignalled", -1, 0);
-         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled(ctx, pvalue->u.individuallySignalled);
-         RT_CHECK(ctx, stat, 0, "individuallySignalled", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-TargetSIR */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->ul_TargetSIR > 62u) {
-         rtxErrAddStrParm(ctx, "UL-TargetSIR");
-         rtxErrAddUIntParm(ctx, pvalue->ul_TargetSIR);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ul_TargetSIR, 0, 62);
-      RT_CHECK(ctx, stat, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
-   }
-   /* ul-OL-PC-Signalling */
-   stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling(ctx, &pvalue->ul_OL_PC_Signalling);
-   RT_CHECK(ctx, stat, 0, "ul-OL-PC-Signalling", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-PowerControlInfo-r7");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UL-DPCH-PowerControlInfo-r7");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-DPCH-PowerControlInfo-r7");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r7");
-         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r7");
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r7");
-         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r7");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CCTrCH_PowerControlInfo_r7(rtxContext* RT_RESTRICT ctx, const CCTrCH_PowerControlInfo_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CCTrCH-PowerControlInfo-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CCTrCH-PowerControlInfo-r7");
-   /* tfcs-Identity */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_TFCS_Identity(ctx, &pvalue->tfcs_Identity);
-      RT_CHECK(ctx, stat, 0, "tfcs-Identity", -1, "CCTrCH-PowerControlInfo-r7");
-   }
-   /* ul-DPCH-PowerControlInfo */
-   stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7(ctx, &pvalue->ul_DPCH_PowerControlInfo);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "CCTrCH-PowerControlInfo-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_CD_AccessSlotSubchannel(rtxContext* RT_RESTRICT ctx, CD_AccessSlotSubchannel value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 11u) {
-      rtxErrAddStrParm(ctx, "CD-AccessSlotSubchannel");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "CD-AccessSlotSubchannel");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 11);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CD-AccessSlotSubchannel");
-   return 0;
-}
-
-int asn1PE_UMTS_CD_AccessSlotSubchannelList(rtxContext* RT_RESTRICT ctx, const CD_AccessSlotSubchannelList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CD-AccessSlotSubchannelList");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 12);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CD-AccessSlotSubchannelList");
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)pvalue->elem[i] > 11u) {
-         rtxErrAddStrParm(ctx, "CD-AccessSlotSubchannel");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "CD-AccessSlotSubchannel", "CD-AccessSlotSubchannel", (int32_t)i, "CD-AccessSlotSubchannelList");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 11);
-      RT_CHECK(ctx, stat, "CD-AccessSlotSubchannel", "CD-AccessSlotSubchannel", (int32_t)i, "CD-AccessSlotSubchannelList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CD_CA_ICH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, CD_CA_ICH_ChannelisationCode value)
-{
-   int stat = 0;
-   stat = pe_ConsUInt64(ctx, value, 0, 255);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CD-CA-ICH-ChannelisationCode");
-   return 0;
-}
-
-int asn1PE_UMTS_CD_PreambleScramblingCode(rtxContext* RT_RESTRICT ctx, CD_PreambleScramblingCode value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 79u) {
-      rtxErrAddStrParm(ctx, "CD-PreambleScramblingCode");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "CD-PreambleScramblingCode");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 79);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CD-PreambleScramblingCode");
-   return 0;
-}
-
-int asn1PE_UMTS_CD_SignatureCode(rtxContext* RT_RESTRICT ctx, CD_SignatureCode value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 15u) {
-      rtxErrAddStrParm(ctx, "CD-SignatureCode");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "CD-SignatureCode");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CD-SignatureCode");
-   return 0;
-}
-
-int asn1PE_UMTS_CD_SignatureCodeList(rtxContext* RT_RESTRICT ctx, const CD_SignatureCodeList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CD-SignatureCodeList");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CD-SignatureCodeList");
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)pvalue->elem[i] > 15u) {
-         rtxErrAddStrParm(ctx, "CD-SignatureCode");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "CD-SignatureCode", "CD-SignatureCode", (int32_t)i, "CD-SignatureCodeList");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 15);
-      RT_CHECK(ctx, stat, "CD-SignatureCode", "CD-SignatureCode", (int32_t)i, "CD-SignatureCodeList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellAndChannelIdentity(rtxContext* RT_RESTRICT ctx, const CellAndChannelIdentity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellAndChannelIdentity");
-   /* burstType */
-   if (pvalue->burstType > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->burstType);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "BurstType", "burstType", -1, "CellAndChannelIdentity");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->burstType, 0, 1);
-   RT_CHECK(ctx, stat, "BurstType", "burstType", -1, "CellAndChannelIdentity");
-   /* midambleShift */
-   if ((uint64_t)pvalue->midambleShift > 15u) {
-      rtxErrAddStrParm(ctx, "MidambleShiftLong");
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, "CellAndChannelIdentity");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, "CellAndChannelIdentity");
-   /* timeslot */
-   if ((uint64_t)pvalue->timeslot > 14u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber");
-      rtxErrAddUIntParm(ctx, pvalue->timeslot);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslot", -1, "CellAndChannelIdentity");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, "CellAndChannelIdentity");
-   /* cellParametersID */
-   if ((uint64_t)pvalue->cellParametersID > 127u) {
-      rtxErrAddStrParm(ctx, "CellParametersID");
-      rtxErrAddUIntParm(ctx, pvalue->cellParametersID);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "CellParametersID", "cellParametersID", -1, "CellAndChannelIdentity");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cellParametersID, 0, 127);
-   RT_CHECK(ctx, stat, "CellParametersID", "cellParametersID", -1, "CellAndChannelIdentity");
-   return 0;
-}
-
-int asn1PE_UMTS_Cfntargetsfnframeoffset(rtxContext* RT_RESTRICT ctx, Cfntargetsfnframeoffset value)
-{
-   int stat = 0;
-   stat = pe_ConsUInt64(ctx, value, 0, 255);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Cfntargetsfnframeoffset");
-   return 0;
-}
-
-int asn1PE_UMTS_ChannelAssignmentActive(rtxContext* RT_RESTRICT ctx, const ChannelAssignmentActive* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ChannelAssignmentActive");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "ChannelAssignmentActive");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ChannelAssignmentActive");
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.isActive == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "isActive", -1, "ChannelAssignmentActive");
-         stat = asn1PE_UMTS_AvailableMinimumSF_ListVCAM(ctx, pvalue->u.isActive);
-         RT_CHECK(ctx, stat, 0, "isActive", -1, "ChannelAssignmentActive");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ChannelReqParamsForUCSM(rtxContext* RT_RESTRICT ctx, const ChannelReqParamsForUCSM* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ChannelReqParamsForUCSM");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ChannelReqParamsForUCSM");
-   /* availableAP-SignatureList */
-   stat = asn1PE_UMTS_AvailableAP_SignatureList(ctx, &pvalue->availableAP_SignatureList);
-   RT_CHECK(ctx, stat, 0, "availableAP-SignatureList", -1, "ChannelReqParamsForUCSM");
-   /* availableAP-SubchannelList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_AvailableAP_SubchannelList(ctx, &pvalue->availableAP_SubchannelList);
-      RT_CHECK(ctx, stat, 0, "availableAP-SubchannelList", -1, "ChannelReqParamsForUCSM");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ClosedLoopTimingAdjMode(rtxContext* RT_RESTRICT ctx, ClosedLoopTimingAdjMode value)
+RT_MERGED_BODY int enc_RejectionCause(rtxContext* RT_RESTRICT ctx, RejectionCause value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ClosedLoopTimingAdjMode");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "RejectionCause");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ClosedLoopTimingAdjMode");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RejectionCause");
    return 0;
 }
 
-int asn1PE_UMTS_CodeNumberDSCH(rtxContext* RT_RESTRICT ctx, CodeNumberDSCH value)
+int asn1PE_UMTS_RejectionCause(rtxContext* RT_RESTRICT ctx, RejectionCause value)
 {
-   int stat = 0;
-   stat = pe_ConsUInt64(ctx, value, 0, 255);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CodeNumberDSCH");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_RejectionCause, value);
 }
 
-int asn1PE_UMTS_SF_PDSCH(rtxContext* RT_RESTRICT ctx, SF_PDSCH value)
+RT_MERGED_BODY int enc_UE_PowerClass(rtxContext* RT_RESTRICT ctx, UE_PowerClass value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (value > 6) {
+   if ((uint64_t)(value - 1) > 3u) {
+      rtxErrAddStrParm(ctx, "UE-PowerClass");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SF-PDSCH");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "UE-PowerClass");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SF-PDSCH");
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-PowerClass");
    return 0;
 }
 
-int asn1PE_UMTS_MultiCodeInfo(rtxContext* RT_RESTRICT ctx, MultiCodeInfo value)
+int asn1PE_UMTS_UE_PowerClass(rtxContext* RT_RESTRICT ctx, UE_PowerClass value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_PowerClass, value);
+}
+
+RT_MERGED_BODY int enc_TxRxFrequencySeparation(rtxContext* RT_RESTRICT ctx, TxRxFrequencySeparation value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if ((uint64_t)(value - 1) > 15u) {
-      rtxErrAddStrParm(ctx, "MultiCodeInfo");
+   if (value > 2) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MultiCodeInfo");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TxRxFrequencySeparation");
    }
-   stat = pe_ConsUInt64(ctx, value, 1, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MultiCodeInfo");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TxRxFrequencySeparation");
    return 0;
 }
 
-int asn1PE_UMTS_PDSCH_CodeMap(rtxContext* RT_RESTRICT ctx, const PDSCH_CodeMap* RT_RESTRICT pvalue)
+int asn1PE_UMTS_TxRxFrequencySeparation(rtxContext* RT_RESTRICT ctx, TxRxFrequencySeparation value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TxRxFrequencySeparation, value);
+}
+
+RT_MERGED_BODY int enc_RF_Capability_fddRF_Capability(rtxContext* RT_RESTRICT ctx, const RF_Capability_fddRF_Capability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-CodeMap");
-   /* spreadingFactor */
-   if (pvalue->spreadingFactor > 6) {
-      rtxErrAddUIntParm(ctx, pvalue->spreadingFactor);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "SF-PDSCH", "spreadingFactor", -1, "PDSCH-CodeMap");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ue-PowerClass */
+   if ((uint64_t)(pvalue->ue_PowerClass - 1) > 3u) {
+      rtxErrAddStrParm(ctx, "UE-PowerClass");
+      rtxErrAddUIntParm(ctx, pvalue->ue_PowerClass);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UE-PowerClass", "ue-PowerClass", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, pvalue->spreadingFactor, 0, 6);
-   RT_CHECK(ctx, stat, "SF-PDSCH", "spreadingFactor", -1, "PDSCH-CodeMap");
-   /* multiCodeInfo */
-   if ((uint64_t)(pvalue->multiCodeInfo - 1) > 15u) {
-      rtxErrAddStrParm(ctx, "MultiCodeInfo");
-      rtxErrAddUIntParm(ctx, pvalue->multiCodeInfo);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MultiCodeInfo", "multiCodeInfo", -1, "PDSCH-CodeMap");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ue_PowerClass, 1, 4);
+   RT_CHECK_PUT(ctx, cur, stat, "UE-PowerClass", "ue-PowerClass", -1, 0);
+   /* txRxFrequencySeparation */
+   if (pvalue->txRxFrequencySeparation > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->txRxFrequencySeparation);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TxRxFrequencySeparation", "txRxFrequencySeparation", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, pvalue->multiCodeInfo, 1, 16);
-   RT_CHECK(ctx, stat, "MultiCodeInfo", "multiCodeInfo", -1, "PDSCH-CodeMap");
-   /* codeNumberStart */
-   stat = pe_ConsUInt64(ctx, pvalue->codeNumberStart, 0, 255);
-   RT_CHECK(ctx, stat, "CodeNumberDSCH", "codeNumberStart", -1, "PDSCH-CodeMap");
-   /* codeNumberStop */
-   stat = pe_ConsUInt64(ctx, pvalue->codeNumberStop, 0, 255);
-   RT_CHECK(ctx, stat, "CodeNumberDSCH", "codeNumberStop", -1, "PDSCH-CodeMap");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->txRxFrequencySeparation, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, "TxRxFrequencySeparation", "txRxFrequencySeparation", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_PDSCH_CodeMapList(rtxContext* RT_RESTRICT ctx, const PDSCH_CodeMapList* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RF_Capability_fddRF_Capability(rtxContext* RT_RESTRICT ctx, const RF_Capability_fddRF_Capability* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RF_Capability_fddRF_Capability, pvalue);
+}
+
+RT_MERGED_BODY int enc_RF_Capability_tddRF_Capability(rtxContext* RT_RESTRICT ctx, const RF_Capability_tddRF_Capability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-CodeMapList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 256);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PDSCH-CodeMapList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PDSCH-CodeMap", (int32_t)i, "PDSCH-CodeMapList");
-      stat = asn1PE_UMTS_PDSCH_CodeMap(ctx, (const PDSCH_CodeMap*)node->data);
-      RT_CHECK(ctx, stat, 0, "PDSCH-CodeMap", (int32_t)i, "PDSCH-CodeMapList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ue-PowerClass */
+   if ((uint64_t)(pvalue->ue_PowerClass - 1) > 3u) {
+      rtxErrAddStrParm(ctx, "UE-PowerClass");
+      rtxErrAddUIntParm(ctx, pvalue->ue_PowerClass);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UE-PowerClass", "ue-PowerClass", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ue_PowerClass, 1, 4);
+   RT_CHECK_PUT(ctx, cur, stat, "UE-PowerClass", "ue-PowerClass", -1, 0);
+   /* radioFrequencyTDDBandList */
+   if (pvalue->radioFrequencyTDDBandList > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyTDDBandList);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "RadioFrequencyBandTDDList", "radioFrequencyTDDBandList", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->radioFrequencyTDDBandList, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "RadioFrequencyBandTDDList", "radioFrequencyTDDBandList", -1, 0);
+   /* chipRateCapability */
+   if (pvalue->chipRateCapability > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->chipRateCapability);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ChipRateCapability", "chipRateCapability", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->chipRateCapability, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "ChipRateCapability", "chipRateCapability", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RF_Capability_tddRF_Capability(rtxContext* RT_RESTRICT ctx, const RF_Capability_tddRF_Capability* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RF_Capability_tddRF_Capability, pvalue);
+}
+
+RT_MERGED_BODY int enc_RF_Capability(rtxContext* RT_RESTRICT ctx, const RF_Capability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RF-Capability");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RF-Capability");
+   /* fddRF-Capability */
+   if (pvalue->m & 0x1u) {
+      stat = enc_RF_Capability_fddRF_Capability(ctx, &pvalue->fddRF_Capability, cur);
+      RT_CHECK(ctx, stat, 0, "fddRF-Capability", -1, "RF-Capability");
+   }
+   /* tddRF-Capability */
+   if (pvalue->m & 0x2u) {
+      stat = enc_RF_Capability_tddRF_Capability(ctx, &pvalue->tddRF_Capability, cur);
+      RT_CHECK(ctx, stat, 0, "tddRF-Capability", -1, "RF-Capability");
    }
    return 0;
 }
 
-int asn1PE_UMTS_CodeRange(rtxContext* RT_RESTRICT ctx, const CodeRange* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RF_Capability(rtxContext* RT_RESTRICT ctx, const RF_Capability* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RF_Capability, pvalue);
+}
+
+RT_MERGED_BODY int enc_RF_Capability_r4_ext_tddRF_Capability(rtxContext* RT_RESTRICT ctx, const RF_Capability_r4_ext_tddRF_Capability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CodeRange");
-   /* pdsch-CodeMapList */
-   stat = asn1PE_UMTS_PDSCH_CodeMapList(ctx, &pvalue->pdsch_CodeMapList);
-   RT_CHECK(ctx, stat, 0, "pdsch-CodeMapList", -1, "CodeRange");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ue-PowerClass */
+   if ((uint64_t)(pvalue->ue_PowerClass - 1) > 3u) {
+      rtxErrAddStrParm(ctx, "UE-PowerClass");
+      rtxErrAddUIntParm(ctx, pvalue->ue_PowerClass);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UE-PowerClass", "ue-PowerClass", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ue_PowerClass, 1, 4);
+   RT_CHECK_PUT(ctx, cur, stat, "UE-PowerClass", "ue-PowerClass", -1, 0);
+   /* radioFrequencyBandTDDList */
+   if (pvalue->radioFrequencyBandTDDList > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandTDDList);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "RadioFrequencyBandTDDList", "radioFrequencyBandTDDList", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->radioFrequencyBandTDDList, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "RadioFrequencyBandTDDList", "radioFrequencyBandTDDList", -1, 0);
+   /* chipRateCapability */
+   if (pvalue->chipRateCapability > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->chipRateCapability);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ChipRateCapability", "chipRateCapability", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->chipRateCapability, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "ChipRateCapability", "chipRateCapability", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CodeWordSet(rtxContext* RT_RESTRICT ctx, CodeWordSet value)
+int asn1PE_UMTS_RF_Capability_r4_ext_tddRF_Capability(rtxContext* RT_RESTRICT ctx, const RF_Capability_r4_ext_tddRF_Capability* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RF_Capability_r4_ext_tddRF_Capability, pvalue);
+}
+
+RT_MERGED_BODY int enc_RF_Capability_r4_ext(rtxContext* RT_RESTRICT ctx, const RF_Capability_r4_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RF-Capability-r4-ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RF-Capability-r4-ext");
+   /* tddRF-Capability */
+   if (pvalue->m & 0x1u) {
+      stat = enc_RF_Capability_r4_ext_tddRF_Capability(ctx, &pvalue->tddRF_Capability, cur);
+      RT_CHECK(ctx, stat, 0, "tddRF-Capability", -1, "RF-Capability-r4-ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RF_Capability_r4_ext(rtxContext* RT_RESTRICT ctx, const RF_Capability_r4_ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RF_Capability_r4_ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_RF_Capability_v770ext_tdd768RF_Capability(rtxContext* RT_RESTRICT ctx, const RF_Capability_v770ext_tdd768RF_Capability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ue-PowerClass */
+   if ((uint64_t)(pvalue->ue_PowerClass - 1) > 3u) {
+      rtxErrAddStrParm(ctx, "UE-PowerClass");
+      rtxErrAddUIntParm(ctx, pvalue->ue_PowerClass);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UE-PowerClass", "ue-PowerClass", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ue_PowerClass, 1, 4);
+   RT_CHECK_PUT(ctx, cur, stat, "UE-PowerClass", "ue-PowerClass", -1, 0);
+   /* radioFrequencyBandTDDList */
+   if (pvalue->radioFrequencyBandTDDList > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandTDDList);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "RadioFrequencyBandTDDList-r7", "radioFrequencyBandTDDList", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->radioFrequencyBandTDDList, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "RadioFrequencyBandTDDList-r7", "radioFrequencyBandTDDList", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RF_Capability_v770ext_tdd768RF_Capability(rtxContext* RT_RESTRICT ctx, const RF_Capability_v770ext_tdd768RF_Capability* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RF_Capability_v770ext_tdd768RF_Capability, pvalue);
+}
+
+RT_MERGED_BODY int enc_RF_Capability_v770ext(rtxContext* RT_RESTRICT ctx, const RF_Capability_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RF-Capability-v770ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RF-Capability-v770ext");
+   /* tdd384RF-Capability */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->tdd384RF_Capability > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->tdd384RF_Capability);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "RadioFrequencyBandTDDList-r7", "tdd384RF-Capability", -1, "RF-Capability-v770ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tdd384RF_Capability, 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "RadioFrequencyBandTDDList-r7", "tdd384RF-Capability", -1, "RF-Capability-v770ext");
+   }
+   /* tdd768RF-Capability */
+   if (pvalue->m & 0x2u) {
+      stat = enc_RF_Capability_v770ext_tdd768RF_Capability(ctx, &pvalue->tdd768RF_Capability, cur);
+      RT_CHECK(ctx, stat, 0, "tdd768RF-Capability", -1, "RF-Capability-v770ext");
+   }
+   /* tdd128RF-Capability */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->tdd128RF_Capability > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->tdd128RF_Capability);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "RadioFrequencyBandTDDList-r7", "tdd128RF-Capability", -1, "RF-Capability-v770ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tdd128RF_Capability, 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "RadioFrequencyBandTDDList-r7", "tdd128RF-Capability", -1, "RF-Capability-v770ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RF_Capability_v770ext(rtxContext* RT_RESTRICT ctx, const RF_Capability_v770ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RF_Capability_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_RF_Capability_v860ext(rtxContext* RT_RESTRICT ctx, const RF_Capability_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RF-Capability-v860ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RF-Capability-v860ext");
+   /* tdd128RF-Capability */
+   if (pvalue->m & 0x1u) {
+      stat = enc_RadioFrequencyBandTDDextList(ctx, &pvalue->tdd128RF_Capability, cur);
+      RT_CHECK(ctx, stat, 0, "tdd128RF-Capability", -1, "RF-Capability-v860ext");
+   }
+   /* tdd384RF-Capability */
+   if (pvalue->m & 0x2u) {
+      stat = enc_RadioFrequencyBandTDDextList(ctx, &pvalue->tdd384RF_Capability, cur);
+      RT_CHECK(ctx, stat, 0, "tdd384RF-Capability", -1, "RF-Capability-v860ext");
+   }
+   /* tdd768RF-Capability */
+   if (pvalue->m & 0x4u) {
+      stat = enc_RadioFrequencyBandTDDextList(ctx, &pvalue->tdd768RF_Capability, cur);
+      RT_CHECK(ctx, stat, 0, "tdd768RF-Capability", -1, "RF-Capability-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RF_Capability_v860ext(rtxContext* RT_RESTRICT ctx, const RF_Capability_v860ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RF_Capability_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_TotalRLC_AM_BufferSize(rtxContext* RT_RESTRICT ctx, TotalRLC_AM_BufferSize value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TotalRLC-AM-BufferSize");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TotalRLC-AM-BufferSize");
+   return 0;
+}
+
+int asn1PE_UMTS_TotalRLC_AM_BufferSize(rtxContext* RT_RESTRICT ctx, TotalRLC_AM_BufferSize value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TotalRLC_AM_BufferSize, value);
+}
+
+RT_MERGED_BODY int enc_RLC_Capability(rtxContext* RT_RESTRICT ctx, const RLC_Capability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RLC-Capability");
+   /* totalRLC-AM-BufferSize */
+   if (pvalue->totalRLC_AM_BufferSize > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->totalRLC_AM_BufferSize);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TotalRLC-AM-BufferSize", "totalRLC-AM-BufferSize", -1, "RLC-Capability");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->totalRLC_AM_BufferSize, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "TotalRLC-AM-BufferSize", "totalRLC-AM-BufferSize", -1, "RLC-Capability");
+   /* maximumRLC-WindowSize */
+   if (pvalue->maximumRLC_WindowSize > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->maximumRLC_WindowSize);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaximumRLC-WindowSize", "maximumRLC-WindowSize", -1, "RLC-Capability");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maximumRLC_WindowSize, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "MaximumRLC-WindowSize", "maximumRLC-WindowSize", -1, "RLC-Capability");
+   /* maximumAM-EntityNumber */
+   if (pvalue->maximumAM_EntityNumber > 6) {
+      rtxErrAddUIntParm(ctx, pvalue->maximumAM_EntityNumber);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaximumAM-EntityNumberRLC-Cap", "maximumAM-EntityNumber", -1, "RLC-Capability");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maximumAM_EntityNumber, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "MaximumAM-EntityNumberRLC-Cap", "maximumAM-EntityNumber", -1, "RLC-Capability");
+   return 0;
+}
+
+int asn1PE_UMTS_RLC_Capability(rtxContext* RT_RESTRICT ctx, const RLC_Capability* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RLC_Capability, pvalue);
+}
+
+RT_MERGED_BODY int enc_TotalRLC_AM_BufferSize_r5_ext(rtxContext* RT_RESTRICT ctx, TotalRLC_AM_BufferSize_r5_ext value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value > 3) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "CodeWordSet");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TotalRLC-AM-BufferSize-r5-ext");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CodeWordSet");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TotalRLC-AM-BufferSize-r5-ext");
    return 0;
 }
 
-int asn1PE_UMTS_ControlChannelDRXCycle_TDD128(rtxContext* RT_RESTRICT ctx, ControlChannelDRXCycle_TDD128 value)
+int asn1PE_UMTS_TotalRLC_AM_BufferSize_r5_ext(rtxContext* RT_RESTRICT ctx, TotalRLC_AM_BufferSize_r5_ext value)
 {
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ControlChannelDRXCycle-TDD128");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ControlChannelDRXCycle-TDD128");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_TotalRLC_AM_BufferSize_r5_ext, value);
 }
 
-int asn1PE_UMTS_EnablingDelay_TDD128(rtxContext* RT_RESTRICT ctx, EnablingDelay_TDD128 value)
+RT_MERGED_BODY int enc_RLC_Capability_r5_ext(rtxContext* RT_RESTRICT ctx, const RLC_Capability_r5_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "EnablingDelay-TDD128");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EnablingDelay-TDD128");
-   return 0;
-}
-
-int asn1PE_UMTS_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_continue_(rtxContext* RT_RESTRICT ctx, const ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_continue_* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RLC-Capability-r5-ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* enablingDelay */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RLC-Capability-r5-ext");
+   /* totalRLC-AM-BufferSize */
    if (pvalue->m & 0x1u) {
-      if (pvalue->enablingDelay > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->enablingDelay);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "EnablingDelay-TDD128", "enablingDelay", -1, 0);
+      if (pvalue->totalRLC_AM_BufferSize > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->totalRLC_AM_BufferSize);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TotalRLC-AM-BufferSize-r5-ext", "totalRLC-AM-BufferSize", -1, "RLC-Capability-r5-ext");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->enablingDelay, 0, 15);
-      RT_CHECK(ctx, stat, "EnablingDelay-TDD128", "enablingDelay", -1, 0);
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->totalRLC_AM_BufferSize, 0, 3);
+      RT_CHECK_PUT(ctx, cur, stat, "TotalRLC-AM-BufferSize-r5-ext", "totalRLC-AM-BufferSize", -1, "RLC-Capability-r5-ext");
    }
    return 0;
 }
 
-int asn1PE_UMTS_HS_SCCH_DRX_InactivityThreshold_TDD128(rtxContext* RT_RESTRICT ctx, HS_SCCH_DRX_InactivityThreshold_TDD128 value)
+int asn1PE_UMTS_RLC_Capability_r5_ext(rtxContext* RT_RESTRICT ctx, const RLC_Capability_r5_ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RLC_Capability_r5_ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_RLC_Capability_v770ext(rtxContext* RT_RESTRICT ctx, const RLC_Capability_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "HS-SCCH-DRX-InactivityThreshold-TDD128");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HS-SCCH-DRX-InactivityThreshold-TDD128");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RLC-Capability-v770ext");
+   /* supportOfTwoLogicalChannel */
+   stat = rtxEncBitAt(ctx, cur, pvalue->supportOfTwoLogicalChannel);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfTwoLogicalChannel", -1, "RLC-Capability-v770ext");
    return 0;
 }
 
-int asn1PE_UMTS_HS_SCCH_DRX_Info_TDD128(rtxContext* RT_RESTRICT ctx, const HS_SCCH_DRX_Info_TDD128* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RLC_Capability_v770ext(rtxContext* RT_RESTRICT ctx, const RLC_Capability_v770ext* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-DRX-Info-TDD128");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HS-SCCH-DRX-Info-TDD128");
-   /* hS-SCCH-DRX-Cycle */
-   if (pvalue->hS_SCCH_DRX_Cycle > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->hS_SCCH_DRX_Cycle);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ControlChannelDRXCycle-TDD128", "hS-SCCH-DRX-Cycle", -1, "HS-SCCH-DRX-Info-TDD128");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hS_SCCH_DRX_Cycle, 0, 7);
-   RT_CHECK(ctx, stat, "ControlChannelDRXCycle-TDD128", "hS-SCCH-DRX-Cycle", -1, "HS-SCCH-DRX-Info-TDD128");
-   /* hS-SCCH-DRX-InactivityThreshold */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->hS_SCCH_DRX_InactivityThreshold > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->hS_SCCH_DRX_InactivityThreshold);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "HS-SCCH-DRX-InactivityThreshold-TDD128", "hS-SCCH-DRX-InactivityThreshold", -1, "HS-SCCH-DRX-Info-TDD128");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hS_SCCH_DRX_InactivityThreshold, 0, 15);
-      RT_CHECK(ctx, stat, "HS-SCCH-DRX-InactivityThreshold-TDD128", "hS-SCCH-DRX-InactivityThreshold", -1, "HS-SCCH-DRX-Info-TDD128");
-   }
-   /* hS-SCCH-DRX-Offset */
-   if ((uint64_t)pvalue->hS_SCCH_DRX_Offset > 63u) {
-      rtxErrAddStrParm(ctx, "hS-SCCH-DRX-Offset");
-      rtxErrAddUIntParm(ctx, pvalue->hS_SCCH_DRX_Offset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "hS-SCCH-DRX-Offset", -1, "HS-SCCH-DRX-Info-TDD128");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hS_SCCH_DRX_Offset, 0, 63);
-   RT_CHECK(ctx, stat, 0, "hS-SCCH-DRX-Offset", -1, "HS-SCCH-DRX-Info-TDD128");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_RLC_Capability_v770ext, pvalue);
 }
 
-int asn1PE_UMTS_E_AGCH_InactivityMonitorThreshold_TDD128(rtxContext* RT_RESTRICT ctx, E_AGCH_InactivityMonitorThreshold_TDD128 value)
-{
-   int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "E-AGCH-InactivityMonitorThreshold-TDD128");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-AGCH-InactivityMonitorThreshold-TDD128");
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType_e_AGCH_DRX_Parameters(rtxContext* RT_RESTRICT ctx, const E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType_e_AGCH_DRX_Parameters* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* e-AGCH-DRX-Cycle */
-   if (pvalue->e_AGCH_DRX_Cycle > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->e_AGCH_DRX_Cycle);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ControlChannelDRXCycle-TDD128", "e-AGCH-DRX-Cycle", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->e_AGCH_DRX_Cycle, 0, 7);
-   RT_CHECK(ctx, stat, "ControlChannelDRXCycle-TDD128", "e-AGCH-DRX-Cycle", -1, 0);
-   /* e-AGCH-InactivityMonitorThreshold */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->e_AGCH_InactivityMonitorThreshold > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->e_AGCH_InactivityMonitorThreshold);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "E-AGCH-InactivityMonitorThreshold-TDD128", "e-AGCH-InactivityMonitorThreshold", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->e_AGCH_InactivityMonitorThreshold, 0, 15);
-      RT_CHECK(ctx, stat, "E-AGCH-InactivityMonitorThreshold-TDD128", "e-AGCH-InactivityMonitorThreshold", -1, 0);
-   }
-   /* e-AGCH-DRX-Offset */
-   if ((uint64_t)pvalue->e_AGCH_DRX_Offset > 63u) {
-      rtxErrAddStrParm(ctx, "e-AGCH-DRX-Offset");
-      rtxErrAddUIntParm(ctx, pvalue->e_AGCH_DRX_Offset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "e-AGCH-DRX-Offset", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->e_AGCH_DRX_Offset, 0, 63);
-   RT_CHECK(ctx, stat, 0, "e-AGCH-DRX-Offset", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType(rtxContext* RT_RESTRICT ctx, const E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.e_AGCH_DRX_Parameters == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e-AGCH-DRX-Parameters", -1, 0);
-         stat = asn1PE_UMTS_E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType_e_AGCH_DRX_Parameters(ctx, pvalue->u.e_AGCH_DRX_Parameters);
-         RT_CHECK(ctx, stat, 0, "e-AGCH-DRX-Parameters", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_DRX_Info_TDD128(rtxContext* RT_RESTRICT ctx, const E_AGCH_DRX_Info_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-AGCH-DRX-Info-TDD128");
-   /* e-AGCH-DRX-InfoType */
-   stat = asn1PE_UMTS_E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType(ctx, &pvalue->e_AGCH_DRX_InfoType);
-   RT_CHECK(ctx, stat, 0, "e-AGCH-DRX-InfoType", -1, "E-AGCH-DRX-Info-TDD128");
-   return 0;
-}
-
-int asn1PE_UMTS_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_newOperation(rtxContext* RT_RESTRICT ctx, const ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_newOperation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* hS-SCCH-Drx-Info */
-   stat = asn1PE_UMTS_HS_SCCH_DRX_Info_TDD128(ctx, &pvalue->hS_SCCH_Drx_Info);
-   RT_CHECK(ctx, stat, 0, "hS-SCCH-Drx-Info", -1, 0);
-   /* e-AGCH-Drx-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_E_AGCH_DRX_Info_TDD128(ctx, &pvalue->e_AGCH_Drx_Info);
-      RT_CHECK(ctx, stat, 0, "e-AGCH-Drx-Info", -1, 0);
-   }
-   /* enablingDelay */
-   if (pvalue->enablingDelay > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->enablingDelay);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "EnablingDelay-TDD128", "enablingDelay", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->enablingDelay, 0, 15);
-   RT_CHECK(ctx, stat, "EnablingDelay-TDD128", "enablingDelay", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation(rtxContext* RT_RESTRICT ctx, const ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.continue_ == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "continue", -1, 0);
-         stat = asn1PE_UMTS_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_continue_(ctx, pvalue->u.continue_);
-         RT_CHECK(ctx, stat, 0, "continue", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.newOperation == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "newOperation", -1, 0);
-         stat = asn1PE_UMTS_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_newOperation(ctx, pvalue->u.newOperation);
-         RT_CHECK(ctx, stat, 0, "newOperation", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ControlChannelDRXInfo_TDD128_r8(rtxContext* RT_RESTRICT ctx, const ControlChannelDRXInfo_TDD128_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ControlChannelDRXInfo-TDD128-r8");
-   /* controlChannelDrxOperation */
-   stat = asn1PE_UMTS_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation(ctx, &pvalue->controlChannelDrxOperation);
-   RT_CHECK(ctx, stat, 0, "controlChannelDrxOperation", -1, "ControlChannelDRXInfo-TDD128-r8");
-   return 0;
-}
-
-int asn1PE_UMTS_DynamicPersistenceLevelTF_List(rtxContext* RT_RESTRICT ctx, const DynamicPersistenceLevelTF_List* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DynamicPersistenceLevelTF-List");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DynamicPersistenceLevelTF-List");
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)(pvalue->elem[i] - 1) > 7u) {
-         rtxErrAddStrParm(ctx, "DynamicPersistenceLevel");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DynamicPersistenceLevel", "DynamicPersistenceLevel", (int32_t)i, "DynamicPersistenceLevelTF-List");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 1, 8);
-      RT_CHECK(ctx, stat, "DynamicPersistenceLevel", "DynamicPersistenceLevel", (int32_t)i, "DynamicPersistenceLevelTF-List");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CPCH_PersistenceLevels(rtxContext* RT_RESTRICT ctx, const CPCH_PersistenceLevels* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CPCH-PersistenceLevels");
-   /* cpch-SetID */
-   if ((uint64_t)(pvalue->cpch_SetID - 1) > 15u) {
-      rtxErrAddStrParm(ctx, "CPCH-SetID");
-      rtxErrAddUIntParm(ctx, pvalue->cpch_SetID);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "CPCH-SetID", "cpch-SetID", -1, "CPCH-PersistenceLevels");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cpch_SetID, 1, 16);
-   RT_CHECK(ctx, stat, "CPCH-SetID", "cpch-SetID", -1, "CPCH-PersistenceLevels");
-   /* dynamicPersistenceLevelTF-List */
-   stat = asn1PE_UMTS_DynamicPersistenceLevelTF_List(ctx, &pvalue->dynamicPersistenceLevelTF_List);
-   RT_CHECK(ctx, stat, 0, "dynamicPersistenceLevelTF-List", -1, "CPCH-PersistenceLevels");
-   return 0;
-}
-
-int asn1PE_UMTS_CPCH_PersistenceLevelsList(rtxContext* RT_RESTRICT ctx, const CPCH_PersistenceLevelsList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CPCH-PersistenceLevelsList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CPCH-PersistenceLevelsList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CPCH-PersistenceLevels", (int32_t)i, "CPCH-PersistenceLevelsList");
-      stat = asn1PE_UMTS_CPCH_PersistenceLevels(ctx, (const CPCH_PersistenceLevels*)node->data);
-      RT_CHECK(ctx, stat, 0, "CPCH-PersistenceLevels", (int32_t)i, "CPCH-PersistenceLevelsList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DeltaPp_m(rtxContext* RT_RESTRICT ctx, DeltaPp_m value)
-{
-   int stat = 0;
-   if (value < -10 || value > 10) {
-      rtxErrAddStrParm(ctx, "DeltaPp-m");
-      rtxErrAddIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DeltaPp-m");
-   }
-   stat = pe_ConsInt64(ctx, value, -10, 10);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DeltaPp-m");
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCCH_SlotFormat(rtxContext* RT_RESTRICT ctx, UL_DPCCH_SlotFormat value)
-{
-   int stat = 0;
-   if (value > 2) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UL-DPCCH-SlotFormat");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DPCCH-SlotFormat");
-   return 0;
-}
-
-int asn1PE_UMTS_N_StartMessage(rtxContext* RT_RESTRICT ctx, N_StartMessage value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 7u) {
-      rtxErrAddStrParm(ctx, "N-StartMessage");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "N-StartMessage");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "N-StartMessage");
-   return 0;
-}
-
-int asn1PE_UMTS_N_EOT(rtxContext* RT_RESTRICT ctx, N_EOT value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 7u) {
-      rtxErrAddStrParm(ctx, "N-EOT");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "N-EOT");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "N-EOT");
-   return 0;
-}
-
-int asn1PE_UMTS_CPCH_StatusIndicationMode(rtxContext* RT_RESTRICT ctx, CPCH_StatusIndicationMode value)
+RT_MERGED_BODY int enc_TotalRLC_AM_BufferSize_v920ext(rtxContext* RT_RESTRICT ctx, TotalRLC_AM_BufferSize_v920ext value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "CPCH-StatusIndicationMode");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TotalRLC-AM-BufferSize-v920ext");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CPCH-StatusIndicationMode");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TotalRLC-AM-BufferSize-v920ext");
    return 0;
 }
 
-int asn1PE_UMTS_PCP_Length(rtxContext* RT_RESTRICT ctx, PCP_Length value)
+int asn1PE_UMTS_TotalRLC_AM_BufferSize_v920ext(rtxContext* RT_RESTRICT ctx, TotalRLC_AM_BufferSize_v920ext value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TotalRLC_AM_BufferSize_v920ext, value);
+}
+
+RT_MERGED_BODY int enc_RLC_Capability_v920ext(rtxContext* RT_RESTRICT ctx, const RLC_Capability_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RLC-Capability-v920ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RLC-Capability-v920ext");
+   /* totalRLC-AM-BufferSize */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->totalRLC_AM_BufferSize > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->totalRLC_AM_BufferSize);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TotalRLC-AM-BufferSize-v920ext", "totalRLC-AM-BufferSize", -1, "RLC-Capability-v920ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->totalRLC_AM_BufferSize, 0, 1);
+      RT_CHECK_PUT(ctx, cur, stat, "TotalRLC-AM-BufferSize-v920ext", "totalRLC-AM-BufferSize", -1, "RLC-Capability-v920ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RLC_Capability_v920ext(rtxContext* RT_RESTRICT ctx, const RLC_Capability_v920ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RLC_Capability_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_RRC_StateIndicator(rtxContext* RT_RESTRICT ctx, RRC_StateIndicator value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "RRC-StateIndicator");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RRC-StateIndicator");
+   return 0;
+}
+
+int asn1PE_UMTS_RRC_StateIndicator(rtxContext* RT_RESTRICT ctx, RRC_StateIndicator value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RRC_StateIndicator, value);
+}
+
+RT_MERGED_BODY int enc_S_RNTI_2(rtxContext* RT_RESTRICT ctx, S_RNTI_2 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 10, 10);
+   stat = pe_BitString32At(ctx, cur, &value, 10, 10);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "S-RNTI-2");
+   return 0;
+}
+
+int asn1PE_UMTS_S_RNTI_2(rtxContext* RT_RESTRICT ctx, S_RNTI_2 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_S_RNTI_2, value);
+}
+
+RT_MERGED_BODY int enc_SecurityCapability_cipheringAlgorithmCap(rtxContext* RT_RESTRICT ctx, SecurityCapability_cipheringAlgorithmCap value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   {
+      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
+      uint32_t used = (uint32_t)(last + 1);
+      value.numbits = used <= 16 ? 16 : used;
+      if (last < -1) RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+   }
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &value, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SecurityCapability_cipheringAlgorithmCap(rtxContext* RT_RESTRICT ctx, SecurityCapability_cipheringAlgorithmCap value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecurityCapability_cipheringAlgorithmCap, value);
+}
+
+RT_MERGED_BODY int enc_SecurityCapability_integrityProtectionAlgorithmCap(rtxContext* RT_RESTRICT ctx, SecurityCapability_integrityProtectionAlgorithmCap value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   {
+      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
+      uint32_t used = (uint32_t)(last + 1);
+      value.numbits = used <= 16 ? 16 : used;
+      if (last < -1) RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+   }
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &value, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SecurityCapability_integrityProtectionAlgorithmCap(rtxContext* RT_RESTRICT ctx, SecurityCapability_integrityProtectionAlgorithmCap value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecurityCapability_integrityProtectionAlgorithmCap, value);
+}
+
+RT_MERGED_BODY int enc_SecurityCapability(rtxContext* RT_RESTRICT ctx, const SecurityCapability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SecurityCapability");
+   /* cipheringAlgorithmCap */
+   stat = enc_SecurityCapability_cipheringAlgorithmCap(ctx, pvalue->cipheringAlgorithmCap, cur);
+   RT_CHECK(ctx, stat, 0, "cipheringAlgorithmCap", -1, "SecurityCapability");
+   /* integrityProtectionAlgorithmCap */
+   stat = enc_SecurityCapability_integrityProtectionAlgorithmCap(ctx, pvalue->integrityProtectionAlgorithmCap, cur);
+   RT_CHECK(ctx, stat, 0, "integrityProtectionAlgorithmCap", -1, "SecurityCapability");
+   return 0;
+}
+
+int asn1PE_UMTS_SecurityCapability(rtxContext* RT_RESTRICT ctx, const SecurityCapability* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecurityCapability, pvalue);
+}
+
+RT_MERGED_BODY int enc_SecondaryServingEDCHCell_Info(rtxContext* RT_RESTRICT ctx, const SecondaryServingEDCHCell_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SecondaryServingEDCHCell-Info");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SecondaryServingEDCHCell-Info");
+   /* primary-E-RNTI */
+   if (pvalue->m & 0x1u) {
+      stat = enc_E_RNTI(ctx, pvalue->primary_E_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "primary-E-RNTI", -1, "SecondaryServingEDCHCell-Info");
+   }
+   /* secondary-E-RNTI */
+   if (pvalue->m & 0x2u) {
+      stat = enc_E_RNTI(ctx, pvalue->secondary_E_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "secondary-E-RNTI", -1, "SecondaryServingEDCHCell-Info");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryServingEDCHCell_Info(rtxContext* RT_RESTRICT ctx, const SecondaryServingEDCHCell_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryServingEDCHCell_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_SecondaryEDCH_Info_Common_servingGrant_primary_Secondary_GrantSelector(rtxContext* RT_RESTRICT ctx, SecondaryEDCH_Info_Common_servingGrant_primary_Secondary_GrantSelector value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "PCP-Length");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PCP-Length");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_UCSM_Info(rtxContext* RT_RESTRICT ctx, const UCSM_Info* RT_RESTRICT pvalue)
+int asn1PE_UMTS_SecondaryEDCH_Info_Common_servingGrant_primary_Secondary_GrantSelector(rtxContext* RT_RESTRICT ctx, SecondaryEDCH_Info_Common_servingGrant_primary_Secondary_GrantSelector value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryEDCH_Info_Common_servingGrant_primary_Secondary_GrantSelector, value);
+}
+
+RT_MERGED_BODY int enc_SecondaryEDCH_Info_Common_servingGrant(rtxContext* RT_RESTRICT ctx, const SecondaryEDCH_Info_Common_servingGrant* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UCSM-Info");
-   /* minimumSpreadingFactor */
-   if (pvalue->minimumSpreadingFactor > 6) {
-      rtxErrAddUIntParm(ctx, pvalue->minimumSpreadingFactor);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MinimumSpreadingFactor", "minimumSpreadingFactor", -1, "UCSM-Info");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* primary-Secondary-GrantSelector */
+   if (pvalue->primary_Secondary_GrantSelector > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->primary_Secondary_GrantSelector);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "primary-Secondary-GrantSelector", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, pvalue->minimumSpreadingFactor, 0, 6);
-   RT_CHECK(ctx, stat, "MinimumSpreadingFactor", "minimumSpreadingFactor", -1, "UCSM-Info");
-   /* nf-Max */
-   if ((uint64_t)(pvalue->nf_Max - 1) > 63u) {
-      rtxErrAddStrParm(ctx, "NF-Max");
-      rtxErrAddUIntParm(ctx, pvalue->nf_Max);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "NF-Max", "nf-Max", -1, "UCSM-Info");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->nf_Max, 1, 64);
-   RT_CHECK(ctx, stat, "NF-Max", "nf-Max", -1, "UCSM-Info");
-   /* channelReqParamsForUCSM */
-   stat = asn1PE_UMTS_ChannelReqParamsForUCSM(ctx, &pvalue->channelReqParamsForUCSM);
-   RT_CHECK(ctx, stat, 0, "channelReqParamsForUCSM", -1, "UCSM-Info");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->primary_Secondary_GrantSelector, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "primary-Secondary-GrantSelector", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_PCPCH_ChannelInfo(rtxContext* RT_RESTRICT ctx, const PCPCH_ChannelInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_SecondaryEDCH_Info_Common_servingGrant(rtxContext* RT_RESTRICT ctx, const SecondaryEDCH_Info_Common_servingGrant* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PCPCH-ChannelInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PCPCH-ChannelInfo");
-   /* pcpch-UL-ScramblingCode */
-   if ((uint64_t)pvalue->pcpch_UL_ScramblingCode > 79u) {
-      rtxErrAddStrParm(ctx, "pcpch-UL-ScramblingCode");
-      rtxErrAddUIntParm(ctx, pvalue->pcpch_UL_ScramblingCode);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "pcpch-UL-ScramblingCode", -1, "PCPCH-ChannelInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pcpch_UL_ScramblingCode, 0, 79);
-   RT_CHECK(ctx, stat, 0, "pcpch-UL-ScramblingCode", -1, "PCPCH-ChannelInfo");
-   /* pcpch-DL-ChannelisationCode */
-   if ((uint64_t)pvalue->pcpch_DL_ChannelisationCode > 511u) {
-      rtxErrAddStrParm(ctx, "pcpch-DL-ChannelisationCode");
-      rtxErrAddUIntParm(ctx, pvalue->pcpch_DL_ChannelisationCode);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "pcpch-DL-ChannelisationCode", -1, "PCPCH-ChannelInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pcpch_DL_ChannelisationCode, 0, 511);
-   RT_CHECK(ctx, stat, 0, "pcpch-DL-ChannelisationCode", -1, "PCPCH-ChannelInfo");
-   /* pcpch-DL-ScramblingCode */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->pcpch_DL_ScramblingCode - 1) > 14u) {
-         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
-         rtxErrAddUIntParm(ctx, pvalue->pcpch_DL_ScramblingCode);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "SecondaryScramblingCode", "pcpch-DL-ScramblingCode", -1, "PCPCH-ChannelInfo");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->pcpch_DL_ScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "pcpch-DL-ScramblingCode", -1, "PCPCH-ChannelInfo");
-   }
-   /* pcp-Length */
-   if (pvalue->pcp_Length > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->pcp_Length);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PCP-Length", "pcp-Length", -1, "PCPCH-ChannelInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pcp_Length, 0, 1);
-   RT_CHECK(ctx, stat, "PCP-Length", "pcp-Length", -1, "PCPCH-ChannelInfo");
-   /* ucsm-Info */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UCSM_Info(ctx, &pvalue->ucsm_Info);
-      RT_CHECK(ctx, stat, 0, "ucsm-Info", -1, "PCPCH-ChannelInfo");
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryEDCH_Info_Common_servingGrant, pvalue);
 }
 
-int asn1PE_UMTS_PCPCH_ChannelInfoList(rtxContext* RT_RESTRICT ctx, const PCPCH_ChannelInfoList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PCPCH-ChannelInfoList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PCPCH-ChannelInfoList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PCPCH-ChannelInfo", (int32_t)i, "PCPCH-ChannelInfoList");
-      stat = asn1PE_UMTS_PCPCH_ChannelInfo(ctx, (const PCPCH_ChannelInfo*)node->data);
-      RT_CHECK(ctx, stat, 0, "PCPCH-ChannelInfo", (int32_t)i, "PCPCH-ChannelInfoList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CPCH_SetInfo(rtxContext* RT_RESTRICT ctx, const CPCH_SetInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CPCH-SetInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CPCH-SetInfo");
-   /* cpch-SetID */
-   if ((uint64_t)(pvalue->cpch_SetID - 1) > 15u) {
-      rtxErrAddStrParm(ctx, "CPCH-SetID");
-      rtxErrAddUIntParm(ctx, pvalue->cpch_SetID);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "CPCH-SetID", "cpch-SetID", -1, "CPCH-SetInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cpch_SetID, 1, 16);
-   RT_CHECK(ctx, stat, "CPCH-SetID", "cpch-SetID", -1, "CPCH-SetInfo");
-   /* transportFormatSet */
-   stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->transportFormatSet);
-   RT_CHECK(ctx, stat, 0, "transportFormatSet", -1, "CPCH-SetInfo");
-   /* tfcs */
-   stat = asn1PE_UMTS_TFCS(ctx, &pvalue->tfcs);
-   RT_CHECK(ctx, stat, 0, "tfcs", -1, "CPCH-SetInfo");
-   /* ap-PreambleScramblingCode */
-   if ((uint64_t)pvalue->ap_PreambleScramblingCode > 79u) {
-      rtxErrAddStrParm(ctx, "AP-PreambleScramblingCode");
-      rtxErrAddUIntParm(ctx, pvalue->ap_PreambleScramblingCode);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "AP-PreambleScramblingCode", "ap-PreambleScramblingCode", -1, "CPCH-SetInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ap_PreambleScramblingCode, 0, 79);
-   RT_CHECK(ctx, stat, "AP-PreambleScramblingCode", "ap-PreambleScramblingCode", -1, "CPCH-SetInfo");
-   /* ap-AICH-ChannelisationCode */
-   stat = pe_ConsUInt64(ctx, pvalue->ap_AICH_ChannelisationCode, 0, 255);
-   RT_CHECK(ctx, stat, "AP-AICH-ChannelisationCode", "ap-AICH-ChannelisationCode", -1, "CPCH-SetInfo");
-   /* cd-PreambleScramblingCode */
-   if ((uint64_t)pvalue->cd_PreambleScramblingCode > 79u) {
-      rtxErrAddStrParm(ctx, "CD-PreambleScramblingCode");
-      rtxErrAddUIntParm(ctx, pvalue->cd_PreambleScramblingCode);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "CD-PreambleScramblingCode", "cd-PreambleScramblingCode", -1, "CPCH-SetInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cd_PreambleScramblingCode, 0, 79);
-   RT_CHECK(ctx, stat, "CD-PreambleScramblingCode", "cd-PreambleScramblingCode", -1, "CPCH-SetInfo");
-   /* cd-CA-ICH-ChannelisationCode */
-   stat = pe_ConsUInt64(ctx, pvalue->cd_CA_ICH_ChannelisationCode, 0, 255);
-   RT_CHECK(ctx, stat, "CD-CA-ICH-ChannelisationCode", "cd-CA-ICH-ChannelisationCode", -1, "CPCH-SetInfo");
-   /* cd-AccessSlotSubchannelList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CD_AccessSlotSubchannelList(ctx, &pvalue->cd_AccessSlotSubchannelList);
-      RT_CHECK(ctx, stat, 0, "cd-AccessSlotSubchannelList", -1, "CPCH-SetInfo");
-   }
-   /* cd-SignatureCodeList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_CD_SignatureCodeList(ctx, &pvalue->cd_SignatureCodeList);
-      RT_CHECK(ctx, stat, 0, "cd-SignatureCodeList", -1, "CPCH-SetInfo");
-   }
-   /* deltaPp-m */
-   if (pvalue->deltaPp_m < -10 || pvalue->deltaPp_m > 10) {
-      rtxErrAddStrParm(ctx, "DeltaPp-m");
-      rtxErrAddIntParm(ctx, pvalue->deltaPp_m);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaPp-m", "deltaPp-m", -1, "CPCH-SetInfo");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->deltaPp_m, -10, 10);
-   RT_CHECK(ctx, stat, "DeltaPp-m", "deltaPp-m", -1, "CPCH-SetInfo");
-   /* ul-DPCCH-SlotFormat */
-   if (pvalue->ul_DPCCH_SlotFormat > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->ul_DPCCH_SlotFormat);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UL-DPCCH-SlotFormat", "ul-DPCCH-SlotFormat", -1, "CPCH-SetInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ul_DPCCH_SlotFormat, 0, 2);
-   RT_CHECK(ctx, stat, "UL-DPCCH-SlotFormat", "ul-DPCCH-SlotFormat", -1, "CPCH-SetInfo");
-   /* n-StartMessage */
-   if ((uint64_t)(pvalue->n_StartMessage - 1) > 7u) {
-      rtxErrAddStrParm(ctx, "N-StartMessage");
-      rtxErrAddUIntParm(ctx, pvalue->n_StartMessage);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "N-StartMessage", "n-StartMessage", -1, "CPCH-SetInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->n_StartMessage, 1, 8);
-   RT_CHECK(ctx, stat, "N-StartMessage", "n-StartMessage", -1, "CPCH-SetInfo");
-   /* n-EOT */
-   if ((uint64_t)pvalue->n_EOT > 7u) {
-      rtxErrAddStrParm(ctx, "N-EOT");
-      rtxErrAddUIntParm(ctx, pvalue->n_EOT);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "N-EOT", "n-EOT", -1, "CPCH-SetInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->n_EOT, 0, 7);
-   RT_CHECK(ctx, stat, "N-EOT", "n-EOT", -1, "CPCH-SetInfo");
-   /* channelAssignmentActive */
-   stat = asn1PE_UMTS_ChannelAssignmentActive(ctx, &pvalue->channelAssignmentActive);
-   RT_CHECK(ctx, stat, 0, "channelAssignmentActive", -1, "CPCH-SetInfo");
-   /* cpch-StatusIndicationMode */
-   if (pvalue->cpch_StatusIndicationMode > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->cpch_StatusIndicationMode);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "CPCH-StatusIndicationMode", "cpch-StatusIndicationMode", -1, "CPCH-SetInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cpch_StatusIndicationMode, 0, 1);
-   RT_CHECK(ctx, stat, "CPCH-StatusIndicationMode", "cpch-StatusIndicationMode", -1, "CPCH-SetInfo");
-   /* pcpch-ChannelInfoList */
-   stat = asn1PE_UMTS_PCPCH_ChannelInfoList(ctx, &pvalue->pcpch_ChannelInfoList);
-   RT_CHECK(ctx, stat, 0, "pcpch-ChannelInfoList", -1, "CPCH-SetInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_CPCH_SetInfoList(rtxContext* RT_RESTRICT ctx, const CPCH_SetInfoList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CPCH-SetInfoList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CPCH-SetInfoList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CPCH-SetInfo", (int32_t)i, "CPCH-SetInfoList");
-      stat = asn1PE_UMTS_CPCH_SetInfo(ctx, (const CPCH_SetInfo*)node->data);
-      RT_CHECK(ctx, stat, 0, "CPCH-SetInfo", (int32_t)i, "CPCH-SetInfoList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CQI_DTX_Timer(rtxContext* RT_RESTRICT ctx, CQI_DTX_Timer value)
-{
-   int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "CQI-DTX-Timer");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CQI-DTX-Timer");
-   return 0;
-}
-
-int asn1PE_UMTS_CSICH_PowerOffset(rtxContext* RT_RESTRICT ctx, CSICH_PowerOffset value)
-{
-   int stat = 0;
-   if (value < -10 || value > 5) {
-      rtxErrAddStrParm(ctx, "CSICH-PowerOffset");
-      rtxErrAddIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "CSICH-PowerOffset");
-   }
-   stat = pe_ConsInt64(ctx, value, -10, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CSICH-PowerOffset");
-   return 0;
-}
-
-int asn1PE_UMTS_DefaultDPCH_OffsetValueFDD(rtxContext* RT_RESTRICT ctx, DefaultDPCH_OffsetValueFDD value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 599u) {
-      rtxErrAddStrParm(ctx, "DefaultDPCH-OffsetValueFDD");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DefaultDPCH-OffsetValueFDD");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 599);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DefaultDPCH-OffsetValueFDD");
-   return 0;
-}
-
-int asn1PE_UMTS_DefaultDPCH_OffsetValueTDD(rtxContext* RT_RESTRICT ctx, DefaultDPCH_OffsetValueTDD value)
+RT_MERGED_BODY int enc_PC_Preamble(rtxContext* RT_RESTRICT ctx, PC_Preamble value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)value > 7u) {
-      rtxErrAddStrParm(ctx, "DefaultDPCH-OffsetValueTDD");
+      rtxErrAddStrParm(ctx, "PC-Preamble");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DefaultDPCH-OffsetValueTDD");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "PC-Preamble");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DefaultDPCH-OffsetValueTDD");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PC-Preamble");
    return 0;
 }
 
-int asn1PE_UMTS_DeltaSIR(rtxContext* RT_RESTRICT ctx, DeltaSIR value)
+int asn1PE_UMTS_PC_Preamble(rtxContext* RT_RESTRICT ctx, PC_Preamble value)
 {
-   int stat = 0;
-   if ((uint64_t)value > 30u) {
-      rtxErrAddStrParm(ctx, "DeltaSIR");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DeltaSIR");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 30);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DeltaSIR");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_PC_Preamble, value);
 }
 
-int asn1PE_UMTS_TimeInfo(rtxContext* RT_RESTRICT ctx, const TimeInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_SecondaryEDCH_Info_Common(rtxContext* RT_RESTRICT ctx, const SecondaryEDCH_Info_Common* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TimeInfo");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SecondaryEDCH-Info-Common");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimeInfo");
-   /* activationTime */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SecondaryEDCH-Info-Common");
+   /* frequencyInfo */
+   stat = enc_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "SecondaryEDCH-Info-Common");
+   /* scramblingCodeType */
+   if (pvalue->scramblingCodeType > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->scramblingCodeType);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ScramblingCodeType", "scramblingCodeType", -1, "SecondaryEDCH-Info-Common");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->scramblingCodeType, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "ScramblingCodeType", "scramblingCodeType", -1, "SecondaryEDCH-Info-Common");
+   /* scramblingCodeNumber */
+   if ((uint64_t)pvalue->scramblingCodeNumber > 16777215u) {
+      rtxErrAddStrParm(ctx, "UL-ScramblingCode");
+      rtxErrAddUIntParm(ctx, pvalue->scramblingCodeNumber);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UL-ScramblingCode", "scramblingCodeNumber", -1, "SecondaryEDCH-Info-Common");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->scramblingCodeNumber, 0, 16777215);
+   RT_CHECK_PUT(ctx, cur, stat, "UL-ScramblingCode", "scramblingCodeNumber", -1, "SecondaryEDCH-Info-Common");
+   /* ms2-SchedTransmGrantHARQAlloc */
    if (pvalue->m & 0x1u) {
-      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "TimeInfo");
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pe_BitString32At(ctx, cur, &pvalue->ms2_SchedTransmGrantHARQAlloc, 8, 8);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "ms2-SchedTransmGrantHARQAlloc", -1, "SecondaryEDCH-Info-Common");
    }
-   /* durationTimeInfo */
+   /* servingGrant */
    if (pvalue->m & 0x2u) {
-      if ((uint64_t)(pvalue->durationTimeInfo - 1) > 4095u) {
-         rtxErrAddStrParm(ctx, "DurationTimeInfo");
-         rtxErrAddUIntParm(ctx, pvalue->durationTimeInfo);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DurationTimeInfo", "durationTimeInfo", -1, "TimeInfo");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->durationTimeInfo, 1, 4096);
-      RT_CHECK(ctx, stat, "DurationTimeInfo", "durationTimeInfo", -1, "TimeInfo");
+      stat = enc_SecondaryEDCH_Info_Common_servingGrant(ctx, &pvalue->servingGrant, cur);
+      RT_CHECK(ctx, stat, 0, "servingGrant", -1, "SecondaryEDCH-Info-Common");
    }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_CCTrChTPCList(rtxContext* RT_RESTRICT ctx, const UL_CCTrChTPCList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-CCTrChTPCList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 0, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UL-CCTrChTPCList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "TFCS-Identity", (int32_t)i, "UL-CCTrChTPCList");
-      stat = asn1PE_UMTS_TFCS_Identity(ctx, (const TFCS_Identity*)node->data);
-      RT_CHECK(ctx, stat, 0, "TFCS-Identity", (int32_t)i, "UL-CCTrChTPCList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CCTrCh(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-CCTrCh");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 3) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CCTrCh");
-   /* tfcs-ID */
-   if (pvalue->tfcs_ID != 1) {
-      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
-         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
-         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "DL-CCTrCh");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "DL-CCTrCh");
-   }
-   /* timeInfo */
-   stat = asn1PE_UMTS_TimeInfo(ctx, &pvalue->timeInfo);
-   RT_CHECK(ctx, stat, 0, "timeInfo", -1, "DL-CCTrCh");
-   /* commonTimeslotInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "DL-CCTrCh");
-   }
-   /* dl-CCTrCH-TimeslotsCodes */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DownlinkTimeslotsCodes(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes);
-      RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, "DL-CCTrCh");
-   }
-   /* ul-CCTrChTPCList */
+   /* minReduced-E-DPDCH-GainFactor */
    if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_UL_CCTrChTPCList(ctx, &pvalue->ul_CCTrChTPCList);
-      RT_CHECK(ctx, stat, 0, "ul-CCTrChTPCList", -1, "DL-CCTrCh");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CCTrCh_r4_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r4_tddOption_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-CCTrCH-TimeslotsCodes */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DownlinkTimeslotsCodes(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes);
-      RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CCTrCh_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r4_tddOption_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-CCTrCH-TimeslotsCodes */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes);
-      RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CCTrCh_r4_tddOption(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r4_tddOption* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
-         stat = asn1PE_UMTS_DL_CCTrCh_r4_tddOption_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_DL_CCTrCh_r4_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CCTrCh_r4(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-CCTrCh-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 2) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CCTrCh-r4");
-   /* tfcs-ID */
-   if (pvalue->tfcs_ID != 1) {
-      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
-         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
-         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "DL-CCTrCh-r4");
+      if (pvalue->minReduced_E_DPDCH_GainFactor > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->minReduced_E_DPDCH_GainFactor);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MinReduced-E-DPDCH-GainFactor", "minReduced-E-DPDCH-GainFactor", -1, "SecondaryEDCH-Info-Common");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "DL-CCTrCh-r4");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->minReduced_E_DPDCH_GainFactor, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "MinReduced-E-DPDCH-GainFactor", "minReduced-E-DPDCH-GainFactor", -1, "SecondaryEDCH-Info-Common");
    }
-   /* timeInfo */
-   stat = asn1PE_UMTS_TimeInfo(ctx, &pvalue->timeInfo);
-   RT_CHECK(ctx, stat, 0, "timeInfo", -1, "DL-CCTrCh-r4");
-   /* commonTimeslotInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "DL-CCTrCh-r4");
-   }
-   /* tddOption */
-   stat = asn1PE_UMTS_DL_CCTrCh_r4_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, "DL-CCTrCh-r4");
-   /* ul-CCTrChTPCList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UL_CCTrChTPCList(ctx, &pvalue->ul_CCTrChTPCList);
-      RT_CHECK(ctx, stat, 0, "ul-CCTrChTPCList", -1, "DL-CCTrCh-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CCTrCh_r7_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r7_tddOption_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-CCTrCH-TimeslotsCodes */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DownlinkTimeslotsCodes_r7(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes);
-      RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CCTrCh_r7_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r7_tddOption_tdd768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-CCTrCH-TimeslotsCodes */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DownlinkTimeslotsCodes_VHCR(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes);
-      RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CCTrCh_r7_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r7_tddOption_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-CCTrCH-TimeslotsCodes */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes);
-      RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CCTrCh_r7_tddOption(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r7_tddOption* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
-         stat = asn1PE_UMTS_DL_CCTrCh_r7_tddOption_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
-         stat = asn1PE_UMTS_DL_CCTrCh_r7_tddOption_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
-         break;
-      case 3:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_DL_CCTrCh_r7_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CCTrCh_r7(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-CCTrCh-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 2) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CCTrCh-r7");
-   /* tfcs-ID */
-   if (pvalue->tfcs_ID != 1) {
-      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
-         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
-         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "DL-CCTrCh-r7");
+   /* e-DCH-minimumSet-E-TFCI */
+   if (pvalue->m & 0x8u) {
+      if ((uint64_t)pvalue->e_DCH_minimumSet_E_TFCI > 127u) {
+         rtxErrAddStrParm(ctx, "E-DCH-MinimumSet-E-TFCI");
+         rtxErrAddUIntParm(ctx, pvalue->e_DCH_minimumSet_E_TFCI);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "E-DCH-MinimumSet-E-TFCI", "e-DCH-minimumSet-E-TFCI", -1, "SecondaryEDCH-Info-Common");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "DL-CCTrCh-r7");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->e_DCH_minimumSet_E_TFCI, 0, 127);
+      RT_CHECK_PUT(ctx, cur, stat, "E-DCH-MinimumSet-E-TFCI", "e-DCH-minimumSet-E-TFCI", -1, "SecondaryEDCH-Info-Common");
    }
-   /* timeInfo */
-   stat = asn1PE_UMTS_TimeInfo(ctx, &pvalue->timeInfo);
-   RT_CHECK(ctx, stat, 0, "timeInfo", -1, "DL-CCTrCh-r7");
-   /* commonTimeslotInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "DL-CCTrCh-r7");
+   /* dpcchPowerOffset-SecondaryULFrequency */
+   if ((uint64_t)pvalue->dpcchPowerOffset_SecondaryULFrequency > 7u) {
+      rtxErrAddStrParm(ctx, "dpcchPowerOffset-SecondaryULFrequency");
+      rtxErrAddUIntParm(ctx, pvalue->dpcchPowerOffset_SecondaryULFrequency);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "dpcchPowerOffset-SecondaryULFrequency", -1, "SecondaryEDCH-Info-Common");
    }
-   /* tddOption */
-   stat = asn1PE_UMTS_DL_CCTrCh_r7_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, "DL-CCTrCh-r7");
-   /* ul-CCTrChTPCList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UL_CCTrChTPCList(ctx, &pvalue->ul_CCTrChTPCList);
-      RT_CHECK(ctx, stat, 0, "ul-CCTrChTPCList", -1, "DL-CCTrCh-r7");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dpcchPowerOffset_SecondaryULFrequency, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "dpcchPowerOffset-SecondaryULFrequency", -1, "SecondaryEDCH-Info-Common");
+   /* pc-Preamble */
+   if ((uint64_t)pvalue->pc_Preamble > 7u) {
+      rtxErrAddStrParm(ctx, "PC-Preamble");
+      rtxErrAddUIntParm(ctx, pvalue->pc_Preamble);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PC-Preamble", "pc-Preamble", -1, "SecondaryEDCH-Info-Common");
    }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pc_Preamble, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "PC-Preamble", "pc-Preamble", -1, "SecondaryEDCH-Info-Common");
    return 0;
 }
 
-int asn1PE_UMTS_DL_CCTrChList(rtxContext* RT_RESTRICT ctx, const DL_CCTrChList* RT_RESTRICT pvalue)
+int asn1PE_UMTS_SecondaryEDCH_Info_Common(rtxContext* RT_RESTRICT ctx, const SecondaryEDCH_Info_Common* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryEDCH_Info_Common, pvalue);
+}
+
+RT_MERGED_BODY int enc_HARQ_Preamble_Mode(rtxContext* RT_RESTRICT ctx, HARQ_Preamble_Mode value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-CCTrChList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-CCTrChList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-CCTrCh", (int32_t)i, "DL-CCTrChList");
-      stat = asn1PE_UMTS_DL_CCTrCh(ctx, (const DL_CCTrCh*)node->data);
-      RT_CHECK(ctx, stat, 0, "DL-CCTrCh", (int32_t)i, "DL-CCTrChList");
+   if ((uint64_t)value > 1u) {
+      rtxErrAddStrParm(ctx, "HARQ-Preamble-Mode");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "HARQ-Preamble-Mode");
    }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "HARQ-Preamble-Mode");
    return 0;
 }
 
-int asn1PE_UMTS_DL_CCTrChList_r7(rtxContext* RT_RESTRICT ctx, const DL_CCTrChList_r7* RT_RESTRICT pvalue)
+int asn1PE_UMTS_HARQ_Preamble_Mode(rtxContext* RT_RESTRICT ctx, HARQ_Preamble_Mode value)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-CCTrChList-r7");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-CCTrChList-r7");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-CCTrCh-r7", (int32_t)i, "DL-CCTrChList-r7");
-      stat = asn1PE_UMTS_DL_CCTrCh_r7(ctx, (const DL_CCTrCh_r7*)node->data);
-      RT_CHECK(ctx, stat, 0, "DL-CCTrCh-r7", (int32_t)i, "DL-CCTrChList-r7");
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_HARQ_Preamble_Mode, value);
 }
 
-int asn1PE_UMTS_DL_CCTrChList_r4(rtxContext* RT_RESTRICT ctx, const DL_CCTrChList_r4* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_HS_SCCH_Info_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-CCTrChList-r4");
-   const rtxDListNode* node;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-CCTrChList-r4");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-CCTrCh-r4", (int32_t)i, "DL-CCTrChList-r4");
-      stat = asn1PE_UMTS_DL_CCTrCh_r4(ctx, (const DL_CCTrCh_r4*)node->data);
-      RT_CHECK(ctx, stat, 0, "DL-CCTrCh-r4", (int32_t)i, "DL-CCTrChList-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CCTrChListToRemove(rtxContext* RT_RESTRICT ctx, const DL_CCTrChListToRemove* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-CCTrChListToRemove");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-CCTrChListToRemove");
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
    for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)(pvalue->elem[i] - 1) > 7u) {
-         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
+      if ((uint64_t)pvalue->elem[i] > 127u) {
+         rtxErrAddStrParm(ctx, "HS-SCCH-Codes");
          rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "TFCS-IdentityPlain", (int32_t)i, "DL-CCTrChListToRemove");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
       }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "TFCS-IdentityPlain", (int32_t)i, "DL-CCTrChListToRemove");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 127);
+      RT_CHECK_PUT(ctx, cur, stat, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SF512_AndCodeNumber(rtxContext* RT_RESTRICT ctx, const SF512_AndCodeNumber* RT_RESTRICT pvalue)
+int asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SF512-AndCodeNumber");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
-   RT_CHECK(ctx, stat, 0, "t", -1, "SF512-AndCodeNumber");
-   if (pvalue->t - 1 > 7) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "SF512-AndCodeNumber");
-   switch (pvalue->t) {
-      case 1:
-         if ((uint64_t)pvalue->u.sf4 > 3u) {
-            rtxErrAddStrParm(ctx, "sf4");
-            rtxErrAddUIntParm(ctx, pvalue->u.sf4);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sf4", -1, "SF512-AndCodeNumber");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sf4, 0, 3);
-         RT_CHECK(ctx, stat, 0, "sf4", -1, "SF512-AndCodeNumber");
-         break;
-      case 2:
-         if ((uint64_t)pvalue->u.sf8 > 7u) {
-            rtxErrAddStrParm(ctx, "sf8");
-            rtxErrAddUIntParm(ctx, pvalue->u.sf8);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sf8", -1, "SF512-AndCodeNumber");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sf8, 0, 7);
-         RT_CHECK(ctx, stat, 0, "sf8", -1, "SF512-AndCodeNumber");
-         break;
-      case 3:
-         if ((uint64_t)pvalue->u.sf16 > 15u) {
-            rtxErrAddStrParm(ctx, "sf16");
-            rtxErrAddUIntParm(ctx, pvalue->u.sf16);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sf16", -1, "SF512-AndCodeNumber");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sf16, 0, 15);
-         RT_CHECK(ctx, stat, 0, "sf16", -1, "SF512-AndCodeNumber");
-         break;
-      case 4:
-         if ((uint64_t)pvalue->u.sf32 > 31u) {
-            rtxErrAddStrParm(ctx, "sf32");
-            rtxErrAddUIntParm(ctx, pvalue->u.sf32);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sf32", -1, "SF512-AndCodeNumber");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sf32, 0, 31);
-         RT_CHECK(ctx, stat, 0, "sf32", -1, "SF512-AndCodeNumber");
-         break;
-      case 5:
-         if ((uint64_t)pvalue->u.sf64 > 63u) {
-            rtxErrAddStrParm(ctx, "sf64");
-            rtxErrAddUIntParm(ctx, pvalue->u.sf64);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sf64", -1, "SF512-AndCodeNumber");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sf64, 0, 63);
-         RT_CHECK(ctx, stat, 0, "sf64", -1, "SF512-AndCodeNumber");
-         break;
-      case 6:
-         if ((uint64_t)pvalue->u.sf128 > 127u) {
-            rtxErrAddStrParm(ctx, "sf128");
-            rtxErrAddUIntParm(ctx, pvalue->u.sf128);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sf128", -1, "SF512-AndCodeNumber");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sf128, 0, 127);
-         RT_CHECK(ctx, stat, 0, "sf128", -1, "SF512-AndCodeNumber");
-         break;
-      case 7:
-         stat = pe_ConsUInt64(ctx, pvalue->u.sf256, 0, 255);
-         RT_CHECK(ctx, stat, 0, "sf256", -1, "SF512-AndCodeNumber");
-         break;
-      case 8:
-         if ((uint64_t)pvalue->u.sf512 > 511u) {
-            rtxErrAddStrParm(ctx, "sf512");
-            rtxErrAddUIntParm(ctx, pvalue->u.sf512);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sf512", -1, "SF512-AndCodeNumber");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sf512, 0, 511);
-         RT_CHECK(ctx, stat, 0, "sf512", -1, "SF512-AndCodeNumber");
-         break;
-      default:
-         break;
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo, pvalue);
 }
 
-int asn1PE_UMTS_ScramblingCodeChange(rtxContext* RT_RESTRICT ctx, ScramblingCodeChange value)
+RT_MERGED_BODY int enc_HS_SCCH_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ScramblingCodeChange");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ScramblingCodeChange");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_ChannelisationCode(rtxContext* RT_RESTRICT ctx, const DL_ChannelisationCode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-ChannelisationCode");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-ChannelisationCode");
-   /* secondaryScramblingCode */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* hS-SCCHChannelisationCodeInfo */
+   stat = enc_HS_SCCH_Info_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo, cur);
+   RT_CHECK(ctx, stat, 0, "hS-SCCHChannelisationCodeInfo", -1, 0);
+   /* dl-ScramblingCode */
    if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->secondaryScramblingCode - 1) > 14u) {
+      if ((uint64_t)(pvalue->dl_ScramblingCode - 1) > 14u) {
          rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
-         rtxErrAddUIntParm(ctx, pvalue->secondaryScramblingCode);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "SecondaryScramblingCode", "secondaryScramblingCode", -1, "DL-ChannelisationCode");
+         rtxErrAddUIntParm(ctx, pvalue->dl_ScramblingCode);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
       }
-      stat = pe_ConsUInt64(ctx, pvalue->secondaryScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, "DL-ChannelisationCode");
-   }
-   /* sf-AndCodeNumber */
-   stat = asn1PE_UMTS_SF512_AndCodeNumber(ctx, &pvalue->sf_AndCodeNumber);
-   RT_CHECK(ctx, stat, 0, "sf-AndCodeNumber", -1, "DL-ChannelisationCode");
-   /* scramblingCodeChange */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->scramblingCodeChange > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->scramblingCodeChange);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "ScramblingCodeChange", "scramblingCodeChange", -1, "DL-ChannelisationCode");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->scramblingCodeChange, 0, 1);
-      RT_CHECK(ctx, stat, "ScramblingCodeChange", "scramblingCodeChange", -1, "DL-ChannelisationCode");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->dl_ScramblingCode, 1, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_DL_ChannelisationCodeList(rtxContext* RT_RESTRICT ctx, const DL_ChannelisationCodeList* RT_RESTRICT pvalue)
+int asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SICH_Power_Control_Info_TDD384(rtxContext* RT_RESTRICT ctx, const HS_SICH_Power_Control_Info_TDD384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-ChannelisationCodeList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-ChannelisationCodeList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-ChannelisationCode", (int32_t)i, "DL-ChannelisationCodeList");
-      stat = asn1PE_UMTS_DL_ChannelisationCode(ctx, (const DL_ChannelisationCode*)node->data);
-      RT_CHECK(ctx, stat, 0, "DL-ChannelisationCode", (int32_t)i, "DL-ChannelisationCodeList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HS-SICH-Power-Control-Info-TDD384");
+   /* ul-target-SIR */
+   if (pvalue->ul_target_SIR < -22 || pvalue->ul_target_SIR > 40) {
+      rtxErrAddStrParm(ctx, "ul-target-SIR");
+      rtxErrAddIntParm(ctx, pvalue->ul_target_SIR);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ul-target-SIR", -1, "HS-SICH-Power-Control-Info-TDD384");
    }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->ul_target_SIR, -22, 40);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ul-target-SIR", -1, "HS-SICH-Power-Control-Info-TDD384");
+   /* hs-sich-ConstantValue */
+   if (pvalue->hs_sich_ConstantValue < -35 || pvalue->hs_sich_ConstantValue > -10) {
+      rtxErrAddStrParm(ctx, "ConstantValue");
+      rtxErrAddIntParm(ctx, pvalue->hs_sich_ConstantValue);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ConstantValue", "hs-sich-ConstantValue", -1, "HS-SICH-Power-Control-Info-TDD384");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->hs_sich_ConstantValue, -35, -10);
+   RT_CHECK_PUT(ctx, cur, stat, "ConstantValue", "hs-sich-ConstantValue", -1, "HS-SICH-Power-Control-Info-TDD384");
    return 0;
 }
 
-int asn1PE_UMTS_DL_DPCH_InfoCommon_cfnHandling_initialise(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_cfnHandling_initialise* RT_RESTRICT pvalue)
+int asn1PE_UMTS_HS_SICH_Power_Control_Info_TDD384(rtxContext* RT_RESTRICT ctx, const HS_SICH_Power_Control_Info_TDD384* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SICH_Power_Control_Info_TDD384, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dummy */
-   if (pvalue->m & 0x1u) {
-      stat = pe_ConsUInt64(ctx, pvalue->dummy, 0, 255);
-      RT_CHECK(ctx, stat, "Cfntargetsfnframeoffset", "dummy", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleShift */
+   if ((uint64_t)pvalue->midambleShift > 15u) {
+      rtxErrAddStrParm(ctx, "MidambleShiftLong");
+      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
    }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleShift, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleShiftLong", "midambleShift", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_DL_DPCH_InfoCommon_cfnHandling(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_cfnHandling* RT_RESTRICT pvalue)
+int asn1PE_UMTS_HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_TDD384_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD384_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
          break;
       case 2:
-         if (pvalue->u.initialise == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "initialise", -1, 0);
-         stat = asn1PE_UMTS_DL_DPCH_InfoCommon_cfnHandling_initialise(ctx, pvalue->u.initialise);
-         RT_CHECK(ctx, stat, 0, "initialise", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DPC_Mode(rtxContext* RT_RESTRICT ctx, DPC_Mode value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "DPC-Mode");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DPC-Mode");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_DPCH_PowerControlInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_PowerControlInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* dpc-Mode */
-   if (pvalue->dpc_Mode > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->dpc_Mode);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "DPC-Mode", "dpc-Mode", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dpc_Mode, 0, 1);
-   RT_CHECK(ctx, stat, "DPC-Mode", "dpc-Mode", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_DPCH_PowerControlInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_PowerControlInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tpc-StepSizeTDD */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->tpc_StepSizeTDD - 1) > 2u) {
-         rtxErrAddStrParm(ctx, "TPC-StepSizeTDD");
-         rtxErrAddUIntParm(ctx, pvalue->tpc_StepSizeTDD);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TPC-StepSizeTDD", "tpc-StepSizeTDD", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tpc_StepSizeTDD, 1, 3);
-      RT_CHECK(ctx, stat, "TPC-StepSizeTDD", "tpc-StepSizeTDD", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_DPCH_PowerControlInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_DPCH_PowerControlInfo_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_DL_DPCH_PowerControlInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_DL_DPCH_PowerControlInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_DPCH_PowerControlInfo(rtxContext* RT_RESTRICT ctx, const DL_DPCH_PowerControlInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-DPCH-PowerControlInfo");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_DL_DPCH_PowerControlInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-DPCH-PowerControlInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_PowerOffsetPilot_pdpdch(rtxContext* RT_RESTRICT ctx, PowerOffsetPilot_pdpdch value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 24u) {
-      rtxErrAddStrParm(ctx, "PowerOffsetPilot-pdpdch");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PowerOffsetPilot-pdpdch");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 24);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PowerOffsetPilot-pdpdch");
-   return 0;
-}
-
-int asn1PE_UMTS_RestrictedTrCH(rtxContext* RT_RESTRICT ctx, const RestrictedTrCH* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RestrictedTrCH");
-   /* dl-restrictedTrCh-Type */
-   if (pvalue->dl_restrictedTrCh_Type > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->dl_restrictedTrCh_Type);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-TrCH-Type", "dl-restrictedTrCh-Type", -1, "RestrictedTrCH");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dl_restrictedTrCh_Type, 0, 1);
-   RT_CHECK(ctx, stat, "DL-TrCH-Type", "dl-restrictedTrCh-Type", -1, "RestrictedTrCH");
-   /* restrictedDL-TrCH-Identity */
-   if ((uint64_t)(pvalue->restrictedDL_TrCH_Identity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->restrictedDL_TrCH_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "restrictedDL-TrCH-Identity", -1, "RestrictedTrCH");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->restrictedDL_TrCH_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "restrictedDL-TrCH-Identity", -1, "RestrictedTrCH");
-   /* allowedTFIList */
-   stat = asn1PE_UMTS_AllowedTFI_List(ctx, &pvalue->allowedTFIList);
-   RT_CHECK(ctx, stat, 0, "allowedTFIList", -1, "RestrictedTrCH");
-   return 0;
-}
-
-int asn1PE_UMTS_RestrictedTrCH_InfoList(rtxContext* RT_RESTRICT ctx, const RestrictedTrCH_InfoList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RestrictedTrCH-InfoList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RestrictedTrCH-InfoList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RestrictedTrCH", (int32_t)i, "RestrictedTrCH-InfoList");
-      stat = asn1PE_UMTS_RestrictedTrCH(ctx, (const RestrictedTrCH*)node->data);
-      RT_CHECK(ctx, stat, 0, "RestrictedTrCH", (int32_t)i, "RestrictedTrCH-InfoList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Dl_rate_matching_restriction(rtxContext* RT_RESTRICT ctx, const Dl_rate_matching_restriction* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Dl-rate-matching-restriction");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Dl-rate-matching-restriction");
-   /* restrictedTrCH-InfoList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RestrictedTrCH_InfoList(ctx, &pvalue->restrictedTrCH_InfoList);
-      RT_CHECK(ctx, stat, 0, "restrictedTrCH-InfoList", -1, "Dl-rate-matching-restriction");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_DPCH_InfoCommon_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-DPCH-PowerControlInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo);
-      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, 0);
-   }
-   /* powerOffsetPilot-pdpdch */
-   if ((uint64_t)pvalue->powerOffsetPilot_pdpdch > 24u) {
-      rtxErrAddStrParm(ctx, "PowerOffsetPilot-pdpdch");
-      rtxErrAddUIntParm(ctx, pvalue->powerOffsetPilot_pdpdch);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PowerOffsetPilot-pdpdch", "powerOffsetPilot-pdpdch", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->powerOffsetPilot_pdpdch, 0, 24);
-   RT_CHECK(ctx, stat, "PowerOffsetPilot-pdpdch", "powerOffsetPilot-pdpdch", -1, 0);
-   /* dl-rate-matching-restriction */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_Dl_rate_matching_restriction(ctx, &pvalue->dl_rate_matching_restriction);
-      RT_CHECK(ctx, stat, 0, "dl-rate-matching-restriction", -1, 0);
-   }
-   /* spreadingFactorAndPilot */
-   stat = asn1PE_UMTS_SF512_AndPilot(ctx, &pvalue->spreadingFactorAndPilot);
-   RT_CHECK(ctx, stat, 0, "spreadingFactorAndPilot", -1, 0);
-   /* positionFixedOrFlexible */
-   if (pvalue->positionFixedOrFlexible > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->positionFixedOrFlexible);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->positionFixedOrFlexible, 0, 1);
-   RT_CHECK(ctx, stat, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
-   /* tfci-Existence */
-   stat = rtxEncBit(ctx, pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_DPCH_InfoCommon_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-DPCH-PowerControlInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo);
-      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_DPCH_InfoCommon_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_DL_DPCH_InfoCommon_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_DL_DPCH_InfoCommon_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_DPCH_InfoCommon(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-DPCH-InfoCommon");
-   /* cfnHandling */
-   stat = asn1PE_UMTS_DL_DPCH_InfoCommon_cfnHandling(ctx, &pvalue->cfnHandling);
-   RT_CHECK(ctx, stat, 0, "cfnHandling", -1, "DL-DPCH-InfoCommon");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_DL_DPCH_InfoCommon_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-DPCH-InfoCommon");
-   return 0;
-}
-
-int asn1PE_UMTS_TGCFN(rtxContext* RT_RESTRICT ctx, TGCFN value)
-{
-   int stat = 0;
-   stat = pe_ConsUInt64(ctx, value, 0, 255);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TGCFN");
-   return 0;
-}
-
-int asn1PE_UMTS_TGP_Sequence_tgps_Status_activate(rtxContext* RT_RESTRICT ctx, const TGP_Sequence_tgps_Status_activate* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* tgcfn */
-   stat = pe_ConsUInt64(ctx, pvalue->tgcfn, 0, 255);
-   RT_CHECK(ctx, stat, "TGCFN", "tgcfn", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_TGP_Sequence_tgps_Status(rtxContext* RT_RESTRICT ctx, const TGP_Sequence_tgps_Status* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.activate == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "activate", -1, 0);
-         stat = asn1PE_UMTS_TGP_Sequence_tgps_Status_activate(ctx, pvalue->u.activate);
-         RT_CHECK(ctx, stat, 0, "activate", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TGMP(rtxContext* RT_RESTRICT ctx, TGMP value)
-{
-   int stat = 0;
-   if (value > 5) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TGMP");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TGMP");
-   return 0;
-}
-
-int asn1PE_UMTS_TGPRC(rtxContext* RT_RESTRICT ctx, TGPRC value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 511u) {
-      rtxErrAddStrParm(ctx, "TGPRC");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TGPRC");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 511);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TGPRC");
-   return 0;
-}
-
-int asn1PE_UMTS_TGSN(rtxContext* RT_RESTRICT ctx, TGSN value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 14u) {
-      rtxErrAddStrParm(ctx, "TGSN");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TGSN");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 14);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TGSN");
-   return 0;
-}
-
-int asn1PE_UMTS_TGL(rtxContext* RT_RESTRICT ctx, TGL value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 13u) {
-      rtxErrAddStrParm(ctx, "TGL");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TGL");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 14);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TGL");
-   return 0;
-}
-
-int asn1PE_UMTS_TGD(rtxContext* RT_RESTRICT ctx, TGD value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 15) > 255u) {
-      rtxErrAddStrParm(ctx, "TGD");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TGD");
-   }
-   stat = pe_ConsUInt64(ctx, value, 15, 270);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TGD");
-   return 0;
-}
-
-int asn1PE_UMTS_TGPL(rtxContext* RT_RESTRICT ctx, TGPL value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 143u) {
-      rtxErrAddStrParm(ctx, "TGPL");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TGPL");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 144);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TGPL");
-   return 0;
-}
-
-int asn1PE_UMTS_RPP(rtxContext* RT_RESTRICT ctx, RPP value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "RPP");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RPP");
-   return 0;
-}
-
-int asn1PE_UMTS_ITP(rtxContext* RT_RESTRICT ctx, ITP value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ITP");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ITP");
-   return 0;
-}
-
-int asn1PE_UMTS_UL_CompressedModeMethod(rtxContext* RT_RESTRICT ctx, UL_CompressedModeMethod value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UL-CompressedModeMethod");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-CompressedModeMethod");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CompressedModeMethod(rtxContext* RT_RESTRICT ctx, DL_CompressedModeMethod value)
-{
-   int stat = 0;
-   if (value > 2) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "DL-CompressedModeMethod");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CompressedModeMethod");
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DL_Mode_ul_and_dl(rtxContext* RT_RESTRICT ctx, const UL_DL_Mode_ul_and_dl* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* ul */
-   if (pvalue->ul > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->ul);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UL-CompressedModeMethod", "ul", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ul, 0, 1);
-   RT_CHECK(ctx, stat, "UL-CompressedModeMethod", "ul", -1, 0);
-   /* dl */
-   if (pvalue->dl > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->dl);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-CompressedModeMethod", "dl", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dl, 0, 2);
-   RT_CHECK(ctx, stat, "DL-CompressedModeMethod", "dl", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DL_Mode(rtxContext* RT_RESTRICT ctx, const UL_DL_Mode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-DL-Mode");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UL-DL-Mode");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-DL-Mode");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.ul > 1) {
-            rtxErrAddUIntParm(ctx, pvalue->u.ul);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "UL-CompressedModeMethod", "ul", -1, "UL-DL-Mode");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.ul, 0, 1);
-         RT_CHECK(ctx, stat, "UL-CompressedModeMethod", "ul", -1, "UL-DL-Mode");
-         break;
-      case 2:
-         if (pvalue->u.dl > 2) {
-            rtxErrAddUIntParm(ctx, pvalue->u.dl);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "DL-CompressedModeMethod", "dl", -1, "UL-DL-Mode");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.dl, 0, 2);
-         RT_CHECK(ctx, stat, "DL-CompressedModeMethod", "dl", -1, "UL-DL-Mode");
          break;
       case 3:
-         if (pvalue->u.ul_and_dl == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ul-and-dl", -1, "UL-DL-Mode");
-         stat = asn1PE_UMTS_UL_DL_Mode_ul_and_dl(ctx, pvalue->u.ul_and_dl);
-         RT_CHECK(ctx, stat, 0, "ul-and-dl", -1, "UL-DL-Mode");
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
+         stat = enc_HS_SCCH_TDD384_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
          break;
       default:
          break;
@@ -7778,656 +1700,1669 @@ int asn1PE_UMTS_UL_DL_Mode(rtxContext* RT_RESTRICT ctx, const UL_DL_Mode* RT_RES
    return 0;
 }
 
-int asn1PE_UMTS_DL_FrameType(rtxContext* RT_RESTRICT ctx, DL_FrameType value)
+int asn1PE_UMTS_HS_SCCH_TDD384_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD384_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_TDD384_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "DL-FrameType");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleShift */
+   if ((uint64_t)pvalue->midambleShift > 15u) {
+      rtxErrAddStrParm(ctx, "MidambleShiftLong");
+      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-FrameType");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleShift, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleShiftLong", "midambleShift", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_NidentifyAbort(rtxContext* RT_RESTRICT ctx, NidentifyAbort value)
+int asn1PE_UMTS_HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SICH_Configuration_TDD384_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD384_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if ((uint64_t)(value - 1) > 127u) {
-      rtxErrAddStrParm(ctx, "NidentifyAbort");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "NidentifyAbort");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
+         stat = enc_HS_SICH_Configuration_TDD384_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
    }
-   stat = pe_ConsUInt64(ctx, value, 1, 128);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NidentifyAbort");
    return 0;
 }
 
-int asn1PE_UMTS_TreconfirmAbort(rtxContext* RT_RESTRICT ctx, TreconfirmAbort value)
+int asn1PE_UMTS_HS_SICH_Configuration_TDD384_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD384_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SICH_Configuration_TDD384_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SICH_Configuration_TDD384(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if ((uint64_t)(value - 1) > 19u) {
-      rtxErrAddStrParm(ctx, "TreconfirmAbort");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TreconfirmAbort");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HS-SICH-Configuration-TDD384");
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, "HS-SICH-Configuration-TDD384");
    }
-   stat = pe_ConsUInt64(ctx, value, 1, 20);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TreconfirmAbort");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslotNumber, 0, 14);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber", "timeslotNumber", -1, "HS-SICH-Configuration-TDD384");
+   /* channelisationCode */
+   if (pvalue->channelisationCode > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "DL-TS-ChannelisationCode", "channelisationCode", -1, "HS-SICH-Configuration-TDD384");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->channelisationCode, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "DL-TS-ChannelisationCode", "channelisationCode", -1, "HS-SICH-Configuration-TDD384");
+   /* midambleAllocationMode */
+   stat = enc_HS_SICH_Configuration_TDD384_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SICH-Configuration-TDD384");
+   /* midambleconfiguration */
+   if (pvalue->midambleconfiguration > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->midambleconfiguration);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SICH-Configuration-TDD384");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleconfiguration, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SICH-Configuration-TDD384");
    return 0;
 }
 
-int asn1PE_UMTS_TGPS_ConfigurationParams(rtxContext* RT_RESTRICT ctx, const TGPS_ConfigurationParams* RT_RESTRICT pvalue)
+int asn1PE_UMTS_HS_SICH_Configuration_TDD384(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD384* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SICH_Configuration_TDD384, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_TDD384(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TGPS-ConfigurationParams");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-TDD384");
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, "HS-SCCH-TDD384");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslotNumber, 0, 14);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber", "timeslotNumber", -1, "HS-SCCH-TDD384");
+   /* channelisationCode */
+   if (pvalue->channelisationCode > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "DL-TS-ChannelisationCode", "channelisationCode", -1, "HS-SCCH-TDD384");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->channelisationCode, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "DL-TS-ChannelisationCode", "channelisationCode", -1, "HS-SCCH-TDD384");
+   /* midambleAllocationMode */
+   stat = enc_HS_SCCH_TDD384_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SCCH-TDD384");
+   /* midambleconfiguration */
+   if (pvalue->midambleconfiguration > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->midambleconfiguration);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SCCH-TDD384");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleconfiguration, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SCCH-TDD384");
+   /* bler-target */
+   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
+      rtxErrAddStrParm(ctx, "Bler-Target");
+      rtxErrAddIntParm(ctx, pvalue->bler_target);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Bler-Target", "bler-target", -1, "HS-SCCH-TDD384");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->bler_target, -63, 0);
+   RT_CHECK_PUT(ctx, cur, stat, "Bler-Target", "bler-target", -1, "HS-SCCH-TDD384");
+   /* hs-sich-configuration */
+   stat = enc_HS_SICH_Configuration_TDD384(ctx, &pvalue->hs_sich_configuration, cur);
+   RT_CHECK(ctx, stat, 0, "hs-sich-configuration", -1, "HS-SCCH-TDD384");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_TDD384(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD384* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_TDD384, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "HS-SCCH-TDD384", (int32_t)i, 0);
+      stat = enc_HS_SCCH_TDD384(ctx, (const HS_SCCH_TDD384*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD384", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* nack-ack-power-offset */
+   if (pvalue->nack_ack_power_offset < -7 || pvalue->nack_ack_power_offset > 8) {
+      rtxErrAddStrParm(ctx, "nack-ack-power-offset");
+      rtxErrAddIntParm(ctx, pvalue->nack_ack_power_offset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "nack-ack-power-offset", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "nack-ack-power-offset", -1, 0);
+   /* hs-SICH-PowerControl-Info */
+   stat = enc_HS_SICH_Power_Control_Info_TDD384(ctx, &pvalue->hs_SICH_PowerControl_Info, cur);
+   RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl-Info", -1, 0);
+   /* hS-SCCH-SetConfiguration */
+   stat = enc_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_TDD128_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD128_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if ((uint64_t)pvalue->u.ueSpecificMidamble > 15u) {
+            rtxErrAddStrParm(ctx, "ueSpecificMidamble");
+            rtxErrAddUIntParm(ctx, pvalue->u.ueSpecificMidamble);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ueSpecificMidamble", -1, 0);
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.ueSpecificMidamble, 0, 15);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_TDD128_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD128_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_TDD128_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleShift */
+   if ((uint64_t)pvalue->midambleShift > 15u) {
+      rtxErrAddStrParm(ctx, "MidambleShiftLong");
+      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleShift, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SICH_Configuration_TDD128_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD128_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
+         stat = enc_HS_SICH_Configuration_TDD128_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SICH_Configuration_TDD128_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD128_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SICH_Configuration_TDD128_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SICH_Configuration_TDD128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD128_tpc_step_size value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SICH_Configuration_TDD128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SICH_Configuration_TDD128_tpc_step_size value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SICH_Configuration_TDD128_tpc_step_size, value);
+}
+
+RT_MERGED_BODY int enc_HS_SICH_Configuration_TDD128(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HS-SICH-Configuration-TDD128");
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 6u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SICH-Configuration-TDD128");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslotNumber, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SICH-Configuration-TDD128");
+   /* channelisationCode */
+   if (pvalue->channelisationCode > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "channelisationCode", -1, "HS-SICH-Configuration-TDD128");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->channelisationCode, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "HS-ChannelisationCode-LCR", "channelisationCode", -1, "HS-SICH-Configuration-TDD128");
+   /* midambleAllocationMode */
+   stat = enc_HS_SICH_Configuration_TDD128_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SICH-Configuration-TDD128");
+   /* midambleConfiguration */
+   if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "midambleConfiguration");
+      rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "midambleConfiguration", -1, "HS-SICH-Configuration-TDD128");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "midambleConfiguration", -1, "HS-SICH-Configuration-TDD128");
+   /* nack-ack-power-offset */
+   if (pvalue->nack_ack_power_offset < -7 || pvalue->nack_ack_power_offset > 8) {
+      rtxErrAddStrParm(ctx, "nack-ack-power-offset");
+      rtxErrAddIntParm(ctx, pvalue->nack_ack_power_offset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "nack-ack-power-offset", -1, "HS-SICH-Configuration-TDD128");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "nack-ack-power-offset", -1, "HS-SICH-Configuration-TDD128");
+   /* power-level-HSSICH */
+   if (pvalue->power_level_HSSICH < -120 || pvalue->power_level_HSSICH > -58) {
+      rtxErrAddStrParm(ctx, "power-level-HSSICH");
+      rtxErrAddIntParm(ctx, pvalue->power_level_HSSICH);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "power-level-HSSICH", -1, "HS-SICH-Configuration-TDD128");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->power_level_HSSICH, -120, -58);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "power-level-HSSICH", -1, "HS-SICH-Configuration-TDD128");
+   /* tpc-step-size */
+   if (pvalue->tpc_step_size > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->tpc_step_size);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "tpc-step-size", -1, "HS-SICH-Configuration-TDD128");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tpc_step_size, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tpc-step-size", -1, "HS-SICH-Configuration-TDD128");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SICH_Configuration_TDD128(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SICH_Configuration_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_TDD128(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-TDD128");
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 6u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SCCH-TDD128");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslotNumber, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SCCH-TDD128");
+   /* firstChannelisationCode */
+   if (pvalue->firstChannelisationCode > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->firstChannelisationCode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "firstChannelisationCode", -1, "HS-SCCH-TDD128");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->firstChannelisationCode, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "HS-ChannelisationCode-LCR", "firstChannelisationCode", -1, "HS-SCCH-TDD128");
+   /* secondChannelisationCode */
+   if (pvalue->secondChannelisationCode > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->secondChannelisationCode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "secondChannelisationCode", -1, "HS-SCCH-TDD128");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->secondChannelisationCode, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "HS-ChannelisationCode-LCR", "secondChannelisationCode", -1, "HS-SCCH-TDD128");
+   /* midambleAllocationMode */
+   stat = enc_HS_SCCH_TDD128_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SCCH-TDD128");
+   /* midambleConfiguration */
+   if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "midambleConfiguration");
+      rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "midambleConfiguration", -1, "HS-SCCH-TDD128");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "midambleConfiguration", -1, "HS-SCCH-TDD128");
+   /* bler-target */
+   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
+      rtxErrAddStrParm(ctx, "Bler-Target");
+      rtxErrAddIntParm(ctx, pvalue->bler_target);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Bler-Target", "bler-target", -1, "HS-SCCH-TDD128");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->bler_target, -63, 0);
+   RT_CHECK_PUT(ctx, cur, stat, "Bler-Target", "bler-target", -1, "HS-SCCH-TDD128");
+   /* hs-sich-configuration */
+   stat = enc_HS_SICH_Configuration_TDD128(ctx, &pvalue->hs_sich_configuration, cur);
+   RT_CHECK(ctx, stat, 0, "hs-sich-configuration", -1, "HS-SCCH-TDD128");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_TDD128(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "HS-SCCH-TDD128", (int32_t)i, 0);
+      stat = enc_HS_SCCH_TDD128(ctx, (const HS_SCCH_TDD128*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD128", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_modeSpecificInfo_tdd_tdd128, pvalue);
+}
+
+static int enc_HS_SCCH_Info_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = enc_HS_SCCH_Info_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_HS_SCCH_Info_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_HS_SCCH_Info_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_HS_SCCH_Info_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-Info");
+   /* modeSpecificInfo */
+   stat = enc_HS_SCCH_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "HS-SCCH-Info");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_Feedback_cycle(rtxContext* RT_RESTRICT ctx, Feedback_cycle value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 8) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "Feedback-cycle");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Feedback-cycle");
+   return 0;
+}
+
+int asn1PE_UMTS_Feedback_cycle(rtxContext* RT_RESTRICT ctx, Feedback_cycle value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Feedback_cycle, value);
+}
+
+RT_MERGED_BODY int enc_Measurement_Feedback_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const Measurement_Feedback_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* measurementPowerOffset */
+   if (pvalue->measurementPowerOffset < -12 || pvalue->measurementPowerOffset > 26) {
+      rtxErrAddStrParm(ctx, "MeasurementPowerOffset");
+      rtxErrAddIntParm(ctx, pvalue->measurementPowerOffset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MeasurementPowerOffset", "measurementPowerOffset", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->measurementPowerOffset, -12, 26);
+   RT_CHECK_PUT(ctx, cur, stat, "MeasurementPowerOffset", "measurementPowerOffset", -1, 0);
+   /* feedback-cycle */
+   if (pvalue->feedback_cycle > 8) {
+      rtxErrAddUIntParm(ctx, pvalue->feedback_cycle);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "Feedback-cycle", "feedback-cycle", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->feedback_cycle, 0, 8);
+   RT_CHECK_PUT(ctx, cur, stat, "Feedback-cycle", "feedback-cycle", -1, 0);
+   /* cqi-RepetitionFactor */
+   if ((uint64_t)(pvalue->cqi_RepetitionFactor - 1) > 3u) {
+      rtxErrAddStrParm(ctx, "CQI-RepetitionFactor");
+      rtxErrAddUIntParm(ctx, pvalue->cqi_RepetitionFactor);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CQI-RepetitionFactor", "cqi-RepetitionFactor", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->cqi_RepetitionFactor, 1, 4);
+   RT_CHECK_PUT(ctx, cur, stat, "CQI-RepetitionFactor", "cqi-RepetitionFactor", -1, 0);
+   /* deltaCQI */
+   if ((uint64_t)pvalue->deltaCQI > 8u) {
+      rtxErrAddStrParm(ctx, "DeltaCQI");
+      rtxErrAddUIntParm(ctx, pvalue->deltaCQI);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DeltaCQI", "deltaCQI", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->deltaCQI, 0, 8);
+   RT_CHECK_PUT(ctx, cur, stat, "DeltaCQI", "deltaCQI", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_Measurement_Feedback_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const Measurement_Feedback_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Measurement_Feedback_Info_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_Measurement_Feedback_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const Measurement_Feedback_Info_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_Measurement_Feedback_Info_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Measurement_Feedback_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const Measurement_Feedback_Info_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Measurement_Feedback_Info_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_Measurement_Feedback_Info(rtxContext* RT_RESTRICT ctx, const Measurement_Feedback_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Measurement-Feedback-Info");
+   /* modeSpecificInfo */
+   stat = enc_Measurement_Feedback_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "Measurement-Feedback-Info");
+   return 0;
+}
+
+int asn1PE_UMTS_Measurement_Feedback_Info(rtxContext* RT_RESTRICT ctx, const Measurement_Feedback_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Measurement_Feedback_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleShift */
+   if ((uint64_t)pvalue->midambleShift > 15u) {
+      rtxErrAddStrParm(ctx, "MidambleShiftLong");
+      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleShift, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
+         stat = enc_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_DL_burstType_type1(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_burstType_type1* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleConfigurationBurstType1and3 */
+   if (pvalue->midambleConfigurationBurstType1and3 > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType1and3);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleConfigurationBurstType1and3, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
+   /* midambleAllocationMode */
+   stat = enc_MidambleShiftAndBurstType_DL_burstType_type1_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type1(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_burstType_type1* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_DL_burstType_type1, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleShift */
+   if ((uint64_t)pvalue->midambleShift > 5u) {
+      rtxErrAddStrParm(ctx, "MidambleShiftShort");
+      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MidambleShiftShort", "midambleShift", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleShift, 0, 5);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleShiftShort", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
+         stat = enc_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_DL_burstType_type2(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_burstType_type2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleConfigurationBurstType2 */
+   if (pvalue->midambleConfigurationBurstType2 > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType2);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MidambleConfigurationBurstType2", "midambleConfigurationBurstType2", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleConfigurationBurstType2, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleConfigurationBurstType2", "midambleConfigurationBurstType2", -1, 0);
+   /* midambleAllocationMode */
+   stat = enc_MidambleShiftAndBurstType_DL_burstType_type2_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType_type2(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_burstType_type2* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_DL_burstType_type2, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_DL_burstType(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_burstType* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.type1 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "type1", -1, 0);
+         stat = enc_MidambleShiftAndBurstType_DL_burstType_type1(ctx, pvalue->u.type1, cur);
+         RT_CHECK(ctx, stat, 0, "type1", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.type2 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "type2", -1, 0);
+         stat = enc_MidambleShiftAndBurstType_DL_burstType_type2(ctx, pvalue->u.type2, cur);
+         RT_CHECK(ctx, stat, 0, "type2", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_DL_burstType(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_burstType* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_DL_burstType, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_DL(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MidambleShiftAndBurstType-DL");
+   /* burstType */
+   stat = enc_MidambleShiftAndBurstType_DL_burstType(ctx, &pvalue->burstType, cur);
+   RT_CHECK(ctx, stat, 0, "burstType", -1, "MidambleShiftAndBurstType-DL");
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_DL(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_DL, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_HSPDSCH_TS_Configuration_element(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_TS_Configuration_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* timeslot */
+   if ((uint64_t)pvalue->timeslot > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeslot);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber", "timeslot", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslot, 0, 14);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber", "timeslot", -1, 0);
+   /* midambleShiftAndBurstType */
+   stat = enc_MidambleShiftAndBurstType_DL(ctx, &pvalue->midambleShiftAndBurstType, cur);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_TS_Configuration_element(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_TS_Configuration_element* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_TS_Configuration_element, pvalue);
+}
+
+static int enc_DL_HSPDSCH_TS_Configuration(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_TS_Configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-HSPDSCH-TS-Configuration");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 13);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DL-HSPDSCH-TS-Configuration");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "DL-HSPDSCH-TS-Configuration");
+      stat = enc_DL_HSPDSCH_TS_Configuration_element(ctx, (const DL_HSPDSCH_TS_Configuration_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "DL-HSPDSCH-TS-Configuration");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_TS_Configuration(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_TS_Configuration* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_TS_Configuration, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-HSPDSCH-TS-Configuration */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DL_HSPDSCH_TS_Configuration(ctx, &pvalue->dl_HSPDSCH_TS_Configuration, cur);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* hs-PDSCH-Midamble-Configuration-tdd128 */
+   if (pvalue->m & 0x1u) {
+      stat = enc_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration_tdd128, cur);
+      RT_CHECK(ctx, stat, 0, "hs-PDSCH-Midamble-Configuration-tdd128", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = enc_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_DL_HSPDSCH_Information_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_Information_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_DL_HSPDSCH_Information_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_Information_modeSpecificInfo, pvalue);
+}
+
+static int enc_DL_HSPDSCH_Information(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-HSPDSCH-Information");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-HSPDSCH-Information");
+   /* hs-scch-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_HS_SCCH_Info(ctx, &pvalue->hs_scch_Info, cur);
+      RT_CHECK(ctx, stat, 0, "hs-scch-Info", -1, "DL-HSPDSCH-Information");
+   }
+   /* measurement-feedback-Info */
+   if (pvalue->m & 0x2u) {
+      stat = enc_Measurement_Feedback_Info(ctx, &pvalue->measurement_feedback_Info, cur);
+      RT_CHECK(ctx, stat, 0, "measurement-feedback-Info", -1, "DL-HSPDSCH-Information");
+   }
+   /* modeSpecificInfo */
+   stat = enc_DL_HSPDSCH_Information_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-HSPDSCH-Information");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_Information, pvalue);
+}
+
+RT_MERGED_BODY int enc_Serving_HSDSCH_CellInformation_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_mac_hsResetIndicator value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_Serving_HSDSCH_CellInformation_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_mac_hsResetIndicator value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Serving_HSDSCH_CellInformation_mac_hsResetIndicator, value);
+}
+
+RT_MERGED_BODY int enc_Serving_HSDSCH_CellInformation(rtxContext* RT_RESTRICT ctx, const Serving_HSDSCH_CellInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Serving-HSDSCH-CellInformation");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TGPS-ConfigurationParams");
-   /* tgmp */
-   if (pvalue->tgmp > 5) {
-      rtxErrAddUIntParm(ctx, pvalue->tgmp);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TGMP", "tgmp", -1, "TGPS-ConfigurationParams");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tgmp, 0, 5);
-   RT_CHECK(ctx, stat, "TGMP", "tgmp", -1, "TGPS-ConfigurationParams");
-   /* tgprc */
-   if ((uint64_t)pvalue->tgprc > 511u) {
-      rtxErrAddStrParm(ctx, "TGPRC");
-      rtxErrAddUIntParm(ctx, pvalue->tgprc);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TGPRC", "tgprc", -1, "TGPS-ConfigurationParams");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tgprc, 0, 511);
-   RT_CHECK(ctx, stat, "TGPRC", "tgprc", -1, "TGPS-ConfigurationParams");
-   /* tgsn */
-   if ((uint64_t)pvalue->tgsn > 14u) {
-      rtxErrAddStrParm(ctx, "TGSN");
-      rtxErrAddUIntParm(ctx, pvalue->tgsn);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TGSN", "tgsn", -1, "TGPS-ConfigurationParams");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tgsn, 0, 14);
-   RT_CHECK(ctx, stat, "TGSN", "tgsn", -1, "TGPS-ConfigurationParams");
-   /* tgl1 */
-   if ((uint64_t)(pvalue->tgl1 - 1) > 13u) {
-      rtxErrAddStrParm(ctx, "TGL");
-      rtxErrAddUIntParm(ctx, pvalue->tgl1);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TGL", "tgl1", -1, "TGPS-ConfigurationParams");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tgl1, 1, 14);
-   RT_CHECK(ctx, stat, "TGL", "tgl1", -1, "TGPS-ConfigurationParams");
-   /* tgl2 */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Serving-HSDSCH-CellInformation");
+   /* deltaACK */
    if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->tgl2 - 1) > 13u) {
-         rtxErrAddStrParm(ctx, "TGL");
-         rtxErrAddUIntParm(ctx, pvalue->tgl2);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TGL", "tgl2", -1, "TGPS-ConfigurationParams");
+      if ((uint64_t)pvalue->deltaACK > 8u) {
+         rtxErrAddStrParm(ctx, "DeltaACK");
+         rtxErrAddUIntParm(ctx, pvalue->deltaACK);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DeltaACK", "deltaACK", -1, "Serving-HSDSCH-CellInformation");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->tgl2, 1, 14);
-      RT_CHECK(ctx, stat, "TGL", "tgl2", -1, "TGPS-ConfigurationParams");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->deltaACK, 0, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "DeltaACK", "deltaACK", -1, "Serving-HSDSCH-CellInformation");
    }
-   /* tgd */
-   if ((uint64_t)(pvalue->tgd - 15) > 255u) {
-      rtxErrAddStrParm(ctx, "TGD");
-      rtxErrAddUIntParm(ctx, pvalue->tgd);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TGD", "tgd", -1, "TGPS-ConfigurationParams");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tgd, 15, 270);
-   RT_CHECK(ctx, stat, "TGD", "tgd", -1, "TGPS-ConfigurationParams");
-   /* tgpl1 */
-   if ((uint64_t)(pvalue->tgpl1 - 1) > 143u) {
-      rtxErrAddStrParm(ctx, "TGPL");
-      rtxErrAddUIntParm(ctx, pvalue->tgpl1);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TGPL", "tgpl1", -1, "TGPS-ConfigurationParams");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tgpl1, 1, 144);
-   RT_CHECK(ctx, stat, "TGPL", "tgpl1", -1, "TGPS-ConfigurationParams");
-   /* dummy */
+   /* deltaNACK */
    if (pvalue->m & 0x2u) {
-      if ((uint64_t)(pvalue->dummy - 1) > 143u) {
-         rtxErrAddStrParm(ctx, "TGPL");
-         rtxErrAddUIntParm(ctx, pvalue->dummy);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TGPL", "dummy", -1, "TGPS-ConfigurationParams");
+      if ((uint64_t)pvalue->deltaNACK > 8u) {
+         rtxErrAddStrParm(ctx, "DeltaNACK");
+         rtxErrAddUIntParm(ctx, pvalue->deltaNACK);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DeltaNACK", "deltaNACK", -1, "Serving-HSDSCH-CellInformation");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->dummy, 1, 144);
-      RT_CHECK(ctx, stat, "TGPL", "dummy", -1, "TGPS-ConfigurationParams");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->deltaNACK, 0, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "DeltaNACK", "deltaNACK", -1, "Serving-HSDSCH-CellInformation");
    }
-   /* rpp */
-   if (pvalue->rpp > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->rpp);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "RPP", "rpp", -1, "TGPS-ConfigurationParams");
+   /* harq-Preamble-Mode */
+   if ((uint64_t)pvalue->harq_Preamble_Mode > 1u) {
+      rtxErrAddStrParm(ctx, "HARQ-Preamble-Mode");
+      rtxErrAddUIntParm(ctx, pvalue->harq_Preamble_Mode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "Serving-HSDSCH-CellInformation");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->rpp, 0, 1);
-   RT_CHECK(ctx, stat, "RPP", "rpp", -1, "TGPS-ConfigurationParams");
-   /* itp */
-   if (pvalue->itp > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->itp);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ITP", "itp", -1, "TGPS-ConfigurationParams");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->itp, 0, 1);
-   RT_CHECK(ctx, stat, "ITP", "itp", -1, "TGPS-ConfigurationParams");
-   /* ul-DL-Mode */
-   stat = asn1PE_UMTS_UL_DL_Mode(ctx, &pvalue->ul_DL_Mode);
-   RT_CHECK(ctx, stat, 0, "ul-DL-Mode", -1, "TGPS-ConfigurationParams");
-   /* dl-FrameType */
-   if (pvalue->dl_FrameType > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->dl_FrameType);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-FrameType", "dl-FrameType", -1, "TGPS-ConfigurationParams");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dl_FrameType, 0, 1);
-   RT_CHECK(ctx, stat, "DL-FrameType", "dl-FrameType", -1, "TGPS-ConfigurationParams");
-   /* deltaSIR1 */
-   if ((uint64_t)pvalue->deltaSIR1 > 30u) {
-      rtxErrAddStrParm(ctx, "DeltaSIR");
-      rtxErrAddUIntParm(ctx, pvalue->deltaSIR1);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaSIR", "deltaSIR1", -1, "TGPS-ConfigurationParams");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->deltaSIR1, 0, 30);
-   RT_CHECK(ctx, stat, "DeltaSIR", "deltaSIR1", -1, "TGPS-ConfigurationParams");
-   /* deltaSIRAfter1 */
-   if ((uint64_t)pvalue->deltaSIRAfter1 > 30u) {
-      rtxErrAddStrParm(ctx, "DeltaSIR");
-      rtxErrAddUIntParm(ctx, pvalue->deltaSIRAfter1);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaSIR", "deltaSIRAfter1", -1, "TGPS-ConfigurationParams");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->deltaSIRAfter1, 0, 30);
-   RT_CHECK(ctx, stat, "DeltaSIR", "deltaSIRAfter1", -1, "TGPS-ConfigurationParams");
-   /* deltaSIR2 */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->harq_Preamble_Mode, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "Serving-HSDSCH-CellInformation");
+   /* primaryCPICH-Info */
    if (pvalue->m & 0x4u) {
-      if ((uint64_t)pvalue->deltaSIR2 > 30u) {
-         rtxErrAddStrParm(ctx, "DeltaSIR");
-         rtxErrAddUIntParm(ctx, pvalue->deltaSIR2);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaSIR", "deltaSIR2", -1, "TGPS-ConfigurationParams");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->deltaSIR2, 0, 30);
-      RT_CHECK(ctx, stat, "DeltaSIR", "deltaSIR2", -1, "TGPS-ConfigurationParams");
+      stat = enc_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "Serving-HSDSCH-CellInformation");
    }
-   /* deltaSIRAfter2 */
+   /* dl-hspdsch-Information */
    if (pvalue->m & 0x8u) {
-      if ((uint64_t)pvalue->deltaSIRAfter2 > 30u) {
-         rtxErrAddStrParm(ctx, "DeltaSIR");
-         rtxErrAddUIntParm(ctx, pvalue->deltaSIRAfter2);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaSIR", "deltaSIRAfter2", -1, "TGPS-ConfigurationParams");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->deltaSIRAfter2, 0, 30);
-      RT_CHECK(ctx, stat, "DeltaSIR", "deltaSIRAfter2", -1, "TGPS-ConfigurationParams");
+      stat = enc_DL_HSPDSCH_Information(ctx, &pvalue->dl_hspdsch_Information, cur);
+      RT_CHECK(ctx, stat, 0, "dl-hspdsch-Information", -1, "Serving-HSDSCH-CellInformation");
    }
-   /* nidentifyAbort */
+   /* harqInfo */
    if (pvalue->m & 0x10u) {
-      if ((uint64_t)(pvalue->nidentifyAbort - 1) > 127u) {
-         rtxErrAddStrParm(ctx, "NidentifyAbort");
-         rtxErrAddUIntParm(ctx, pvalue->nidentifyAbort);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "NidentifyAbort", "nidentifyAbort", -1, "TGPS-ConfigurationParams");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->nidentifyAbort, 1, 128);
-      RT_CHECK(ctx, stat, "NidentifyAbort", "nidentifyAbort", -1, "TGPS-ConfigurationParams");
+      stat = enc_HARQ_Info(ctx, &pvalue->harqInfo, cur);
+      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "Serving-HSDSCH-CellInformation");
    }
-   /* treconfirmAbort */
+   /* mac-hsResetIndicator */
    if (pvalue->m & 0x20u) {
-      if ((uint64_t)(pvalue->treconfirmAbort - 1) > 19u) {
-         rtxErrAddStrParm(ctx, "TreconfirmAbort");
-         rtxErrAddUIntParm(ctx, pvalue->treconfirmAbort);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TreconfirmAbort", "treconfirmAbort", -1, "TGPS-ConfigurationParams");
+      if (pvalue->mac_hsResetIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mac_hsResetIndicator);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->treconfirmAbort, 1, 20);
-      RT_CHECK(ctx, stat, "TreconfirmAbort", "treconfirmAbort", -1, "TGPS-ConfigurationParams");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_hsResetIndicator, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation");
    }
    return 0;
 }
 
-int asn1PE_UMTS_TGP_Sequence(rtxContext* RT_RESTRICT ctx, const TGP_Sequence* RT_RESTRICT pvalue)
+int asn1PE_UMTS_Serving_HSDSCH_CellInformation(rtxContext* RT_RESTRICT ctx, const Serving_HSDSCH_CellInformation* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Serving_HSDSCH_CellInformation, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info_r7_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TGP-Sequence");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 127u) {
+         rtxErrAddStrParm(ctx, "HS-SCCH-Codes");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 127);
+      RT_CHECK_PUT(ctx, cur, stat, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_r7_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TGP-Sequence");
-   /* tgpsi */
-   if ((uint64_t)(pvalue->tgpsi - 1) > 5u) {
-      rtxErrAddStrParm(ctx, "TGPSI");
-      rtxErrAddUIntParm(ctx, pvalue->tgpsi);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TGPSI", "tgpsi", -1, "TGP-Sequence");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tgpsi, 1, 6);
-   RT_CHECK(ctx, stat, "TGPSI", "tgpsi", -1, "TGP-Sequence");
-   /* tgps-Status */
-   stat = asn1PE_UMTS_TGP_Sequence_tgps_Status(ctx, &pvalue->tgps_Status);
-   RT_CHECK(ctx, stat, 0, "tgps-Status", -1, "TGP-Sequence");
-   /* tgps-ConfigurationParams */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* hS-SCCHChannelisationCodeInfo */
+   stat = enc_HS_SCCH_Info_r7_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo, cur);
+   RT_CHECK(ctx, stat, 0, "hS-SCCHChannelisationCodeInfo", -1, 0);
+   /* dl-ScramblingCode */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_TGPS_ConfigurationParams(ctx, &pvalue->tgps_ConfigurationParams);
-      RT_CHECK(ctx, stat, 0, "tgps-ConfigurationParams", -1, "TGP-Sequence");
+      if ((uint64_t)(pvalue->dl_ScramblingCode - 1) > 14u) {
+         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
+         rtxErrAddUIntParm(ctx, pvalue->dl_ScramblingCode);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->dl_ScramblingCode, 1, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_TGP_SequenceList(rtxContext* RT_RESTRICT ctx, const TGP_SequenceList* RT_RESTRICT pvalue)
+int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_r7_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DHS_Sync(rtxContext* RT_RESTRICT ctx, DHS_Sync value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TGP-SequenceList");
+   if (value < -20 || value > 10) {
+      rtxErrAddStrParm(ctx, "DHS-Sync");
+      rtxErrAddIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "DHS-Sync");
+   }
+   stat = pe_ConsInt64At(ctx, cur, value, -20, 10);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DHS-Sync");
+   return 0;
+}
+
+int asn1PE_UMTS_DHS_Sync(rtxContext* RT_RESTRICT ctx, DHS_Sync value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DHS_Sync, value);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleShift */
+   if ((uint64_t)pvalue->midambleShift > 15u) {
+      rtxErrAddStrParm(ctx, "MidambleShiftLong");
+      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleShift, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_TDD384_r6_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD384_r6_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
+         stat = enc_HS_SCCH_TDD384_r6_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_TDD384_r6_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD384_r6_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_TDD384_r6_midambleAllocationMode, pvalue);
+}
+
+static int enc_HS_SCCH_TDD384_r6(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD384_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-TDD384-r6");
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, "HS-SCCH-TDD384-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslotNumber, 0, 14);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber", "timeslotNumber", -1, "HS-SCCH-TDD384-r6");
+   /* channelisationCode */
+   if (pvalue->channelisationCode > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "DL-TS-ChannelisationCode", "channelisationCode", -1, "HS-SCCH-TDD384-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->channelisationCode, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "DL-TS-ChannelisationCode", "channelisationCode", -1, "HS-SCCH-TDD384-r6");
+   /* midambleAllocationMode */
+   stat = enc_HS_SCCH_TDD384_r6_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SCCH-TDD384-r6");
+   /* midambleconfiguration */
+   if (pvalue->midambleconfiguration > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->midambleconfiguration);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SCCH-TDD384-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleconfiguration, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SCCH-TDD384-r6");
+   /* hs-sich-configuration */
+   stat = enc_HS_SICH_Configuration_TDD384(ctx, &pvalue->hs_sich_configuration, cur);
+   RT_CHECK(ctx, stat, 0, "hs-sich-configuration", -1, "HS-SCCH-TDD384-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_TDD384_r6(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD384_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_TDD384_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    const rtxDListNode* node;
    uint32_t i;
-   RT_SET_SIZE(ctx, 1, 6);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "TGP-SequenceList");
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "TGP-Sequence", (int32_t)i, "TGP-SequenceList");
-      stat = asn1PE_UMTS_TGP_Sequence(ctx, (const TGP_Sequence*)node->data);
-      RT_CHECK(ctx, stat, 0, "TGP-Sequence", (int32_t)i, "TGP-SequenceList");
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "HS-SCCH-TDD384-r6", (int32_t)i, 0);
+      stat = enc_HS_SCCH_TDD384_r6(ctx, (const HS_SCCH_TDD384_r6*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD384-r6", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_DPCH_CompressedModeInfo(rtxContext* RT_RESTRICT ctx, const DPCH_CompressedModeInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DPCH-CompressedModeInfo");
-   /* tgp-SequenceList */
-   stat = asn1PE_UMTS_TGP_SequenceList(ctx, &pvalue->tgp_SequenceList);
-   RT_CHECK(ctx, stat, 0, "tgp-SequenceList", -1, "DPCH-CompressedModeInfo");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* nack-ack-power-offset */
+   if (pvalue->nack_ack_power_offset < -7 || pvalue->nack_ack_power_offset > 8) {
+      rtxErrAddStrParm(ctx, "nack-ack-power-offset");
+      rtxErrAddIntParm(ctx, pvalue->nack_ack_power_offset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "nack-ack-power-offset", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "nack-ack-power-offset", -1, 0);
+   /* hs-SICH-PowerControl-Info */
+   stat = enc_HS_SICH_Power_Control_Info_TDD384(ctx, &pvalue->hs_SICH_PowerControl_Info, cur);
+   RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl-Info", -1, 0);
+   /* dhs-sync */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->dhs_sync < -20 || pvalue->dhs_sync > 10) {
+         rtxErrAddStrParm(ctx, "DHS-Sync");
+         rtxErrAddIntParm(ctx, pvalue->dhs_sync);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DHS-Sync", "dhs-sync", -1, 0);
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->dhs_sync, -20, 10);
+      RT_CHECK_PUT(ctx, cur, stat, "DHS-Sync", "dhs-sync", -1, 0);
+   }
+   /* bler-target */
+   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
+      rtxErrAddStrParm(ctx, "Bler-Target");
+      rtxErrAddIntParm(ctx, pvalue->bler_target);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Bler-Target", "bler-target", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->bler_target, -63, 0);
+   RT_CHECK_PUT(ctx, cur, stat, "Bler-Target", "bler-target", -1, 0);
+   /* hS-SCCH-SetConfiguration */
+   stat = enc_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_TX_DiversityMode(rtxContext* RT_RESTRICT ctx, TX_DiversityMode value)
+int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SICH_Power_Control_Info_TDD768(rtxContext* RT_RESTRICT ctx, const HS_SICH_Power_Control_Info_TDD768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HS-SICH-Power-Control-Info-TDD768");
+   /* ul-target-SIR */
+   if (pvalue->ul_target_SIR < -22 || pvalue->ul_target_SIR > 40) {
+      rtxErrAddStrParm(ctx, "ul-target-SIR");
+      rtxErrAddIntParm(ctx, pvalue->ul_target_SIR);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ul-target-SIR", -1, "HS-SICH-Power-Control-Info-TDD768");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->ul_target_SIR, -22, 40);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ul-target-SIR", -1, "HS-SICH-Power-Control-Info-TDD768");
+   /* hs-sich-ConstantValue */
+   if (pvalue->hs_sich_ConstantValue < -35 || pvalue->hs_sich_ConstantValue > -10) {
+      rtxErrAddStrParm(ctx, "ConstantValue");
+      rtxErrAddIntParm(ctx, pvalue->hs_sich_ConstantValue);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ConstantValue", "hs-sich-ConstantValue", -1, "HS-SICH-Power-Control-Info-TDD768");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->hs_sich_ConstantValue, -35, -10);
+   RT_CHECK_PUT(ctx, cur, stat, "ConstantValue", "hs-sich-ConstantValue", -1, "HS-SICH-Power-Control-Info-TDD768");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SICH_Power_Control_Info_TDD768(rtxContext* RT_RESTRICT ctx, const HS_SICH_Power_Control_Info_TDD768* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SICH_Power_Control_Info_TDD768, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleShift */
+   if ((uint64_t)pvalue->midambleShift > 15u) {
+      rtxErrAddStrParm(ctx, "MidambleShiftLong");
+      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleShift, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_TDD768_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD768_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
+         stat = enc_HS_SCCH_TDD768_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_TDD768_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD768_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_TDD768_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleShift */
+   if ((uint64_t)pvalue->midambleShift > 15u) {
+      rtxErrAddStrParm(ctx, "MidambleShiftLong");
+      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleShift, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SICH_Configuration_TDD768_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD768_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
+         stat = enc_HS_SICH_Configuration_TDD768_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SICH_Configuration_TDD768_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD768_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SICH_Configuration_TDD768_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SICH_Configuration_TDD768(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HS-SICH-Configuration-TDD768");
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, "HS-SICH-Configuration-TDD768");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslotNumber, 0, 14);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber", "timeslotNumber", -1, "HS-SICH-Configuration-TDD768");
+   /* channelisationCode */
+   if (pvalue->channelisationCode > 31) {
+      rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "DL-TS-ChannelisationCode-VHCR", "channelisationCode", -1, "HS-SICH-Configuration-TDD768");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->channelisationCode, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, "DL-TS-ChannelisationCode-VHCR", "channelisationCode", -1, "HS-SICH-Configuration-TDD768");
+   /* midambleAllocationMode */
+   stat = enc_HS_SICH_Configuration_TDD768_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SICH-Configuration-TDD768");
+   /* midambleconfiguration */
+   if (pvalue->midambleconfiguration > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->midambleconfiguration);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SICH-Configuration-TDD768");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleconfiguration, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SICH-Configuration-TDD768");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SICH_Configuration_TDD768(rtxContext* RT_RESTRICT ctx, const HS_SICH_Configuration_TDD768* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SICH_Configuration_TDD768, pvalue);
+}
+
+static int enc_HS_SCCH_TDD768(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-TDD768");
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, "HS-SCCH-TDD768");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslotNumber, 0, 14);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber", "timeslotNumber", -1, "HS-SCCH-TDD768");
+   /* channelisationCode */
+   if (pvalue->channelisationCode > 31) {
+      rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "DL-TS-ChannelisationCode-VHCR", "channelisationCode", -1, "HS-SCCH-TDD768");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->channelisationCode, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, "DL-TS-ChannelisationCode-VHCR", "channelisationCode", -1, "HS-SCCH-TDD768");
+   /* midambleAllocationMode */
+   stat = enc_HS_SCCH_TDD768_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SCCH-TDD768");
+   /* midambleconfiguration */
+   if (pvalue->midambleconfiguration > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->midambleconfiguration);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SCCH-TDD768");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleconfiguration, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleConfigurationBurstType1and3", "midambleconfiguration", -1, "HS-SCCH-TDD768");
+   /* hs-sich-configuration */
+   stat = enc_HS_SICH_Configuration_TDD768(ctx, &pvalue->hs_sich_configuration, cur);
+   RT_CHECK(ctx, stat, 0, "hs-sich-configuration", -1, "HS-SCCH-TDD768");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_TDD768(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD768* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_TDD768, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "HS-SCCH-TDD768", (int32_t)i, 0);
+      stat = enc_HS_SCCH_TDD768(ctx, (const HS_SCCH_TDD768*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD768", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* nack-ack-power-offset */
+   if (pvalue->nack_ack_power_offset < -7 || pvalue->nack_ack_power_offset > 8) {
+      rtxErrAddStrParm(ctx, "nack-ack-power-offset");
+      rtxErrAddIntParm(ctx, pvalue->nack_ack_power_offset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "nack-ack-power-offset", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "nack-ack-power-offset", -1, 0);
+   /* hs-SICH-PowerControl-Info */
+   stat = enc_HS_SICH_Power_Control_Info_TDD768(ctx, &pvalue->hs_SICH_PowerControl_Info, cur);
+   RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl-Info", -1, 0);
+   /* dhs-sync */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->dhs_sync < -20 || pvalue->dhs_sync > 10) {
+         rtxErrAddStrParm(ctx, "DHS-Sync");
+         rtxErrAddIntParm(ctx, pvalue->dhs_sync);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DHS-Sync", "dhs-sync", -1, 0);
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->dhs_sync, -20, 10);
+      RT_CHECK_PUT(ctx, cur, stat, "DHS-Sync", "dhs-sync", -1, 0);
+   }
+   /* bler-target */
+   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
+      rtxErrAddStrParm(ctx, "Bler-Target");
+      rtxErrAddIntParm(ctx, pvalue->bler_target);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Bler-Target", "bler-target", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->bler_target, -63, 0);
+   RT_CHECK_PUT(ctx, cur, stat, "Bler-Target", "bler-target", -1, 0);
+   /* hS-SCCH-SetConfiguration */
+   stat = enc_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_tpc_step_size value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value > 3) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TX-DiversityMode");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TX-DiversityMode");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_S_Field(rtxContext* RT_RESTRICT ctx, S_Field value)
+int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_tpc_step_size value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_tpc_step_size, value);
+}
+
+RT_MERGED_BODY int enc_PowerControlGAP(rtxContext* RT_RESTRICT ctx, PowerControlGAP value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "S-Field");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "S-Field");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PowerControlGAP");
    return 0;
 }
 
-int asn1PE_UMTS_SSDT_Information(rtxContext* RT_RESTRICT ctx, const SSDT_Information* RT_RESTRICT pvalue)
+int asn1PE_UMTS_PowerControlGAP(rtxContext* RT_RESTRICT ctx, PowerControlGAP value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PowerControlGAP, value);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SSDT-Information");
-   /* s-Field */
-   if (pvalue->s_Field > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->s_Field);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "S-Field", "s-Field", -1, "SSDT-Information");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
+      stat = enc_HS_SCCH_TDD128_r6(ctx, (const HS_SCCH_TDD128_r6*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
    }
-   stat = pe_ConsUInt64(ctx, pvalue->s_Field, 0, 1);
-   RT_CHECK(ctx, stat, "S-Field", "s-Field", -1, "SSDT-Information");
-   /* codeWordSet */
-   if (pvalue->codeWordSet > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->codeWordSet);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "CodeWordSet", "codeWordSet", -1, "SSDT-Information");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->codeWordSet, 0, 3);
-   RT_CHECK(ctx, stat, "CodeWordSet", "codeWordSet", -1, "SSDT-Information");
    return 0;
 }
 
-int asn1PE_UMTS_DL_CommonInformation_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* defaultDPCH-OffsetValue */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->defaultDPCH_OffsetValue > 599u) {
-         rtxErrAddStrParm(ctx, "DefaultDPCH-OffsetValueFDD");
-         rtxErrAddUIntParm(ctx, pvalue->defaultDPCH_OffsetValue);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->defaultDPCH_OffsetValue, 0, 599);
-      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
-   }
-   /* dpch-CompressedModeInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DPCH_CompressedModeInfo(ctx, &pvalue->dpch_CompressedModeInfo);
-      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeInfo", -1, 0);
-   }
-   /* tx-DiversityMode */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->tx_DiversityMode > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->tx_DiversityMode);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tx_DiversityMode, 0, 3);
-      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
-   }
-   /* dummy */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_SSDT_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CommonInformation_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* defaultDPCH-OffsetValue */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->defaultDPCH_OffsetValue > 7u) {
-         rtxErrAddStrParm(ctx, "DefaultDPCH-OffsetValueTDD");
-         rtxErrAddUIntParm(ctx, pvalue->defaultDPCH_OffsetValue);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->defaultDPCH_OffsetValue, 0, 7);
-      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CommonInformation_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_DL_CommonInformation_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_DL_CommonInformation_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CommonInformation(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-CommonInformation");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CommonInformation");
-   /* dl-DPCH-InfoCommon */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_DPCH_InfoCommon(ctx, &pvalue->dl_DPCH_InfoCommon);
-      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, "DL-CommonInformation");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_DL_CommonInformation_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonInformation");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_DPCH_InfoCommon_r4_cfnHandling_initialise(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r4_cfnHandling_initialise* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dummy */
-   if (pvalue->m & 0x1u) {
-      stat = pe_ConsUInt64(ctx, pvalue->dummy, 0, 255);
-      RT_CHECK(ctx, stat, "Cfntargetsfnframeoffset", "dummy", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_DPCH_InfoCommon_r4_cfnHandling(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r4_cfnHandling* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.initialise == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "initialise", -1, 0);
-         stat = asn1PE_UMTS_DL_DPCH_InfoCommon_r4_cfnHandling_initialise(ctx, pvalue->u.initialise);
-         RT_CHECK(ctx, stat, 0, "initialise", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_DPCH_InfoCommon_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-DPCH-PowerControlInfo */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* nack-ack-power-offset */
+   if (pvalue->nack_ack_power_offset < -7 || pvalue->nack_ack_power_offset > 8) {
+      rtxErrAddStrParm(ctx, "nack-ack-power-offset");
+      rtxErrAddIntParm(ctx, pvalue->nack_ack_power_offset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "nack-ack-power-offset", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "nack-ack-power-offset", -1, 0);
+   /* power-level-HSSICH */
+   if (pvalue->power_level_HSSICH < -120 || pvalue->power_level_HSSICH > -58) {
+      rtxErrAddStrParm(ctx, "power-level-HSSICH");
+      rtxErrAddIntParm(ctx, pvalue->power_level_HSSICH);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "power-level-HSSICH", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->power_level_HSSICH, -120, -58);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "power-level-HSSICH", -1, 0);
+   /* tpc-step-size */
+   if (pvalue->tpc_step_size > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->tpc_step_size);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "tpc-step-size", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tpc_step_size, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tpc-step-size", -1, 0);
+   /* bler-target */
+   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
+      rtxErrAddStrParm(ctx, "Bler-Target");
+      rtxErrAddIntParm(ctx, pvalue->bler_target);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Bler-Target", "bler-target", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->bler_target, -63, 0);
+   RT_CHECK_PUT(ctx, cur, stat, "Bler-Target", "bler-target", -1, 0);
+   /* powerControlGAP */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo);
-      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, 0);
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->powerControlGAP, 0, 255);
+      RT_CHECK_PUT(ctx, cur, stat, "PowerControlGAP", "powerControlGAP", -1, 0);
    }
-   /* powerOffsetPilot-pdpdch */
-   if ((uint64_t)pvalue->powerOffsetPilot_pdpdch > 24u) {
-      rtxErrAddStrParm(ctx, "PowerOffsetPilot-pdpdch");
-      rtxErrAddUIntParm(ctx, pvalue->powerOffsetPilot_pdpdch);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PowerOffsetPilot-pdpdch", "powerOffsetPilot-pdpdch", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->powerOffsetPilot_pdpdch, 0, 24);
-   RT_CHECK(ctx, stat, "PowerOffsetPilot-pdpdch", "powerOffsetPilot-pdpdch", -1, 0);
-   /* dl-rate-matching-restriction */
+   /* pathlossCompensationSwitch */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_Dl_rate_matching_restriction(ctx, &pvalue->dl_rate_matching_restriction);
-      RT_CHECK(ctx, stat, 0, "dl-rate-matching-restriction", -1, 0);
+      stat = rtxEncBitAt(ctx, cur, pvalue->pathlossCompensationSwitch);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "pathlossCompensationSwitch", -1, 0);
    }
-   /* spreadingFactorAndPilot */
-   stat = asn1PE_UMTS_SF512_AndPilot(ctx, &pvalue->spreadingFactorAndPilot);
-   RT_CHECK(ctx, stat, 0, "spreadingFactorAndPilot", -1, 0);
-   /* positionFixedOrFlexible */
-   if (pvalue->positionFixedOrFlexible > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->positionFixedOrFlexible);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->positionFixedOrFlexible, 0, 1);
-   RT_CHECK(ctx, stat, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
-   /* tfci-Existence */
-   stat = rtxEncBit(ctx, pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, 0);
+   /* hS-SCCH-SetConfiguration */
+   stat = enc_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_DL_DPCH_InfoCommon_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-DPCH-PowerControlInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo);
-      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, 0);
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128, pvalue);
 }
 
-int asn1PE_UMTS_DL_DPCH_InfoCommon_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r4_modeSpecificInfo* RT_RESTRICT pvalue)
+static int enc_HS_SCCH_Info_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_DL_DPCH_InfoCommon_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         if (pvalue->u.tdd384 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = enc_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
          break;
       case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_DL_DPCH_InfoCommon_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         if (pvalue->u.tdd768 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
+         stat = enc_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
          break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_DPCH_InfoCommon_r4(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-DPCH-InfoCommon-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-DPCH-InfoCommon-r4");
-   /* cfnHandling */
-   stat = asn1PE_UMTS_DL_DPCH_InfoCommon_r4_cfnHandling(ctx, &pvalue->cfnHandling);
-   RT_CHECK(ctx, stat, 0, "cfnHandling", -1, "DL-DPCH-InfoCommon-r4");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_DL_DPCH_InfoCommon_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-DPCH-InfoCommon-r4");
-   /* mac-d-HFN-initial-value */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MAC_d_HFN_initial_value(ctx, pvalue->mac_d_HFN_initial_value);
-      RT_CHECK(ctx, stat, 0, "mac-d-HFN-initial-value", -1, "DL-DPCH-InfoCommon-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SSDT_UL(rtxContext* RT_RESTRICT ctx, SSDT_UL value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SSDT-UL");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SSDT-UL");
-   return 0;
-}
-
-int asn1PE_UMTS_SSDT_Information_r4(rtxContext* RT_RESTRICT ctx, const SSDT_Information_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SSDT-Information-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SSDT-Information-r4");
-   /* s-Field */
-   if (pvalue->s_Field > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->s_Field);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "S-Field", "s-Field", -1, "SSDT-Information-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->s_Field, 0, 1);
-   RT_CHECK(ctx, stat, "S-Field", "s-Field", -1, "SSDT-Information-r4");
-   /* codeWordSet */
-   if (pvalue->codeWordSet > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->codeWordSet);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "CodeWordSet", "codeWordSet", -1, "SSDT-Information-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->codeWordSet, 0, 3);
-   RT_CHECK(ctx, stat, "CodeWordSet", "codeWordSet", -1, "SSDT-Information-r4");
-   /* ssdt-UL-r4 */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->ssdt_UL_r4 > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->ssdt_UL_r4);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "SSDT-UL", "ssdt-UL-r4", -1, "SSDT-Information-r4");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ssdt_UL_r4, 0, 1);
-      RT_CHECK(ctx, stat, "SSDT-UL", "ssdt-UL-r4", -1, "SSDT-Information-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CommonInformation_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* defaultDPCH-OffsetValue */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->defaultDPCH_OffsetValue > 599u) {
-         rtxErrAddStrParm(ctx, "DefaultDPCH-OffsetValueFDD");
-         rtxErrAddUIntParm(ctx, pvalue->defaultDPCH_OffsetValue);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->defaultDPCH_OffsetValue, 0, 599);
-      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
-   }
-   /* dpch-CompressedModeInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DPCH_CompressedModeInfo(ctx, &pvalue->dpch_CompressedModeInfo);
-      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeInfo", -1, 0);
-   }
-   /* tx-DiversityMode */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->tx_DiversityMode > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->tx_DiversityMode);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tx_DiversityMode, 0, 3);
-      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
-   }
-   /* dummy */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_SSDT_Information_r4(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* tstd-Indicator */
-   stat = rtxEncBit(ctx, pvalue->tstd_Indicator);
-   RT_CHECK(ctx, stat, 0, "tstd-Indicator", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128);
+      case 3:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_HS_SCCH_Info_r7_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128, cur);
          RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
          break;
       default:
@@ -8436,45 +3371,27 @@ int asn1PE_UMTS_DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption(rtxContex
    return 0;
 }
 
-int asn1PE_UMTS_DL_CommonInformation_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tddOption */
-   stat = asn1PE_UMTS_DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
-   /* defaultDPCH-OffsetValue */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->defaultDPCH_OffsetValue > 7u) {
-         rtxErrAddStrParm(ctx, "DefaultDPCH-OffsetValueTDD");
-         rtxErrAddUIntParm(ctx, pvalue->defaultDPCH_OffsetValue);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->defaultDPCH_OffsetValue, 0, 7);
-      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_r7_modeSpecificInfo_tdd, pvalue);
 }
 
-int asn1PE_UMTS_DL_CommonInformation_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r4_modeSpecificInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_HS_SCCH_Info_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_DL_CommonInformation_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_HS_SCCH_Info_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
          RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_DL_CommonInformation_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_HS_SCCH_Info_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
          RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
@@ -8483,90 +3400,82 @@ int asn1PE_UMTS_DL_CommonInformation_r4_modeSpecificInfo(rtxContext* RT_RESTRICT
    return 0;
 }
 
-int asn1PE_UMTS_DL_CommonInformation_r4(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r4* RT_RESTRICT pvalue)
+int asn1PE_UMTS_HS_SCCH_Info_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_r7_modeSpecificInfo, pvalue);
+}
+
+static int enc_HS_SCCH_Info_r7(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-CommonInformation-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CommonInformation-r4");
-   /* dl-DPCH-InfoCommon */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_DPCH_InfoCommon_r4(ctx, &pvalue->dl_DPCH_InfoCommon);
-      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, "DL-CommonInformation-r4");
-   }
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-Info-r7");
    /* modeSpecificInfo */
-   stat = asn1PE_UMTS_DL_CommonInformation_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonInformation-r4");
+   stat = enc_HS_SCCH_Info_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "HS-SCCH-Info-r7");
    return 0;
 }
 
-int asn1PE_UMTS_DL_CommonInformation_r5_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r5_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_HS_SCCH_Info_r7(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* defaultDPCH-OffsetValue */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-HSPDSCH-TS-Configuration */
    if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->defaultDPCH_OffsetValue > 599u) {
-         rtxErrAddStrParm(ctx, "DefaultDPCH-OffsetValueFDD");
-         rtxErrAddUIntParm(ctx, pvalue->defaultDPCH_OffsetValue);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->defaultDPCH_OffsetValue, 0, 599);
-      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
-   }
-   /* dpch-CompressedModeInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DPCH_CompressedModeInfo(ctx, &pvalue->dpch_CompressedModeInfo);
-      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeInfo", -1, 0);
-   }
-   /* tx-DiversityMode */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->tx_DiversityMode > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->tx_DiversityMode);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tx_DiversityMode, 0, 3);
-      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
-   }
-   /* dummy */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_SSDT_Information_r4(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+      stat = enc_DL_HSPDSCH_TS_Configuration(ctx, &pvalue->dl_HSPDSCH_TS_Configuration, cur);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* tstd-Indicator */
-   stat = rtxEncBit(ctx, pvalue->tstd_Indicator);
-   RT_CHECK(ctx, stat, 0, "tstd-Indicator", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleShift */
+   if ((uint64_t)pvalue->midambleShift > 15u) {
+      rtxErrAddStrParm(ctx, "MidambleShiftLong");
+      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleShift, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleShiftLong", "midambleShift", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue)
+int asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
          break;
       case 2:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
+         stat = enc_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
          break;
       default:
          break;
@@ -8574,46 +3483,69 @@ int asn1PE_UMTS_DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption(rtxContex
    return 0;
 }
 
-int asn1PE_UMTS_DL_CommonInformation_r5_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r5_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_DL_VHCR_burstType_type1(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType_type1* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tddOption */
-   stat = asn1PE_UMTS_DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
-   /* defaultDPCH-OffsetValue */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->defaultDPCH_OffsetValue > 7u) {
-         rtxErrAddStrParm(ctx, "DefaultDPCH-OffsetValueTDD");
-         rtxErrAddUIntParm(ctx, pvalue->defaultDPCH_OffsetValue);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->defaultDPCH_OffsetValue, 0, 7);
-      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleConfigurationBurstType1and3 */
+   if (pvalue->midambleConfigurationBurstType1and3 > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType1and3);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
    }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleConfigurationBurstType1and3, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleConfigurationBurstType1and3", "midambleConfigurationBurstType1and3", -1, 0);
+   /* midambleAllocationMode */
+   stat = enc_MidambleShiftAndBurstType_DL_VHCR_burstType_type1_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_DL_CommonInformation_r5_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r5_modeSpecificInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type1(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType_type1* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_DL_VHCR_burstType_type1, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleShift */
+   if ((uint64_t)pvalue->midambleShift > 7u) {
+      rtxErrAddStrParm(ctx, "MidambleShiftShort-VHCR");
+      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MidambleShiftShort-VHCR", "midambleShift", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleShift, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleShiftShort-VHCR", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_DL_CommonInformation_r5_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_DL_CommonInformation_r5_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
+         stat = enc_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
          break;
       default:
          break;
@@ -8621,91 +3553,179 @@ int asn1PE_UMTS_DL_CommonInformation_r5_modeSpecificInfo(rtxContext* RT_RESTRICT
    return 0;
 }
 
-int asn1PE_UMTS_DL_CommonInformation_r5_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r5_mac_hsResetIndicator value)
+int asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_DL_VHCR_burstType_type2(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType_type2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (value > 0) {
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleConfigurationBurstType2 */
+   if (pvalue->midambleConfigurationBurstType2 > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType2);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MidambleConfigurationBurstType2-VHCR", "midambleConfigurationBurstType2", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleConfigurationBurstType2, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleConfigurationBurstType2-VHCR", "midambleConfigurationBurstType2", -1, 0);
+   /* midambleAllocationMode */
+   stat = enc_MidambleShiftAndBurstType_DL_VHCR_burstType_type2_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType_type2(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType_type2* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_DL_VHCR_burstType_type2, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_DL_VHCR_burstType(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.type1 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "type1", -1, 0);
+         stat = enc_MidambleShiftAndBurstType_DL_VHCR_burstType_type1(ctx, pvalue->u.type1, cur);
+         RT_CHECK(ctx, stat, 0, "type1", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.type2 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "type2", -1, 0);
+         stat = enc_MidambleShiftAndBurstType_DL_VHCR_burstType_type2(ctx, pvalue->u.type2, cur);
+         RT_CHECK(ctx, stat, 0, "type2", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR_burstType(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_VHCR_burstType* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_DL_VHCR_burstType, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_DL_VHCR(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_VHCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MidambleShiftAndBurstType-DL-VHCR");
+   /* burstType */
+   stat = enc_MidambleShiftAndBurstType_DL_VHCR_burstType(ctx, &pvalue->burstType, cur);
+   RT_CHECK(ctx, stat, 0, "burstType", -1, "MidambleShiftAndBurstType-DL-VHCR");
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_DL_VHCR(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_DL_VHCR* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_DL_VHCR, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_HSPDSCH_TS_Configuration_VHCR_element(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_TS_Configuration_VHCR_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* timeslot */
+   if ((uint64_t)pvalue->timeslot > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeslot);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber", "timeslot", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslot, 0, 14);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber", "timeslot", -1, 0);
+   /* midambleShiftAndBurstType */
+   stat = enc_MidambleShiftAndBurstType_DL_VHCR(ctx, &pvalue->midambleShiftAndBurstType, cur);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_TS_Configuration_VHCR_element(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_TS_Configuration_VHCR_element* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_TS_Configuration_VHCR_element, pvalue);
+}
+
+static int enc_DL_HSPDSCH_TS_Configuration_VHCR(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_TS_Configuration_VHCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-HSPDSCH-TS-Configuration-VHCR");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 13);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DL-HSPDSCH-TS-Configuration-VHCR");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "DL-HSPDSCH-TS-Configuration-VHCR");
+      stat = enc_DL_HSPDSCH_TS_Configuration_VHCR_element(ctx, (const DL_HSPDSCH_TS_Configuration_VHCR_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "DL-HSPDSCH-TS-Configuration-VHCR");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_TS_Configuration_VHCR(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_TS_Configuration_VHCR* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_TS_Configuration_VHCR, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-HSPDSCH-TS-Configuration */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DL_HSPDSCH_TS_Configuration_VHCR(ctx, &pvalue->dl_HSPDSCH_TS_Configuration, cur);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_MultiCarrier_Information_tsn_Length(rtxContext* RT_RESTRICT ctx, DL_MultiCarrier_Information_tsn_Length value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_DL_CommonInformation_r5(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r5* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_MultiCarrier_Information_tsn_Length(rtxContext* RT_RESTRICT ctx, DL_MultiCarrier_Information_tsn_Length value)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-CommonInformation-r5");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CommonInformation-r5");
-   /* dl-DPCH-InfoCommon */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_DPCH_InfoCommon_r4(ctx, &pvalue->dl_DPCH_InfoCommon);
-      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, "DL-CommonInformation-r5");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_DL_CommonInformation_r5_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonInformation-r5");
-   /* mac-hsResetIndicator */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->mac_hsResetIndicator > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->mac_hsResetIndicator);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r5");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mac_hsResetIndicator, 0, 0);
-      RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r5");
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_DL_MultiCarrier_Information_tsn_Length, value);
 }
 
-int asn1PE_UMTS_TimingMaintainedSynchInd(rtxContext* RT_RESTRICT ctx, TimingMaintainedSynchInd value)
+RT_MERGED_BODY int enc_HS_SCCH_TDD128_MultiCarrier_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD128_MultiCarrier_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TimingMaintainedSynchInd");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimingMaintainedSynchInd");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_DPCH_InfoCommon_r6_cfnHandling_maintain(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r6_cfnHandling_maintain* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* timingmaintainedsynchind */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->timingmaintainedsynchind > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->timingmaintainedsynchind);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "TimingMaintainedSynchInd", "timingmaintainedsynchind", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->timingmaintainedsynchind, 0, 0);
-      RT_CHECK(ctx, stat, "TimingMaintainedSynchInd", "timingmaintainedsynchind", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_DPCH_InfoCommon_r6_cfnHandling(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r6_cfnHandling* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.maintain == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "maintain", -1, 0);
-         stat = asn1PE_UMTS_DL_DPCH_InfoCommon_r6_cfnHandling_maintain(ctx, pvalue->u.maintain);
-         RT_CHECK(ctx, stat, 0, "maintain", -1, 0);
          break;
       case 2:
+         break;
+      case 3:
+         if ((uint64_t)pvalue->u.ueSpecificMidamble > 15u) {
+            rtxErrAddStrParm(ctx, "ueSpecificMidamble");
+            rtxErrAddUIntParm(ctx, pvalue->u.ueSpecificMidamble);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ueSpecificMidamble", -1, 0);
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.ueSpecificMidamble, 0, 15);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "ueSpecificMidamble", -1, 0);
          break;
       default:
          break;
@@ -8713,260 +3733,247 @@ int asn1PE_UMTS_DL_DPCH_InfoCommon_r6_cfnHandling(rtxContext* RT_RESTRICT ctx, c
    return 0;
 }
 
-int asn1PE_UMTS_DL_DPCH_InfoCommon_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_HS_SCCH_TDD128_MultiCarrier_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD128_MultiCarrier_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_TDD128_MultiCarrier_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_TDD128_MultiCarrier(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD128_MultiCarrier* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-TDD128-MultiCarrier");
+   /* uarfcn-HS-SCCH-Rx */
+   if ((uint64_t)pvalue->uarfcn_HS_SCCH_Rx > 16383u) {
+      rtxErrAddStrParm(ctx, "UARFCN");
+      rtxErrAddUIntParm(ctx, pvalue->uarfcn_HS_SCCH_Rx);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UARFCN", "uarfcn-HS-SCCH-Rx", -1, "HS-SCCH-TDD128-MultiCarrier");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->uarfcn_HS_SCCH_Rx, 0, 16383);
+   RT_CHECK_PUT(ctx, cur, stat, "UARFCN", "uarfcn-HS-SCCH-Rx", -1, "HS-SCCH-TDD128-MultiCarrier");
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 6u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SCCH-TDD128-MultiCarrier");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslotNumber, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "HS-SCCH-TDD128-MultiCarrier");
+   /* firstChannelisationCode */
+   if (pvalue->firstChannelisationCode > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->firstChannelisationCode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "firstChannelisationCode", -1, "HS-SCCH-TDD128-MultiCarrier");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->firstChannelisationCode, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "HS-ChannelisationCode-LCR", "firstChannelisationCode", -1, "HS-SCCH-TDD128-MultiCarrier");
+   /* secondChannelisationCode */
+   if (pvalue->secondChannelisationCode > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->secondChannelisationCode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "secondChannelisationCode", -1, "HS-SCCH-TDD128-MultiCarrier");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->secondChannelisationCode, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "HS-ChannelisationCode-LCR", "secondChannelisationCode", -1, "HS-SCCH-TDD128-MultiCarrier");
+   /* midambleAllocationMode */
+   stat = enc_HS_SCCH_TDD128_MultiCarrier_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, "HS-SCCH-TDD128-MultiCarrier");
+   /* midambleConfiguration */
+   if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "midambleConfiguration");
+      rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "midambleConfiguration", -1, "HS-SCCH-TDD128-MultiCarrier");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "midambleConfiguration", -1, "HS-SCCH-TDD128-MultiCarrier");
+   /* bler-target */
+   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
+      rtxErrAddStrParm(ctx, "Bler-Target");
+      rtxErrAddIntParm(ctx, pvalue->bler_target);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Bler-Target", "bler-target", -1, "HS-SCCH-TDD128-MultiCarrier");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->bler_target, -63, 0);
+   RT_CHECK_PUT(ctx, cur, stat, "Bler-Target", "bler-target", -1, "HS-SCCH-TDD128-MultiCarrier");
+   /* hs-sich-configuration */
+   stat = enc_HS_SICH_Configuration_TDD128(ctx, &pvalue->hs_sich_configuration, cur);
+   RT_CHECK(ctx, stat, 0, "hs-sich-configuration", -1, "HS-SCCH-TDD128-MultiCarrier");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_TDD128_MultiCarrier(rtxContext* RT_RESTRICT ctx, const HS_SCCH_TDD128_MultiCarrier* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_TDD128_MultiCarrier, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_HSPDSCH_MultiCarrier_Information_element_hs_SCCH_TDD128_MultiCarrier(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_MultiCarrier_Information_element_hs_SCCH_TDD128_MultiCarrier* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "HS-SCCH-TDD128-MultiCarrier", (int32_t)i, 0);
+      stat = enc_HS_SCCH_TDD128_MultiCarrier(ctx, (const HS_SCCH_TDD128_MultiCarrier*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD128-MultiCarrier", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_MultiCarrier_Information_element_hs_SCCH_TDD128_MultiCarrier(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_MultiCarrier_Information_element_hs_SCCH_TDD128_MultiCarrier* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_MultiCarrier_Information_element_hs_SCCH_TDD128_MultiCarrier, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_HSPDSCH_MultiCarrier_Information_element(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_MultiCarrier_Information_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-DPCH-PowerControlInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo);
-      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, 0);
-   }
-   /* powerOffsetPilot-pdpdch */
-   if ((uint64_t)pvalue->powerOffsetPilot_pdpdch > 24u) {
-      rtxErrAddStrParm(ctx, "PowerOffsetPilot-pdpdch");
-      rtxErrAddUIntParm(ctx, pvalue->powerOffsetPilot_pdpdch);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PowerOffsetPilot-pdpdch", "powerOffsetPilot-pdpdch", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->powerOffsetPilot_pdpdch, 0, 24);
-   RT_CHECK(ctx, stat, "PowerOffsetPilot-pdpdch", "powerOffsetPilot-pdpdch", -1, 0);
-   /* dl-rate-matching-restriction */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_Dl_rate_matching_restriction(ctx, &pvalue->dl_rate_matching_restriction);
-      RT_CHECK(ctx, stat, 0, "dl-rate-matching-restriction", -1, 0);
-   }
-   /* spreadingFactorAndPilot */
-   stat = asn1PE_UMTS_SF512_AndPilot(ctx, &pvalue->spreadingFactorAndPilot);
-   RT_CHECK(ctx, stat, 0, "spreadingFactorAndPilot", -1, 0);
-   /* positionFixedOrFlexible */
-   if (pvalue->positionFixedOrFlexible > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->positionFixedOrFlexible);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->positionFixedOrFlexible, 0, 1);
-   RT_CHECK(ctx, stat, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
-   /* tfci-Existence */
-   stat = rtxEncBit(ctx, pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_DPCH_InfoCommon_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-DPCH-PowerControlInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo);
-      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_DPCH_InfoCommon_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r6_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_DL_DPCH_InfoCommon_r6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_DL_DPCH_InfoCommon_r6_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_DPCH_InfoCommon_r6(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-DPCH-InfoCommon-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-DPCH-InfoCommon-r6");
-   /* cfnHandling */
-   stat = asn1PE_UMTS_DL_DPCH_InfoCommon_r6_cfnHandling(ctx, &pvalue->cfnHandling);
-   RT_CHECK(ctx, stat, 0, "cfnHandling", -1, "DL-DPCH-InfoCommon-r6");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_DL_DPCH_InfoCommon_r6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-DPCH-InfoCommon-r6");
-   /* mac-d-HFN-initial-value */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MAC_d_HFN_initial_value(ctx, pvalue->mac_d_HFN_initial_value);
-      RT_CHECK(ctx, stat, 0, "mac-d-HFN-initial-value", -1, "DL-DPCH-InfoCommon-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_FDPCH_InfoCommon_r6_cfnHandling_maintain(rtxContext* RT_RESTRICT ctx, const DL_FDPCH_InfoCommon_r6_cfnHandling_maintain* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* timingmaintainedsynchind */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->timingmaintainedsynchind > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->timingmaintainedsynchind);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "TimingMaintainedSynchInd", "timingmaintainedsynchind", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->timingmaintainedsynchind, 0, 0);
-      RT_CHECK(ctx, stat, "TimingMaintainedSynchInd", "timingmaintainedsynchind", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_FDPCH_InfoCommon_r6_cfnHandling(rtxContext* RT_RESTRICT ctx, const DL_FDPCH_InfoCommon_r6_cfnHandling* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.maintain == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "maintain", -1, 0);
-         stat = asn1PE_UMTS_DL_FDPCH_InfoCommon_r6_cfnHandling_maintain(ctx, pvalue->u.maintain);
-         RT_CHECK(ctx, stat, 0, "maintain", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_FDPCH_InfoCommon_r6(rtxContext* RT_RESTRICT ctx, const DL_FDPCH_InfoCommon_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-FDPCH-InfoCommon-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-FDPCH-InfoCommon-r6");
-   /* cfnHandling */
-   stat = asn1PE_UMTS_DL_FDPCH_InfoCommon_r6_cfnHandling(ctx, &pvalue->cfnHandling);
-   RT_CHECK(ctx, stat, 0, "cfnHandling", -1, "DL-FDPCH-InfoCommon-r6");
-   /* dl-FDPCH-PowerControlInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_FDPCH_PowerControlInfo);
-      RT_CHECK(ctx, stat, 0, "dl-FDPCH-PowerControlInfo", -1, "DL-FDPCH-InfoCommon-r6");
-   }
-   /* dl-FDPCH-TPCcommandErrorRate */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)(pvalue->dl_FDPCH_TPCcommandErrorRate - 1) > 15u) {
-         rtxErrAddStrParm(ctx, "dl-FDPCH-TPCcommandErrorRate");
-         rtxErrAddUIntParm(ctx, pvalue->dl_FDPCH_TPCcommandErrorRate);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "dl-FDPCH-TPCcommandErrorRate", -1, "DL-FDPCH-InfoCommon-r6");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dl_FDPCH_TPCcommandErrorRate, 1, 16);
-      RT_CHECK(ctx, stat, 0, "dl-FDPCH-TPCcommandErrorRate", -1, "DL-FDPCH-InfoCommon-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CommonInformation_r6_dl_dpchInfoCommon(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r6_dl_dpchInfoCommon* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.dl_DPCH_InfoCommon == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-DPCH-InfoCommon", -1, 0);
-         stat = asn1PE_UMTS_DL_DPCH_InfoCommon_r6(ctx, pvalue->u.dl_DPCH_InfoCommon);
-         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.dl_FDPCH_InfoCommon == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-FDPCH-InfoCommon", -1, 0);
-         stat = asn1PE_UMTS_DL_FDPCH_InfoCommon_r6(ctx, pvalue->u.dl_FDPCH_InfoCommon);
-         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoCommon", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CommonInformation_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* defaultDPCH-OffsetValue */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* uarfcn-Carrier */
+   if ((uint64_t)pvalue->uarfcn_Carrier > 16383u) {
+      rtxErrAddStrParm(ctx, "UARFCN");
+      rtxErrAddUIntParm(ctx, pvalue->uarfcn_Carrier);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UARFCN", "uarfcn-Carrier", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->uarfcn_Carrier, 0, 16383);
+   RT_CHECK_PUT(ctx, cur, stat, "UARFCN", "uarfcn-Carrier", -1, 0);
+   /* harqInfo */
    if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->defaultDPCH_OffsetValue > 599u) {
-         rtxErrAddStrParm(ctx, "DefaultDPCH-OffsetValueFDD");
-         rtxErrAddUIntParm(ctx, pvalue->defaultDPCH_OffsetValue);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->defaultDPCH_OffsetValue, 0, 599);
-      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
+      stat = enc_HARQ_Info(ctx, &pvalue->harqInfo, cur);
+      RT_CHECK(ctx, stat, 0, "harqInfo", -1, 0);
    }
-   /* dpch-CompressedModeInfo */
+   /* hs-PDSCH-Midamble-Configuration */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DPCH_CompressedModeInfo(ctx, &pvalue->dpch_CompressedModeInfo);
-      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeInfo", -1, 0);
+      stat = enc_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration, cur);
+      RT_CHECK(ctx, stat, 0, "hs-PDSCH-Midamble-Configuration", -1, 0);
    }
-   /* tx-DiversityMode */
+   /* hs-SCCH-TDD128-MultiCarrier */
    if (pvalue->m & 0x4u) {
-      if (pvalue->tx_DiversityMode > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->tx_DiversityMode);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tx_DiversityMode, 0, 3);
-      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
+      stat = enc_DL_HSPDSCH_MultiCarrier_Information_element_hs_SCCH_TDD128_MultiCarrier(ctx, &pvalue->hs_SCCH_TDD128_MultiCarrier, cur);
+      RT_CHECK(ctx, stat, 0, "hs-SCCH-TDD128-MultiCarrier", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_HSPDSCH_MultiCarrier_Information_element(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_MultiCarrier_Information_element* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_MultiCarrier_Information_element, pvalue);
+}
+
+static int enc_DL_HSPDSCH_MultiCarrier_Information(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_MultiCarrier_Information* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* tstd-Indicator */
-   stat = rtxEncBit(ctx, pvalue->tstd_Indicator);
-   RT_CHECK(ctx, stat, 0, "tstd-Indicator", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-HSPDSCH-MultiCarrier-Information");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 6);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DL-HSPDSCH-MultiCarrier-Information");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "DL-HSPDSCH-MultiCarrier-Information");
+      stat = enc_DL_HSPDSCH_MultiCarrier_Information_element(ctx, (const DL_HSPDSCH_MultiCarrier_Information_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "DL-HSPDSCH-MultiCarrier-Information");
+   }
    return 0;
 }
 
-int asn1PE_UMTS_DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_HSPDSCH_MultiCarrier_Information(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_MultiCarrier_Information* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_MultiCarrier_Information, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_MultiCarrier_Information(rtxContext* RT_RESTRICT ctx, const DL_MultiCarrier_Information* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-MultiCarrier-Information");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-MultiCarrier-Information");
+   /* tsn-Length */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->tsn_Length > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->tsn_Length);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "tsn-Length", -1, "DL-MultiCarrier-Information");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tsn_Length, 0, 1);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "tsn-Length", -1, "DL-MultiCarrier-Information");
+   }
+   /* multiCarrierNumber */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)(pvalue->multiCarrierNumber - 1) > 5u) {
+         rtxErrAddStrParm(ctx, "multiCarrierNumber");
+         rtxErrAddUIntParm(ctx, pvalue->multiCarrierNumber);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "multiCarrierNumber", -1, "DL-MultiCarrier-Information");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->multiCarrierNumber, 1, 6);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "multiCarrierNumber", -1, "DL-MultiCarrier-Information");
+   }
+   /* dl-HSPDSCH-MultiCarrier-Information */
+   if (pvalue->m & 0x4u) {
+      stat = enc_DL_HSPDSCH_MultiCarrier_Information(ctx, &pvalue->dl_HSPDSCH_MultiCarrier_Information, cur);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-MultiCarrier-Information", -1, "DL-MultiCarrier-Information");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_MultiCarrier_Information(rtxContext* RT_RESTRICT ctx, const DL_MultiCarrier_Information* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_MultiCarrier_Information, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* hs-PDSCH-Midamble-Configuration-tdd128 */
+   if (pvalue->m & 0x1u) {
+      stat = enc_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration_tdd128, cur);
+      RT_CHECK(ctx, stat, 0, "hs-PDSCH-Midamble-Configuration-tdd128", -1, 0);
+   }
+   /* dl-MultiCarrier-Information */
+   if (pvalue->m & 0x2u) {
+      stat = enc_DL_MultiCarrier_Information(ctx, &pvalue->dl_MultiCarrier_Information, cur);
+      RT_CHECK(ctx, stat, 0, "dl-MultiCarrier-Information", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = enc_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
          break;
       case 2:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128);
+         if (pvalue->u.tdd768 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
+         stat = enc_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128, cur);
          RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
          break;
       default:
@@ -8975,50 +3982,5454 @@ int asn1PE_UMTS_DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption(rtxContex
    return 0;
 }
 
-int asn1PE_UMTS_DL_CommonInformation_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd_dl_64QAM_Configured value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd_dl_64QAM_Configured value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd_dl_64QAM_Configured, value);
+}
+
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tddOption */
-   stat = asn1PE_UMTS_DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
-   /* defaultDPCH-OffsetValue */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-64QAM-Configured */
    if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->defaultDPCH_OffsetValue > 7u) {
-         rtxErrAddStrParm(ctx, "DefaultDPCH-OffsetValueTDD");
-         rtxErrAddUIntParm(ctx, pvalue->defaultDPCH_OffsetValue);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
+      if (pvalue->dl_64QAM_Configured > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->dl_64QAM_Configured);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "dl-64QAM-Configured", -1, 0);
       }
-      stat = pe_ConsUInt64(ctx, pvalue->defaultDPCH_OffsetValue, 0, 7);
-      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->dl_64QAM_Configured, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "dl-64QAM-Configured", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_DL_CommonInformation_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r6_modeSpecificInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r7_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_DL_CommonInformation_r6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_DL_HSPDSCH_Information_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_DL_HSPDSCH_Information_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r7_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_Information_r7_modeSpecificInfo, pvalue);
+}
+
+static int enc_DL_HSPDSCH_Information_r7(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-HSPDSCH-Information-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-HSPDSCH-Information-r7");
+   /* hs-scch-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_HS_SCCH_Info_r7(ctx, &pvalue->hs_scch_Info, cur);
+      RT_CHECK(ctx, stat, 0, "hs-scch-Info", -1, "DL-HSPDSCH-Information-r7");
+   }
+   /* measurement-feedback-Info */
+   if (pvalue->m & 0x2u) {
+      stat = enc_Measurement_Feedback_Info_r7(ctx, &pvalue->measurement_feedback_Info, cur);
+      RT_CHECK(ctx, stat, 0, "measurement-feedback-Info", -1, "DL-HSPDSCH-Information-r7");
+   }
+   /* modeSpecificInfo */
+   stat = enc_DL_HSPDSCH_Information_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-HSPDSCH-Information-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r7(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_Information_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_HARQ_Info_r7_numberOfProcesses(rtxContext* RT_RESTRICT ctx, HARQ_Info_r7_numberOfProcesses value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 10) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 10);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HARQ_Info_r7_numberOfProcesses(rtxContext* RT_RESTRICT ctx, HARQ_Info_r7_numberOfProcesses value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HARQ_Info_r7_numberOfProcesses, value);
+}
+
+RT_MERGED_BODY int enc_HARQ_Info_r7_memoryPartitioning_explicit__memorySize(rtxContext* RT_RESTRICT ctx, const HARQ_Info_r7_memoryPartitioning_explicit__memorySize* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 60) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "HARQMemorySize", "HARQMemorySize", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 60);
+      RT_CHECK_PUT(ctx, cur, stat, "HARQMemorySize", "HARQMemorySize", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HARQ_Info_r7_memoryPartitioning_explicit__memorySize(rtxContext* RT_RESTRICT ctx, const HARQ_Info_r7_memoryPartitioning_explicit__memorySize* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HARQ_Info_r7_memoryPartitioning_explicit__memorySize, pvalue);
+}
+
+RT_MERGED_BODY int enc_HARQ_Info_r7_memoryPartitioning_explicit__additionalMemorySizesForMIMO(rtxContext* RT_RESTRICT ctx, const HARQ_Info_r7_memoryPartitioning_explicit__additionalMemorySizesForMIMO* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 60) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "HARQMemorySize", "HARQMemorySize", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 60);
+      RT_CHECK_PUT(ctx, cur, stat, "HARQMemorySize", "HARQMemorySize", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HARQ_Info_r7_memoryPartitioning_explicit__additionalMemorySizesForMIMO(rtxContext* RT_RESTRICT ctx, const HARQ_Info_r7_memoryPartitioning_explicit__additionalMemorySizesForMIMO* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HARQ_Info_r7_memoryPartitioning_explicit__additionalMemorySizesForMIMO, pvalue);
+}
+
+RT_MERGED_BODY int enc_HARQ_Info_r7_memoryPartitioning_explicit_(rtxContext* RT_RESTRICT ctx, const HARQ_Info_r7_memoryPartitioning_explicit_* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* memorySize */
+   stat = enc_HARQ_Info_r7_memoryPartitioning_explicit__memorySize(ctx, &pvalue->memorySize, cur);
+   RT_CHECK(ctx, stat, 0, "memorySize", -1, 0);
+   /* additionalMemorySizesForMIMO */
+   if (pvalue->m & 0x1u) {
+      stat = enc_HARQ_Info_r7_memoryPartitioning_explicit__additionalMemorySizesForMIMO(ctx, &pvalue->additionalMemorySizesForMIMO, cur);
+      RT_CHECK(ctx, stat, 0, "additionalMemorySizesForMIMO", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HARQ_Info_r7_memoryPartitioning_explicit_(rtxContext* RT_RESTRICT ctx, const HARQ_Info_r7_memoryPartitioning_explicit_* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HARQ_Info_r7_memoryPartitioning_explicit_, pvalue);
+}
+
+RT_MERGED_BODY int enc_HARQ_Info_r7_memoryPartitioning(rtxContext* RT_RESTRICT ctx, const HARQ_Info_r7_memoryPartitioning* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.explicit_ == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "explicit", -1, 0);
+         stat = enc_HARQ_Info_r7_memoryPartitioning_explicit_(ctx, pvalue->u.explicit_, cur);
+         RT_CHECK(ctx, stat, 0, "explicit", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HARQ_Info_r7_memoryPartitioning(rtxContext* RT_RESTRICT ctx, const HARQ_Info_r7_memoryPartitioning* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HARQ_Info_r7_memoryPartitioning, pvalue);
+}
+
+RT_MERGED_BODY int enc_HARQ_Info_r7(rtxContext* RT_RESTRICT ctx, const HARQ_Info_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HARQ-Info-r7");
+   /* numberOfProcesses */
+   if (pvalue->numberOfProcesses > 10) {
+      rtxErrAddUIntParm(ctx, pvalue->numberOfProcesses);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "numberOfProcesses", -1, "HARQ-Info-r7");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->numberOfProcesses, 0, 10);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "numberOfProcesses", -1, "HARQ-Info-r7");
+   /* memoryPartitioning */
+   stat = enc_HARQ_Info_r7_memoryPartitioning(ctx, &pvalue->memoryPartitioning, cur);
+   RT_CHECK(ctx, stat, 0, "memoryPartitioning", -1, "HARQ-Info-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_HARQ_Info_r7(rtxContext* RT_RESTRICT ctx, const HARQ_Info_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HARQ_Info_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_Serving_HSDSCH_CellInformation_r7_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r7_mac_hsResetIndicator value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_Serving_HSDSCH_CellInformation_r7_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r7_mac_hsResetIndicator value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Serving_HSDSCH_CellInformation_r7_mac_hsResetIndicator, value);
+}
+
+RT_MERGED_BODY int enc_Serving_HSDSCH_CellInformation_r7(rtxContext* RT_RESTRICT ctx, const Serving_HSDSCH_CellInformation_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Serving-HSDSCH-CellInformation-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Serving-HSDSCH-CellInformation-r7");
+   /* deltaACK */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->deltaACK > 8u) {
+         rtxErrAddStrParm(ctx, "DeltaACK");
+         rtxErrAddUIntParm(ctx, pvalue->deltaACK);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DeltaACK", "deltaACK", -1, "Serving-HSDSCH-CellInformation-r7");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->deltaACK, 0, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "DeltaACK", "deltaACK", -1, "Serving-HSDSCH-CellInformation-r7");
+   }
+   /* deltaNACK */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->deltaNACK > 8u) {
+         rtxErrAddStrParm(ctx, "DeltaNACK");
+         rtxErrAddUIntParm(ctx, pvalue->deltaNACK);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DeltaNACK", "deltaNACK", -1, "Serving-HSDSCH-CellInformation-r7");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->deltaNACK, 0, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "DeltaNACK", "deltaNACK", -1, "Serving-HSDSCH-CellInformation-r7");
+   }
+   /* harq-Preamble-Mode */
+   if ((uint64_t)pvalue->harq_Preamble_Mode > 1u) {
+      rtxErrAddStrParm(ctx, "HARQ-Preamble-Mode");
+      rtxErrAddUIntParm(ctx, pvalue->harq_Preamble_Mode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "Serving-HSDSCH-CellInformation-r7");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->harq_Preamble_Mode, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "Serving-HSDSCH-CellInformation-r7");
+   /* primaryCPICH-Info */
+   if (pvalue->m & 0x4u) {
+      stat = enc_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "Serving-HSDSCH-CellInformation-r7");
+   }
+   /* dl-hspdsch-Information */
+   if (pvalue->m & 0x8u) {
+      stat = enc_DL_HSPDSCH_Information_r7(ctx, &pvalue->dl_hspdsch_Information, cur);
+      RT_CHECK(ctx, stat, 0, "dl-hspdsch-Information", -1, "Serving-HSDSCH-CellInformation-r7");
+   }
+   /* harqInfo */
+   if (pvalue->m & 0x10u) {
+      stat = enc_HARQ_Info_r7(ctx, &pvalue->harqInfo, cur);
+      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "Serving-HSDSCH-CellInformation-r7");
+   }
+   /* mac-hsResetIndicator */
+   if (pvalue->m & 0x20u) {
+      if (pvalue->mac_hsResetIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mac_hsResetIndicator);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation-r7");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_hsResetIndicator, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Serving_HSDSCH_CellInformation_r7(rtxContext* RT_RESTRICT ctx, const Serving_HSDSCH_CellInformation_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Serving_HSDSCH_CellInformation_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-HSPDSCH-TS-Configuration */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DL_HSPDSCH_TS_Configuration(ctx, &pvalue->dl_HSPDSCH_TS_Configuration, cur);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-HSPDSCH-TS-Configuration */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DL_HSPDSCH_TS_Configuration_VHCR(ctx, &pvalue->dl_HSPDSCH_TS_Configuration, cur);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* hs-PDSCH-Midamble-Configuration-tdd128 */
+   if (pvalue->m & 0x1u) {
+      stat = enc_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration_tdd128, cur);
+      RT_CHECK(ctx, stat, 0, "hs-PDSCH-Midamble-Configuration-tdd128", -1, 0);
+   }
+   /* dl-MultiCarrier-Information */
+   if (pvalue->m & 0x2u) {
+      stat = enc_DL_MultiCarrier_Information(ctx, &pvalue->dl_MultiCarrier_Information, cur);
+      RT_CHECK(ctx, stat, 0, "dl-MultiCarrier-Information", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = enc_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd768 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
+         stat = enc_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd_dl_64QAM_Configured value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd_dl_64QAM_Configured value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd_dl_64QAM_Configured, value);
+}
+
+RT_MERGED_BODY int enc_HS_DSCH_TBSizeTable(rtxContext* RT_RESTRICT ctx, HS_DSCH_TBSizeTable value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "HS-DSCH-TBSizeTable");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "HS-DSCH-TBSizeTable");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_DSCH_TBSizeTable(rtxContext* RT_RESTRICT ctx, HS_DSCH_TBSizeTable value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_DSCH_TBSizeTable, value);
+}
+
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-64QAM-Configured */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->dl_64QAM_Configured > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->dl_64QAM_Configured);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "dl-64QAM-Configured", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->dl_64QAM_Configured, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "dl-64QAM-Configured", -1, 0);
+   }
+   /* hs-DSCH-TBSizeTable */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->hs_DSCH_TBSizeTable > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->hs_DSCH_TBSizeTable);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->hs_DSCH_TBSizeTable, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_DL_HSPDSCH_Information_r8_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_DL_HSPDSCH_Information_r8_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_Information_r8_modeSpecificInfo, pvalue);
+}
+
+static int enc_DL_HSPDSCH_Information_r8(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-HSPDSCH-Information-r8");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-HSPDSCH-Information-r8");
+   /* hs-scch-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_HS_SCCH_Info_r7(ctx, &pvalue->hs_scch_Info, cur);
+      RT_CHECK(ctx, stat, 0, "hs-scch-Info", -1, "DL-HSPDSCH-Information-r8");
+   }
+   /* measurement-feedback-Info */
+   if (pvalue->m & 0x2u) {
+      stat = enc_Measurement_Feedback_Info_r7(ctx, &pvalue->measurement_feedback_Info, cur);
+      RT_CHECK(ctx, stat, 0, "measurement-feedback-Info", -1, "DL-HSPDSCH-Information-r8");
+   }
+   /* modeSpecificInfo */
+   stat = enc_DL_HSPDSCH_Information_r8_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-HSPDSCH-Information-r8");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r8(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_Information_r8, pvalue);
+}
+
+RT_MERGED_BODY int enc_Serving_HSDSCH_CellInformation_r8_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r8_mac_hsResetIndicator value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_Serving_HSDSCH_CellInformation_r8_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r8_mac_hsResetIndicator value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Serving_HSDSCH_CellInformation_r8_mac_hsResetIndicator, value);
+}
+
+static int enc_Serving_HSDSCH_CellInformation_r8(rtxContext* RT_RESTRICT ctx, const Serving_HSDSCH_CellInformation_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Serving-HSDSCH-CellInformation-r8");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Serving-HSDSCH-CellInformation-r8");
+   /* deltaACK */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->deltaACK > 8u) {
+         rtxErrAddStrParm(ctx, "DeltaACK");
+         rtxErrAddUIntParm(ctx, pvalue->deltaACK);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DeltaACK", "deltaACK", -1, "Serving-HSDSCH-CellInformation-r8");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->deltaACK, 0, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "DeltaACK", "deltaACK", -1, "Serving-HSDSCH-CellInformation-r8");
+   }
+   /* deltaNACK */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->deltaNACK > 8u) {
+         rtxErrAddStrParm(ctx, "DeltaNACK");
+         rtxErrAddUIntParm(ctx, pvalue->deltaNACK);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DeltaNACK", "deltaNACK", -1, "Serving-HSDSCH-CellInformation-r8");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->deltaNACK, 0, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "DeltaNACK", "deltaNACK", -1, "Serving-HSDSCH-CellInformation-r8");
+   }
+   /* harq-Preamble-Mode */
+   if ((uint64_t)pvalue->harq_Preamble_Mode > 1u) {
+      rtxErrAddStrParm(ctx, "HARQ-Preamble-Mode");
+      rtxErrAddUIntParm(ctx, pvalue->harq_Preamble_Mode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "Serving-HSDSCH-CellInformation-r8");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->harq_Preamble_Mode, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "Serving-HSDSCH-CellInformation-r8");
+   /* primaryCPICH-Info */
+   if (pvalue->m & 0x4u) {
+      stat = enc_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "Serving-HSDSCH-CellInformation-r8");
+   }
+   /* dl-hspdsch-Information */
+   if (pvalue->m & 0x8u) {
+      stat = enc_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_hspdsch_Information, cur);
+      RT_CHECK(ctx, stat, 0, "dl-hspdsch-Information", -1, "Serving-HSDSCH-CellInformation-r8");
+   }
+   /* harqInfo */
+   if (pvalue->m & 0x10u) {
+      stat = enc_HARQ_Info_r7(ctx, &pvalue->harqInfo, cur);
+      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "Serving-HSDSCH-CellInformation-r8");
+   }
+   /* mac-hsResetIndicator */
+   if (pvalue->m & 0x20u) {
+      if (pvalue->mac_hsResetIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mac_hsResetIndicator);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation-r8");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_hsResetIndicator, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Serving_HSDSCH_CellInformation_r8(rtxContext* RT_RESTRICT ctx, const Serving_HSDSCH_CellInformation_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Serving_HSDSCH_CellInformation_r8, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info_r9_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 127u) {
+         rtxErrAddStrParm(ctx, "HS-SCCH-Codes");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 127);
+      RT_CHECK_PUT(ctx, cur, stat, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_r9_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* hS-SCCHChannelisationCodeInfo */
+   stat = enc_HS_SCCH_Info_r9_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo, cur);
+   RT_CHECK(ctx, stat, 0, "hS-SCCHChannelisationCodeInfo", -1, 0);
+   /* dl-ScramblingCode */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->dl_ScramblingCode - 1) > 14u) {
+         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
+         rtxErrAddUIntParm(ctx, pvalue->dl_ScramblingCode);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->dl_ScramblingCode, 1, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_r9_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "HS-SCCH-TDD384-r6", (int32_t)i, 0);
+      stat = enc_HS_SCCH_TDD384_r6(ctx, (const HS_SCCH_TDD384_r6*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD384-r6", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* nack-ack-power-offset */
+   if (pvalue->nack_ack_power_offset < -7 || pvalue->nack_ack_power_offset > 8) {
+      rtxErrAddStrParm(ctx, "nack-ack-power-offset");
+      rtxErrAddIntParm(ctx, pvalue->nack_ack_power_offset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "nack-ack-power-offset", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "nack-ack-power-offset", -1, 0);
+   /* hs-SICH-PowerControl-Info */
+   stat = enc_HS_SICH_Power_Control_Info_TDD384(ctx, &pvalue->hs_SICH_PowerControl_Info, cur);
+   RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl-Info", -1, 0);
+   /* dhs-sync */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->dhs_sync < -20 || pvalue->dhs_sync > 10) {
+         rtxErrAddStrParm(ctx, "DHS-Sync");
+         rtxErrAddIntParm(ctx, pvalue->dhs_sync);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DHS-Sync", "dhs-sync", -1, 0);
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->dhs_sync, -20, 10);
+      RT_CHECK_PUT(ctx, cur, stat, "DHS-Sync", "dhs-sync", -1, 0);
+   }
+   /* bler-target */
+   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
+      rtxErrAddStrParm(ctx, "Bler-Target");
+      rtxErrAddIntParm(ctx, pvalue->bler_target);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Bler-Target", "bler-target", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->bler_target, -63, 0);
+   RT_CHECK_PUT(ctx, cur, stat, "Bler-Target", "bler-target", -1, 0);
+   /* hS-SCCH-SetConfiguration */
+   stat = enc_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "HS-SCCH-TDD768", (int32_t)i, 0);
+      stat = enc_HS_SCCH_TDD768(ctx, (const HS_SCCH_TDD768*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD768", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* nack-ack-power-offset */
+   if (pvalue->nack_ack_power_offset < -7 || pvalue->nack_ack_power_offset > 8) {
+      rtxErrAddStrParm(ctx, "nack-ack-power-offset");
+      rtxErrAddIntParm(ctx, pvalue->nack_ack_power_offset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "nack-ack-power-offset", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "nack-ack-power-offset", -1, 0);
+   /* hs-SICH-PowerControl-Info */
+   stat = enc_HS_SICH_Power_Control_Info_TDD768(ctx, &pvalue->hs_SICH_PowerControl_Info, cur);
+   RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl-Info", -1, 0);
+   /* dhs-sync */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->dhs_sync < -20 || pvalue->dhs_sync > 10) {
+         rtxErrAddStrParm(ctx, "DHS-Sync");
+         rtxErrAddIntParm(ctx, pvalue->dhs_sync);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DHS-Sync", "dhs-sync", -1, 0);
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->dhs_sync, -20, 10);
+      RT_CHECK_PUT(ctx, cur, stat, "DHS-Sync", "dhs-sync", -1, 0);
+   }
+   /* bler-target */
+   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
+      rtxErrAddStrParm(ctx, "Bler-Target");
+      rtxErrAddIntParm(ctx, pvalue->bler_target);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Bler-Target", "bler-target", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->bler_target, -63, 0);
+   RT_CHECK_PUT(ctx, cur, stat, "Bler-Target", "bler-target", -1, 0);
+   /* hS-SCCH-SetConfiguration */
+   stat = enc_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_tpc_step_size value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_tpc_step_size value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_tpc_step_size, value);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size, value);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
+      stat = enc_HS_SCCH_TDD128_r6(ctx, (const HS_SCCH_TDD128_r6*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* nack-ack-power-offset */
+   if (pvalue->nack_ack_power_offset < -7 || pvalue->nack_ack_power_offset > 8) {
+      rtxErrAddStrParm(ctx, "nack-ack-power-offset");
+      rtxErrAddIntParm(ctx, pvalue->nack_ack_power_offset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "nack-ack-power-offset", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "nack-ack-power-offset", -1, 0);
+   /* power-level-HSSICH */
+   if (pvalue->power_level_HSSICH < -120 || pvalue->power_level_HSSICH > -58) {
+      rtxErrAddStrParm(ctx, "power-level-HSSICH");
+      rtxErrAddIntParm(ctx, pvalue->power_level_HSSICH);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "power-level-HSSICH", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->power_level_HSSICH, -120, -58);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "power-level-HSSICH", -1, 0);
+   /* tpc-step-size */
+   if (pvalue->tpc_step_size > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->tpc_step_size);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "tpc-step-size", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tpc_step_size, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tpc-step-size", -1, 0);
+   /* bler-target */
+   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
+      rtxErrAddStrParm(ctx, "Bler-Target");
+      rtxErrAddIntParm(ctx, pvalue->bler_target);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Bler-Target", "bler-target", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->bler_target, -63, 0);
+   RT_CHECK_PUT(ctx, cur, stat, "Bler-Target", "bler-target", -1, 0);
+   /* hS-SCCH-tpc-step-size */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->hS_SCCH_tpc_step_size > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->hS_SCCH_tpc_step_size);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "hS-SCCH-tpc-step-size", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->hS_SCCH_tpc_step_size, 0, 3);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "hS-SCCH-tpc-step-size", -1, 0);
+   }
+   /* powerControlGAP */
+   if (pvalue->m & 0x2u) {
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->powerControlGAP, 0, 255);
+      RT_CHECK_PUT(ctx, cur, stat, "PowerControlGAP", "powerControlGAP", -1, 0);
+   }
+   /* pathlossCompensationSwitch */
+   if (pvalue->m & 0x4u) {
+      stat = rtxEncBitAt(ctx, cur, pvalue->pathlossCompensationSwitch);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "pathlossCompensationSwitch", -1, 0);
+   }
+   /* hS-SCCH-SetConfiguration */
+   stat = enc_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128, pvalue);
+}
+
+static int enc_HS_SCCH_Info_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = enc_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd768 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
+         stat = enc_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_HS_SCCH_Info_r9_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_r9_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_HS_SCCH_Info_r9_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
          RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_DL_CommonInformation_r6_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_HS_SCCH_Info_r9_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
          RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
          break;
    }
    return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_r9_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info_r9(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-Info-r9");
+   /* modeSpecificInfo */
+   stat = enc_HS_SCCH_Info_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "HS-SCCH-Info-r9");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r9(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r9* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_r9, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-HSPDSCH-TS-Configuration */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DL_HSPDSCH_TS_Configuration(ctx, &pvalue->dl_HSPDSCH_TS_Configuration, cur);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-HSPDSCH-TS-Configuration */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DL_HSPDSCH_TS_Configuration_VHCR(ctx, &pvalue->dl_HSPDSCH_TS_Configuration, cur);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128_tS0_Indicator(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128_tS0_Indicator value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128_tS0_Indicator(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128_tS0_Indicator value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128_tS0_Indicator, value);
+}
+
+RT_MERGED_BODY int enc_OutofSyncWindow(rtxContext* RT_RESTRICT ctx, OutofSyncWindow value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "OutofSyncWindow");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "OutofSyncWindow");
+   return 0;
+}
+
+int asn1PE_UMTS_OutofSyncWindow(rtxContext* RT_RESTRICT ctx, OutofSyncWindow value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_OutofSyncWindow, value);
+}
+
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* hs-PDSCH-Midamble-Configuration-tdd128 */
+   if (pvalue->m & 0x1u) {
+      stat = enc_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration_tdd128, cur);
+      RT_CHECK(ctx, stat, 0, "hs-PDSCH-Midamble-Configuration-tdd128", -1, 0);
+   }
+   /* dl-MultiCarrier-Information */
+   if (pvalue->m & 0x2u) {
+      stat = enc_DL_MultiCarrier_Information(ctx, &pvalue->dl_MultiCarrier_Information, cur);
+      RT_CHECK(ctx, stat, 0, "dl-MultiCarrier-Information", -1, 0);
+   }
+   /* tS0-Indicator */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->tS0_Indicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->tS0_Indicator);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "tS0-Indicator", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tS0_Indicator, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "tS0-Indicator", -1, 0);
+   }
+   /* outofSyncWindow */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->outofSyncWindow > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->outofSyncWindow);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "OutofSyncWindow", "outofSyncWindow", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->outofSyncWindow, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "OutofSyncWindow", "outofSyncWindow", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = enc_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd768 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
+         stat = enc_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd768(ctx, pvalue->u.tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd_dl_64QAM_Configured value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd_dl_64QAM_Configured value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd_dl_64QAM_Configured, value);
+}
+
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-64QAM-Configured */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->dl_64QAM_Configured > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->dl_64QAM_Configured);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "dl-64QAM-Configured", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->dl_64QAM_Configured, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "dl-64QAM-Configured", -1, 0);
+   }
+   /* hs-DSCH-TBSizeTable */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->hs_DSCH_TBSizeTable > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->hs_DSCH_TBSizeTable);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->hs_DSCH_TBSizeTable, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r9_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_DL_HSPDSCH_Information_r9_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_DL_HSPDSCH_Information_r9_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r9_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_Information_r9_modeSpecificInfo, pvalue);
+}
+
+static int enc_DL_HSPDSCH_Information_r9(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-HSPDSCH-Information-r9");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-HSPDSCH-Information-r9");
+   /* hs-scch-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_HS_SCCH_Info_r9(ctx, &pvalue->hs_scch_Info, cur);
+      RT_CHECK(ctx, stat, 0, "hs-scch-Info", -1, "DL-HSPDSCH-Information-r9");
+   }
+   /* measurement-feedback-Info */
+   if (pvalue->m & 0x2u) {
+      stat = enc_Measurement_Feedback_Info_r7(ctx, &pvalue->measurement_feedback_Info, cur);
+      RT_CHECK(ctx, stat, 0, "measurement-feedback-Info", -1, "DL-HSPDSCH-Information-r9");
+   }
+   /* modeSpecificInfo */
+   stat = enc_DL_HSPDSCH_Information_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-HSPDSCH-Information-r9");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r9(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r9* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_Information_r9, pvalue);
+}
+
+RT_MERGED_BODY int enc_Serving_HSDSCH_CellInformation_r9_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r9_mac_hsResetIndicator value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_Serving_HSDSCH_CellInformation_r9_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, Serving_HSDSCH_CellInformation_r9_mac_hsResetIndicator value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Serving_HSDSCH_CellInformation_r9_mac_hsResetIndicator, value);
+}
+
+static int enc_Serving_HSDSCH_CellInformation_r9(rtxContext* RT_RESTRICT ctx, const Serving_HSDSCH_CellInformation_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Serving-HSDSCH-CellInformation-r9");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Serving-HSDSCH-CellInformation-r9");
+   /* deltaACK */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->deltaACK > 8u) {
+         rtxErrAddStrParm(ctx, "DeltaACK");
+         rtxErrAddUIntParm(ctx, pvalue->deltaACK);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DeltaACK", "deltaACK", -1, "Serving-HSDSCH-CellInformation-r9");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->deltaACK, 0, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "DeltaACK", "deltaACK", -1, "Serving-HSDSCH-CellInformation-r9");
+   }
+   /* deltaNACK */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->deltaNACK > 8u) {
+         rtxErrAddStrParm(ctx, "DeltaNACK");
+         rtxErrAddUIntParm(ctx, pvalue->deltaNACK);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DeltaNACK", "deltaNACK", -1, "Serving-HSDSCH-CellInformation-r9");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->deltaNACK, 0, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "DeltaNACK", "deltaNACK", -1, "Serving-HSDSCH-CellInformation-r9");
+   }
+   /* harq-Preamble-Mode */
+   if ((uint64_t)pvalue->harq_Preamble_Mode > 1u) {
+      rtxErrAddStrParm(ctx, "HARQ-Preamble-Mode");
+      rtxErrAddUIntParm(ctx, pvalue->harq_Preamble_Mode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "Serving-HSDSCH-CellInformation-r9");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->harq_Preamble_Mode, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "Serving-HSDSCH-CellInformation-r9");
+   /* primaryCPICH-Info */
+   if (pvalue->m & 0x4u) {
+      stat = enc_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "Serving-HSDSCH-CellInformation-r9");
+   }
+   /* dl-hspdsch-Information */
+   if (pvalue->m & 0x8u) {
+      stat = enc_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_hspdsch_Information, cur);
+      RT_CHECK(ctx, stat, 0, "dl-hspdsch-Information", -1, "Serving-HSDSCH-CellInformation-r9");
+   }
+   /* harqInfo */
+   if (pvalue->m & 0x10u) {
+      stat = enc_HARQ_Info_r7(ctx, &pvalue->harqInfo, cur);
+      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "Serving-HSDSCH-CellInformation-r9");
+   }
+   /* mac-hsResetIndicator */
+   if (pvalue->m & 0x20u) {
+      if (pvalue->mac_hsResetIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mac_hsResetIndicator);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation-r9");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_hsResetIndicator, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "mac-hsResetIndicator", -1, "Serving-HSDSCH-CellInformation-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Serving_HSDSCH_CellInformation_r9(rtxContext* RT_RESTRICT ctx, const Serving_HSDSCH_CellInformation_r9* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Serving_HSDSCH_CellInformation_r9, pvalue);
+}
+
+RT_MERGED_BODY int enc_SR_VCC_Info_nonce(rtxContext* RT_RESTRICT ctx, const SR_VCC_Info_nonce* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 128, 128);
+   stat = pe_BitStringAt(ctx, cur, pvalue->numbits, pvalue->data);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SR_VCC_Info_nonce(rtxContext* RT_RESTRICT ctx, const SR_VCC_Info_nonce* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SR_VCC_Info_nonce, pvalue);
+}
+
+RT_MERGED_BODY int enc_SR_VCC_Info(rtxContext* RT_RESTRICT ctx, const SR_VCC_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SR-VCC-Info");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SR-VCC-Info");
+   /* nonce */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SR_VCC_Info_nonce(ctx, &pvalue->nonce, cur);
+      RT_CHECK(ctx, stat, 0, "nonce", -1, "SR-VCC-Info");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SR_VCC_Info(rtxContext* RT_RESTRICT ctx, const SR_VCC_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SR_VCC_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_RAB_InfoReplace(rtxContext* RT_RESTRICT ctx, const RAB_InfoReplace* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InfoReplace");
+   /* rab-Identity */
+   stat = enc_RAB_Identity(ctx, &pvalue->rab_Identity, cur);
+   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-InfoReplace");
+   /* cn-DomainIdentity */
+   if (pvalue->cn_DomainIdentity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-InfoReplace");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-InfoReplace");
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InfoReplace(rtxContext* RT_RESTRICT ctx, const RAB_InfoReplace* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAB_InfoReplace, pvalue);
+}
+
+RT_MERGED_BODY int enc_SR_VCC_SecurityRABInfo_v860ext(rtxContext* RT_RESTRICT ctx, const SR_VCC_SecurityRABInfo_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SR-VCC-SecurityRABInfo-v860ext");
+   /* sr-vcc-Info */
+   stat = enc_SR_VCC_Info(ctx, &pvalue->sr_vcc_Info, cur);
+   RT_CHECK(ctx, stat, 0, "sr-vcc-Info", -1, "SR-VCC-SecurityRABInfo-v860ext");
+   /* rab-InfoReplace */
+   stat = enc_RAB_InfoReplace(ctx, &pvalue->rab_InfoReplace, cur);
+   RT_CHECK(ctx, stat, 0, "rab-InfoReplace", -1, "SR-VCC-SecurityRABInfo-v860ext");
+   return 0;
+}
+
+int asn1PE_UMTS_SR_VCC_SecurityRABInfo_v860ext(rtxContext* RT_RESTRICT ctx, const SR_VCC_SecurityRABInfo_v860ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SR_VCC_SecurityRABInfo_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_START_Value(rtxContext* RT_RESTRICT ctx, START_Value value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 20, 20);
+   stat = pe_BitString32At(ctx, cur, &value, 20, 20);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "START-Value");
+   return 0;
+}
+
+int asn1PE_UMTS_START_Value(rtxContext* RT_RESTRICT ctx, START_Value value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_START_Value, value);
+}
+
+RT_MERGED_BODY int enc_STARTSingle(rtxContext* RT_RESTRICT ctx, const STARTSingle* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "STARTSingle");
+   /* cn-DomainIdentity */
+   if (pvalue->cn_DomainIdentity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "STARTSingle");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "STARTSingle");
+   /* start-Value */
+   stat = enc_START_Value(ctx, pvalue->start_Value, cur);
+   RT_CHECK(ctx, stat, 0, "start-Value", -1, "STARTSingle");
+   return 0;
+}
+
+int asn1PE_UMTS_STARTSingle(rtxContext* RT_RESTRICT ctx, const STARTSingle* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_STARTSingle, pvalue);
+}
+
+RT_MERGED_BODY int enc_STARTList(rtxContext* RT_RESTRICT ctx, const STARTList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "STARTList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "STARTList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "STARTSingle", (int32_t)i, "STARTList");
+      stat = enc_STARTSingle(ctx, (const STARTSingle*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "STARTSingle", (int32_t)i, "STARTList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_STARTList(rtxContext* RT_RESTRICT ctx, const STARTList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_STARTList, pvalue);
+}
+
+RT_MERGED_BODY int enc_SystemSpecificCapUpdateReq_v590ext(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReq_v590ext value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "SystemSpecificCapUpdateReq-v590ext");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SystemSpecificCapUpdateReq-v590ext");
+   return 0;
+}
+
+int asn1PE_UMTS_SystemSpecificCapUpdateReq_v590ext(rtxContext* RT_RESTRICT ctx, SystemSpecificCapUpdateReq_v590ext value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SystemSpecificCapUpdateReq_v590ext, value);
+}
+
+RT_MERGED_BODY int enc_T_318(rtxContext* RT_RESTRICT ctx, T_318 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 14) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "T-318");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 14);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "T-318");
+   return 0;
+}
+
+int asn1PE_UMTS_T_318(rtxContext* RT_RESTRICT ctx, T_318 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_T_318, value);
+}
+
+RT_MERGED_BODY int enc_T_319(rtxContext* RT_RESTRICT ctx, T_319 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 6) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "T-319");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "T-319");
+   return 0;
+}
+
+int asn1PE_UMTS_T_319(rtxContext* RT_RESTRICT ctx, T_319 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_T_319, value);
+}
+
+RT_MERGED_BODY int enc_UL_TransChCapability_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_TransChCapability_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* maxSimultaneousCCTrCH-Count */
+   if ((uint64_t)(pvalue->maxSimultaneousCCTrCH_Count - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "MaxSimultaneousCCTrCH-Count");
+      rtxErrAddUIntParm(ctx, pvalue->maxSimultaneousCCTrCH_Count);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MaxSimultaneousCCTrCH-Count", "maxSimultaneousCCTrCH-Count", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxSimultaneousCCTrCH_Count, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxSimultaneousCCTrCH-Count", "maxSimultaneousCCTrCH-Count", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_TransChCapability_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_TransChCapability_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_TransChCapability_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_TransChCapability_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_TransChCapability_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_UL_TransChCapability_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_TransChCapability_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_TransChCapability_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_TransChCapability_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_TransChCapability(rtxContext* RT_RESTRICT ctx, const UL_TransChCapability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-TransChCapability");
+   /* maxNoBitsTransmitted */
+   if (pvalue->maxNoBitsTransmitted > 12) {
+      rtxErrAddUIntParm(ctx, pvalue->maxNoBitsTransmitted);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxNoBits", "maxNoBitsTransmitted", -1, "UL-TransChCapability");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxNoBitsTransmitted, 0, 12);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxNoBits", "maxNoBitsTransmitted", -1, "UL-TransChCapability");
+   /* maxConvCodeBitsTransmitted */
+   if (pvalue->maxConvCodeBitsTransmitted > 12) {
+      rtxErrAddUIntParm(ctx, pvalue->maxConvCodeBitsTransmitted);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxNoBits", "maxConvCodeBitsTransmitted", -1, "UL-TransChCapability");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxConvCodeBitsTransmitted, 0, 12);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxNoBits", "maxConvCodeBitsTransmitted", -1, "UL-TransChCapability");
+   /* turboEncodingSupport */
+   stat = enc_TurboSupport(ctx, &pvalue->turboEncodingSupport, cur);
+   RT_CHECK(ctx, stat, 0, "turboEncodingSupport", -1, "UL-TransChCapability");
+   /* maxSimultaneousTransChs */
+   if (pvalue->maxSimultaneousTransChs > 4) {
+      rtxErrAddUIntParm(ctx, pvalue->maxSimultaneousTransChs);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxSimultaneousTransChsUL", "maxSimultaneousTransChs", -1, "UL-TransChCapability");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxSimultaneousTransChs, 0, 4);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxSimultaneousTransChsUL", "maxSimultaneousTransChs", -1, "UL-TransChCapability");
+   /* modeSpecificInfo */
+   stat = enc_UL_TransChCapability_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-TransChCapability");
+   /* maxTransmittedBlocks */
+   if (pvalue->maxTransmittedBlocks > 10) {
+      rtxErrAddUIntParm(ctx, pvalue->maxTransmittedBlocks);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxTransportBlocksUL", "maxTransmittedBlocks", -1, "UL-TransChCapability");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxTransmittedBlocks, 0, 10);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxTransportBlocksUL", "maxTransmittedBlocks", -1, "UL-TransChCapability");
+   /* maxNumberOfTFC */
+   if (pvalue->maxNumberOfTFC > 10) {
+      rtxErrAddUIntParm(ctx, pvalue->maxNumberOfTFC);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxNumberOfTFC-UL", "maxNumberOfTFC", -1, "UL-TransChCapability");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxNumberOfTFC, 0, 10);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxNumberOfTFC-UL", "maxNumberOfTFC", -1, "UL-TransChCapability");
+   /* maxNumberOfTF */
+   if (pvalue->maxNumberOfTF > 5) {
+      rtxErrAddUIntParm(ctx, pvalue->maxNumberOfTF);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxNumberOfTF", "maxNumberOfTF", -1, "UL-TransChCapability");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxNumberOfTF, 0, 5);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxNumberOfTF", "maxNumberOfTF", -1, "UL-TransChCapability");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_TransChCapability(rtxContext* RT_RESTRICT ctx, const UL_TransChCapability* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_TransChCapability, pvalue);
+}
+
+static int enc_TransportChannelCapability(rtxContext* RT_RESTRICT ctx, const TransportChannelCapability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TransportChannelCapability");
+   /* dl-TransChCapability */
+   stat = enc_DL_TransChCapability(ctx, &pvalue->dl_TransChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "dl-TransChCapability", -1, "TransportChannelCapability");
+   /* ul-TransChCapability */
+   stat = enc_UL_TransChCapability(ctx, &pvalue->ul_TransChCapability, cur);
+   RT_CHECK(ctx, stat, 0, "ul-TransChCapability", -1, "TransportChannelCapability");
+   return 0;
+}
+
+int asn1PE_UMTS_TransportChannelCapability(rtxContext* RT_RESTRICT ctx, const TransportChannelCapability* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TransportChannelCapability, pvalue);
+}
+
+RT_MERGED_BODY int enc_U_RNTI_Short(rtxContext* RT_RESTRICT ctx, const U_RNTI_Short* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "U-RNTI-Short");
+   /* srnc-Identity */
+   stat = enc_SRNC_Identity(ctx, pvalue->srnc_Identity, cur);
+   RT_CHECK(ctx, stat, 0, "srnc-Identity", -1, "U-RNTI-Short");
+   /* s-RNTI-2 */
+   stat = enc_S_RNTI_2(ctx, pvalue->s_RNTI_2, cur);
+   RT_CHECK(ctx, stat, 0, "s-RNTI-2", -1, "U-RNTI-Short");
+   return 0;
+}
+
+int asn1PE_UMTS_U_RNTI_Short(rtxContext* RT_RESTRICT ctx, const U_RNTI_Short* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_U_RNTI_Short, pvalue);
+}
+
+RT_MERGED_BODY int enc_PhysicalChannelCapability_edch_r6_fdd_edch_supported(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_edch_r6_fdd_edch_supported* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* edch-PhysicalLayerCategory */
+   if ((uint64_t)(pvalue->edch_PhysicalLayerCategory - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "edch-PhysicalLayerCategory");
+      rtxErrAddUIntParm(ctx, pvalue->edch_PhysicalLayerCategory);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "edch-PhysicalLayerCategory", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->edch_PhysicalLayerCategory, 1, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "edch-PhysicalLayerCategory", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_edch_r6_fdd_edch_supported(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_edch_r6_fdd_edch_supported* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PhysicalChannelCapability_edch_r6_fdd_edch_supported, pvalue);
+}
+
+RT_MERGED_BODY int enc_PhysicalChannelCapability_edch_r6_fdd_edch(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_edch_r6_fdd_edch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.supported == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "supported", -1, 0);
+         stat = enc_PhysicalChannelCapability_edch_r6_fdd_edch_supported(ctx, pvalue->u.supported, cur);
+         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_edch_r6_fdd_edch(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_edch_r6_fdd_edch* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PhysicalChannelCapability_edch_r6_fdd_edch, pvalue);
+}
+
+RT_MERGED_BODY int enc_PhysicalChannelCapability_edch_r6(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_edch_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PhysicalChannelCapability-edch-r6");
+   /* fdd-edch */
+   stat = enc_PhysicalChannelCapability_edch_r6_fdd_edch(ctx, &pvalue->fdd_edch, cur);
+   RT_CHECK(ctx, stat, 0, "fdd-edch", -1, "PhysicalChannelCapability-edch-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_PhysicalChannelCapability_edch_r6(rtxContext* RT_RESTRICT ctx, const PhysicalChannelCapability_edch_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PhysicalChannelCapability_edch_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v690ext_deviceType(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v690ext_deviceType value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v690ext_deviceType(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v690ext_deviceType value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v690ext_deviceType, value);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v690ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v690ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v690ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapability-v690ext");
+   /* physicalchannelcapability-edch */
+   stat = enc_PhysicalChannelCapability_edch_r6(ctx, &pvalue->physicalchannelcapability_edch, cur);
+   RT_CHECK(ctx, stat, 0, "physicalchannelcapability-edch", -1, "UE-RadioAccessCapability-v690ext");
+   /* deviceType */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->deviceType > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->deviceType);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "deviceType", -1, "UE-RadioAccessCapability-v690ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->deviceType, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "deviceType", -1, "UE-RadioAccessCapability-v690ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v690ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v690ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v690ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterRAT_UE_RadioAccessCapability_v690ext_supportOfInter_RAT_PS_Handover(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapability_v690ext_supportOfInter_RAT_PS_Handover value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_InterRAT_UE_RadioAccessCapability_v690ext_supportOfInter_RAT_PS_Handover(rtxContext* RT_RESTRICT ctx, InterRAT_UE_RadioAccessCapability_v690ext_supportOfInter_RAT_PS_Handover value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterRAT_UE_RadioAccessCapability_v690ext_supportOfInter_RAT_PS_Handover, value);
+}
+
+RT_MERGED_BODY int enc_GSM_MS_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, const GSM_MS_RadioAccessCapability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GSM-MS-RadioAccessCapability");
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pe_OctetStringAt(ctx, cur, pvalue->numocts, pvalue->data);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "GSM-MS-RadioAccessCapability");
+   return 0;
+}
+
+int asn1PE_UMTS_GSM_MS_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, const GSM_MS_RadioAccessCapability* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GSM_MS_RadioAccessCapability, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterRAT_UE_RadioAccessCapability_v690ext(rtxContext* RT_RESTRICT ctx, const InterRAT_UE_RadioAccessCapability_v690ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterRAT-UE-RadioAccessCapability-v690ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterRAT-UE-RadioAccessCapability-v690ext");
+   /* supportOfInter-RAT-PS-Handover */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportOfInter_RAT_PS_Handover > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfInter_RAT_PS_Handover);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportOfInter-RAT-PS-Handover", -1, "InterRAT-UE-RadioAccessCapability-v690ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportOfInter_RAT_PS_Handover, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfInter-RAT-PS-Handover", -1, "InterRAT-UE-RadioAccessCapability-v690ext");
+   }
+   /* gsm-MS-RadioAccessCapability */
+   stat = enc_GSM_MS_RadioAccessCapability(ctx, &pvalue->gsm_MS_RadioAccessCapability, cur);
+   RT_CHECK(ctx, stat, 0, "gsm-MS-RadioAccessCapability", -1, "InterRAT-UE-RadioAccessCapability-v690ext");
+   return 0;
+}
+
+int asn1PE_UMTS_InterRAT_UE_RadioAccessCapability_v690ext(rtxContext* RT_RESTRICT ctx, const InterRAT_UE_RadioAccessCapability_v690ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterRAT_UE_RadioAccessCapability_v690ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v6b0ext_IEs_supportForSIB11bis(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v6b0ext_IEs_supportForSIB11bis value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v6b0ext_IEs_supportForSIB11bis(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v6b0ext_IEs_supportForSIB11bis value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v6b0ext_IEs_supportForSIB11bis, value);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v6b0ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v6b0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapability-v6b0ext-IEs");
+   /* supportForSIB11bis */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportForSIB11bis > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportForSIB11bis);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportForSIB11bis", -1, "UE-RadioAccessCapability-v6b0ext-IEs");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportForSIB11bis, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportForSIB11bis", -1, "UE-RadioAccessCapability-v6b0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v6b0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v6b0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v6e0ext_IEs_supportForFDPCH(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v6e0ext_IEs_supportForFDPCH value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v6e0ext_IEs_supportForFDPCH(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v6e0ext_IEs_supportForFDPCH value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v6e0ext_IEs_supportForFDPCH, value);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v6e0ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v6e0ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v6e0ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapability-v6e0ext-IEs");
+   /* supportForFDPCH */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportForFDPCH > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportForFDPCH);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportForFDPCH", -1, "UE-RadioAccessCapability-v6e0ext-IEs");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportForFDPCH, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportForFDPCH", -1, "UE-RadioAccessCapability-v6e0ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v6e0ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v6e0ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v6e0ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_GANSSPositioning_Capability(rtxContext* RT_RESTRICT ctx, const UE_GANSSPositioning_Capability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-GANSSPositioning-Capability");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-GANSSPositioning-Capability");
+   /* networkAssistedGANSS-supportedList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_NetworkAssistedGANSS_Supported_List(ctx, &pvalue->networkAssistedGANSS_supportedList, cur);
+      RT_CHECK(ctx, stat, 0, "networkAssistedGANSS-supportedList", -1, "UE-GANSSPositioning-Capability");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_GANSSPositioning_Capability(rtxContext* RT_RESTRICT ctx, const UE_GANSSPositioning_Capability* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_GANSSPositioning_Capability, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_PositioningCapability_v770ext(rtxContext* RT_RESTRICT ctx, const UE_PositioningCapability_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-PositioningCapability-v770ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-PositioningCapability-v770ext");
+   /* ue-GANSSPositioning-Capability */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UE_GANSSPositioning_Capability(ctx, &pvalue->ue_GANSSPositioning_Capability, cur);
+      RT_CHECK(ctx, stat, 0, "ue-GANSSPositioning-Capability", -1, "UE-PositioningCapability-v770ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_PositioningCapability_v770ext(rtxContext* RT_RESTRICT ctx, const UE_PositioningCapability_v770ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_PositioningCapability_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v770ext_IEs_mac_ehsSupport(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v770ext_IEs_mac_ehsSupport value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v770ext_IEs_mac_ehsSupport(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v770ext_IEs_mac_ehsSupport value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v770ext_IEs_mac_ehsSupport, value);
+}
+
+RT_MERGED_BODY int enc_UE_SpecificCapabilityInformation_LCRTDD(rtxContext* RT_RESTRICT ctx, UE_SpecificCapabilityInformation_LCRTDD value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "UE-SpecificCapabilityInformation-LCRTDD");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-SpecificCapabilityInformation-LCRTDD");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_SpecificCapabilityInformation_LCRTDD(rtxContext* RT_RESTRICT ctx, UE_SpecificCapabilityInformation_LCRTDD value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_SpecificCapabilityInformation_LCRTDD, value);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v770ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v770ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapability-v770ext-IEs");
+   /* pdcp-Capability */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PDCP_Capability_v770ext(ctx, &pvalue->pdcp_Capability, cur);
+      RT_CHECK(ctx, stat, 0, "pdcp-Capability", -1, "UE-RadioAccessCapability-v770ext-IEs");
+   }
+   /* rlc-Capability */
+   stat = enc_RLC_Capability_v770ext(ctx, &pvalue->rlc_Capability, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-Capability", -1, "UE-RadioAccessCapability-v770ext-IEs");
+   /* rf-Capability */
+   if (pvalue->m & 0x2u) {
+      stat = enc_RF_Capability_v770ext(ctx, &pvalue->rf_Capability, cur);
+      RT_CHECK(ctx, stat, 0, "rf-Capability", -1, "UE-RadioAccessCapability-v770ext-IEs");
+   }
+   /* physicalChannelCapability */
+   stat = enc_PhysicalChannelCapability_v770ext(ctx, &pvalue->physicalChannelCapability, cur);
+   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapability-v770ext-IEs");
+   /* multiModeRAT-Capability */
+   stat = enc_MultiModeRAT_Capability_v770ext(ctx, &pvalue->multiModeRAT_Capability, cur);
+   RT_CHECK(ctx, stat, 0, "multiModeRAT-Capability", -1, "UE-RadioAccessCapability-v770ext-IEs");
+   /* ue-PositioningCapability */
+   stat = enc_UE_PositioningCapability_v770ext(ctx, &pvalue->ue_PositioningCapability, cur);
+   RT_CHECK(ctx, stat, 0, "ue-PositioningCapability", -1, "UE-RadioAccessCapability-v770ext-IEs");
+   /* mac-ehsSupport */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->mac_ehsSupport > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mac_ehsSupport);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "mac-ehsSupport", -1, "UE-RadioAccessCapability-v770ext-IEs");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_ehsSupport, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "mac-ehsSupport", -1, "UE-RadioAccessCapability-v770ext-IEs");
+   }
+   /* ue-specificCapabilityInformation */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->ue_specificCapabilityInformation > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->ue_specificCapabilityInformation);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UE-SpecificCapabilityInformation-LCRTDD", "ue-specificCapabilityInformation", -1, "UE-RadioAccessCapability-v770ext-IEs");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ue_specificCapabilityInformation, 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "UE-SpecificCapabilityInformation-LCRTDD", "ue-specificCapabilityInformation", -1, "UE-RadioAccessCapability-v770ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v770ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v770ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v790ext_IEs_supportForEDPCCHPowerBoosting(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v790ext_IEs_supportForEDPCCHPowerBoosting value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v790ext_IEs_supportForEDPCCHPowerBoosting(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v790ext_IEs_supportForEDPCCHPowerBoosting value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v790ext_IEs_supportForEDPCCHPowerBoosting, value);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v790ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v790ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v790ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapability-v790ext-IEs");
+   /* supportForEDPCCHPowerBoosting */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportForEDPCCHPowerBoosting > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportForEDPCCHPowerBoosting);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportForEDPCCHPowerBoosting", -1, "UE-RadioAccessCapability-v790ext-IEs");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportForEDPCCHPowerBoosting, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportForEDPCCHPowerBoosting", -1, "UE-RadioAccessCapability-v790ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v790ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v790ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v790ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_GANSSPositioning_Capability_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_GANSSPositioning_Capability_v860ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-GANSSPositioning-Capability-v860ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-GANSSPositioning-Capability-v860ext-IEs");
+   /* networkAssistedGANSS-supportedList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_NetworkAssistedGANSS_Supported_List_v860ext(ctx, &pvalue->networkAssistedGANSS_supportedList, cur);
+      RT_CHECK(ctx, stat, 0, "networkAssistedGANSS-supportedList", -1, "UE-GANSSPositioning-Capability-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_GANSSPositioning_Capability_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_GANSSPositioning_Capability_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_GANSSPositioning_Capability_v860ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_PositioningCapability_v860ext(rtxContext* RT_RESTRICT ctx, const UE_PositioningCapability_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-PositioningCapability-v860ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-PositioningCapability-v860ext");
+   /* ue-GANSSPositioning-Capability-v860ext */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UE_GANSSPositioning_Capability_v860ext_IEs(ctx, &pvalue->ue_GANSSPositioning_Capability_v860ext, cur);
+      RT_CHECK(ctx, stat, 0, "ue-GANSSPositioning-Capability-v860ext", -1, "UE-PositioningCapability-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_PositioningCapability_v860ext(rtxContext* RT_RESTRICT ctx, const UE_PositioningCapability_v860ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_PositioningCapability_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v860ext_IEs_supportOfCommonEDCH(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfCommonEDCH value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfCommonEDCH(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfCommonEDCH value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v860ext_IEs_supportOfCommonEDCH, value);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v860ext_IEs_supportOfMACiis(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfMACiis value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfMACiis(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfMACiis value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v860ext_IEs_supportOfMACiis, value);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v860ext_IEs_supportOfSPSOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfSPSOperation value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfSPSOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfSPSOperation value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v860ext_IEs_supportOfSPSOperation, value);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v860ext_IEs_supportOfControlChannelDRXOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfControlChannelDRXOperation value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfControlChannelDRXOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfControlChannelDRXOperation value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v860ext_IEs_supportOfControlChannelDRXOperation, value);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v860ext_IEs_supportOfCSG(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfCSG value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v860ext_IEs_supportOfCSG(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v860ext_IEs_supportOfCSG value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v860ext_IEs_supportOfCSG, value);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabBandFDD3(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDD3* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabBandFDD3");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDD3");
+   /* radioFrequencyBandFDD */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->radioFrequencyBandFDD > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandFDD);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "UE-RadioAccessCapabBandFDD3");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->radioFrequencyBandFDD, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "UE-RadioAccessCapabBandFDD3");
+   }
+   /* radioFrequencyBandFDD2 */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->radioFrequencyBandFDD2 > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandFDD2);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "RadioFrequencyBandFDD2", "radioFrequencyBandFDD2", -1, "UE-RadioAccessCapabBandFDD3");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->radioFrequencyBandFDD2, 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "RadioFrequencyBandFDD2", "radioFrequencyBandFDD2", -1, "UE-RadioAccessCapabBandFDD3");
+   }
+   /* measurementCapability3 */
+   stat = enc_MeasurementCapabilityExt3(ctx, &pvalue->measurementCapability3, cur);
+   RT_CHECK(ctx, stat, 0, "measurementCapability3", -1, "UE-RadioAccessCapabBandFDD3");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabBandFDD3(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDD3* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabBandFDD3, pvalue);
+}
+
+static int enc_UE_RadioAccessCapabBandFDDList3(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDDList3* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabBandFDDList3");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDDList3");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "UE-RadioAccessCapabBandFDD3", (int32_t)i, "UE-RadioAccessCapabBandFDDList3");
+      stat = enc_UE_RadioAccessCapabBandFDD3(ctx, (const UE_RadioAccessCapabBandFDD3*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "UE-RadioAccessCapabBandFDD3", (int32_t)i, "UE-RadioAccessCapabBandFDDList3");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabBandFDDList3(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDDList3* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabBandFDDList3, pvalue);
+}
+
+static int enc_UE_RadioAccessCapability_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v860ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v860ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 0), 9);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapability-v860ext-IEs");
+   /* rf-Capability */
+   if (pvalue->m & 0x1u) {
+      stat = enc_RF_Capability_v860ext(ctx, &pvalue->rf_Capability, cur);
+      RT_CHECK(ctx, stat, 0, "rf-Capability", -1, "UE-RadioAccessCapability-v860ext-IEs");
+   }
+   /* physicalChannelCapability */
+   stat = enc_PhysicalChannelCapability_v860ext(ctx, &pvalue->physicalChannelCapability, cur);
+   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapability-v860ext-IEs");
+   /* multiModeRAT-Capability */
+   stat = enc_MultiModeRAT_Capability_v860ext(ctx, &pvalue->multiModeRAT_Capability, cur);
+   RT_CHECK(ctx, stat, 0, "multiModeRAT-Capability", -1, "UE-RadioAccessCapability-v860ext-IEs");
+   /* ue-PositioningCapability */
+   stat = enc_UE_PositioningCapability_v860ext(ctx, &pvalue->ue_PositioningCapability, cur);
+   RT_CHECK(ctx, stat, 0, "ue-PositioningCapability", -1, "UE-RadioAccessCapability-v860ext-IEs");
+   /* measurementCapability */
+   if (pvalue->m & 0x2u) {
+      stat = enc_MeasurementCapability_v860ext(ctx, &pvalue->measurementCapability, cur);
+      RT_CHECK(ctx, stat, 0, "measurementCapability", -1, "UE-RadioAccessCapability-v860ext-IEs");
+   }
+   /* measurementCapabilityTDD */
+   if (pvalue->m & 0x4u) {
+      stat = enc_MeasurementCapabilityTDD(ctx, &pvalue->measurementCapabilityTDD, cur);
+      RT_CHECK(ctx, stat, 0, "measurementCapabilityTDD", -1, "UE-RadioAccessCapability-v860ext-IEs");
+   }
+   /* supportOfCommonEDCH */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->supportOfCommonEDCH > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfCommonEDCH);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportOfCommonEDCH", -1, "UE-RadioAccessCapability-v860ext-IEs");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportOfCommonEDCH, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfCommonEDCH", -1, "UE-RadioAccessCapability-v860ext-IEs");
+   }
+   /* supportOfMACiis */
+   if (pvalue->m & 0x10u) {
+      if (pvalue->supportOfMACiis > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfMACiis);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportOfMACiis", -1, "UE-RadioAccessCapability-v860ext-IEs");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportOfMACiis, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfMACiis", -1, "UE-RadioAccessCapability-v860ext-IEs");
+   }
+   /* supportOfSPSOperation */
+   if (pvalue->m & 0x20u) {
+      if (pvalue->supportOfSPSOperation > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfSPSOperation);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportOfSPSOperation", -1, "UE-RadioAccessCapability-v860ext-IEs");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportOfSPSOperation, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfSPSOperation", -1, "UE-RadioAccessCapability-v860ext-IEs");
+   }
+   /* supportOfControlChannelDRXOperation */
+   if (pvalue->m & 0x40u) {
+      if (pvalue->supportOfControlChannelDRXOperation > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfControlChannelDRXOperation);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportOfControlChannelDRXOperation", -1, "UE-RadioAccessCapability-v860ext-IEs");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportOfControlChannelDRXOperation, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfControlChannelDRXOperation", -1, "UE-RadioAccessCapability-v860ext-IEs");
+   }
+   /* supportOfCSG */
+   if (pvalue->m & 0x80u) {
+      if (pvalue->supportOfCSG > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfCSG);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportOfCSG", -1, "UE-RadioAccessCapability-v860ext-IEs");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportOfCSG, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfCSG", -1, "UE-RadioAccessCapability-v860ext-IEs");
+   }
+   /* ue-RadioAccessCapabBandFDDList3 */
+   if (pvalue->m & 0x100u) {
+      stat = enc_UE_RadioAccessCapabBandFDDList3(ctx, &pvalue->ue_RadioAccessCapabBandFDDList3, cur);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabBandFDDList3", -1, "UE-RadioAccessCapability-v860ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v860ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v860ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_EUTRA_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, const EUTRA_RadioAccessCapability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-RadioAccessCapability");
+   /* ue-EUTRA-Capability */
+   RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
+   stat = pe_OctetStringAt(ctx, cur, pvalue->ue_EUTRA_Capability.numocts, pvalue->ue_EUTRA_Capability.data);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ue-EUTRA-Capability", -1, "EUTRA-RadioAccessCapability");
+   return 0;
+}
+
+int asn1PE_UMTS_EUTRA_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, const EUTRA_RadioAccessCapability* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EUTRA_RadioAccessCapability, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterRAT_UE_RadioAccessCapability_v860ext(rtxContext* RT_RESTRICT ctx, const InterRAT_UE_RadioAccessCapability_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterRAT-UE-RadioAccessCapability-v860ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterRAT-UE-RadioAccessCapability-v860ext");
+   /* eutra-RadioAccessCapability */
+   if (pvalue->m & 0x1u) {
+      stat = enc_EUTRA_RadioAccessCapability(ctx, &pvalue->eutra_RadioAccessCapability, cur);
+      RT_CHECK(ctx, stat, 0, "eutra-RadioAccessCapability", -1, "InterRAT-UE-RadioAccessCapability-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRAT_UE_RadioAccessCapability_v860ext(rtxContext* RT_RESTRICT ctx, const InterRAT_UE_RadioAccessCapability_v860ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterRAT_UE_RadioAccessCapability_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v880ext_IEs_supportForPriorityReselectionInUTRAN(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v880ext_IEs_supportForPriorityReselectionInUTRAN value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v880ext_IEs_supportForPriorityReselectionInUTRAN(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v880ext_IEs_supportForPriorityReselectionInUTRAN value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v880ext_IEs_supportForPriorityReselectionInUTRAN, value);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v880ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v880ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v880ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapability-v880ext-IEs");
+   /* supportForPriorityReselectionInUTRAN */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportForPriorityReselectionInUTRAN > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportForPriorityReselectionInUTRAN);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportForPriorityReselectionInUTRAN", -1, "UE-RadioAccessCapability-v880ext-IEs");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportForPriorityReselectionInUTRAN, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportForPriorityReselectionInUTRAN", -1, "UE-RadioAccessCapability-v880ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v880ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v880ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v880ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v890ext_IEs_supportCellSpecificTxDiversityinDC_Operation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v890ext_IEs_supportCellSpecificTxDiversityinDC_Operation value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v890ext_IEs_supportCellSpecificTxDiversityinDC_Operation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v890ext_IEs_supportCellSpecificTxDiversityinDC_Operation value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v890ext_IEs_supportCellSpecificTxDiversityinDC_Operation, value);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v890ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v890ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v890ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapability-v890ext-IEs");
+   /* supportCellSpecificTxDiversityinDC-Operation */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportCellSpecificTxDiversityinDC_Operation > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportCellSpecificTxDiversityinDC_Operation);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportCellSpecificTxDiversityinDC-Operation", -1, "UE-RadioAccessCapability-v890ext-IEs");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportCellSpecificTxDiversityinDC_Operation, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportCellSpecificTxDiversityinDC-Operation", -1, "UE-RadioAccessCapability-v890ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v890ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v890ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v890ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabBandCombList(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandCombList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabBandCombList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapabBandCombList");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)(pvalue->elem[i] - 1) > 255u) {
+         rtxErrAddStrParm(ctx, "BandComb");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "BandComb", "BandComb", (int32_t)i, "UE-RadioAccessCapabBandCombList");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 1, 256);
+      RT_CHECK_PUT(ctx, cur, stat, "BandComb", "BandComb", (int32_t)i, "UE-RadioAccessCapabBandCombList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabBandCombList(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandCombList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabBandCombList, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v920ext_IEs_supportOfenhancedTS0(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v920ext_IEs_supportOfenhancedTS0 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v920ext_IEs_supportOfenhancedTS0(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v920ext_IEs_supportOfenhancedTS0 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v920ext_IEs_supportOfenhancedTS0, value);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v920ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v920ext_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v920ext-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapability-v920ext-IEs");
+   /* ue-RadioAccessCapabBandCombList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UE_RadioAccessCapabBandCombList(ctx, &pvalue->ue_RadioAccessCapabBandCombList, cur);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabBandCombList", -1, "UE-RadioAccessCapability-v920ext-IEs");
+   }
+   /* physicalChannelCapability */
+   stat = enc_PhysicalChannelCapability_v920ext(ctx, &pvalue->physicalChannelCapability, cur);
+   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapability-v920ext-IEs");
+   /* rlc-Capability */
+   stat = enc_RLC_Capability_v920ext(ctx, &pvalue->rlc_Capability, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-Capability", -1, "UE-RadioAccessCapability-v920ext-IEs");
+   /* supportOfenhancedTS0 */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->supportOfenhancedTS0 > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfenhancedTS0);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportOfenhancedTS0", -1, "UE-RadioAccessCapability-v920ext-IEs");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportOfenhancedTS0, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfenhancedTS0", -1, "UE-RadioAccessCapability-v920ext-IEs");
+   }
+   /* measurementCapability */
+   if (pvalue->m & 0x4u) {
+      stat = enc_MeasurementCapability_v920ext(ctx, &pvalue->measurementCapability, cur);
+      RT_CHECK(ctx, stat, 0, "measurementCapability", -1, "UE-RadioAccessCapability-v920ext-IEs");
+   }
+   /* csgProximityIndicationCapability */
+   if (pvalue->m & 0x8u) {
+      stat = enc_CSG_ProximityIndicationCapability(ctx, &pvalue->csgProximityIndicationCapability, cur);
+      RT_CHECK(ctx, stat, 0, "csgProximityIndicationCapability", -1, "UE-RadioAccessCapability-v920ext-IEs");
+   }
+   /* neighCellSI-AcquisitionCapability */
+   if (pvalue->m & 0x10u) {
+      stat = enc_NeighCellSI_AcquisitionCapability(ctx, &pvalue->neighCellSI_AcquisitionCapability, cur);
+      RT_CHECK(ctx, stat, 0, "neighCellSI-AcquisitionCapability", -1, "UE-RadioAccessCapability-v920ext-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v920ext_IEs(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v920ext_IEs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v920ext_IEs, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ue-RadioAccessCapability-v920ext */
+   stat = enc_UE_RadioAccessCapability_v920ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v920ext, cur);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v920ext", -1, 0);
+   /* nonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ue-RadioAccessCapability-v890ext */
+   stat = enc_UE_RadioAccessCapability_v890ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v890ext, cur);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v890ext", -1, 0);
+   /* v920NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ue-RadioAccessCapability-v880ext */
+   stat = enc_UE_RadioAccessCapability_v880ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v880ext, cur);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v880ext", -1, 0);
+   /* v890NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ue-RadioAccessCapability-v860ext */
+   stat = enc_UE_RadioAccessCapability_v860ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v860ext, cur);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v860ext", -1, 0);
+   /* ue-RATSpecificCapability-v860ext */
+   if (pvalue->m & 0x1u) {
+      stat = enc_InterRAT_UE_RadioAccessCapability_v860ext(ctx, &pvalue->ue_RATSpecificCapability_v860ext, cur);
+      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability-v860ext", -1, 0);
+   }
+   /* v880NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = enc_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions_v880NonCriticalExtensions(ctx, &pvalue->v880NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v880NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ue-RadioAccessCapability-v790ext */
+   stat = enc_UE_RadioAccessCapability_v790ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v790ext, cur);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v790ext", -1, 0);
+   /* v860NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions, pvalue);
+}
+
+static int enc_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ue-RadioAccessCapability-v770ext */
+   stat = enc_UE_RadioAccessCapability_v770ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v770ext, cur);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v770ext", -1, 0);
+   /* v790NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions_v790NonCriticalExtensions(ctx, &pvalue->v790NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v790NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ue-RadioAccessCapability-v6e0ext */
+   stat = enc_UE_RadioAccessCapability_v6e0ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v6e0ext, cur);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v6e0ext", -1, 0);
+   /* v770NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ue-RadioAccessCapability-v6b0ext */
+   stat = enc_UE_RadioAccessCapability_v6b0ext_IEs(ctx, &pvalue->ue_RadioAccessCapability_v6b0ext, cur);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v6b0ext", -1, 0);
+   /* v6e0NonCriticalExtensions */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions_v6e0NonCriticalExtensions(ctx, &pvalue->v6e0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v6e0NonCriticalExtensions", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions, pvalue);
+}
+
+static int enc_UE_CapabilityContainer_IEs(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-CapabilityContainer-IEs");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-CapabilityContainer-IEs");
+   /* ue-RadioAccessCapability-v690ext */
+   stat = enc_UE_RadioAccessCapability_v690ext(ctx, &pvalue->ue_RadioAccessCapability_v690ext, cur);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v690ext", -1, "UE-CapabilityContainer-IEs");
+   /* ue-RATSpecificCapability-v690ext */
+   if (pvalue->m & 0x1u) {
+      stat = enc_InterRAT_UE_RadioAccessCapability_v690ext(ctx, &pvalue->ue_RATSpecificCapability_v690ext, cur);
+      RT_CHECK(ctx, stat, 0, "ue-RATSpecificCapability-v690ext", -1, "UE-CapabilityContainer-IEs");
+   }
+   /* v6b0NonCriticalExtensions */
+   if (pvalue->m & 0x2u) {
+      stat = enc_UE_CapabilityContainer_IEs_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions, cur);
+      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, "UE-CapabilityContainer-IEs");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_CapabilityContainer_IEs(rtxContext* RT_RESTRICT ctx, const UE_CapabilityContainer_IEs* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_CapabilityContainer_IEs, pvalue);
+}
+
+static int enc_UE_ConnTimersAndConstants_r5(rtxContext* RT_RESTRICT ctx, const UE_ConnTimersAndConstants_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-ConnTimersAndConstants-r5");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->t_301 != 10) << 21) |
+      ((uint64_t)(pvalue->n_301 != 2) << 20) |
+      ((uint64_t)(pvalue->t_302 != 12) << 19) |
+      ((uint64_t)(pvalue->n_302 != 3) << 18) |
+      ((uint64_t)(pvalue->t_304 != 4) << 17) |
+      ((uint64_t)(pvalue->n_304 != 2) << 16) |
+      ((uint64_t)(pvalue->t_305 != 3) << 15) |
+      ((uint64_t)(pvalue->t_307 != 4) << 14) |
+      ((uint64_t)(pvalue->t_308 != 2) << 13) |
+      ((uint64_t)(pvalue->t_309 != 5) << 12) |
+      ((uint64_t)(pvalue->t_310 != 3) << 11) |
+      ((uint64_t)(pvalue->n_310 != 4) << 10) |
+      ((uint64_t)(pvalue->t_311 != 7) << 9) |
+      ((uint64_t)(pvalue->t_312 != 1) << 8) |
+      ((uint64_t)(pvalue->n_312 != 0) << 7) |
+      ((uint64_t)(pvalue->t_313 != 3) << 6) |
+      ((uint64_t)(pvalue->n_313 != 4) << 5) |
+      ((uint64_t)(pvalue->t_314 != 5) << 4) |
+      ((uint64_t)(pvalue->t_315 != 4) << 3) |
+      ((uint64_t)(pvalue->n_315 != 0) << 2) |
+      ((uint64_t)(pvalue->t_316 != 3) << 1) |
+      ((uint64_t)(pvalue->t_317 != 4) << 0), 22);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-ConnTimersAndConstants-r5");
+   /* t-301 */
+   if (pvalue->t_301 != 10) {
+      if (pvalue->t_301 > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->t_301);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "T-301", "t-301", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_301, 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "T-301", "t-301", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* n-301 */
+   if (pvalue->n_301 != 2) {
+      if ((uint64_t)pvalue->n_301 > 7u) {
+         rtxErrAddStrParm(ctx, "N-301");
+         rtxErrAddUIntParm(ctx, pvalue->n_301);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "N-301", "n-301", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->n_301, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "N-301", "n-301", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* t-302 */
+   if (pvalue->t_302 != 12) {
+      if (pvalue->t_302 > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->t_302);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "T-302", "t-302", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_302, 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "T-302", "t-302", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* n-302 */
+   if (pvalue->n_302 != 3) {
+      if ((uint64_t)pvalue->n_302 > 7u) {
+         rtxErrAddStrParm(ctx, "N-302");
+         rtxErrAddUIntParm(ctx, pvalue->n_302);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "N-302", "n-302", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->n_302, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "N-302", "n-302", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* t-304 */
+   if (pvalue->t_304 != 4) {
+      if (pvalue->t_304 > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->t_304);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "T-304", "t-304", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_304, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "T-304", "t-304", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* n-304 */
+   if (pvalue->n_304 != 2) {
+      if ((uint64_t)pvalue->n_304 > 7u) {
+         rtxErrAddStrParm(ctx, "N-304");
+         rtxErrAddUIntParm(ctx, pvalue->n_304);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "N-304", "n-304", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->n_304, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "N-304", "n-304", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* t-305 */
+   if (pvalue->t_305 != 3) {
+      if (pvalue->t_305 > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->t_305);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "T-305", "t-305", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_305, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "T-305", "t-305", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* t-307 */
+   if (pvalue->t_307 != 4) {
+      if (pvalue->t_307 > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->t_307);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "T-307", "t-307", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_307, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "T-307", "t-307", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* t-308 */
+   if (pvalue->t_308 != 2) {
+      if (pvalue->t_308 > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->t_308);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "T-308", "t-308", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_308, 0, 3);
+      RT_CHECK_PUT(ctx, cur, stat, "T-308", "t-308", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* t-309 */
+   if (pvalue->t_309 != 5) {
+      if ((uint64_t)(pvalue->t_309 - 1) > 7u) {
+         rtxErrAddStrParm(ctx, "T-309");
+         rtxErrAddUIntParm(ctx, pvalue->t_309);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "T-309", "t-309", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_309, 1, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "T-309", "t-309", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* t-310 */
+   if (pvalue->t_310 != 3) {
+      if (pvalue->t_310 > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->t_310);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "T-310", "t-310", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_310, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "T-310", "t-310", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* n-310 */
+   if (pvalue->n_310 != 4) {
+      if ((uint64_t)pvalue->n_310 > 7u) {
+         rtxErrAddStrParm(ctx, "N-310");
+         rtxErrAddUIntParm(ctx, pvalue->n_310);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "N-310", "n-310", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->n_310, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "N-310", "n-310", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* t-311 */
+   if (pvalue->t_311 != 7) {
+      if (pvalue->t_311 > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->t_311);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "T-311", "t-311", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_311, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "T-311", "t-311", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* t-312 */
+   if (pvalue->t_312 != 1) {
+      if ((uint64_t)pvalue->t_312 > 15u) {
+         rtxErrAddStrParm(ctx, "T-312");
+         rtxErrAddUIntParm(ctx, pvalue->t_312);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "T-312", "t-312", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_312, 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "T-312", "t-312", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* n-312 */
+   if (pvalue->n_312 != 0) {
+      if (pvalue->n_312 > 11) {
+         rtxErrAddUIntParm(ctx, pvalue->n_312);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "N-312-r5", "n-312", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->n_312, 0, 11);
+      RT_CHECK_PUT(ctx, cur, stat, "N-312-r5", "n-312", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* t-313 */
+   if (pvalue->t_313 != 3) {
+      if ((uint64_t)pvalue->t_313 > 15u) {
+         rtxErrAddStrParm(ctx, "T-313");
+         rtxErrAddUIntParm(ctx, pvalue->t_313);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "T-313", "t-313", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_313, 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "T-313", "t-313", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* n-313 */
+   if (pvalue->n_313 != 4) {
+      if (pvalue->n_313 > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->n_313);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "N-313", "n-313", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->n_313, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "N-313", "n-313", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* t-314 */
+   if (pvalue->t_314 != 5) {
+      if (pvalue->t_314 > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->t_314);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "T-314", "t-314", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_314, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "T-314", "t-314", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* t-315 */
+   if (pvalue->t_315 != 4) {
+      if (pvalue->t_315 > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->t_315);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "T-315", "t-315", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_315, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "T-315", "t-315", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* n-315 */
+   if (pvalue->n_315 != 0) {
+      if (pvalue->n_315 > 11) {
+         rtxErrAddUIntParm(ctx, pvalue->n_315);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "N-315-r5", "n-315", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->n_315, 0, 11);
+      RT_CHECK_PUT(ctx, cur, stat, "N-315-r5", "n-315", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* t-316 */
+   if (pvalue->t_316 != 3) {
+      if (pvalue->t_316 > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->t_316);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "T-316", "t-316", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_316, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "T-316", "t-316", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   /* t-317 */
+   if (pvalue->t_317 != 4) {
+      if (pvalue->t_317 > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->t_317);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "T-317", "t-317", -1, "UE-ConnTimersAndConstants-r5");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_317, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "T-317", "t-317", -1, "UE-ConnTimersAndConstants-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_ConnTimersAndConstants_r5(rtxContext* RT_RESTRICT ctx, const UE_ConnTimersAndConstants_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_ConnTimersAndConstants_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_HSPA_Identities_r6(rtxContext* RT_RESTRICT ctx, const UE_HSPA_Identities_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-HSPA-Identities-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-HSPA-Identities-r6");
+   /* new-H-RNTI */
+   if (pvalue->m & 0x1u) {
+      stat = enc_H_RNTI(ctx, pvalue->new_H_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "UE-HSPA-Identities-r6");
+   }
+   /* newPrimary-E-RNTI */
+   if (pvalue->m & 0x2u) {
+      stat = enc_E_RNTI(ctx, pvalue->newPrimary_E_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "UE-HSPA-Identities-r6");
+   }
+   /* newSecondary-E-RNTI */
+   if (pvalue->m & 0x4u) {
+      stat = enc_E_RNTI(ctx, pvalue->newSecondary_E_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "UE-HSPA-Identities-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_HSPA_Identities_r6(rtxContext* RT_RESTRICT ctx, const UE_HSPA_Identities_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_HSPA_Identities_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_MultiModeRAT_Capability(rtxContext* RT_RESTRICT ctx, const UE_MultiModeRAT_Capability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-MultiModeRAT-Capability");
+   /* multiRAT-CapabilityList */
+   stat = enc_MultiRAT_Capability(ctx, &pvalue->multiRAT_CapabilityList, cur);
+   RT_CHECK(ctx, stat, 0, "multiRAT-CapabilityList", -1, "UE-MultiModeRAT-Capability");
+   /* multiModeCapability */
+   if (pvalue->multiModeCapability > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->multiModeCapability);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MultiModeCapability", "multiModeCapability", -1, "UE-MultiModeRAT-Capability");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->multiModeCapability, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, "MultiModeCapability", "multiModeCapability", -1, "UE-MultiModeRAT-Capability");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_MultiModeRAT_Capability(rtxContext* RT_RESTRICT ctx, const UE_MultiModeRAT_Capability* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_MultiModeRAT_Capability, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_PowerClassExt(rtxContext* RT_RESTRICT ctx, UE_PowerClassExt value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "UE-PowerClassExt");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-PowerClassExt");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_PowerClassExt(rtxContext* RT_RESTRICT ctx, UE_PowerClassExt value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_PowerClassExt, value);
+}
+
+RT_MERGED_BODY int enc_UE_Positioning_Capability(rtxContext* RT_RESTRICT ctx, const UE_Positioning_Capability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-Capability");
+   /* standaloneLocMethodsSupported */
+   stat = rtxEncBitAt(ctx, cur, pvalue->standaloneLocMethodsSupported);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "standaloneLocMethodsSupported", -1, "UE-Positioning-Capability");
+   /* ue-BasedOTDOA-Supported */
+   stat = rtxEncBitAt(ctx, cur, pvalue->ue_BasedOTDOA_Supported);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ue-BasedOTDOA-Supported", -1, "UE-Positioning-Capability");
+   /* networkAssistedGPS-Supported */
+   if (pvalue->networkAssistedGPS_Supported > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->networkAssistedGPS_Supported);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "NetworkAssistedGPS-Supported", "networkAssistedGPS-Supported", -1, "UE-Positioning-Capability");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->networkAssistedGPS_Supported, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "NetworkAssistedGPS-Supported", "networkAssistedGPS-Supported", -1, "UE-Positioning-Capability");
+   /* supportForUE-GPS-TimingOfCellFrames */
+   stat = rtxEncBitAt(ctx, cur, pvalue->supportForUE_GPS_TimingOfCellFrames);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "supportForUE-GPS-TimingOfCellFrames", -1, "UE-Positioning-Capability");
+   /* supportForIPDL */
+   stat = rtxEncBitAt(ctx, cur, pvalue->supportForIPDL);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "supportForIPDL", -1, "UE-Positioning-Capability");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_Capability(rtxContext* RT_RESTRICT ctx, const UE_Positioning_Capability* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_Capability, pvalue);
+}
+
+static int enc_UE_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapability");
+   /* pdcp-Capability */
+   stat = enc_PDCP_Capability(ctx, &pvalue->pdcp_Capability, cur);
+   RT_CHECK(ctx, stat, 0, "pdcp-Capability", -1, "UE-RadioAccessCapability");
+   /* rlc-Capability */
+   stat = enc_RLC_Capability(ctx, &pvalue->rlc_Capability, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-Capability", -1, "UE-RadioAccessCapability");
+   /* transportChannelCapability */
+   stat = enc_TransportChannelCapability(ctx, &pvalue->transportChannelCapability, cur);
+   RT_CHECK(ctx, stat, 0, "transportChannelCapability", -1, "UE-RadioAccessCapability");
+   /* rf-Capability */
+   stat = enc_RF_Capability(ctx, &pvalue->rf_Capability, cur);
+   RT_CHECK(ctx, stat, 0, "rf-Capability", -1, "UE-RadioAccessCapability");
+   /* physicalChannelCapability */
+   stat = enc_PhysicalChannelCapability(ctx, &pvalue->physicalChannelCapability, cur);
+   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapability");
+   /* ue-MultiModeRAT-Capability */
+   stat = enc_UE_MultiModeRAT_Capability(ctx, &pvalue->ue_MultiModeRAT_Capability, cur);
+   RT_CHECK(ctx, stat, 0, "ue-MultiModeRAT-Capability", -1, "UE-RadioAccessCapability");
+   /* securityCapability */
+   stat = enc_SecurityCapability(ctx, &pvalue->securityCapability, cur);
+   RT_CHECK(ctx, stat, 0, "securityCapability", -1, "UE-RadioAccessCapability");
+   /* ue-positioning-Capability */
+   stat = enc_UE_Positioning_Capability(ctx, &pvalue->ue_positioning_Capability, cur);
+   RT_CHECK(ctx, stat, 0, "ue-positioning-Capability", -1, "UE-RadioAccessCapability");
+   /* measurementCapability */
+   if (pvalue->m & 0x1u) {
+      stat = enc_MeasurementCapability(ctx, &pvalue->measurementCapability, cur);
+      RT_CHECK(ctx, stat, 0, "measurementCapability", -1, "UE-RadioAccessCapability");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabBandFDD_fddRF_Capability(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDD_fddRF_Capability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ue-PowerClass */
+   if (pvalue->ue_PowerClass > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->ue_PowerClass);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UE-PowerClassExt", "ue-PowerClass", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ue_PowerClass, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "UE-PowerClassExt", "ue-PowerClass", -1, 0);
+   /* txRxFrequencySeparation */
+   if (pvalue->txRxFrequencySeparation > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->txRxFrequencySeparation);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TxRxFrequencySeparation", "txRxFrequencySeparation", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->txRxFrequencySeparation, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, "TxRxFrequencySeparation", "txRxFrequencySeparation", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabBandFDD_fddRF_Capability(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDD_fddRF_Capability* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabBandFDD_fddRF_Capability, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabBandFDD(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabBandFDD");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDD");
+   /* radioFrequencyBandFDD */
+   if (pvalue->radioFrequencyBandFDD > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandFDD);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "UE-RadioAccessCapabBandFDD");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->radioFrequencyBandFDD, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "UE-RadioAccessCapabBandFDD");
+   /* fddRF-Capability */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UE_RadioAccessCapabBandFDD_fddRF_Capability(ctx, &pvalue->fddRF_Capability, cur);
+      RT_CHECK(ctx, stat, 0, "fddRF-Capability", -1, "UE-RadioAccessCapabBandFDD");
+   }
+   /* measurementCapability */
+   stat = enc_MeasurementCapabilityExt(ctx, &pvalue->measurementCapability, cur);
+   RT_CHECK(ctx, stat, 0, "measurementCapability", -1, "UE-RadioAccessCapabBandFDD");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabBandFDD(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDD* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabBandFDD, pvalue);
+}
+
+static int enc_UE_RadioAccessCapabBandFDDList(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDDList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabBandFDDList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDDList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "UE-RadioAccessCapabBandFDD", (int32_t)i, "UE-RadioAccessCapabBandFDDList");
+      stat = enc_UE_RadioAccessCapabBandFDD(ctx, (const UE_RadioAccessCapabBandFDD*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "UE-RadioAccessCapabBandFDD", (int32_t)i, "UE-RadioAccessCapabBandFDDList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabBandFDDList(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDDList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabBandFDDList, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v370ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v370ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v370ext");
+   /* ue-RadioAccessCapabBandFDDList */
+   stat = enc_UE_RadioAccessCapabBandFDDList(ctx, &pvalue->ue_RadioAccessCapabBandFDDList, cur);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabBandFDDList", -1, "UE-RadioAccessCapability-v370ext");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v370ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v370ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v370ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityInfo(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabilityInfo");
+   /* ue-RadioAccessCapability */
+   stat = enc_UE_RadioAccessCapability(ctx, &pvalue->ue_RadioAccessCapability, cur);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability", -1, "UE-RadioAccessCapabilityInfo");
+   /* ue-RadioAccessCapability-v370ext */
+   stat = enc_UE_RadioAccessCapability_v370ext(ctx, &pvalue->ue_RadioAccessCapability_v370ext, cur);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapability-v370ext", -1, "UE-RadioAccessCapabilityInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityInfo(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabilityInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_PositioningCapabilityExt_v380(rtxContext* RT_RESTRICT ctx, const UE_PositioningCapabilityExt_v380* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-PositioningCapabilityExt-v380");
+   /* rx-tx-TimeDifferenceType2Capable */
+   stat = rtxEncBitAt(ctx, cur, pvalue->rx_tx_TimeDifferenceType2Capable);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "rx-tx-TimeDifferenceType2Capable", -1, "UE-PositioningCapabilityExt-v380");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_PositioningCapabilityExt_v380(rtxContext* RT_RESTRICT ctx, const UE_PositioningCapabilityExt_v380* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_PositioningCapabilityExt_v380, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v380ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v380ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v380ext");
+   /* ue-PositioningCapabilityExt-v380 */
+   stat = enc_UE_PositioningCapabilityExt_v380(ctx, &pvalue->ue_PositioningCapabilityExt_v380, cur);
+   RT_CHECK(ctx, stat, 0, "ue-PositioningCapabilityExt-v380", -1, "UE-RadioAccessCapability-v380ext");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v380ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v380ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v380ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_PositioningCapabilityExt_v3a0_validity_CellPCH_UraPCH(rtxContext* RT_RESTRICT ctx, UE_PositioningCapabilityExt_v3a0_validity_CellPCH_UraPCH value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_PositioningCapabilityExt_v3a0_validity_CellPCH_UraPCH(rtxContext* RT_RESTRICT ctx, UE_PositioningCapabilityExt_v3a0_validity_CellPCH_UraPCH value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_PositioningCapabilityExt_v3a0_validity_CellPCH_UraPCH, value);
+}
+
+RT_MERGED_BODY int enc_UE_PositioningCapabilityExt_v3a0(rtxContext* RT_RESTRICT ctx, const UE_PositioningCapabilityExt_v3a0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-PositioningCapabilityExt-v3a0");
+   /* validity-CellPCH-UraPCH */
+   if (pvalue->validity_CellPCH_UraPCH > 0) {
+      rtxErrAddUIntParm(ctx, pvalue->validity_CellPCH_UraPCH);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "validity-CellPCH-UraPCH", -1, "UE-PositioningCapabilityExt-v3a0");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->validity_CellPCH_UraPCH, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "validity-CellPCH-UraPCH", -1, "UE-PositioningCapabilityExt-v3a0");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_PositioningCapabilityExt_v3a0(rtxContext* RT_RESTRICT ctx, const UE_PositioningCapabilityExt_v3a0* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_PositioningCapabilityExt_v3a0, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v3a0ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v3a0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v3a0ext");
+   /* ue-PositioningCapabilityExt-v3a0 */
+   stat = enc_UE_PositioningCapabilityExt_v3a0(ctx, &pvalue->ue_PositioningCapabilityExt_v3a0, cur);
+   RT_CHECK(ctx, stat, 0, "ue-PositioningCapabilityExt-v3a0", -1, "UE-RadioAccessCapability-v3a0ext");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v3a0ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v3a0ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v3a0ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_PositioningCapabilityExt_v3g0_sfn_sfnType2Capability(rtxContext* RT_RESTRICT ctx, UE_PositioningCapabilityExt_v3g0_sfn_sfnType2Capability value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_PositioningCapabilityExt_v3g0_sfn_sfnType2Capability(rtxContext* RT_RESTRICT ctx, UE_PositioningCapabilityExt_v3g0_sfn_sfnType2Capability value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_PositioningCapabilityExt_v3g0_sfn_sfnType2Capability, value);
+}
+
+RT_MERGED_BODY int enc_UE_PositioningCapabilityExt_v3g0(rtxContext* RT_RESTRICT ctx, const UE_PositioningCapabilityExt_v3g0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-PositioningCapabilityExt-v3g0");
+   /* sfn-sfnType2Capability */
+   if (pvalue->sfn_sfnType2Capability > 0) {
+      rtxErrAddUIntParm(ctx, pvalue->sfn_sfnType2Capability);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "sfn-sfnType2Capability", -1, "UE-PositioningCapabilityExt-v3g0");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->sfn_sfnType2Capability, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sfn-sfnType2Capability", -1, "UE-PositioningCapabilityExt-v3g0");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_PositioningCapabilityExt_v3g0(rtxContext* RT_RESTRICT ctx, const UE_PositioningCapabilityExt_v3g0* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_PositioningCapabilityExt_v3g0, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v3g0ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v3g0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v3g0ext");
+   /* ue-PositioningCapabilityExt-v3g0 */
+   stat = enc_UE_PositioningCapabilityExt_v3g0(ctx, &pvalue->ue_PositioningCapabilityExt_v3g0, cur);
+   RT_CHECK(ctx, stat, 0, "ue-PositioningCapabilityExt-v3g0", -1, "UE-RadioAccessCapability-v3g0ext");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v3g0ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v3g0ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v3g0ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabBandFDD2_fddRF_Capability(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDD2_fddRF_Capability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ue-PowerClass */
+   if (pvalue->ue_PowerClass > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->ue_PowerClass);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UE-PowerClassExt", "ue-PowerClass", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ue_PowerClass, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "UE-PowerClassExt", "ue-PowerClass", -1, 0);
+   /* txRxFrequencySeparation */
+   if (pvalue->txRxFrequencySeparation > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->txRxFrequencySeparation);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TxRxFrequencySeparation", "txRxFrequencySeparation", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->txRxFrequencySeparation, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, "TxRxFrequencySeparation", "txRxFrequencySeparation", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabBandFDD2_fddRF_Capability(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDD2_fddRF_Capability* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabBandFDD2_fddRF_Capability, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabBandFDD2(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDD2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabBandFDD2");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDD2");
+   /* radioFrequencyBandFDD2 */
+   if (pvalue->radioFrequencyBandFDD2 > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandFDD2);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "RadioFrequencyBandFDD2", "radioFrequencyBandFDD2", -1, "UE-RadioAccessCapabBandFDD2");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->radioFrequencyBandFDD2, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "RadioFrequencyBandFDD2", "radioFrequencyBandFDD2", -1, "UE-RadioAccessCapabBandFDD2");
+   /* fddRF-Capability */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UE_RadioAccessCapabBandFDD2_fddRF_Capability(ctx, &pvalue->fddRF_Capability, cur);
+      RT_CHECK(ctx, stat, 0, "fddRF-Capability", -1, "UE-RadioAccessCapabBandFDD2");
+   }
+   /* measurementCapability2 */
+   stat = enc_MeasurementCapabilityExt2(ctx, &pvalue->measurementCapability2, cur);
+   RT_CHECK(ctx, stat, 0, "measurementCapability2", -1, "UE-RadioAccessCapabBandFDD2");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabBandFDD2(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDD2* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabBandFDD2, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabBandFDDList2(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDDList2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabBandFDDList2");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDDList2");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "UE-RadioAccessCapabBandFDD2", (int32_t)i, "UE-RadioAccessCapabBandFDDList2");
+      stat = enc_UE_RadioAccessCapabBandFDD2(ctx, (const UE_RadioAccessCapabBandFDD2*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "UE-RadioAccessCapabBandFDD2", (int32_t)i, "UE-RadioAccessCapabBandFDDList2");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabBandFDDList2(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDDList2* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabBandFDDList2, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabBandFDD_ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDD_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabBandFDD-ext");
+   /* radioFrequencyBandFDD */
+   if (pvalue->radioFrequencyBandFDD > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->radioFrequencyBandFDD);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "UE-RadioAccessCapabBandFDD-ext");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->radioFrequencyBandFDD, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "RadioFrequencyBandFDD", "radioFrequencyBandFDD", -1, "UE-RadioAccessCapabBandFDD-ext");
+   /* compressedModeMeasCapabFDDList-ext */
+   stat = enc_CompressedModeMeasCapabFDDList_ext(ctx, &pvalue->compressedModeMeasCapabFDDList_ext, cur);
+   RT_CHECK(ctx, stat, 0, "compressedModeMeasCapabFDDList-ext", -1, "UE-RadioAccessCapabBandFDD-ext");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabBandFDD_ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDD_ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabBandFDD_ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabBandFDDList_ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDDList_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabBandFDDList-ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapabBandFDDList-ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "UE-RadioAccessCapabBandFDD-ext", (int32_t)i, "UE-RadioAccessCapabBandFDDList-ext");
+      stat = enc_UE_RadioAccessCapabBandFDD_ext(ctx, (const UE_RadioAccessCapabBandFDD_ext*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "UE-RadioAccessCapabBandFDD-ext", (int32_t)i, "UE-RadioAccessCapabBandFDDList-ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabBandFDDList_ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabBandFDDList_ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabBandFDDList_ext, pvalue);
+}
+
+static int enc_UE_RadioAccessCapability_v650ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v650ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v650ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapability-v650ext");
+   /* ue-RadioAccessCapabBandFDDList2 */
+   stat = enc_UE_RadioAccessCapabBandFDDList2(ctx, &pvalue->ue_RadioAccessCapabBandFDDList2, cur);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabBandFDDList2", -1, "UE-RadioAccessCapability-v650ext");
+   /* ue-RadioAccessCapabBandFDDList-ext */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UE_RadioAccessCapabBandFDDList_ext(ctx, &pvalue->ue_RadioAccessCapabBandFDDList_ext, cur);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabBandFDDList-ext", -1, "UE-RadioAccessCapability-v650ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v650ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v650ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v650ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v7e0ext_supportForTwoDRXSchemesInPCH(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v7e0ext_supportForTwoDRXSchemesInPCH value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v7e0ext_supportForTwoDRXSchemesInPCH(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v7e0ext_supportForTwoDRXSchemesInPCH value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v7e0ext_supportForTwoDRXSchemesInPCH, value);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v7e0ext_supportEDPDCHPowerInterpolation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v7e0ext_supportEDPDCHPowerInterpolation value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v7e0ext_supportEDPDCHPowerInterpolation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v7e0ext_supportEDPDCHPowerInterpolation value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v7e0ext_supportEDPDCHPowerInterpolation, value);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v7e0ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v7e0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v7e0ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapability-v7e0ext");
+   /* supportForTwoDRXSchemesInPCH */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportForTwoDRXSchemesInPCH > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportForTwoDRXSchemesInPCH);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportForTwoDRXSchemesInPCH", -1, "UE-RadioAccessCapability-v7e0ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportForTwoDRXSchemesInPCH, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportForTwoDRXSchemesInPCH", -1, "UE-RadioAccessCapability-v7e0ext");
+   }
+   /* supportEDPDCHPowerInterpolation */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->supportEDPDCHPowerInterpolation > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportEDPDCHPowerInterpolation);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportEDPDCHPowerInterpolation", -1, "UE-RadioAccessCapability-v7e0ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportEDPDCHPowerInterpolation, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportEDPDCHPowerInterpolation", -1, "UE-RadioAccessCapability-v7e0ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v7e0ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v7e0ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v7e0ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v7f0ext_supportofTxDivOnNonMIMOChannel(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v7f0ext_supportofTxDivOnNonMIMOChannel value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v7f0ext_supportofTxDivOnNonMIMOChannel(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v7f0ext_supportofTxDivOnNonMIMOChannel value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v7f0ext_supportofTxDivOnNonMIMOChannel, value);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp_TDD128_v7f0ext_supportForCSVoiceoverHSPA(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_v7f0ext_supportForCSVoiceoverHSPA value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp_TDD128_v7f0ext_supportForCSVoiceoverHSPA(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_v7f0ext_supportForCSVoiceoverHSPA value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabilityComp_TDD128_v7f0ext_supportForCSVoiceoverHSPA, value);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp_TDD128_v7f0ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp_TDD128_v7f0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+   /* hSDSCH-physical-layer-category */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->hSDSCH_physical_layer_category - 1) > 63u) {
+         rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category");
+         rtxErrAddUIntParm(ctx, pvalue->hSDSCH_physical_layer_category);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category", "hSDSCH-physical-layer-category", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->hSDSCH_physical_layer_category, 1, 64);
+      RT_CHECK_PUT(ctx, cur, stat, "HSDSCH-physical-layer-category", "hSDSCH-physical-layer-category", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+   }
+   /* multiCarrier-physical-layer-category */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)(pvalue->multiCarrier_physical_layer_category - 1) > 63u) {
+         rtxErrAddStrParm(ctx, "MultiCarrier-HSDSCH-physical-layer-category");
+         rtxErrAddUIntParm(ctx, pvalue->multiCarrier_physical_layer_category);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MultiCarrier-HSDSCH-physical-layer-category", "multiCarrier-physical-layer-category", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->multiCarrier_physical_layer_category, 1, 64);
+      RT_CHECK_PUT(ctx, cur, stat, "MultiCarrier-HSDSCH-physical-layer-category", "multiCarrier-physical-layer-category", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+   }
+   /* tdd-edch-PhysicalLayerCategory */
+   if (pvalue->m & 0x4u) {
+      if ((uint64_t)(pvalue->tdd_edch_PhysicalLayerCategory - 1) > 5u) {
+         rtxErrAddStrParm(ctx, "tdd-edch-PhysicalLayerCategory");
+         rtxErrAddUIntParm(ctx, pvalue->tdd_edch_PhysicalLayerCategory);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "tdd-edch-PhysicalLayerCategory", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tdd_edch_PhysicalLayerCategory, 1, 6);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "tdd-edch-PhysicalLayerCategory", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+   }
+   /* dl-CapabilityWithSimultaneousHS-DSCHConfig */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "DL-CapabilityWithSimultaneousHS-DSCHConfig", "dl-CapabilityWithSimultaneousHS-DSCHConfig", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig, 0, 3);
+      RT_CHECK_PUT(ctx, cur, stat, "DL-CapabilityWithSimultaneousHS-DSCHConfig", "dl-CapabilityWithSimultaneousHS-DSCHConfig", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+   }
+   /* supportForCSVoiceoverHSPA */
+   if (pvalue->m & 0x10u) {
+      if (pvalue->supportForCSVoiceoverHSPA > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportForCSVoiceoverHSPA);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportForCSVoiceoverHSPA", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportForCSVoiceoverHSPA, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportForCSVoiceoverHSPA", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+   }
+   /* totalRLC-AM-BufferSize */
+   if (pvalue->m & 0x20u) {
+      if (pvalue->totalRLC_AM_BufferSize > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->totalRLC_AM_BufferSize);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TotalRLC-AM-BufferSize-r5-ext", "totalRLC-AM-BufferSize", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->totalRLC_AM_BufferSize, 0, 3);
+      RT_CHECK_PUT(ctx, cur, stat, "TotalRLC-AM-BufferSize-r5-ext", "totalRLC-AM-BufferSize", -1, "UE-RadioAccessCapabilityComp-TDD128-v7f0ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp_TDD128_v7f0ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp_TDD128_v7f0ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabilityComp_TDD128_v7f0ext, pvalue);
+}
+
+static int enc_UE_RadioAccessCapability_v7f0ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v7f0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v7f0ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapability-v7f0ext");
+   /* supportofTxDivOnNonMIMOChannel */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportofTxDivOnNonMIMOChannel > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportofTxDivOnNonMIMOChannel);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportofTxDivOnNonMIMOChannel", -1, "UE-RadioAccessCapability-v7f0ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportofTxDivOnNonMIMOChannel, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportofTxDivOnNonMIMOChannel", -1, "UE-RadioAccessCapability-v7f0ext");
+   }
+   /* physicalChannelCapability-LCR */
+   if (pvalue->m & 0x2u) {
+      stat = enc_PhysicalChannelCapability_LCR_r4(ctx, &pvalue->physicalChannelCapability_LCR, cur);
+      RT_CHECK(ctx, stat, 0, "physicalChannelCapability-LCR", -1, "UE-RadioAccessCapability-v7f0ext");
+   }
+   /* ue-RadioAccessCapabilityComp-TDD128 */
+   if (pvalue->m & 0x4u) {
+      stat = enc_UE_RadioAccessCapabilityComp_TDD128_v7f0ext(ctx, &pvalue->ue_RadioAccessCapabilityComp_TDD128, cur);
+      RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabilityComp-TDD128", -1, "UE-RadioAccessCapability-v7f0ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v7f0ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v7f0ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v7f0ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityInfo_v770ext_ganssSupportIndication(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityInfo_v770ext_ganssSupportIndication value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityInfo_v770ext_ganssSupportIndication(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityInfo_v770ext_ganssSupportIndication value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabilityInfo_v770ext_ganssSupportIndication, value);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityInfo_v770ext_mac_ehsSupport(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityInfo_v770ext_mac_ehsSupport value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityInfo_v770ext_mac_ehsSupport(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityInfo_v770ext_mac_ehsSupport value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabilityInfo_v770ext_mac_ehsSupport, value);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityInfo_v770ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityInfo_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabilityInfo-v770ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapabilityInfo-v770ext");
+   /* rf-Capability */
+   if (pvalue->m & 0x1u) {
+      stat = enc_RF_Capability_v770ext(ctx, &pvalue->rf_Capability, cur);
+      RT_CHECK(ctx, stat, 0, "rf-Capability", -1, "UE-RadioAccessCapabilityInfo-v770ext");
+   }
+   /* physicalChannelCapability */
+   stat = enc_PhysicalChannelCapabilityInfo_v770ext(ctx, &pvalue->physicalChannelCapability, cur);
+   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapabilityInfo-v770ext");
+   /* ganssSupportIndication */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->ganssSupportIndication > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->ganssSupportIndication);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "ganssSupportIndication", -1, "UE-RadioAccessCapabilityInfo-v770ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ganssSupportIndication, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "ganssSupportIndication", -1, "UE-RadioAccessCapabilityInfo-v770ext");
+   }
+   /* mac-ehsSupport */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->mac_ehsSupport > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mac_ehsSupport);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "mac-ehsSupport", -1, "UE-RadioAccessCapabilityInfo-v770ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_ehsSupport, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "mac-ehsSupport", -1, "UE-RadioAccessCapabilityInfo-v770ext");
+   }
+   /* ue-SpecificCapabilityInformation */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->ue_SpecificCapabilityInformation > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->ue_SpecificCapabilityInformation);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UE-SpecificCapabilityInformation-LCRTDD", "ue-SpecificCapabilityInformation", -1, "UE-RadioAccessCapabilityInfo-v770ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ue_SpecificCapabilityInformation, 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "UE-SpecificCapabilityInformation-LCRTDD", "ue-SpecificCapabilityInformation", -1, "UE-RadioAccessCapabilityInfo-v770ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityInfo_v770ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityInfo_v770ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabilityInfo_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v860ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v860ext");
+   /* ue-RadioAccessCapabBandFDDList3 */
+   stat = enc_UE_RadioAccessCapabBandFDDList3(ctx, &pvalue->ue_RadioAccessCapabBandFDDList3, cur);
+   RT_CHECK(ctx, stat, 0, "ue-RadioAccessCapabBandFDDList3", -1, "UE-RadioAccessCapability-v860ext");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v860ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v860ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v880ext_supportForPriorityReselectionInUTRAN(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v880ext_supportForPriorityReselectionInUTRAN value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v880ext_supportForPriorityReselectionInUTRAN(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v880ext_supportForPriorityReselectionInUTRAN value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v880ext_supportForPriorityReselectionInUTRAN, value);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v880ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v880ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v880ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapability-v880ext");
+   /* supportForPriorityReselectionInUTRAN */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportForPriorityReselectionInUTRAN > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportForPriorityReselectionInUTRAN);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportForPriorityReselectionInUTRAN", -1, "UE-RadioAccessCapability-v880ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportForPriorityReselectionInUTRAN, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportForPriorityReselectionInUTRAN", -1, "UE-RadioAccessCapability-v880ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v880ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v880ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v880ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v890ext_supportCellSpecificTxDiversityinDC_Operation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v890ext_supportCellSpecificTxDiversityinDC_Operation value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v890ext_supportCellSpecificTxDiversityinDC_Operation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v890ext_supportCellSpecificTxDiversityinDC_Operation value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v890ext_supportCellSpecificTxDiversityinDC_Operation, value);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v890ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v890ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v890ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapability-v890ext");
+   /* supportCellSpecificTxDiversityinDC-Operation */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportCellSpecificTxDiversityinDC_Operation > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportCellSpecificTxDiversityinDC_Operation);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportCellSpecificTxDiversityinDC-Operation", -1, "UE-RadioAccessCapability-v890ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportCellSpecificTxDiversityinDC_Operation, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportCellSpecificTxDiversityinDC-Operation", -1, "UE-RadioAccessCapability-v890ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v890ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v890ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v890ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v920ext_supportOfenhancedTS0(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v920ext_supportOfenhancedTS0 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v920ext_supportOfenhancedTS0(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapability_v920ext_supportOfenhancedTS0 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v920ext_supportOfenhancedTS0, value);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v920ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v920ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapability-v920ext");
+   /* supportOfenhancedTS0 */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportOfenhancedTS0 > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfenhancedTS0);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportOfenhancedTS0", -1, "UE-RadioAccessCapability-v920ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportOfenhancedTS0, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfenhancedTS0", -1, "UE-RadioAccessCapability-v920ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v920ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v920ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v4b0ext_tdd_CapabilityExt(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v4b0ext_tdd_CapabilityExt* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* rf-Capability */
+   stat = enc_RF_Capability_r4_ext(ctx, &pvalue->rf_Capability, cur);
+   RT_CHECK(ctx, stat, 0, "rf-Capability", -1, 0);
+   /* physicalChannelCapability-LCR */
+   stat = enc_PhysicalChannelCapability_LCR_r4(ctx, &pvalue->physicalChannelCapability_LCR, cur);
+   RT_CHECK(ctx, stat, 0, "physicalChannelCapability-LCR", -1, 0);
+   /* measurementCapability-r4-ext */
+   stat = enc_MeasurementCapability_r4_ext(ctx, &pvalue->measurementCapability_r4_ext, cur);
+   RT_CHECK(ctx, stat, 0, "measurementCapability-r4-ext", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v4b0ext_tdd_CapabilityExt(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v4b0ext_tdd_CapabilityExt* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v4b0ext_tdd_CapabilityExt, pvalue);
+}
+
+static int enc_UE_RadioAccessCapability_v4b0ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v4b0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v4b0ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapability-v4b0ext");
+   /* pdcp-Capability-r4-ext */
+   stat = enc_PDCP_Capability_r4_ext(ctx, &pvalue->pdcp_Capability_r4_ext, cur);
+   RT_CHECK(ctx, stat, 0, "pdcp-Capability-r4-ext", -1, "UE-RadioAccessCapability-v4b0ext");
+   /* tdd-CapabilityExt */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UE_RadioAccessCapability_v4b0ext_tdd_CapabilityExt(ctx, &pvalue->tdd_CapabilityExt, cur);
+      RT_CHECK(ctx, stat, 0, "tdd-CapabilityExt", -1, "UE-RadioAccessCapability-v4b0ext");
+   }
+   /* accessStratumReleaseIndicator */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->accessStratumReleaseIndicator > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->accessStratumReleaseIndicator);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "AccessStratumReleaseIndicator", "accessStratumReleaseIndicator", -1, "UE-RadioAccessCapability-v4b0ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->accessStratumReleaseIndicator, 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "AccessStratumReleaseIndicator", "accessStratumReleaseIndicator", -1, "UE-RadioAccessCapability-v4b0ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v4b0ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v4b0ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v4b0ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_RF_CapabBandFDDComp(rtxContext* RT_RESTRICT ctx, RF_CapabBandFDDComp value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "RF-CapabBandFDDComp");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RF-CapabBandFDDComp");
+   return 0;
+}
+
+int asn1PE_UMTS_RF_CapabBandFDDComp(rtxContext* RT_RESTRICT ctx, RF_CapabBandFDDComp value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RF_CapabBandFDDComp, value);
+}
+
+RT_MERGED_BODY int enc_RF_CapabBandListFDDComp(rtxContext* RT_RESTRICT ctx, const RF_CapabBandListFDDComp* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RF-CapabBandListFDDComp");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RF-CapabBandListFDDComp");
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "RF-CapabBandFDDComp", "RF-CapabBandFDDComp", (int32_t)i, "RF-CapabBandListFDDComp");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 3);
+      RT_CHECK_PUT(ctx, cur, stat, "RF-CapabBandFDDComp", "RF-CapabBandFDDComp", (int32_t)i, "RF-CapabBandListFDDComp");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RF_CapabBandListFDDComp(rtxContext* RT_RESTRICT ctx, const RF_CapabBandListFDDComp* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RF_CapabBandListFDDComp, pvalue);
+}
+
+RT_MERGED_BODY int enc_RF_CapabilityComp_fdd(rtxContext* RT_RESTRICT ctx, const RF_CapabilityComp_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.supported == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "supported", -1, 0);
+         stat = enc_RF_CapabBandListFDDComp(ctx, pvalue->u.supported, cur);
+         RT_CHECK(ctx, stat, 0, "supported", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RF_CapabilityComp_fdd(rtxContext* RT_RESTRICT ctx, const RF_CapabilityComp_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RF_CapabilityComp_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_RF_CapabilityComp_tdd384_RF_Capability(rtxContext* RT_RESTRICT ctx, const RF_CapabilityComp_tdd384_RF_Capability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.supported > 7) {
+            rtxErrAddUIntParm(ctx, pvalue->u.supported);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "RadioFrequencyBandTDDList", "supported", -1, 0);
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.supported, 0, 7);
+         RT_CHECK_PUT(ctx, cur, stat, "RadioFrequencyBandTDDList", "supported", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RF_CapabilityComp_tdd384_RF_Capability(rtxContext* RT_RESTRICT ctx, const RF_CapabilityComp_tdd384_RF_Capability* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RF_CapabilityComp_tdd384_RF_Capability, pvalue);
+}
+
+RT_MERGED_BODY int enc_RF_CapabilityComp_tdd128_RF_Capability(rtxContext* RT_RESTRICT ctx, const RF_CapabilityComp_tdd128_RF_Capability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.supported > 7) {
+            rtxErrAddUIntParm(ctx, pvalue->u.supported);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "RadioFrequencyBandTDDList", "supported", -1, 0);
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.supported, 0, 7);
+         RT_CHECK_PUT(ctx, cur, stat, "RadioFrequencyBandTDDList", "supported", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RF_CapabilityComp_tdd128_RF_Capability(rtxContext* RT_RESTRICT ctx, const RF_CapabilityComp_tdd128_RF_Capability* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RF_CapabilityComp_tdd128_RF_Capability, pvalue);
+}
+
+RT_MERGED_BODY int enc_RF_CapabilityComp(rtxContext* RT_RESTRICT ctx, const RF_CapabilityComp* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RF-CapabilityComp");
+   /* fdd */
+   stat = enc_RF_CapabilityComp_fdd(ctx, &pvalue->fdd, cur);
+   RT_CHECK(ctx, stat, 0, "fdd", -1, "RF-CapabilityComp");
+   /* tdd384-RF-Capability */
+   stat = enc_RF_CapabilityComp_tdd384_RF_Capability(ctx, &pvalue->tdd384_RF_Capability, cur);
+   RT_CHECK(ctx, stat, 0, "tdd384-RF-Capability", -1, "RF-CapabilityComp");
+   /* tdd128-RF-Capability */
+   stat = enc_RF_CapabilityComp_tdd128_RF_Capability(ctx, &pvalue->tdd128_RF_Capability, cur);
+   RT_CHECK(ctx, stat, 0, "tdd128-RF-Capability", -1, "RF-CapabilityComp");
+   return 0;
+}
+
+int asn1PE_UMTS_RF_CapabilityComp(rtxContext* RT_RESTRICT ctx, const RF_CapabilityComp* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RF_CapabilityComp, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabilityComp");
+   /* totalAM-RLCMemoryExceeds10kB */
+   stat = rtxEncBitAt(ctx, cur, pvalue->totalAM_RLCMemoryExceeds10kB);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "totalAM-RLCMemoryExceeds10kB", -1, "UE-RadioAccessCapabilityComp");
+   /* rf-CapabilityComp */
+   stat = enc_RF_CapabilityComp(ctx, &pvalue->rf_CapabilityComp, cur);
+   RT_CHECK(ctx, stat, 0, "rf-CapabilityComp", -1, "UE-RadioAccessCapabilityComp");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabilityComp, pvalue);
+}
+
+RT_MERGED_BODY int enc_RF_CapabBandListFDDComp_ext(rtxContext* RT_RESTRICT ctx, const RF_CapabBandListFDDComp_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RF-CapabBandListFDDComp-ext");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 15);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RF-CapabBandListFDDComp-ext");
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "RF-CapabBandFDDComp", "RF-CapabBandFDDComp", (int32_t)i, "RF-CapabBandListFDDComp-ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 3);
+      RT_CHECK_PUT(ctx, cur, stat, "RF-CapabBandFDDComp", "RF-CapabBandFDDComp", (int32_t)i, "RF-CapabBandListFDDComp-ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RF_CapabBandListFDDComp_ext(rtxContext* RT_RESTRICT ctx, const RF_CapabBandListFDDComp_ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RF_CapabBandListFDDComp_ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp_ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabilityComp-ext");
+   /* rf-CapabilityFDDComp */
+   stat = enc_RF_CapabBandListFDDComp_ext(ctx, &pvalue->rf_CapabilityFDDComp, cur);
+   RT_CHECK(ctx, stat, 0, "rf-CapabilityFDDComp", -1, "UE-RadioAccessCapabilityComp-ext");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp_ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp_ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabilityComp_ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_RF_CapabilityComp_v770ext_tdd768_RF_Capability(rtxContext* RT_RESTRICT ctx, const RF_CapabilityComp_v770ext_tdd768_RF_Capability* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.supported > 15) {
+            rtxErrAddUIntParm(ctx, pvalue->u.supported);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "RadioFrequencyBandTDDList-r7", "supported", -1, 0);
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.supported, 0, 15);
+         RT_CHECK_PUT(ctx, cur, stat, "RadioFrequencyBandTDDList-r7", "supported", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RF_CapabilityComp_v770ext_tdd768_RF_Capability(rtxContext* RT_RESTRICT ctx, const RF_CapabilityComp_v770ext_tdd768_RF_Capability* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RF_CapabilityComp_v770ext_tdd768_RF_Capability, pvalue);
+}
+
+RT_MERGED_BODY int enc_RF_CapabilityComp_v770ext(rtxContext* RT_RESTRICT ctx, const RF_CapabilityComp_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RF-CapabilityComp-v770ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RF-CapabilityComp-v770ext");
+   /* tdd384-RF-Capability */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->tdd384_RF_Capability > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->tdd384_RF_Capability);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "RadioFrequencyBandTDDList-r7", "tdd384-RF-Capability", -1, "RF-CapabilityComp-v770ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tdd384_RF_Capability, 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "RadioFrequencyBandTDDList-r7", "tdd384-RF-Capability", -1, "RF-CapabilityComp-v770ext");
+   }
+   /* tdd768-RF-Capability */
+   stat = enc_RF_CapabilityComp_v770ext_tdd768_RF_Capability(ctx, &pvalue->tdd768_RF_Capability, cur);
+   RT_CHECK(ctx, stat, 0, "tdd768-RF-Capability", -1, "RF-CapabilityComp-v770ext");
+   /* tdd128-RF-Capability */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->tdd128_RF_Capability > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->tdd128_RF_Capability);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "RadioFrequencyBandTDDList-r7", "tdd128-RF-Capability", -1, "RF-CapabilityComp-v770ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tdd128_RF_Capability, 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "RadioFrequencyBandTDDList-r7", "tdd128-RF-Capability", -1, "RF-CapabilityComp-v770ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RF_CapabilityComp_v770ext(rtxContext* RT_RESTRICT ctx, const RF_CapabilityComp_v770ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RF_CapabilityComp_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp_v770ext_securityCapabilityIndication(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_v770ext_securityCapabilityIndication value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp_v770ext_securityCapabilityIndication(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_v770ext_securityCapabilityIndication value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabilityComp_v770ext_securityCapabilityIndication, value);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp_v770ext_ganssSupportIndication(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_v770ext_ganssSupportIndication value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp_v770ext_ganssSupportIndication(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_v770ext_ganssSupportIndication value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabilityComp_v770ext_ganssSupportIndication, value);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp_v770ext_mac_ehsSupport(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_v770ext_mac_ehsSupport value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp_v770ext_mac_ehsSupport(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_v770ext_mac_ehsSupport value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabilityComp_v770ext_mac_ehsSupport, value);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp_v770ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabilityComp-v770ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp-v770ext");
+   /* rf-CapabilityComp */
+   stat = enc_RF_CapabilityComp_v770ext(ctx, &pvalue->rf_CapabilityComp, cur);
+   RT_CHECK(ctx, stat, 0, "rf-CapabilityComp", -1, "UE-RadioAccessCapabilityComp-v770ext");
+   /* securityCapabilityIndication */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->securityCapabilityIndication > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->securityCapabilityIndication);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "securityCapabilityIndication", -1, "UE-RadioAccessCapabilityComp-v770ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->securityCapabilityIndication, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "securityCapabilityIndication", -1, "UE-RadioAccessCapabilityComp-v770ext");
+   }
+   /* ganssSupportIndication */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->ganssSupportIndication > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->ganssSupportIndication);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "ganssSupportIndication", -1, "UE-RadioAccessCapabilityComp-v770ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ganssSupportIndication, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "ganssSupportIndication", -1, "UE-RadioAccessCapabilityComp-v770ext");
+   }
+   /* mac-ehsSupport */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->mac_ehsSupport > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mac_ehsSupport);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "mac-ehsSupport", -1, "UE-RadioAccessCapabilityComp-v770ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_ehsSupport, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "mac-ehsSupport", -1, "UE-RadioAccessCapabilityComp-v770ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp_v770ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp_v770ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabilityComp_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp2_fddPhysicalChannelCapab_hspdsch_edch(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp2_fddPhysicalChannelCapab_hspdsch_edch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-CapabilityWithSimultaneousHS-DSCHConfig */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "DL-CapabilityWithSimultaneousHS-DSCHConfig", "dl-CapabilityWithSimultaneousHS-DSCHConfig", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig, 0, 3);
+      RT_CHECK_PUT(ctx, cur, stat, "DL-CapabilityWithSimultaneousHS-DSCHConfig", "dl-CapabilityWithSimultaneousHS-DSCHConfig", -1, 0);
+   }
+   /* physicalChannelCapabComp-hspdsch-r6 */
+   if ((uint64_t)(pvalue->physicalChannelCapabComp_hspdsch_r6 - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category");
+      rtxErrAddUIntParm(ctx, pvalue->physicalChannelCapabComp_hspdsch_r6);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category", "physicalChannelCapabComp-hspdsch-r6", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->physicalChannelCapabComp_hspdsch_r6, 1, 64);
+   RT_CHECK_PUT(ctx, cur, stat, "HSDSCH-physical-layer-category", "physicalChannelCapabComp-hspdsch-r6", -1, 0);
+   /* physicalChannelCapability-edch-r6 */
+   stat = enc_PhysicalChannelCapability_edch_r6(ctx, &pvalue->physicalChannelCapability_edch_r6, cur);
+   RT_CHECK(ctx, stat, 0, "physicalChannelCapability-edch-r6", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp2_fddPhysicalChannelCapab_hspdsch_edch(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp2_fddPhysicalChannelCapab_hspdsch_edch* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabilityComp2_fddPhysicalChannelCapab_hspdsch_edch, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp2(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabilityComp2");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp2");
+   /* fddPhysicalChannelCapab-hspdsch-edch */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UE_RadioAccessCapabilityComp2_fddPhysicalChannelCapab_hspdsch_edch(ctx, &pvalue->fddPhysicalChannelCapab_hspdsch_edch, cur);
+      RT_CHECK(ctx, stat, 0, "fddPhysicalChannelCapab-hspdsch-edch", -1, "UE-RadioAccessCapabilityComp2");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp2(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp2* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabilityComp2, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp2_v770ext_hsscchlessHsdschOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_hsscchlessHsdschOperation value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v770ext_hsscchlessHsdschOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_hsscchlessHsdschOperation value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabilityComp2_v770ext_hsscchlessHsdschOperation, value);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp2_v770ext_enhancedFdpch(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_enhancedFdpch value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v770ext_enhancedFdpch(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_enhancedFdpch value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabilityComp2_v770ext_enhancedFdpch, value);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellFach(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellFach value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellFach(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellFach value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellFach, value);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellUraPch(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellUraPch value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellUraPch(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellUraPch value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabilityComp2_v770ext_hsdschReception_CellUraPch, value);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp2_v770ext_discontinuousDpcchTransmission(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_discontinuousDpcchTransmission value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v770ext_discontinuousDpcchTransmission(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_discontinuousDpcchTransmission value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabilityComp2_v770ext_discontinuousDpcchTransmission, value);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp2_v770ext_slotFormat4(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_slotFormat4 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v770ext_slotFormat4(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v770ext_slotFormat4 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabilityComp2_v770ext_slotFormat4, value);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp2_v770ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp2_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabilityComp2-v770ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 0), 9);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp2-v770ext");
+   /* hsdsch-physical-layer-category-ext */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->hsdsch_physical_layer_category_ext - 1) > 19u) {
+         rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category-ext");
+         rtxErrAddUIntParm(ctx, pvalue->hsdsch_physical_layer_category_ext);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category-ext", "hsdsch-physical-layer-category-ext", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->hsdsch_physical_layer_category_ext, 1, 20);
+      RT_CHECK_PUT(ctx, cur, stat, "HSDSCH-physical-layer-category-ext", "hsdsch-physical-layer-category-ext", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+   }
+   /* edch-PhysicalLayerCategory-extension */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)(pvalue->edch_PhysicalLayerCategory_extension - 7) > 0u) {
+         rtxErrAddStrParm(ctx, "edch-PhysicalLayerCategory-extension");
+         rtxErrAddUIntParm(ctx, pvalue->edch_PhysicalLayerCategory_extension);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "edch-PhysicalLayerCategory-extension", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->edch_PhysicalLayerCategory_extension, 7, 7);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "edch-PhysicalLayerCategory-extension", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+   }
+   /* hsscchlessHsdschOperation */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->hsscchlessHsdschOperation > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->hsscchlessHsdschOperation);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "hsscchlessHsdschOperation", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->hsscchlessHsdschOperation, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "hsscchlessHsdschOperation", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+   }
+   /* enhancedFdpch */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->enhancedFdpch > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->enhancedFdpch);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "enhancedFdpch", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->enhancedFdpch, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "enhancedFdpch", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+   }
+   /* hsdschReception-CellFach */
+   if (pvalue->m & 0x10u) {
+      if (pvalue->hsdschReception_CellFach > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->hsdschReception_CellFach);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "hsdschReception-CellFach", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->hsdschReception_CellFach, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "hsdschReception-CellFach", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+   }
+   /* hsdschReception-CellUraPch */
+   if (pvalue->m & 0x20u) {
+      if (pvalue->hsdschReception_CellUraPch > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->hsdschReception_CellUraPch);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "hsdschReception-CellUraPch", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->hsdschReception_CellUraPch, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "hsdschReception-CellUraPch", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+   }
+   /* discontinuousDpcchTransmission */
+   if (pvalue->m & 0x40u) {
+      if (pvalue->discontinuousDpcchTransmission > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->discontinuousDpcchTransmission);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "discontinuousDpcchTransmission", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->discontinuousDpcchTransmission, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "discontinuousDpcchTransmission", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+   }
+   /* slotFormat4 */
+   if (pvalue->m & 0x80u) {
+      if (pvalue->slotFormat4 > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->slotFormat4);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "slotFormat4", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->slotFormat4, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "slotFormat4", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+   }
+   /* pdcp-Capability */
+   if (pvalue->m & 0x100u) {
+      stat = enc_PDCP_Capability_v770ext(ctx, &pvalue->pdcp_Capability, cur);
+      RT_CHECK(ctx, stat, 0, "pdcp-Capability", -1, "UE-RadioAccessCapabilityComp2-v770ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v770ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp2_v770ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabilityComp2_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp2_v7f0ext_supportofTxDivOnNonMIMOChannel(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v7f0ext_supportofTxDivOnNonMIMOChannel value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v7f0ext_supportofTxDivOnNonMIMOChannel(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v7f0ext_supportofTxDivOnNonMIMOChannel value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabilityComp2_v7f0ext_supportofTxDivOnNonMIMOChannel, value);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp2_v7f0ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp2_v7f0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabilityComp2-v7f0ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp2-v7f0ext");
+   /* supportofTxDivOnNonMIMOChannel */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->supportofTxDivOnNonMIMOChannel > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportofTxDivOnNonMIMOChannel);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportofTxDivOnNonMIMOChannel", -1, "UE-RadioAccessCapabilityComp2-v7f0ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportofTxDivOnNonMIMOChannel, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportofTxDivOnNonMIMOChannel", -1, "UE-RadioAccessCapabilityComp2-v7f0ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v7f0ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp2_v7f0ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabilityComp2_v7f0ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp2_v860ext_supportOfMACiis(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v860ext_supportOfMACiis value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v860ext_supportOfMACiis(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp2_v860ext_supportOfMACiis value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabilityComp2_v860ext_supportOfMACiis, value);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp2_v860ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp2_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabilityComp2-v860ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp2-v860ext");
+   /* hsdsch-physical-layer-category-ext2 */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->hsdsch_physical_layer_category_ext2 - 21) > 3u) {
+         rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category-ext2");
+         rtxErrAddUIntParm(ctx, pvalue->hsdsch_physical_layer_category_ext2);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category-ext2", "hsdsch-physical-layer-category-ext2", -1, "UE-RadioAccessCapabilityComp2-v860ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->hsdsch_physical_layer_category_ext2, 21, 24);
+      RT_CHECK_PUT(ctx, cur, stat, "HSDSCH-physical-layer-category-ext2", "hsdsch-physical-layer-category-ext2", -1, "UE-RadioAccessCapabilityComp2-v860ext");
+   }
+   /* supportOfMACiis */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->supportOfMACiis > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfMACiis);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportOfMACiis", -1, "UE-RadioAccessCapabilityComp2-v860ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportOfMACiis, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfMACiis", -1, "UE-RadioAccessCapabilityComp2-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v860ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp2_v860ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabilityComp2_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp2_v920ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp2_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabilityComp2-v920ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp2-v920ext");
+   /* hsdsch-physical-layer-category-ext3 */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->hsdsch_physical_layer_category_ext3 - 25) > 3u) {
+         rtxErrAddStrParm(ctx, "HSDSCH-physical-layer-category-ext3");
+         rtxErrAddUIntParm(ctx, pvalue->hsdsch_physical_layer_category_ext3);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HSDSCH-physical-layer-category-ext3", "hsdsch-physical-layer-category-ext3", -1, "UE-RadioAccessCapabilityComp2-v920ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->hsdsch_physical_layer_category_ext3, 25, 28);
+      RT_CHECK_PUT(ctx, cur, stat, "HSDSCH-physical-layer-category-ext3", "hsdsch-physical-layer-category-ext3", -1, "UE-RadioAccessCapabilityComp2-v920ext");
+   }
+   /* edch-PhysicalLayerCategory-extension2 */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)(pvalue->edch_PhysicalLayerCategory_extension2 - 8) > 1u) {
+         rtxErrAddStrParm(ctx, "edch-PhysicalLayerCategory-extension2");
+         rtxErrAddUIntParm(ctx, pvalue->edch_PhysicalLayerCategory_extension2);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "edch-PhysicalLayerCategory-extension2", -1, "UE-RadioAccessCapabilityComp2-v920ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->edch_PhysicalLayerCategory_extension2, 8, 9);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "edch-PhysicalLayerCategory-extension2", -1, "UE-RadioAccessCapabilityComp2-v920ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp2_v920ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp2_v920ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabilityComp2_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp_TDD128_supportOfSFModeForHSPDSCHDualStream(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfSFModeForHSPDSCHDualStream value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfSFModeForHSPDSCHDualStream(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfSFModeForHSPDSCHDualStream value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabilityComp_TDD128_supportOfSFModeForHSPDSCHDualStream, value);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp_TDD128_supportOfCommonEDCH(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfCommonEDCH value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfCommonEDCH(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfCommonEDCH value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabilityComp_TDD128_supportOfCommonEDCH, value);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp_TDD128_supportOfMACiis(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfMACiis value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfMACiis(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfMACiis value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabilityComp_TDD128_supportOfMACiis, value);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp_TDD128_supportOfSPSOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfSPSOperation value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfSPSOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfSPSOperation value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabilityComp_TDD128_supportOfSPSOperation, value);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp_TDD128_supportOfControlChannelDRXOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfControlChannelDRXOperation value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp_TDD128_supportOfControlChannelDRXOperation(rtxContext* RT_RESTRICT ctx, UE_RadioAccessCapabilityComp_TDD128_supportOfControlChannelDRXOperation value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabilityComp_TDD128_supportOfControlChannelDRXOperation, value);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapabilityComp_TDD128(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapabilityComp-TDD128");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapabilityComp-TDD128");
+   /* tdd128RF-Capability */
+   if (pvalue->m & 0x1u) {
+      stat = enc_RadioFrequencyBandTDDextList(ctx, &pvalue->tdd128RF_Capability, cur);
+      RT_CHECK(ctx, stat, 0, "tdd128RF-Capability", -1, "UE-RadioAccessCapabilityComp-TDD128");
+   }
+   /* supportOfSFModeForHSPDSCHDualStream */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->supportOfSFModeForHSPDSCHDualStream > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfSFModeForHSPDSCHDualStream);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportOfSFModeForHSPDSCHDualStream", -1, "UE-RadioAccessCapabilityComp-TDD128");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportOfSFModeForHSPDSCHDualStream, 0, 1);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfSFModeForHSPDSCHDualStream", -1, "UE-RadioAccessCapabilityComp-TDD128");
+   }
+   /* supportOfCommonEDCH */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->supportOfCommonEDCH > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfCommonEDCH);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportOfCommonEDCH", -1, "UE-RadioAccessCapabilityComp-TDD128");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportOfCommonEDCH, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfCommonEDCH", -1, "UE-RadioAccessCapabilityComp-TDD128");
+   }
+   /* supportOfMACiis */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->supportOfMACiis > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfMACiis);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportOfMACiis", -1, "UE-RadioAccessCapabilityComp-TDD128");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportOfMACiis, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfMACiis", -1, "UE-RadioAccessCapabilityComp-TDD128");
+   }
+   /* supportOfSPSOperation */
+   if (pvalue->m & 0x10u) {
+      if (pvalue->supportOfSPSOperation > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfSPSOperation);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportOfSPSOperation", -1, "UE-RadioAccessCapabilityComp-TDD128");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportOfSPSOperation, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfSPSOperation", -1, "UE-RadioAccessCapabilityComp-TDD128");
+   }
+   /* supportOfControlChannelDRXOperation */
+   if (pvalue->m & 0x20u) {
+      if (pvalue->supportOfControlChannelDRXOperation > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->supportOfControlChannelDRXOperation);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "supportOfControlChannelDRXOperation", -1, "UE-RadioAccessCapabilityComp-TDD128");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->supportOfControlChannelDRXOperation, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "supportOfControlChannelDRXOperation", -1, "UE-RadioAccessCapabilityComp-TDD128");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapabilityComp_TDD128(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapabilityComp_TDD128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapabilityComp_TDD128, pvalue);
+}
+
+static int enc_UE_RadioAccessCapability_v590ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v590ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v590ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-RadioAccessCapability-v590ext");
+   /* dl-CapabilityWithSimultaneousHS-DSCHConfig */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "DL-CapabilityWithSimultaneousHS-DSCHConfig", "dl-CapabilityWithSimultaneousHS-DSCHConfig", -1, "UE-RadioAccessCapability-v590ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->dl_CapabilityWithSimultaneousHS_DSCHConfig, 0, 3);
+      RT_CHECK_PUT(ctx, cur, stat, "DL-CapabilityWithSimultaneousHS-DSCHConfig", "dl-CapabilityWithSimultaneousHS-DSCHConfig", -1, "UE-RadioAccessCapability-v590ext");
+   }
+   /* pdcp-Capability-r5-ext */
+   stat = enc_PDCP_Capability_r5_ext(ctx, &pvalue->pdcp_Capability_r5_ext, cur);
+   RT_CHECK(ctx, stat, 0, "pdcp-Capability-r5-ext", -1, "UE-RadioAccessCapability-v590ext");
+   /* rlc-Capability-r5-ext */
+   stat = enc_RLC_Capability_r5_ext(ctx, &pvalue->rlc_Capability_r5_ext, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-Capability-r5-ext", -1, "UE-RadioAccessCapability-v590ext");
+   /* physicalChannelCapability */
+   stat = enc_PhysicalChannelCapability_hspdsch_r5(ctx, &pvalue->physicalChannelCapability, cur);
+   RT_CHECK(ctx, stat, 0, "physicalChannelCapability", -1, "UE-RadioAccessCapability-v590ext");
+   /* multiModeRAT-Capability-v590ext */
+   stat = enc_MultiModeRAT_Capability_v590ext(ctx, &pvalue->multiModeRAT_Capability_v590ext, cur);
+   RT_CHECK(ctx, stat, 0, "multiModeRAT-Capability-v590ext", -1, "UE-RadioAccessCapability-v590ext");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v590ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v590ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v590ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v5c0ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v5c0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v5c0ext");
+   /* pdcp-Capability-r5-ext2 */
+   stat = enc_PDCP_Capability_r5_ext2(ctx, &pvalue->pdcp_Capability_r5_ext2, cur);
+   RT_CHECK(ctx, stat, 0, "pdcp-Capability-r5-ext2", -1, "UE-RadioAccessCapability-v5c0ext");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v5c0ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v5c0ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v5c0ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RadioAccessCapability_v680ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v680ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RadioAccessCapability-v680ext");
+   /* multiModeRAT-Capability-v680ext */
+   stat = enc_MultiModeRAT_Capability_v680ext(ctx, &pvalue->multiModeRAT_Capability_v680ext, cur);
+   RT_CHECK(ctx, stat, 0, "multiModeRAT-Capability-v680ext", -1, "UE-RadioAccessCapability-v680ext");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RadioAccessCapability_v680ext(rtxContext* RT_RESTRICT ctx, const UE_RadioAccessCapability_v680ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RadioAccessCapability_v680ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_PhysChCapabilityFDD_r6(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityFDD_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-PhysChCapabilityFDD-r6");
+   /* maxNoDPDCH-BitsTransmitted */
+   if (pvalue->maxNoDPDCH_BitsTransmitted > 9) {
+      rtxErrAddUIntParm(ctx, pvalue->maxNoDPDCH_BitsTransmitted);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MaxNoDPDCH-BitsTransmitted", "maxNoDPDCH-BitsTransmitted", -1, "UL-PhysChCapabilityFDD-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxNoDPDCH_BitsTransmitted, 0, 9);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxNoDPDCH-BitsTransmitted", "maxNoDPDCH-BitsTransmitted", -1, "UL-PhysChCapabilityFDD-r6");
+   /* physicalchannelcapability-edch */
+   stat = enc_PhysicalChannelCapability_edch_r6(ctx, &pvalue->physicalchannelcapability_edch, cur);
+   RT_CHECK(ctx, stat, 0, "physicalchannelcapability-edch", -1, "UL-PhysChCapabilityFDD-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_PhysChCapabilityFDD_r6(rtxContext* RT_RESTRICT ctx, const UL_PhysChCapabilityFDD_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_PhysChCapabilityFDD_r6, pvalue);
+}
+
+static int enc_UL_SecondaryCellInfoFDD_newConfiguration(rtxContext* RT_RESTRICT ctx, const UL_SecondaryCellInfoFDD_newConfiguration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* secondaryServingEDCHCell-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SecondaryServingEDCHCell_Info(ctx, &pvalue->secondaryServingEDCHCell_Info, cur);
+      RT_CHECK(ctx, stat, 0, "secondaryServingEDCHCell-Info", -1, 0);
+   }
+   /* secondaryEDCH-Info-Common */
+   if (pvalue->m & 0x2u) {
+      stat = enc_SecondaryEDCH_Info_Common(ctx, &pvalue->secondaryEDCH_Info_Common, cur);
+      RT_CHECK(ctx, stat, 0, "secondaryEDCH-Info-Common", -1, 0);
+   }
+   /* dl-InformationPerSecondaryRL-List */
+   if (pvalue->m & 0x4u) {
+      stat = enc_DL_InformationPerSecondaryRL_List(ctx, &pvalue->dl_InformationPerSecondaryRL_List, cur);
+      RT_CHECK(ctx, stat, 0, "dl-InformationPerSecondaryRL-List", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_SecondaryCellInfoFDD_newConfiguration(rtxContext* RT_RESTRICT ctx, const UL_SecondaryCellInfoFDD_newConfiguration* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_SecondaryCellInfoFDD_newConfiguration, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_SecondaryCellInfoFDD(rtxContext* RT_RESTRICT ctx, const UL_SecondaryCellInfoFDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-SecondaryCellInfoFDD");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "UL-SecondaryCellInfoFDD");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-SecondaryCellInfoFDD");
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.newConfiguration == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "newConfiguration", -1, "UL-SecondaryCellInfoFDD");
+         stat = enc_UL_SecondaryCellInfoFDD_newConfiguration(ctx, pvalue->u.newConfiguration, cur);
+         RT_CHECK(ctx, stat, 0, "newConfiguration", -1, "UL-SecondaryCellInfoFDD");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_SecondaryCellInfoFDD(rtxContext* RT_RESTRICT ctx, const UL_SecondaryCellInfoFDD* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_SecondaryCellInfoFDD, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_SecurityInformation(rtxContext* RT_RESTRICT ctx, const UE_SecurityInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-SecurityInformation");
+   /* start-CS */
+   stat = enc_START_Value(ctx, pvalue->start_CS, cur);
+   RT_CHECK(ctx, stat, 0, "start-CS", -1, "UE-SecurityInformation");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_SecurityInformation(rtxContext* RT_RESTRICT ctx, const UE_SecurityInformation* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_SecurityInformation, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_SecurityInformation2(rtxContext* RT_RESTRICT ctx, const UE_SecurityInformation2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-SecurityInformation2");
+   /* start-PS */
+   stat = enc_START_Value(ctx, pvalue->start_PS, cur);
+   RT_CHECK(ctx, stat, 0, "start-PS", -1, "UE-SecurityInformation2");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_SecurityInformation2(rtxContext* RT_RESTRICT ctx, const UE_SecurityInformation2* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_SecurityInformation2, pvalue);
+}
+
+RT_MERGED_BODY int enc_URA_UpdateCause(rtxContext* RT_RESTRICT ctx, URA_UpdateCause value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "URA-UpdateCause");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "URA-UpdateCause");
+   return 0;
+}
+
+int asn1PE_UMTS_URA_UpdateCause(rtxContext* RT_RESTRICT ctx, URA_UpdateCause value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_URA_UpdateCause, value);
+}
+
+RT_MERGED_BODY int enc_UTRAN_DRX_CycleLengthCoefficient(rtxContext* RT_RESTRICT ctx, UTRAN_DRX_CycleLengthCoefficient value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 3) > 6u) {
+      rtxErrAddStrParm(ctx, "UTRAN-DRX-CycleLengthCoefficient");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "UTRAN-DRX-CycleLengthCoefficient");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 3, 9);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UTRAN-DRX-CycleLengthCoefficient");
+   return 0;
+}
+
+int asn1PE_UMTS_UTRAN_DRX_CycleLengthCoefficient(rtxContext* RT_RESTRICT ctx, UTRAN_DRX_CycleLengthCoefficient value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UTRAN_DRX_CycleLengthCoefficient, value);
+}
+
+RT_MERGED_BODY int enc_UTRAN_DRX_CycleLengthCoefficient_r7(rtxContext* RT_RESTRICT ctx, const UTRAN_DRX_CycleLengthCoefficient_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UTRAN-DRX-CycleLengthCoefficient-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UTRAN-DRX-CycleLengthCoefficient-r7");
+   /* drx-CycleLengthCoefficient */
+   if ((uint64_t)(pvalue->drx_CycleLengthCoefficient - 3) > 6u) {
+      rtxErrAddStrParm(ctx, "drx-CycleLengthCoefficient");
+      rtxErrAddUIntParm(ctx, pvalue->drx_CycleLengthCoefficient);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "drx-CycleLengthCoefficient", -1, "UTRAN-DRX-CycleLengthCoefficient-r7");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->drx_CycleLengthCoefficient, 3, 9);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "drx-CycleLengthCoefficient", -1, "UTRAN-DRX-CycleLengthCoefficient-r7");
+   /* drx-CycleLengthCoefficient2 */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->drx_CycleLengthCoefficient2 - 3) > 6u) {
+         rtxErrAddStrParm(ctx, "drx-CycleLengthCoefficient2");
+         rtxErrAddUIntParm(ctx, pvalue->drx_CycleLengthCoefficient2);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "drx-CycleLengthCoefficient2", -1, "UTRAN-DRX-CycleLengthCoefficient-r7");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->drx_CycleLengthCoefficient2, 3, 9);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "drx-CycleLengthCoefficient2", -1, "UTRAN-DRX-CycleLengthCoefficient-r7");
+   }
+   /* timeForDRXCycle2 */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->timeForDRXCycle2 > 6) {
+         rtxErrAddUIntParm(ctx, pvalue->timeForDRXCycle2);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "T-319", "timeForDRXCycle2", -1, "UTRAN-DRX-CycleLengthCoefficient-r7");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->timeForDRXCycle2, 0, 6);
+      RT_CHECK_PUT(ctx, cur, stat, "T-319", "timeForDRXCycle2", -1, "UTRAN-DRX-CycleLengthCoefficient-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UTRAN_DRX_CycleLengthCoefficient_r7(rtxContext* RT_RESTRICT ctx, const UTRAN_DRX_CycleLengthCoefficient_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UTRAN_DRX_CycleLengthCoefficient_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_WaitTime(rtxContext* RT_RESTRICT ctx, WaitTime value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 15u) {
+      rtxErrAddStrParm(ctx, "WaitTime");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "WaitTime");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "WaitTime");
+   return 0;
+}
+
+int asn1PE_UMTS_WaitTime(rtxContext* RT_RESTRICT ctx, WaitTime value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_WaitTime, value);
+}
+
+RT_MERGED_BODY int enc_ROHC_Profile_r4(rtxContext* RT_RESTRICT ctx, ROHC_Profile_r4 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 2u) {
+      rtxErrAddStrParm(ctx, "ROHC-Profile-r4");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "ROHC-Profile-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ROHC-Profile-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_ROHC_Profile_r4(rtxContext* RT_RESTRICT ctx, ROHC_Profile_r4 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ROHC_Profile_r4, value);
+}
+
+RT_MERGED_BODY int enc_ROHC_ProfileList_r4(rtxContext* RT_RESTRICT ctx, const ROHC_ProfileList_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ROHC-ProfileList-r4");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "ROHC-ProfileList-r4");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)(pvalue->elem[i] - 1) > 2u) {
+         rtxErrAddStrParm(ctx, "ROHC-Profile-r4");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ROHC-Profile-r4", "ROHC-Profile-r4", (int32_t)i, "ROHC-ProfileList-r4");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 1, 3);
+      RT_CHECK_PUT(ctx, cur, stat, "ROHC-Profile-r4", "ROHC-Profile-r4", (int32_t)i, "ROHC-ProfileList-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ROHC_ProfileList_r4(rtxContext* RT_RESTRICT ctx, const ROHC_ProfileList_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ROHC_ProfileList_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_CID_InclusionInfo_r4(rtxContext* RT_RESTRICT ctx, CID_InclusionInfo_r4 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "CID-InclusionInfo-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CID-InclusionInfo-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_CID_InclusionInfo_r4(rtxContext* RT_RESTRICT ctx, CID_InclusionInfo_r4 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CID_InclusionInfo_r4, value);
+}
+
+RT_MERGED_BODY int enc_ROHC_PacketSize_r4(rtxContext* RT_RESTRICT ctx, ROHC_PacketSize_r4 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 2) > 1498u) {
+      rtxErrAddStrParm(ctx, "ROHC-PacketSize-r4");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "ROHC-PacketSize-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 2, 1500);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ROHC-PacketSize-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_ROHC_PacketSize_r4(rtxContext* RT_RESTRICT ctx, ROHC_PacketSize_r4 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ROHC_PacketSize_r4, value);
+}
+
+RT_MERGED_BODY int enc_ROHC_PacketSizeList_r4(rtxContext* RT_RESTRICT ctx, const ROHC_PacketSizeList_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ROHC-PacketSizeList-r4");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "ROHC-PacketSizeList-r4");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)(pvalue->elem[i] - 2) > 1498u) {
+         rtxErrAddStrParm(ctx, "ROHC-PacketSize-r4");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ROHC-PacketSize-r4", "ROHC-PacketSize-r4", (int32_t)i, "ROHC-PacketSizeList-r4");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 2, 1500);
+      RT_CHECK_PUT(ctx, cur, stat, "ROHC-PacketSize-r4", "ROHC-PacketSize-r4", (int32_t)i, "ROHC-PacketSizeList-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ROHC_PacketSizeList_r4(rtxContext* RT_RESTRICT ctx, const ROHC_PacketSizeList_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ROHC_PacketSizeList_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_RFC3095_r4(rtxContext* RT_RESTRICT ctx, const UL_RFC3095_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-RFC3095-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->max_CID != 15) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UL-RFC3095-r4");
+   /* dummy1 */
+   if (pvalue->dummy1 > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->dummy1);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "CID-InclusionInfo-r4", "dummy1", -1, "UL-RFC3095-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dummy1, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "CID-InclusionInfo-r4", "dummy1", -1, "UL-RFC3095-r4");
+   /* max-CID */
+   if (pvalue->max_CID != 15) {
+      if ((uint64_t)(pvalue->max_CID - 1) > 16382u) {
+         rtxErrAddStrParm(ctx, "max-CID");
+         rtxErrAddUIntParm(ctx, pvalue->max_CID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "max-CID", -1, "UL-RFC3095-r4");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->max_CID, 1, 16383);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "max-CID", -1, "UL-RFC3095-r4");
+   }
+   /* dummy */
+   stat = enc_ROHC_PacketSizeList_r4(ctx, &pvalue->dummy, cur);
+   RT_CHECK(ctx, stat, 0, "dummy", -1, "UL-RFC3095-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_RFC3095_r4(rtxContext* RT_RESTRICT ctx, const UL_RFC3095_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_RFC3095_r4, pvalue);
 }
 

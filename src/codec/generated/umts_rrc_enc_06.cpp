@@ -6,855 +6,474 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PE_UMTS_DL_CommonInformation_r6_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_mac_hsResetIndicator value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
+/* The bodies of this unit. */
+RT_MERGED_BODY int enc_DL_RFC3095_r4(rtxContext* RT_RESTRICT ctx, const DL_RFC3095_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RFC3095_Info_r4(rtxContext* RT_RESTRICT ctx, const RFC3095_Info_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AlgorithmSpecificInfo_r4(rtxContext* RT_RESTRICT ctx, const AlgorithmSpecificInfo_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_COUNT_C(rtxContext* RT_RESTRICT ctx, COUNT_C value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_COUNT_C_MSB(rtxContext* RT_RESTRICT ctx, COUNT_C_MSB value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_AMR_Rate(rtxContext* RT_RESTRICT ctx, UL_AMR_Rate value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaxCS_Delay(rtxContext* RT_RESTRICT ctx, MaxCS_Delay value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CS_HSPA_Information(rtxContext* RT_RESTRICT ctx, const CS_HSPA_Information* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DefaultConfigMode(rtxContext* RT_RESTRICT ctx, DefaultConfigMode value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DefaultConfigIdForCellFACH(rtxContext* RT_RESTRICT ctx, DefaultConfigIdForCellFACH value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DefaultConfigForCellFACH(rtxContext* RT_RESTRICT ctx, const DefaultConfigForCellFACH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DefaultConfigIdentity(rtxContext* RT_RESTRICT ctx, DefaultConfigIdentity value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DefaultConfigIdentity_r4(rtxContext* RT_RESTRICT ctx, DefaultConfigIdentity_r4 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DefaultConfigIdentity_r5(rtxContext* RT_RESTRICT ctx, DefaultConfigIdentity_r5 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DefaultConfigIdentity_r6(rtxContext* RT_RESTRICT ctx, DefaultConfigIdentity_r6 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DDI(rtxContext* RT_RESTRICT ctx, DDI value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_AM_RLC_Mode_r5(rtxContext* RT_RESTRICT ctx, const DL_AM_RLC_Mode_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_AM_RLC_Mode_r7_dl_RLC_PDU_size_flexibleSize(rtxContext* RT_RESTRICT ctx, DL_AM_RLC_Mode_r7_dl_RLC_PDU_size_flexibleSize value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_AM_RLC_Mode_r7_dl_RLC_PDU_size(rtxContext* RT_RESTRICT ctx, const DL_AM_RLC_Mode_r7_dl_RLC_PDU_size* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_AM_RLC_Mode_r7(rtxContext* RT_RESTRICT ctx, const DL_AM_RLC_Mode_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDCP_SN_Info(rtxContext* RT_RESTRICT ctx, PDCP_SN_Info value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_WithPDCP_Info(rtxContext* RT_RESTRICT ctx, const RB_WithPDCP_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_WithPDCP_InfoList(rtxContext* RT_RESTRICT ctx, const RB_WithPDCP_InfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CounterSynchronisationInfo(rtxContext* RT_RESTRICT ctx, const DL_CounterSynchronisationInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_PDCPContextRelocation(rtxContext* RT_RESTRICT ctx, const RB_PDCPContextRelocation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_PDCPContextRelocationList(rtxContext* RT_RESTRICT ctx, const RB_PDCPContextRelocationList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_CounterSynchronisationInfo_r5(rtxContext* RT_RESTRICT ctx, const DL_CounterSynchronisationInfo_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MAC_d_FlowIdentity(rtxContext* RT_RESTRICT ctx, MAC_d_FlowIdentity value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MAC_d_FlowIdentityDCHandHSDSCH(rtxContext* RT_RESTRICT ctx, const MAC_d_FlowIdentityDCHandHSDSCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_TransportChannelType_r5(rtxContext* RT_RESTRICT ctx, const DL_TransportChannelType_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_LogicalChannelMapping_r5(rtxContext* RT_RESTRICT ctx, const DL_LogicalChannelMapping_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_TransportChannelType_r7_hsdsch(rtxContext* RT_RESTRICT ctx, const DL_TransportChannelType_r7_hsdsch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MAC_ehs_QueueIdDCHandHSDSCH(rtxContext* RT_RESTRICT ctx, const MAC_ehs_QueueIdDCHandHSDSCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_TransportChannelType_r7_dch_and_hsdsch(rtxContext* RT_RESTRICT ctx, const DL_TransportChannelType_r7_dch_and_hsdsch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_TransportChannelType_r7(rtxContext* RT_RESTRICT ctx, const DL_TransportChannelType_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_LogicalChannelMapping_r7(rtxContext* RT_RESTRICT ctx, const DL_LogicalChannelMapping_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_LogicalChannelMappingList_r5(rtxContext* RT_RESTRICT ctx, const DL_LogicalChannelMappingList_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_LogicalChannelMappingList_r7(rtxContext* RT_RESTRICT ctx, const DL_LogicalChannelMappingList_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_Reception_Window_Size_r6(rtxContext* RT_RESTRICT ctx, DL_Reception_Window_Size_r6 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_UM_RLC_Mode_r5(rtxContext* RT_RESTRICT ctx, const DL_UM_RLC_Mode_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_RLC_Mode_r5(rtxContext* RT_RESTRICT ctx, const DL_RLC_Mode_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_UM_RLC_Mode_r6(rtxContext* RT_RESTRICT ctx, const DL_UM_RLC_Mode_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_RLC_Mode_r6(rtxContext* RT_RESTRICT ctx, const DL_RLC_Mode_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_RLC_Mode_r7(rtxContext* RT_RESTRICT ctx, const DL_RLC_Mode_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HeaderCompressionInfo_r4(rtxContext* RT_RESTRICT ctx, const HeaderCompressionInfo_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HeaderCompressionInfoList_r4(rtxContext* RT_RESTRICT ctx, const HeaderCompressionInfoList_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MAC_d_HFN_initial_value(rtxContext* RT_RESTRICT ctx, MAC_d_HFN_initial_value value, rtxEncCur* RT_RESTRICT cur);
+static int enc_PDCP_Info_r4(rtxContext* RT_RESTRICT ctx, const PDCP_Info_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDCP_InfoReconfig(rtxContext* RT_RESTRICT ctx, const PDCP_InfoReconfig* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDCP_InfoReconfig_r4(rtxContext* RT_RESTRICT ctx, const PDCP_InfoReconfig_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDCP_ROHC_TargetMode(rtxContext* RT_RESTRICT ctx, PDCP_ROHC_TargetMode value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PredefinedConfigStatusInfo_other(rtxContext* RT_RESTRICT ctx, const PredefinedConfigStatusInfo_other* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PredefinedConfigStatusInfo(rtxContext* RT_RESTRICT ctx, const PredefinedConfigStatusInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PredefinedConfigStatusList(rtxContext* RT_RESTRICT ctx, const PredefinedConfigStatusList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PredefinedConfigValueTagList(rtxContext* RT_RESTRICT ctx, const PredefinedConfigValueTagList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PredefinedConfigSetWithDifferentValueTag(rtxContext* RT_RESTRICT ctx, const PredefinedConfigSetWithDifferentValueTag* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PredefinedConfigSetsWithDifferentValueTag(rtxContext* RT_RESTRICT ctx, const PredefinedConfigSetsWithDifferentValueTag* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PredefinedConfigStatusListVarSz(rtxContext* RT_RESTRICT ctx, const PredefinedConfigStatusListVarSz* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PredefinedConfigStatusListComp(rtxContext* RT_RESTRICT ctx, const PredefinedConfigStatusListComp* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_RAB_Info(rtxContext* RT_RESTRICT ctx, const RAB_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MBMS_SessionIdentity(rtxContext* RT_RESTRICT ctx, const MBMS_SessionIdentity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RAB_Info_r6_ext(rtxContext* RT_RESTRICT ctx, const RAB_Info_r6_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RAB_Info_v6b0ext_mbms_ServiceIdentity(rtxContext* RT_RESTRICT ctx, const RAB_Info_v6b0ext_mbms_ServiceIdentity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RAB_Info_v6b0ext(rtxContext* RT_RESTRICT ctx, const RAB_Info_v6b0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_RAB_Info_r6(rtxContext* RT_RESTRICT ctx, const RAB_Info_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RAB_Info_r7_mbms_ServiceIdentity(rtxContext* RT_RESTRICT ctx, const RAB_Info_r7_mbms_ServiceIdentity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_RAB_Info_r7(rtxContext* RT_RESTRICT ctx, const RAB_Info_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RAB_InformationList(rtxContext* RT_RESTRICT ctx, const RAB_InformationList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RAB_InformationList_r6(rtxContext* RT_RESTRICT ctx, const RAB_InformationList_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RAB_InformationReconfig(rtxContext* RT_RESTRICT ctx, const RAB_InformationReconfig* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_RAB_InformationReconfigList(rtxContext* RT_RESTRICT ctx, const RAB_InformationReconfigList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RAB_InformationReconfig_r8(rtxContext* RT_RESTRICT ctx, const RAB_InformationReconfig_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_RAB_InformationReconfigList_r8(rtxContext* RT_RESTRICT ctx, const RAB_InformationReconfigList_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RAB_Info_Post(rtxContext* RT_RESTRICT ctx, const RAB_Info_Post* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RAB_InformationMBMSPtp_mbms_ServiceIdentity(rtxContext* RT_RESTRICT ctx, const RAB_InformationMBMSPtp_mbms_ServiceIdentity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RAB_InformationMBMSPtp(rtxContext* RT_RESTRICT ctx, const RAB_InformationMBMSPtp* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RAB_InformationMBMSPtpList(rtxContext* RT_RESTRICT ctx, const RAB_InformationMBMSPtpList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RAB_InformationSetup(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_InformationSetup_r4(rtxContext* RT_RESTRICT ctx, const RB_InformationSetup_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_InformationSetupList_r4(rtxContext* RT_RESTRICT ctx, const RB_InformationSetupList_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RAB_InformationSetup_r4(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_RLC_Info_r5(rtxContext* RT_RESTRICT ctx, const RLC_Info_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RLC_InfoChoice_r5(rtxContext* RT_RESTRICT ctx, const RLC_InfoChoice_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_MappingOption_r5(rtxContext* RT_RESTRICT ctx, const RB_MappingOption_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_MappingInfo_r5(rtxContext* RT_RESTRICT ctx, const RB_MappingInfo_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_InformationSetup_r5(rtxContext* RT_RESTRICT ctx, const RB_InformationSetup_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_InformationSetupList_r5(rtxContext* RT_RESTRICT ctx, const RB_InformationSetupList_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RAB_InformationSetup_r5(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RAB_InformationSetup_r6_ext(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup_r6_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RLC_Info_r6_altE_bitInterpretation(rtxContext* RT_RESTRICT ctx, RLC_Info_r6_altE_bitInterpretation value, rtxEncCur* RT_RESTRICT cur);
+static int enc_RLC_Info_r6(rtxContext* RT_RESTRICT ctx, const RLC_Info_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RLC_InfoChoice_r6(rtxContext* RT_RESTRICT ctx, const RLC_InfoChoice_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch_rlc_SizeList(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch_rlc_SizeList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RLC_PDU_Size(rtxContext* RT_RESTRICT ctx, const RLC_PDU_Size* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RLC_PDU_SizeList(rtxContext* RT_RESTRICT ctx, const RLC_PDU_SizeList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_LogicalChannelMapping_r6_ul_TrCH_Type_e_dch(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r6_ul_TrCH_Type_e_dch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_LogicalChannelMapping_r6_ul_TrCH_Type(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r6_ul_TrCH_Type* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UL_LogicalChannelMapping_r6(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_LogicalChannelMappingList_r6_ul_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappingList_r6_ul_LogicalChannelMapping* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_LogicalChannelMappingList_r6(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappingList_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UL_LogicalChannelMappings_r6(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappings_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_MappingOption_r6(rtxContext* RT_RESTRICT ctx, const RB_MappingOption_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_MappingInfo_r6(rtxContext* RT_RESTRICT ctx, const RB_MappingInfo_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_InformationSetup_r6(rtxContext* RT_RESTRICT ctx, const RB_InformationSetup_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_InformationSetupList_r6(rtxContext* RT_RESTRICT ctx, const RB_InformationSetupList_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RAB_InformationSetup_r6(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RAB_InformationSetup_v6b0ext(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup_v6b0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RLC_Info_r7_altE_bitInterpretation(rtxContext* RT_RESTRICT ctx, RLC_Info_r7_altE_bitInterpretation value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RLC_Info_r7_useSpecialValueOfHEField(rtxContext* RT_RESTRICT ctx, RLC_Info_r7_useSpecialValueOfHEField value, rtxEncCur* RT_RESTRICT cur);
+static int enc_RLC_Info_r7(rtxContext* RT_RESTRICT ctx, const RLC_Info_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RLC_InfoChoice_r7(rtxContext* RT_RESTRICT ctx, const RLC_InfoChoice_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_MappingOption_r7(rtxContext* RT_RESTRICT ctx, const RB_MappingOption_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_MappingInfo_r7(rtxContext* RT_RESTRICT ctx, const RB_MappingInfo_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_InformationSetup_r7(rtxContext* RT_RESTRICT ctx, const RB_InformationSetup_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_InformationSetupList_r7(rtxContext* RT_RESTRICT ctx, const RB_InformationSetupList_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_RAB_InformationSetup_r7(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch_rlc_SizeList(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch_rlc_SizeList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size_fixedSize(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size_fixedSize* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RLC_PDU_SizeConstraint_lengthIndicatorSize(rtxContext* RT_RESTRICT ctx, RLC_PDU_SizeConstraint_lengthIndicatorSize value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RLC_PDU_SizeConstraint(rtxContext* RT_RESTRICT ctx, const RLC_PDU_SizeConstraint* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UL_LogicalChannelMapping_r8_ul_TrCH_Type(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r8_ul_TrCH_Type* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_LogicalChannelMapping_r8(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_LogicalChannelMappingList_r8_ul_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappingList_r8_ul_LogicalChannelMapping* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_LogicalChannelMappingList_r8(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappingList_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_LogicalChannelMappings_r8(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappings_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_MappingOption_r8(rtxContext* RT_RESTRICT ctx, const RB_MappingOption_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_RB_MappingInfo_r8(rtxContext* RT_RESTRICT ctx, const RB_MappingInfo_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_InformationSetup_r8(rtxContext* RT_RESTRICT ctx, const RB_InformationSetup_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_InformationSetupList_r8(rtxContext* RT_RESTRICT ctx, const RB_InformationSetupList_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_RAB_InformationSetup_r8(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RAB_InformationSetup_v820ext(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup_v820ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RAB_InformationSetupList(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_RAB_InformationSetupList_r4(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_RAB_InformationSetupList_r5(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_RAB_InformationSetupList_r6(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RAB_InformationSetupList_r6_ext(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList_r6_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RAB_InformationSetupList_v6b0ext(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList_v6b0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RAB_InformationSetupList_r7(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RAB_InformationSetupList_r8(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RAB_InformationSetupList_v820ext(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList_v820ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_COUNT_C_Information(rtxContext* RT_RESTRICT ctx, const RB_COUNT_C_Information* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_COUNT_C_InformationList(rtxContext* RT_RESTRICT ctx, const RB_COUNT_C_InformationList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_COUNT_C_MSB_Information(rtxContext* RT_RESTRICT ctx, const RB_COUNT_C_MSB_Information* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_COUNT_C_MSB_InformationList(rtxContext* RT_RESTRICT ctx, const RB_COUNT_C_MSB_InformationList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_IdentityList(rtxContext* RT_RESTRICT ctx, const RB_IdentityList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_InformationAffected(rtxContext* RT_RESTRICT ctx, const RB_InformationAffected* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_InformationAffected_r5(rtxContext* RT_RESTRICT ctx, const RB_InformationAffected_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_InformationAffected_r6(rtxContext* RT_RESTRICT ctx, const RB_InformationAffected_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_InformationAffected_r7(rtxContext* RT_RESTRICT ctx, const RB_InformationAffected_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_InformationAffected_r8(rtxContext* RT_RESTRICT ctx, const RB_InformationAffected_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_InformationAffectedList(rtxContext* RT_RESTRICT ctx, const RB_InformationAffectedList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_RB_InformationAffectedList_r5(rtxContext* RT_RESTRICT ctx, const RB_InformationAffectedList_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_RB_InformationAffectedList_r6(rtxContext* RT_RESTRICT ctx, const RB_InformationAffectedList_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_RB_InformationAffectedList_r7(rtxContext* RT_RESTRICT ctx, const RB_InformationAffectedList_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_InformationAffectedList_r8(rtxContext* RT_RESTRICT ctx, const RB_InformationAffectedList_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_InformationChanged_r6_rb_Change(rtxContext* RT_RESTRICT ctx, const RB_InformationChanged_r6_rb_Change* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_InformationChanged_r6(rtxContext* RT_RESTRICT ctx, const RB_InformationChanged_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_InformationChangedList_r6(rtxContext* RT_RESTRICT ctx, const RB_InformationChangedList_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_StopContinue(rtxContext* RT_RESTRICT ctx, RB_StopContinue value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_InformationReconfig(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfig* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_InformationReconfig_r4(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfig_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_InformationReconfig_r5(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfig_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_InformationReconfig_r6(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfig_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_InformationReconfig_r7(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfig_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_InformationReconfig_r8(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfig_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_RB_InformationReconfigList(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfigList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_RB_InformationReconfigList_r4(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfigList_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_RB_InformationReconfigList_r5(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfigList_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_RB_InformationReconfigList_r6(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfigList_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_RB_InformationReconfigList_r7(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfigList_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_RB_InformationReconfigList_r8(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfigList_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RB_InformationReleaseList(rtxContext* RT_RESTRICT ctx, const RB_InformationReleaseList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TimerDAR_r6(rtxContext* RT_RESTRICT ctx, TimerDAR_r6 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_WindowSizeDAR_r6(rtxContext* RT_RESTRICT ctx, WindowSizeDAR_r6 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UM_RLC_DuplAvoid_Reord_Info_r6(rtxContext* RT_RESTRICT ctx, const UM_RLC_DuplAvoid_Reord_Info_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RLC_Info_MTCH_r6(rtxContext* RT_RESTRICT ctx, const RLC_Info_MTCH_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SRB_InformationSetup_r5(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetup_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_SRB_InformationSetup_r6(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetup_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_SRB_InformationSetup_r7(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetup_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SRB_InformationSetup_r8(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetup_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_SRB_InformationSetupList_r5(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SRB_InformationSetupList_r6(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SRB_InformationSetupList_r7(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_SRB_InformationSetupList_r8(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_SRB_InformationSetupList2(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SRB_InformationSetupList2_r6(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList2_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SRB_InformationSetupList2_r7(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList2_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_SRB_InformationSetupList2_r8(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList2_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UL_CounterSynchronisationInfo(rtxContext* RT_RESTRICT ctx, const UL_CounterSynchronisationInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MAC_d_PDUsizeInfo(rtxContext* RT_RESTRICT ctx, const MAC_d_PDUsizeInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MAC_d_PDU_SizeInfo_List(rtxContext* RT_RESTRICT ctx, const MAC_d_PDU_SizeInfo_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MAC_hs_AddReconfQueue(rtxContext* RT_RESTRICT ctx, const MAC_hs_AddReconfQueue* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MAC_hs_AddReconfQueue_List(rtxContext* RT_RESTRICT ctx, const MAC_hs_AddReconfQueue_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MAC_hs_DelQueue(rtxContext* RT_RESTRICT ctx, const MAC_hs_DelQueue* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MAC_hs_DelQueue_List(rtxContext* RT_RESTRICT ctx, const MAC_hs_DelQueue_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_AddOrReconfMAC_dFlow(rtxContext* RT_RESTRICT ctx, const AddOrReconfMAC_dFlow* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MAC_ehs_AddReconfReordQ(rtxContext* RT_RESTRICT ctx, const MAC_ehs_AddReconfReordQ* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MAC_ehs_AddReconfReordQ_List(rtxContext* RT_RESTRICT ctx, const MAC_ehs_AddReconfReordQ_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MAC_ehs_DelReordQ(rtxContext* RT_RESTRICT ctx, const MAC_ehs_DelReordQ* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MAC_ehs_DelReordQ_List(rtxContext* RT_RESTRICT ctx, const MAC_ehs_DelReordQ_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AddOrReconfMAC_ehs_ReordQ(rtxContext* RT_RESTRICT ctx, const AddOrReconfMAC_ehs_ReordQ* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MAC_ehs_AddReconfReordQ_r9(rtxContext* RT_RESTRICT ctx, const MAC_ehs_AddReconfReordQ_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MAC_ehs_AddReconfReordQ_List_r9(rtxContext* RT_RESTRICT ctx, const MAC_ehs_AddReconfReordQ_List_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AddOrReconfMAC_ehs_ReordQ_r9(rtxContext* RT_RESTRICT ctx, const AddOrReconfMAC_ehs_ReordQ_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CPCH_SetID(rtxContext* RT_RESTRICT ctx, CPCH_SetID value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_AddReconfTransChInformation2_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation2_tfs_SignallingMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_AddReconfTransChInformation2(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_AddReconfTransChInfo2List(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInfo2List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_AddReconfTransChInformation_r4_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_r4_tfs_SignallingMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_AddReconfTransChInformation_r4(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_AddReconfTransChInfoList_r4(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInfoList_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_TrCH_TypeId1_r5(rtxContext* RT_RESTRICT ctx, const DL_TrCH_TypeId1_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HSDSCH_Info(rtxContext* RT_RESTRICT ctx, const HSDSCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_AddReconfTransChInformation_r5_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_r5_tfs_SignallingMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_AddReconfTransChInformation_r5(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_AddReconfTransChInfoList_r5(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInfoList_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HSDSCH_Info_r7_dl_MAC_HeaderType(rtxContext* RT_RESTRICT ctx, const HSDSCH_Info_r7_dl_MAC_HeaderType* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HSDSCH_Info_r7(rtxContext* RT_RESTRICT ctx, const HSDSCH_Info_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_AddReconfTransChInformation_r7_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_r7_tfs_SignallingMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_AddReconfTransChInformation_r7(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_AddReconfTransChInfoList_r7(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInfoList_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HSDSCH_Info_r9_dl_MAC_HeaderType(rtxContext* RT_RESTRICT ctx, const HSDSCH_Info_r9_dl_MAC_HeaderType* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HSDSCH_Info_r9(rtxContext* RT_RESTRICT ctx, const HSDSCH_Info_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_AddReconfTransChInformation_r9_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_r9_tfs_SignallingMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_AddReconfTransChInformation_r9(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_AddReconfTransChInfoList_r9(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInfoList_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters_dl_DCH_TFCS(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters_dl_DCH_TFCS* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonTransChInfo_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonTransChInfo_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_CommonTransChInfo_r4(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_TransportChannelIdentity(rtxContext* RT_RESTRICT ctx, const DL_TransportChannelIdentity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DeletedTransChInfoList(rtxContext* RT_RESTRICT ctx, const DL_DeletedTransChInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_TrCH_TypeId2_r5(rtxContext* RT_RESTRICT ctx, const DL_TrCH_TypeId2_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_TransportChannelIdentity_r5(rtxContext* RT_RESTRICT ctx, const DL_TransportChannelIdentity_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DeletedTransChInfoList_r5(rtxContext* RT_RESTRICT ctx, const DL_DeletedTransChInfoList_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_TrCH_TypeId2_r7_hsdsch(rtxContext* RT_RESTRICT ctx, const DL_TrCH_TypeId2_r7_hsdsch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_TrCH_TypeId2_r7(rtxContext* RT_RESTRICT ctx, const DL_TrCH_TypeId2_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_TransportChannelIdentity_r7(rtxContext* RT_RESTRICT ctx, const DL_TransportChannelIdentity_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_DeletedTransChInfoList_r7(rtxContext* RT_RESTRICT ctx, const DL_DeletedTransChInfoList_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DRAC_ClassIdentity(rtxContext* RT_RESTRICT ctx, DRAC_ClassIdentity value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TransmissionTimeValidity(rtxContext* RT_RESTRICT ctx, TransmissionTimeValidity value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TimeDurationBeforeRetry(rtxContext* RT_RESTRICT ctx, TimeDurationBeforeRetry value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DRAC_StaticInformation(rtxContext* RT_RESTRICT ctx, const DRAC_StaticInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DRAC_StaticInformationList(rtxContext* RT_RESTRICT ctx, const DRAC_StaticInformationList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType_non_ScheduledTransGrantInfo(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType_non_ScheduledTransGrantInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_AddReconf_MAC_d_Flow(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_Flow* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_AddReconf_MAC_d_Flow_r7(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_Flow_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_AddReconf_MAC_d_FlowList(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_FlowList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_E_DCH_AddReconf_MAC_d_FlowList_r7(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_FlowList_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PowerOffsetInfoShort_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const PowerOffsetInfoShort_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PowerOffsetInfoShort_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const PowerOffsetInfoShort_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PowerOffsetInfoShort(rtxContext* RT_RESTRICT ctx, const PowerOffsetInfoShort* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TFC_SubsetList_element_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const TFC_SubsetList_element_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TFC_SubsetList_element_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const TFC_SubsetList_element_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TFC_SubsetList_element(rtxContext* RT_RESTRICT ctx, const TFC_SubsetList_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TFC_SubsetList(rtxContext* RT_RESTRICT ctx, const TFC_SubsetList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_AddReconfTransChInformation_r6_dch_usch(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r6_dch_usch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_AddReconfTransChInformation_r6_e_dch_harq_Info(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r6_e_dch_harq_Info value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_AddReconfTransChInformation_r6_e_dch(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r6_e_dch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_AddReconfTransChInformation_r6(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UL_AddReconfTransChInfoList_r6(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInfoList_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_AddReconfTransChInformation_r7_dch_usch(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r7_dch_usch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_AddReconfTransChInformation_r7_e_dch_modeSpecific_fdd(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r7_e_dch_modeSpecific_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_AddReconfTransChInformation_r7_e_dch_modeSpecific(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r7_e_dch_modeSpecific* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_AddReconfTransChInformation_r7_e_dch_harq_Info(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r7_e_dch_harq_Info value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_AddReconfTransChInformation_r7_e_dch(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r7_e_dch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_AddReconfTransChInformation_r7(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UL_AddReconfTransChInfoList_r7(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInfoList_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_AddReconfTransChInformation_r8_dch_usch(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r8_dch_usch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_AddReconfTransChInformation_r8_e_dch_ul_MAC_HeaderType(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8_e_dch_ul_MAC_HeaderType value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_AddReconfTransChInformation_r8_e_dch_modeSpecific_fdd(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r8_e_dch_modeSpecific_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_AddReconfTransChInformation_r8_e_dch_modeSpecific(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r8_e_dch_modeSpecific* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_AddReconfTransChInformation_r8_e_dch_harq_Info(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8_e_dch_harq_Info value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_AddReconfTransChInformation_r8_e_dch(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r8_e_dch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_AddReconfTransChInformation_r8(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UL_AddReconfTransChInfoList_r8(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInfoList_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_CommonTransChInfo_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_CommonTransChInfo_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_CommonTransChInfo_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_CommonTransChInfo_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_CommonTransChInfo_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_CommonTransChInfo_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UL_CommonTransChInfo_r4(rtxContext* RT_RESTRICT ctx, const UL_CommonTransChInfo_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DeletedTransChInfoList(rtxContext* RT_RESTRICT ctx, const UL_DeletedTransChInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_TransportChannelIdentity_r6_dch_usch(rtxContext* RT_RESTRICT ctx, const UL_TransportChannelIdentity_r6_dch_usch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_TransportChannelIdentity_r6(rtxContext* RT_RESTRICT ctx, const UL_TransportChannelIdentity_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DeletedTransChInfoList_r6(rtxContext* RT_RESTRICT ctx, const UL_DeletedTransChInfoList_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ActivationTimeOffset(rtxContext* RT_RESTRICT ctx, ActivationTimeOffset value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AllocationPeriodInfo(rtxContext* RT_RESTRICT ctx, const AllocationPeriodInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AP_AICH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, AP_AICH_ChannelisationCode value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AP_PreambleScramblingCode(rtxContext* RT_RESTRICT ctx, AP_PreambleScramblingCode value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AP_Signature(rtxContext* RT_RESTRICT ctx, AP_Signature value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AP_Subchannel(rtxContext* RT_RESTRICT ctx, AP_Subchannel value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AvailableAP_SubchannelList(rtxContext* RT_RESTRICT ctx, const AvailableAP_SubchannelList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AP_Signature_VCAM(rtxContext* RT_RESTRICT ctx, const AP_Signature_VCAM* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AvailableAP_Signature_VCAMList(rtxContext* RT_RESTRICT ctx, const AvailableAP_Signature_VCAMList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AvailableAP_SignatureList(rtxContext* RT_RESTRICT ctx, const AvailableAP_SignatureList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MinimumSpreadingFactor(rtxContext* RT_RESTRICT ctx, MinimumSpreadingFactor value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NF_Max(rtxContext* RT_RESTRICT ctx, NF_Max value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaxAvailablePCPCH_Number(rtxContext* RT_RESTRICT ctx, MaxAvailablePCPCH_Number value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AvailableMinimumSF_VCAM(rtxContext* RT_RESTRICT ctx, const AvailableMinimumSF_VCAM* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AvailableMinimumSF_ListVCAM(rtxContext* RT_RESTRICT ctx, const AvailableMinimumSF_ListVCAM* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_BEACON_PL_Est(rtxContext* RT_RESTRICT ctx, BEACON_PL_Est value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DPCCH_PowerOffset(rtxContext* RT_RESTRICT ctx, DPCCH_PowerOffset value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SRB_delay(rtxContext* RT_RESTRICT ctx, SRB_delay value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_TargetSIR(rtxContext* RT_RESTRICT ctx, UL_TargetSIR value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TDD_UL_Interference(rtxContext* RT_RESTRICT ctx, TDD_UL_Interference value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IndividualTS_Interference(rtxContext* RT_RESTRICT ctx, const IndividualTS_Interference* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IndividualTS_InterferenceList(rtxContext* RT_RESTRICT ctx, const IndividualTS_InterferenceList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UL_DPCH_PowerControlInfo(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CCTrCH_PowerControlInfo(rtxContext* RT_RESTRICT ctx, const CCTrCH_PowerControlInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r4_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r4_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r4_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r4_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UL_DPCH_PowerControlInfo_r4(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CCTrCH_PowerControlInfo_r4(rtxContext* RT_RESTRICT ctx, const CCTrCH_PowerControlInfo_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r5_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r5_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r5_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r5_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UL_DPCH_PowerControlInfo_r5(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CCTrCH_PowerControlInfo_r5(rtxContext* RT_RESTRICT ctx, const CCTrCH_PowerControlInfo_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r7_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
 
-int asn1PE_UMTS_DL_CommonInformation_r6_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_postVerificationPeriod value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
+/* Bodies held by other units. */
+RT_ENCODE_EXTERN(ROHC_ProfileList_r4)
+RT_ENCODE_EXTERN(UL_RFC3095_r4)
+RT_ENCODE_EXTERN(RFC2507_Info)
+RT_ENCODE_EXTERN(OctetModeRLC_SizeInfoType1)
+RT_ENCODE_EXTERN(DL_RLC_StatusInfo)
+RT_ENCODE_EXTERN(TransportChannelIdentityDCHandDSCH)
+RT_ENCODE_EXTERN(DL_TM_RLC_Mode)
+RT_ENCODE_EXTERN(LosslessSRNS_RelocSupport)
+RT_ENCODE_EXTERN(PDCP_Info)
+RT_ENCODE_EXTERN(RAB_Identity)
+RT_ENCODE_EXTERN_VALUE(NAS_Synchronisation_Indicator)
+RT_ENCODE_EXTERN(RB_InformationSetupList)
+RT_ENCODE_EXTERN(RLC_InfoChoice)
+RT_ENCODE_EXTERN(RB_MappingInfo)
+RT_ENCODE_EXTERN(UL_RLC_Mode)
+RT_ENCODE_EXTERN(UL_LogicalChannelMappings)
+RT_ENCODE_EXTERN(RLC_SizeExplicitList)
+RT_ENCODE_EXTERN(UL_TransportChannelType)
+RT_ENCODE_EXTERN(RAB_InfoReplace)
+RT_ENCODE_EXTERN(RLC_Info)
+RT_ENCODE_EXTERN(SRB_InformationSetup)
+RT_ENCODE_EXTERN(STARTList)
+RT_ENCODE_EXTERN(TransportFormatSet)
+RT_ENCODE_EXTERN(UL_TransportChannelIdentity)
+RT_ENCODE_EXTERN(QualityTarget)
+RT_ENCODE_EXTERN(HARQ_Info)
+RT_ENCODE_EXTERN(HARQ_Info_r7)
+RT_ENCODE_EXTERN(TFCS)
+RT_ENCODE_EXTERN(IndividualDL_CCTrCH_InfoList)
+RT_ENCODE_EXTERN_VALUE(E_DCH_MAC_d_FlowMultiplexingList)
+RT_ENCODE_EXTERN(TFCS_Identity)
+RT_ENCODE_EXTERN(TFC_Subset)
+RT_ENCODE_EXTERN(IndividualUL_CCTrCH_InfoList)
+RT_ENCODE_EXTERN(PowerControlAlgorithm)
 
-int asn1PE_UMTS_DL_CommonInformation_r6(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r6* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_DL_RFC3095_r4(rtxContext* RT_RESTRICT ctx, const DL_RFC3095_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-CommonInformation-r6");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-RFC3095-r4");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CommonInformation-r6");
-   /* dl-dpchInfoCommon */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_CommonInformation_r6_dl_dpchInfoCommon(ctx, &pvalue->dl_dpchInfoCommon);
-      RT_CHECK(ctx, stat, 0, "dl-dpchInfoCommon", -1, "DL-CommonInformation-r6");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_DL_CommonInformation_r6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonInformation-r6");
-   /* mac-hsResetIndicator */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->mac_hsResetIndicator > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->mac_hsResetIndicator);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r6");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mac_hsResetIndicator, 0, 0);
-      RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r6");
-   }
-   /* postVerificationPeriod */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->postVerificationPeriod > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->postVerificationPeriod);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "postVerificationPeriod", -1, "DL-CommonInformation-r6");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->postVerificationPeriod, 0, 0);
-      RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "DL-CommonInformation-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CommonInformation_r7_dl_dpchInfoCommon(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r7_dl_dpchInfoCommon* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.dl_DPCH_InfoCommon == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-DPCH-InfoCommon", -1, 0);
-         stat = asn1PE_UMTS_DL_DPCH_InfoCommon_r6(ctx, pvalue->u.dl_DPCH_InfoCommon);
-         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.dl_FDPCH_InfoCommon == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-FDPCH-InfoCommon", -1, 0);
-         stat = asn1PE_UMTS_DL_FDPCH_InfoCommon_r6(ctx, pvalue->u.dl_FDPCH_InfoCommon);
-         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoCommon", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CommonInformation_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* defaultDPCH-OffsetValue */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->defaultDPCH_OffsetValue > 599u) {
-         rtxErrAddStrParm(ctx, "DefaultDPCH-OffsetValueFDD");
-         rtxErrAddUIntParm(ctx, pvalue->defaultDPCH_OffsetValue);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->defaultDPCH_OffsetValue, 0, 599);
-      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
-   }
-   /* dpch-CompressedModeInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DPCH_CompressedModeInfo(ctx, &pvalue->dpch_CompressedModeInfo);
-      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeInfo", -1, 0);
-   }
-   /* tx-DiversityMode */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->tx_DiversityMode > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->tx_DiversityMode);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tx_DiversityMode, 0, 3);
-      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* tstd-Indicator */
-   stat = rtxEncBit(ctx, pvalue->tstd_Indicator);
-   RT_CHECK(ctx, stat, 0, "tstd-Indicator", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         break;
-      case 3:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CommonInformation_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tddOption */
-   stat = asn1PE_UMTS_DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
-   /* defaultDPCH-OffsetValue */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->defaultDPCH_OffsetValue > 7u) {
-         rtxErrAddStrParm(ctx, "DefaultDPCH-OffsetValueTDD");
-         rtxErrAddUIntParm(ctx, pvalue->defaultDPCH_OffsetValue);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->defaultDPCH_OffsetValue, 0, 7);
-      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CommonInformation_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r7_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_DL_CommonInformation_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_DL_CommonInformation_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CommonInformation_r7_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_mac_hsResetIndicator value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CommonInformation_r7_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_postVerificationPeriod value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CommonInformation_r7(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-CommonInformation-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CommonInformation-r7");
-   /* dl-dpchInfoCommon */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_CommonInformation_r7_dl_dpchInfoCommon(ctx, &pvalue->dl_dpchInfoCommon);
-      RT_CHECK(ctx, stat, 0, "dl-dpchInfoCommon", -1, "DL-CommonInformation-r7");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_DL_CommonInformation_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonInformation-r7");
-   /* mac-hsResetIndicator */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->mac_hsResetIndicator > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->mac_hsResetIndicator);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mac_hsResetIndicator, 0, 0);
-      RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r7");
-   }
-   /* postVerificationPeriod */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->postVerificationPeriod > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->postVerificationPeriod);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "postVerificationPeriod", -1, "DL-CommonInformation-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->postVerificationPeriod, 0, 0);
-      RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "DL-CommonInformation-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CommonInformation_r8_dl_dpchInfoCommon(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r8_dl_dpchInfoCommon* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.dl_DPCH_InfoCommon == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-DPCH-InfoCommon", -1, 0);
-         stat = asn1PE_UMTS_DL_DPCH_InfoCommon_r6(ctx, pvalue->u.dl_DPCH_InfoCommon);
-         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.dl_FDPCH_InfoCommon == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-FDPCH-InfoCommon", -1, 0);
-         stat = asn1PE_UMTS_DL_FDPCH_InfoCommon_r6(ctx, pvalue->u.dl_FDPCH_InfoCommon);
-         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoCommon", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TGP_Sequence_r8_tgps_Status_activate(rtxContext* RT_RESTRICT ctx, const TGP_Sequence_r8_tgps_Status_activate* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* tgcfn */
-   stat = pe_ConsUInt64(ctx, pvalue->tgcfn, 0, 255);
-   RT_CHECK(ctx, stat, "TGCFN", "tgcfn", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_TGP_Sequence_r8_tgps_Status(rtxContext* RT_RESTRICT ctx, const TGP_Sequence_r8_tgps_Status* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.activate == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "activate", -1, 0);
-         stat = asn1PE_UMTS_TGP_Sequence_r8_tgps_Status_activate(ctx, pvalue->u.activate);
-         RT_CHECK(ctx, stat, 0, "activate", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TGMP_r8(rtxContext* RT_RESTRICT ctx, TGMP_r8 value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TGMP-r8");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TGMP-r8");
-   return 0;
-}
-
-int asn1PE_UMTS_TGPS_ConfigurationParams_r8(rtxContext* RT_RESTRICT ctx, const TGPS_ConfigurationParams_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TGPS-ConfigurationParams-r8");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TGPS-ConfigurationParams-r8");
-   /* tgmp */
-   if (pvalue->tgmp > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->tgmp);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TGMP-r8", "tgmp", -1, "TGPS-ConfigurationParams-r8");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tgmp, 0, 7);
-   RT_CHECK(ctx, stat, "TGMP-r8", "tgmp", -1, "TGPS-ConfigurationParams-r8");
-   /* tgprc */
-   if ((uint64_t)pvalue->tgprc > 511u) {
-      rtxErrAddStrParm(ctx, "TGPRC");
-      rtxErrAddUIntParm(ctx, pvalue->tgprc);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TGPRC", "tgprc", -1, "TGPS-ConfigurationParams-r8");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tgprc, 0, 511);
-   RT_CHECK(ctx, stat, "TGPRC", "tgprc", -1, "TGPS-ConfigurationParams-r8");
-   /* tgsn */
-   if ((uint64_t)pvalue->tgsn > 14u) {
-      rtxErrAddStrParm(ctx, "TGSN");
-      rtxErrAddUIntParm(ctx, pvalue->tgsn);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TGSN", "tgsn", -1, "TGPS-ConfigurationParams-r8");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tgsn, 0, 14);
-   RT_CHECK(ctx, stat, "TGSN", "tgsn", -1, "TGPS-ConfigurationParams-r8");
-   /* tgl1 */
-   if ((uint64_t)(pvalue->tgl1 - 1) > 13u) {
-      rtxErrAddStrParm(ctx, "TGL");
-      rtxErrAddUIntParm(ctx, pvalue->tgl1);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TGL", "tgl1", -1, "TGPS-ConfigurationParams-r8");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tgl1, 1, 14);
-   RT_CHECK(ctx, stat, "TGL", "tgl1", -1, "TGPS-ConfigurationParams-r8");
-   /* tgl2 */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->tgl2 - 1) > 13u) {
-         rtxErrAddStrParm(ctx, "TGL");
-         rtxErrAddUIntParm(ctx, pvalue->tgl2);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TGL", "tgl2", -1, "TGPS-ConfigurationParams-r8");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tgl2, 1, 14);
-      RT_CHECK(ctx, stat, "TGL", "tgl2", -1, "TGPS-ConfigurationParams-r8");
-   }
-   /* tgd */
-   if ((uint64_t)(pvalue->tgd - 15) > 255u) {
-      rtxErrAddStrParm(ctx, "TGD");
-      rtxErrAddUIntParm(ctx, pvalue->tgd);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TGD", "tgd", -1, "TGPS-ConfigurationParams-r8");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tgd, 15, 270);
-   RT_CHECK(ctx, stat, "TGD", "tgd", -1, "TGPS-ConfigurationParams-r8");
-   /* tgpl1 */
-   if ((uint64_t)(pvalue->tgpl1 - 1) > 143u) {
-      rtxErrAddStrParm(ctx, "TGPL");
-      rtxErrAddUIntParm(ctx, pvalue->tgpl1);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TGPL", "tgpl1", -1, "TGPS-ConfigurationParams-r8");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tgpl1, 1, 144);
-   RT_CHECK(ctx, stat, "TGPL", "tgpl1", -1, "TGPS-ConfigurationParams-r8");
-   /* rpp */
-   if (pvalue->rpp > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->rpp);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "RPP", "rpp", -1, "TGPS-ConfigurationParams-r8");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rpp, 0, 1);
-   RT_CHECK(ctx, stat, "RPP", "rpp", -1, "TGPS-ConfigurationParams-r8");
-   /* itp */
-   if (pvalue->itp > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->itp);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ITP", "itp", -1, "TGPS-ConfigurationParams-r8");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->itp, 0, 1);
-   RT_CHECK(ctx, stat, "ITP", "itp", -1, "TGPS-ConfigurationParams-r8");
-   /* ul-DL-Mode */
-   stat = asn1PE_UMTS_UL_DL_Mode(ctx, &pvalue->ul_DL_Mode);
-   RT_CHECK(ctx, stat, 0, "ul-DL-Mode", -1, "TGPS-ConfigurationParams-r8");
-   /* dl-FrameType */
-   if (pvalue->dl_FrameType > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->dl_FrameType);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-FrameType", "dl-FrameType", -1, "TGPS-ConfigurationParams-r8");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dl_FrameType, 0, 1);
-   RT_CHECK(ctx, stat, "DL-FrameType", "dl-FrameType", -1, "TGPS-ConfigurationParams-r8");
-   /* deltaSIR1 */
-   if ((uint64_t)pvalue->deltaSIR1 > 30u) {
-      rtxErrAddStrParm(ctx, "DeltaSIR");
-      rtxErrAddUIntParm(ctx, pvalue->deltaSIR1);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaSIR", "deltaSIR1", -1, "TGPS-ConfigurationParams-r8");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->deltaSIR1, 0, 30);
-   RT_CHECK(ctx, stat, "DeltaSIR", "deltaSIR1", -1, "TGPS-ConfigurationParams-r8");
-   /* deltaSIRAfter1 */
-   if ((uint64_t)pvalue->deltaSIRAfter1 > 30u) {
-      rtxErrAddStrParm(ctx, "DeltaSIR");
-      rtxErrAddUIntParm(ctx, pvalue->deltaSIRAfter1);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaSIR", "deltaSIRAfter1", -1, "TGPS-ConfigurationParams-r8");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->deltaSIRAfter1, 0, 30);
-   RT_CHECK(ctx, stat, "DeltaSIR", "deltaSIRAfter1", -1, "TGPS-ConfigurationParams-r8");
-   /* deltaSIR2 */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->deltaSIR2 > 30u) {
-         rtxErrAddStrParm(ctx, "DeltaSIR");
-         rtxErrAddUIntParm(ctx, pvalue->deltaSIR2);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaSIR", "deltaSIR2", -1, "TGPS-ConfigurationParams-r8");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->deltaSIR2, 0, 30);
-      RT_CHECK(ctx, stat, "DeltaSIR", "deltaSIR2", -1, "TGPS-ConfigurationParams-r8");
-   }
-   /* deltaSIRAfter2 */
-   if (pvalue->m & 0x4u) {
-      if ((uint64_t)pvalue->deltaSIRAfter2 > 30u) {
-         rtxErrAddStrParm(ctx, "DeltaSIR");
-         rtxErrAddUIntParm(ctx, pvalue->deltaSIRAfter2);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaSIR", "deltaSIRAfter2", -1, "TGPS-ConfigurationParams-r8");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->deltaSIRAfter2, 0, 30);
-      RT_CHECK(ctx, stat, "DeltaSIR", "deltaSIRAfter2", -1, "TGPS-ConfigurationParams-r8");
-   }
-   /* nidentifyAbort */
-   if (pvalue->m & 0x8u) {
-      if ((uint64_t)(pvalue->nidentifyAbort - 1) > 127u) {
-         rtxErrAddStrParm(ctx, "NidentifyAbort");
-         rtxErrAddUIntParm(ctx, pvalue->nidentifyAbort);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "NidentifyAbort", "nidentifyAbort", -1, "TGPS-ConfigurationParams-r8");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->nidentifyAbort, 1, 128);
-      RT_CHECK(ctx, stat, "NidentifyAbort", "nidentifyAbort", -1, "TGPS-ConfigurationParams-r8");
-   }
-   /* treconfirmAbort */
-   if (pvalue->m & 0x10u) {
-      if ((uint64_t)(pvalue->treconfirmAbort - 1) > 19u) {
-         rtxErrAddStrParm(ctx, "TreconfirmAbort");
-         rtxErrAddUIntParm(ctx, pvalue->treconfirmAbort);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TreconfirmAbort", "treconfirmAbort", -1, "TGPS-ConfigurationParams-r8");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->treconfirmAbort, 1, 20);
-      RT_CHECK(ctx, stat, "TreconfirmAbort", "treconfirmAbort", -1, "TGPS-ConfigurationParams-r8");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TGP_Sequence_r8(rtxContext* RT_RESTRICT ctx, const TGP_Sequence_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TGP-Sequence-r8");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TGP-Sequence-r8");
-   /* tgpsi */
-   if ((uint64_t)(pvalue->tgpsi - 1) > 5u) {
-      rtxErrAddStrParm(ctx, "TGPSI");
-      rtxErrAddUIntParm(ctx, pvalue->tgpsi);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TGPSI", "tgpsi", -1, "TGP-Sequence-r8");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tgpsi, 1, 6);
-   RT_CHECK(ctx, stat, "TGPSI", "tgpsi", -1, "TGP-Sequence-r8");
-   /* tgps-Status */
-   stat = asn1PE_UMTS_TGP_Sequence_r8_tgps_Status(ctx, &pvalue->tgps_Status);
-   RT_CHECK(ctx, stat, 0, "tgps-Status", -1, "TGP-Sequence-r8");
-   /* tgps-ConfigurationParams */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_TGPS_ConfigurationParams_r8(ctx, &pvalue->tgps_ConfigurationParams);
-      RT_CHECK(ctx, stat, 0, "tgps-ConfigurationParams", -1, "TGP-Sequence-r8");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TGP_SequenceList_r8(rtxContext* RT_RESTRICT ctx, const TGP_SequenceList_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TGP-SequenceList-r8");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 6);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "TGP-SequenceList-r8");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "TGP-Sequence-r8", (int32_t)i, "TGP-SequenceList-r8");
-      stat = asn1PE_UMTS_TGP_Sequence_r8(ctx, (const TGP_Sequence_r8*)node->data);
-      RT_CHECK(ctx, stat, 0, "TGP-Sequence-r8", (int32_t)i, "TGP-SequenceList-r8");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DPCH_CompressedModeInfo_r8(rtxContext* RT_RESTRICT ctx, const DPCH_CompressedModeInfo_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DPCH-CompressedModeInfo-r8");
-   /* tgp-SequenceList */
-   stat = asn1PE_UMTS_TGP_SequenceList_r8(ctx, &pvalue->tgp_SequenceList);
-   RT_CHECK(ctx, stat, 0, "tgp-SequenceList", -1, "DPCH-CompressedModeInfo-r8");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CommonInformation_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* defaultDPCH-OffsetValue */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->defaultDPCH_OffsetValue > 599u) {
-         rtxErrAddStrParm(ctx, "DefaultDPCH-OffsetValueFDD");
-         rtxErrAddUIntParm(ctx, pvalue->defaultDPCH_OffsetValue);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->defaultDPCH_OffsetValue, 0, 599);
-      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
-   }
-   /* dpch-CompressedModeInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DPCH_CompressedModeInfo_r8(ctx, &pvalue->dpch_CompressedModeInfo);
-      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeInfo", -1, 0);
-   }
-   /* tx-DiversityMode */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->tx_DiversityMode > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->tx_DiversityMode);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tx_DiversityMode, 0, 3);
-      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* tstd-Indicator */
-   stat = rtxEncBit(ctx, pvalue->tstd_Indicator);
-   RT_CHECK(ctx, stat, 0, "tstd-Indicator", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         break;
-      case 3:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CommonInformation_r8_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r8_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tddOption */
-   stat = asn1PE_UMTS_DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
-   /* defaultDPCH-OffsetValue */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->defaultDPCH_OffsetValue > 7u) {
-         rtxErrAddStrParm(ctx, "DefaultDPCH-OffsetValueTDD");
-         rtxErrAddUIntParm(ctx, pvalue->defaultDPCH_OffsetValue);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->defaultDPCH_OffsetValue, 0, 7);
-      RT_CHECK(ctx, stat, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CommonInformation_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r8_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_DL_CommonInformation_r8_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_DL_CommonInformation_r8_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CommonInformation_r8_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_mac_hsResetIndicator value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CommonInformation_r8_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_postVerificationPeriod value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CommonInformation_r8(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-CommonInformation-r8");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-CommonInformation-r8");
-   /* dl-dpchInfoCommon */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_CommonInformation_r8_dl_dpchInfoCommon(ctx, &pvalue->dl_dpchInfoCommon);
-      RT_CHECK(ctx, stat, 0, "dl-dpchInfoCommon", -1, "DL-CommonInformation-r8");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_DL_CommonInformation_r8_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonInformation-r8");
-   /* mac-hsResetIndicator */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->mac_hsResetIndicator > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->mac_hsResetIndicator);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r8");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mac_hsResetIndicator, 0, 0);
-      RT_CHECK(ctx, stat, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r8");
-   }
-   /* postVerificationPeriod */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->postVerificationPeriod > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->postVerificationPeriod);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "postVerificationPeriod", -1, "DL-CommonInformation-r8");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->postVerificationPeriod, 0, 0);
-      RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "DL-CommonInformation-r8");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_DPCH_InfoCommonPost(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommonPost* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-DPCH-InfoCommonPost");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-DPCH-InfoCommonPost");
-   /* dl-DPCH-PowerControlInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo);
-      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, "DL-DPCH-InfoCommonPost");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_CommonInformationPost(rtxContext* RT_RESTRICT ctx, const DL_CommonInformationPost* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-CommonInformationPost");
-   /* dl-DPCH-InfoCommon */
-   stat = asn1PE_UMTS_DL_DPCH_InfoCommonPost(ctx, &pvalue->dl_DPCH_InfoCommon);
-   RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, "DL-CommonInformationPost");
-   return 0;
-}
-
-int asn1PE_UMTS_SSDT_CellIdentity(rtxContext* RT_RESTRICT ctx, SSDT_CellIdentity value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SSDT-CellIdentity");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SSDT-CellIdentity");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_DPCH_InfoPerRL_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pCPICH-UsageForChannelEst */
-   if (pvalue->pCPICH_UsageForChannelEst > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->pCPICH_UsageForChannelEst);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pCPICH_UsageForChannelEst, 0, 1);
-   RT_CHECK(ctx, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, 0);
-   /* dpch-FrameOffset */
-   if ((uint64_t)pvalue->dpch_FrameOffset > 149u) {
-      rtxErrAddStrParm(ctx, "DPCH-FrameOffset");
-      rtxErrAddUIntParm(ctx, pvalue->dpch_FrameOffset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "DPCH-FrameOffset", "dpch-FrameOffset", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dpch_FrameOffset, 0, 149);
-   RT_CHECK(ctx, stat, "DPCH-FrameOffset", "dpch-FrameOffset", -1, 0);
-   /* secondaryCPICH-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SecondaryCPICH_Info(ctx, &pvalue->secondaryCPICH_Info);
-      RT_CHECK(ctx, stat, 0, "secondaryCPICH-Info", -1, 0);
-   }
-   /* dl-ChannelisationCodeList */
-   stat = asn1PE_UMTS_DL_ChannelisationCodeList(ctx, &pvalue->dl_ChannelisationCodeList);
-   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCodeList", -1, 0);
-   /* tpc-CombinationIndex */
-   if ((uint64_t)pvalue->tpc_CombinationIndex > 5u) {
-      rtxErrAddStrParm(ctx, "TPC-CombinationIndex");
-      rtxErrAddUIntParm(ctx, pvalue->tpc_CombinationIndex);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tpc_CombinationIndex, 0, 5);
-   RT_CHECK(ctx, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, 0);
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->max_CID != 15) << 1) |
+      ((uint64_t)(pvalue->reverseDecompressionDepth != 0) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-RFC3095-r4");
    /* dummy */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->dummy > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->dummy);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "SSDT-CellIdentity", "dummy", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dummy, 0, 7);
-      RT_CHECK(ctx, stat, "SSDT-CellIdentity", "dummy", -1, 0);
+   if (pvalue->dummy > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->dummy);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "CID-InclusionInfo-r4", "dummy", -1, "DL-RFC3095-r4");
    }
-   /* closedLoopTimingAdjMode */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->closedLoopTimingAdjMode > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->closedLoopTimingAdjMode);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "ClosedLoopTimingAdjMode", "closedLoopTimingAdjMode", -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dummy, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "CID-InclusionInfo-r4", "dummy", -1, "DL-RFC3095-r4");
+   /* max-CID */
+   if (pvalue->max_CID != 15) {
+      if ((uint64_t)(pvalue->max_CID - 1) > 16382u) {
+         rtxErrAddStrParm(ctx, "max-CID");
+         rtxErrAddUIntParm(ctx, pvalue->max_CID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "max-CID", -1, "DL-RFC3095-r4");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->closedLoopTimingAdjMode, 0, 1);
-      RT_CHECK(ctx, stat, "ClosedLoopTimingAdjMode", "closedLoopTimingAdjMode", -1, 0);
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->max_CID, 1, 16383);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "max-CID", -1, "DL-RFC3095-r4");
+   }
+   /* reverseDecompressionDepth */
+   if (pvalue->reverseDecompressionDepth != 0) {
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->reverseDecompressionDepth, 0, 65535);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "reverseDecompressionDepth", -1, "DL-RFC3095-r4");
    }
    return 0;
 }
 
-int asn1PE_UMTS_DL_DPCH_InfoPerRL_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_tdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_RFC3095_r4(rtxContext* RT_RESTRICT ctx, const DL_RFC3095_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_RFC3095_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_RFC3095_Info_r4(rtxContext* RT_RESTRICT ctx, const RFC3095_Info_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RFC3095-Info-r4");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-CCTrChListToEstablish */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RFC3095-Info-r4");
+   /* rohcProfileList */
+   stat = enc_ROHC_ProfileList_r4(ctx, &pvalue->rohcProfileList, cur);
+   RT_CHECK(ctx, stat, 0, "rohcProfileList", -1, "RFC3095-Info-r4");
+   /* ul-RFC3095 */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_CCTrChList(ctx, &pvalue->dl_CCTrChListToEstablish);
-      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToEstablish", -1, 0);
+      stat = enc_UL_RFC3095_r4(ctx, &pvalue->ul_RFC3095, cur);
+      RT_CHECK(ctx, stat, 0, "ul-RFC3095", -1, "RFC3095-Info-r4");
    }
-   /* dl-CCTrChListToRemove */
+   /* dl-RFC3095 */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DL_CCTrChListToRemove(ctx, &pvalue->dl_CCTrChListToRemove);
-      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToRemove", -1, 0);
+      stat = enc_DL_RFC3095_r4(ctx, &pvalue->dl_RFC3095, cur);
+      RT_CHECK(ctx, stat, 0, "dl-RFC3095", -1, "RFC3095-Info-r4");
    }
    return 0;
 }
 
-int asn1PE_UMTS_DL_DPCH_InfoPerRL(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RFC3095_Info_r4(rtxContext* RT_RESTRICT ctx, const RFC3095_Info_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RFC3095_Info_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_AlgorithmSpecificInfo_r4(rtxContext* RT_RESTRICT ctx, const AlgorithmSpecificInfo_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-DPCH-InfoPerRL");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "DL-DPCH-InfoPerRL");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-DPCH-InfoPerRL");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "AlgorithmSpecificInfo-r4");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "AlgorithmSpecificInfo-r4");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "AlgorithmSpecificInfo-r4");
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, "DL-DPCH-InfoPerRL");
-         stat = asn1PE_UMTS_DL_DPCH_InfoPerRL_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, "DL-DPCH-InfoPerRL");
+         if (pvalue->u.rfc2507_Info == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "rfc2507-Info", -1, "AlgorithmSpecificInfo-r4");
+         stat = enc_RFC2507_Info(ctx, pvalue->u.rfc2507_Info, cur);
+         RT_CHECK(ctx, stat, 0, "rfc2507-Info", -1, "AlgorithmSpecificInfo-r4");
          break;
       case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, "DL-DPCH-InfoPerRL");
-         stat = asn1PE_UMTS_DL_DPCH_InfoPerRL_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, "DL-DPCH-InfoPerRL");
+         if (pvalue->u.rfc3095_Info == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "rfc3095-Info", -1, "AlgorithmSpecificInfo-r4");
+         stat = enc_RFC3095_Info_r4(ctx, pvalue->u.rfc3095_Info, cur);
+         RT_CHECK(ctx, stat, 0, "rfc3095-Info", -1, "AlgorithmSpecificInfo-r4");
          break;
       default:
          break;
@@ -862,235 +481,326 @@ int asn1PE_UMTS_DL_DPCH_InfoPerRL(rtxContext* RT_RESTRICT ctx, const DL_DPCH_Inf
    return 0;
 }
 
-int asn1PE_UMTS_DL_DPCH_InfoPerRL_r4_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r4_fdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_AlgorithmSpecificInfo_r4(rtxContext* RT_RESTRICT ctx, const AlgorithmSpecificInfo_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AlgorithmSpecificInfo_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_COUNT_C(rtxContext* RT_RESTRICT ctx, COUNT_C value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pCPICH-UsageForChannelEst */
-   if (pvalue->pCPICH_UsageForChannelEst > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->pCPICH_UsageForChannelEst);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pCPICH_UsageForChannelEst, 0, 1);
-   RT_CHECK(ctx, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, 0);
-   /* dpch-FrameOffset */
-   if ((uint64_t)pvalue->dpch_FrameOffset > 149u) {
-      rtxErrAddStrParm(ctx, "DPCH-FrameOffset");
-      rtxErrAddUIntParm(ctx, pvalue->dpch_FrameOffset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "DPCH-FrameOffset", "dpch-FrameOffset", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dpch_FrameOffset, 0, 149);
-   RT_CHECK(ctx, stat, "DPCH-FrameOffset", "dpch-FrameOffset", -1, 0);
-   /* secondaryCPICH-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SecondaryCPICH_Info(ctx, &pvalue->secondaryCPICH_Info);
-      RT_CHECK(ctx, stat, 0, "secondaryCPICH-Info", -1, 0);
-   }
-   /* dl-ChannelisationCodeList */
-   stat = asn1PE_UMTS_DL_ChannelisationCodeList(ctx, &pvalue->dl_ChannelisationCodeList);
-   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCodeList", -1, 0);
-   /* tpc-CombinationIndex */
-   if ((uint64_t)pvalue->tpc_CombinationIndex > 5u) {
-      rtxErrAddStrParm(ctx, "TPC-CombinationIndex");
-      rtxErrAddUIntParm(ctx, pvalue->tpc_CombinationIndex);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tpc_CombinationIndex, 0, 5);
-   RT_CHECK(ctx, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, 0);
-   /* dummy */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->dummy > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->dummy);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "SSDT-CellIdentity", "dummy", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dummy, 0, 7);
-      RT_CHECK(ctx, stat, "SSDT-CellIdentity", "dummy", -1, 0);
-   }
-   /* closedLoopTimingAdjMode */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->closedLoopTimingAdjMode > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->closedLoopTimingAdjMode);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "ClosedLoopTimingAdjMode", "closedLoopTimingAdjMode", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->closedLoopTimingAdjMode, 0, 1);
-      RT_CHECK(ctx, stat, "ClosedLoopTimingAdjMode", "closedLoopTimingAdjMode", -1, 0);
-   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 4294967295ULL);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "COUNT-C");
    return 0;
 }
 
-int asn1PE_UMTS_DL_DPCH_InfoPerRL_r4_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r4_tdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_COUNT_C(rtxContext* RT_RESTRICT ctx, COUNT_C value)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-CCTrChListToEstablish */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_CCTrChList_r4(ctx, &pvalue->dl_CCTrChListToEstablish);
-      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToEstablish", -1, 0);
-   }
-   /* dl-CCTrChListToRemove */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DL_CCTrChListToRemove(ctx, &pvalue->dl_CCTrChListToRemove);
-      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToRemove", -1, 0);
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_COUNT_C, value);
 }
 
-int asn1PE_UMTS_DL_DPCH_InfoPerRL_r4(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r4* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_COUNT_C_MSB(rtxContext* RT_RESTRICT ctx, COUNT_C_MSB value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-DPCH-InfoPerRL-r4");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "DL-DPCH-InfoPerRL-r4");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-DPCH-InfoPerRL-r4");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, "DL-DPCH-InfoPerRL-r4");
-         stat = asn1PE_UMTS_DL_DPCH_InfoPerRL_r4_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, "DL-DPCH-InfoPerRL-r4");
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, "DL-DPCH-InfoPerRL-r4");
-         stat = asn1PE_UMTS_DL_DPCH_InfoPerRL_r4_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, "DL-DPCH-InfoPerRL-r4");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PowerOffsetTPC_pdpdch(rtxContext* RT_RESTRICT ctx, PowerOffsetTPC_pdpdch value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 24u) {
-      rtxErrAddStrParm(ctx, "PowerOffsetTPC-pdpdch");
+   if ((uint64_t)value > 33554431u) {
+      rtxErrAddStrParm(ctx, "COUNT-C-MSB");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PowerOffsetTPC-pdpdch");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "COUNT-C-MSB");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 24);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PowerOffsetTPC-pdpdch");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 33554431);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "COUNT-C-MSB");
    return 0;
 }
 
-int asn1PE_UMTS_DL_DPCH_InfoPerRL_r5_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r5_fdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_COUNT_C_MSB(rtxContext* RT_RESTRICT ctx, COUNT_C_MSB value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_COUNT_C_MSB, value);
+}
+
+RT_MERGED_BODY int enc_UL_AMR_Rate(rtxContext* RT_RESTRICT ctx, UL_AMR_Rate value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "UL-AMR-Rate");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UL-AMR-Rate");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AMR_Rate(rtxContext* RT_RESTRICT ctx, UL_AMR_Rate value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_AMR_Rate, value);
+}
+
+RT_MERGED_BODY int enc_MaxCS_Delay(rtxContext* RT_RESTRICT ctx, MaxCS_Delay value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 18u) {
+      rtxErrAddStrParm(ctx, "MaxCS-Delay");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "MaxCS-Delay");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 18);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaxCS-Delay");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxCS_Delay(rtxContext* RT_RESTRICT ctx, MaxCS_Delay value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MaxCS_Delay, value);
+}
+
+RT_MERGED_BODY int enc_CS_HSPA_Information(rtxContext* RT_RESTRICT ctx, const CS_HSPA_Information* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CS-HSPA-Information");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pCPICH-UsageForChannelEst */
-   if (pvalue->pCPICH_UsageForChannelEst > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->pCPICH_UsageForChannelEst);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pCPICH_UsageForChannelEst, 0, 1);
-   RT_CHECK(ctx, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, 0);
-   /* dpch-FrameOffset */
-   if ((uint64_t)pvalue->dpch_FrameOffset > 149u) {
-      rtxErrAddStrParm(ctx, "DPCH-FrameOffset");
-      rtxErrAddUIntParm(ctx, pvalue->dpch_FrameOffset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "DPCH-FrameOffset", "dpch-FrameOffset", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dpch_FrameOffset, 0, 149);
-   RT_CHECK(ctx, stat, "DPCH-FrameOffset", "dpch-FrameOffset", -1, 0);
-   /* secondaryCPICH-Info */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CS-HSPA-Information");
+   /* ul-AMR-Rate */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SecondaryCPICH_Info(ctx, &pvalue->secondaryCPICH_Info);
-      RT_CHECK(ctx, stat, 0, "secondaryCPICH-Info", -1, 0);
-   }
-   /* dl-ChannelisationCodeList */
-   stat = asn1PE_UMTS_DL_ChannelisationCodeList(ctx, &pvalue->dl_ChannelisationCodeList);
-   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCodeList", -1, 0);
-   /* tpc-CombinationIndex */
-   if ((uint64_t)pvalue->tpc_CombinationIndex > 5u) {
-      rtxErrAddStrParm(ctx, "TPC-CombinationIndex");
-      rtxErrAddUIntParm(ctx, pvalue->tpc_CombinationIndex);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tpc_CombinationIndex, 0, 5);
-   RT_CHECK(ctx, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, 0);
-   /* powerOffsetTPC-pdpdch */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->powerOffsetTPC_pdpdch > 24u) {
-         rtxErrAddStrParm(ctx, "PowerOffsetTPC-pdpdch");
-         rtxErrAddUIntParm(ctx, pvalue->powerOffsetTPC_pdpdch);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "PowerOffsetTPC-pdpdch", "powerOffsetTPC-pdpdch", -1, 0);
+      if (pvalue->ul_AMR_Rate > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->ul_AMR_Rate);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UL-AMR-Rate", "ul-AMR-Rate", -1, "CS-HSPA-Information");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->powerOffsetTPC_pdpdch, 0, 24);
-      RT_CHECK(ctx, stat, "PowerOffsetTPC-pdpdch", "powerOffsetTPC-pdpdch", -1, 0);
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ul_AMR_Rate, 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "UL-AMR-Rate", "ul-AMR-Rate", -1, "CS-HSPA-Information");
    }
-   /* dummy */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->dummy > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->dummy);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "SSDT-CellIdentity", "dummy", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dummy, 0, 7);
-      RT_CHECK(ctx, stat, "SSDT-CellIdentity", "dummy", -1, 0);
+   /* maxCS-Delay */
+   if ((uint64_t)pvalue->maxCS_Delay > 18u) {
+      rtxErrAddStrParm(ctx, "MaxCS-Delay");
+      rtxErrAddUIntParm(ctx, pvalue->maxCS_Delay);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MaxCS-Delay", "maxCS-Delay", -1, "CS-HSPA-Information");
    }
-   /* closedLoopTimingAdjMode */
-   if (pvalue->m & 0x8u) {
-      if (pvalue->closedLoopTimingAdjMode > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->closedLoopTimingAdjMode);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "ClosedLoopTimingAdjMode", "closedLoopTimingAdjMode", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->closedLoopTimingAdjMode, 0, 1);
-      RT_CHECK(ctx, stat, "ClosedLoopTimingAdjMode", "closedLoopTimingAdjMode", -1, 0);
-   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxCS_Delay, 0, 18);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxCS-Delay", "maxCS-Delay", -1, "CS-HSPA-Information");
    return 0;
 }
 
-int asn1PE_UMTS_DL_DPCH_InfoPerRL_r5_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r5_tdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CS_HSPA_Information(rtxContext* RT_RESTRICT ctx, const CS_HSPA_Information* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CS_HSPA_Information, pvalue);
+}
+
+RT_MERGED_BODY int enc_DefaultConfigMode(rtxContext* RT_RESTRICT ctx, DefaultConfigMode value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-CCTrChListToEstablish */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_CCTrChList_r4(ctx, &pvalue->dl_CCTrChListToEstablish);
-      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToEstablish", -1, 0);
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "DefaultConfigMode");
    }
-   /* dl-CCTrChListToRemove */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DL_CCTrChListToRemove(ctx, &pvalue->dl_CCTrChListToRemove);
-      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToRemove", -1, 0);
-   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DefaultConfigMode");
    return 0;
 }
 
-int asn1PE_UMTS_DL_DPCH_InfoPerRL_r5(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r5* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DefaultConfigMode(rtxContext* RT_RESTRICT ctx, DefaultConfigMode value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DefaultConfigMode, value);
+}
+
+RT_MERGED_BODY int enc_DefaultConfigIdForCellFACH(rtxContext* RT_RESTRICT ctx, DefaultConfigIdForCellFACH value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-DPCH-InfoPerRL-r5");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "DL-DPCH-InfoPerRL-r5");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-DPCH-InfoPerRL-r5");
+   if ((uint64_t)value > 15u) {
+      rtxErrAddStrParm(ctx, "DefaultConfigIdForCellFACH");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "DefaultConfigIdForCellFACH");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DefaultConfigIdForCellFACH");
+   return 0;
+}
+
+int asn1PE_UMTS_DefaultConfigIdForCellFACH(rtxContext* RT_RESTRICT ctx, DefaultConfigIdForCellFACH value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DefaultConfigIdForCellFACH, value);
+}
+
+RT_MERGED_BODY int enc_DefaultConfigForCellFACH(rtxContext* RT_RESTRICT ctx, const DefaultConfigForCellFACH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DefaultConfigForCellFACH");
+   /* defaultConfigMode */
+   if (pvalue->defaultConfigMode > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->defaultConfigMode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "DefaultConfigMode", "defaultConfigMode", -1, "DefaultConfigForCellFACH");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->defaultConfigMode, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "DefaultConfigMode", "defaultConfigMode", -1, "DefaultConfigForCellFACH");
+   /* defaultConfigIdForCellFACH */
+   if ((uint64_t)pvalue->defaultConfigIdForCellFACH > 15u) {
+      rtxErrAddStrParm(ctx, "DefaultConfigIdForCellFACH");
+      rtxErrAddUIntParm(ctx, pvalue->defaultConfigIdForCellFACH);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DefaultConfigIdForCellFACH", "defaultConfigIdForCellFACH", -1, "DefaultConfigForCellFACH");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->defaultConfigIdForCellFACH, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "DefaultConfigIdForCellFACH", "defaultConfigIdForCellFACH", -1, "DefaultConfigForCellFACH");
+   return 0;
+}
+
+int asn1PE_UMTS_DefaultConfigForCellFACH(rtxContext* RT_RESTRICT ctx, const DefaultConfigForCellFACH* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DefaultConfigForCellFACH, pvalue);
+}
+
+RT_MERGED_BODY int enc_DefaultConfigIdentity(rtxContext* RT_RESTRICT ctx, DefaultConfigIdentity value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 10u) {
+      rtxErrAddStrParm(ctx, "DefaultConfigIdentity");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "DefaultConfigIdentity");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 10);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DefaultConfigIdentity");
+   return 0;
+}
+
+int asn1PE_UMTS_DefaultConfigIdentity(rtxContext* RT_RESTRICT ctx, DefaultConfigIdentity value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DefaultConfigIdentity, value);
+}
+
+RT_MERGED_BODY int enc_DefaultConfigIdentity_r4(rtxContext* RT_RESTRICT ctx, DefaultConfigIdentity_r4 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 12u) {
+      rtxErrAddStrParm(ctx, "DefaultConfigIdentity-r4");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "DefaultConfigIdentity-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 12);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DefaultConfigIdentity-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_DefaultConfigIdentity_r4(rtxContext* RT_RESTRICT ctx, DefaultConfigIdentity_r4 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DefaultConfigIdentity_r4, value);
+}
+
+RT_MERGED_BODY int enc_DefaultConfigIdentity_r5(rtxContext* RT_RESTRICT ctx, DefaultConfigIdentity_r5 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 13u) {
+      rtxErrAddStrParm(ctx, "DefaultConfigIdentity-r5");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "DefaultConfigIdentity-r5");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 13);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DefaultConfigIdentity-r5");
+   return 0;
+}
+
+int asn1PE_UMTS_DefaultConfigIdentity_r5(rtxContext* RT_RESTRICT ctx, DefaultConfigIdentity_r5 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DefaultConfigIdentity_r5, value);
+}
+
+RT_MERGED_BODY int enc_DefaultConfigIdentity_r6(rtxContext* RT_RESTRICT ctx, DefaultConfigIdentity_r6 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 31u) {
+      rtxErrAddStrParm(ctx, "DefaultConfigIdentity-r6");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "DefaultConfigIdentity-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DefaultConfigIdentity-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_DefaultConfigIdentity_r6(rtxContext* RT_RESTRICT ctx, DefaultConfigIdentity_r6 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DefaultConfigIdentity_r6, value);
+}
+
+RT_MERGED_BODY int enc_DDI(rtxContext* RT_RESTRICT ctx, DDI value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 62u) {
+      rtxErrAddStrParm(ctx, "DDI");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "DDI");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 62);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DDI");
+   return 0;
+}
+
+int asn1PE_UMTS_DDI(rtxContext* RT_RESTRICT ctx, DDI value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DDI, value);
+}
+
+RT_MERGED_BODY int enc_DL_AM_RLC_Mode_r5(rtxContext* RT_RESTRICT ctx, const DL_AM_RLC_Mode_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-AM-RLC-Mode-r5");
+   /* dl-RLC-PDU-size */
+   stat = enc_OctetModeRLC_SizeInfoType1(ctx, &pvalue->dl_RLC_PDU_size, cur);
+   RT_CHECK(ctx, stat, 0, "dl-RLC-PDU-size", -1, "DL-AM-RLC-Mode-r5");
+   /* inSequenceDelivery */
+   stat = rtxEncBitAt(ctx, cur, pvalue->inSequenceDelivery);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "inSequenceDelivery", -1, "DL-AM-RLC-Mode-r5");
+   /* receivingWindowSize */
+   if (pvalue->receivingWindowSize > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->receivingWindowSize);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ReceivingWindowSize", "receivingWindowSize", -1, "DL-AM-RLC-Mode-r5");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->receivingWindowSize, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "ReceivingWindowSize", "receivingWindowSize", -1, "DL-AM-RLC-Mode-r5");
+   /* dl-RLC-StatusInfo */
+   stat = enc_DL_RLC_StatusInfo(ctx, &pvalue->dl_RLC_StatusInfo, cur);
+   RT_CHECK(ctx, stat, 0, "dl-RLC-StatusInfo", -1, "DL-AM-RLC-Mode-r5");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AM_RLC_Mode_r5(rtxContext* RT_RESTRICT ctx, const DL_AM_RLC_Mode_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_AM_RLC_Mode_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_AM_RLC_Mode_r7_dl_RLC_PDU_size_flexibleSize(rtxContext* RT_RESTRICT ctx, DL_AM_RLC_Mode_r7_dl_RLC_PDU_size_flexibleSize value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AM_RLC_Mode_r7_dl_RLC_PDU_size_flexibleSize(rtxContext* RT_RESTRICT ctx, DL_AM_RLC_Mode_r7_dl_RLC_PDU_size_flexibleSize value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_AM_RLC_Mode_r7_dl_RLC_PDU_size_flexibleSize, value);
+}
+
+RT_MERGED_BODY int enc_DL_AM_RLC_Mode_r7_dl_RLC_PDU_size(rtxContext* RT_RESTRICT ctx, const DL_AM_RLC_Mode_r7_dl_RLC_PDU_size* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, "DL-DPCH-InfoPerRL-r5");
-         stat = asn1PE_UMTS_DL_DPCH_InfoPerRL_r5_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, "DL-DPCH-InfoPerRL-r5");
+         if (pvalue->u.fixedSize == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fixedSize", -1, 0);
+         stat = enc_OctetModeRLC_SizeInfoType1(ctx, pvalue->u.fixedSize, cur);
+         RT_CHECK(ctx, stat, 0, "fixedSize", -1, 0);
          break;
       case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, "DL-DPCH-InfoPerRL-r5");
-         stat = asn1PE_UMTS_DL_DPCH_InfoPerRL_r5_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, "DL-DPCH-InfoPerRL-r5");
+         if (pvalue->u.flexibleSize > 1) {
+            rtxErrAddUIntParm(ctx, pvalue->u.flexibleSize);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "flexibleSize", -1, 0);
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.flexibleSize, 0, 1);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "flexibleSize", -1, 0);
          break;
       default:
          break;
@@ -1098,1054 +808,283 @@ int asn1PE_UMTS_DL_DPCH_InfoPerRL_r5(rtxContext* RT_RESTRICT ctx, const DL_DPCH_
    return 0;
 }
 
-int asn1PE_UMTS_DL_DPCH_InfoPerRL_r6_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r6_fdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_AM_RLC_Mode_r7_dl_RLC_PDU_size(rtxContext* RT_RESTRICT ctx, const DL_AM_RLC_Mode_r7_dl_RLC_PDU_size* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_AM_RLC_Mode_r7_dl_RLC_PDU_size, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_AM_RLC_Mode_r7(rtxContext* RT_RESTRICT ctx, const DL_AM_RLC_Mode_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pCPICH-UsageForChannelEst */
-   if (pvalue->pCPICH_UsageForChannelEst > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->pCPICH_UsageForChannelEst);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-AM-RLC-Mode-r7");
+   /* dl-RLC-PDU-size */
+   stat = enc_DL_AM_RLC_Mode_r7_dl_RLC_PDU_size(ctx, &pvalue->dl_RLC_PDU_size, cur);
+   RT_CHECK(ctx, stat, 0, "dl-RLC-PDU-size", -1, "DL-AM-RLC-Mode-r7");
+   /* inSequenceDelivery */
+   stat = rtxEncBitAt(ctx, cur, pvalue->inSequenceDelivery);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "inSequenceDelivery", -1, "DL-AM-RLC-Mode-r7");
+   /* receivingWindowSize */
+   if (pvalue->receivingWindowSize > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->receivingWindowSize);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ReceivingWindowSize", "receivingWindowSize", -1, "DL-AM-RLC-Mode-r7");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->pCPICH_UsageForChannelEst, 0, 1);
-   RT_CHECK(ctx, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, 0);
-   /* dpch-FrameOffset */
-   if ((uint64_t)pvalue->dpch_FrameOffset > 149u) {
-      rtxErrAddStrParm(ctx, "DPCH-FrameOffset");
-      rtxErrAddUIntParm(ctx, pvalue->dpch_FrameOffset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "DPCH-FrameOffset", "dpch-FrameOffset", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dpch_FrameOffset, 0, 149);
-   RT_CHECK(ctx, stat, "DPCH-FrameOffset", "dpch-FrameOffset", -1, 0);
-   /* secondaryCPICH-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SecondaryCPICH_Info(ctx, &pvalue->secondaryCPICH_Info);
-      RT_CHECK(ctx, stat, 0, "secondaryCPICH-Info", -1, 0);
-   }
-   /* dl-ChannelisationCodeList */
-   stat = asn1PE_UMTS_DL_ChannelisationCodeList(ctx, &pvalue->dl_ChannelisationCodeList);
-   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCodeList", -1, 0);
-   /* tpc-CombinationIndex */
-   if ((uint64_t)pvalue->tpc_CombinationIndex > 5u) {
-      rtxErrAddStrParm(ctx, "TPC-CombinationIndex");
-      rtxErrAddUIntParm(ctx, pvalue->tpc_CombinationIndex);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tpc_CombinationIndex, 0, 5);
-   RT_CHECK(ctx, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, 0);
-   /* powerOffsetTPC-pdpdch */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->powerOffsetTPC_pdpdch > 24u) {
-         rtxErrAddStrParm(ctx, "PowerOffsetTPC-pdpdch");
-         rtxErrAddUIntParm(ctx, pvalue->powerOffsetTPC_pdpdch);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "PowerOffsetTPC-pdpdch", "powerOffsetTPC-pdpdch", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->powerOffsetTPC_pdpdch, 0, 24);
-      RT_CHECK(ctx, stat, "PowerOffsetTPC-pdpdch", "powerOffsetTPC-pdpdch", -1, 0);
-   }
-   /* closedLoopTimingAdjMode */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->closedLoopTimingAdjMode > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->closedLoopTimingAdjMode);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "ClosedLoopTimingAdjMode", "closedLoopTimingAdjMode", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->closedLoopTimingAdjMode, 0, 1);
-      RT_CHECK(ctx, stat, "ClosedLoopTimingAdjMode", "closedLoopTimingAdjMode", -1, 0);
-   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->receivingWindowSize, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "ReceivingWindowSize", "receivingWindowSize", -1, "DL-AM-RLC-Mode-r7");
+   /* dl-RLC-StatusInfo */
+   stat = enc_DL_RLC_StatusInfo(ctx, &pvalue->dl_RLC_StatusInfo, cur);
+   RT_CHECK(ctx, stat, 0, "dl-RLC-StatusInfo", -1, "DL-AM-RLC-Mode-r7");
    return 0;
 }
 
-int asn1PE_UMTS_DL_DPCH_InfoPerRL_r6_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r6_tdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_AM_RLC_Mode_r7(rtxContext* RT_RESTRICT ctx, const DL_AM_RLC_Mode_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_AM_RLC_Mode_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDCP_SN_Info(rtxContext* RT_RESTRICT ctx, PDCP_SN_Info value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-CCTrChListToEstablish */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_CCTrChList_r4(ctx, &pvalue->dl_CCTrChListToEstablish);
-      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToEstablish", -1, 0);
-   }
-   /* dl-CCTrChListToRemove */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DL_CCTrChListToRemove(ctx, &pvalue->dl_CCTrChListToRemove);
-      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToRemove", -1, 0);
-   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 65535);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PDCP-SN-Info");
    return 0;
 }
 
-int asn1PE_UMTS_DL_DPCH_InfoPerRL_r6(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r6* RT_RESTRICT pvalue)
+int asn1PE_UMTS_PDCP_SN_Info(rtxContext* RT_RESTRICT ctx, PDCP_SN_Info value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDCP_SN_Info, value);
+}
+
+RT_MERGED_BODY int enc_RB_WithPDCP_Info(rtxContext* RT_RESTRICT ctx, const RB_WithPDCP_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-DPCH-InfoPerRL-r6");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "DL-DPCH-InfoPerRL-r6");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-DPCH-InfoPerRL-r6");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, "DL-DPCH-InfoPerRL-r6");
-         stat = asn1PE_UMTS_DL_DPCH_InfoPerRL_r6_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, "DL-DPCH-InfoPerRL-r6");
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, "DL-DPCH-InfoPerRL-r6");
-         stat = asn1PE_UMTS_DL_DPCH_InfoPerRL_r6_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, "DL-DPCH-InfoPerRL-r6");
-         break;
-      default:
-         break;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-WithPDCP-Info");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-WithPDCP-Info");
    }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->rb_Identity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-WithPDCP-Info");
+   /* pdcp-SN-Info */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pdcp_SN_Info, 0, 65535);
+   RT_CHECK_PUT(ctx, cur, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-WithPDCP-Info");
    return 0;
 }
 
-int asn1PE_UMTS_DL_DPCH_InfoPerRL_r7_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r7_fdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RB_WithPDCP_Info(rtxContext* RT_RESTRICT ctx, const RB_WithPDCP_Info* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pCPICH-UsageForChannelEst */
-   if (pvalue->pCPICH_UsageForChannelEst > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->pCPICH_UsageForChannelEst);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pCPICH_UsageForChannelEst, 0, 1);
-   RT_CHECK(ctx, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, 0);
-   /* dpch-FrameOffset */
-   if ((uint64_t)pvalue->dpch_FrameOffset > 149u) {
-      rtxErrAddStrParm(ctx, "DPCH-FrameOffset");
-      rtxErrAddUIntParm(ctx, pvalue->dpch_FrameOffset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "DPCH-FrameOffset", "dpch-FrameOffset", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dpch_FrameOffset, 0, 149);
-   RT_CHECK(ctx, stat, "DPCH-FrameOffset", "dpch-FrameOffset", -1, 0);
-   /* secondaryCPICH-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SecondaryCPICH_Info(ctx, &pvalue->secondaryCPICH_Info);
-      RT_CHECK(ctx, stat, 0, "secondaryCPICH-Info", -1, 0);
-   }
-   /* dl-ChannelisationCodeList */
-   stat = asn1PE_UMTS_DL_ChannelisationCodeList(ctx, &pvalue->dl_ChannelisationCodeList);
-   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCodeList", -1, 0);
-   /* tpc-CombinationIndex */
-   if ((uint64_t)pvalue->tpc_CombinationIndex > 5u) {
-      rtxErrAddStrParm(ctx, "TPC-CombinationIndex");
-      rtxErrAddUIntParm(ctx, pvalue->tpc_CombinationIndex);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tpc_CombinationIndex, 0, 5);
-   RT_CHECK(ctx, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, 0);
-   /* powerOffsetTPC-pdpdch */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->powerOffsetTPC_pdpdch > 24u) {
-         rtxErrAddStrParm(ctx, "PowerOffsetTPC-pdpdch");
-         rtxErrAddUIntParm(ctx, pvalue->powerOffsetTPC_pdpdch);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "PowerOffsetTPC-pdpdch", "powerOffsetTPC-pdpdch", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->powerOffsetTPC_pdpdch, 0, 24);
-      RT_CHECK(ctx, stat, "PowerOffsetTPC-pdpdch", "powerOffsetTPC-pdpdch", -1, 0);
-   }
-   /* closedLoopTimingAdjMode */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->closedLoopTimingAdjMode > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->closedLoopTimingAdjMode);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "ClosedLoopTimingAdjMode", "closedLoopTimingAdjMode", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->closedLoopTimingAdjMode, 0, 1);
-      RT_CHECK(ctx, stat, "ClosedLoopTimingAdjMode", "closedLoopTimingAdjMode", -1, 0);
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_RB_WithPDCP_Info, pvalue);
 }
 
-int asn1PE_UMTS_DL_DPCH_InfoPerRL_r7_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r7_tdd* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_RB_WithPDCP_InfoList(rtxContext* RT_RESTRICT ctx, const RB_WithPDCP_InfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-CCTrChListToEstablish */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_CCTrChList_r7(ctx, &pvalue->dl_CCTrChListToEstablish);
-      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToEstablish", -1, 0);
-   }
-   /* dl-CCTrChListToRemove */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DL_CCTrChListToRemove(ctx, &pvalue->dl_CCTrChListToRemove);
-      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToRemove", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_DPCH_InfoPerRL_r7(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-DPCH-InfoPerRL-r7");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "DL-DPCH-InfoPerRL-r7");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-DPCH-InfoPerRL-r7");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, "DL-DPCH-InfoPerRL-r7");
-         stat = asn1PE_UMTS_DL_DPCH_InfoPerRL_r7_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, "DL-DPCH-InfoPerRL-r7");
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, "DL-DPCH-InfoPerRL-r7");
-         stat = asn1PE_UMTS_DL_DPCH_InfoPerRL_r7_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, "DL-DPCH-InfoPerRL-r7");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_FDPCH_InfoPerRL_r6(rtxContext* RT_RESTRICT ctx, const DL_FDPCH_InfoPerRL_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-FDPCH-InfoPerRL-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-FDPCH-InfoPerRL-r6");
-   /* pCPICH-UsageForChannelEst */
-   if (pvalue->pCPICH_UsageForChannelEst > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->pCPICH_UsageForChannelEst);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, "DL-FDPCH-InfoPerRL-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pCPICH_UsageForChannelEst, 0, 1);
-   RT_CHECK(ctx, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, "DL-FDPCH-InfoPerRL-r6");
-   /* fdpch-FrameOffset */
-   if ((uint64_t)pvalue->fdpch_FrameOffset > 149u) {
-      rtxErrAddStrParm(ctx, "DPCH-FrameOffset");
-      rtxErrAddUIntParm(ctx, pvalue->fdpch_FrameOffset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "DPCH-FrameOffset", "fdpch-FrameOffset", -1, "DL-FDPCH-InfoPerRL-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->fdpch_FrameOffset, 0, 149);
-   RT_CHECK(ctx, stat, "DPCH-FrameOffset", "fdpch-FrameOffset", -1, "DL-FDPCH-InfoPerRL-r6");
-   /* secondaryCPICH-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SecondaryCPICH_Info(ctx, &pvalue->secondaryCPICH_Info);
-      RT_CHECK(ctx, stat, 0, "secondaryCPICH-Info", -1, "DL-FDPCH-InfoPerRL-r6");
-   }
-   /* secondaryScramblingCode */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)(pvalue->secondaryScramblingCode - 1) > 14u) {
-         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
-         rtxErrAddUIntParm(ctx, pvalue->secondaryScramblingCode);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "SecondaryScramblingCode", "secondaryScramblingCode", -1, "DL-FDPCH-InfoPerRL-r6");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->secondaryScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, "DL-FDPCH-InfoPerRL-r6");
-   }
-   /* dl-ChannelisationCode */
-   stat = pe_ConsUInt64(ctx, pvalue->dl_ChannelisationCode, 0, 255);
-   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCode", -1, "DL-FDPCH-InfoPerRL-r6");
-   /* tpc-CombinationIndex */
-   if ((uint64_t)pvalue->tpc_CombinationIndex > 5u) {
-      rtxErrAddStrParm(ctx, "TPC-CombinationIndex");
-      rtxErrAddUIntParm(ctx, pvalue->tpc_CombinationIndex);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, "DL-FDPCH-InfoPerRL-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tpc_CombinationIndex, 0, 5);
-   RT_CHECK(ctx, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, "DL-FDPCH-InfoPerRL-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_DPCH_InfoPerRL_PostFDD(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_PostFDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-DPCH-InfoPerRL-PostFDD");
-   /* pCPICH-UsageForChannelEst */
-   if (pvalue->pCPICH_UsageForChannelEst > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->pCPICH_UsageForChannelEst);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, "DL-DPCH-InfoPerRL-PostFDD");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pCPICH_UsageForChannelEst, 0, 1);
-   RT_CHECK(ctx, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, "DL-DPCH-InfoPerRL-PostFDD");
-   /* dl-ChannelisationCode */
-   stat = asn1PE_UMTS_DL_ChannelisationCode(ctx, &pvalue->dl_ChannelisationCode);
-   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCode", -1, "DL-DPCH-InfoPerRL-PostFDD");
-   /* tpc-CombinationIndex */
-   if ((uint64_t)pvalue->tpc_CombinationIndex > 5u) {
-      rtxErrAddStrParm(ctx, "TPC-CombinationIndex");
-      rtxErrAddUIntParm(ctx, pvalue->tpc_CombinationIndex);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, "DL-DPCH-InfoPerRL-PostFDD");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tpc_CombinationIndex, 0, 5);
-   RT_CHECK(ctx, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, "DL-DPCH-InfoPerRL-PostFDD");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_DPCH_InfoPerRL_PostTDD(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_PostTDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-DPCH-InfoPerRL-PostTDD");
-   /* dl-DPCH-TimeslotsCodes */
-   stat = asn1PE_UMTS_DownlinkTimeslotsCodes(ctx, &pvalue->dl_DPCH_TimeslotsCodes);
-   RT_CHECK(ctx, stat, 0, "dl-DPCH-TimeslotsCodes", -1, "DL-DPCH-InfoPerRL-PostTDD");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_DPCH_InfoPerRL_PostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_PostTDD_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-DPCH-InfoPerRL-PostTDD-LCR-r4");
-   /* dl-CCTrCH-TimeslotsCodes */
-   stat = asn1PE_UMTS_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes);
-   RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, "DL-DPCH-InfoPerRL-PostTDD-LCR-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r6_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)pvalue->elem[i] > 127u) {
-         rtxErrAddStrParm(ctx, "HS-SCCH-Codes");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 127);
-      RT_CHECK(ctx, stat, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* hS-SCCHChannelisationCodeInfo */
-   stat = asn1PE_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo);
-   RT_CHECK(ctx, stat, 0, "hS-SCCHChannelisationCodeInfo", -1, 0);
-   /* dl-ScramblingCode */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->dl_ScramblingCode - 1) > 14u) {
-         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
-         rtxErrAddUIntParm(ctx, pvalue->dl_ScramblingCode);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dl_ScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-WithPDCP-InfoList");
    const rtxDListNode* node;
    uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 1, 27);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RB-WithPDCP-InfoList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "HS-SCCH-TDD384-r6", (int32_t)i, 0);
-      stat = asn1PE_UMTS_HS_SCCH_TDD384_r6(ctx, (const HS_SCCH_TDD384_r6*)node->data);
-      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD384-r6", (int32_t)i, 0);
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RB-WithPDCP-Info", (int32_t)i, "RB-WithPDCP-InfoList");
+      stat = enc_RB_WithPDCP_Info(ctx, (const RB_WithPDCP_Info*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RB-WithPDCP-Info", (int32_t)i, "RB-WithPDCP-InfoList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RB_WithPDCP_InfoList(rtxContext* RT_RESTRICT ctx, const RB_WithPDCP_InfoList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_WithPDCP_InfoList, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CounterSynchronisationInfo(rtxContext* RT_RESTRICT ctx, const DL_CounterSynchronisationInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-CounterSynchronisationInfo");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* nack-ack-power-offset */
-   if (pvalue->nack_ack_power_offset < -7 || pvalue->nack_ack_power_offset > 8) {
-      rtxErrAddStrParm(ctx, "nack-ack-power-offset");
-      rtxErrAddIntParm(ctx, pvalue->nack_ack_power_offset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "nack-ack-power-offset", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->nack_ack_power_offset, -7, 8);
-   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, 0);
-   /* hs-SICH-PowerControl-Info */
-   stat = asn1PE_UMTS_HS_SICH_Power_Control_Info_TDD384(ctx, &pvalue->hs_SICH_PowerControl_Info);
-   RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl-Info", -1, 0);
-   /* dhs-sync */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-CounterSynchronisationInfo");
+   /* rB-WithPDCP-InfoList */
    if (pvalue->m & 0x1u) {
-      if (pvalue->dhs_sync < -20 || pvalue->dhs_sync > 10) {
-         rtxErrAddStrParm(ctx, "DHS-Sync");
-         rtxErrAddIntParm(ctx, pvalue->dhs_sync);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DHS-Sync", "dhs-sync", -1, 0);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->dhs_sync, -20, 10);
-      RT_CHECK(ctx, stat, "DHS-Sync", "dhs-sync", -1, 0);
+      stat = enc_RB_WithPDCP_InfoList(ctx, &pvalue->rB_WithPDCP_InfoList, cur);
+      RT_CHECK(ctx, stat, 0, "rB-WithPDCP-InfoList", -1, "DL-CounterSynchronisationInfo");
    }
-   /* bler-target */
-   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
-      rtxErrAddStrParm(ctx, "Bler-Target");
-      rtxErrAddIntParm(ctx, pvalue->bler_target);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Bler-Target", "bler-target", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, 0);
-   /* hS-SCCH-SetConfiguration */
-   stat = asn1PE_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
-   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_tpc_step_size value)
+int asn1PE_UMTS_DL_CounterSynchronisationInfo(rtxContext* RT_RESTRICT ctx, const DL_CounterSynchronisationInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CounterSynchronisationInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_PDCPContextRelocation(rtxContext* RT_RESTRICT ctx, const RB_PDCPContextRelocation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-PDCPContextRelocation");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-PDCPContextRelocation");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->rb_Identity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-PDCPContextRelocation");
+   /* dl-RFC3095-Context-Relocation */
+   stat = rtxEncBitAt(ctx, cur, pvalue->dl_RFC3095_Context_Relocation);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "dl-RFC3095-Context-Relocation", -1, "RB-PDCPContextRelocation");
+   /* ul-RFC3095-Context-Relocation */
+   stat = rtxEncBitAt(ctx, cur, pvalue->ul_RFC3095_Context_Relocation);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ul-RFC3095-Context-Relocation", -1, "RB-PDCPContextRelocation");
    return 0;
 }
 
-int asn1PE_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RB_PDCPContextRelocation(rtxContext* RT_RESTRICT ctx, const RB_PDCPContextRelocation* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_PDCPContextRelocation, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_PDCPContextRelocationList(rtxContext* RT_RESTRICT ctx, const RB_PDCPContextRelocationList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-PDCPContextRelocationList");
    const rtxDListNode* node;
    uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 1, 27);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RB-PDCPContextRelocationList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
-      stat = asn1PE_UMTS_HS_SCCH_TDD128_r6(ctx, (const HS_SCCH_TDD128_r6*)node->data);
-      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RB-PDCPContextRelocation", (int32_t)i, "RB-PDCPContextRelocationList");
+      stat = enc_RB_PDCPContextRelocation(ctx, (const RB_PDCPContextRelocation*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RB-PDCPContextRelocation", (int32_t)i, "RB-PDCPContextRelocationList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RB_PDCPContextRelocationList(rtxContext* RT_RESTRICT ctx, const RB_PDCPContextRelocationList* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* nack-ack-power-offset */
-   if (pvalue->nack_ack_power_offset < -7 || pvalue->nack_ack_power_offset > 8) {
-      rtxErrAddStrParm(ctx, "nack-ack-power-offset");
-      rtxErrAddIntParm(ctx, pvalue->nack_ack_power_offset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "nack-ack-power-offset", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->nack_ack_power_offset, -7, 8);
-   RT_CHECK(ctx, stat, 0, "nack-ack-power-offset", -1, 0);
-   /* power-level-HSSICH */
-   if (pvalue->power_level_HSSICH < -120 || pvalue->power_level_HSSICH > -58) {
-      rtxErrAddStrParm(ctx, "power-level-HSSICH");
-      rtxErrAddIntParm(ctx, pvalue->power_level_HSSICH);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "power-level-HSSICH", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->power_level_HSSICH, -120, -58);
-   RT_CHECK(ctx, stat, 0, "power-level-HSSICH", -1, 0);
-   /* tpc-step-size */
-   if (pvalue->tpc_step_size > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->tpc_step_size);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "tpc-step-size", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tpc_step_size, 0, 3);
-   RT_CHECK(ctx, stat, 0, "tpc-step-size", -1, 0);
-   /* bler-target */
-   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
-      rtxErrAddStrParm(ctx, "Bler-Target");
-      rtxErrAddIntParm(ctx, pvalue->bler_target);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Bler-Target", "bler-target", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->bler_target, -63, 0);
-   RT_CHECK(ctx, stat, "Bler-Target", "bler-target", -1, 0);
-   /* hS-SCCH-SetConfiguration */
-   stat = asn1PE_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration);
-   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_RB_PDCPContextRelocationList, pvalue);
 }
 
-int asn1PE_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+static int enc_DL_CounterSynchronisationInfo_r5(rtxContext* RT_RESTRICT ctx, const DL_CounterSynchronisationInfo_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
-         stat = asn1PE_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r6_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r6(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-Info-r6");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_HS_SCCH_Info_r6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "HS-SCCH-Info-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-CounterSynchronisationInfo-r5");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dl-HSPDSCH-TS-Configuration */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_HSPDSCH_TS_Configuration(ctx, &pvalue->dl_HSPDSCH_TS_Configuration);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* hs-PDSCH-Midamble-Configuration-tdd128 */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration_tdd128);
-      RT_CHECK(ctx, stat, 0, "hs-PDSCH-Midamble-Configuration-tdd128", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r6_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r6(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-HSPDSCH-Information-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-HSPDSCH-Information-r6");
-   /* hs-scch-Info */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-CounterSynchronisationInfo-r5");
+   /* rb-WithPDCP-InfoList */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_HS_SCCH_Info_r6(ctx, &pvalue->hs_scch_Info);
-      RT_CHECK(ctx, stat, 0, "hs-scch-Info", -1, "DL-HSPDSCH-Information-r6");
+      stat = enc_RB_WithPDCP_InfoList(ctx, &pvalue->rb_WithPDCP_InfoList, cur);
+      RT_CHECK(ctx, stat, 0, "rb-WithPDCP-InfoList", -1, "DL-CounterSynchronisationInfo-r5");
    }
-   /* measurement-feedback-Info */
+   /* rb-PDCPContextRelocationList */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_Measurement_Feedback_Info(ctx, &pvalue->measurement_feedback_Info);
-      RT_CHECK(ctx, stat, 0, "measurement-feedback-Info", -1, "DL-HSPDSCH-Information-r6");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-HSPDSCH-Information-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* outofSyncWindow */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->outofSyncWindow > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->outofSyncWindow);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "OutofSyncWindow", "outofSyncWindow", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->outofSyncWindow, 0, 7);
-      RT_CHECK(ctx, stat, "OutofSyncWindow", "outofSyncWindow", -1, 0);
+      stat = enc_RB_PDCPContextRelocationList(ctx, &pvalue->rb_PDCPContextRelocationList, cur);
+      RT_CHECK(ctx, stat, 0, "rb-PDCPContextRelocationList", -1, "DL-CounterSynchronisationInfo-r5");
    }
    return 0;
 }
 
-int asn1PE_UMTS_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_CounterSynchronisationInfo_r5(rtxContext* RT_RESTRICT ctx, const DL_CounterSynchronisationInfo_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CounterSynchronisationInfo_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_MAC_d_FlowIdentity(rtxContext* RT_RESTRICT ctx, MAC_d_FlowIdentity value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if ((uint64_t)value > 7u) {
+      rtxErrAddStrParm(ctx, "MAC-d-FlowIdentity");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "MAC-d-FlowIdentity");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MAC-d-FlowIdentity");
+   return 0;
+}
+
+int asn1PE_UMTS_MAC_d_FlowIdentity(rtxContext* RT_RESTRICT ctx, MAC_d_FlowIdentity value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MAC_d_FlowIdentity, value);
+}
+
+RT_MERGED_BODY int enc_MAC_d_FlowIdentityDCHandHSDSCH(rtxContext* RT_RESTRICT ctx, const MAC_d_FlowIdentityDCHandHSDSCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MAC-d-FlowIdentityDCHandHSDSCH");
+   /* dch-transport-ch-id */
+   if ((uint64_t)(pvalue->dch_transport_ch_id - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->dch_transport_ch_id);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportChannelIdentity", "dch-transport-ch-id", -1, "MAC-d-FlowIdentityDCHandHSDSCH");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dch_transport_ch_id, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "TransportChannelIdentity", "dch-transport-ch-id", -1, "MAC-d-FlowIdentityDCHandHSDSCH");
+   /* hsdsch-mac-d-flow-id */
+   if ((uint64_t)pvalue->hsdsch_mac_d_flow_id > 7u) {
+      rtxErrAddStrParm(ctx, "MAC-d-FlowIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->hsdsch_mac_d_flow_id);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MAC-d-FlowIdentity", "hsdsch-mac-d-flow-id", -1, "MAC-d-FlowIdentityDCHandHSDSCH");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->hsdsch_mac_d_flow_id, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "MAC-d-FlowIdentity", "hsdsch-mac-d-flow-id", -1, "MAC-d-FlowIdentityDCHandHSDSCH");
+   return 0;
+}
+
+int asn1PE_UMTS_MAC_d_FlowIdentityDCHandHSDSCH(rtxContext* RT_RESTRICT ctx, const MAC_d_FlowIdentityDCHandHSDSCH* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MAC_d_FlowIdentityDCHandHSDSCH, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_TransportChannelType_r5(rtxContext* RT_RESTRICT ctx, const DL_TransportChannelType_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-TransportChannelType-r5");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "DL-TransportChannelType-r5");
+   if (pvalue->t - 1 > 5) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "DL-TransportChannelType-r5");
    switch (pvalue->t) {
       case 1:
+         if ((uint64_t)(pvalue->u.dch - 1) > 31u) {
+            rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.dch);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportChannelIdentity", "dch", -1, "DL-TransportChannelType-r5");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.dch, 1, 32);
+         RT_CHECK_PUT(ctx, cur, stat, "TransportChannelIdentity", "dch", -1, "DL-TransportChannelType-r5");
          break;
       case 2:
          break;
       case 3:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_ext_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r8_ext(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-HSPDSCH-Information-r8-ext");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-HSPDSCH-Information-r8-ext");
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* hS-SCCH-tpc-step-size */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->hS_SCCH_tpc_step_size > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->hS_SCCH_tpc_step_size);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "hS-SCCH-tpc-step-size", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hS_SCCH_tpc_step_size, 0, 3);
-      RT_CHECK(ctx, stat, 0, "hS-SCCH-tpc-step-size", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         break;
-      case 3:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r8_ext_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Info_r8_ext(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r8_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-Info-r8-ext");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "HS-SCCH-Info-r8-ext");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_HSPDSCH_Information_r8_ext2(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_ext2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-HSPDSCH-Information-r8-ext2");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-HSPDSCH-Information-r8-ext2");
-   /* hs-scch-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_HS_SCCH_Info_r8_ext(ctx, &pvalue->hs_scch_Info);
-      RT_CHECK(ctx, stat, 0, "hs-scch-Info", -1, "DL-HSPDSCH-Information-r8-ext2");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DSCH_RadioLinkIdentifier(rtxContext* RT_RESTRICT ctx, DSCH_RadioLinkIdentifier value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 511u) {
-      rtxErrAddStrParm(ctx, "DSCH-RadioLinkIdentifier");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DSCH-RadioLinkIdentifier");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 511);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DSCH-RadioLinkIdentifier");
-   return 0;
-}
-
-int asn1PE_UMTS_RL_IdentifierList(rtxContext* RT_RESTRICT ctx, const RL_IdentifierList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RL-IdentifierList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RL-IdentifierList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PrimaryCPICH-Info", (int32_t)i, "RL-IdentifierList");
-      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, (const PrimaryCPICH_Info*)node->data);
-      RT_CHECK(ctx, stat, 0, "PrimaryCPICH-Info", (int32_t)i, "RL-IdentifierList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_SHO_DCH_Info(rtxContext* RT_RESTRICT ctx, const PDSCH_SHO_DCH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-SHO-DCH-Info");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-SHO-DCH-Info");
-   /* dsch-RadioLinkIdentifier */
-   if ((uint64_t)pvalue->dsch_RadioLinkIdentifier > 511u) {
-      rtxErrAddStrParm(ctx, "DSCH-RadioLinkIdentifier");
-      rtxErrAddUIntParm(ctx, pvalue->dsch_RadioLinkIdentifier);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "DSCH-RadioLinkIdentifier", "dsch-RadioLinkIdentifier", -1, "PDSCH-SHO-DCH-Info");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dsch_RadioLinkIdentifier, 0, 511);
-   RT_CHECK(ctx, stat, "DSCH-RadioLinkIdentifier", "dsch-RadioLinkIdentifier", -1, "PDSCH-SHO-DCH-Info");
-   /* rl-IdentifierList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RL_IdentifierList(ctx, &pvalue->rl_IdentifierList);
-      RT_CHECK(ctx, stat, 0, "rl-IdentifierList", -1, "PDSCH-SHO-DCH-Info");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MaxTFCI_Field2Value(rtxContext* RT_RESTRICT ctx, MaxTFCI_Field2Value value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 1022u) {
-      rtxErrAddStrParm(ctx, "MaxTFCI-Field2Value");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MaxTFCI-Field2Value");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 1023);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MaxTFCI-Field2Value");
-   return 0;
-}
-
-int asn1PE_UMTS_DSCH_Mapping(rtxContext* RT_RESTRICT ctx, const DSCH_Mapping* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DSCH-Mapping");
-   /* maxTFCI-Field2Value */
-   if ((uint64_t)(pvalue->maxTFCI_Field2Value - 1) > 1022u) {
-      rtxErrAddStrParm(ctx, "MaxTFCI-Field2Value");
-      rtxErrAddUIntParm(ctx, pvalue->maxTFCI_Field2Value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxTFCI-Field2Value", "maxTFCI-Field2Value", -1, "DSCH-Mapping");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxTFCI_Field2Value, 1, 1023);
-   RT_CHECK(ctx, stat, "MaxTFCI-Field2Value", "maxTFCI-Field2Value", -1, "DSCH-Mapping");
-   /* spreadingFactor */
-   if (pvalue->spreadingFactor > 6) {
-      rtxErrAddUIntParm(ctx, pvalue->spreadingFactor);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "SF-PDSCH", "spreadingFactor", -1, "DSCH-Mapping");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->spreadingFactor, 0, 6);
-   RT_CHECK(ctx, stat, "SF-PDSCH", "spreadingFactor", -1, "DSCH-Mapping");
-   /* codeNumber */
-   stat = pe_ConsUInt64(ctx, pvalue->codeNumber, 0, 255);
-   RT_CHECK(ctx, stat, "CodeNumberDSCH", "codeNumber", -1, "DSCH-Mapping");
-   /* multiCodeInfo */
-   if ((uint64_t)(pvalue->multiCodeInfo - 1) > 15u) {
-      rtxErrAddStrParm(ctx, "MultiCodeInfo");
-      rtxErrAddUIntParm(ctx, pvalue->multiCodeInfo);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MultiCodeInfo", "multiCodeInfo", -1, "DSCH-Mapping");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->multiCodeInfo, 1, 16);
-   RT_CHECK(ctx, stat, "MultiCodeInfo", "multiCodeInfo", -1, "DSCH-Mapping");
-   return 0;
-}
-
-int asn1PE_UMTS_DSCH_MappingList(rtxContext* RT_RESTRICT ctx, const DSCH_MappingList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DSCH-MappingList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 256);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DSCH-MappingList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DSCH-Mapping", (int32_t)i, "DSCH-MappingList");
-      stat = asn1PE_UMTS_DSCH_Mapping(ctx, (const DSCH_Mapping*)node->data);
-      RT_CHECK(ctx, stat, 0, "DSCH-Mapping", (int32_t)i, "DSCH-MappingList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_CodeInfo(rtxContext* RT_RESTRICT ctx, const PDSCH_CodeInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-CodeInfo");
-   /* spreadingFactor */
-   if (pvalue->spreadingFactor > 6) {
-      rtxErrAddUIntParm(ctx, pvalue->spreadingFactor);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "SF-PDSCH", "spreadingFactor", -1, "PDSCH-CodeInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->spreadingFactor, 0, 6);
-   RT_CHECK(ctx, stat, "SF-PDSCH", "spreadingFactor", -1, "PDSCH-CodeInfo");
-   /* codeNumber */
-   stat = pe_ConsUInt64(ctx, pvalue->codeNumber, 0, 255);
-   RT_CHECK(ctx, stat, "CodeNumberDSCH", "codeNumber", -1, "PDSCH-CodeInfo");
-   /* multiCodeInfo */
-   if ((uint64_t)(pvalue->multiCodeInfo - 1) > 15u) {
-      rtxErrAddStrParm(ctx, "MultiCodeInfo");
-      rtxErrAddUIntParm(ctx, pvalue->multiCodeInfo);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MultiCodeInfo", "multiCodeInfo", -1, "PDSCH-CodeInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->multiCodeInfo, 1, 16);
-   RT_CHECK(ctx, stat, "MultiCodeInfo", "multiCodeInfo", -1, "PDSCH-CodeInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_CodeInfoList(rtxContext* RT_RESTRICT ctx, const PDSCH_CodeInfoList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-CodeInfoList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 512);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PDSCH-CodeInfoList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PDSCH-CodeInfo", (int32_t)i, "PDSCH-CodeInfoList");
-      stat = asn1PE_UMTS_PDSCH_CodeInfo(ctx, (const PDSCH_CodeInfo*)node->data);
-      RT_CHECK(ctx, stat, 0, "PDSCH-CodeInfo", (int32_t)i, "PDSCH-CodeInfoList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ReplacedPDSCH_CodeInfo(rtxContext* RT_RESTRICT ctx, const ReplacedPDSCH_CodeInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ReplacedPDSCH-CodeInfo");
-   /* tfci-Field2 */
-   if ((uint64_t)(pvalue->tfci_Field2 - 1) > 1022u) {
-      rtxErrAddStrParm(ctx, "MaxTFCI-Field2Value");
-      rtxErrAddUIntParm(ctx, pvalue->tfci_Field2);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxTFCI-Field2Value", "tfci-Field2", -1, "ReplacedPDSCH-CodeInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tfci_Field2, 1, 1023);
-   RT_CHECK(ctx, stat, "MaxTFCI-Field2Value", "tfci-Field2", -1, "ReplacedPDSCH-CodeInfo");
-   /* spreadingFactor */
-   if (pvalue->spreadingFactor > 6) {
-      rtxErrAddUIntParm(ctx, pvalue->spreadingFactor);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "SF-PDSCH", "spreadingFactor", -1, "ReplacedPDSCH-CodeInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->spreadingFactor, 0, 6);
-   RT_CHECK(ctx, stat, "SF-PDSCH", "spreadingFactor", -1, "ReplacedPDSCH-CodeInfo");
-   /* codeNumber */
-   stat = pe_ConsUInt64(ctx, pvalue->codeNumber, 0, 255);
-   RT_CHECK(ctx, stat, "CodeNumberDSCH", "codeNumber", -1, "ReplacedPDSCH-CodeInfo");
-   /* multiCodeInfo */
-   if ((uint64_t)(pvalue->multiCodeInfo - 1) > 15u) {
-      rtxErrAddStrParm(ctx, "MultiCodeInfo");
-      rtxErrAddUIntParm(ctx, pvalue->multiCodeInfo);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MultiCodeInfo", "multiCodeInfo", -1, "ReplacedPDSCH-CodeInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->multiCodeInfo, 1, 16);
-   RT_CHECK(ctx, stat, "MultiCodeInfo", "multiCodeInfo", -1, "ReplacedPDSCH-CodeInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_ReplacedPDSCH_CodeInfoList(rtxContext* RT_RESTRICT ctx, const ReplacedPDSCH_CodeInfoList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ReplacedPDSCH-CodeInfoList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 512);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "ReplacedPDSCH-CodeInfoList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ReplacedPDSCH-CodeInfo", (int32_t)i, "ReplacedPDSCH-CodeInfoList");
-      stat = asn1PE_UMTS_ReplacedPDSCH_CodeInfo(ctx, (const ReplacedPDSCH_CodeInfo*)node->data);
-      RT_CHECK(ctx, stat, 0, "ReplacedPDSCH-CodeInfo", (int32_t)i, "ReplacedPDSCH-CodeInfoList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_CodeMapping_signallingMethod(rtxContext* RT_RESTRICT ctx, const PDSCH_CodeMapping_signallingMethod* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.codeRange == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "codeRange", -1, 0);
-         stat = asn1PE_UMTS_CodeRange(ctx, pvalue->u.codeRange);
-         RT_CHECK(ctx, stat, 0, "codeRange", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tfci_Range == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tfci-Range", -1, 0);
-         stat = asn1PE_UMTS_DSCH_MappingList(ctx, pvalue->u.tfci_Range);
-         RT_CHECK(ctx, stat, 0, "tfci-Range", -1, 0);
-         break;
-      case 3:
-         if (pvalue->u.explicit_config == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "explicit-config", -1, 0);
-         stat = asn1PE_UMTS_PDSCH_CodeInfoList(ctx, pvalue->u.explicit_config);
-         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
+         if ((uint64_t)(pvalue->u.dsch - 1) > 31u) {
+            rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.dsch);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportChannelIdentity", "dsch", -1, "DL-TransportChannelType-r5");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.dsch, 1, 32);
+         RT_CHECK_PUT(ctx, cur, stat, "TransportChannelIdentity", "dsch", -1, "DL-TransportChannelType-r5");
          break;
       case 4:
-         if (pvalue->u.replace == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "replace", -1, 0);
-         stat = asn1PE_UMTS_ReplacedPDSCH_CodeInfoList(ctx, pvalue->u.replace);
-         RT_CHECK(ctx, stat, 0, "replace", -1, 0);
+         if (pvalue->u.dch_and_dsch == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dch-and-dsch", -1, "DL-TransportChannelType-r5");
+         stat = enc_TransportChannelIdentityDCHandDSCH(ctx, pvalue->u.dch_and_dsch, cur);
+         RT_CHECK(ctx, stat, 0, "dch-and-dsch", -1, "DL-TransportChannelType-r5");
+         break;
+      case 5:
+         if ((uint64_t)pvalue->u.hsdsch > 7u) {
+            rtxErrAddStrParm(ctx, "MAC-d-FlowIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.hsdsch);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MAC-d-FlowIdentity", "hsdsch", -1, "DL-TransportChannelType-r5");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.hsdsch, 0, 7);
+         RT_CHECK_PUT(ctx, cur, stat, "MAC-d-FlowIdentity", "hsdsch", -1, "DL-TransportChannelType-r5");
+         break;
+      case 6:
+         if (pvalue->u.dch_and_hsdsch == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dch-and-hsdsch", -1, "DL-TransportChannelType-r5");
+         stat = enc_MAC_d_FlowIdentityDCHandHSDSCH(ctx, pvalue->u.dch_and_hsdsch, cur);
+         RT_CHECK(ctx, stat, 0, "dch-and-hsdsch", -1, "DL-TransportChannelType-r5");
          break;
       default:
          break;
@@ -2153,70 +1092,64 @@ int asn1PE_UMTS_PDSCH_CodeMapping_signallingMethod(rtxContext* RT_RESTRICT ctx, 
    return 0;
 }
 
-int asn1PE_UMTS_PDSCH_CodeMapping(rtxContext* RT_RESTRICT ctx, const PDSCH_CodeMapping* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_TransportChannelType_r5(rtxContext* RT_RESTRICT ctx, const DL_TransportChannelType_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_TransportChannelType_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_LogicalChannelMapping_r5(rtxContext* RT_RESTRICT ctx, const DL_LogicalChannelMapping_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-CodeMapping");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-LogicalChannelMapping-r5");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-CodeMapping");
-   /* dl-ScramblingCode */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-LogicalChannelMapping-r5");
+   /* dl-TransportChannelType */
+   stat = enc_DL_TransportChannelType_r5(ctx, &pvalue->dl_TransportChannelType, cur);
+   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-LogicalChannelMapping-r5");
+   /* logicalChannelIdentity */
    if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->dl_ScramblingCode - 1) > 14u) {
-         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
-         rtxErrAddUIntParm(ctx, pvalue->dl_ScramblingCode);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "SecondaryScramblingCode", "dl-ScramblingCode", -1, "PDSCH-CodeMapping");
+      if ((uint64_t)(pvalue->logicalChannelIdentity - 1) > 14u) {
+         rtxErrAddStrParm(ctx, "LogicalChannelIdentity");
+         rtxErrAddUIntParm(ctx, pvalue->logicalChannelIdentity);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "DL-LogicalChannelMapping-r5");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->dl_ScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, "PDSCH-CodeMapping");
-   }
-   /* signallingMethod */
-   stat = asn1PE_UMTS_PDSCH_CodeMapping_signallingMethod(ctx, &pvalue->signallingMethod);
-   RT_CHECK(ctx, stat, 0, "signallingMethod", -1, "PDSCH-CodeMapping");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* primaryCPICH-Info */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   /* dummy1 */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PDSCH_SHO_DCH_Info(ctx, &pvalue->dummy1);
-      RT_CHECK(ctx, stat, 0, "dummy1", -1, 0);
-   }
-   /* dummy2 */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_PDSCH_CodeMapping(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->logicalChannelIdentity, 1, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "DL-LogicalChannelMapping-r5");
    }
    return 0;
 }
 
-int asn1PE_UMTS_DL_InformationPerRL_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_modeSpecificInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_LogicalChannelMapping_r5(rtxContext* RT_RESTRICT ctx, const DL_LogicalChannelMapping_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_LogicalChannelMapping_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_TransportChannelType_r7_hsdsch(rtxContext* RT_RESTRICT ctx, const DL_TransportChannelType_r7_hsdsch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_DL_InformationPerRL_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         if ((uint64_t)pvalue->u.mac_hs > 7u) {
+            rtxErrAddStrParm(ctx, "MAC-d-FlowIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.mac_hs);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MAC-d-FlowIdentity", "mac-hs", -1, 0);
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.mac_hs, 0, 7);
+         RT_CHECK_PUT(ctx, cur, stat, "MAC-d-FlowIdentity", "mac-hs", -1, 0);
          break;
       case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_PrimaryCCPCH_Info(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         if ((uint64_t)pvalue->u.mac_ehs > 7u) {
+            rtxErrAddStrParm(ctx, "MAC-ehs-QueueId");
+            rtxErrAddUIntParm(ctx, pvalue->u.mac_ehs);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MAC-ehs-QueueId", "mac-ehs", -1, 0);
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.mac_ehs, 0, 7);
+         RT_CHECK_PUT(ctx, cur, stat, "MAC-ehs-QueueId", "mac-ehs", -1, 0);
          break;
       default:
          break;
@@ -2224,589 +1157,1290 @@ int asn1PE_UMTS_DL_InformationPerRL_modeSpecificInfo(rtxContext* RT_RESTRICT ctx
    return 0;
 }
 
-int asn1PE_UMTS_SIB_ReferenceListFACH(rtxContext* RT_RESTRICT ctx, const SIB_ReferenceListFACH* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_TransportChannelType_r7_hsdsch(rtxContext* RT_RESTRICT ctx, const DL_TransportChannelType_r7_hsdsch* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_TransportChannelType_r7_hsdsch, pvalue);
+}
+
+RT_MERGED_BODY int enc_MAC_ehs_QueueIdDCHandHSDSCH(rtxContext* RT_RESTRICT ctx, const MAC_ehs_QueueIdDCHandHSDSCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SIB-ReferenceListFACH");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MAC-ehs-QueueIdDCHandHSDSCH");
+   /* dch-transport-ch-id */
+   if ((uint64_t)(pvalue->dch_transport_ch_id - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->dch_transport_ch_id);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportChannelIdentity", "dch-transport-ch-id", -1, "MAC-ehs-QueueIdDCHandHSDSCH");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dch_transport_ch_id, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "TransportChannelIdentity", "dch-transport-ch-id", -1, "MAC-ehs-QueueIdDCHandHSDSCH");
+   /* hsdsch-mac-ehs-QueueId */
+   if ((uint64_t)pvalue->hsdsch_mac_ehs_QueueId > 7u) {
+      rtxErrAddStrParm(ctx, "MAC-ehs-QueueId");
+      rtxErrAddUIntParm(ctx, pvalue->hsdsch_mac_ehs_QueueId);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MAC-ehs-QueueId", "hsdsch-mac-ehs-QueueId", -1, "MAC-ehs-QueueIdDCHandHSDSCH");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->hsdsch_mac_ehs_QueueId, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "MAC-ehs-QueueId", "hsdsch-mac-ehs-QueueId", -1, "MAC-ehs-QueueIdDCHandHSDSCH");
+   return 0;
+}
+
+int asn1PE_UMTS_MAC_ehs_QueueIdDCHandHSDSCH(rtxContext* RT_RESTRICT ctx, const MAC_ehs_QueueIdDCHandHSDSCH* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MAC_ehs_QueueIdDCHandHSDSCH, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_TransportChannelType_r7_dch_and_hsdsch(rtxContext* RT_RESTRICT ctx, const DL_TransportChannelType_r7_dch_and_hsdsch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.mac_hs == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "mac-hs", -1, 0);
+         stat = enc_MAC_d_FlowIdentityDCHandHSDSCH(ctx, pvalue->u.mac_hs, cur);
+         RT_CHECK(ctx, stat, 0, "mac-hs", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.mac_ehs == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "mac-ehs", -1, 0);
+         stat = enc_MAC_ehs_QueueIdDCHandHSDSCH(ctx, pvalue->u.mac_ehs, cur);
+         RT_CHECK(ctx, stat, 0, "mac-ehs", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_TransportChannelType_r7_dch_and_hsdsch(rtxContext* RT_RESTRICT ctx, const DL_TransportChannelType_r7_dch_and_hsdsch* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_TransportChannelType_r7_dch_and_hsdsch, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_TransportChannelType_r7(rtxContext* RT_RESTRICT ctx, const DL_TransportChannelType_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-TransportChannelType-r7");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "DL-TransportChannelType-r7");
+   if (pvalue->t - 1 > 5) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "DL-TransportChannelType-r7");
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)(pvalue->u.dch - 1) > 31u) {
+            rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.dch);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportChannelIdentity", "dch", -1, "DL-TransportChannelType-r7");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.dch, 1, 32);
+         RT_CHECK_PUT(ctx, cur, stat, "TransportChannelIdentity", "dch", -1, "DL-TransportChannelType-r7");
+         break;
+      case 2:
+         break;
+      case 3:
+         if ((uint64_t)(pvalue->u.dsch - 1) > 31u) {
+            rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.dsch);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportChannelIdentity", "dsch", -1, "DL-TransportChannelType-r7");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.dsch, 1, 32);
+         RT_CHECK_PUT(ctx, cur, stat, "TransportChannelIdentity", "dsch", -1, "DL-TransportChannelType-r7");
+         break;
+      case 4:
+         if (pvalue->u.dch_and_dsch == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dch-and-dsch", -1, "DL-TransportChannelType-r7");
+         stat = enc_TransportChannelIdentityDCHandDSCH(ctx, pvalue->u.dch_and_dsch, cur);
+         RT_CHECK(ctx, stat, 0, "dch-and-dsch", -1, "DL-TransportChannelType-r7");
+         break;
+      case 5:
+         if (pvalue->u.hsdsch == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "hsdsch", -1, "DL-TransportChannelType-r7");
+         stat = enc_DL_TransportChannelType_r7_hsdsch(ctx, pvalue->u.hsdsch, cur);
+         RT_CHECK(ctx, stat, 0, "hsdsch", -1, "DL-TransportChannelType-r7");
+         break;
+      case 6:
+         if (pvalue->u.dch_and_hsdsch == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dch-and-hsdsch", -1, "DL-TransportChannelType-r7");
+         stat = enc_DL_TransportChannelType_r7_dch_and_hsdsch(ctx, pvalue->u.dch_and_hsdsch, cur);
+         RT_CHECK(ctx, stat, 0, "dch-and-hsdsch", -1, "DL-TransportChannelType-r7");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_TransportChannelType_r7(rtxContext* RT_RESTRICT ctx, const DL_TransportChannelType_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_TransportChannelType_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_LogicalChannelMapping_r7(rtxContext* RT_RESTRICT ctx, const DL_LogicalChannelMapping_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-LogicalChannelMapping-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-LogicalChannelMapping-r7");
+   /* dl-TransportChannelType */
+   stat = enc_DL_TransportChannelType_r7(ctx, &pvalue->dl_TransportChannelType, cur);
+   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-LogicalChannelMapping-r7");
+   /* logicalChannelIdentity */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->logicalChannelIdentity - 1) > 14u) {
+         rtxErrAddStrParm(ctx, "LogicalChannelIdentity");
+         rtxErrAddUIntParm(ctx, pvalue->logicalChannelIdentity);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "DL-LogicalChannelMapping-r7");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->logicalChannelIdentity, 1, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, "DL-LogicalChannelMapping-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_LogicalChannelMapping_r7(rtxContext* RT_RESTRICT ctx, const DL_LogicalChannelMapping_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_LogicalChannelMapping_r7, pvalue);
+}
+
+static int enc_DL_LogicalChannelMappingList_r5(rtxContext* RT_RESTRICT ctx, const DL_LogicalChannelMappingList_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-LogicalChannelMappingList-r5");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 2);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DL-LogicalChannelMappingList-r5");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DL-LogicalChannelMapping-r5", (int32_t)i, "DL-LogicalChannelMappingList-r5");
+      stat = enc_DL_LogicalChannelMapping_r5(ctx, (const DL_LogicalChannelMapping_r5*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DL-LogicalChannelMapping-r5", (int32_t)i, "DL-LogicalChannelMappingList-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_LogicalChannelMappingList_r5(rtxContext* RT_RESTRICT ctx, const DL_LogicalChannelMappingList_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_LogicalChannelMappingList_r5, pvalue);
+}
+
+static int enc_DL_LogicalChannelMappingList_r7(rtxContext* RT_RESTRICT ctx, const DL_LogicalChannelMappingList_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-LogicalChannelMappingList-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 2);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DL-LogicalChannelMappingList-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DL-LogicalChannelMapping-r7", (int32_t)i, "DL-LogicalChannelMappingList-r7");
+      stat = enc_DL_LogicalChannelMapping_r7(ctx, (const DL_LogicalChannelMapping_r7*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DL-LogicalChannelMapping-r7", (int32_t)i, "DL-LogicalChannelMappingList-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_LogicalChannelMappingList_r7(rtxContext* RT_RESTRICT ctx, const DL_LogicalChannelMappingList_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_LogicalChannelMappingList_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_Reception_Window_Size_r6(rtxContext* RT_RESTRICT ctx, DL_Reception_Window_Size_r6 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 5) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "DL-Reception-Window-Size-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-Reception-Window-Size-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_Reception_Window_Size_r6(rtxContext* RT_RESTRICT ctx, DL_Reception_Window_Size_r6 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_Reception_Window_Size_r6, value);
+}
+
+RT_MERGED_BODY int enc_DL_UM_RLC_Mode_r5(rtxContext* RT_RESTRICT ctx, const DL_UM_RLC_Mode_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-UM-RLC-Mode-r5");
+   /* dl-UM-RLC-LI-size */
+   if (pvalue->dl_UM_RLC_LI_size > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->dl_UM_RLC_LI_size);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "DL-UM-RLC-Mode-r5");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dl_UM_RLC_LI_size, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "DL-UM-RLC-Mode-r5");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_UM_RLC_Mode_r5(rtxContext* RT_RESTRICT ctx, const DL_UM_RLC_Mode_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_UM_RLC_Mode_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_RLC_Mode_r5(rtxContext* RT_RESTRICT ctx, const DL_RLC_Mode_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-RLC-Mode-r5");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "DL-RLC-Mode-r5");
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "DL-RLC-Mode-r5");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.dl_AM_RLC_Mode == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode-r5");
+         stat = enc_DL_AM_RLC_Mode_r5(ctx, pvalue->u.dl_AM_RLC_Mode, cur);
+         RT_CHECK(ctx, stat, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode-r5");
+         break;
+      case 2:
+         if (pvalue->u.dl_UM_RLC_Mode == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dl-UM-RLC-Mode", -1, "DL-RLC-Mode-r5");
+         stat = enc_DL_UM_RLC_Mode_r5(ctx, pvalue->u.dl_UM_RLC_Mode, cur);
+         RT_CHECK(ctx, stat, 0, "dl-UM-RLC-Mode", -1, "DL-RLC-Mode-r5");
+         break;
+      case 3:
+         if (pvalue->u.dl_TM_RLC_Mode == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode-r5");
+         stat = enc_DL_TM_RLC_Mode(ctx, pvalue->u.dl_TM_RLC_Mode, cur);
+         RT_CHECK(ctx, stat, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode-r5");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_RLC_Mode_r5(rtxContext* RT_RESTRICT ctx, const DL_RLC_Mode_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_RLC_Mode_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_UM_RLC_Mode_r6(rtxContext* RT_RESTRICT ctx, const DL_UM_RLC_Mode_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-UM-RLC-Mode-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-UM-RLC-Mode-r6");
+   /* dl-UM-RLC-LI-size */
+   if (pvalue->dl_UM_RLC_LI_size > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->dl_UM_RLC_LI_size);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "DL-UM-RLC-Mode-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dl_UM_RLC_LI_size, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "DL-UM-RLC-Mode-r6");
+   /* dl-Reception-Window-Size */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->dl_Reception_Window_Size > 5) {
+         rtxErrAddUIntParm(ctx, pvalue->dl_Reception_Window_Size);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "DL-Reception-Window-Size-r6", "dl-Reception-Window-Size", -1, "DL-UM-RLC-Mode-r6");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->dl_Reception_Window_Size, 0, 5);
+      RT_CHECK_PUT(ctx, cur, stat, "DL-Reception-Window-Size-r6", "dl-Reception-Window-Size", -1, "DL-UM-RLC-Mode-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_UM_RLC_Mode_r6(rtxContext* RT_RESTRICT ctx, const DL_UM_RLC_Mode_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_UM_RLC_Mode_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_RLC_Mode_r6(rtxContext* RT_RESTRICT ctx, const DL_RLC_Mode_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-RLC-Mode-r6");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "DL-RLC-Mode-r6");
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "DL-RLC-Mode-r6");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.dl_AM_RLC_Mode == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode-r6");
+         stat = enc_DL_AM_RLC_Mode_r5(ctx, pvalue->u.dl_AM_RLC_Mode, cur);
+         RT_CHECK(ctx, stat, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode-r6");
+         break;
+      case 2:
+         if (pvalue->u.dl_UM_RLC_Mode == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dl-UM-RLC-Mode", -1, "DL-RLC-Mode-r6");
+         stat = enc_DL_UM_RLC_Mode_r6(ctx, pvalue->u.dl_UM_RLC_Mode, cur);
+         RT_CHECK(ctx, stat, 0, "dl-UM-RLC-Mode", -1, "DL-RLC-Mode-r6");
+         break;
+      case 3:
+         if (pvalue->u.dl_TM_RLC_Mode == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode-r6");
+         stat = enc_DL_TM_RLC_Mode(ctx, pvalue->u.dl_TM_RLC_Mode, cur);
+         RT_CHECK(ctx, stat, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode-r6");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_RLC_Mode_r6(rtxContext* RT_RESTRICT ctx, const DL_RLC_Mode_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_RLC_Mode_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_RLC_Mode_r7(rtxContext* RT_RESTRICT ctx, const DL_RLC_Mode_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-RLC-Mode-r7");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "DL-RLC-Mode-r7");
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "DL-RLC-Mode-r7");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.dl_AM_RLC_Mode == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode-r7");
+         stat = enc_DL_AM_RLC_Mode_r7(ctx, pvalue->u.dl_AM_RLC_Mode, cur);
+         RT_CHECK(ctx, stat, 0, "dl-AM-RLC-Mode", -1, "DL-RLC-Mode-r7");
+         break;
+      case 2:
+         if (pvalue->u.dl_UM_RLC_Mode == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dl-UM-RLC-Mode", -1, "DL-RLC-Mode-r7");
+         stat = enc_DL_UM_RLC_Mode_r6(ctx, pvalue->u.dl_UM_RLC_Mode, cur);
+         RT_CHECK(ctx, stat, 0, "dl-UM-RLC-Mode", -1, "DL-RLC-Mode-r7");
+         break;
+      case 3:
+         if (pvalue->u.dl_TM_RLC_Mode == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode-r7");
+         stat = enc_DL_TM_RLC_Mode(ctx, pvalue->u.dl_TM_RLC_Mode, cur);
+         RT_CHECK(ctx, stat, 0, "dl-TM-RLC-Mode", -1, "DL-RLC-Mode-r7");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_RLC_Mode_r7(rtxContext* RT_RESTRICT ctx, const DL_RLC_Mode_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_RLC_Mode_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_HeaderCompressionInfo_r4(rtxContext* RT_RESTRICT ctx, const HeaderCompressionInfo_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HeaderCompressionInfo-r4");
+   /* algorithmSpecificInfo */
+   stat = enc_AlgorithmSpecificInfo_r4(ctx, &pvalue->algorithmSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "algorithmSpecificInfo", -1, "HeaderCompressionInfo-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_HeaderCompressionInfo_r4(rtxContext* RT_RESTRICT ctx, const HeaderCompressionInfo_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HeaderCompressionInfo_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_HeaderCompressionInfoList_r4(rtxContext* RT_RESTRICT ctx, const HeaderCompressionInfoList_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HeaderCompressionInfoList-r4");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SIB-ReferenceListFACH");
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "HeaderCompressionInfoList-r4");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "SchedulingInformationSIB", (int32_t)i, "SIB-ReferenceListFACH");
-      stat = asn1PE_UMTS_SchedulingInformationSIB(ctx, (const SchedulingInformationSIB*)node->data);
-      RT_CHECK(ctx, stat, 0, "SchedulingInformationSIB", (int32_t)i, "SIB-ReferenceListFACH");
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "HeaderCompressionInfo-r4", (int32_t)i, "HeaderCompressionInfoList-r4");
+      stat = enc_HeaderCompressionInfo_r4(ctx, (const HeaderCompressionInfo_r4*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "HeaderCompressionInfo-r4", (int32_t)i, "HeaderCompressionInfoList-r4");
    }
    return 0;
 }
 
-int asn1PE_UMTS_SCCPCH_InfoForFACH_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SCCPCH_InfoForFACH_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_HeaderCompressionInfoList_r4(rtxContext* RT_RESTRICT ctx, const HeaderCompressionInfoList_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HeaderCompressionInfoList_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_MAC_d_HFN_initial_value(rtxContext* RT_RESTRICT ctx, MAC_d_HFN_initial_value value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* fach-PCH-InformationList */
-   stat = asn1PE_UMTS_FACH_PCH_InformationList(ctx, &pvalue->fach_PCH_InformationList);
-   RT_CHECK(ctx, stat, 0, "fach-PCH-InformationList", -1, 0);
-   /* sib-ReferenceListFACH */
-   stat = asn1PE_UMTS_SIB_ReferenceListFACH(ctx, &pvalue->sib_ReferenceListFACH);
-   RT_CHECK(ctx, stat, 0, "sib-ReferenceListFACH", -1, 0);
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pe_BitString32At(ctx, cur, &value, 24, 24);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MAC-d-HFN-initial-value");
    return 0;
 }
 
-int asn1PE_UMTS_SCCPCH_InfoForFACH_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const SCCPCH_InfoForFACH_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_MAC_d_HFN_initial_value(rtxContext* RT_RESTRICT ctx, MAC_d_HFN_initial_value value)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* fach-PCH-InformationList */
-   stat = asn1PE_UMTS_FACH_PCH_InformationList(ctx, &pvalue->fach_PCH_InformationList);
-   RT_CHECK(ctx, stat, 0, "fach-PCH-InformationList", -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_MAC_d_HFN_initial_value, value);
 }
 
-int asn1PE_UMTS_SCCPCH_InfoForFACH_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SCCPCH_InfoForFACH_modeSpecificInfo* RT_RESTRICT pvalue)
+static int enc_PDCP_Info_r4(rtxContext* RT_RESTRICT ctx, const PDCP_Info_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_SCCPCH_InfoForFACH_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_SCCPCH_InfoForFACH_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SCCPCH_InfoForFACH(rtxContext* RT_RESTRICT ctx, const SCCPCH_InfoForFACH* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SCCPCH-InfoForFACH");
-   /* secondaryCCPCH-Info */
-   stat = asn1PE_UMTS_SecondaryCCPCH_Info(ctx, &pvalue->secondaryCCPCH_Info);
-   RT_CHECK(ctx, stat, 0, "secondaryCCPCH-Info", -1, "SCCPCH-InfoForFACH");
-   /* tfcs */
-   stat = asn1PE_UMTS_TFCS(ctx, &pvalue->tfcs);
-   RT_CHECK(ctx, stat, 0, "tfcs", -1, "SCCPCH-InfoForFACH");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_SCCPCH_InfoForFACH_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SCCPCH-InfoForFACH");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerRL");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PDCP-Info-r4");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_DL_InformationPerRL_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-InformationPerRL");
-   /* dl-DPCH-InfoPerRL */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PDCP-Info-r4");
+   /* losslessSRNS-RelocSupport */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_DPCH_InfoPerRL(ctx, &pvalue->dl_DPCH_InfoPerRL);
-      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, "DL-InformationPerRL");
+      stat = enc_LosslessSRNS_RelocSupport(ctx, &pvalue->losslessSRNS_RelocSupport, cur);
+      RT_CHECK(ctx, stat, 0, "losslessSRNS-RelocSupport", -1, "PDCP-Info-r4");
    }
+   /* pdcp-PDU-Header */
+   if (pvalue->pdcp_PDU_Header > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->pdcp_PDU_Header);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PDCP-PDU-Header", "pdcp-PDU-Header", -1, "PDCP-Info-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pdcp_PDU_Header, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "PDCP-PDU-Header", "pdcp-PDU-Header", -1, "PDCP-Info-r4");
+   /* headerCompressionInfoList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_HeaderCompressionInfoList_r4(ctx, &pvalue->headerCompressionInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "headerCompressionInfoList", -1, "PDCP-Info-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_Info_r4(rtxContext* RT_RESTRICT ctx, const PDCP_Info_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDCP_Info_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDCP_InfoReconfig(rtxContext* RT_RESTRICT ctx, const PDCP_InfoReconfig* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PDCP-InfoReconfig");
+   /* pdcp-Info */
+   stat = enc_PDCP_Info(ctx, &pvalue->pdcp_Info, cur);
+   RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "PDCP-InfoReconfig");
    /* dummy */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_SCCPCH_InfoForFACH(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "DL-InformationPerRL");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dummy, 0, 65535);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "dummy", -1, "PDCP-InfoReconfig");
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_InfoReconfig(rtxContext* RT_RESTRICT ctx, const PDCP_InfoReconfig* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDCP_InfoReconfig, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDCP_InfoReconfig_r4(rtxContext* RT_RESTRICT ctx, const PDCP_InfoReconfig_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PDCP-InfoReconfig-r4");
+   /* pdcp-Info */
+   stat = enc_PDCP_Info_r4(ctx, &pvalue->pdcp_Info, cur);
+   RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "PDCP-InfoReconfig-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_InfoReconfig_r4(rtxContext* RT_RESTRICT ctx, const PDCP_InfoReconfig_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDCP_InfoReconfig_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDCP_ROHC_TargetMode(rtxContext* RT_RESTRICT ctx, PDCP_ROHC_TargetMode value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "PDCP-ROHC-TargetMode");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PDCP-ROHC-TargetMode");
+   return 0;
+}
+
+int asn1PE_UMTS_PDCP_ROHC_TargetMode(rtxContext* RT_RESTRICT ctx, PDCP_ROHC_TargetMode value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDCP_ROHC_TargetMode, value);
+}
+
+RT_MERGED_BODY int enc_PredefinedConfigStatusInfo_other(rtxContext* RT_RESTRICT ctx, const PredefinedConfigStatusInfo_other* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if ((uint64_t)pvalue->u.storedWithDifferentValueTag > 15u) {
+            rtxErrAddStrParm(ctx, "PredefinedConfigValueTag");
+            rtxErrAddUIntParm(ctx, pvalue->u.storedWithDifferentValueTag);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PredefinedConfigValueTag", "storedWithDifferentValueTag", -1, 0);
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.storedWithDifferentValueTag, 0, 15);
+         RT_CHECK_PUT(ctx, cur, stat, "PredefinedConfigValueTag", "storedWithDifferentValueTag", -1, 0);
+         break;
+      default:
+         break;
    }
    return 0;
 }
 
-int asn1PE_UMTS_DL_InformationPerRL_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_PredefinedConfigStatusInfo_other(rtxContext* RT_RESTRICT ctx, const PredefinedConfigStatusInfo_other* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PredefinedConfigStatusInfo_other, pvalue);
+}
+
+RT_MERGED_BODY int enc_PredefinedConfigStatusInfo(rtxContext* RT_RESTRICT ctx, const PredefinedConfigStatusInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PredefinedConfigStatusInfo");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "PredefinedConfigStatusInfo");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "PredefinedConfigStatusInfo");
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.other == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "other", -1, "PredefinedConfigStatusInfo");
+         stat = enc_PredefinedConfigStatusInfo_other(ctx, pvalue->u.other, cur);
+         RT_CHECK(ctx, stat, 0, "other", -1, "PredefinedConfigStatusInfo");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PredefinedConfigStatusInfo(rtxContext* RT_RESTRICT ctx, const PredefinedConfigStatusInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PredefinedConfigStatusInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_PredefinedConfigStatusList(rtxContext* RT_RESTRICT ctx, const PredefinedConfigStatusList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PredefinedConfigStatusList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "PredefinedConfigStatusList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "PredefinedConfigStatusInfo", (int32_t)i, "PredefinedConfigStatusList");
+      stat = enc_PredefinedConfigStatusInfo(ctx, (const PredefinedConfigStatusInfo*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "PredefinedConfigStatusInfo", (int32_t)i, "PredefinedConfigStatusList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PredefinedConfigStatusList(rtxContext* RT_RESTRICT ctx, const PredefinedConfigStatusList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PredefinedConfigStatusList, pvalue);
+}
+
+RT_MERGED_BODY int enc_PredefinedConfigValueTagList(rtxContext* RT_RESTRICT ctx, const PredefinedConfigValueTagList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PredefinedConfigValueTagList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "PredefinedConfigValueTagList");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 15u) {
+         rtxErrAddStrParm(ctx, "PredefinedConfigValueTag");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PredefinedConfigValueTag", "PredefinedConfigValueTag", (int32_t)i, "PredefinedConfigValueTagList");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "PredefinedConfigValueTag", "PredefinedConfigValueTag", (int32_t)i, "PredefinedConfigValueTagList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PredefinedConfigValueTagList(rtxContext* RT_RESTRICT ctx, const PredefinedConfigValueTagList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PredefinedConfigValueTagList, pvalue);
+}
+
+RT_MERGED_BODY int enc_PredefinedConfigSetWithDifferentValueTag(rtxContext* RT_RESTRICT ctx, const PredefinedConfigSetWithDifferentValueTag* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PredefinedConfigSetWithDifferentValueTag");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->startPosition != 0) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PredefinedConfigSetWithDifferentValueTag");
+   /* startPosition */
+   if (pvalue->startPosition != 0) {
+      if ((uint64_t)pvalue->startPosition > 10u) {
+         rtxErrAddStrParm(ctx, "startPosition");
+         rtxErrAddUIntParm(ctx, pvalue->startPosition);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "startPosition", -1, "PredefinedConfigSetWithDifferentValueTag");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->startPosition, 0, 10);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "startPosition", -1, "PredefinedConfigSetWithDifferentValueTag");
+   }
+   /* valueTagList */
+   stat = enc_PredefinedConfigValueTagList(ctx, &pvalue->valueTagList, cur);
+   RT_CHECK(ctx, stat, 0, "valueTagList", -1, "PredefinedConfigSetWithDifferentValueTag");
+   return 0;
+}
+
+int asn1PE_UMTS_PredefinedConfigSetWithDifferentValueTag(rtxContext* RT_RESTRICT ctx, const PredefinedConfigSetWithDifferentValueTag* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PredefinedConfigSetWithDifferentValueTag, pvalue);
+}
+
+RT_MERGED_BODY int enc_PredefinedConfigSetsWithDifferentValueTag(rtxContext* RT_RESTRICT ctx, const PredefinedConfigSetsWithDifferentValueTag* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PredefinedConfigSetsWithDifferentValueTag");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 2);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "PredefinedConfigSetsWithDifferentValueTag");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "PredefinedConfigSetWithDifferentValueTag", (int32_t)i, "PredefinedConfigSetsWithDifferentValueTag");
+      stat = enc_PredefinedConfigSetWithDifferentValueTag(ctx, (const PredefinedConfigSetWithDifferentValueTag*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "PredefinedConfigSetWithDifferentValueTag", (int32_t)i, "PredefinedConfigSetsWithDifferentValueTag");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PredefinedConfigSetsWithDifferentValueTag(rtxContext* RT_RESTRICT ctx, const PredefinedConfigSetsWithDifferentValueTag* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PredefinedConfigSetsWithDifferentValueTag, pvalue);
+}
+
+RT_MERGED_BODY int enc_PredefinedConfigStatusListVarSz(rtxContext* RT_RESTRICT ctx, const PredefinedConfigStatusListVarSz* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PredefinedConfigStatusListVarSz");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "PredefinedConfigStatusListVarSz");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "PredefinedConfigStatusInfo", (int32_t)i, "PredefinedConfigStatusListVarSz");
+      stat = enc_PredefinedConfigStatusInfo(ctx, (const PredefinedConfigStatusInfo*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "PredefinedConfigStatusInfo", (int32_t)i, "PredefinedConfigStatusListVarSz");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PredefinedConfigStatusListVarSz(rtxContext* RT_RESTRICT ctx, const PredefinedConfigStatusListVarSz* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PredefinedConfigStatusListVarSz, pvalue);
+}
+
+RT_MERGED_BODY int enc_PredefinedConfigStatusListComp(rtxContext* RT_RESTRICT ctx, const PredefinedConfigStatusListComp* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PredefinedConfigStatusListComp");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PredefinedConfigStatusListComp");
+   /* setsWithDifferentValueTag */
+   stat = enc_PredefinedConfigSetsWithDifferentValueTag(ctx, &pvalue->setsWithDifferentValueTag, cur);
+   RT_CHECK(ctx, stat, 0, "setsWithDifferentValueTag", -1, "PredefinedConfigStatusListComp");
+   /* otherEntries */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PredefinedConfigStatusListVarSz(ctx, &pvalue->otherEntries, cur);
+      RT_CHECK(ctx, stat, 0, "otherEntries", -1, "PredefinedConfigStatusListComp");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PredefinedConfigStatusListComp(rtxContext* RT_RESTRICT ctx, const PredefinedConfigStatusListComp* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PredefinedConfigStatusListComp, pvalue);
+}
+
+static int enc_RAB_Info(rtxContext* RT_RESTRICT ctx, const RAB_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RAB-Info");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RAB-Info");
+   /* rab-Identity */
+   stat = enc_RAB_Identity(ctx, &pvalue->rab_Identity, cur);
+   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-Info");
+   /* cn-DomainIdentity */
+   if (pvalue->cn_DomainIdentity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-Info");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-Info");
+   /* nas-Synchronisation-Indicator */
+   if (pvalue->m & 0x1u) {
+      stat = enc_NAS_Synchronisation_Indicator(ctx, pvalue->nas_Synchronisation_Indicator, cur);
+      RT_CHECK(ctx, stat, 0, "nas-Synchronisation-Indicator", -1, "RAB-Info");
+   }
+   /* re-EstablishmentTimer */
+   if (pvalue->re_EstablishmentTimer > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->re_EstablishmentTimer);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "Re-EstablishmentTimer", "re-EstablishmentTimer", -1, "RAB-Info");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->re_EstablishmentTimer, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "Re-EstablishmentTimer", "re-EstablishmentTimer", -1, "RAB-Info");
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_Info(rtxContext* RT_RESTRICT ctx, const RAB_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAB_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_MBMS_SessionIdentity(rtxContext* RT_RESTRICT ctx, const MBMS_SessionIdentity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-SessionIdentity");
+   RT_SET_SIZE(ctx, 1, 1);
+   stat = pe_OctetStringAt(ctx, cur, pvalue->numocts, pvalue->data);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MBMS-SessionIdentity");
+   return 0;
+}
+
+int asn1PE_UMTS_MBMS_SessionIdentity(rtxContext* RT_RESTRICT ctx, const MBMS_SessionIdentity* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MBMS_SessionIdentity, pvalue);
+}
+
+RT_MERGED_BODY int enc_RAB_Info_r6_ext(rtxContext* RT_RESTRICT ctx, const RAB_Info_r6_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RAB-Info-r6-ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RAB-Info-r6-ext");
+   /* mbms-SessionIdentity */
+   if (pvalue->m & 0x1u) {
+      stat = enc_MBMS_SessionIdentity(ctx, &pvalue->mbms_SessionIdentity, cur);
+      RT_CHECK(ctx, stat, 0, "mbms-SessionIdentity", -1, "RAB-Info-r6-ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_Info_r6_ext(rtxContext* RT_RESTRICT ctx, const RAB_Info_r6_ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAB_Info_r6_ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_RAB_Info_v6b0ext_mbms_ServiceIdentity(rtxContext* RT_RESTRICT ctx, const RAB_Info_v6b0ext_mbms_ServiceIdentity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 3, 3);
+   stat = pe_OctetStringAt(ctx, cur, pvalue->numocts, pvalue->data);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_Info_v6b0ext_mbms_ServiceIdentity(rtxContext* RT_RESTRICT ctx, const RAB_Info_v6b0ext_mbms_ServiceIdentity* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAB_Info_v6b0ext_mbms_ServiceIdentity, pvalue);
+}
+
+RT_MERGED_BODY int enc_RAB_Info_v6b0ext(rtxContext* RT_RESTRICT ctx, const RAB_Info_v6b0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RAB-Info-v6b0ext");
+   /* mbms-ServiceIdentity */
+   stat = enc_RAB_Info_v6b0ext_mbms_ServiceIdentity(ctx, &pvalue->mbms_ServiceIdentity, cur);
+   RT_CHECK(ctx, stat, 0, "mbms-ServiceIdentity", -1, "RAB-Info-v6b0ext");
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_Info_v6b0ext(rtxContext* RT_RESTRICT ctx, const RAB_Info_v6b0ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAB_Info_v6b0ext, pvalue);
+}
+
+static int enc_RAB_Info_r6(rtxContext* RT_RESTRICT ctx, const RAB_Info_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RAB-Info-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* primaryCPICH-Info */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   /* dummy1 */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RAB-Info-r6");
+   /* rab-Identity */
+   stat = enc_RAB_Identity(ctx, &pvalue->rab_Identity, cur);
+   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-Info-r6");
+   /* mbms-SessionIdentity */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PDSCH_SHO_DCH_Info(ctx, &pvalue->dummy1);
-      RT_CHECK(ctx, stat, 0, "dummy1", -1, 0);
+      stat = enc_MBMS_SessionIdentity(ctx, &pvalue->mbms_SessionIdentity, cur);
+      RT_CHECK(ctx, stat, 0, "mbms-SessionIdentity", -1, "RAB-Info-r6");
    }
-   /* dummy2 */
+   /* cn-DomainIdentity */
+   if (pvalue->cn_DomainIdentity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-Info-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-Info-r6");
+   /* nas-Synchronisation-Indicator */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_PDSCH_CodeMapping(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+      stat = enc_NAS_Synchronisation_Indicator(ctx, pvalue->nas_Synchronisation_Indicator, cur);
+      RT_CHECK(ctx, stat, 0, "nas-Synchronisation-Indicator", -1, "RAB-Info-r6");
    }
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_Info_r4_fdd(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_r4_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* tx-DiversityIndicator */
-   stat = rtxEncBit(ctx, pvalue->tx_DiversityIndicator);
-   RT_CHECK(ctx, stat, 0, "tx-DiversityIndicator", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase1(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase1* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* timeslot */
-   if ((uint64_t)pvalue->timeslot > 14u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber");
-      rtxErrAddUIntParm(ctx, pvalue->timeslot);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslot", -1, 0);
+   /* re-EstablishmentTimer */
+   if (pvalue->re_EstablishmentTimer > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->re_EstablishmentTimer);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "Re-EstablishmentTimer", "re-EstablishmentTimer", -1, "RAB-Info-r6");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->re_EstablishmentTimer, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "Re-EstablishmentTimer", "re-EstablishmentTimer", -1, "RAB-Info-r6");
    return 0;
 }
 
-int asn1PE_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase2(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase2* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RAB_Info_r6(rtxContext* RT_RESTRICT ctx, const RAB_Info_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAB_Info_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_RAB_Info_r7_mbms_ServiceIdentity(rtxContext* RT_RESTRICT ctx, const RAB_Info_r7_mbms_ServiceIdentity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* timeslotSync2 */
-   if ((uint64_t)pvalue->timeslotSync2 > 6u) {
-      rtxErrAddStrParm(ctx, "TimeslotSync2");
-      rtxErrAddUIntParm(ctx, pvalue->timeslotSync2);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotSync2", "timeslotSync2", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotSync2, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotSync2", "timeslotSync2", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 3, 3);
+   stat = pe_OctetStringAt(ctx, cur, pvalue->numocts, pvalue->data);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RAB_Info_r7_mbms_ServiceIdentity(rtxContext* RT_RESTRICT ctx, const RAB_Info_r7_mbms_ServiceIdentity* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.syncCase1 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "syncCase1", -1, 0);
-         stat = asn1PE_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase1(ctx, pvalue->u.syncCase1);
-         RT_CHECK(ctx, stat, 0, "syncCase1", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.syncCase2 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "syncCase2", -1, 0);
-         stat = asn1PE_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase2(ctx, pvalue->u.syncCase2);
-         RT_CHECK(ctx, stat, 0, "syncCase2", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_RAB_Info_r7_mbms_ServiceIdentity, pvalue);
 }
 
-int asn1PE_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768* RT_RESTRICT pvalue)
+static int enc_RAB_Info_r7(rtxContext* RT_RESTRICT ctx, const RAB_Info_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RAB-Info-r7");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* syncCase */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase(ctx, &pvalue->syncCase);
-      RT_CHECK(ctx, stat, 0, "syncCase", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_r4_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* tstd-Indicator */
-   stat = rtxEncBit(ctx, pvalue->tstd_Indicator);
-   RT_CHECK(ctx, stat, 0, "tstd-Indicator", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_r4_tdd_tddOption* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd384_tdd768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384-tdd768", -1, 0);
-         stat = asn1PE_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768(ctx, pvalue->u.tdd384_tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd384-tdd768", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_Info_r4_tdd(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_r4_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tddOption */
-   stat = asn1PE_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
-   /* cellParametersID */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->cellParametersID > 127u) {
-         rtxErrAddStrParm(ctx, "CellParametersID");
-         rtxErrAddUIntParm(ctx, pvalue->cellParametersID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "CellParametersID", "cellParametersID", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->cellParametersID, 0, 127);
-      RT_CHECK(ctx, stat, "CellParametersID", "cellParametersID", -1, 0);
-   }
-   /* sctd-Indicator */
-   stat = rtxEncBit(ctx, pvalue->sctd_Indicator);
-   RT_CHECK(ctx, stat, 0, "sctd-Indicator", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_Info_r4(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PrimaryCCPCH-Info-r4");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "PrimaryCCPCH-Info-r4");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PrimaryCCPCH-Info-r4");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, "PrimaryCCPCH-Info-r4");
-         stat = asn1PE_UMTS_PrimaryCCPCH_Info_r4_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, "PrimaryCCPCH-Info-r4");
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, "PrimaryCCPCH-Info-r4");
-         stat = asn1PE_UMTS_PrimaryCCPCH_Info_r4_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, "PrimaryCCPCH-Info-r4");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r4_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_DL_InformationPerRL_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)(pvalue->timingOffset != 0) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* secondaryScramblingCode */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->secondaryScramblingCode - 1) > 14u) {
-         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
-         rtxErrAddUIntParm(ctx, pvalue->secondaryScramblingCode);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "SecondaryScramblingCode", "secondaryScramblingCode", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->secondaryScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, 0);
-   }
-   /* sttd-Indicator */
-   stat = rtxEncBit(ctx, pvalue->sttd_Indicator);
-   RT_CHECK(ctx, stat, 0, "sttd-Indicator", -1, 0);
-   /* sf-AndCodeNumber */
-   stat = asn1PE_UMTS_SF256_AndCodeNumber(ctx, &pvalue->sf_AndCodeNumber);
-   RT_CHECK(ctx, stat, 0, "sf-AndCodeNumber", -1, 0);
-   /* pilotSymbolExistence */
-   stat = rtxEncBit(ctx, pvalue->pilotSymbolExistence);
-   RT_CHECK(ctx, stat, 0, "pilotSymbolExistence", -1, 0);
-   /* tfci-Existence */
-   stat = rtxEncBit(ctx, pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, 0);
-   /* positionFixedOrFlexible */
-   if (pvalue->positionFixedOrFlexible > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->positionFixedOrFlexible);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->positionFixedOrFlexible, 0, 1);
-   RT_CHECK(ctx, stat, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
-   /* timingOffset */
-   if (pvalue->timingOffset != 0) {
-      if ((uint64_t)pvalue->timingOffset > 149u) {
-         rtxErrAddStrParm(ctx, "TimingOffset");
-         rtxErrAddUIntParm(ctx, pvalue->timingOffset);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TimingOffset", "timingOffset", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->timingOffset, 0, 149);
-      RT_CHECK(ctx, stat, "TimingOffset", "timingOffset", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* individualTimeslotInfo */
-   stat = asn1PE_UMTS_IndividualTimeslotInfo(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* individualTimeslotInfo */
-   stat = asn1PE_UMTS_IndividualTimeslotInfo_LCR_r4(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
-         stat = asn1PE_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* commonTimeslotInfo */
-   stat = asn1PE_UMTS_CommonTimeslotInfoSCCPCH(ctx, &pvalue->commonTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, 0);
-   /* tddOption */
-   stat = asn1PE_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
-   /* channelisationCode */
-   stat = asn1PE_UMTS_SCCPCH_ChannelisationCodeList(ctx, &pvalue->channelisationCode);
-   RT_CHECK(ctx, stat, 0, "channelisationCode", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_r4_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCH_Info_r4(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SecondaryCCPCH-Info-r4");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SecondaryCCPCH-Info-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_SCCPCH_InfoForFACH_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SCCPCH_InfoForFACH_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* sib-ReferenceListFACH */
-   stat = asn1PE_UMTS_SIB_ReferenceListFACH(ctx, &pvalue->sib_ReferenceListFACH);
-   RT_CHECK(ctx, stat, 0, "sib-ReferenceListFACH", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SCCPCH_InfoForFACH_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SCCPCH_InfoForFACH_r4_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_SCCPCH_InfoForFACH_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SCCPCH_InfoForFACH_r4(rtxContext* RT_RESTRICT ctx, const SCCPCH_InfoForFACH_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SCCPCH-InfoForFACH-r4");
-   /* secondaryCCPCH-Info */
-   stat = asn1PE_UMTS_SecondaryCCPCH_Info_r4(ctx, &pvalue->secondaryCCPCH_Info);
-   RT_CHECK(ctx, stat, 0, "secondaryCCPCH-Info", -1, "SCCPCH-InfoForFACH-r4");
-   /* tfcs */
-   stat = asn1PE_UMTS_TFCS(ctx, &pvalue->tfcs);
-   RT_CHECK(ctx, stat, 0, "tfcs", -1, "SCCPCH-InfoForFACH-r4");
-   /* fach-PCH-InformationList */
-   stat = asn1PE_UMTS_FACH_PCH_InformationList(ctx, &pvalue->fach_PCH_InformationList);
-   RT_CHECK(ctx, stat, 0, "fach-PCH-InformationList", -1, "SCCPCH-InfoForFACH-r4");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_SCCPCH_InfoForFACH_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SCCPCH-InfoForFACH-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r4(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerRL-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL-r4");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_DL_InformationPerRL_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-InformationPerRL-r4");
-   /* dl-DPCH-InfoPerRL */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RAB-Info-r7");
+   /* rab-Identity */
+   stat = enc_RAB_Identity(ctx, &pvalue->rab_Identity, cur);
+   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-Info-r7");
+   /* mbms-SessionIdentity */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_DPCH_InfoPerRL_r4(ctx, &pvalue->dl_DPCH_InfoPerRL);
-      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, "DL-InformationPerRL-r4");
+      stat = enc_MBMS_SessionIdentity(ctx, &pvalue->mbms_SessionIdentity, cur);
+      RT_CHECK(ctx, stat, 0, "mbms-SessionIdentity", -1, "RAB-Info-r7");
    }
-   /* dummy */
+   /* mbms-ServiceIdentity */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_SCCPCH_InfoForFACH_r4(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "DL-InformationPerRL-r4");
+      stat = enc_RAB_Info_r7_mbms_ServiceIdentity(ctx, &pvalue->mbms_ServiceIdentity, cur);
+      RT_CHECK(ctx, stat, 0, "mbms-ServiceIdentity", -1, "RAB-Info-r7");
    }
-   /* cell-id */
+   /* cn-DomainIdentity */
+   if (pvalue->cn_DomainIdentity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-Info-r7");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-Info-r7");
+   /* nas-Synchronisation-Indicator */
    if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_CellIdentity(ctx, pvalue->cell_id);
-      RT_CHECK(ctx, stat, 0, "cell-id", -1, "DL-InformationPerRL-r4");
+      stat = enc_NAS_Synchronisation_Indicator(ctx, pvalue->nas_Synchronisation_Indicator, cur);
+      RT_CHECK(ctx, stat, 0, "nas-Synchronisation-Indicator", -1, "RAB-Info-r7");
+   }
+   /* re-EstablishmentTimer */
+   if (pvalue->re_EstablishmentTimer > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->re_EstablishmentTimer);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "Re-EstablishmentTimer", "re-EstablishmentTimer", -1, "RAB-Info-r7");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->re_EstablishmentTimer, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "Re-EstablishmentTimer", "re-EstablishmentTimer", -1, "RAB-Info-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_Info_r7(rtxContext* RT_RESTRICT ctx, const RAB_Info_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAB_Info_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_RAB_InformationList(rtxContext* RT_RESTRICT ctx, const RAB_InformationList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RAB-InformationList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RAB-Info", (int32_t)i, "RAB-InformationList");
+      stat = enc_RAB_Info(ctx, (const RAB_Info*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RAB-Info", (int32_t)i, "RAB-InformationList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_DL_InformationPerRL_r5_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r5_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RAB_InformationList(rtxContext* RT_RESTRICT ctx, const RAB_InformationList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAB_InformationList, pvalue);
+}
+
+RT_MERGED_BODY int enc_RAB_InformationList_r6(rtxContext* RT_RESTRICT ctx, const RAB_InformationList_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationList-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RAB-InformationList-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RAB-Info-r6", (int32_t)i, "RAB-InformationList-r6");
+      stat = enc_RAB_Info_r6(ctx, (const RAB_Info_r6*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RAB-Info-r6", (int32_t)i, "RAB-InformationList-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationList_r6(rtxContext* RT_RESTRICT ctx, const RAB_InformationList_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAB_InformationList_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_RAB_InformationReconfig(rtxContext* RT_RESTRICT ctx, const RAB_InformationReconfig* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationReconfig");
+   /* rab-Identity */
+   stat = enc_RAB_Identity(ctx, &pvalue->rab_Identity, cur);
+   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-InformationReconfig");
+   /* cn-DomainIdentity */
+   if (pvalue->cn_DomainIdentity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-InformationReconfig");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-InformationReconfig");
+   /* nas-Synchronisation-Indicator */
+   stat = enc_NAS_Synchronisation_Indicator(ctx, pvalue->nas_Synchronisation_Indicator, cur);
+   RT_CHECK(ctx, stat, 0, "nas-Synchronisation-Indicator", -1, "RAB-InformationReconfig");
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationReconfig(rtxContext* RT_RESTRICT ctx, const RAB_InformationReconfig* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAB_InformationReconfig, pvalue);
+}
+
+static int enc_RAB_InformationReconfigList(rtxContext* RT_RESTRICT ctx, const RAB_InformationReconfigList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationReconfigList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RAB-InformationReconfigList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RAB-InformationReconfig", (int32_t)i, "RAB-InformationReconfigList");
+      stat = enc_RAB_InformationReconfig(ctx, (const RAB_InformationReconfig*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationReconfig", (int32_t)i, "RAB-InformationReconfigList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationReconfigList(rtxContext* RT_RESTRICT ctx, const RAB_InformationReconfigList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAB_InformationReconfigList, pvalue);
+}
+
+RT_MERGED_BODY int enc_RAB_InformationReconfig_r8(rtxContext* RT_RESTRICT ctx, const RAB_InformationReconfig_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationReconfig-r8");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* primaryCPICH-Info */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   /* dummy1 */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RAB-InformationReconfig-r8");
+   /* rab-Identity */
+   stat = enc_RAB_Identity(ctx, &pvalue->rab_Identity, cur);
+   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-InformationReconfig-r8");
+   /* cn-DomainIdentity */
+   if (pvalue->cn_DomainIdentity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-InformationReconfig-r8");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-InformationReconfig-r8");
+   /* nas-Synchronisation-Indicator */
+   stat = enc_NAS_Synchronisation_Indicator(ctx, pvalue->nas_Synchronisation_Indicator, cur);
+   RT_CHECK(ctx, stat, 0, "nas-Synchronisation-Indicator", -1, "RAB-InformationReconfig-r8");
+   /* cs-HSPA-Information */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PDSCH_SHO_DCH_Info(ctx, &pvalue->dummy1);
-      RT_CHECK(ctx, stat, 0, "dummy1", -1, 0);
+      stat = enc_CS_HSPA_Information(ctx, &pvalue->cs_HSPA_Information, cur);
+      RT_CHECK(ctx, stat, 0, "cs-HSPA-Information", -1, "RAB-InformationReconfig-r8");
    }
-   /* dummy2 */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_PDSCH_CodeMapping(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
-   }
-   /* servingHSDSCH-RL-indicator */
-   stat = rtxEncBit(ctx, pvalue->servingHSDSCH_RL_indicator);
-   RT_CHECK(ctx, stat, 0, "servingHSDSCH-RL-indicator", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_DL_InformationPerRL_r5_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r5_modeSpecificInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RAB_InformationReconfig_r8(rtxContext* RT_RESTRICT ctx, const RAB_InformationReconfig_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAB_InformationReconfig_r8, pvalue);
+}
+
+static int enc_RAB_InformationReconfigList_r8(rtxContext* RT_RESTRICT ctx, const RAB_InformationReconfigList_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationReconfigList-r8");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RAB-InformationReconfigList-r8");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RAB-InformationReconfig-r8", (int32_t)i, "RAB-InformationReconfigList-r8");
+      stat = enc_RAB_InformationReconfig_r8(ctx, (const RAB_InformationReconfig_r8*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationReconfig-r8", (int32_t)i, "RAB-InformationReconfigList-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationReconfigList_r8(rtxContext* RT_RESTRICT ctx, const RAB_InformationReconfigList_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAB_InformationReconfigList_r8, pvalue);
+}
+
+RT_MERGED_BODY int enc_RAB_Info_Post(rtxContext* RT_RESTRICT ctx, const RAB_Info_Post* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RAB-Info-Post");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RAB-Info-Post");
+   /* rab-Identity */
+   stat = enc_RAB_Identity(ctx, &pvalue->rab_Identity, cur);
+   RT_CHECK(ctx, stat, 0, "rab-Identity", -1, "RAB-Info-Post");
+   /* cn-DomainIdentity */
+   if (pvalue->cn_DomainIdentity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cn_DomainIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-Info-Post");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->cn_DomainIdentity, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "CN-DomainIdentity", "cn-DomainIdentity", -1, "RAB-Info-Post");
+   /* nas-Synchronisation-Indicator */
+   if (pvalue->m & 0x1u) {
+      stat = enc_NAS_Synchronisation_Indicator(ctx, pvalue->nas_Synchronisation_Indicator, cur);
+      RT_CHECK(ctx, stat, 0, "nas-Synchronisation-Indicator", -1, "RAB-Info-Post");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_Info_Post(rtxContext* RT_RESTRICT ctx, const RAB_Info_Post* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAB_Info_Post, pvalue);
+}
+
+RT_MERGED_BODY int enc_RAB_InformationMBMSPtp_mbms_ServiceIdentity(rtxContext* RT_RESTRICT ctx, const RAB_InformationMBMSPtp_mbms_ServiceIdentity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 3, 3);
+   stat = pe_OctetStringAt(ctx, cur, pvalue->numocts, pvalue->data);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationMBMSPtp_mbms_ServiceIdentity(rtxContext* RT_RESTRICT ctx, const RAB_InformationMBMSPtp_mbms_ServiceIdentity* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAB_InformationMBMSPtp_mbms_ServiceIdentity, pvalue);
+}
+
+RT_MERGED_BODY int enc_RAB_InformationMBMSPtp(rtxContext* RT_RESTRICT ctx, const RAB_InformationMBMSPtp* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationMBMSPtp");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RAB-InformationMBMSPtp");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RAB-InformationMBMSPtp");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->rb_Identity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RAB-InformationMBMSPtp");
+   /* mbms-ServiceIdentity */
+   stat = enc_RAB_InformationMBMSPtp_mbms_ServiceIdentity(ctx, &pvalue->mbms_ServiceIdentity, cur);
+   RT_CHECK(ctx, stat, 0, "mbms-ServiceIdentity", -1, "RAB-InformationMBMSPtp");
+   /* mbms-SessionIdentity */
+   if (pvalue->m & 0x1u) {
+      stat = enc_MBMS_SessionIdentity(ctx, &pvalue->mbms_SessionIdentity, cur);
+      RT_CHECK(ctx, stat, 0, "mbms-SessionIdentity", -1, "RAB-InformationMBMSPtp");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationMBMSPtp(rtxContext* RT_RESTRICT ctx, const RAB_InformationMBMSPtp* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAB_InformationMBMSPtp, pvalue);
+}
+
+RT_MERGED_BODY int enc_RAB_InformationMBMSPtpList(rtxContext* RT_RESTRICT ctx, const RAB_InformationMBMSPtpList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationMBMSPtpList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RAB-InformationMBMSPtpList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RAB-InformationMBMSPtp", (int32_t)i, "RAB-InformationMBMSPtpList");
+      stat = enc_RAB_InformationMBMSPtp(ctx, (const RAB_InformationMBMSPtp*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationMBMSPtp", (int32_t)i, "RAB-InformationMBMSPtpList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationMBMSPtpList(rtxContext* RT_RESTRICT ctx, const RAB_InformationMBMSPtpList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAB_InformationMBMSPtpList, pvalue);
+}
+
+RT_MERGED_BODY int enc_RAB_InformationSetup(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetup");
+   /* rab-Info */
+   stat = enc_RAB_Info(ctx, &pvalue->rab_Info, cur);
+   RT_CHECK(ctx, stat, 0, "rab-Info", -1, "RAB-InformationSetup");
+   /* rb-InformationSetupList */
+   stat = enc_RB_InformationSetupList(ctx, &pvalue->rb_InformationSetupList, cur);
+   RT_CHECK(ctx, stat, 0, "rb-InformationSetupList", -1, "RAB-InformationSetup");
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationSetup(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAB_InformationSetup, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_InformationSetup_r4(rtxContext* RT_RESTRICT ctx, const RB_InformationSetup_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationSetup-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RB-InformationSetup-r4");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->rb_Identity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r4");
+   /* pdcp-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PDCP_Info_r4(ctx, &pvalue->pdcp_Info, cur);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationSetup-r4");
+   }
+   /* rlc-InfoChoice */
+   stat = enc_RLC_InfoChoice(ctx, &pvalue->rlc_InfoChoice, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "RB-InformationSetup-r4");
+   /* rb-MappingInfo */
+   stat = enc_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo, cur);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationSetup-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationSetup_r4(rtxContext* RT_RESTRICT ctx, const RB_InformationSetup_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_InformationSetup_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_InformationSetupList_r4(rtxContext* RT_RESTRICT ctx, const RB_InformationSetupList_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationSetupList-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RB-InformationSetupList-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RB-InformationSetup-r4", (int32_t)i, "RB-InformationSetupList-r4");
+      stat = enc_RB_InformationSetup_r4(ctx, (const RB_InformationSetup_r4*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RB-InformationSetup-r4", (int32_t)i, "RB-InformationSetupList-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationSetupList_r4(rtxContext* RT_RESTRICT ctx, const RB_InformationSetupList_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_InformationSetupList_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_RAB_InformationSetup_r4(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetup-r4");
+   /* rab-Info */
+   stat = enc_RAB_Info(ctx, &pvalue->rab_Info, cur);
+   RT_CHECK(ctx, stat, 0, "rab-Info", -1, "RAB-InformationSetup-r4");
+   /* rb-InformationSetupList */
+   stat = enc_RB_InformationSetupList_r4(ctx, &pvalue->rb_InformationSetupList, cur);
+   RT_CHECK(ctx, stat, 0, "rb-InformationSetupList", -1, "RAB-InformationSetup-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationSetup_r4(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAB_InformationSetup_r4, pvalue);
+}
+
+static int enc_RLC_Info_r5(rtxContext* RT_RESTRICT ctx, const RLC_Info_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RLC-Info-r5");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RLC-Info-r5");
+   /* ul-RLC-Mode */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UL_RLC_Mode(ctx, &pvalue->ul_RLC_Mode, cur);
+      RT_CHECK(ctx, stat, 0, "ul-RLC-Mode", -1, "RLC-Info-r5");
+   }
+   /* dl-RLC-Mode */
+   if (pvalue->m & 0x2u) {
+      stat = enc_DL_RLC_Mode_r5(ctx, &pvalue->dl_RLC_Mode, cur);
+      RT_CHECK(ctx, stat, 0, "dl-RLC-Mode", -1, "RLC-Info-r5");
+   }
+   /* rlc-OneSidedReEst */
+   stat = rtxEncBitAt(ctx, cur, pvalue->rlc_OneSidedReEst);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "rlc-OneSidedReEst", -1, "RLC-Info-r5");
+   return 0;
+}
+
+int asn1PE_UMTS_RLC_Info_r5(rtxContext* RT_RESTRICT ctx, const RLC_Info_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RLC_Info_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_RLC_InfoChoice_r5(rtxContext* RT_RESTRICT ctx, const RLC_InfoChoice_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RLC-InfoChoice-r5");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "RLC-InfoChoice-r5");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "RLC-InfoChoice-r5");
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_DL_InformationPerRL_r5_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         if (pvalue->u.rlc_Info == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "rlc-Info", -1, "RLC-InfoChoice-r5");
+         stat = enc_RLC_Info_r5(ctx, pvalue->u.rlc_Info, cur);
+         RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RLC-InfoChoice-r5");
          break;
       case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         if ((uint64_t)(pvalue->u.same_as_RB - 1) > 31u) {
+            rtxErrAddStrParm(ctx, "RB-Identity");
+            rtxErrAddUIntParm(ctx, pvalue->u.same_as_RB);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RB-Identity", "same-as-RB", -1, "RLC-InfoChoice-r5");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.same_as_RB, 1, 32);
+         RT_CHECK_PUT(ctx, cur, stat, "RB-Identity", "same-as-RB", -1, "RLC-InfoChoice-r5");
          break;
       default:
          break;
@@ -2814,147 +2448,741 @@ int asn1PE_UMTS_DL_InformationPerRL_r5_modeSpecificInfo(rtxContext* RT_RESTRICT 
    return 0;
 }
 
-int asn1PE_UMTS_DL_InformationPerRL_r5(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r5* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RLC_InfoChoice_r5(rtxContext* RT_RESTRICT ctx, const RLC_InfoChoice_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RLC_InfoChoice_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_MappingOption_r5(rtxContext* RT_RESTRICT ctx, const RB_MappingOption_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerRL-r5");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-MappingOption-r5");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RB-MappingOption-r5");
+   /* ul-LogicalChannelMappings */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UL_LogicalChannelMappings(ctx, &pvalue->ul_LogicalChannelMappings, cur);
+      RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMappings", -1, "RB-MappingOption-r5");
+   }
+   /* dl-LogicalChannelMappingList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_DL_LogicalChannelMappingList_r5(ctx, &pvalue->dl_LogicalChannelMappingList, cur);
+      RT_CHECK(ctx, stat, 0, "dl-LogicalChannelMappingList", -1, "RB-MappingOption-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_MappingOption_r5(rtxContext* RT_RESTRICT ctx, const RB_MappingOption_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_MappingOption_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_MappingInfo_r5(rtxContext* RT_RESTRICT ctx, const RB_MappingInfo_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-MappingInfo-r5");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RB-MappingInfo-r5");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RB-MappingOption-r5", (int32_t)i, "RB-MappingInfo-r5");
+      stat = enc_RB_MappingOption_r5(ctx, (const RB_MappingOption_r5*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RB-MappingOption-r5", (int32_t)i, "RB-MappingInfo-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_MappingInfo_r5(rtxContext* RT_RESTRICT ctx, const RB_MappingInfo_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_MappingInfo_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_InformationSetup_r5(rtxContext* RT_RESTRICT ctx, const RB_InformationSetup_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationSetup-r5");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RB-InformationSetup-r5");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r5");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->rb_Identity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r5");
+   /* pdcp-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PDCP_Info_r4(ctx, &pvalue->pdcp_Info, cur);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationSetup-r5");
+   }
+   /* rlc-InfoChoice */
+   stat = enc_RLC_InfoChoice_r5(ctx, &pvalue->rlc_InfoChoice, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "RB-InformationSetup-r5");
+   /* rb-MappingInfo */
+   stat = enc_RB_MappingInfo_r5(ctx, &pvalue->rb_MappingInfo, cur);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationSetup-r5");
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationSetup_r5(rtxContext* RT_RESTRICT ctx, const RB_InformationSetup_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_InformationSetup_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_InformationSetupList_r5(rtxContext* RT_RESTRICT ctx, const RB_InformationSetupList_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationSetupList-r5");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RB-InformationSetupList-r5");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RB-InformationSetup-r5", (int32_t)i, "RB-InformationSetupList-r5");
+      stat = enc_RB_InformationSetup_r5(ctx, (const RB_InformationSetup_r5*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RB-InformationSetup-r5", (int32_t)i, "RB-InformationSetupList-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationSetupList_r5(rtxContext* RT_RESTRICT ctx, const RB_InformationSetupList_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_InformationSetupList_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_RAB_InformationSetup_r5(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetup-r5");
+   /* rab-Info */
+   stat = enc_RAB_Info(ctx, &pvalue->rab_Info, cur);
+   RT_CHECK(ctx, stat, 0, "rab-Info", -1, "RAB-InformationSetup-r5");
+   /* rb-InformationSetupList */
+   stat = enc_RB_InformationSetupList_r5(ctx, &pvalue->rb_InformationSetupList, cur);
+   RT_CHECK(ctx, stat, 0, "rb-InformationSetupList", -1, "RAB-InformationSetup-r5");
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationSetup_r5(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAB_InformationSetup_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_RAB_InformationSetup_r6_ext(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup_r6_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetup-r6-ext");
+   /* rab-Info-r6-ext */
+   stat = enc_RAB_Info_r6_ext(ctx, &pvalue->rab_Info_r6_ext, cur);
+   RT_CHECK(ctx, stat, 0, "rab-Info-r6-ext", -1, "RAB-InformationSetup-r6-ext");
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationSetup_r6_ext(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup_r6_ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAB_InformationSetup_r6_ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_RLC_Info_r6_altE_bitInterpretation(rtxContext* RT_RESTRICT ctx, RLC_Info_r6_altE_bitInterpretation value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RLC_Info_r6_altE_bitInterpretation(rtxContext* RT_RESTRICT ctx, RLC_Info_r6_altE_bitInterpretation value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RLC_Info_r6_altE_bitInterpretation, value);
+}
+
+static int enc_RLC_Info_r6(rtxContext* RT_RESTRICT ctx, const RLC_Info_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RLC-Info-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL-r5");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_DL_InformationPerRL_r5_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-InformationPerRL-r5");
-   /* dl-DPCH-InfoPerRL */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RLC-Info-r6");
+   /* ul-RLC-Mode */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_DPCH_InfoPerRL_r5(ctx, &pvalue->dl_DPCH_InfoPerRL);
-      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, "DL-InformationPerRL-r5");
+      stat = enc_UL_RLC_Mode(ctx, &pvalue->ul_RLC_Mode, cur);
+      RT_CHECK(ctx, stat, 0, "ul-RLC-Mode", -1, "RLC-Info-r6");
    }
-   /* dummy */
+   /* dl-RLC-Mode */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_SCCPCH_InfoForFACH_r4(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "DL-InformationPerRL-r5");
+      stat = enc_DL_RLC_Mode_r6(ctx, &pvalue->dl_RLC_Mode, cur);
+      RT_CHECK(ctx, stat, 0, "dl-RLC-Mode", -1, "RLC-Info-r6");
    }
-   /* cell-id */
+   /* rlc-OneSidedReEst */
+   stat = rtxEncBitAt(ctx, cur, pvalue->rlc_OneSidedReEst);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "rlc-OneSidedReEst", -1, "RLC-Info-r6");
+   /* altE-bitInterpretation */
    if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_CellIdentity(ctx, pvalue->cell_id);
-      RT_CHECK(ctx, stat, 0, "cell-id", -1, "DL-InformationPerRL-r5");
+      if (pvalue->altE_bitInterpretation > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->altE_bitInterpretation);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "altE-bitInterpretation", -1, "RLC-Info-r6");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->altE_bitInterpretation, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "altE-bitInterpretation", -1, "RLC-Info-r6");
    }
    return 0;
 }
 
-int asn1PE_UMTS_DL_InformationPerRL_r5bis_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r5bis_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RLC_Info_r6(rtxContext* RT_RESTRICT ctx, const RLC_Info_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RLC_Info_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_RLC_InfoChoice_r6(rtxContext* RT_RESTRICT ctx, const RLC_InfoChoice_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RLC-InfoChoice-r6");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "RLC-InfoChoice-r6");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "RLC-InfoChoice-r6");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.rlc_Info == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "rlc-Info", -1, "RLC-InfoChoice-r6");
+         stat = enc_RLC_Info_r6(ctx, pvalue->u.rlc_Info, cur);
+         RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RLC-InfoChoice-r6");
+         break;
+      case 2:
+         if ((uint64_t)(pvalue->u.same_as_RB - 1) > 31u) {
+            rtxErrAddStrParm(ctx, "RB-Identity");
+            rtxErrAddUIntParm(ctx, pvalue->u.same_as_RB);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RB-Identity", "same-as-RB", -1, "RLC-InfoChoice-r6");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.same_as_RB, 1, 32);
+         RT_CHECK_PUT(ctx, cur, stat, "RB-Identity", "same-as-RB", -1, "RLC-InfoChoice-r6");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RLC_InfoChoice_r6(rtxContext* RT_RESTRICT ctx, const RLC_InfoChoice_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RLC_InfoChoice_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch_rlc_SizeList(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch_rlc_SizeList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if (pvalue->u.explicitList == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "explicitList", -1, 0);
+         stat = enc_RLC_SizeExplicitList(ctx, pvalue->u.explicitList, cur);
+         RT_CHECK(ctx, stat, 0, "explicitList", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch_rlc_SizeList(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch_rlc_SizeList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch_rlc_SizeList, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-TransportChannelType */
+   stat = enc_UL_TransportChannelType(ctx, &pvalue->ul_TransportChannelType, cur);
+   RT_CHECK(ctx, stat, 0, "ul-TransportChannelType", -1, 0);
+   /* logicalChannelIdentity */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->logicalChannelIdentity - 1) > 14u) {
+         rtxErrAddStrParm(ctx, "LogicalChannelIdentity");
+         rtxErrAddUIntParm(ctx, pvalue->logicalChannelIdentity);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "LogicalChannelIdentity", "logicalChannelIdentity", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->logicalChannelIdentity, 1, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, 0);
+   }
+   /* rlc-SizeList */
+   stat = enc_UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch_rlc_SizeList(ctx, &pvalue->rlc_SizeList, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-SizeList", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch, pvalue);
+}
+
+RT_MERGED_BODY int enc_RLC_PDU_Size(rtxContext* RT_RESTRICT ctx, const RLC_PDU_Size* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RLC-PDU-Size");
+   stat = enc_OctetModeRLC_SizeInfoType1(ctx, pvalue, cur);
+   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-PDU-Size");
+   return 0;
+}
+
+int asn1PE_UMTS_RLC_PDU_Size(rtxContext* RT_RESTRICT ctx, const RLC_PDU_Size* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RLC_PDU_Size, pvalue);
+}
+
+RT_MERGED_BODY int enc_RLC_PDU_SizeList(rtxContext* RT_RESTRICT ctx, const RLC_PDU_SizeList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RLC-PDU-SizeList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RLC-PDU-SizeList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RLC-PDU-Size", (int32_t)i, "RLC-PDU-SizeList");
+      stat = enc_RLC_PDU_Size(ctx, (const RLC_PDU_Size*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RLC-PDU-Size", (int32_t)i, "RLC-PDU-SizeList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RLC_PDU_SizeList(rtxContext* RT_RESTRICT ctx, const RLC_PDU_SizeList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RLC_PDU_SizeList, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_LogicalChannelMapping_r6_ul_TrCH_Type_e_dch(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r6_ul_TrCH_Type_e_dch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* logicalChannelIdentity */
+   if ((uint64_t)(pvalue->logicalChannelIdentity - 1) > 14u) {
+      rtxErrAddStrParm(ctx, "LogicalChannelIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->logicalChannelIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "LogicalChannelIdentity", "logicalChannelIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->logicalChannelIdentity, 1, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, 0);
+   /* e-DCH-MAC-d-FlowIdentity */
+   if ((uint64_t)pvalue->e_DCH_MAC_d_FlowIdentity > 7u) {
+      rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->e_DCH_MAC_d_FlowIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "E-DCH-MAC-d-FlowIdentity", "e-DCH-MAC-d-FlowIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->e_DCH_MAC_d_FlowIdentity, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "E-DCH-MAC-d-FlowIdentity", "e-DCH-MAC-d-FlowIdentity", -1, 0);
+   /* ddi */
+   if ((uint64_t)pvalue->ddi > 62u) {
+      rtxErrAddStrParm(ctx, "DDI");
+      rtxErrAddUIntParm(ctx, pvalue->ddi);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DDI", "ddi", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ddi, 0, 62);
+   RT_CHECK_PUT(ctx, cur, stat, "DDI", "ddi", -1, 0);
+   /* rlc-PDU-SizeList */
+   stat = enc_RLC_PDU_SizeList(ctx, &pvalue->rlc_PDU_SizeList, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-PDU-SizeList", -1, 0);
+   /* includeInSchedulingInfo */
+   stat = rtxEncBitAt(ctx, cur, pvalue->includeInSchedulingInfo);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "includeInSchedulingInfo", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type_e_dch(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r6_ul_TrCH_Type_e_dch* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_LogicalChannelMapping_r6_ul_TrCH_Type_e_dch, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_LogicalChannelMapping_r6_ul_TrCH_Type(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r6_ul_TrCH_Type* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.dch_rach_usch == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dch-rach-usch", -1, 0);
+         stat = enc_UL_LogicalChannelMapping_r6_ul_TrCH_Type_dch_rach_usch(ctx, pvalue->u.dch_rach_usch, cur);
+         RT_CHECK(ctx, stat, 0, "dch-rach-usch", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.e_dch == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e-dch", -1, 0);
+         stat = enc_UL_LogicalChannelMapping_r6_ul_TrCH_Type_e_dch(ctx, pvalue->u.e_dch, cur);
+         RT_CHECK(ctx, stat, 0, "e-dch", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_LogicalChannelMapping_r6_ul_TrCH_Type(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r6_ul_TrCH_Type* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_LogicalChannelMapping_r6_ul_TrCH_Type, pvalue);
+}
+
+static int enc_UL_LogicalChannelMapping_r6(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-LogicalChannelMapping-r6");
+   /* ul-TrCH-Type */
+   stat = enc_UL_LogicalChannelMapping_r6_ul_TrCH_Type(ctx, &pvalue->ul_TrCH_Type, cur);
+   RT_CHECK(ctx, stat, 0, "ul-TrCH-Type", -1, "UL-LogicalChannelMapping-r6");
+   /* mac-LogicalChannelPriority */
+   if ((uint64_t)(pvalue->mac_LogicalChannelPriority - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "MAC-LogicalChannelPriority");
+      rtxErrAddUIntParm(ctx, pvalue->mac_LogicalChannelPriority);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MAC-LogicalChannelPriority", "mac-LogicalChannelPriority", -1, "UL-LogicalChannelMapping-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_LogicalChannelPriority, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, "MAC-LogicalChannelPriority", "mac-LogicalChannelPriority", -1, "UL-LogicalChannelMapping-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_LogicalChannelMapping_r6(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_LogicalChannelMapping_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_LogicalChannelMappingList_r6_ul_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappingList_r6_ul_LogicalChannelMapping* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 2, 2);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "UL-LogicalChannelMapping-r6", (int32_t)i, 0);
+      stat = enc_UL_LogicalChannelMapping_r6(ctx, (const UL_LogicalChannelMapping_r6*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "UL-LogicalChannelMapping-r6", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_LogicalChannelMappingList_r6_ul_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappingList_r6_ul_LogicalChannelMapping* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_LogicalChannelMappingList_r6_ul_LogicalChannelMapping, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_LogicalChannelMappingList_r6(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappingList_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-LogicalChannelMappingList-r6");
+   /* rlc-LogicalChannelMappingIndicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->rlc_LogicalChannelMappingIndicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "rlc-LogicalChannelMappingIndicator", -1, "UL-LogicalChannelMappingList-r6");
+   /* ul-LogicalChannelMapping */
+   stat = enc_UL_LogicalChannelMappingList_r6_ul_LogicalChannelMapping(ctx, &pvalue->ul_LogicalChannelMapping, cur);
+   RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMapping", -1, "UL-LogicalChannelMappingList-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_LogicalChannelMappingList_r6(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappingList_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_LogicalChannelMappingList_r6, pvalue);
+}
+
+static int enc_UL_LogicalChannelMappings_r6(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappings_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-LogicalChannelMappings-r6");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "UL-LogicalChannelMappings-r6");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-LogicalChannelMappings-r6");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.oneLogicalChannel == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "oneLogicalChannel", -1, "UL-LogicalChannelMappings-r6");
+         stat = enc_UL_LogicalChannelMapping_r6(ctx, pvalue->u.oneLogicalChannel, cur);
+         RT_CHECK(ctx, stat, 0, "oneLogicalChannel", -1, "UL-LogicalChannelMappings-r6");
+         break;
+      case 2:
+         if (pvalue->u.twoLogicalChannels == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "twoLogicalChannels", -1, "UL-LogicalChannelMappings-r6");
+         stat = enc_UL_LogicalChannelMappingList_r6(ctx, pvalue->u.twoLogicalChannels, cur);
+         RT_CHECK(ctx, stat, 0, "twoLogicalChannels", -1, "UL-LogicalChannelMappings-r6");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_LogicalChannelMappings_r6(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappings_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_LogicalChannelMappings_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_MappingOption_r6(rtxContext* RT_RESTRICT ctx, const RB_MappingOption_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-MappingOption-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* primaryCPICH-Info */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   /* dummy1 */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RB-MappingOption-r6");
+   /* ul-LogicalChannelMappings */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PDSCH_SHO_DCH_Info(ctx, &pvalue->dummy1);
-      RT_CHECK(ctx, stat, 0, "dummy1", -1, 0);
+      stat = enc_UL_LogicalChannelMappings_r6(ctx, &pvalue->ul_LogicalChannelMappings, cur);
+      RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMappings", -1, "RB-MappingOption-r6");
    }
-   /* dummy2 */
+   /* dl-LogicalChannelMappingList */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_PDSCH_CodeMapping(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+      stat = enc_DL_LogicalChannelMappingList_r5(ctx, &pvalue->dl_LogicalChannelMappingList, cur);
+      RT_CHECK(ctx, stat, 0, "dl-LogicalChannelMappingList", -1, "RB-MappingOption-r6");
    }
    return 0;
 }
 
-int asn1PE_UMTS_DL_InformationPerRL_r5bis_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r5bis_modeSpecificInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RB_MappingOption_r6(rtxContext* RT_RESTRICT ctx, const RB_MappingOption_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_MappingOption_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_MappingInfo_r6(rtxContext* RT_RESTRICT ctx, const RB_MappingInfo_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_DL_InformationPerRL_r5bis_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-MappingInfo-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RB-MappingInfo-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RB-MappingOption-r6", (int32_t)i, "RB-MappingInfo-r6");
+      stat = enc_RB_MappingOption_r6(ctx, (const RB_MappingOption_r6*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RB-MappingOption-r6", (int32_t)i, "RB-MappingInfo-r6");
    }
    return 0;
 }
 
-int asn1PE_UMTS_DL_InformationPerRL_r5bis(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r5bis* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RB_MappingInfo_r6(rtxContext* RT_RESTRICT ctx, const RB_MappingInfo_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_MappingInfo_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_InformationSetup_r6(rtxContext* RT_RESTRICT ctx, const RB_InformationSetup_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerRL-r5bis");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationSetup-r6");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL-r5bis");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_DL_InformationPerRL_r5bis_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-InformationPerRL-r5bis");
-   /* dl-DPCH-InfoPerRL */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RB-InformationSetup-r6");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->rb_Identity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r6");
+   /* pdcp-Info */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_DPCH_InfoPerRL_r5(ctx, &pvalue->dl_DPCH_InfoPerRL);
-      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, "DL-InformationPerRL-r5bis");
+      stat = enc_PDCP_Info_r4(ctx, &pvalue->pdcp_Info, cur);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationSetup-r6");
    }
-   /* dummy */
+   /* rlc-InfoChoice */
+   stat = enc_RLC_InfoChoice_r6(ctx, &pvalue->rlc_InfoChoice, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "RB-InformationSetup-r6");
+   /* rb-MappingInfo */
+   stat = enc_RB_MappingInfo_r6(ctx, &pvalue->rb_MappingInfo, cur);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationSetup-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationSetup_r6(rtxContext* RT_RESTRICT ctx, const RB_InformationSetup_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_InformationSetup_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_InformationSetupList_r6(rtxContext* RT_RESTRICT ctx, const RB_InformationSetupList_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationSetupList-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RB-InformationSetupList-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RB-InformationSetup-r6", (int32_t)i, "RB-InformationSetupList-r6");
+      stat = enc_RB_InformationSetup_r6(ctx, (const RB_InformationSetup_r6*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RB-InformationSetup-r6", (int32_t)i, "RB-InformationSetupList-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationSetupList_r6(rtxContext* RT_RESTRICT ctx, const RB_InformationSetupList_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_InformationSetupList_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_RAB_InformationSetup_r6(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetup-r6");
+   /* rab-Info */
+   stat = enc_RAB_Info_r6(ctx, &pvalue->rab_Info, cur);
+   RT_CHECK(ctx, stat, 0, "rab-Info", -1, "RAB-InformationSetup-r6");
+   /* rb-InformationSetupList */
+   stat = enc_RB_InformationSetupList_r6(ctx, &pvalue->rb_InformationSetupList, cur);
+   RT_CHECK(ctx, stat, 0, "rb-InformationSetupList", -1, "RAB-InformationSetup-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationSetup_r6(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAB_InformationSetup_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_RAB_InformationSetup_v6b0ext(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup_v6b0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetup-v6b0ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RAB-InformationSetup-v6b0ext");
+   /* rab-Info-v6b0ext */
+   if (pvalue->m & 0x1u) {
+      stat = enc_RAB_Info_v6b0ext(ctx, &pvalue->rab_Info_v6b0ext, cur);
+      RT_CHECK(ctx, stat, 0, "rab-Info-v6b0ext", -1, "RAB-InformationSetup-v6b0ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationSetup_v6b0ext(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup_v6b0ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAB_InformationSetup_v6b0ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_RLC_Info_r7_altE_bitInterpretation(rtxContext* RT_RESTRICT ctx, RLC_Info_r7_altE_bitInterpretation value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RLC_Info_r7_altE_bitInterpretation(rtxContext* RT_RESTRICT ctx, RLC_Info_r7_altE_bitInterpretation value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RLC_Info_r7_altE_bitInterpretation, value);
+}
+
+RT_MERGED_BODY int enc_RLC_Info_r7_useSpecialValueOfHEField(rtxContext* RT_RESTRICT ctx, RLC_Info_r7_useSpecialValueOfHEField value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RLC_Info_r7_useSpecialValueOfHEField(rtxContext* RT_RESTRICT ctx, RLC_Info_r7_useSpecialValueOfHEField value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RLC_Info_r7_useSpecialValueOfHEField, value);
+}
+
+static int enc_RLC_Info_r7(rtxContext* RT_RESTRICT ctx, const RLC_Info_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RLC-Info-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RLC-Info-r7");
+   /* ul-RLC-Mode */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UL_RLC_Mode(ctx, &pvalue->ul_RLC_Mode, cur);
+      RT_CHECK(ctx, stat, 0, "ul-RLC-Mode", -1, "RLC-Info-r7");
+   }
+   /* dl-RLC-Mode */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_SCCPCH_InfoForFACH_r4(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "DL-InformationPerRL-r5bis");
+      stat = enc_DL_RLC_Mode_r7(ctx, &pvalue->dl_RLC_Mode, cur);
+      RT_CHECK(ctx, stat, 0, "dl-RLC-Mode", -1, "RLC-Info-r7");
    }
-   /* cell-id */
+   /* rlc-OneSidedReEst */
+   stat = rtxEncBitAt(ctx, cur, pvalue->rlc_OneSidedReEst);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "rlc-OneSidedReEst", -1, "RLC-Info-r7");
+   /* altE-bitInterpretation */
    if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_CellIdentity(ctx, pvalue->cell_id);
-      RT_CHECK(ctx, stat, 0, "cell-id", -1, "DL-InformationPerRL-r5bis");
+      if (pvalue->altE_bitInterpretation > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->altE_bitInterpretation);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "altE-bitInterpretation", -1, "RLC-Info-r7");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->altE_bitInterpretation, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "altE-bitInterpretation", -1, "RLC-Info-r7");
+   }
+   /* useSpecialValueOfHEField */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->useSpecialValueOfHEField > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->useSpecialValueOfHEField);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "useSpecialValueOfHEField", -1, "RLC-Info-r7");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->useSpecialValueOfHEField, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "useSpecialValueOfHEField", -1, "RLC-Info-r7");
    }
    return 0;
 }
 
-int asn1PE_UMTS_DL_InformationPerRL_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RLC_Info_r7(rtxContext* RT_RESTRICT ctx, const RLC_Info_r7* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* primaryCPICH-Info */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   /* servingHSDSCH-RL-indicator */
-   stat = rtxEncBit(ctx, pvalue->servingHSDSCH_RL_indicator);
-   RT_CHECK(ctx, stat, 0, "servingHSDSCH-RL-indicator", -1, 0);
-   /* servingEDCH-RL-indicator */
-   stat = rtxEncBit(ctx, pvalue->servingEDCH_RL_indicator);
-   RT_CHECK(ctx, stat, 0, "servingEDCH-RL-indicator", -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_RLC_Info_r7, pvalue);
 }
 
-int asn1PE_UMTS_DL_InformationPerRL_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r6_modeSpecificInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_RLC_InfoChoice_r7(rtxContext* RT_RESTRICT ctx, const RLC_InfoChoice_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RLC-InfoChoice-r7");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "RLC-InfoChoice-r7");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "RLC-InfoChoice-r7");
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_DL_InformationPerRL_r6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         if (pvalue->u.rlc_Info == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "rlc-Info", -1, "RLC-InfoChoice-r7");
+         stat = enc_RLC_Info_r7(ctx, pvalue->u.rlc_Info, cur);
+         RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RLC-InfoChoice-r7");
          break;
       case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         if ((uint64_t)(pvalue->u.same_as_RB - 1) > 31u) {
+            rtxErrAddStrParm(ctx, "RB-Identity");
+            rtxErrAddUIntParm(ctx, pvalue->u.same_as_RB);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RB-Identity", "same-as-RB", -1, "RLC-InfoChoice-r7");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.same_as_RB, 1, 32);
+         RT_CHECK_PUT(ctx, cur, stat, "RB-Identity", "same-as-RB", -1, "RLC-InfoChoice-r7");
          break;
       default:
          break;
@@ -2962,2676 +3190,5616 @@ int asn1PE_UMTS_DL_InformationPerRL_r6_modeSpecificInfo(rtxContext* RT_RESTRICT 
    return 0;
 }
 
-int asn1PE_UMTS_DL_InformationPerRL_r6_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r6_dl_dpchInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RLC_InfoChoice_r7(rtxContext* RT_RESTRICT ctx, const RLC_InfoChoice_r7* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.dl_DPCH_InfoPerRL == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-DPCH-InfoPerRL", -1, 0);
-         stat = asn1PE_UMTS_DL_DPCH_InfoPerRL_r6(ctx, pvalue->u.dl_DPCH_InfoPerRL);
-         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.dl_FDPCH_InfoPerRL == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-FDPCH-InfoPerRL", -1, 0);
-         stat = asn1PE_UMTS_DL_FDPCH_InfoPerRL_r6(ctx, pvalue->u.dl_FDPCH_InfoPerRL);
-         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoPerRL", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_RLC_InfoChoice_r7, pvalue);
 }
 
-int asn1PE_UMTS_DL_InformationPerRL_r6_e_HICH_Info(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r6_e_HICH_Info* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_RB_MappingOption_r7(rtxContext* RT_RESTRICT ctx, const RB_MappingOption_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.e_HICH_Information == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e-HICH-Information", -1, 0);
-         stat = asn1PE_UMTS_E_HICH_Information(ctx, pvalue->u.e_HICH_Information);
-         RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r6_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r6_e_RGCH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e-RGCH-Information", -1, 0);
-         stat = asn1PE_UMTS_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information);
-         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r6(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerRL-r6");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-MappingOption-r7");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RB-MappingOption-r7");
+   /* ul-LogicalChannelMappings */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UL_LogicalChannelMappings_r6(ctx, &pvalue->ul_LogicalChannelMappings, cur);
+      RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMappings", -1, "RB-MappingOption-r7");
+   }
+   /* dl-LogicalChannelMappingList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_DL_LogicalChannelMappingList_r7(ctx, &pvalue->dl_LogicalChannelMappingList, cur);
+      RT_CHECK(ctx, stat, 0, "dl-LogicalChannelMappingList", -1, "RB-MappingOption-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_MappingOption_r7(rtxContext* RT_RESTRICT ctx, const RB_MappingOption_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_MappingOption_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_MappingInfo_r7(rtxContext* RT_RESTRICT ctx, const RB_MappingInfo_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-MappingInfo-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RB-MappingInfo-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RB-MappingOption-r7", (int32_t)i, "RB-MappingInfo-r7");
+      stat = enc_RB_MappingOption_r7(ctx, (const RB_MappingOption_r7*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RB-MappingOption-r7", (int32_t)i, "RB-MappingInfo-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_MappingInfo_r7(rtxContext* RT_RESTRICT ctx, const RB_MappingInfo_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_MappingInfo_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_InformationSetup_r7(rtxContext* RT_RESTRICT ctx, const RB_InformationSetup_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationSetup-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RB-InformationSetup-r7");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r7");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->rb_Identity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r7");
+   /* pdcp-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PDCP_Info_r4(ctx, &pvalue->pdcp_Info, cur);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationSetup-r7");
+   }
+   /* rlc-InfoChoice */
+   stat = enc_RLC_InfoChoice_r7(ctx, &pvalue->rlc_InfoChoice, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "RB-InformationSetup-r7");
+   /* rb-MappingInfo */
+   stat = enc_RB_MappingInfo_r7(ctx, &pvalue->rb_MappingInfo, cur);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationSetup-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationSetup_r7(rtxContext* RT_RESTRICT ctx, const RB_InformationSetup_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_InformationSetup_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_InformationSetupList_r7(rtxContext* RT_RESTRICT ctx, const RB_InformationSetupList_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationSetupList-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RB-InformationSetupList-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RB-InformationSetup-r7", (int32_t)i, "RB-InformationSetupList-r7");
+      stat = enc_RB_InformationSetup_r7(ctx, (const RB_InformationSetup_r7*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RB-InformationSetup-r7", (int32_t)i, "RB-InformationSetupList-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationSetupList_r7(rtxContext* RT_RESTRICT ctx, const RB_InformationSetupList_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_InformationSetupList_r7, pvalue);
+}
+
+static int enc_RAB_InformationSetup_r7(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetup-r7");
+   /* rab-Info */
+   stat = enc_RAB_Info_r7(ctx, &pvalue->rab_Info, cur);
+   RT_CHECK(ctx, stat, 0, "rab-Info", -1, "RAB-InformationSetup-r7");
+   /* rb-InformationSetupList */
+   stat = enc_RB_InformationSetupList_r7(ctx, &pvalue->rb_InformationSetupList, cur);
+   RT_CHECK(ctx, stat, 0, "rb-InformationSetupList", -1, "RAB-InformationSetup-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationSetup_r7(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAB_InformationSetup_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch_rlc_SizeList(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch_rlc_SizeList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if (pvalue->u.explicitList == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "explicitList", -1, 0);
+         stat = enc_RLC_SizeExplicitList(ctx, pvalue->u.explicitList, cur);
+         RT_CHECK(ctx, stat, 0, "explicitList", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch_rlc_SizeList(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch_rlc_SizeList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch_rlc_SizeList, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-TransportChannelType */
+   stat = enc_UL_TransportChannelType(ctx, &pvalue->ul_TransportChannelType, cur);
+   RT_CHECK(ctx, stat, 0, "ul-TransportChannelType", -1, 0);
+   /* logicalChannelIdentity */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->logicalChannelIdentity - 1) > 14u) {
+         rtxErrAddStrParm(ctx, "LogicalChannelIdentity");
+         rtxErrAddUIntParm(ctx, pvalue->logicalChannelIdentity);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "LogicalChannelIdentity", "logicalChannelIdentity", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->logicalChannelIdentity, 1, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, 0);
+   }
+   /* rlc-SizeList */
+   stat = enc_UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch_rlc_SizeList(ctx, &pvalue->rlc_SizeList, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-SizeList", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size_fixedSize(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size_fixedSize* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ddi */
+   if ((uint64_t)pvalue->ddi > 62u) {
+      rtxErrAddStrParm(ctx, "DDI");
+      rtxErrAddUIntParm(ctx, pvalue->ddi);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DDI", "ddi", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ddi, 0, 62);
+   RT_CHECK_PUT(ctx, cur, stat, "DDI", "ddi", -1, 0);
+   /* rlc-PDU-SizeList */
+   stat = enc_RLC_PDU_SizeList(ctx, &pvalue->rlc_PDU_SizeList, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-PDU-SizeList", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size_fixedSize(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size_fixedSize* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size_fixedSize, pvalue);
+}
+
+RT_MERGED_BODY int enc_RLC_PDU_SizeConstraint_lengthIndicatorSize(rtxContext* RT_RESTRICT ctx, RLC_PDU_SizeConstraint_lengthIndicatorSize value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_RLC_PDU_SizeConstraint_lengthIndicatorSize(rtxContext* RT_RESTRICT ctx, RLC_PDU_SizeConstraint_lengthIndicatorSize value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RLC_PDU_SizeConstraint_lengthIndicatorSize, value);
+}
+
+RT_MERGED_BODY int enc_RLC_PDU_SizeConstraint(rtxContext* RT_RESTRICT ctx, const RLC_PDU_SizeConstraint* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RLC-PDU-SizeConstraint");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RLC-PDU-SizeConstraint");
+   /* lengthIndicatorSize */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->lengthIndicatorSize > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->lengthIndicatorSize);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "lengthIndicatorSize", -1, "RLC-PDU-SizeConstraint");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->lengthIndicatorSize, 0, 1);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "lengthIndicatorSize", -1, "RLC-PDU-SizeConstraint");
+   }
+   /* minRLC-PDU-Size */
+   if ((uint64_t)pvalue->minRLC_PDU_Size > 1503u) {
+      rtxErrAddStrParm(ctx, "minRLC-PDU-Size");
+      rtxErrAddUIntParm(ctx, pvalue->minRLC_PDU_Size);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "minRLC-PDU-Size", -1, "RLC-PDU-SizeConstraint");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->minRLC_PDU_Size, 0, 1503);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "minRLC-PDU-Size", -1, "RLC-PDU-SizeConstraint");
+   /* largestRLC-PDU-Size */
+   if ((uint64_t)pvalue->largestRLC_PDU_Size > 1503u) {
+      rtxErrAddStrParm(ctx, "largestRLC-PDU-Size");
+      rtxErrAddUIntParm(ctx, pvalue->largestRLC_PDU_Size);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "largestRLC-PDU-Size", -1, "RLC-PDU-SizeConstraint");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->largestRLC_PDU_Size, 0, 1503);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "largestRLC-PDU-Size", -1, "RLC-PDU-SizeConstraint");
+   return 0;
+}
+
+int asn1PE_UMTS_RLC_PDU_SizeConstraint(rtxContext* RT_RESTRICT ctx, const RLC_PDU_SizeConstraint* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RLC_PDU_SizeConstraint, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fixedSize == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fixedSize", -1, 0);
+         stat = enc_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size_fixedSize(ctx, pvalue->u.fixedSize, cur);
+         RT_CHECK(ctx, stat, 0, "fixedSize", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.flexibleSize == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "flexibleSize", -1, 0);
+         stat = enc_RLC_PDU_SizeConstraint(ctx, pvalue->u.flexibleSize, cur);
+         RT_CHECK(ctx, stat, 0, "flexibleSize", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* logicalChannelIdentity */
+   if ((uint64_t)(pvalue->logicalChannelIdentity - 1) > 14u) {
+      rtxErrAddStrParm(ctx, "LogicalChannelIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->logicalChannelIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "LogicalChannelIdentity", "logicalChannelIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->logicalChannelIdentity, 1, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "LogicalChannelIdentity", "logicalChannelIdentity", -1, 0);
+   /* e-DCH-MAC-d-FlowIdentity */
+   if ((uint64_t)pvalue->e_DCH_MAC_d_FlowIdentity > 7u) {
+      rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->e_DCH_MAC_d_FlowIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "E-DCH-MAC-d-FlowIdentity", "e-DCH-MAC-d-FlowIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->e_DCH_MAC_d_FlowIdentity, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "E-DCH-MAC-d-FlowIdentity", "e-DCH-MAC-d-FlowIdentity", -1, 0);
+   /* rlc-PDU-Size */
+   stat = enc_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch_rlc_PDU_Size(ctx, &pvalue->rlc_PDU_Size, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-PDU-Size", -1, 0);
+   /* includeInSchedulingInfo */
+   stat = rtxEncBitAt(ctx, cur, pvalue->includeInSchedulingInfo);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "includeInSchedulingInfo", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch, pvalue);
+}
+
+static int enc_UL_LogicalChannelMapping_r8_ul_TrCH_Type(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r8_ul_TrCH_Type* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.dch_rach_usch == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dch-rach-usch", -1, 0);
+         stat = enc_UL_LogicalChannelMapping_r8_ul_TrCH_Type_dch_rach_usch(ctx, pvalue->u.dch_rach_usch, cur);
+         RT_CHECK(ctx, stat, 0, "dch-rach-usch", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.e_dch == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e-dch", -1, 0);
+         stat = enc_UL_LogicalChannelMapping_r8_ul_TrCH_Type_e_dch(ctx, pvalue->u.e_dch, cur);
+         RT_CHECK(ctx, stat, 0, "e-dch", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_LogicalChannelMapping_r8_ul_TrCH_Type(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r8_ul_TrCH_Type* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_LogicalChannelMapping_r8_ul_TrCH_Type, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_LogicalChannelMapping_r8(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-LogicalChannelMapping-r8");
+   /* ul-TrCH-Type */
+   stat = enc_UL_LogicalChannelMapping_r8_ul_TrCH_Type(ctx, &pvalue->ul_TrCH_Type, cur);
+   RT_CHECK(ctx, stat, 0, "ul-TrCH-Type", -1, "UL-LogicalChannelMapping-r8");
+   /* mac-LogicalChannelPriority */
+   if ((uint64_t)(pvalue->mac_LogicalChannelPriority - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "MAC-LogicalChannelPriority");
+      rtxErrAddUIntParm(ctx, pvalue->mac_LogicalChannelPriority);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MAC-LogicalChannelPriority", "mac-LogicalChannelPriority", -1, "UL-LogicalChannelMapping-r8");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_LogicalChannelPriority, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, "MAC-LogicalChannelPriority", "mac-LogicalChannelPriority", -1, "UL-LogicalChannelMapping-r8");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_LogicalChannelMapping_r8(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMapping_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_LogicalChannelMapping_r8, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_LogicalChannelMappingList_r8_ul_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappingList_r8_ul_LogicalChannelMapping* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 2, 2);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "UL-LogicalChannelMapping-r8", (int32_t)i, 0);
+      stat = enc_UL_LogicalChannelMapping_r8(ctx, (const UL_LogicalChannelMapping_r8*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "UL-LogicalChannelMapping-r8", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_LogicalChannelMappingList_r8_ul_LogicalChannelMapping(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappingList_r8_ul_LogicalChannelMapping* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_LogicalChannelMappingList_r8_ul_LogicalChannelMapping, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_LogicalChannelMappingList_r8(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappingList_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-LogicalChannelMappingList-r8");
+   /* rlc-LogicalChannelMappingIndicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->rlc_LogicalChannelMappingIndicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "rlc-LogicalChannelMappingIndicator", -1, "UL-LogicalChannelMappingList-r8");
+   /* ul-LogicalChannelMapping */
+   stat = enc_UL_LogicalChannelMappingList_r8_ul_LogicalChannelMapping(ctx, &pvalue->ul_LogicalChannelMapping, cur);
+   RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMapping", -1, "UL-LogicalChannelMappingList-r8");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_LogicalChannelMappingList_r8(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappingList_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_LogicalChannelMappingList_r8, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_LogicalChannelMappings_r8(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappings_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-LogicalChannelMappings-r8");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "UL-LogicalChannelMappings-r8");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-LogicalChannelMappings-r8");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.oneLogicalChannel == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "oneLogicalChannel", -1, "UL-LogicalChannelMappings-r8");
+         stat = enc_UL_LogicalChannelMapping_r8(ctx, pvalue->u.oneLogicalChannel, cur);
+         RT_CHECK(ctx, stat, 0, "oneLogicalChannel", -1, "UL-LogicalChannelMappings-r8");
+         break;
+      case 2:
+         if (pvalue->u.twoLogicalChannels == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "twoLogicalChannels", -1, "UL-LogicalChannelMappings-r8");
+         stat = enc_UL_LogicalChannelMappingList_r8(ctx, pvalue->u.twoLogicalChannels, cur);
+         RT_CHECK(ctx, stat, 0, "twoLogicalChannels", -1, "UL-LogicalChannelMappings-r8");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_LogicalChannelMappings_r8(rtxContext* RT_RESTRICT ctx, const UL_LogicalChannelMappings_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_LogicalChannelMappings_r8, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_MappingOption_r8(rtxContext* RT_RESTRICT ctx, const RB_MappingOption_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-MappingOption-r8");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RB-MappingOption-r8");
+   /* ul-LogicalChannelMappings */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UL_LogicalChannelMappings_r8(ctx, &pvalue->ul_LogicalChannelMappings, cur);
+      RT_CHECK(ctx, stat, 0, "ul-LogicalChannelMappings", -1, "RB-MappingOption-r8");
+   }
+   /* dl-LogicalChannelMappingList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_DL_LogicalChannelMappingList_r7(ctx, &pvalue->dl_LogicalChannelMappingList, cur);
+      RT_CHECK(ctx, stat, 0, "dl-LogicalChannelMappingList", -1, "RB-MappingOption-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_MappingOption_r8(rtxContext* RT_RESTRICT ctx, const RB_MappingOption_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_MappingOption_r8, pvalue);
+}
+
+static int enc_RB_MappingInfo_r8(rtxContext* RT_RESTRICT ctx, const RB_MappingInfo_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-MappingInfo-r8");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RB-MappingInfo-r8");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RB-MappingOption-r8", (int32_t)i, "RB-MappingInfo-r8");
+      stat = enc_RB_MappingOption_r8(ctx, (const RB_MappingOption_r8*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RB-MappingOption-r8", (int32_t)i, "RB-MappingInfo-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_MappingInfo_r8(rtxContext* RT_RESTRICT ctx, const RB_MappingInfo_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_MappingInfo_r8, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_InformationSetup_r8(rtxContext* RT_RESTRICT ctx, const RB_InformationSetup_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationSetup-r8");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RB-InformationSetup-r8");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r8");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->rb_Identity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationSetup-r8");
+   /* pdcp-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PDCP_Info_r4(ctx, &pvalue->pdcp_Info, cur);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationSetup-r8");
+   }
+   /* rlc-InfoChoice */
+   stat = enc_RLC_InfoChoice_r7(ctx, &pvalue->rlc_InfoChoice, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "RB-InformationSetup-r8");
+   /* rb-MappingInfo */
+   stat = enc_RB_MappingInfo_r8(ctx, &pvalue->rb_MappingInfo, cur);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationSetup-r8");
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationSetup_r8(rtxContext* RT_RESTRICT ctx, const RB_InformationSetup_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_InformationSetup_r8, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_InformationSetupList_r8(rtxContext* RT_RESTRICT ctx, const RB_InformationSetupList_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationSetupList-r8");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RB-InformationSetupList-r8");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RB-InformationSetup-r8", (int32_t)i, "RB-InformationSetupList-r8");
+      stat = enc_RB_InformationSetup_r8(ctx, (const RB_InformationSetup_r8*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RB-InformationSetup-r8", (int32_t)i, "RB-InformationSetupList-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationSetupList_r8(rtxContext* RT_RESTRICT ctx, const RB_InformationSetupList_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_InformationSetupList_r8, pvalue);
+}
+
+static int enc_RAB_InformationSetup_r8(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetup-r8");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RAB-InformationSetup-r8");
+   /* rab-Info */
+   stat = enc_RAB_Info_r7(ctx, &pvalue->rab_Info, cur);
+   RT_CHECK(ctx, stat, 0, "rab-Info", -1, "RAB-InformationSetup-r8");
+   /* cs-HSPA-Information */
+   if (pvalue->m & 0x1u) {
+      stat = enc_CS_HSPA_Information(ctx, &pvalue->cs_HSPA_Information, cur);
+      RT_CHECK(ctx, stat, 0, "cs-HSPA-Information", -1, "RAB-InformationSetup-r8");
+   }
+   /* rab-InfoReplace */
+   if (pvalue->m & 0x2u) {
+      stat = enc_RAB_InfoReplace(ctx, &pvalue->rab_InfoReplace, cur);
+      RT_CHECK(ctx, stat, 0, "rab-InfoReplace", -1, "RAB-InformationSetup-r8");
+   }
+   /* rb-InformationSetupList */
+   stat = enc_RB_InformationSetupList_r8(ctx, &pvalue->rb_InformationSetupList, cur);
+   RT_CHECK(ctx, stat, 0, "rb-InformationSetupList", -1, "RAB-InformationSetup-r8");
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationSetup_r8(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAB_InformationSetup_r8, pvalue);
+}
+
+RT_MERGED_BODY int enc_RAB_InformationSetup_v820ext(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup_v820ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetup-v820ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RAB-InformationSetup-v820ext");
+   /* cs-HSPA-Information */
+   if (pvalue->m & 0x1u) {
+      stat = enc_CS_HSPA_Information(ctx, &pvalue->cs_HSPA_Information, cur);
+      RT_CHECK(ctx, stat, 0, "cs-HSPA-Information", -1, "RAB-InformationSetup-v820ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationSetup_v820ext(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetup_v820ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAB_InformationSetup_v820ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_RAB_InformationSetupList(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetupList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RAB-InformationSetupList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RAB-InformationSetup", (int32_t)i, "RAB-InformationSetupList");
+      stat = enc_RAB_InformationSetup(ctx, (const RAB_InformationSetup*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup", (int32_t)i, "RAB-InformationSetupList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationSetupList(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAB_InformationSetupList, pvalue);
+}
+
+static int enc_RAB_InformationSetupList_r4(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetupList-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RAB-InformationSetupList-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RAB-InformationSetup-r4", (int32_t)i, "RAB-InformationSetupList-r4");
+      stat = enc_RAB_InformationSetup_r4(ctx, (const RAB_InformationSetup_r4*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-r4", (int32_t)i, "RAB-InformationSetupList-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationSetupList_r4(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAB_InformationSetupList_r4, pvalue);
+}
+
+static int enc_RAB_InformationSetupList_r5(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetupList-r5");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RAB-InformationSetupList-r5");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RAB-InformationSetup-r5", (int32_t)i, "RAB-InformationSetupList-r5");
+      stat = enc_RAB_InformationSetup_r5(ctx, (const RAB_InformationSetup_r5*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-r5", (int32_t)i, "RAB-InformationSetupList-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationSetupList_r5(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAB_InformationSetupList_r5, pvalue);
+}
+
+static int enc_RAB_InformationSetupList_r6(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetupList-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RAB-InformationSetupList-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RAB-InformationSetup-r6", (int32_t)i, "RAB-InformationSetupList-r6");
+      stat = enc_RAB_InformationSetup_r6(ctx, (const RAB_InformationSetup_r6*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-r6", (int32_t)i, "RAB-InformationSetupList-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationSetupList_r6(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAB_InformationSetupList_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_RAB_InformationSetupList_r6_ext(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList_r6_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetupList-r6-ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RAB-InformationSetupList-r6-ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RAB-InformationSetup-r6-ext", (int32_t)i, "RAB-InformationSetupList-r6-ext");
+      stat = enc_RAB_InformationSetup_r6_ext(ctx, (const RAB_InformationSetup_r6_ext*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-r6-ext", (int32_t)i, "RAB-InformationSetupList-r6-ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationSetupList_r6_ext(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList_r6_ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAB_InformationSetupList_r6_ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_RAB_InformationSetupList_v6b0ext(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList_v6b0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetupList-v6b0ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RAB-InformationSetupList-v6b0ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RAB-InformationSetup-v6b0ext", (int32_t)i, "RAB-InformationSetupList-v6b0ext");
+      stat = enc_RAB_InformationSetup_v6b0ext(ctx, (const RAB_InformationSetup_v6b0ext*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-v6b0ext", (int32_t)i, "RAB-InformationSetupList-v6b0ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationSetupList_v6b0ext(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList_v6b0ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAB_InformationSetupList_v6b0ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_RAB_InformationSetupList_r7(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetupList-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RAB-InformationSetupList-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RAB-InformationSetup-r7", (int32_t)i, "RAB-InformationSetupList-r7");
+      stat = enc_RAB_InformationSetup_r7(ctx, (const RAB_InformationSetup_r7*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-r7", (int32_t)i, "RAB-InformationSetupList-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationSetupList_r7(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAB_InformationSetupList_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_RAB_InformationSetupList_r8(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetupList-r8");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RAB-InformationSetupList-r8");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RAB-InformationSetup-r8", (int32_t)i, "RAB-InformationSetupList-r8");
+      stat = enc_RAB_InformationSetup_r8(ctx, (const RAB_InformationSetup_r8*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-r8", (int32_t)i, "RAB-InformationSetupList-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationSetupList_r8(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAB_InformationSetupList_r8, pvalue);
+}
+
+RT_MERGED_BODY int enc_RAB_InformationSetupList_v820ext(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList_v820ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RAB-InformationSetupList-v820ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RAB-InformationSetupList-v820ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RAB-InformationSetup-v820ext", (int32_t)i, "RAB-InformationSetupList-v820ext");
+      stat = enc_RAB_InformationSetup_v820ext(ctx, (const RAB_InformationSetup_v820ext*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RAB-InformationSetup-v820ext", (int32_t)i, "RAB-InformationSetupList-v820ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RAB_InformationSetupList_v820ext(rtxContext* RT_RESTRICT ctx, const RAB_InformationSetupList_v820ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RAB_InformationSetupList_v820ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_COUNT_C_Information(rtxContext* RT_RESTRICT ctx, const RB_COUNT_C_Information* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-COUNT-C-Information");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-COUNT-C-Information");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->rb_Identity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-COUNT-C-Information");
+   /* count-C-UL */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->count_C_UL, 0, 4294967295ULL);
+   RT_CHECK_PUT(ctx, cur, stat, "COUNT-C", "count-C-UL", -1, "RB-COUNT-C-Information");
+   /* count-C-DL */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->count_C_DL, 0, 4294967295ULL);
+   RT_CHECK_PUT(ctx, cur, stat, "COUNT-C", "count-C-DL", -1, "RB-COUNT-C-Information");
+   return 0;
+}
+
+int asn1PE_UMTS_RB_COUNT_C_Information(rtxContext* RT_RESTRICT ctx, const RB_COUNT_C_Information* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_COUNT_C_Information, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_COUNT_C_InformationList(rtxContext* RT_RESTRICT ctx, const RB_COUNT_C_InformationList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-COUNT-C-InformationList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 27);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RB-COUNT-C-InformationList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RB-COUNT-C-Information", (int32_t)i, "RB-COUNT-C-InformationList");
+      stat = enc_RB_COUNT_C_Information(ctx, (const RB_COUNT_C_Information*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RB-COUNT-C-Information", (int32_t)i, "RB-COUNT-C-InformationList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_COUNT_C_InformationList(rtxContext* RT_RESTRICT ctx, const RB_COUNT_C_InformationList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_COUNT_C_InformationList, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_COUNT_C_MSB_Information(rtxContext* RT_RESTRICT ctx, const RB_COUNT_C_MSB_Information* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-COUNT-C-MSB-Information");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-COUNT-C-MSB-Information");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->rb_Identity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-COUNT-C-MSB-Information");
+   /* count-C-MSB-UL */
+   if ((uint64_t)pvalue->count_C_MSB_UL > 33554431u) {
+      rtxErrAddStrParm(ctx, "COUNT-C-MSB");
+      rtxErrAddUIntParm(ctx, pvalue->count_C_MSB_UL);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "COUNT-C-MSB", "count-C-MSB-UL", -1, "RB-COUNT-C-MSB-Information");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->count_C_MSB_UL, 0, 33554431);
+   RT_CHECK_PUT(ctx, cur, stat, "COUNT-C-MSB", "count-C-MSB-UL", -1, "RB-COUNT-C-MSB-Information");
+   /* count-C-MSB-DL */
+   if ((uint64_t)pvalue->count_C_MSB_DL > 33554431u) {
+      rtxErrAddStrParm(ctx, "COUNT-C-MSB");
+      rtxErrAddUIntParm(ctx, pvalue->count_C_MSB_DL);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "COUNT-C-MSB", "count-C-MSB-DL", -1, "RB-COUNT-C-MSB-Information");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->count_C_MSB_DL, 0, 33554431);
+   RT_CHECK_PUT(ctx, cur, stat, "COUNT-C-MSB", "count-C-MSB-DL", -1, "RB-COUNT-C-MSB-Information");
+   return 0;
+}
+
+int asn1PE_UMTS_RB_COUNT_C_MSB_Information(rtxContext* RT_RESTRICT ctx, const RB_COUNT_C_MSB_Information* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_COUNT_C_MSB_Information, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_COUNT_C_MSB_InformationList(rtxContext* RT_RESTRICT ctx, const RB_COUNT_C_MSB_InformationList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-COUNT-C-MSB-InformationList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 27);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RB-COUNT-C-MSB-InformationList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RB-COUNT-C-MSB-Information", (int32_t)i, "RB-COUNT-C-MSB-InformationList");
+      stat = enc_RB_COUNT_C_MSB_Information(ctx, (const RB_COUNT_C_MSB_Information*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RB-COUNT-C-MSB-Information", (int32_t)i, "RB-COUNT-C-MSB-InformationList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_COUNT_C_MSB_InformationList(rtxContext* RT_RESTRICT ctx, const RB_COUNT_C_MSB_InformationList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_COUNT_C_MSB_InformationList, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_IdentityList(rtxContext* RT_RESTRICT ctx, const RB_IdentityList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-IdentityList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RB-IdentityList");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)(pvalue->elem[i] - 1) > 31u) {
+         rtxErrAddStrParm(ctx, "RB-Identity");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RB-Identity", "RB-Identity", (int32_t)i, "RB-IdentityList");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 1, 32);
+      RT_CHECK_PUT(ctx, cur, stat, "RB-Identity", "RB-Identity", (int32_t)i, "RB-IdentityList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_IdentityList(rtxContext* RT_RESTRICT ctx, const RB_IdentityList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_IdentityList, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_InformationAffected(rtxContext* RT_RESTRICT ctx, const RB_InformationAffected* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationAffected");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->rb_Identity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected");
+   /* rb-MappingInfo */
+   stat = enc_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo, cur);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationAffected");
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationAffected(rtxContext* RT_RESTRICT ctx, const RB_InformationAffected* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_InformationAffected, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_InformationAffected_r5(rtxContext* RT_RESTRICT ctx, const RB_InformationAffected_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationAffected-r5");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected-r5");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->rb_Identity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected-r5");
+   /* rb-MappingInfo */
+   stat = enc_RB_MappingInfo_r5(ctx, &pvalue->rb_MappingInfo, cur);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationAffected-r5");
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationAffected_r5(rtxContext* RT_RESTRICT ctx, const RB_InformationAffected_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_InformationAffected_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_InformationAffected_r6(rtxContext* RT_RESTRICT ctx, const RB_InformationAffected_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationAffected-r6");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->rb_Identity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected-r6");
+   /* rb-MappingInfo */
+   stat = enc_RB_MappingInfo_r6(ctx, &pvalue->rb_MappingInfo, cur);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationAffected-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationAffected_r6(rtxContext* RT_RESTRICT ctx, const RB_InformationAffected_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_InformationAffected_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_InformationAffected_r7(rtxContext* RT_RESTRICT ctx, const RB_InformationAffected_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationAffected-r7");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected-r7");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->rb_Identity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected-r7");
+   /* rb-MappingInfo */
+   stat = enc_RB_MappingInfo_r7(ctx, &pvalue->rb_MappingInfo, cur);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationAffected-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationAffected_r7(rtxContext* RT_RESTRICT ctx, const RB_InformationAffected_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_InformationAffected_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_InformationAffected_r8(rtxContext* RT_RESTRICT ctx, const RB_InformationAffected_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationAffected-r8");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected-r8");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->rb_Identity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationAffected-r8");
+   /* rb-MappingInfo */
+   stat = enc_RB_MappingInfo_r8(ctx, &pvalue->rb_MappingInfo, cur);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationAffected-r8");
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationAffected_r8(rtxContext* RT_RESTRICT ctx, const RB_InformationAffected_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_InformationAffected_r8, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_InformationAffectedList(rtxContext* RT_RESTRICT ctx, const RB_InformationAffectedList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationAffectedList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RB-InformationAffectedList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RB-InformationAffected", (int32_t)i, "RB-InformationAffectedList");
+      stat = enc_RB_InformationAffected(ctx, (const RB_InformationAffected*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RB-InformationAffected", (int32_t)i, "RB-InformationAffectedList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationAffectedList(rtxContext* RT_RESTRICT ctx, const RB_InformationAffectedList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_InformationAffectedList, pvalue);
+}
+
+static int enc_RB_InformationAffectedList_r5(rtxContext* RT_RESTRICT ctx, const RB_InformationAffectedList_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationAffectedList-r5");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RB-InformationAffectedList-r5");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RB-InformationAffected-r5", (int32_t)i, "RB-InformationAffectedList-r5");
+      stat = enc_RB_InformationAffected_r5(ctx, (const RB_InformationAffected_r5*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RB-InformationAffected-r5", (int32_t)i, "RB-InformationAffectedList-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationAffectedList_r5(rtxContext* RT_RESTRICT ctx, const RB_InformationAffectedList_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_InformationAffectedList_r5, pvalue);
+}
+
+static int enc_RB_InformationAffectedList_r6(rtxContext* RT_RESTRICT ctx, const RB_InformationAffectedList_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationAffectedList-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RB-InformationAffectedList-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RB-InformationAffected-r6", (int32_t)i, "RB-InformationAffectedList-r6");
+      stat = enc_RB_InformationAffected_r6(ctx, (const RB_InformationAffected_r6*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RB-InformationAffected-r6", (int32_t)i, "RB-InformationAffectedList-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationAffectedList_r6(rtxContext* RT_RESTRICT ctx, const RB_InformationAffectedList_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_InformationAffectedList_r6, pvalue);
+}
+
+static int enc_RB_InformationAffectedList_r7(rtxContext* RT_RESTRICT ctx, const RB_InformationAffectedList_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationAffectedList-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RB-InformationAffectedList-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RB-InformationAffected-r7", (int32_t)i, "RB-InformationAffectedList-r7");
+      stat = enc_RB_InformationAffected_r7(ctx, (const RB_InformationAffected_r7*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RB-InformationAffected-r7", (int32_t)i, "RB-InformationAffectedList-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationAffectedList_r7(rtxContext* RT_RESTRICT ctx, const RB_InformationAffectedList_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_InformationAffectedList_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_InformationAffectedList_r8(rtxContext* RT_RESTRICT ctx, const RB_InformationAffectedList_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationAffectedList-r8");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RB-InformationAffectedList-r8");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RB-InformationAffected-r8", (int32_t)i, "RB-InformationAffectedList-r8");
+      stat = enc_RB_InformationAffected_r8(ctx, (const RB_InformationAffected_r8*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RB-InformationAffected-r8", (int32_t)i, "RB-InformationAffectedList-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationAffectedList_r8(rtxContext* RT_RESTRICT ctx, const RB_InformationAffectedList_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_InformationAffectedList_r8, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_InformationChanged_r6_rb_Change(rtxContext* RT_RESTRICT ctx, const RB_InformationChanged_r6_rb_Change* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if ((uint64_t)(pvalue->u.re_mapToDefaultRb - 1) > 31u) {
+            rtxErrAddStrParm(ctx, "RB-Identity");
+            rtxErrAddUIntParm(ctx, pvalue->u.re_mapToDefaultRb);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RB-Identity", "re-mapToDefaultRb", -1, 0);
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.re_mapToDefaultRb, 1, 32);
+         RT_CHECK_PUT(ctx, cur, stat, "RB-Identity", "re-mapToDefaultRb", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationChanged_r6_rb_Change(rtxContext* RT_RESTRICT ctx, const RB_InformationChanged_r6_rb_Change* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_InformationChanged_r6_rb_Change, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_InformationChanged_r6(rtxContext* RT_RESTRICT ctx, const RB_InformationChanged_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationChanged-r6");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationChanged-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->rb_Identity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationChanged-r6");
+   /* rb-Change */
+   stat = enc_RB_InformationChanged_r6_rb_Change(ctx, &pvalue->rb_Change, cur);
+   RT_CHECK(ctx, stat, 0, "rb-Change", -1, "RB-InformationChanged-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationChanged_r6(rtxContext* RT_RESTRICT ctx, const RB_InformationChanged_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_InformationChanged_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_InformationChangedList_r6(rtxContext* RT_RESTRICT ctx, const RB_InformationChangedList_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationChangedList-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RB-InformationChangedList-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RB-InformationChanged-r6", (int32_t)i, "RB-InformationChangedList-r6");
+      stat = enc_RB_InformationChanged_r6(ctx, (const RB_InformationChanged_r6*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RB-InformationChanged-r6", (int32_t)i, "RB-InformationChangedList-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationChangedList_r6(rtxContext* RT_RESTRICT ctx, const RB_InformationChangedList_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_InformationChangedList_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_StopContinue(rtxContext* RT_RESTRICT ctx, RB_StopContinue value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "RB-StopContinue");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RB-StopContinue");
+   return 0;
+}
+
+int asn1PE_UMTS_RB_StopContinue(rtxContext* RT_RESTRICT ctx, RB_StopContinue value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_StopContinue, value);
+}
+
+RT_MERGED_BODY int enc_RB_InformationReconfig(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfig* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationReconfig");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL-r6");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_DL_InformationPerRL_r6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-InformationPerRL-r6");
-   /* dl-dpchInfo */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RB-InformationReconfig");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->rb_Identity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig");
+   /* pdcp-Info */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_InformationPerRL_r6_dl_dpchInfo(ctx, &pvalue->dl_dpchInfo);
-      RT_CHECK(ctx, stat, 0, "dl-dpchInfo", -1, "DL-InformationPerRL-r6");
+      stat = enc_PDCP_InfoReconfig(ctx, &pvalue->pdcp_Info, cur);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationReconfig");
    }
-   /* e-AGCH-Information */
+   /* pdcp-SN-Info */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_E_AGCH_Information(ctx, &pvalue->e_AGCH_Information);
-      RT_CHECK(ctx, stat, 0, "e-AGCH-Information", -1, "DL-InformationPerRL-r6");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->pdcp_SN_Info, 0, 65535);
+      RT_CHECK_PUT(ctx, cur, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-InformationReconfig");
    }
-   /* e-HICH-Info */
+   /* rlc-Info */
    if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_DL_InformationPerRL_r6_e_HICH_Info(ctx, &pvalue->e_HICH_Info);
-      RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, "DL-InformationPerRL-r6");
+      stat = enc_RLC_Info(ctx, &pvalue->rlc_Info, cur);
+      RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RB-InformationReconfig");
    }
-   /* e-RGCH-Info */
+   /* rb-MappingInfo */
    if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_DL_InformationPerRL_r6_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, "DL-InformationPerRL-r6");
+      stat = enc_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo, cur);
+      RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationReconfig");
    }
-   /* cell-id */
+   /* rb-StopContinue */
    if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_CellIdentity(ctx, pvalue->cell_id);
-      RT_CHECK(ctx, stat, 0, "cell-id", -1, "DL-InformationPerRL-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_v6b0ext(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_v6b0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerRL-v6b0ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL-v6b0ext");
-   /* sttdIndication */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->sttdIndication > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->sttdIndication);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "STTDIndication", "sttdIndication", -1, "DL-InformationPerRL-v6b0ext");
+      if (pvalue->rb_StopContinue > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->rb_StopContinue);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->sttdIndication, 0, 0);
-      RT_CHECK(ctx, stat, "STTDIndication", "sttdIndication", -1, "DL-InformationPerRL-v6b0ext");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->rb_StopContinue, 0, 1);
+      RT_CHECK_PUT(ctx, cur, stat, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig");
    }
    return 0;
 }
 
-int asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RB_InformationReconfig(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfig* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* primaryCPICH-Info */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   /* servingHSDSCH-RL-indicator */
-   stat = rtxEncBit(ctx, pvalue->servingHSDSCH_RL_indicator);
-   RT_CHECK(ctx, stat, 0, "servingHSDSCH-RL-indicator", -1, 0);
-   /* servingEDCH-RL-indicator */
-   stat = rtxEncBit(ctx, pvalue->servingEDCH_RL_indicator);
-   RT_CHECK(ctx, stat, 0, "servingEDCH-RL-indicator", -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_RB_InformationReconfig, pvalue);
 }
 
-int asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7_modeSpecificInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_RB_InformationReconfig_r4(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfig_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r7_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7_dl_dpchInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.dl_DPCH_InfoPerRL == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-DPCH-InfoPerRL", -1, 0);
-         stat = asn1PE_UMTS_DL_DPCH_InfoPerRL_r7(ctx, pvalue->u.dl_DPCH_InfoPerRL);
-         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.dl_FDPCH_InfoPerRL == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-FDPCH-InfoPerRL", -1, 0);
-         stat = asn1PE_UMTS_DL_FDPCH_InfoPerRL_r7(ctx, pvalue->u.dl_FDPCH_InfoPerRL);
-         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoPerRL", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_Information_r7_modeSpecific_fdd(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r7_modeSpecific_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* e-AGCH-ChannelisationCode */
-   stat = pe_ConsUInt64(ctx, pvalue->e_AGCH_ChannelisationCode, 0, 255);
-   RT_CHECK(ctx, stat, "E-AGCH-ChannelisationCode", "e-AGCH-ChannelisationCode", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleConfigurationBurstType1(rtxContext* RT_RESTRICT ctx, MidambleConfigurationBurstType1 value)
-{
-   int stat = 0;
-   if (value > 2) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MidambleConfigurationBurstType1");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MidambleConfigurationBurstType1");
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* midambleShift */
-   if ((uint64_t)pvalue->midambleShift > 15u) {
-      rtxErrAddStrParm(ctx, "MidambleShiftLong");
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat, "MidambleShiftLong", "midambleShift", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         break;
-      case 3:
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type1(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_EDCH_burstType_type1* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* midambleConfigurationBurstType1 */
-   if (pvalue->midambleConfigurationBurstType1 > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType1);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MidambleConfigurationBurstType1", "midambleConfigurationBurstType1", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfigurationBurstType1, 0, 2);
-   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType1", "midambleConfigurationBurstType1", -1, 0);
-   /* midambleAllocationMode */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* midambleShift */
-   if ((uint64_t)pvalue->midambleShift > 5u) {
-      rtxErrAddStrParm(ctx, "MidambleShiftShort");
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MidambleShiftShort", "midambleShift", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 5);
-   RT_CHECK(ctx, stat, "MidambleShiftShort", "midambleShift", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         break;
-      case 3:
-         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type2(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_EDCH_burstType_type2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* midambleConfigurationBurstType2 */
-   if (pvalue->midambleConfigurationBurstType2 > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType2);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MidambleConfigurationBurstType2", "midambleConfigurationBurstType2", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfigurationBurstType2, 0, 1);
-   RT_CHECK(ctx, stat, "MidambleConfigurationBurstType2", "midambleConfigurationBurstType2", -1, 0);
-   /* midambleAllocationMode */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_EDCH_burstType(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_EDCH_burstType* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.type1 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "type1", -1, 0);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type1(ctx, pvalue->u.type1);
-         RT_CHECK(ctx, stat, 0, "type1", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.type2 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "type2", -1, 0);
-         stat = asn1PE_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type2(ctx, pvalue->u.type2);
-         RT_CHECK(ctx, stat, 0, "type2", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MidambleShiftAndBurstType_EDCH(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_EDCH* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MidambleShiftAndBurstType-EDCH");
-   /* burstType */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_EDCH_burstType(ctx, &pvalue->burstType);
-   RT_CHECK(ctx, stat, 0, "burstType", -1, "MidambleShiftAndBurstType-EDCH");
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_Individual(rtxContext* RT_RESTRICT ctx, const E_AGCH_Individual* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-AGCH-Individual");
-   /* tS-number */
-   if ((uint64_t)pvalue->tS_number > 14u) {
-      rtxErrAddStrParm(ctx, "tS-number");
-      rtxErrAddUIntParm(ctx, pvalue->tS_number);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "tS-number", -1, "E-AGCH-Individual");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tS_number, 0, 14);
-   RT_CHECK(ctx, stat, 0, "tS-number", -1, "E-AGCH-Individual");
-   /* channelisation-code */
-   if (pvalue->channelisation_code > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->channelisation_code);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-TS-ChannelisationCode", "channelisation-code", -1, "E-AGCH-Individual");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->channelisation_code, 0, 15);
-   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode", "channelisation-code", -1, "E-AGCH-Individual");
-   /* midambleShiftAndBurstType */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_EDCH(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "E-AGCH-Individual");
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_Set_Config(rtxContext* RT_RESTRICT ctx, const E_AGCH_Set_Config* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-AGCH-Set-Config");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "E-AGCH-Set-Config");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "E-AGCH-Individual", (int32_t)i, "E-AGCH-Set-Config");
-      stat = asn1PE_UMTS_E_AGCH_Individual(ctx, (const E_AGCH_Individual*)node->data);
-      RT_CHECK(ctx, stat, 0, "E-AGCH-Individual", (int32_t)i, "E-AGCH-Set-Config");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_Information_r7_modeSpecific_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r7_modeSpecific_tdd_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationReconfig-r4");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* long-Term-Grant-Indicator */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RB-InformationReconfig-r4");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->rb_Identity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r4");
+   /* pdcp-Info */
    if (pvalue->m & 0x1u) {
-      stat = rtxEncBit(ctx, pvalue->long_Term_Grant_Indicator);
-      RT_CHECK(ctx, stat, 0, "long-Term-Grant-Indicator", -1, 0);
+      stat = enc_PDCP_InfoReconfig_r4(ctx, &pvalue->pdcp_Info, cur);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationReconfig-r4");
    }
-   /* length-of-TTRI-field */
-   if ((uint64_t)(pvalue->length_of_TTRI_field - 1) > 11u) {
-      rtxErrAddStrParm(ctx, "length-of-TTRI-field");
-      rtxErrAddUIntParm(ctx, pvalue->length_of_TTRI_field);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "length-of-TTRI-field", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->length_of_TTRI_field, 1, 12);
-   RT_CHECK(ctx, stat, 0, "length-of-TTRI-field", -1, 0);
-   /* e-AGCH-Set-Config */
-   stat = asn1PE_UMTS_E_AGCH_Set_Config(ctx, &pvalue->e_AGCH_Set_Config);
-   RT_CHECK(ctx, stat, 0, "e-AGCH-Set-Config", -1, 0);
-   /* e-AGCH-BLER-Target */
-   if (pvalue->e_AGCH_BLER_Target < -63 || pvalue->e_AGCH_BLER_Target > 0) {
-      rtxErrAddStrParm(ctx, "Bler-Target");
-      rtxErrAddIntParm(ctx, pvalue->e_AGCH_BLER_Target);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->e_AGCH_BLER_Target, -63, 0);
-   RT_CHECK(ctx, stat, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_Individual_VHCR(rtxContext* RT_RESTRICT ctx, const E_AGCH_Individual_VHCR* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-AGCH-Individual-VHCR");
-   /* tS-number */
-   if ((uint64_t)pvalue->tS_number > 14u) {
-      rtxErrAddStrParm(ctx, "tS-number");
-      rtxErrAddUIntParm(ctx, pvalue->tS_number);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "tS-number", -1, "E-AGCH-Individual-VHCR");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tS_number, 0, 14);
-   RT_CHECK(ctx, stat, 0, "tS-number", -1, "E-AGCH-Individual-VHCR");
-   /* channelisation-code */
-   if (pvalue->channelisation_code > 31) {
-      rtxErrAddUIntParm(ctx, pvalue->channelisation_code);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-TS-ChannelisationCode-VHCR", "channelisation-code", -1, "E-AGCH-Individual-VHCR");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->channelisation_code, 0, 31);
-   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode-VHCR", "channelisation-code", -1, "E-AGCH-Individual-VHCR");
-   /* midambleShiftAndBurstType */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_EDCH(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "E-AGCH-Individual-VHCR");
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_Set_Config_VHCR(rtxContext* RT_RESTRICT ctx, const E_AGCH_Set_Config_VHCR* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-AGCH-Set-Config-VHCR");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "E-AGCH-Set-Config-VHCR");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "E-AGCH-Individual-VHCR", (int32_t)i, "E-AGCH-Set-Config-VHCR");
-      stat = asn1PE_UMTS_E_AGCH_Individual_VHCR(ctx, (const E_AGCH_Individual_VHCR*)node->data);
-      RT_CHECK(ctx, stat, 0, "E-AGCH-Individual-VHCR", (int32_t)i, "E-AGCH-Set-Config-VHCR");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_Information_r7_modeSpecific_tdd_tdd768(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r7_modeSpecific_tdd_tdd768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* long-Term-Grant-Indicator */
-   if (pvalue->m & 0x1u) {
-      stat = rtxEncBit(ctx, pvalue->long_Term_Grant_Indicator);
-      RT_CHECK(ctx, stat, 0, "long-Term-Grant-Indicator", -1, 0);
-   }
-   /* length-of-TTRI-field */
-   if ((uint64_t)(pvalue->length_of_TTRI_field - 1) > 11u) {
-      rtxErrAddStrParm(ctx, "length-of-TTRI-field");
-      rtxErrAddUIntParm(ctx, pvalue->length_of_TTRI_field);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "length-of-TTRI-field", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->length_of_TTRI_field, 1, 12);
-   RT_CHECK(ctx, stat, 0, "length-of-TTRI-field", -1, 0);
-   /* e-AGCH-Set-Config */
-   stat = asn1PE_UMTS_E_AGCH_Set_Config_VHCR(ctx, &pvalue->e_AGCH_Set_Config);
-   RT_CHECK(ctx, stat, 0, "e-AGCH-Set-Config", -1, 0);
-   /* e-AGCH-BLER-Target */
-   if (pvalue->e_AGCH_BLER_Target < -63 || pvalue->e_AGCH_BLER_Target > 0) {
-      rtxErrAddStrParm(ctx, "Bler-Target");
-      rtxErrAddIntParm(ctx, pvalue->e_AGCH_BLER_Target);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->e_AGCH_BLER_Target, -63, 0);
-   RT_CHECK(ctx, stat, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_Information_r7_modeSpecific_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r7_modeSpecific_tdd_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* rdi-Indicator */
-   stat = rtxEncBit(ctx, pvalue->rdi_Indicator);
-   RT_CHECK(ctx, stat, 0, "rdi-Indicator", -1, 0);
-   /* tpc-StepSize */
-   if ((uint64_t)(pvalue->tpc_StepSize - 1) > 2u) {
-      rtxErrAddStrParm(ctx, "TPC-StepSizeTDD");
-      rtxErrAddUIntParm(ctx, pvalue->tpc_StepSize);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tpc_StepSize, 1, 3);
-   RT_CHECK(ctx, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
-   /* e-AGCH-Set-Config */
-   stat = asn1PE_UMTS_E_AGCH_Set_Config_LCR(ctx, &pvalue->e_AGCH_Set_Config);
-   RT_CHECK(ctx, stat, 0, "e-AGCH-Set-Config", -1, 0);
-   /* e-AGCH-BLER-Target */
-   if (pvalue->e_AGCH_BLER_Target < -63 || pvalue->e_AGCH_BLER_Target > 0) {
-      rtxErrAddStrParm(ctx, "Bler-Target");
-      rtxErrAddIntParm(ctx, pvalue->e_AGCH_BLER_Target);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->e_AGCH_BLER_Target, -63, 0);
-   RT_CHECK(ctx, stat, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_Information_r7_modeSpecific_tdd(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r7_modeSpecific_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
-         stat = asn1PE_UMTS_E_AGCH_Information_r7_modeSpecific_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
-         stat = asn1PE_UMTS_E_AGCH_Information_r7_modeSpecific_tdd_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
-         break;
-      case 3:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_E_AGCH_Information_r7_modeSpecific_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_Information_r7_modeSpecific(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r7_modeSpecific* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_E_AGCH_Information_r7_modeSpecific_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_E_AGCH_Information_r7_modeSpecific_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_Information_r7(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-AGCH-Information-r7");
-   /* modeSpecific */
-   stat = asn1PE_UMTS_E_AGCH_Information_r7_modeSpecific(ctx, &pvalue->modeSpecific);
-   RT_CHECK(ctx, stat, 0, "modeSpecific", -1, "E-AGCH-Information-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_HICH_Info(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_HICH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.e_HICH_Information == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e-HICH-Information", -1, 0);
-         stat = asn1PE_UMTS_E_HICH_Information(ctx, pvalue->u.e_HICH_Information);
-         RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_RGCH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e-RGCH-Information", -1, 0);
-         stat = asn1PE_UMTS_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information);
-         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_fdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7_modeSpecificInfo2_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* e-HICH-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_HICH_Info(ctx, &pvalue->e_HICH_Info);
-      RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, 0);
-   }
-   /* e-RGCH-Info */
+   /* pdcp-SN-Info */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, 0);
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->pdcp_SN_Info, 0, 65535);
+      RT_CHECK_PUT(ctx, cur, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-InformationReconfig-r4");
    }
-   return 0;
-}
-
-int asn1PE_UMTS_E_HICH_Information_TDD384_768_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_TDD384_768_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd384 > 15) {
-            rtxErrAddUIntParm(ctx, pvalue->u.tdd384);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "DL-TS-ChannelisationCode", "tdd384", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.tdd384, 0, 15);
-         RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode", "tdd384", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd768 > 31) {
-            rtxErrAddUIntParm(ctx, pvalue->u.tdd768);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "DL-TS-ChannelisationCode-VHCR", "tdd768", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.tdd768, 0, 31);
-         RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode-VHCR", "tdd768", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_HICH_Information_TDD384_768_burst_Type(rtxContext* RT_RESTRICT ctx, E_HICH_Information_TDD384_768_burst_Type value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_E_HICH_Information_TDD384_768_midamble_Allocation_Mode(rtxContext* RT_RESTRICT ctx, E_HICH_Information_TDD384_768_midamble_Allocation_Mode value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_E_HICH_Information_TDD384_768(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_TDD384_768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-HICH-Information-TDD384-768");
-   /* n-E-HICH */
-   if ((uint64_t)(pvalue->n_E_HICH - 4) > 40u) {
-      rtxErrAddStrParm(ctx, "n-E-HICH");
-      rtxErrAddUIntParm(ctx, pvalue->n_E_HICH);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "n-E-HICH", -1, "E-HICH-Information-TDD384-768");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->n_E_HICH, 4, 44);
-   RT_CHECK(ctx, stat, 0, "n-E-HICH", -1, "E-HICH-Information-TDD384-768");
-   /* tS-Number */
-   if ((uint64_t)pvalue->tS_Number > 14u) {
-      rtxErrAddStrParm(ctx, "tS-Number");
-      rtxErrAddUIntParm(ctx, pvalue->tS_Number);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "tS-Number", -1, "E-HICH-Information-TDD384-768");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tS_Number, 0, 14);
-   RT_CHECK(ctx, stat, 0, "tS-Number", -1, "E-HICH-Information-TDD384-768");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_E_HICH_Information_TDD384_768_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "E-HICH-Information-TDD384-768");
-   /* burst-Type */
-   if (pvalue->burst_Type > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->burst_Type);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "burst-Type", -1, "E-HICH-Information-TDD384-768");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->burst_Type, 0, 1);
-   RT_CHECK(ctx, stat, 0, "burst-Type", -1, "E-HICH-Information-TDD384-768");
-   /* midamble-Allocation-Mode */
-   if (pvalue->midamble_Allocation_Mode > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->midamble_Allocation_Mode);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "midamble-Allocation-Mode", -1, "E-HICH-Information-TDD384-768");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midamble_Allocation_Mode, 0, 1);
-   RT_CHECK(ctx, stat, 0, "midamble-Allocation-Mode", -1, "E-HICH-Information-TDD384-768");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd384_tdd768(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd384_tdd768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* e-HICH-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_E_HICH_Information_TDD384_768(ctx, &pvalue->e_HICH_Info);
-      RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* e-HICH-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_E_HICH_Information_TDD128(ctx, &pvalue->e_HICH_Info);
-      RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_tdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7_modeSpecificInfo2_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd384_tdd768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384-tdd768", -1, 0);
-         stat = asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd384_tdd768(ctx, pvalue->u.tdd384_tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd384-tdd768", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7_modeSpecificInfo2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r7(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerRL-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL-r7");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-InformationPerRL-r7");
-   /* dl-dpchInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_InformationPerRL_r7_dl_dpchInfo(ctx, &pvalue->dl_dpchInfo);
-      RT_CHECK(ctx, stat, 0, "dl-dpchInfo", -1, "DL-InformationPerRL-r7");
-   }
-   /* e-AGCH-Information */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_E_AGCH_Information_r7(ctx, &pvalue->e_AGCH_Information);
-      RT_CHECK(ctx, stat, 0, "e-AGCH-Information", -1, "DL-InformationPerRL-r7");
-   }
-   /* modeSpecificInfo2 */
-   stat = asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2(ctx, &pvalue->modeSpecificInfo2);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo2", -1, "DL-InformationPerRL-r7");
-   /* cell-id */
+   /* rlc-Info */
    if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_CellIdentity(ctx, pvalue->cell_id);
-      RT_CHECK(ctx, stat, 0, "cell-id", -1, "DL-InformationPerRL-r7");
+      stat = enc_RLC_Info(ctx, &pvalue->rlc_Info, cur);
+      RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RB-InformationReconfig-r4");
    }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* primaryCPICH-Info */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   /* servingHSDSCH-RL-indicator */
-   stat = rtxEncBit(ctx, pvalue->servingHSDSCH_RL_indicator);
-   RT_CHECK(ctx, stat, 0, "servingHSDSCH-RL-indicator", -1, 0);
-   /* servingEDCH-RL-indicator */
-   stat = rtxEncBit(ctx, pvalue->servingEDCH_RL_indicator);
-   RT_CHECK(ctx, stat, 0, "servingEDCH-RL-indicator", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r8_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8_dl_dpchInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.dl_DPCH_InfoPerRL == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-DPCH-InfoPerRL", -1, 0);
-         stat = asn1PE_UMTS_DL_DPCH_InfoPerRL_r7(ctx, pvalue->u.dl_DPCH_InfoPerRL);
-         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.dl_FDPCH_InfoPerRL == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-FDPCH-InfoPerRL", -1, 0);
-         stat = asn1PE_UMTS_DL_FDPCH_InfoPerRL_r7(ctx, pvalue->u.dl_FDPCH_InfoPerRL);
-         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoPerRL", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_Information_r8_modeSpecific_fdd(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r8_modeSpecific_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* e-AGCH-ChannelisationCode */
-   stat = pe_ConsUInt64(ctx, pvalue->e_AGCH_ChannelisationCode, 0, 255);
-   RT_CHECK(ctx, stat, "E-AGCH-ChannelisationCode", "e-AGCH-ChannelisationCode", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_Information_r8_modeSpecific_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r8_modeSpecific_tdd_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* long-Term-Grant-Indicator */
-   if (pvalue->m & 0x1u) {
-      stat = rtxEncBit(ctx, pvalue->long_Term_Grant_Indicator);
-      RT_CHECK(ctx, stat, 0, "long-Term-Grant-Indicator", -1, 0);
-   }
-   /* length-of-TTRI-field */
-   if ((uint64_t)(pvalue->length_of_TTRI_field - 1) > 11u) {
-      rtxErrAddStrParm(ctx, "length-of-TTRI-field");
-      rtxErrAddUIntParm(ctx, pvalue->length_of_TTRI_field);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "length-of-TTRI-field", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->length_of_TTRI_field, 1, 12);
-   RT_CHECK(ctx, stat, 0, "length-of-TTRI-field", -1, 0);
-   /* e-AGCH-Set-Config */
-   stat = asn1PE_UMTS_E_AGCH_Set_Config(ctx, &pvalue->e_AGCH_Set_Config);
-   RT_CHECK(ctx, stat, 0, "e-AGCH-Set-Config", -1, 0);
-   /* e-AGCH-BLER-Target */
-   if (pvalue->e_AGCH_BLER_Target < -63 || pvalue->e_AGCH_BLER_Target > 0) {
-      rtxErrAddStrParm(ctx, "Bler-Target");
-      rtxErrAddIntParm(ctx, pvalue->e_AGCH_BLER_Target);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->e_AGCH_BLER_Target, -63, 0);
-   RT_CHECK(ctx, stat, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_Information_r8_modeSpecific_tdd_tdd768(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r8_modeSpecific_tdd_tdd768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* long-Term-Grant-Indicator */
-   if (pvalue->m & 0x1u) {
-      stat = rtxEncBit(ctx, pvalue->long_Term_Grant_Indicator);
-      RT_CHECK(ctx, stat, 0, "long-Term-Grant-Indicator", -1, 0);
-   }
-   /* length-of-TTRI-field */
-   if ((uint64_t)(pvalue->length_of_TTRI_field - 1) > 11u) {
-      rtxErrAddStrParm(ctx, "length-of-TTRI-field");
-      rtxErrAddUIntParm(ctx, pvalue->length_of_TTRI_field);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "length-of-TTRI-field", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->length_of_TTRI_field, 1, 12);
-   RT_CHECK(ctx, stat, 0, "length-of-TTRI-field", -1, 0);
-   /* e-AGCH-Set-Config */
-   stat = asn1PE_UMTS_E_AGCH_Set_Config_VHCR(ctx, &pvalue->e_AGCH_Set_Config);
-   RT_CHECK(ctx, stat, 0, "e-AGCH-Set-Config", -1, 0);
-   /* e-AGCH-BLER-Target */
-   if (pvalue->e_AGCH_BLER_Target < -63 || pvalue->e_AGCH_BLER_Target > 0) {
-      rtxErrAddStrParm(ctx, "Bler-Target");
-      rtxErrAddIntParm(ctx, pvalue->e_AGCH_BLER_Target);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->e_AGCH_BLER_Target, -63, 0);
-   RT_CHECK(ctx, stat, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_Information_r8_modeSpecific_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r8_modeSpecific_tdd_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* rdi-Indicator */
-   stat = rtxEncBit(ctx, pvalue->rdi_Indicator);
-   RT_CHECK(ctx, stat, 0, "rdi-Indicator", -1, 0);
-   /* tpc-StepSize */
-   if ((uint64_t)(pvalue->tpc_StepSize - 1) > 2u) {
-      rtxErrAddStrParm(ctx, "TPC-StepSizeTDD");
-      rtxErrAddUIntParm(ctx, pvalue->tpc_StepSize);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tpc_StepSize, 1, 3);
-   RT_CHECK(ctx, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
-   /* e-AGCH-Set-Config */
-   stat = asn1PE_UMTS_E_AGCH_Set_Config_LCR(ctx, &pvalue->e_AGCH_Set_Config);
-   RT_CHECK(ctx, stat, 0, "e-AGCH-Set-Config", -1, 0);
-   /* e-AGCH-BLER-Target */
-   if (pvalue->e_AGCH_BLER_Target < -63 || pvalue->e_AGCH_BLER_Target > 0) {
-      rtxErrAddStrParm(ctx, "Bler-Target");
-      rtxErrAddIntParm(ctx, pvalue->e_AGCH_BLER_Target);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->e_AGCH_BLER_Target, -63, 0);
-   RT_CHECK(ctx, stat, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
-   /* e-AGCH-InactivityMonitorThreshold */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->e_AGCH_InactivityMonitorThreshold > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->e_AGCH_InactivityMonitorThreshold);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "E-AGCH-InactivityMonitorThreshold-TDD128", "e-AGCH-InactivityMonitorThreshold", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->e_AGCH_InactivityMonitorThreshold, 0, 15);
-      RT_CHECK(ctx, stat, "E-AGCH-InactivityMonitorThreshold-TDD128", "e-AGCH-InactivityMonitorThreshold", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_Information_r8_modeSpecific_tdd(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r8_modeSpecific_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
-         stat = asn1PE_UMTS_E_AGCH_Information_r8_modeSpecific_tdd_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
-         stat = asn1PE_UMTS_E_AGCH_Information_r8_modeSpecific_tdd_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
-         break;
-      case 3:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_E_AGCH_Information_r8_modeSpecific_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_Information_r8_modeSpecific(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r8_modeSpecific* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_E_AGCH_Information_r8_modeSpecific_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_E_AGCH_Information_r8_modeSpecific_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_AGCH_Information_r8(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-AGCH-Information-r8");
-   /* modeSpecific */
-   stat = asn1PE_UMTS_E_AGCH_Information_r8_modeSpecific(ctx, &pvalue->modeSpecific);
-   RT_CHECK(ctx, stat, 0, "modeSpecific", -1, "E-AGCH-Information-r8");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_HICH_Info(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_HICH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.e_HICH_Information == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e-HICH-Information", -1, 0);
-         stat = asn1PE_UMTS_E_HICH_Information(ctx, pvalue->u.e_HICH_Information);
-         RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_RGCH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e-RGCH-Information", -1, 0);
-         stat = asn1PE_UMTS_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information);
-         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_fdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8_modeSpecificInfo2_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* e-HICH-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_HICH_Info(ctx, &pvalue->e_HICH_Info);
-      RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, 0);
-   }
-   /* e-RGCH-Info */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd384_tdd768(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd384_tdd768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* e-HICH-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_E_HICH_Information_TDD384_768(ctx, &pvalue->e_HICH_Info);
-      RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* e-HICH-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_E_HICH_Information_TDD128(ctx, &pvalue->e_HICH_Info);
-      RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_tdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8_modeSpecificInfo2_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd384_tdd768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384-tdd768", -1, 0);
-         stat = asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd384_tdd768(ctx, pvalue->u.tdd384_tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd384-tdd768", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8_modeSpecificInfo2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_r8(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerRL-r8");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-InformationPerRL-r8");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-InformationPerRL-r8");
-   /* dl-dpchInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_InformationPerRL_r8_dl_dpchInfo(ctx, &pvalue->dl_dpchInfo);
-      RT_CHECK(ctx, stat, 0, "dl-dpchInfo", -1, "DL-InformationPerRL-r8");
-   }
-   /* e-AGCH-Information */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_E_AGCH_Information_r8(ctx, &pvalue->e_AGCH_Information);
-      RT_CHECK(ctx, stat, 0, "e-AGCH-Information", -1, "DL-InformationPerRL-r8");
-   }
-   /* modeSpecificInfo2 */
-   stat = asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2(ctx, &pvalue->modeSpecificInfo2);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo2", -1, "DL-InformationPerRL-r8");
-   /* cell-id */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_CellIdentity(ctx, pvalue->cell_id);
-      RT_CHECK(ctx, stat, 0, "cell-id", -1, "DL-InformationPerRL-r8");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_List(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_List* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerRL-List");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-InformationPerRL-List");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-InformationPerRL", (int32_t)i, "DL-InformationPerRL-List");
-      stat = asn1PE_UMTS_DL_InformationPerRL(ctx, (const DL_InformationPerRL*)node->data);
-      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL", (int32_t)i, "DL-InformationPerRL-List");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_List_r4(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_List_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerRL-List-r4");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-InformationPerRL-List-r4");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-InformationPerRL-r4", (int32_t)i, "DL-InformationPerRL-List-r4");
-      stat = asn1PE_UMTS_DL_InformationPerRL_r4(ctx, (const DL_InformationPerRL_r4*)node->data);
-      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL-r4", (int32_t)i, "DL-InformationPerRL-List-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_List_r5(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_List_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerRL-List-r5");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-InformationPerRL-List-r5");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-InformationPerRL-r5", (int32_t)i, "DL-InformationPerRL-List-r5");
-      stat = asn1PE_UMTS_DL_InformationPerRL_r5(ctx, (const DL_InformationPerRL_r5*)node->data);
-      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL-r5", (int32_t)i, "DL-InformationPerRL-List-r5");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_List_r6(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_List_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerRL-List-r6");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-InformationPerRL-List-r6");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-InformationPerRL-r6", (int32_t)i, "DL-InformationPerRL-List-r6");
-      stat = asn1PE_UMTS_DL_InformationPerRL_r6(ctx, (const DL_InformationPerRL_r6*)node->data);
-      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL-r6", (int32_t)i, "DL-InformationPerRL-List-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_List_v6b0ext(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_List_v6b0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerRL-List-v6b0ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-InformationPerRL-List-v6b0ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-InformationPerRL-v6b0ext", (int32_t)i, "DL-InformationPerRL-List-v6b0ext");
-      stat = asn1PE_UMTS_DL_InformationPerRL_v6b0ext(ctx, (const DL_InformationPerRL_v6b0ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL-v6b0ext", (int32_t)i, "DL-InformationPerRL-List-v6b0ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_List_r5bis(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_List_r5bis* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerRL-List-r5bis");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-InformationPerRL-List-r5bis");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-InformationPerRL-r5bis", (int32_t)i, "DL-InformationPerRL-List-r5bis");
-      stat = asn1PE_UMTS_DL_InformationPerRL_r5bis(ctx, (const DL_InformationPerRL_r5bis*)node->data);
-      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL-r5bis", (int32_t)i, "DL-InformationPerRL-List-r5bis");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_List_r7(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_List_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerRL-List-r7");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-InformationPerRL-List-r7");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-InformationPerRL-r7", (int32_t)i, "DL-InformationPerRL-List-r7");
-      stat = asn1PE_UMTS_DL_InformationPerRL_r7(ctx, (const DL_InformationPerRL_r7*)node->data);
-      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL-r7", (int32_t)i, "DL-InformationPerRL-List-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_List_r8(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_List_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerRL-List-r8");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-InformationPerRL-List-r8");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-InformationPerRL-r8", (int32_t)i, "DL-InformationPerRL-List-r8");
-      stat = asn1PE_UMTS_DL_InformationPerRL_r8(ctx, (const DL_InformationPerRL_r8*)node->data);
-      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL-r8", (int32_t)i, "DL-InformationPerRL-List-r8");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_PostFDD(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_PostFDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerRL-PostFDD");
-   /* primaryCPICH-Info */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "DL-InformationPerRL-PostFDD");
-   /* dl-DPCH-InfoPerRL */
-   stat = asn1PE_UMTS_DL_DPCH_InfoPerRL_PostFDD(ctx, &pvalue->dl_DPCH_InfoPerRL);
-   RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, "DL-InformationPerRL-PostFDD");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_ListPostFDD(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_ListPostFDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerRL-ListPostFDD");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-InformationPerRL-ListPostFDD");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-InformationPerRL-PostFDD", (int32_t)i, "DL-InformationPerRL-ListPostFDD");
-      stat = asn1PE_UMTS_DL_InformationPerRL_PostFDD(ctx, (const DL_InformationPerRL_PostFDD*)node->data);
-      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL-PostFDD", (int32_t)i, "DL-InformationPerRL-ListPostFDD");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_InfoPost_syncCase_syncCase1(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_InfoPost_syncCase_syncCase1* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* timeslot */
-   if ((uint64_t)pvalue->timeslot > 14u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber");
-      rtxErrAddUIntParm(ctx, pvalue->timeslot);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslot", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_InfoPost_syncCase_syncCase2(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_InfoPost_syncCase_syncCase2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* timeslotSync2 */
-   if ((uint64_t)pvalue->timeslotSync2 > 6u) {
-      rtxErrAddStrParm(ctx, "TimeslotSync2");
-      rtxErrAddUIntParm(ctx, pvalue->timeslotSync2);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotSync2", "timeslotSync2", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotSync2, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotSync2", "timeslotSync2", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_InfoPost_syncCase(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_InfoPost_syncCase* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.syncCase1 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "syncCase1", -1, 0);
-         stat = asn1PE_UMTS_PrimaryCCPCH_InfoPost_syncCase_syncCase1(ctx, pvalue->u.syncCase1);
-         RT_CHECK(ctx, stat, 0, "syncCase1", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.syncCase2 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "syncCase2", -1, 0);
-         stat = asn1PE_UMTS_PrimaryCCPCH_InfoPost_syncCase_syncCase2(ctx, pvalue->u.syncCase2);
-         RT_CHECK(ctx, stat, 0, "syncCase2", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_InfoPost(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_InfoPost* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PrimaryCCPCH-InfoPost");
-   /* syncCase */
-   stat = asn1PE_UMTS_PrimaryCCPCH_InfoPost_syncCase(ctx, &pvalue->syncCase);
-   RT_CHECK(ctx, stat, 0, "syncCase", -1, "PrimaryCCPCH-InfoPost");
-   /* cellParametersID */
-   if ((uint64_t)pvalue->cellParametersID > 127u) {
-      rtxErrAddStrParm(ctx, "CellParametersID");
-      rtxErrAddUIntParm(ctx, pvalue->cellParametersID);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "CellParametersID", "cellParametersID", -1, "PrimaryCCPCH-InfoPost");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cellParametersID, 0, 127);
-   RT_CHECK(ctx, stat, "CellParametersID", "cellParametersID", -1, "PrimaryCCPCH-InfoPost");
-   /* sctd-Indicator */
-   stat = rtxEncBit(ctx, pvalue->sctd_Indicator);
-   RT_CHECK(ctx, stat, 0, "sctd-Indicator", -1, "PrimaryCCPCH-InfoPost");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_PostTDD(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_PostTDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerRL-PostTDD");
-   /* primaryCCPCH-Info */
-   stat = asn1PE_UMTS_PrimaryCCPCH_InfoPost(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "DL-InformationPerRL-PostTDD");
-   /* dl-DPCH-InfoPerRL */
-   stat = asn1PE_UMTS_DL_DPCH_InfoPerRL_PostTDD(ctx, &pvalue->dl_DPCH_InfoPerRL);
-   RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, "DL-InformationPerRL-PostTDD");
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_InfoPostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_InfoPostTDD_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PrimaryCCPCH-InfoPostTDD-LCR-r4");
-   /* tstd-Indicator */
-   stat = rtxEncBit(ctx, pvalue->tstd_Indicator);
-   RT_CHECK(ctx, stat, 0, "tstd-Indicator", -1, "PrimaryCCPCH-InfoPostTDD-LCR-r4");
-   /* cellParametersID */
-   if ((uint64_t)pvalue->cellParametersID > 127u) {
-      rtxErrAddStrParm(ctx, "CellParametersID");
-      rtxErrAddUIntParm(ctx, pvalue->cellParametersID);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "CellParametersID", "cellParametersID", -1, "PrimaryCCPCH-InfoPostTDD-LCR-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cellParametersID, 0, 127);
-   RT_CHECK(ctx, stat, "CellParametersID", "cellParametersID", -1, "PrimaryCCPCH-InfoPostTDD-LCR-r4");
-   /* sctd-Indicator */
-   stat = rtxEncBit(ctx, pvalue->sctd_Indicator);
-   RT_CHECK(ctx, stat, 0, "sctd-Indicator", -1, "PrimaryCCPCH-InfoPostTDD-LCR-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_InformationPerRL_PostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_PostTDD_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerRL-PostTDD-LCR-r4");
-   /* primaryCCPCH-Info */
-   stat = asn1PE_UMTS_PrimaryCCPCH_InfoPostTDD_LCR_r4(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "DL-InformationPerRL-PostTDD-LCR-r4");
-   /* dl-DPCH-InfoPerRL */
-   stat = asn1PE_UMTS_DL_DPCH_InfoPerRL_PostTDD_LCR_r4(ctx, &pvalue->dl_DPCH_InfoPerRL);
-   RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, "DL-InformationPerRL-PostTDD-LCR-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_DL_PDSCH_Information(rtxContext* RT_RESTRICT ctx, const DL_PDSCH_Information* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-PDSCH-Information");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-PDSCH-Information");
-   /* dummy1 */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PDSCH_SHO_DCH_Info(ctx, &pvalue->dummy1);
-      RT_CHECK(ctx, stat, 0, "dummy1", -1, "DL-PDSCH-Information");
-   }
-   /* dummy2 */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_PDSCH_CodeMapping(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat, 0, "dummy2", -1, "DL-PDSCH-Information");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_SecondaryCellInfoFDD_newConfiguration_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_newConfiguration_dl_64QAM_Configured value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_SecondaryCellInfoFDD_newConfiguration_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, const DL_SecondaryCellInfoFDD_newConfiguration_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)pvalue->elem[i] > 127u) {
-         rtxErrAddStrParm(ctx, "HS-SCCH-Codes");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 127);
-      RT_CHECK(ctx, stat, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_SecondaryCellInfoFDD_newConfiguration(rtxContext* RT_RESTRICT ctx, const DL_SecondaryCellInfoFDD_newConfiguration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* new-H-RNTI */
-   stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
-   RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, 0);
-   /* dl-64QAM-Configured */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->dl_64QAM_Configured > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->dl_64QAM_Configured);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "dl-64QAM-Configured", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dl_64QAM_Configured, 0, 0);
-      RT_CHECK(ctx, stat, 0, "dl-64QAM-Configured", -1, 0);
-   }
-   /* hs-DSCH-TBSizeTable */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->hs_DSCH_TBSizeTable > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->hs_DSCH_TBSizeTable);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hs_DSCH_TBSizeTable, 0, 0);
-      RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, 0);
-   }
-   /* primaryCPICH-Info */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   /* dl-ScramblingCode */
-   if (pvalue->m & 0x4u) {
-      if ((uint64_t)(pvalue->dl_ScramblingCode - 1) > 14u) {
-         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
-         rtxErrAddUIntParm(ctx, pvalue->dl_ScramblingCode);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dl_ScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
-   }
-   /* hS-SCCHChannelisationCodeInfo */
-   stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD_newConfiguration_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo);
-   RT_CHECK(ctx, stat, 0, "hS-SCCHChannelisationCodeInfo", -1, 0);
-   /* measurementPowerOffset */
-   if (pvalue->measurementPowerOffset < -12 || pvalue->measurementPowerOffset > 26) {
-      rtxErrAddStrParm(ctx, "MeasurementPowerOffset");
-      rtxErrAddIntParm(ctx, pvalue->measurementPowerOffset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementPowerOffset", "measurementPowerOffset", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->measurementPowerOffset, -12, 26);
-   RT_CHECK(ctx, stat, "MeasurementPowerOffset", "measurementPowerOffset", -1, 0);
-   /* uarfcn-DL */
-   if ((uint64_t)pvalue->uarfcn_DL > 16383u) {
-      rtxErrAddStrParm(ctx, "UARFCN");
-      rtxErrAddUIntParm(ctx, pvalue->uarfcn_DL);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "UARFCN", "uarfcn-DL", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->uarfcn_DL, 0, 16383);
-   RT_CHECK(ctx, stat, "UARFCN", "uarfcn-DL", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_SecondaryCellInfoFDD(rtxContext* RT_RESTRICT ctx, const DL_SecondaryCellInfoFDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-SecondaryCellInfoFDD");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "DL-SecondaryCellInfoFDD");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "DL-SecondaryCellInfoFDD");
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.newConfiguration == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "newConfiguration", -1, "DL-SecondaryCellInfoFDD");
-         stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD_newConfiguration(ctx, pvalue->u.newConfiguration);
-         RT_CHECK(ctx, stat, 0, "newConfiguration", -1, "DL-SecondaryCellInfoFDD");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_SecondaryCellInfoFDD_v890ext_differentTxModeFromServingHS_DSCHCell(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_v890ext_differentTxModeFromServingHS_DSCHCell value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_SecondaryCellInfoFDD_v890ext(rtxContext* RT_RESTRICT ctx, const DL_SecondaryCellInfoFDD_v890ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-SecondaryCellInfoFDD-v890ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-SecondaryCellInfoFDD-v890ext");
-   /* differentTxModeFromServingHS-DSCHCell */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->differentTxModeFromServingHS_DSCHCell > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->differentTxModeFromServingHS_DSCHCell);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "differentTxModeFromServingHS-DSCHCell", -1, "DL-SecondaryCellInfoFDD-v890ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->differentTxModeFromServingHS_DSCHCell, 0, 0);
-      RT_CHECK(ctx, stat, 0, "differentTxModeFromServingHS-DSCHCell", -1, "DL-SecondaryCellInfoFDD-v890ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_dl_64QAM_Configured value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, const DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)pvalue->elem[i] > 127u) {
-         rtxErrAddStrParm(ctx, "HS-SCCH-Codes");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 127);
-      RT_CHECK(ctx, stat, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_differentTxModeFromServingHS_DSCHCell(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_differentTxModeFromServingHS_DSCHCell value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration(rtxContext* RT_RESTRICT ctx, const DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* new-H-RNTI */
-   stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
-   RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, 0);
-   /* dl-64QAM-Configured */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->dl_64QAM_Configured > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->dl_64QAM_Configured);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "dl-64QAM-Configured", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dl_64QAM_Configured, 0, 0);
-      RT_CHECK(ctx, stat, 0, "dl-64QAM-Configured", -1, 0);
-   }
-   /* hs-DSCH-TBSizeTable */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->hs_DSCH_TBSizeTable > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->hs_DSCH_TBSizeTable);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hs_DSCH_TBSizeTable, 0, 0);
-      RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, 0);
-   }
-   /* primaryCPICH-Info */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   /* dl-ScramblingCode */
-   if (pvalue->m & 0x4u) {
-      if ((uint64_t)(pvalue->dl_ScramblingCode - 1) > 14u) {
-         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
-         rtxErrAddUIntParm(ctx, pvalue->dl_ScramblingCode);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dl_ScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
-   }
-   /* hS-SCCHChannelisationCodeInfo */
-   stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo);
-   RT_CHECK(ctx, stat, 0, "hS-SCCHChannelisationCodeInfo", -1, 0);
-   /* measurementPowerOffset */
-   if (pvalue->measurementPowerOffset < -12 || pvalue->measurementPowerOffset > 26) {
-      rtxErrAddStrParm(ctx, "MeasurementPowerOffset");
-      rtxErrAddIntParm(ctx, pvalue->measurementPowerOffset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementPowerOffset", "measurementPowerOffset", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->measurementPowerOffset, -12, 26);
-   RT_CHECK(ctx, stat, "MeasurementPowerOffset", "measurementPowerOffset", -1, 0);
-   /* uarfcn-DL */
-   if ((uint64_t)pvalue->uarfcn_DL > 16383u) {
-      rtxErrAddStrParm(ctx, "UARFCN");
-      rtxErrAddUIntParm(ctx, pvalue->uarfcn_DL);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "UARFCN", "uarfcn-DL", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->uarfcn_DL, 0, 16383);
-   RT_CHECK(ctx, stat, "UARFCN", "uarfcn-DL", -1, 0);
-   /* differentTxModeFromServingHS-DSCHCell */
+   /* rb-MappingInfo */
    if (pvalue->m & 0x8u) {
-      if (pvalue->differentTxModeFromServingHS_DSCHCell > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->differentTxModeFromServingHS_DSCHCell);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "differentTxModeFromServingHS-DSCHCell", -1, 0);
+      stat = enc_RB_MappingInfo(ctx, &pvalue->rb_MappingInfo, cur);
+      RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationReconfig-r4");
+   }
+   /* rb-StopContinue */
+   if (pvalue->m & 0x10u) {
+      if (pvalue->rb_StopContinue > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->rb_StopContinue);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r4");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->differentTxModeFromServingHS_DSCHCell, 0, 0);
-      RT_CHECK(ctx, stat, 0, "differentTxModeFromServingHS-DSCHCell", -1, 0);
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->rb_StopContinue, 0, 1);
+      RT_CHECK_PUT(ctx, cur, stat, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r4");
    }
    return 0;
 }
 
-int asn1PE_UMTS_DL_SecondaryCellInfoFDD_r9_configurationInfo(rtxContext* RT_RESTRICT ctx, const DL_SecondaryCellInfoFDD_r9_configurationInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RB_InformationReconfig_r4(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfig_r4* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.newConfiguration == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "newConfiguration", -1, 0);
-         stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration(ctx, pvalue->u.newConfiguration);
-         RT_CHECK(ctx, stat, 0, "newConfiguration", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_RB_InformationReconfig_r4, pvalue);
 }
 
-int asn1PE_UMTS_MIMO_N_M_Ratio(rtxContext* RT_RESTRICT ctx, MIMO_N_M_Ratio value)
+RT_MERGED_BODY int enc_RB_InformationReconfig_r5(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfig_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (value > 9) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MIMO-N-M-Ratio");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 9);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MIMO-N-M-Ratio");
-   return 0;
-}
-
-int asn1PE_UMTS_S_CPICH_PowerOffset_MIMO(rtxContext* RT_RESTRICT ctx, S_CPICH_PowerOffset_MIMO value)
-{
-   int stat = 0;
-   if (value < -6 || value > 0) {
-      rtxErrAddStrParm(ctx, "S-CPICH-PowerOffset-MIMO");
-      rtxErrAddIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "S-CPICH-PowerOffset-MIMO");
-   }
-   stat = pe_ConsInt64(ctx, value, -6, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, "S-CPICH-PowerOffset-MIMO");
-   return 0;
-}
-
-int asn1PE_UMTS_MIMO_PilotConfiguration_r9_secondCPICH_Pattern_diversityPattern(rtxContext* RT_RESTRICT ctx, const MIMO_PilotConfiguration_r9_secondCPICH_Pattern_diversityPattern* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationReconfig-r5");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* channelisationCode */
-   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode, 0, 255);
-   RT_CHECK(ctx, stat, "ChannelisationCode256", "channelisationCode", -1, 0);
-   /* s-cpich-PowerOffset-Mimo */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RB-InformationReconfig-r5");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r5");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->rb_Identity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r5");
+   /* pdcp-Info */
    if (pvalue->m & 0x1u) {
-      if (pvalue->s_cpich_PowerOffset_Mimo < -6 || pvalue->s_cpich_PowerOffset_Mimo > 0) {
-         rtxErrAddStrParm(ctx, "S-CPICH-PowerOffset-MIMO");
-         rtxErrAddIntParm(ctx, pvalue->s_cpich_PowerOffset_Mimo);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "S-CPICH-PowerOffset-MIMO", "s-cpich-PowerOffset-Mimo", -1, 0);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->s_cpich_PowerOffset_Mimo, -6, 0);
-      RT_CHECK(ctx, stat, "S-CPICH-PowerOffset-MIMO", "s-cpich-PowerOffset-Mimo", -1, 0);
+      stat = enc_PDCP_InfoReconfig_r4(ctx, &pvalue->pdcp_Info, cur);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationReconfig-r5");
    }
-   return 0;
-}
-
-int asn1PE_UMTS_MIMO_PilotConfiguration_r9_secondCPICH_Pattern(rtxContext* RT_RESTRICT ctx, const MIMO_PilotConfiguration_r9_secondCPICH_Pattern* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.diversityPattern == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "diversityPattern", -1, 0);
-         stat = asn1PE_UMTS_MIMO_PilotConfiguration_r9_secondCPICH_Pattern_diversityPattern(ctx, pvalue->u.diversityPattern);
-         RT_CHECK(ctx, stat, 0, "diversityPattern", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MIMO_PilotConfiguration_r9(rtxContext* RT_RESTRICT ctx, const MIMO_PilotConfiguration_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MIMO-PilotConfiguration-r9");
-   /* secondCPICH-Pattern */
-   stat = asn1PE_UMTS_MIMO_PilotConfiguration_r9_secondCPICH_Pattern(ctx, &pvalue->secondCPICH_Pattern);
-   RT_CHECK(ctx, stat, 0, "secondCPICH-Pattern", -1, "MIMO-PilotConfiguration-r9");
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCellMIMOparametersFDD_newConfiguration(rtxContext* RT_RESTRICT ctx, const SecondaryCellMIMOparametersFDD_newConfiguration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* mimoN-M-Ratio */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->mimoN_M_Ratio > 9) {
-         rtxErrAddUIntParm(ctx, pvalue->mimoN_M_Ratio);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "MIMO-N-M-Ratio", "mimoN-M-Ratio", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mimoN_M_Ratio, 0, 9);
-      RT_CHECK(ctx, stat, "MIMO-N-M-Ratio", "mimoN-M-Ratio", -1, 0);
-   }
-   /* mimoPilotConfiguration */
+   /* pdcp-SN-Info */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_MIMO_PilotConfiguration_r9(ctx, &pvalue->mimoPilotConfiguration);
-      RT_CHECK(ctx, stat, 0, "mimoPilotConfiguration", -1, 0);
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->pdcp_SN_Info, 0, 65535);
+      RT_CHECK_PUT(ctx, cur, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-InformationReconfig-r5");
    }
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCellMIMOparametersFDD(rtxContext* RT_RESTRICT ctx, const SecondaryCellMIMOparametersFDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SecondaryCellMIMOparametersFDD");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "SecondaryCellMIMOparametersFDD");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "SecondaryCellMIMOparametersFDD");
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.newConfiguration == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "newConfiguration", -1, "SecondaryCellMIMOparametersFDD");
-         stat = asn1PE_UMTS_SecondaryCellMIMOparametersFDD_newConfiguration(ctx, pvalue->u.newConfiguration);
-         RT_CHECK(ctx, stat, 0, "newConfiguration", -1, "SecondaryCellMIMOparametersFDD");
-         break;
-      default:
-         break;
+   /* rlc-Info */
+   if (pvalue->m & 0x4u) {
+      stat = enc_RLC_Info_r5(ctx, &pvalue->rlc_Info, cur);
+      RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RB-InformationReconfig-r5");
    }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_SecondaryCellInfoFDD_r9(rtxContext* RT_RESTRICT ctx, const DL_SecondaryCellInfoFDD_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-SecondaryCellInfoFDD-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-SecondaryCellInfoFDD-r9");
-   /* configurationInfo */
-   stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD_r9_configurationInfo(ctx, &pvalue->configurationInfo);
-   RT_CHECK(ctx, stat, 0, "configurationInfo", -1, "DL-SecondaryCellInfoFDD-r9");
-   /* secondaryCellMIMOparameters */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SecondaryCellMIMOparametersFDD(ctx, &pvalue->secondaryCellMIMOparameters);
-      RT_CHECK(ctx, stat, 0, "secondaryCellMIMOparameters", -1, "DL-SecondaryCellInfoFDD-r9");
+   /* rb-MappingInfo */
+   if (pvalue->m & 0x8u) {
+      stat = enc_RB_MappingInfo_r5(ctx, &pvalue->rb_MappingInfo, cur);
+      RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationReconfig-r5");
    }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_TPC_PowerOffsetPerRL(rtxContext* RT_RESTRICT ctx, const DL_TPC_PowerOffsetPerRL* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-TPC-PowerOffsetPerRL");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-TPC-PowerOffsetPerRL");
-   /* powerOffsetTPC-pdpdch */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->powerOffsetTPC_pdpdch > 24u) {
-         rtxErrAddStrParm(ctx, "PowerOffsetTPC-pdpdch");
-         rtxErrAddUIntParm(ctx, pvalue->powerOffsetTPC_pdpdch);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "PowerOffsetTPC-pdpdch", "powerOffsetTPC-pdpdch", -1, "DL-TPC-PowerOffsetPerRL");
+   /* rb-StopContinue */
+   if (pvalue->m & 0x10u) {
+      if (pvalue->rb_StopContinue > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->rb_StopContinue);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r5");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->powerOffsetTPC_pdpdch, 0, 24);
-      RT_CHECK(ctx, stat, "PowerOffsetTPC-pdpdch", "powerOffsetTPC-pdpdch", -1, "DL-TPC-PowerOffsetPerRL");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->rb_StopContinue, 0, 1);
+      RT_CHECK_PUT(ctx, cur, stat, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r5");
    }
    return 0;
 }
 
-int asn1PE_UMTS_DL_TPC_PowerOffsetPerRL_List(rtxContext* RT_RESTRICT ctx, const DL_TPC_PowerOffsetPerRL_List* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RB_InformationReconfig_r5(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfig_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_InformationReconfig_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_InformationReconfig_r6(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfig_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-TPC-PowerOffsetPerRL-List");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationReconfig-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RB-InformationReconfig-r6");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->rb_Identity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r6");
+   /* pdcp-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PDCP_InfoReconfig_r4(ctx, &pvalue->pdcp_Info, cur);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationReconfig-r6");
+   }
+   /* pdcp-SN-Info */
+   if (pvalue->m & 0x2u) {
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->pdcp_SN_Info, 0, 65535);
+      RT_CHECK_PUT(ctx, cur, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-InformationReconfig-r6");
+   }
+   /* rlc-Info */
+   if (pvalue->m & 0x4u) {
+      stat = enc_RLC_Info_r6(ctx, &pvalue->rlc_Info, cur);
+      RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RB-InformationReconfig-r6");
+   }
+   /* rb-MappingInfo */
+   if (pvalue->m & 0x8u) {
+      stat = enc_RB_MappingInfo_r6(ctx, &pvalue->rb_MappingInfo, cur);
+      RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationReconfig-r6");
+   }
+   /* rb-StopContinue */
+   if (pvalue->m & 0x10u) {
+      if (pvalue->rb_StopContinue > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->rb_StopContinue);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r6");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->rb_StopContinue, 0, 1);
+      RT_CHECK_PUT(ctx, cur, stat, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationReconfig_r6(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfig_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_InformationReconfig_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_InformationReconfig_r7(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfig_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationReconfig-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RB-InformationReconfig-r7");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r7");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->rb_Identity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r7");
+   /* pdcp-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PDCP_InfoReconfig_r4(ctx, &pvalue->pdcp_Info, cur);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationReconfig-r7");
+   }
+   /* pdcp-SN-Info */
+   if (pvalue->m & 0x2u) {
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->pdcp_SN_Info, 0, 65535);
+      RT_CHECK_PUT(ctx, cur, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-InformationReconfig-r7");
+   }
+   /* rlc-Info */
+   if (pvalue->m & 0x4u) {
+      stat = enc_RLC_Info_r7(ctx, &pvalue->rlc_Info, cur);
+      RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RB-InformationReconfig-r7");
+   }
+   /* rb-MappingInfo */
+   if (pvalue->m & 0x8u) {
+      stat = enc_RB_MappingInfo_r7(ctx, &pvalue->rb_MappingInfo, cur);
+      RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationReconfig-r7");
+   }
+   /* rb-StopContinue */
+   if (pvalue->m & 0x10u) {
+      if (pvalue->rb_StopContinue > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->rb_StopContinue);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r7");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->rb_StopContinue, 0, 1);
+      RT_CHECK_PUT(ctx, cur, stat, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationReconfig_r7(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfig_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_InformationReconfig_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_InformationReconfig_r8(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfig_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationReconfig-r8");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RB-InformationReconfig-r8");
+   /* rb-Identity */
+   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "RB-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r8");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->rb_Identity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "RB-InformationReconfig-r8");
+   /* pdcp-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PDCP_InfoReconfig_r4(ctx, &pvalue->pdcp_Info, cur);
+      RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "RB-InformationReconfig-r8");
+   }
+   /* pdcp-SN-Info */
+   if (pvalue->m & 0x2u) {
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->pdcp_SN_Info, 0, 65535);
+      RT_CHECK_PUT(ctx, cur, stat, "PDCP-SN-Info", "pdcp-SN-Info", -1, "RB-InformationReconfig-r8");
+   }
+   /* rlc-Info */
+   if (pvalue->m & 0x4u) {
+      stat = enc_RLC_Info_r7(ctx, &pvalue->rlc_Info, cur);
+      RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "RB-InformationReconfig-r8");
+   }
+   /* rb-MappingInfo */
+   if (pvalue->m & 0x8u) {
+      stat = enc_RB_MappingInfo_r8(ctx, &pvalue->rb_MappingInfo, cur);
+      RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "RB-InformationReconfig-r8");
+   }
+   /* rb-StopContinue */
+   if (pvalue->m & 0x10u) {
+      if (pvalue->rb_StopContinue > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->rb_StopContinue);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r8");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->rb_StopContinue, 0, 1);
+      RT_CHECK_PUT(ctx, cur, stat, "RB-StopContinue", "rb-StopContinue", -1, "RB-InformationReconfig-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationReconfig_r8(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfig_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_InformationReconfig_r8, pvalue);
+}
+
+static int enc_RB_InformationReconfigList(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfigList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationReconfigList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RB-InformationReconfigList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RB-InformationReconfig", (int32_t)i, "RB-InformationReconfigList");
+      stat = enc_RB_InformationReconfig(ctx, (const RB_InformationReconfig*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RB-InformationReconfig", (int32_t)i, "RB-InformationReconfigList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationReconfigList(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfigList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_InformationReconfigList, pvalue);
+}
+
+static int enc_RB_InformationReconfigList_r4(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfigList_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationReconfigList-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RB-InformationReconfigList-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RB-InformationReconfig-r4", (int32_t)i, "RB-InformationReconfigList-r4");
+      stat = enc_RB_InformationReconfig_r4(ctx, (const RB_InformationReconfig_r4*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RB-InformationReconfig-r4", (int32_t)i, "RB-InformationReconfigList-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationReconfigList_r4(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfigList_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_InformationReconfigList_r4, pvalue);
+}
+
+static int enc_RB_InformationReconfigList_r5(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfigList_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationReconfigList-r5");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RB-InformationReconfigList-r5");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RB-InformationReconfig-r5", (int32_t)i, "RB-InformationReconfigList-r5");
+      stat = enc_RB_InformationReconfig_r5(ctx, (const RB_InformationReconfig_r5*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RB-InformationReconfig-r5", (int32_t)i, "RB-InformationReconfigList-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationReconfigList_r5(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfigList_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_InformationReconfigList_r5, pvalue);
+}
+
+static int enc_RB_InformationReconfigList_r6(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfigList_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationReconfigList-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RB-InformationReconfigList-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RB-InformationReconfig-r6", (int32_t)i, "RB-InformationReconfigList-r6");
+      stat = enc_RB_InformationReconfig_r6(ctx, (const RB_InformationReconfig_r6*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RB-InformationReconfig-r6", (int32_t)i, "RB-InformationReconfigList-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationReconfigList_r6(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfigList_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_InformationReconfigList_r6, pvalue);
+}
+
+static int enc_RB_InformationReconfigList_r7(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfigList_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationReconfigList-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RB-InformationReconfigList-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RB-InformationReconfig-r7", (int32_t)i, "RB-InformationReconfigList-r7");
+      stat = enc_RB_InformationReconfig_r7(ctx, (const RB_InformationReconfig_r7*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RB-InformationReconfig-r7", (int32_t)i, "RB-InformationReconfigList-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationReconfigList_r7(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfigList_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_InformationReconfigList_r7, pvalue);
+}
+
+static int enc_RB_InformationReconfigList_r8(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfigList_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationReconfigList-r8");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RB-InformationReconfigList-r8");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RB-InformationReconfig-r8", (int32_t)i, "RB-InformationReconfigList-r8");
+      stat = enc_RB_InformationReconfig_r8(ctx, (const RB_InformationReconfig_r8*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RB-InformationReconfig-r8", (int32_t)i, "RB-InformationReconfigList-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationReconfigList_r8(rtxContext* RT_RESTRICT ctx, const RB_InformationReconfigList_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_InformationReconfigList_r8, pvalue);
+}
+
+RT_MERGED_BODY int enc_RB_InformationReleaseList(rtxContext* RT_RESTRICT ctx, const RB_InformationReleaseList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RB-InformationReleaseList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RB-InformationReleaseList");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)(pvalue->elem[i] - 1) > 31u) {
+         rtxErrAddStrParm(ctx, "RB-Identity");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RB-Identity", "RB-Identity", (int32_t)i, "RB-InformationReleaseList");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 1, 32);
+      RT_CHECK_PUT(ctx, cur, stat, "RB-Identity", "RB-Identity", (int32_t)i, "RB-InformationReleaseList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RB_InformationReleaseList(rtxContext* RT_RESTRICT ctx, const RB_InformationReleaseList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RB_InformationReleaseList, pvalue);
+}
+
+RT_MERGED_BODY int enc_TimerDAR_r6(rtxContext* RT_RESTRICT ctx, TimerDAR_r6 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 13) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TimerDAR-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 13);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TimerDAR-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_TimerDAR_r6(rtxContext* RT_RESTRICT ctx, TimerDAR_r6 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TimerDAR_r6, value);
+}
+
+RT_MERGED_BODY int enc_WindowSizeDAR_r6(rtxContext* RT_RESTRICT ctx, WindowSizeDAR_r6 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "WindowSizeDAR-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "WindowSizeDAR-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_WindowSizeDAR_r6(rtxContext* RT_RESTRICT ctx, WindowSizeDAR_r6 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_WindowSizeDAR_r6, value);
+}
+
+RT_MERGED_BODY int enc_UM_RLC_DuplAvoid_Reord_Info_r6(rtxContext* RT_RESTRICT ctx, const UM_RLC_DuplAvoid_Reord_Info_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UM-RLC-DuplAvoid-Reord-Info-r6");
+   /* timer-DAR */
+   if (pvalue->timer_DAR > 13) {
+      rtxErrAddUIntParm(ctx, pvalue->timer_DAR);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TimerDAR-r6", "timer-DAR", -1, "UM-RLC-DuplAvoid-Reord-Info-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timer_DAR, 0, 13);
+   RT_CHECK_PUT(ctx, cur, stat, "TimerDAR-r6", "timer-DAR", -1, "UM-RLC-DuplAvoid-Reord-Info-r6");
+   /* widowSize-DAR */
+   if (pvalue->widowSize_DAR > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->widowSize_DAR);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "WindowSizeDAR-r6", "widowSize-DAR", -1, "UM-RLC-DuplAvoid-Reord-Info-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->widowSize_DAR, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "WindowSizeDAR-r6", "widowSize-DAR", -1, "UM-RLC-DuplAvoid-Reord-Info-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_UM_RLC_DuplAvoid_Reord_Info_r6(rtxContext* RT_RESTRICT ctx, const UM_RLC_DuplAvoid_Reord_Info_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UM_RLC_DuplAvoid_Reord_Info_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_RLC_Info_MTCH_r6(rtxContext* RT_RESTRICT ctx, const RLC_Info_MTCH_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RLC-Info-MTCH-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RLC-Info-MTCH-r6");
+   /* dl-UM-RLC-LI-size */
+   if (pvalue->dl_UM_RLC_LI_size > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->dl_UM_RLC_LI_size);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "RLC-Info-MTCH-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dl_UM_RLC_LI_size, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "DL-UM-RLC-LI-size", "dl-UM-RLC-LI-size", -1, "RLC-Info-MTCH-r6");
+   /* dl-UM-RLC-DuplAvoid-Reord-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UM_RLC_DuplAvoid_Reord_Info_r6(ctx, &pvalue->dl_UM_RLC_DuplAvoid_Reord_Info, cur);
+      RT_CHECK(ctx, stat, 0, "dl-UM-RLC-DuplAvoid-Reord-Info", -1, "RLC-Info-MTCH-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RLC_Info_MTCH_r6(rtxContext* RT_RESTRICT ctx, const RLC_Info_MTCH_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RLC_Info_MTCH_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_SRB_InformationSetup_r5(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetup_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetup-r5");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SRB-InformationSetup-r5");
+   /* rb-Identity */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+         rtxErrAddStrParm(ctx, "RB-Identity");
+         rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup-r5");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->rb_Identity, 1, 32);
+      RT_CHECK_PUT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup-r5");
+   }
+   /* rlc-InfoChoice */
+   stat = enc_RLC_InfoChoice_r5(ctx, &pvalue->rlc_InfoChoice, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "SRB-InformationSetup-r5");
+   /* rb-MappingInfo */
+   stat = enc_RB_MappingInfo_r5(ctx, &pvalue->rb_MappingInfo, cur);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "SRB-InformationSetup-r5");
+   return 0;
+}
+
+int asn1PE_UMTS_SRB_InformationSetup_r5(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetup_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SRB_InformationSetup_r5, pvalue);
+}
+
+static int enc_SRB_InformationSetup_r6(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetup_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetup-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SRB-InformationSetup-r6");
+   /* rb-Identity */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+         rtxErrAddStrParm(ctx, "RB-Identity");
+         rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup-r6");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->rb_Identity, 1, 32);
+      RT_CHECK_PUT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup-r6");
+   }
+   /* rlc-InfoChoice */
+   stat = enc_RLC_InfoChoice_r6(ctx, &pvalue->rlc_InfoChoice, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "SRB-InformationSetup-r6");
+   /* rb-MappingInfo */
+   stat = enc_RB_MappingInfo_r6(ctx, &pvalue->rb_MappingInfo, cur);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "SRB-InformationSetup-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_SRB_InformationSetup_r6(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetup_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SRB_InformationSetup_r6, pvalue);
+}
+
+static int enc_SRB_InformationSetup_r7(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetup_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetup-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SRB-InformationSetup-r7");
+   /* rb-Identity */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+         rtxErrAddStrParm(ctx, "RB-Identity");
+         rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup-r7");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->rb_Identity, 1, 32);
+      RT_CHECK_PUT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup-r7");
+   }
+   /* rlc-InfoChoice */
+   stat = enc_RLC_InfoChoice_r7(ctx, &pvalue->rlc_InfoChoice, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "SRB-InformationSetup-r7");
+   /* rb-MappingInfo */
+   stat = enc_RB_MappingInfo_r7(ctx, &pvalue->rb_MappingInfo, cur);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "SRB-InformationSetup-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_SRB_InformationSetup_r7(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetup_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SRB_InformationSetup_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_SRB_InformationSetup_r8(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetup_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetup-r8");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SRB-InformationSetup-r8");
+   /* rb-Identity */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
+         rtxErrAddStrParm(ctx, "RB-Identity");
+         rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup-r8");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->rb_Identity, 1, 32);
+      RT_CHECK_PUT(ctx, cur, stat, "RB-Identity", "rb-Identity", -1, "SRB-InformationSetup-r8");
+   }
+   /* rlc-InfoChoice */
+   stat = enc_RLC_InfoChoice_r7(ctx, &pvalue->rlc_InfoChoice, cur);
+   RT_CHECK(ctx, stat, 0, "rlc-InfoChoice", -1, "SRB-InformationSetup-r8");
+   /* rb-MappingInfo */
+   stat = enc_RB_MappingInfo_r8(ctx, &pvalue->rb_MappingInfo, cur);
+   RT_CHECK(ctx, stat, 0, "rb-MappingInfo", -1, "SRB-InformationSetup-r8");
+   return 0;
+}
+
+int asn1PE_UMTS_SRB_InformationSetup_r8(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetup_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SRB_InformationSetup_r8, pvalue);
+}
+
+static int enc_SRB_InformationSetupList_r5(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetupList-r5");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DL-TPC-PowerOffsetPerRL-List");
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "SRB-InformationSetupList-r5");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DL-TPC-PowerOffsetPerRL", (int32_t)i, "DL-TPC-PowerOffsetPerRL-List");
-      stat = asn1PE_UMTS_DL_TPC_PowerOffsetPerRL(ctx, (const DL_TPC_PowerOffsetPerRL*)node->data);
-      RT_CHECK(ctx, stat, 0, "DL-TPC-PowerOffsetPerRL", (int32_t)i, "DL-TPC-PowerOffsetPerRL-List");
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "SRB-InformationSetup-r5", (int32_t)i, "SRB-InformationSetupList-r5");
+      stat = enc_SRB_InformationSetup_r5(ctx, (const SRB_InformationSetup_r5*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r5", (int32_t)i, "SRB-InformationSetupList-r5");
    }
    return 0;
 }
 
-int asn1PE_UMTS_DL_ChannelCodes_MBSFN_IMB384(rtxContext* RT_RESTRICT ctx, const DL_ChannelCodes_MBSFN_IMB384* RT_RESTRICT pvalue)
+int asn1PE_UMTS_SRB_InformationSetupList_r5(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SRB_InformationSetupList_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_SRB_InformationSetupList_r6(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DL-ChannelCodes-MBSFN-IMB384");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-ChannelCodes-MBSFN-IMB384");
-   /* firstChannelisationCode */
-   if ((uint64_t)(pvalue->firstChannelisationCode - 1) > 14u) {
-      rtxErrAddStrParm(ctx, "firstChannelisationCode");
-      rtxErrAddUIntParm(ctx, pvalue->firstChannelisationCode);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "firstChannelisationCode", -1, "DL-ChannelCodes-MBSFN-IMB384");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetupList-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "SRB-InformationSetupList-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "SRB-InformationSetup-r6", (int32_t)i, "SRB-InformationSetupList-r6");
+      stat = enc_SRB_InformationSetup_r6(ctx, (const SRB_InformationSetup_r6*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r6", (int32_t)i, "SRB-InformationSetupList-r6");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->firstChannelisationCode, 1, 15);
-   RT_CHECK(ctx, stat, 0, "firstChannelisationCode", -1, "DL-ChannelCodes-MBSFN-IMB384");
-   /* lastChannelisationCode */
+   return 0;
+}
+
+int asn1PE_UMTS_SRB_InformationSetupList_r6(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SRB_InformationSetupList_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_SRB_InformationSetupList_r7(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetupList-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "SRB-InformationSetupList-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "SRB-InformationSetup-r7", (int32_t)i, "SRB-InformationSetupList-r7");
+      stat = enc_SRB_InformationSetup_r7(ctx, (const SRB_InformationSetup_r7*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r7", (int32_t)i, "SRB-InformationSetupList-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRB_InformationSetupList_r7(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SRB_InformationSetupList_r7, pvalue);
+}
+
+static int enc_SRB_InformationSetupList_r8(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetupList-r8");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "SRB-InformationSetupList-r8");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "SRB-InformationSetup-r8", (int32_t)i, "SRB-InformationSetupList-r8");
+      stat = enc_SRB_InformationSetup_r8(ctx, (const SRB_InformationSetup_r8*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r8", (int32_t)i, "SRB-InformationSetupList-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRB_InformationSetupList_r8(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SRB_InformationSetupList_r8, pvalue);
+}
+
+static int enc_SRB_InformationSetupList2(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetupList2");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 3, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "SRB-InformationSetupList2");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "SRB-InformationSetup", (int32_t)i, "SRB-InformationSetupList2");
+      stat = enc_SRB_InformationSetup(ctx, (const SRB_InformationSetup*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup", (int32_t)i, "SRB-InformationSetupList2");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRB_InformationSetupList2(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList2* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SRB_InformationSetupList2, pvalue);
+}
+
+RT_MERGED_BODY int enc_SRB_InformationSetupList2_r6(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList2_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetupList2-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 3, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "SRB-InformationSetupList2-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "SRB-InformationSetup-r6", (int32_t)i, "SRB-InformationSetupList2-r6");
+      stat = enc_SRB_InformationSetup_r6(ctx, (const SRB_InformationSetup_r6*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r6", (int32_t)i, "SRB-InformationSetupList2-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRB_InformationSetupList2_r6(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList2_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SRB_InformationSetupList2_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_SRB_InformationSetupList2_r7(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList2_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetupList2-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 3, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "SRB-InformationSetupList2-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "SRB-InformationSetup-r7", (int32_t)i, "SRB-InformationSetupList2-r7");
+      stat = enc_SRB_InformationSetup_r7(ctx, (const SRB_InformationSetup_r7*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r7", (int32_t)i, "SRB-InformationSetupList2-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRB_InformationSetupList2_r7(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList2_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SRB_InformationSetupList2_r7, pvalue);
+}
+
+static int enc_SRB_InformationSetupList2_r8(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList2_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SRB-InformationSetupList2-r8");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 3, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "SRB-InformationSetupList2-r8");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "SRB-InformationSetup-r8", (int32_t)i, "SRB-InformationSetupList2-r8");
+      stat = enc_SRB_InformationSetup_r8(ctx, (const SRB_InformationSetup_r8*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "SRB-InformationSetup-r8", (int32_t)i, "SRB-InformationSetupList2-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SRB_InformationSetupList2_r8(rtxContext* RT_RESTRICT ctx, const SRB_InformationSetupList2_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SRB_InformationSetupList2_r8, pvalue);
+}
+
+static int enc_UL_CounterSynchronisationInfo(rtxContext* RT_RESTRICT ctx, const UL_CounterSynchronisationInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-CounterSynchronisationInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UL-CounterSynchronisationInfo");
+   /* rB-WithPDCP-InfoList */
    if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->lastChannelisationCode - 1) > 14u) {
-         rtxErrAddStrParm(ctx, "lastChannelisationCode");
-         rtxErrAddUIntParm(ctx, pvalue->lastChannelisationCode);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "lastChannelisationCode", -1, "DL-ChannelCodes-MBSFN-IMB384");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->lastChannelisationCode, 1, 15);
-      RT_CHECK(ctx, stat, 0, "lastChannelisationCode", -1, "DL-ChannelCodes-MBSFN-IMB384");
+      stat = enc_RB_WithPDCP_InfoList(ctx, &pvalue->rB_WithPDCP_InfoList, cur);
+      RT_CHECK(ctx, stat, 0, "rB-WithPDCP-InfoList", -1, "UL-CounterSynchronisationInfo");
+   }
+   /* startList */
+   stat = enc_STARTList(ctx, &pvalue->startList, cur);
+   RT_CHECK(ctx, stat, 0, "startList", -1, "UL-CounterSynchronisationInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_CounterSynchronisationInfo(rtxContext* RT_RESTRICT ctx, const UL_CounterSynchronisationInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_CounterSynchronisationInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_MAC_d_PDUsizeInfo(rtxContext* RT_RESTRICT ctx, const MAC_d_PDUsizeInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MAC-d-PDUsizeInfo");
+   /* mac-d-PDU-Size */
+   if ((uint64_t)(pvalue->mac_d_PDU_Size - 1) > 4999u) {
+      rtxErrAddStrParm(ctx, "mac-d-PDU-Size");
+      rtxErrAddUIntParm(ctx, pvalue->mac_d_PDU_Size);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "mac-d-PDU-Size", -1, "MAC-d-PDUsizeInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_d_PDU_Size, 1, 5000);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "mac-d-PDU-Size", -1, "MAC-d-PDUsizeInfo");
+   /* mac-d-PDU-Index */
+   if ((uint64_t)pvalue->mac_d_PDU_Index > 7u) {
+      rtxErrAddStrParm(ctx, "mac-d-PDU-Index");
+      rtxErrAddUIntParm(ctx, pvalue->mac_d_PDU_Index);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "mac-d-PDU-Index", -1, "MAC-d-PDUsizeInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_d_PDU_Index, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "mac-d-PDU-Index", -1, "MAC-d-PDUsizeInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_MAC_d_PDUsizeInfo(rtxContext* RT_RESTRICT ctx, const MAC_d_PDUsizeInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MAC_d_PDUsizeInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_MAC_d_PDU_SizeInfo_List(rtxContext* RT_RESTRICT ctx, const MAC_d_PDU_SizeInfo_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MAC-d-PDU-SizeInfo-List");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "MAC-d-PDU-SizeInfo-List");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "MAC-d-PDUsizeInfo", (int32_t)i, "MAC-d-PDU-SizeInfo-List");
+      stat = enc_MAC_d_PDUsizeInfo(ctx, (const MAC_d_PDUsizeInfo*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "MAC-d-PDUsizeInfo", (int32_t)i, "MAC-d-PDU-SizeInfo-List");
    }
    return 0;
 }
 
-int asn1PE_UMTS_UL_EDCH_Information_r8_mac_es_e_resetIndicator(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r8_mac_es_e_resetIndicator value)
+int asn1PE_UMTS_MAC_d_PDU_SizeInfo_List(rtxContext* RT_RESTRICT ctx, const MAC_d_PDU_SizeInfo_List* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_MAC_d_PDU_SizeInfo_List, pvalue);
 }
 
-int asn1PE_UMTS_E_DPDCH_SchedulingTransmConfiguration_servingGrant_primary_Secondary_GrantSelector(rtxContext* RT_RESTRICT ctx, E_DPDCH_SchedulingTransmConfiguration_servingGrant_primary_Secondary_GrantSelector value)
+RT_MERGED_BODY int enc_MAC_hs_AddReconfQueue(rtxContext* RT_RESTRICT ctx, const MAC_hs_AddReconfQueue* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DPDCH_SchedulingTransmConfiguration_servingGrant(rtxContext* RT_RESTRICT ctx, const E_DPDCH_SchedulingTransmConfiguration_servingGrant* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* value */
-   if ((uint64_t)pvalue->value > 38u) {
-      rtxErrAddStrParm(ctx, "value");
-      rtxErrAddUIntParm(ctx, pvalue->value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "value", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->value, 0, 38);
-   RT_CHECK(ctx, stat, 0, "value", -1, 0);
-   /* primary-Secondary-GrantSelector */
-   if (pvalue->primary_Secondary_GrantSelector > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->primary_Secondary_GrantSelector);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "primary-Secondary-GrantSelector", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->primary_Secondary_GrantSelector, 0, 1);
-   RT_CHECK(ctx, stat, 0, "primary-Secondary-GrantSelector", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DPDCH_SchedulingTransmConfiguration(rtxContext* RT_RESTRICT ctx, const E_DPDCH_SchedulingTransmConfiguration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-DPDCH-SchedulingTransmConfiguration");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MAC-hs-AddReconfQueue");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MAC-hs-AddReconfQueue");
+   /* mac-hsQueueId */
+   if ((uint64_t)pvalue->mac_hsQueueId > 7u) {
+      rtxErrAddStrParm(ctx, "mac-hsQueueId");
+      rtxErrAddUIntParm(ctx, pvalue->mac_hsQueueId);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "mac-hsQueueId", -1, "MAC-hs-AddReconfQueue");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_hsQueueId, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "mac-hsQueueId", -1, "MAC-hs-AddReconfQueue");
+   /* mac-dFlowId */
+   if ((uint64_t)pvalue->mac_dFlowId > 7u) {
+      rtxErrAddStrParm(ctx, "MAC-d-FlowIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->mac_dFlowId);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MAC-d-FlowIdentity", "mac-dFlowId", -1, "MAC-hs-AddReconfQueue");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_dFlowId, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "MAC-d-FlowIdentity", "mac-dFlowId", -1, "MAC-hs-AddReconfQueue");
+   /* reorderingReleaseTimer */
+   if (pvalue->reorderingReleaseTimer > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->reorderingReleaseTimer);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "T1-ReleaseTimer", "reorderingReleaseTimer", -1, "MAC-hs-AddReconfQueue");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->reorderingReleaseTimer, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "T1-ReleaseTimer", "reorderingReleaseTimer", -1, "MAC-hs-AddReconfQueue");
+   /* mac-hsWindowSize */
+   if (pvalue->mac_hsWindowSize > 6) {
+      rtxErrAddUIntParm(ctx, pvalue->mac_hsWindowSize);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MAC-hs-WindowSize", "mac-hsWindowSize", -1, "MAC-hs-AddReconfQueue");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_hsWindowSize, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "MAC-hs-WindowSize", "mac-hsWindowSize", -1, "MAC-hs-AddReconfQueue");
+   /* mac-d-PDU-SizeInfo-List */
+   if (pvalue->m & 0x1u) {
+      stat = enc_MAC_d_PDU_SizeInfo_List(ctx, &pvalue->mac_d_PDU_SizeInfo_List, cur);
+      RT_CHECK(ctx, stat, 0, "mac-d-PDU-SizeInfo-List", -1, "MAC-hs-AddReconfQueue");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MAC_hs_AddReconfQueue(rtxContext* RT_RESTRICT ctx, const MAC_hs_AddReconfQueue* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MAC_hs_AddReconfQueue, pvalue);
+}
+
+RT_MERGED_BODY int enc_MAC_hs_AddReconfQueue_List(rtxContext* RT_RESTRICT ctx, const MAC_hs_AddReconfQueue_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MAC-hs-AddReconfQueue-List");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "MAC-hs-AddReconfQueue-List");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "MAC-hs-AddReconfQueue", (int32_t)i, "MAC-hs-AddReconfQueue-List");
+      stat = enc_MAC_hs_AddReconfQueue(ctx, (const MAC_hs_AddReconfQueue*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "MAC-hs-AddReconfQueue", (int32_t)i, "MAC-hs-AddReconfQueue-List");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MAC_hs_AddReconfQueue_List(rtxContext* RT_RESTRICT ctx, const MAC_hs_AddReconfQueue_List* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MAC_hs_AddReconfQueue_List, pvalue);
+}
+
+RT_MERGED_BODY int enc_MAC_hs_DelQueue(rtxContext* RT_RESTRICT ctx, const MAC_hs_DelQueue* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MAC-hs-DelQueue");
+   /* mac-hsQueueId */
+   if ((uint64_t)pvalue->mac_hsQueueId > 7u) {
+      rtxErrAddStrParm(ctx, "mac-hsQueueId");
+      rtxErrAddUIntParm(ctx, pvalue->mac_hsQueueId);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "mac-hsQueueId", -1, "MAC-hs-DelQueue");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_hsQueueId, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "mac-hsQueueId", -1, "MAC-hs-DelQueue");
+   return 0;
+}
+
+int asn1PE_UMTS_MAC_hs_DelQueue(rtxContext* RT_RESTRICT ctx, const MAC_hs_DelQueue* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MAC_hs_DelQueue, pvalue);
+}
+
+RT_MERGED_BODY int enc_MAC_hs_DelQueue_List(rtxContext* RT_RESTRICT ctx, const MAC_hs_DelQueue_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MAC-hs-DelQueue-List");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "MAC-hs-DelQueue-List");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "MAC-hs-DelQueue", (int32_t)i, "MAC-hs-DelQueue-List");
+      stat = enc_MAC_hs_DelQueue(ctx, (const MAC_hs_DelQueue*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "MAC-hs-DelQueue", (int32_t)i, "MAC-hs-DelQueue-List");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MAC_hs_DelQueue_List(rtxContext* RT_RESTRICT ctx, const MAC_hs_DelQueue_List* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MAC_hs_DelQueue_List, pvalue);
+}
+
+static int enc_AddOrReconfMAC_dFlow(rtxContext* RT_RESTRICT ctx, const AddOrReconfMAC_dFlow* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "AddOrReconfMAC-dFlow");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPDCH-SchedulingTransmConfiguration");
-   /* ms2-SchedTransmGrantHARQAlloc */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "AddOrReconfMAC-dFlow");
+   /* mac-hs-AddReconfQueue-List */
+   if (pvalue->m & 0x1u) {
+      stat = enc_MAC_hs_AddReconfQueue_List(ctx, &pvalue->mac_hs_AddReconfQueue_List, cur);
+      RT_CHECK(ctx, stat, 0, "mac-hs-AddReconfQueue-List", -1, "AddOrReconfMAC-dFlow");
+   }
+   /* mac-hs-DelQueue-List */
+   if (pvalue->m & 0x2u) {
+      stat = enc_MAC_hs_DelQueue_List(ctx, &pvalue->mac_hs_DelQueue_List, cur);
+      RT_CHECK(ctx, stat, 0, "mac-hs-DelQueue-List", -1, "AddOrReconfMAC-dFlow");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AddOrReconfMAC_dFlow(rtxContext* RT_RESTRICT ctx, const AddOrReconfMAC_dFlow* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AddOrReconfMAC_dFlow, pvalue);
+}
+
+RT_MERGED_BODY int enc_MAC_ehs_AddReconfReordQ(rtxContext* RT_RESTRICT ctx, const MAC_ehs_AddReconfReordQ* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MAC-ehs-AddReconfReordQ");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MAC-ehs-AddReconfReordQ");
+   /* mac-ehs-QueueId */
+   if ((uint64_t)pvalue->mac_ehs_QueueId > 7u) {
+      rtxErrAddStrParm(ctx, "MAC-ehs-QueueId");
+      rtxErrAddUIntParm(ctx, pvalue->mac_ehs_QueueId);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "MAC-ehs-AddReconfReordQ");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_ehs_QueueId, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "MAC-ehs-AddReconfReordQ");
+   /* reorderingReleaseTimer */
+   if (pvalue->reorderingReleaseTimer > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->reorderingReleaseTimer);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "T1-ReleaseTimer", "reorderingReleaseTimer", -1, "MAC-ehs-AddReconfReordQ");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->reorderingReleaseTimer, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "T1-ReleaseTimer", "reorderingReleaseTimer", -1, "MAC-ehs-AddReconfReordQ");
+   /* reorderingResetTimer */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->reorderingResetTimer > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->reorderingResetTimer);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "Treset-ResetTimer", "reorderingResetTimer", -1, "MAC-ehs-AddReconfReordQ");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->reorderingResetTimer, 0, 3);
+      RT_CHECK_PUT(ctx, cur, stat, "Treset-ResetTimer", "reorderingResetTimer", -1, "MAC-ehs-AddReconfReordQ");
+   }
+   /* mac-ehsWindowSize */
+   if (pvalue->mac_ehsWindowSize > 6) {
+      rtxErrAddUIntParm(ctx, pvalue->mac_ehsWindowSize);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MAC-hs-WindowSize", "mac-ehsWindowSize", -1, "MAC-ehs-AddReconfReordQ");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_ehsWindowSize, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "MAC-hs-WindowSize", "mac-ehsWindowSize", -1, "MAC-ehs-AddReconfReordQ");
+   return 0;
+}
+
+int asn1PE_UMTS_MAC_ehs_AddReconfReordQ(rtxContext* RT_RESTRICT ctx, const MAC_ehs_AddReconfReordQ* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MAC_ehs_AddReconfReordQ, pvalue);
+}
+
+RT_MERGED_BODY int enc_MAC_ehs_AddReconfReordQ_List(rtxContext* RT_RESTRICT ctx, const MAC_ehs_AddReconfReordQ_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MAC-ehs-AddReconfReordQ-List");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "MAC-ehs-AddReconfReordQ-List");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "MAC-ehs-AddReconfReordQ", (int32_t)i, "MAC-ehs-AddReconfReordQ-List");
+      stat = enc_MAC_ehs_AddReconfReordQ(ctx, (const MAC_ehs_AddReconfReordQ*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "MAC-ehs-AddReconfReordQ", (int32_t)i, "MAC-ehs-AddReconfReordQ-List");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MAC_ehs_AddReconfReordQ_List(rtxContext* RT_RESTRICT ctx, const MAC_ehs_AddReconfReordQ_List* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MAC_ehs_AddReconfReordQ_List, pvalue);
+}
+
+RT_MERGED_BODY int enc_MAC_ehs_DelReordQ(rtxContext* RT_RESTRICT ctx, const MAC_ehs_DelReordQ* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MAC-ehs-DelReordQ");
+   /* mac-ehs-QueueId */
+   if ((uint64_t)pvalue->mac_ehs_QueueId > 7u) {
+      rtxErrAddStrParm(ctx, "MAC-ehs-QueueId");
+      rtxErrAddUIntParm(ctx, pvalue->mac_ehs_QueueId);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "MAC-ehs-DelReordQ");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_ehs_QueueId, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "MAC-ehs-DelReordQ");
+   return 0;
+}
+
+int asn1PE_UMTS_MAC_ehs_DelReordQ(rtxContext* RT_RESTRICT ctx, const MAC_ehs_DelReordQ* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MAC_ehs_DelReordQ, pvalue);
+}
+
+RT_MERGED_BODY int enc_MAC_ehs_DelReordQ_List(rtxContext* RT_RESTRICT ctx, const MAC_ehs_DelReordQ_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MAC-ehs-DelReordQ-List");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "MAC-ehs-DelReordQ-List");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "MAC-ehs-DelReordQ", (int32_t)i, "MAC-ehs-DelReordQ-List");
+      stat = enc_MAC_ehs_DelReordQ(ctx, (const MAC_ehs_DelReordQ*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "MAC-ehs-DelReordQ", (int32_t)i, "MAC-ehs-DelReordQ-List");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MAC_ehs_DelReordQ_List(rtxContext* RT_RESTRICT ctx, const MAC_ehs_DelReordQ_List* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MAC_ehs_DelReordQ_List, pvalue);
+}
+
+RT_MERGED_BODY int enc_AddOrReconfMAC_ehs_ReordQ(rtxContext* RT_RESTRICT ctx, const AddOrReconfMAC_ehs_ReordQ* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "AddOrReconfMAC-ehs-ReordQ");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "AddOrReconfMAC-ehs-ReordQ");
+   /* mac-ehs-AddReconfQueue-List */
+   if (pvalue->m & 0x1u) {
+      stat = enc_MAC_ehs_AddReconfReordQ_List(ctx, &pvalue->mac_ehs_AddReconfQueue_List, cur);
+      RT_CHECK(ctx, stat, 0, "mac-ehs-AddReconfQueue-List", -1, "AddOrReconfMAC-ehs-ReordQ");
+   }
+   /* dummy */
+   if (pvalue->m & 0x2u) {
+      stat = enc_MAC_ehs_DelReordQ_List(ctx, &pvalue->dummy, cur);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "AddOrReconfMAC-ehs-ReordQ");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AddOrReconfMAC_ehs_ReordQ(rtxContext* RT_RESTRICT ctx, const AddOrReconfMAC_ehs_ReordQ* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AddOrReconfMAC_ehs_ReordQ, pvalue);
+}
+
+RT_MERGED_BODY int enc_MAC_ehs_AddReconfReordQ_r9(rtxContext* RT_RESTRICT ctx, const MAC_ehs_AddReconfReordQ_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MAC-ehs-AddReconfReordQ-r9");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MAC-ehs-AddReconfReordQ-r9");
+   /* mac-ehs-QueueId */
+   if ((uint64_t)pvalue->mac_ehs_QueueId > 7u) {
+      rtxErrAddStrParm(ctx, "MAC-ehs-QueueId");
+      rtxErrAddUIntParm(ctx, pvalue->mac_ehs_QueueId);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "MAC-ehs-AddReconfReordQ-r9");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_ehs_QueueId, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "MAC-ehs-QueueId", "mac-ehs-QueueId", -1, "MAC-ehs-AddReconfReordQ-r9");
+   /* reorderingReleaseTimer */
+   if (pvalue->reorderingReleaseTimer > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->reorderingReleaseTimer);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "T1-ReleaseTimer", "reorderingReleaseTimer", -1, "MAC-ehs-AddReconfReordQ-r9");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->reorderingReleaseTimer, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "T1-ReleaseTimer", "reorderingReleaseTimer", -1, "MAC-ehs-AddReconfReordQ-r9");
+   /* reorderingResetTimer */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->reorderingResetTimer > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->reorderingResetTimer);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "Treset-ResetTimer", "reorderingResetTimer", -1, "MAC-ehs-AddReconfReordQ-r9");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->reorderingResetTimer, 0, 3);
+      RT_CHECK_PUT(ctx, cur, stat, "Treset-ResetTimer", "reorderingResetTimer", -1, "MAC-ehs-AddReconfReordQ-r9");
+   }
+   /* mac-ehsWindowSize */
+   if (pvalue->mac_ehsWindowSize > 8) {
+      rtxErrAddUIntParm(ctx, pvalue->mac_ehsWindowSize);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MAC-hs-WindowSize-r9", "mac-ehsWindowSize", -1, "MAC-ehs-AddReconfReordQ-r9");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_ehsWindowSize, 0, 8);
+   RT_CHECK_PUT(ctx, cur, stat, "MAC-hs-WindowSize-r9", "mac-ehsWindowSize", -1, "MAC-ehs-AddReconfReordQ-r9");
+   return 0;
+}
+
+int asn1PE_UMTS_MAC_ehs_AddReconfReordQ_r9(rtxContext* RT_RESTRICT ctx, const MAC_ehs_AddReconfReordQ_r9* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MAC_ehs_AddReconfReordQ_r9, pvalue);
+}
+
+RT_MERGED_BODY int enc_MAC_ehs_AddReconfReordQ_List_r9(rtxContext* RT_RESTRICT ctx, const MAC_ehs_AddReconfReordQ_List_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MAC-ehs-AddReconfReordQ-List-r9");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "MAC-ehs-AddReconfReordQ-List-r9");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "MAC-ehs-AddReconfReordQ-r9", (int32_t)i, "MAC-ehs-AddReconfReordQ-List-r9");
+      stat = enc_MAC_ehs_AddReconfReordQ_r9(ctx, (const MAC_ehs_AddReconfReordQ_r9*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "MAC-ehs-AddReconfReordQ-r9", (int32_t)i, "MAC-ehs-AddReconfReordQ-List-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MAC_ehs_AddReconfReordQ_List_r9(rtxContext* RT_RESTRICT ctx, const MAC_ehs_AddReconfReordQ_List_r9* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MAC_ehs_AddReconfReordQ_List_r9, pvalue);
+}
+
+RT_MERGED_BODY int enc_AddOrReconfMAC_ehs_ReordQ_r9(rtxContext* RT_RESTRICT ctx, const AddOrReconfMAC_ehs_ReordQ_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "AddOrReconfMAC-ehs-ReordQ-r9");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "AddOrReconfMAC-ehs-ReordQ-r9");
+   /* mac-ehs-AddReconfQueue-List */
+   if (pvalue->m & 0x1u) {
+      stat = enc_MAC_ehs_AddReconfReordQ_List_r9(ctx, &pvalue->mac_ehs_AddReconfQueue_List, cur);
+      RT_CHECK(ctx, stat, 0, "mac-ehs-AddReconfQueue-List", -1, "AddOrReconfMAC-ehs-ReordQ-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AddOrReconfMAC_ehs_ReordQ_r9(rtxContext* RT_RESTRICT ctx, const AddOrReconfMAC_ehs_ReordQ_r9* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AddOrReconfMAC_ehs_ReordQ_r9, pvalue);
+}
+
+RT_MERGED_BODY int enc_CPCH_SetID(rtxContext* RT_RESTRICT ctx, CPCH_SetID value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "CPCH-SetID");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "CPCH-SetID");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CPCH-SetID");
+   return 0;
+}
+
+int asn1PE_UMTS_CPCH_SetID(rtxContext* RT_RESTRICT ctx, CPCH_SetID value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CPCH_SetID, value);
+}
+
+RT_MERGED_BODY int enc_DL_AddReconfTransChInformation2_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation2_tfs_SignallingMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.explicit_config == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "explicit-config", -1, 0);
+         stat = enc_TransportFormatSet(ctx, pvalue->u.explicit_config, cur);
+         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.sameAsULTrCH == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "sameAsULTrCH", -1, 0);
+         stat = enc_UL_TransportChannelIdentity(ctx, pvalue->u.sameAsULTrCH, cur);
+         RT_CHECK(ctx, stat, 0, "sameAsULTrCH", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AddReconfTransChInformation2_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation2_tfs_SignallingMode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_AddReconfTransChInformation2_tfs_SignallingMode, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_AddReconfTransChInformation2(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-AddReconfTransChInformation2");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-AddReconfTransChInformation2");
+   /* dl-TransportChannelType */
+   if (pvalue->dl_TransportChannelType > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->dl_TransportChannelType);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "DL-TrCH-Type", "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation2");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dl_TransportChannelType, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "DL-TrCH-Type", "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation2");
+   /* transportChannelIdentity */
+   if ((uint64_t)(pvalue->transportChannelIdentity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->transportChannelIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportChannelIdentity", "transportChannelIdentity", -1, "DL-AddReconfTransChInformation2");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->transportChannelIdentity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, "DL-AddReconfTransChInformation2");
+   /* tfs-SignallingMode */
+   stat = enc_DL_AddReconfTransChInformation2_tfs_SignallingMode(ctx, &pvalue->tfs_SignallingMode, cur);
+   RT_CHECK(ctx, stat, 0, "tfs-SignallingMode", -1, "DL-AddReconfTransChInformation2");
+   /* qualityTarget */
+   if (pvalue->m & 0x1u) {
+      stat = enc_QualityTarget(ctx, &pvalue->qualityTarget, cur);
+      RT_CHECK(ctx, stat, 0, "qualityTarget", -1, "DL-AddReconfTransChInformation2");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AddReconfTransChInformation2(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation2* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_AddReconfTransChInformation2, pvalue);
+}
+
+static int enc_DL_AddReconfTransChInfo2List(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInfo2List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-AddReconfTransChInfo2List");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DL-AddReconfTransChInfo2List");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DL-AddReconfTransChInformation2", (int32_t)i, "DL-AddReconfTransChInfo2List");
+      stat = enc_DL_AddReconfTransChInformation2(ctx, (const DL_AddReconfTransChInformation2*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DL-AddReconfTransChInformation2", (int32_t)i, "DL-AddReconfTransChInfo2List");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AddReconfTransChInfo2List(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInfo2List* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_AddReconfTransChInfo2List, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_AddReconfTransChInformation_r4_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_r4_tfs_SignallingMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.explicit_config == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "explicit-config", -1, 0);
+         stat = enc_TransportFormatSet(ctx, pvalue->u.explicit_config, cur);
+         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.sameAsULTrCH == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "sameAsULTrCH", -1, 0);
+         stat = enc_UL_TransportChannelIdentity(ctx, pvalue->u.sameAsULTrCH, cur);
+         RT_CHECK(ctx, stat, 0, "sameAsULTrCH", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AddReconfTransChInformation_r4_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_r4_tfs_SignallingMode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_AddReconfTransChInformation_r4_tfs_SignallingMode, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_AddReconfTransChInformation_r4(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-AddReconfTransChInformation-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-AddReconfTransChInformation-r4");
+   /* dl-TransportChannelType */
+   if (pvalue->dl_TransportChannelType > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->dl_TransportChannelType);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "DL-TrCH-Type", "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dl_TransportChannelType, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "DL-TrCH-Type", "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation-r4");
+   /* dl-transportChannelIdentity */
+   if ((uint64_t)(pvalue->dl_transportChannelIdentity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->dl_transportChannelIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportChannelIdentity", "dl-transportChannelIdentity", -1, "DL-AddReconfTransChInformation-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dl_transportChannelIdentity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "TransportChannelIdentity", "dl-transportChannelIdentity", -1, "DL-AddReconfTransChInformation-r4");
+   /* tfs-SignallingMode */
+   stat = enc_DL_AddReconfTransChInformation_r4_tfs_SignallingMode(ctx, &pvalue->tfs_SignallingMode, cur);
+   RT_CHECK(ctx, stat, 0, "tfs-SignallingMode", -1, "DL-AddReconfTransChInformation-r4");
+   /* dch-QualityTarget */
+   if (pvalue->m & 0x1u) {
+      stat = enc_QualityTarget(ctx, &pvalue->dch_QualityTarget, cur);
+      RT_CHECK(ctx, stat, 0, "dch-QualityTarget", -1, "DL-AddReconfTransChInformation-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AddReconfTransChInformation_r4(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_AddReconfTransChInformation_r4, pvalue);
+}
+
+static int enc_DL_AddReconfTransChInfoList_r4(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInfoList_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-AddReconfTransChInfoList-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DL-AddReconfTransChInfoList-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DL-AddReconfTransChInformation-r4", (int32_t)i, "DL-AddReconfTransChInfoList-r4");
+      stat = enc_DL_AddReconfTransChInformation_r4(ctx, (const DL_AddReconfTransChInformation_r4*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DL-AddReconfTransChInformation-r4", (int32_t)i, "DL-AddReconfTransChInfoList-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AddReconfTransChInfoList_r4(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInfoList_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_AddReconfTransChInfoList_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_TrCH_TypeId1_r5(rtxContext* RT_RESTRICT ctx, const DL_TrCH_TypeId1_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-TrCH-TypeId1-r5");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "DL-TrCH-TypeId1-r5");
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "DL-TrCH-TypeId1-r5");
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)(pvalue->u.dch - 1) > 31u) {
+            rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.dch);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportChannelIdentity", "dch", -1, "DL-TrCH-TypeId1-r5");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.dch, 1, 32);
+         RT_CHECK_PUT(ctx, cur, stat, "TransportChannelIdentity", "dch", -1, "DL-TrCH-TypeId1-r5");
+         break;
+      case 2:
+         if ((uint64_t)(pvalue->u.dsch - 1) > 31u) {
+            rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.dsch);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportChannelIdentity", "dsch", -1, "DL-TrCH-TypeId1-r5");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.dsch, 1, 32);
+         RT_CHECK_PUT(ctx, cur, stat, "TransportChannelIdentity", "dsch", -1, "DL-TrCH-TypeId1-r5");
+         break;
+      case 3:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_TrCH_TypeId1_r5(rtxContext* RT_RESTRICT ctx, const DL_TrCH_TypeId1_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_TrCH_TypeId1_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_HSDSCH_Info(rtxContext* RT_RESTRICT ctx, const HSDSCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HSDSCH-Info");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "HSDSCH-Info");
+   /* harqInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_HARQ_Info(ctx, &pvalue->harqInfo, cur);
+      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "HSDSCH-Info");
+   }
+   /* addOrReconfMAC-dFlow */
+   if (pvalue->m & 0x2u) {
+      stat = enc_AddOrReconfMAC_dFlow(ctx, &pvalue->addOrReconfMAC_dFlow, cur);
+      RT_CHECK(ctx, stat, 0, "addOrReconfMAC-dFlow", -1, "HSDSCH-Info");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HSDSCH_Info(rtxContext* RT_RESTRICT ctx, const HSDSCH_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HSDSCH_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_AddReconfTransChInformation_r5_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_r5_tfs_SignallingMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.explicit_config == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "explicit-config", -1, 0);
+         stat = enc_TransportFormatSet(ctx, pvalue->u.explicit_config, cur);
+         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.sameAsULTrCH == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "sameAsULTrCH", -1, 0);
+         stat = enc_UL_TransportChannelIdentity(ctx, pvalue->u.sameAsULTrCH, cur);
+         RT_CHECK(ctx, stat, 0, "sameAsULTrCH", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.hsdsch == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "hsdsch", -1, 0);
+         stat = enc_HSDSCH_Info(ctx, pvalue->u.hsdsch, cur);
+         RT_CHECK(ctx, stat, 0, "hsdsch", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AddReconfTransChInformation_r5_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_r5_tfs_SignallingMode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_AddReconfTransChInformation_r5_tfs_SignallingMode, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_AddReconfTransChInformation_r5(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-AddReconfTransChInformation-r5");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-AddReconfTransChInformation-r5");
+   /* dl-TransportChannelType */
+   stat = enc_DL_TrCH_TypeId1_r5(ctx, &pvalue->dl_TransportChannelType, cur);
+   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation-r5");
+   /* tfs-SignallingMode */
+   stat = enc_DL_AddReconfTransChInformation_r5_tfs_SignallingMode(ctx, &pvalue->tfs_SignallingMode, cur);
+   RT_CHECK(ctx, stat, 0, "tfs-SignallingMode", -1, "DL-AddReconfTransChInformation-r5");
+   /* dch-QualityTarget */
+   if (pvalue->m & 0x1u) {
+      stat = enc_QualityTarget(ctx, &pvalue->dch_QualityTarget, cur);
+      RT_CHECK(ctx, stat, 0, "dch-QualityTarget", -1, "DL-AddReconfTransChInformation-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AddReconfTransChInformation_r5(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_AddReconfTransChInformation_r5, pvalue);
+}
+
+static int enc_DL_AddReconfTransChInfoList_r5(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInfoList_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-AddReconfTransChInfoList-r5");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DL-AddReconfTransChInfoList-r5");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DL-AddReconfTransChInformation-r5", (int32_t)i, "DL-AddReconfTransChInfoList-r5");
+      stat = enc_DL_AddReconfTransChInformation_r5(ctx, (const DL_AddReconfTransChInformation_r5*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DL-AddReconfTransChInformation-r5", (int32_t)i, "DL-AddReconfTransChInfoList-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AddReconfTransChInfoList_r5(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInfoList_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_AddReconfTransChInfoList_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_HSDSCH_Info_r7_dl_MAC_HeaderType(rtxContext* RT_RESTRICT ctx, const HSDSCH_Info_r7_dl_MAC_HeaderType* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.mac_hs == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "mac-hs", -1, 0);
+         stat = enc_AddOrReconfMAC_dFlow(ctx, pvalue->u.mac_hs, cur);
+         RT_CHECK(ctx, stat, 0, "mac-hs", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.mac_ehs == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "mac-ehs", -1, 0);
+         stat = enc_AddOrReconfMAC_ehs_ReordQ(ctx, pvalue->u.mac_ehs, cur);
+         RT_CHECK(ctx, stat, 0, "mac-ehs", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HSDSCH_Info_r7_dl_MAC_HeaderType(rtxContext* RT_RESTRICT ctx, const HSDSCH_Info_r7_dl_MAC_HeaderType* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HSDSCH_Info_r7_dl_MAC_HeaderType, pvalue);
+}
+
+RT_MERGED_BODY int enc_HSDSCH_Info_r7(rtxContext* RT_RESTRICT ctx, const HSDSCH_Info_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HSDSCH-Info-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "HSDSCH-Info-r7");
+   /* harqInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_HARQ_Info_r7(ctx, &pvalue->harqInfo, cur);
+      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "HSDSCH-Info-r7");
+   }
+   /* dl-MAC-HeaderType */
+   if (pvalue->m & 0x2u) {
+      stat = enc_HSDSCH_Info_r7_dl_MAC_HeaderType(ctx, &pvalue->dl_MAC_HeaderType, cur);
+      RT_CHECK(ctx, stat, 0, "dl-MAC-HeaderType", -1, "HSDSCH-Info-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HSDSCH_Info_r7(rtxContext* RT_RESTRICT ctx, const HSDSCH_Info_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HSDSCH_Info_r7, pvalue);
+}
+
+static int enc_DL_AddReconfTransChInformation_r7_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_r7_tfs_SignallingMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.explicit_config == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "explicit-config", -1, 0);
+         stat = enc_TransportFormatSet(ctx, pvalue->u.explicit_config, cur);
+         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.sameAsULTrCH == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "sameAsULTrCH", -1, 0);
+         stat = enc_UL_TransportChannelIdentity(ctx, pvalue->u.sameAsULTrCH, cur);
+         RT_CHECK(ctx, stat, 0, "sameAsULTrCH", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.hsdsch == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "hsdsch", -1, 0);
+         stat = enc_HSDSCH_Info_r7(ctx, pvalue->u.hsdsch, cur);
+         RT_CHECK(ctx, stat, 0, "hsdsch", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AddReconfTransChInformation_r7_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_r7_tfs_SignallingMode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_AddReconfTransChInformation_r7_tfs_SignallingMode, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_AddReconfTransChInformation_r7(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-AddReconfTransChInformation-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-AddReconfTransChInformation-r7");
+   /* dl-TransportChannelType */
+   stat = enc_DL_TrCH_TypeId1_r5(ctx, &pvalue->dl_TransportChannelType, cur);
+   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation-r7");
+   /* tfs-SignallingMode */
+   stat = enc_DL_AddReconfTransChInformation_r7_tfs_SignallingMode(ctx, &pvalue->tfs_SignallingMode, cur);
+   RT_CHECK(ctx, stat, 0, "tfs-SignallingMode", -1, "DL-AddReconfTransChInformation-r7");
+   /* dch-QualityTarget */
+   if (pvalue->m & 0x1u) {
+      stat = enc_QualityTarget(ctx, &pvalue->dch_QualityTarget, cur);
+      RT_CHECK(ctx, stat, 0, "dch-QualityTarget", -1, "DL-AddReconfTransChInformation-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AddReconfTransChInformation_r7(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_AddReconfTransChInformation_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_AddReconfTransChInfoList_r7(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInfoList_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-AddReconfTransChInfoList-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DL-AddReconfTransChInfoList-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DL-AddReconfTransChInformation-r7", (int32_t)i, "DL-AddReconfTransChInfoList-r7");
+      stat = enc_DL_AddReconfTransChInformation_r7(ctx, (const DL_AddReconfTransChInformation_r7*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DL-AddReconfTransChInformation-r7", (int32_t)i, "DL-AddReconfTransChInfoList-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AddReconfTransChInfoList_r7(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInfoList_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_AddReconfTransChInfoList_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_HSDSCH_Info_r9_dl_MAC_HeaderType(rtxContext* RT_RESTRICT ctx, const HSDSCH_Info_r9_dl_MAC_HeaderType* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.mac_hs == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "mac-hs", -1, 0);
+         stat = enc_AddOrReconfMAC_dFlow(ctx, pvalue->u.mac_hs, cur);
+         RT_CHECK(ctx, stat, 0, "mac-hs", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.mac_ehs == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "mac-ehs", -1, 0);
+         stat = enc_AddOrReconfMAC_ehs_ReordQ_r9(ctx, pvalue->u.mac_ehs, cur);
+         RT_CHECK(ctx, stat, 0, "mac-ehs", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HSDSCH_Info_r9_dl_MAC_HeaderType(rtxContext* RT_RESTRICT ctx, const HSDSCH_Info_r9_dl_MAC_HeaderType* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HSDSCH_Info_r9_dl_MAC_HeaderType, pvalue);
+}
+
+RT_MERGED_BODY int enc_HSDSCH_Info_r9(rtxContext* RT_RESTRICT ctx, const HSDSCH_Info_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HSDSCH-Info-r9");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "HSDSCH-Info-r9");
+   /* harqInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_HARQ_Info_r7(ctx, &pvalue->harqInfo, cur);
+      RT_CHECK(ctx, stat, 0, "harqInfo", -1, "HSDSCH-Info-r9");
+   }
+   /* dl-MAC-HeaderType */
+   if (pvalue->m & 0x2u) {
+      stat = enc_HSDSCH_Info_r9_dl_MAC_HeaderType(ctx, &pvalue->dl_MAC_HeaderType, cur);
+      RT_CHECK(ctx, stat, 0, "dl-MAC-HeaderType", -1, "HSDSCH-Info-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HSDSCH_Info_r9(rtxContext* RT_RESTRICT ctx, const HSDSCH_Info_r9* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HSDSCH_Info_r9, pvalue);
+}
+
+static int enc_DL_AddReconfTransChInformation_r9_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_r9_tfs_SignallingMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.explicit_config == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "explicit-config", -1, 0);
+         stat = enc_TransportFormatSet(ctx, pvalue->u.explicit_config, cur);
+         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.sameAsULTrCH == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "sameAsULTrCH", -1, 0);
+         stat = enc_UL_TransportChannelIdentity(ctx, pvalue->u.sameAsULTrCH, cur);
+         RT_CHECK(ctx, stat, 0, "sameAsULTrCH", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.hsdsch == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "hsdsch", -1, 0);
+         stat = enc_HSDSCH_Info_r9(ctx, pvalue->u.hsdsch, cur);
+         RT_CHECK(ctx, stat, 0, "hsdsch", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AddReconfTransChInformation_r9_tfs_SignallingMode(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_r9_tfs_SignallingMode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_AddReconfTransChInformation_r9_tfs_SignallingMode, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_AddReconfTransChInformation_r9(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-AddReconfTransChInformation-r9");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-AddReconfTransChInformation-r9");
+   /* dl-TransportChannelType */
+   stat = enc_DL_TrCH_TypeId1_r5(ctx, &pvalue->dl_TransportChannelType, cur);
+   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-AddReconfTransChInformation-r9");
+   /* tfs-SignallingMode */
+   stat = enc_DL_AddReconfTransChInformation_r9_tfs_SignallingMode(ctx, &pvalue->tfs_SignallingMode, cur);
+   RT_CHECK(ctx, stat, 0, "tfs-SignallingMode", -1, "DL-AddReconfTransChInformation-r9");
+   /* dch-QualityTarget */
+   if (pvalue->m & 0x1u) {
+      stat = enc_QualityTarget(ctx, &pvalue->dch_QualityTarget, cur);
+      RT_CHECK(ctx, stat, 0, "dch-QualityTarget", -1, "DL-AddReconfTransChInformation-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AddReconfTransChInformation_r9(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInformation_r9* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_AddReconfTransChInformation_r9, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_AddReconfTransChInfoList_r9(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInfoList_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-AddReconfTransChInfoList-r9");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DL-AddReconfTransChInfoList-r9");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DL-AddReconfTransChInformation-r9", (int32_t)i, "DL-AddReconfTransChInfoList-r9");
+      stat = enc_DL_AddReconfTransChInformation_r9(ctx, (const DL_AddReconfTransChInformation_r9*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DL-AddReconfTransChInformation-r9", (int32_t)i, "DL-AddReconfTransChInfoList-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_AddReconfTransChInfoList_r9(rtxContext* RT_RESTRICT ctx, const DL_AddReconfTransChInfoList_r9* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_AddReconfTransChInfoList_r9, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters_dl_DCH_TFCS(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters_dl_DCH_TFCS* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tfcs */
+   if (pvalue->m & 0x1u) {
+      stat = enc_TFCS(ctx, &pvalue->tfcs, cur);
+      RT_CHECK(ctx, stat, 0, "tfcs", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters_dl_DCH_TFCS(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters_dl_DCH_TFCS* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters_dl_DCH_TFCS, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.dl_DCH_TFCS == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dl-DCH-TFCS", -1, 0);
+         stat = enc_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters_dl_DCH_TFCS(ctx, pvalue->u.dl_DCH_TFCS, cur);
+         RT_CHECK(ctx, stat, 0, "dl-DCH-TFCS", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-Parameters */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd_dl_Parameters(ctx, &pvalue->dl_Parameters, cur);
+      RT_CHECK(ctx, stat, 0, "dl-Parameters", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonTransChInfo_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* individualDL-CCTrCH-InfoList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_IndividualDL_CCTrCH_InfoList(ctx, &pvalue->individualDL_CCTrCH_InfoList, cur);
+      RT_CHECK(ctx, stat, 0, "individualDL-CCTrCH-InfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonTransChInfo_r4_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonTransChInfo_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_DL_CommonTransChInfo_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_DL_CommonTransChInfo_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonTransChInfo_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_r4_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonTransChInfo_r4_modeSpecificInfo, pvalue);
+}
+
+static int enc_DL_CommonTransChInfo_r4(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-CommonTransChInfo-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-CommonTransChInfo-r4");
+   /* sccpch-TFCS */
+   if (pvalue->m & 0x1u) {
+      stat = enc_TFCS(ctx, &pvalue->sccpch_TFCS, cur);
+      RT_CHECK(ctx, stat, 0, "sccpch-TFCS", -1, "DL-CommonTransChInfo-r4");
+   }
+   /* modeSpecificInfo */
+   if (pvalue->m & 0x2u) {
+      stat = enc_DL_CommonTransChInfo_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+      RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonTransChInfo-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonTransChInfo_r4(rtxContext* RT_RESTRICT ctx, const DL_CommonTransChInfo_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonTransChInfo_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_TransportChannelIdentity(rtxContext* RT_RESTRICT ctx, const DL_TransportChannelIdentity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-TransportChannelIdentity");
+   /* dl-TransportChannelType */
+   if (pvalue->dl_TransportChannelType > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->dl_TransportChannelType);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "DL-TrCH-Type", "dl-TransportChannelType", -1, "DL-TransportChannelIdentity");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dl_TransportChannelType, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "DL-TrCH-Type", "dl-TransportChannelType", -1, "DL-TransportChannelIdentity");
+   /* dl-TransportChannelIdentity */
+   if ((uint64_t)(pvalue->dl_TransportChannelIdentity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->dl_TransportChannelIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportChannelIdentity", "dl-TransportChannelIdentity", -1, "DL-TransportChannelIdentity");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dl_TransportChannelIdentity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "TransportChannelIdentity", "dl-TransportChannelIdentity", -1, "DL-TransportChannelIdentity");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_TransportChannelIdentity(rtxContext* RT_RESTRICT ctx, const DL_TransportChannelIdentity* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_TransportChannelIdentity, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_DeletedTransChInfoList(rtxContext* RT_RESTRICT ctx, const DL_DeletedTransChInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-DeletedTransChInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DL-DeletedTransChInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DL-TransportChannelIdentity", (int32_t)i, "DL-DeletedTransChInfoList");
+      stat = enc_DL_TransportChannelIdentity(ctx, (const DL_TransportChannelIdentity*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DL-TransportChannelIdentity", (int32_t)i, "DL-DeletedTransChInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DeletedTransChInfoList(rtxContext* RT_RESTRICT ctx, const DL_DeletedTransChInfoList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DeletedTransChInfoList, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_TrCH_TypeId2_r5(rtxContext* RT_RESTRICT ctx, const DL_TrCH_TypeId2_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-TrCH-TypeId2-r5");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "DL-TrCH-TypeId2-r5");
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "DL-TrCH-TypeId2-r5");
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)(pvalue->u.dch - 1) > 31u) {
+            rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.dch);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportChannelIdentity", "dch", -1, "DL-TrCH-TypeId2-r5");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.dch, 1, 32);
+         RT_CHECK_PUT(ctx, cur, stat, "TransportChannelIdentity", "dch", -1, "DL-TrCH-TypeId2-r5");
+         break;
+      case 2:
+         if ((uint64_t)(pvalue->u.dsch - 1) > 31u) {
+            rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.dsch);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportChannelIdentity", "dsch", -1, "DL-TrCH-TypeId2-r5");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.dsch, 1, 32);
+         RT_CHECK_PUT(ctx, cur, stat, "TransportChannelIdentity", "dsch", -1, "DL-TrCH-TypeId2-r5");
+         break;
+      case 3:
+         if ((uint64_t)pvalue->u.hsdsch > 7u) {
+            rtxErrAddStrParm(ctx, "MAC-d-FlowIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.hsdsch);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MAC-d-FlowIdentity", "hsdsch", -1, "DL-TrCH-TypeId2-r5");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.hsdsch, 0, 7);
+         RT_CHECK_PUT(ctx, cur, stat, "MAC-d-FlowIdentity", "hsdsch", -1, "DL-TrCH-TypeId2-r5");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_TrCH_TypeId2_r5(rtxContext* RT_RESTRICT ctx, const DL_TrCH_TypeId2_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_TrCH_TypeId2_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_TransportChannelIdentity_r5(rtxContext* RT_RESTRICT ctx, const DL_TransportChannelIdentity_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-TransportChannelIdentity-r5");
+   /* dl-TransportChannelType */
+   stat = enc_DL_TrCH_TypeId2_r5(ctx, &pvalue->dl_TransportChannelType, cur);
+   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-TransportChannelIdentity-r5");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_TransportChannelIdentity_r5(rtxContext* RT_RESTRICT ctx, const DL_TransportChannelIdentity_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_TransportChannelIdentity_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_DeletedTransChInfoList_r5(rtxContext* RT_RESTRICT ctx, const DL_DeletedTransChInfoList_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-DeletedTransChInfoList-r5");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DL-DeletedTransChInfoList-r5");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DL-TransportChannelIdentity-r5", (int32_t)i, "DL-DeletedTransChInfoList-r5");
+      stat = enc_DL_TransportChannelIdentity_r5(ctx, (const DL_TransportChannelIdentity_r5*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DL-TransportChannelIdentity-r5", (int32_t)i, "DL-DeletedTransChInfoList-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DeletedTransChInfoList_r5(rtxContext* RT_RESTRICT ctx, const DL_DeletedTransChInfoList_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DeletedTransChInfoList_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_TrCH_TypeId2_r7_hsdsch(rtxContext* RT_RESTRICT ctx, const DL_TrCH_TypeId2_r7_hsdsch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)pvalue->u.mac_hs > 7u) {
+            rtxErrAddStrParm(ctx, "MAC-d-FlowIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.mac_hs);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MAC-d-FlowIdentity", "mac-hs", -1, 0);
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.mac_hs, 0, 7);
+         RT_CHECK_PUT(ctx, cur, stat, "MAC-d-FlowIdentity", "mac-hs", -1, 0);
+         break;
+      case 2:
+         if ((uint64_t)pvalue->u.mac_ehs > 7u) {
+            rtxErrAddStrParm(ctx, "MAC-ehs-QueueId");
+            rtxErrAddUIntParm(ctx, pvalue->u.mac_ehs);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MAC-ehs-QueueId", "mac-ehs", -1, 0);
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.mac_ehs, 0, 7);
+         RT_CHECK_PUT(ctx, cur, stat, "MAC-ehs-QueueId", "mac-ehs", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_TrCH_TypeId2_r7_hsdsch(rtxContext* RT_RESTRICT ctx, const DL_TrCH_TypeId2_r7_hsdsch* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_TrCH_TypeId2_r7_hsdsch, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_TrCH_TypeId2_r7(rtxContext* RT_RESTRICT ctx, const DL_TrCH_TypeId2_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-TrCH-TypeId2-r7");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "DL-TrCH-TypeId2-r7");
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "DL-TrCH-TypeId2-r7");
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)(pvalue->u.dch - 1) > 31u) {
+            rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.dch);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportChannelIdentity", "dch", -1, "DL-TrCH-TypeId2-r7");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.dch, 1, 32);
+         RT_CHECK_PUT(ctx, cur, stat, "TransportChannelIdentity", "dch", -1, "DL-TrCH-TypeId2-r7");
+         break;
+      case 2:
+         if ((uint64_t)(pvalue->u.dsch - 1) > 31u) {
+            rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.dsch);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportChannelIdentity", "dsch", -1, "DL-TrCH-TypeId2-r7");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.dsch, 1, 32);
+         RT_CHECK_PUT(ctx, cur, stat, "TransportChannelIdentity", "dsch", -1, "DL-TrCH-TypeId2-r7");
+         break;
+      case 3:
+         if (pvalue->u.hsdsch == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "hsdsch", -1, "DL-TrCH-TypeId2-r7");
+         stat = enc_DL_TrCH_TypeId2_r7_hsdsch(ctx, pvalue->u.hsdsch, cur);
+         RT_CHECK(ctx, stat, 0, "hsdsch", -1, "DL-TrCH-TypeId2-r7");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_TrCH_TypeId2_r7(rtxContext* RT_RESTRICT ctx, const DL_TrCH_TypeId2_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_TrCH_TypeId2_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_TransportChannelIdentity_r7(rtxContext* RT_RESTRICT ctx, const DL_TransportChannelIdentity_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-TransportChannelIdentity-r7");
+   /* dl-TransportChannelType */
+   stat = enc_DL_TrCH_TypeId2_r7(ctx, &pvalue->dl_TransportChannelType, cur);
+   RT_CHECK(ctx, stat, 0, "dl-TransportChannelType", -1, "DL-TransportChannelIdentity-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_TransportChannelIdentity_r7(rtxContext* RT_RESTRICT ctx, const DL_TransportChannelIdentity_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_TransportChannelIdentity_r7, pvalue);
+}
+
+static int enc_DL_DeletedTransChInfoList_r7(rtxContext* RT_RESTRICT ctx, const DL_DeletedTransChInfoList_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-DeletedTransChInfoList-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DL-DeletedTransChInfoList-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DL-TransportChannelIdentity-r7", (int32_t)i, "DL-DeletedTransChInfoList-r7");
+      stat = enc_DL_TransportChannelIdentity_r7(ctx, (const DL_TransportChannelIdentity_r7*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DL-TransportChannelIdentity-r7", (int32_t)i, "DL-DeletedTransChInfoList-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DeletedTransChInfoList_r7(rtxContext* RT_RESTRICT ctx, const DL_DeletedTransChInfoList_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DeletedTransChInfoList_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_DRAC_ClassIdentity(rtxContext* RT_RESTRICT ctx, DRAC_ClassIdentity value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "DRAC-ClassIdentity");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "DRAC-ClassIdentity");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DRAC-ClassIdentity");
+   return 0;
+}
+
+int asn1PE_UMTS_DRAC_ClassIdentity(rtxContext* RT_RESTRICT ctx, DRAC_ClassIdentity value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DRAC_ClassIdentity, value);
+}
+
+RT_MERGED_BODY int enc_TransmissionTimeValidity(rtxContext* RT_RESTRICT ctx, TransmissionTimeValidity value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 255u) {
+      rtxErrAddStrParm(ctx, "TransmissionTimeValidity");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "TransmissionTimeValidity");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 256);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TransmissionTimeValidity");
+   return 0;
+}
+
+int asn1PE_UMTS_TransmissionTimeValidity(rtxContext* RT_RESTRICT ctx, TransmissionTimeValidity value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TransmissionTimeValidity, value);
+}
+
+RT_MERGED_BODY int enc_TimeDurationBeforeRetry(rtxContext* RT_RESTRICT ctx, TimeDurationBeforeRetry value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 255u) {
+      rtxErrAddStrParm(ctx, "TimeDurationBeforeRetry");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "TimeDurationBeforeRetry");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 256);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TimeDurationBeforeRetry");
+   return 0;
+}
+
+int asn1PE_UMTS_TimeDurationBeforeRetry(rtxContext* RT_RESTRICT ctx, TimeDurationBeforeRetry value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TimeDurationBeforeRetry, value);
+}
+
+RT_MERGED_BODY int enc_DRAC_StaticInformation(rtxContext* RT_RESTRICT ctx, const DRAC_StaticInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DRAC-StaticInformation");
+   /* transmissionTimeValidity */
+   if ((uint64_t)(pvalue->transmissionTimeValidity - 1) > 255u) {
+      rtxErrAddStrParm(ctx, "TransmissionTimeValidity");
+      rtxErrAddUIntParm(ctx, pvalue->transmissionTimeValidity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransmissionTimeValidity", "transmissionTimeValidity", -1, "DRAC-StaticInformation");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->transmissionTimeValidity, 1, 256);
+   RT_CHECK_PUT(ctx, cur, stat, "TransmissionTimeValidity", "transmissionTimeValidity", -1, "DRAC-StaticInformation");
+   /* timeDurationBeforeRetry */
+   if ((uint64_t)(pvalue->timeDurationBeforeRetry - 1) > 255u) {
+      rtxErrAddStrParm(ctx, "TimeDurationBeforeRetry");
+      rtxErrAddUIntParm(ctx, pvalue->timeDurationBeforeRetry);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeDurationBeforeRetry", "timeDurationBeforeRetry", -1, "DRAC-StaticInformation");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeDurationBeforeRetry, 1, 256);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeDurationBeforeRetry", "timeDurationBeforeRetry", -1, "DRAC-StaticInformation");
+   /* drac-ClassIdentity */
+   if ((uint64_t)(pvalue->drac_ClassIdentity - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "DRAC-ClassIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->drac_ClassIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DRAC-ClassIdentity", "drac-ClassIdentity", -1, "DRAC-StaticInformation");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->drac_ClassIdentity, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, "DRAC-ClassIdentity", "drac-ClassIdentity", -1, "DRAC-StaticInformation");
+   return 0;
+}
+
+int asn1PE_UMTS_DRAC_StaticInformation(rtxContext* RT_RESTRICT ctx, const DRAC_StaticInformation* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DRAC_StaticInformation, pvalue);
+}
+
+RT_MERGED_BODY int enc_DRAC_StaticInformationList(rtxContext* RT_RESTRICT ctx, const DRAC_StaticInformationList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DRAC-StaticInformationList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DRAC-StaticInformationList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DRAC-StaticInformation", (int32_t)i, "DRAC-StaticInformationList");
+      stat = enc_DRAC_StaticInformation(ctx, (const DRAC_StaticInformation*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DRAC-StaticInformation", (int32_t)i, "DRAC-StaticInformationList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DRAC_StaticInformationList(rtxContext* RT_RESTRICT ctx, const DRAC_StaticInformationList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DRAC_StaticInformationList, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType_non_ScheduledTransGrantInfo(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType_non_ScheduledTransGrantInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* maxMAC-e-PDUContents */
+   if ((uint64_t)(pvalue->maxMAC_e_PDUContents - 1) > 19981u) {
+      rtxErrAddStrParm(ctx, "maxMAC-e-PDUContents");
+      rtxErrAddUIntParm(ctx, pvalue->maxMAC_e_PDUContents);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "maxMAC-e-PDUContents", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxMAC_e_PDUContents, 1, 19982);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "maxMAC-e-PDUContents", -1, 0);
+   /* ms2-NonSchedTransmGrantHARQAlloc */
    if (pvalue->m & 0x1u) {
       RT_SET_SIZE(ctx, 8, 8);
-      stat = pe_BitString32(ctx, &pvalue->ms2_SchedTransmGrantHARQAlloc, 8, 8);
-      RT_CHECK(ctx, stat, 0, "ms2-SchedTransmGrantHARQAlloc", -1, "E-DPDCH-SchedulingTransmConfiguration");
-   }
-   /* servingGrant */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_E_DPDCH_SchedulingTransmConfiguration_servingGrant(ctx, &pvalue->servingGrant);
-      RT_CHECK(ctx, stat, 0, "servingGrant", -1, "E-DPDCH-SchedulingTransmConfiguration");
+      stat = pe_BitString32At(ctx, cur, &pvalue->ms2_NonSchedTransmGrantHARQAlloc, 8, 8);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "ms2-NonSchedTransmGrantHARQAlloc", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_UL_16QAM_Settings(rtxContext* RT_RESTRICT ctx, const UL_16QAM_Settings* RT_RESTRICT pvalue)
+int asn1PE_UMTS_E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType_non_ScheduledTransGrantInfo(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType_non_ScheduledTransGrantInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType_non_ScheduledTransGrantInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-16QAM-Settings");
-   /* beta-Ed-Gain-E-AGCH-Table-Selection */
-   if ((uint64_t)pvalue->beta_Ed_Gain_E_AGCH_Table_Selection > 1u) {
-      rtxErrAddStrParm(ctx, "beta-Ed-Gain-E-AGCH-Table-Selection");
-      rtxErrAddUIntParm(ctx, pvalue->beta_Ed_Gain_E_AGCH_Table_Selection);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "beta-Ed-Gain-E-AGCH-Table-Selection", -1, "UL-16QAM-Settings");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.non_ScheduledTransGrantInfo == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "non-ScheduledTransGrantInfo", -1, 0);
+         stat = enc_E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType_non_ScheduledTransGrantInfo(ctx, pvalue->u.non_ScheduledTransGrantInfo, cur);
+         RT_CHECK(ctx, stat, 0, "non-ScheduledTransGrantInfo", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
    }
-   stat = pe_ConsUInt64(ctx, pvalue->beta_Ed_Gain_E_AGCH_Table_Selection, 0, 1);
-   RT_CHECK(ctx, stat, 0, "beta-Ed-Gain-E-AGCH-Table-Selection", -1, "UL-16QAM-Settings");
    return 0;
 }
 
-int asn1PE_UMTS_UL_EDCH_Information_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_DCH_AddReconf_MAC_d_Flow(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_Flow* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-DCH-AddReconf-MAC-d-Flow");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* e-DPCCH-Info */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-DCH-AddReconf-MAC-d-Flow");
+   /* mac-d-FlowIdentity */
+   if ((uint64_t)pvalue->mac_d_FlowIdentity > 7u) {
+      rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->mac_d_FlowIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "E-DCH-MAC-d-FlowIdentity", "mac-d-FlowIdentity", -1, "E-DCH-AddReconf-MAC-d-Flow");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_d_FlowIdentity, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "E-DCH-MAC-d-FlowIdentity", "mac-d-FlowIdentity", -1, "E-DCH-AddReconf-MAC-d-Flow");
+   /* mac-d-FlowPowerOffset */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_E_DPCCH_Info_r7(ctx, &pvalue->e_DPCCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-DPCCH-Info", -1, 0);
+      if ((uint64_t)pvalue->mac_d_FlowPowerOffset > 6u) {
+         rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowPowerOffset");
+         rtxErrAddUIntParm(ctx, pvalue->mac_d_FlowPowerOffset);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "E-DCH-MAC-d-FlowPowerOffset", "mac-d-FlowPowerOffset", -1, "E-DCH-AddReconf-MAC-d-Flow");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_d_FlowPowerOffset, 0, 6);
+      RT_CHECK_PUT(ctx, cur, stat, "E-DCH-MAC-d-FlowPowerOffset", "mac-d-FlowPowerOffset", -1, "E-DCH-AddReconf-MAC-d-Flow");
    }
-   /* e-DPDCH-Info */
+   /* mac-d-FlowMaxRetrans */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_E_DPDCH_Info_r8(ctx, &pvalue->e_DPDCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-DPDCH-Info", -1, 0);
+      if ((uint64_t)pvalue->mac_d_FlowMaxRetrans > 15u) {
+         rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowMaxRetrans");
+         rtxErrAddUIntParm(ctx, pvalue->mac_d_FlowMaxRetrans);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "E-DCH-MAC-d-FlowMaxRetrans", "mac-d-FlowMaxRetrans", -1, "E-DCH-AddReconf-MAC-d-Flow");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_d_FlowMaxRetrans, 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "E-DCH-MAC-d-FlowMaxRetrans", "mac-d-FlowMaxRetrans", -1, "E-DCH-AddReconf-MAC-d-Flow");
    }
-   /* schedulingTransmConfiguration */
+   /* mac-d-FlowMultiplexingList */
    if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_E_DPDCH_SchedulingTransmConfiguration(ctx, &pvalue->schedulingTransmConfiguration);
-      RT_CHECK(ctx, stat, 0, "schedulingTransmConfiguration", -1, 0);
+      stat = enc_E_DCH_MAC_d_FlowMultiplexingList(ctx, pvalue->mac_d_FlowMultiplexingList, cur);
+      RT_CHECK(ctx, stat, 0, "mac-d-FlowMultiplexingList", -1, "E-DCH-AddReconf-MAC-d-Flow");
    }
-   /* ul-16QAM-Settings */
+   /* transmissionGrantType */
    if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_UL_16QAM_Settings(ctx, &pvalue->ul_16QAM_Settings);
-      RT_CHECK(ctx, stat, 0, "ul-16QAM-Settings", -1, 0);
+      stat = enc_E_DCH_AddReconf_MAC_d_Flow_transmissionGrantType(ctx, &pvalue->transmissionGrantType, cur);
+      RT_CHECK(ctx, stat, 0, "transmissionGrantType", -1, "E-DCH-AddReconf-MAC-d-Flow");
    }
    return 0;
 }
 
-int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_RUCCH(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_RUCCH value)
+int asn1PE_UMTS_E_DCH_AddReconf_MAC_d_Flow(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_Flow* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_AddReconf_MAC_d_Flow, pvalue);
 }
 
-int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_e_RUCCH_Midamble(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_e_RUCCH_Midamble value)
+RT_MERGED_BODY int enc_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_adv(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_adv value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_SCHED(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_SCHED value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SF16Codes(rtxContext* RT_RESTRICT ctx, SF16Codes value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SF16Codes");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SF16Codes");
-   return 0;
-}
-
-int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF16(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF16* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (i = 0; i < pvalue->n; i++) {
-      if (pvalue->elem[i] > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "SF16Codes", "SF16Codes", (int32_t)i, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 7);
-      RT_CHECK(ctx, stat, "SF16Codes", "SF16Codes", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SF8Codes(rtxContext* RT_RESTRICT ctx, SF8Codes value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SF8Codes");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SF8Codes");
-   return 0;
-}
-
-int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF8(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (i = 0; i < pvalue->n; i++) {
-      if (pvalue->elem[i] > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "SF8Codes", "SF8Codes", (int32_t)i, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 7);
-      RT_CHECK(ctx, stat, "SF8Codes", "SF8Codes", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.sF16 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sF16", -1, 0);
-         stat = asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF16(ctx, pvalue->u.sF16);
-         RT_CHECK(ctx, stat, 0, "sF16", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.sF8 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sF8", -1, 0);
-         stat = asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF8(ctx, pvalue->u.sF8);
-         RT_CHECK(ctx, stat, 0, "sF8", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SF32Codes(rtxContext* RT_RESTRICT ctx, SF32Codes value)
-{
-   int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SF32Codes");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SF32Codes");
-   return 0;
-}
-
-int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF32(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF32* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (i = 0; i < pvalue->n; i++) {
-      if (pvalue->elem[i] > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "SF32Codes", "SF32Codes", (int32_t)i, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 15);
-      RT_CHECK(ctx, stat, "SF32Codes", "SF32Codes", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SF16Codes2(rtxContext* RT_RESTRICT ctx, SF16Codes2 value)
-{
-   int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SF16Codes2");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SF16Codes2");
-   return 0;
-}
-
-int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF816(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF816* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (i = 0; i < pvalue->n; i++) {
-      if (pvalue->elem[i] > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "SF16Codes2", "SF16Codes2", (int32_t)i, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 15);
-      RT_CHECK(ctx, stat, "SF16Codes2", "SF16Codes2", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.sF32 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sF32", -1, 0);
-         stat = asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF32(ctx, pvalue->u.sF32);
-         RT_CHECK(ctx, stat, 0, "sF32", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.sF816 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sF816", -1, 0);
-         stat = asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF816(ctx, pvalue->u.sF816);
-         RT_CHECK(ctx, stat, 0, "sF816", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
-         stat = asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
-         stat = asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* e-RUCCH-ConstantValue */
-   if (pvalue->e_RUCCH_ConstantValue < -35 || pvalue->e_RUCCH_ConstantValue > 10) {
-      rtxErrAddStrParm(ctx, "e-RUCCH-ConstantValue");
-      rtxErrAddIntParm(ctx, pvalue->e_RUCCH_ConstantValue);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "e-RUCCH-ConstantValue", -1, 0);
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* maxMAC-e-PDUContents */
+   if ((uint64_t)(pvalue->maxMAC_e_PDUContents - 1) > 19981u) {
+      rtxErrAddStrParm(ctx, "maxMAC-e-PDUContents");
+      rtxErrAddUIntParm(ctx, pvalue->maxMAC_e_PDUContents);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "maxMAC-e-PDUContents", -1, 0);
    }
-   stat = pe_ConsInt64(ctx, pvalue->e_RUCCH_ConstantValue, -35, 10);
-   RT_CHECK(ctx, stat, 0, "e-RUCCH-ConstantValue", -1, 0);
-   /* e-RUCCH-PersistenceScalingFactor */
-   if (pvalue->e_RUCCH_PersistenceScalingFactor > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->e_RUCCH_PersistenceScalingFactor);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PersistenceScalingFactor", "e-RUCCH-PersistenceScalingFactor", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->e_RUCCH_PersistenceScalingFactor, 0, 7);
-   RT_CHECK(ctx, stat, "PersistenceScalingFactor", "e-RUCCH-PersistenceScalingFactor", -1, 0);
-   /* t-RUCCH */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxMAC_e_PDUContents, 1, 19982);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "maxMAC-e-PDUContents", -1, 0);
+   /* ms2-NonSchedTransmGrantHARQAlloc */
    if (pvalue->m & 0x1u) {
-      if (pvalue->t_RUCCH > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->t_RUCCH);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "t-RUCCH", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_RUCCH, 0, 7);
-      RT_CHECK(ctx, stat, 0, "t-RUCCH", -1, 0);
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pe_BitString32At(ctx, cur, &pvalue->ms2_NonSchedTransmGrantHARQAlloc, 8, 8);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "ms2-NonSchedTransmGrantHARQAlloc", -1, 0);
    }
-   /* e-RUCCH-TS-Number */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->e_RUCCH_TS_Number > 14u) {
-         rtxErrAddStrParm(ctx, "e-RUCCH-TS-Number");
-         rtxErrAddUIntParm(ctx, pvalue->e_RUCCH_TS_Number);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "e-RUCCH-TS-Number", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->e_RUCCH_TS_Number, 0, 14);
-      RT_CHECK(ctx, stat, 0, "e-RUCCH-TS-Number", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
    }
-   /* e-RUCCH-Midamble */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->e_RUCCH_Midamble > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->e_RUCCH_Midamble);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "e-RUCCH-Midamble", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->e_RUCCH_Midamble, 0, 1);
-      RT_CHECK(ctx, stat, 0, "e-RUCCH-Midamble", -1, 0);
-   }
-   /* t-adv */
-   if (pvalue->m & 0x8u) {
-      if (pvalue->t_adv > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->t_adv);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "t-adv", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_adv, 0, 7);
-      RT_CHECK(ctx, stat, 0, "t-adv", -1, 0);
-   }
-   /* t-SCHED */
-   if (pvalue->m & 0x10u) {
-      if (pvalue->t_SCHED > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->t_SCHED);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "t-SCHED", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_SCHED, 0, 7);
-      RT_CHECK(ctx, stat, 0, "t-SCHED", -1, 0);
-   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* modeSpecificInfo */
-   stat = asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   stat = enc_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
    RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd128_t_RUCCH(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd128_t_RUCCH value)
+int asn1PE_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.non_ScheduledTransGrantInfo == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "non-ScheduledTransGrantInfo", -1, 0);
+         stat = enc_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType_non_ScheduledTransGrantInfo(ctx, pvalue->u.non_ScheduledTransGrantInfo, cur);
+         RT_CHECK(ctx, stat, 0, "non-ScheduledTransGrantInfo", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd128_t_WAIT(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd128_t_WAIT value)
+int asn1PE_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_DCH_AddReconf_MAC_d_Flow_r7(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_Flow_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
+   /* mac-d-FlowIdentity */
+   if ((uint64_t)pvalue->mac_d_FlowIdentity > 7u) {
+      rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->mac_d_FlowIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "E-DCH-MAC-d-FlowIdentity", "mac-d-FlowIdentity", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_d_FlowIdentity, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "E-DCH-MAC-d-FlowIdentity", "mac-d-FlowIdentity", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
+   /* mac-d-FlowPowerOffset */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->mac_d_FlowPowerOffset > 6u) {
+         rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowPowerOffset");
+         rtxErrAddUIntParm(ctx, pvalue->mac_d_FlowPowerOffset);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "E-DCH-MAC-d-FlowPowerOffset", "mac-d-FlowPowerOffset", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_d_FlowPowerOffset, 0, 6);
+      RT_CHECK_PUT(ctx, cur, stat, "E-DCH-MAC-d-FlowPowerOffset", "mac-d-FlowPowerOffset", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
+   }
+   /* mac-d-FlowMaxRetrans */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->mac_d_FlowMaxRetrans > 15u) {
+         rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowMaxRetrans");
+         rtxErrAddUIntParm(ctx, pvalue->mac_d_FlowMaxRetrans);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "E-DCH-MAC-d-FlowMaxRetrans", "mac-d-FlowMaxRetrans", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_d_FlowMaxRetrans, 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "E-DCH-MAC-d-FlowMaxRetrans", "mac-d-FlowMaxRetrans", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
+   }
+   /* mac-d-FlowRetransTimer */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->mac_d_FlowRetransTimer > 29) {
+         rtxErrAddUIntParm(ctx, pvalue->mac_d_FlowRetransTimer);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "E-DCH-MAC-d-FlowRetransTimer", "mac-d-FlowRetransTimer", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_d_FlowRetransTimer, 0, 29);
+      RT_CHECK_PUT(ctx, cur, stat, "E-DCH-MAC-d-FlowRetransTimer", "mac-d-FlowRetransTimer", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
+   }
+   /* mac-d-FlowMultiplexingList */
+   if (pvalue->m & 0x8u) {
+      stat = enc_E_DCH_MAC_d_FlowMultiplexingList(ctx, pvalue->mac_d_FlowMultiplexingList, cur);
+      RT_CHECK(ctx, stat, 0, "mac-d-FlowMultiplexingList", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
+   }
+   /* transmissionGrantType */
+   if (pvalue->m & 0x10u) {
+      stat = enc_E_DCH_AddReconf_MAC_d_Flow_r7_transmissionGrantType(ctx, &pvalue->transmissionGrantType, cur);
+      RT_CHECK(ctx, stat, 0, "transmissionGrantType", -1, "E-DCH-AddReconf-MAC-d-Flow-r7");
+   }
    return 0;
 }
 
-int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd128_t_SI(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd128_t_SI value)
+int asn1PE_UMTS_E_DCH_AddReconf_MAC_d_Flow_r7(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_Flow_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_AddReconf_MAC_d_Flow_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_DCH_AddReconf_MAC_d_FlowList(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_FlowList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-DCH-AddReconf-MAC-d-FlowList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "E-DCH-AddReconf-MAC-d-FlowList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "E-DCH-AddReconf-MAC-d-Flow", (int32_t)i, "E-DCH-AddReconf-MAC-d-FlowList");
+      stat = enc_E_DCH_AddReconf_MAC_d_Flow(ctx, (const E_DCH_AddReconf_MAC_d_Flow*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "E-DCH-AddReconf-MAC-d-Flow", (int32_t)i, "E-DCH-AddReconf-MAC-d-FlowList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_AddReconf_MAC_d_FlowList(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_FlowList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_AddReconf_MAC_d_FlowList, pvalue);
+}
+
+static int enc_E_DCH_AddReconf_MAC_d_FlowList_r7(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_FlowList_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-DCH-AddReconf-MAC-d-FlowList-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "E-DCH-AddReconf-MAC-d-FlowList-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "E-DCH-AddReconf-MAC-d-Flow-r7", (int32_t)i, "E-DCH-AddReconf-MAC-d-FlowList-r7");
+      stat = enc_E_DCH_AddReconf_MAC_d_Flow_r7(ctx, (const E_DCH_AddReconf_MAC_d_Flow_r7*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "E-DCH-AddReconf-MAC-d-Flow-r7", (int32_t)i, "E-DCH-AddReconf-MAC-d-FlowList-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_AddReconf_MAC_d_FlowList_r7(rtxContext* RT_RESTRICT ctx, const E_DCH_AddReconf_MAC_d_FlowList_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_AddReconf_MAC_d_FlowList_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_PowerOffsetInfoShort_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const PowerOffsetInfoShort_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* gainFactorBetaC */
+   if ((uint64_t)pvalue->gainFactorBetaC > 15u) {
+      rtxErrAddStrParm(ctx, "GainFactor");
+      rtxErrAddUIntParm(ctx, pvalue->gainFactorBetaC);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "GainFactor", "gainFactorBetaC", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->gainFactorBetaC, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "GainFactor", "gainFactorBetaC", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PowerOffsetInfoShort_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const PowerOffsetInfoShort_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PowerOffsetInfoShort_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_PowerOffsetInfoShort_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const PowerOffsetInfoShort_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_PowerOffsetInfoShort_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PowerOffsetInfoShort_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const PowerOffsetInfoShort_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PowerOffsetInfoShort_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_PowerOffsetInfoShort(rtxContext* RT_RESTRICT ctx, const PowerOffsetInfoShort* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PowerOffsetInfoShort");
+   /* referenceTFC */
+   if ((uint64_t)pvalue->referenceTFC > 1023u) {
+      rtxErrAddStrParm(ctx, "TFC-Value");
+      rtxErrAddUIntParm(ctx, pvalue->referenceTFC);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TFC-Value", "referenceTFC", -1, "PowerOffsetInfoShort");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->referenceTFC, 0, 1023);
+   RT_CHECK_PUT(ctx, cur, stat, "TFC-Value", "referenceTFC", -1, "PowerOffsetInfoShort");
+   /* modeSpecificInfo */
+   stat = enc_PowerOffsetInfoShort_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "PowerOffsetInfoShort");
+   /* gainFactorBetaD */
+   if ((uint64_t)pvalue->gainFactorBetaD > 15u) {
+      rtxErrAddStrParm(ctx, "GainFactor");
+      rtxErrAddUIntParm(ctx, pvalue->gainFactorBetaD);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "GainFactor", "gainFactorBetaD", -1, "PowerOffsetInfoShort");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->gainFactorBetaD, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "GainFactor", "gainFactorBetaD", -1, "PowerOffsetInfoShort");
+   return 0;
+}
+
+int asn1PE_UMTS_PowerOffsetInfoShort(rtxContext* RT_RESTRICT ctx, const PowerOffsetInfoShort* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PowerOffsetInfoShort, pvalue);
+}
+
+RT_MERGED_BODY int enc_TFC_SubsetList_element_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const TFC_SubsetList_element_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tfcs-ID */
+   if (pvalue->m & 0x1u) {
+      stat = enc_TFCS_Identity(ctx, &pvalue->tfcs_ID, cur);
+      RT_CHECK(ctx, stat, 0, "tfcs-ID", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFC_SubsetList_element_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const TFC_SubsetList_element_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TFC_SubsetList_element_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_TFC_SubsetList_element_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const TFC_SubsetList_element_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_TFC_SubsetList_element_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFC_SubsetList_element_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const TFC_SubsetList_element_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TFC_SubsetList_element_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_TFC_SubsetList_element(rtxContext* RT_RESTRICT ctx, const TFC_SubsetList_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* modeSpecificInfo */
+   stat = enc_TFC_SubsetList_element_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
+   /* tfc-Subset */
+   stat = enc_TFC_Subset(ctx, &pvalue->tfc_Subset, cur);
+   RT_CHECK(ctx, stat, 0, "tfc-Subset", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_TFC_SubsetList_element(rtxContext* RT_RESTRICT ctx, const TFC_SubsetList_element* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TFC_SubsetList_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_TFC_SubsetList(rtxContext* RT_RESTRICT ctx, const TFC_SubsetList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TFC-SubsetList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 1024);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "TFC-SubsetList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "TFC-SubsetList");
+      stat = enc_TFC_SubsetList_element(ctx, (const TFC_SubsetList_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "TFC-SubsetList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TFC_SubsetList(rtxContext* RT_RESTRICT ctx, const TFC_SubsetList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TFC_SubsetList, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_AddReconfTransChInformation_r6_dch_usch(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r6_dch_usch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ul-TransportChannelType */
+   if (pvalue->ul_TransportChannelType > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->ul_TransportChannelType);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UL-TrCH-Type", "ul-TransportChannelType", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ul_TransportChannelType, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, 0);
+   /* transportChannelIdentity */
+   if ((uint64_t)(pvalue->transportChannelIdentity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->transportChannelIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportChannelIdentity", "transportChannelIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->transportChannelIdentity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, 0);
+   /* transportFormatSet */
+   stat = enc_TransportFormatSet(ctx, &pvalue->transportFormatSet, cur);
+   RT_CHECK(ctx, stat, 0, "transportFormatSet", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInformation_r6_dch_usch(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r6_dch_usch* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_AddReconfTransChInformation_r6_dch_usch, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_AddReconfTransChInformation_r6_e_dch_harq_Info(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r6_e_dch_harq_Info value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInformation_r6_e_dch_harq_Info(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r6_e_dch_harq_Info value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_AddReconfTransChInformation_r6_e_dch_harq_Info, value);
+}
+
+RT_MERGED_BODY int enc_UL_AddReconfTransChInformation_r6_e_dch(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r6_e_dch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tti */
+   if (pvalue->tti > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->tti);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "E-DCH-TTI", "tti", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tti, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "E-DCH-TTI", "tti", -1, 0);
+   /* harq-Info */
+   if (pvalue->harq_Info > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->harq_Info);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "harq-Info", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->harq_Info, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "harq-Info", -1, 0);
+   /* addReconf-MAC-d-FlowList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_E_DCH_AddReconf_MAC_d_FlowList(ctx, &pvalue->addReconf_MAC_d_FlowList, cur);
+      RT_CHECK(ctx, stat, 0, "addReconf-MAC-d-FlowList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInformation_r6_e_dch(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r6_e_dch* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_AddReconfTransChInformation_r6_e_dch, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_AddReconfTransChInformation_r6(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-AddReconfTransChInformation-r6");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "UL-AddReconfTransChInformation-r6");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-AddReconfTransChInformation-r6");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.dch_usch == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dch-usch", -1, "UL-AddReconfTransChInformation-r6");
+         stat = enc_UL_AddReconfTransChInformation_r6_dch_usch(ctx, pvalue->u.dch_usch, cur);
+         RT_CHECK(ctx, stat, 0, "dch-usch", -1, "UL-AddReconfTransChInformation-r6");
+         break;
+      case 2:
+         if (pvalue->u.e_dch == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e-dch", -1, "UL-AddReconfTransChInformation-r6");
+         stat = enc_UL_AddReconfTransChInformation_r6_e_dch(ctx, pvalue->u.e_dch, cur);
+         RT_CHECK(ctx, stat, 0, "e-dch", -1, "UL-AddReconfTransChInformation-r6");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInformation_r6(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_AddReconfTransChInformation_r6, pvalue);
+}
+
+static int enc_UL_AddReconfTransChInfoList_r6(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInfoList_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-AddReconfTransChInfoList-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "UL-AddReconfTransChInfoList-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "UL-AddReconfTransChInformation-r6", (int32_t)i, "UL-AddReconfTransChInfoList-r6");
+      stat = enc_UL_AddReconfTransChInformation_r6(ctx, (const UL_AddReconfTransChInformation_r6*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "UL-AddReconfTransChInformation-r6", (int32_t)i, "UL-AddReconfTransChInfoList-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInfoList_r6(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInfoList_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_AddReconfTransChInfoList_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_AddReconfTransChInformation_r7_dch_usch(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r7_dch_usch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ul-TransportChannelType */
+   if (pvalue->ul_TransportChannelType > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->ul_TransportChannelType);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UL-TrCH-Type", "ul-TransportChannelType", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ul_TransportChannelType, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, 0);
+   /* transportChannelIdentity */
+   if ((uint64_t)(pvalue->transportChannelIdentity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->transportChannelIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportChannelIdentity", "transportChannelIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->transportChannelIdentity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, 0);
+   /* transportFormatSet */
+   stat = enc_TransportFormatSet(ctx, &pvalue->transportFormatSet, cur);
+   RT_CHECK(ctx, stat, 0, "transportFormatSet", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInformation_r7_dch_usch(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r7_dch_usch* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_AddReconfTransChInformation_r7_dch_usch, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_AddReconfTransChInformation_r7_e_dch_modeSpecific_fdd(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r7_e_dch_modeSpecific_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tti */
+   if (pvalue->tti > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->tti);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "E-DCH-TTI", "tti", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tti, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "E-DCH-TTI", "tti", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInformation_r7_e_dch_modeSpecific_fdd(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r7_e_dch_modeSpecific_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_AddReconfTransChInformation_r7_e_dch_modeSpecific_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_AddReconfTransChInformation_r7_e_dch_modeSpecific(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r7_e_dch_modeSpecific* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_UL_AddReconfTransChInformation_r7_e_dch_modeSpecific_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInformation_r7_e_dch_modeSpecific(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r7_e_dch_modeSpecific* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_AddReconfTransChInformation_r7_e_dch_modeSpecific, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_AddReconfTransChInformation_r7_e_dch_harq_Info(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r7_e_dch_harq_Info value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInformation_r7_e_dch_harq_Info(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r7_e_dch_harq_Info value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_AddReconfTransChInformation_r7_e_dch_harq_Info, value);
+}
+
+RT_MERGED_BODY int enc_UL_AddReconfTransChInformation_r7_e_dch(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r7_e_dch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* modeSpecific */
+   stat = enc_UL_AddReconfTransChInformation_r7_e_dch_modeSpecific(ctx, &pvalue->modeSpecific, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecific", -1, 0);
+   /* harq-Info */
+   if (pvalue->harq_Info > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->harq_Info);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "harq-Info", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->harq_Info, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "harq-Info", -1, 0);
+   /* addReconf-MAC-d-FlowList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_E_DCH_AddReconf_MAC_d_FlowList_r7(ctx, &pvalue->addReconf_MAC_d_FlowList, cur);
+      RT_CHECK(ctx, stat, 0, "addReconf-MAC-d-FlowList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInformation_r7_e_dch(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r7_e_dch* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_AddReconfTransChInformation_r7_e_dch, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_AddReconfTransChInformation_r7(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-AddReconfTransChInformation-r7");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "UL-AddReconfTransChInformation-r7");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-AddReconfTransChInformation-r7");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.dch_usch == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dch-usch", -1, "UL-AddReconfTransChInformation-r7");
+         stat = enc_UL_AddReconfTransChInformation_r7_dch_usch(ctx, pvalue->u.dch_usch, cur);
+         RT_CHECK(ctx, stat, 0, "dch-usch", -1, "UL-AddReconfTransChInformation-r7");
+         break;
+      case 2:
+         if (pvalue->u.e_dch == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e-dch", -1, "UL-AddReconfTransChInformation-r7");
+         stat = enc_UL_AddReconfTransChInformation_r7_e_dch(ctx, pvalue->u.e_dch, cur);
+         RT_CHECK(ctx, stat, 0, "e-dch", -1, "UL-AddReconfTransChInformation-r7");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInformation_r7(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_AddReconfTransChInformation_r7, pvalue);
+}
+
+static int enc_UL_AddReconfTransChInfoList_r7(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInfoList_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-AddReconfTransChInfoList-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "UL-AddReconfTransChInfoList-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "UL-AddReconfTransChInformation-r7", (int32_t)i, "UL-AddReconfTransChInfoList-r7");
+      stat = enc_UL_AddReconfTransChInformation_r7(ctx, (const UL_AddReconfTransChInformation_r7*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "UL-AddReconfTransChInformation-r7", (int32_t)i, "UL-AddReconfTransChInfoList-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInfoList_r7(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInfoList_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_AddReconfTransChInfoList_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_AddReconfTransChInformation_r8_dch_usch(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r8_dch_usch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ul-TransportChannelType */
+   if (pvalue->ul_TransportChannelType > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->ul_TransportChannelType);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UL-TrCH-Type", "ul-TransportChannelType", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ul_TransportChannelType, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, 0);
+   /* transportChannelIdentity */
+   if ((uint64_t)(pvalue->transportChannelIdentity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->transportChannelIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportChannelIdentity", "transportChannelIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->transportChannelIdentity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, 0);
+   /* transportFormatSet */
+   stat = enc_TransportFormatSet(ctx, &pvalue->transportFormatSet, cur);
+   RT_CHECK(ctx, stat, 0, "transportFormatSet", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInformation_r8_dch_usch(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r8_dch_usch* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_AddReconfTransChInformation_r8_dch_usch, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_AddReconfTransChInformation_r8_e_dch_ul_MAC_HeaderType(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8_e_dch_ul_MAC_HeaderType value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInformation_r8_e_dch_ul_MAC_HeaderType(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8_e_dch_ul_MAC_HeaderType value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_AddReconfTransChInformation_r8_e_dch_ul_MAC_HeaderType, value);
+}
+
+RT_MERGED_BODY int enc_UL_AddReconfTransChInformation_r8_e_dch_modeSpecific_fdd(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r8_e_dch_modeSpecific_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tti */
+   if (pvalue->tti > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->tti);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "E-DCH-TTI", "tti", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tti, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "E-DCH-TTI", "tti", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInformation_r8_e_dch_modeSpecific_fdd(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r8_e_dch_modeSpecific_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_AddReconfTransChInformation_r8_e_dch_modeSpecific_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_AddReconfTransChInformation_r8_e_dch_modeSpecific(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r8_e_dch_modeSpecific* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_UL_AddReconfTransChInformation_r8_e_dch_modeSpecific_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInformation_r8_e_dch_modeSpecific(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r8_e_dch_modeSpecific* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_AddReconfTransChInformation_r8_e_dch_modeSpecific, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_AddReconfTransChInformation_r8_e_dch_harq_Info(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8_e_dch_harq_Info value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInformation_r8_e_dch_harq_Info(rtxContext* RT_RESTRICT ctx, UL_AddReconfTransChInformation_r8_e_dch_harq_Info value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_AddReconfTransChInformation_r8_e_dch_harq_Info, value);
+}
+
+RT_MERGED_BODY int enc_UL_AddReconfTransChInformation_r8_e_dch(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r8_e_dch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-MAC-HeaderType */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->ul_MAC_HeaderType > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->ul_MAC_HeaderType);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "ul-MAC-HeaderType", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ul_MAC_HeaderType, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "ul-MAC-HeaderType", -1, 0);
+   }
+   /* modeSpecific */
+   stat = enc_UL_AddReconfTransChInformation_r8_e_dch_modeSpecific(ctx, &pvalue->modeSpecific, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecific", -1, 0);
+   /* harq-Info */
+   if (pvalue->harq_Info > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->harq_Info);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "harq-Info", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->harq_Info, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "harq-Info", -1, 0);
+   /* addReconf-MAC-d-FlowList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_E_DCH_AddReconf_MAC_d_FlowList_r7(ctx, &pvalue->addReconf_MAC_d_FlowList, cur);
+      RT_CHECK(ctx, stat, 0, "addReconf-MAC-d-FlowList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInformation_r8_e_dch(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r8_e_dch* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_AddReconfTransChInformation_r8_e_dch, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_AddReconfTransChInformation_r8(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-AddReconfTransChInformation-r8");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "UL-AddReconfTransChInformation-r8");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-AddReconfTransChInformation-r8");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.dch_usch == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dch-usch", -1, "UL-AddReconfTransChInformation-r8");
+         stat = enc_UL_AddReconfTransChInformation_r8_dch_usch(ctx, pvalue->u.dch_usch, cur);
+         RT_CHECK(ctx, stat, 0, "dch-usch", -1, "UL-AddReconfTransChInformation-r8");
+         break;
+      case 2:
+         if (pvalue->u.e_dch == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e-dch", -1, "UL-AddReconfTransChInformation-r8");
+         stat = enc_UL_AddReconfTransChInformation_r8_e_dch(ctx, pvalue->u.e_dch, cur);
+         RT_CHECK(ctx, stat, 0, "e-dch", -1, "UL-AddReconfTransChInformation-r8");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInformation_r8(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInformation_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_AddReconfTransChInformation_r8, pvalue);
+}
+
+static int enc_UL_AddReconfTransChInfoList_r8(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInfoList_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-AddReconfTransChInfoList-r8");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "UL-AddReconfTransChInfoList-r8");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "UL-AddReconfTransChInformation-r8", (int32_t)i, "UL-AddReconfTransChInfoList-r8");
+      stat = enc_UL_AddReconfTransChInformation_r8(ctx, (const UL_AddReconfTransChInformation_r8*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "UL-AddReconfTransChInformation-r8", (int32_t)i, "UL-AddReconfTransChInfoList-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_AddReconfTransChInfoList_r8(rtxContext* RT_RESTRICT ctx, const UL_AddReconfTransChInfoList_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_AddReconfTransChInfoList_r8, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_CommonTransChInfo_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_CommonTransChInfo_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ul-TFCS */
+   stat = enc_TFCS(ctx, &pvalue->ul_TFCS, cur);
+   RT_CHECK(ctx, stat, 0, "ul-TFCS", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_CommonTransChInfo_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_CommonTransChInfo_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_CommonTransChInfo_r4_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_CommonTransChInfo_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_CommonTransChInfo_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* individualUL-CCTrCH-InfoList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_IndividualUL_CCTrCH_InfoList(ctx, &pvalue->individualUL_CCTrCH_InfoList, cur);
+      RT_CHECK(ctx, stat, 0, "individualUL-CCTrCH-InfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_CommonTransChInfo_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_CommonTransChInfo_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_CommonTransChInfo_r4_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_CommonTransChInfo_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_CommonTransChInfo_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_UL_CommonTransChInfo_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_UL_CommonTransChInfo_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_CommonTransChInfo_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_CommonTransChInfo_r4_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_CommonTransChInfo_r4_modeSpecificInfo, pvalue);
+}
+
+static int enc_UL_CommonTransChInfo_r4(rtxContext* RT_RESTRICT ctx, const UL_CommonTransChInfo_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-CommonTransChInfo-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UL-CommonTransChInfo-r4");
+   /* tfc-Subset */
+   if (pvalue->m & 0x1u) {
+      stat = enc_TFC_Subset(ctx, &pvalue->tfc_Subset, cur);
+      RT_CHECK(ctx, stat, 0, "tfc-Subset", -1, "UL-CommonTransChInfo-r4");
+   }
+   /* prach-TFCS */
+   if (pvalue->m & 0x2u) {
+      stat = enc_TFCS(ctx, &pvalue->prach_TFCS, cur);
+      RT_CHECK(ctx, stat, 0, "prach-TFCS", -1, "UL-CommonTransChInfo-r4");
+   }
+   /* modeSpecificInfo */
+   if (pvalue->m & 0x4u) {
+      stat = enc_UL_CommonTransChInfo_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+      RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-CommonTransChInfo-r4");
+   }
+   /* tfc-SubsetList */
+   if (pvalue->m & 0x8u) {
+      stat = enc_TFC_SubsetList(ctx, &pvalue->tfc_SubsetList, cur);
+      RT_CHECK(ctx, stat, 0, "tfc-SubsetList", -1, "UL-CommonTransChInfo-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_CommonTransChInfo_r4(rtxContext* RT_RESTRICT ctx, const UL_CommonTransChInfo_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_CommonTransChInfo_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DeletedTransChInfoList(rtxContext* RT_RESTRICT ctx, const UL_DeletedTransChInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-DeletedTransChInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "UL-DeletedTransChInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "UL-TransportChannelIdentity", (int32_t)i, "UL-DeletedTransChInfoList");
+      stat = enc_UL_TransportChannelIdentity(ctx, (const UL_TransportChannelIdentity*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "UL-TransportChannelIdentity", (int32_t)i, "UL-DeletedTransChInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DeletedTransChInfoList(rtxContext* RT_RESTRICT ctx, const UL_DeletedTransChInfoList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DeletedTransChInfoList, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_TransportChannelIdentity_r6_dch_usch(rtxContext* RT_RESTRICT ctx, const UL_TransportChannelIdentity_r6_dch_usch* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ul-TransportChannelType */
+   if (pvalue->ul_TransportChannelType > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->ul_TransportChannelType);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UL-TrCH-Type", "ul-TransportChannelType", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ul_TransportChannelType, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "UL-TrCH-Type", "ul-TransportChannelType", -1, 0);
+   /* ul-TransportChannelIdentity */
+   if ((uint64_t)(pvalue->ul_TransportChannelIdentity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->ul_TransportChannelIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportChannelIdentity", "ul-TransportChannelIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ul_TransportChannelIdentity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "TransportChannelIdentity", "ul-TransportChannelIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_TransportChannelIdentity_r6_dch_usch(rtxContext* RT_RESTRICT ctx, const UL_TransportChannelIdentity_r6_dch_usch* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_TransportChannelIdentity_r6_dch_usch, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_TransportChannelIdentity_r6(rtxContext* RT_RESTRICT ctx, const UL_TransportChannelIdentity_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-TransportChannelIdentity-r6");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "UL-TransportChannelIdentity-r6");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-TransportChannelIdentity-r6");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.dch_usch == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dch-usch", -1, "UL-TransportChannelIdentity-r6");
+         stat = enc_UL_TransportChannelIdentity_r6_dch_usch(ctx, pvalue->u.dch_usch, cur);
+         RT_CHECK(ctx, stat, 0, "dch-usch", -1, "UL-TransportChannelIdentity-r6");
+         break;
+      case 2:
+         if ((uint64_t)pvalue->u.e_dch > 7u) {
+            rtxErrAddStrParm(ctx, "E-DCH-MAC-d-FlowIdentity");
+            rtxErrAddUIntParm(ctx, pvalue->u.e_dch);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "E-DCH-MAC-d-FlowIdentity", "e-dch", -1, "UL-TransportChannelIdentity-r6");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.e_dch, 0, 7);
+         RT_CHECK_PUT(ctx, cur, stat, "E-DCH-MAC-d-FlowIdentity", "e-dch", -1, "UL-TransportChannelIdentity-r6");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_TransportChannelIdentity_r6(rtxContext* RT_RESTRICT ctx, const UL_TransportChannelIdentity_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_TransportChannelIdentity_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DeletedTransChInfoList_r6(rtxContext* RT_RESTRICT ctx, const UL_DeletedTransChInfoList_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-DeletedTransChInfoList-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "UL-DeletedTransChInfoList-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "UL-TransportChannelIdentity-r6", (int32_t)i, "UL-DeletedTransChInfoList-r6");
+      stat = enc_UL_TransportChannelIdentity_r6(ctx, (const UL_TransportChannelIdentity_r6*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "UL-TransportChannelIdentity-r6", (int32_t)i, "UL-DeletedTransChInfoList-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DeletedTransChInfoList_r6(rtxContext* RT_RESTRICT ctx, const UL_DeletedTransChInfoList_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DeletedTransChInfoList_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_ActivationTimeOffset(rtxContext* RT_RESTRICT ctx, ActivationTimeOffset value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ActivationTimeOffset");
+   return 0;
+}
+
+int asn1PE_UMTS_ActivationTimeOffset(rtxContext* RT_RESTRICT ctx, ActivationTimeOffset value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ActivationTimeOffset, value);
+}
+
+RT_MERGED_BODY int enc_AllocationPeriodInfo(rtxContext* RT_RESTRICT ctx, const AllocationPeriodInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "AllocationPeriodInfo");
+   /* allocationActivationTime */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->allocationActivationTime, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "allocationActivationTime", -1, "AllocationPeriodInfo");
+   /* allocationDuration */
+   if ((uint64_t)(pvalue->allocationDuration - 1) > 255u) {
+      rtxErrAddStrParm(ctx, "allocationDuration");
+      rtxErrAddUIntParm(ctx, pvalue->allocationDuration);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "allocationDuration", -1, "AllocationPeriodInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->allocationDuration, 1, 256);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "allocationDuration", -1, "AllocationPeriodInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_AllocationPeriodInfo(rtxContext* RT_RESTRICT ctx, const AllocationPeriodInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AllocationPeriodInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_AP_AICH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, AP_AICH_ChannelisationCode value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "AP-AICH-ChannelisationCode");
+   return 0;
+}
+
+int asn1PE_UMTS_AP_AICH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, AP_AICH_ChannelisationCode value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AP_AICH_ChannelisationCode, value);
+}
+
+RT_MERGED_BODY int enc_AP_PreambleScramblingCode(rtxContext* RT_RESTRICT ctx, AP_PreambleScramblingCode value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 79u) {
+      rtxErrAddStrParm(ctx, "AP-PreambleScramblingCode");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "AP-PreambleScramblingCode");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 79);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "AP-PreambleScramblingCode");
+   return 0;
+}
+
+int asn1PE_UMTS_AP_PreambleScramblingCode(rtxContext* RT_RESTRICT ctx, AP_PreambleScramblingCode value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AP_PreambleScramblingCode, value);
+}
+
+RT_MERGED_BODY int enc_AP_Signature(rtxContext* RT_RESTRICT ctx, AP_Signature value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 15u) {
+      rtxErrAddStrParm(ctx, "AP-Signature");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "AP-Signature");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "AP-Signature");
+   return 0;
+}
+
+int asn1PE_UMTS_AP_Signature(rtxContext* RT_RESTRICT ctx, AP_Signature value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AP_Signature, value);
+}
+
+RT_MERGED_BODY int enc_AP_Subchannel(rtxContext* RT_RESTRICT ctx, AP_Subchannel value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 11u) {
+      rtxErrAddStrParm(ctx, "AP-Subchannel");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "AP-Subchannel");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 11);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "AP-Subchannel");
+   return 0;
+}
+
+int asn1PE_UMTS_AP_Subchannel(rtxContext* RT_RESTRICT ctx, AP_Subchannel value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AP_Subchannel, value);
+}
+
+RT_MERGED_BODY int enc_AvailableAP_SubchannelList(rtxContext* RT_RESTRICT ctx, const AvailableAP_SubchannelList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "AvailableAP-SubchannelList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 12);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "AvailableAP-SubchannelList");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 11u) {
+         rtxErrAddStrParm(ctx, "AP-Subchannel");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "AP-Subchannel", "AP-Subchannel", (int32_t)i, "AvailableAP-SubchannelList");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 11);
+      RT_CHECK_PUT(ctx, cur, stat, "AP-Subchannel", "AP-Subchannel", (int32_t)i, "AvailableAP-SubchannelList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AvailableAP_SubchannelList(rtxContext* RT_RESTRICT ctx, const AvailableAP_SubchannelList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AvailableAP_SubchannelList, pvalue);
+}
+
+RT_MERGED_BODY int enc_AP_Signature_VCAM(rtxContext* RT_RESTRICT ctx, const AP_Signature_VCAM* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "AP-Signature-VCAM");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "AP-Signature-VCAM");
+   /* ap-Signature */
+   if ((uint64_t)pvalue->ap_Signature > 15u) {
+      rtxErrAddStrParm(ctx, "AP-Signature");
+      rtxErrAddUIntParm(ctx, pvalue->ap_Signature);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "AP-Signature", "ap-Signature", -1, "AP-Signature-VCAM");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ap_Signature, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "AP-Signature", "ap-Signature", -1, "AP-Signature-VCAM");
+   /* availableAP-SubchannelList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_AvailableAP_SubchannelList(ctx, &pvalue->availableAP_SubchannelList, cur);
+      RT_CHECK(ctx, stat, 0, "availableAP-SubchannelList", -1, "AP-Signature-VCAM");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AP_Signature_VCAM(rtxContext* RT_RESTRICT ctx, const AP_Signature_VCAM* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AP_Signature_VCAM, pvalue);
+}
+
+RT_MERGED_BODY int enc_AvailableAP_Signature_VCAMList(rtxContext* RT_RESTRICT ctx, const AvailableAP_Signature_VCAMList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "AvailableAP-Signature-VCAMList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "AvailableAP-Signature-VCAMList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "AP-Signature-VCAM", (int32_t)i, "AvailableAP-Signature-VCAMList");
+      stat = enc_AP_Signature_VCAM(ctx, (const AP_Signature_VCAM*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "AP-Signature-VCAM", (int32_t)i, "AvailableAP-Signature-VCAMList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AvailableAP_Signature_VCAMList(rtxContext* RT_RESTRICT ctx, const AvailableAP_Signature_VCAMList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AvailableAP_Signature_VCAMList, pvalue);
+}
+
+RT_MERGED_BODY int enc_AvailableAP_SignatureList(rtxContext* RT_RESTRICT ctx, const AvailableAP_SignatureList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "AvailableAP-SignatureList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "AvailableAP-SignatureList");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 15u) {
+         rtxErrAddStrParm(ctx, "AP-Signature");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "AP-Signature", "AP-Signature", (int32_t)i, "AvailableAP-SignatureList");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "AP-Signature", "AP-Signature", (int32_t)i, "AvailableAP-SignatureList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AvailableAP_SignatureList(rtxContext* RT_RESTRICT ctx, const AvailableAP_SignatureList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AvailableAP_SignatureList, pvalue);
+}
+
+RT_MERGED_BODY int enc_MinimumSpreadingFactor(rtxContext* RT_RESTRICT ctx, MinimumSpreadingFactor value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value > 6) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MinimumSpreadingFactor");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MinimumSpreadingFactor");
    return 0;
 }
 
-int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
+int asn1PE_UMTS_MinimumSpreadingFactor(rtxContext* RT_RESTRICT ctx, MinimumSpreadingFactor value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MinimumSpreadingFactor, value);
+}
+
+RT_MERGED_BODY int enc_NF_Max(rtxContext* RT_RESTRICT ctx, NF_Max value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 8) & 1u) << 0), 9);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* t-RUCCH */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->t_RUCCH > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->t_RUCCH);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "t-RUCCH", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_RUCCH, 0, 15);
-      RT_CHECK(ctx, stat, 0, "t-RUCCH", -1, 0);
+   if ((uint64_t)(value - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "NF-Max");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "NF-Max");
    }
-   /* n-RUCCH */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->n_RUCCH > 7u) {
-         rtxErrAddStrParm(ctx, "n-RUCCH");
-         rtxErrAddUIntParm(ctx, pvalue->n_RUCCH);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "n-RUCCH", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->n_RUCCH, 0, 7);
-      RT_CHECK(ctx, stat, 0, "n-RUCCH", -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 64);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NF-Max");
+   return 0;
+}
+
+int asn1PE_UMTS_NF_Max(rtxContext* RT_RESTRICT ctx, NF_Max value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NF_Max, value);
+}
+
+RT_MERGED_BODY int enc_MaxAvailablePCPCH_Number(rtxContext* RT_RESTRICT ctx, MaxAvailablePCPCH_Number value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "MaxAvailablePCPCH-Number");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "MaxAvailablePCPCH-Number");
    }
-   /* t-WAIT */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->t_WAIT > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->t_WAIT);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "t-WAIT", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_WAIT, 0, 7);
-      RT_CHECK(ctx, stat, 0, "t-WAIT", -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 64);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaxAvailablePCPCH-Number");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxAvailablePCPCH_Number(rtxContext* RT_RESTRICT ctx, MaxAvailablePCPCH_Number value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MaxAvailablePCPCH_Number, value);
+}
+
+RT_MERGED_BODY int enc_AvailableMinimumSF_VCAM(rtxContext* RT_RESTRICT ctx, const AvailableMinimumSF_VCAM* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "AvailableMinimumSF-VCAM");
+   /* minimumSpreadingFactor */
+   if (pvalue->minimumSpreadingFactor > 6) {
+      rtxErrAddUIntParm(ctx, pvalue->minimumSpreadingFactor);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MinimumSpreadingFactor", "minimumSpreadingFactor", -1, "AvailableMinimumSF-VCAM");
    }
-   /* t-SI */
-   if (pvalue->m & 0x8u) {
-      if (pvalue->t_SI > 6) {
-         rtxErrAddUIntParm(ctx, pvalue->t_SI);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "t-SI", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_SI, 0, 6);
-      RT_CHECK(ctx, stat, 0, "t-SI", -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->minimumSpreadingFactor, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "MinimumSpreadingFactor", "minimumSpreadingFactor", -1, "AvailableMinimumSF-VCAM");
+   /* nf-Max */
+   if ((uint64_t)(pvalue->nf_Max - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "NF-Max");
+      rtxErrAddUIntParm(ctx, pvalue->nf_Max);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "NF-Max", "nf-Max", -1, "AvailableMinimumSF-VCAM");
    }
-   /* extendedEstimationWindow */
-   if (pvalue->m & 0x10u) {
-      if ((uint64_t)(pvalue->extendedEstimationWindow - 2) > 3u) {
-         rtxErrAddStrParm(ctx, "extendedEstimationWindow");
-         rtxErrAddUIntParm(ctx, pvalue->extendedEstimationWindow);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "extendedEstimationWindow", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->extendedEstimationWindow, 2, 5);
-      RT_CHECK(ctx, stat, 0, "extendedEstimationWindow", -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->nf_Max, 1, 64);
+   RT_CHECK_PUT(ctx, cur, stat, "NF-Max", "nf-Max", -1, "AvailableMinimumSF-VCAM");
+   /* maxAvailablePCPCH-Number */
+   if ((uint64_t)(pvalue->maxAvailablePCPCH_Number - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "MaxAvailablePCPCH-Number");
+      rtxErrAddUIntParm(ctx, pvalue->maxAvailablePCPCH_Number);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MaxAvailablePCPCH-Number", "maxAvailablePCPCH-Number", -1, "AvailableMinimumSF-VCAM");
    }
-   /* e-RUCCH-AccessServiceClass */
-   if (pvalue->m & 0x20u) {
-      stat = asn1PE_UMTS_E_RUCCH_AccessServiceClass(ctx, &pvalue->e_RUCCH_AccessServiceClass);
-      RT_CHECK(ctx, stat, 0, "e-RUCCH-AccessServiceClass", -1, 0);
-   }
-   /* e-RUCCH-PersistenceScalingFactor */
-   if (pvalue->m & 0x40u) {
-      stat = asn1PE_UMTS_PersistenceScalingFactorList(ctx, &pvalue->e_RUCCH_PersistenceScalingFactor);
-      RT_CHECK(ctx, stat, 0, "e-RUCCH-PersistenceScalingFactor", -1, 0);
-   }
-   /* sync-UL-InfoForE-RUCCH */
-   if (pvalue->m & 0x80u) {
-      stat = asn1PE_UMTS_SYNC_UL_InfoForE_RUCCH(ctx, &pvalue->sync_UL_InfoForE_RUCCH);
-      RT_CHECK(ctx, stat, 0, "sync-UL-InfoForE-RUCCH", -1, 0);
-   }
-   /* prach-information */
-   if (pvalue->m & 0x100u) {
-      stat = asn1PE_UMTS_PRACH_Information_LCR_List(ctx, &pvalue->prach_information);
-      RT_CHECK(ctx, stat, 0, "prach-information", -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxAvailablePCPCH_Number, 1, 64);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxAvailablePCPCH-Number", "maxAvailablePCPCH-Number", -1, "AvailableMinimumSF-VCAM");
+   /* availableAP-Signature-VCAMList */
+   stat = enc_AvailableAP_Signature_VCAMList(ctx, &pvalue->availableAP_Signature_VCAMList, cur);
+   RT_CHECK(ctx, stat, 0, "availableAP-Signature-VCAMList", -1, "AvailableMinimumSF-VCAM");
+   return 0;
+}
+
+int asn1PE_UMTS_AvailableMinimumSF_VCAM(rtxContext* RT_RESTRICT ctx, const AvailableMinimumSF_VCAM* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AvailableMinimumSF_VCAM, pvalue);
+}
+
+RT_MERGED_BODY int enc_AvailableMinimumSF_ListVCAM(rtxContext* RT_RESTRICT ctx, const AvailableMinimumSF_ListVCAM* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "AvailableMinimumSF-ListVCAM");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 7);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "AvailableMinimumSF-ListVCAM");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "AvailableMinimumSF-VCAM", (int32_t)i, "AvailableMinimumSF-ListVCAM");
+      stat = enc_AvailableMinimumSF_VCAM(ctx, (const AvailableMinimumSF_VCAM*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "AvailableMinimumSF-VCAM", (int32_t)i, "AvailableMinimumSF-ListVCAM");
    }
    return 0;
 }
 
-int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_modeSpecificInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_AvailableMinimumSF_ListVCAM(rtxContext* RT_RESTRICT ctx, const AvailableMinimumSF_ListVCAM* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AvailableMinimumSF_ListVCAM, pvalue);
+}
+
+RT_MERGED_BODY int enc_BEACON_PL_Est(rtxContext* RT_RESTRICT ctx, BEACON_PL_Est value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "BEACON-PL-Est");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "BEACON-PL-Est");
+   return 0;
+}
+
+int asn1PE_UMTS_BEACON_PL_Est(rtxContext* RT_RESTRICT ctx, BEACON_PL_Est value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_BEACON_PL_Est, value);
+}
+
+RT_MERGED_BODY int enc_DPCCH_PowerOffset(rtxContext* RT_RESTRICT ctx, DPCCH_PowerOffset value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value < -82 || value > -3) {
+      rtxErrAddStrParm(ctx, "DPCCH-PowerOffset");
+      rtxErrAddIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "DPCCH-PowerOffset");
+   }
+   stat = pe_ConsInt64At(ctx, cur, value, -82, -3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DPCCH-PowerOffset");
+   return 0;
+}
+
+int asn1PE_UMTS_DPCCH_PowerOffset(rtxContext* RT_RESTRICT ctx, DPCCH_PowerOffset value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DPCCH_PowerOffset, value);
+}
+
+RT_MERGED_BODY int enc_SRB_delay(rtxContext* RT_RESTRICT ctx, SRB_delay value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 7u) {
+      rtxErrAddStrParm(ctx, "SRB-delay");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "SRB-delay");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SRB-delay");
+   return 0;
+}
+
+int asn1PE_UMTS_SRB_delay(rtxContext* RT_RESTRICT ctx, SRB_delay value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SRB_delay, value);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* dpcch-PowerOffset */
+   if (pvalue->dpcch_PowerOffset < -82 || pvalue->dpcch_PowerOffset > -3) {
+      rtxErrAddStrParm(ctx, "DPCCH-PowerOffset");
+      rtxErrAddIntParm(ctx, pvalue->dpcch_PowerOffset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->dpcch_PowerOffset, -82, -3);
+   RT_CHECK_PUT(ctx, cur, stat, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
+   /* pc-Preamble */
+   if ((uint64_t)pvalue->pc_Preamble > 7u) {
+      rtxErrAddStrParm(ctx, "PC-Preamble");
+      rtxErrAddUIntParm(ctx, pvalue->pc_Preamble);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PC-Preamble", "pc-Preamble", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pc_Preamble, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "PC-Preamble", "pc-Preamble", -1, 0);
+   /* sRB-delay */
+   if ((uint64_t)pvalue->sRB_delay > 7u) {
+      rtxErrAddStrParm(ctx, "SRB-delay");
+      rtxErrAddUIntParm(ctx, pvalue->sRB_delay);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SRB-delay", "sRB-delay", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->sRB_delay, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "SRB-delay", "sRB-delay", -1, 0);
+   /* powerControlAlgorithm */
+   stat = enc_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm, cur);
+   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_TargetSIR(rtxContext* RT_RESTRICT ctx, UL_TargetSIR value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 62u) {
+      rtxErrAddStrParm(ctx, "UL-TargetSIR");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "UL-TargetSIR");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 62);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UL-TargetSIR");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_TargetSIR(rtxContext* RT_RESTRICT ctx, UL_TargetSIR value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_TargetSIR, value);
+}
+
+RT_MERGED_BODY int enc_TDD_UL_Interference(rtxContext* RT_RESTRICT ctx, TDD_UL_Interference value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value < -110 || value > -52) {
+      rtxErrAddStrParm(ctx, "TDD-UL-Interference");
+      rtxErrAddIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "TDD-UL-Interference");
+   }
+   stat = pe_ConsInt64At(ctx, cur, value, -110, -52);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TDD-UL-Interference");
+   return 0;
+}
+
+int asn1PE_UMTS_TDD_UL_Interference(rtxContext* RT_RESTRICT ctx, TDD_UL_Interference value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TDD_UL_Interference, value);
+}
+
+RT_MERGED_BODY int enc_IndividualTS_Interference(rtxContext* RT_RESTRICT ctx, const IndividualTS_Interference* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IndividualTS-Interference");
+   /* timeslot */
+   if ((uint64_t)pvalue->timeslot > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeslot);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber", "timeslot", -1, "IndividualTS-Interference");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslot, 0, 14);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber", "timeslot", -1, "IndividualTS-Interference");
+   /* ul-TimeslotInterference */
+   if (pvalue->ul_TimeslotInterference < -110 || pvalue->ul_TimeslotInterference > -52) {
+      rtxErrAddStrParm(ctx, "TDD-UL-Interference");
+      rtxErrAddIntParm(ctx, pvalue->ul_TimeslotInterference);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TDD-UL-Interference", "ul-TimeslotInterference", -1, "IndividualTS-Interference");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->ul_TimeslotInterference, -110, -52);
+   RT_CHECK_PUT(ctx, cur, stat, "TDD-UL-Interference", "ul-TimeslotInterference", -1, "IndividualTS-Interference");
+   return 0;
+}
+
+int asn1PE_UMTS_IndividualTS_Interference(rtxContext* RT_RESTRICT ctx, const IndividualTS_Interference* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IndividualTS_Interference, pvalue);
+}
+
+RT_MERGED_BODY int enc_IndividualTS_InterferenceList(rtxContext* RT_RESTRICT ctx, const IndividualTS_InterferenceList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IndividualTS-InterferenceList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 14);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "IndividualTS-InterferenceList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "IndividualTS-Interference", (int32_t)i, "IndividualTS-InterferenceList");
+      stat = enc_IndividualTS_Interference(ctx, (const IndividualTS_Interference*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "IndividualTS-Interference", (int32_t)i, "IndividualTS-InterferenceList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IndividualTS_InterferenceList(rtxContext* RT_RESTRICT ctx, const IndividualTS_InterferenceList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IndividualTS_InterferenceList, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* individualTS-InterferenceList */
+   stat = enc_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList, cur);
+   RT_CHECK(ctx, stat, 0, "individualTS-InterferenceList", -1, 0);
+   /* dpch-ConstantValue */
+   if (pvalue->dpch_ConstantValue < -35 || pvalue->dpch_ConstantValue > 10) {
+      rtxErrAddStrParm(ctx, "ConstantValueTdd");
+      rtxErrAddIntParm(ctx, pvalue->dpch_ConstantValue);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ConstantValueTdd", "dpch-ConstantValue", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->dpch_ConstantValue, -35, 10);
+   RT_CHECK_PUT(ctx, cur, stat, "ConstantValueTdd", "dpch-ConstantValue", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+      rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK_PUT(ctx, cur, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling_individuallySignalled, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.tdd384_tdd768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384-tdd768", -1, 0);
-         stat = asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768(ctx, pvalue->u.tdd384_tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd384-tdd768", -1, 0);
          break;
       case 2:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
+         if (pvalue->u.individuallySignalled == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "individuallySignalled", -1, 0);
+         stat = enc_UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling_individuallySignalled(ctx, pvalue->u.individuallySignalled, cur);
+         RT_CHECK(ctx, stat, 0, "individuallySignalled", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-TargetSIR */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->ul_TargetSIR > 62u) {
+         rtxErrAddStrParm(ctx, "UL-TargetSIR");
+         rtxErrAddUIntParm(ctx, pvalue->ul_TargetSIR);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ul_TargetSIR, 0, 62);
+      RT_CHECK_PUT(ctx, cur, stat, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
+   }
+   /* ul-OL-PC-Signalling */
+   if (pvalue->m & 0x2u) {
+      stat = enc_UL_DPCH_PowerControlInfo_tdd_ul_OL_PC_Signalling(ctx, &pvalue->ul_OL_PC_Signalling, cur);
+      RT_CHECK(ctx, stat, 0, "ul-OL-PC-Signalling", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfo_tdd, pvalue);
+}
+
+static int enc_UL_DPCH_PowerControlInfo(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-PowerControlInfo");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "UL-DPCH-PowerControlInfo");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-DPCH-PowerControlInfo");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, "UL-DPCH-PowerControlInfo");
+         stat = enc_UL_DPCH_PowerControlInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "UL-DPCH-PowerControlInfo");
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, "UL-DPCH-PowerControlInfo");
+         stat = enc_UL_DPCH_PowerControlInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "UL-DPCH-PowerControlInfo");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_CCTrCH_PowerControlInfo(rtxContext* RT_RESTRICT ctx, const CCTrCH_PowerControlInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CCTrCH-PowerControlInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CCTrCH-PowerControlInfo");
+   /* tfcs-Identity */
+   if (pvalue->m & 0x1u) {
+      stat = enc_TFCS_Identity(ctx, &pvalue->tfcs_Identity, cur);
+      RT_CHECK(ctx, stat, 0, "tfcs-Identity", -1, "CCTrCH-PowerControlInfo");
+   }
+   /* ul-DPCH-PowerControlInfo */
+   stat = enc_UL_DPCH_PowerControlInfo(ctx, &pvalue->ul_DPCH_PowerControlInfo, cur);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "CCTrCH-PowerControlInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_CCTrCH_PowerControlInfo(rtxContext* RT_RESTRICT ctx, const CCTrCH_PowerControlInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CCTrCH_PowerControlInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r4_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r4_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* dpcch-PowerOffset */
+   if (pvalue->dpcch_PowerOffset < -82 || pvalue->dpcch_PowerOffset > -3) {
+      rtxErrAddStrParm(ctx, "DPCCH-PowerOffset");
+      rtxErrAddIntParm(ctx, pvalue->dpcch_PowerOffset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->dpcch_PowerOffset, -82, -3);
+   RT_CHECK_PUT(ctx, cur, stat, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
+   /* pc-Preamble */
+   if ((uint64_t)pvalue->pc_Preamble > 7u) {
+      rtxErrAddStrParm(ctx, "PC-Preamble");
+      rtxErrAddUIntParm(ctx, pvalue->pc_Preamble);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PC-Preamble", "pc-Preamble", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pc_Preamble, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "PC-Preamble", "pc-Preamble", -1, 0);
+   /* sRB-delay */
+   if ((uint64_t)pvalue->sRB_delay > 7u) {
+      rtxErrAddStrParm(ctx, "SRB-delay");
+      rtxErrAddUIntParm(ctx, pvalue->sRB_delay);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SRB-delay", "sRB-delay", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->sRB_delay, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "SRB-delay", "sRB-delay", -1, 0);
+   /* powerControlAlgorithm */
+   stat = enc_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm, cur);
+   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r4_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfo_r4_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* individualTS-InterferenceList */
+   stat = enc_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList, cur);
+   RT_CHECK(ctx, stat, 0, "individualTS-InterferenceList", -1, 0);
+   /* dpch-ConstantValue */
+   if (pvalue->dpch_ConstantValue < -35 || pvalue->dpch_ConstantValue > -10) {
+      rtxErrAddStrParm(ctx, "ConstantValue");
+      rtxErrAddIntParm(ctx, pvalue->dpch_ConstantValue);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ConstantValue", "dpch-ConstantValue", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->dpch_ConstantValue, -35, -10);
+   RT_CHECK_PUT(ctx, cur, stat, "ConstantValue", "dpch-ConstantValue", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tpc-StepSize */
+   if ((uint64_t)(pvalue->tpc_StepSize - 1) > 2u) {
+      rtxErrAddStrParm(ctx, "TPC-StepSizeTDD");
+      rtxErrAddUIntParm(ctx, pvalue->tpc_StepSize);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tpc_StepSize, 1, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = enc_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
          RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
          break;
       default:
@@ -5640,3375 +8808,606 @@ int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const
    return 0;
 }
 
-int asn1PE_UMTS_E_RUCCH_Info(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-RUCCH-Info");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "E-RUCCH-Info");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tddOption */
+   stat = enc_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(ctx, &pvalue->tddOption, cur);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+      rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK_PUT(ctx, cur, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_E_PUCH_TS_Slots(rtxContext* RT_RESTRICT ctx, const E_PUCH_TS_Slots* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-PUCH-TS-Slots");
-   /* ts-Number */
-   if ((uint64_t)pvalue->ts_Number > 14u) {
-      rtxErrAddStrParm(ctx, "ts-Number");
-      rtxErrAddUIntParm(ctx, pvalue->ts_Number);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ts-Number", -1, "E-PUCH-TS-Slots");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ts_Number, 0, 14);
-   RT_CHECK(ctx, stat, 0, "ts-Number", -1, "E-PUCH-TS-Slots");
-   /* midambleShiftAndBurstType */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_EDCH(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "E-PUCH-TS-Slots");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled, pvalue);
 }
 
-int asn1PE_UMTS_E_PUCH_Info_modeSpecificInfo_tdd348_tdd768_e_PUCH_TS_ConfigurationList(rtxContext* RT_RESTRICT ctx, const E_PUCH_Info_modeSpecificInfo_tdd348_tdd768_e_PUCH_TS_ConfigurationList* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 12);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "E-PUCH-TS-Slots", (int32_t)i, 0);
-      stat = asn1PE_UMTS_E_PUCH_TS_Slots(ctx, (const E_PUCH_TS_Slots*)node->data);
-      RT_CHECK(ctx, stat, 0, "E-PUCH-TS-Slots", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_PUCH_Info_modeSpecificInfo_tdd348_tdd768(rtxContext* RT_RESTRICT ctx, const E_PUCH_Info_modeSpecificInfo_tdd348_tdd768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* noSlotsForTFCIandTPC */
-   if ((uint64_t)(pvalue->noSlotsForTFCIandTPC - 1) > 11u) {
-      rtxErrAddStrParm(ctx, "noSlotsForTFCIandTPC");
-      rtxErrAddUIntParm(ctx, pvalue->noSlotsForTFCIandTPC);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "noSlotsForTFCIandTPC", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->noSlotsForTFCIandTPC, 1, 12);
-   RT_CHECK(ctx, stat, 0, "noSlotsForTFCIandTPC", -1, 0);
-   /* e-PUCH-ContantValue */
-   if (pvalue->e_PUCH_ContantValue < -35 || pvalue->e_PUCH_ContantValue > 10) {
-      rtxErrAddStrParm(ctx, "e-PUCH-ContantValue");
-      rtxErrAddIntParm(ctx, pvalue->e_PUCH_ContantValue);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "e-PUCH-ContantValue", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->e_PUCH_ContantValue, -35, 10);
-   RT_CHECK(ctx, stat, 0, "e-PUCH-ContantValue", -1, 0);
-   /* e-PUCH-TS-ConfigurationList */
-   stat = asn1PE_UMTS_E_PUCH_Info_modeSpecificInfo_tdd348_tdd768_e_PUCH_TS_ConfigurationList(ctx, &pvalue->e_PUCH_TS_ConfigurationList);
-   RT_CHECK(ctx, stat, 0, "e-PUCH-TS-ConfigurationList", -1, 0);
-   /* e-PUCH-CodeHopping */
-   stat = rtxEncBit(ctx, pvalue->e_PUCH_CodeHopping);
-   RT_CHECK(ctx, stat, 0, "e-PUCH-CodeHopping", -1, 0);
-   /* e-PUCH-TPC-Step-Size */
-   if ((uint64_t)(pvalue->e_PUCH_TPC_Step_Size - 1) > 2u) {
-      rtxErrAddStrParm(ctx, "e-PUCH-TPC-Step-Size");
-      rtxErrAddUIntParm(ctx, pvalue->e_PUCH_TPC_Step_Size);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "e-PUCH-TPC-Step-Size", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->e_PUCH_TPC_Step_Size, 1, 3);
-   RT_CHECK(ctx, stat, 0, "e-PUCH-TPC-Step-Size", -1, 0);
-   /* minimum-Allowed-Code-Rate */
-   if ((uint64_t)pvalue->minimum_Allowed_Code_Rate > 63u) {
-      rtxErrAddStrParm(ctx, "minimum-Allowed-Code-Rate");
-      rtxErrAddUIntParm(ctx, pvalue->minimum_Allowed_Code_Rate);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "minimum-Allowed-Code-Rate", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->minimum_Allowed_Code_Rate, 0, 63);
-   RT_CHECK(ctx, stat, 0, "minimum-Allowed-Code-Rate", -1, 0);
-   /* maximum-Allowed-Code-Rate */
-   if ((uint64_t)pvalue->maximum_Allowed_Code_Rate > 63u) {
-      rtxErrAddStrParm(ctx, "maximum-Allowed-Code-Rate");
-      rtxErrAddUIntParm(ctx, pvalue->maximum_Allowed_Code_Rate);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "maximum-Allowed-Code-Rate", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maximum_Allowed_Code_Rate, 0, 63);
-   RT_CHECK(ctx, stat, 0, "maximum-Allowed-Code-Rate", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_E_PUCH_Info_modeSpecificInfo_tdd128_snpl_ReportType(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_modeSpecificInfo_tdd128_snpl_ReportType value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_E_PUCH_Info_modeSpecificInfo_tdd128_e_PUCH_TS_ConfigurationList(rtxContext* RT_RESTRICT ctx, const E_PUCH_Info_modeSpecificInfo_tdd128_e_PUCH_TS_ConfigurationList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 5);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "E-PUCH-TS-Slots-LCR", (int32_t)i, 0);
-      stat = asn1PE_UMTS_E_PUCH_TS_Slots_LCR(ctx, (const E_PUCH_TS_Slots_LCR*)node->data);
-      RT_CHECK(ctx, stat, 0, "E-PUCH-TS-Slots-LCR", (int32_t)i, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.individuallySignalled == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "individuallySignalled", -1, 0);
+         stat = enc_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling_individuallySignalled(ctx, pvalue->u.individuallySignalled, cur);
+         RT_CHECK(ctx, stat, 0, "individuallySignalled", -1, 0);
+         break;
+      default:
+         break;
    }
    return 0;
 }
 
-int asn1PE_UMTS_E_PUCH_Info_modeSpecificInfo_tdd128_retransTimerForSchedInfo(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_modeSpecificInfo_tdd128_retransTimerForSchedInfo value)
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (value > 29) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 29);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling, pvalue);
 }
 
-int asn1PE_UMTS_E_PUCH_Info_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, const E_PUCH_Info_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r4_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r4_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* snpl-ReportType */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-TargetSIR */
    if (pvalue->m & 0x1u) {
-      if (pvalue->snpl_ReportType > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->snpl_ReportType);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "snpl-ReportType", -1, 0);
+      if ((uint64_t)pvalue->ul_TargetSIR > 62u) {
+         rtxErrAddStrParm(ctx, "UL-TargetSIR");
+         rtxErrAddUIntParm(ctx, pvalue->ul_TargetSIR);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
       }
-      stat = pe_ConsUInt64(ctx, pvalue->snpl_ReportType, 0, 1);
-      RT_CHECK(ctx, stat, 0, "snpl-ReportType", -1, 0);
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ul_TargetSIR, 0, 62);
+      RT_CHECK_PUT(ctx, cur, stat, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
    }
-   /* prxBASEdes */
-   if (pvalue->prxBASEdes < -112 || pvalue->prxBASEdes > -50) {
-      rtxErrAddStrParm(ctx, "prxBASEdes");
-      rtxErrAddIntParm(ctx, pvalue->prxBASEdes);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "prxBASEdes", -1, 0);
+   /* ul-OL-PC-Signalling */
+   stat = enc_UL_DPCH_PowerControlInfo_r4_tdd_ul_OL_PC_Signalling(ctx, &pvalue->ul_OL_PC_Signalling, cur);
+   RT_CHECK(ctx, stat, 0, "ul-OL-PC-Signalling", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r4_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfo_r4_tdd, pvalue);
+}
+
+static int enc_UL_DPCH_PowerControlInfo_r4(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-PowerControlInfo-r4");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "UL-DPCH-PowerControlInfo-r4");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-DPCH-PowerControlInfo-r4");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r4");
+         stat = enc_UL_DPCH_PowerControlInfo_r4_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r4");
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r4");
+         stat = enc_UL_DPCH_PowerControlInfo_r4_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r4");
+         break;
+      default:
+         break;
    }
-   stat = pe_ConsInt64(ctx, pvalue->prxBASEdes, -112, -50);
-   RT_CHECK(ctx, stat, 0, "prxBASEdes", -1, 0);
-   /* beaconPLEst */
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfo_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_CCTrCH_PowerControlInfo_r4(rtxContext* RT_RESTRICT ctx, const CCTrCH_PowerControlInfo_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CCTrCH-PowerControlInfo-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CCTrCH-PowerControlInfo-r4");
+   /* tfcs-Identity */
+   if (pvalue->m & 0x1u) {
+      stat = enc_TFCS_Identity(ctx, &pvalue->tfcs_Identity, cur);
+      RT_CHECK(ctx, stat, 0, "tfcs-Identity", -1, "CCTrCH-PowerControlInfo-r4");
+   }
+   /* ul-DPCH-PowerControlInfo */
+   stat = enc_UL_DPCH_PowerControlInfo_r4(ctx, &pvalue->ul_DPCH_PowerControlInfo, cur);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "CCTrCH-PowerControlInfo-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_CCTrCH_PowerControlInfo_r4(rtxContext* RT_RESTRICT ctx, const CCTrCH_PowerControlInfo_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CCTrCH_PowerControlInfo_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r5_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r5_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dpcch-PowerOffset */
+   if (pvalue->dpcch_PowerOffset < -82 || pvalue->dpcch_PowerOffset > -3) {
+      rtxErrAddStrParm(ctx, "DPCCH-PowerOffset");
+      rtxErrAddIntParm(ctx, pvalue->dpcch_PowerOffset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->dpcch_PowerOffset, -82, -3);
+   RT_CHECK_PUT(ctx, cur, stat, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
+   /* pc-Preamble */
+   if ((uint64_t)pvalue->pc_Preamble > 7u) {
+      rtxErrAddStrParm(ctx, "PC-Preamble");
+      rtxErrAddUIntParm(ctx, pvalue->pc_Preamble);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PC-Preamble", "pc-Preamble", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pc_Preamble, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "PC-Preamble", "pc-Preamble", -1, 0);
+   /* sRB-delay */
+   if ((uint64_t)pvalue->sRB_delay > 7u) {
+      rtxErrAddStrParm(ctx, "SRB-delay");
+      rtxErrAddUIntParm(ctx, pvalue->sRB_delay);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SRB-delay", "sRB-delay", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->sRB_delay, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "SRB-delay", "sRB-delay", -1, 0);
+   /* powerControlAlgorithm */
+   stat = enc_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm, cur);
+   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, 0);
+   /* deltaACK */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->deltaACK > 8u) {
+         rtxErrAddStrParm(ctx, "DeltaACK");
+         rtxErrAddUIntParm(ctx, pvalue->deltaACK);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DeltaACK", "deltaACK", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->deltaACK, 0, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "DeltaACK", "deltaACK", -1, 0);
+   }
+   /* deltaNACK */
    if (pvalue->m & 0x2u) {
-      stat = rtxEncBit(ctx, pvalue->beaconPLEst);
-      RT_CHECK(ctx, stat, 0, "beaconPLEst", -1, 0);
+      if ((uint64_t)pvalue->deltaNACK > 8u) {
+         rtxErrAddStrParm(ctx, "DeltaNACK");
+         rtxErrAddUIntParm(ctx, pvalue->deltaNACK);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DeltaNACK", "deltaNACK", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->deltaNACK, 0, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "DeltaNACK", "deltaNACK", -1, 0);
+   }
+   /* ack-NACK-repetition-factor */
+   if (pvalue->m & 0x4u) {
+      if ((uint64_t)(pvalue->ack_NACK_repetition_factor - 1) > 3u) {
+         rtxErrAddStrParm(ctx, "ACK-NACK-repetitionFactor");
+         rtxErrAddUIntParm(ctx, pvalue->ack_NACK_repetition_factor);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ACK-NACK-repetitionFactor", "ack-NACK-repetition-factor", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ack_NACK_repetition_factor, 1, 4);
+      RT_CHECK_PUT(ctx, cur, stat, "ACK-NACK-repetitionFactor", "ack-NACK-repetition-factor", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r5_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfo_r5_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* individualTS-InterferenceList */
+   stat = enc_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList, cur);
+   RT_CHECK(ctx, stat, 0, "individualTS-InterferenceList", -1, 0);
+   /* dpch-ConstantValue */
+   if (pvalue->dpch_ConstantValue < -35 || pvalue->dpch_ConstantValue > -10) {
+      rtxErrAddStrParm(ctx, "ConstantValue");
+      rtxErrAddIntParm(ctx, pvalue->dpch_ConstantValue);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ConstantValue", "dpch-ConstantValue", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->dpch_ConstantValue, -35, -10);
+   RT_CHECK_PUT(ctx, cur, stat, "ConstantValue", "dpch-ConstantValue", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tpc-StepSize */
+   if ((uint64_t)(pvalue->tpc_StepSize - 1) > 2u) {
+      rtxErrAddStrParm(ctx, "TPC-StepSizeTDD");
+      rtxErrAddUIntParm(ctx, pvalue->tpc_StepSize);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tpc_StepSize, 1, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = enc_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tddOption */
+   stat = enc_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(ctx, &pvalue->tddOption, cur);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+      rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK_PUT(ctx, cur, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.individuallySignalled == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "individuallySignalled", -1, 0);
+         stat = enc_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling_individuallySignalled(ctx, pvalue->u.individuallySignalled, cur);
+         RT_CHECK(ctx, stat, 0, "individuallySignalled", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r5_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r5_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-TargetSIR */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->ul_TargetSIR > 62u) {
+         rtxErrAddStrParm(ctx, "UL-TargetSIR");
+         rtxErrAddUIntParm(ctx, pvalue->ul_TargetSIR);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ul_TargetSIR, 0, 62);
+      RT_CHECK_PUT(ctx, cur, stat, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
+   }
+   /* ul-OL-PC-Signalling */
+   stat = enc_UL_DPCH_PowerControlInfo_r5_tdd_ul_OL_PC_Signalling(ctx, &pvalue->ul_OL_PC_Signalling, cur);
+   RT_CHECK(ctx, stat, 0, "ul-OL-PC-Signalling", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r5_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfo_r5_tdd, pvalue);
+}
+
+static int enc_UL_DPCH_PowerControlInfo_r5(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-PowerControlInfo-r5");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "UL-DPCH-PowerControlInfo-r5");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-DPCH-PowerControlInfo-r5");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r5");
+         stat = enc_UL_DPCH_PowerControlInfo_r5_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r5");
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r5");
+         stat = enc_UL_DPCH_PowerControlInfo_r5_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r5");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfo_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_CCTrCH_PowerControlInfo_r5(rtxContext* RT_RESTRICT ctx, const CCTrCH_PowerControlInfo_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CCTrCH-PowerControlInfo-r5");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CCTrCH-PowerControlInfo-r5");
+   /* tfcs-Identity */
+   if (pvalue->m & 0x1u) {
+      stat = enc_TFCS_Identity(ctx, &pvalue->tfcs_Identity, cur);
+      RT_CHECK(ctx, stat, 0, "tfcs-Identity", -1, "CCTrCH-PowerControlInfo-r5");
+   }
+   /* ul-DPCH-PowerControlInfo */
+   stat = enc_UL_DPCH_PowerControlInfo_r5(ctx, &pvalue->ul_DPCH_PowerControlInfo, cur);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "CCTrCH-PowerControlInfo-r5");
+   return 0;
+}
+
+int asn1PE_UMTS_CCTrCH_PowerControlInfo_r5(rtxContext* RT_RESTRICT ctx, const CCTrCH_PowerControlInfo_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CCTrCH_PowerControlInfo_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r7_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dpcch-PowerOffset */
+   if (pvalue->dpcch_PowerOffset < -82 || pvalue->dpcch_PowerOffset > -3) {
+      rtxErrAddStrParm(ctx, "DPCCH-PowerOffset");
+      rtxErrAddIntParm(ctx, pvalue->dpcch_PowerOffset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->dpcch_PowerOffset, -82, -3);
+   RT_CHECK_PUT(ctx, cur, stat, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
+   /* pc-Preamble */
+   if ((uint64_t)pvalue->pc_Preamble > 7u) {
+      rtxErrAddStrParm(ctx, "PC-Preamble");
+      rtxErrAddUIntParm(ctx, pvalue->pc_Preamble);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PC-Preamble", "pc-Preamble", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pc_Preamble, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "PC-Preamble", "pc-Preamble", -1, 0);
+   /* sRB-delay */
+   if ((uint64_t)pvalue->sRB_delay > 7u) {
+      rtxErrAddStrParm(ctx, "SRB-delay");
+      rtxErrAddUIntParm(ctx, pvalue->sRB_delay);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SRB-delay", "sRB-delay", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->sRB_delay, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "SRB-delay", "sRB-delay", -1, 0);
+   /* powerControlAlgorithm */
+   stat = enc_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm, cur);
+   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, 0);
+   /* deltaACK */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->deltaACK > 8u) {
+         rtxErrAddStrParm(ctx, "DeltaACK");
+         rtxErrAddUIntParm(ctx, pvalue->deltaACK);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DeltaACK", "deltaACK", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->deltaACK, 0, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "DeltaACK", "deltaACK", -1, 0);
+   }
+   /* deltaNACK */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->deltaNACK > 8u) {
+         rtxErrAddStrParm(ctx, "DeltaNACK");
+         rtxErrAddUIntParm(ctx, pvalue->deltaNACK);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DeltaNACK", "deltaNACK", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->deltaNACK, 0, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "DeltaNACK", "deltaNACK", -1, 0);
+   }
+   /* ack-NACK-repetition-factor */
+   if (pvalue->m & 0x4u) {
+      if ((uint64_t)(pvalue->ack_NACK_repetition_factor - 1) > 3u) {
+         rtxErrAddStrParm(ctx, "ACK-NACK-repetitionFactor");
+         rtxErrAddUIntParm(ctx, pvalue->ack_NACK_repetition_factor);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ACK-NACK-repetitionFactor", "ack-NACK-repetition-factor", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ack_NACK_repetition_factor, 1, 4);
+      RT_CHECK_PUT(ctx, cur, stat, "ACK-NACK-repetitionFactor", "ack-NACK-repetition-factor", -1, 0);
+   }
+   /* harq-Preamble-Mode */
+   if ((uint64_t)pvalue->harq_Preamble_Mode > 1u) {
+      rtxErrAddStrParm(ctx, "HARQ-Preamble-Mode");
+      rtxErrAddUIntParm(ctx, pvalue->harq_Preamble_Mode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->harq_Preamble_Mode, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfo_r7_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* individualTS-InterferenceList */
+   stat = enc_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList, cur);
+   RT_CHECK(ctx, stat, 0, "individualTS-InterferenceList", -1, 0);
+   /* dpch-ConstantValue */
+   if (pvalue->dpch_ConstantValue < -35 || pvalue->dpch_ConstantValue > -10) {
+      rtxErrAddStrParm(ctx, "ConstantValue");
+      rtxErrAddIntParm(ctx, pvalue->dpch_ConstantValue);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ConstantValue", "dpch-ConstantValue", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->dpch_ConstantValue, -35, -10);
+   RT_CHECK_PUT(ctx, cur, stat, "ConstantValue", "dpch-ConstantValue", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* individualTS-InterferenceList */
+   stat = enc_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList, cur);
+   RT_CHECK(ctx, stat, 0, "individualTS-InterferenceList", -1, 0);
+   /* dpch-ConstantValue */
+   if (pvalue->dpch_ConstantValue < -35 || pvalue->dpch_ConstantValue > -10) {
+      rtxErrAddStrParm(ctx, "ConstantValue");
+      rtxErrAddIntParm(ctx, pvalue->dpch_ConstantValue);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ConstantValue", "dpch-ConstantValue", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->dpch_ConstantValue, -35, -10);
+   RT_CHECK_PUT(ctx, cur, stat, "ConstantValue", "dpch-ConstantValue", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd768* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* beaconPLEst */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->beaconPLEst > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->beaconPLEst);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "BEACON-PL-Est", "beaconPLEst", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->beaconPLEst, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, "BEACON-PL-Est", "beaconPLEst", -1, 0);
    }
    /* tpc-StepSize */
    if ((uint64_t)(pvalue->tpc_StepSize - 1) > 2u) {
       rtxErrAddStrParm(ctx, "TPC-StepSizeTDD");
       rtxErrAddUIntParm(ctx, pvalue->tpc_StepSize);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, pvalue->tpc_StepSize, 1, 3);
-   RT_CHECK(ctx, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
-   /* pebase-PowerControlGAP */
-   if (pvalue->m & 0x4u) {
-      stat = pe_ConsUInt64(ctx, pvalue->pebase_PowerControlGAP, 0, 255);
-      RT_CHECK(ctx, stat, "PowerControlGAP", "pebase-PowerControlGAP", -1, 0);
-   }
-   /* ul-SynchronisationParameters */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_UL_SynchronisationParameters_r4(ctx, &pvalue->ul_SynchronisationParameters);
-      RT_CHECK(ctx, stat, 0, "ul-SynchronisationParameters", -1, 0);
-   }
-   /* e-PUCH-TS-ConfigurationList */
-   stat = asn1PE_UMTS_E_PUCH_Info_modeSpecificInfo_tdd128_e_PUCH_TS_ConfigurationList(ctx, &pvalue->e_PUCH_TS_ConfigurationList);
-   RT_CHECK(ctx, stat, 0, "e-PUCH-TS-ConfigurationList", -1, 0);
-   /* minimum-Allowed-Code-Rate */
-   if ((uint64_t)pvalue->minimum_Allowed_Code_Rate > 63u) {
-      rtxErrAddStrParm(ctx, "minimum-Allowed-Code-Rate");
-      rtxErrAddUIntParm(ctx, pvalue->minimum_Allowed_Code_Rate);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "minimum-Allowed-Code-Rate", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->minimum_Allowed_Code_Rate, 0, 63);
-   RT_CHECK(ctx, stat, 0, "minimum-Allowed-Code-Rate", -1, 0);
-   /* maximum-Allowed-Code-Rate */
-   if ((uint64_t)pvalue->maximum_Allowed_Code_Rate > 63u) {
-      rtxErrAddStrParm(ctx, "maximum-Allowed-Code-Rate");
-      rtxErrAddUIntParm(ctx, pvalue->maximum_Allowed_Code_Rate);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "maximum-Allowed-Code-Rate", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maximum_Allowed_Code_Rate, 0, 63);
-   RT_CHECK(ctx, stat, 0, "maximum-Allowed-Code-Rate", -1, 0);
-   /* maximumNumOfRetransSchedInfo */
-   if ((uint64_t)pvalue->maximumNumOfRetransSchedInfo > 15u) {
-      rtxErrAddStrParm(ctx, "maximumNumOfRetransSchedInfo");
-      rtxErrAddUIntParm(ctx, pvalue->maximumNumOfRetransSchedInfo);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "maximumNumOfRetransSchedInfo", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maximumNumOfRetransSchedInfo, 0, 15);
-   RT_CHECK(ctx, stat, 0, "maximumNumOfRetransSchedInfo", -1, 0);
-   /* retransTimerForSchedInfo */
-   if (pvalue->retransTimerForSchedInfo > 29) {
-      rtxErrAddUIntParm(ctx, pvalue->retransTimerForSchedInfo);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "retransTimerForSchedInfo", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->retransTimerForSchedInfo, 0, 29);
-   RT_CHECK(ctx, stat, 0, "retransTimerForSchedInfo", -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tpc_StepSize, 1, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_E_PUCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const E_PUCH_Info_modeSpecificInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.tdd348_tdd768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd348-tdd768", -1, 0);
-         stat = asn1PE_UMTS_E_PUCH_Info_modeSpecificInfo_tdd348_tdd768(ctx, pvalue->u.tdd348_tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd348-tdd768", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_E_PUCH_Info_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_PUCH_Info(rtxContext* RT_RESTRICT ctx, const E_PUCH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-PUCH-Info");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-PUCH-Info");
-   /* e-TFCS-Info */
-   stat = asn1PE_UMTS_E_TFCS_Info(ctx, &pvalue->e_TFCS_Info);
-   RT_CHECK(ctx, stat, 0, "e-TFCS-Info", -1, "E-PUCH-Info");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_E_PUCH_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "E-PUCH-Info");
-   /* powerOffsetForSchedInfo */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->powerOffsetForSchedInfo > 6u) {
-         rtxErrAddStrParm(ctx, "powerOffsetForSchedInfo");
-         rtxErrAddUIntParm(ctx, pvalue->powerOffsetForSchedInfo);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "powerOffsetForSchedInfo", -1, "E-PUCH-Info");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->powerOffsetForSchedInfo, 0, 6);
-      RT_CHECK(ctx, stat, 0, "powerOffsetForSchedInfo", -1, "E-PUCH-Info");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_tdd384_768(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_tdd384_768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* timeslotResourceRelatedInfo */
-   RT_SET_SIZE(ctx, 13, 13);
-   stat = pe_BitString32(ctx, &pvalue->timeslotResourceRelatedInfo, 13, 13);
-   RT_CHECK(ctx, stat, 0, "timeslotResourceRelatedInfo", -1, 0);
-   /* powerResourceRelatedInfo */
-   if ((uint64_t)(pvalue->powerResourceRelatedInfo - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "powerResourceRelatedInfo");
-      rtxErrAddUIntParm(ctx, pvalue->powerResourceRelatedInfo);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "powerResourceRelatedInfo", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->powerResourceRelatedInfo, 1, 32);
-   RT_CHECK(ctx, stat, 0, "powerResourceRelatedInfo", -1, 0);
-   /* activationTime */
-   stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-   RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, 0);
-   /* repetitionPeriodAndLength */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RepetitionPeriodAndLength(ctx, &pvalue->repetitionPeriodAndLength);
-      RT_CHECK(ctx, stat, 0, "repetitionPeriodAndLength", -1, 0);
-   }
-   /* codeResourceInfo */
-   if (pvalue->codeResourceInfo > 30) {
-      rtxErrAddUIntParm(ctx, pvalue->codeResourceInfo);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UL-TS-ChannelisationCode", "codeResourceInfo", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->codeResourceInfo, 0, 30);
-   RT_CHECK(ctx, stat, "UL-TS-ChannelisationCode", "codeResourceInfo", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if ((uint64_t)pvalue->u.ueSpecificMidamble > 15u) {
-            rtxErrAddStrParm(ctx, "ueSpecificMidamble");
-            rtxErrAddUIntParm(ctx, pvalue->u.ueSpecificMidamble);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ueSpecificMidamble", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.ueSpecificMidamble, 0, 15);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* timeslotNumber */
-   if ((uint64_t)pvalue->timeslotNumber > 6u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, 0);
-   /* channelisation-Code */
-   if (pvalue->channelisation_Code > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->channelisation_Code);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "channelisation-Code", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->channelisation_Code, 0, 15);
-   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "channelisation-Code", -1, 0);
-   /* midambleAllocationMode */
-   stat = asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
-   /* midambleConfiguration */
-   if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
-      rtxErrAddStrParm(ctx, "midambleConfiguration");
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "midambleConfiguration", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, 0);
-   /* signatureSequenceGroupIndex */
-   if ((uint64_t)pvalue->signatureSequenceGroupIndex > 19u) {
-      rtxErrAddStrParm(ctx, "signatureSequenceGroupIndex");
-      rtxErrAddUIntParm(ctx, pvalue->signatureSequenceGroupIndex);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "signatureSequenceGroupIndex", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->signatureSequenceGroupIndex, 0, 19);
-   RT_CHECK(ctx, stat, 0, "signatureSequenceGroupIndex", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_tdd128(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* n-E-UCCH */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->n_E_UCCH - 1) > 7u) {
-         rtxErrAddStrParm(ctx, "n-E-UCCH");
-         rtxErrAddUIntParm(ctx, pvalue->n_E_UCCH);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "n-E-UCCH", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->n_E_UCCH, 1, 8);
-      RT_CHECK(ctx, stat, 0, "n-E-UCCH", -1, 0);
-   }
-   /* n-E-HICH */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)(pvalue->n_E_HICH - 4) > 11u) {
-         rtxErrAddStrParm(ctx, "n-E-HICH");
-         rtxErrAddUIntParm(ctx, pvalue->n_E_HICH);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "n-E-HICH", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->n_E_HICH, 4, 15);
-      RT_CHECK(ctx, stat, 0, "n-E-HICH", -1, 0);
-   }
-   /* timeslotResourceRelatedInfo */
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pe_BitString32(ctx, &pvalue->timeslotResourceRelatedInfo, 5, 5);
-   RT_CHECK(ctx, stat, 0, "timeslotResourceRelatedInfo", -1, 0);
-   /* powerResourceRelatedInfo */
-   if ((uint64_t)(pvalue->powerResourceRelatedInfo - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "powerResourceRelatedInfo");
-      rtxErrAddUIntParm(ctx, pvalue->powerResourceRelatedInfo);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "powerResourceRelatedInfo", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->powerResourceRelatedInfo, 1, 32);
-   RT_CHECK(ctx, stat, 0, "powerResourceRelatedInfo", -1, 0);
-   /* activationTime */
-   stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-   RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, 0);
-   /* sfnNum */
-   if ((uint64_t)pvalue->sfnNum > 1u) {
-      rtxErrAddStrParm(ctx, "sfnNum");
-      rtxErrAddUIntParm(ctx, pvalue->sfnNum);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sfnNum", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->sfnNum, 0, 1);
-   RT_CHECK(ctx, stat, 0, "sfnNum", -1, 0);
-   /* repetitionPeriodAndLength */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_RepetitionPeriodAndLength(ctx, &pvalue->repetitionPeriodAndLength);
-      RT_CHECK(ctx, stat, 0, "repetitionPeriodAndLength", -1, 0);
-   }
-   /* codeResourceInfo */
-   if (pvalue->codeResourceInfo > 30) {
-      rtxErrAddUIntParm(ctx, pvalue->codeResourceInfo);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UL-TS-ChannelisationCode", "codeResourceInfo", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->codeResourceInfo, 0, 30);
-   RT_CHECK(ctx, stat, "UL-TS-ChannelisationCode", "codeResourceInfo", -1, 0);
-   /* e-HICH-Info */
-   stat = asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info(ctx, &pvalue->e_HICH_Info);
-   RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Non-ScheduledTransGrantInfoTDD");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "Non-ScheduledTransGrantInfoTDD");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "Non-ScheduledTransGrantInfoTDD");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd384_768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384-768", -1, "Non-ScheduledTransGrantInfoTDD");
-         stat = asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_tdd384_768(ctx, pvalue->u.tdd384_768);
-         RT_CHECK(ctx, stat, 0, "tdd384-768", -1, "Non-ScheduledTransGrantInfoTDD");
-         break;
-      case 2:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, "Non-ScheduledTransGrantInfoTDD");
-         stat = asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, "Non-ScheduledTransGrantInfoTDD");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_EDCH_Information_r8_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r8_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* e-RUCCH-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_E_RUCCH_Info(ctx, &pvalue->e_RUCCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-RUCCH-Info", -1, 0);
-   }
-   /* e-PUCH-Info */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_E_PUCH_Info(ctx, &pvalue->e_PUCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-PUCH-Info", -1, 0);
-   }
-   /* non-ScheduledTransGrantInfo */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD(ctx, &pvalue->non_ScheduledTransGrantInfo);
-      RT_CHECK(ctx, stat, 0, "non-ScheduledTransGrantInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_EDCH_Information_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r8_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_UL_EDCH_Information_r8_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_UL_EDCH_Information_r8_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_EDCH_Information_r8(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-EDCH-Information-r8");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-EDCH-Information-r8");
-   /* mac-es-e-resetIndicator */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->mac_es_e_resetIndicator > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->mac_es_e_resetIndicator);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "mac-es-e-resetIndicator", -1, "UL-EDCH-Information-r8");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mac_es_e_resetIndicator, 0, 0);
-      RT_CHECK(ctx, stat, 0, "mac-es-e-resetIndicator", -1, "UL-EDCH-Information-r8");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_UL_EDCH_Information_r8_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-EDCH-Information-r8");
-   return 0;
-}
-
-int asn1PE_UMTS_DLUL_HSPA_Information_r8(rtxContext* RT_RESTRICT ctx, const DLUL_HSPA_Information_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DLUL-HSPA-Information-r8");
-   /* ul-EDCH-Information */
-   stat = asn1PE_UMTS_UL_EDCH_Information_r8(ctx, &pvalue->ul_EDCH_Information);
-   RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "DLUL-HSPA-Information-r8");
-   /* dl-CommonInformation */
-   stat = asn1PE_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
-   RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "DLUL-HSPA-Information-r8");
-   /* dl-InformationPerRL-List */
-   stat = asn1PE_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "DLUL-HSPA-Information-r8");
-   /* dl-HSPDSCH-Information */
-   stat = asn1PE_UMTS_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_HSPDSCH_Information);
-   RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "DLUL-HSPA-Information-r8");
-   return 0;
-}
-
-int asn1PE_UMTS_UL_EDCH_Information_r9_mac_es_e_resetIndicator(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r9_mac_es_e_resetIndicator value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_EDCH_Information_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* e-DPCCH-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_E_DPCCH_Info_r7(ctx, &pvalue->e_DPCCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-DPCCH-Info", -1, 0);
-   }
-   /* e-DPDCH-Info */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_E_DPDCH_Info_r8(ctx, &pvalue->e_DPDCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-DPDCH-Info", -1, 0);
-   }
-   /* schedulingTransmConfiguration */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_E_DPDCH_SchedulingTransmConfiguration(ctx, &pvalue->schedulingTransmConfiguration);
-      RT_CHECK(ctx, stat, 0, "schedulingTransmConfiguration", -1, 0);
-   }
-   /* ul-16QAM-Settings */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_UL_16QAM_Settings(ctx, &pvalue->ul_16QAM_Settings);
-      RT_CHECK(ctx, stat, 0, "ul-16QAM-Settings", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd384_768(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_r9_tdd384_768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* timeslotResourceRelatedInfo */
-   RT_SET_SIZE(ctx, 13, 13);
-   stat = pe_BitString32(ctx, &pvalue->timeslotResourceRelatedInfo, 13, 13);
-   RT_CHECK(ctx, stat, 0, "timeslotResourceRelatedInfo", -1, 0);
-   /* powerResourceRelatedInfo */
-   if ((uint64_t)(pvalue->powerResourceRelatedInfo - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "powerResourceRelatedInfo");
-      rtxErrAddUIntParm(ctx, pvalue->powerResourceRelatedInfo);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "powerResourceRelatedInfo", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->powerResourceRelatedInfo, 1, 32);
-   RT_CHECK(ctx, stat, 0, "powerResourceRelatedInfo", -1, 0);
-   /* activationTime */
-   stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-   RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, 0);
-   /* repetitionPeriodAndLength */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RepetitionPeriodAndLength(ctx, &pvalue->repetitionPeriodAndLength);
-      RT_CHECK(ctx, stat, 0, "repetitionPeriodAndLength", -1, 0);
-   }
-   /* codeResourceInfo */
-   if (pvalue->codeResourceInfo > 30) {
-      rtxErrAddUIntParm(ctx, pvalue->codeResourceInfo);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UL-TS-ChannelisationCode", "codeResourceInfo", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->codeResourceInfo, 0, 30);
-   RT_CHECK(ctx, stat, "UL-TS-ChannelisationCode", "codeResourceInfo", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info_midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if ((uint64_t)pvalue->u.ueSpecificMidamble > 15u) {
-            rtxErrAddStrParm(ctx, "ueSpecificMidamble");
-            rtxErrAddUIntParm(ctx, pvalue->u.ueSpecificMidamble);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ueSpecificMidamble", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.ueSpecificMidamble, 0, 15);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* timeslotNumber */
-   if ((uint64_t)pvalue->timeslotNumber > 6u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, 0);
-   /* channelisation-Code */
-   if (pvalue->channelisation_Code > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->channelisation_Code);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "channelisation-Code", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->channelisation_Code, 0, 15);
-   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "channelisation-Code", -1, 0);
-   /* midambleAllocationMode */
-   stat = asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
-   /* midambleConfiguration */
-   if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
-      rtxErrAddStrParm(ctx, "midambleConfiguration");
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "midambleConfiguration", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, 0);
-   /* signatureSequenceGroupIndex */
-   if ((uint64_t)pvalue->signatureSequenceGroupIndex > 19u) {
-      rtxErrAddStrParm(ctx, "signatureSequenceGroupIndex");
-      rtxErrAddUIntParm(ctx, pvalue->signatureSequenceGroupIndex);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "signatureSequenceGroupIndex", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->signatureSequenceGroupIndex, 0, 19);
-   RT_CHECK(ctx, stat, 0, "signatureSequenceGroupIndex", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd128_t_SI_nst(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_r9_tdd128_t_SI_nst value)
-{
-   int stat = 0;
-   if (value > 6) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd128(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_r9_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* n-E-UCCH */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->n_E_UCCH - 1) > 7u) {
-         rtxErrAddStrParm(ctx, "n-E-UCCH");
-         rtxErrAddUIntParm(ctx, pvalue->n_E_UCCH);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "n-E-UCCH", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->n_E_UCCH, 1, 8);
-      RT_CHECK(ctx, stat, 0, "n-E-UCCH", -1, 0);
-   }
-   /* n-E-HICH */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)(pvalue->n_E_HICH - 4) > 11u) {
-         rtxErrAddStrParm(ctx, "n-E-HICH");
-         rtxErrAddUIntParm(ctx, pvalue->n_E_HICH);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "n-E-HICH", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->n_E_HICH, 4, 15);
-      RT_CHECK(ctx, stat, 0, "n-E-HICH", -1, 0);
-   }
-   /* timeslotResourceRelatedInfo */
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pe_BitString32(ctx, &pvalue->timeslotResourceRelatedInfo, 5, 5);
-   RT_CHECK(ctx, stat, 0, "timeslotResourceRelatedInfo", -1, 0);
-   /* powerResourceRelatedInfo */
-   if ((uint64_t)(pvalue->powerResourceRelatedInfo - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "powerResourceRelatedInfo");
-      rtxErrAddUIntParm(ctx, pvalue->powerResourceRelatedInfo);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "powerResourceRelatedInfo", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->powerResourceRelatedInfo, 1, 32);
-   RT_CHECK(ctx, stat, 0, "powerResourceRelatedInfo", -1, 0);
-   /* activationTime */
-   stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-   RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, 0);
-   /* sfnNum */
-   if ((uint64_t)pvalue->sfnNum > 1u) {
-      rtxErrAddStrParm(ctx, "sfnNum");
-      rtxErrAddUIntParm(ctx, pvalue->sfnNum);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sfnNum", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->sfnNum, 0, 1);
-   RT_CHECK(ctx, stat, 0, "sfnNum", -1, 0);
-   /* repetitionPeriodAndLength */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_RepetitionPeriodAndLength(ctx, &pvalue->repetitionPeriodAndLength);
-      RT_CHECK(ctx, stat, 0, "repetitionPeriodAndLength", -1, 0);
-   }
-   /* codeResourceInfo */
-   if (pvalue->codeResourceInfo > 30) {
-      rtxErrAddUIntParm(ctx, pvalue->codeResourceInfo);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UL-TS-ChannelisationCode", "codeResourceInfo", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->codeResourceInfo, 0, 30);
-   RT_CHECK(ctx, stat, "UL-TS-ChannelisationCode", "codeResourceInfo", -1, 0);
-   /* e-HICH-Info */
-   stat = asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info(ctx, &pvalue->e_HICH_Info);
-   RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, 0);
-   /* t-SI-nst */
-   if (pvalue->m & 0x8u) {
-      if (pvalue->t_SI_nst > 6) {
-         rtxErrAddUIntParm(ctx, pvalue->t_SI_nst);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "t-SI-nst", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_SI_nst, 0, 6);
-      RT_CHECK(ctx, stat, 0, "t-SI-nst", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_r9(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Non-ScheduledTransGrantInfoTDD-r9");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "Non-ScheduledTransGrantInfoTDD-r9");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "Non-ScheduledTransGrantInfoTDD-r9");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd384_768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384-768", -1, "Non-ScheduledTransGrantInfoTDD-r9");
-         stat = asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd384_768(ctx, pvalue->u.tdd384_768);
-         RT_CHECK(ctx, stat, 0, "tdd384-768", -1, "Non-ScheduledTransGrantInfoTDD-r9");
-         break;
-      case 2:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, "Non-ScheduledTransGrantInfoTDD-r9");
-         stat = asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, "Non-ScheduledTransGrantInfoTDD-r9");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_EDCH_Information_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* e-RUCCH-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_E_RUCCH_Info(ctx, &pvalue->e_RUCCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-RUCCH-Info", -1, 0);
-   }
-   /* e-PUCH-Info */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_E_PUCH_Info(ctx, &pvalue->e_PUCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-PUCH-Info", -1, 0);
-   }
-   /* non-ScheduledTransGrantInfo */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_r9(ctx, &pvalue->non_ScheduledTransGrantInfo);
-      RT_CHECK(ctx, stat, 0, "non-ScheduledTransGrantInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_EDCH_Information_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r9_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_UL_EDCH_Information_r9_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_UL_EDCH_Information_r9_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_EDCH_Information_r9(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-EDCH-Information-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-EDCH-Information-r9");
-   /* mac-es-e-resetIndicator */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->mac_es_e_resetIndicator > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->mac_es_e_resetIndicator);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "mac-es-e-resetIndicator", -1, "UL-EDCH-Information-r9");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mac_es_e_resetIndicator, 0, 0);
-      RT_CHECK(ctx, stat, 0, "mac-es-e-resetIndicator", -1, "UL-EDCH-Information-r9");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_UL_EDCH_Information_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-EDCH-Information-r9");
-   return 0;
-}
-
-int asn1PE_UMTS_DLUL_HSPA_Information_r9(rtxContext* RT_RESTRICT ctx, const DLUL_HSPA_Information_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DLUL-HSPA-Information-r9");
-   /* ul-EDCH-Information */
-   stat = asn1PE_UMTS_UL_EDCH_Information_r9(ctx, &pvalue->ul_EDCH_Information);
-   RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "DLUL-HSPA-Information-r9");
-   /* dl-CommonInformation */
-   stat = asn1PE_UMTS_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation);
-   RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "DLUL-HSPA-Information-r9");
-   /* dl-InformationPerRL-List */
-   stat = asn1PE_UMTS_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List);
-   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "DLUL-HSPA-Information-r9");
-   /* dl-HSPDSCH-Information */
-   stat = asn1PE_UMTS_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_HSPDSCH_Information);
-   RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "DLUL-HSPA-Information-r9");
-   return 0;
-}
-
-int asn1PE_UMTS_DPCCH_PowerOffset2(rtxContext* RT_RESTRICT ctx, DPCCH_PowerOffset2 value)
-{
-   int stat = 0;
-   if (value < -28 || value > -13) {
-      rtxErrAddStrParm(ctx, "DPCCH-PowerOffset2");
-      rtxErrAddIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DPCCH-PowerOffset2");
-   }
-   stat = pe_ConsInt64(ctx, value, -28, -13);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DPCCH-PowerOffset2");
-   return 0;
-}
-
-int asn1PE_UMTS_TGPS_Reconfiguration_CFN(rtxContext* RT_RESTRICT ctx, TGPS_Reconfiguration_CFN value)
-{
-   int stat = 0;
-   stat = pe_ConsUInt64(ctx, value, 0, 255);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TGPS-Reconfiguration-CFN");
-   return 0;
-}
-
-int asn1PE_UMTS_TGP_SequenceShort_tgps_Status_activate(rtxContext* RT_RESTRICT ctx, const TGP_SequenceShort_tgps_Status_activate* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* tgcfn */
-   stat = pe_ConsUInt64(ctx, pvalue->tgcfn, 0, 255);
-   RT_CHECK(ctx, stat, "TGCFN", "tgcfn", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_TGP_SequenceShort_tgps_Status(rtxContext* RT_RESTRICT ctx, const TGP_SequenceShort_tgps_Status* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.activate == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "activate", -1, 0);
-         stat = asn1PE_UMTS_TGP_SequenceShort_tgps_Status_activate(ctx, pvalue->u.activate);
-         RT_CHECK(ctx, stat, 0, "activate", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TGP_SequenceShort(rtxContext* RT_RESTRICT ctx, const TGP_SequenceShort* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TGP-SequenceShort");
-   /* tgpsi */
-   if ((uint64_t)(pvalue->tgpsi - 1) > 5u) {
-      rtxErrAddStrParm(ctx, "TGPSI");
-      rtxErrAddUIntParm(ctx, pvalue->tgpsi);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TGPSI", "tgpsi", -1, "TGP-SequenceShort");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tgpsi, 1, 6);
-   RT_CHECK(ctx, stat, "TGPSI", "tgpsi", -1, "TGP-SequenceShort");
-   /* tgps-Status */
-   stat = asn1PE_UMTS_TGP_SequenceShort_tgps_Status(ctx, &pvalue->tgps_Status);
-   RT_CHECK(ctx, stat, 0, "tgps-Status", -1, "TGP-SequenceShort");
-   return 0;
-}
-
-int asn1PE_UMTS_DPCH_CompressedModeStatusInfo_tgp_SequenceShortList(rtxContext* RT_RESTRICT ctx, const DPCH_CompressedModeStatusInfo_tgp_SequenceShortList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 6);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "TGP-SequenceShort", (int32_t)i, 0);
-      stat = asn1PE_UMTS_TGP_SequenceShort(ctx, (const TGP_SequenceShort*)node->data);
-      RT_CHECK(ctx, stat, 0, "TGP-SequenceShort", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DPCH_CompressedModeStatusInfo(rtxContext* RT_RESTRICT ctx, const DPCH_CompressedModeStatusInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DPCH-CompressedModeStatusInfo");
-   /* tgps-Reconfiguration-CFN */
-   stat = pe_ConsUInt64(ctx, pvalue->tgps_Reconfiguration_CFN, 0, 255);
-   RT_CHECK(ctx, stat, "TGPS-Reconfiguration-CFN", "tgps-Reconfiguration-CFN", -1, "DPCH-CompressedModeStatusInfo");
-   /* tgp-SequenceShortList */
-   stat = asn1PE_UMTS_DPCH_CompressedModeStatusInfo_tgp_SequenceShortList(ctx, &pvalue->tgp_SequenceShortList);
-   RT_CHECK(ctx, stat, 0, "tgp-SequenceShortList", -1, "DPCH-CompressedModeStatusInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_DRX_Cycle_InactivityThreshold(rtxContext* RT_RESTRICT ctx, UE_DRX_Cycle_InactivityThreshold value)
-{
-   int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UE-DRX-Cycle-InactivityThreshold");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-DRX-Cycle-InactivityThreshold");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_DRX_Cycle(rtxContext* RT_RESTRICT ctx, UE_DRX_Cycle value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UE-DRX-Cycle");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-DRX-Cycle");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_GrantMonitoring_InactivityThreshold(rtxContext* RT_RESTRICT ctx, UE_GrantMonitoring_InactivityThreshold value)
-{
-   int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UE-GrantMonitoring-InactivityThreshold");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-GrantMonitoring-InactivityThreshold");
-   return 0;
-}
-
-int asn1PE_UMTS_DRX_Info(rtxContext* RT_RESTRICT ctx, const DRX_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DRX-Info");
-   /* ue-drx-Cycle */
-   if (pvalue->ue_drx_Cycle > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->ue_drx_Cycle);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UE-DRX-Cycle", "ue-drx-Cycle", -1, "DRX-Info");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_drx_Cycle, 0, 7);
-   RT_CHECK(ctx, stat, "UE-DRX-Cycle", "ue-drx-Cycle", -1, "DRX-Info");
-   /* ue-drx-Cycle-InactivityThreshold */
-   if (pvalue->ue_drx_Cycle_InactivityThreshold > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->ue_drx_Cycle_InactivityThreshold);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UE-DRX-Cycle-InactivityThreshold", "ue-drx-Cycle-InactivityThreshold", -1, "DRX-Info");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_drx_Cycle_InactivityThreshold, 0, 15);
-   RT_CHECK(ctx, stat, "UE-DRX-Cycle-InactivityThreshold", "ue-drx-Cycle-InactivityThreshold", -1, "DRX-Info");
-   /* ue-GrantMonitoring-InactivityThreshold */
-   if (pvalue->ue_GrantMonitoring_InactivityThreshold > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->ue_GrantMonitoring_InactivityThreshold);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UE-GrantMonitoring-InactivityThreshold", "ue-GrantMonitoring-InactivityThreshold", -1, "DRX-Info");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_GrantMonitoring_InactivityThreshold, 0, 15);
-   RT_CHECK(ctx, stat, "UE-GrantMonitoring-InactivityThreshold", "ue-GrantMonitoring-InactivityThreshold", -1, "DRX-Info");
-   /* ue-drx-GrantMonitoring */
-   stat = rtxEncBit(ctx, pvalue->ue_drx_GrantMonitoring);
-   RT_CHECK(ctx, stat, 0, "ue-drx-GrantMonitoring", -1, "DRX-Info");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_DTX_Cycle1_10ms(rtxContext* RT_RESTRICT ctx, UE_DTX_Cycle1_10ms value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UE-DTX-Cycle1-10ms");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-DTX-Cycle1-10ms");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_DTX_Cycle2_10ms(rtxContext* RT_RESTRICT ctx, UE_DTX_Cycle2_10ms value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UE-DTX-Cycle2-10ms");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-DTX-Cycle2-10ms");
-   return 0;
-}
-
-int asn1PE_UMTS_MAC_DTX_Cycle_10ms(rtxContext* RT_RESTRICT ctx, MAC_DTX_Cycle_10ms value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MAC-DTX-Cycle-10ms");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-DTX-Cycle-10ms");
-   return 0;
-}
-
-int asn1PE_UMTS_DTX_E_DCH_TTI_10ms(rtxContext* RT_RESTRICT ctx, const DTX_E_DCH_TTI_10ms* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DTX-E-DCH-TTI-10ms");
-   /* ue-dtx-Cycle1-10ms */
-   if (pvalue->ue_dtx_Cycle1_10ms > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->ue_dtx_Cycle1_10ms);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UE-DTX-Cycle1-10ms", "ue-dtx-Cycle1-10ms", -1, "DTX-E-DCH-TTI-10ms");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_dtx_Cycle1_10ms, 0, 3);
-   RT_CHECK(ctx, stat, "UE-DTX-Cycle1-10ms", "ue-dtx-Cycle1-10ms", -1, "DTX-E-DCH-TTI-10ms");
-   /* ue-dtx-Cycle2-10ms */
-   if (pvalue->ue_dtx_Cycle2_10ms > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->ue_dtx_Cycle2_10ms);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UE-DTX-Cycle2-10ms", "ue-dtx-Cycle2-10ms", -1, "DTX-E-DCH-TTI-10ms");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_dtx_Cycle2_10ms, 0, 7);
-   RT_CHECK(ctx, stat, "UE-DTX-Cycle2-10ms", "ue-dtx-Cycle2-10ms", -1, "DTX-E-DCH-TTI-10ms");
-   /* mac-dtx-Cycle-10ms */
-   if (pvalue->mac_dtx_Cycle_10ms > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->mac_dtx_Cycle_10ms);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MAC-DTX-Cycle-10ms", "mac-dtx-Cycle-10ms", -1, "DTX-E-DCH-TTI-10ms");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mac_dtx_Cycle_10ms, 0, 3);
-   RT_CHECK(ctx, stat, "MAC-DTX-Cycle-10ms", "mac-dtx-Cycle-10ms", -1, "DTX-E-DCH-TTI-10ms");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_DTX_Cycle1_2ms(rtxContext* RT_RESTRICT ctx, UE_DTX_Cycle1_2ms value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UE-DTX-Cycle1-2ms");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-DTX-Cycle1-2ms");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_DTX_Cycle2_2ms(rtxContext* RT_RESTRICT ctx, UE_DTX_Cycle2_2ms value)
-{
-   int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UE-DTX-Cycle2-2ms");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-DTX-Cycle2-2ms");
-   return 0;
-}
-
-int asn1PE_UMTS_MAC_DTX_Cycle_2ms(rtxContext* RT_RESTRICT ctx, MAC_DTX_Cycle_2ms value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MAC-DTX-Cycle-2ms");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-DTX-Cycle-2ms");
-   return 0;
-}
-
-int asn1PE_UMTS_DTX_E_DCH_TTI_2ms(rtxContext* RT_RESTRICT ctx, const DTX_E_DCH_TTI_2ms* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DTX-E-DCH-TTI-2ms");
-   /* ue-dtx-Cycle1-2ms */
-   if (pvalue->ue_dtx_Cycle1_2ms > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->ue_dtx_Cycle1_2ms);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UE-DTX-Cycle1-2ms", "ue-dtx-Cycle1-2ms", -1, "DTX-E-DCH-TTI-2ms");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_dtx_Cycle1_2ms, 0, 7);
-   RT_CHECK(ctx, stat, "UE-DTX-Cycle1-2ms", "ue-dtx-Cycle1-2ms", -1, "DTX-E-DCH-TTI-2ms");
-   /* ue-dtx-Cycle2-2ms */
-   if (pvalue->ue_dtx_Cycle2_2ms > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->ue_dtx_Cycle2_2ms);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UE-DTX-Cycle2-2ms", "ue-dtx-Cycle2-2ms", -1, "DTX-E-DCH-TTI-2ms");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_dtx_Cycle2_2ms, 0, 15);
-   RT_CHECK(ctx, stat, "UE-DTX-Cycle2-2ms", "ue-dtx-Cycle2-2ms", -1, "DTX-E-DCH-TTI-2ms");
-   /* mac-dtx-Cycle-2ms */
-   if (pvalue->mac_dtx_Cycle_2ms > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->mac_dtx_Cycle_2ms);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MAC-DTX-Cycle-2ms", "mac-dtx-Cycle-2ms", -1, "DTX-E-DCH-TTI-2ms");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mac_dtx_Cycle_2ms, 0, 7);
-   RT_CHECK(ctx, stat, "MAC-DTX-Cycle-2ms", "mac-dtx-Cycle-2ms", -1, "DTX-E-DCH-TTI-2ms");
-   return 0;
-}
-
-int asn1PE_UMTS_DTX_Info_e_dch_TTI_Length(rtxContext* RT_RESTRICT ctx, const DTX_Info_e_dch_TTI_Length* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.dtx_e_dch_TTI_10ms == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dtx-e-dch-TTI-10ms", -1, 0);
-         stat = asn1PE_UMTS_DTX_E_DCH_TTI_10ms(ctx, pvalue->u.dtx_e_dch_TTI_10ms);
-         RT_CHECK(ctx, stat, 0, "dtx-e-dch-TTI-10ms", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.dtx_e_dch_TTI_2ms == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dtx-e-dch-TTI-2ms", -1, 0);
-         stat = asn1PE_UMTS_DTX_E_DCH_TTI_2ms(ctx, pvalue->u.dtx_e_dch_TTI_2ms);
-         RT_CHECK(ctx, stat, 0, "dtx-e-dch-TTI-2ms", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_DTX_Cycle2InactivityThreshold(rtxContext* RT_RESTRICT ctx, UE_DTX_Cycle2InactivityThreshold value)
-{
-   int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UE-DTX-Cycle2InactivityThreshold");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-DTX-Cycle2InactivityThreshold");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_DTX_long_preamble_length(rtxContext* RT_RESTRICT ctx, UE_DTX_long_preamble_length value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UE-DTX-long-preamble-length");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-DTX-long-preamble-length");
-   return 0;
-}
-
-int asn1PE_UMTS_MAC_InactivityThreshold(rtxContext* RT_RESTRICT ctx, MAC_InactivityThreshold value)
-{
-   int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MAC-InactivityThreshold");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MAC-InactivityThreshold");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_DPCCH_Burst(rtxContext* RT_RESTRICT ctx, UE_DPCCH_Burst value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UE-DPCCH-Burst");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-DPCCH-Burst");
-   return 0;
-}
-
-int asn1PE_UMTS_DTX_Info(rtxContext* RT_RESTRICT ctx, const DTX_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DTX-Info");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DTX-Info");
-   /* e-dch-TTI-Length */
-   stat = asn1PE_UMTS_DTX_Info_e_dch_TTI_Length(ctx, &pvalue->e_dch_TTI_Length);
-   RT_CHECK(ctx, stat, 0, "e-dch-TTI-Length", -1, "DTX-Info");
-   /* ue-dtx-cycle2InactivityThreshold */
-   if (pvalue->ue_dtx_cycle2InactivityThreshold > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->ue_dtx_cycle2InactivityThreshold);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UE-DTX-Cycle2InactivityThreshold", "ue-dtx-cycle2InactivityThreshold", -1, "DTX-Info");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_dtx_cycle2InactivityThreshold, 0, 15);
-   RT_CHECK(ctx, stat, "UE-DTX-Cycle2InactivityThreshold", "ue-dtx-cycle2InactivityThreshold", -1, "DTX-Info");
-   /* ue-dtx-cycle2DefaultSG */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->ue_dtx_cycle2DefaultSG > 38u) {
-         rtxErrAddStrParm(ctx, "ue-dtx-cycle2DefaultSG");
-         rtxErrAddUIntParm(ctx, pvalue->ue_dtx_cycle2DefaultSG);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ue-dtx-cycle2DefaultSG", -1, "DTX-Info");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ue_dtx_cycle2DefaultSG, 0, 38);
-      RT_CHECK(ctx, stat, 0, "ue-dtx-cycle2DefaultSG", -1, "DTX-Info");
-   }
-   /* ue-dtx-long-preamble-length */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->ue_dtx_long_preamble_length > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->ue_dtx_long_preamble_length);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "UE-DTX-long-preamble-length", "ue-dtx-long-preamble-length", -1, "DTX-Info");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ue_dtx_long_preamble_length, 0, 1);
-      RT_CHECK(ctx, stat, "UE-DTX-long-preamble-length", "ue-dtx-long-preamble-length", -1, "DTX-Info");
-   }
-   /* mac-InactivityThreshold */
-   if (pvalue->mac_InactivityThreshold > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->mac_InactivityThreshold);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MAC-InactivityThreshold", "mac-InactivityThreshold", -1, "DTX-Info");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mac_InactivityThreshold, 0, 15);
-   RT_CHECK(ctx, stat, "MAC-InactivityThreshold", "mac-InactivityThreshold", -1, "DTX-Info");
-   /* cqi-dtx-Timer */
-   if (pvalue->cqi_dtx_Timer > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->cqi_dtx_Timer);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "CQI-DTX-Timer", "cqi-dtx-Timer", -1, "DTX-Info");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cqi_dtx_Timer, 0, 15);
-   RT_CHECK(ctx, stat, "CQI-DTX-Timer", "cqi-dtx-Timer", -1, "DTX-Info");
-   /* ue-dpcch-Burst1 */
-   if (pvalue->ue_dpcch_Burst1 > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->ue_dpcch_Burst1);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UE-DPCCH-Burst", "ue-dpcch-Burst1", -1, "DTX-Info");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_dpcch_Burst1, 0, 3);
-   RT_CHECK(ctx, stat, "UE-DPCCH-Burst", "ue-dpcch-Burst1", -1, "DTX-Info");
-   /* ue-dpcch-Burst2 */
-   if (pvalue->ue_dpcch_Burst2 > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->ue_dpcch_Burst2);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UE-DPCCH-Burst", "ue-dpcch-Burst2", -1, "DTX-Info");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_dpcch_Burst2, 0, 3);
-   RT_CHECK(ctx, stat, "UE-DPCCH-Burst", "ue-dpcch-Burst2", -1, "DTX-Info");
-   return 0;
-}
-
-int asn1PE_UMTS_Uplink_DPCCH_Slot_Format_Information(rtxContext* RT_RESTRICT ctx, Uplink_DPCCH_Slot_Format_Information value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "Uplink-DPCCH-Slot-Format-Information");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Uplink-DPCCH-Slot-Format-Information");
-   return 0;
-}
-
-int asn1PE_UMTS_DTX_DRX_Info_r7(rtxContext* RT_RESTRICT ctx, const DTX_DRX_Info_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DTX-DRX-Info-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DTX-DRX-Info-r7");
-   /* dtx-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DTX_Info(ctx, &pvalue->dtx_Info);
-      RT_CHECK(ctx, stat, 0, "dtx-Info", -1, "DTX-DRX-Info-r7");
-   }
-   /* drx-Info */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DRX_Info(ctx, &pvalue->drx_Info);
-      RT_CHECK(ctx, stat, 0, "drx-Info", -1, "DTX-DRX-Info-r7");
-   }
-   /* uplink-DPCCHSlotFormatInformation */
-   if (pvalue->uplink_DPCCHSlotFormatInformation > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->uplink_DPCCHSlotFormatInformation);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "Uplink-DPCCH-Slot-Format-Information", "uplink-DPCCHSlotFormatInformation", -1, "DTX-DRX-Info-r7");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->uplink_DPCCHSlotFormatInformation, 0, 3);
-   RT_CHECK(ctx, stat, "Uplink-DPCCH-Slot-Format-Information", "uplink-DPCCHSlotFormatInformation", -1, "DTX-DRX-Info-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_RL_InfoNewServingCell_servingGrant_primary_Secondary_GrantSelector(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewServingCell_servingGrant_primary_Secondary_GrantSelector value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_RL_InfoNewServingCell_servingGrant(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoNewServingCell_servingGrant* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* value */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->value > 38u) {
-         rtxErrAddStrParm(ctx, "value");
-         rtxErrAddUIntParm(ctx, pvalue->value);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "value", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->value, 0, 38);
-      RT_CHECK(ctx, stat, 0, "value", -1, 0);
-   }
-   /* primary-Secondary-GrantSelector */
-   if (pvalue->primary_Secondary_GrantSelector > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->primary_Secondary_GrantSelector);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "primary-Secondary-GrantSelector", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->primary_Secondary_GrantSelector, 0, 1);
-   RT_CHECK(ctx, stat, 0, "primary-Secondary-GrantSelector", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DPDCH_Reference_E_TFCI(rtxContext* RT_RESTRICT ctx, const E_DPDCH_Reference_E_TFCI* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-DPDCH-Reference-E-TFCI");
-   /* reference-E-TFCI */
-   if ((uint64_t)pvalue->reference_E_TFCI > 127u) {
-      rtxErrAddStrParm(ctx, "reference-E-TFCI");
-      rtxErrAddUIntParm(ctx, pvalue->reference_E_TFCI);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "reference-E-TFCI", -1, "E-DPDCH-Reference-E-TFCI");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reference_E_TFCI, 0, 127);
-   RT_CHECK(ctx, stat, 0, "reference-E-TFCI", -1, "E-DPDCH-Reference-E-TFCI");
-   /* reference-E-TFCI-PO */
-   if ((uint64_t)pvalue->reference_E_TFCI_PO > 29u) {
-      rtxErrAddStrParm(ctx, "reference-E-TFCI-PO");
-      rtxErrAddUIntParm(ctx, pvalue->reference_E_TFCI_PO);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "reference-E-TFCI-PO", -1, "E-DPDCH-Reference-E-TFCI");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reference_E_TFCI_PO, 0, 29);
-   RT_CHECK(ctx, stat, 0, "reference-E-TFCI-PO", -1, "E-DPDCH-Reference-E-TFCI");
-   return 0;
-}
-
-int asn1PE_UMTS_E_DPDCH_Reference_E_TFCIList(rtxContext* RT_RESTRICT ctx, const E_DPDCH_Reference_E_TFCIList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-DPDCH-Reference-E-TFCIList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "E-DPDCH-Reference-E-TFCIList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "E-DPDCH-Reference-E-TFCI", (int32_t)i, "E-DPDCH-Reference-E-TFCIList");
-      stat = asn1PE_UMTS_E_DPDCH_Reference_E_TFCI(ctx, (const E_DPDCH_Reference_E_TFCI*)node->data);
-      RT_CHECK(ctx, stat, 0, "E-DPDCH-Reference-E-TFCI", (int32_t)i, "E-DPDCH-Reference-E-TFCIList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_RL_InfoNewServingCell_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoNewServingCell_e_RGCH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e-RGCH-Information", -1, 0);
-         stat = asn1PE_UMTS_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information);
-         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_RL_InfoNewServingCell(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoNewServingCell* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-DCH-RL-InfoNewServingCell");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 0), 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-RL-InfoNewServingCell");
-   /* primaryCPICH-Info */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "E-DCH-RL-InfoNewServingCell");
-   /* e-AGCH-Information */
-   stat = asn1PE_UMTS_E_AGCH_Information(ctx, &pvalue->e_AGCH_Information);
-   RT_CHECK(ctx, stat, 0, "e-AGCH-Information", -1, "E-DCH-RL-InfoNewServingCell");
-   /* servingGrant */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_E_DCH_RL_InfoNewServingCell_servingGrant(ctx, &pvalue->servingGrant);
-      RT_CHECK(ctx, stat, 0, "servingGrant", -1, "E-DCH-RL-InfoNewServingCell");
-   }
-   /* e-DPCCH-DPCCH-PowerOffset */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->e_DPCCH_DPCCH_PowerOffset > 8u) {
-         rtxErrAddStrParm(ctx, "E-DPCCH-DPCCH-PowerOffset");
-         rtxErrAddUIntParm(ctx, pvalue->e_DPCCH_DPCCH_PowerOffset);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "E-DPCCH-DPCCH-PowerOffset", "e-DPCCH-DPCCH-PowerOffset", -1, "E-DCH-RL-InfoNewServingCell");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->e_DPCCH_DPCCH_PowerOffset, 0, 8);
-      RT_CHECK(ctx, stat, "E-DPCCH-DPCCH-PowerOffset", "e-DPCCH-DPCCH-PowerOffset", -1, "E-DCH-RL-InfoNewServingCell");
-   }
-   /* reference-E-TFCIs */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_E_DPDCH_Reference_E_TFCIList(ctx, &pvalue->reference_E_TFCIs);
-      RT_CHECK(ctx, stat, 0, "reference-E-TFCIs", -1, "E-DCH-RL-InfoNewServingCell");
-   }
-   /* powerOffsetForSchedInfo */
-   if (pvalue->m & 0x8u) {
-      if ((uint64_t)pvalue->powerOffsetForSchedInfo > 6u) {
-         rtxErrAddStrParm(ctx, "powerOffsetForSchedInfo");
-         rtxErrAddUIntParm(ctx, pvalue->powerOffsetForSchedInfo);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "powerOffsetForSchedInfo", -1, "E-DCH-RL-InfoNewServingCell");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->powerOffsetForSchedInfo, 0, 6);
-      RT_CHECK(ctx, stat, 0, "powerOffsetForSchedInfo", -1, "E-DCH-RL-InfoNewServingCell");
-   }
-   /* threeIndexStepThreshold */
-   if (pvalue->m & 0x10u) {
-      if ((uint64_t)pvalue->threeIndexStepThreshold > 37u) {
-         rtxErrAddStrParm(ctx, "threeIndexStepThreshold");
-         rtxErrAddUIntParm(ctx, pvalue->threeIndexStepThreshold);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "threeIndexStepThreshold", -1, "E-DCH-RL-InfoNewServingCell");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->threeIndexStepThreshold, 0, 37);
-      RT_CHECK(ctx, stat, 0, "threeIndexStepThreshold", -1, "E-DCH-RL-InfoNewServingCell");
-   }
-   /* twoIndexStepThreshold */
-   if (pvalue->m & 0x20u) {
-      if ((uint64_t)pvalue->twoIndexStepThreshold > 37u) {
-         rtxErrAddStrParm(ctx, "twoIndexStepThreshold");
-         rtxErrAddUIntParm(ctx, pvalue->twoIndexStepThreshold);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "twoIndexStepThreshold", -1, "E-DCH-RL-InfoNewServingCell");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->twoIndexStepThreshold, 0, 37);
-      RT_CHECK(ctx, stat, 0, "twoIndexStepThreshold", -1, "E-DCH-RL-InfoNewServingCell");
-   }
-   /* e-HICH-Information */
-   if (pvalue->m & 0x40u) {
-      stat = asn1PE_UMTS_E_HICH_Information(ctx, &pvalue->e_HICH_Information);
-      RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "E-DCH-RL-InfoNewServingCell");
-   }
-   /* e-RGCH-Info */
-   if (pvalue->m & 0x80u) {
-      stat = asn1PE_UMTS_E_DCH_RL_InfoNewServingCell_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, "E-DCH-RL-InfoNewServingCell");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_RL_InfoOtherCell_e_HICH_Info(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoOtherCell_e_HICH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.e_HICH_Information == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e-HICH-Information", -1, 0);
-         stat = asn1PE_UMTS_E_HICH_Information(ctx, pvalue->u.e_HICH_Information);
-         RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_RL_InfoOtherCell_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoOtherCell_e_RGCH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e-RGCH-Information", -1, 0);
-         stat = asn1PE_UMTS_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information);
-         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_RL_InfoOtherCell(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoOtherCell* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-DCH-RL-InfoOtherCell");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-RL-InfoOtherCell");
-   /* primaryCPICH-Info */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "E-DCH-RL-InfoOtherCell");
-   /* e-HICH-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_E_DCH_RL_InfoOtherCell_e_HICH_Info(ctx, &pvalue->e_HICH_Info);
-      RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, "E-DCH-RL-InfoOtherCell");
-   }
-   /* e-RGCH-Info */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_E_DCH_RL_InfoOtherCell_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, "E-DCH-RL-InfoOtherCell");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_ReconfigurationInfo_e_DCH_RL_InfoOtherCellList(rtxContext* RT_RESTRICT ctx, const E_DCH_ReconfigurationInfo_e_DCH_RL_InfoOtherCellList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "E-DCH-RL-InfoOtherCell", (int32_t)i, 0);
-      stat = asn1PE_UMTS_E_DCH_RL_InfoOtherCell(ctx, (const E_DCH_RL_InfoOtherCell*)node->data);
-      RT_CHECK(ctx, stat, 0, "E-DCH-RL-InfoOtherCell", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_ReconfigurationInfo(rtxContext* RT_RESTRICT ctx, const E_DCH_ReconfigurationInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-DCH-ReconfigurationInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-ReconfigurationInfo");
-   /* e-DCH-RL-InfoNewServingCell */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_E_DCH_RL_InfoNewServingCell(ctx, &pvalue->e_DCH_RL_InfoNewServingCell);
-      RT_CHECK(ctx, stat, 0, "e-DCH-RL-InfoNewServingCell", -1, "E-DCH-ReconfigurationInfo");
-   }
-   /* e-DCH-RL-InfoOtherCellList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_E_DCH_ReconfigurationInfo_e_DCH_RL_InfoOtherCellList(ctx, &pvalue->e_DCH_RL_InfoOtherCellList);
-      RT_CHECK(ctx, stat, 0, "e-DCH-RL-InfoOtherCellList", -1, "E-DCH-ReconfigurationInfo");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_RL_InfoNewServingCell_r7_servingGrant_primary_Secondary_GrantSelector(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewServingCell_r7_servingGrant_primary_Secondary_GrantSelector value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_RL_InfoNewServingCell_r7_servingGrant(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoNewServingCell_r7_servingGrant* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* value */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->value > 38u) {
-         rtxErrAddStrParm(ctx, "value");
-         rtxErrAddUIntParm(ctx, pvalue->value);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "value", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->value, 0, 38);
-      RT_CHECK(ctx, stat, 0, "value", -1, 0);
-   }
-   /* primary-Secondary-GrantSelector */
-   if (pvalue->primary_Secondary_GrantSelector > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->primary_Secondary_GrantSelector);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "primary-Secondary-GrantSelector", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->primary_Secondary_GrantSelector, 0, 1);
-   RT_CHECK(ctx, stat, 0, "primary-Secondary-GrantSelector", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_RL_InfoNewServingCell_r7_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoNewServingCell_r7_e_RGCH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e-RGCH-Information", -1, 0);
-         stat = asn1PE_UMTS_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information);
-         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_RL_InfoNewServingCell_r7(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoNewServingCell_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-DCH-RL-InfoNewServingCell-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 0), 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-RL-InfoNewServingCell-r7");
-   /* primaryCPICH-Info */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "E-DCH-RL-InfoNewServingCell-r7");
-   /* e-AGCH-Information */
-   stat = asn1PE_UMTS_E_AGCH_Information(ctx, &pvalue->e_AGCH_Information);
-   RT_CHECK(ctx, stat, 0, "e-AGCH-Information", -1, "E-DCH-RL-InfoNewServingCell-r7");
-   /* servingGrant */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_E_DCH_RL_InfoNewServingCell_r7_servingGrant(ctx, &pvalue->servingGrant);
-      RT_CHECK(ctx, stat, 0, "servingGrant", -1, "E-DCH-RL-InfoNewServingCell-r7");
-   }
-   /* e-DPCCH-DPCCH-PowerOffset */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->e_DPCCH_DPCCH_PowerOffset > 8u) {
-         rtxErrAddStrParm(ctx, "E-DPCCH-DPCCH-PowerOffset");
-         rtxErrAddUIntParm(ctx, pvalue->e_DPCCH_DPCCH_PowerOffset);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "E-DPCCH-DPCCH-PowerOffset", "e-DPCCH-DPCCH-PowerOffset", -1, "E-DCH-RL-InfoNewServingCell-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->e_DPCCH_DPCCH_PowerOffset, 0, 8);
-      RT_CHECK(ctx, stat, "E-DPCCH-DPCCH-PowerOffset", "e-DPCCH-DPCCH-PowerOffset", -1, "E-DCH-RL-InfoNewServingCell-r7");
-   }
-   /* reference-E-TFCIs */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_E_DPDCH_Reference_E_TFCIList_r7(ctx, &pvalue->reference_E_TFCIs);
-      RT_CHECK(ctx, stat, 0, "reference-E-TFCIs", -1, "E-DCH-RL-InfoNewServingCell-r7");
-   }
-   /* powerOffsetForSchedInfo */
-   if (pvalue->m & 0x8u) {
-      if ((uint64_t)pvalue->powerOffsetForSchedInfo > 6u) {
-         rtxErrAddStrParm(ctx, "powerOffsetForSchedInfo");
-         rtxErrAddUIntParm(ctx, pvalue->powerOffsetForSchedInfo);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "powerOffsetForSchedInfo", -1, "E-DCH-RL-InfoNewServingCell-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->powerOffsetForSchedInfo, 0, 6);
-      RT_CHECK(ctx, stat, 0, "powerOffsetForSchedInfo", -1, "E-DCH-RL-InfoNewServingCell-r7");
-   }
-   /* threeIndexStepThreshold */
-   if (pvalue->m & 0x10u) {
-      if ((uint64_t)pvalue->threeIndexStepThreshold > 37u) {
-         rtxErrAddStrParm(ctx, "threeIndexStepThreshold");
-         rtxErrAddUIntParm(ctx, pvalue->threeIndexStepThreshold);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "threeIndexStepThreshold", -1, "E-DCH-RL-InfoNewServingCell-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->threeIndexStepThreshold, 0, 37);
-      RT_CHECK(ctx, stat, 0, "threeIndexStepThreshold", -1, "E-DCH-RL-InfoNewServingCell-r7");
-   }
-   /* twoIndexStepThreshold */
-   if (pvalue->m & 0x20u) {
-      if ((uint64_t)pvalue->twoIndexStepThreshold > 37u) {
-         rtxErrAddStrParm(ctx, "twoIndexStepThreshold");
-         rtxErrAddUIntParm(ctx, pvalue->twoIndexStepThreshold);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "twoIndexStepThreshold", -1, "E-DCH-RL-InfoNewServingCell-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->twoIndexStepThreshold, 0, 37);
-      RT_CHECK(ctx, stat, 0, "twoIndexStepThreshold", -1, "E-DCH-RL-InfoNewServingCell-r7");
-   }
-   /* e-HICH-Information */
-   if (pvalue->m & 0x40u) {
-      stat = asn1PE_UMTS_E_HICH_Information(ctx, &pvalue->e_HICH_Information);
-      RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "E-DCH-RL-InfoNewServingCell-r7");
-   }
-   /* e-RGCH-Info */
-   if (pvalue->m & 0x80u) {
-      stat = asn1PE_UMTS_E_DCH_RL_InfoNewServingCell_r7_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, "E-DCH-RL-InfoNewServingCell-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_ReconfigurationInfo_r7_e_DCH_RL_InfoOtherCellList(rtxContext* RT_RESTRICT ctx, const E_DCH_ReconfigurationInfo_r7_e_DCH_RL_InfoOtherCellList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "E-DCH-RL-InfoOtherCell", (int32_t)i, 0);
-      stat = asn1PE_UMTS_E_DCH_RL_InfoOtherCell(ctx, (const E_DCH_RL_InfoOtherCell*)node->data);
-      RT_CHECK(ctx, stat, 0, "E-DCH-RL-InfoOtherCell", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_ReconfigurationInfo_r7(rtxContext* RT_RESTRICT ctx, const E_DCH_ReconfigurationInfo_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-DCH-ReconfigurationInfo-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-ReconfigurationInfo-r7");
-   /* e-DCH-RL-InfoNewServingCell */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_E_DCH_RL_InfoNewServingCell_r7(ctx, &pvalue->e_DCH_RL_InfoNewServingCell);
-      RT_CHECK(ctx, stat, 0, "e-DCH-RL-InfoNewServingCell", -1, "E-DCH-ReconfigurationInfo-r7");
-   }
-   /* e-DCH-RL-InfoOtherCellList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_E_DCH_ReconfigurationInfo_r7_e_DCH_RL_InfoOtherCellList(ctx, &pvalue->e_DCH_RL_InfoOtherCellList);
-      RT_CHECK(ctx, stat, 0, "e-DCH-RL-InfoOtherCellList", -1, "E-DCH-ReconfigurationInfo-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_RL_InfoNewSecServingCell_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoNewSecServingCell_e_RGCH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e-RGCH-Information", -1, 0);
-         stat = asn1PE_UMTS_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information);
-         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_RL_InfoNewSecServingCell(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoNewSecServingCell* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-DCH-RL-InfoNewSecServingCell");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-RL-InfoNewSecServingCell");
-   /* e-AGCH-Information */
-   stat = asn1PE_UMTS_E_AGCH_Information(ctx, &pvalue->e_AGCH_Information);
-   RT_CHECK(ctx, stat, 0, "e-AGCH-Information", -1, "E-DCH-RL-InfoNewSecServingCell");
-   /* e-HICH-Information */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_E_HICH_Information(ctx, &pvalue->e_HICH_Information);
-      RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "E-DCH-RL-InfoNewSecServingCell");
-   }
-   /* e-RGCH-Info */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_E_DCH_RL_InfoNewSecServingCell_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, "E-DCH-RL-InfoNewSecServingCell");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_RL_InfoOtherCell_SecULFreq_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoOtherCell_SecULFreq_e_RGCH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e-RGCH-Information", -1, 0);
-         stat = asn1PE_UMTS_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information);
-         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_RL_InfoOtherCell_SecULFreq(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoOtherCell_SecULFreq* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-DCH-RL-InfoOtherCell-SecULFreq");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-RL-InfoOtherCell-SecULFreq");
-   /* primaryCPICH-Info */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "E-DCH-RL-InfoOtherCell-SecULFreq");
-   /* e-HICH-Information */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_E_HICH_Information(ctx, &pvalue->e_HICH_Information);
-      RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "E-DCH-RL-InfoOtherCell-SecULFreq");
-   }
-   /* e-RGCH-Info */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_E_DCH_RL_InfoOtherCell_SecULFreq_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, "E-DCH-RL-InfoOtherCell-SecULFreq");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_ReconfigurationInfo_SecULFrequency_e_DCH_RL_InfoOtherCellList_SecULFreq(rtxContext* RT_RESTRICT ctx, const E_DCH_ReconfigurationInfo_SecULFrequency_e_DCH_RL_InfoOtherCellList_SecULFreq* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "E-DCH-RL-InfoOtherCell-SecULFreq", (int32_t)i, 0);
-      stat = asn1PE_UMTS_E_DCH_RL_InfoOtherCell_SecULFreq(ctx, (const E_DCH_RL_InfoOtherCell_SecULFreq*)node->data);
-      RT_CHECK(ctx, stat, 0, "E-DCH-RL-InfoOtherCell-SecULFreq", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_ReconfigurationInfo_SecULFrequency(rtxContext* RT_RESTRICT ctx, const E_DCH_ReconfigurationInfo_SecULFrequency* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-DCH-ReconfigurationInfo-SecULFrequency");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-ReconfigurationInfo-SecULFrequency");
-   /* e-DCH-RL-InfoNewSecServingCell */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_E_DCH_RL_InfoNewSecServingCell(ctx, &pvalue->e_DCH_RL_InfoNewSecServingCell);
-      RT_CHECK(ctx, stat, 0, "e-DCH-RL-InfoNewSecServingCell", -1, "E-DCH-ReconfigurationInfo-SecULFrequency");
-   }
-   /* e-DCH-RL-InfoOtherCellList-SecULFreq */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_E_DCH_ReconfigurationInfo_SecULFrequency_e_DCH_RL_InfoOtherCellList_SecULFreq(ctx, &pvalue->e_DCH_RL_InfoOtherCellList_SecULFreq);
-      RT_CHECK(ctx, stat, 0, "e-DCH-RL-InfoOtherCellList-SecULFreq", -1, "E-DCH-ReconfigurationInfo-SecULFrequency");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_RL_InfoSameServingCell(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoSameServingCell* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-DCH-RL-InfoSameServingCell");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-RL-InfoSameServingCell");
-   /* e-DPCCH-DPCCH-PowerOffset */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->e_DPCCH_DPCCH_PowerOffset > 8u) {
-         rtxErrAddStrParm(ctx, "E-DPCCH-DPCCH-PowerOffset");
-         rtxErrAddUIntParm(ctx, pvalue->e_DPCCH_DPCCH_PowerOffset);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "E-DPCCH-DPCCH-PowerOffset", "e-DPCCH-DPCCH-PowerOffset", -1, "E-DCH-RL-InfoSameServingCell");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->e_DPCCH_DPCCH_PowerOffset, 0, 8);
-      RT_CHECK(ctx, stat, "E-DPCCH-DPCCH-PowerOffset", "e-DPCCH-DPCCH-PowerOffset", -1, "E-DCH-RL-InfoSameServingCell");
-   }
-   /* reference-E-TFCIs */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_E_DPDCH_Reference_E_TFCIList_r7(ctx, &pvalue->reference_E_TFCIs);
-      RT_CHECK(ctx, stat, 0, "reference-E-TFCIs", -1, "E-DCH-RL-InfoSameServingCell");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_HICH_Information_For_SPS_TDD128_configurationmode_implicit(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_For_SPS_TDD128_configurationmode_implicit* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ei */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->ei > 3u) {
-         rtxErrAddStrParm(ctx, "ei");
-         rtxErrAddUIntParm(ctx, pvalue->ei);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ei", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ei, 0, 3);
-      RT_CHECK(ctx, stat, 0, "ei", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_HICH_Information_For_SPS_TDD128_configurationmode_explicit__midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_For_SPS_TDD128_configurationmode_explicit__midambleAllocationMode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if ((uint64_t)pvalue->u.ueSpecificMidamble > 15u) {
-            rtxErrAddStrParm(ctx, "ueSpecificMidamble");
-            rtxErrAddUIntParm(ctx, pvalue->u.ueSpecificMidamble);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ueSpecificMidamble", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.ueSpecificMidamble, 0, 15);
-         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_HICH_Information_For_SPS_TDD128_configurationmode_explicit_(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_For_SPS_TDD128_configurationmode_explicit_* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* timeslotNumber */
-   if ((uint64_t)pvalue->timeslotNumber > 6u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, 0);
-   /* channelisation-Code */
-   if (pvalue->channelisation_Code > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->channelisation_Code);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "channelisation-Code", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->channelisation_Code, 0, 15);
-   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "channelisation-Code", -1, 0);
-   /* midambleAllocationMode */
-   stat = asn1PE_UMTS_E_HICH_Information_For_SPS_TDD128_configurationmode_explicit__midambleAllocationMode(ctx, &pvalue->midambleAllocationMode);
-   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
-   /* midambleConfiguration */
-   if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
-      rtxErrAddStrParm(ctx, "midambleConfiguration");
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "midambleConfiguration", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_E_HICH_Information_For_SPS_TDD128_configurationmode(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_For_SPS_TDD128_configurationmode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.implicit == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "implicit", -1, 0);
-         stat = asn1PE_UMTS_E_HICH_Information_For_SPS_TDD128_configurationmode_implicit(ctx, pvalue->u.implicit);
-         RT_CHECK(ctx, stat, 0, "implicit", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.explicit_ == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "explicit", -1, 0);
-         stat = asn1PE_UMTS_E_HICH_Information_For_SPS_TDD128_configurationmode_explicit_(ctx, pvalue->u.explicit_);
-         RT_CHECK(ctx, stat, 0, "explicit", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_HICH_Information_For_SPS_TDD128(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_For_SPS_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-HICH-Information-For-SPS-TDD128");
-   /* configurationmode */
-   stat = asn1PE_UMTS_E_HICH_Information_For_SPS_TDD128_configurationmode(ctx, &pvalue->configurationmode);
-   RT_CHECK(ctx, stat, 0, "configurationmode", -1, "E-HICH-Information-For-SPS-TDD128");
-   /* signatureSequenceGroupIndex */
-   if ((uint64_t)pvalue->signatureSequenceGroupIndex > 19u) {
-      rtxErrAddStrParm(ctx, "signatureSequenceGroupIndex");
-      rtxErrAddUIntParm(ctx, pvalue->signatureSequenceGroupIndex);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "signatureSequenceGroupIndex", -1, "E-HICH-Information-For-SPS-TDD128");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->signatureSequenceGroupIndex, 0, 19);
-   RT_CHECK(ctx, stat, 0, "signatureSequenceGroupIndex", -1, "E-HICH-Information-For-SPS-TDD128");
-   return 0;
-}
-
-int asn1PE_UMTS_RepetitionPeriodAndLengthForSPS(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodAndLengthForSPS* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RepetitionPeriodAndLengthForSPS");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 5);
-   RT_CHECK(ctx, stat, 0, "t", -1, "RepetitionPeriodAndLengthForSPS");
-   if (pvalue->t - 1 > 5) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RepetitionPeriodAndLengthForSPS");
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if ((uint64_t)(pvalue->u.repetitionPeriod2 - 1) > 0u) {
-            rtxErrAddStrParm(ctx, "repetitionPeriod2");
-            rtxErrAddUIntParm(ctx, pvalue->u.repetitionPeriod2);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "repetitionPeriod2", -1, "RepetitionPeriodAndLengthForSPS");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.repetitionPeriod2, 1, 1);
-         RT_CHECK(ctx, stat, 0, "repetitionPeriod2", -1, "RepetitionPeriodAndLengthForSPS");
-         break;
-      case 3:
-         if ((uint64_t)(pvalue->u.repetitionPeriod4 - 1) > 2u) {
-            rtxErrAddStrParm(ctx, "repetitionPeriod4");
-            rtxErrAddUIntParm(ctx, pvalue->u.repetitionPeriod4);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "repetitionPeriod4", -1, "RepetitionPeriodAndLengthForSPS");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.repetitionPeriod4, 1, 3);
-         RT_CHECK(ctx, stat, 0, "repetitionPeriod4", -1, "RepetitionPeriodAndLengthForSPS");
-         break;
-      case 4:
-         if ((uint64_t)(pvalue->u.repetitionPeriod8 - 1) > 6u) {
-            rtxErrAddStrParm(ctx, "repetitionPeriod8");
-            rtxErrAddUIntParm(ctx, pvalue->u.repetitionPeriod8);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "repetitionPeriod8", -1, "RepetitionPeriodAndLengthForSPS");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.repetitionPeriod8, 1, 7);
-         RT_CHECK(ctx, stat, 0, "repetitionPeriod8", -1, "RepetitionPeriodAndLengthForSPS");
-         break;
-      case 5:
-         if ((uint64_t)(pvalue->u.repetitionPeriod16 - 1) > 14u) {
-            rtxErrAddStrParm(ctx, "repetitionPeriod16");
-            rtxErrAddUIntParm(ctx, pvalue->u.repetitionPeriod16);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "repetitionPeriod16", -1, "RepetitionPeriodAndLengthForSPS");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.repetitionPeriod16, 1, 15);
-         RT_CHECK(ctx, stat, 0, "repetitionPeriod16", -1, "RepetitionPeriodAndLengthForSPS");
-         break;
-      case 6:
-         if ((uint64_t)(pvalue->u.repetitionPeriod32 - 1) > 30u) {
-            rtxErrAddStrParm(ctx, "repetitionPeriod32");
-            rtxErrAddUIntParm(ctx, pvalue->u.repetitionPeriod32);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "repetitionPeriod32", -1, "RepetitionPeriodAndLengthForSPS");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.repetitionPeriod32, 1, 31);
-         RT_CHECK(ctx, stat, 0, "repetitionPeriod32", -1, "RepetitionPeriodAndLengthForSPS");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_TxPatternList_TDD128_element(rtxContext* RT_RESTRICT ctx, const E_DCH_TxPatternList_TDD128_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* repetitionPeriodAndLength */
-   stat = asn1PE_UMTS_RepetitionPeriodAndLengthForSPS(ctx, &pvalue->repetitionPeriodAndLength);
-   RT_CHECK(ctx, stat, 0, "repetitionPeriodAndLength", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_TxPatternList_TDD128(rtxContext* RT_RESTRICT ctx, const E_DCH_TxPatternList_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-DCH-TxPatternList-TDD128");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "E-DCH-TxPatternList-TDD128");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "E-DCH-TxPatternList-TDD128");
-      stat = asn1PE_UMTS_E_DCH_TxPatternList_TDD128_element(ctx, (const E_DCH_TxPatternList_TDD128_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "E-DCH-TxPatternList-TDD128");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_SPS_NewOperation_TDD128_initialSPSInfoForEDCH(rtxContext* RT_RESTRICT ctx, const E_DCH_SPS_NewOperation_TDD128_initialSPSInfoForEDCH* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* n-E-UCCH */
-   if ((uint64_t)(pvalue->n_E_UCCH - 1) > 7u) {
-      rtxErrAddStrParm(ctx, "n-E-UCCH");
-      rtxErrAddUIntParm(ctx, pvalue->n_E_UCCH);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "n-E-UCCH", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->n_E_UCCH, 1, 8);
-   RT_CHECK(ctx, stat, 0, "n-E-UCCH", -1, 0);
-   /* codeResourceInfo */
-   if (pvalue->codeResourceInfo > 30) {
-      rtxErrAddUIntParm(ctx, pvalue->codeResourceInfo);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UL-TS-ChannelisationCode", "codeResourceInfo", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->codeResourceInfo, 0, 30);
-   RT_CHECK(ctx, stat, "UL-TS-ChannelisationCode", "codeResourceInfo", -1, 0);
-   /* timeslotResourceRelatedInfo */
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pe_BitString32(ctx, &pvalue->timeslotResourceRelatedInfo, 5, 5);
-   RT_CHECK(ctx, stat, 0, "timeslotResourceRelatedInfo", -1, 0);
-   /* powerResourceRelatedInfo */
-   if ((uint64_t)(pvalue->powerResourceRelatedInfo - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "powerResourceRelatedInfo");
-      rtxErrAddUIntParm(ctx, pvalue->powerResourceRelatedInfo);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "powerResourceRelatedInfo", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->powerResourceRelatedInfo, 1, 32);
-   RT_CHECK(ctx, stat, 0, "powerResourceRelatedInfo", -1, 0);
-   /* activationTime */
-   stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-   RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, 0);
-   /* subframeNum */
-   if ((uint64_t)pvalue->subframeNum > 1u) {
-      rtxErrAddStrParm(ctx, "subframeNum");
-      rtxErrAddUIntParm(ctx, pvalue->subframeNum);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "subframeNum", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->subframeNum, 0, 1);
-   RT_CHECK(ctx, stat, 0, "subframeNum", -1, 0);
-   /* initialTxPatternIndex */
-   if ((uint64_t)pvalue->initialTxPatternIndex > 3u) {
-      rtxErrAddStrParm(ctx, "initialTxPatternIndex");
-      rtxErrAddUIntParm(ctx, pvalue->initialTxPatternIndex);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "initialTxPatternIndex", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->initialTxPatternIndex, 0, 3);
-   RT_CHECK(ctx, stat, 0, "initialTxPatternIndex", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_SPS_NewOperation_TDD128(rtxContext* RT_RESTRICT ctx, const E_DCH_SPS_NewOperation_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-DCH-SPS-NewOperation-TDD128");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DCH-SPS-NewOperation-TDD128");
-   /* e-hich-Info */
-   stat = asn1PE_UMTS_E_HICH_Information_For_SPS_TDD128(ctx, &pvalue->e_hich_Info);
-   RT_CHECK(ctx, stat, 0, "e-hich-Info", -1, "E-DCH-SPS-NewOperation-TDD128");
-   /* e-dch-TxPattern */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_E_DCH_TxPatternList_TDD128(ctx, &pvalue->e_dch_TxPattern);
-      RT_CHECK(ctx, stat, 0, "e-dch-TxPattern", -1, "E-DCH-SPS-NewOperation-TDD128");
-   }
-   /* initialSPSInfoForEDCH */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_E_DCH_SPS_NewOperation_TDD128_initialSPSInfoForEDCH(ctx, &pvalue->initialSPSInfoForEDCH);
-      RT_CHECK(ctx, stat, 0, "initialSPSInfoForEDCH", -1, "E-DCH-SPS-NewOperation-TDD128");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_SPS_Information_TDD128_e_dch_SPS_Operation(rtxContext* RT_RESTRICT ctx, const E_DCH_SPS_Information_TDD128_e_dch_SPS_Operation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.newOperation == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "newOperation", -1, 0);
-         stat = asn1PE_UMTS_E_DCH_SPS_NewOperation_TDD128(ctx, pvalue->u.newOperation);
-         RT_CHECK(ctx, stat, 0, "newOperation", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_DCH_SPS_Information_TDD128(rtxContext* RT_RESTRICT ctx, const E_DCH_SPS_Information_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-DCH-SPS-Information-TDD128");
-   /* e-dch-SPS-Operation */
-   stat = asn1PE_UMTS_E_DCH_SPS_Information_TDD128_e_dch_SPS_Operation(ctx, &pvalue->e_dch_SPS_Operation);
-   RT_CHECK(ctx, stat, 0, "e-dch-SPS-Operation", -1, "E-DCH-SPS-Information-TDD128");
-   return 0;
-}
-
-int asn1PE_UMTS_E_DPCCH_Info(rtxContext* RT_RESTRICT ctx, const E_DPCCH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-DPCCH-Info");
-   /* e-DPCCH-DPCCH-PowerOffset */
-   if ((uint64_t)pvalue->e_DPCCH_DPCCH_PowerOffset > 8u) {
-      rtxErrAddStrParm(ctx, "E-DPCCH-DPCCH-PowerOffset");
-      rtxErrAddUIntParm(ctx, pvalue->e_DPCCH_DPCCH_PowerOffset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "E-DPCCH-DPCCH-PowerOffset", "e-DPCCH-DPCCH-PowerOffset", -1, "E-DPCCH-Info");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->e_DPCCH_DPCCH_PowerOffset, 0, 8);
-   RT_CHECK(ctx, stat, "E-DPCCH-DPCCH-PowerOffset", "e-DPCCH-DPCCH-PowerOffset", -1, "E-DPCCH-Info");
-   /* happyBit-DelayCondition */
-   if (pvalue->happyBit_DelayCondition > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->happyBit_DelayCondition);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "HappyBit-DelayCondition", "happyBit-DelayCondition", -1, "E-DPCCH-Info");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->happyBit_DelayCondition, 0, 7);
-   RT_CHECK(ctx, stat, "HappyBit-DelayCondition", "happyBit-DelayCondition", -1, "E-DPCCH-Info");
-   return 0;
-}
-
-int asn1PE_UMTS_E_DPDCH_Info(rtxContext* RT_RESTRICT ctx, const E_DPDCH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-DPDCH-Info");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPDCH-Info");
-   /* e-TFCI-TableIndex */
-   if ((uint64_t)pvalue->e_TFCI_TableIndex > 1u) {
-      rtxErrAddStrParm(ctx, "E-TFCI-TableIndex");
-      rtxErrAddUIntParm(ctx, pvalue->e_TFCI_TableIndex);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "E-TFCI-TableIndex", "e-TFCI-TableIndex", -1, "E-DPDCH-Info");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->e_TFCI_TableIndex, 0, 1);
-   RT_CHECK(ctx, stat, "E-TFCI-TableIndex", "e-TFCI-TableIndex", -1, "E-DPDCH-Info");
-   /* e-DCH-MinimumSet-E-TFCI */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->e_DCH_MinimumSet_E_TFCI > 127u) {
-         rtxErrAddStrParm(ctx, "E-DCH-MinimumSet-E-TFCI");
-         rtxErrAddUIntParm(ctx, pvalue->e_DCH_MinimumSet_E_TFCI);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "E-DCH-MinimumSet-E-TFCI", "e-DCH-MinimumSet-E-TFCI", -1, "E-DPDCH-Info");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->e_DCH_MinimumSet_E_TFCI, 0, 127);
-      RT_CHECK(ctx, stat, "E-DCH-MinimumSet-E-TFCI", "e-DCH-MinimumSet-E-TFCI", -1, "E-DPDCH-Info");
-   }
-   /* reference-E-TFCIs */
-   stat = asn1PE_UMTS_E_DPDCH_Reference_E_TFCIList(ctx, &pvalue->reference_E_TFCIs);
-   RT_CHECK(ctx, stat, 0, "reference-E-TFCIs", -1, "E-DPDCH-Info");
-   /* maxChannelisationCodes */
-   if (pvalue->maxChannelisationCodes > 9) {
-      rtxErrAddUIntParm(ctx, pvalue->maxChannelisationCodes);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "E-DPDCH-MaxChannelisationCodes", "maxChannelisationCodes", -1, "E-DPDCH-Info");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxChannelisationCodes, 0, 9);
-   RT_CHECK(ctx, stat, "E-DPDCH-MaxChannelisationCodes", "maxChannelisationCodes", -1, "E-DPDCH-Info");
-   /* pl-NonMax */
-   if ((uint64_t)(pvalue->pl_NonMax - 11) > 14u) {
-      rtxErrAddStrParm(ctx, "E-DPDCH-PL-NonMax");
-      rtxErrAddUIntParm(ctx, pvalue->pl_NonMax);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "E-DPDCH-PL-NonMax", "pl-NonMax", -1, "E-DPDCH-Info");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pl_NonMax, 11, 25);
-   RT_CHECK(ctx, stat, "E-DPDCH-PL-NonMax", "pl-NonMax", -1, "E-DPDCH-Info");
-   /* schedulingInfoConfiguration */
-   stat = asn1PE_UMTS_E_DPDCH_SchedulingInfoConfiguration(ctx, &pvalue->schedulingInfoConfiguration);
-   RT_CHECK(ctx, stat, 0, "schedulingInfoConfiguration", -1, "E-DPDCH-Info");
-   /* threeIndexStepThreshold */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->threeIndexStepThreshold > 37u) {
-         rtxErrAddStrParm(ctx, "threeIndexStepThreshold");
-         rtxErrAddUIntParm(ctx, pvalue->threeIndexStepThreshold);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "threeIndexStepThreshold", -1, "E-DPDCH-Info");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->threeIndexStepThreshold, 0, 37);
-      RT_CHECK(ctx, stat, 0, "threeIndexStepThreshold", -1, "E-DPDCH-Info");
-   }
-   /* twoIndexStepThreshold */
-   if (pvalue->m & 0x4u) {
-      if ((uint64_t)pvalue->twoIndexStepThreshold > 37u) {
-         rtxErrAddStrParm(ctx, "twoIndexStepThreshold");
-         rtxErrAddUIntParm(ctx, pvalue->twoIndexStepThreshold);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "twoIndexStepThreshold", -1, "E-DPDCH-Info");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->twoIndexStepThreshold, 0, 37);
-      RT_CHECK(ctx, stat, 0, "twoIndexStepThreshold", -1, "E-DPDCH-Info");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_E_DPDCH_Info_r7(rtxContext* RT_RESTRICT ctx, const E_DPDCH_Info_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "E-DPDCH-Info-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "E-DPDCH-Info-r7");
-   /* e-TFCI-TableIndex */
-   if ((uint64_t)pvalue->e_TFCI_TableIndex > 1u) {
-      rtxErrAddStrParm(ctx, "E-TFCI-TableIndex");
-      rtxErrAddUIntParm(ctx, pvalue->e_TFCI_TableIndex);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "E-TFCI-TableIndex", "e-TFCI-TableIndex", -1, "E-DPDCH-Info-r7");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->e_TFCI_TableIndex, 0, 1);
-   RT_CHECK(ctx, stat, "E-TFCI-TableIndex", "e-TFCI-TableIndex", -1, "E-DPDCH-Info-r7");
-   /* e-DCH-MinimumSet-E-TFCI */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->e_DCH_MinimumSet_E_TFCI > 127u) {
-         rtxErrAddStrParm(ctx, "E-DCH-MinimumSet-E-TFCI");
-         rtxErrAddUIntParm(ctx, pvalue->e_DCH_MinimumSet_E_TFCI);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "E-DCH-MinimumSet-E-TFCI", "e-DCH-MinimumSet-E-TFCI", -1, "E-DPDCH-Info-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->e_DCH_MinimumSet_E_TFCI, 0, 127);
-      RT_CHECK(ctx, stat, "E-DCH-MinimumSet-E-TFCI", "e-DCH-MinimumSet-E-TFCI", -1, "E-DPDCH-Info-r7");
-   }
-   /* reference-E-TFCIs */
-   stat = asn1PE_UMTS_E_DPDCH_Reference_E_TFCIList_r7(ctx, &pvalue->reference_E_TFCIs);
-   RT_CHECK(ctx, stat, 0, "reference-E-TFCIs", -1, "E-DPDCH-Info-r7");
-   /* maxChannelisationCodes */
-   if (pvalue->maxChannelisationCodes > 9) {
-      rtxErrAddUIntParm(ctx, pvalue->maxChannelisationCodes);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "E-DPDCH-MaxChannelisationCodes", "maxChannelisationCodes", -1, "E-DPDCH-Info-r7");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->maxChannelisationCodes, 0, 9);
-   RT_CHECK(ctx, stat, "E-DPDCH-MaxChannelisationCodes", "maxChannelisationCodes", -1, "E-DPDCH-Info-r7");
-   /* pl-NonMax */
-   if ((uint64_t)(pvalue->pl_NonMax - 11) > 14u) {
-      rtxErrAddStrParm(ctx, "E-DPDCH-PL-NonMax");
-      rtxErrAddUIntParm(ctx, pvalue->pl_NonMax);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "E-DPDCH-PL-NonMax", "pl-NonMax", -1, "E-DPDCH-Info-r7");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pl_NonMax, 11, 25);
-   RT_CHECK(ctx, stat, "E-DPDCH-PL-NonMax", "pl-NonMax", -1, "E-DPDCH-Info-r7");
-   /* schedulingInfoConfiguration */
-   stat = asn1PE_UMTS_E_DPDCH_SchedulingInfoConfiguration(ctx, &pvalue->schedulingInfoConfiguration);
-   RT_CHECK(ctx, stat, 0, "schedulingInfoConfiguration", -1, "E-DPDCH-Info-r7");
-   /* threeIndexStepThreshold */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->threeIndexStepThreshold > 37u) {
-         rtxErrAddStrParm(ctx, "threeIndexStepThreshold");
-         rtxErrAddUIntParm(ctx, pvalue->threeIndexStepThreshold);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "threeIndexStepThreshold", -1, "E-DPDCH-Info-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->threeIndexStepThreshold, 0, 37);
-      RT_CHECK(ctx, stat, 0, "threeIndexStepThreshold", -1, "E-DPDCH-Info-r7");
-   }
-   /* twoIndexStepThreshold */
-   if (pvalue->m & 0x4u) {
-      if ((uint64_t)pvalue->twoIndexStepThreshold > 37u) {
-         rtxErrAddStrParm(ctx, "twoIndexStepThreshold");
-         rtxErrAddUIntParm(ctx, pvalue->twoIndexStepThreshold);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "twoIndexStepThreshold", -1, "E-DPDCH-Info-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->twoIndexStepThreshold, 0, 37);
-      RT_CHECK(ctx, stat, 0, "twoIndexStepThreshold", -1, "E-DPDCH-Info-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_EnablingDelay(rtxContext* RT_RESTRICT ctx, EnablingDelay value)
-{
-   int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "EnablingDelay");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EnablingDelay");
-   return 0;
-}
-
-int asn1PE_UMTS_EXT_UL_TimingAdvance_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, const EXT_UL_TimingAdvance_modeSpecificInfo_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* ex-ul-TimingAdvance */
-   stat = pe_ConsUInt64(ctx, pvalue->ex_ul_TimingAdvance, 0, 255);
-   RT_CHECK(ctx, stat, 0, "ex-ul-TimingAdvance", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_EXT_UL_TimingAdvance_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, const EXT_UL_TimingAdvance_modeSpecificInfo_tdd768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* ex-ul-TimingAdvance */
-   if ((uint64_t)pvalue->ex_ul_TimingAdvance > 511u) {
-      rtxErrAddStrParm(ctx, "ex-ul-TimingAdvance");
-      rtxErrAddUIntParm(ctx, pvalue->ex_ul_TimingAdvance);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ex-ul-TimingAdvance", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ex_ul_TimingAdvance, 0, 511);
-   RT_CHECK(ctx, stat, 0, "ex-ul-TimingAdvance", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_EXT_UL_TimingAdvance_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const EXT_UL_TimingAdvance_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
-         stat = asn1PE_UMTS_EXT_UL_TimingAdvance_modeSpecificInfo_tdd384(ctx, pvalue->u.tdd384);
+         if (pvalue->u.tdd384 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = enc_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(ctx, pvalue->u.tdd384, cur);
          RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
          break;
       case 2:
-         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
-         stat = asn1PE_UMTS_EXT_UL_TimingAdvance_modeSpecificInfo_tdd768(ctx, pvalue->u.tdd768);
+         if (pvalue->u.tdd768 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
+         stat = enc_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd768(ctx, pvalue->u.tdd768, cur);
          RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
          break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_EXT_UL_TimingAdvance(rtxContext* RT_RESTRICT ctx, const EXT_UL_TimingAdvance* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EXT-UL-TimingAdvance");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_EXT_UL_TimingAdvance_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "EXT-UL-TimingAdvance");
-   return 0;
-}
-
-int asn1PE_UMTS_HS_ChannelisationCodeSetInfo_LCR(rtxContext* RT_RESTRICT ctx, const HS_ChannelisationCodeSetInfo_LCR* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-ChannelisationCodeSetInfo-LCR");
-   /* startCode */
-   if (pvalue->startCode > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->startCode);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "startCode", -1, "HS-ChannelisationCodeSetInfo-LCR");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->startCode, 0, 15);
-   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "startCode", -1, "HS-ChannelisationCodeSetInfo-LCR");
-   /* stopCode */
-   if (pvalue->stopCode > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->stopCode);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "stopCode", -1, "HS-ChannelisationCodeSetInfo-LCR");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->stopCode, 0, 15);
-   RT_CHECK(ctx, stat, "HS-ChannelisationCode-LCR", "stopCode", -1, "HS-ChannelisationCodeSetInfo-LCR");
-   return 0;
-}
-
-int asn1PE_UMTS_HS_DSCH_RxPatternList_TDD128_element(rtxContext* RT_RESTRICT ctx, const HS_DSCH_RxPatternList_TDD128_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* repetitionPeriodAndLength */
-   stat = asn1PE_UMTS_RepetitionPeriodAndLengthForSPS(ctx, &pvalue->repetitionPeriodAndLength);
-   RT_CHECK(ctx, stat, 0, "repetitionPeriodAndLength", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_DSCH_RxPatternList_TDD128(rtxContext* RT_RESTRICT ctx, const HS_DSCH_RxPatternList_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-DSCH-RxPatternList-TDD128");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "HS-DSCH-RxPatternList-TDD128");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "HS-DSCH-RxPatternList-TDD128");
-      stat = asn1PE_UMTS_HS_DSCH_RxPatternList_TDD128_element(ctx, (const HS_DSCH_RxPatternList_TDD128_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "HS-DSCH-RxPatternList-TDD128");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_DSCH_TbsList_TDD128_element(rtxContext* RT_RESTRICT ctx, const HS_DSCH_TbsList_TDD128_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* hs-dsch-TBSizeIndex */
-   if ((uint64_t)(pvalue->hs_dsch_TBSizeIndex - 1) > 62u) {
-      rtxErrAddStrParm(ctx, "hs-dsch-TBSizeIndex");
-      rtxErrAddUIntParm(ctx, pvalue->hs_dsch_TBSizeIndex);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "hs-dsch-TBSizeIndex", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hs_dsch_TBSizeIndex, 1, 63);
-   RT_CHECK(ctx, stat, 0, "hs-dsch-TBSizeIndex", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_DSCH_TbsList_TDD128(rtxContext* RT_RESTRICT ctx, const HS_DSCH_TbsList_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-DSCH-TbsList-TDD128");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "HS-DSCH-TbsList-TDD128");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "HS-DSCH-TbsList-TDD128");
-      stat = asn1PE_UMTS_HS_DSCH_TbsList_TDD128_element(ctx, (const HS_DSCH_TbsList_TDD128_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "HS-DSCH-TbsList-TDD128");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_DSCH_SPS_NewOperation_TDD128_hARQInfoForSPS(rtxContext* RT_RESTRICT ctx, const HS_DSCH_SPS_NewOperation_TDD128_hARQInfoForSPS* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* numberOfProcesses */
-   if ((uint64_t)(pvalue->numberOfProcesses - 1) > 7u) {
-      rtxErrAddStrParm(ctx, "numberOfProcesses");
-      rtxErrAddUIntParm(ctx, pvalue->numberOfProcesses);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "numberOfProcesses", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->numberOfProcesses, 1, 8);
-   RT_CHECK(ctx, stat, 0, "numberOfProcesses", -1, 0);
-   /* memorySize */
-   if (pvalue->memorySize > 60) {
-      rtxErrAddUIntParm(ctx, pvalue->memorySize);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "HARQMemorySize", "memorySize", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->memorySize, 0, 60);
-   RT_CHECK(ctx, stat, "HARQMemorySize", "memorySize", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SICH_List_TDD128_element_implicit(rtxContext* RT_RESTRICT ctx, const HS_SICH_List_TDD128_element_implicit* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* hS-SCCH-Index */
-   if ((uint64_t)pvalue->hS_SCCH_Index > 3u) {
-      rtxErrAddStrParm(ctx, "hS-SCCH-Index");
-      rtxErrAddUIntParm(ctx, pvalue->hS_SCCH_Index);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "hS-SCCH-Index", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hS_SCCH_Index, 0, 3);
-   RT_CHECK(ctx, stat, 0, "hS-SCCH-Index", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SICH_List_TDD128_element_explicit_(rtxContext* RT_RESTRICT ctx, const HS_SICH_List_TDD128_element_explicit_* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* hS-SICH-Info */
-   stat = asn1PE_UMTS_HS_SICH_Configuration_TDD128_r6(ctx, &pvalue->hS_SICH_Info);
-   RT_CHECK(ctx, stat, 0, "hS-SICH-Info", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SICH_List_TDD128_element(rtxContext* RT_RESTRICT ctx, const HS_SICH_List_TDD128_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.implicit == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "implicit", -1, 0);
-         stat = asn1PE_UMTS_HS_SICH_List_TDD128_element_implicit(ctx, pvalue->u.implicit);
-         RT_CHECK(ctx, stat, 0, "implicit", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.explicit_ == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "explicit", -1, 0);
-         stat = asn1PE_UMTS_HS_SICH_List_TDD128_element_explicit_(ctx, pvalue->u.explicit_);
-         RT_CHECK(ctx, stat, 0, "explicit", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SICH_List_TDD128(rtxContext* RT_RESTRICT ctx, const HS_SICH_List_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SICH-List-TDD128");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "HS-SICH-List-TDD128");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "HS-SICH-List-TDD128");
-      stat = asn1PE_UMTS_HS_SICH_List_TDD128_element(ctx, (const HS_SICH_List_TDD128_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "HS-SICH-List-TDD128");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH_modulation(rtxContext* RT_RESTRICT ctx, HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH_modulation value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH(rtxContext* RT_RESTRICT ctx, const HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* timeslotInfo */
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pe_BitString32(ctx, &pvalue->timeslotInfo, 5, 5);
-   RT_CHECK(ctx, stat, 0, "timeslotInfo", -1, 0);
-   /* codeResourceInfo */
-   stat = asn1PE_UMTS_HS_ChannelisationCodeSetInfo_LCR(ctx, &pvalue->codeResourceInfo);
-   RT_CHECK(ctx, stat, 0, "codeResourceInfo", -1, 0);
-   /* activationTime */
-   stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-   RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, 0);
-   /* sfnNum */
-   if ((uint64_t)pvalue->sfnNum > 1u) {
-      rtxErrAddStrParm(ctx, "sfnNum");
-      rtxErrAddUIntParm(ctx, pvalue->sfnNum);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sfnNum", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->sfnNum, 0, 1);
-   RT_CHECK(ctx, stat, 0, "sfnNum", -1, 0);
-   /* initialRxPatternIndex */
-   if ((uint64_t)pvalue->initialRxPatternIndex > 3u) {
-      rtxErrAddStrParm(ctx, "initialRxPatternIndex");
-      rtxErrAddUIntParm(ctx, pvalue->initialRxPatternIndex);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "initialRxPatternIndex", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->initialRxPatternIndex, 0, 3);
-   RT_CHECK(ctx, stat, 0, "initialRxPatternIndex", -1, 0);
-   /* initialTfsIndex */
-   if ((uint64_t)pvalue->initialTfsIndex > 3u) {
-      rtxErrAddStrParm(ctx, "initialTfsIndex");
-      rtxErrAddUIntParm(ctx, pvalue->initialTfsIndex);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "initialTfsIndex", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->initialTfsIndex, 0, 3);
-   RT_CHECK(ctx, stat, 0, "initialTfsIndex", -1, 0);
-   /* modulation */
-   if (pvalue->modulation > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->modulation);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "modulation", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->modulation, 0, 1);
-   RT_CHECK(ctx, stat, 0, "modulation", -1, 0);
-   /* hs-sich-Index */
-   if ((uint64_t)pvalue->hs_sich_Index > 3u) {
-      rtxErrAddStrParm(ctx, "hs-sich-Index");
-      rtxErrAddUIntParm(ctx, pvalue->hs_sich_Index);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "hs-sich-Index", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hs_sich_Index, 0, 3);
-   RT_CHECK(ctx, stat, 0, "hs-sich-Index", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_DSCH_SPS_NewOperation_TDD128(rtxContext* RT_RESTRICT ctx, const HS_DSCH_SPS_NewOperation_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-DSCH-SPS-NewOperation-TDD128");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HS-DSCH-SPS-NewOperation-TDD128");
-   /* hs-dsch-TbsList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_HS_DSCH_TbsList_TDD128(ctx, &pvalue->hs_dsch_TbsList);
-      RT_CHECK(ctx, stat, 0, "hs-dsch-TbsList", -1, "HS-DSCH-SPS-NewOperation-TDD128");
-   }
-   /* hs-dsch-RxPatternList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_HS_DSCH_RxPatternList_TDD128(ctx, &pvalue->hs_dsch_RxPatternList);
-      RT_CHECK(ctx, stat, 0, "hs-dsch-RxPatternList", -1, "HS-DSCH-SPS-NewOperation-TDD128");
-   }
-   /* hARQInfoForSPS */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_HS_DSCH_SPS_NewOperation_TDD128_hARQInfoForSPS(ctx, &pvalue->hARQInfoForSPS);
-      RT_CHECK(ctx, stat, 0, "hARQInfoForSPS", -1, "HS-DSCH-SPS-NewOperation-TDD128");
-   }
-   /* hs-sich-List */
-   stat = asn1PE_UMTS_HS_SICH_List_TDD128(ctx, &pvalue->hs_sich_List);
-   RT_CHECK(ctx, stat, 0, "hs-sich-List", -1, "HS-DSCH-SPS-NewOperation-TDD128");
-   /* initialSPSInfoForHSDSCH */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH(ctx, &pvalue->initialSPSInfoForHSDSCH);
-      RT_CHECK(ctx, stat, 0, "initialSPSInfoForHSDSCH", -1, "HS-DSCH-SPS-NewOperation-TDD128");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_DSCH_SPS_Information_TDD128_hs_dsch_SPS_Operation(rtxContext* RT_RESTRICT ctx, const HS_DSCH_SPS_Information_TDD128_hs_dsch_SPS_Operation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.newOperation == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "newOperation", -1, 0);
-         stat = asn1PE_UMTS_HS_DSCH_SPS_NewOperation_TDD128(ctx, pvalue->u.newOperation);
-         RT_CHECK(ctx, stat, 0, "newOperation", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_DSCH_SPS_Information_TDD128(rtxContext* RT_RESTRICT ctx, const HS_DSCH_SPS_Information_TDD128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-DSCH-SPS-Information-TDD128");
-   /* hs-dsch-SPS-Operation */
-   stat = asn1PE_UMTS_HS_DSCH_SPS_Information_TDD128_hs_dsch_SPS_Operation(ctx, &pvalue->hs_dsch_SPS_Operation);
-   RT_CHECK(ctx, stat, 0, "hs-dsch-SPS-Operation", -1, "HS-DSCH-SPS-Information-TDD128");
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_LessTFSList_element(rtxContext* RT_RESTRICT ctx, const HS_SCCH_LessTFSList_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* hs-scch-LessTFSI */
-   if ((uint64_t)(pvalue->hs_scch_LessTFSI - 1) > 89u) {
-      rtxErrAddStrParm(ctx, "hs-scch-LessTFSI");
-      rtxErrAddUIntParm(ctx, pvalue->hs_scch_LessTFSI);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "hs-scch-LessTFSI", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hs_scch_LessTFSI, 1, 90);
-   RT_CHECK(ctx, stat, 0, "hs-scch-LessTFSI", -1, 0);
-   /* hs-scch-LessSecondCodeSupport */
-   stat = rtxEncBit(ctx, pvalue->hs_scch_LessSecondCodeSupport);
-   RT_CHECK(ctx, stat, 0, "hs-scch-LessSecondCodeSupport", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_LessTFSList(rtxContext* RT_RESTRICT ctx, const HS_SCCH_LessTFSList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-LessTFSList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "HS-SCCH-LessTFSList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "HS-SCCH-LessTFSList");
-      stat = asn1PE_UMTS_HS_SCCH_LessTFSList_element(ctx, (const HS_SCCH_LessTFSList_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "HS-SCCH-LessTFSList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_Less_NewOperation(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Less_NewOperation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-Less-NewOperation");
-   /* hs-pdsch-CodeIndex */
-   if ((uint64_t)(pvalue->hs_pdsch_CodeIndex - 1) > 14u) {
-      rtxErrAddStrParm(ctx, "hs-pdsch-CodeIndex");
-      rtxErrAddUIntParm(ctx, pvalue->hs_pdsch_CodeIndex);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "hs-pdsch-CodeIndex", -1, "HS-SCCH-Less-NewOperation");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hs_pdsch_CodeIndex, 1, 15);
-   RT_CHECK(ctx, stat, 0, "hs-pdsch-CodeIndex", -1, "HS-SCCH-Less-NewOperation");
-   /* hs-scch-LessTFS */
-   stat = asn1PE_UMTS_HS_SCCH_LessTFSList(ctx, &pvalue->hs_scch_LessTFS);
-   RT_CHECK(ctx, stat, 0, "hs-scch-LessTFS", -1, "HS-SCCH-Less-NewOperation");
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_LessInfo_r7_hs_scchLessOperation(rtxContext* RT_RESTRICT ctx, const HS_SCCH_LessInfo_r7_hs_scchLessOperation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.newOperation == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "newOperation", -1, 0);
-         stat = asn1PE_UMTS_HS_SCCH_Less_NewOperation(ctx, pvalue->u.newOperation);
-         RT_CHECK(ctx, stat, 0, "newOperation", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SCCH_LessInfo_r7(rtxContext* RT_RESTRICT ctx, const HS_SCCH_LessInfo_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-LessInfo-r7");
-   /* hs-scchLessOperation */
-   stat = asn1PE_UMTS_HS_SCCH_LessInfo_r7_hs_scchLessOperation(ctx, &pvalue->hs_scchLessOperation);
-   RT_CHECK(ctx, stat, 0, "hs-scchLessOperation", -1, "HS-SCCH-LessInfo-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SICH_ReferenceSignalInfoList_element(rtxContext* RT_RESTRICT ctx, const HS_SICH_ReferenceSignalInfoList_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* midambleConfiguration */
-   if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
-      rtxErrAddStrParm(ctx, "midambleConfiguration");
-      rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "midambleConfiguration", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleConfiguration, 1, 8);
-   RT_CHECK(ctx, stat, 0, "midambleConfiguration", -1, 0);
-   /* midambleShift */
-   if ((uint64_t)pvalue->midambleShift > 15u) {
-      rtxErrAddStrParm(ctx, "midambleShift");
-      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "midambleShift", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->midambleShift, 0, 15);
-   RT_CHECK(ctx, stat, 0, "midambleShift", -1, 0);
-   /* timeSlot */
-   if ((uint64_t)(pvalue->timeSlot - 1) > 4u) {
-      rtxErrAddStrParm(ctx, "timeSlot");
-      rtxErrAddUIntParm(ctx, pvalue->timeSlot);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "timeSlot", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeSlot, 1, 5);
-   RT_CHECK(ctx, stat, 0, "timeSlot", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_HS_SICH_ReferenceSignalInfoList(rtxContext* RT_RESTRICT ctx, const HS_SICH_ReferenceSignalInfoList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HS-SICH-ReferenceSignalInfoList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "HS-SICH-ReferenceSignalInfoList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "HS-SICH-ReferenceSignalInfoList");
-      stat = asn1PE_UMTS_HS_SICH_ReferenceSignalInfoList_element(ctx, (const HS_SICH_ReferenceSignalInfoList_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "HS-SICH-ReferenceSignalInfoList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MIMO_Operation(rtxContext* RT_RESTRICT ctx, MIMO_Operation value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MIMO-Operation");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MIMO-Operation");
-   return 0;
-}
-
-int asn1PE_UMTS_MIMO_PilotConfiguration_secondCPICH_Pattern_diversityPattern(rtxContext* RT_RESTRICT ctx, const MIMO_PilotConfiguration_secondCPICH_Pattern_diversityPattern* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* channelisationCode */
-   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode, 0, 255);
-   RT_CHECK(ctx, stat, "ChannelisationCode256", "channelisationCode", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MIMO_PilotConfiguration_secondCPICH_Pattern(rtxContext* RT_RESTRICT ctx, const MIMO_PilotConfiguration_secondCPICH_Pattern* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.diversityPattern == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "diversityPattern", -1, 0);
-         stat = asn1PE_UMTS_MIMO_PilotConfiguration_secondCPICH_Pattern_diversityPattern(ctx, pvalue->u.diversityPattern);
-         RT_CHECK(ctx, stat, 0, "diversityPattern", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MIMO_PilotConfiguration(rtxContext* RT_RESTRICT ctx, const MIMO_PilotConfiguration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MIMO-PilotConfiguration");
-   /* secondCPICH-Pattern */
-   stat = asn1PE_UMTS_MIMO_PilotConfiguration_secondCPICH_Pattern(ctx, &pvalue->secondCPICH_Pattern);
-   RT_CHECK(ctx, stat, 0, "secondCPICH-Pattern", -1, "MIMO-PilotConfiguration");
-   return 0;
-}
-
-int asn1PE_UMTS_MIMO_Parameters_r7(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MIMO-Parameters-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MIMO-Parameters-r7");
-   /* mimoOperation */
-   if (pvalue->mimoOperation > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->mimoOperation);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MIMO-Operation", "mimoOperation", -1, "MIMO-Parameters-r7");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mimoOperation, 0, 1);
-   RT_CHECK(ctx, stat, "MIMO-Operation", "mimoOperation", -1, "MIMO-Parameters-r7");
-   /* mimoN-M-Ratio */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->mimoN_M_Ratio > 9) {
-         rtxErrAddUIntParm(ctx, pvalue->mimoN_M_Ratio);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "MIMO-N-M-Ratio", "mimoN-M-Ratio", -1, "MIMO-Parameters-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mimoN_M_Ratio, 0, 9);
-      RT_CHECK(ctx, stat, "MIMO-N-M-Ratio", "mimoN-M-Ratio", -1, "MIMO-Parameters-r7");
-   }
-   /* mimoPilotConfiguration */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_MIMO_PilotConfiguration(ctx, &pvalue->mimoPilotConfiguration);
-      RT_CHECK(ctx, stat, 0, "mimoPilotConfiguration", -1, "MIMO-Parameters-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MIMO_PilotConfiguration_v7f0ext(rtxContext* RT_RESTRICT ctx, const MIMO_PilotConfiguration_v7f0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MIMO-PilotConfiguration-v7f0ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MIMO-PilotConfiguration-v7f0ext");
-   /* s-cpich-PowerOffset-Mimo */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->s_cpich_PowerOffset_Mimo < -6 || pvalue->s_cpich_PowerOffset_Mimo > 0) {
-         rtxErrAddStrParm(ctx, "S-CPICH-PowerOffset-MIMO");
-         rtxErrAddIntParm(ctx, pvalue->s_cpich_PowerOffset_Mimo);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "S-CPICH-PowerOffset-MIMO", "s-cpich-PowerOffset-Mimo", -1, "MIMO-PilotConfiguration-v7f0ext");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->s_cpich_PowerOffset_Mimo, -6, 0);
-      RT_CHECK(ctx, stat, "S-CPICH-PowerOffset-MIMO", "s-cpich-PowerOffset-Mimo", -1, "MIMO-PilotConfiguration-v7f0ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MIMO_Parameters_v7f0ext(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_v7f0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MIMO-Parameters-v7f0ext");
-   stat = asn1PE_UMTS_MIMO_PilotConfiguration_v7f0ext(ctx, pvalue);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MIMO-Parameters-v7f0ext");
-   return 0;
-}
-
-int asn1PE_UMTS_MIMO_Parameters_v7g0ext_precodingWeightSetRestriction(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_v7g0ext_precodingWeightSetRestriction value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MIMO_Parameters_v7g0ext(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_v7g0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MIMO-Parameters-v7g0ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MIMO-Parameters-v7g0ext");
-   /* precodingWeightSetRestriction */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->precodingWeightSetRestriction > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->precodingWeightSetRestriction);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "precodingWeightSetRestriction", -1, "MIMO-Parameters-v7g0ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->precodingWeightSetRestriction, 0, 0);
-      RT_CHECK(ctx, stat, 0, "precodingWeightSetRestriction", -1, "MIMO-Parameters-v7g0ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MIMO_Parameters_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* mimoN-M-Ratio */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->mimoN_M_Ratio > 9) {
-         rtxErrAddUIntParm(ctx, pvalue->mimoN_M_Ratio);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "MIMO-N-M-Ratio", "mimoN-M-Ratio", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mimoN_M_Ratio, 0, 9);
-      RT_CHECK(ctx, stat, "MIMO-N-M-Ratio", "mimoN-M-Ratio", -1, 0);
-   }
-   /* mimoPilotConfiguration */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_MIMO_PilotConfiguration(ctx, &pvalue->mimoPilotConfiguration);
-      RT_CHECK(ctx, stat, 0, "mimoPilotConfiguration", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* mimoSFModeForHSPDSCHDualStream */
-   if (pvalue->mimoSFModeForHSPDSCHDualStream > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->mimoSFModeForHSPDSCHDualStream);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "mimoSFModeForHSPDSCHDualStream", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mimoSFModeForHSPDSCHDualStream, 0, 1);
-   RT_CHECK(ctx, stat, 0, "mimoSFModeForHSPDSCHDualStream", -1, 0);
-   /* hs-sich-ReferenceSignalInfoList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_HS_SICH_ReferenceSignalInfoList(ctx, &pvalue->hs_sich_ReferenceSignalInfoList);
-      RT_CHECK(ctx, stat, 0, "hs-sich-ReferenceSignalInfoList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MIMO_Parameters_r8_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r8_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
+      case 3:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
          RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
          break;
-      case 2:
-         break;
       default:
          break;
    }
    return 0;
 }
 
-int asn1PE_UMTS_MIMO_Parameters_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r8_modeSpecificInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_MIMO_Parameters_r8_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_MIMO_Parameters_r8_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MIMO_Parameters_r8(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MIMO-Parameters-r8");
-   /* mimoOperation */
-   if (pvalue->mimoOperation > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->mimoOperation);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MIMO-Operation", "mimoOperation", -1, "MIMO-Parameters-r8");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mimoOperation, 0, 1);
-   RT_CHECK(ctx, stat, "MIMO-Operation", "mimoOperation", -1, "MIMO-Parameters-r8");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_MIMO_Parameters_r8_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "MIMO-Parameters-r8");
-   return 0;
-}
-
-int asn1PE_UMTS_MIMO_Parameters_r9_modeSpecificInfo_fdd_precodingWeightSetRestriction(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r9_modeSpecificInfo_fdd_precodingWeightSetRestriction value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MIMO_Parameters_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* mimoN-M-Ratio */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->mimoN_M_Ratio > 9) {
-         rtxErrAddUIntParm(ctx, pvalue->mimoN_M_Ratio);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "MIMO-N-M-Ratio", "mimoN-M-Ratio", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mimoN_M_Ratio, 0, 9);
-      RT_CHECK(ctx, stat, "MIMO-N-M-Ratio", "mimoN-M-Ratio", -1, 0);
-   }
-   /* mimoPilotConfiguration */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_MIMO_PilotConfiguration_r9(ctx, &pvalue->mimoPilotConfiguration);
-      RT_CHECK(ctx, stat, 0, "mimoPilotConfiguration", -1, 0);
-   }
-   /* precodingWeightSetRestriction */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->precodingWeightSetRestriction > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->precodingWeightSetRestriction);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "precodingWeightSetRestriction", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->precodingWeightSetRestriction, 0, 0);
-      RT_CHECK(ctx, stat, 0, "precodingWeightSetRestriction", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* mimoSFModeForHSPDSCHDualStream */
-   if (pvalue->mimoSFModeForHSPDSCHDualStream > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->mimoSFModeForHSPDSCHDualStream);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "mimoSFModeForHSPDSCHDualStream", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mimoSFModeForHSPDSCHDualStream, 0, 1);
-   RT_CHECK(ctx, stat, 0, "mimoSFModeForHSPDSCHDualStream", -1, 0);
-   /* hs-sich-ReferenceSignalInfoList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_HS_SICH_ReferenceSignalInfoList(ctx, &pvalue->hs_sich_ReferenceSignalInfoList);
-      RT_CHECK(ctx, stat, 0, "hs-sich-ReferenceSignalInfoList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MIMO_Parameters_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption, pvalue);
 }
 

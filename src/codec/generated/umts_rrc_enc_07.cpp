@@ -6,3965 +6,418 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PE_UMTS_MIMO_Parameters_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r9_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_MIMO_Parameters_r9_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_MIMO_Parameters_r9_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
+/* The bodies of this unit. */
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r7_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UL_DPCH_PowerControlInfo_r7(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CCTrCH_PowerControlInfo_r7(rtxContext* RT_RESTRICT ctx, const CCTrCH_PowerControlInfo_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CD_AccessSlotSubchannel(rtxContext* RT_RESTRICT ctx, CD_AccessSlotSubchannel value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CD_AccessSlotSubchannelList(rtxContext* RT_RESTRICT ctx, const CD_AccessSlotSubchannelList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CD_CA_ICH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, CD_CA_ICH_ChannelisationCode value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CD_PreambleScramblingCode(rtxContext* RT_RESTRICT ctx, CD_PreambleScramblingCode value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CD_SignatureCode(rtxContext* RT_RESTRICT ctx, CD_SignatureCode value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CD_SignatureCodeList(rtxContext* RT_RESTRICT ctx, const CD_SignatureCodeList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellAndChannelIdentity(rtxContext* RT_RESTRICT ctx, const CellAndChannelIdentity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Cfntargetsfnframeoffset(rtxContext* RT_RESTRICT ctx, Cfntargetsfnframeoffset value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ChannelAssignmentActive(rtxContext* RT_RESTRICT ctx, const ChannelAssignmentActive* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ChannelReqParamsForUCSM(rtxContext* RT_RESTRICT ctx, const ChannelReqParamsForUCSM* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ClosedLoopTimingAdjMode(rtxContext* RT_RESTRICT ctx, ClosedLoopTimingAdjMode value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CodeNumberDSCH(rtxContext* RT_RESTRICT ctx, CodeNumberDSCH value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SF_PDSCH(rtxContext* RT_RESTRICT ctx, SF_PDSCH value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MultiCodeInfo(rtxContext* RT_RESTRICT ctx, MultiCodeInfo value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDSCH_CodeMap(rtxContext* RT_RESTRICT ctx, const PDSCH_CodeMap* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDSCH_CodeMapList(rtxContext* RT_RESTRICT ctx, const PDSCH_CodeMapList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CodeRange(rtxContext* RT_RESTRICT ctx, const CodeRange* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CodeWordSet(rtxContext* RT_RESTRICT ctx, CodeWordSet value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ControlChannelDRXCycle_TDD128(rtxContext* RT_RESTRICT ctx, ControlChannelDRXCycle_TDD128 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EnablingDelay_TDD128(rtxContext* RT_RESTRICT ctx, EnablingDelay_TDD128 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_continue_(rtxContext* RT_RESTRICT ctx, const ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_continue_* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_DRX_InactivityThreshold_TDD128(rtxContext* RT_RESTRICT ctx, HS_SCCH_DRX_InactivityThreshold_TDD128 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_DRX_Info_TDD128(rtxContext* RT_RESTRICT ctx, const HS_SCCH_DRX_Info_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_AGCH_InactivityMonitorThreshold_TDD128(rtxContext* RT_RESTRICT ctx, E_AGCH_InactivityMonitorThreshold_TDD128 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType_e_AGCH_DRX_Parameters(rtxContext* RT_RESTRICT ctx, const E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType_e_AGCH_DRX_Parameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType(rtxContext* RT_RESTRICT ctx, const E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_AGCH_DRX_Info_TDD128(rtxContext* RT_RESTRICT ctx, const E_AGCH_DRX_Info_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_newOperation(rtxContext* RT_RESTRICT ctx, const ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_newOperation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation(rtxContext* RT_RESTRICT ctx, const ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_ControlChannelDRXInfo_TDD128_r8(rtxContext* RT_RESTRICT ctx, const ControlChannelDRXInfo_TDD128_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DynamicPersistenceLevelTF_List(rtxContext* RT_RESTRICT ctx, const DynamicPersistenceLevelTF_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CPCH_PersistenceLevels(rtxContext* RT_RESTRICT ctx, const CPCH_PersistenceLevels* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CPCH_PersistenceLevelsList(rtxContext* RT_RESTRICT ctx, const CPCH_PersistenceLevelsList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DeltaPp_m(rtxContext* RT_RESTRICT ctx, DeltaPp_m value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCCH_SlotFormat(rtxContext* RT_RESTRICT ctx, UL_DPCCH_SlotFormat value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_N_StartMessage(rtxContext* RT_RESTRICT ctx, N_StartMessage value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_N_EOT(rtxContext* RT_RESTRICT ctx, N_EOT value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CPCH_StatusIndicationMode(rtxContext* RT_RESTRICT ctx, CPCH_StatusIndicationMode value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PCP_Length(rtxContext* RT_RESTRICT ctx, PCP_Length value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UCSM_Info(rtxContext* RT_RESTRICT ctx, const UCSM_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PCPCH_ChannelInfo(rtxContext* RT_RESTRICT ctx, const PCPCH_ChannelInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PCPCH_ChannelInfoList(rtxContext* RT_RESTRICT ctx, const PCPCH_ChannelInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_CPCH_SetInfo(rtxContext* RT_RESTRICT ctx, const CPCH_SetInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CPCH_SetInfoList(rtxContext* RT_RESTRICT ctx, const CPCH_SetInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CQI_DTX_Timer(rtxContext* RT_RESTRICT ctx, CQI_DTX_Timer value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CSICH_PowerOffset(rtxContext* RT_RESTRICT ctx, CSICH_PowerOffset value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DefaultDPCH_OffsetValueFDD(rtxContext* RT_RESTRICT ctx, DefaultDPCH_OffsetValueFDD value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DefaultDPCH_OffsetValueTDD(rtxContext* RT_RESTRICT ctx, DefaultDPCH_OffsetValueTDD value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DeltaSIR(rtxContext* RT_RESTRICT ctx, DeltaSIR value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TimeInfo(rtxContext* RT_RESTRICT ctx, const TimeInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_CCTrChTPCList(rtxContext* RT_RESTRICT ctx, const UL_CCTrChTPCList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CCTrCh(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CCTrCh_r4_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r4_tddOption_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CCTrCh_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r4_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CCTrCh_r4_tddOption(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r4_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CCTrCh_r4(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CCTrCh_r7_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r7_tddOption_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CCTrCh_r7_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r7_tddOption_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CCTrCh_r7_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r7_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CCTrCh_r7_tddOption(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r7_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_CCTrCh_r7(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CCTrChList(rtxContext* RT_RESTRICT ctx, const DL_CCTrChList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CCTrChList_r7(rtxContext* RT_RESTRICT ctx, const DL_CCTrChList_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_CCTrChList_r4(rtxContext* RT_RESTRICT ctx, const DL_CCTrChList_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CCTrChListToRemove(rtxContext* RT_RESTRICT ctx, const DL_CCTrChListToRemove* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SF512_AndCodeNumber(rtxContext* RT_RESTRICT ctx, const SF512_AndCodeNumber* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ScramblingCodeChange(rtxContext* RT_RESTRICT ctx, ScramblingCodeChange value, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_ChannelisationCode(rtxContext* RT_RESTRICT ctx, const DL_ChannelisationCode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_ChannelisationCodeList(rtxContext* RT_RESTRICT ctx, const DL_ChannelisationCodeList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DPCH_InfoCommon_cfnHandling_initialise(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_cfnHandling_initialise* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DPCH_InfoCommon_cfnHandling(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_cfnHandling* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DPC_Mode(rtxContext* RT_RESTRICT ctx, DPC_Mode value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DPCH_PowerControlInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_PowerControlInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DPCH_PowerControlInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_PowerControlInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DPCH_PowerControlInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_DPCH_PowerControlInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DPCH_PowerControlInfo(rtxContext* RT_RESTRICT ctx, const DL_DPCH_PowerControlInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PowerOffsetPilot_pdpdch(rtxContext* RT_RESTRICT ctx, PowerOffsetPilot_pdpdch value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RestrictedTrCH(rtxContext* RT_RESTRICT ctx, const RestrictedTrCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RestrictedTrCH_InfoList(rtxContext* RT_RESTRICT ctx, const RestrictedTrCH_InfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Dl_rate_matching_restriction(rtxContext* RT_RESTRICT ctx, const Dl_rate_matching_restriction* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DPCH_InfoCommon_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DPCH_InfoCommon_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_DPCH_InfoCommon_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DPCH_InfoCommon(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TGCFN(rtxContext* RT_RESTRICT ctx, TGCFN value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TGP_Sequence_tgps_Status_activate(rtxContext* RT_RESTRICT ctx, const TGP_Sequence_tgps_Status_activate* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TGP_Sequence_tgps_Status(rtxContext* RT_RESTRICT ctx, const TGP_Sequence_tgps_Status* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TGMP(rtxContext* RT_RESTRICT ctx, TGMP value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TGPRC(rtxContext* RT_RESTRICT ctx, TGPRC value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TGSN(rtxContext* RT_RESTRICT ctx, TGSN value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TGL(rtxContext* RT_RESTRICT ctx, TGL value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TGD(rtxContext* RT_RESTRICT ctx, TGD value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TGPL(rtxContext* RT_RESTRICT ctx, TGPL value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RPP(rtxContext* RT_RESTRICT ctx, RPP value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ITP(rtxContext* RT_RESTRICT ctx, ITP value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_CompressedModeMethod(rtxContext* RT_RESTRICT ctx, UL_CompressedModeMethod value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CompressedModeMethod(rtxContext* RT_RESTRICT ctx, DL_CompressedModeMethod value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DL_Mode_ul_and_dl(rtxContext* RT_RESTRICT ctx, const UL_DL_Mode_ul_and_dl* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DL_Mode(rtxContext* RT_RESTRICT ctx, const UL_DL_Mode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_FrameType(rtxContext* RT_RESTRICT ctx, DL_FrameType value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NidentifyAbort(rtxContext* RT_RESTRICT ctx, NidentifyAbort value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TreconfirmAbort(rtxContext* RT_RESTRICT ctx, TreconfirmAbort value, rtxEncCur* RT_RESTRICT cur);
+static int enc_TGPS_ConfigurationParams(rtxContext* RT_RESTRICT ctx, const TGPS_ConfigurationParams* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TGP_Sequence(rtxContext* RT_RESTRICT ctx, const TGP_Sequence* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TGP_SequenceList(rtxContext* RT_RESTRICT ctx, const TGP_SequenceList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DPCH_CompressedModeInfo(rtxContext* RT_RESTRICT ctx, const DPCH_CompressedModeInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TX_DiversityMode(rtxContext* RT_RESTRICT ctx, TX_DiversityMode value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_S_Field(rtxContext* RT_RESTRICT ctx, S_Field value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SSDT_Information(rtxContext* RT_RESTRICT ctx, const SSDT_Information* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonInformation_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonInformation_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonInformation_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_CommonInformation(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DPCH_InfoCommon_r4_cfnHandling_initialise(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r4_cfnHandling_initialise* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DPCH_InfoCommon_r4_cfnHandling(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r4_cfnHandling* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DPCH_InfoCommon_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DPCH_InfoCommon_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_DPCH_InfoCommon_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DPCH_InfoCommon_r4(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SSDT_UL(rtxContext* RT_RESTRICT ctx, SSDT_UL value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SSDT_Information_r4(rtxContext* RT_RESTRICT ctx, const SSDT_Information_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonInformation_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonInformation_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonInformation_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_CommonInformation_r4(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonInformation_r5_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r5_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonInformation_r5_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r5_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonInformation_r5_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r5_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonInformation_r5_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r5_mac_hsResetIndicator value, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_CommonInformation_r5(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TimingMaintainedSynchInd(rtxContext* RT_RESTRICT ctx, TimingMaintainedSynchInd value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DPCH_InfoCommon_r6_cfnHandling_maintain(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r6_cfnHandling_maintain* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DPCH_InfoCommon_r6_cfnHandling(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r6_cfnHandling* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DPCH_InfoCommon_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DPCH_InfoCommon_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_DPCH_InfoCommon_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r6_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DPCH_InfoCommon_r6(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_FDPCH_InfoCommon_r6_cfnHandling_maintain(rtxContext* RT_RESTRICT ctx, const DL_FDPCH_InfoCommon_r6_cfnHandling_maintain* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_FDPCH_InfoCommon_r6_cfnHandling(rtxContext* RT_RESTRICT ctx, const DL_FDPCH_InfoCommon_r6_cfnHandling* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_FDPCH_InfoCommon_r6(rtxContext* RT_RESTRICT ctx, const DL_FDPCH_InfoCommon_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonInformation_r6_dl_dpchInfoCommon(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r6_dl_dpchInfoCommon* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonInformation_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonInformation_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonInformation_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r6_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonInformation_r6_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_mac_hsResetIndicator value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonInformation_r6_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_postVerificationPeriod value, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_CommonInformation_r6(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonInformation_r7_dl_dpchInfoCommon(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r7_dl_dpchInfoCommon* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonInformation_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonInformation_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonInformation_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r7_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonInformation_r7_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_mac_hsResetIndicator value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonInformation_r7_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_postVerificationPeriod value, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_CommonInformation_r7(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonInformation_r8_dl_dpchInfoCommon(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r8_dl_dpchInfoCommon* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TGP_Sequence_r8_tgps_Status_activate(rtxContext* RT_RESTRICT ctx, const TGP_Sequence_r8_tgps_Status_activate* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TGP_Sequence_r8_tgps_Status(rtxContext* RT_RESTRICT ctx, const TGP_Sequence_r8_tgps_Status* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TGMP_r8(rtxContext* RT_RESTRICT ctx, TGMP_r8 value, rtxEncCur* RT_RESTRICT cur);
+static int enc_TGPS_ConfigurationParams_r8(rtxContext* RT_RESTRICT ctx, const TGPS_ConfigurationParams_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TGP_Sequence_r8(rtxContext* RT_RESTRICT ctx, const TGP_Sequence_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TGP_SequenceList_r8(rtxContext* RT_RESTRICT ctx, const TGP_SequenceList_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DPCH_CompressedModeInfo_r8(rtxContext* RT_RESTRICT ctx, const DPCH_CompressedModeInfo_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonInformation_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonInformation_r8_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r8_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonInformation_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r8_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonInformation_r8_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_mac_hsResetIndicator value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonInformation_r8_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_postVerificationPeriod value, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_CommonInformation_r8(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DPCH_InfoCommonPost(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommonPost* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_CommonInformationPost(rtxContext* RT_RESTRICT ctx, const DL_CommonInformationPost* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SSDT_CellIdentity(rtxContext* RT_RESTRICT ctx, SSDT_CellIdentity value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DPCH_InfoPerRL_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DPCH_InfoPerRL_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_DPCH_InfoPerRL(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DPCH_InfoPerRL_r4_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r4_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DPCH_InfoPerRL_r4_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r4_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DPCH_InfoPerRL_r4(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PowerOffsetTPC_pdpdch(rtxContext* RT_RESTRICT ctx, PowerOffsetTPC_pdpdch value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DPCH_InfoPerRL_r5_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r5_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DPCH_InfoPerRL_r5_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r5_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_DPCH_InfoPerRL_r5(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DPCH_InfoPerRL_r6_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r6_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DPCH_InfoPerRL_r6_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r6_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DPCH_InfoPerRL_r6(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DPCH_InfoPerRL_r7_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r7_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DPCH_InfoPerRL_r7_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r7_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_DPCH_InfoPerRL_r7(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_FDPCH_InfoPerRL_r6(rtxContext* RT_RESTRICT ctx, const DL_FDPCH_InfoPerRL_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DPCH_InfoPerRL_PostFDD(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_PostFDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DPCH_InfoPerRL_PostTDD(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_PostTDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_DPCH_InfoPerRL_PostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_PostTDD_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_r6_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r6_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_tpc_step_size value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r6_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_r6(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r6_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_HSPDSCH_Information_r6(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_ext_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r8_ext(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_r8_ext_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r8_ext_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Info_r8_ext(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r8_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r8_ext2(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_ext2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DSCH_RadioLinkIdentifier(rtxContext* RT_RESTRICT ctx, DSCH_RadioLinkIdentifier value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RL_IdentifierList(rtxContext* RT_RESTRICT ctx, const RL_IdentifierList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDSCH_SHO_DCH_Info(rtxContext* RT_RESTRICT ctx, const PDSCH_SHO_DCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MaxTFCI_Field2Value(rtxContext* RT_RESTRICT ctx, MaxTFCI_Field2Value value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DSCH_Mapping(rtxContext* RT_RESTRICT ctx, const DSCH_Mapping* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DSCH_MappingList(rtxContext* RT_RESTRICT ctx, const DSCH_MappingList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDSCH_CodeInfo(rtxContext* RT_RESTRICT ctx, const PDSCH_CodeInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDSCH_CodeInfoList(rtxContext* RT_RESTRICT ctx, const PDSCH_CodeInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ReplacedPDSCH_CodeInfo(rtxContext* RT_RESTRICT ctx, const ReplacedPDSCH_CodeInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ReplacedPDSCH_CodeInfoList(rtxContext* RT_RESTRICT ctx, const ReplacedPDSCH_CodeInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_PDSCH_CodeMapping_signallingMethod(rtxContext* RT_RESTRICT ctx, const PDSCH_CodeMapping_signallingMethod* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDSCH_CodeMapping(rtxContext* RT_RESTRICT ctx, const PDSCH_CodeMapping* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SIB_ReferenceListFACH(rtxContext* RT_RESTRICT ctx, const SIB_ReferenceListFACH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SCCPCH_InfoForFACH_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SCCPCH_InfoForFACH_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SCCPCH_InfoForFACH_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const SCCPCH_InfoForFACH_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SCCPCH_InfoForFACH_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SCCPCH_InfoForFACH_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_SCCPCH_InfoForFACH(rtxContext* RT_RESTRICT ctx, const SCCPCH_InfoForFACH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PrimaryCCPCH_Info_r4_fdd(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_r4_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase1(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase1* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase2(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_r4_tdd_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PrimaryCCPCH_Info_r4_tdd_tddOption(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_r4_tdd_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PrimaryCCPCH_Info_r4_tdd(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_r4_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_PrimaryCCPCH_Info_r4(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecondaryCCPCH_Info_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_SecondaryCCPCH_Info_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecondaryCCPCH_Info_r4(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SCCPCH_InfoForFACH_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SCCPCH_InfoForFACH_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SCCPCH_InfoForFACH_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SCCPCH_InfoForFACH_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_SCCPCH_InfoForFACH_r4(rtxContext* RT_RESTRICT ctx, const SCCPCH_InfoForFACH_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_InformationPerRL_r4(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_r5_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r5_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_r5_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r5_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_r5(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_r5bis_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r5bis_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_r5bis_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r5bis_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_r5bis(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r5bis* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r6_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_InformationPerRL_r6_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r6_dl_dpchInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_r6_e_HICH_Info(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r6_e_HICH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_r6_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r6_e_RGCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_r6(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_v6b0ext(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_v6b0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_r7_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7_dl_dpchInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_AGCH_Information_r7_modeSpecific_fdd(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r7_modeSpecific_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleConfigurationBurstType1(rtxContext* RT_RESTRICT ctx, MidambleConfigurationBurstType1 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_EDCH_burstType_type1(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_EDCH_burstType_type1* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_EDCH_burstType_type2(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_EDCH_burstType_type2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_EDCH_burstType(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_EDCH_burstType* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_MidambleShiftAndBurstType_EDCH(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_EDCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_AGCH_Individual(rtxContext* RT_RESTRICT ctx, const E_AGCH_Individual* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_AGCH_Set_Config(rtxContext* RT_RESTRICT ctx, const E_AGCH_Set_Config* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_AGCH_Information_r7_modeSpecific_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r7_modeSpecific_tdd_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_AGCH_Individual_VHCR(rtxContext* RT_RESTRICT ctx, const E_AGCH_Individual_VHCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_AGCH_Set_Config_VHCR(rtxContext* RT_RESTRICT ctx, const E_AGCH_Set_Config_VHCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_AGCH_Information_r7_modeSpecific_tdd_tdd768(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r7_modeSpecific_tdd_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_AGCH_Information_r7_modeSpecific_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r7_modeSpecific_tdd_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_E_AGCH_Information_r7_modeSpecific_tdd(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r7_modeSpecific_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_AGCH_Information_r7_modeSpecific(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r7_modeSpecific* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_AGCH_Information_r7(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_HICH_Info(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_HICH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_RGCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_r7_modeSpecificInfo2_fdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7_modeSpecificInfo2_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_HICH_Information_TDD384_768_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_TDD384_768_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_HICH_Information_TDD384_768_burst_Type(rtxContext* RT_RESTRICT ctx, E_HICH_Information_TDD384_768_burst_Type value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_HICH_Information_TDD384_768_midamble_Allocation_Mode(rtxContext* RT_RESTRICT ctx, E_HICH_Information_TDD384_768_midamble_Allocation_Mode value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_HICH_Information_TDD384_768(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_TDD384_768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd384_tdd768(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd384_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_r7_modeSpecificInfo2_tdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7_modeSpecificInfo2_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_InformationPerRL_r7_modeSpecificInfo2(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7_modeSpecificInfo2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_InformationPerRL_r7(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_r8_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8_dl_dpchInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_AGCH_Information_r8_modeSpecific_fdd(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r8_modeSpecific_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_AGCH_Information_r8_modeSpecific_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r8_modeSpecific_tdd_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_AGCH_Information_r8_modeSpecific_tdd_tdd768(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r8_modeSpecific_tdd_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_AGCH_Information_r8_modeSpecific_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r8_modeSpecific_tdd_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_E_AGCH_Information_r8_modeSpecific_tdd(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r8_modeSpecific_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_AGCH_Information_r8_modeSpecific(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r8_modeSpecific* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_AGCH_Information_r8(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_HICH_Info(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_HICH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
 
-int asn1PE_UMTS_MIMO_Parameters_r9(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MIMO-Parameters-r9");
-   /* mimoOperation */
-   if (pvalue->mimoOperation > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->mimoOperation);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MIMO-Operation", "mimoOperation", -1, "MIMO-Parameters-r9");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mimoOperation, 0, 1);
-   RT_CHECK(ctx, stat, "MIMO-Operation", "mimoOperation", -1, "MIMO-Parameters-r9");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_MIMO_Parameters_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "MIMO-Parameters-r9");
-   return 0;
-}
+/* Bodies held by other units. */
+RT_ENCODE_EXTERN(UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption)
+RT_ENCODE_EXTERN(UL_DPCH_PowerControlInfo_r7_fdd)
+RT_ENCODE_EXTERN(TFCS_Identity)
+RT_ENCODE_EXTERN(AvailableMinimumSF_ListVCAM)
+RT_ENCODE_EXTERN(AvailableAP_SignatureList)
+RT_ENCODE_EXTERN(AvailableAP_SubchannelList)
+RT_ENCODE_EXTERN(TransportFormatSet)
+RT_ENCODE_EXTERN(TFCS)
+RT_ENCODE_EXTERN(CommonTimeslotInfo)
+RT_ENCODE_EXTERN(DownlinkTimeslotsCodes)
+RT_ENCODE_EXTERN(DownlinkTimeslotsCodes_LCR_r4)
+RT_ENCODE_EXTERN(DownlinkTimeslotsCodes_r7)
+RT_ENCODE_EXTERN(DownlinkTimeslotsCodes_VHCR)
+RT_ENCODE_EXTERN(AllowedTFI_List)
+RT_ENCODE_EXTERN(SF512_AndPilot)
+RT_ENCODE_EXTERN_VALUE(MAC_d_HFN_initial_value)
+RT_ENCODE_EXTERN(SecondaryCPICH_Info)
+RT_ENCODE_EXTERN(HS_SCCH_TDD384_r6)
+RT_ENCODE_EXTERN(HS_SICH_Power_Control_Info_TDD384)
+RT_ENCODE_EXTERN(HS_SCCH_TDD128_r6)
+RT_ENCODE_EXTERN(DL_HSPDSCH_TS_Configuration)
+RT_ENCODE_EXTERN(HS_PDSCH_Midamble_Configuration_TDD128)
+RT_ENCODE_EXTERN(Measurement_Feedback_Info)
+RT_ENCODE_EXTERN(PrimaryCPICH_Info)
+RT_ENCODE_EXTERN(PrimaryCCPCH_Info)
+RT_ENCODE_EXTERN(SchedulingInformationSIB)
+RT_ENCODE_EXTERN(FACH_PCH_InformationList)
+RT_ENCODE_EXTERN(SecondaryCCPCH_Info)
+RT_ENCODE_EXTERN(SF256_AndCodeNumber)
+RT_ENCODE_EXTERN(IndividualTimeslotInfo)
+RT_ENCODE_EXTERN(IndividualTimeslotInfo_LCR_r4)
+RT_ENCODE_EXTERN(CommonTimeslotInfoSCCPCH)
+RT_ENCODE_EXTERN(SCCPCH_ChannelisationCodeList)
+RT_ENCODE_EXTERN_VALUE(CellIdentity)
+RT_ENCODE_EXTERN(E_HICH_Information)
+RT_ENCODE_EXTERN(E_RGCH_Information)
+RT_ENCODE_EXTERN(E_AGCH_Information)
+RT_ENCODE_EXTERN(DL_FDPCH_InfoPerRL_r7)
+RT_ENCODE_EXTERN(E_AGCH_Set_Config_LCR)
+RT_ENCODE_EXTERN(E_HICH_Information_TDD128)
 
-int asn1PE_UMTS_Multi_frequencyInfo_LCR_r7(rtxContext* RT_RESTRICT ctx, const Multi_frequencyInfo_LCR_r7* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Multi-frequencyInfo-LCR-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Multi-frequencyInfo-LCR-r7");
-   /* secondFrequencyInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, &pvalue->secondFrequencyInfo);
-      RT_CHECK(ctx, stat, 0, "secondFrequencyInfo", -1, "Multi-frequencyInfo-LCR-r7");
-   }
-   /* fPachFrequencyInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, &pvalue->fPachFrequencyInfo);
-      RT_CHECK(ctx, stat, 0, "fPachFrequencyInfo", -1, "Multi-frequencyInfo-LCR-r7");
-   }
-   /* upPCHpositionInfo */
-   if (pvalue->m & 0x4u) {
-      if ((uint64_t)pvalue->upPCHpositionInfo > 127u) {
-         rtxErrAddStrParm(ctx, "UpPCHposition-LCR");
-         rtxErrAddUIntParm(ctx, pvalue->upPCHpositionInfo);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "UpPCHposition-LCR", "upPCHpositionInfo", -1, "Multi-frequencyInfo-LCR-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->upPCHpositionInfo, 0, 127);
-      RT_CHECK(ctx, stat, "UpPCHposition-LCR", "upPCHpositionInfo", -1, "Multi-frequencyInfo-LCR-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_DTX_DRX_Offset(rtxContext* RT_RESTRICT ctx, UE_DTX_DRX_Offset value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 159u) {
-      rtxErrAddStrParm(ctx, "UE-DTX-DRX-Offset");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "UE-DTX-DRX-Offset");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 159);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-DTX-DRX-Offset");
-   return 0;
-}
-
-int asn1PE_UMTS_NewTiming(rtxContext* RT_RESTRICT ctx, const NewTiming* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewTiming");
-   /* enablingDelay */
-   if (pvalue->enablingDelay > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->enablingDelay);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "EnablingDelay", "enablingDelay", -1, "NewTiming");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->enablingDelay, 0, 15);
-   RT_CHECK(ctx, stat, "EnablingDelay", "enablingDelay", -1, "NewTiming");
-   /* ue-dtx-drx-Offset */
-   if ((uint64_t)pvalue->ue_dtx_drx_Offset > 159u) {
-      rtxErrAddStrParm(ctx, "UE-DTX-DRX-Offset");
-      rtxErrAddUIntParm(ctx, pvalue->ue_dtx_drx_Offset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "UE-DTX-DRX-Offset", "ue-dtx-drx-Offset", -1, "NewTiming");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_dtx_drx_Offset, 0, 159);
-   RT_CHECK(ctx, stat, "UE-DTX-DRX-Offset", "ue-dtx-drx-Offset", -1, "NewTiming");
-   return 0;
-}
-
-int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_ext_tdd128_t_SI_nst(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_ext_tdd128_t_SI_nst value)
-{
-   int stat = 0;
-   if (value > 6) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_ext_tdd128(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_ext_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* t-SI-nst */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->t_SI_nst > 6) {
-         rtxErrAddUIntParm(ctx, pvalue->t_SI_nst);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "t-SI-nst", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_SI_nst, 0, 6);
-      RT_CHECK(ctx, stat, 0, "t-SI-nst", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_ext(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Non-ScheduledTransGrantInfoTDD-ext");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "Non-ScheduledTransGrantInfoTDD-ext");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "Non-ScheduledTransGrantInfoTDD-ext");
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, "Non-ScheduledTransGrantInfoTDD-ext");
-         stat = asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_ext_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, "Non-ScheduledTransGrantInfoTDD-ext");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_NumberOfDPDCH(rtxContext* RT_RESTRICT ctx, NumberOfDPDCH value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 5u) {
-      rtxErrAddStrParm(ctx, "NumberOfDPDCH");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "NumberOfDPDCH");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NumberOfDPDCH");
-   return 0;
-}
-
-int asn1PE_UMTS_NumberOfFBI_Bits(rtxContext* RT_RESTRICT ctx, NumberOfFBI_Bits value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 1u) {
-      rtxErrAddStrParm(ctx, "NumberOfFBI-Bits");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "NumberOfFBI-Bits");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NumberOfFBI-Bits");
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_PowerControlInfo(rtxContext* RT_RESTRICT ctx, const PDSCH_PowerControlInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-PowerControlInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-PowerControlInfo");
-   /* tpc-StepSizeTDD */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->tpc_StepSizeTDD - 1) > 2u) {
-         rtxErrAddStrParm(ctx, "TPC-StepSizeTDD");
-         rtxErrAddUIntParm(ctx, pvalue->tpc_StepSizeTDD);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TPC-StepSizeTDD", "tpc-StepSizeTDD", -1, "PDSCH-PowerControlInfo");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tpc_StepSizeTDD, 1, 3);
-      RT_CHECK(ctx, stat, "TPC-StepSizeTDD", "tpc-StepSizeTDD", -1, "PDSCH-PowerControlInfo");
-   }
-   /* ul-CCTrChTPCList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UL_CCTrChTPCList(ctx, &pvalue->ul_CCTrChTPCList);
-      RT_CHECK(ctx, stat, 0, "ul-CCTrChTPCList", -1, "PDSCH-PowerControlInfo");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_CapacityAllocationInfo_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_configuration_old_Configuration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tfcs-ID */
-   if (pvalue->tfcs_ID != 1) {
-      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
-         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
-         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, 0);
-   }
-   /* pdsch-Identity */
-   if ((uint64_t)(pvalue->pdsch_Identity - 1) > 63u) {
-      rtxErrAddStrParm(ctx, "PDSCH-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->pdsch_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PDSCH-Identity", "pdsch-Identity", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pdsch_Identity, 1, 64);
-   RT_CHECK(ctx, stat, "PDSCH-Identity", "pdsch-Identity", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_CapacityAllocationInfo_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_configuration_new_Configuration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pdsch-Info */
-   stat = asn1PE_UMTS_PDSCH_Info(ctx, &pvalue->pdsch_Info);
-   RT_CHECK(ctx, stat, 0, "pdsch-Info", -1, 0);
-   /* pdsch-Identity */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->pdsch_Identity - 1) > 63u) {
-         rtxErrAddStrParm(ctx, "PDSCH-Identity");
-         rtxErrAddUIntParm(ctx, pvalue->pdsch_Identity);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "PDSCH-Identity", "pdsch-Identity", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->pdsch_Identity, 1, 64);
-      RT_CHECK(ctx, stat, "PDSCH-Identity", "pdsch-Identity", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_CapacityAllocationInfo_configuration(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_configuration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.old_Configuration == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "old-Configuration", -1, 0);
-         stat = asn1PE_UMTS_PDSCH_CapacityAllocationInfo_configuration_old_Configuration(ctx, pvalue->u.old_Configuration);
-         RT_CHECK(ctx, stat, 0, "old-Configuration", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.new_Configuration == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "new-Configuration", -1, 0);
-         stat = asn1PE_UMTS_PDSCH_CapacityAllocationInfo_configuration_new_Configuration(ctx, pvalue->u.new_Configuration);
-         RT_CHECK(ctx, stat, 0, "new-Configuration", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_CapacityAllocationInfo(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-CapacityAllocationInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-CapacityAllocationInfo");
-   /* pdsch-PowerControlInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PDSCH_PowerControlInfo(ctx, &pvalue->pdsch_PowerControlInfo);
-      RT_CHECK(ctx, stat, 0, "pdsch-PowerControlInfo", -1, "PDSCH-CapacityAllocationInfo");
-   }
-   /* pdsch-AllocationPeriodInfo */
-   stat = asn1PE_UMTS_AllocationPeriodInfo(ctx, &pvalue->pdsch_AllocationPeriodInfo);
-   RT_CHECK(ctx, stat, 0, "pdsch-AllocationPeriodInfo", -1, "PDSCH-CapacityAllocationInfo");
-   /* configuration */
-   stat = asn1PE_UMTS_PDSCH_CapacityAllocationInfo_configuration(ctx, &pvalue->configuration);
-   RT_CHECK(ctx, stat, 0, "configuration", -1, "PDSCH-CapacityAllocationInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_CapacityAllocationInfo_r4_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_r4_configuration_old_Configuration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tfcs-ID */
-   if (pvalue->tfcs_ID != 1) {
-      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
-         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
-         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, 0);
-   }
-   /* pdsch-Identity */
-   if ((uint64_t)(pvalue->pdsch_Identity - 1) > 63u) {
-      rtxErrAddStrParm(ctx, "PDSCH-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->pdsch_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PDSCH-Identity", "pdsch-Identity", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pdsch_Identity, 1, 64);
-   RT_CHECK(ctx, stat, "PDSCH-Identity", "pdsch-Identity", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_Info_r4_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_r4_tddOption_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pdsch-TimeslotsCodes */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DownlinkTimeslotsCodes(ctx, &pvalue->pdsch_TimeslotsCodes);
-      RT_CHECK(ctx, stat, 0, "pdsch-TimeslotsCodes", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_Info_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_r4_tddOption_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pdsch-TimeslotsCodes */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->pdsch_TimeslotsCodes);
-      RT_CHECK(ctx, stat, 0, "pdsch-TimeslotsCodes", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_Info_r4_tddOption(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_r4_tddOption* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
-         stat = asn1PE_UMTS_PDSCH_Info_r4_tddOption_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_PDSCH_Info_r4_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_Info_r4(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-Info-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 1) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PDSCH-Info-r4");
-   /* tfcs-ID */
-   if (pvalue->tfcs_ID != 1) {
-      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
-         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
-         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "PDSCH-Info-r4");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PDSCH-Info-r4");
-   }
-   /* commonTimeslotInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "PDSCH-Info-r4");
-   }
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* tddOption */
-   stat = asn1PE_UMTS_PDSCH_Info_r4_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, "PDSCH-Info-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_CapacityAllocationInfo_r4_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_r4_configuration_new_Configuration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pdsch-Info */
-   stat = asn1PE_UMTS_PDSCH_Info_r4(ctx, &pvalue->pdsch_Info);
-   RT_CHECK(ctx, stat, 0, "pdsch-Info", -1, 0);
-   /* pdsch-Identity */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->pdsch_Identity - 1) > 63u) {
-         rtxErrAddStrParm(ctx, "PDSCH-Identity");
-         rtxErrAddUIntParm(ctx, pvalue->pdsch_Identity);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "PDSCH-Identity", "pdsch-Identity", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->pdsch_Identity, 1, 64);
-      RT_CHECK(ctx, stat, "PDSCH-Identity", "pdsch-Identity", -1, 0);
-   }
-   /* pdsch-PowerControlInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_PDSCH_PowerControlInfo(ctx, &pvalue->pdsch_PowerControlInfo);
-      RT_CHECK(ctx, stat, 0, "pdsch-PowerControlInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_CapacityAllocationInfo_r4_configuration(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_r4_configuration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.old_Configuration == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "old-Configuration", -1, 0);
-         stat = asn1PE_UMTS_PDSCH_CapacityAllocationInfo_r4_configuration_old_Configuration(ctx, pvalue->u.old_Configuration);
-         RT_CHECK(ctx, stat, 0, "old-Configuration", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.new_Configuration == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "new-Configuration", -1, 0);
-         stat = asn1PE_UMTS_PDSCH_CapacityAllocationInfo_r4_configuration_new_Configuration(ctx, pvalue->u.new_Configuration);
-         RT_CHECK(ctx, stat, 0, "new-Configuration", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_CapacityAllocationInfo_r4(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-CapacityAllocationInfo-r4");
-   /* pdsch-AllocationPeriodInfo */
-   stat = asn1PE_UMTS_AllocationPeriodInfo(ctx, &pvalue->pdsch_AllocationPeriodInfo);
-   RT_CHECK(ctx, stat, 0, "pdsch-AllocationPeriodInfo", -1, "PDSCH-CapacityAllocationInfo-r4");
-   /* configuration */
-   stat = asn1PE_UMTS_PDSCH_CapacityAllocationInfo_r4_configuration(ctx, &pvalue->configuration);
-   RT_CHECK(ctx, stat, 0, "configuration", -1, "PDSCH-CapacityAllocationInfo-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_CapacityAllocationInfo_r7_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_r7_configuration_old_Configuration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tfcs-ID */
-   if (pvalue->tfcs_ID != 1) {
-      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
-         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
-         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, 0);
-   }
-   /* pdsch-Identity */
-   if ((uint64_t)(pvalue->pdsch_Identity - 1) > 63u) {
-      rtxErrAddStrParm(ctx, "PDSCH-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->pdsch_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PDSCH-Identity", "pdsch-Identity", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pdsch_Identity, 1, 64);
-   RT_CHECK(ctx, stat, "PDSCH-Identity", "pdsch-Identity", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_CapacityAllocationInfo_r7_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_r7_configuration_new_Configuration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pdsch-Info */
-   stat = asn1PE_UMTS_PDSCH_Info_r7(ctx, &pvalue->pdsch_Info);
-   RT_CHECK(ctx, stat, 0, "pdsch-Info", -1, 0);
-   /* pdsch-Identity */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->pdsch_Identity - 1) > 63u) {
-         rtxErrAddStrParm(ctx, "PDSCH-Identity");
-         rtxErrAddUIntParm(ctx, pvalue->pdsch_Identity);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "PDSCH-Identity", "pdsch-Identity", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->pdsch_Identity, 1, 64);
-      RT_CHECK(ctx, stat, "PDSCH-Identity", "pdsch-Identity", -1, 0);
-   }
-   /* pdsch-PowerControlInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_PDSCH_PowerControlInfo(ctx, &pvalue->pdsch_PowerControlInfo);
-      RT_CHECK(ctx, stat, 0, "pdsch-PowerControlInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_CapacityAllocationInfo_r7_configuration(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_r7_configuration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.old_Configuration == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "old-Configuration", -1, 0);
-         stat = asn1PE_UMTS_PDSCH_CapacityAllocationInfo_r7_configuration_old_Configuration(ctx, pvalue->u.old_Configuration);
-         RT_CHECK(ctx, stat, 0, "old-Configuration", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.new_Configuration == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "new-Configuration", -1, 0);
-         stat = asn1PE_UMTS_PDSCH_CapacityAllocationInfo_r7_configuration_new_Configuration(ctx, pvalue->u.new_Configuration);
-         RT_CHECK(ctx, stat, 0, "new-Configuration", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_CapacityAllocationInfo_r7(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-CapacityAllocationInfo-r7");
-   /* pdsch-AllocationPeriodInfo */
-   stat = asn1PE_UMTS_AllocationPeriodInfo(ctx, &pvalue->pdsch_AllocationPeriodInfo);
-   RT_CHECK(ctx, stat, 0, "pdsch-AllocationPeriodInfo", -1, "PDSCH-CapacityAllocationInfo-r7");
-   /* configuration */
-   stat = asn1PE_UMTS_PDSCH_CapacityAllocationInfo_r7_configuration(ctx, &pvalue->configuration);
-   RT_CHECK(ctx, stat, 0, "configuration", -1, "PDSCH-CapacityAllocationInfo-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_SysInfoList(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-SysInfoList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PDSCH-SysInfoList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PDSCH-SysInfo", (int32_t)i, "PDSCH-SysInfoList");
-      stat = asn1PE_UMTS_PDSCH_SysInfo(ctx, (const PDSCH_SysInfo*)node->data);
-      RT_CHECK(ctx, stat, 0, "PDSCH-SysInfo", (int32_t)i, "PDSCH-SysInfoList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_SysInfoList_HCR_r5(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList_HCR_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-SysInfoList-HCR-r5");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PDSCH-SysInfoList-HCR-r5");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PDSCH-SysInfo-HCR-r5", (int32_t)i, "PDSCH-SysInfoList-HCR-r5");
-      stat = asn1PE_UMTS_PDSCH_SysInfo_HCR_r5(ctx, (const PDSCH_SysInfo_HCR_r5*)node->data);
-      RT_CHECK(ctx, stat, 0, "PDSCH-SysInfo-HCR-r5", (int32_t)i, "PDSCH-SysInfoList-HCR-r5");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PDSCH_SysInfoList_LCR_r4(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-SysInfoList-LCR-r4");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PDSCH-SysInfoList-LCR-r4");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PDSCH-SysInfo-LCR-r4", (int32_t)i, "PDSCH-SysInfoList-LCR-r4");
-      stat = asn1PE_UMTS_PDSCH_SysInfo_LCR_r4(ctx, (const PDSCH_SysInfo_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat, 0, "PDSCH-SysInfo-LCR-r4", (int32_t)i, "PDSCH-SysInfoList-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TPC_CommandTargetRate(rtxContext* RT_RESTRICT ctx, TPC_CommandTargetRate value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 10u) {
-      rtxErrAddStrParm(ctx, "TPC-CommandTargetRate");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TPC-CommandTargetRate");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 10);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TPC-CommandTargetRate");
-   return 0;
-}
-
-int asn1PE_UMTS_PLCCH_Info(rtxContext* RT_RESTRICT ctx, const PLCCH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PLCCH-Info");
-   /* plcchSequenceNumber */
-   if ((uint64_t)(pvalue->plcchSequenceNumber - 1) > 13u) {
-      rtxErrAddStrParm(ctx, "plcchSequenceNumber");
-      rtxErrAddUIntParm(ctx, pvalue->plcchSequenceNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "plcchSequenceNumber", -1, "PLCCH-Info");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->plcchSequenceNumber, 1, 14);
-   RT_CHECK(ctx, stat, 0, "plcchSequenceNumber", -1, "PLCCH-Info");
-   /* timeslotNumber */
-   if ((uint64_t)pvalue->timeslotNumber > 6u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "PLCCH-Info");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "PLCCH-Info");
-   /* channelisationCode */
-   if (pvalue->channelisationCode > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-TS-ChannelisationCode", "channelisationCode", -1, "PLCCH-Info");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode, 0, 15);
-   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode", "channelisationCode", -1, "PLCCH-Info");
-   /* tpcCommandTargetRate */
-   if ((uint64_t)pvalue->tpcCommandTargetRate > 10u) {
-      rtxErrAddStrParm(ctx, "TPC-CommandTargetRate");
-      rtxErrAddUIntParm(ctx, pvalue->tpcCommandTargetRate);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TPC-CommandTargetRate", "tpcCommandTargetRate", -1, "PLCCH-Info");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tpcCommandTargetRate, 0, 10);
-   RT_CHECK(ctx, stat, "TPC-CommandTargetRate", "tpcCommandTargetRate", -1, "PLCCH-Info");
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tfcs-ID */
-   if (pvalue->tfcs_ID != 1) {
-      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
-         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
-         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, 0);
-   }
-   /* pusch-Identity */
-   if ((uint64_t)(pvalue->pusch_Identity - 1) > 63u) {
-      rtxErrAddStrParm(ctx, "PUSCH-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->pusch_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PUSCH-Identity", "pusch-Identity", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pusch_Identity, 1, 64);
-   RT_CHECK(ctx, stat, "PUSCH-Identity", "pusch-Identity", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-Info */
-   stat = asn1PE_UMTS_PUSCH_Info(ctx, &pvalue->pusch_Info);
-   RT_CHECK(ctx, stat, 0, "pusch-Info", -1, 0);
-   /* pusch-Identity */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->pusch_Identity - 1) > 63u) {
-         rtxErrAddStrParm(ctx, "PUSCH-Identity");
-         rtxErrAddUIntParm(ctx, pvalue->pusch_Identity);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "PUSCH-Identity", "pusch-Identity", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->pusch_Identity, 1, 64);
-      RT_CHECK(ctx, stat, "PUSCH-Identity", "pusch-Identity", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.old_Configuration == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "old-Configuration", -1, 0);
-         stat = asn1PE_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(ctx, pvalue->u.old_Configuration);
-         RT_CHECK(ctx, stat, 0, "old-Configuration", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.new_Configuration == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "new-Configuration", -1, 0);
-         stat = asn1PE_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(ctx, pvalue->u.new_Configuration);
-         RT_CHECK(ctx, stat, 0, "new-Configuration", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-AllocationPeriodInfo */
-   stat = asn1PE_UMTS_AllocationPeriodInfo(ctx, &pvalue->pusch_AllocationPeriodInfo);
-   RT_CHECK(ctx, stat, 0, "pusch-AllocationPeriodInfo", -1, 0);
-   /* pusch-PowerControlInfo */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->pusch_PowerControlInfo > 62u) {
-         rtxErrAddStrParm(ctx, "UL-TargetSIR");
-         rtxErrAddUIntParm(ctx, pvalue->pusch_PowerControlInfo);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-TargetSIR", "pusch-PowerControlInfo", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->pusch_PowerControlInfo, 0, 62);
-      RT_CHECK(ctx, stat, "UL-TargetSIR", "pusch-PowerControlInfo", -1, 0);
-   }
-   /* configuration */
-   stat = asn1PE_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration(ctx, &pvalue->configuration);
-   RT_CHECK(ctx, stat, 0, "configuration", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_pusch_Allocation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.pusch_AllocationAssignment == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "pusch-AllocationAssignment", -1, 0);
-         stat = asn1PE_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment(ctx, pvalue->u.pusch_AllocationAssignment);
-         RT_CHECK(ctx, stat, 0, "pusch-AllocationAssignment", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_CapacityAllocationInfo(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-CapacityAllocationInfo");
-   /* pusch-Allocation */
-   stat = asn1PE_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation(ctx, &pvalue->pusch_Allocation);
-   RT_CHECK(ctx, stat, 0, "pusch-Allocation", -1, "PUSCH-CapacityAllocationInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_PowerControlInfo_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const PUSCH_PowerControlInfo_r4_tddOption_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tpc-StepSize */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->tpc_StepSize - 1) > 2u) {
-         rtxErrAddStrParm(ctx, "TPC-StepSizeTDD");
-         rtxErrAddUIntParm(ctx, pvalue->tpc_StepSize);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tpc_StepSize, 1, 3);
-      RT_CHECK(ctx, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_PowerControlInfo_r4_tddOption(rtxContext* RT_RESTRICT ctx, const PUSCH_PowerControlInfo_r4_tddOption* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_PUSCH_PowerControlInfo_r4_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_PowerControlInfo_r4(rtxContext* RT_RESTRICT ctx, const PUSCH_PowerControlInfo_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-PowerControlInfo-r4");
-   /* ul-TargetSIR */
-   if ((uint64_t)pvalue->ul_TargetSIR > 62u) {
-      rtxErrAddStrParm(ctx, "UL-TargetSIR");
-      rtxErrAddUIntParm(ctx, pvalue->ul_TargetSIR);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-TargetSIR", "ul-TargetSIR", -1, "PUSCH-PowerControlInfo-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ul_TargetSIR, 0, 62);
-   RT_CHECK(ctx, stat, "UL-TargetSIR", "ul-TargetSIR", -1, "PUSCH-PowerControlInfo-r4");
-   /* tddOption */
-   stat = asn1PE_UMTS_PUSCH_PowerControlInfo_r4_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, "PUSCH-PowerControlInfo-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tfcs-ID */
-   if (pvalue->tfcs_ID != 1) {
-      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
-         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
-         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, 0);
-   }
-   /* pusch-Identity */
-   if ((uint64_t)(pvalue->pusch_Identity - 1) > 63u) {
-      rtxErrAddStrParm(ctx, "PUSCH-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->pusch_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PUSCH-Identity", "pusch-Identity", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pusch_Identity, 1, 64);
-   RT_CHECK(ctx, stat, "PUSCH-Identity", "pusch-Identity", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_Info_r4_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const PUSCH_Info_r4_tddOption_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-TimeslotsCodes */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UplinkTimeslotsCodes(ctx, &pvalue->pusch_TimeslotsCodes);
-      RT_CHECK(ctx, stat, 0, "pusch-TimeslotsCodes", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_Info_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const PUSCH_Info_r4_tddOption_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-TimeslotsCodes */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r4(ctx, &pvalue->pusch_TimeslotsCodes);
-      RT_CHECK(ctx, stat, 0, "pusch-TimeslotsCodes", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_Info_r4_tddOption(rtxContext* RT_RESTRICT ctx, const PUSCH_Info_r4_tddOption* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
-         stat = asn1PE_UMTS_PUSCH_Info_r4_tddOption_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_PUSCH_Info_r4_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_Info_r4(rtxContext* RT_RESTRICT ctx, const PUSCH_Info_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-Info-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 1) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PUSCH-Info-r4");
-   /* tfcs-ID */
-   if (pvalue->tfcs_ID != 1) {
-      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
-         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
-         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "PUSCH-Info-r4");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PUSCH-Info-r4");
-   }
-   /* commonTimeslotInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "PUSCH-Info-r4");
-   }
-   /* tddOption */
-   stat = asn1PE_UMTS_PUSCH_Info_r4_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, "PUSCH-Info-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-Info */
-   stat = asn1PE_UMTS_PUSCH_Info_r4(ctx, &pvalue->pusch_Info);
-   RT_CHECK(ctx, stat, 0, "pusch-Info", -1, 0);
-   /* pusch-Identity */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->pusch_Identity - 1) > 63u) {
-         rtxErrAddStrParm(ctx, "PUSCH-Identity");
-         rtxErrAddUIntParm(ctx, pvalue->pusch_Identity);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "PUSCH-Identity", "pusch-Identity", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->pusch_Identity, 1, 64);
-      RT_CHECK(ctx, stat, "PUSCH-Identity", "pusch-Identity", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.old_Configuration == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "old-Configuration", -1, 0);
-         stat = asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(ctx, pvalue->u.old_Configuration);
-         RT_CHECK(ctx, stat, 0, "old-Configuration", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.new_Configuration == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "new-Configuration", -1, 0);
-         stat = asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(ctx, pvalue->u.new_Configuration);
-         RT_CHECK(ctx, stat, 0, "new-Configuration", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-AllocationPeriodInfo */
-   stat = asn1PE_UMTS_AllocationPeriodInfo(ctx, &pvalue->pusch_AllocationPeriodInfo);
-   RT_CHECK(ctx, stat, 0, "pusch-AllocationPeriodInfo", -1, 0);
-   /* pusch-PowerControlInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PUSCH_PowerControlInfo_r4(ctx, &pvalue->pusch_PowerControlInfo);
-      RT_CHECK(ctx, stat, 0, "pusch-PowerControlInfo", -1, 0);
-   }
-   /* configuration */
-   stat = asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration(ctx, &pvalue->configuration);
-   RT_CHECK(ctx, stat, 0, "configuration", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r4_pusch_Allocation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.pusch_AllocationAssignment == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "pusch-AllocationAssignment", -1, 0);
-         stat = asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment(ctx, pvalue->u.pusch_AllocationAssignment);
-         RT_CHECK(ctx, stat, 0, "pusch-AllocationAssignment", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r4(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-CapacityAllocationInfo-r4");
-   /* pusch-Allocation */
-   stat = asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation(ctx, &pvalue->pusch_Allocation);
-   RT_CHECK(ctx, stat, 0, "pusch-Allocation", -1, "PUSCH-CapacityAllocationInfo-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_PowerControlInfo_r7_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const PUSCH_PowerControlInfo_r7_tddOption_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tpc-StepSize */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->tpc_StepSize - 1) > 2u) {
-         rtxErrAddStrParm(ctx, "TPC-StepSizeTDD");
-         rtxErrAddUIntParm(ctx, pvalue->tpc_StepSize);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tpc_StepSize, 1, 3);
-      RT_CHECK(ctx, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_PowerControlInfo_r7_tddOption(rtxContext* RT_RESTRICT ctx, const PUSCH_PowerControlInfo_r7_tddOption* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         break;
-      case 3:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_PUSCH_PowerControlInfo_r7_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_PowerControlInfo_r7(rtxContext* RT_RESTRICT ctx, const PUSCH_PowerControlInfo_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-PowerControlInfo-r7");
-   /* ul-TargetSIR */
-   if ((uint64_t)pvalue->ul_TargetSIR > 62u) {
-      rtxErrAddStrParm(ctx, "UL-TargetSIR");
-      rtxErrAddUIntParm(ctx, pvalue->ul_TargetSIR);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-TargetSIR", "ul-TargetSIR", -1, "PUSCH-PowerControlInfo-r7");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ul_TargetSIR, 0, 62);
-   RT_CHECK(ctx, stat, "UL-TargetSIR", "ul-TargetSIR", -1, "PUSCH-PowerControlInfo-r7");
-   /* tddOption */
-   stat = asn1PE_UMTS_PUSCH_PowerControlInfo_r7_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, "PUSCH-PowerControlInfo-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tfcs-ID */
-   if (pvalue->tfcs_ID != 1) {
-      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
-         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
-         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, 0);
-   }
-   /* pusch-Identity */
-   if ((uint64_t)(pvalue->pusch_Identity - 1) > 63u) {
-      rtxErrAddStrParm(ctx, "PUSCH-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->pusch_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PUSCH-Identity", "pusch-Identity", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pusch_Identity, 1, 64);
-   RT_CHECK(ctx, stat, "PUSCH-Identity", "pusch-Identity", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-Info */
-   stat = asn1PE_UMTS_PUSCH_Info_VHCR(ctx, &pvalue->pusch_Info);
-   RT_CHECK(ctx, stat, 0, "pusch-Info", -1, 0);
-   /* pusch-Identity */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->pusch_Identity - 1) > 63u) {
-         rtxErrAddStrParm(ctx, "PUSCH-Identity");
-         rtxErrAddUIntParm(ctx, pvalue->pusch_Identity);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "PUSCH-Identity", "pusch-Identity", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->pusch_Identity, 1, 64);
-      RT_CHECK(ctx, stat, "PUSCH-Identity", "pusch-Identity", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.old_Configuration == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "old-Configuration", -1, 0);
-         stat = asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(ctx, pvalue->u.old_Configuration);
-         RT_CHECK(ctx, stat, 0, "old-Configuration", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.new_Configuration == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "new-Configuration", -1, 0);
-         stat = asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(ctx, pvalue->u.new_Configuration);
-         RT_CHECK(ctx, stat, 0, "new-Configuration", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-AllocationPeriodInfo */
-   stat = asn1PE_UMTS_AllocationPeriodInfo(ctx, &pvalue->pusch_AllocationPeriodInfo);
-   RT_CHECK(ctx, stat, 0, "pusch-AllocationPeriodInfo", -1, 0);
-   /* pusch-PowerControlInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PUSCH_PowerControlInfo_r7(ctx, &pvalue->pusch_PowerControlInfo);
-      RT_CHECK(ctx, stat, 0, "pusch-PowerControlInfo", -1, 0);
-   }
-   /* configuration */
-   stat = asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration(ctx, &pvalue->configuration);
-   RT_CHECK(ctx, stat, 0, "configuration", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r7_pusch_Allocation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.pusch_AllocationAssignment == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "pusch-AllocationAssignment", -1, 0);
-         stat = asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment(ctx, pvalue->u.pusch_AllocationAssignment);
-         RT_CHECK(ctx, stat, 0, "pusch-AllocationAssignment", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r7(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-CapacityAllocationInfo-r7");
-   /* pusch-Allocation */
-   stat = asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation(ctx, &pvalue->pusch_Allocation);
-   RT_CHECK(ctx, stat, 0, "pusch-Allocation", -1, "PUSCH-CapacityAllocationInfo-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_SysInfoList(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-SysInfoList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PUSCH-SysInfoList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PUSCH-SysInfo", (int32_t)i, "PUSCH-SysInfoList");
-      stat = asn1PE_UMTS_PUSCH_SysInfo(ctx, (const PUSCH_SysInfo*)node->data);
-      RT_CHECK(ctx, stat, 0, "PUSCH-SysInfo", (int32_t)i, "PUSCH-SysInfoList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_SysInfoList_HCR_r5(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_HCR_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-SysInfoList-HCR-r5");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PUSCH-SysInfoList-HCR-r5");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PUSCH-SysInfo-HCR-r5", (int32_t)i, "PUSCH-SysInfoList-HCR-r5");
-      stat = asn1PE_UMTS_PUSCH_SysInfo_HCR_r5(ctx, (const PUSCH_SysInfo_HCR_r5*)node->data);
-      RT_CHECK(ctx, stat, 0, "PUSCH-SysInfo-HCR-r5", (int32_t)i, "PUSCH-SysInfoList-HCR-r5");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PUSCH_SysInfoList_LCR_r4(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-SysInfoList-LCR-r4");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "PUSCH-SysInfoList-LCR-r4");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PUSCH-SysInfo-LCR-r4", (int32_t)i, "PUSCH-SysInfoList-LCR-r4");
-      stat = asn1PE_UMTS_PUSCH_SysInfo_LCR_r4(ctx, (const PUSCH_SysInfo_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat, 0, "PUSCH-SysInfo-LCR-r4", (int32_t)i, "PUSCH-SysInfoList-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ReducedScramblingCodeNumber(rtxContext* RT_RESTRICT ctx, ReducedScramblingCodeNumber value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 8191u) {
-      rtxErrAddStrParm(ctx, "ReducedScramblingCodeNumber");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "ReducedScramblingCodeNumber");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 8191);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ReducedScramblingCodeNumber");
-   return 0;
-}
-
-int asn1PE_UMTS_RepPerLengthOffset_MICH(rtxContext* RT_RESTRICT ctx, const RepPerLengthOffset_MICH* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RepPerLengthOffset-MICH");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 8);
-   RT_CHECK(ctx, stat, 0, "t", -1, "RepPerLengthOffset-MICH");
-   if (pvalue->t - 1 > 8) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RepPerLengthOffset-MICH");
-   switch (pvalue->t) {
-      case 1:
-         if ((uint64_t)pvalue->u.rpp4_2 > 3u) {
-            rtxErrAddStrParm(ctx, "rpp4-2");
-            rtxErrAddUIntParm(ctx, pvalue->u.rpp4_2);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rpp4-2", -1, "RepPerLengthOffset-MICH");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.rpp4_2, 0, 3);
-         RT_CHECK(ctx, stat, 0, "rpp4-2", -1, "RepPerLengthOffset-MICH");
-         break;
-      case 2:
-         if ((uint64_t)pvalue->u.rpp8_2 > 7u) {
-            rtxErrAddStrParm(ctx, "rpp8-2");
-            rtxErrAddUIntParm(ctx, pvalue->u.rpp8_2);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rpp8-2", -1, "RepPerLengthOffset-MICH");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.rpp8_2, 0, 7);
-         RT_CHECK(ctx, stat, 0, "rpp8-2", -1, "RepPerLengthOffset-MICH");
-         break;
-      case 3:
-         if ((uint64_t)pvalue->u.rpp8_4 > 7u) {
-            rtxErrAddStrParm(ctx, "rpp8-4");
-            rtxErrAddUIntParm(ctx, pvalue->u.rpp8_4);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rpp8-4", -1, "RepPerLengthOffset-MICH");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.rpp8_4, 0, 7);
-         RT_CHECK(ctx, stat, 0, "rpp8-4", -1, "RepPerLengthOffset-MICH");
-         break;
-      case 4:
-         if ((uint64_t)pvalue->u.rpp16_2 > 15u) {
-            rtxErrAddStrParm(ctx, "rpp16-2");
-            rtxErrAddUIntParm(ctx, pvalue->u.rpp16_2);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rpp16-2", -1, "RepPerLengthOffset-MICH");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.rpp16_2, 0, 15);
-         RT_CHECK(ctx, stat, 0, "rpp16-2", -1, "RepPerLengthOffset-MICH");
-         break;
-      case 5:
-         if ((uint64_t)pvalue->u.rpp16_4 > 15u) {
-            rtxErrAddStrParm(ctx, "rpp16-4");
-            rtxErrAddUIntParm(ctx, pvalue->u.rpp16_4);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rpp16-4", -1, "RepPerLengthOffset-MICH");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.rpp16_4, 0, 15);
-         RT_CHECK(ctx, stat, 0, "rpp16-4", -1, "RepPerLengthOffset-MICH");
-         break;
-      case 6:
-         if ((uint64_t)pvalue->u.rpp32_2 > 31u) {
-            rtxErrAddStrParm(ctx, "rpp32-2");
-            rtxErrAddUIntParm(ctx, pvalue->u.rpp32_2);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rpp32-2", -1, "RepPerLengthOffset-MICH");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.rpp32_2, 0, 31);
-         RT_CHECK(ctx, stat, 0, "rpp32-2", -1, "RepPerLengthOffset-MICH");
-         break;
-      case 7:
-         if ((uint64_t)pvalue->u.rpp32_4 > 31u) {
-            rtxErrAddStrParm(ctx, "rpp32-4");
-            rtxErrAddUIntParm(ctx, pvalue->u.rpp32_4);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rpp32-4", -1, "RepPerLengthOffset-MICH");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.rpp32_4, 0, 31);
-         RT_CHECK(ctx, stat, 0, "rpp32-4", -1, "RepPerLengthOffset-MICH");
-         break;
-      case 8:
-         if ((uint64_t)pvalue->u.rpp64_2 > 63u) {
-            rtxErrAddStrParm(ctx, "rpp64-2");
-            rtxErrAddUIntParm(ctx, pvalue->u.rpp64_2);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rpp64-2", -1, "RepPerLengthOffset-MICH");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.rpp64_2, 0, 63);
-         RT_CHECK(ctx, stat, 0, "rpp64-2", -1, "RepPerLengthOffset-MICH");
-         break;
-      case 9:
-         if ((uint64_t)pvalue->u.rpp64_4 > 63u) {
-            rtxErrAddStrParm(ctx, "rpp64-4");
-            rtxErrAddUIntParm(ctx, pvalue->u.rpp64_4);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rpp64-4", -1, "RepPerLengthOffset-MICH");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.rpp64_4, 0, 63);
-         RT_CHECK(ctx, stat, 0, "rpp64-4", -1, "RepPerLengthOffset-MICH");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RL_AdditionInformation(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RL-AdditionInformation");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RL-AdditionInformation");
-   /* primaryCPICH-Info */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "RL-AdditionInformation");
-   /* dl-DPCH-InfoPerRL */
-   stat = asn1PE_UMTS_DL_DPCH_InfoPerRL(ctx, &pvalue->dl_DPCH_InfoPerRL);
-   RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, "RL-AdditionInformation");
-   /* dummy */
-   stat = rtxEncBit(ctx, pvalue->dummy);
-   RT_CHECK(ctx, stat, 0, "dummy", -1, "RL-AdditionInformation");
-   /* dummy2 */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SCCPCH_InfoForFACH(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat, 0, "dummy2", -1, "RL-AdditionInformation");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RL_AdditionInformation_r6_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_r6_dl_dpchInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.dl_DPCH_InfoPerRL == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-DPCH-InfoPerRL", -1, 0);
-         stat = asn1PE_UMTS_DL_DPCH_InfoPerRL_r5(ctx, pvalue->u.dl_DPCH_InfoPerRL);
-         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.dl_FDPCH_InfoPerRL == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-FDPCH-InfoPerRL", -1, 0);
-         stat = asn1PE_UMTS_DL_FDPCH_InfoPerRL_r6(ctx, pvalue->u.dl_FDPCH_InfoPerRL);
-         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoPerRL", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RL_AdditionInformation_r6(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RL-AdditionInformation-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RL-AdditionInformation-r6");
-   /* primaryCPICH-Info */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "RL-AdditionInformation-r6");
-   /* cell-Id */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellIdentity(ctx, pvalue->cell_Id);
-      RT_CHECK(ctx, stat, 0, "cell-Id", -1, "RL-AdditionInformation-r6");
-   }
-   /* dl-dpchInfo */
-   stat = asn1PE_UMTS_RL_AdditionInformation_r6_dl_dpchInfo(ctx, &pvalue->dl_dpchInfo);
-   RT_CHECK(ctx, stat, 0, "dl-dpchInfo", -1, "RL-AdditionInformation-r6");
-   /* e-HICH-Information */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_E_HICH_Information(ctx, &pvalue->e_HICH_Information);
-      RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "RL-AdditionInformation-r6");
-   }
-   /* e-RGCH-Information */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_E_RGCH_Information(ctx, &pvalue->e_RGCH_Information);
-      RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, "RL-AdditionInformation-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RL_AdditionInformation_r7_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_r7_dl_dpchInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.dl_DPCH_InfoPerRL == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-DPCH-InfoPerRL", -1, 0);
-         stat = asn1PE_UMTS_DL_DPCH_InfoPerRL_r5(ctx, pvalue->u.dl_DPCH_InfoPerRL);
-         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.dl_FDPCH_InfoPerRL == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-FDPCH-InfoPerRL", -1, 0);
-         stat = asn1PE_UMTS_DL_FDPCH_InfoPerRL_r7(ctx, pvalue->u.dl_FDPCH_InfoPerRL);
-         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoPerRL", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RL_AdditionInformation_r7(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RL-AdditionInformation-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RL-AdditionInformation-r7");
-   /* primaryCPICH-Info */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "RL-AdditionInformation-r7");
-   /* cell-Id */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellIdentity(ctx, pvalue->cell_Id);
-      RT_CHECK(ctx, stat, 0, "cell-Id", -1, "RL-AdditionInformation-r7");
-   }
-   /* dl-dpchInfo */
-   stat = asn1PE_UMTS_RL_AdditionInformation_r7_dl_dpchInfo(ctx, &pvalue->dl_dpchInfo);
-   RT_CHECK(ctx, stat, 0, "dl-dpchInfo", -1, "RL-AdditionInformation-r7");
-   /* e-HICH-Information */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_E_HICH_Information(ctx, &pvalue->e_HICH_Information);
-      RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "RL-AdditionInformation-r7");
-   }
-   /* e-RGCH-Information */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_E_RGCH_Information(ctx, &pvalue->e_RGCH_Information);
-      RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, "RL-AdditionInformation-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RL_AdditionInformation_r8_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_r8_dl_dpchInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.dl_DPCH_InfoPerRL == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-DPCH-InfoPerRL", -1, 0);
-         stat = asn1PE_UMTS_DL_DPCH_InfoPerRL_r5(ctx, pvalue->u.dl_DPCH_InfoPerRL);
-         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.dl_FDPCH_InfoPerRL == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-FDPCH-InfoPerRL", -1, 0);
-         stat = asn1PE_UMTS_DL_FDPCH_InfoPerRL_r7(ctx, pvalue->u.dl_FDPCH_InfoPerRL);
-         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoPerRL", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DTX_DRX_TimingInfo_r7_timing(rtxContext* RT_RESTRICT ctx, const DTX_DRX_TimingInfo_r7_timing* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.newTiming == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "newTiming", -1, 0);
-         stat = asn1PE_UMTS_NewTiming(ctx, pvalue->u.newTiming);
-         RT_CHECK(ctx, stat, 0, "newTiming", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DTX_DRX_TimingInfo_r7(rtxContext* RT_RESTRICT ctx, const DTX_DRX_TimingInfo_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DTX-DRX-TimingInfo-r7");
-   /* timing */
-   stat = asn1PE_UMTS_DTX_DRX_TimingInfo_r7_timing(ctx, &pvalue->timing);
-   RT_CHECK(ctx, stat, 0, "timing", -1, "DTX-DRX-TimingInfo-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_TargetCellPreconfigInfo(rtxContext* RT_RESTRICT ctx, const TargetCellPreconfigInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TargetCellPreconfigInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 0), 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TargetCellPreconfigInfo");
-   /* activationTimeOffset */
-   if (pvalue->m & 0x1u) {
-      stat = pe_ConsUInt64(ctx, pvalue->activationTimeOffset, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTimeOffset", "activationTimeOffset", -1, "TargetCellPreconfigInfo");
-   }
-   /* new-H-RNTI */
-   stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
-   RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "TargetCellPreconfigInfo");
-   /* newPrimary-E-RNTI */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "TargetCellPreconfigInfo");
-   }
-   /* newSecondary-E-RNTI */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "TargetCellPreconfigInfo");
-   }
-   /* serving-HSDSCH-CellInformation */
-   stat = asn1PE_UMTS_Serving_HSDSCH_CellInformation_r8(ctx, &pvalue->serving_HSDSCH_CellInformation);
-   RT_CHECK(ctx, stat, 0, "serving-HSDSCH-CellInformation", -1, "TargetCellPreconfigInfo");
-   /* e-dch-ReconfigurationInfo */
-   stat = asn1PE_UMTS_E_DCH_ReconfigurationInfo_r7(ctx, &pvalue->e_dch_ReconfigurationInfo);
-   RT_CHECK(ctx, stat, 0, "e-dch-ReconfigurationInfo", -1, "TargetCellPreconfigInfo");
-   /* dtx-drx-TimingInfo */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "TargetCellPreconfigInfo");
-   }
-   /* dtx-drx-Info */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "TargetCellPreconfigInfo");
-   }
-   /* hs-scch-LessInfo */
-   if (pvalue->m & 0x20u) {
-      stat = asn1PE_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "TargetCellPreconfigInfo");
-   }
-   /* mimoParameters */
-   if (pvalue->m & 0x40u) {
-      stat = asn1PE_UMTS_MIMO_Parameters_r8(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "TargetCellPreconfigInfo");
-   }
-   /* dl-SecondaryCellInfoFDD */
-   if (pvalue->m & 0x80u) {
-      stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD(ctx, &pvalue->dl_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "TargetCellPreconfigInfo");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RL_AdditionInformation_r8(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RL-AdditionInformation-r8");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RL-AdditionInformation-r8");
-   /* primaryCPICH-Info */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "RL-AdditionInformation-r8");
-   /* cell-Id */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellIdentity(ctx, pvalue->cell_Id);
-      RT_CHECK(ctx, stat, 0, "cell-Id", -1, "RL-AdditionInformation-r8");
-   }
-   /* dl-dpchInfo */
-   stat = asn1PE_UMTS_RL_AdditionInformation_r8_dl_dpchInfo(ctx, &pvalue->dl_dpchInfo);
-   RT_CHECK(ctx, stat, 0, "dl-dpchInfo", -1, "RL-AdditionInformation-r8");
-   /* e-HICH-Information */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_E_HICH_Information(ctx, &pvalue->e_HICH_Information);
-      RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "RL-AdditionInformation-r8");
-   }
-   /* e-RGCH-Information */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_E_RGCH_Information(ctx, &pvalue->e_RGCH_Information);
-      RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, "RL-AdditionInformation-r8");
-   }
-   /* targetCellPreconfigInfo */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_TargetCellPreconfigInfo(ctx, &pvalue->targetCellPreconfigInfo);
-      RT_CHECK(ctx, stat, 0, "targetCellPreconfigInfo", -1, "RL-AdditionInformation-r8");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RL_AdditionInformation_r9_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_r9_dl_dpchInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.dl_DPCH_InfoPerRL == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-DPCH-InfoPerRL", -1, 0);
-         stat = asn1PE_UMTS_DL_DPCH_InfoPerRL_r5(ctx, pvalue->u.dl_DPCH_InfoPerRL);
-         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.dl_FDPCH_InfoPerRL == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dl-FDPCH-InfoPerRL", -1, 0);
-         stat = asn1PE_UMTS_DL_FDPCH_InfoPerRL_r7(ctx, pvalue->u.dl_FDPCH_InfoPerRL);
-         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoPerRL", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TargetCellPreconfigInfo_r9(rtxContext* RT_RESTRICT ctx, const TargetCellPreconfigInfo_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TargetCellPreconfigInfo-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 9) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 8) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 9) & 1u) << 0), 10);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TargetCellPreconfigInfo-r9");
-   /* activationTimeOffset */
-   if (pvalue->m & 0x1u) {
-      stat = pe_ConsUInt64(ctx, pvalue->activationTimeOffset, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTimeOffset", "activationTimeOffset", -1, "TargetCellPreconfigInfo-r9");
-   }
-   /* new-H-RNTI */
-   stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
-   RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "TargetCellPreconfigInfo-r9");
-   /* newPrimary-E-RNTI */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "TargetCellPreconfigInfo-r9");
-   }
-   /* newSecondary-E-RNTI */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "TargetCellPreconfigInfo-r9");
-   }
-   /* serving-HSDSCH-CellInformation */
-   stat = asn1PE_UMTS_Serving_HSDSCH_CellInformation_r9(ctx, &pvalue->serving_HSDSCH_CellInformation);
-   RT_CHECK(ctx, stat, 0, "serving-HSDSCH-CellInformation", -1, "TargetCellPreconfigInfo-r9");
-   /* e-dch-ReconfigurationInfo */
-   stat = asn1PE_UMTS_E_DCH_ReconfigurationInfo_r7(ctx, &pvalue->e_dch_ReconfigurationInfo);
-   RT_CHECK(ctx, stat, 0, "e-dch-ReconfigurationInfo", -1, "TargetCellPreconfigInfo-r9");
-   /* dtx-drx-TimingInfo */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "TargetCellPreconfigInfo-r9");
-   }
-   /* dtx-drx-Info */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "TargetCellPreconfigInfo-r9");
-   }
-   /* hs-scch-LessInfo */
-   if (pvalue->m & 0x20u) {
-      stat = asn1PE_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "TargetCellPreconfigInfo-r9");
-   }
-   /* mimoParameters */
-   if (pvalue->m & 0x40u) {
-      stat = asn1PE_UMTS_MIMO_Parameters_r9(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "TargetCellPreconfigInfo-r9");
-   }
-   /* dl-SecondaryCellInfoFDD */
-   if (pvalue->m & 0x80u) {
-      stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD_r9(ctx, &pvalue->dl_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "TargetCellPreconfigInfo-r9");
-   }
-   /* ul-SecondaryCellInfoFDD */
-   if (pvalue->m & 0x100u) {
-      stat = asn1PE_UMTS_UL_SecondaryCellInfoFDD(ctx, &pvalue->ul_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat, 0, "ul-SecondaryCellInfoFDD", -1, "TargetCellPreconfigInfo-r9");
-   }
-   /* e-dch-ReconfigurationInfo-SecULFrequency */
-   if (pvalue->m & 0x200u) {
-      stat = asn1PE_UMTS_E_DCH_ReconfigurationInfo_SecULFrequency(ctx, &pvalue->e_dch_ReconfigurationInfo_SecULFrequency);
-      RT_CHECK(ctx, stat, 0, "e-dch-ReconfigurationInfo-SecULFrequency", -1, "TargetCellPreconfigInfo-r9");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RL_AdditionInformation_r9(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RL-AdditionInformation-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RL-AdditionInformation-r9");
-   /* primaryCPICH-Info */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "RL-AdditionInformation-r9");
-   /* cell-Id */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellIdentity(ctx, pvalue->cell_Id);
-      RT_CHECK(ctx, stat, 0, "cell-Id", -1, "RL-AdditionInformation-r9");
-   }
-   /* dl-dpchInfo */
-   stat = asn1PE_UMTS_RL_AdditionInformation_r9_dl_dpchInfo(ctx, &pvalue->dl_dpchInfo);
-   RT_CHECK(ctx, stat, 0, "dl-dpchInfo", -1, "RL-AdditionInformation-r9");
-   /* e-HICH-Information */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_E_HICH_Information(ctx, &pvalue->e_HICH_Information);
-      RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "RL-AdditionInformation-r9");
-   }
-   /* e-RGCH-Information */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_E_RGCH_Information(ctx, &pvalue->e_RGCH_Information);
-      RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, "RL-AdditionInformation-r9");
-   }
-   /* targetCellPreconfigInfo */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_TargetCellPreconfigInfo_r9(ctx, &pvalue->targetCellPreconfigInfo);
-      RT_CHECK(ctx, stat, 0, "targetCellPreconfigInfo", -1, "RL-AdditionInformation-r9");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RL_AdditionInformation_v6b0ext(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_v6b0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RL-AdditionInformation-v6b0ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RL-AdditionInformation-v6b0ext");
-   /* sttdIndication */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->sttdIndication > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->sttdIndication);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "STTDIndication", "sttdIndication", -1, "RL-AdditionInformation-v6b0ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->sttdIndication, 0, 0);
-      RT_CHECK(ctx, stat, "STTDIndication", "sttdIndication", -1, "RL-AdditionInformation-v6b0ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TargetCellPreconfigInfo_v890ext(rtxContext* RT_RESTRICT ctx, const TargetCellPreconfigInfo_v890ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TargetCellPreconfigInfo-v890ext");
-   stat = asn1PE_UMTS_MIMO_Parameters_v7f0ext(ctx, pvalue);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TargetCellPreconfigInfo-v890ext");
-   return 0;
-}
-
-int asn1PE_UMTS_RL_AdditionInformation_v890ext(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_v890ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RL-AdditionInformation-v890ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RL-AdditionInformation-v890ext");
-   /* targetCellPreconfigInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_TargetCellPreconfigInfo_v890ext(ctx, &pvalue->targetCellPreconfigInfo);
-      RT_CHECK(ctx, stat, 0, "targetCellPreconfigInfo", -1, "RL-AdditionInformation-v890ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RL_AdditionInformationList(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformationList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RL-AdditionInformationList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 7);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RL-AdditionInformationList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RL-AdditionInformation", (int32_t)i, "RL-AdditionInformationList");
-      stat = asn1PE_UMTS_RL_AdditionInformation(ctx, (const RL_AdditionInformation*)node->data);
-      RT_CHECK(ctx, stat, 0, "RL-AdditionInformation", (int32_t)i, "RL-AdditionInformationList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RL_AdditionInformationList_r6(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformationList_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RL-AdditionInformationList-r6");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 7);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RL-AdditionInformationList-r6");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RL-AdditionInformation-r6", (int32_t)i, "RL-AdditionInformationList-r6");
-      stat = asn1PE_UMTS_RL_AdditionInformation_r6(ctx, (const RL_AdditionInformation_r6*)node->data);
-      RT_CHECK(ctx, stat, 0, "RL-AdditionInformation-r6", (int32_t)i, "RL-AdditionInformationList-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RL_AdditionInformationList_r7(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformationList_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RL-AdditionInformationList-r7");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 7);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RL-AdditionInformationList-r7");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RL-AdditionInformation-r7", (int32_t)i, "RL-AdditionInformationList-r7");
-      stat = asn1PE_UMTS_RL_AdditionInformation_r7(ctx, (const RL_AdditionInformation_r7*)node->data);
-      RT_CHECK(ctx, stat, 0, "RL-AdditionInformation-r7", (int32_t)i, "RL-AdditionInformationList-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RL_AdditionInformation_list_v6b0ext(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_list_v6b0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RL-AdditionInformation-list-v6b0ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RL-AdditionInformation-list-v6b0ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RL-AdditionInformation-v6b0ext", (int32_t)i, "RL-AdditionInformation-list-v6b0ext");
-      stat = asn1PE_UMTS_RL_AdditionInformation_v6b0ext(ctx, (const RL_AdditionInformation_v6b0ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "RL-AdditionInformation-v6b0ext", (int32_t)i, "RL-AdditionInformation-list-v6b0ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RL_AdditionInformationList_r8(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformationList_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RL-AdditionInformationList-r8");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 7);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RL-AdditionInformationList-r8");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RL-AdditionInformation-r8", (int32_t)i, "RL-AdditionInformationList-r8");
-      stat = asn1PE_UMTS_RL_AdditionInformation_r8(ctx, (const RL_AdditionInformation_r8*)node->data);
-      RT_CHECK(ctx, stat, 0, "RL-AdditionInformation-r8", (int32_t)i, "RL-AdditionInformationList-r8");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RL_AdditionInformationList_v890ext(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformationList_v890ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RL-AdditionInformationList-v890ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 7);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RL-AdditionInformationList-v890ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RL-AdditionInformation-v890ext", (int32_t)i, "RL-AdditionInformationList-v890ext");
-      stat = asn1PE_UMTS_RL_AdditionInformation_v890ext(ctx, (const RL_AdditionInformation_v890ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "RL-AdditionInformation-v890ext", (int32_t)i, "RL-AdditionInformationList-v890ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RL_AdditionInformationList_r9(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformationList_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RL-AdditionInformationList-r9");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 7);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RL-AdditionInformationList-r9");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RL-AdditionInformation-r9", (int32_t)i, "RL-AdditionInformationList-r9");
-      stat = asn1PE_UMTS_RL_AdditionInformation_r9(ctx, (const RL_AdditionInformation_r9*)node->data);
-      RT_CHECK(ctx, stat, 0, "RL-AdditionInformation-r9", (int32_t)i, "RL-AdditionInformationList-r9");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RL_AdditionInformation_SecULFreq(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_SecULFreq* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RL-AdditionInformation-SecULFreq");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RL-AdditionInformation-SecULFreq");
-   /* primaryCPICH-Info */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "RL-AdditionInformation-SecULFreq");
-   /* cell-id */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellIdentity(ctx, pvalue->cell_id);
-      RT_CHECK(ctx, stat, 0, "cell-id", -1, "RL-AdditionInformation-SecULFreq");
-   }
-   /* dl-FDPCH-InfoPerRL */
-   stat = asn1PE_UMTS_DL_FDPCH_InfoPerRL_r7(ctx, &pvalue->dl_FDPCH_InfoPerRL);
-   RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoPerRL", -1, "RL-AdditionInformation-SecULFreq");
-   /* e-HICH-Information */
-   stat = asn1PE_UMTS_E_HICH_Information(ctx, &pvalue->e_HICH_Information);
-   RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "RL-AdditionInformation-SecULFreq");
-   /* e-RGCH-Information */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_E_RGCH_Information(ctx, &pvalue->e_RGCH_Information);
-      RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, "RL-AdditionInformation-SecULFreq");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RL_AdditionInformationList_SecULFreq(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformationList_SecULFreq* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RL-AdditionInformationList-SecULFreq");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 3);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RL-AdditionInformationList-SecULFreq");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "RL-AdditionInformation-SecULFreq", (int32_t)i, "RL-AdditionInformationList-SecULFreq");
-      stat = asn1PE_UMTS_RL_AdditionInformation_SecULFreq(ctx, (const RL_AdditionInformation_SecULFreq*)node->data);
-      RT_CHECK(ctx, stat, 0, "RL-AdditionInformation-SecULFreq", (int32_t)i, "RL-AdditionInformationList-SecULFreq");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RL_RemovalInformationList(rtxContext* RT_RESTRICT ctx, const RL_RemovalInformationList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RL-RemovalInformationList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RL-RemovalInformationList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PrimaryCPICH-Info", (int32_t)i, "RL-RemovalInformationList");
-      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, (const PrimaryCPICH_Info*)node->data);
-      RT_CHECK(ctx, stat, 0, "PrimaryCPICH-Info", (int32_t)i, "RL-RemovalInformationList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RL_RemovalInformationList_SecULFreq(rtxContext* RT_RESTRICT ctx, const RL_RemovalInformationList_SecULFreq* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RL-RemovalInformationList-SecULFreq");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RL-RemovalInformationList-SecULFreq");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PrimaryCPICH-Info", (int32_t)i, "RL-RemovalInformationList-SecULFreq");
-      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, (const PrimaryCPICH_Info*)node->data);
-      RT_CHECK(ctx, stat, 0, "PrimaryCPICH-Info", (int32_t)i, "RL-RemovalInformationList-SecULFreq");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCHFrameType2Info_modulation_mod16QAM(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHFrameType2Info_modulation_mod16QAM* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* cpich-SecCCPCH-PowerOffset */
-   if (pvalue->cpich_SecCCPCH_PowerOffset < -11 || pvalue->cpich_SecCCPCH_PowerOffset > 4) {
-      rtxErrAddStrParm(ctx, "cpich-SecCCPCH-PowerOffset");
-      rtxErrAddIntParm(ctx, pvalue->cpich_SecCCPCH_PowerOffset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "cpich-SecCCPCH-PowerOffset", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->cpich_SecCCPCH_PowerOffset, -11, 4);
-   RT_CHECK(ctx, stat, 0, "cpich-SecCCPCH-PowerOffset", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCHFrameType2Info_modulation(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHFrameType2Info_modulation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.mod16QAM == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "mod16QAM", -1, 0);
-         stat = asn1PE_UMTS_SecondaryCCPCHFrameType2Info_modulation_mod16QAM(ctx, pvalue->u.mod16QAM);
-         RT_CHECK(ctx, stat, 0, "mod16QAM", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCHFrameType2Info(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHFrameType2Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SecondaryCCPCHFrameType2Info");
-   /* subFrameNumber */
-   if ((uint64_t)pvalue->subFrameNumber > 4u) {
-      rtxErrAddStrParm(ctx, "subFrameNumber");
-      rtxErrAddUIntParm(ctx, pvalue->subFrameNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "subFrameNumber", -1, "SecondaryCCPCHFrameType2Info");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->subFrameNumber, 0, 4);
-   RT_CHECK(ctx, stat, 0, "subFrameNumber", -1, "SecondaryCCPCHFrameType2Info");
-   /* dl-ChannelisationCodes */
-   stat = asn1PE_UMTS_DL_ChannelCodes_MBSFN_IMB384(ctx, &pvalue->dl_ChannelisationCodes);
-   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCodes", -1, "SecondaryCCPCHFrameType2Info");
-   /* modulation */
-   stat = asn1PE_UMTS_SecondaryCCPCHFrameType2Info_modulation(ctx, &pvalue->modulation);
-   RT_CHECK(ctx, stat, 0, "modulation", -1, "SecondaryCCPCHFrameType2Info");
-   return 0;
-}
-
-int asn1PE_UMTS_SecondaryCCPCHInfoDiff_MBMS(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfoDiff_MBMS* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SecondaryCCPCHInfoDiff-MBMS");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SecondaryCCPCHInfoDiff-MBMS");
-   /* secondaryScramblingCode */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->secondaryScramblingCode - 1) > 14u) {
-         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
-         rtxErrAddUIntParm(ctx, pvalue->secondaryScramblingCode);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "SecondaryScramblingCode", "secondaryScramblingCode", -1, "SecondaryCCPCHInfoDiff-MBMS");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->secondaryScramblingCode, 1, 15);
-      RT_CHECK(ctx, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, "SecondaryCCPCHInfoDiff-MBMS");
-   }
-   /* sttd-Indicator */
-   stat = rtxEncBit(ctx, pvalue->sttd_Indicator);
-   RT_CHECK(ctx, stat, 0, "sttd-Indicator", -1, "SecondaryCCPCHInfoDiff-MBMS");
-   /* sf-AndCodeNumber */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_SF256_AndCodeNumber(ctx, &pvalue->sf_AndCodeNumber);
-      RT_CHECK(ctx, stat, 0, "sf-AndCodeNumber", -1, "SecondaryCCPCHInfoDiff-MBMS");
-   }
-   /* timingOffset */
-   if (pvalue->m & 0x4u) {
-      if ((uint64_t)pvalue->timingOffset > 149u) {
-         rtxErrAddStrParm(ctx, "TimingOffset");
-         rtxErrAddUIntParm(ctx, pvalue->timingOffset);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TimingOffset", "timingOffset", -1, "SecondaryCCPCHInfoDiff-MBMS");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->timingOffset, 0, 149);
-      RT_CHECK(ctx, stat, "TimingOffset", "timingOffset", -1, "SecondaryCCPCHInfoDiff-MBMS");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ServingCellChangeMACreset(rtxContext* RT_RESTRICT ctx, ServingCellChangeMACreset value)
-{
-   int stat = 0;
-   stat = rtxEncBit(ctx, value);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ServingCellChangeMACreset");
-   return 0;
-}
-
-int asn1PE_UMTS_ServingCellChangeMsgType(rtxContext* RT_RESTRICT ctx, ServingCellChangeMsgType value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ServingCellChangeMsgType");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ServingCellChangeMsgType");
-   return 0;
-}
-
-int asn1PE_UMTS_ServingCellChangeTrId(rtxContext* RT_RESTRICT ctx, ServingCellChangeTrId value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 3u) {
-      rtxErrAddStrParm(ctx, "ServingCellChangeTrId");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "ServingCellChangeTrId");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ServingCellChangeTrId");
-   return 0;
-}
-
-int asn1PE_UMTS_ServingCellChangeParameters(rtxContext* RT_RESTRICT ctx, const ServingCellChangeParameters* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ServingCellChangeParameters");
-   /* servingCellChangeMACreset */
-   stat = rtxEncBit(ctx, pvalue->servingCellChangeMACreset);
-   RT_CHECK(ctx, stat, "ServingCellChangeMACreset", "servingCellChangeMACreset", -1, "ServingCellChangeParameters");
-   /* servingCellChangeMsgType */
-   if (pvalue->servingCellChangeMsgType > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->servingCellChangeMsgType);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ServingCellChangeMsgType", "servingCellChangeMsgType", -1, "ServingCellChangeParameters");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->servingCellChangeMsgType, 0, 3);
-   RT_CHECK(ctx, stat, "ServingCellChangeMsgType", "servingCellChangeMsgType", -1, "ServingCellChangeParameters");
-   /* servingCellChangeTrId */
-   if ((uint64_t)pvalue->servingCellChangeTrId > 3u) {
-      rtxErrAddStrParm(ctx, "ServingCellChangeTrId");
-      rtxErrAddUIntParm(ctx, pvalue->servingCellChangeTrId);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "ServingCellChangeTrId", "servingCellChangeTrId", -1, "ServingCellChangeParameters");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->servingCellChangeTrId, 0, 3);
-   RT_CHECK(ctx, stat, "ServingCellChangeTrId", "servingCellChangeTrId", -1, "ServingCellChangeParameters");
-   return 0;
-}
-
-int asn1PE_UMTS_SpecialBurstScheduling(rtxContext* RT_RESTRICT ctx, SpecialBurstScheduling value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 7u) {
-      rtxErrAddStrParm(ctx, "SpecialBurstScheduling");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "SpecialBurstScheduling");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SpecialBurstScheduling");
-   return 0;
-}
-
-int asn1PE_UMTS_SpreadingFactor(rtxContext* RT_RESTRICT ctx, SpreadingFactor value)
-{
-   int stat = 0;
-   if (value > 6) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SpreadingFactor");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SpreadingFactor");
-   return 0;
-}
-
-int asn1PE_UMTS_SPS_Information_TDD128_r8(rtxContext* RT_RESTRICT ctx, const SPS_Information_TDD128_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SPS-Information-TDD128-r8");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SPS-Information-TDD128-r8");
-   /* e-dch-SPS-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_E_DCH_SPS_Information_TDD128(ctx, &pvalue->e_dch_SPS_Info);
-      RT_CHECK(ctx, stat, 0, "e-dch-SPS-Info", -1, "SPS-Information-TDD128-r8");
-   }
-   /* hs-dsch-SPS-Info */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_HS_DSCH_SPS_Information_TDD128(ctx, &pvalue->hs_dsch_SPS_Info);
-      RT_CHECK(ctx, stat, 0, "hs-dsch-SPS-Info", -1, "SPS-Information-TDD128-r8");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SynchronisationParameters_r4_sync_UL_CodesBitmap(rtxContext* RT_RESTRICT ctx, SynchronisationParameters_r4_sync_UL_CodesBitmap value)
-{
-   int stat = 0;
-   {
-      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
-      uint32_t used = (uint32_t)(last + 1);
-      value.numbits = used <= 8 ? 8 : used;
-      if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-   }
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &value, 8, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SYNC_UL_Procedure_r4_max_SYNC_UL_Transmissions(rtxContext* RT_RESTRICT ctx, SYNC_UL_Procedure_r4_max_SYNC_UL_Transmissions value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SYNC_UL_Procedure_r4(rtxContext* RT_RESTRICT ctx, const SYNC_UL_Procedure_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SYNC-UL-Procedure-r4");
-   /* max-SYNC-UL-Transmissions */
-   if (pvalue->max_SYNC_UL_Transmissions > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->max_SYNC_UL_Transmissions);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "max-SYNC-UL-Transmissions", -1, "SYNC-UL-Procedure-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->max_SYNC_UL_Transmissions, 0, 3);
-   RT_CHECK(ctx, stat, 0, "max-SYNC-UL-Transmissions", -1, "SYNC-UL-Procedure-r4");
-   /* powerRampStep */
-   if ((uint64_t)pvalue->powerRampStep > 3u) {
-      rtxErrAddStrParm(ctx, "powerRampStep");
-      rtxErrAddUIntParm(ctx, pvalue->powerRampStep);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "powerRampStep", -1, "SYNC-UL-Procedure-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->powerRampStep, 0, 3);
-   RT_CHECK(ctx, stat, 0, "powerRampStep", -1, "SYNC-UL-Procedure-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_SynchronisationParameters_r4(rtxContext* RT_RESTRICT ctx, const SynchronisationParameters_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SynchronisationParameters-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SynchronisationParameters-r4");
-   /* sync-UL-CodesBitmap */
-   stat = asn1PE_UMTS_SynchronisationParameters_r4_sync_UL_CodesBitmap(ctx, pvalue->sync_UL_CodesBitmap);
-   RT_CHECK(ctx, stat, 0, "sync-UL-CodesBitmap", -1, "SynchronisationParameters-r4");
-   /* fpach-Info */
-   stat = asn1PE_UMTS_FPACH_Info_r4(ctx, &pvalue->fpach_Info);
-   RT_CHECK(ctx, stat, 0, "fpach-Info", -1, "SynchronisationParameters-r4");
-   /* prxUpPCHdes */
-   if ((uint64_t)pvalue->prxUpPCHdes > 62u) {
-      rtxErrAddStrParm(ctx, "prxUpPCHdes");
-      rtxErrAddUIntParm(ctx, pvalue->prxUpPCHdes);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "prxUpPCHdes", -1, "SynchronisationParameters-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->prxUpPCHdes, 0, 62);
-   RT_CHECK(ctx, stat, 0, "prxUpPCHdes", -1, "SynchronisationParameters-r4");
-   /* sync-UL-Procedure */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SYNC_UL_Procedure_r4(ctx, &pvalue->sync_UL_Procedure);
-      RT_CHECK(ctx, stat, 0, "sync-UL-Procedure", -1, "SynchronisationParameters-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TFC_ControlDuration(rtxContext* RT_RESTRICT ctx, TFC_ControlDuration value)
-{
-   int stat = 0;
-   if (value > 12) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "TFC-ControlDuration");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 12);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TFC-ControlDuration");
-   return 0;
-}
-
-int asn1PE_UMTS_TimeslotList(rtxContext* RT_RESTRICT ctx, const TimeslotList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TimeslotList");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 14);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "TimeslotList");
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)pvalue->elem[i] > 14u) {
-         rtxErrAddStrParm(ctx, "TimeslotNumber");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "TimeslotNumber", (int32_t)i, "TimeslotList");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 14);
-      RT_CHECK(ctx, stat, "TimeslotNumber", "TimeslotNumber", (int32_t)i, "TimeslotList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TimeslotList_r4_tdd384(rtxContext* RT_RESTRICT ctx, const TimeslotList_r4_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 14);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)pvalue->elem[i] > 14u) {
-         rtxErrAddStrParm(ctx, "TimeslotNumber");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "TimeslotNumber", (int32_t)i, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 14);
-      RT_CHECK(ctx, stat, "TimeslotNumber", "TimeslotNumber", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TimeslotList_r4_tdd128(rtxContext* RT_RESTRICT ctx, const TimeslotList_r4_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 6);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)pvalue->elem[i] > 6u) {
-         rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "TimeslotNumber-LCR-r4", (int32_t)i, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 6);
-      RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "TimeslotNumber-LCR-r4", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TimeslotList_r4(rtxContext* RT_RESTRICT ctx, const TimeslotList_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TimeslotList-r4");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "TimeslotList-r4");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TimeslotList-r4");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, "TimeslotList-r4");
-         stat = asn1PE_UMTS_TimeslotList_r4_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, "TimeslotList-r4");
-         break;
-      case 2:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, "TimeslotList-r4");
-         stat = asn1PE_UMTS_TimeslotList_r4_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, "TimeslotList-r4");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_16QAM_Config_mac_es_e_resetIndicator(rtxContext* RT_RESTRICT ctx, UL_16QAM_Config_mac_es_e_resetIndicator value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_16QAM_Config(rtxContext* RT_RESTRICT ctx, const UL_16QAM_Config* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-16QAM-Config");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-16QAM-Config");
-   /* ul-16QAM-Settings */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UL_16QAM_Settings(ctx, &pvalue->ul_16QAM_Settings);
-      RT_CHECK(ctx, stat, 0, "ul-16QAM-Settings", -1, "UL-16QAM-Config");
-   }
-   /* e-TFCI-TableIndex */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->e_TFCI_TableIndex > 1u) {
-         rtxErrAddStrParm(ctx, "E-TFCI-TableIndex");
-         rtxErrAddUIntParm(ctx, pvalue->e_TFCI_TableIndex);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "E-TFCI-TableIndex", "e-TFCI-TableIndex", -1, "UL-16QAM-Config");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->e_TFCI_TableIndex, 0, 1);
-      RT_CHECK(ctx, stat, "E-TFCI-TableIndex", "e-TFCI-TableIndex", -1, "UL-16QAM-Config");
-   }
-   /* mac-es-e-resetIndicator */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->mac_es_e_resetIndicator > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->mac_es_e_resetIndicator);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "mac-es-e-resetIndicator", -1, "UL-16QAM-Config");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mac_es_e_resetIndicator, 0, 0);
-      RT_CHECK(ctx, stat, 0, "mac-es-e-resetIndicator", -1, "UL-16QAM-Config");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_CCTrCH(rtxContext* RT_RESTRICT ctx, const UL_CCTrCH* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-CCTrCH");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 2) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-CCTrCH");
-   /* tfcs-ID */
-   if (pvalue->tfcs_ID != 1) {
-      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
-         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
-         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "UL-CCTrCH");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "UL-CCTrCH");
-   }
-   /* ul-TargetSIR */
-   if ((uint64_t)pvalue->ul_TargetSIR > 62u) {
-      rtxErrAddStrParm(ctx, "UL-TargetSIR");
-      rtxErrAddUIntParm(ctx, pvalue->ul_TargetSIR);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-TargetSIR", "ul-TargetSIR", -1, "UL-CCTrCH");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ul_TargetSIR, 0, 62);
-   RT_CHECK(ctx, stat, "UL-TargetSIR", "ul-TargetSIR", -1, "UL-CCTrCH");
-   /* timeInfo */
-   stat = asn1PE_UMTS_TimeInfo(ctx, &pvalue->timeInfo);
-   RT_CHECK(ctx, stat, 0, "timeInfo", -1, "UL-CCTrCH");
-   /* commonTimeslotInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "UL-CCTrCH");
-   }
-   /* ul-CCTrCH-TimeslotsCodes */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UplinkTimeslotsCodes(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes);
-      RT_CHECK(ctx, stat, 0, "ul-CCTrCH-TimeslotsCodes", -1, "UL-CCTrCH");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_CCTrCH_r4_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const UL_CCTrCH_r4_tddOption_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-CCTrCH-TimeslotsCodes */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UplinkTimeslotsCodes(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes);
-      RT_CHECK(ctx, stat, 0, "ul-CCTrCH-TimeslotsCodes", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_CCTrCH_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const UL_CCTrCH_r4_tddOption_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-CCTrCH-TimeslotsCodes */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r4(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes);
-      RT_CHECK(ctx, stat, 0, "ul-CCTrCH-TimeslotsCodes", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_CCTrCH_r4_tddOption(rtxContext* RT_RESTRICT ctx, const UL_CCTrCH_r4_tddOption* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
-         stat = asn1PE_UMTS_UL_CCTrCH_r4_tddOption_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_UL_CCTrCH_r4_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_CCTrCH_r4(rtxContext* RT_RESTRICT ctx, const UL_CCTrCH_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-CCTrCH-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 1) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-CCTrCH-r4");
-   /* tfcs-ID */
-   if (pvalue->tfcs_ID != 1) {
-      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
-         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
-         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "UL-CCTrCH-r4");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "UL-CCTrCH-r4");
-   }
-   /* ul-TargetSIR */
-   if ((uint64_t)pvalue->ul_TargetSIR > 62u) {
-      rtxErrAddStrParm(ctx, "UL-TargetSIR");
-      rtxErrAddUIntParm(ctx, pvalue->ul_TargetSIR);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-TargetSIR", "ul-TargetSIR", -1, "UL-CCTrCH-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ul_TargetSIR, 0, 62);
-   RT_CHECK(ctx, stat, "UL-TargetSIR", "ul-TargetSIR", -1, "UL-CCTrCH-r4");
-   /* timeInfo */
-   stat = asn1PE_UMTS_TimeInfo(ctx, &pvalue->timeInfo);
-   RT_CHECK(ctx, stat, 0, "timeInfo", -1, "UL-CCTrCH-r4");
-   /* commonTimeslotInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "UL-CCTrCH-r4");
-   }
-   /* tddOption */
-   stat = asn1PE_UMTS_UL_CCTrCH_r4_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, "UL-CCTrCH-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_UL_CCTrCH_r7_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const UL_CCTrCH_r7_tddOption_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-CCTrCH-TimeslotsCodes */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UplinkTimeslotsCodes(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes);
-      RT_CHECK(ctx, stat, 0, "ul-CCTrCH-TimeslotsCodes", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_CCTrCH_r7_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, const UL_CCTrCH_r7_tddOption_tdd768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-CCTrCH-TimeslotsCodes */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UplinkTimeslotsCodes_VHCR(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes);
-      RT_CHECK(ctx, stat, 0, "ul-CCTrCH-TimeslotsCodes", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TS_ChannelisationCodeList_r7_element(rtxContext* RT_RESTRICT ctx, const UL_TS_ChannelisationCodeList_r7_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-TS-Channelisation-Code */
-   if (pvalue->ul_TS_Channelisation_Code > 30) {
-      rtxErrAddUIntParm(ctx, pvalue->ul_TS_Channelisation_Code);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UL-TS-ChannelisationCode", "ul-TS-Channelisation-Code", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ul_TS_Channelisation_Code, 0, 30);
-   RT_CHECK(ctx, stat, "UL-TS-ChannelisationCode", "ul-TS-Channelisation-Code", -1, 0);
-   /* plcch-info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PLCCH_Info(ctx, &pvalue->plcch_info);
-      RT_CHECK(ctx, stat, 0, "plcch-info", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TS_ChannelisationCodeList_r7(rtxContext* RT_RESTRICT ctx, const UL_TS_ChannelisationCodeList_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-TS-ChannelisationCodeList-r7");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 2);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UL-TS-ChannelisationCodeList-r7");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "UL-TS-ChannelisationCodeList-r7");
-      stat = asn1PE_UMTS_UL_TS_ChannelisationCodeList_r7_element(ctx, (const UL_TS_ChannelisationCodeList_r7_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "UL-TS-ChannelisationCodeList-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_consecutive(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_consecutive* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* numAdditionalTimeslots */
-   if ((uint64_t)(pvalue->numAdditionalTimeslots - 1) > 4u) {
-      rtxErrAddStrParm(ctx, "numAdditionalTimeslots");
-      rtxErrAddUIntParm(ctx, pvalue->numAdditionalTimeslots);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "numAdditionalTimeslots", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->numAdditionalTimeslots, 1, 5);
-   RT_CHECK(ctx, stat, 0, "numAdditionalTimeslots", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r7_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_LCR_r7_parameters_sameAsLast* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* timeslotNumber */
-   if ((uint64_t)pvalue->timeslotNumber > 14u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber");
-      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotNumber, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslotNumber", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r7_parameters_newParameters(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_LCR_r7_parameters_newParameters* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* individualTimeslotInfo */
-   stat = asn1PE_UMTS_IndividualTimeslotInfo_LCR_r4(ctx, &pvalue->individualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
-   /* ul-TS-ChannelisationCodeList */
-   stat = asn1PE_UMTS_UL_TS_ChannelisationCodeList_r7(ctx, &pvalue->ul_TS_ChannelisationCodeList);
-   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r7_parameters(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_LCR_r7_parameters* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.sameAsLast == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sameAsLast", -1, 0);
-         stat = asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r7_parameters_sameAsLast(ctx, pvalue->u.sameAsLast);
-         RT_CHECK(ctx, stat, 0, "sameAsLast", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.newParameters == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "newParameters", -1, 0);
-         stat = asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r7_parameters_newParameters(ctx, pvalue->u.newParameters);
-         RT_CHECK(ctx, stat, 0, "newParameters", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r7(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_LCR_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UplinkAdditionalTimeslots-LCR-r7");
-   /* parameters */
-   stat = asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r7_parameters(ctx, &pvalue->parameters);
-   RT_CHECK(ctx, stat, 0, "parameters", -1, "UplinkAdditionalTimeslots-LCR-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 5);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UplinkAdditionalTimeslots-LCR-r7", (int32_t)i, 0);
-      stat = asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r7(ctx, (const UplinkAdditionalTimeslots_LCR_r7*)node->data);
-      RT_CHECK(ctx, stat, 0, "UplinkAdditionalTimeslots-LCR-r7", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.consecutive == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "consecutive", -1, 0);
-         stat = asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_consecutive(ctx, pvalue->u.consecutive);
-         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.timeslotList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "timeslotList", -1, 0);
-         stat = asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList);
-         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r7_moreTimeslots(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r7_moreTimeslots* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.additionalTimeslots == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "additionalTimeslots", -1, 0);
-         stat = asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots);
-         RT_CHECK(ctx, stat, 0, "additionalTimeslots", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r7(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UplinkTimeslotsCodes-LCR-r7");
-   /* dynamicSFusage */
-   stat = rtxEncBit(ctx, pvalue->dynamicSFusage);
-   RT_CHECK(ctx, stat, 0, "dynamicSFusage", -1, "UplinkTimeslotsCodes-LCR-r7");
-   /* firstIndividualTimeslotInfo */
-   stat = asn1PE_UMTS_IndividualTimeslotInfo_LCR_r4(ctx, &pvalue->firstIndividualTimeslotInfo);
-   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "UplinkTimeslotsCodes-LCR-r7");
-   /* ul-TS-ChannelisationCodeList */
-   stat = asn1PE_UMTS_UL_TS_ChannelisationCodeList_r7(ctx, &pvalue->ul_TS_ChannelisationCodeList);
-   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, "UplinkTimeslotsCodes-LCR-r7");
-   /* moreTimeslots */
-   stat = asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r7_moreTimeslots(ctx, &pvalue->moreTimeslots);
-   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "UplinkTimeslotsCodes-LCR-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_UL_CCTrCH_r7_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const UL_CCTrCH_r7_tddOption_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-CCTrCH-TimeslotsCodes */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r7(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes);
-      RT_CHECK(ctx, stat, 0, "ul-CCTrCH-TimeslotsCodes", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_CCTrCH_r7_tddOption(rtxContext* RT_RESTRICT ctx, const UL_CCTrCH_r7_tddOption* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
-         stat = asn1PE_UMTS_UL_CCTrCH_r7_tddOption_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
-         stat = asn1PE_UMTS_UL_CCTrCH_r7_tddOption_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
-         break;
-      case 3:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_UL_CCTrCH_r7_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_CCTrCH_r7(rtxContext* RT_RESTRICT ctx, const UL_CCTrCH_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-CCTrCH-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->tfcs_ID != 1) << 1) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-CCTrCH-r7");
-   /* tfcs-ID */
-   if (pvalue->tfcs_ID != 1) {
-      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
-         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
-         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "UL-CCTrCH-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "UL-CCTrCH-r7");
-   }
-   /* ul-TargetSIR */
-   if ((uint64_t)pvalue->ul_TargetSIR > 62u) {
-      rtxErrAddStrParm(ctx, "UL-TargetSIR");
-      rtxErrAddUIntParm(ctx, pvalue->ul_TargetSIR);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-TargetSIR", "ul-TargetSIR", -1, "UL-CCTrCH-r7");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ul_TargetSIR, 0, 62);
-   RT_CHECK(ctx, stat, "UL-TargetSIR", "ul-TargetSIR", -1, "UL-CCTrCH-r7");
-   /* timeInfo */
-   stat = asn1PE_UMTS_TimeInfo(ctx, &pvalue->timeInfo);
-   RT_CHECK(ctx, stat, 0, "timeInfo", -1, "UL-CCTrCH-r7");
-   /* commonTimeslotInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo);
-      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "UL-CCTrCH-r7");
-   }
-   /* tddOption */
-   stat = asn1PE_UMTS_UL_CCTrCH_r7_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, "UL-CCTrCH-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_UL_CCTrCHList(rtxContext* RT_RESTRICT ctx, const UL_CCTrCHList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-CCTrCHList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UL-CCTrCHList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UL-CCTrCH", (int32_t)i, "UL-CCTrCHList");
-      stat = asn1PE_UMTS_UL_CCTrCH(ctx, (const UL_CCTrCH*)node->data);
-      RT_CHECK(ctx, stat, 0, "UL-CCTrCH", (int32_t)i, "UL-CCTrCHList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_CCTrCHList_r4(rtxContext* RT_RESTRICT ctx, const UL_CCTrCHList_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-CCTrCHList-r4");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UL-CCTrCHList-r4");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UL-CCTrCH-r4", (int32_t)i, "UL-CCTrCHList-r4");
-      stat = asn1PE_UMTS_UL_CCTrCH_r4(ctx, (const UL_CCTrCH_r4*)node->data);
-      RT_CHECK(ctx, stat, 0, "UL-CCTrCH-r4", (int32_t)i, "UL-CCTrCHList-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_CCTrCHList_r7(rtxContext* RT_RESTRICT ctx, const UL_CCTrCHList_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-CCTrCHList-r7");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UL-CCTrCHList-r7");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UL-CCTrCH-r7", (int32_t)i, "UL-CCTrCHList-r7");
-      stat = asn1PE_UMTS_UL_CCTrCH_r7(ctx, (const UL_CCTrCH_r7*)node->data);
-      RT_CHECK(ctx, stat, 0, "UL-CCTrCH-r7", (int32_t)i, "UL-CCTrCHList-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_CCTrCHListToRemove(rtxContext* RT_RESTRICT ctx, const UL_CCTrCHListToRemove* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-CCTrCHListToRemove");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UL-CCTrCHListToRemove");
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)(pvalue->elem[i] - 1) > 7u) {
-         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "TFCS-IdentityPlain", (int32_t)i, "UL-CCTrCHListToRemove");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 1, 8);
-      RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "TFCS-IdentityPlain", (int32_t)i, "UL-CCTrCHListToRemove");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->numberOfDPDCH != 1) << 1) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* scramblingCodeType */
-   if (pvalue->scramblingCodeType > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->scramblingCodeType);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ScramblingCodeType", "scramblingCodeType", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->scramblingCodeType, 0, 1);
-   RT_CHECK(ctx, stat, "ScramblingCodeType", "scramblingCodeType", -1, 0);
-   /* scramblingCode */
-   if ((uint64_t)pvalue->scramblingCode > 16777215u) {
-      rtxErrAddStrParm(ctx, "UL-ScramblingCode");
-      rtxErrAddUIntParm(ctx, pvalue->scramblingCode);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-ScramblingCode", "scramblingCode", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->scramblingCode, 0, 16777215);
-   RT_CHECK(ctx, stat, "UL-ScramblingCode", "scramblingCode", -1, 0);
-   /* numberOfDPDCH */
-   if (pvalue->numberOfDPDCH != 1) {
-      if ((uint64_t)(pvalue->numberOfDPDCH - 1) > 5u) {
-         rtxErrAddStrParm(ctx, "NumberOfDPDCH");
-         rtxErrAddUIntParm(ctx, pvalue->numberOfDPDCH);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "NumberOfDPDCH", "numberOfDPDCH", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->numberOfDPDCH, 1, 6);
-      RT_CHECK(ctx, stat, "NumberOfDPDCH", "numberOfDPDCH", -1, 0);
-   }
-   /* spreadingFactor */
-   if (pvalue->spreadingFactor > 6) {
-      rtxErrAddUIntParm(ctx, pvalue->spreadingFactor);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "SpreadingFactor", "spreadingFactor", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->spreadingFactor, 0, 6);
-   RT_CHECK(ctx, stat, "SpreadingFactor", "spreadingFactor", -1, 0);
-   /* tfci-Existence */
-   stat = rtxEncBit(ctx, pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, 0);
-   /* numberOfFBI-Bits */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->numberOfFBI_Bits - 1) > 1u) {
-         rtxErrAddStrParm(ctx, "NumberOfFBI-Bits");
-         rtxErrAddUIntParm(ctx, pvalue->numberOfFBI_Bits);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->numberOfFBI_Bits, 1, 2);
-      RT_CHECK(ctx, stat, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
-   }
-   /* puncturingLimit */
-   if (pvalue->puncturingLimit > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->puncturingLimit);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PuncturingLimit", "puncturingLimit", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->puncturingLimit, 0, 15);
-   RT_CHECK(ctx, stat, "PuncturingLimit", "puncturingLimit", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TimingAdvance(rtxContext* RT_RESTRICT ctx, UL_TimingAdvance value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 63u) {
-      rtxErrAddStrParm(ctx, "UL-TimingAdvance");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "UL-TimingAdvance");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 63);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-TimingAdvance");
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TimingAdvanceControl_enabled(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_enabled* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-TimingAdvance */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->ul_TimingAdvance > 63u) {
-         rtxErrAddStrParm(ctx, "UL-TimingAdvance");
-         rtxErrAddUIntParm(ctx, pvalue->ul_TimingAdvance);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-TimingAdvance", "ul-TimingAdvance", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ul_TimingAdvance, 0, 63);
-      RT_CHECK(ctx, stat, "UL-TimingAdvance", "ul-TimingAdvance", -1, 0);
-   }
-   /* activationTime */
-   if (pvalue->m & 0x2u) {
-      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TimingAdvanceControl(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-TimingAdvanceControl");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UL-TimingAdvanceControl");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-TimingAdvanceControl");
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.enabled == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "enabled", -1, "UL-TimingAdvanceControl");
-         stat = asn1PE_UMTS_UL_TimingAdvanceControl_enabled(ctx, pvalue->u.enabled);
-         RT_CHECK(ctx, stat, 0, "enabled", -1, "UL-TimingAdvanceControl");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-TimingAdvance */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UL_TimingAdvanceControl(ctx, &pvalue->ul_TimingAdvance);
-      RT_CHECK(ctx, stat, 0, "ul-TimingAdvance", -1, 0);
-   }
-   /* ul-CCTrCHList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UL_CCTrCHList(ctx, &pvalue->ul_CCTrCHList);
-      RT_CHECK(ctx, stat, 0, "ul-CCTrCHList", -1, 0);
-   }
-   /* ul-CCTrCHListToRemove */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_UL_CCTrCHListToRemove(ctx, &pvalue->ul_CCTrCHListToRemove);
-      RT_CHECK(ctx, stat, 0, "ul-CCTrCHListToRemove", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_UL_DPCH_Info_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_UL_DPCH_Info_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-Info");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DPCH-Info");
-   /* ul-DPCH-PowerControlInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo(ctx, &pvalue->ul_DPCH_PowerControlInfo);
-      RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "UL-DPCH-Info");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_UL_DPCH_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-DPCH-Info");
-   return 0;
-}
-
-int asn1PE_UMTS_UL_ChannelRequirement(rtxContext* RT_RESTRICT ctx, const UL_ChannelRequirement* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-ChannelRequirement");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UL-ChannelRequirement");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-ChannelRequirement");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.ul_DPCH_Info == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirement");
-         stat = asn1PE_UMTS_UL_DPCH_Info(ctx, pvalue->u.ul_DPCH_Info);
-         RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirement");
-         break;
-      case 2:
-         if (pvalue->u.dummy == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dummy", -1, "UL-ChannelRequirement");
-         stat = asn1PE_UMTS_CPCH_SetInfo(ctx, pvalue->u.dummy);
-         RT_CHECK(ctx, stat, 0, "dummy", -1, "UL-ChannelRequirement");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->numberOfDPDCH != 1) << 1) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* scramblingCodeType */
-   if (pvalue->scramblingCodeType > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->scramblingCodeType);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ScramblingCodeType", "scramblingCodeType", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->scramblingCodeType, 0, 1);
-   RT_CHECK(ctx, stat, "ScramblingCodeType", "scramblingCodeType", -1, 0);
-   /* scramblingCode */
-   if ((uint64_t)pvalue->scramblingCode > 16777215u) {
-      rtxErrAddStrParm(ctx, "UL-ScramblingCode");
-      rtxErrAddUIntParm(ctx, pvalue->scramblingCode);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-ScramblingCode", "scramblingCode", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->scramblingCode, 0, 16777215);
-   RT_CHECK(ctx, stat, "UL-ScramblingCode", "scramblingCode", -1, 0);
-   /* numberOfDPDCH */
-   if (pvalue->numberOfDPDCH != 1) {
-      if ((uint64_t)(pvalue->numberOfDPDCH - 1) > 5u) {
-         rtxErrAddStrParm(ctx, "NumberOfDPDCH");
-         rtxErrAddUIntParm(ctx, pvalue->numberOfDPDCH);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "NumberOfDPDCH", "numberOfDPDCH", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->numberOfDPDCH, 1, 6);
-      RT_CHECK(ctx, stat, "NumberOfDPDCH", "numberOfDPDCH", -1, 0);
-   }
-   /* spreadingFactor */
-   if (pvalue->spreadingFactor > 6) {
-      rtxErrAddUIntParm(ctx, pvalue->spreadingFactor);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "SpreadingFactor", "spreadingFactor", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->spreadingFactor, 0, 6);
-   RT_CHECK(ctx, stat, "SpreadingFactor", "spreadingFactor", -1, 0);
-   /* tfci-Existence */
-   stat = rtxEncBit(ctx, pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, 0);
-   /* numberOfFBI-Bits */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->numberOfFBI_Bits - 1) > 1u) {
-         rtxErrAddStrParm(ctx, "NumberOfFBI-Bits");
-         rtxErrAddUIntParm(ctx, pvalue->numberOfFBI_Bits);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->numberOfFBI_Bits, 1, 2);
-      RT_CHECK(ctx, stat, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
-   }
-   /* puncturingLimit */
-   if (pvalue->puncturingLimit > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->puncturingLimit);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PuncturingLimit", "puncturingLimit", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->puncturingLimit, 0, 15);
-   RT_CHECK(ctx, stat, "PuncturingLimit", "puncturingLimit", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TimingAdvanceControl_r4_enabled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r4_enabled_tddOption_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-TimingAdvance */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->ul_TimingAdvance > 63u) {
-         rtxErrAddStrParm(ctx, "UL-TimingAdvance");
-         rtxErrAddUIntParm(ctx, pvalue->ul_TimingAdvance);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-TimingAdvance", "ul-TimingAdvance", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ul_TimingAdvance, 0, 63);
-      RT_CHECK(ctx, stat, "UL-TimingAdvance", "ul-TimingAdvance", -1, 0);
-   }
-   /* activationTime */
-   if (pvalue->m & 0x2u) {
-      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TimingAdvanceControl_r4_enabled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r4_enabled_tddOption_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-SynchronisationParameters */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UL_SynchronisationParameters_r4(ctx, &pvalue->ul_SynchronisationParameters);
-      RT_CHECK(ctx, stat, 0, "ul-SynchronisationParameters", -1, 0);
-   }
-   /* synchronisationParameters */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_SynchronisationParameters_r4(ctx, &pvalue->synchronisationParameters);
-      RT_CHECK(ctx, stat, 0, "synchronisationParameters", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TimingAdvanceControl_r4_enabled_tddOption(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r4_enabled_tddOption* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
-         stat = asn1PE_UMTS_UL_TimingAdvanceControl_r4_enabled_tddOption_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_UL_TimingAdvanceControl_r4_enabled_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TimingAdvanceControl_r4_enabled(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r4_enabled* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* tddOption */
-   stat = asn1PE_UMTS_UL_TimingAdvanceControl_r4_enabled_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TimingAdvanceControl_r4(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-TimingAdvanceControl-r4");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UL-TimingAdvanceControl-r4");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-TimingAdvanceControl-r4");
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.enabled == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "enabled", -1, "UL-TimingAdvanceControl-r4");
-         stat = asn1PE_UMTS_UL_TimingAdvanceControl_r4_enabled(ctx, pvalue->u.enabled);
-         RT_CHECK(ctx, stat, 0, "enabled", -1, "UL-TimingAdvanceControl-r4");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-TimingAdvance */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UL_TimingAdvanceControl_r4(ctx, &pvalue->ul_TimingAdvance);
-      RT_CHECK(ctx, stat, 0, "ul-TimingAdvance", -1, 0);
-   }
-   /* ul-CCTrCHList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UL_CCTrCHList_r4(ctx, &pvalue->ul_CCTrCHList);
-      RT_CHECK(ctx, stat, 0, "ul-CCTrCHList", -1, 0);
-   }
-   /* ul-CCTrCHListToRemove */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_UL_CCTrCHListToRemove(ctx, &pvalue->ul_CCTrCHListToRemove);
-      RT_CHECK(ctx, stat, 0, "ul-CCTrCHListToRemove", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r4_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_UL_DPCH_Info_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_UL_DPCH_Info_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_r4(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-Info-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DPCH-Info-r4");
-   /* ul-DPCH-PowerControlInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r4(ctx, &pvalue->ul_DPCH_PowerControlInfo);
-      RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "UL-DPCH-Info-r4");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_UL_DPCH_Info_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-DPCH-Info-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_UL_ChannelRequirement_r4(rtxContext* RT_RESTRICT ctx, const UL_ChannelRequirement_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-ChannelRequirement-r4");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UL-ChannelRequirement-r4");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-ChannelRequirement-r4");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.ul_DPCH_Info == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirement-r4");
-         stat = asn1PE_UMTS_UL_DPCH_Info_r4(ctx, pvalue->u.ul_DPCH_Info);
-         RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirement-r4");
-         break;
-      case 2:
-         if (pvalue->u.dummy == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dummy", -1, "UL-ChannelRequirement-r4");
-         stat = asn1PE_UMTS_CPCH_SetInfo(ctx, pvalue->u.dummy);
-         RT_CHECK(ctx, stat, 0, "dummy", -1, "UL-ChannelRequirement-r4");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_r5_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r5_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->numberOfDPDCH != 1) << 1) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* scramblingCodeType */
-   if (pvalue->scramblingCodeType > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->scramblingCodeType);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ScramblingCodeType", "scramblingCodeType", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->scramblingCodeType, 0, 1);
-   RT_CHECK(ctx, stat, "ScramblingCodeType", "scramblingCodeType", -1, 0);
-   /* scramblingCode */
-   if ((uint64_t)pvalue->scramblingCode > 16777215u) {
-      rtxErrAddStrParm(ctx, "UL-ScramblingCode");
-      rtxErrAddUIntParm(ctx, pvalue->scramblingCode);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-ScramblingCode", "scramblingCode", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->scramblingCode, 0, 16777215);
-   RT_CHECK(ctx, stat, "UL-ScramblingCode", "scramblingCode", -1, 0);
-   /* numberOfDPDCH */
-   if (pvalue->numberOfDPDCH != 1) {
-      if ((uint64_t)(pvalue->numberOfDPDCH - 1) > 5u) {
-         rtxErrAddStrParm(ctx, "NumberOfDPDCH");
-         rtxErrAddUIntParm(ctx, pvalue->numberOfDPDCH);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "NumberOfDPDCH", "numberOfDPDCH", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->numberOfDPDCH, 1, 6);
-      RT_CHECK(ctx, stat, "NumberOfDPDCH", "numberOfDPDCH", -1, 0);
-   }
-   /* spreadingFactor */
-   if (pvalue->spreadingFactor > 6) {
-      rtxErrAddUIntParm(ctx, pvalue->spreadingFactor);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "SpreadingFactor", "spreadingFactor", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->spreadingFactor, 0, 6);
-   RT_CHECK(ctx, stat, "SpreadingFactor", "spreadingFactor", -1, 0);
-   /* tfci-Existence */
-   stat = rtxEncBit(ctx, pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, 0);
-   /* numberOfFBI-Bits */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->numberOfFBI_Bits - 1) > 1u) {
-         rtxErrAddStrParm(ctx, "NumberOfFBI-Bits");
-         rtxErrAddUIntParm(ctx, pvalue->numberOfFBI_Bits);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->numberOfFBI_Bits, 1, 2);
-      RT_CHECK(ctx, stat, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
-   }
-   /* puncturingLimit */
-   if (pvalue->puncturingLimit > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->puncturingLimit);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PuncturingLimit", "puncturingLimit", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->puncturingLimit, 0, 15);
-   RT_CHECK(ctx, stat, "PuncturingLimit", "puncturingLimit", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_r5_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r5_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-TimingAdvance */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UL_TimingAdvanceControl_r4(ctx, &pvalue->ul_TimingAdvance);
-      RT_CHECK(ctx, stat, 0, "ul-TimingAdvance", -1, 0);
-   }
-   /* ul-CCTrCHList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UL_CCTrCHList_r4(ctx, &pvalue->ul_CCTrCHList);
-      RT_CHECK(ctx, stat, 0, "ul-CCTrCHList", -1, 0);
-   }
-   /* ul-CCTrCHListToRemove */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_UL_CCTrCHListToRemove(ctx, &pvalue->ul_CCTrCHListToRemove);
-      RT_CHECK(ctx, stat, 0, "ul-CCTrCHListToRemove", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_r5_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r5_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_UL_DPCH_Info_r5_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_UL_DPCH_Info_r5_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_r5(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-Info-r5");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DPCH-Info-r5");
-   /* ul-DPCH-PowerControlInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r5(ctx, &pvalue->ul_DPCH_PowerControlInfo);
-      RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "UL-DPCH-Info-r5");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_UL_DPCH_Info_r5_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-DPCH-Info-r5");
-   return 0;
-}
-
-int asn1PE_UMTS_UL_ChannelRequirement_r5(rtxContext* RT_RESTRICT ctx, const UL_ChannelRequirement_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-ChannelRequirement-r5");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UL-ChannelRequirement-r5");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-ChannelRequirement-r5");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.ul_DPCH_Info == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirement-r5");
-         stat = asn1PE_UMTS_UL_DPCH_Info_r5(ctx, pvalue->u.ul_DPCH_Info);
-         RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirement-r5");
-         break;
-      case 2:
-         if (pvalue->u.dummy == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dummy", -1, "UL-ChannelRequirement-r5");
-         stat = asn1PE_UMTS_CPCH_SetInfo(ctx, pvalue->u.dummy);
-         RT_CHECK(ctx, stat, 0, "dummy", -1, "UL-ChannelRequirement-r5");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_ChannelRequirementWithCPCH_SetID(rtxContext* RT_RESTRICT ctx, const UL_ChannelRequirementWithCPCH_SetID* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-ChannelRequirementWithCPCH-SetID");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UL-ChannelRequirementWithCPCH-SetID");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-ChannelRequirementWithCPCH-SetID");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.ul_DPCH_Info == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirementWithCPCH-SetID");
-         stat = asn1PE_UMTS_UL_DPCH_Info(ctx, pvalue->u.ul_DPCH_Info);
-         RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirementWithCPCH-SetID");
-         break;
-      case 2:
-         if (pvalue->u.dummy1 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dummy1", -1, "UL-ChannelRequirementWithCPCH-SetID");
-         stat = asn1PE_UMTS_CPCH_SetInfo(ctx, pvalue->u.dummy1);
-         RT_CHECK(ctx, stat, 0, "dummy1", -1, "UL-ChannelRequirementWithCPCH-SetID");
-         break;
-      case 3:
-         if ((uint64_t)(pvalue->u.dummy2 - 1) > 15u) {
-            rtxErrAddStrParm(ctx, "CPCH-SetID");
-            rtxErrAddUIntParm(ctx, pvalue->u.dummy2);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CPCH-SetID", "dummy2", -1, "UL-ChannelRequirementWithCPCH-SetID");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.dummy2, 1, 16);
-         RT_CHECK(ctx, stat, "CPCH-SetID", "dummy2", -1, "UL-ChannelRequirementWithCPCH-SetID");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_ChannelRequirementWithCPCH_SetID_r4(rtxContext* RT_RESTRICT ctx, const UL_ChannelRequirementWithCPCH_SetID_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-ChannelRequirementWithCPCH-SetID-r4");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UL-ChannelRequirementWithCPCH-SetID-r4");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-ChannelRequirementWithCPCH-SetID-r4");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.ul_DPCH_Info == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirementWithCPCH-SetID-r4");
-         stat = asn1PE_UMTS_UL_DPCH_Info_r4(ctx, pvalue->u.ul_DPCH_Info);
-         RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirementWithCPCH-SetID-r4");
-         break;
-      case 2:
-         if (pvalue->u.dummy1 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dummy1", -1, "UL-ChannelRequirementWithCPCH-SetID-r4");
-         stat = asn1PE_UMTS_CPCH_SetInfo(ctx, pvalue->u.dummy1);
-         RT_CHECK(ctx, stat, 0, "dummy1", -1, "UL-ChannelRequirementWithCPCH-SetID-r4");
-         break;
-      case 3:
-         if ((uint64_t)(pvalue->u.dummy2 - 1) > 15u) {
-            rtxErrAddStrParm(ctx, "CPCH-SetID");
-            rtxErrAddUIntParm(ctx, pvalue->u.dummy2);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CPCH-SetID", "dummy2", -1, "UL-ChannelRequirementWithCPCH-SetID-r4");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.dummy2, 1, 16);
-         RT_CHECK(ctx, stat, "CPCH-SetID", "dummy2", -1, "UL-ChannelRequirementWithCPCH-SetID-r4");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_ChannelRequirementWithCPCH_SetID_r5(rtxContext* RT_RESTRICT ctx, const UL_ChannelRequirementWithCPCH_SetID_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-ChannelRequirementWithCPCH-SetID-r5");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UL-ChannelRequirementWithCPCH-SetID-r5");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-ChannelRequirementWithCPCH-SetID-r5");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.ul_DPCH_Info == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirementWithCPCH-SetID-r5");
-         stat = asn1PE_UMTS_UL_DPCH_Info_r5(ctx, pvalue->u.ul_DPCH_Info);
-         RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirementWithCPCH-SetID-r5");
-         break;
-      case 2:
-         if (pvalue->u.dummy1 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dummy1", -1, "UL-ChannelRequirementWithCPCH-SetID-r5");
-         stat = asn1PE_UMTS_CPCH_SetInfo(ctx, pvalue->u.dummy1);
-         RT_CHECK(ctx, stat, 0, "dummy1", -1, "UL-ChannelRequirementWithCPCH-SetID-r5");
-         break;
-      case 3:
-         if ((uint64_t)(pvalue->u.dummy2 - 1) > 15u) {
-            rtxErrAddStrParm(ctx, "CPCH-SetID");
-            rtxErrAddUIntParm(ctx, pvalue->u.dummy2);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CPCH-SetID", "dummy2", -1, "UL-ChannelRequirementWithCPCH-SetID-r5");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.dummy2, 1, 16);
-         RT_CHECK(ctx, stat, "CPCH-SetID", "dummy2", -1, "UL-ChannelRequirementWithCPCH-SetID-r5");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r6_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dpcch-PowerOffset */
-   if (pvalue->dpcch_PowerOffset < -82 || pvalue->dpcch_PowerOffset > -3) {
-      rtxErrAddStrParm(ctx, "DPCCH-PowerOffset");
-      rtxErrAddIntParm(ctx, pvalue->dpcch_PowerOffset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->dpcch_PowerOffset, -82, -3);
-   RT_CHECK(ctx, stat, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
-   /* pc-Preamble */
-   if ((uint64_t)pvalue->pc_Preamble > 7u) {
-      rtxErrAddStrParm(ctx, "PC-Preamble");
-      rtxErrAddUIntParm(ctx, pvalue->pc_Preamble);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PC-Preamble", "pc-Preamble", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pc_Preamble, 0, 7);
-   RT_CHECK(ctx, stat, "PC-Preamble", "pc-Preamble", -1, 0);
-   /* sRB-delay */
-   if ((uint64_t)pvalue->sRB_delay > 7u) {
-      rtxErrAddStrParm(ctx, "SRB-delay");
-      rtxErrAddUIntParm(ctx, pvalue->sRB_delay);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "SRB-delay", "sRB-delay", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->sRB_delay, 0, 7);
-   RT_CHECK(ctx, stat, "SRB-delay", "sRB-delay", -1, 0);
-   /* powerControlAlgorithm */
-   stat = asn1PE_UMTS_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm);
-   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, 0);
-   /* deltaACK */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->deltaACK > 8u) {
-         rtxErrAddStrParm(ctx, "DeltaACK");
-         rtxErrAddUIntParm(ctx, pvalue->deltaACK);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaACK", "deltaACK", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->deltaACK, 0, 8);
-      RT_CHECK(ctx, stat, "DeltaACK", "deltaACK", -1, 0);
-   }
-   /* deltaNACK */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->deltaNACK > 8u) {
-         rtxErrAddStrParm(ctx, "DeltaNACK");
-         rtxErrAddUIntParm(ctx, pvalue->deltaNACK);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaNACK", "deltaNACK", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->deltaNACK, 0, 8);
-      RT_CHECK(ctx, stat, "DeltaNACK", "deltaNACK", -1, 0);
-   }
-   /* ack-NACK-repetition-factor */
-   if (pvalue->m & 0x4u) {
-      if ((uint64_t)(pvalue->ack_NACK_repetition_factor - 1) > 3u) {
-         rtxErrAddStrParm(ctx, "ACK-NACK-repetitionFactor");
-         rtxErrAddUIntParm(ctx, pvalue->ack_NACK_repetition_factor);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "ACK-NACK-repetitionFactor", "ack-NACK-repetition-factor", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ack_NACK_repetition_factor, 1, 4);
-      RT_CHECK(ctx, stat, "ACK-NACK-repetitionFactor", "ack-NACK-repetition-factor", -1, 0);
-   }
-   /* harq-Preamble-Mode */
-   if ((uint64_t)pvalue->harq_Preamble_Mode > 1u) {
-      rtxErrAddStrParm(ctx, "HARQ-Preamble-Mode");
-      rtxErrAddUIntParm(ctx, pvalue->harq_Preamble_Mode);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->harq_Preamble_Mode, 0, 1);
-   RT_CHECK(ctx, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* individualTS-InterferenceList */
-   stat = asn1PE_UMTS_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList);
-   RT_CHECK(ctx, stat, 0, "individualTS-InterferenceList", -1, 0);
-   /* dpch-ConstantValue */
-   if (pvalue->dpch_ConstantValue < -35 || pvalue->dpch_ConstantValue > -10) {
-      rtxErrAddStrParm(ctx, "ConstantValue");
-      rtxErrAddIntParm(ctx, pvalue->dpch_ConstantValue);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "ConstantValue", "dpch-ConstantValue", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->dpch_ConstantValue, -35, -10);
-   RT_CHECK(ctx, stat, "ConstantValue", "dpch-ConstantValue", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* beaconPLEst */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->beaconPLEst > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->beaconPLEst);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "BEACON-PL-Est", "beaconPLEst", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->beaconPLEst, 0, 0);
-      RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, 0);
-   }
-   /* tpc-StepSize */
-   if ((uint64_t)(pvalue->tpc_StepSize - 1) > 2u) {
-      rtxErrAddStrParm(ctx, "TPC-StepSizeTDD");
-      rtxErrAddUIntParm(ctx, pvalue->tpc_StepSize);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tpc_StepSize, 1, 3);
-   RT_CHECK(ctx, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
-         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* tddOption */
-   stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(ctx, &pvalue->tddOption);
+   stat = enc_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(ctx, &pvalue->tddOption, cur);
    RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
    /* primaryCCPCH-TX-Power */
    if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
       rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
       rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-   RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK_PUT(ctx, cur, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
          break;
       case 2:
-         if (pvalue->u.individuallySignalled == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "individuallySignalled", -1, 0);
-         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled(ctx, pvalue->u.individuallySignalled);
+         if (pvalue->u.individuallySignalled == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "individuallySignalled", -1, 0);
+         stat = enc_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling_individuallySignalled(ctx, pvalue->u.individuallySignalled, cur);
          RT_CHECK(ctx, stat, 0, "individuallySignalled", -1, 0);
          break;
       default:
@@ -3973,46 +426,56 @@ int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling(rtxContext* 
    return 0;
 }
 
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r6_tdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r7_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    /* ul-TargetSIR */
    if (pvalue->m & 0x1u) {
       if ((uint64_t)pvalue->ul_TargetSIR > 62u) {
          rtxErrAddStrParm(ctx, "UL-TargetSIR");
          rtxErrAddUIntParm(ctx, pvalue->ul_TargetSIR);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
       }
-      stat = pe_ConsUInt64(ctx, pvalue->ul_TargetSIR, 0, 62);
-      RT_CHECK(ctx, stat, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ul_TargetSIR, 0, 62);
+      RT_CHECK_PUT(ctx, cur, stat, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
    }
    /* ul-OL-PC-Signalling */
-   stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling(ctx, &pvalue->ul_OL_PC_Signalling);
+   stat = enc_UL_DPCH_PowerControlInfo_r7_tdd_ul_OL_PC_Signalling(ctx, &pvalue->ul_OL_PC_Signalling, cur);
    RT_CHECK(ctx, stat, 0, "ul-OL-PC-Signalling", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r6* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfo_r7_tdd, pvalue);
+}
+
+static int enc_UL_DPCH_PowerControlInfo_r7(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-PowerControlInfo-r6");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UL-DPCH-PowerControlInfo-r6");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-DPCH-PowerControlInfo-r6");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-PowerControlInfo-r7");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "UL-DPCH-PowerControlInfo-r7");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-DPCH-PowerControlInfo-r7");
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r6");
-         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r6");
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r7");
+         stat = enc_UL_DPCH_PowerControlInfo_r7_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r7");
          break;
       case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r6");
-         stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r6");
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r7");
+         stat = enc_UL_DPCH_PowerControlInfo_r7_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r7");
          break;
       default:
          break;
@@ -4020,303 +483,221 @@ int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6(rtxContext* RT_RESTRICT ctx, const U
    return 0;
 }
 
-int asn1PE_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_present(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_present* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfo_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_CCTrCH_PowerControlInfo_r7(rtxContext* RT_RESTRICT ctx, const CCTrCH_PowerControlInfo_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CCTrCH-PowerControlInfo-r7");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->numberOfDPDCH != 1) << 1) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* numberOfDPDCH */
-   if (pvalue->numberOfDPDCH != 1) {
-      if ((uint64_t)(pvalue->numberOfDPDCH - 1) > 5u) {
-         rtxErrAddStrParm(ctx, "NumberOfDPDCH");
-         rtxErrAddUIntParm(ctx, pvalue->numberOfDPDCH);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "NumberOfDPDCH", "numberOfDPDCH", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->numberOfDPDCH, 1, 6);
-      RT_CHECK(ctx, stat, "NumberOfDPDCH", "numberOfDPDCH", -1, 0);
-   }
-   /* spreadingFactor */
-   if (pvalue->spreadingFactor > 6) {
-      rtxErrAddUIntParm(ctx, pvalue->spreadingFactor);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "SpreadingFactor", "spreadingFactor", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->spreadingFactor, 0, 6);
-   RT_CHECK(ctx, stat, "SpreadingFactor", "spreadingFactor", -1, 0);
-   /* tfci-Existence */
-   stat = rtxEncBit(ctx, pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, 0);
-   /* numberOfFBI-Bits */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CCTrCH-PowerControlInfo-r7");
+   /* tfcs-Identity */
    if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->numberOfFBI_Bits - 1) > 1u) {
-         rtxErrAddStrParm(ctx, "NumberOfFBI-Bits");
-         rtxErrAddUIntParm(ctx, pvalue->numberOfFBI_Bits);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->numberOfFBI_Bits, 1, 2);
-      RT_CHECK(ctx, stat, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
+      stat = enc_TFCS_Identity(ctx, &pvalue->tfcs_Identity, cur);
+      RT_CHECK(ctx, stat, 0, "tfcs-Identity", -1, "CCTrCH-PowerControlInfo-r7");
    }
-   /* puncturingLimit */
-   if (pvalue->puncturingLimit > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->puncturingLimit);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PuncturingLimit", "puncturingLimit", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->puncturingLimit, 0, 15);
-   RT_CHECK(ctx, stat, "PuncturingLimit", "puncturingLimit", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_notPresent(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_notPresent* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tfci-Existence */
-   stat = rtxEncBit(ctx, pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, 0);
-   /* numberOfFBI-Bits */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->numberOfFBI_Bits - 1) > 1u) {
-         rtxErrAddStrParm(ctx, "NumberOfFBI-Bits");
-         rtxErrAddUIntParm(ctx, pvalue->numberOfFBI_Bits);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->numberOfFBI_Bits, 1, 2);
-      RT_CHECK(ctx, stat, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.present == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "present", -1, 0);
-         stat = asn1PE_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_present(ctx, pvalue->u.present);
-         RT_CHECK(ctx, stat, 0, "present", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.notPresent == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "notPresent", -1, 0);
-         stat = asn1PE_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_notPresent(ctx, pvalue->u.notPresent);
-         RT_CHECK(ctx, stat, 0, "notPresent", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* scramblingCodeType */
-   if (pvalue->scramblingCodeType > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->scramblingCodeType);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ScramblingCodeType", "scramblingCodeType", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->scramblingCodeType, 0, 1);
-   RT_CHECK(ctx, stat, "ScramblingCodeType", "scramblingCodeType", -1, 0);
-   /* scramblingCode */
-   if ((uint64_t)pvalue->scramblingCode > 16777215u) {
-      rtxErrAddStrParm(ctx, "UL-ScramblingCode");
-      rtxErrAddUIntParm(ctx, pvalue->scramblingCode);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-ScramblingCode", "scramblingCode", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->scramblingCode, 0, 16777215);
-   RT_CHECK(ctx, stat, "UL-ScramblingCode", "scramblingCode", -1, 0);
-   /* dpdchPresence */
-   stat = asn1PE_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence(ctx, &pvalue->dpdchPresence);
-   RT_CHECK(ctx, stat, 0, "dpdchPresence", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-TimingAdvance */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UL_TimingAdvanceControl_r4(ctx, &pvalue->ul_TimingAdvance);
-      RT_CHECK(ctx, stat, 0, "ul-TimingAdvance", -1, 0);
-   }
-   /* ul-CCTrCHList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UL_CCTrCHList_r4(ctx, &pvalue->ul_CCTrCHList);
-      RT_CHECK(ctx, stat, 0, "ul-CCTrCHList", -1, 0);
-   }
-   /* ul-CCTrCHListToRemove */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_UL_CCTrCHListToRemove(ctx, &pvalue->ul_CCTrCHListToRemove);
-      RT_CHECK(ctx, stat, 0, "ul-CCTrCHListToRemove", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r6_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_Info_r6(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-Info-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DPCH-Info-r6");
    /* ul-DPCH-PowerControlInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6(ctx, &pvalue->ul_DPCH_PowerControlInfo);
-      RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "UL-DPCH-Info-r6");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_UL_DPCH_Info_r6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-DPCH-Info-r6");
+   stat = enc_UL_DPCH_PowerControlInfo_r7(ctx, &pvalue->ul_DPCH_PowerControlInfo, cur);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "CCTrCH-PowerControlInfo-r7");
    return 0;
 }
 
-int asn1PE_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_present(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_present* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CCTrCH_PowerControlInfo_r7(rtxContext* RT_RESTRICT ctx, const CCTrCH_PowerControlInfo_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CCTrCH_PowerControlInfo_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_CD_AccessSlotSubchannel(rtxContext* RT_RESTRICT ctx, CD_AccessSlotSubchannel value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->numberOfDPDCH != 1) << 2) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* numberOfDPDCH */
-   if (pvalue->numberOfDPDCH != 1) {
-      if ((uint64_t)(pvalue->numberOfDPDCH - 1) > 5u) {
-         rtxErrAddStrParm(ctx, "NumberOfDPDCH");
-         rtxErrAddUIntParm(ctx, pvalue->numberOfDPDCH);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "NumberOfDPDCH", "numberOfDPDCH", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->numberOfDPDCH, 1, 6);
-      RT_CHECK(ctx, stat, "NumberOfDPDCH", "numberOfDPDCH", -1, 0);
+   if ((uint64_t)value > 11u) {
+      rtxErrAddStrParm(ctx, "CD-AccessSlotSubchannel");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "CD-AccessSlotSubchannel");
    }
-   /* spreadingFactor */
-   if (pvalue->spreadingFactor > 6) {
-      rtxErrAddUIntParm(ctx, pvalue->spreadingFactor);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "SpreadingFactor", "spreadingFactor", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->spreadingFactor, 0, 6);
-   RT_CHECK(ctx, stat, "SpreadingFactor", "spreadingFactor", -1, 0);
-   /* tfci-Existence */
-   stat = rtxEncBit(ctx, pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, 0);
-   /* numberOfFBI-Bits */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->numberOfFBI_Bits - 1) > 1u) {
-         rtxErrAddStrParm(ctx, "NumberOfFBI-Bits");
-         rtxErrAddUIntParm(ctx, pvalue->numberOfFBI_Bits);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->numberOfFBI_Bits, 1, 2);
-      RT_CHECK(ctx, stat, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
-   }
-   /* numberOfTPC-Bits */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->numberOfTPC_Bits > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->numberOfTPC_Bits);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "NumberOfTPC-Bits", "numberOfTPC-Bits", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->numberOfTPC_Bits, 0, 0);
-      RT_CHECK(ctx, stat, "NumberOfTPC-Bits", "numberOfTPC-Bits", -1, 0);
-   }
-   /* puncturingLimit */
-   if (pvalue->puncturingLimit > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->puncturingLimit);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PuncturingLimit", "puncturingLimit", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->puncturingLimit, 0, 15);
-   RT_CHECK(ctx, stat, "PuncturingLimit", "puncturingLimit", -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 11);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CD-AccessSlotSubchannel");
    return 0;
 }
 
-int asn1PE_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_notPresent(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_notPresent* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CD_AccessSlotSubchannel(rtxContext* RT_RESTRICT ctx, CD_AccessSlotSubchannel value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CD_AccessSlotSubchannel, value);
+}
+
+RT_MERGED_BODY int enc_CD_AccessSlotSubchannelList(rtxContext* RT_RESTRICT ctx, const CD_AccessSlotSubchannelList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tfci-Existence */
-   stat = rtxEncBit(ctx, pvalue->tfci_Existence);
-   RT_CHECK(ctx, stat, 0, "tfci-Existence", -1, 0);
-   /* numberOfFBI-Bits */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->numberOfFBI_Bits - 1) > 1u) {
-         rtxErrAddStrParm(ctx, "NumberOfFBI-Bits");
-         rtxErrAddUIntParm(ctx, pvalue->numberOfFBI_Bits);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CD-AccessSlotSubchannelList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 12);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "CD-AccessSlotSubchannelList");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 11u) {
+         rtxErrAddStrParm(ctx, "CD-AccessSlotSubchannel");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CD-AccessSlotSubchannel", "CD-AccessSlotSubchannel", (int32_t)i, "CD-AccessSlotSubchannelList");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->numberOfFBI_Bits, 1, 2);
-      RT_CHECK(ctx, stat, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
-   }
-   /* numberOfTPC-Bits */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->numberOfTPC_Bits > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->numberOfTPC_Bits);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "NumberOfTPC-Bits", "numberOfTPC-Bits", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->numberOfTPC_Bits, 0, 0);
-      RT_CHECK(ctx, stat, "NumberOfTPC-Bits", "numberOfTPC-Bits", -1, 0);
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 11);
+      RT_CHECK_PUT(ctx, cur, stat, "CD-AccessSlotSubchannel", "CD-AccessSlotSubchannel", (int32_t)i, "CD-AccessSlotSubchannelList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CD_AccessSlotSubchannelList(rtxContext* RT_RESTRICT ctx, const CD_AccessSlotSubchannelList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CD_AccessSlotSubchannelList, pvalue);
+}
+
+RT_MERGED_BODY int enc_CD_CA_ICH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, CD_CA_ICH_ChannelisationCode value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CD-CA-ICH-ChannelisationCode");
+   return 0;
+}
+
+int asn1PE_UMTS_CD_CA_ICH_ChannelisationCode(rtxContext* RT_RESTRICT ctx, CD_CA_ICH_ChannelisationCode value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CD_CA_ICH_ChannelisationCode, value);
+}
+
+RT_MERGED_BODY int enc_CD_PreambleScramblingCode(rtxContext* RT_RESTRICT ctx, CD_PreambleScramblingCode value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 79u) {
+      rtxErrAddStrParm(ctx, "CD-PreambleScramblingCode");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "CD-PreambleScramblingCode");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 79);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CD-PreambleScramblingCode");
+   return 0;
+}
+
+int asn1PE_UMTS_CD_PreambleScramblingCode(rtxContext* RT_RESTRICT ctx, CD_PreambleScramblingCode value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CD_PreambleScramblingCode, value);
+}
+
+RT_MERGED_BODY int enc_CD_SignatureCode(rtxContext* RT_RESTRICT ctx, CD_SignatureCode value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 15u) {
+      rtxErrAddStrParm(ctx, "CD-SignatureCode");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "CD-SignatureCode");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CD-SignatureCode");
+   return 0;
+}
+
+int asn1PE_UMTS_CD_SignatureCode(rtxContext* RT_RESTRICT ctx, CD_SignatureCode value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CD_SignatureCode, value);
+}
+
+RT_MERGED_BODY int enc_CD_SignatureCodeList(rtxContext* RT_RESTRICT ctx, const CD_SignatureCodeList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CD-SignatureCodeList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "CD-SignatureCodeList");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 15u) {
+         rtxErrAddStrParm(ctx, "CD-SignatureCode");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CD-SignatureCode", "CD-SignatureCode", (int32_t)i, "CD-SignatureCodeList");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "CD-SignatureCode", "CD-SignatureCode", (int32_t)i, "CD-SignatureCodeList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CD_SignatureCodeList(rtxContext* RT_RESTRICT ctx, const CD_SignatureCodeList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CD_SignatureCodeList, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellAndChannelIdentity(rtxContext* RT_RESTRICT ctx, const CellAndChannelIdentity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellAndChannelIdentity");
+   /* burstType */
+   if (pvalue->burstType > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->burstType);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "BurstType", "burstType", -1, "CellAndChannelIdentity");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->burstType, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "BurstType", "burstType", -1, "CellAndChannelIdentity");
+   /* midambleShift */
+   if ((uint64_t)pvalue->midambleShift > 15u) {
+      rtxErrAddStrParm(ctx, "MidambleShiftLong");
+      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, "CellAndChannelIdentity");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleShift, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleShiftLong", "midambleShift", -1, "CellAndChannelIdentity");
+   /* timeslot */
+   if ((uint64_t)pvalue->timeslot > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeslot);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber", "timeslot", -1, "CellAndChannelIdentity");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslot, 0, 14);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber", "timeslot", -1, "CellAndChannelIdentity");
+   /* cellParametersID */
+   if ((uint64_t)pvalue->cellParametersID > 127u) {
+      rtxErrAddStrParm(ctx, "CellParametersID");
+      rtxErrAddUIntParm(ctx, pvalue->cellParametersID);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellParametersID", "cellParametersID", -1, "CellAndChannelIdentity");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->cellParametersID, 0, 127);
+   RT_CHECK_PUT(ctx, cur, stat, "CellParametersID", "cellParametersID", -1, "CellAndChannelIdentity");
+   return 0;
+}
+
+int asn1PE_UMTS_CellAndChannelIdentity(rtxContext* RT_RESTRICT ctx, const CellAndChannelIdentity* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellAndChannelIdentity, pvalue);
+}
+
+RT_MERGED_BODY int enc_Cfntargetsfnframeoffset(rtxContext* RT_RESTRICT ctx, Cfntargetsfnframeoffset value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Cfntargetsfnframeoffset");
+   return 0;
+}
+
+int asn1PE_UMTS_Cfntargetsfnframeoffset(rtxContext* RT_RESTRICT ctx, Cfntargetsfnframeoffset value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Cfntargetsfnframeoffset, value);
+}
+
+RT_MERGED_BODY int enc_ChannelAssignmentActive(rtxContext* RT_RESTRICT ctx, const ChannelAssignmentActive* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ChannelAssignmentActive");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "ChannelAssignmentActive");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "ChannelAssignmentActive");
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.present == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "present", -1, 0);
-         stat = asn1PE_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_present(ctx, pvalue->u.present);
-         RT_CHECK(ctx, stat, 0, "present", -1, 0);
          break;
       case 2:
-         if (pvalue->u.notPresent == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "notPresent", -1, 0);
-         stat = asn1PE_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_notPresent(ctx, pvalue->u.notPresent);
-         RT_CHECK(ctx, stat, 0, "notPresent", -1, 0);
+         if (pvalue->u.isActive == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "isActive", -1, "ChannelAssignmentActive");
+         stat = enc_AvailableMinimumSF_ListVCAM(ctx, pvalue->u.isActive, cur);
+         RT_CHECK(ctx, stat, 0, "isActive", -1, "ChannelAssignmentActive");
          break;
       default:
          break;
@@ -4324,126 +705,1124 @@ int asn1PE_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence(rtxContext* R
    return 0;
 }
 
-int asn1PE_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_ChannelAssignmentActive(rtxContext* RT_RESTRICT ctx, const ChannelAssignmentActive* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ChannelAssignmentActive, pvalue);
+}
+
+RT_MERGED_BODY int enc_ChannelReqParamsForUCSM(rtxContext* RT_RESTRICT ctx, const ChannelReqParamsForUCSM* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* scramblingCodeType */
-   if (pvalue->scramblingCodeType > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->scramblingCodeType);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ScramblingCodeType", "scramblingCodeType", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ChannelReqParamsForUCSM");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ChannelReqParamsForUCSM");
+   /* availableAP-SignatureList */
+   stat = enc_AvailableAP_SignatureList(ctx, &pvalue->availableAP_SignatureList, cur);
+   RT_CHECK(ctx, stat, 0, "availableAP-SignatureList", -1, "ChannelReqParamsForUCSM");
+   /* availableAP-SubchannelList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_AvailableAP_SubchannelList(ctx, &pvalue->availableAP_SubchannelList, cur);
+      RT_CHECK(ctx, stat, 0, "availableAP-SubchannelList", -1, "ChannelReqParamsForUCSM");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->scramblingCodeType, 0, 1);
-   RT_CHECK(ctx, stat, "ScramblingCodeType", "scramblingCodeType", -1, 0);
-   /* scramblingCode */
-   if ((uint64_t)pvalue->scramblingCode > 16777215u) {
-      rtxErrAddStrParm(ctx, "UL-ScramblingCode");
-      rtxErrAddUIntParm(ctx, pvalue->scramblingCode);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-ScramblingCode", "scramblingCode", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->scramblingCode, 0, 16777215);
-   RT_CHECK(ctx, stat, "UL-ScramblingCode", "scramblingCode", -1, 0);
-   /* dpdchPresence */
-   stat = asn1PE_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence(ctx, &pvalue->dpdchPresence);
-   RT_CHECK(ctx, stat, 0, "dpdchPresence", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r7_enabled_tddOption_tdd384* RT_RESTRICT pvalue)
+int asn1PE_UMTS_ChannelReqParamsForUCSM(rtxContext* RT_RESTRICT ctx, const ChannelReqParamsForUCSM* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ChannelReqParamsForUCSM, pvalue);
+}
+
+RT_MERGED_BODY int enc_ClosedLoopTimingAdjMode(rtxContext* RT_RESTRICT ctx, ClosedLoopTimingAdjMode value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "ClosedLoopTimingAdjMode");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ClosedLoopTimingAdjMode");
+   return 0;
+}
+
+int asn1PE_UMTS_ClosedLoopTimingAdjMode(rtxContext* RT_RESTRICT ctx, ClosedLoopTimingAdjMode value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ClosedLoopTimingAdjMode, value);
+}
+
+RT_MERGED_BODY int enc_CodeNumberDSCH(rtxContext* RT_RESTRICT ctx, CodeNumberDSCH value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CodeNumberDSCH");
+   return 0;
+}
+
+int asn1PE_UMTS_CodeNumberDSCH(rtxContext* RT_RESTRICT ctx, CodeNumberDSCH value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CodeNumberDSCH, value);
+}
+
+RT_MERGED_BODY int enc_SF_PDSCH(rtxContext* RT_RESTRICT ctx, SF_PDSCH value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 6) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "SF-PDSCH");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SF-PDSCH");
+   return 0;
+}
+
+int asn1PE_UMTS_SF_PDSCH(rtxContext* RT_RESTRICT ctx, SF_PDSCH value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SF_PDSCH, value);
+}
+
+RT_MERGED_BODY int enc_MultiCodeInfo(rtxContext* RT_RESTRICT ctx, MultiCodeInfo value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "MultiCodeInfo");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "MultiCodeInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MultiCodeInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_MultiCodeInfo(rtxContext* RT_RESTRICT ctx, MultiCodeInfo value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MultiCodeInfo, value);
+}
+
+RT_MERGED_BODY int enc_PDSCH_CodeMap(rtxContext* RT_RESTRICT ctx, const PDSCH_CodeMap* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-CodeMap");
+   /* spreadingFactor */
+   if (pvalue->spreadingFactor > 6) {
+      rtxErrAddUIntParm(ctx, pvalue->spreadingFactor);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "SF-PDSCH", "spreadingFactor", -1, "PDSCH-CodeMap");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->spreadingFactor, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "SF-PDSCH", "spreadingFactor", -1, "PDSCH-CodeMap");
+   /* multiCodeInfo */
+   if ((uint64_t)(pvalue->multiCodeInfo - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "MultiCodeInfo");
+      rtxErrAddUIntParm(ctx, pvalue->multiCodeInfo);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MultiCodeInfo", "multiCodeInfo", -1, "PDSCH-CodeMap");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->multiCodeInfo, 1, 16);
+   RT_CHECK_PUT(ctx, cur, stat, "MultiCodeInfo", "multiCodeInfo", -1, "PDSCH-CodeMap");
+   /* codeNumberStart */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->codeNumberStart, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, "CodeNumberDSCH", "codeNumberStart", -1, "PDSCH-CodeMap");
+   /* codeNumberStop */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->codeNumberStop, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, "CodeNumberDSCH", "codeNumberStop", -1, "PDSCH-CodeMap");
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_CodeMap(rtxContext* RT_RESTRICT ctx, const PDSCH_CodeMap* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_CodeMap, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDSCH_CodeMapList(rtxContext* RT_RESTRICT ctx, const PDSCH_CodeMapList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-CodeMapList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 256);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "PDSCH-CodeMapList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "PDSCH-CodeMap", (int32_t)i, "PDSCH-CodeMapList");
+      stat = enc_PDSCH_CodeMap(ctx, (const PDSCH_CodeMap*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "PDSCH-CodeMap", (int32_t)i, "PDSCH-CodeMapList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_CodeMapList(rtxContext* RT_RESTRICT ctx, const PDSCH_CodeMapList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_CodeMapList, pvalue);
+}
+
+RT_MERGED_BODY int enc_CodeRange(rtxContext* RT_RESTRICT ctx, const CodeRange* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CodeRange");
+   /* pdsch-CodeMapList */
+   stat = enc_PDSCH_CodeMapList(ctx, &pvalue->pdsch_CodeMapList, cur);
+   RT_CHECK(ctx, stat, 0, "pdsch-CodeMapList", -1, "CodeRange");
+   return 0;
+}
+
+int asn1PE_UMTS_CodeRange(rtxContext* RT_RESTRICT ctx, const CodeRange* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CodeRange, pvalue);
+}
+
+RT_MERGED_BODY int enc_CodeWordSet(rtxContext* RT_RESTRICT ctx, CodeWordSet value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "CodeWordSet");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CodeWordSet");
+   return 0;
+}
+
+int asn1PE_UMTS_CodeWordSet(rtxContext* RT_RESTRICT ctx, CodeWordSet value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CodeWordSet, value);
+}
+
+RT_MERGED_BODY int enc_ControlChannelDRXCycle_TDD128(rtxContext* RT_RESTRICT ctx, ControlChannelDRXCycle_TDD128 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "ControlChannelDRXCycle-TDD128");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ControlChannelDRXCycle-TDD128");
+   return 0;
+}
+
+int asn1PE_UMTS_ControlChannelDRXCycle_TDD128(rtxContext* RT_RESTRICT ctx, ControlChannelDRXCycle_TDD128 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ControlChannelDRXCycle_TDD128, value);
+}
+
+RT_MERGED_BODY int enc_EnablingDelay_TDD128(rtxContext* RT_RESTRICT ctx, EnablingDelay_TDD128 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "EnablingDelay-TDD128");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "EnablingDelay-TDD128");
+   return 0;
+}
+
+int asn1PE_UMTS_EnablingDelay_TDD128(rtxContext* RT_RESTRICT ctx, EnablingDelay_TDD128 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EnablingDelay_TDD128, value);
+}
+
+RT_MERGED_BODY int enc_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_continue_(rtxContext* RT_RESTRICT ctx, const ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_continue_* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-TimingAdvance */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* enablingDelay */
    if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->ul_TimingAdvance > 63u) {
-         rtxErrAddStrParm(ctx, "UL-TimingAdvance");
-         rtxErrAddUIntParm(ctx, pvalue->ul_TimingAdvance);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-TimingAdvance", "ul-TimingAdvance", -1, 0);
+      if (pvalue->enablingDelay > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->enablingDelay);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "EnablingDelay-TDD128", "enablingDelay", -1, 0);
       }
-      stat = pe_ConsUInt64(ctx, pvalue->ul_TimingAdvance, 0, 63);
-      RT_CHECK(ctx, stat, "UL-TimingAdvance", "ul-TimingAdvance", -1, 0);
-   }
-   /* ext-UL-TimingAdvance */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_EXT_UL_TimingAdvance(ctx, &pvalue->ext_UL_TimingAdvance);
-      RT_CHECK(ctx, stat, 0, "ext-UL-TimingAdvance", -1, 0);
-   }
-   /* activationTime */
-   if (pvalue->m & 0x4u) {
-      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, 0);
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->enablingDelay, 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "EnablingDelay-TDD128", "enablingDelay", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r7_enabled_tddOption_tdd768* RT_RESTRICT pvalue)
+int asn1PE_UMTS_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_continue_(rtxContext* RT_RESTRICT ctx, const ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_continue_* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_continue_, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_DRX_InactivityThreshold_TDD128(rtxContext* RT_RESTRICT ctx, HS_SCCH_DRX_InactivityThreshold_TDD128 value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "HS-SCCH-DRX-InactivityThreshold-TDD128");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "HS-SCCH-DRX-InactivityThreshold-TDD128");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_DRX_InactivityThreshold_TDD128(rtxContext* RT_RESTRICT ctx, HS_SCCH_DRX_InactivityThreshold_TDD128 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_DRX_InactivityThreshold_TDD128, value);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_DRX_Info_TDD128(rtxContext* RT_RESTRICT ctx, const HS_SCCH_DRX_Info_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-DRX-Info-TDD128");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ext-UL-TimingAdvance */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "HS-SCCH-DRX-Info-TDD128");
+   /* hS-SCCH-DRX-Cycle */
+   if (pvalue->hS_SCCH_DRX_Cycle > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->hS_SCCH_DRX_Cycle);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ControlChannelDRXCycle-TDD128", "hS-SCCH-DRX-Cycle", -1, "HS-SCCH-DRX-Info-TDD128");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->hS_SCCH_DRX_Cycle, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "ControlChannelDRXCycle-TDD128", "hS-SCCH-DRX-Cycle", -1, "HS-SCCH-DRX-Info-TDD128");
+   /* hS-SCCH-DRX-InactivityThreshold */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_EXT_UL_TimingAdvance(ctx, &pvalue->ext_UL_TimingAdvance);
-      RT_CHECK(ctx, stat, 0, "ext-UL-TimingAdvance", -1, 0);
+      if (pvalue->hS_SCCH_DRX_InactivityThreshold > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->hS_SCCH_DRX_InactivityThreshold);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "HS-SCCH-DRX-InactivityThreshold-TDD128", "hS-SCCH-DRX-InactivityThreshold", -1, "HS-SCCH-DRX-Info-TDD128");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->hS_SCCH_DRX_InactivityThreshold, 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "HS-SCCH-DRX-InactivityThreshold-TDD128", "hS-SCCH-DRX-InactivityThreshold", -1, "HS-SCCH-DRX-Info-TDD128");
    }
-   /* activationTime */
-   if (pvalue->m & 0x2u) {
-      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, 0);
+   /* hS-SCCH-DRX-Offset */
+   if ((uint64_t)pvalue->hS_SCCH_DRX_Offset > 63u) {
+      rtxErrAddStrParm(ctx, "hS-SCCH-DRX-Offset");
+      rtxErrAddUIntParm(ctx, pvalue->hS_SCCH_DRX_Offset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "hS-SCCH-DRX-Offset", -1, "HS-SCCH-DRX-Info-TDD128");
    }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->hS_SCCH_DRX_Offset, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "hS-SCCH-DRX-Offset", -1, "HS-SCCH-DRX-Info-TDD128");
    return 0;
 }
 
-int asn1PE_UMTS_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r7_enabled_tddOption_tdd128* RT_RESTRICT pvalue)
+int asn1PE_UMTS_HS_SCCH_DRX_Info_TDD128(rtxContext* RT_RESTRICT ctx, const HS_SCCH_DRX_Info_TDD128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_DRX_Info_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_AGCH_InactivityMonitorThreshold_TDD128(rtxContext* RT_RESTRICT ctx, E_AGCH_InactivityMonitorThreshold_TDD128 value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "E-AGCH-InactivityMonitorThreshold-TDD128");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-AGCH-InactivityMonitorThreshold-TDD128");
+   return 0;
+}
+
+int asn1PE_UMTS_E_AGCH_InactivityMonitorThreshold_TDD128(rtxContext* RT_RESTRICT ctx, E_AGCH_InactivityMonitorThreshold_TDD128 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_AGCH_InactivityMonitorThreshold_TDD128, value);
+}
+
+RT_MERGED_BODY int enc_E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType_e_AGCH_DRX_Parameters(rtxContext* RT_RESTRICT ctx, const E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType_e_AGCH_DRX_Parameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-SynchronisationParameters */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* e-AGCH-DRX-Cycle */
+   if (pvalue->e_AGCH_DRX_Cycle > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->e_AGCH_DRX_Cycle);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ControlChannelDRXCycle-TDD128", "e-AGCH-DRX-Cycle", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->e_AGCH_DRX_Cycle, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "ControlChannelDRXCycle-TDD128", "e-AGCH-DRX-Cycle", -1, 0);
+   /* e-AGCH-InactivityMonitorThreshold */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UL_SynchronisationParameters_r4(ctx, &pvalue->ul_SynchronisationParameters);
-      RT_CHECK(ctx, stat, 0, "ul-SynchronisationParameters", -1, 0);
+      if (pvalue->e_AGCH_InactivityMonitorThreshold > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->e_AGCH_InactivityMonitorThreshold);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "E-AGCH-InactivityMonitorThreshold-TDD128", "e-AGCH-InactivityMonitorThreshold", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->e_AGCH_InactivityMonitorThreshold, 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "E-AGCH-InactivityMonitorThreshold-TDD128", "e-AGCH-InactivityMonitorThreshold", -1, 0);
    }
-   /* synchronisationParameters */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_SynchronisationParameters_r4(ctx, &pvalue->synchronisationParameters);
-      RT_CHECK(ctx, stat, 0, "synchronisationParameters", -1, 0);
+   /* e-AGCH-DRX-Offset */
+   if ((uint64_t)pvalue->e_AGCH_DRX_Offset > 63u) {
+      rtxErrAddStrParm(ctx, "e-AGCH-DRX-Offset");
+      rtxErrAddUIntParm(ctx, pvalue->e_AGCH_DRX_Offset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "e-AGCH-DRX-Offset", -1, 0);
    }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->e_AGCH_DRX_Offset, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "e-AGCH-DRX-Offset", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_UL_TimingAdvanceControl_r7_enabled_tddOption(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r7_enabled_tddOption* RT_RESTRICT pvalue)
+int asn1PE_UMTS_E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType_e_AGCH_DRX_Parameters(rtxContext* RT_RESTRICT ctx, const E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType_e_AGCH_DRX_Parameters* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType_e_AGCH_DRX_Parameters, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType(rtxContext* RT_RESTRICT ctx, const E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
-         stat = asn1PE_UMTS_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd384(ctx, pvalue->u.tdd384);
+         break;
+      case 2:
+         if (pvalue->u.e_AGCH_DRX_Parameters == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e-AGCH-DRX-Parameters", -1, 0);
+         stat = enc_E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType_e_AGCH_DRX_Parameters(ctx, pvalue->u.e_AGCH_DRX_Parameters, cur);
+         RT_CHECK(ctx, stat, 0, "e-AGCH-DRX-Parameters", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType(rtxContext* RT_RESTRICT ctx, const E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_AGCH_DRX_Info_TDD128(rtxContext* RT_RESTRICT ctx, const E_AGCH_DRX_Info_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-AGCH-DRX-Info-TDD128");
+   /* e-AGCH-DRX-InfoType */
+   stat = enc_E_AGCH_DRX_Info_TDD128_e_AGCH_DRX_InfoType(ctx, &pvalue->e_AGCH_DRX_InfoType, cur);
+   RT_CHECK(ctx, stat, 0, "e-AGCH-DRX-InfoType", -1, "E-AGCH-DRX-Info-TDD128");
+   return 0;
+}
+
+int asn1PE_UMTS_E_AGCH_DRX_Info_TDD128(rtxContext* RT_RESTRICT ctx, const E_AGCH_DRX_Info_TDD128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_AGCH_DRX_Info_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int enc_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_newOperation(rtxContext* RT_RESTRICT ctx, const ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_newOperation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* hS-SCCH-Drx-Info */
+   stat = enc_HS_SCCH_DRX_Info_TDD128(ctx, &pvalue->hS_SCCH_Drx_Info, cur);
+   RT_CHECK(ctx, stat, 0, "hS-SCCH-Drx-Info", -1, 0);
+   /* e-AGCH-Drx-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_E_AGCH_DRX_Info_TDD128(ctx, &pvalue->e_AGCH_Drx_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-AGCH-Drx-Info", -1, 0);
+   }
+   /* enablingDelay */
+   if (pvalue->enablingDelay > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->enablingDelay);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "EnablingDelay-TDD128", "enablingDelay", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->enablingDelay, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "EnablingDelay-TDD128", "enablingDelay", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_newOperation(rtxContext* RT_RESTRICT ctx, const ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_newOperation* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_newOperation, pvalue);
+}
+
+RT_MERGED_BODY int enc_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation(rtxContext* RT_RESTRICT ctx, const ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.continue_ == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "continue", -1, 0);
+         stat = enc_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_continue_(ctx, pvalue->u.continue_, cur);
+         RT_CHECK(ctx, stat, 0, "continue", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.newOperation == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "newOperation", -1, 0);
+         stat = enc_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation_newOperation(ctx, pvalue->u.newOperation, cur);
+         RT_CHECK(ctx, stat, 0, "newOperation", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation(rtxContext* RT_RESTRICT ctx, const ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation, pvalue);
+}
+
+static int enc_ControlChannelDRXInfo_TDD128_r8(rtxContext* RT_RESTRICT ctx, const ControlChannelDRXInfo_TDD128_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ControlChannelDRXInfo-TDD128-r8");
+   /* controlChannelDrxOperation */
+   stat = enc_ControlChannelDRXInfo_TDD128_r8_controlChannelDrxOperation(ctx, &pvalue->controlChannelDrxOperation, cur);
+   RT_CHECK(ctx, stat, 0, "controlChannelDrxOperation", -1, "ControlChannelDRXInfo-TDD128-r8");
+   return 0;
+}
+
+int asn1PE_UMTS_ControlChannelDRXInfo_TDD128_r8(rtxContext* RT_RESTRICT ctx, const ControlChannelDRXInfo_TDD128_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ControlChannelDRXInfo_TDD128_r8, pvalue);
+}
+
+RT_MERGED_BODY int enc_DynamicPersistenceLevelTF_List(rtxContext* RT_RESTRICT ctx, const DynamicPersistenceLevelTF_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DynamicPersistenceLevelTF-List");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DynamicPersistenceLevelTF-List");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)(pvalue->elem[i] - 1) > 7u) {
+         rtxErrAddStrParm(ctx, "DynamicPersistenceLevel");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DynamicPersistenceLevel", "DynamicPersistenceLevel", (int32_t)i, "DynamicPersistenceLevelTF-List");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 1, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "DynamicPersistenceLevel", "DynamicPersistenceLevel", (int32_t)i, "DynamicPersistenceLevelTF-List");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DynamicPersistenceLevelTF_List(rtxContext* RT_RESTRICT ctx, const DynamicPersistenceLevelTF_List* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DynamicPersistenceLevelTF_List, pvalue);
+}
+
+RT_MERGED_BODY int enc_CPCH_PersistenceLevels(rtxContext* RT_RESTRICT ctx, const CPCH_PersistenceLevels* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CPCH-PersistenceLevels");
+   /* cpch-SetID */
+   if ((uint64_t)(pvalue->cpch_SetID - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "CPCH-SetID");
+      rtxErrAddUIntParm(ctx, pvalue->cpch_SetID);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CPCH-SetID", "cpch-SetID", -1, "CPCH-PersistenceLevels");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->cpch_SetID, 1, 16);
+   RT_CHECK_PUT(ctx, cur, stat, "CPCH-SetID", "cpch-SetID", -1, "CPCH-PersistenceLevels");
+   /* dynamicPersistenceLevelTF-List */
+   stat = enc_DynamicPersistenceLevelTF_List(ctx, &pvalue->dynamicPersistenceLevelTF_List, cur);
+   RT_CHECK(ctx, stat, 0, "dynamicPersistenceLevelTF-List", -1, "CPCH-PersistenceLevels");
+   return 0;
+}
+
+int asn1PE_UMTS_CPCH_PersistenceLevels(rtxContext* RT_RESTRICT ctx, const CPCH_PersistenceLevels* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CPCH_PersistenceLevels, pvalue);
+}
+
+RT_MERGED_BODY int enc_CPCH_PersistenceLevelsList(rtxContext* RT_RESTRICT ctx, const CPCH_PersistenceLevelsList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CPCH-PersistenceLevelsList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "CPCH-PersistenceLevelsList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "CPCH-PersistenceLevels", (int32_t)i, "CPCH-PersistenceLevelsList");
+      stat = enc_CPCH_PersistenceLevels(ctx, (const CPCH_PersistenceLevels*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "CPCH-PersistenceLevels", (int32_t)i, "CPCH-PersistenceLevelsList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CPCH_PersistenceLevelsList(rtxContext* RT_RESTRICT ctx, const CPCH_PersistenceLevelsList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CPCH_PersistenceLevelsList, pvalue);
+}
+
+RT_MERGED_BODY int enc_DeltaPp_m(rtxContext* RT_RESTRICT ctx, DeltaPp_m value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value < -10 || value > 10) {
+      rtxErrAddStrParm(ctx, "DeltaPp-m");
+      rtxErrAddIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "DeltaPp-m");
+   }
+   stat = pe_ConsInt64At(ctx, cur, value, -10, 10);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DeltaPp-m");
+   return 0;
+}
+
+int asn1PE_UMTS_DeltaPp_m(rtxContext* RT_RESTRICT ctx, DeltaPp_m value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DeltaPp_m, value);
+}
+
+RT_MERGED_BODY int enc_UL_DPCCH_SlotFormat(rtxContext* RT_RESTRICT ctx, UL_DPCCH_SlotFormat value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 2) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "UL-DPCCH-SlotFormat");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UL-DPCCH-SlotFormat");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCCH_SlotFormat(rtxContext* RT_RESTRICT ctx, UL_DPCCH_SlotFormat value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCCH_SlotFormat, value);
+}
+
+RT_MERGED_BODY int enc_N_StartMessage(rtxContext* RT_RESTRICT ctx, N_StartMessage value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "N-StartMessage");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "N-StartMessage");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "N-StartMessage");
+   return 0;
+}
+
+int asn1PE_UMTS_N_StartMessage(rtxContext* RT_RESTRICT ctx, N_StartMessage value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_N_StartMessage, value);
+}
+
+RT_MERGED_BODY int enc_N_EOT(rtxContext* RT_RESTRICT ctx, N_EOT value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 7u) {
+      rtxErrAddStrParm(ctx, "N-EOT");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "N-EOT");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "N-EOT");
+   return 0;
+}
+
+int asn1PE_UMTS_N_EOT(rtxContext* RT_RESTRICT ctx, N_EOT value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_N_EOT, value);
+}
+
+RT_MERGED_BODY int enc_CPCH_StatusIndicationMode(rtxContext* RT_RESTRICT ctx, CPCH_StatusIndicationMode value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "CPCH-StatusIndicationMode");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CPCH-StatusIndicationMode");
+   return 0;
+}
+
+int asn1PE_UMTS_CPCH_StatusIndicationMode(rtxContext* RT_RESTRICT ctx, CPCH_StatusIndicationMode value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CPCH_StatusIndicationMode, value);
+}
+
+RT_MERGED_BODY int enc_PCP_Length(rtxContext* RT_RESTRICT ctx, PCP_Length value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "PCP-Length");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PCP-Length");
+   return 0;
+}
+
+int asn1PE_UMTS_PCP_Length(rtxContext* RT_RESTRICT ctx, PCP_Length value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PCP_Length, value);
+}
+
+RT_MERGED_BODY int enc_UCSM_Info(rtxContext* RT_RESTRICT ctx, const UCSM_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UCSM-Info");
+   /* minimumSpreadingFactor */
+   if (pvalue->minimumSpreadingFactor > 6) {
+      rtxErrAddUIntParm(ctx, pvalue->minimumSpreadingFactor);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MinimumSpreadingFactor", "minimumSpreadingFactor", -1, "UCSM-Info");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->minimumSpreadingFactor, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "MinimumSpreadingFactor", "minimumSpreadingFactor", -1, "UCSM-Info");
+   /* nf-Max */
+   if ((uint64_t)(pvalue->nf_Max - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "NF-Max");
+      rtxErrAddUIntParm(ctx, pvalue->nf_Max);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "NF-Max", "nf-Max", -1, "UCSM-Info");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->nf_Max, 1, 64);
+   RT_CHECK_PUT(ctx, cur, stat, "NF-Max", "nf-Max", -1, "UCSM-Info");
+   /* channelReqParamsForUCSM */
+   stat = enc_ChannelReqParamsForUCSM(ctx, &pvalue->channelReqParamsForUCSM, cur);
+   RT_CHECK(ctx, stat, 0, "channelReqParamsForUCSM", -1, "UCSM-Info");
+   return 0;
+}
+
+int asn1PE_UMTS_UCSM_Info(rtxContext* RT_RESTRICT ctx, const UCSM_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UCSM_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_PCPCH_ChannelInfo(rtxContext* RT_RESTRICT ctx, const PCPCH_ChannelInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PCPCH-ChannelInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PCPCH-ChannelInfo");
+   /* pcpch-UL-ScramblingCode */
+   if ((uint64_t)pvalue->pcpch_UL_ScramblingCode > 79u) {
+      rtxErrAddStrParm(ctx, "pcpch-UL-ScramblingCode");
+      rtxErrAddUIntParm(ctx, pvalue->pcpch_UL_ScramblingCode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "pcpch-UL-ScramblingCode", -1, "PCPCH-ChannelInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pcpch_UL_ScramblingCode, 0, 79);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "pcpch-UL-ScramblingCode", -1, "PCPCH-ChannelInfo");
+   /* pcpch-DL-ChannelisationCode */
+   if ((uint64_t)pvalue->pcpch_DL_ChannelisationCode > 511u) {
+      rtxErrAddStrParm(ctx, "pcpch-DL-ChannelisationCode");
+      rtxErrAddUIntParm(ctx, pvalue->pcpch_DL_ChannelisationCode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "pcpch-DL-ChannelisationCode", -1, "PCPCH-ChannelInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pcpch_DL_ChannelisationCode, 0, 511);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "pcpch-DL-ChannelisationCode", -1, "PCPCH-ChannelInfo");
+   /* pcpch-DL-ScramblingCode */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->pcpch_DL_ScramblingCode - 1) > 14u) {
+         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
+         rtxErrAddUIntParm(ctx, pvalue->pcpch_DL_ScramblingCode);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SecondaryScramblingCode", "pcpch-DL-ScramblingCode", -1, "PCPCH-ChannelInfo");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->pcpch_DL_ScramblingCode, 1, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "SecondaryScramblingCode", "pcpch-DL-ScramblingCode", -1, "PCPCH-ChannelInfo");
+   }
+   /* pcp-Length */
+   if (pvalue->pcp_Length > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->pcp_Length);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PCP-Length", "pcp-Length", -1, "PCPCH-ChannelInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pcp_Length, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "PCP-Length", "pcp-Length", -1, "PCPCH-ChannelInfo");
+   /* ucsm-Info */
+   if (pvalue->m & 0x2u) {
+      stat = enc_UCSM_Info(ctx, &pvalue->ucsm_Info, cur);
+      RT_CHECK(ctx, stat, 0, "ucsm-Info", -1, "PCPCH-ChannelInfo");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PCPCH_ChannelInfo(rtxContext* RT_RESTRICT ctx, const PCPCH_ChannelInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PCPCH_ChannelInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_PCPCH_ChannelInfoList(rtxContext* RT_RESTRICT ctx, const PCPCH_ChannelInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PCPCH-ChannelInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "PCPCH-ChannelInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "PCPCH-ChannelInfo", (int32_t)i, "PCPCH-ChannelInfoList");
+      stat = enc_PCPCH_ChannelInfo(ctx, (const PCPCH_ChannelInfo*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "PCPCH-ChannelInfo", (int32_t)i, "PCPCH-ChannelInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PCPCH_ChannelInfoList(rtxContext* RT_RESTRICT ctx, const PCPCH_ChannelInfoList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PCPCH_ChannelInfoList, pvalue);
+}
+
+static int enc_CPCH_SetInfo(rtxContext* RT_RESTRICT ctx, const CPCH_SetInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CPCH-SetInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CPCH-SetInfo");
+   /* cpch-SetID */
+   if ((uint64_t)(pvalue->cpch_SetID - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "CPCH-SetID");
+      rtxErrAddUIntParm(ctx, pvalue->cpch_SetID);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CPCH-SetID", "cpch-SetID", -1, "CPCH-SetInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->cpch_SetID, 1, 16);
+   RT_CHECK_PUT(ctx, cur, stat, "CPCH-SetID", "cpch-SetID", -1, "CPCH-SetInfo");
+   /* transportFormatSet */
+   stat = enc_TransportFormatSet(ctx, &pvalue->transportFormatSet, cur);
+   RT_CHECK(ctx, stat, 0, "transportFormatSet", -1, "CPCH-SetInfo");
+   /* tfcs */
+   stat = enc_TFCS(ctx, &pvalue->tfcs, cur);
+   RT_CHECK(ctx, stat, 0, "tfcs", -1, "CPCH-SetInfo");
+   /* ap-PreambleScramblingCode */
+   if ((uint64_t)pvalue->ap_PreambleScramblingCode > 79u) {
+      rtxErrAddStrParm(ctx, "AP-PreambleScramblingCode");
+      rtxErrAddUIntParm(ctx, pvalue->ap_PreambleScramblingCode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "AP-PreambleScramblingCode", "ap-PreambleScramblingCode", -1, "CPCH-SetInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ap_PreambleScramblingCode, 0, 79);
+   RT_CHECK_PUT(ctx, cur, stat, "AP-PreambleScramblingCode", "ap-PreambleScramblingCode", -1, "CPCH-SetInfo");
+   /* ap-AICH-ChannelisationCode */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ap_AICH_ChannelisationCode, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, "AP-AICH-ChannelisationCode", "ap-AICH-ChannelisationCode", -1, "CPCH-SetInfo");
+   /* cd-PreambleScramblingCode */
+   if ((uint64_t)pvalue->cd_PreambleScramblingCode > 79u) {
+      rtxErrAddStrParm(ctx, "CD-PreambleScramblingCode");
+      rtxErrAddUIntParm(ctx, pvalue->cd_PreambleScramblingCode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CD-PreambleScramblingCode", "cd-PreambleScramblingCode", -1, "CPCH-SetInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->cd_PreambleScramblingCode, 0, 79);
+   RT_CHECK_PUT(ctx, cur, stat, "CD-PreambleScramblingCode", "cd-PreambleScramblingCode", -1, "CPCH-SetInfo");
+   /* cd-CA-ICH-ChannelisationCode */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->cd_CA_ICH_ChannelisationCode, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, "CD-CA-ICH-ChannelisationCode", "cd-CA-ICH-ChannelisationCode", -1, "CPCH-SetInfo");
+   /* cd-AccessSlotSubchannelList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_CD_AccessSlotSubchannelList(ctx, &pvalue->cd_AccessSlotSubchannelList, cur);
+      RT_CHECK(ctx, stat, 0, "cd-AccessSlotSubchannelList", -1, "CPCH-SetInfo");
+   }
+   /* cd-SignatureCodeList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_CD_SignatureCodeList(ctx, &pvalue->cd_SignatureCodeList, cur);
+      RT_CHECK(ctx, stat, 0, "cd-SignatureCodeList", -1, "CPCH-SetInfo");
+   }
+   /* deltaPp-m */
+   if (pvalue->deltaPp_m < -10 || pvalue->deltaPp_m > 10) {
+      rtxErrAddStrParm(ctx, "DeltaPp-m");
+      rtxErrAddIntParm(ctx, pvalue->deltaPp_m);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DeltaPp-m", "deltaPp-m", -1, "CPCH-SetInfo");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->deltaPp_m, -10, 10);
+   RT_CHECK_PUT(ctx, cur, stat, "DeltaPp-m", "deltaPp-m", -1, "CPCH-SetInfo");
+   /* ul-DPCCH-SlotFormat */
+   if (pvalue->ul_DPCCH_SlotFormat > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->ul_DPCCH_SlotFormat);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UL-DPCCH-SlotFormat", "ul-DPCCH-SlotFormat", -1, "CPCH-SetInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ul_DPCCH_SlotFormat, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, "UL-DPCCH-SlotFormat", "ul-DPCCH-SlotFormat", -1, "CPCH-SetInfo");
+   /* n-StartMessage */
+   if ((uint64_t)(pvalue->n_StartMessage - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "N-StartMessage");
+      rtxErrAddUIntParm(ctx, pvalue->n_StartMessage);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "N-StartMessage", "n-StartMessage", -1, "CPCH-SetInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->n_StartMessage, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, "N-StartMessage", "n-StartMessage", -1, "CPCH-SetInfo");
+   /* n-EOT */
+   if ((uint64_t)pvalue->n_EOT > 7u) {
+      rtxErrAddStrParm(ctx, "N-EOT");
+      rtxErrAddUIntParm(ctx, pvalue->n_EOT);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "N-EOT", "n-EOT", -1, "CPCH-SetInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->n_EOT, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "N-EOT", "n-EOT", -1, "CPCH-SetInfo");
+   /* channelAssignmentActive */
+   stat = enc_ChannelAssignmentActive(ctx, &pvalue->channelAssignmentActive, cur);
+   RT_CHECK(ctx, stat, 0, "channelAssignmentActive", -1, "CPCH-SetInfo");
+   /* cpch-StatusIndicationMode */
+   if (pvalue->cpch_StatusIndicationMode > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cpch_StatusIndicationMode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "CPCH-StatusIndicationMode", "cpch-StatusIndicationMode", -1, "CPCH-SetInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->cpch_StatusIndicationMode, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "CPCH-StatusIndicationMode", "cpch-StatusIndicationMode", -1, "CPCH-SetInfo");
+   /* pcpch-ChannelInfoList */
+   stat = enc_PCPCH_ChannelInfoList(ctx, &pvalue->pcpch_ChannelInfoList, cur);
+   RT_CHECK(ctx, stat, 0, "pcpch-ChannelInfoList", -1, "CPCH-SetInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_CPCH_SetInfo(rtxContext* RT_RESTRICT ctx, const CPCH_SetInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CPCH_SetInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_CPCH_SetInfoList(rtxContext* RT_RESTRICT ctx, const CPCH_SetInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CPCH-SetInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "CPCH-SetInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "CPCH-SetInfo", (int32_t)i, "CPCH-SetInfoList");
+      stat = enc_CPCH_SetInfo(ctx, (const CPCH_SetInfo*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "CPCH-SetInfo", (int32_t)i, "CPCH-SetInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CPCH_SetInfoList(rtxContext* RT_RESTRICT ctx, const CPCH_SetInfoList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CPCH_SetInfoList, pvalue);
+}
+
+RT_MERGED_BODY int enc_CQI_DTX_Timer(rtxContext* RT_RESTRICT ctx, CQI_DTX_Timer value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "CQI-DTX-Timer");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CQI-DTX-Timer");
+   return 0;
+}
+
+int asn1PE_UMTS_CQI_DTX_Timer(rtxContext* RT_RESTRICT ctx, CQI_DTX_Timer value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CQI_DTX_Timer, value);
+}
+
+RT_MERGED_BODY int enc_CSICH_PowerOffset(rtxContext* RT_RESTRICT ctx, CSICH_PowerOffset value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value < -10 || value > 5) {
+      rtxErrAddStrParm(ctx, "CSICH-PowerOffset");
+      rtxErrAddIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "CSICH-PowerOffset");
+   }
+   stat = pe_ConsInt64At(ctx, cur, value, -10, 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CSICH-PowerOffset");
+   return 0;
+}
+
+int asn1PE_UMTS_CSICH_PowerOffset(rtxContext* RT_RESTRICT ctx, CSICH_PowerOffset value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CSICH_PowerOffset, value);
+}
+
+RT_MERGED_BODY int enc_DefaultDPCH_OffsetValueFDD(rtxContext* RT_RESTRICT ctx, DefaultDPCH_OffsetValueFDD value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 599u) {
+      rtxErrAddStrParm(ctx, "DefaultDPCH-OffsetValueFDD");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "DefaultDPCH-OffsetValueFDD");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 599);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DefaultDPCH-OffsetValueFDD");
+   return 0;
+}
+
+int asn1PE_UMTS_DefaultDPCH_OffsetValueFDD(rtxContext* RT_RESTRICT ctx, DefaultDPCH_OffsetValueFDD value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DefaultDPCH_OffsetValueFDD, value);
+}
+
+RT_MERGED_BODY int enc_DefaultDPCH_OffsetValueTDD(rtxContext* RT_RESTRICT ctx, DefaultDPCH_OffsetValueTDD value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 7u) {
+      rtxErrAddStrParm(ctx, "DefaultDPCH-OffsetValueTDD");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "DefaultDPCH-OffsetValueTDD");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DefaultDPCH-OffsetValueTDD");
+   return 0;
+}
+
+int asn1PE_UMTS_DefaultDPCH_OffsetValueTDD(rtxContext* RT_RESTRICT ctx, DefaultDPCH_OffsetValueTDD value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DefaultDPCH_OffsetValueTDD, value);
+}
+
+RT_MERGED_BODY int enc_DeltaSIR(rtxContext* RT_RESTRICT ctx, DeltaSIR value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 30u) {
+      rtxErrAddStrParm(ctx, "DeltaSIR");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "DeltaSIR");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 30);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DeltaSIR");
+   return 0;
+}
+
+int asn1PE_UMTS_DeltaSIR(rtxContext* RT_RESTRICT ctx, DeltaSIR value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DeltaSIR, value);
+}
+
+RT_MERGED_BODY int enc_TimeInfo(rtxContext* RT_RESTRICT ctx, const TimeInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TimeInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TimeInfo");
+   /* activationTime */
+   if (pvalue->m & 0x1u) {
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->activationTime, 0, 255);
+      RT_CHECK_PUT(ctx, cur, stat, "ActivationTime", "activationTime", -1, "TimeInfo");
+   }
+   /* durationTimeInfo */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)(pvalue->durationTimeInfo - 1) > 4095u) {
+         rtxErrAddStrParm(ctx, "DurationTimeInfo");
+         rtxErrAddUIntParm(ctx, pvalue->durationTimeInfo);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DurationTimeInfo", "durationTimeInfo", -1, "TimeInfo");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->durationTimeInfo, 1, 4096);
+      RT_CHECK_PUT(ctx, cur, stat, "DurationTimeInfo", "durationTimeInfo", -1, "TimeInfo");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TimeInfo(rtxContext* RT_RESTRICT ctx, const TimeInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TimeInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_CCTrChTPCList(rtxContext* RT_RESTRICT ctx, const UL_CCTrChTPCList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-CCTrChTPCList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 0, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "UL-CCTrChTPCList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "TFCS-Identity", (int32_t)i, "UL-CCTrChTPCList");
+      stat = enc_TFCS_Identity(ctx, (const TFCS_Identity*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "TFCS-Identity", (int32_t)i, "UL-CCTrChTPCList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_CCTrChTPCList(rtxContext* RT_RESTRICT ctx, const UL_CCTrChTPCList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_CCTrChTPCList, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CCTrCh(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-CCTrCh");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->tfcs_ID != 1) << 3) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-CCTrCh");
+   /* tfcs-ID */
+   if (pvalue->tfcs_ID != 1) {
+      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
+         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
+         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "DL-CCTrCh");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "DL-CCTrCh");
+   }
+   /* timeInfo */
+   stat = enc_TimeInfo(ctx, &pvalue->timeInfo, cur);
+   RT_CHECK(ctx, stat, 0, "timeInfo", -1, "DL-CCTrCh");
+   /* commonTimeslotInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo, cur);
+      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "DL-CCTrCh");
+   }
+   /* dl-CCTrCH-TimeslotsCodes */
+   if (pvalue->m & 0x2u) {
+      stat = enc_DownlinkTimeslotsCodes(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, "DL-CCTrCh");
+   }
+   /* ul-CCTrChTPCList */
+   if (pvalue->m & 0x4u) {
+      stat = enc_UL_CCTrChTPCList(ctx, &pvalue->ul_CCTrChTPCList, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrChTPCList", -1, "DL-CCTrCh");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CCTrCh(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CCTrCh, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CCTrCh_r4_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r4_tddOption_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-CCTrCH-TimeslotsCodes */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DownlinkTimeslotsCodes(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CCTrCh_r4_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r4_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CCTrCh_r4_tddOption_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CCTrCh_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r4_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-CCTrCH-TimeslotsCodes */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CCTrCh_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r4_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CCTrCh_r4_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CCTrCh_r4_tddOption(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r4_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = enc_DL_CCTrCh_r4_tddOption_tdd384(ctx, pvalue->u.tdd384, cur);
          RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
          break;
       case 2:
-         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
-         stat = asn1PE_UMTS_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
-         break;
-      case 3:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd128(ctx, pvalue->u.tdd128);
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_DL_CCTrCh_r4_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
          RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
          break;
       default:
@@ -4452,30 +1831,136 @@ int asn1PE_UMTS_UL_TimingAdvanceControl_r7_enabled_tddOption(rtxContext* RT_REST
    return 0;
 }
 
-int asn1PE_UMTS_UL_TimingAdvanceControl_r7_enabled(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r7_enabled* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_CCTrCh_r4_tddOption(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r4_tddOption* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CCTrCh_r4_tddOption, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CCTrCh_r4(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-CCTrCh-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->tfcs_ID != 1) << 2) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-CCTrCh-r4");
+   /* tfcs-ID */
+   if (pvalue->tfcs_ID != 1) {
+      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
+         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
+         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "DL-CCTrCh-r4");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "DL-CCTrCh-r4");
+   }
+   /* timeInfo */
+   stat = enc_TimeInfo(ctx, &pvalue->timeInfo, cur);
+   RT_CHECK(ctx, stat, 0, "timeInfo", -1, "DL-CCTrCh-r4");
+   /* commonTimeslotInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo, cur);
+      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "DL-CCTrCh-r4");
+   }
    /* tddOption */
-   stat = asn1PE_UMTS_UL_TimingAdvanceControl_r7_enabled_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   stat = enc_DL_CCTrCh_r4_tddOption(ctx, &pvalue->tddOption, cur);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, "DL-CCTrCh-r4");
+   /* ul-CCTrChTPCList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_UL_CCTrChTPCList(ctx, &pvalue->ul_CCTrChTPCList, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrChTPCList", -1, "DL-CCTrCh-r4");
+   }
    return 0;
 }
 
-int asn1PE_UMTS_UL_TimingAdvanceControl_r7(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r7* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_CCTrCh_r4(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CCTrCh_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CCTrCh_r7_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r7_tddOption_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-TimingAdvanceControl-r7");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UL-TimingAdvanceControl-r7");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-TimingAdvanceControl-r7");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-CCTrCH-TimeslotsCodes */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DownlinkTimeslotsCodes_r7(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CCTrCh_r7_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r7_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CCTrCh_r7_tddOption_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CCTrCh_r7_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r7_tddOption_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-CCTrCH-TimeslotsCodes */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DownlinkTimeslotsCodes_VHCR(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CCTrCh_r7_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r7_tddOption_tdd768* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CCTrCh_r7_tddOption_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CCTrCh_r7_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r7_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-CCTrCH-TimeslotsCodes */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CCTrCh_r7_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r7_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CCTrCh_r7_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CCTrCh_r7_tddOption(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r7_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = enc_DL_CCTrCh_r7_tddOption_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
          break;
       case 2:
-         if (pvalue->u.enabled == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "enabled", -1, "UL-TimingAdvanceControl-r7");
-         stat = asn1PE_UMTS_UL_TimingAdvanceControl_r7_enabled(ctx, pvalue->u.enabled);
-         RT_CHECK(ctx, stat, 0, "enabled", -1, "UL-TimingAdvanceControl-r7");
+         if (pvalue->u.tdd768 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
+         stat = enc_DL_CCTrCh_r7_tddOption_tdd768(ctx, pvalue->u.tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_DL_CCTrCh_r7_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
          break;
       default:
          break;
@@ -4483,49 +1968,431 @@ int asn1PE_UMTS_UL_TimingAdvanceControl_r7(rtxContext* RT_RESTRICT ctx, const UL
    return 0;
 }
 
-int asn1PE_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_CCTrCh_r7_tddOption(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r7_tddOption* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CCTrCh_r7_tddOption, pvalue);
+}
+
+static int enc_DL_CCTrCh_r7(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-CCTrCh-r7");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-TimingAdvance */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->tfcs_ID != 1) << 2) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-CCTrCh-r7");
+   /* tfcs-ID */
+   if (pvalue->tfcs_ID != 1) {
+      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
+         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
+         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "DL-CCTrCh-r7");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "DL-CCTrCh-r7");
+   }
+   /* timeInfo */
+   stat = enc_TimeInfo(ctx, &pvalue->timeInfo, cur);
+   RT_CHECK(ctx, stat, 0, "timeInfo", -1, "DL-CCTrCh-r7");
+   /* commonTimeslotInfo */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UL_TimingAdvanceControl_r7(ctx, &pvalue->ul_TimingAdvance);
-      RT_CHECK(ctx, stat, 0, "ul-TimingAdvance", -1, 0);
+      stat = enc_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo, cur);
+      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "DL-CCTrCh-r7");
    }
-   /* ul-CCTrCHList */
+   /* tddOption */
+   stat = enc_DL_CCTrCh_r7_tddOption(ctx, &pvalue->tddOption, cur);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, "DL-CCTrCh-r7");
+   /* ul-CCTrChTPCList */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UL_CCTrCHList_r7(ctx, &pvalue->ul_CCTrCHList);
-      RT_CHECK(ctx, stat, 0, "ul-CCTrCHList", -1, 0);
-   }
-   /* ul-CCTrCHListToRemove */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_UL_CCTrCHListToRemove(ctx, &pvalue->ul_CCTrCHListToRemove);
-      RT_CHECK(ctx, stat, 0, "ul-CCTrCHListToRemove", -1, 0);
+      stat = enc_UL_CCTrChTPCList(ctx, &pvalue->ul_CCTrChTPCList, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrChTPCList", -1, "DL-CCTrCh-r7");
    }
    return 0;
 }
 
-int asn1PE_UMTS_UL_DPCH_Info_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r7_modeSpecificInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_CCTrCh_r7(rtxContext* RT_RESTRICT ctx, const DL_CCTrCh_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CCTrCh_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CCTrChList(rtxContext* RT_RESTRICT ctx, const DL_CCTrChList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-CCTrChList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DL-CCTrChList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DL-CCTrCh", (int32_t)i, "DL-CCTrChList");
+      stat = enc_DL_CCTrCh(ctx, (const DL_CCTrCh*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DL-CCTrCh", (int32_t)i, "DL-CCTrChList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CCTrChList(rtxContext* RT_RESTRICT ctx, const DL_CCTrChList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CCTrChList, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CCTrChList_r7(rtxContext* RT_RESTRICT ctx, const DL_CCTrChList_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-CCTrChList-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DL-CCTrChList-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DL-CCTrCh-r7", (int32_t)i, "DL-CCTrChList-r7");
+      stat = enc_DL_CCTrCh_r7(ctx, (const DL_CCTrCh_r7*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DL-CCTrCh-r7", (int32_t)i, "DL-CCTrChList-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CCTrChList_r7(rtxContext* RT_RESTRICT ctx, const DL_CCTrChList_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CCTrChList_r7, pvalue);
+}
+
+static int enc_DL_CCTrChList_r4(rtxContext* RT_RESTRICT ctx, const DL_CCTrChList_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-CCTrChList-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DL-CCTrChList-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DL-CCTrCh-r4", (int32_t)i, "DL-CCTrChList-r4");
+      stat = enc_DL_CCTrCh_r4(ctx, (const DL_CCTrCh_r4*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DL-CCTrCh-r4", (int32_t)i, "DL-CCTrChList-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CCTrChList_r4(rtxContext* RT_RESTRICT ctx, const DL_CCTrChList_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CCTrChList_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CCTrChListToRemove(rtxContext* RT_RESTRICT ctx, const DL_CCTrChListToRemove* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-CCTrChListToRemove");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DL-CCTrChListToRemove");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)(pvalue->elem[i] - 1) > 7u) {
+         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "TFCS-IdentityPlain", (int32_t)i, "DL-CCTrChListToRemove");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 1, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "TFCS-IdentityPlain", "TFCS-IdentityPlain", (int32_t)i, "DL-CCTrChListToRemove");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CCTrChListToRemove(rtxContext* RT_RESTRICT ctx, const DL_CCTrChListToRemove* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CCTrChListToRemove, pvalue);
+}
+
+RT_MERGED_BODY int enc_SF512_AndCodeNumber(rtxContext* RT_RESTRICT ctx, const SF512_AndCodeNumber* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SF512-AndCodeNumber");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "SF512-AndCodeNumber");
+   if (pvalue->t - 1 > 7) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "SF512-AndCodeNumber");
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         if ((uint64_t)pvalue->u.sf4 > 3u) {
+            rtxErrAddStrParm(ctx, "sf4");
+            rtxErrAddUIntParm(ctx, pvalue->u.sf4);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "sf4", -1, "SF512-AndCodeNumber");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sf4, 0, 3);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "sf4", -1, "SF512-AndCodeNumber");
+         break;
+      case 2:
+         if ((uint64_t)pvalue->u.sf8 > 7u) {
+            rtxErrAddStrParm(ctx, "sf8");
+            rtxErrAddUIntParm(ctx, pvalue->u.sf8);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "sf8", -1, "SF512-AndCodeNumber");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sf8, 0, 7);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "sf8", -1, "SF512-AndCodeNumber");
+         break;
+      case 3:
+         if ((uint64_t)pvalue->u.sf16 > 15u) {
+            rtxErrAddStrParm(ctx, "sf16");
+            rtxErrAddUIntParm(ctx, pvalue->u.sf16);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "sf16", -1, "SF512-AndCodeNumber");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sf16, 0, 15);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "sf16", -1, "SF512-AndCodeNumber");
+         break;
+      case 4:
+         if ((uint64_t)pvalue->u.sf32 > 31u) {
+            rtxErrAddStrParm(ctx, "sf32");
+            rtxErrAddUIntParm(ctx, pvalue->u.sf32);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "sf32", -1, "SF512-AndCodeNumber");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sf32, 0, 31);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "sf32", -1, "SF512-AndCodeNumber");
+         break;
+      case 5:
+         if ((uint64_t)pvalue->u.sf64 > 63u) {
+            rtxErrAddStrParm(ctx, "sf64");
+            rtxErrAddUIntParm(ctx, pvalue->u.sf64);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "sf64", -1, "SF512-AndCodeNumber");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sf64, 0, 63);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "sf64", -1, "SF512-AndCodeNumber");
+         break;
+      case 6:
+         if ((uint64_t)pvalue->u.sf128 > 127u) {
+            rtxErrAddStrParm(ctx, "sf128");
+            rtxErrAddUIntParm(ctx, pvalue->u.sf128);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "sf128", -1, "SF512-AndCodeNumber");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sf128, 0, 127);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "sf128", -1, "SF512-AndCodeNumber");
+         break;
+      case 7:
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sf256, 0, 255);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "sf256", -1, "SF512-AndCodeNumber");
+         break;
+      case 8:
+         if ((uint64_t)pvalue->u.sf512 > 511u) {
+            rtxErrAddStrParm(ctx, "sf512");
+            rtxErrAddUIntParm(ctx, pvalue->u.sf512);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "sf512", -1, "SF512-AndCodeNumber");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.sf512, 0, 511);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "sf512", -1, "SF512-AndCodeNumber");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SF512_AndCodeNumber(rtxContext* RT_RESTRICT ctx, const SF512_AndCodeNumber* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SF512_AndCodeNumber, pvalue);
+}
+
+RT_MERGED_BODY int enc_ScramblingCodeChange(rtxContext* RT_RESTRICT ctx, ScramblingCodeChange value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "ScramblingCodeChange");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ScramblingCodeChange");
+   return 0;
+}
+
+int asn1PE_UMTS_ScramblingCodeChange(rtxContext* RT_RESTRICT ctx, ScramblingCodeChange value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ScramblingCodeChange, value);
+}
+
+static int enc_DL_ChannelisationCode(rtxContext* RT_RESTRICT ctx, const DL_ChannelisationCode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-ChannelisationCode");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-ChannelisationCode");
+   /* secondaryScramblingCode */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->secondaryScramblingCode - 1) > 14u) {
+         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
+         rtxErrAddUIntParm(ctx, pvalue->secondaryScramblingCode);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SecondaryScramblingCode", "secondaryScramblingCode", -1, "DL-ChannelisationCode");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->secondaryScramblingCode, 1, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, "DL-ChannelisationCode");
+   }
+   /* sf-AndCodeNumber */
+   stat = enc_SF512_AndCodeNumber(ctx, &pvalue->sf_AndCodeNumber, cur);
+   RT_CHECK(ctx, stat, 0, "sf-AndCodeNumber", -1, "DL-ChannelisationCode");
+   /* scramblingCodeChange */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->scramblingCodeChange > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->scramblingCodeChange);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ScramblingCodeChange", "scramblingCodeChange", -1, "DL-ChannelisationCode");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->scramblingCodeChange, 0, 1);
+      RT_CHECK_PUT(ctx, cur, stat, "ScramblingCodeChange", "scramblingCodeChange", -1, "DL-ChannelisationCode");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_ChannelisationCode(rtxContext* RT_RESTRICT ctx, const DL_ChannelisationCode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_ChannelisationCode, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_ChannelisationCodeList(rtxContext* RT_RESTRICT ctx, const DL_ChannelisationCodeList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-ChannelisationCodeList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DL-ChannelisationCodeList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DL-ChannelisationCode", (int32_t)i, "DL-ChannelisationCodeList");
+      stat = enc_DL_ChannelisationCode(ctx, (const DL_ChannelisationCode*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DL-ChannelisationCode", (int32_t)i, "DL-ChannelisationCodeList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_ChannelisationCodeList(rtxContext* RT_RESTRICT ctx, const DL_ChannelisationCodeList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_ChannelisationCodeList, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_DPCH_InfoCommon_cfnHandling_initialise(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_cfnHandling_initialise* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (pvalue->m & 0x1u) {
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->dummy, 0, 255);
+      RT_CHECK_PUT(ctx, cur, stat, "Cfntargetsfnframeoffset", "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoCommon_cfnHandling_initialise(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_cfnHandling_initialise* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoCommon_cfnHandling_initialise, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_DPCH_InfoCommon_cfnHandling(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_cfnHandling* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.initialise == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "initialise", -1, 0);
+         stat = enc_DL_DPCH_InfoCommon_cfnHandling_initialise(ctx, pvalue->u.initialise, cur);
+         RT_CHECK(ctx, stat, 0, "initialise", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoCommon_cfnHandling(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_cfnHandling* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoCommon_cfnHandling, pvalue);
+}
+
+RT_MERGED_BODY int enc_DPC_Mode(rtxContext* RT_RESTRICT ctx, DPC_Mode value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "DPC-Mode");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DPC-Mode");
+   return 0;
+}
+
+int asn1PE_UMTS_DPC_Mode(rtxContext* RT_RESTRICT ctx, DPC_Mode value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DPC_Mode, value);
+}
+
+RT_MERGED_BODY int enc_DL_DPCH_PowerControlInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_PowerControlInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* dpc-Mode */
+   if (pvalue->dpc_Mode > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->dpc_Mode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "DPC-Mode", "dpc-Mode", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dpc_Mode, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "DPC-Mode", "dpc-Mode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_PowerControlInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_PowerControlInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_PowerControlInfo_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_DPCH_PowerControlInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_PowerControlInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tpc-StepSizeTDD */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->tpc_StepSizeTDD - 1) > 2u) {
+         rtxErrAddStrParm(ctx, "TPC-StepSizeTDD");
+         rtxErrAddUIntParm(ctx, pvalue->tpc_StepSizeTDD);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TPC-StepSizeTDD", "tpc-StepSizeTDD", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tpc_StepSizeTDD, 1, 3);
+      RT_CHECK_PUT(ctx, cur, stat, "TPC-StepSizeTDD", "tpc-StepSizeTDD", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_PowerControlInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_PowerControlInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_PowerControlInfo_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_DPCH_PowerControlInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_DPCH_PowerControlInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_DL_DPCH_PowerControlInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
          RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_DL_DPCH_PowerControlInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
          RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
@@ -4534,1686 +2401,199 @@ int asn1PE_UMTS_UL_DPCH_Info_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, co
    return 0;
 }
 
-int asn1PE_UMTS_UL_DPCH_Info_r7(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r7* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_DPCH_PowerControlInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_DPCH_PowerControlInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_PowerControlInfo_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_DPCH_PowerControlInfo(rtxContext* RT_RESTRICT ctx, const DL_DPCH_PowerControlInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-Info-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DPCH-Info-r7");
-   /* ul-DPCH-PowerControlInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UL_DPCH_PowerControlInfo_r7(ctx, &pvalue->ul_DPCH_PowerControlInfo);
-      RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "UL-DPCH-Info-r7");
-   }
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-DPCH-PowerControlInfo");
    /* modeSpecificInfo */
-   stat = asn1PE_UMTS_UL_DPCH_Info_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-DPCH-Info-r7");
+   stat = enc_DL_DPCH_PowerControlInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-DPCH-PowerControlInfo");
    return 0;
 }
 
-int asn1PE_UMTS_UL_DPCH_PowerControlInfoPostFDD(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfoPostFDD* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_DPCH_PowerControlInfo(rtxContext* RT_RESTRICT ctx, const DL_DPCH_PowerControlInfo* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-PowerControlInfoPostFDD");
-   /* dpcch-PowerOffset */
-   if (pvalue->dpcch_PowerOffset < -28 || pvalue->dpcch_PowerOffset > -13) {
-      rtxErrAddStrParm(ctx, "DPCCH-PowerOffset2");
-      rtxErrAddIntParm(ctx, pvalue->dpcch_PowerOffset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "DPCCH-PowerOffset2", "dpcch-PowerOffset", -1, "UL-DPCH-PowerControlInfoPostFDD");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->dpcch_PowerOffset, -28, -13);
-   RT_CHECK(ctx, stat, "DPCCH-PowerOffset2", "dpcch-PowerOffset", -1, "UL-DPCH-PowerControlInfoPostFDD");
-   /* pc-Preamble */
-   if ((uint64_t)pvalue->pc_Preamble > 7u) {
-      rtxErrAddStrParm(ctx, "PC-Preamble");
-      rtxErrAddUIntParm(ctx, pvalue->pc_Preamble);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PC-Preamble", "pc-Preamble", -1, "UL-DPCH-PowerControlInfoPostFDD");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pc_Preamble, 0, 7);
-   RT_CHECK(ctx, stat, "PC-Preamble", "pc-Preamble", -1, "UL-DPCH-PowerControlInfoPostFDD");
-   /* sRB-delay */
-   if ((uint64_t)pvalue->sRB_delay > 7u) {
-      rtxErrAddStrParm(ctx, "SRB-delay");
-      rtxErrAddUIntParm(ctx, pvalue->sRB_delay);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "SRB-delay", "sRB-delay", -1, "UL-DPCH-PowerControlInfoPostFDD");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->sRB_delay, 0, 7);
-   RT_CHECK(ctx, stat, "SRB-delay", "sRB-delay", -1, "UL-DPCH-PowerControlInfoPostFDD");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_PowerControlInfo, pvalue);
 }
 
-int asn1PE_UMTS_UL_DPCH_InfoPostFDD(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPostFDD* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_PowerOffsetPilot_pdpdch(rtxContext* RT_RESTRICT ctx, PowerOffsetPilot_pdpdch value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-InfoPostFDD");
-   /* ul-DPCH-PowerControlInfo */
-   stat = asn1PE_UMTS_UL_DPCH_PowerControlInfoPostFDD(ctx, &pvalue->ul_DPCH_PowerControlInfo);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "UL-DPCH-InfoPostFDD");
-   /* scramblingCodeType */
-   if (pvalue->scramblingCodeType > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->scramblingCodeType);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ScramblingCodeType", "scramblingCodeType", -1, "UL-DPCH-InfoPostFDD");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->scramblingCodeType, 0, 1);
-   RT_CHECK(ctx, stat, "ScramblingCodeType", "scramblingCodeType", -1, "UL-DPCH-InfoPostFDD");
-   /* reducedScramblingCodeNumber */
-   if ((uint64_t)pvalue->reducedScramblingCodeNumber > 8191u) {
-      rtxErrAddStrParm(ctx, "ReducedScramblingCodeNumber");
-      rtxErrAddUIntParm(ctx, pvalue->reducedScramblingCodeNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "ReducedScramblingCodeNumber", "reducedScramblingCodeNumber", -1, "UL-DPCH-InfoPostFDD");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reducedScramblingCodeNumber, 0, 8191);
-   RT_CHECK(ctx, stat, "ReducedScramblingCodeNumber", "reducedScramblingCodeNumber", -1, "UL-DPCH-InfoPostFDD");
-   /* spreadingFactor */
-   if (pvalue->spreadingFactor > 6) {
-      rtxErrAddUIntParm(ctx, pvalue->spreadingFactor);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "SpreadingFactor", "spreadingFactor", -1, "UL-DPCH-InfoPostFDD");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->spreadingFactor, 0, 6);
-   RT_CHECK(ctx, stat, "SpreadingFactor", "spreadingFactor", -1, "UL-DPCH-InfoPostFDD");
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfoPostTDD(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfoPostTDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-PowerControlInfoPostTDD");
-   /* ul-TargetSIR */
-   if ((uint64_t)pvalue->ul_TargetSIR > 62u) {
-      rtxErrAddStrParm(ctx, "UL-TargetSIR");
-      rtxErrAddUIntParm(ctx, pvalue->ul_TargetSIR);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-TargetSIR", "ul-TargetSIR", -1, "UL-DPCH-PowerControlInfoPostTDD");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ul_TargetSIR, 0, 62);
-   RT_CHECK(ctx, stat, "UL-TargetSIR", "ul-TargetSIR", -1, "UL-DPCH-PowerControlInfoPostTDD");
-   /* ul-TimeslotInterference */
-   if (pvalue->ul_TimeslotInterference < -110 || pvalue->ul_TimeslotInterference > -52) {
-      rtxErrAddStrParm(ctx, "TDD-UL-Interference");
-      rtxErrAddIntParm(ctx, pvalue->ul_TimeslotInterference);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TDD-UL-Interference", "ul-TimeslotInterference", -1, "UL-DPCH-PowerControlInfoPostTDD");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->ul_TimeslotInterference, -110, -52);
-   RT_CHECK(ctx, stat, "TDD-UL-Interference", "ul-TimeslotInterference", -1, "UL-DPCH-PowerControlInfoPostTDD");
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_InfoPostTDD(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPostTDD* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-InfoPostTDD");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DPCH-InfoPostTDD");
-   /* ul-DPCH-PowerControlInfo */
-   stat = asn1PE_UMTS_UL_DPCH_PowerControlInfoPostTDD(ctx, &pvalue->ul_DPCH_PowerControlInfo);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "UL-DPCH-InfoPostTDD");
-   /* ul-TimingAdvance */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UL_TimingAdvanceControl(ctx, &pvalue->ul_TimingAdvance);
-      RT_CHECK(ctx, stat, 0, "ul-TimingAdvance", -1, "UL-DPCH-InfoPostTDD");
-   }
-   /* ul-CCTrCH-TimeslotsCodes */
-   stat = asn1PE_UMTS_UplinkTimeslotsCodes(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes);
-   RT_CHECK(ctx, stat, 0, "ul-CCTrCH-TimeslotsCodes", -1, "UL-DPCH-InfoPostTDD");
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_PowerControlInfoPostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfoPostTDD_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-PowerControlInfoPostTDD-LCR-r4");
-   /* ul-TargetSIR */
-   if ((uint64_t)pvalue->ul_TargetSIR > 62u) {
-      rtxErrAddStrParm(ctx, "UL-TargetSIR");
-      rtxErrAddUIntParm(ctx, pvalue->ul_TargetSIR);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-TargetSIR", "ul-TargetSIR", -1, "UL-DPCH-PowerControlInfoPostTDD-LCR-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ul_TargetSIR, 0, 62);
-   RT_CHECK(ctx, stat, "UL-TargetSIR", "ul-TargetSIR", -1, "UL-DPCH-PowerControlInfoPostTDD-LCR-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TimingAdvanceControl_LCR_r4_enabled(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_LCR_r4_enabled* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ul-SynchronisationParameters */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UL_SynchronisationParameters_r4(ctx, &pvalue->ul_SynchronisationParameters);
-      RT_CHECK(ctx, stat, 0, "ul-SynchronisationParameters", -1, 0);
-   }
-   /* synchronisationParameters */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_SynchronisationParameters_r4(ctx, &pvalue->synchronisationParameters);
-      RT_CHECK(ctx, stat, 0, "synchronisationParameters", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_TimingAdvanceControl_LCR_r4(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-TimingAdvanceControl-LCR-r4");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UL-TimingAdvanceControl-LCR-r4");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-TimingAdvanceControl-LCR-r4");
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.enabled == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "enabled", -1, "UL-TimingAdvanceControl-LCR-r4");
-         stat = asn1PE_UMTS_UL_TimingAdvanceControl_LCR_r4_enabled(ctx, pvalue->u.enabled);
-         RT_CHECK(ctx, stat, 0, "enabled", -1, "UL-TimingAdvanceControl-LCR-r4");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_DPCH_InfoPostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPostTDD_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-InfoPostTDD-LCR-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-DPCH-InfoPostTDD-LCR-r4");
-   /* ul-DPCH-PowerControlInfo */
-   stat = asn1PE_UMTS_UL_DPCH_PowerControlInfoPostTDD_LCR_r4(ctx, &pvalue->ul_DPCH_PowerControlInfo);
-   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "UL-DPCH-InfoPostTDD-LCR-r4");
-   /* ul-TimingAdvance */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UL_TimingAdvanceControl_LCR_r4(ctx, &pvalue->ul_TimingAdvance);
-      RT_CHECK(ctx, stat, 0, "ul-TimingAdvance", -1, "UL-DPCH-InfoPostTDD-LCR-r4");
-   }
-   /* ul-CCTrCH-TimeslotsCodes */
-   stat = asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r4(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes);
-   RT_CHECK(ctx, stat, 0, "ul-CCTrCH-TimeslotsCodes", -1, "UL-DPCH-InfoPostTDD-LCR-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_UL_EDCH_Information_ext_tdd(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_ext_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* non-ScheduledTransGrantInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_ext(ctx, &pvalue->non_ScheduledTransGrantInfo);
-      RT_CHECK(ctx, stat, 0, "non-ScheduledTransGrantInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_EDCH_Information_ext(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-EDCH-Information-ext");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UL-EDCH-Information-ext");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UL-EDCH-Information-ext");
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, "UL-EDCH-Information-ext");
-         stat = asn1PE_UMTS_UL_EDCH_Information_ext_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, "UL-EDCH-Information-ext");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_EDCH_Information_r6_mac_es_e_resetIndicator(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r6_mac_es_e_resetIndicator value)
-{
-   int stat = 0;
-   if (value > 0) {
+   if ((uint64_t)value > 24u) {
+      rtxErrAddStrParm(ctx, "PowerOffsetPilot-pdpdch");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "PowerOffsetPilot-pdpdch");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 24);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PowerOffsetPilot-pdpdch");
    return 0;
 }
 
-int asn1PE_UMTS_UL_EDCH_Information_r6(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r6* RT_RESTRICT pvalue)
+int asn1PE_UMTS_PowerOffsetPilot_pdpdch(rtxContext* RT_RESTRICT ctx, PowerOffsetPilot_pdpdch value)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-EDCH-Information-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-EDCH-Information-r6");
-   /* mac-es-e-resetIndicator */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->mac_es_e_resetIndicator > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->mac_es_e_resetIndicator);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "mac-es-e-resetIndicator", -1, "UL-EDCH-Information-r6");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mac_es_e_resetIndicator, 0, 0);
-      RT_CHECK(ctx, stat, 0, "mac-es-e-resetIndicator", -1, "UL-EDCH-Information-r6");
-   }
-   /* e-DPCCH-Info */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_E_DPCCH_Info(ctx, &pvalue->e_DPCCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-DPCCH-Info", -1, "UL-EDCH-Information-r6");
-   }
-   /* e-DPDCH-Info */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_E_DPDCH_Info(ctx, &pvalue->e_DPDCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-DPDCH-Info", -1, "UL-EDCH-Information-r6");
-   }
-   /* schedulingTransmConfiguration */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_E_DPDCH_SchedulingTransmConfiguration(ctx, &pvalue->schedulingTransmConfiguration);
-      RT_CHECK(ctx, stat, 0, "schedulingTransmConfiguration", -1, "UL-EDCH-Information-r6");
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_PowerOffsetPilot_pdpdch, value);
 }
 
-int asn1PE_UMTS_UL_EDCH_Information_r7_mac_es_e_resetIndicator(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r7_mac_es_e_resetIndicator value)
+RT_MERGED_BODY int enc_RestrictedTrCH(rtxContext* RT_RESTRICT ctx, const RestrictedTrCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RestrictedTrCH");
+   /* dl-restrictedTrCh-Type */
+   if (pvalue->dl_restrictedTrCh_Type > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->dl_restrictedTrCh_Type);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "DL-TrCH-Type", "dl-restrictedTrCh-Type", -1, "RestrictedTrCH");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UL_EDCH_Information_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* e-DPCCH-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_E_DPCCH_Info_r7(ctx, &pvalue->e_DPCCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-DPCCH-Info", -1, 0);
-   }
-   /* e-DPDCH-Info */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_E_DPDCH_Info_r7(ctx, &pvalue->e_DPDCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-DPDCH-Info", -1, 0);
-   }
-   /* schedulingTransmConfiguration */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_E_DPDCH_SchedulingTransmConfiguration(ctx, &pvalue->schedulingTransmConfiguration);
-      RT_CHECK(ctx, stat, 0, "schedulingTransmConfiguration", -1, 0);
-   }
-   /* ul-16QAM-Settings */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_UL_16QAM_Settings(ctx, &pvalue->ul_16QAM_Settings);
-      RT_CHECK(ctx, stat, 0, "ul-16QAM-Settings", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_EDCH_Information_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* e-RUCCH-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_E_RUCCH_Info(ctx, &pvalue->e_RUCCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-RUCCH-Info", -1, 0);
-   }
-   /* e-PUCH-Info */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_E_PUCH_Info(ctx, &pvalue->e_PUCH_Info);
-      RT_CHECK(ctx, stat, 0, "e-PUCH-Info", -1, 0);
-   }
-   /* non-ScheduledTransGrantInfo */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD(ctx, &pvalue->non_ScheduledTransGrantInfo);
-      RT_CHECK(ctx, stat, 0, "non-ScheduledTransGrantInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_EDCH_Information_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r7_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_UL_EDCH_Information_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_UL_EDCH_Information_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UL_EDCH_Information_r7(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UL-EDCH-Information-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UL-EDCH-Information-r7");
-   /* mac-es-e-resetIndicator */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->mac_es_e_resetIndicator > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->mac_es_e_resetIndicator);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "mac-es-e-resetIndicator", -1, "UL-EDCH-Information-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mac_es_e_resetIndicator, 0, 0);
-      RT_CHECK(ctx, stat, 0, "mac-es-e-resetIndicator", -1, "UL-EDCH-Information-r7");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_UL_EDCH_Information_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-EDCH-Information-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_SatID(rtxContext* RT_RESTRICT ctx, SatID value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 63u) {
-      rtxErrAddStrParm(ctx, "SatID");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "SatID");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 63);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SatID");
-   return 0;
-}
-
-int asn1PE_UMTS_DopplerUncertainty(rtxContext* RT_RESTRICT ctx, DopplerUncertainty value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "DopplerUncertainty");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DopplerUncertainty");
-   return 0;
-}
-
-int asn1PE_UMTS_ExtraDopplerInfo(rtxContext* RT_RESTRICT ctx, const ExtraDopplerInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ExtraDopplerInfo");
-   /* doppler1stOrder */
-   if (pvalue->doppler1stOrder < -42 || pvalue->doppler1stOrder > 21) {
-      rtxErrAddStrParm(ctx, "doppler1stOrder");
-      rtxErrAddIntParm(ctx, pvalue->doppler1stOrder);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "doppler1stOrder", -1, "ExtraDopplerInfo");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->doppler1stOrder, -42, 21);
-   RT_CHECK(ctx, stat, 0, "doppler1stOrder", -1, "ExtraDopplerInfo");
-   /* dopplerUncertainty */
-   if (pvalue->dopplerUncertainty > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->dopplerUncertainty);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "DopplerUncertainty", "dopplerUncertainty", -1, "ExtraDopplerInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dopplerUncertainty, 0, 7);
-   RT_CHECK(ctx, stat, "DopplerUncertainty", "dopplerUncertainty", -1, "ExtraDopplerInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_CodePhaseSearchWindow(rtxContext* RT_RESTRICT ctx, CodePhaseSearchWindow value)
-{
-   int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "CodePhaseSearchWindow");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CodePhaseSearchWindow");
-   return 0;
-}
-
-int asn1PE_UMTS_AzimuthAndElevation(rtxContext* RT_RESTRICT ctx, const AzimuthAndElevation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AzimuthAndElevation");
-   /* azimuth */
-   if ((uint64_t)pvalue->azimuth > 31u) {
-      rtxErrAddStrParm(ctx, "azimuth");
-      rtxErrAddUIntParm(ctx, pvalue->azimuth);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "azimuth", -1, "AzimuthAndElevation");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->azimuth, 0, 31);
-   RT_CHECK(ctx, stat, 0, "azimuth", -1, "AzimuthAndElevation");
-   /* elevation */
-   if ((uint64_t)pvalue->elevation > 7u) {
-      rtxErrAddStrParm(ctx, "elevation");
-      rtxErrAddUIntParm(ctx, pvalue->elevation);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "elevation", -1, "AzimuthAndElevation");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->elevation, 0, 7);
-   RT_CHECK(ctx, stat, 0, "elevation", -1, "AzimuthAndElevation");
-   return 0;
-}
-
-int asn1PE_UMTS_AcquisitionSatInfo(rtxContext* RT_RESTRICT ctx, const AcquisitionSatInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AcquisitionSatInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AcquisitionSatInfo");
-   /* satID */
-   if ((uint64_t)pvalue->satID > 63u) {
-      rtxErrAddStrParm(ctx, "SatID");
-      rtxErrAddUIntParm(ctx, pvalue->satID);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "SatID", "satID", -1, "AcquisitionSatInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->satID, 0, 63);
-   RT_CHECK(ctx, stat, "SatID", "satID", -1, "AcquisitionSatInfo");
-   /* doppler0thOrder */
-   if (pvalue->doppler0thOrder < -2048 || pvalue->doppler0thOrder > 2047) {
-      rtxErrAddStrParm(ctx, "doppler0thOrder");
-      rtxErrAddIntParm(ctx, pvalue->doppler0thOrder);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "doppler0thOrder", -1, "AcquisitionSatInfo");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->doppler0thOrder, -2048, 2047);
-   RT_CHECK(ctx, stat, 0, "doppler0thOrder", -1, "AcquisitionSatInfo");
-   /* extraDopplerInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ExtraDopplerInfo(ctx, &pvalue->extraDopplerInfo);
-      RT_CHECK(ctx, stat, 0, "extraDopplerInfo", -1, "AcquisitionSatInfo");
-   }
-   /* codePhase */
-   if ((uint64_t)pvalue->codePhase > 1022u) {
-      rtxErrAddStrParm(ctx, "codePhase");
-      rtxErrAddUIntParm(ctx, pvalue->codePhase);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "codePhase", -1, "AcquisitionSatInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->codePhase, 0, 1022);
-   RT_CHECK(ctx, stat, 0, "codePhase", -1, "AcquisitionSatInfo");
-   /* integerCodePhase */
-   if ((uint64_t)pvalue->integerCodePhase > 19u) {
-      rtxErrAddStrParm(ctx, "integerCodePhase");
-      rtxErrAddUIntParm(ctx, pvalue->integerCodePhase);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "integerCodePhase", -1, "AcquisitionSatInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->integerCodePhase, 0, 19);
-   RT_CHECK(ctx, stat, 0, "integerCodePhase", -1, "AcquisitionSatInfo");
-   /* gps-BitNumber */
-   if ((uint64_t)pvalue->gps_BitNumber > 3u) {
-      rtxErrAddStrParm(ctx, "gps-BitNumber");
-      rtxErrAddUIntParm(ctx, pvalue->gps_BitNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "gps-BitNumber", -1, "AcquisitionSatInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->gps_BitNumber, 0, 3);
-   RT_CHECK(ctx, stat, 0, "gps-BitNumber", -1, "AcquisitionSatInfo");
-   /* codePhaseSearchWindow */
-   if (pvalue->codePhaseSearchWindow > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->codePhaseSearchWindow);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "CodePhaseSearchWindow", "codePhaseSearchWindow", -1, "AcquisitionSatInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->codePhaseSearchWindow, 0, 15);
-   RT_CHECK(ctx, stat, "CodePhaseSearchWindow", "codePhaseSearchWindow", -1, "AcquisitionSatInfo");
-   /* azimuthAndElevation */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_AzimuthAndElevation(ctx, &pvalue->azimuthAndElevation);
-      RT_CHECK(ctx, stat, 0, "azimuthAndElevation", -1, "AcquisitionSatInfo");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AcquisitionSatInfoList(rtxContext* RT_RESTRICT ctx, const AcquisitionSatInfoList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AcquisitionSatInfoList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "AcquisitionSatInfoList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "AcquisitionSatInfo", (int32_t)i, "AcquisitionSatInfoList");
-      stat = asn1PE_UMTS_AcquisitionSatInfo(ctx, (const AcquisitionSatInfo*)node->data);
-      RT_CHECK(ctx, stat, 0, "AcquisitionSatInfo", (int32_t)i, "AcquisitionSatInfoList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AdditionalMeasurementID_List(rtxContext* RT_RESTRICT ctx, const AdditionalMeasurementID_List* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AdditionalMeasurementID-List");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "AdditionalMeasurementID-List");
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)(pvalue->elem[i] - 1) > 15u) {
-         rtxErrAddStrParm(ctx, "MeasurementIdentity");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "MeasurementIdentity", "MeasurementIdentity", (int32_t)i, "AdditionalMeasurementID-List");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 1, 16);
-      RT_CHECK(ctx, stat, "MeasurementIdentity", "MeasurementIdentity", (int32_t)i, "AdditionalMeasurementID-List");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AlmanacSatInfo(rtxContext* RT_RESTRICT ctx, const AlmanacSatInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AlmanacSatInfo");
-   /* dataID */
-   if ((uint64_t)pvalue->dataID > 3u) {
-      rtxErrAddStrParm(ctx, "dataID");
-      rtxErrAddUIntParm(ctx, pvalue->dataID);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "dataID", -1, "AlmanacSatInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dataID, 0, 3);
-   RT_CHECK(ctx, stat, 0, "dataID", -1, "AlmanacSatInfo");
-   /* satID */
-   if ((uint64_t)pvalue->satID > 63u) {
-      rtxErrAddStrParm(ctx, "SatID");
-      rtxErrAddUIntParm(ctx, pvalue->satID);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "SatID", "satID", -1, "AlmanacSatInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->satID, 0, 63);
-   RT_CHECK(ctx, stat, "SatID", "satID", -1, "AlmanacSatInfo");
-   /* e */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->e, 16, 16);
-   RT_CHECK(ctx, stat, 0, "e", -1, "AlmanacSatInfo");
-   /* t-oa */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->t_oa, 8, 8);
-   RT_CHECK(ctx, stat, 0, "t-oa", -1, "AlmanacSatInfo");
-   /* deltaI */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->deltaI, 16, 16);
-   RT_CHECK(ctx, stat, 0, "deltaI", -1, "AlmanacSatInfo");
-   /* omegaDot */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->omegaDot, 16, 16);
-   RT_CHECK(ctx, stat, 0, "omegaDot", -1, "AlmanacSatInfo");
-   /* satHealth */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->satHealth, 8, 8);
-   RT_CHECK(ctx, stat, 0, "satHealth", -1, "AlmanacSatInfo");
-   /* a-Sqrt */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->a_Sqrt, 24, 24);
-   RT_CHECK(ctx, stat, 0, "a-Sqrt", -1, "AlmanacSatInfo");
-   /* omega0 */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->omega0, 24, 24);
-   RT_CHECK(ctx, stat, 0, "omega0", -1, "AlmanacSatInfo");
-   /* m0 */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->m0, 24, 24);
-   RT_CHECK(ctx, stat, 0, "m0", -1, "AlmanacSatInfo");
-   /* omega */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->omega, 24, 24);
-   RT_CHECK(ctx, stat, 0, "omega", -1, "AlmanacSatInfo");
-   /* af0 */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->af0, 11, 11);
-   RT_CHECK(ctx, stat, 0, "af0", -1, "AlmanacSatInfo");
-   /* af1 */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->af1, 11, 11);
-   RT_CHECK(ctx, stat, 0, "af1", -1, "AlmanacSatInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_AlmanacSatInfoList(rtxContext* RT_RESTRICT ctx, const AlmanacSatInfoList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AlmanacSatInfoList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "AlmanacSatInfoList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "AlmanacSatInfo", (int32_t)i, "AlmanacSatInfoList");
-      stat = asn1PE_UMTS_AlmanacSatInfo(ctx, (const AlmanacSatInfo*)node->data);
-      RT_CHECK(ctx, stat, 0, "AlmanacSatInfo", (int32_t)i, "AlmanacSatInfoList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GANSS_SAT_Info_Almanac_SBASecef(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_SBASecef* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSS-SAT-Info-Almanac-SBASecef");
-   /* sbasAlmDataID */
-   RT_SET_SIZE(ctx, 2, 2);
-   stat = pe_BitString32(ctx, &pvalue->sbasAlmDataID, 2, 2);
-   RT_CHECK(ctx, stat, 0, "sbasAlmDataID", -1, "GANSS-SAT-Info-Almanac-SBASecef");
-   /* svID */
-   if ((uint64_t)pvalue->svID > 63u) {
-      rtxErrAddStrParm(ctx, "svID");
-      rtxErrAddUIntParm(ctx, pvalue->svID);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "svID", -1, "GANSS-SAT-Info-Almanac-SBASecef");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->svID, 0, 63);
-   RT_CHECK(ctx, stat, 0, "svID", -1, "GANSS-SAT-Info-Almanac-SBASecef");
-   /* sbasAlmHealth */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->sbasAlmHealth, 8, 8);
-   RT_CHECK(ctx, stat, 0, "sbasAlmHealth", -1, "GANSS-SAT-Info-Almanac-SBASecef");
-   /* sbasAlmXg */
-   RT_SET_SIZE(ctx, 15, 15);
-   stat = pe_BitString32(ctx, &pvalue->sbasAlmXg, 15, 15);
-   RT_CHECK(ctx, stat, 0, "sbasAlmXg", -1, "GANSS-SAT-Info-Almanac-SBASecef");
-   /* sbasAlmYg */
-   RT_SET_SIZE(ctx, 15, 15);
-   stat = pe_BitString32(ctx, &pvalue->sbasAlmYg, 15, 15);
-   RT_CHECK(ctx, stat, 0, "sbasAlmYg", -1, "GANSS-SAT-Info-Almanac-SBASecef");
-   /* sbasAlmZg */
-   RT_SET_SIZE(ctx, 9, 9);
-   stat = pe_BitString32(ctx, &pvalue->sbasAlmZg, 9, 9);
-   RT_CHECK(ctx, stat, 0, "sbasAlmZg", -1, "GANSS-SAT-Info-Almanac-SBASecef");
-   /* sbasAlmXgdot */
-   RT_SET_SIZE(ctx, 3, 3);
-   stat = pe_BitString32(ctx, &pvalue->sbasAlmXgdot, 3, 3);
-   RT_CHECK(ctx, stat, 0, "sbasAlmXgdot", -1, "GANSS-SAT-Info-Almanac-SBASecef");
-   /* sbasAlmYgDot */
-   RT_SET_SIZE(ctx, 3, 3);
-   stat = pe_BitString32(ctx, &pvalue->sbasAlmYgDot, 3, 3);
-   RT_CHECK(ctx, stat, 0, "sbasAlmYgDot", -1, "GANSS-SAT-Info-Almanac-SBASecef");
-   /* sbasAlmZgDot */
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pe_BitString32(ctx, &pvalue->sbasAlmZgDot, 4, 4);
-   RT_CHECK(ctx, stat, 0, "sbasAlmZgDot", -1, "GANSS-SAT-Info-Almanac-SBASecef");
-   /* sbasAlmTo */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->sbasAlmTo, 11, 11);
-   RT_CHECK(ctx, stat, 0, "sbasAlmTo", -1, "GANSS-SAT-Info-Almanac-SBASecef");
-   return 0;
-}
-
-int asn1PE_UMTS_GANSS_SAT_Info_Almanac_SBASecefList(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_SBASecefList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSS-SAT-Info-Almanac-SBASecefList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GANSS-SAT-Info-Almanac-SBASecefList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "GANSS-SAT-Info-Almanac-SBASecef", (int32_t)i, "GANSS-SAT-Info-Almanac-SBASecefList");
-      stat = asn1PE_UMTS_GANSS_SAT_Info_Almanac_SBASecef(ctx, (const GANSS_SAT_Info_Almanac_SBASecef*)node->data);
-      RT_CHECK(ctx, stat, 0, "GANSS-SAT-Info-Almanac-SBASecef", (int32_t)i, "GANSS-SAT-Info-Almanac-SBASecefList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ALM_ECEFsbasAlmanacSet(rtxContext* RT_RESTRICT ctx, const ALM_ECEFsbasAlmanacSet* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ALM-ECEFsbasAlmanacSet");
-   /* sat-info-SBASecefList */
-   stat = asn1PE_UMTS_GANSS_SAT_Info_Almanac_SBASecefList(ctx, &pvalue->sat_info_SBASecefList);
-   RT_CHECK(ctx, stat, 0, "sat-info-SBASecefList", -1, "ALM-ECEFsbasAlmanacSet");
-   return 0;
-}
-
-int asn1PE_UMTS_GANSS_SAT_Info_Almanac_GLOkp(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_GLOkp* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSS-SAT-Info-Almanac-GLOkp");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSS-SAT-Info-Almanac-GLOkp");
-   /* gloAlmNA */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->gloAlmNA, 11, 11);
-   RT_CHECK(ctx, stat, 0, "gloAlmNA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
-   /* gloAlmnA */
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pe_BitString32(ctx, &pvalue->gloAlmnA, 5, 5);
-   RT_CHECK(ctx, stat, 0, "gloAlmnA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
-   /* gloAlmHA */
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pe_BitString32(ctx, &pvalue->gloAlmHA, 5, 5);
-   RT_CHECK(ctx, stat, 0, "gloAlmHA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
-   /* gloAlmLambdaA */
-   RT_SET_SIZE(ctx, 21, 21);
-   stat = pe_BitString32(ctx, &pvalue->gloAlmLambdaA, 21, 21);
-   RT_CHECK(ctx, stat, 0, "gloAlmLambdaA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
-   /* gloAlmTlambdaA */
-   RT_SET_SIZE(ctx, 21, 21);
-   stat = pe_BitString32(ctx, &pvalue->gloAlmTlambdaA, 21, 21);
-   RT_CHECK(ctx, stat, 0, "gloAlmTlambdaA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
-   /* gloAlmDeltaIA */
-   RT_SET_SIZE(ctx, 18, 18);
-   stat = pe_BitString32(ctx, &pvalue->gloAlmDeltaIA, 18, 18);
-   RT_CHECK(ctx, stat, 0, "gloAlmDeltaIA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
-   /* gloAkmDeltaTA */
-   RT_SET_SIZE(ctx, 22, 22);
-   stat = pe_BitString32(ctx, &pvalue->gloAkmDeltaTA, 22, 22);
-   RT_CHECK(ctx, stat, 0, "gloAkmDeltaTA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
-   /* gloAlmDeltaTdotA */
-   RT_SET_SIZE(ctx, 7, 7);
-   stat = pe_BitString32(ctx, &pvalue->gloAlmDeltaTdotA, 7, 7);
-   RT_CHECK(ctx, stat, 0, "gloAlmDeltaTdotA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
-   /* gloAlmEpsilonA */
-   RT_SET_SIZE(ctx, 15, 15);
-   stat = pe_BitString32(ctx, &pvalue->gloAlmEpsilonA, 15, 15);
-   RT_CHECK(ctx, stat, 0, "gloAlmEpsilonA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
-   /* gloAlmOmegaA */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->gloAlmOmegaA, 16, 16);
-   RT_CHECK(ctx, stat, 0, "gloAlmOmegaA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
-   /* gloAlmTauA */
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pe_BitString32(ctx, &pvalue->gloAlmTauA, 10, 10);
-   RT_CHECK(ctx, stat, 0, "gloAlmTauA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
-   /* gloAlmCA */
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pe_BitString32(ctx, &pvalue->gloAlmCA, 1, 1);
-   RT_CHECK(ctx, stat, 0, "gloAlmCA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
-   /* gloAlmMA */
-   if (pvalue->m & 0x1u) {
-      RT_SET_SIZE(ctx, 2, 2);
-      stat = pe_BitString32(ctx, &pvalue->gloAlmMA, 2, 2);
-      RT_CHECK(ctx, stat, 0, "gloAlmMA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GANSS_SAT_Info_Almanac_GLOkpList(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_GLOkpList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSS-SAT-Info-Almanac-GLOkpList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GANSS-SAT-Info-Almanac-GLOkpList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "GANSS-SAT-Info-Almanac-GLOkp", (int32_t)i, "GANSS-SAT-Info-Almanac-GLOkpList");
-      stat = asn1PE_UMTS_GANSS_SAT_Info_Almanac_GLOkp(ctx, (const GANSS_SAT_Info_Almanac_GLOkp*)node->data);
-      RT_CHECK(ctx, stat, 0, "GANSS-SAT-Info-Almanac-GLOkp", (int32_t)i, "GANSS-SAT-Info-Almanac-GLOkpList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ALM_GlonassAlmanacSet(rtxContext* RT_RESTRICT ctx, const ALM_GlonassAlmanacSet* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ALM-GlonassAlmanacSet");
-   /* sat-info-GLOkpList */
-   stat = asn1PE_UMTS_GANSS_SAT_Info_Almanac_GLOkpList(ctx, &pvalue->sat_info_GLOkpList);
-   RT_CHECK(ctx, stat, 0, "sat-info-GLOkpList", -1, "ALM-GlonassAlmanacSet");
-   return 0;
-}
-
-int asn1PE_UMTS_GANSS_SAT_Info_Almanac_Kp(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_Kp* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSS-SAT-Info-Almanac-Kp");
-   /* svId */
-   if ((uint64_t)pvalue->svId > 63u) {
-      rtxErrAddStrParm(ctx, "svId");
-      rtxErrAddUIntParm(ctx, pvalue->svId);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "svId", -1, "GANSS-SAT-Info-Almanac-Kp");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->svId, 0, 63);
-   RT_CHECK(ctx, stat, 0, "svId", -1, "GANSS-SAT-Info-Almanac-Kp");
-   /* ganss-alm-e */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->ganss_alm_e, 11, 11);
-   RT_CHECK(ctx, stat, 0, "ganss-alm-e", -1, "GANSS-SAT-Info-Almanac-Kp");
-   /* ganss-delta-I-alm */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->ganss_delta_I_alm, 11, 11);
-   RT_CHECK(ctx, stat, 0, "ganss-delta-I-alm", -1, "GANSS-SAT-Info-Almanac-Kp");
-   /* ganss-omegadot-alm */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->ganss_omegadot_alm, 11, 11);
-   RT_CHECK(ctx, stat, 0, "ganss-omegadot-alm", -1, "GANSS-SAT-Info-Almanac-Kp");
-   /* ganss-svhealth-alm */
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pe_BitString32(ctx, &pvalue->ganss_svhealth_alm, 4, 4);
-   RT_CHECK(ctx, stat, 0, "ganss-svhealth-alm", -1, "GANSS-SAT-Info-Almanac-Kp");
-   /* ganss-delta-a-sqrt-alm */
-   RT_SET_SIZE(ctx, 17, 17);
-   stat = pe_BitString32(ctx, &pvalue->ganss_delta_a_sqrt_alm, 17, 17);
-   RT_CHECK(ctx, stat, 0, "ganss-delta-a-sqrt-alm", -1, "GANSS-SAT-Info-Almanac-Kp");
-   /* ganss-omegazero-alm */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->ganss_omegazero_alm, 16, 16);
-   RT_CHECK(ctx, stat, 0, "ganss-omegazero-alm", -1, "GANSS-SAT-Info-Almanac-Kp");
-   /* ganss-m-zero-alm */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->ganss_m_zero_alm, 16, 16);
-   RT_CHECK(ctx, stat, 0, "ganss-m-zero-alm", -1, "GANSS-SAT-Info-Almanac-Kp");
-   /* ganss-omega-alm */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->ganss_omega_alm, 16, 16);
-   RT_CHECK(ctx, stat, 0, "ganss-omega-alm", -1, "GANSS-SAT-Info-Almanac-Kp");
-   /* ganss-af-zero-alm */
-   RT_SET_SIZE(ctx, 14, 14);
-   stat = pe_BitString32(ctx, &pvalue->ganss_af_zero_alm, 14, 14);
-   RT_CHECK(ctx, stat, 0, "ganss-af-zero-alm", -1, "GANSS-SAT-Info-Almanac-Kp");
-   /* ganss-af-one-alm */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->ganss_af_one_alm, 11, 11);
-   RT_CHECK(ctx, stat, 0, "ganss-af-one-alm", -1, "GANSS-SAT-Info-Almanac-Kp");
-   return 0;
-}
-
-int asn1PE_UMTS_GANSS_SAT_Info_Almanac_KpList(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_KpList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSS-SAT-Info-Almanac-KpList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GANSS-SAT-Info-Almanac-KpList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "GANSS-SAT-Info-Almanac-Kp", (int32_t)i, "GANSS-SAT-Info-Almanac-KpList");
-      stat = asn1PE_UMTS_GANSS_SAT_Info_Almanac_Kp(ctx, (const GANSS_SAT_Info_Almanac_Kp*)node->data);
-      RT_CHECK(ctx, stat, 0, "GANSS-SAT-Info-Almanac-Kp", (int32_t)i, "GANSS-SAT-Info-Almanac-KpList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ALM_keplerianParameters(rtxContext* RT_RESTRICT ctx, const ALM_keplerianParameters* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ALM-keplerianParameters");
-   /* t-oa */
-   if ((uint64_t)pvalue->t_oa > 147u) {
-      rtxErrAddStrParm(ctx, "t-oa");
-      rtxErrAddUIntParm(ctx, pvalue->t_oa);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "t-oa", -1, "ALM-keplerianParameters");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->t_oa, 0, 147);
-   RT_CHECK(ctx, stat, 0, "t-oa", -1, "ALM-keplerianParameters");
-   /* iod-a */
-   if ((uint64_t)pvalue->iod_a > 3u) {
-      rtxErrAddStrParm(ctx, "iod-a");
-      rtxErrAddUIntParm(ctx, pvalue->iod_a);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "iod-a", -1, "ALM-keplerianParameters");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->iod_a, 0, 3);
-   RT_CHECK(ctx, stat, 0, "iod-a", -1, "ALM-keplerianParameters");
-   /* sat-info-kpList */
-   stat = asn1PE_UMTS_GANSS_SAT_Info_Almanac_KpList(ctx, &pvalue->sat_info_kpList);
-   RT_CHECK(ctx, stat, 0, "sat-info-kpList", -1, "ALM-keplerianParameters");
-   return 0;
-}
-
-int asn1PE_UMTS_GANSS_SAT_Info_Almanac_MIDIkp(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_MIDIkp* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSS-SAT-Info-Almanac-MIDIkp");
-   /* svID */
-   if ((uint64_t)pvalue->svID > 63u) {
-      rtxErrAddStrParm(ctx, "svID");
-      rtxErrAddUIntParm(ctx, pvalue->svID);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "svID", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->svID, 0, 63);
-   RT_CHECK(ctx, stat, 0, "svID", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
-   /* midiAlmE */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->midiAlmE, 11, 11);
-   RT_CHECK(ctx, stat, 0, "midiAlmE", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
-   /* midiAlmDeltaI */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->midiAlmDeltaI, 11, 11);
-   RT_CHECK(ctx, stat, 0, "midiAlmDeltaI", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
-   /* midiAlmOmegaDot */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->midiAlmOmegaDot, 11, 11);
-   RT_CHECK(ctx, stat, 0, "midiAlmOmegaDot", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
-   /* midiAlmSqrtA */
-   RT_SET_SIZE(ctx, 17, 17);
-   stat = pe_BitString32(ctx, &pvalue->midiAlmSqrtA, 17, 17);
-   RT_CHECK(ctx, stat, 0, "midiAlmSqrtA", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
-   /* midiAlmOmega0 */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->midiAlmOmega0, 16, 16);
-   RT_CHECK(ctx, stat, 0, "midiAlmOmega0", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
-   /* midiAlmOmega */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->midiAlmOmega, 16, 16);
-   RT_CHECK(ctx, stat, 0, "midiAlmOmega", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
-   /* midiAlmMo */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->midiAlmMo, 16, 16);
-   RT_CHECK(ctx, stat, 0, "midiAlmMo", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
-   /* midiAlmaf0 */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->midiAlmaf0, 11, 11);
-   RT_CHECK(ctx, stat, 0, "midiAlmaf0", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
-   /* midiAlmaf1 */
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pe_BitString32(ctx, &pvalue->midiAlmaf1, 10, 10);
-   RT_CHECK(ctx, stat, 0, "midiAlmaf1", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
-   /* midiAlmL1Health */
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pe_BitString32(ctx, &pvalue->midiAlmL1Health, 1, 1);
-   RT_CHECK(ctx, stat, 0, "midiAlmL1Health", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
-   /* midiAlmL2Health */
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pe_BitString32(ctx, &pvalue->midiAlmL2Health, 1, 1);
-   RT_CHECK(ctx, stat, 0, "midiAlmL2Health", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
-   /* midiAlmL5Health */
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pe_BitString32(ctx, &pvalue->midiAlmL5Health, 1, 1);
-   RT_CHECK(ctx, stat, 0, "midiAlmL5Health", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
-   return 0;
-}
-
-int asn1PE_UMTS_GANSS_SAT_Info_Almanac_MIDIkpList(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_MIDIkpList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSS-SAT-Info-Almanac-MIDIkpList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GANSS-SAT-Info-Almanac-MIDIkpList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "GANSS-SAT-Info-Almanac-MIDIkp", (int32_t)i, "GANSS-SAT-Info-Almanac-MIDIkpList");
-      stat = asn1PE_UMTS_GANSS_SAT_Info_Almanac_MIDIkp(ctx, (const GANSS_SAT_Info_Almanac_MIDIkp*)node->data);
-      RT_CHECK(ctx, stat, 0, "GANSS-SAT-Info-Almanac-MIDIkp", (int32_t)i, "GANSS-SAT-Info-Almanac-MIDIkpList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ALM_MidiAlmanacSet(rtxContext* RT_RESTRICT ctx, const ALM_MidiAlmanacSet* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ALM-MidiAlmanacSet");
-   /* t-oa */
-   if ((uint64_t)pvalue->t_oa > 147u) {
-      rtxErrAddStrParm(ctx, "t-oa");
-      rtxErrAddUIntParm(ctx, pvalue->t_oa);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "t-oa", -1, "ALM-MidiAlmanacSet");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->t_oa, 0, 147);
-   RT_CHECK(ctx, stat, 0, "t-oa", -1, "ALM-MidiAlmanacSet");
-   /* sat-info-MIDIkpList */
-   stat = asn1PE_UMTS_GANSS_SAT_Info_Almanac_MIDIkpList(ctx, &pvalue->sat_info_MIDIkpList);
-   RT_CHECK(ctx, stat, 0, "sat-info-MIDIkpList", -1, "ALM-MidiAlmanacSet");
-   return 0;
-}
-
-int asn1PE_UMTS_GANSS_SAT_Info_Almanac_NAVkp(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_NAVkp* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSS-SAT-Info-Almanac-NAVkp");
-   /* svID */
-   if ((uint64_t)pvalue->svID > 63u) {
-      rtxErrAddStrParm(ctx, "svID");
-      rtxErrAddUIntParm(ctx, pvalue->svID);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "svID", -1, "GANSS-SAT-Info-Almanac-NAVkp");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->svID, 0, 63);
-   RT_CHECK(ctx, stat, 0, "svID", -1, "GANSS-SAT-Info-Almanac-NAVkp");
-   /* navAlmE */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->navAlmE, 16, 16);
-   RT_CHECK(ctx, stat, 0, "navAlmE", -1, "GANSS-SAT-Info-Almanac-NAVkp");
-   /* navAlmDeltaI */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->navAlmDeltaI, 16, 16);
-   RT_CHECK(ctx, stat, 0, "navAlmDeltaI", -1, "GANSS-SAT-Info-Almanac-NAVkp");
-   /* navAlmOMEGADOT */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->navAlmOMEGADOT, 16, 16);
-   RT_CHECK(ctx, stat, 0, "navAlmOMEGADOT", -1, "GANSS-SAT-Info-Almanac-NAVkp");
-   /* navAlmSVHealth */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->navAlmSVHealth, 8, 8);
-   RT_CHECK(ctx, stat, 0, "navAlmSVHealth", -1, "GANSS-SAT-Info-Almanac-NAVkp");
-   /* navAlmSqrtA */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->navAlmSqrtA, 24, 24);
-   RT_CHECK(ctx, stat, 0, "navAlmSqrtA", -1, "GANSS-SAT-Info-Almanac-NAVkp");
-   /* navAlmOMEGAo */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->navAlmOMEGAo, 24, 24);
-   RT_CHECK(ctx, stat, 0, "navAlmOMEGAo", -1, "GANSS-SAT-Info-Almanac-NAVkp");
-   /* navAlmOmega */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->navAlmOmega, 24, 24);
-   RT_CHECK(ctx, stat, 0, "navAlmOmega", -1, "GANSS-SAT-Info-Almanac-NAVkp");
-   /* navAlmMo */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->navAlmMo, 24, 24);
-   RT_CHECK(ctx, stat, 0, "navAlmMo", -1, "GANSS-SAT-Info-Almanac-NAVkp");
-   /* navAlmaf0 */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->navAlmaf0, 11, 11);
-   RT_CHECK(ctx, stat, 0, "navAlmaf0", -1, "GANSS-SAT-Info-Almanac-NAVkp");
-   /* navAlmaf1 */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->navAlmaf1, 11, 11);
-   RT_CHECK(ctx, stat, 0, "navAlmaf1", -1, "GANSS-SAT-Info-Almanac-NAVkp");
-   return 0;
-}
-
-int asn1PE_UMTS_GANSS_SAT_Info_Almanac_NAVkpList(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_NAVkpList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSS-SAT-Info-Almanac-NAVkpList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GANSS-SAT-Info-Almanac-NAVkpList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "GANSS-SAT-Info-Almanac-NAVkp", (int32_t)i, "GANSS-SAT-Info-Almanac-NAVkpList");
-      stat = asn1PE_UMTS_GANSS_SAT_Info_Almanac_NAVkp(ctx, (const GANSS_SAT_Info_Almanac_NAVkp*)node->data);
-      RT_CHECK(ctx, stat, 0, "GANSS-SAT-Info-Almanac-NAVkp", (int32_t)i, "GANSS-SAT-Info-Almanac-NAVkpList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ALM_NAVKeplerianSet(rtxContext* RT_RESTRICT ctx, const ALM_NAVKeplerianSet* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ALM-NAVKeplerianSet");
-   /* t-oa */
-   if ((uint64_t)pvalue->t_oa > 147u) {
-      rtxErrAddStrParm(ctx, "t-oa");
-      rtxErrAddUIntParm(ctx, pvalue->t_oa);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "t-oa", -1, "ALM-NAVKeplerianSet");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->t_oa, 0, 147);
-   RT_CHECK(ctx, stat, 0, "t-oa", -1, "ALM-NAVKeplerianSet");
-   /* sat-info-NAVkpList */
-   stat = asn1PE_UMTS_GANSS_SAT_Info_Almanac_NAVkpList(ctx, &pvalue->sat_info_NAVkpList);
-   RT_CHECK(ctx, stat, 0, "sat-info-NAVkpList", -1, "ALM-NAVKeplerianSet");
-   return 0;
-}
-
-int asn1PE_UMTS_GANSS_SAT_Info_Almanac_REDkp(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_REDkp* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSS-SAT-Info-Almanac-REDkp");
-   /* svID */
-   if ((uint64_t)pvalue->svID > 63u) {
-      rtxErrAddStrParm(ctx, "svID");
-      rtxErrAddUIntParm(ctx, pvalue->svID);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "svID", -1, "GANSS-SAT-Info-Almanac-REDkp");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->svID, 0, 63);
-   RT_CHECK(ctx, stat, 0, "svID", -1, "GANSS-SAT-Info-Almanac-REDkp");
-   /* redAlmDeltaA */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->redAlmDeltaA, 8, 8);
-   RT_CHECK(ctx, stat, 0, "redAlmDeltaA", -1, "GANSS-SAT-Info-Almanac-REDkp");
-   /* redAlmOmega0 */
-   RT_SET_SIZE(ctx, 7, 7);
-   stat = pe_BitString32(ctx, &pvalue->redAlmOmega0, 7, 7);
-   RT_CHECK(ctx, stat, 0, "redAlmOmega0", -1, "GANSS-SAT-Info-Almanac-REDkp");
-   /* redAlmPhi0 */
-   RT_SET_SIZE(ctx, 7, 7);
-   stat = pe_BitString32(ctx, &pvalue->redAlmPhi0, 7, 7);
-   RT_CHECK(ctx, stat, 0, "redAlmPhi0", -1, "GANSS-SAT-Info-Almanac-REDkp");
-   /* redAlmL1Health */
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pe_BitString32(ctx, &pvalue->redAlmL1Health, 1, 1);
-   RT_CHECK(ctx, stat, 0, "redAlmL1Health", -1, "GANSS-SAT-Info-Almanac-REDkp");
-   /* redAlmL2Health */
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pe_BitString32(ctx, &pvalue->redAlmL2Health, 1, 1);
-   RT_CHECK(ctx, stat, 0, "redAlmL2Health", -1, "GANSS-SAT-Info-Almanac-REDkp");
-   /* redAlmL5Health */
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pe_BitString32(ctx, &pvalue->redAlmL5Health, 1, 1);
-   RT_CHECK(ctx, stat, 0, "redAlmL5Health", -1, "GANSS-SAT-Info-Almanac-REDkp");
-   return 0;
-}
-
-int asn1PE_UMTS_GANSS_SAT_Info_Almanac_REDkpList(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_REDkpList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSS-SAT-Info-Almanac-REDkpList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GANSS-SAT-Info-Almanac-REDkpList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "GANSS-SAT-Info-Almanac-REDkp", (int32_t)i, "GANSS-SAT-Info-Almanac-REDkpList");
-      stat = asn1PE_UMTS_GANSS_SAT_Info_Almanac_REDkp(ctx, (const GANSS_SAT_Info_Almanac_REDkp*)node->data);
-      RT_CHECK(ctx, stat, 0, "GANSS-SAT-Info-Almanac-REDkp", (int32_t)i, "GANSS-SAT-Info-Almanac-REDkpList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ALM_ReducedKeplerianSet(rtxContext* RT_RESTRICT ctx, const ALM_ReducedKeplerianSet* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ALM-ReducedKeplerianSet");
-   /* t-oa */
-   if ((uint64_t)pvalue->t_oa > 147u) {
-      rtxErrAddStrParm(ctx, "t-oa");
-      rtxErrAddUIntParm(ctx, pvalue->t_oa);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "t-oa", -1, "ALM-ReducedKeplerianSet");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->t_oa, 0, 147);
-   RT_CHECK(ctx, stat, 0, "t-oa", -1, "ALM-ReducedKeplerianSet");
-   /* sat-info-REDkpList */
-   stat = asn1PE_UMTS_GANSS_SAT_Info_Almanac_REDkpList(ctx, &pvalue->sat_info_REDkpList);
-   RT_CHECK(ctx, stat, 0, "sat-info-REDkpList", -1, "ALM-ReducedKeplerianSet");
-   return 0;
-}
-
-int asn1PE_UMTS_AuxInfoGANSS_ID1_element(rtxContext* RT_RESTRICT ctx, const AuxInfoGANSS_ID1_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AuxInfoGANSS-ID1-element");
-   /* svID */
-   if ((uint64_t)pvalue->svID > 63u) {
-      rtxErrAddStrParm(ctx, "svID");
-      rtxErrAddUIntParm(ctx, pvalue->svID);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "svID", -1, "AuxInfoGANSS-ID1-element");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->svID, 0, 63);
-   RT_CHECK(ctx, stat, 0, "svID", -1, "AuxInfoGANSS-ID1-element");
-   /* signalsAvailable */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->signalsAvailable, 8, 8);
-   RT_CHECK(ctx, stat, 0, "signalsAvailable", -1, "AuxInfoGANSS-ID1-element");
-   return 0;
-}
-
-int asn1PE_UMTS_AuxInfoGANSS_ID1(rtxContext* RT_RESTRICT ctx, const AuxInfoGANSS_ID1* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AuxInfoGANSS-ID1");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "AuxInfoGANSS-ID1");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "AuxInfoGANSS-ID1-element", (int32_t)i, "AuxInfoGANSS-ID1");
-      stat = asn1PE_UMTS_AuxInfoGANSS_ID1_element(ctx, (const AuxInfoGANSS_ID1_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "AuxInfoGANSS-ID1-element", (int32_t)i, "AuxInfoGANSS-ID1");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AuxInfoGANSS_ID3_element(rtxContext* RT_RESTRICT ctx, const AuxInfoGANSS_ID3_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AuxInfoGANSS-ID3-element");
-   /* svID */
-   if ((uint64_t)pvalue->svID > 63u) {
-      rtxErrAddStrParm(ctx, "svID");
-      rtxErrAddUIntParm(ctx, pvalue->svID);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "svID", -1, "AuxInfoGANSS-ID3-element");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->svID, 0, 63);
-   RT_CHECK(ctx, stat, 0, "svID", -1, "AuxInfoGANSS-ID3-element");
-   /* signalsAvailable */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->signalsAvailable, 8, 8);
-   RT_CHECK(ctx, stat, 0, "signalsAvailable", -1, "AuxInfoGANSS-ID3-element");
-   /* channelNumber */
-   if (pvalue->channelNumber < -7 || pvalue->channelNumber > 13) {
-      rtxErrAddStrParm(ctx, "channelNumber");
-      rtxErrAddIntParm(ctx, pvalue->channelNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "channelNumber", -1, "AuxInfoGANSS-ID3-element");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->channelNumber, -7, 13);
-   RT_CHECK(ctx, stat, 0, "channelNumber", -1, "AuxInfoGANSS-ID3-element");
-   return 0;
-}
-
-int asn1PE_UMTS_AuxInfoGANSS_ID3(rtxContext* RT_RESTRICT ctx, const AuxInfoGANSS_ID3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AuxInfoGANSS-ID3");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "AuxInfoGANSS-ID3");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "AuxInfoGANSS-ID3-element", (int32_t)i, "AuxInfoGANSS-ID3");
-      stat = asn1PE_UMTS_AuxInfoGANSS_ID3_element(ctx, (const AuxInfoGANSS_ID3_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "AuxInfoGANSS-ID3-element", (int32_t)i, "AuxInfoGANSS-ID3");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AverageRLC_BufferPayload(rtxContext* RT_RESTRICT ctx, AverageRLC_BufferPayload value)
-{
-   int stat = 0;
-   if (value > 31) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "AverageRLC-BufferPayload");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AverageRLC-BufferPayload");
-   return 0;
-}
-
-int asn1PE_UMTS_BadSatList_element(rtxContext* RT_RESTRICT ctx, BadSatList_element value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 63u) {
-      rtxErrAddStrParm(ctx, 0);
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 63);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_BadSatList(rtxContext* RT_RESTRICT ctx, const BadSatList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "BadSatList");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "BadSatList");
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)pvalue->elem[i] > 63u) {
-         rtxErrAddStrParm(ctx, "element");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "element", (int32_t)i, "BadSatList");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 63);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "BadSatList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DL_TransportChannelBLER(rtxContext* RT_RESTRICT ctx, DL_TransportChannelBLER value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 63u) {
-      rtxErrAddStrParm(ctx, "DL-TransportChannelBLER");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DL-TransportChannelBLER");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 63);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DL-TransportChannelBLER");
-   return 0;
-}
-
-int asn1PE_UMTS_BLER_MeasurementResults(rtxContext* RT_RESTRICT ctx, const BLER_MeasurementResults* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "BLER-MeasurementResults");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "BLER-MeasurementResults");
-   /* transportChannelIdentity */
-   if ((uint64_t)(pvalue->transportChannelIdentity - 1) > 31u) {
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dl_restrictedTrCh_Type, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "DL-TrCH-Type", "dl-restrictedTrCh-Type", -1, "RestrictedTrCH");
+   /* restrictedDL-TrCH-Identity */
+   if ((uint64_t)(pvalue->restrictedDL_TrCH_Identity - 1) > 31u) {
       rtxErrAddStrParm(ctx, "TransportChannelIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->transportChannelIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "transportChannelIdentity", -1, "BLER-MeasurementResults");
+      rtxErrAddUIntParm(ctx, pvalue->restrictedDL_TrCH_Identity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportChannelIdentity", "restrictedDL-TrCH-Identity", -1, "RestrictedTrCH");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->transportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, "BLER-MeasurementResults");
-   /* dl-TransportChannelBLER */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->dl_TransportChannelBLER > 63u) {
-         rtxErrAddStrParm(ctx, "DL-TransportChannelBLER");
-         rtxErrAddUIntParm(ctx, pvalue->dl_TransportChannelBLER);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DL-TransportChannelBLER", "dl-TransportChannelBLER", -1, "BLER-MeasurementResults");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dl_TransportChannelBLER, 0, 63);
-      RT_CHECK(ctx, stat, "DL-TransportChannelBLER", "dl-TransportChannelBLER", -1, "BLER-MeasurementResults");
-   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->restrictedDL_TrCH_Identity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "TransportChannelIdentity", "restrictedDL-TrCH-Identity", -1, "RestrictedTrCH");
+   /* allowedTFIList */
+   stat = enc_AllowedTFI_List(ctx, &pvalue->allowedTFIList, cur);
+   RT_CHECK(ctx, stat, 0, "allowedTFIList", -1, "RestrictedTrCH");
    return 0;
 }
 
-int asn1PE_UMTS_BLER_MeasurementResultsList(rtxContext* RT_RESTRICT ctx, const BLER_MeasurementResultsList* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RestrictedTrCH(rtxContext* RT_RESTRICT ctx, const RestrictedTrCH* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RestrictedTrCH, pvalue);
+}
+
+RT_MERGED_BODY int enc_RestrictedTrCH_InfoList(rtxContext* RT_RESTRICT ctx, const RestrictedTrCH_InfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "BLER-MeasurementResultsList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RestrictedTrCH-InfoList");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "BLER-MeasurementResultsList");
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RestrictedTrCH-InfoList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "BLER-MeasurementResults", (int32_t)i, "BLER-MeasurementResultsList");
-      stat = asn1PE_UMTS_BLER_MeasurementResults(ctx, (const BLER_MeasurementResults*)node->data);
-      RT_CHECK(ctx, stat, 0, "BLER-MeasurementResults", (int32_t)i, "BLER-MeasurementResultsList");
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RestrictedTrCH", (int32_t)i, "RestrictedTrCH-InfoList");
+      stat = enc_RestrictedTrCH(ctx, (const RestrictedTrCH*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RestrictedTrCH", (int32_t)i, "RestrictedTrCH-InfoList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_BLER_TransChIdList(rtxContext* RT_RESTRICT ctx, const BLER_TransChIdList* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RestrictedTrCH_InfoList(rtxContext* RT_RESTRICT ctx, const RestrictedTrCH_InfoList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RestrictedTrCH_InfoList, pvalue);
+}
+
+RT_MERGED_BODY int enc_Dl_rate_matching_restriction(rtxContext* RT_RESTRICT ctx, const Dl_rate_matching_restriction* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "BLER-TransChIdList");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "BLER-TransChIdList");
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)(pvalue->elem[i] - 1) > 31u) {
-         rtxErrAddStrParm(ctx, "TransportChannelIdentity");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "TransportChannelIdentity", (int32_t)i, "BLER-TransChIdList");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 1, 32);
-      RT_CHECK(ctx, stat, "TransportChannelIdentity", "TransportChannelIdentity", (int32_t)i, "BLER-TransChIdList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Dl-rate-matching-restriction");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Dl-rate-matching-restriction");
+   /* restrictedTrCH-InfoList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_RestrictedTrCH_InfoList(ctx, &pvalue->restrictedTrCH_InfoList, cur);
+      RT_CHECK(ctx, stat, 0, "restrictedTrCH-InfoList", -1, "Dl-rate-matching-restriction");
    }
    return 0;
 }
 
-int asn1PE_UMTS_BSIC_VerificationRequired(rtxContext* RT_RESTRICT ctx, BSIC_VerificationRequired value)
+int asn1PE_UMTS_Dl_rate_matching_restriction(rtxContext* RT_RESTRICT ctx, const Dl_rate_matching_restriction* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Dl_rate_matching_restriction, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_DPCH_InfoCommon_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "BSIC-VerificationRequired");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-DPCH-PowerControlInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "BSIC-VerificationRequired");
+   /* powerOffsetPilot-pdpdch */
+   if ((uint64_t)pvalue->powerOffsetPilot_pdpdch > 24u) {
+      rtxErrAddStrParm(ctx, "PowerOffsetPilot-pdpdch");
+      rtxErrAddUIntParm(ctx, pvalue->powerOffsetPilot_pdpdch);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PowerOffsetPilot-pdpdch", "powerOffsetPilot-pdpdch", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->powerOffsetPilot_pdpdch, 0, 24);
+   RT_CHECK_PUT(ctx, cur, stat, "PowerOffsetPilot-pdpdch", "powerOffsetPilot-pdpdch", -1, 0);
+   /* dl-rate-matching-restriction */
+   if (pvalue->m & 0x2u) {
+      stat = enc_Dl_rate_matching_restriction(ctx, &pvalue->dl_rate_matching_restriction, cur);
+      RT_CHECK(ctx, stat, 0, "dl-rate-matching-restriction", -1, 0);
+   }
+   /* spreadingFactorAndPilot */
+   stat = enc_SF512_AndPilot(ctx, &pvalue->spreadingFactorAndPilot, cur);
+   RT_CHECK(ctx, stat, 0, "spreadingFactorAndPilot", -1, 0);
+   /* positionFixedOrFlexible */
+   if (pvalue->positionFixedOrFlexible > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->positionFixedOrFlexible);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->positionFixedOrFlexible, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
+   /* tfci-Existence */
+   stat = rtxEncBitAt(ctx, cur, pvalue->tfci_Existence);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tfci-Existence", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_BSICReported(rtxContext* RT_RESTRICT ctx, const BSICReported* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_DPCH_InfoCommon_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoCommon_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_DPCH_InfoCommon_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "BSICReported");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "BSICReported");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "BSICReported");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-DPCH-PowerControlInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoCommon_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoCommon_modeSpecificInfo_tdd, pvalue);
+}
+
+static int enc_DL_DPCH_InfoCommon_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if ((uint64_t)pvalue->u.verifiedBSIC > 32u) {
-            rtxErrAddStrParm(ctx, "verifiedBSIC");
-            rtxErrAddUIntParm(ctx, pvalue->u.verifiedBSIC);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "verifiedBSIC", -1, "BSICReported");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.verifiedBSIC, 0, 32);
-         RT_CHECK(ctx, stat, 0, "verifiedBSIC", -1, "BSICReported");
-         break;
-      case 2:
-         if ((uint64_t)pvalue->u.nonVerifiedBSIC > 1023u) {
-            rtxErrAddStrParm(ctx, "BCCH-ARFCN");
-            rtxErrAddUIntParm(ctx, pvalue->u.nonVerifiedBSIC);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "BCCH-ARFCN", "nonVerifiedBSIC", -1, "BSICReported");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.nonVerifiedBSIC, 0, 1023);
-         RT_CHECK(ctx, stat, "BCCH-ARFCN", "nonVerifiedBSIC", -1, "BSICReported");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_BurstModeParameters(rtxContext* RT_RESTRICT ctx, const BurstModeParameters* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "BurstModeParameters");
-   /* burstStart */
-   if ((uint64_t)pvalue->burstStart > 15u) {
-      rtxErrAddStrParm(ctx, "burstStart");
-      rtxErrAddUIntParm(ctx, pvalue->burstStart);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "burstStart", -1, "BurstModeParameters");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->burstStart, 0, 15);
-   RT_CHECK(ctx, stat, 0, "burstStart", -1, "BurstModeParameters");
-   /* burstLength */
-   if ((uint64_t)(pvalue->burstLength - 10) > 15u) {
-      rtxErrAddStrParm(ctx, "burstLength");
-      rtxErrAddUIntParm(ctx, pvalue->burstLength);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "burstLength", -1, "BurstModeParameters");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->burstLength, 10, 25);
-   RT_CHECK(ctx, stat, 0, "burstLength", -1, "BurstModeParameters");
-   /* burstFreq */
-   if ((uint64_t)(pvalue->burstFreq - 1) > 15u) {
-      rtxErrAddStrParm(ctx, "burstFreq");
-      rtxErrAddUIntParm(ctx, pvalue->burstFreq);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "burstFreq", -1, "BurstModeParameters");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->burstFreq, 1, 16);
-   RT_CHECK(ctx, stat, 0, "burstFreq", -1, "BurstModeParameters");
-   return 0;
-}
-
-int asn1PE_UMTS_CellDCHMeasOccasionPattern_LCR_statusFlag(rtxContext* RT_RESTRICT ctx, CellDCHMeasOccasionPattern_LCR_statusFlag value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementOccasionPatternParameter(rtxContext* RT_RESTRICT ctx, const MeasurementOccasionPatternParameter* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementOccasionPatternParameter");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementOccasionPatternParameter");
-   /* measurement-Occasion-Coeff */
-   if ((uint64_t)(pvalue->measurement_Occasion_Coeff - 1) > 8u) {
-      rtxErrAddStrParm(ctx, "measurement-Occasion-Coeff");
-      rtxErrAddUIntParm(ctx, pvalue->measurement_Occasion_Coeff);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "measurement-Occasion-Coeff", -1, "MeasurementOccasionPatternParameter");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->measurement_Occasion_Coeff, 1, 9);
-   RT_CHECK(ctx, stat, 0, "measurement-Occasion-Coeff", -1, "MeasurementOccasionPatternParameter");
-   /* measurement-Occasion-Offset */
-   if ((uint64_t)pvalue->measurement_Occasion_Offset > 511u) {
-      rtxErrAddStrParm(ctx, "measurement-Occasion-Offset");
-      rtxErrAddUIntParm(ctx, pvalue->measurement_Occasion_Offset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "measurement-Occasion-Offset", -1, "MeasurementOccasionPatternParameter");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->measurement_Occasion_Offset, 0, 511);
-   RT_CHECK(ctx, stat, 0, "measurement-Occasion-Offset", -1, "MeasurementOccasionPatternParameter");
-   /* measurement-Occasion-Length */
-   if ((uint64_t)(pvalue->measurement_Occasion_Length - 1) > 511u) {
-      rtxErrAddStrParm(ctx, "measurement-Occasion-Length");
-      rtxErrAddUIntParm(ctx, pvalue->measurement_Occasion_Length);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "measurement-Occasion-Length", -1, "MeasurementOccasionPatternParameter");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->measurement_Occasion_Length, 1, 512);
-   RT_CHECK(ctx, stat, 0, "measurement-Occasion-Length", -1, "MeasurementOccasionPatternParameter");
-   /* timeslotBitmap */
-   if (pvalue->m & 0x1u) {
-      RT_SET_SIZE(ctx, 7, 7);
-      stat = pe_BitString32(ctx, &pvalue->timeslotBitmap, 7, 7);
-      RT_CHECK(ctx, stat, 0, "timeslotBitmap", -1, "MeasurementOccasionPatternParameter");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellDCHMeasOccasionPattern_LCR(rtxContext* RT_RESTRICT ctx, const CellDCHMeasOccasionPattern_LCR* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellDCHMeasOccasionPattern-LCR");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellDCHMeasOccasionPattern-LCR");
-   /* patternIdentifier */
-   if ((uint64_t)pvalue->patternIdentifier > 4u) {
-      rtxErrAddStrParm(ctx, "patternIdentifier");
-      rtxErrAddUIntParm(ctx, pvalue->patternIdentifier);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "patternIdentifier", -1, "CellDCHMeasOccasionPattern-LCR");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->patternIdentifier, 0, 4);
-   RT_CHECK(ctx, stat, 0, "patternIdentifier", -1, "CellDCHMeasOccasionPattern-LCR");
-   /* statusFlag */
-   if (pvalue->statusFlag > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->statusFlag);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "statusFlag", -1, "CellDCHMeasOccasionPattern-LCR");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->statusFlag, 0, 1);
-   RT_CHECK(ctx, stat, 0, "statusFlag", -1, "CellDCHMeasOccasionPattern-LCR");
-   /* measurementPurpose */
-   if (pvalue->m & 0x1u) {
-      RT_SET_SIZE(ctx, 5, 5);
-      stat = pe_BitString32(ctx, &pvalue->measurementPurpose, 5, 5);
-      RT_CHECK(ctx, stat, 0, "measurementPurpose", -1, "CellDCHMeasOccasionPattern-LCR");
-   }
-   /* measurementOccasionPatternParameter */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_MeasurementOccasionPatternParameter(ctx, &pvalue->measurementOccasionPatternParameter);
-      RT_CHECK(ctx, stat, 0, "measurementOccasionPatternParameter", -1, "CellDCHMeasOccasionPattern-LCR");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellDCHMeasOccasionInfo_TDD128_r9_cellDCHMeasOccasionSequenceList(rtxContext* RT_RESTRICT ctx, const CellDCHMeasOccasionInfo_TDD128_r9_cellDCHMeasOccasionSequenceList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 5);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CellDCHMeasOccasionPattern-LCR", (int32_t)i, 0);
-      stat = asn1PE_UMTS_CellDCHMeasOccasionPattern_LCR(ctx, (const CellDCHMeasOccasionPattern_LCR*)node->data);
-      RT_CHECK(ctx, stat, 0, "CellDCHMeasOccasionPattern-LCR", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellDCHMeasOccasionInfo_TDD128_r9(rtxContext* RT_RESTRICT ctx, const CellDCHMeasOccasionInfo_TDD128_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellDCHMeasOccasionInfo-TDD128-r9");
-   /* cellDCHMeasOccasionSequenceList */
-   stat = asn1PE_UMTS_CellDCHMeasOccasionInfo_TDD128_r9_cellDCHMeasOccasionSequenceList(ctx, &pvalue->cellDCHMeasOccasionSequenceList);
-   RT_CHECK(ctx, stat, 0, "cellDCHMeasOccasionSequenceList", -1, "CellDCHMeasOccasionInfo-TDD128-r9");
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* primaryCPICH-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   }
-   /* primaryCPICH-TX-Power */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->primaryCPICH_TX_Power < -10 || pvalue->primaryCPICH_TX_Power > 50) {
-         rtxErrAddStrParm(ctx, "PrimaryCPICH-TX-Power");
-         rtxErrAddIntParm(ctx, pvalue->primaryCPICH_TX_Power);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->primaryCPICH_TX_Power, -10, 50);
-      RT_CHECK(ctx, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
-   }
-   /* readSFN-Indicator */
-   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
-   /* tx-DiversityIndicator */
-   stat = rtxEncBit(ctx, pvalue->tx_DiversityIndicator);
-   RT_CHECK(ctx, stat, 0, "tx-DiversityIndicator", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* primaryCCPCH-Info */
-   stat = asn1PE_UMTS_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, 0);
-   /* primaryCCPCH-TX-Power */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-         rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
-         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-   }
-   /* timeslotInfoList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_TimeslotInfoList(ctx, &pvalue->timeslotInfoList);
-      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, 0);
-   }
-   /* readSFN-Indicator */
-   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellInfo_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_CellInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_DL_DPCH_InfoCommon_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
          RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_CellInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_DL_DPCH_InfoCommon_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
          RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
@@ -6222,2791 +2602,6797 @@ int asn1PE_UMTS_CellInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const Cel
    return 0;
 }
 
-int asn1PE_UMTS_CellInfo(rtxContext* RT_RESTRICT ctx, const CellInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_DPCH_InfoCommon_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoCommon_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_DPCH_InfoCommon(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->cellIndividualOffset != 0) << 1) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellInfo");
-   /* cellIndividualOffset */
-   if (pvalue->cellIndividualOffset != 0) {
-      if (pvalue->cellIndividualOffset < -20 || pvalue->cellIndividualOffset > 20) {
-         rtxErrAddStrParm(ctx, "CellIndividualOffset");
-         rtxErrAddIntParm(ctx, pvalue->cellIndividualOffset);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfo");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfo");
-   }
-   /* referenceTimeDifferenceToCell */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
-      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfo");
-   }
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-DPCH-InfoCommon");
+   /* cfnHandling */
+   stat = enc_DL_DPCH_InfoCommon_cfnHandling(ctx, &pvalue->cfnHandling, cur);
+   RT_CHECK(ctx, stat, 0, "cfnHandling", -1, "DL-DPCH-InfoCommon");
    /* modeSpecificInfo */
-   stat = asn1PE_UMTS_CellInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellInfo");
+   stat = enc_DL_DPCH_InfoCommon_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-DPCH-InfoCommon");
    return 0;
 }
 
-int asn1PE_UMTS_CellInfo_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellInfo_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_DPCH_InfoCommon(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoCommon, pvalue);
+}
+
+RT_MERGED_BODY int enc_TGCFN(rtxContext* RT_RESTRICT ctx, TGCFN value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TGCFN");
+   return 0;
+}
+
+int asn1PE_UMTS_TGCFN(rtxContext* RT_RESTRICT ctx, TGCFN value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TGCFN, value);
+}
+
+RT_MERGED_BODY int enc_TGP_Sequence_tgps_Status_activate(rtxContext* RT_RESTRICT ctx, const TGP_Sequence_tgps_Status_activate* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tgcfn */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tgcfn, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, "TGCFN", "tgcfn", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_TGP_Sequence_tgps_Status_activate(rtxContext* RT_RESTRICT ctx, const TGP_Sequence_tgps_Status_activate* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TGP_Sequence_tgps_Status_activate, pvalue);
+}
+
+RT_MERGED_BODY int enc_TGP_Sequence_tgps_Status(rtxContext* RT_RESTRICT ctx, const TGP_Sequence_tgps_Status* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.activate == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "activate", -1, 0);
+         stat = enc_TGP_Sequence_tgps_Status_activate(ctx, pvalue->u.activate, cur);
+         RT_CHECK(ctx, stat, 0, "activate", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TGP_Sequence_tgps_Status(rtxContext* RT_RESTRICT ctx, const TGP_Sequence_tgps_Status* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TGP_Sequence_tgps_Status, pvalue);
+}
+
+RT_MERGED_BODY int enc_TGMP(rtxContext* RT_RESTRICT ctx, TGMP value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 5) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TGMP");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TGMP");
+   return 0;
+}
+
+int asn1PE_UMTS_TGMP(rtxContext* RT_RESTRICT ctx, TGMP value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TGMP, value);
+}
+
+RT_MERGED_BODY int enc_TGPRC(rtxContext* RT_RESTRICT ctx, TGPRC value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 511u) {
+      rtxErrAddStrParm(ctx, "TGPRC");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "TGPRC");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 511);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TGPRC");
+   return 0;
+}
+
+int asn1PE_UMTS_TGPRC(rtxContext* RT_RESTRICT ctx, TGPRC value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TGPRC, value);
+}
+
+RT_MERGED_BODY int enc_TGSN(rtxContext* RT_RESTRICT ctx, TGSN value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 14u) {
+      rtxErrAddStrParm(ctx, "TGSN");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "TGSN");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 14);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TGSN");
+   return 0;
+}
+
+int asn1PE_UMTS_TGSN(rtxContext* RT_RESTRICT ctx, TGSN value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TGSN, value);
+}
+
+RT_MERGED_BODY int enc_TGL(rtxContext* RT_RESTRICT ctx, TGL value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 13u) {
+      rtxErrAddStrParm(ctx, "TGL");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "TGL");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 14);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TGL");
+   return 0;
+}
+
+int asn1PE_UMTS_TGL(rtxContext* RT_RESTRICT ctx, TGL value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TGL, value);
+}
+
+RT_MERGED_BODY int enc_TGD(rtxContext* RT_RESTRICT ctx, TGD value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 15) > 255u) {
+      rtxErrAddStrParm(ctx, "TGD");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "TGD");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 15, 270);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TGD");
+   return 0;
+}
+
+int asn1PE_UMTS_TGD(rtxContext* RT_RESTRICT ctx, TGD value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TGD, value);
+}
+
+RT_MERGED_BODY int enc_TGPL(rtxContext* RT_RESTRICT ctx, TGPL value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 143u) {
+      rtxErrAddStrParm(ctx, "TGPL");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "TGPL");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 144);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TGPL");
+   return 0;
+}
+
+int asn1PE_UMTS_TGPL(rtxContext* RT_RESTRICT ctx, TGPL value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TGPL, value);
+}
+
+RT_MERGED_BODY int enc_RPP(rtxContext* RT_RESTRICT ctx, RPP value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "RPP");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RPP");
+   return 0;
+}
+
+int asn1PE_UMTS_RPP(rtxContext* RT_RESTRICT ctx, RPP value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RPP, value);
+}
+
+RT_MERGED_BODY int enc_ITP(rtxContext* RT_RESTRICT ctx, ITP value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "ITP");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ITP");
+   return 0;
+}
+
+int asn1PE_UMTS_ITP(rtxContext* RT_RESTRICT ctx, ITP value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ITP, value);
+}
+
+RT_MERGED_BODY int enc_UL_CompressedModeMethod(rtxContext* RT_RESTRICT ctx, UL_CompressedModeMethod value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "UL-CompressedModeMethod");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UL-CompressedModeMethod");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_CompressedModeMethod(rtxContext* RT_RESTRICT ctx, UL_CompressedModeMethod value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_CompressedModeMethod, value);
+}
+
+RT_MERGED_BODY int enc_DL_CompressedModeMethod(rtxContext* RT_RESTRICT ctx, DL_CompressedModeMethod value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 2) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "DL-CompressedModeMethod");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-CompressedModeMethod");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CompressedModeMethod(rtxContext* RT_RESTRICT ctx, DL_CompressedModeMethod value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CompressedModeMethod, value);
+}
+
+RT_MERGED_BODY int enc_UL_DL_Mode_ul_and_dl(rtxContext* RT_RESTRICT ctx, const UL_DL_Mode_ul_and_dl* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ul */
+   if (pvalue->ul > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->ul);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UL-CompressedModeMethod", "ul", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ul, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "UL-CompressedModeMethod", "ul", -1, 0);
+   /* dl */
+   if (pvalue->dl > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->dl);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "DL-CompressedModeMethod", "dl", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dl, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, "DL-CompressedModeMethod", "dl", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DL_Mode_ul_and_dl(rtxContext* RT_RESTRICT ctx, const UL_DL_Mode_ul_and_dl* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DL_Mode_ul_and_dl, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DL_Mode(rtxContext* RT_RESTRICT ctx, const UL_DL_Mode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-DL-Mode");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "UL-DL-Mode");
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-DL-Mode");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.ul > 1) {
+            rtxErrAddUIntParm(ctx, pvalue->u.ul);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UL-CompressedModeMethod", "ul", -1, "UL-DL-Mode");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.ul, 0, 1);
+         RT_CHECK_PUT(ctx, cur, stat, "UL-CompressedModeMethod", "ul", -1, "UL-DL-Mode");
+         break;
+      case 2:
+         if (pvalue->u.dl > 2) {
+            rtxErrAddUIntParm(ctx, pvalue->u.dl);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "DL-CompressedModeMethod", "dl", -1, "UL-DL-Mode");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.dl, 0, 2);
+         RT_CHECK_PUT(ctx, cur, stat, "DL-CompressedModeMethod", "dl", -1, "UL-DL-Mode");
+         break;
+      case 3:
+         if (pvalue->u.ul_and_dl == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ul-and-dl", -1, "UL-DL-Mode");
+         stat = enc_UL_DL_Mode_ul_and_dl(ctx, pvalue->u.ul_and_dl, cur);
+         RT_CHECK(ctx, stat, 0, "ul-and-dl", -1, "UL-DL-Mode");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DL_Mode(rtxContext* RT_RESTRICT ctx, const UL_DL_Mode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DL_Mode, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_FrameType(rtxContext* RT_RESTRICT ctx, DL_FrameType value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "DL-FrameType");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-FrameType");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_FrameType(rtxContext* RT_RESTRICT ctx, DL_FrameType value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_FrameType, value);
+}
+
+RT_MERGED_BODY int enc_NidentifyAbort(rtxContext* RT_RESTRICT ctx, NidentifyAbort value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 127u) {
+      rtxErrAddStrParm(ctx, "NidentifyAbort");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "NidentifyAbort");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 128);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NidentifyAbort");
+   return 0;
+}
+
+int asn1PE_UMTS_NidentifyAbort(rtxContext* RT_RESTRICT ctx, NidentifyAbort value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NidentifyAbort, value);
+}
+
+RT_MERGED_BODY int enc_TreconfirmAbort(rtxContext* RT_RESTRICT ctx, TreconfirmAbort value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 19u) {
+      rtxErrAddStrParm(ctx, "TreconfirmAbort");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "TreconfirmAbort");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 20);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TreconfirmAbort");
+   return 0;
+}
+
+int asn1PE_UMTS_TreconfirmAbort(rtxContext* RT_RESTRICT ctx, TreconfirmAbort value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TreconfirmAbort, value);
+}
+
+static int enc_TGPS_ConfigurationParams(rtxContext* RT_RESTRICT ctx, const TGPS_ConfigurationParams* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TGPS-ConfigurationParams");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* primaryCPICH-Info */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TGPS-ConfigurationParams");
+   /* tgmp */
+   if (pvalue->tgmp > 5) {
+      rtxErrAddUIntParm(ctx, pvalue->tgmp);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TGMP", "tgmp", -1, "TGPS-ConfigurationParams");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tgmp, 0, 5);
+   RT_CHECK_PUT(ctx, cur, stat, "TGMP", "tgmp", -1, "TGPS-ConfigurationParams");
+   /* tgprc */
+   if ((uint64_t)pvalue->tgprc > 511u) {
+      rtxErrAddStrParm(ctx, "TGPRC");
+      rtxErrAddUIntParm(ctx, pvalue->tgprc);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TGPRC", "tgprc", -1, "TGPS-ConfigurationParams");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tgprc, 0, 511);
+   RT_CHECK_PUT(ctx, cur, stat, "TGPRC", "tgprc", -1, "TGPS-ConfigurationParams");
+   /* tgsn */
+   if ((uint64_t)pvalue->tgsn > 14u) {
+      rtxErrAddStrParm(ctx, "TGSN");
+      rtxErrAddUIntParm(ctx, pvalue->tgsn);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TGSN", "tgsn", -1, "TGPS-ConfigurationParams");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tgsn, 0, 14);
+   RT_CHECK_PUT(ctx, cur, stat, "TGSN", "tgsn", -1, "TGPS-ConfigurationParams");
+   /* tgl1 */
+   if ((uint64_t)(pvalue->tgl1 - 1) > 13u) {
+      rtxErrAddStrParm(ctx, "TGL");
+      rtxErrAddUIntParm(ctx, pvalue->tgl1);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TGL", "tgl1", -1, "TGPS-ConfigurationParams");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tgl1, 1, 14);
+   RT_CHECK_PUT(ctx, cur, stat, "TGL", "tgl1", -1, "TGPS-ConfigurationParams");
+   /* tgl2 */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   }
-   /* primaryCPICH-TX-Power */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->primaryCPICH_TX_Power < -10 || pvalue->primaryCPICH_TX_Power > 50) {
-         rtxErrAddStrParm(ctx, "PrimaryCPICH-TX-Power");
-         rtxErrAddIntParm(ctx, pvalue->primaryCPICH_TX_Power);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
+      if ((uint64_t)(pvalue->tgl2 - 1) > 13u) {
+         rtxErrAddStrParm(ctx, "TGL");
+         rtxErrAddUIntParm(ctx, pvalue->tgl2);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TGL", "tgl2", -1, "TGPS-ConfigurationParams");
       }
-      stat = pe_ConsInt64(ctx, pvalue->primaryCPICH_TX_Power, -10, 50);
-      RT_CHECK(ctx, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tgl2, 1, 14);
+      RT_CHECK_PUT(ctx, cur, stat, "TGL", "tgl2", -1, "TGPS-ConfigurationParams");
    }
-   /* readSFN-Indicator */
-   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
-   /* tx-DiversityIndicator */
-   stat = rtxEncBit(ctx, pvalue->tx_DiversityIndicator);
-   RT_CHECK(ctx, stat, 0, "tx-DiversityIndicator", -1, 0);
+   /* tgd */
+   if ((uint64_t)(pvalue->tgd - 15) > 255u) {
+      rtxErrAddStrParm(ctx, "TGD");
+      rtxErrAddUIntParm(ctx, pvalue->tgd);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TGD", "tgd", -1, "TGPS-ConfigurationParams");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tgd, 15, 270);
+   RT_CHECK_PUT(ctx, cur, stat, "TGD", "tgd", -1, "TGPS-ConfigurationParams");
+   /* tgpl1 */
+   if ((uint64_t)(pvalue->tgpl1 - 1) > 143u) {
+      rtxErrAddStrParm(ctx, "TGPL");
+      rtxErrAddUIntParm(ctx, pvalue->tgpl1);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TGPL", "tgpl1", -1, "TGPS-ConfigurationParams");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tgpl1, 1, 144);
+   RT_CHECK_PUT(ctx, cur, stat, "TGPL", "tgpl1", -1, "TGPS-ConfigurationParams");
+   /* dummy */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)(pvalue->dummy - 1) > 143u) {
+         rtxErrAddStrParm(ctx, "TGPL");
+         rtxErrAddUIntParm(ctx, pvalue->dummy);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TGPL", "dummy", -1, "TGPS-ConfigurationParams");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->dummy, 1, 144);
+      RT_CHECK_PUT(ctx, cur, stat, "TGPL", "dummy", -1, "TGPS-ConfigurationParams");
+   }
+   /* rpp */
+   if (pvalue->rpp > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->rpp);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "RPP", "rpp", -1, "TGPS-ConfigurationParams");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->rpp, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "RPP", "rpp", -1, "TGPS-ConfigurationParams");
+   /* itp */
+   if (pvalue->itp > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->itp);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ITP", "itp", -1, "TGPS-ConfigurationParams");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->itp, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "ITP", "itp", -1, "TGPS-ConfigurationParams");
+   /* ul-DL-Mode */
+   stat = enc_UL_DL_Mode(ctx, &pvalue->ul_DL_Mode, cur);
+   RT_CHECK(ctx, stat, 0, "ul-DL-Mode", -1, "TGPS-ConfigurationParams");
+   /* dl-FrameType */
+   if (pvalue->dl_FrameType > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->dl_FrameType);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "DL-FrameType", "dl-FrameType", -1, "TGPS-ConfigurationParams");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dl_FrameType, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "DL-FrameType", "dl-FrameType", -1, "TGPS-ConfigurationParams");
+   /* deltaSIR1 */
+   if ((uint64_t)pvalue->deltaSIR1 > 30u) {
+      rtxErrAddStrParm(ctx, "DeltaSIR");
+      rtxErrAddUIntParm(ctx, pvalue->deltaSIR1);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DeltaSIR", "deltaSIR1", -1, "TGPS-ConfigurationParams");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->deltaSIR1, 0, 30);
+   RT_CHECK_PUT(ctx, cur, stat, "DeltaSIR", "deltaSIR1", -1, "TGPS-ConfigurationParams");
+   /* deltaSIRAfter1 */
+   if ((uint64_t)pvalue->deltaSIRAfter1 > 30u) {
+      rtxErrAddStrParm(ctx, "DeltaSIR");
+      rtxErrAddUIntParm(ctx, pvalue->deltaSIRAfter1);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DeltaSIR", "deltaSIRAfter1", -1, "TGPS-ConfigurationParams");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->deltaSIRAfter1, 0, 30);
+   RT_CHECK_PUT(ctx, cur, stat, "DeltaSIR", "deltaSIRAfter1", -1, "TGPS-ConfigurationParams");
+   /* deltaSIR2 */
+   if (pvalue->m & 0x4u) {
+      if ((uint64_t)pvalue->deltaSIR2 > 30u) {
+         rtxErrAddStrParm(ctx, "DeltaSIR");
+         rtxErrAddUIntParm(ctx, pvalue->deltaSIR2);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DeltaSIR", "deltaSIR2", -1, "TGPS-ConfigurationParams");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->deltaSIR2, 0, 30);
+      RT_CHECK_PUT(ctx, cur, stat, "DeltaSIR", "deltaSIR2", -1, "TGPS-ConfigurationParams");
+   }
+   /* deltaSIRAfter2 */
+   if (pvalue->m & 0x8u) {
+      if ((uint64_t)pvalue->deltaSIRAfter2 > 30u) {
+         rtxErrAddStrParm(ctx, "DeltaSIR");
+         rtxErrAddUIntParm(ctx, pvalue->deltaSIRAfter2);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DeltaSIR", "deltaSIRAfter2", -1, "TGPS-ConfigurationParams");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->deltaSIRAfter2, 0, 30);
+      RT_CHECK_PUT(ctx, cur, stat, "DeltaSIR", "deltaSIRAfter2", -1, "TGPS-ConfigurationParams");
+   }
+   /* nidentifyAbort */
+   if (pvalue->m & 0x10u) {
+      if ((uint64_t)(pvalue->nidentifyAbort - 1) > 127u) {
+         rtxErrAddStrParm(ctx, "NidentifyAbort");
+         rtxErrAddUIntParm(ctx, pvalue->nidentifyAbort);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "NidentifyAbort", "nidentifyAbort", -1, "TGPS-ConfigurationParams");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->nidentifyAbort, 1, 128);
+      RT_CHECK_PUT(ctx, cur, stat, "NidentifyAbort", "nidentifyAbort", -1, "TGPS-ConfigurationParams");
+   }
+   /* treconfirmAbort */
+   if (pvalue->m & 0x20u) {
+      if ((uint64_t)(pvalue->treconfirmAbort - 1) > 19u) {
+         rtxErrAddStrParm(ctx, "TreconfirmAbort");
+         rtxErrAddUIntParm(ctx, pvalue->treconfirmAbort);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TreconfirmAbort", "treconfirmAbort", -1, "TGPS-ConfigurationParams");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->treconfirmAbort, 1, 20);
+      RT_CHECK_PUT(ctx, cur, stat, "TreconfirmAbort", "treconfirmAbort", -1, "TGPS-ConfigurationParams");
+   }
    return 0;
 }
 
-int asn1PE_UMTS_TimeslotInfoList_r4_tdd384(rtxContext* RT_RESTRICT ctx, const TimeslotInfoList_r4_tdd384* RT_RESTRICT pvalue)
+int asn1PE_UMTS_TGPS_ConfigurationParams(rtxContext* RT_RESTRICT ctx, const TGPS_ConfigurationParams* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TGPS_ConfigurationParams, pvalue);
+}
+
+RT_MERGED_BODY int enc_TGP_Sequence(rtxContext* RT_RESTRICT ctx, const TGP_Sequence* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 14);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "TimeslotInfo", (int32_t)i, 0);
-      stat = asn1PE_UMTS_TimeslotInfo(ctx, (const TimeslotInfo*)node->data);
-      RT_CHECK(ctx, stat, 0, "TimeslotInfo", (int32_t)i, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TGP-Sequence");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TGP-Sequence");
+   /* tgpsi */
+   if ((uint64_t)(pvalue->tgpsi - 1) > 5u) {
+      rtxErrAddStrParm(ctx, "TGPSI");
+      rtxErrAddUIntParm(ctx, pvalue->tgpsi);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TGPSI", "tgpsi", -1, "TGP-Sequence");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tgpsi, 1, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "TGPSI", "tgpsi", -1, "TGP-Sequence");
+   /* tgps-Status */
+   stat = enc_TGP_Sequence_tgps_Status(ctx, &pvalue->tgps_Status, cur);
+   RT_CHECK(ctx, stat, 0, "tgps-Status", -1, "TGP-Sequence");
+   /* tgps-ConfigurationParams */
+   if (pvalue->m & 0x1u) {
+      stat = enc_TGPS_ConfigurationParams(ctx, &pvalue->tgps_ConfigurationParams, cur);
+      RT_CHECK(ctx, stat, 0, "tgps-ConfigurationParams", -1, "TGP-Sequence");
    }
    return 0;
 }
 
-int asn1PE_UMTS_TimeslotInfoList_r4_tdd128(rtxContext* RT_RESTRICT ctx, const TimeslotInfoList_r4_tdd128* RT_RESTRICT pvalue)
+int asn1PE_UMTS_TGP_Sequence(rtxContext* RT_RESTRICT ctx, const TGP_Sequence* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TGP_Sequence, pvalue);
+}
+
+RT_MERGED_BODY int enc_TGP_SequenceList(rtxContext* RT_RESTRICT ctx, const TGP_SequenceList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TGP-SequenceList");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 6);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "TGP-SequenceList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "TimeslotInfo-LCR-r4", (int32_t)i, 0);
-      stat = asn1PE_UMTS_TimeslotInfo_LCR_r4(ctx, (const TimeslotInfo_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat, 0, "TimeslotInfo-LCR-r4", (int32_t)i, 0);
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "TGP-Sequence", (int32_t)i, "TGP-SequenceList");
+      stat = enc_TGP_Sequence(ctx, (const TGP_Sequence*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "TGP-Sequence", (int32_t)i, "TGP-SequenceList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_TimeslotInfoList_r4(rtxContext* RT_RESTRICT ctx, const TimeslotInfoList_r4* RT_RESTRICT pvalue)
+int asn1PE_UMTS_TGP_SequenceList(rtxContext* RT_RESTRICT ctx, const TGP_SequenceList* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TimeslotInfoList-r4");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "TimeslotInfoList-r4");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TimeslotInfoList-r4");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, "TimeslotInfoList-r4");
-         stat = asn1PE_UMTS_TimeslotInfoList_r4_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, "TimeslotInfoList-r4");
-         break;
-      case 2:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, "TimeslotInfoList-r4");
-         stat = asn1PE_UMTS_TimeslotInfoList_r4_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, "TimeslotInfoList-r4");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfo_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellInfo_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* primaryCCPCH-Info */
-   stat = asn1PE_UMTS_PrimaryCCPCH_Info_r4(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, 0);
-   /* primaryCCPCH-TX-Power */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-         rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
-         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-   }
-   /* timeslotInfoList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_TimeslotInfoList_r4(ctx, &pvalue->timeslotInfoList);
-      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, 0);
-   }
-   /* readSFN-Indicator */
-   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfo_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellInfo_r4_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_CellInfo_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_CellInfo_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfo_r4(rtxContext* RT_RESTRICT ctx, const CellInfo_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellInfo-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->cellIndividualOffset != 0) << 1) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellInfo-r4");
-   /* cellIndividualOffset */
-   if (pvalue->cellIndividualOffset != 0) {
-      if (pvalue->cellIndividualOffset < -20 || pvalue->cellIndividualOffset > 20) {
-         rtxErrAddStrParm(ctx, "CellIndividualOffset");
-         rtxErrAddIntParm(ctx, pvalue->cellIndividualOffset);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfo-r4");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfo-r4");
-   }
-   /* referenceTimeDifferenceToCell */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
-      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfo-r4");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_CellInfo_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellInfo-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoMC_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* q-QualMin */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->q_QualMin < -24 || pvalue->q_QualMin > 0) {
-         rtxErrAddStrParm(ctx, "Q-QualMin");
-         rtxErrAddIntParm(ctx, pvalue->q_QualMin);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-QualMin", "q-QualMin", -1, 0);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_QualMin, -24, 0);
-      RT_CHECK(ctx, stat, "Q-QualMin", "q-QualMin", -1, 0);
-   }
-   /* q-RxlevMin */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
-         rtxErrAddStrParm(ctx, "Q-RxlevMin");
-         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoMC_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* q-RxlevMin */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
-         rtxErrAddStrParm(ctx, "Q-RxlevMin");
-         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoMC_RSCP_modeSpecificInfo_gsm* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* q-RxlevMin */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
-         rtxErrAddStrParm(ctx, "Q-RxlevMin");
-         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_RxlevMin, -58, -13);
-      RT_CHECK(ctx, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoMC_RSCP_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      case 3:
-         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm", -1, 0);
-         stat = asn1PE_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoMC_RSCP(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoMC_RSCP* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellSelectReselectInfoMC-RSCP");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->q_OffsetS_N != 0) << 2) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellSelectReselectInfoMC-RSCP");
-   /* q-OffsetS-N */
-   if (pvalue->q_OffsetS_N != 0) {
-      if (pvalue->q_OffsetS_N < -50 || pvalue->q_OffsetS_N > 50) {
-         rtxErrAddStrParm(ctx, "Q-OffsetS-N");
-         rtxErrAddIntParm(ctx, pvalue->q_OffsetS_N);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-OffsetS-N", "q-OffsetS-N", -1, "CellSelectReselectInfoMC-RSCP");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->q_OffsetS_N, -50, 50);
-      RT_CHECK(ctx, stat, "Q-OffsetS-N", "q-OffsetS-N", -1, "CellSelectReselectInfoMC-RSCP");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
-         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoMC-RSCP");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoMC-RSCP");
-   }
-   /* hcs-NeighbouringCellInformation-RSCP */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_HCS_NeighbouringCellInformation_RSCP(ctx, &pvalue->hcs_NeighbouringCellInformation_RSCP);
-      RT_CHECK(ctx, stat, 0, "hcs-NeighbouringCellInformation-RSCP", -1, "CellSelectReselectInfoMC-RSCP");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellSelectReselectInfoMC-RSCP");
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfo_LCR_r8_ext(rtxContext* RT_RESTRICT ctx, const CellInfo_LCR_r8_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellInfo-LCR-r8-ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellInfo-LCR-r8-ext");
-   /* cellSelectionReselectionInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellSelectReselectInfoMC_RSCP(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfo-LCR-r8-ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfo_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellInfo_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* primaryCPICH-Info */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   }
-   /* primaryCPICH-TX-Power */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->primaryCPICH_TX_Power < -10 || pvalue->primaryCPICH_TX_Power > 50) {
-         rtxErrAddStrParm(ctx, "PrimaryCPICH-TX-Power");
-         rtxErrAddIntParm(ctx, pvalue->primaryCPICH_TX_Power);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->primaryCPICH_TX_Power, -10, 50);
-      RT_CHECK(ctx, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
-   }
-   /* readSFN-Indicator */
-   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
-   /* tx-DiversityIndicator */
-   stat = rtxEncBit(ctx, pvalue->tx_DiversityIndicator);
-   RT_CHECK(ctx, stat, 0, "tx-DiversityIndicator", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfo_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellInfo_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* primaryCCPCH-Info */
-   stat = asn1PE_UMTS_PrimaryCCPCH_Info_r4(ctx, &pvalue->primaryCCPCH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, 0);
-   /* primaryCCPCH-TX-Power */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
-         rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
-         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_TX_Power, 6, 43);
-      RT_CHECK(ctx, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
-   }
-   /* timeslotInfoList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_TimeslotInfoList_r4(ctx, &pvalue->timeslotInfoList);
-      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, 0);
-   }
-   /* readSFN-Indicator */
-   stat = rtxEncBit(ctx, pvalue->readSFN_Indicator);
-   RT_CHECK(ctx, stat, 0, "readSFN-Indicator", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfo_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellInfo_r9_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_CellInfo_r9_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_CellInfo_r9_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellInfo_r9(rtxContext* RT_RESTRICT ctx, const CellInfo_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellInfo-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->cellIndividualOffset != 0) << 2) |
-      ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellInfo-r9");
-   /* cellIndividualOffset */
-   if (pvalue->cellIndividualOffset != 0) {
-      if (pvalue->cellIndividualOffset < -20 || pvalue->cellIndividualOffset > 20) {
-         rtxErrAddStrParm(ctx, "CellIndividualOffset");
-         rtxErrAddIntParm(ctx, pvalue->cellIndividualOffset);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfo-r9");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->cellIndividualOffset, -20, 20);
-      RT_CHECK(ctx, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfo-r9");
-   }
-   /* referenceTimeDifferenceToCell */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell);
-      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfo-r9");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_CellInfo_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellInfo-r9");
-   /* cellSelectionReselectionInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_CellSelectReselectInfoMC_RSCP(ctx, &pvalue->cellSelectionReselectionInfo);
-      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfo-r9");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SFN_SFN_ObsTimeDifference1(rtxContext* RT_RESTRICT ctx, SFN_SFN_ObsTimeDifference1 value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 16777215u) {
-      rtxErrAddStrParm(ctx, "SFN-SFN-ObsTimeDifference1");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "SFN-SFN-ObsTimeDifference1");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 16777215);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SFN-SFN-ObsTimeDifference1");
-   return 0;
-}
-
-int asn1PE_UMTS_SFN_SFN_ObsTimeDifference2(rtxContext* RT_RESTRICT ctx, SFN_SFN_ObsTimeDifference2 value)
-{
-   int stat = 0;
-   stat = pe_ConsUInt64(ctx, value, 0, 65535);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SFN-SFN-ObsTimeDifference2");
-   return 0;
-}
-
-int asn1PE_UMTS_SFN_SFN_ObsTimeDifference(rtxContext* RT_RESTRICT ctx, const SFN_SFN_ObsTimeDifference* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SFN-SFN-ObsTimeDifference");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "SFN-SFN-ObsTimeDifference");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "SFN-SFN-ObsTimeDifference");
-   switch (pvalue->t) {
-      case 1:
-         if ((uint64_t)pvalue->u.type1 > 16777215u) {
-            rtxErrAddStrParm(ctx, "SFN-SFN-ObsTimeDifference1");
-            rtxErrAddUIntParm(ctx, pvalue->u.type1);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "SFN-SFN-ObsTimeDifference1", "type1", -1, "SFN-SFN-ObsTimeDifference");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.type1, 0, 16777215);
-         RT_CHECK(ctx, stat, "SFN-SFN-ObsTimeDifference1", "type1", -1, "SFN-SFN-ObsTimeDifference");
-         break;
-      case 2:
-         stat = pe_ConsUInt64(ctx, pvalue->u.type2, 0, 65535);
-         RT_CHECK(ctx, stat, "SFN-SFN-ObsTimeDifference2", "type2", -1, "SFN-SFN-ObsTimeDifference");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CountC_SFN_Frame_difference(rtxContext* RT_RESTRICT ctx, const CountC_SFN_Frame_difference* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CountC-SFN-Frame-difference");
-   /* countC-SFN-High */
-   if ((uint64_t)pvalue->countC_SFN_High > 15u) {
-      rtxErrAddStrParm(ctx, "countC-SFN-High");
-      rtxErrAddUIntParm(ctx, pvalue->countC_SFN_High);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "countC-SFN-High", -1, "CountC-SFN-Frame-difference");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->countC_SFN_High, 0, 15);
-   RT_CHECK(ctx, stat, 0, "countC-SFN-High", -1, "CountC-SFN-Frame-difference");
-   /* off */
-   stat = pe_ConsUInt64(ctx, pvalue->off, 0, 255);
-   RT_CHECK(ctx, stat, 0, "off", -1, "CountC-SFN-Frame-difference");
-   return 0;
-}
-
-int asn1PE_UMTS_CellSynchronisationInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellSynchronisationInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* countC-SFN-Frame-difference */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CountC_SFN_Frame_difference(ctx, &pvalue->countC_SFN_Frame_difference);
-      RT_CHECK(ctx, stat, 0, "countC-SFN-Frame-difference", -1, 0);
-   }
-   /* tm */
-   if ((uint64_t)pvalue->tm > 38399u) {
-      rtxErrAddStrParm(ctx, "tm");
-      rtxErrAddUIntParm(ctx, pvalue->tm);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "tm", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tm, 0, 38399);
-   RT_CHECK(ctx, stat, 0, "tm", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CellSynchronisationInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellSynchronisationInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* countC-SFN-Frame-difference */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CountC_SFN_Frame_difference(ctx, &pvalue->countC_SFN_Frame_difference);
-      RT_CHECK(ctx, stat, 0, "countC-SFN-Frame-difference", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSynchronisationInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellSynchronisationInfo_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_CellSynchronisationInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_CellSynchronisationInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSynchronisationInfo(rtxContext* RT_RESTRICT ctx, const CellSynchronisationInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellSynchronisationInfo");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_CellSynchronisationInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellSynchronisationInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_CPICH_Ec_N0(rtxContext* RT_RESTRICT ctx, CPICH_Ec_N0 value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 63u) {
-      rtxErrAddStrParm(ctx, "CPICH-Ec-N0");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "CPICH-Ec-N0");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 63);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CPICH-Ec-N0");
-   return 0;
-}
-
-int asn1PE_UMTS_CPICH_RSCP(rtxContext* RT_RESTRICT ctx, CPICH_RSCP value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 127u) {
-      rtxErrAddStrParm(ctx, "CPICH-RSCP");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "CPICH-RSCP");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 127);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CPICH-RSCP");
-   return 0;
-}
-
-int asn1PE_UMTS_Pathloss(rtxContext* RT_RESTRICT ctx, Pathloss value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 46) > 127u) {
-      rtxErrAddStrParm(ctx, "Pathloss");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "Pathloss");
-   }
-   stat = pe_ConsUInt64(ctx, value, 46, 173);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Pathloss");
-   return 0;
-}
-
-int asn1PE_UMTS_CellMeasuredResults_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellMeasuredResults_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* primaryCPICH-Info */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   /* cpich-Ec-N0 */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->cpich_Ec_N0 > 63u) {
-         rtxErrAddStrParm(ctx, "CPICH-Ec-N0");
-         rtxErrAddUIntParm(ctx, pvalue->cpich_Ec_N0);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "CPICH-Ec-N0", "cpich-Ec-N0", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->cpich_Ec_N0, 0, 63);
-      RT_CHECK(ctx, stat, "CPICH-Ec-N0", "cpich-Ec-N0", -1, 0);
-   }
-   /* cpich-RSCP */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->cpich_RSCP > 127u) {
-         rtxErrAddStrParm(ctx, "CPICH-RSCP");
-         rtxErrAddUIntParm(ctx, pvalue->cpich_RSCP);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "CPICH-RSCP", "cpich-RSCP", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->cpich_RSCP, 0, 127);
-      RT_CHECK(ctx, stat, "CPICH-RSCP", "cpich-RSCP", -1, 0);
-   }
-   /* pathloss */
-   if (pvalue->m & 0x4u) {
-      if ((uint64_t)(pvalue->pathloss - 46) > 127u) {
-         rtxErrAddStrParm(ctx, "Pathloss");
-         rtxErrAddUIntParm(ctx, pvalue->pathloss);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Pathloss", "pathloss", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->pathloss, 46, 173);
-      RT_CHECK(ctx, stat, "Pathloss", "pathloss", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_PrimaryCCPCH_RSCP(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_RSCP value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 127u) {
-      rtxErrAddStrParm(ctx, "PrimaryCCPCH-RSCP");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PrimaryCCPCH-RSCP");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 127);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PrimaryCCPCH-RSCP");
-   return 0;
-}
-
-int asn1PE_UMTS_TimeslotISCP(rtxContext* RT_RESTRICT ctx, TimeslotISCP value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 127u) {
-      rtxErrAddStrParm(ctx, "TimeslotISCP");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TimeslotISCP");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 127);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TimeslotISCP");
-   return 0;
-}
-
-int asn1PE_UMTS_TimeslotISCP_List(rtxContext* RT_RESTRICT ctx, const TimeslotISCP_List* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TimeslotISCP-List");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 14);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "TimeslotISCP-List");
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)pvalue->elem[i] > 127u) {
-         rtxErrAddStrParm(ctx, "TimeslotISCP");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotISCP", "TimeslotISCP", (int32_t)i, "TimeslotISCP-List");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 127);
-      RT_CHECK(ctx, stat, "TimeslotISCP", "TimeslotISCP", (int32_t)i, "TimeslotISCP-List");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellMeasuredResults_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellMeasuredResults_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellParametersID */
-   if ((uint64_t)pvalue->cellParametersID > 127u) {
-      rtxErrAddStrParm(ctx, "CellParametersID");
-      rtxErrAddUIntParm(ctx, pvalue->cellParametersID);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "CellParametersID", "cellParametersID", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cellParametersID, 0, 127);
-   RT_CHECK(ctx, stat, "CellParametersID", "cellParametersID", -1, 0);
-   /* proposedTGSN */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->proposedTGSN > 14u) {
-         rtxErrAddStrParm(ctx, "TGSN");
-         rtxErrAddUIntParm(ctx, pvalue->proposedTGSN);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TGSN", "proposedTGSN", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->proposedTGSN, 0, 14);
-      RT_CHECK(ctx, stat, "TGSN", "proposedTGSN", -1, 0);
-   }
-   /* primaryCCPCH-RSCP */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->primaryCCPCH_RSCP > 127u) {
-         rtxErrAddStrParm(ctx, "PrimaryCCPCH-RSCP");
-         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_RSCP);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-RSCP", "primaryCCPCH-RSCP", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_RSCP, 0, 127);
-      RT_CHECK(ctx, stat, "PrimaryCCPCH-RSCP", "primaryCCPCH-RSCP", -1, 0);
-   }
-   /* pathloss */
-   if (pvalue->m & 0x4u) {
-      if ((uint64_t)(pvalue->pathloss - 46) > 127u) {
-         rtxErrAddStrParm(ctx, "Pathloss");
-         rtxErrAddUIntParm(ctx, pvalue->pathloss);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Pathloss", "pathloss", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->pathloss, 46, 173);
-      RT_CHECK(ctx, stat, "Pathloss", "pathloss", -1, 0);
-   }
-   /* timeslotISCP-List */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_TimeslotISCP_List(ctx, &pvalue->timeslotISCP_List);
-      RT_CHECK(ctx, stat, 0, "timeslotISCP-List", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellMeasuredResults_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellMeasuredResults_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_CellMeasuredResults_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_CellMeasuredResults_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellMeasuredResults(rtxContext* RT_RESTRICT ctx, const CellMeasuredResults* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellMeasuredResults");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellMeasuredResults");
-   /* cellIdentity */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellIdentity(ctx, pvalue->cellIdentity);
-      RT_CHECK(ctx, stat, 0, "cellIdentity", -1, "CellMeasuredResults");
-   }
-   /* dummy */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_SFN_SFN_ObsTimeDifference(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "CellMeasuredResults");
-   }
-   /* cellSynchronisationInfo */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_CellSynchronisationInfo(ctx, &pvalue->cellSynchronisationInfo);
-      RT_CHECK(ctx, stat, 0, "cellSynchronisationInfo", -1, "CellMeasuredResults");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_CellMeasuredResults_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellMeasuredResults");
-   return 0;
-}
-
-int asn1PE_UMTS_DeltaRSCPPerCell(rtxContext* RT_RESTRICT ctx, const DeltaRSCPPerCell* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DeltaRSCPPerCell");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DeltaRSCPPerCell");
-   /* deltaRSCP */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->deltaRSCP < -5 || pvalue->deltaRSCP > -1) {
-         rtxErrAddStrParm(ctx, "DeltaRSCP");
-         rtxErrAddIntParm(ctx, pvalue->deltaRSCP);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaRSCP", "deltaRSCP", -1, "DeltaRSCPPerCell");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->deltaRSCP, -5, -1);
-      RT_CHECK(ctx, stat, "DeltaRSCP", "deltaRSCP", -1, "DeltaRSCPPerCell");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellMeasuredResults_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellMeasuredResults_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* primaryCPICH-Info */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   /* cpich-Ec-N0 */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->cpich_Ec_N0 > 63u) {
-         rtxErrAddStrParm(ctx, "CPICH-Ec-N0");
-         rtxErrAddUIntParm(ctx, pvalue->cpich_Ec_N0);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "CPICH-Ec-N0", "cpich-Ec-N0", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->cpich_Ec_N0, 0, 63);
-      RT_CHECK(ctx, stat, "CPICH-Ec-N0", "cpich-Ec-N0", -1, 0);
-   }
-   /* cpich-RSCP */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->cpich_RSCP > 127u) {
-         rtxErrAddStrParm(ctx, "CPICH-RSCP");
-         rtxErrAddUIntParm(ctx, pvalue->cpich_RSCP);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "CPICH-RSCP", "cpich-RSCP", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->cpich_RSCP, 0, 127);
-      RT_CHECK(ctx, stat, "CPICH-RSCP", "cpich-RSCP", -1, 0);
-   }
-   /* deltaRSCPPerCell */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_DeltaRSCPPerCell(ctx, &pvalue->deltaRSCPPerCell);
-      RT_CHECK(ctx, stat, 0, "deltaRSCPPerCell", -1, 0);
-   }
-   /* pathloss */
-   if (pvalue->m & 0x8u) {
-      if ((uint64_t)(pvalue->pathloss - 46) > 127u) {
-         rtxErrAddStrParm(ctx, "Pathloss");
-         rtxErrAddUIntParm(ctx, pvalue->pathloss);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Pathloss", "pathloss", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->pathloss, 46, 173);
-      RT_CHECK(ctx, stat, "Pathloss", "pathloss", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellMeasuredResults_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellMeasuredResults_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellParametersID */
-   if ((uint64_t)pvalue->cellParametersID > 127u) {
-      rtxErrAddStrParm(ctx, "CellParametersID");
-      rtxErrAddUIntParm(ctx, pvalue->cellParametersID);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "CellParametersID", "cellParametersID", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cellParametersID, 0, 127);
-   RT_CHECK(ctx, stat, "CellParametersID", "cellParametersID", -1, 0);
-   /* proposedTGSN */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->proposedTGSN > 14u) {
-         rtxErrAddStrParm(ctx, "TGSN");
-         rtxErrAddUIntParm(ctx, pvalue->proposedTGSN);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TGSN", "proposedTGSN", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->proposedTGSN, 0, 14);
-      RT_CHECK(ctx, stat, "TGSN", "proposedTGSN", -1, 0);
-   }
-   /* primaryCCPCH-RSCP */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->primaryCCPCH_RSCP > 127u) {
-         rtxErrAddStrParm(ctx, "PrimaryCCPCH-RSCP");
-         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_RSCP);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-RSCP", "primaryCCPCH-RSCP", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_RSCP, 0, 127);
-      RT_CHECK(ctx, stat, "PrimaryCCPCH-RSCP", "primaryCCPCH-RSCP", -1, 0);
-   }
-   /* pathloss */
-   if (pvalue->m & 0x4u) {
-      if ((uint64_t)(pvalue->pathloss - 46) > 127u) {
-         rtxErrAddStrParm(ctx, "Pathloss");
-         rtxErrAddUIntParm(ctx, pvalue->pathloss);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Pathloss", "pathloss", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->pathloss, 46, 173);
-      RT_CHECK(ctx, stat, "Pathloss", "pathloss", -1, 0);
-   }
-   /* timeslotISCP-List */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_TimeslotISCP_List(ctx, &pvalue->timeslotISCP_List);
-      RT_CHECK(ctx, stat, 0, "timeslotISCP-List", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellMeasuredResults_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellMeasuredResults_r9_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_CellMeasuredResults_r9_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_CellMeasuredResults_r9_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellMeasuredResults_r9(rtxContext* RT_RESTRICT ctx, const CellMeasuredResults_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellMeasuredResults-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellMeasuredResults-r9");
-   /* cellIdentity */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellIdentity(ctx, pvalue->cellIdentity);
-      RT_CHECK(ctx, stat, 0, "cellIdentity", -1, "CellMeasuredResults-r9");
-   }
-   /* cellSynchronisationInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_CellSynchronisationInfo(ctx, &pvalue->cellSynchronisationInfo);
-      RT_CHECK(ctx, stat, 0, "cellSynchronisationInfo", -1, "CellMeasuredResults-r9");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_CellMeasuredResults_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellMeasuredResults-r9");
-   return 0;
-}
-
-int asn1PE_UMTS_CellMeasuredResults_v920ext_csgMemberIndication(rtxContext* RT_RESTRICT ctx, CellMeasuredResults_v920ext_csgMemberIndication value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CellMeasuredResults_v920ext(rtxContext* RT_RESTRICT ctx, const CellMeasuredResults_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellMeasuredResults-v920ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellMeasuredResults-v920ext");
-   /* csgIdentity */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CSG_Identity(ctx, pvalue->csgIdentity);
-      RT_CHECK(ctx, stat, 0, "csgIdentity", -1, "CellMeasuredResults-v920ext");
-   }
-   /* csgMemberIndication */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->csgMemberIndication > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->csgMemberIndication);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "csgMemberIndication", -1, "CellMeasuredResults-v920ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->csgMemberIndication, 0, 0);
-      RT_CHECK(ctx, stat, 0, "csgMemberIndication", -1, "CellMeasuredResults-v920ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellMeasurementEventResults_fdd(rtxContext* RT_RESTRICT ctx, const CellMeasurementEventResults_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PrimaryCPICH-Info", (int32_t)i, 0);
-      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, (const PrimaryCPICH_Info*)node->data);
-      RT_CHECK(ctx, stat, 0, "PrimaryCPICH-Info", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellMeasurementEventResults_tdd(rtxContext* RT_RESTRICT ctx, const CellMeasurementEventResults_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PrimaryCCPCH-Info", (int32_t)i, 0);
-      stat = asn1PE_UMTS_PrimaryCCPCH_Info(ctx, (const PrimaryCCPCH_Info*)node->data);
-      RT_CHECK(ctx, stat, 0, "PrimaryCCPCH-Info", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellMeasurementEventResults(rtxContext* RT_RESTRICT ctx, const CellMeasurementEventResults* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellMeasurementEventResults");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "CellMeasurementEventResults");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "CellMeasurementEventResults");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, "CellMeasurementEventResults");
-         stat = asn1PE_UMTS_CellMeasurementEventResults_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, "CellMeasurementEventResults");
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, "CellMeasurementEventResults");
-         stat = asn1PE_UMTS_CellMeasurementEventResults_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, "CellMeasurementEventResults");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellMeasurementEventResultsOnSecUlFreq_fdd(rtxContext* RT_RESTRICT ctx, const CellMeasurementEventResultsOnSecUlFreq_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PrimaryCPICH-Info", (int32_t)i, 0);
-      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, (const PrimaryCPICH_Info*)node->data);
-      RT_CHECK(ctx, stat, 0, "PrimaryCPICH-Info", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellMeasurementEventResultsOnSecUlFreq(rtxContext* RT_RESTRICT ctx, const CellMeasurementEventResultsOnSecUlFreq* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellMeasurementEventResultsOnSecUlFreq");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "CellMeasurementEventResultsOnSecUlFreq");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "CellMeasurementEventResultsOnSecUlFreq");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, "CellMeasurementEventResultsOnSecUlFreq");
-         stat = asn1PE_UMTS_CellMeasurementEventResultsOnSecUlFreq_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, "CellMeasurementEventResultsOnSecUlFreq");
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellMeasurementEventResults_LCR_r4(rtxContext* RT_RESTRICT ctx, const CellMeasurementEventResults_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellMeasurementEventResults-LCR-r4");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CellMeasurementEventResults-LCR-r4");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PrimaryCCPCH-Info-LCR-r4", (int32_t)i, "CellMeasurementEventResults-LCR-r4");
-      stat = asn1PE_UMTS_PrimaryCCPCH_Info_LCR_r4(ctx, (const PrimaryCCPCH_Info_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat, 0, "PrimaryCCPCH-Info-LCR-r4", (int32_t)i, "CellMeasurementEventResults-LCR-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellSelectReselectInfoPCHFACH_v5b0ext(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoPCHFACH_v5b0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
-   /* q-Hyst-l-S-PCH */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->q_Hyst_l_S_PCH > 40u) {
-         rtxErrAddStrParm(ctx, "Q-Hyst-S-Fine");
-         rtxErrAddUIntParm(ctx, pvalue->q_Hyst_l_S_PCH);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-Hyst-S-Fine", "q-Hyst-l-S-PCH", -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->q_Hyst_l_S_PCH, 0, 40);
-      RT_CHECK(ctx, stat, "Q-Hyst-S-Fine", "q-Hyst-l-S-PCH", -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
-   }
-   /* q-Hyst-l-S-FACH */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->q_Hyst_l_S_FACH > 40u) {
-         rtxErrAddStrParm(ctx, "Q-Hyst-S-Fine");
-         rtxErrAddUIntParm(ctx, pvalue->q_Hyst_l_S_FACH);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-Hyst-S-Fine", "q-Hyst-l-S-FACH", -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->q_Hyst_l_S_FACH, 0, 40);
-      RT_CHECK(ctx, stat, "Q-Hyst-S-Fine", "q-Hyst-l-S-FACH", -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
-   }
-   /* q-Hyst-2-S-PCH */
-   if (pvalue->m & 0x4u) {
-      if ((uint64_t)pvalue->q_Hyst_2_S_PCH > 40u) {
-         rtxErrAddStrParm(ctx, "Q-Hyst-S-Fine");
-         rtxErrAddUIntParm(ctx, pvalue->q_Hyst_2_S_PCH);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-Hyst-S-Fine", "q-Hyst-2-S-PCH", -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->q_Hyst_2_S_PCH, 0, 40);
-      RT_CHECK(ctx, stat, "Q-Hyst-S-Fine", "q-Hyst-2-S-PCH", -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
-   }
-   /* q-Hyst-2-S-FACH */
-   if (pvalue->m & 0x8u) {
-      if ((uint64_t)pvalue->q_Hyst_2_S_FACH > 40u) {
-         rtxErrAddStrParm(ctx, "Q-Hyst-S-Fine");
-         rtxErrAddUIntParm(ctx, pvalue->q_Hyst_2_S_FACH);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "Q-Hyst-S-Fine", "q-Hyst-2-S-FACH", -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->q_Hyst_2_S_FACH, 0, 40);
-      RT_CHECK(ctx, stat, "Q-Hyst-S-Fine", "q-Hyst-2-S-FACH", -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
-   }
-   /* t-Reselection-S-PCH */
-   if (pvalue->m & 0x10u) {
-      if ((uint64_t)pvalue->t_Reselection_S_PCH > 31u) {
-         rtxErrAddStrParm(ctx, "T-Reselection-S");
-         rtxErrAddUIntParm(ctx, pvalue->t_Reselection_S_PCH);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "T-Reselection-S", "t-Reselection-S-PCH", -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_Reselection_S_PCH, 0, 31);
-      RT_CHECK(ctx, stat, "T-Reselection-S", "t-Reselection-S-PCH", -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
-   }
-   /* t-Reselection-S-FACH */
-   if (pvalue->m & 0x20u) {
-      if ((uint64_t)pvalue->t_Reselection_S_FACH > 31u) {
-         rtxErrAddStrParm(ctx, "T-Reselection-S-Fine");
-         rtxErrAddUIntParm(ctx, pvalue->t_Reselection_S_FACH);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "T-Reselection-S-Fine", "t-Reselection-S-FACH", -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_Reselection_S_FACH, 0, 31);
-      RT_CHECK(ctx, stat, "T-Reselection-S-Fine", "t-Reselection-S-FACH", -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellsForInterFreqMeasList(rtxContext* RT_RESTRICT ctx, const CellsForInterFreqMeasList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellsForInterFreqMeasList");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CellsForInterFreqMeasList");
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)pvalue->elem[i] > 31u) {
-         rtxErrAddStrParm(ctx, "InterFreqCellID");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterFreqCellID", "InterFreqCellID", (int32_t)i, "CellsForInterFreqMeasList");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 31);
-      RT_CHECK(ctx, stat, "InterFreqCellID", "InterFreqCellID", (int32_t)i, "CellsForInterFreqMeasList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellsForIntraFreqMeasList(rtxContext* RT_RESTRICT ctx, const CellsForIntraFreqMeasList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellsForIntraFreqMeasList");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CellsForIntraFreqMeasList");
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)pvalue->elem[i] > 31u) {
-         rtxErrAddStrParm(ctx, "IntraFreqCellID");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "IntraFreqCellID", "IntraFreqCellID", (int32_t)i, "CellsForIntraFreqMeasList");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 31);
-      RT_CHECK(ctx, stat, "IntraFreqCellID", "IntraFreqCellID", (int32_t)i, "CellsForIntraFreqMeasList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqCellIDOnSecULFreq(rtxContext* RT_RESTRICT ctx, IntraFreqCellIDOnSecULFreq value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 31u) {
-      rtxErrAddStrParm(ctx, "IntraFreqCellIDOnSecULFreq");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "IntraFreqCellIDOnSecULFreq");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellIDOnSecULFreq");
-   return 0;
-}
-
-int asn1PE_UMTS_CellsForIntraFreqMeasListOnSecULFreq(rtxContext* RT_RESTRICT ctx, const CellsForIntraFreqMeasListOnSecULFreq* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellsForIntraFreqMeasListOnSecULFreq");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CellsForIntraFreqMeasListOnSecULFreq");
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)pvalue->elem[i] > 31u) {
-         rtxErrAddStrParm(ctx, "IntraFreqCellIDOnSecULFreq");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "IntraFreqCellIDOnSecULFreq", "IntraFreqCellIDOnSecULFreq", (int32_t)i, "CellsForIntraFreqMeasListOnSecULFreq");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 31);
-      RT_CHECK(ctx, stat, "IntraFreqCellIDOnSecULFreq", "IntraFreqCellIDOnSecULFreq", (int32_t)i, "CellsForIntraFreqMeasListOnSecULFreq");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellToReport(rtxContext* RT_RESTRICT ctx, const CellToReport* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellToReport");
-   /* bsicReported */
-   stat = asn1PE_UMTS_BSICReported(ctx, &pvalue->bsicReported);
-   RT_CHECK(ctx, stat, 0, "bsicReported", -1, "CellToReport");
-   return 0;
-}
-
-int asn1PE_UMTS_CellToReportList(rtxContext* RT_RESTRICT ctx, const CellToReportList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellToReportList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CellToReportList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CellToReport", (int32_t)i, "CellToReportList");
-      stat = asn1PE_UMTS_CellToReport(ctx, (const CellToReport*)node->data);
-      RT_CHECK(ctx, stat, 0, "CellToReport", (int32_t)i, "CellToReportList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CNAVclockModel(rtxContext* RT_RESTRICT ctx, const CNAVclockModel* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CNAVclockModel");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CNAVclockModel");
-   /* cnavToc */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->cnavToc, 11, 11);
-   RT_CHECK(ctx, stat, 0, "cnavToc", -1, "CNAVclockModel");
-   /* cnavTop */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->cnavTop, 11, 11);
-   RT_CHECK(ctx, stat, 0, "cnavTop", -1, "CNAVclockModel");
-   /* cnavURA0 */
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pe_BitString32(ctx, &pvalue->cnavURA0, 5, 5);
-   RT_CHECK(ctx, stat, 0, "cnavURA0", -1, "CNAVclockModel");
-   /* cnavURA1 */
-   RT_SET_SIZE(ctx, 3, 3);
-   stat = pe_BitString32(ctx, &pvalue->cnavURA1, 3, 3);
-   RT_CHECK(ctx, stat, 0, "cnavURA1", -1, "CNAVclockModel");
-   /* cnavURA2 */
-   RT_SET_SIZE(ctx, 3, 3);
-   stat = pe_BitString32(ctx, &pvalue->cnavURA2, 3, 3);
-   RT_CHECK(ctx, stat, 0, "cnavURA2", -1, "CNAVclockModel");
-   /* cnavAf2 */
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pe_BitString32(ctx, &pvalue->cnavAf2, 10, 10);
-   RT_CHECK(ctx, stat, 0, "cnavAf2", -1, "CNAVclockModel");
-   /* cnavAf1 */
-   RT_SET_SIZE(ctx, 20, 20);
-   stat = pe_BitString32(ctx, &pvalue->cnavAf1, 20, 20);
-   RT_CHECK(ctx, stat, 0, "cnavAf1", -1, "CNAVclockModel");
-   /* cnavAf0 */
-   RT_SET_SIZE(ctx, 26, 26);
-   stat = pe_BitString32(ctx, &pvalue->cnavAf0, 26, 26);
-   RT_CHECK(ctx, stat, 0, "cnavAf0", -1, "CNAVclockModel");
-   /* cnavTgd */
-   RT_SET_SIZE(ctx, 13, 13);
-   stat = pe_BitString32(ctx, &pvalue->cnavTgd, 13, 13);
-   RT_CHECK(ctx, stat, 0, "cnavTgd", -1, "CNAVclockModel");
-   /* cnavISCl1cp */
-   if (pvalue->m & 0x1u) {
-      RT_SET_SIZE(ctx, 13, 13);
-      stat = pe_BitString32(ctx, &pvalue->cnavISCl1cp, 13, 13);
-      RT_CHECK(ctx, stat, 0, "cnavISCl1cp", -1, "CNAVclockModel");
-   }
-   /* cnavISCl1cd */
-   if (pvalue->m & 0x2u) {
-      RT_SET_SIZE(ctx, 13, 13);
-      stat = pe_BitString32(ctx, &pvalue->cnavISCl1cd, 13, 13);
-      RT_CHECK(ctx, stat, 0, "cnavISCl1cd", -1, "CNAVclockModel");
-   }
-   /* cnavISCl1ca */
-   if (pvalue->m & 0x4u) {
-      RT_SET_SIZE(ctx, 13, 13);
-      stat = pe_BitString32(ctx, &pvalue->cnavISCl1ca, 13, 13);
-      RT_CHECK(ctx, stat, 0, "cnavISCl1ca", -1, "CNAVclockModel");
-   }
-   /* cnavISCl2c */
-   if (pvalue->m & 0x8u) {
-      RT_SET_SIZE(ctx, 13, 13);
-      stat = pe_BitString32(ctx, &pvalue->cnavISCl2c, 13, 13);
-      RT_CHECK(ctx, stat, 0, "cnavISCl2c", -1, "CNAVclockModel");
-   }
-   /* cnavISCl5i5 */
-   if (pvalue->m & 0x10u) {
-      RT_SET_SIZE(ctx, 13, 13);
-      stat = pe_BitString32(ctx, &pvalue->cnavISCl5i5, 13, 13);
-      RT_CHECK(ctx, stat, 0, "cnavISCl5i5", -1, "CNAVclockModel");
-   }
-   /* cnavISCl5q5 */
-   if (pvalue->m & 0x20u) {
-      RT_SET_SIZE(ctx, 13, 13);
-      stat = pe_BitString32(ctx, &pvalue->cnavISCl5q5, 13, 13);
-      RT_CHECK(ctx, stat, 0, "cnavISCl5q5", -1, "CNAVclockModel");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CSGCellInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CSGCellInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* startPSC */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->startPSC);
-   RT_CHECK(ctx, stat, 0, "startPSC", -1, 0);
-   /* numberOfPSCs */
-   if ((uint64_t)(pvalue->numberOfPSCs - 1) > 511u) {
-      rtxErrAddStrParm(ctx, "numberOfPSCs");
-      rtxErrAddUIntParm(ctx, pvalue->numberOfPSCs);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "numberOfPSCs", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->numberOfPSCs, 1, 512);
-   RT_CHECK(ctx, stat, 0, "numberOfPSCs", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CSGCellInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CSGCellInfo_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_CSGCellInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CSGCellInfo(rtxContext* RT_RESTRICT ctx, const CSGCellInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CSGCellInfo");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_CSGCellInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CSGCellInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_CSGCellInfoList(rtxContext* RT_RESTRICT ctx, const CSGCellInfoList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CSGCellInfoList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CSGCellInfoList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CSGCellInfo", (int32_t)i, "CSGCellInfoList");
-      stat = asn1PE_UMTS_CSGCellInfo(ctx, (const CSGCellInfo*)node->data);
-      RT_CHECK(ctx, stat, 0, "CSGCellInfo", (int32_t)i, "CSGCellInfoList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CSGInterFreqCellInfo(rtxContext* RT_RESTRICT ctx, const CSGInterFreqCellInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CSGInterFreqCellInfo");
-   /* frequencyInfo */
-   stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "CSGInterFreqCellInfo");
-   /* cSGInterFreqCellInfoListperFreq */
-   stat = asn1PE_UMTS_CSGCellInfoList(ctx, &pvalue->cSGInterFreqCellInfoListperFreq);
-   RT_CHECK(ctx, stat, 0, "cSGInterFreqCellInfoListperFreq", -1, "CSGInterFreqCellInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_CSGInterFreqCellInfoList(rtxContext* RT_RESTRICT ctx, const CSGInterFreqCellInfoList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CSGInterFreqCellInfoList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CSGInterFreqCellInfoList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CSGInterFreqCellInfo", (int32_t)i, "CSGInterFreqCellInfoList");
-      stat = asn1PE_UMTS_CSGInterFreqCellInfo(ctx, (const CSGInterFreqCellInfo*)node->data);
-      RT_CHECK(ctx, stat, 0, "CSGInterFreqCellInfo", (int32_t)i, "CSGInterFreqCellInfoList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CSGIntraFreqCellInfoList(rtxContext* RT_RESTRICT ctx, const CSGIntraFreqCellInfoList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CSGIntraFreqCellInfoList");
-   stat = asn1PE_UMTS_CSGCellInfoList(ctx, pvalue);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CSGIntraFreqCellInfoList");
-   return 0;
-}
-
-int asn1PE_UMTS_CSGProximityDetection_uTRACSGProximityDetec(rtxContext* RT_RESTRICT ctx, CSGProximityDetection_uTRACSGProximityDetec value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CSGProximityDetection_e_UTRACSGProximityDetec(rtxContext* RT_RESTRICT ctx, CSGProximityDetection_e_UTRACSGProximityDetec value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CSGProximityDetection(rtxContext* RT_RESTRICT ctx, const CSGProximityDetection* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CSGProximityDetection");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CSGProximityDetection");
-   /* uTRACSGProximityDetec */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->uTRACSGProximityDetec > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->uTRACSGProximityDetec);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "uTRACSGProximityDetec", -1, "CSGProximityDetection");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->uTRACSGProximityDetec, 0, 0);
-      RT_CHECK(ctx, stat, 0, "uTRACSGProximityDetec", -1, "CSGProximityDetection");
-   }
-   /* e-UTRACSGProximityDetec */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->e_UTRACSGProximityDetec > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->e_UTRACSGProximityDetec);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "e-UTRACSGProximityDetec", -1, "CSGProximityDetection");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->e_UTRACSGProximityDetec, 0, 0);
-      RT_CHECK(ctx, stat, 0, "e-UTRACSGProximityDetec", -1, "CSGProximityDetection");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CSGProximityIndication_cSGproximityInd(rtxContext* RT_RESTRICT ctx, CSGProximityIndication_cSGproximityInd value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CSGProximityIndication_radioAccessTechnology_uTRA(rtxContext* RT_RESTRICT ctx, const CSGProximityIndication_radioAccessTechnology_uTRA* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* cSGFrequencyInfoUTRA */
-   stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->cSGFrequencyInfoUTRA);
-   RT_CHECK(ctx, stat, 0, "cSGFrequencyInfoUTRA", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CSGProximityIndication_radioAccessTechnology_e_UTRA(rtxContext* RT_RESTRICT ctx, const CSGProximityIndication_radioAccessTechnology_e_UTRA* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* cSGFrequencyInfoEUTRA */
-   stat = pe_ConsUInt64(ctx, pvalue->cSGFrequencyInfoEUTRA, 0, 65535);
-   RT_CHECK(ctx, stat, "EARFCN", "cSGFrequencyInfoEUTRA", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CSGProximityIndication_radioAccessTechnology(rtxContext* RT_RESTRICT ctx, const CSGProximityIndication_radioAccessTechnology* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.uTRA == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "uTRA", -1, 0);
-         stat = asn1PE_UMTS_CSGProximityIndication_radioAccessTechnology_uTRA(ctx, pvalue->u.uTRA);
-         RT_CHECK(ctx, stat, 0, "uTRA", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.e_UTRA == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e-UTRA", -1, 0);
-         stat = asn1PE_UMTS_CSGProximityIndication_radioAccessTechnology_e_UTRA(ctx, pvalue->u.e_UTRA);
-         RT_CHECK(ctx, stat, 0, "e-UTRA", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CSGProximityIndication(rtxContext* RT_RESTRICT ctx, const CSGProximityIndication* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CSGProximityIndication");
-   /* cSGproximityInd */
-   if (pvalue->cSGproximityInd > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->cSGproximityInd);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "cSGproximityInd", -1, "CSGProximityIndication");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cSGproximityInd, 0, 1);
-   RT_CHECK(ctx, stat, 0, "cSGproximityInd", -1, "CSGProximityIndication");
-   /* radioAccessTechnology */
-   stat = asn1PE_UMTS_CSGProximityIndication_radioAccessTechnology(ctx, &pvalue->radioAccessTechnology);
-   RT_CHECK(ctx, stat, 0, "radioAccessTechnology", -1, "CSGProximityIndication");
-   return 0;
-}
-
-int asn1PE_UMTS_DataBitAssistance_data_bits(rtxContext* RT_RESTRICT ctx, const DataBitAssistance_data_bits* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   RT_SET_SIZE(ctx, 1, 1024);
-   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_DataBitAssistance(rtxContext* RT_RESTRICT ctx, const DataBitAssistance* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DataBitAssistance");
-   /* ganss-signal-id */
-   if ((uint64_t)pvalue->ganss_signal_id > 7u) {
-      rtxErrAddStrParm(ctx, "GANSS-Signal-Id");
-      rtxErrAddUIntParm(ctx, pvalue->ganss_signal_id);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "GANSS-Signal-Id", "ganss-signal-id", -1, "DataBitAssistance");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ganss_signal_id, 0, 7);
-   RT_CHECK(ctx, stat, "GANSS-Signal-Id", "ganss-signal-id", -1, "DataBitAssistance");
-   /* data-bits */
-   stat = asn1PE_UMTS_DataBitAssistance_data_bits(ctx, &pvalue->data_bits);
-   RT_CHECK(ctx, stat, 0, "data-bits", -1, "DataBitAssistance");
-   return 0;
-}
-
-int asn1PE_UMTS_DataBitAssistanceSgnList(rtxContext* RT_RESTRICT ctx, const DataBitAssistanceSgnList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DataBitAssistanceSgnList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DataBitAssistanceSgnList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DataBitAssistance", (int32_t)i, "DataBitAssistanceSgnList");
-      stat = asn1PE_UMTS_DataBitAssistance(ctx, (const DataBitAssistance*)node->data);
-      RT_CHECK(ctx, stat, 0, "DataBitAssistance", (int32_t)i, "DataBitAssistanceSgnList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DataBitAssistanceSat(rtxContext* RT_RESTRICT ctx, const DataBitAssistanceSat* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DataBitAssistanceSat");
-   /* satID */
-   if ((uint64_t)pvalue->satID > 63u) {
-      rtxErrAddStrParm(ctx, "satID");
-      rtxErrAddUIntParm(ctx, pvalue->satID);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "satID", -1, "DataBitAssistanceSat");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->satID, 0, 63);
-   RT_CHECK(ctx, stat, 0, "satID", -1, "DataBitAssistanceSat");
-   /* dataBitAssistanceSgnList */
-   stat = asn1PE_UMTS_DataBitAssistanceSgnList(ctx, &pvalue->dataBitAssistanceSgnList);
-   RT_CHECK(ctx, stat, 0, "dataBitAssistanceSgnList", -1, "DataBitAssistanceSat");
-   return 0;
-}
-
-int asn1PE_UMTS_DataBitAssistanceList(rtxContext* RT_RESTRICT ctx, const DataBitAssistanceList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DataBitAssistanceList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DataBitAssistanceList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DataBitAssistanceSat", (int32_t)i, "DataBitAssistanceList");
-      stat = asn1PE_UMTS_DataBitAssistanceSat(ctx, (const DataBitAssistanceSat*)node->data);
-      RT_CHECK(ctx, stat, 0, "DataBitAssistanceSat", (int32_t)i, "DataBitAssistanceList");
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_TGP_SequenceList, pvalue);
 }
 
-int asn1PE_UMTS_DeltaPRC(rtxContext* RT_RESTRICT ctx, DeltaPRC value)
+static int enc_DPCH_CompressedModeInfo(rtxContext* RT_RESTRICT ctx, const DPCH_CompressedModeInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (value < -127 || value > 127) {
-      rtxErrAddStrParm(ctx, "DeltaPRC");
-      rtxErrAddIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DeltaPRC");
-   }
-   stat = pe_ConsInt64(ctx, value, -127, 127);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DeltaPRC");
-   return 0;
-}
-
-int asn1PE_UMTS_DeltaRRC(rtxContext* RT_RESTRICT ctx, DeltaRRC value)
-{
-   int stat = 0;
-   if (value < -7 || value > 7) {
-      rtxErrAddStrParm(ctx, "DeltaRRC");
-      rtxErrAddIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "DeltaRRC");
-   }
-   stat = pe_ConsInt64(ctx, value, -7, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DeltaRRC");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DPCH-CompressedModeInfo");
+   /* tgp-SequenceList */
+   stat = enc_TGP_SequenceList(ctx, &pvalue->tgp_SequenceList, cur);
+   RT_CHECK(ctx, stat, 0, "tgp-SequenceList", -1, "DPCH-CompressedModeInfo");
    return 0;
 }
 
-int asn1PE_UMTS_DeltaUT1(rtxContext* RT_RESTRICT ctx, const DeltaUT1* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DPCH_CompressedModeInfo(rtxContext* RT_RESTRICT ctx, const DPCH_CompressedModeInfo* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DeltaUT1");
-   /* b1 */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->b1, 11, 11);
-   RT_CHECK(ctx, stat, 0, "b1", -1, "DeltaUT1");
-   /* b2 */
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pe_BitString32(ctx, &pvalue->b2, 10, 10);
-   RT_CHECK(ctx, stat, 0, "b2", -1, "DeltaUT1");
-   return 0;
-}
-
-int asn1PE_UMTS_GANSS_Status_Health(rtxContext* RT_RESTRICT ctx, GANSS_Status_Health value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "GANSS-Status-Health");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSS-Status-Health");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_DPCH_CompressedModeInfo, pvalue);
 }
 
-int asn1PE_UMTS_UDRE(rtxContext* RT_RESTRICT ctx, UDRE value)
+RT_MERGED_BODY int enc_TX_DiversityMode(rtxContext* RT_RESTRICT ctx, TX_DiversityMode value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value > 3) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UDRE");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TX-DiversityMode");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UDRE");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TX-DiversityMode");
    return 0;
 }
 
-int asn1PE_UMTS_DGANSSSignalInformation(rtxContext* RT_RESTRICT ctx, const DGANSSSignalInformation* RT_RESTRICT pvalue)
+int asn1PE_UMTS_TX_DiversityMode(rtxContext* RT_RESTRICT ctx, TX_DiversityMode value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TX_DiversityMode, value);
+}
+
+RT_MERGED_BODY int enc_S_Field(rtxContext* RT_RESTRICT ctx, S_Field value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DGANSSSignalInformation");
-   /* satId */
-   if ((uint64_t)pvalue->satId > 63u) {
-      rtxErrAddStrParm(ctx, "satId");
-      rtxErrAddUIntParm(ctx, pvalue->satId);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "satId", -1, "DGANSSSignalInformation");
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "S-Field");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->satId, 0, 63);
-   RT_CHECK(ctx, stat, 0, "satId", -1, "DGANSSSignalInformation");
-   /* iode-dganss */
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pe_BitString32(ctx, &pvalue->iode_dganss, 10, 10);
-   RT_CHECK(ctx, stat, 0, "iode-dganss", -1, "DGANSSSignalInformation");
-   /* udre */
-   if (pvalue->udre > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->udre);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UDRE", "udre", -1, "DGANSSSignalInformation");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->udre, 0, 3);
-   RT_CHECK(ctx, stat, "UDRE", "udre", -1, "DGANSSSignalInformation");
-   /* ganss-prc */
-   if (pvalue->ganss_prc < -2047 || pvalue->ganss_prc > 2047) {
-      rtxErrAddStrParm(ctx, "ganss-prc");
-      rtxErrAddIntParm(ctx, pvalue->ganss_prc);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganss-prc", -1, "DGANSSSignalInformation");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->ganss_prc, -2047, 2047);
-   RT_CHECK(ctx, stat, 0, "ganss-prc", -1, "DGANSSSignalInformation");
-   /* ganss-rrc */
-   if (pvalue->ganss_rrc < -127 || pvalue->ganss_rrc > 127) {
-      rtxErrAddStrParm(ctx, "ganss-rrc");
-      rtxErrAddIntParm(ctx, pvalue->ganss_rrc);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganss-rrc", -1, "DGANSSSignalInformation");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->ganss_rrc, -127, 127);
-   RT_CHECK(ctx, stat, 0, "ganss-rrc", -1, "DGANSSSignalInformation");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "S-Field");
    return 0;
 }
 
-int asn1PE_UMTS_DGANSSSignalInformationList(rtxContext* RT_RESTRICT ctx, const DGANSSSignalInformationList* RT_RESTRICT pvalue)
+int asn1PE_UMTS_S_Field(rtxContext* RT_RESTRICT ctx, S_Field value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_S_Field, value);
+}
+
+RT_MERGED_BODY int enc_SSDT_Information(rtxContext* RT_RESTRICT ctx, const SSDT_Information* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DGANSSSignalInformationList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DGANSSSignalInformationList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DGANSSSignalInformation", (int32_t)i, "DGANSSSignalInformationList");
-      stat = asn1PE_UMTS_DGANSSSignalInformation(ctx, (const DGANSSSignalInformation*)node->data);
-      RT_CHECK(ctx, stat, 0, "DGANSSSignalInformation", (int32_t)i, "DGANSSSignalInformationList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SSDT-Information");
+   /* s-Field */
+   if (pvalue->s_Field > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->s_Field);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "S-Field", "s-Field", -1, "SSDT-Information");
    }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->s_Field, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "S-Field", "s-Field", -1, "SSDT-Information");
+   /* codeWordSet */
+   if (pvalue->codeWordSet > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->codeWordSet);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "CodeWordSet", "codeWordSet", -1, "SSDT-Information");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->codeWordSet, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "CodeWordSet", "codeWordSet", -1, "SSDT-Information");
    return 0;
 }
 
-int asn1PE_UMTS_DGANSSInfo(rtxContext* RT_RESTRICT ctx, const DGANSSInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_SSDT_Information(rtxContext* RT_RESTRICT ctx, const SSDT_Information* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SSDT_Information, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonInformation_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DGANSSInfo");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DGANSSInfo");
-   /* ganssSignalId */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* defaultDPCH-OffsetValue */
    if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->ganssSignalId > 7u) {
-         rtxErrAddStrParm(ctx, "GANSS-Signal-Id");
-         rtxErrAddUIntParm(ctx, pvalue->ganssSignalId);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "GANSS-Signal-Id", "ganssSignalId", -1, "DGANSSInfo");
+      if ((uint64_t)pvalue->defaultDPCH_OffsetValue > 599u) {
+         rtxErrAddStrParm(ctx, "DefaultDPCH-OffsetValueFDD");
+         rtxErrAddUIntParm(ctx, pvalue->defaultDPCH_OffsetValue);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
       }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssSignalId, 0, 7);
-      RT_CHECK(ctx, stat, "GANSS-Signal-Id", "ganssSignalId", -1, "DGANSSInfo");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->defaultDPCH_OffsetValue, 0, 599);
+      RT_CHECK_PUT(ctx, cur, stat, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
    }
-   /* ganssStatusHealth */
-   if (pvalue->ganssStatusHealth > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->ganssStatusHealth);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "GANSS-Status-Health", "ganssStatusHealth", -1, "DGANSSInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ganssStatusHealth, 0, 7);
-   RT_CHECK(ctx, stat, "GANSS-Status-Health", "ganssStatusHealth", -1, "DGANSSInfo");
-   /* dgansssignalInformationList */
+   /* dpch-CompressedModeInfo */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DGANSSSignalInformationList(ctx, &pvalue->dgansssignalInformationList);
-      RT_CHECK(ctx, stat, 0, "dgansssignalInformationList", -1, "DGANSSInfo");
+      stat = enc_DPCH_CompressedModeInfo(ctx, &pvalue->dpch_CompressedModeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeInfo", -1, 0);
+   }
+   /* tx-DiversityMode */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->tx_DiversityMode > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->tx_DiversityMode);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tx_DiversityMode, 0, 3);
+      RT_CHECK_PUT(ctx, cur, stat, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
+   }
+   /* dummy */
+   if (pvalue->m & 0x8u) {
+      stat = enc_SSDT_Information(ctx, &pvalue->dummy, cur);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_UDREGrowthRate(rtxContext* RT_RESTRICT ctx, UDREGrowthRate value)
+int asn1PE_UMTS_DL_CommonInformation_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonInformation_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->defaultDPCH_OffsetValue > 7u) {
+         rtxErrAddStrParm(ctx, "DefaultDPCH-OffsetValueTDD");
+         rtxErrAddUIntParm(ctx, pvalue->defaultDPCH_OffsetValue);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->defaultDPCH_OffsetValue, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonInformation_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_DL_CommonInformation_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_DL_CommonInformation_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_modeSpecificInfo, pvalue);
+}
+
+static int enc_DL_CommonInformation(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-CommonInformation");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-CommonInformation");
+   /* dl-DPCH-InfoCommon */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DL_DPCH_InfoCommon(ctx, &pvalue->dl_DPCH_InfoCommon, cur);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, "DL-CommonInformation");
+   }
+   /* modeSpecificInfo */
+   stat = enc_DL_CommonInformation_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonInformation");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_DPCH_InfoCommon_r4_cfnHandling_initialise(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r4_cfnHandling_initialise* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dummy */
+   if (pvalue->m & 0x1u) {
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->dummy, 0, 255);
+      RT_CHECK_PUT(ctx, cur, stat, "Cfntargetsfnframeoffset", "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoCommon_r4_cfnHandling_initialise(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r4_cfnHandling_initialise* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoCommon_r4_cfnHandling_initialise, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_DPCH_InfoCommon_r4_cfnHandling(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r4_cfnHandling* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.initialise == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "initialise", -1, 0);
+         stat = enc_DL_DPCH_InfoCommon_r4_cfnHandling_initialise(ctx, pvalue->u.initialise, cur);
+         RT_CHECK(ctx, stat, 0, "initialise", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoCommon_r4_cfnHandling(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r4_cfnHandling* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoCommon_r4_cfnHandling, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_DPCH_InfoCommon_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-DPCH-PowerControlInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, 0);
+   }
+   /* powerOffsetPilot-pdpdch */
+   if ((uint64_t)pvalue->powerOffsetPilot_pdpdch > 24u) {
+      rtxErrAddStrParm(ctx, "PowerOffsetPilot-pdpdch");
+      rtxErrAddUIntParm(ctx, pvalue->powerOffsetPilot_pdpdch);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PowerOffsetPilot-pdpdch", "powerOffsetPilot-pdpdch", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->powerOffsetPilot_pdpdch, 0, 24);
+   RT_CHECK_PUT(ctx, cur, stat, "PowerOffsetPilot-pdpdch", "powerOffsetPilot-pdpdch", -1, 0);
+   /* dl-rate-matching-restriction */
+   if (pvalue->m & 0x2u) {
+      stat = enc_Dl_rate_matching_restriction(ctx, &pvalue->dl_rate_matching_restriction, cur);
+      RT_CHECK(ctx, stat, 0, "dl-rate-matching-restriction", -1, 0);
+   }
+   /* spreadingFactorAndPilot */
+   stat = enc_SF512_AndPilot(ctx, &pvalue->spreadingFactorAndPilot, cur);
+   RT_CHECK(ctx, stat, 0, "spreadingFactorAndPilot", -1, 0);
+   /* positionFixedOrFlexible */
+   if (pvalue->positionFixedOrFlexible > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->positionFixedOrFlexible);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->positionFixedOrFlexible, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
+   /* tfci-Existence */
+   stat = rtxEncBitAt(ctx, cur, pvalue->tfci_Existence);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tfci-Existence", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoCommon_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoCommon_r4_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_DPCH_InfoCommon_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-DPCH-PowerControlInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoCommon_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoCommon_r4_modeSpecificInfo_tdd, pvalue);
+}
+
+static int enc_DL_DPCH_InfoCommon_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_DL_DPCH_InfoCommon_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_DL_DPCH_InfoCommon_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoCommon_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r4_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoCommon_r4_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_DPCH_InfoCommon_r4(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-DPCH-InfoCommon-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-DPCH-InfoCommon-r4");
+   /* cfnHandling */
+   stat = enc_DL_DPCH_InfoCommon_r4_cfnHandling(ctx, &pvalue->cfnHandling, cur);
+   RT_CHECK(ctx, stat, 0, "cfnHandling", -1, "DL-DPCH-InfoCommon-r4");
+   /* modeSpecificInfo */
+   stat = enc_DL_DPCH_InfoCommon_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-DPCH-InfoCommon-r4");
+   /* mac-d-HFN-initial-value */
+   if (pvalue->m & 0x1u) {
+      stat = enc_MAC_d_HFN_initial_value(ctx, pvalue->mac_d_HFN_initial_value, cur);
+      RT_CHECK(ctx, stat, 0, "mac-d-HFN-initial-value", -1, "DL-DPCH-InfoCommon-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoCommon_r4(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoCommon_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_SSDT_UL(rtxContext* RT_RESTRICT ctx, SSDT_UL value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "SSDT-UL");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SSDT-UL");
+   return 0;
+}
+
+int asn1PE_UMTS_SSDT_UL(rtxContext* RT_RESTRICT ctx, SSDT_UL value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SSDT_UL, value);
+}
+
+RT_MERGED_BODY int enc_SSDT_Information_r4(rtxContext* RT_RESTRICT ctx, const SSDT_Information_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SSDT-Information-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SSDT-Information-r4");
+   /* s-Field */
+   if (pvalue->s_Field > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->s_Field);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "S-Field", "s-Field", -1, "SSDT-Information-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->s_Field, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "S-Field", "s-Field", -1, "SSDT-Information-r4");
+   /* codeWordSet */
+   if (pvalue->codeWordSet > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->codeWordSet);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "CodeWordSet", "codeWordSet", -1, "SSDT-Information-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->codeWordSet, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "CodeWordSet", "codeWordSet", -1, "SSDT-Information-r4");
+   /* ssdt-UL-r4 */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->ssdt_UL_r4 > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->ssdt_UL_r4);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "SSDT-UL", "ssdt-UL-r4", -1, "SSDT-Information-r4");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ssdt_UL_r4, 0, 1);
+      RT_CHECK_PUT(ctx, cur, stat, "SSDT-UL", "ssdt-UL-r4", -1, "SSDT-Information-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SSDT_Information_r4(rtxContext* RT_RESTRICT ctx, const SSDT_Information_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SSDT_Information_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonInformation_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->defaultDPCH_OffsetValue > 599u) {
+         rtxErrAddStrParm(ctx, "DefaultDPCH-OffsetValueFDD");
+         rtxErrAddUIntParm(ctx, pvalue->defaultDPCH_OffsetValue);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->defaultDPCH_OffsetValue, 0, 599);
+      RT_CHECK_PUT(ctx, cur, stat, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   /* dpch-CompressedModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = enc_DPCH_CompressedModeInfo(ctx, &pvalue->dpch_CompressedModeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeInfo", -1, 0);
+   }
+   /* tx-DiversityMode */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->tx_DiversityMode > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->tx_DiversityMode);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tx_DiversityMode, 0, 3);
+      RT_CHECK_PUT(ctx, cur, stat, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
+   }
+   /* dummy */
+   if (pvalue->m & 0x8u) {
+      stat = enc_SSDT_Information_r4(ctx, &pvalue->dummy, cur);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_r4_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tstd-Indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->tstd_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tstd-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonInformation_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tddOption */
+   stat = enc_DL_CommonInformation_r4_modeSpecificInfo_tdd_tddOption(ctx, &pvalue->tddOption, cur);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->defaultDPCH_OffsetValue > 7u) {
+         rtxErrAddStrParm(ctx, "DefaultDPCH-OffsetValueTDD");
+         rtxErrAddUIntParm(ctx, pvalue->defaultDPCH_OffsetValue);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->defaultDPCH_OffsetValue, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_r4_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonInformation_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_DL_CommonInformation_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_DL_CommonInformation_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r4_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_r4_modeSpecificInfo, pvalue);
+}
+
+static int enc_DL_CommonInformation_r4(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-CommonInformation-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-CommonInformation-r4");
+   /* dl-DPCH-InfoCommon */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DL_DPCH_InfoCommon_r4(ctx, &pvalue->dl_DPCH_InfoCommon, cur);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, "DL-CommonInformation-r4");
+   }
+   /* modeSpecificInfo */
+   stat = enc_DL_CommonInformation_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonInformation-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r4(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonInformation_r5_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r5_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->defaultDPCH_OffsetValue > 599u) {
+         rtxErrAddStrParm(ctx, "DefaultDPCH-OffsetValueFDD");
+         rtxErrAddUIntParm(ctx, pvalue->defaultDPCH_OffsetValue);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->defaultDPCH_OffsetValue, 0, 599);
+      RT_CHECK_PUT(ctx, cur, stat, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   /* dpch-CompressedModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = enc_DPCH_CompressedModeInfo(ctx, &pvalue->dpch_CompressedModeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeInfo", -1, 0);
+   }
+   /* tx-DiversityMode */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->tx_DiversityMode > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->tx_DiversityMode);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tx_DiversityMode, 0, 3);
+      RT_CHECK_PUT(ctx, cur, stat, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
+   }
+   /* dummy */
+   if (pvalue->m & 0x8u) {
+      stat = enc_SSDT_Information_r4(ctx, &pvalue->dummy, cur);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r5_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r5_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_r5_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tstd-Indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->tstd_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tstd-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonInformation_r5_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r5_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tddOption */
+   stat = enc_DL_CommonInformation_r5_modeSpecificInfo_tdd_tddOption(ctx, &pvalue->tddOption, cur);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->defaultDPCH_OffsetValue > 7u) {
+         rtxErrAddStrParm(ctx, "DefaultDPCH-OffsetValueTDD");
+         rtxErrAddUIntParm(ctx, pvalue->defaultDPCH_OffsetValue);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->defaultDPCH_OffsetValue, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r5_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r5_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_r5_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonInformation_r5_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r5_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_DL_CommonInformation_r5_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_DL_CommonInformation_r5_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r5_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r5_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_r5_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonInformation_r5_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r5_mac_hsResetIndicator value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r5_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r5_mac_hsResetIndicator value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_r5_mac_hsResetIndicator, value);
+}
+
+static int enc_DL_CommonInformation_r5(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-CommonInformation-r5");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-CommonInformation-r5");
+   /* dl-DPCH-InfoCommon */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DL_DPCH_InfoCommon_r4(ctx, &pvalue->dl_DPCH_InfoCommon, cur);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, "DL-CommonInformation-r5");
+   }
+   /* modeSpecificInfo */
+   stat = enc_DL_CommonInformation_r5_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonInformation-r5");
+   /* mac-hsResetIndicator */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->mac_hsResetIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mac_hsResetIndicator);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r5");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_hsResetIndicator, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r5(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_TimingMaintainedSynchInd(rtxContext* RT_RESTRICT ctx, TimingMaintainedSynchInd value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TimingMaintainedSynchInd");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TimingMaintainedSynchInd");
+   return 0;
+}
+
+int asn1PE_UMTS_TimingMaintainedSynchInd(rtxContext* RT_RESTRICT ctx, TimingMaintainedSynchInd value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TimingMaintainedSynchInd, value);
+}
+
+RT_MERGED_BODY int enc_DL_DPCH_InfoCommon_r6_cfnHandling_maintain(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r6_cfnHandling_maintain* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* timingmaintainedsynchind */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->timingmaintainedsynchind > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->timingmaintainedsynchind);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TimingMaintainedSynchInd", "timingmaintainedsynchind", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->timingmaintainedsynchind, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, "TimingMaintainedSynchInd", "timingmaintainedsynchind", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoCommon_r6_cfnHandling_maintain(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r6_cfnHandling_maintain* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoCommon_r6_cfnHandling_maintain, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_DPCH_InfoCommon_r6_cfnHandling(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r6_cfnHandling* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.maintain == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "maintain", -1, 0);
+         stat = enc_DL_DPCH_InfoCommon_r6_cfnHandling_maintain(ctx, pvalue->u.maintain, cur);
+         RT_CHECK(ctx, stat, 0, "maintain", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoCommon_r6_cfnHandling(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r6_cfnHandling* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoCommon_r6_cfnHandling, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_DPCH_InfoCommon_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-DPCH-PowerControlInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, 0);
+   }
+   /* powerOffsetPilot-pdpdch */
+   if ((uint64_t)pvalue->powerOffsetPilot_pdpdch > 24u) {
+      rtxErrAddStrParm(ctx, "PowerOffsetPilot-pdpdch");
+      rtxErrAddUIntParm(ctx, pvalue->powerOffsetPilot_pdpdch);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PowerOffsetPilot-pdpdch", "powerOffsetPilot-pdpdch", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->powerOffsetPilot_pdpdch, 0, 24);
+   RT_CHECK_PUT(ctx, cur, stat, "PowerOffsetPilot-pdpdch", "powerOffsetPilot-pdpdch", -1, 0);
+   /* dl-rate-matching-restriction */
+   if (pvalue->m & 0x2u) {
+      stat = enc_Dl_rate_matching_restriction(ctx, &pvalue->dl_rate_matching_restriction, cur);
+      RT_CHECK(ctx, stat, 0, "dl-rate-matching-restriction", -1, 0);
+   }
+   /* spreadingFactorAndPilot */
+   stat = enc_SF512_AndPilot(ctx, &pvalue->spreadingFactorAndPilot, cur);
+   RT_CHECK(ctx, stat, 0, "spreadingFactorAndPilot", -1, 0);
+   /* positionFixedOrFlexible */
+   if (pvalue->positionFixedOrFlexible > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->positionFixedOrFlexible);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->positionFixedOrFlexible, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
+   /* tfci-Existence */
+   stat = rtxEncBitAt(ctx, cur, pvalue->tfci_Existence);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tfci-Existence", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoCommon_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoCommon_r6_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_DPCH_InfoCommon_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-DPCH-PowerControlInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoCommon_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoCommon_r6_modeSpecificInfo_tdd, pvalue);
+}
+
+static int enc_DL_DPCH_InfoCommon_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r6_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_DL_DPCH_InfoCommon_r6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_DL_DPCH_InfoCommon_r6_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoCommon_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r6_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoCommon_r6_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_DPCH_InfoCommon_r6(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-DPCH-InfoCommon-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-DPCH-InfoCommon-r6");
+   /* cfnHandling */
+   stat = enc_DL_DPCH_InfoCommon_r6_cfnHandling(ctx, &pvalue->cfnHandling, cur);
+   RT_CHECK(ctx, stat, 0, "cfnHandling", -1, "DL-DPCH-InfoCommon-r6");
+   /* modeSpecificInfo */
+   stat = enc_DL_DPCH_InfoCommon_r6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-DPCH-InfoCommon-r6");
+   /* mac-d-HFN-initial-value */
+   if (pvalue->m & 0x1u) {
+      stat = enc_MAC_d_HFN_initial_value(ctx, pvalue->mac_d_HFN_initial_value, cur);
+      RT_CHECK(ctx, stat, 0, "mac-d-HFN-initial-value", -1, "DL-DPCH-InfoCommon-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoCommon_r6(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommon_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoCommon_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_FDPCH_InfoCommon_r6_cfnHandling_maintain(rtxContext* RT_RESTRICT ctx, const DL_FDPCH_InfoCommon_r6_cfnHandling_maintain* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* timingmaintainedsynchind */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->timingmaintainedsynchind > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->timingmaintainedsynchind);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TimingMaintainedSynchInd", "timingmaintainedsynchind", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->timingmaintainedsynchind, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, "TimingMaintainedSynchInd", "timingmaintainedsynchind", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_FDPCH_InfoCommon_r6_cfnHandling_maintain(rtxContext* RT_RESTRICT ctx, const DL_FDPCH_InfoCommon_r6_cfnHandling_maintain* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_FDPCH_InfoCommon_r6_cfnHandling_maintain, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_FDPCH_InfoCommon_r6_cfnHandling(rtxContext* RT_RESTRICT ctx, const DL_FDPCH_InfoCommon_r6_cfnHandling* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.maintain == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "maintain", -1, 0);
+         stat = enc_DL_FDPCH_InfoCommon_r6_cfnHandling_maintain(ctx, pvalue->u.maintain, cur);
+         RT_CHECK(ctx, stat, 0, "maintain", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_FDPCH_InfoCommon_r6_cfnHandling(rtxContext* RT_RESTRICT ctx, const DL_FDPCH_InfoCommon_r6_cfnHandling* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_FDPCH_InfoCommon_r6_cfnHandling, pvalue);
+}
+
+static int enc_DL_FDPCH_InfoCommon_r6(rtxContext* RT_RESTRICT ctx, const DL_FDPCH_InfoCommon_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-FDPCH-InfoCommon-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-FDPCH-InfoCommon-r6");
+   /* cfnHandling */
+   stat = enc_DL_FDPCH_InfoCommon_r6_cfnHandling(ctx, &pvalue->cfnHandling, cur);
+   RT_CHECK(ctx, stat, 0, "cfnHandling", -1, "DL-FDPCH-InfoCommon-r6");
+   /* dl-FDPCH-PowerControlInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_FDPCH_PowerControlInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dl-FDPCH-PowerControlInfo", -1, "DL-FDPCH-InfoCommon-r6");
+   }
+   /* dl-FDPCH-TPCcommandErrorRate */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)(pvalue->dl_FDPCH_TPCcommandErrorRate - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "dl-FDPCH-TPCcommandErrorRate");
+         rtxErrAddUIntParm(ctx, pvalue->dl_FDPCH_TPCcommandErrorRate);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "dl-FDPCH-TPCcommandErrorRate", -1, "DL-FDPCH-InfoCommon-r6");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->dl_FDPCH_TPCcommandErrorRate, 1, 16);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "dl-FDPCH-TPCcommandErrorRate", -1, "DL-FDPCH-InfoCommon-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_FDPCH_InfoCommon_r6(rtxContext* RT_RESTRICT ctx, const DL_FDPCH_InfoCommon_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_FDPCH_InfoCommon_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonInformation_r6_dl_dpchInfoCommon(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r6_dl_dpchInfoCommon* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.dl_DPCH_InfoCommon == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dl-DPCH-InfoCommon", -1, 0);
+         stat = enc_DL_DPCH_InfoCommon_r6(ctx, pvalue->u.dl_DPCH_InfoCommon, cur);
+         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.dl_FDPCH_InfoCommon == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dl-FDPCH-InfoCommon", -1, 0);
+         stat = enc_DL_FDPCH_InfoCommon_r6(ctx, pvalue->u.dl_FDPCH_InfoCommon, cur);
+         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoCommon", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r6_dl_dpchInfoCommon(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r6_dl_dpchInfoCommon* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_r6_dl_dpchInfoCommon, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonInformation_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->defaultDPCH_OffsetValue > 599u) {
+         rtxErrAddStrParm(ctx, "DefaultDPCH-OffsetValueFDD");
+         rtxErrAddUIntParm(ctx, pvalue->defaultDPCH_OffsetValue);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->defaultDPCH_OffsetValue, 0, 599);
+      RT_CHECK_PUT(ctx, cur, stat, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   /* dpch-CompressedModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = enc_DPCH_CompressedModeInfo(ctx, &pvalue->dpch_CompressedModeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeInfo", -1, 0);
+   }
+   /* tx-DiversityMode */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->tx_DiversityMode > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->tx_DiversityMode);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tx_DiversityMode, 0, 3);
+      RT_CHECK_PUT(ctx, cur, stat, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_r6_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tstd-Indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->tstd_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tstd-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonInformation_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tddOption */
+   stat = enc_DL_CommonInformation_r6_modeSpecificInfo_tdd_tddOption(ctx, &pvalue->tddOption, cur);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->defaultDPCH_OffsetValue > 7u) {
+         rtxErrAddStrParm(ctx, "DefaultDPCH-OffsetValueTDD");
+         rtxErrAddUIntParm(ctx, pvalue->defaultDPCH_OffsetValue);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->defaultDPCH_OffsetValue, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_r6_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonInformation_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r6_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_DL_CommonInformation_r6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_DL_CommonInformation_r6_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r6_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_r6_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonInformation_r6_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_mac_hsResetIndicator value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r6_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_mac_hsResetIndicator value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_r6_mac_hsResetIndicator, value);
+}
+
+RT_MERGED_BODY int enc_DL_CommonInformation_r6_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_postVerificationPeriod value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r6_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r6_postVerificationPeriod value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_r6_postVerificationPeriod, value);
+}
+
+static int enc_DL_CommonInformation_r6(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-CommonInformation-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-CommonInformation-r6");
+   /* dl-dpchInfoCommon */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DL_CommonInformation_r6_dl_dpchInfoCommon(ctx, &pvalue->dl_dpchInfoCommon, cur);
+      RT_CHECK(ctx, stat, 0, "dl-dpchInfoCommon", -1, "DL-CommonInformation-r6");
+   }
+   /* modeSpecificInfo */
+   stat = enc_DL_CommonInformation_r6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonInformation-r6");
+   /* mac-hsResetIndicator */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->mac_hsResetIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mac_hsResetIndicator);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r6");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_hsResetIndicator, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r6");
+   }
+   /* postVerificationPeriod */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->postVerificationPeriod > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->postVerificationPeriod);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "postVerificationPeriod", -1, "DL-CommonInformation-r6");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->postVerificationPeriod, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "postVerificationPeriod", -1, "DL-CommonInformation-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r6(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonInformation_r7_dl_dpchInfoCommon(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r7_dl_dpchInfoCommon* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.dl_DPCH_InfoCommon == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dl-DPCH-InfoCommon", -1, 0);
+         stat = enc_DL_DPCH_InfoCommon_r6(ctx, pvalue->u.dl_DPCH_InfoCommon, cur);
+         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.dl_FDPCH_InfoCommon == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dl-FDPCH-InfoCommon", -1, 0);
+         stat = enc_DL_FDPCH_InfoCommon_r6(ctx, pvalue->u.dl_FDPCH_InfoCommon, cur);
+         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoCommon", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r7_dl_dpchInfoCommon(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r7_dl_dpchInfoCommon* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_r7_dl_dpchInfoCommon, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonInformation_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->defaultDPCH_OffsetValue > 599u) {
+         rtxErrAddStrParm(ctx, "DefaultDPCH-OffsetValueFDD");
+         rtxErrAddUIntParm(ctx, pvalue->defaultDPCH_OffsetValue);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->defaultDPCH_OffsetValue, 0, 599);
+      RT_CHECK_PUT(ctx, cur, stat, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   /* dpch-CompressedModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = enc_DPCH_CompressedModeInfo(ctx, &pvalue->dpch_CompressedModeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeInfo", -1, 0);
+   }
+   /* tx-DiversityMode */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->tx_DiversityMode > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->tx_DiversityMode);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tx_DiversityMode, 0, 3);
+      RT_CHECK_PUT(ctx, cur, stat, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_r7_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tstd-Indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->tstd_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tstd-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonInformation_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tddOption */
+   stat = enc_DL_CommonInformation_r7_modeSpecificInfo_tdd_tddOption(ctx, &pvalue->tddOption, cur);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->defaultDPCH_OffsetValue > 7u) {
+         rtxErrAddStrParm(ctx, "DefaultDPCH-OffsetValueTDD");
+         rtxErrAddUIntParm(ctx, pvalue->defaultDPCH_OffsetValue);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->defaultDPCH_OffsetValue, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_r7_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonInformation_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r7_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_DL_CommonInformation_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_DL_CommonInformation_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r7_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_r7_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonInformation_r7_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_mac_hsResetIndicator value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r7_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_mac_hsResetIndicator value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_r7_mac_hsResetIndicator, value);
+}
+
+RT_MERGED_BODY int enc_DL_CommonInformation_r7_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_postVerificationPeriod value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r7_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r7_postVerificationPeriod value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_r7_postVerificationPeriod, value);
+}
+
+static int enc_DL_CommonInformation_r7(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-CommonInformation-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-CommonInformation-r7");
+   /* dl-dpchInfoCommon */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DL_CommonInformation_r7_dl_dpchInfoCommon(ctx, &pvalue->dl_dpchInfoCommon, cur);
+      RT_CHECK(ctx, stat, 0, "dl-dpchInfoCommon", -1, "DL-CommonInformation-r7");
+   }
+   /* modeSpecificInfo */
+   stat = enc_DL_CommonInformation_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonInformation-r7");
+   /* mac-hsResetIndicator */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->mac_hsResetIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mac_hsResetIndicator);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r7");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_hsResetIndicator, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r7");
+   }
+   /* postVerificationPeriod */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->postVerificationPeriod > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->postVerificationPeriod);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "postVerificationPeriod", -1, "DL-CommonInformation-r7");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->postVerificationPeriod, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "postVerificationPeriod", -1, "DL-CommonInformation-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r7(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonInformation_r8_dl_dpchInfoCommon(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r8_dl_dpchInfoCommon* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.dl_DPCH_InfoCommon == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dl-DPCH-InfoCommon", -1, 0);
+         stat = enc_DL_DPCH_InfoCommon_r6(ctx, pvalue->u.dl_DPCH_InfoCommon, cur);
+         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.dl_FDPCH_InfoCommon == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dl-FDPCH-InfoCommon", -1, 0);
+         stat = enc_DL_FDPCH_InfoCommon_r6(ctx, pvalue->u.dl_FDPCH_InfoCommon, cur);
+         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoCommon", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r8_dl_dpchInfoCommon(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r8_dl_dpchInfoCommon* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_r8_dl_dpchInfoCommon, pvalue);
+}
+
+RT_MERGED_BODY int enc_TGP_Sequence_r8_tgps_Status_activate(rtxContext* RT_RESTRICT ctx, const TGP_Sequence_r8_tgps_Status_activate* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tgcfn */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tgcfn, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, "TGCFN", "tgcfn", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_TGP_Sequence_r8_tgps_Status_activate(rtxContext* RT_RESTRICT ctx, const TGP_Sequence_r8_tgps_Status_activate* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TGP_Sequence_r8_tgps_Status_activate, pvalue);
+}
+
+RT_MERGED_BODY int enc_TGP_Sequence_r8_tgps_Status(rtxContext* RT_RESTRICT ctx, const TGP_Sequence_r8_tgps_Status* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.activate == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "activate", -1, 0);
+         stat = enc_TGP_Sequence_r8_tgps_Status_activate(ctx, pvalue->u.activate, cur);
+         RT_CHECK(ctx, stat, 0, "activate", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TGP_Sequence_r8_tgps_Status(rtxContext* RT_RESTRICT ctx, const TGP_Sequence_r8_tgps_Status* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TGP_Sequence_r8_tgps_Status, pvalue);
+}
+
+RT_MERGED_BODY int enc_TGMP_r8(rtxContext* RT_RESTRICT ctx, TGMP_r8 value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UDREGrowthRate");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TGMP-r8");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UDREGrowthRate");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TGMP-r8");
    return 0;
 }
 
-int asn1PE_UMTS_UDREValidityTime(rtxContext* RT_RESTRICT ctx, UDREValidityTime value)
+int asn1PE_UMTS_TGMP_r8(rtxContext* RT_RESTRICT ctx, TGMP_r8 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TGMP_r8, value);
+}
+
+static int enc_TGPS_ConfigurationParams_r8(rtxContext* RT_RESTRICT ctx, const TGPS_ConfigurationParams_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TGPS-ConfigurationParams-r8");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TGPS-ConfigurationParams-r8");
+   /* tgmp */
+   if (pvalue->tgmp > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->tgmp);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TGMP-r8", "tgmp", -1, "TGPS-ConfigurationParams-r8");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tgmp, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "TGMP-r8", "tgmp", -1, "TGPS-ConfigurationParams-r8");
+   /* tgprc */
+   if ((uint64_t)pvalue->tgprc > 511u) {
+      rtxErrAddStrParm(ctx, "TGPRC");
+      rtxErrAddUIntParm(ctx, pvalue->tgprc);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TGPRC", "tgprc", -1, "TGPS-ConfigurationParams-r8");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tgprc, 0, 511);
+   RT_CHECK_PUT(ctx, cur, stat, "TGPRC", "tgprc", -1, "TGPS-ConfigurationParams-r8");
+   /* tgsn */
+   if ((uint64_t)pvalue->tgsn > 14u) {
+      rtxErrAddStrParm(ctx, "TGSN");
+      rtxErrAddUIntParm(ctx, pvalue->tgsn);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TGSN", "tgsn", -1, "TGPS-ConfigurationParams-r8");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tgsn, 0, 14);
+   RT_CHECK_PUT(ctx, cur, stat, "TGSN", "tgsn", -1, "TGPS-ConfigurationParams-r8");
+   /* tgl1 */
+   if ((uint64_t)(pvalue->tgl1 - 1) > 13u) {
+      rtxErrAddStrParm(ctx, "TGL");
+      rtxErrAddUIntParm(ctx, pvalue->tgl1);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TGL", "tgl1", -1, "TGPS-ConfigurationParams-r8");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tgl1, 1, 14);
+   RT_CHECK_PUT(ctx, cur, stat, "TGL", "tgl1", -1, "TGPS-ConfigurationParams-r8");
+   /* tgl2 */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->tgl2 - 1) > 13u) {
+         rtxErrAddStrParm(ctx, "TGL");
+         rtxErrAddUIntParm(ctx, pvalue->tgl2);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TGL", "tgl2", -1, "TGPS-ConfigurationParams-r8");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tgl2, 1, 14);
+      RT_CHECK_PUT(ctx, cur, stat, "TGL", "tgl2", -1, "TGPS-ConfigurationParams-r8");
+   }
+   /* tgd */
+   if ((uint64_t)(pvalue->tgd - 15) > 255u) {
+      rtxErrAddStrParm(ctx, "TGD");
+      rtxErrAddUIntParm(ctx, pvalue->tgd);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TGD", "tgd", -1, "TGPS-ConfigurationParams-r8");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tgd, 15, 270);
+   RT_CHECK_PUT(ctx, cur, stat, "TGD", "tgd", -1, "TGPS-ConfigurationParams-r8");
+   /* tgpl1 */
+   if ((uint64_t)(pvalue->tgpl1 - 1) > 143u) {
+      rtxErrAddStrParm(ctx, "TGPL");
+      rtxErrAddUIntParm(ctx, pvalue->tgpl1);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TGPL", "tgpl1", -1, "TGPS-ConfigurationParams-r8");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tgpl1, 1, 144);
+   RT_CHECK_PUT(ctx, cur, stat, "TGPL", "tgpl1", -1, "TGPS-ConfigurationParams-r8");
+   /* rpp */
+   if (pvalue->rpp > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->rpp);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "RPP", "rpp", -1, "TGPS-ConfigurationParams-r8");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->rpp, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "RPP", "rpp", -1, "TGPS-ConfigurationParams-r8");
+   /* itp */
+   if (pvalue->itp > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->itp);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ITP", "itp", -1, "TGPS-ConfigurationParams-r8");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->itp, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "ITP", "itp", -1, "TGPS-ConfigurationParams-r8");
+   /* ul-DL-Mode */
+   stat = enc_UL_DL_Mode(ctx, &pvalue->ul_DL_Mode, cur);
+   RT_CHECK(ctx, stat, 0, "ul-DL-Mode", -1, "TGPS-ConfigurationParams-r8");
+   /* dl-FrameType */
+   if (pvalue->dl_FrameType > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->dl_FrameType);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "DL-FrameType", "dl-FrameType", -1, "TGPS-ConfigurationParams-r8");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dl_FrameType, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "DL-FrameType", "dl-FrameType", -1, "TGPS-ConfigurationParams-r8");
+   /* deltaSIR1 */
+   if ((uint64_t)pvalue->deltaSIR1 > 30u) {
+      rtxErrAddStrParm(ctx, "DeltaSIR");
+      rtxErrAddUIntParm(ctx, pvalue->deltaSIR1);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DeltaSIR", "deltaSIR1", -1, "TGPS-ConfigurationParams-r8");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->deltaSIR1, 0, 30);
+   RT_CHECK_PUT(ctx, cur, stat, "DeltaSIR", "deltaSIR1", -1, "TGPS-ConfigurationParams-r8");
+   /* deltaSIRAfter1 */
+   if ((uint64_t)pvalue->deltaSIRAfter1 > 30u) {
+      rtxErrAddStrParm(ctx, "DeltaSIR");
+      rtxErrAddUIntParm(ctx, pvalue->deltaSIRAfter1);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DeltaSIR", "deltaSIRAfter1", -1, "TGPS-ConfigurationParams-r8");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->deltaSIRAfter1, 0, 30);
+   RT_CHECK_PUT(ctx, cur, stat, "DeltaSIR", "deltaSIRAfter1", -1, "TGPS-ConfigurationParams-r8");
+   /* deltaSIR2 */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->deltaSIR2 > 30u) {
+         rtxErrAddStrParm(ctx, "DeltaSIR");
+         rtxErrAddUIntParm(ctx, pvalue->deltaSIR2);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DeltaSIR", "deltaSIR2", -1, "TGPS-ConfigurationParams-r8");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->deltaSIR2, 0, 30);
+      RT_CHECK_PUT(ctx, cur, stat, "DeltaSIR", "deltaSIR2", -1, "TGPS-ConfigurationParams-r8");
+   }
+   /* deltaSIRAfter2 */
+   if (pvalue->m & 0x4u) {
+      if ((uint64_t)pvalue->deltaSIRAfter2 > 30u) {
+         rtxErrAddStrParm(ctx, "DeltaSIR");
+         rtxErrAddUIntParm(ctx, pvalue->deltaSIRAfter2);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DeltaSIR", "deltaSIRAfter2", -1, "TGPS-ConfigurationParams-r8");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->deltaSIRAfter2, 0, 30);
+      RT_CHECK_PUT(ctx, cur, stat, "DeltaSIR", "deltaSIRAfter2", -1, "TGPS-ConfigurationParams-r8");
+   }
+   /* nidentifyAbort */
+   if (pvalue->m & 0x8u) {
+      if ((uint64_t)(pvalue->nidentifyAbort - 1) > 127u) {
+         rtxErrAddStrParm(ctx, "NidentifyAbort");
+         rtxErrAddUIntParm(ctx, pvalue->nidentifyAbort);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "NidentifyAbort", "nidentifyAbort", -1, "TGPS-ConfigurationParams-r8");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->nidentifyAbort, 1, 128);
+      RT_CHECK_PUT(ctx, cur, stat, "NidentifyAbort", "nidentifyAbort", -1, "TGPS-ConfigurationParams-r8");
+   }
+   /* treconfirmAbort */
+   if (pvalue->m & 0x10u) {
+      if ((uint64_t)(pvalue->treconfirmAbort - 1) > 19u) {
+         rtxErrAddStrParm(ctx, "TreconfirmAbort");
+         rtxErrAddUIntParm(ctx, pvalue->treconfirmAbort);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TreconfirmAbort", "treconfirmAbort", -1, "TGPS-ConfigurationParams-r8");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->treconfirmAbort, 1, 20);
+      RT_CHECK_PUT(ctx, cur, stat, "TreconfirmAbort", "treconfirmAbort", -1, "TGPS-ConfigurationParams-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TGPS_ConfigurationParams_r8(rtxContext* RT_RESTRICT ctx, const TGPS_ConfigurationParams_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TGPS_ConfigurationParams_r8, pvalue);
+}
+
+RT_MERGED_BODY int enc_TGP_Sequence_r8(rtxContext* RT_RESTRICT ctx, const TGP_Sequence_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TGP-Sequence-r8");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TGP-Sequence-r8");
+   /* tgpsi */
+   if ((uint64_t)(pvalue->tgpsi - 1) > 5u) {
+      rtxErrAddStrParm(ctx, "TGPSI");
+      rtxErrAddUIntParm(ctx, pvalue->tgpsi);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TGPSI", "tgpsi", -1, "TGP-Sequence-r8");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tgpsi, 1, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "TGPSI", "tgpsi", -1, "TGP-Sequence-r8");
+   /* tgps-Status */
+   stat = enc_TGP_Sequence_r8_tgps_Status(ctx, &pvalue->tgps_Status, cur);
+   RT_CHECK(ctx, stat, 0, "tgps-Status", -1, "TGP-Sequence-r8");
+   /* tgps-ConfigurationParams */
+   if (pvalue->m & 0x1u) {
+      stat = enc_TGPS_ConfigurationParams_r8(ctx, &pvalue->tgps_ConfigurationParams, cur);
+      RT_CHECK(ctx, stat, 0, "tgps-ConfigurationParams", -1, "TGP-Sequence-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TGP_Sequence_r8(rtxContext* RT_RESTRICT ctx, const TGP_Sequence_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TGP_Sequence_r8, pvalue);
+}
+
+RT_MERGED_BODY int enc_TGP_SequenceList_r8(rtxContext* RT_RESTRICT ctx, const TGP_SequenceList_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TGP-SequenceList-r8");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 6);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "TGP-SequenceList-r8");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "TGP-Sequence-r8", (int32_t)i, "TGP-SequenceList-r8");
+      stat = enc_TGP_Sequence_r8(ctx, (const TGP_Sequence_r8*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "TGP-Sequence-r8", (int32_t)i, "TGP-SequenceList-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TGP_SequenceList_r8(rtxContext* RT_RESTRICT ctx, const TGP_SequenceList_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TGP_SequenceList_r8, pvalue);
+}
+
+RT_MERGED_BODY int enc_DPCH_CompressedModeInfo_r8(rtxContext* RT_RESTRICT ctx, const DPCH_CompressedModeInfo_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DPCH-CompressedModeInfo-r8");
+   /* tgp-SequenceList */
+   stat = enc_TGP_SequenceList_r8(ctx, &pvalue->tgp_SequenceList, cur);
+   RT_CHECK(ctx, stat, 0, "tgp-SequenceList", -1, "DPCH-CompressedModeInfo-r8");
+   return 0;
+}
+
+int asn1PE_UMTS_DPCH_CompressedModeInfo_r8(rtxContext* RT_RESTRICT ctx, const DPCH_CompressedModeInfo_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DPCH_CompressedModeInfo_r8, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonInformation_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->defaultDPCH_OffsetValue > 599u) {
+         rtxErrAddStrParm(ctx, "DefaultDPCH-OffsetValueFDD");
+         rtxErrAddUIntParm(ctx, pvalue->defaultDPCH_OffsetValue);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->defaultDPCH_OffsetValue, 0, 599);
+      RT_CHECK_PUT(ctx, cur, stat, "DefaultDPCH-OffsetValueFDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   /* dpch-CompressedModeInfo */
+   if (pvalue->m & 0x2u) {
+      stat = enc_DPCH_CompressedModeInfo_r8(ctx, &pvalue->dpch_CompressedModeInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dpch-CompressedModeInfo", -1, 0);
+   }
+   /* tx-DiversityMode */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->tx_DiversityMode > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->tx_DiversityMode);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tx_DiversityMode, 0, 3);
+      RT_CHECK_PUT(ctx, cur, stat, "TX-DiversityMode", "tx-DiversityMode", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_r8_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tstd-Indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->tstd_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tstd-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonInformation_r8_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r8_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tddOption */
+   stat = enc_DL_CommonInformation_r8_modeSpecificInfo_tdd_tddOption(ctx, &pvalue->tddOption, cur);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   /* defaultDPCH-OffsetValue */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->defaultDPCH_OffsetValue > 7u) {
+         rtxErrAddStrParm(ctx, "DefaultDPCH-OffsetValueTDD");
+         rtxErrAddUIntParm(ctx, pvalue->defaultDPCH_OffsetValue);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->defaultDPCH_OffsetValue, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "DefaultDPCH-OffsetValueTDD", "defaultDPCH-OffsetValue", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r8_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r8_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_r8_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonInformation_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r8_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_DL_CommonInformation_r8_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_DL_CommonInformation_r8_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r8_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_r8_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonInformation_r8_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_mac_hsResetIndicator value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r8_mac_hsResetIndicator(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_mac_hsResetIndicator value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_r8_mac_hsResetIndicator, value);
+}
+
+RT_MERGED_BODY int enc_DL_CommonInformation_r8_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_postVerificationPeriod value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r8_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, DL_CommonInformation_r8_postVerificationPeriod value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_r8_postVerificationPeriod, value);
+}
+
+static int enc_DL_CommonInformation_r8(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-CommonInformation-r8");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-CommonInformation-r8");
+   /* dl-dpchInfoCommon */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DL_CommonInformation_r8_dl_dpchInfoCommon(ctx, &pvalue->dl_dpchInfoCommon, cur);
+      RT_CHECK(ctx, stat, 0, "dl-dpchInfoCommon", -1, "DL-CommonInformation-r8");
+   }
+   /* modeSpecificInfo */
+   stat = enc_DL_CommonInformation_r8_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-CommonInformation-r8");
+   /* mac-hsResetIndicator */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->mac_hsResetIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mac_hsResetIndicator);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r8");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_hsResetIndicator, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "mac-hsResetIndicator", -1, "DL-CommonInformation-r8");
+   }
+   /* postVerificationPeriod */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->postVerificationPeriod > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->postVerificationPeriod);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "postVerificationPeriod", -1, "DL-CommonInformation-r8");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->postVerificationPeriod, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "postVerificationPeriod", -1, "DL-CommonInformation-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformation_r8(rtxContext* RT_RESTRICT ctx, const DL_CommonInformation_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformation_r8, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_DPCH_InfoCommonPost(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommonPost* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-DPCH-InfoCommonPost");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-DPCH-InfoCommonPost");
+   /* dl-DPCH-PowerControlInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DL_DPCH_PowerControlInfo(ctx, &pvalue->dl_DPCH_PowerControlInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-PowerControlInfo", -1, "DL-DPCH-InfoCommonPost");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoCommonPost(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoCommonPost* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoCommonPost, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_CommonInformationPost(rtxContext* RT_RESTRICT ctx, const DL_CommonInformationPost* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-CommonInformationPost");
+   /* dl-DPCH-InfoCommon */
+   stat = enc_DL_DPCH_InfoCommonPost(ctx, &pvalue->dl_DPCH_InfoCommon, cur);
+   RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoCommon", -1, "DL-CommonInformationPost");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_CommonInformationPost(rtxContext* RT_RESTRICT ctx, const DL_CommonInformationPost* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_CommonInformationPost, pvalue);
+}
+
+RT_MERGED_BODY int enc_SSDT_CellIdentity(rtxContext* RT_RESTRICT ctx, SSDT_CellIdentity value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UDREValidityTime");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "SSDT-CellIdentity");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UDREValidityTime");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SSDT-CellIdentity");
    return 0;
 }
 
-int asn1PE_UMTS_DGANSSSignalInformation_r9(rtxContext* RT_RESTRICT ctx, const DGANSSSignalInformation_r9* RT_RESTRICT pvalue)
+int asn1PE_UMTS_SSDT_CellIdentity(rtxContext* RT_RESTRICT ctx, SSDT_CellIdentity value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SSDT_CellIdentity, value);
+}
+
+RT_MERGED_BODY int enc_DL_DPCH_InfoPerRL_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DGANSSSignalInformation-r9");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DGANSSSignalInformation-r9");
-   /* satId */
-   if ((uint64_t)pvalue->satId > 63u) {
-      rtxErrAddStrParm(ctx, "satId");
-      rtxErrAddUIntParm(ctx, pvalue->satId);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "satId", -1, "DGANSSSignalInformation-r9");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pCPICH-UsageForChannelEst */
+   if (pvalue->pCPICH_UsageForChannelEst > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->pCPICH_UsageForChannelEst);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, pvalue->satId, 0, 63);
-   RT_CHECK(ctx, stat, 0, "satId", -1, "DGANSSSignalInformation-r9");
-   /* iode-dganss */
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pe_BitString32(ctx, &pvalue->iode_dganss, 10, 10);
-   RT_CHECK(ctx, stat, 0, "iode-dganss", -1, "DGANSSSignalInformation-r9");
-   /* udre */
-   if (pvalue->udre > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->udre);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UDRE", "udre", -1, "DGANSSSignalInformation-r9");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pCPICH_UsageForChannelEst, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, 0);
+   /* dpch-FrameOffset */
+   if ((uint64_t)pvalue->dpch_FrameOffset > 149u) {
+      rtxErrAddStrParm(ctx, "DPCH-FrameOffset");
+      rtxErrAddUIntParm(ctx, pvalue->dpch_FrameOffset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DPCH-FrameOffset", "dpch-FrameOffset", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, pvalue->udre, 0, 3);
-   RT_CHECK(ctx, stat, "UDRE", "udre", -1, "DGANSSSignalInformation-r9");
-   /* ganss-prc */
-   if (pvalue->ganss_prc < -2047 || pvalue->ganss_prc > 2047) {
-      rtxErrAddStrParm(ctx, "ganss-prc");
-      rtxErrAddIntParm(ctx, pvalue->ganss_prc);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganss-prc", -1, "DGANSSSignalInformation-r9");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->ganss_prc, -2047, 2047);
-   RT_CHECK(ctx, stat, 0, "ganss-prc", -1, "DGANSSSignalInformation-r9");
-   /* ganss-rrc */
-   if (pvalue->ganss_rrc < -127 || pvalue->ganss_rrc > 127) {
-      rtxErrAddStrParm(ctx, "ganss-rrc");
-      rtxErrAddIntParm(ctx, pvalue->ganss_rrc);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganss-rrc", -1, "DGANSSSignalInformation-r9");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->ganss_rrc, -127, 127);
-   RT_CHECK(ctx, stat, 0, "ganss-rrc", -1, "DGANSSSignalInformation-r9");
-   /* udreGrowthRate */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dpch_FrameOffset, 0, 149);
+   RT_CHECK_PUT(ctx, cur, stat, "DPCH-FrameOffset", "dpch-FrameOffset", -1, 0);
+   /* secondaryCPICH-Info */
    if (pvalue->m & 0x1u) {
-      if (pvalue->udreGrowthRate > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->udreGrowthRate);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "UDREGrowthRate", "udreGrowthRate", -1, "DGANSSSignalInformation-r9");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->udreGrowthRate, 0, 7);
-      RT_CHECK(ctx, stat, "UDREGrowthRate", "udreGrowthRate", -1, "DGANSSSignalInformation-r9");
+      stat = enc_SecondaryCPICH_Info(ctx, &pvalue->secondaryCPICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "secondaryCPICH-Info", -1, 0);
    }
-   /* udreValidityTime */
+   /* dl-ChannelisationCodeList */
+   stat = enc_DL_ChannelisationCodeList(ctx, &pvalue->dl_ChannelisationCodeList, cur);
+   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCodeList", -1, 0);
+   /* tpc-CombinationIndex */
+   if ((uint64_t)pvalue->tpc_CombinationIndex > 5u) {
+      rtxErrAddStrParm(ctx, "TPC-CombinationIndex");
+      rtxErrAddUIntParm(ctx, pvalue->tpc_CombinationIndex);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tpc_CombinationIndex, 0, 5);
+   RT_CHECK_PUT(ctx, cur, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, 0);
+   /* dummy */
    if (pvalue->m & 0x2u) {
-      if (pvalue->udreValidityTime > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->udreValidityTime);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "UDREValidityTime", "udreValidityTime", -1, "DGANSSSignalInformation-r9");
+      if (pvalue->dummy > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->dummy);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "SSDT-CellIdentity", "dummy", -1, 0);
       }
-      stat = pe_ConsUInt64(ctx, pvalue->udreValidityTime, 0, 7);
-      RT_CHECK(ctx, stat, "UDREValidityTime", "udreValidityTime", -1, "DGANSSSignalInformation-r9");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->dummy, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "SSDT-CellIdentity", "dummy", -1, 0);
+   }
+   /* closedLoopTimingAdjMode */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->closedLoopTimingAdjMode > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->closedLoopTimingAdjMode);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ClosedLoopTimingAdjMode", "closedLoopTimingAdjMode", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->closedLoopTimingAdjMode, 0, 1);
+      RT_CHECK_PUT(ctx, cur, stat, "ClosedLoopTimingAdjMode", "closedLoopTimingAdjMode", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_DGANSSSignalInformationList_r9(rtxContext* RT_RESTRICT ctx, const DGANSSSignalInformationList_r9* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_DPCH_InfoPerRL_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoPerRL_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_DPCH_InfoPerRL_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DGANSSSignalInformationList-r9");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-CCTrChListToEstablish */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DL_CCTrChList(ctx, &pvalue->dl_CCTrChListToEstablish, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToEstablish", -1, 0);
+   }
+   /* dl-CCTrChListToRemove */
+   if (pvalue->m & 0x2u) {
+      stat = enc_DL_CCTrChListToRemove(ctx, &pvalue->dl_CCTrChListToRemove, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToRemove", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoPerRL_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoPerRL_tdd, pvalue);
+}
+
+static int enc_DL_DPCH_InfoPerRL(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-DPCH-InfoPerRL");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "DL-DPCH-InfoPerRL");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "DL-DPCH-InfoPerRL");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, "DL-DPCH-InfoPerRL");
+         stat = enc_DL_DPCH_InfoPerRL_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "DL-DPCH-InfoPerRL");
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, "DL-DPCH-InfoPerRL");
+         stat = enc_DL_DPCH_InfoPerRL_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "DL-DPCH-InfoPerRL");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoPerRL(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoPerRL, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_DPCH_InfoPerRL_r4_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r4_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pCPICH-UsageForChannelEst */
+   if (pvalue->pCPICH_UsageForChannelEst > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->pCPICH_UsageForChannelEst);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pCPICH_UsageForChannelEst, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, 0);
+   /* dpch-FrameOffset */
+   if ((uint64_t)pvalue->dpch_FrameOffset > 149u) {
+      rtxErrAddStrParm(ctx, "DPCH-FrameOffset");
+      rtxErrAddUIntParm(ctx, pvalue->dpch_FrameOffset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DPCH-FrameOffset", "dpch-FrameOffset", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dpch_FrameOffset, 0, 149);
+   RT_CHECK_PUT(ctx, cur, stat, "DPCH-FrameOffset", "dpch-FrameOffset", -1, 0);
+   /* secondaryCPICH-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SecondaryCPICH_Info(ctx, &pvalue->secondaryCPICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "secondaryCPICH-Info", -1, 0);
+   }
+   /* dl-ChannelisationCodeList */
+   stat = enc_DL_ChannelisationCodeList(ctx, &pvalue->dl_ChannelisationCodeList, cur);
+   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCodeList", -1, 0);
+   /* tpc-CombinationIndex */
+   if ((uint64_t)pvalue->tpc_CombinationIndex > 5u) {
+      rtxErrAddStrParm(ctx, "TPC-CombinationIndex");
+      rtxErrAddUIntParm(ctx, pvalue->tpc_CombinationIndex);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tpc_CombinationIndex, 0, 5);
+   RT_CHECK_PUT(ctx, cur, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, 0);
+   /* dummy */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->dummy > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->dummy);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "SSDT-CellIdentity", "dummy", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->dummy, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "SSDT-CellIdentity", "dummy", -1, 0);
+   }
+   /* closedLoopTimingAdjMode */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->closedLoopTimingAdjMode > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->closedLoopTimingAdjMode);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ClosedLoopTimingAdjMode", "closedLoopTimingAdjMode", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->closedLoopTimingAdjMode, 0, 1);
+      RT_CHECK_PUT(ctx, cur, stat, "ClosedLoopTimingAdjMode", "closedLoopTimingAdjMode", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoPerRL_r4_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r4_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoPerRL_r4_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_DPCH_InfoPerRL_r4_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r4_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-CCTrChListToEstablish */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DL_CCTrChList_r4(ctx, &pvalue->dl_CCTrChListToEstablish, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToEstablish", -1, 0);
+   }
+   /* dl-CCTrChListToRemove */
+   if (pvalue->m & 0x2u) {
+      stat = enc_DL_CCTrChListToRemove(ctx, &pvalue->dl_CCTrChListToRemove, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToRemove", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoPerRL_r4_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r4_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoPerRL_r4_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_DPCH_InfoPerRL_r4(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-DPCH-InfoPerRL-r4");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "DL-DPCH-InfoPerRL-r4");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "DL-DPCH-InfoPerRL-r4");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, "DL-DPCH-InfoPerRL-r4");
+         stat = enc_DL_DPCH_InfoPerRL_r4_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "DL-DPCH-InfoPerRL-r4");
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, "DL-DPCH-InfoPerRL-r4");
+         stat = enc_DL_DPCH_InfoPerRL_r4_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "DL-DPCH-InfoPerRL-r4");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoPerRL_r4(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoPerRL_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_PowerOffsetTPC_pdpdch(rtxContext* RT_RESTRICT ctx, PowerOffsetTPC_pdpdch value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 24u) {
+      rtxErrAddStrParm(ctx, "PowerOffsetTPC-pdpdch");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "PowerOffsetTPC-pdpdch");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 24);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PowerOffsetTPC-pdpdch");
+   return 0;
+}
+
+int asn1PE_UMTS_PowerOffsetTPC_pdpdch(rtxContext* RT_RESTRICT ctx, PowerOffsetTPC_pdpdch value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PowerOffsetTPC_pdpdch, value);
+}
+
+RT_MERGED_BODY int enc_DL_DPCH_InfoPerRL_r5_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r5_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pCPICH-UsageForChannelEst */
+   if (pvalue->pCPICH_UsageForChannelEst > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->pCPICH_UsageForChannelEst);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pCPICH_UsageForChannelEst, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, 0);
+   /* dpch-FrameOffset */
+   if ((uint64_t)pvalue->dpch_FrameOffset > 149u) {
+      rtxErrAddStrParm(ctx, "DPCH-FrameOffset");
+      rtxErrAddUIntParm(ctx, pvalue->dpch_FrameOffset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DPCH-FrameOffset", "dpch-FrameOffset", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dpch_FrameOffset, 0, 149);
+   RT_CHECK_PUT(ctx, cur, stat, "DPCH-FrameOffset", "dpch-FrameOffset", -1, 0);
+   /* secondaryCPICH-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SecondaryCPICH_Info(ctx, &pvalue->secondaryCPICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "secondaryCPICH-Info", -1, 0);
+   }
+   /* dl-ChannelisationCodeList */
+   stat = enc_DL_ChannelisationCodeList(ctx, &pvalue->dl_ChannelisationCodeList, cur);
+   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCodeList", -1, 0);
+   /* tpc-CombinationIndex */
+   if ((uint64_t)pvalue->tpc_CombinationIndex > 5u) {
+      rtxErrAddStrParm(ctx, "TPC-CombinationIndex");
+      rtxErrAddUIntParm(ctx, pvalue->tpc_CombinationIndex);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tpc_CombinationIndex, 0, 5);
+   RT_CHECK_PUT(ctx, cur, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, 0);
+   /* powerOffsetTPC-pdpdch */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->powerOffsetTPC_pdpdch > 24u) {
+         rtxErrAddStrParm(ctx, "PowerOffsetTPC-pdpdch");
+         rtxErrAddUIntParm(ctx, pvalue->powerOffsetTPC_pdpdch);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PowerOffsetTPC-pdpdch", "powerOffsetTPC-pdpdch", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->powerOffsetTPC_pdpdch, 0, 24);
+      RT_CHECK_PUT(ctx, cur, stat, "PowerOffsetTPC-pdpdch", "powerOffsetTPC-pdpdch", -1, 0);
+   }
+   /* dummy */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->dummy > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->dummy);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "SSDT-CellIdentity", "dummy", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->dummy, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "SSDT-CellIdentity", "dummy", -1, 0);
+   }
+   /* closedLoopTimingAdjMode */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->closedLoopTimingAdjMode > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->closedLoopTimingAdjMode);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ClosedLoopTimingAdjMode", "closedLoopTimingAdjMode", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->closedLoopTimingAdjMode, 0, 1);
+      RT_CHECK_PUT(ctx, cur, stat, "ClosedLoopTimingAdjMode", "closedLoopTimingAdjMode", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoPerRL_r5_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r5_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoPerRL_r5_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_DPCH_InfoPerRL_r5_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r5_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-CCTrChListToEstablish */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DL_CCTrChList_r4(ctx, &pvalue->dl_CCTrChListToEstablish, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToEstablish", -1, 0);
+   }
+   /* dl-CCTrChListToRemove */
+   if (pvalue->m & 0x2u) {
+      stat = enc_DL_CCTrChListToRemove(ctx, &pvalue->dl_CCTrChListToRemove, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToRemove", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoPerRL_r5_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r5_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoPerRL_r5_tdd, pvalue);
+}
+
+static int enc_DL_DPCH_InfoPerRL_r5(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-DPCH-InfoPerRL-r5");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "DL-DPCH-InfoPerRL-r5");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "DL-DPCH-InfoPerRL-r5");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, "DL-DPCH-InfoPerRL-r5");
+         stat = enc_DL_DPCH_InfoPerRL_r5_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "DL-DPCH-InfoPerRL-r5");
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, "DL-DPCH-InfoPerRL-r5");
+         stat = enc_DL_DPCH_InfoPerRL_r5_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "DL-DPCH-InfoPerRL-r5");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoPerRL_r5(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoPerRL_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_DPCH_InfoPerRL_r6_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r6_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pCPICH-UsageForChannelEst */
+   if (pvalue->pCPICH_UsageForChannelEst > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->pCPICH_UsageForChannelEst);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pCPICH_UsageForChannelEst, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, 0);
+   /* dpch-FrameOffset */
+   if ((uint64_t)pvalue->dpch_FrameOffset > 149u) {
+      rtxErrAddStrParm(ctx, "DPCH-FrameOffset");
+      rtxErrAddUIntParm(ctx, pvalue->dpch_FrameOffset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DPCH-FrameOffset", "dpch-FrameOffset", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dpch_FrameOffset, 0, 149);
+   RT_CHECK_PUT(ctx, cur, stat, "DPCH-FrameOffset", "dpch-FrameOffset", -1, 0);
+   /* secondaryCPICH-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SecondaryCPICH_Info(ctx, &pvalue->secondaryCPICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "secondaryCPICH-Info", -1, 0);
+   }
+   /* dl-ChannelisationCodeList */
+   stat = enc_DL_ChannelisationCodeList(ctx, &pvalue->dl_ChannelisationCodeList, cur);
+   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCodeList", -1, 0);
+   /* tpc-CombinationIndex */
+   if ((uint64_t)pvalue->tpc_CombinationIndex > 5u) {
+      rtxErrAddStrParm(ctx, "TPC-CombinationIndex");
+      rtxErrAddUIntParm(ctx, pvalue->tpc_CombinationIndex);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tpc_CombinationIndex, 0, 5);
+   RT_CHECK_PUT(ctx, cur, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, 0);
+   /* powerOffsetTPC-pdpdch */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->powerOffsetTPC_pdpdch > 24u) {
+         rtxErrAddStrParm(ctx, "PowerOffsetTPC-pdpdch");
+         rtxErrAddUIntParm(ctx, pvalue->powerOffsetTPC_pdpdch);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PowerOffsetTPC-pdpdch", "powerOffsetTPC-pdpdch", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->powerOffsetTPC_pdpdch, 0, 24);
+      RT_CHECK_PUT(ctx, cur, stat, "PowerOffsetTPC-pdpdch", "powerOffsetTPC-pdpdch", -1, 0);
+   }
+   /* closedLoopTimingAdjMode */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->closedLoopTimingAdjMode > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->closedLoopTimingAdjMode);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ClosedLoopTimingAdjMode", "closedLoopTimingAdjMode", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->closedLoopTimingAdjMode, 0, 1);
+      RT_CHECK_PUT(ctx, cur, stat, "ClosedLoopTimingAdjMode", "closedLoopTimingAdjMode", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoPerRL_r6_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r6_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoPerRL_r6_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_DPCH_InfoPerRL_r6_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r6_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-CCTrChListToEstablish */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DL_CCTrChList_r4(ctx, &pvalue->dl_CCTrChListToEstablish, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToEstablish", -1, 0);
+   }
+   /* dl-CCTrChListToRemove */
+   if (pvalue->m & 0x2u) {
+      stat = enc_DL_CCTrChListToRemove(ctx, &pvalue->dl_CCTrChListToRemove, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToRemove", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoPerRL_r6_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r6_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoPerRL_r6_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_DPCH_InfoPerRL_r6(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-DPCH-InfoPerRL-r6");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "DL-DPCH-InfoPerRL-r6");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "DL-DPCH-InfoPerRL-r6");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, "DL-DPCH-InfoPerRL-r6");
+         stat = enc_DL_DPCH_InfoPerRL_r6_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "DL-DPCH-InfoPerRL-r6");
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, "DL-DPCH-InfoPerRL-r6");
+         stat = enc_DL_DPCH_InfoPerRL_r6_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "DL-DPCH-InfoPerRL-r6");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoPerRL_r6(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoPerRL_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_DPCH_InfoPerRL_r7_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r7_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pCPICH-UsageForChannelEst */
+   if (pvalue->pCPICH_UsageForChannelEst > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->pCPICH_UsageForChannelEst);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pCPICH_UsageForChannelEst, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, 0);
+   /* dpch-FrameOffset */
+   if ((uint64_t)pvalue->dpch_FrameOffset > 149u) {
+      rtxErrAddStrParm(ctx, "DPCH-FrameOffset");
+      rtxErrAddUIntParm(ctx, pvalue->dpch_FrameOffset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DPCH-FrameOffset", "dpch-FrameOffset", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dpch_FrameOffset, 0, 149);
+   RT_CHECK_PUT(ctx, cur, stat, "DPCH-FrameOffset", "dpch-FrameOffset", -1, 0);
+   /* secondaryCPICH-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SecondaryCPICH_Info(ctx, &pvalue->secondaryCPICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "secondaryCPICH-Info", -1, 0);
+   }
+   /* dl-ChannelisationCodeList */
+   stat = enc_DL_ChannelisationCodeList(ctx, &pvalue->dl_ChannelisationCodeList, cur);
+   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCodeList", -1, 0);
+   /* tpc-CombinationIndex */
+   if ((uint64_t)pvalue->tpc_CombinationIndex > 5u) {
+      rtxErrAddStrParm(ctx, "TPC-CombinationIndex");
+      rtxErrAddUIntParm(ctx, pvalue->tpc_CombinationIndex);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tpc_CombinationIndex, 0, 5);
+   RT_CHECK_PUT(ctx, cur, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, 0);
+   /* powerOffsetTPC-pdpdch */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->powerOffsetTPC_pdpdch > 24u) {
+         rtxErrAddStrParm(ctx, "PowerOffsetTPC-pdpdch");
+         rtxErrAddUIntParm(ctx, pvalue->powerOffsetTPC_pdpdch);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PowerOffsetTPC-pdpdch", "powerOffsetTPC-pdpdch", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->powerOffsetTPC_pdpdch, 0, 24);
+      RT_CHECK_PUT(ctx, cur, stat, "PowerOffsetTPC-pdpdch", "powerOffsetTPC-pdpdch", -1, 0);
+   }
+   /* closedLoopTimingAdjMode */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->closedLoopTimingAdjMode > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->closedLoopTimingAdjMode);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ClosedLoopTimingAdjMode", "closedLoopTimingAdjMode", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->closedLoopTimingAdjMode, 0, 1);
+      RT_CHECK_PUT(ctx, cur, stat, "ClosedLoopTimingAdjMode", "closedLoopTimingAdjMode", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoPerRL_r7_fdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r7_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoPerRL_r7_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_DPCH_InfoPerRL_r7_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r7_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-CCTrChListToEstablish */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DL_CCTrChList_r7(ctx, &pvalue->dl_CCTrChListToEstablish, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToEstablish", -1, 0);
+   }
+   /* dl-CCTrChListToRemove */
+   if (pvalue->m & 0x2u) {
+      stat = enc_DL_CCTrChListToRemove(ctx, &pvalue->dl_CCTrChListToRemove, cur);
+      RT_CHECK(ctx, stat, 0, "dl-CCTrChListToRemove", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoPerRL_r7_tdd(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r7_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoPerRL_r7_tdd, pvalue);
+}
+
+static int enc_DL_DPCH_InfoPerRL_r7(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-DPCH-InfoPerRL-r7");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "DL-DPCH-InfoPerRL-r7");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "DL-DPCH-InfoPerRL-r7");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, "DL-DPCH-InfoPerRL-r7");
+         stat = enc_DL_DPCH_InfoPerRL_r7_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "DL-DPCH-InfoPerRL-r7");
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, "DL-DPCH-InfoPerRL-r7");
+         stat = enc_DL_DPCH_InfoPerRL_r7_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "DL-DPCH-InfoPerRL-r7");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoPerRL_r7(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoPerRL_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_FDPCH_InfoPerRL_r6(rtxContext* RT_RESTRICT ctx, const DL_FDPCH_InfoPerRL_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-FDPCH-InfoPerRL-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-FDPCH-InfoPerRL-r6");
+   /* pCPICH-UsageForChannelEst */
+   if (pvalue->pCPICH_UsageForChannelEst > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->pCPICH_UsageForChannelEst);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, "DL-FDPCH-InfoPerRL-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pCPICH_UsageForChannelEst, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, "DL-FDPCH-InfoPerRL-r6");
+   /* fdpch-FrameOffset */
+   if ((uint64_t)pvalue->fdpch_FrameOffset > 149u) {
+      rtxErrAddStrParm(ctx, "DPCH-FrameOffset");
+      rtxErrAddUIntParm(ctx, pvalue->fdpch_FrameOffset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DPCH-FrameOffset", "fdpch-FrameOffset", -1, "DL-FDPCH-InfoPerRL-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->fdpch_FrameOffset, 0, 149);
+   RT_CHECK_PUT(ctx, cur, stat, "DPCH-FrameOffset", "fdpch-FrameOffset", -1, "DL-FDPCH-InfoPerRL-r6");
+   /* secondaryCPICH-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SecondaryCPICH_Info(ctx, &pvalue->secondaryCPICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "secondaryCPICH-Info", -1, "DL-FDPCH-InfoPerRL-r6");
+   }
+   /* secondaryScramblingCode */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)(pvalue->secondaryScramblingCode - 1) > 14u) {
+         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
+         rtxErrAddUIntParm(ctx, pvalue->secondaryScramblingCode);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SecondaryScramblingCode", "secondaryScramblingCode", -1, "DL-FDPCH-InfoPerRL-r6");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->secondaryScramblingCode, 1, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, "DL-FDPCH-InfoPerRL-r6");
+   }
+   /* dl-ChannelisationCode */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dl_ChannelisationCode, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "dl-ChannelisationCode", -1, "DL-FDPCH-InfoPerRL-r6");
+   /* tpc-CombinationIndex */
+   if ((uint64_t)pvalue->tpc_CombinationIndex > 5u) {
+      rtxErrAddStrParm(ctx, "TPC-CombinationIndex");
+      rtxErrAddUIntParm(ctx, pvalue->tpc_CombinationIndex);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, "DL-FDPCH-InfoPerRL-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tpc_CombinationIndex, 0, 5);
+   RT_CHECK_PUT(ctx, cur, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, "DL-FDPCH-InfoPerRL-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_FDPCH_InfoPerRL_r6(rtxContext* RT_RESTRICT ctx, const DL_FDPCH_InfoPerRL_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_FDPCH_InfoPerRL_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_DPCH_InfoPerRL_PostFDD(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_PostFDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-DPCH-InfoPerRL-PostFDD");
+   /* pCPICH-UsageForChannelEst */
+   if (pvalue->pCPICH_UsageForChannelEst > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->pCPICH_UsageForChannelEst);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, "DL-DPCH-InfoPerRL-PostFDD");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pCPICH_UsageForChannelEst, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "PCPICH-UsageForChannelEst", "pCPICH-UsageForChannelEst", -1, "DL-DPCH-InfoPerRL-PostFDD");
+   /* dl-ChannelisationCode */
+   stat = enc_DL_ChannelisationCode(ctx, &pvalue->dl_ChannelisationCode, cur);
+   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCode", -1, "DL-DPCH-InfoPerRL-PostFDD");
+   /* tpc-CombinationIndex */
+   if ((uint64_t)pvalue->tpc_CombinationIndex > 5u) {
+      rtxErrAddStrParm(ctx, "TPC-CombinationIndex");
+      rtxErrAddUIntParm(ctx, pvalue->tpc_CombinationIndex);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, "DL-DPCH-InfoPerRL-PostFDD");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tpc_CombinationIndex, 0, 5);
+   RT_CHECK_PUT(ctx, cur, stat, "TPC-CombinationIndex", "tpc-CombinationIndex", -1, "DL-DPCH-InfoPerRL-PostFDD");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoPerRL_PostFDD(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_PostFDD* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoPerRL_PostFDD, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_DPCH_InfoPerRL_PostTDD(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_PostTDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-DPCH-InfoPerRL-PostTDD");
+   /* dl-DPCH-TimeslotsCodes */
+   stat = enc_DownlinkTimeslotsCodes(ctx, &pvalue->dl_DPCH_TimeslotsCodes, cur);
+   RT_CHECK(ctx, stat, 0, "dl-DPCH-TimeslotsCodes", -1, "DL-DPCH-InfoPerRL-PostTDD");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoPerRL_PostTDD(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_PostTDD* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoPerRL_PostTDD, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_DPCH_InfoPerRL_PostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_PostTDD_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-DPCH-InfoPerRL-PostTDD-LCR-r4");
+   /* dl-CCTrCH-TimeslotsCodes */
+   stat = enc_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->dl_CCTrCH_TimeslotsCodes, cur);
+   RT_CHECK(ctx, stat, 0, "dl-CCTrCH-TimeslotsCodes", -1, "DL-DPCH-InfoPerRL-PostTDD-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_DPCH_InfoPerRL_PostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, const DL_DPCH_InfoPerRL_PostTDD_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_DPCH_InfoPerRL_PostTDD_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info_r6_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r6_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 127u) {
+         rtxErrAddStrParm(ctx, "HS-SCCH-Codes");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 127);
+      RT_CHECK_PUT(ctx, cur, stat, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r6_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_r6_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* hS-SCCHChannelisationCodeInfo */
+   stat = enc_HS_SCCH_Info_r6_modeSpecificInfo_fdd_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo, cur);
+   RT_CHECK(ctx, stat, 0, "hS-SCCHChannelisationCodeInfo", -1, 0);
+   /* dl-ScramblingCode */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->dl_ScramblingCode - 1) > 14u) {
+         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
+         rtxErrAddUIntParm(ctx, pvalue->dl_ScramblingCode);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->dl_ScramblingCode, 1, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_r6_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    const rtxDListNode* node;
    uint32_t i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DGANSSSignalInformationList-r9");
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DGANSSSignalInformation-r9", (int32_t)i, "DGANSSSignalInformationList-r9");
-      stat = asn1PE_UMTS_DGANSSSignalInformation_r9(ctx, (const DGANSSSignalInformation_r9*)node->data);
-      RT_CHECK(ctx, stat, 0, "DGANSSSignalInformation-r9", (int32_t)i, "DGANSSSignalInformationList-r9");
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "HS-SCCH-TDD384-r6", (int32_t)i, 0);
+      stat = enc_HS_SCCH_TDD384_r6(ctx, (const HS_SCCH_TDD384_r6*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD384-r6", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_DGANSSInfo_r9(rtxContext* RT_RESTRICT ctx, const DGANSSInfo_r9* RT_RESTRICT pvalue)
+int asn1PE_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DGANSSInfo-r9");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DGANSSInfo-r9");
-   /* ganssSignalId */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* nack-ack-power-offset */
+   if (pvalue->nack_ack_power_offset < -7 || pvalue->nack_ack_power_offset > 8) {
+      rtxErrAddStrParm(ctx, "nack-ack-power-offset");
+      rtxErrAddIntParm(ctx, pvalue->nack_ack_power_offset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "nack-ack-power-offset", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "nack-ack-power-offset", -1, 0);
+   /* hs-SICH-PowerControl-Info */
+   stat = enc_HS_SICH_Power_Control_Info_TDD384(ctx, &pvalue->hs_SICH_PowerControl_Info, cur);
+   RT_CHECK(ctx, stat, 0, "hs-SICH-PowerControl-Info", -1, 0);
+   /* dhs-sync */
    if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->ganssSignalId > 7u) {
-         rtxErrAddStrParm(ctx, "GANSS-Signal-Id");
-         rtxErrAddUIntParm(ctx, pvalue->ganssSignalId);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "GANSS-Signal-Id", "ganssSignalId", -1, "DGANSSInfo-r9");
+      if (pvalue->dhs_sync < -20 || pvalue->dhs_sync > 10) {
+         rtxErrAddStrParm(ctx, "DHS-Sync");
+         rtxErrAddIntParm(ctx, pvalue->dhs_sync);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DHS-Sync", "dhs-sync", -1, 0);
       }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssSignalId, 0, 7);
-      RT_CHECK(ctx, stat, "GANSS-Signal-Id", "ganssSignalId", -1, "DGANSSInfo-r9");
+      stat = pe_ConsInt64At(ctx, cur, pvalue->dhs_sync, -20, 10);
+      RT_CHECK_PUT(ctx, cur, stat, "DHS-Sync", "dhs-sync", -1, 0);
    }
-   /* ganssStatusHealth */
-   if (pvalue->ganssStatusHealth > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->ganssStatusHealth);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "GANSS-Status-Health", "ganssStatusHealth", -1, "DGANSSInfo-r9");
+   /* bler-target */
+   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
+      rtxErrAddStrParm(ctx, "Bler-Target");
+      rtxErrAddIntParm(ctx, pvalue->bler_target);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Bler-Target", "bler-target", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, pvalue->ganssStatusHealth, 0, 7);
-   RT_CHECK(ctx, stat, "GANSS-Status-Health", "ganssStatusHealth", -1, "DGANSSInfo-r9");
-   /* dgansssignalInformationList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DGANSSSignalInformationList_r9(ctx, &pvalue->dgansssignalInformationList);
-      RT_CHECK(ctx, stat, 0, "dgansssignalInformationList", -1, "DGANSSInfo-r9");
-   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->bler_target, -63, 0);
+   RT_CHECK_PUT(ctx, cur, stat, "Bler-Target", "bler-target", -1, 0);
+   /* hS-SCCH-SetConfiguration */
+   stat = enc_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_DGANSSSignalInformation_v920ext(rtxContext* RT_RESTRICT ctx, const DGANSSSignalInformation_v920ext* RT_RESTRICT pvalue)
+int asn1PE_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_tpc_step_size value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DGANSSSignalInformation-v920ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DGANSSSignalInformation-v920ext");
-   /* udreGrowthRate */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->udreGrowthRate > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->udreGrowthRate);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "UDREGrowthRate", "udreGrowthRate", -1, "DGANSSSignalInformation-v920ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->udreGrowthRate, 0, 7);
-      RT_CHECK(ctx, stat, "UDREGrowthRate", "udreGrowthRate", -1, "DGANSSSignalInformation-v920ext");
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
-   /* udreValidityTime */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->udreValidityTime > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->udreValidityTime);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "UDREValidityTime", "udreValidityTime", -1, "DGANSSSignalInformation-v920ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->udreValidityTime, 0, 7);
-      RT_CHECK(ctx, stat, "UDREValidityTime", "udreValidityTime", -1, "DGANSSSignalInformation-v920ext");
-   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_DGANSSSignalInformationList_v920ext(rtxContext* RT_RESTRICT ctx, const DGANSSSignalInformationList_v920ext* RT_RESTRICT pvalue)
+int asn1PE_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_tpc_step_size value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_tpc_step_size, value);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DGANSSSignalInformationList-v920ext");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    const rtxDListNode* node;
    uint32_t i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DGANSSSignalInformationList-v920ext");
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DGANSSSignalInformation-v920ext", (int32_t)i, "DGANSSSignalInformationList-v920ext");
-      stat = asn1PE_UMTS_DGANSSSignalInformation_v920ext(ctx, (const DGANSSSignalInformation_v920ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "DGANSSSignalInformation-v920ext", (int32_t)i, "DGANSSSignalInformationList-v920ext");
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
+      stat = enc_HS_SCCH_TDD128_r6(ctx, (const HS_SCCH_TDD128_r6*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "HS-SCCH-TDD128-r6", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_DGANSSInfo_v920ext(rtxContext* RT_RESTRICT ctx, const DGANSSInfo_v920ext* RT_RESTRICT pvalue)
+int asn1PE_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DGANSSInfo-v920ext");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* nack-ack-power-offset */
+   if (pvalue->nack_ack_power_offset < -7 || pvalue->nack_ack_power_offset > 8) {
+      rtxErrAddStrParm(ctx, "nack-ack-power-offset");
+      rtxErrAddIntParm(ctx, pvalue->nack_ack_power_offset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "nack-ack-power-offset", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->nack_ack_power_offset, -7, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "nack-ack-power-offset", -1, 0);
+   /* power-level-HSSICH */
+   if (pvalue->power_level_HSSICH < -120 || pvalue->power_level_HSSICH > -58) {
+      rtxErrAddStrParm(ctx, "power-level-HSSICH");
+      rtxErrAddIntParm(ctx, pvalue->power_level_HSSICH);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "power-level-HSSICH", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->power_level_HSSICH, -120, -58);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "power-level-HSSICH", -1, 0);
+   /* tpc-step-size */
+   if (pvalue->tpc_step_size > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->tpc_step_size);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "tpc-step-size", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tpc_step_size, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tpc-step-size", -1, 0);
+   /* bler-target */
+   if (pvalue->bler_target < -63 || pvalue->bler_target > 0) {
+      rtxErrAddStrParm(ctx, "Bler-Target");
+      rtxErrAddIntParm(ctx, pvalue->bler_target);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Bler-Target", "bler-target", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->bler_target, -63, 0);
+   RT_CHECK_PUT(ctx, cur, stat, "Bler-Target", "bler-target", -1, 0);
+   /* hS-SCCH-SetConfiguration */
+   stat = enc_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128_hS_SCCH_SetConfiguration(ctx, &pvalue->hS_SCCH_SetConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "hS-SCCH-SetConfiguration", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = enc_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_HS_SCCH_Info_r6_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_r6_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r6_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_HS_SCCH_Info_r6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_HS_SCCH_Info_r6_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r6_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_r6_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info_r6(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-Info-r6");
+   /* modeSpecificInfo */
+   stat = enc_HS_SCCH_Info_r6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "HS-SCCH-Info-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r6(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DGANSSInfo-v920ext");
-   /* dgansssignalInformationList */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dl-HSPDSCH-TS-Configuration */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DGANSSSignalInformationList_v920ext(ctx, &pvalue->dgansssignalInformationList);
-      RT_CHECK(ctx, stat, 0, "dgansssignalInformationList", -1, "DGANSSInfo-v920ext");
+      stat = enc_DL_HSPDSCH_TS_Configuration(ctx, &pvalue->dl_HSPDSCH_TS_Configuration, cur);
+      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-TS-Configuration", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_DGANSSInfoList(rtxContext* RT_RESTRICT ctx, const DGANSSInfoList* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DGANSSInfoList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* hs-PDSCH-Midamble-Configuration-tdd128 */
+   if (pvalue->m & 0x1u) {
+      stat = enc_HS_PDSCH_Midamble_Configuration_TDD128(ctx, &pvalue->hs_PDSCH_Midamble_Configuration_tdd128, cur);
+      RT_CHECK(ctx, stat, 0, "hs-PDSCH-Midamble-Configuration-tdd128", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = enc_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r6_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_DL_HSPDSCH_Information_r6_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r6_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_Information_r6_modeSpecificInfo, pvalue);
+}
+
+static int enc_DL_HSPDSCH_Information_r6(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-HSPDSCH-Information-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-HSPDSCH-Information-r6");
+   /* hs-scch-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_HS_SCCH_Info_r6(ctx, &pvalue->hs_scch_Info, cur);
+      RT_CHECK(ctx, stat, 0, "hs-scch-Info", -1, "DL-HSPDSCH-Information-r6");
+   }
+   /* measurement-feedback-Info */
+   if (pvalue->m & 0x2u) {
+      stat = enc_Measurement_Feedback_Info(ctx, &pvalue->measurement_feedback_Info, cur);
+      RT_CHECK(ctx, stat, 0, "measurement-feedback-Info", -1, "DL-HSPDSCH-Information-r6");
+   }
+   /* modeSpecificInfo */
+   stat = enc_DL_HSPDSCH_Information_r6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-HSPDSCH-Information-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r6(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_Information_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* outofSyncWindow */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->outofSyncWindow > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->outofSyncWindow);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "OutofSyncWindow", "outofSyncWindow", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->outofSyncWindow, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "OutofSyncWindow", "outofSyncWindow", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_ext_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_ext_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r8_ext(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-HSPDSCH-Information-r8-ext");
+   /* modeSpecificInfo */
+   stat = enc_DL_HSPDSCH_Information_r8_ext_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-HSPDSCH-Information-r8-ext");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r8_ext(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_Information_r8_ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size(rtxContext* RT_RESTRICT ctx, HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128_hS_SCCH_tpc_step_size, value);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* hS-SCCH-tpc-step-size */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->hS_SCCH_tpc_step_size > 3) {
+         rtxErrAddUIntParm(ctx, pvalue->hS_SCCH_tpc_step_size);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "hS-SCCH-tpc-step-size", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->hS_SCCH_tpc_step_size, 0, 3);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "hS-SCCH-tpc-step-size", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info_r8_ext_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r8_ext_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_HS_SCCH_Info_r8_ext_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r8_ext_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r8_ext_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_r8_ext_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Info_r8_ext(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r8_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-Info-r8-ext");
+   /* modeSpecificInfo */
+   stat = enc_HS_SCCH_Info_r8_ext_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "HS-SCCH-Info-r8-ext");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Info_r8_ext(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Info_r8_ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Info_r8_ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_HSPDSCH_Information_r8_ext2(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_ext2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-HSPDSCH-Information-r8-ext2");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-HSPDSCH-Information-r8-ext2");
+   /* hs-scch-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_HS_SCCH_Info_r8_ext(ctx, &pvalue->hs_scch_Info, cur);
+      RT_CHECK(ctx, stat, 0, "hs-scch-Info", -1, "DL-HSPDSCH-Information-r8-ext2");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_HSPDSCH_Information_r8_ext2(rtxContext* RT_RESTRICT ctx, const DL_HSPDSCH_Information_r8_ext2* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_HSPDSCH_Information_r8_ext2, pvalue);
+}
+
+RT_MERGED_BODY int enc_DSCH_RadioLinkIdentifier(rtxContext* RT_RESTRICT ctx, DSCH_RadioLinkIdentifier value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 511u) {
+      rtxErrAddStrParm(ctx, "DSCH-RadioLinkIdentifier");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "DSCH-RadioLinkIdentifier");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 511);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DSCH-RadioLinkIdentifier");
+   return 0;
+}
+
+int asn1PE_UMTS_DSCH_RadioLinkIdentifier(rtxContext* RT_RESTRICT ctx, DSCH_RadioLinkIdentifier value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DSCH_RadioLinkIdentifier, value);
+}
+
+RT_MERGED_BODY int enc_RL_IdentifierList(rtxContext* RT_RESTRICT ctx, const RL_IdentifierList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RL-IdentifierList");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DGANSSInfoList");
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RL-IdentifierList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DGANSSInfo", (int32_t)i, "DGANSSInfoList");
-      stat = asn1PE_UMTS_DGANSSInfo(ctx, (const DGANSSInfo*)node->data);
-      RT_CHECK(ctx, stat, 0, "DGANSSInfo", (int32_t)i, "DGANSSInfoList");
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "PrimaryCPICH-Info", (int32_t)i, "RL-IdentifierList");
+      stat = enc_PrimaryCPICH_Info(ctx, (const PrimaryCPICH_Info*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "PrimaryCPICH-Info", (int32_t)i, "RL-IdentifierList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_DGANSSInfoList_r9(rtxContext* RT_RESTRICT ctx, const DGANSSInfoList_r9* RT_RESTRICT pvalue)
+int asn1PE_UMTS_RL_IdentifierList(rtxContext* RT_RESTRICT ctx, const RL_IdentifierList* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DGANSSInfoList-r9");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DGANSSInfoList-r9");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DGANSSInfo-r9", (int32_t)i, "DGANSSInfoList-r9");
-      stat = asn1PE_UMTS_DGANSSInfo_r9(ctx, (const DGANSSInfo_r9*)node->data);
-      RT_CHECK(ctx, stat, 0, "DGANSSInfo-r9", (int32_t)i, "DGANSSInfoList-r9");
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_RL_IdentifierList, pvalue);
 }
 
-int asn1PE_UMTS_DGANSSInfoList_v920ext(rtxContext* RT_RESTRICT ctx, const DGANSSInfoList_v920ext* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_PDSCH_SHO_DCH_Info(rtxContext* RT_RESTRICT ctx, const PDSCH_SHO_DCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DGANSSInfoList-v920ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DGANSSInfoList-v920ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DGANSSInfo-v920ext", (int32_t)i, "DGANSSInfoList-v920ext");
-      stat = asn1PE_UMTS_DGANSSInfo_v920ext(ctx, (const DGANSSInfo_v920ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "DGANSSInfo-v920ext", (int32_t)i, "DGANSSInfoList-v920ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DGANSS_Sig_Id_Req(rtxContext* RT_RESTRICT ctx, DGANSS_Sig_Id_Req value)
-{
-   int stat = 0;
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &value, 8, 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DGANSS-Sig-Id-Req");
-   return 0;
-}
-
-int asn1PE_UMTS_IODE(rtxContext* RT_RESTRICT ctx, IODE value)
-{
-   int stat = 0;
-   stat = pe_ConsUInt64(ctx, value, 0, 255);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IODE");
-   return 0;
-}
-
-int asn1PE_UMTS_PRC(rtxContext* RT_RESTRICT ctx, PRC value)
-{
-   int stat = 0;
-   if (value < -2047 || value > 2047) {
-      rtxErrAddStrParm(ctx, "PRC");
-      rtxErrAddIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "PRC");
-   }
-   stat = pe_ConsInt64(ctx, value, -2047, 2047);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PRC");
-   return 0;
-}
-
-int asn1PE_UMTS_RRC(rtxContext* RT_RESTRICT ctx, RRC value)
-{
-   int stat = 0;
-   if (value < -127 || value > 127) {
-      rtxErrAddStrParm(ctx, "RRC");
-      rtxErrAddIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "RRC");
-   }
-   stat = pe_ConsInt64(ctx, value, -127, 127);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RRC");
-   return 0;
-}
-
-int asn1PE_UMTS_DGPS_CorrectionSatInfo(rtxContext* RT_RESTRICT ctx, const DGPS_CorrectionSatInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DGPS-CorrectionSatInfo");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-SHO-DCH-Info");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PDSCH-SHO-DCH-Info");
+   /* dsch-RadioLinkIdentifier */
+   if ((uint64_t)pvalue->dsch_RadioLinkIdentifier > 511u) {
+      rtxErrAddStrParm(ctx, "DSCH-RadioLinkIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->dsch_RadioLinkIdentifier);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DSCH-RadioLinkIdentifier", "dsch-RadioLinkIdentifier", -1, "PDSCH-SHO-DCH-Info");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dsch_RadioLinkIdentifier, 0, 511);
+   RT_CHECK_PUT(ctx, cur, stat, "DSCH-RadioLinkIdentifier", "dsch-RadioLinkIdentifier", -1, "PDSCH-SHO-DCH-Info");
+   /* rl-IdentifierList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_RL_IdentifierList(ctx, &pvalue->rl_IdentifierList, cur);
+      RT_CHECK(ctx, stat, 0, "rl-IdentifierList", -1, "PDSCH-SHO-DCH-Info");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_SHO_DCH_Info(rtxContext* RT_RESTRICT ctx, const PDSCH_SHO_DCH_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_SHO_DCH_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_MaxTFCI_Field2Value(rtxContext* RT_RESTRICT ctx, MaxTFCI_Field2Value value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 1022u) {
+      rtxErrAddStrParm(ctx, "MaxTFCI-Field2Value");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "MaxTFCI-Field2Value");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 1023);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MaxTFCI-Field2Value");
+   return 0;
+}
+
+int asn1PE_UMTS_MaxTFCI_Field2Value(rtxContext* RT_RESTRICT ctx, MaxTFCI_Field2Value value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MaxTFCI_Field2Value, value);
+}
+
+RT_MERGED_BODY int enc_DSCH_Mapping(rtxContext* RT_RESTRICT ctx, const DSCH_Mapping* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DSCH-Mapping");
+   /* maxTFCI-Field2Value */
+   if ((uint64_t)(pvalue->maxTFCI_Field2Value - 1) > 1022u) {
+      rtxErrAddStrParm(ctx, "MaxTFCI-Field2Value");
+      rtxErrAddUIntParm(ctx, pvalue->maxTFCI_Field2Value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MaxTFCI-Field2Value", "maxTFCI-Field2Value", -1, "DSCH-Mapping");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxTFCI_Field2Value, 1, 1023);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxTFCI-Field2Value", "maxTFCI-Field2Value", -1, "DSCH-Mapping");
+   /* spreadingFactor */
+   if (pvalue->spreadingFactor > 6) {
+      rtxErrAddUIntParm(ctx, pvalue->spreadingFactor);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "SF-PDSCH", "spreadingFactor", -1, "DSCH-Mapping");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->spreadingFactor, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "SF-PDSCH", "spreadingFactor", -1, "DSCH-Mapping");
+   /* codeNumber */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->codeNumber, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, "CodeNumberDSCH", "codeNumber", -1, "DSCH-Mapping");
+   /* multiCodeInfo */
+   if ((uint64_t)(pvalue->multiCodeInfo - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "MultiCodeInfo");
+      rtxErrAddUIntParm(ctx, pvalue->multiCodeInfo);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MultiCodeInfo", "multiCodeInfo", -1, "DSCH-Mapping");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->multiCodeInfo, 1, 16);
+   RT_CHECK_PUT(ctx, cur, stat, "MultiCodeInfo", "multiCodeInfo", -1, "DSCH-Mapping");
+   return 0;
+}
+
+int asn1PE_UMTS_DSCH_Mapping(rtxContext* RT_RESTRICT ctx, const DSCH_Mapping* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DSCH_Mapping, pvalue);
+}
+
+RT_MERGED_BODY int enc_DSCH_MappingList(rtxContext* RT_RESTRICT ctx, const DSCH_MappingList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DSCH-MappingList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 256);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DSCH-MappingList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DSCH-Mapping", (int32_t)i, "DSCH-MappingList");
+      stat = enc_DSCH_Mapping(ctx, (const DSCH_Mapping*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DSCH-Mapping", (int32_t)i, "DSCH-MappingList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DSCH_MappingList(rtxContext* RT_RESTRICT ctx, const DSCH_MappingList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DSCH_MappingList, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDSCH_CodeInfo(rtxContext* RT_RESTRICT ctx, const PDSCH_CodeInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-CodeInfo");
+   /* spreadingFactor */
+   if (pvalue->spreadingFactor > 6) {
+      rtxErrAddUIntParm(ctx, pvalue->spreadingFactor);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "SF-PDSCH", "spreadingFactor", -1, "PDSCH-CodeInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->spreadingFactor, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "SF-PDSCH", "spreadingFactor", -1, "PDSCH-CodeInfo");
+   /* codeNumber */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->codeNumber, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, "CodeNumberDSCH", "codeNumber", -1, "PDSCH-CodeInfo");
+   /* multiCodeInfo */
+   if ((uint64_t)(pvalue->multiCodeInfo - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "MultiCodeInfo");
+      rtxErrAddUIntParm(ctx, pvalue->multiCodeInfo);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MultiCodeInfo", "multiCodeInfo", -1, "PDSCH-CodeInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->multiCodeInfo, 1, 16);
+   RT_CHECK_PUT(ctx, cur, stat, "MultiCodeInfo", "multiCodeInfo", -1, "PDSCH-CodeInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_CodeInfo(rtxContext* RT_RESTRICT ctx, const PDSCH_CodeInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_CodeInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDSCH_CodeInfoList(rtxContext* RT_RESTRICT ctx, const PDSCH_CodeInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-CodeInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 512);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "PDSCH-CodeInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "PDSCH-CodeInfo", (int32_t)i, "PDSCH-CodeInfoList");
+      stat = enc_PDSCH_CodeInfo(ctx, (const PDSCH_CodeInfo*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "PDSCH-CodeInfo", (int32_t)i, "PDSCH-CodeInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_CodeInfoList(rtxContext* RT_RESTRICT ctx, const PDSCH_CodeInfoList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_CodeInfoList, pvalue);
+}
+
+RT_MERGED_BODY int enc_ReplacedPDSCH_CodeInfo(rtxContext* RT_RESTRICT ctx, const ReplacedPDSCH_CodeInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ReplacedPDSCH-CodeInfo");
+   /* tfci-Field2 */
+   if ((uint64_t)(pvalue->tfci_Field2 - 1) > 1022u) {
+      rtxErrAddStrParm(ctx, "MaxTFCI-Field2Value");
+      rtxErrAddUIntParm(ctx, pvalue->tfci_Field2);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MaxTFCI-Field2Value", "tfci-Field2", -1, "ReplacedPDSCH-CodeInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tfci_Field2, 1, 1023);
+   RT_CHECK_PUT(ctx, cur, stat, "MaxTFCI-Field2Value", "tfci-Field2", -1, "ReplacedPDSCH-CodeInfo");
+   /* spreadingFactor */
+   if (pvalue->spreadingFactor > 6) {
+      rtxErrAddUIntParm(ctx, pvalue->spreadingFactor);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "SF-PDSCH", "spreadingFactor", -1, "ReplacedPDSCH-CodeInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->spreadingFactor, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "SF-PDSCH", "spreadingFactor", -1, "ReplacedPDSCH-CodeInfo");
+   /* codeNumber */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->codeNumber, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, "CodeNumberDSCH", "codeNumber", -1, "ReplacedPDSCH-CodeInfo");
+   /* multiCodeInfo */
+   if ((uint64_t)(pvalue->multiCodeInfo - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "MultiCodeInfo");
+      rtxErrAddUIntParm(ctx, pvalue->multiCodeInfo);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MultiCodeInfo", "multiCodeInfo", -1, "ReplacedPDSCH-CodeInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->multiCodeInfo, 1, 16);
+   RT_CHECK_PUT(ctx, cur, stat, "MultiCodeInfo", "multiCodeInfo", -1, "ReplacedPDSCH-CodeInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_ReplacedPDSCH_CodeInfo(rtxContext* RT_RESTRICT ctx, const ReplacedPDSCH_CodeInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ReplacedPDSCH_CodeInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_ReplacedPDSCH_CodeInfoList(rtxContext* RT_RESTRICT ctx, const ReplacedPDSCH_CodeInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ReplacedPDSCH-CodeInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 512);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "ReplacedPDSCH-CodeInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ReplacedPDSCH-CodeInfo", (int32_t)i, "ReplacedPDSCH-CodeInfoList");
+      stat = enc_ReplacedPDSCH_CodeInfo(ctx, (const ReplacedPDSCH_CodeInfo*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "ReplacedPDSCH-CodeInfo", (int32_t)i, "ReplacedPDSCH-CodeInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ReplacedPDSCH_CodeInfoList(rtxContext* RT_RESTRICT ctx, const ReplacedPDSCH_CodeInfoList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ReplacedPDSCH_CodeInfoList, pvalue);
+}
+
+static int enc_PDSCH_CodeMapping_signallingMethod(rtxContext* RT_RESTRICT ctx, const PDSCH_CodeMapping_signallingMethod* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 3) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.codeRange == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "codeRange", -1, 0);
+         stat = enc_CodeRange(ctx, pvalue->u.codeRange, cur);
+         RT_CHECK(ctx, stat, 0, "codeRange", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tfci_Range == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tfci-Range", -1, 0);
+         stat = enc_DSCH_MappingList(ctx, pvalue->u.tfci_Range, cur);
+         RT_CHECK(ctx, stat, 0, "tfci-Range", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.explicit_config == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "explicit-config", -1, 0);
+         stat = enc_PDSCH_CodeInfoList(ctx, pvalue->u.explicit_config, cur);
+         RT_CHECK(ctx, stat, 0, "explicit-config", -1, 0);
+         break;
+      case 4:
+         if (pvalue->u.replace == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "replace", -1, 0);
+         stat = enc_ReplacedPDSCH_CodeInfoList(ctx, pvalue->u.replace, cur);
+         RT_CHECK(ctx, stat, 0, "replace", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_CodeMapping_signallingMethod(rtxContext* RT_RESTRICT ctx, const PDSCH_CodeMapping_signallingMethod* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_CodeMapping_signallingMethod, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDSCH_CodeMapping(rtxContext* RT_RESTRICT ctx, const PDSCH_CodeMapping* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-CodeMapping");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PDSCH-CodeMapping");
+   /* dl-ScramblingCode */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->dl_ScramblingCode - 1) > 14u) {
+         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
+         rtxErrAddUIntParm(ctx, pvalue->dl_ScramblingCode);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SecondaryScramblingCode", "dl-ScramblingCode", -1, "PDSCH-CodeMapping");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->dl_ScramblingCode, 1, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, "PDSCH-CodeMapping");
+   }
+   /* signallingMethod */
+   stat = enc_PDSCH_CodeMapping_signallingMethod(ctx, &pvalue->signallingMethod, cur);
+   RT_CHECK(ctx, stat, 0, "signallingMethod", -1, "PDSCH-CodeMapping");
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_CodeMapping(rtxContext* RT_RESTRICT ctx, const PDSCH_CodeMapping* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_CodeMapping, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DGPS-CorrectionSatInfo");
-   /* satID */
-   if ((uint64_t)pvalue->satID > 63u) {
-      rtxErrAddStrParm(ctx, "SatID");
-      rtxErrAddUIntParm(ctx, pvalue->satID);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "SatID", "satID", -1, "DGPS-CorrectionSatInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->satID, 0, 63);
-   RT_CHECK(ctx, stat, "SatID", "satID", -1, "DGPS-CorrectionSatInfo");
-   /* iode */
-   stat = pe_ConsUInt64(ctx, pvalue->iode, 0, 255);
-   RT_CHECK(ctx, stat, "IODE", "iode", -1, "DGPS-CorrectionSatInfo");
-   /* udre */
-   if (pvalue->udre > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->udre);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UDRE", "udre", -1, "DGPS-CorrectionSatInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->udre, 0, 3);
-   RT_CHECK(ctx, stat, "UDRE", "udre", -1, "DGPS-CorrectionSatInfo");
-   /* prc */
-   if (pvalue->prc < -2047 || pvalue->prc > 2047) {
-      rtxErrAddStrParm(ctx, "PRC");
-      rtxErrAddIntParm(ctx, pvalue->prc);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PRC", "prc", -1, "DGPS-CorrectionSatInfo");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->prc, -2047, 2047);
-   RT_CHECK(ctx, stat, "PRC", "prc", -1, "DGPS-CorrectionSatInfo");
-   /* rrc */
-   if (pvalue->rrc < -127 || pvalue->rrc > 127) {
-      rtxErrAddStrParm(ctx, "RRC");
-      rtxErrAddIntParm(ctx, pvalue->rrc);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC", "rrc", -1, "DGPS-CorrectionSatInfo");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->rrc, -127, 127);
-   RT_CHECK(ctx, stat, "RRC", "rrc", -1, "DGPS-CorrectionSatInfo");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   stat = enc_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
    /* dummy1 */
-   if (pvalue->dummy1 < -127 || pvalue->dummy1 > 127) {
-      rtxErrAddStrParm(ctx, "DeltaPRC");
-      rtxErrAddIntParm(ctx, pvalue->dummy1);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaPRC", "dummy1", -1, "DGPS-CorrectionSatInfo");
+   if (pvalue->m & 0x1u) {
+      stat = enc_PDSCH_SHO_DCH_Info(ctx, &pvalue->dummy1, cur);
+      RT_CHECK(ctx, stat, 0, "dummy1", -1, 0);
    }
-   stat = pe_ConsInt64(ctx, pvalue->dummy1, -127, 127);
-   RT_CHECK(ctx, stat, "DeltaPRC", "dummy1", -1, "DGPS-CorrectionSatInfo");
    /* dummy2 */
-   if (pvalue->dummy2 < -7 || pvalue->dummy2 > 7) {
-      rtxErrAddStrParm(ctx, "DeltaRRC");
-      rtxErrAddIntParm(ctx, pvalue->dummy2);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaRRC", "dummy2", -1, "DGPS-CorrectionSatInfo");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->dummy2, -7, 7);
-   RT_CHECK(ctx, stat, "DeltaRRC", "dummy2", -1, "DGPS-CorrectionSatInfo");
-   /* dummy3 */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->dummy3 < -127 || pvalue->dummy3 > 127) {
-         rtxErrAddStrParm(ctx, "DeltaPRC");
-         rtxErrAddIntParm(ctx, pvalue->dummy3);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaPRC", "dummy3", -1, "DGPS-CorrectionSatInfo");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->dummy3, -127, 127);
-      RT_CHECK(ctx, stat, "DeltaPRC", "dummy3", -1, "DGPS-CorrectionSatInfo");
-   }
-   /* dummy4 */
    if (pvalue->m & 0x2u) {
-      if (pvalue->dummy4 < -7 || pvalue->dummy4 > 7) {
-         rtxErrAddStrParm(ctx, "DeltaRRC");
-         rtxErrAddIntParm(ctx, pvalue->dummy4);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaRRC", "dummy4", -1, "DGPS-CorrectionSatInfo");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->dummy4, -7, 7);
-      RT_CHECK(ctx, stat, "DeltaRRC", "dummy4", -1, "DGPS-CorrectionSatInfo");
+      stat = enc_PDSCH_CodeMapping(ctx, &pvalue->dummy2, cur);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_DGPS_CorrectionSatInfo_r9(rtxContext* RT_RESTRICT ctx, const DGPS_CorrectionSatInfo_r9* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_InformationPerRL_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DGPS-CorrectionSatInfo-r9");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_DL_InformationPerRL_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_PrimaryCCPCH_Info(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_SIB_ReferenceListFACH(rtxContext* RT_RESTRICT ctx, const SIB_ReferenceListFACH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SIB-ReferenceListFACH");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "SIB-ReferenceListFACH");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "SchedulingInformationSIB", (int32_t)i, "SIB-ReferenceListFACH");
+      stat = enc_SchedulingInformationSIB(ctx, (const SchedulingInformationSIB*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "SchedulingInformationSIB", (int32_t)i, "SIB-ReferenceListFACH");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SIB_ReferenceListFACH(rtxContext* RT_RESTRICT ctx, const SIB_ReferenceListFACH* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SIB_ReferenceListFACH, pvalue);
+}
+
+RT_MERGED_BODY int enc_SCCPCH_InfoForFACH_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SCCPCH_InfoForFACH_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* fach-PCH-InformationList */
+   stat = enc_FACH_PCH_InformationList(ctx, &pvalue->fach_PCH_InformationList, cur);
+   RT_CHECK(ctx, stat, 0, "fach-PCH-InformationList", -1, 0);
+   /* sib-ReferenceListFACH */
+   stat = enc_SIB_ReferenceListFACH(ctx, &pvalue->sib_ReferenceListFACH, cur);
+   RT_CHECK(ctx, stat, 0, "sib-ReferenceListFACH", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SCCPCH_InfoForFACH_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SCCPCH_InfoForFACH_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SCCPCH_InfoForFACH_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_SCCPCH_InfoForFACH_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const SCCPCH_InfoForFACH_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* fach-PCH-InformationList */
+   stat = enc_FACH_PCH_InformationList(ctx, &pvalue->fach_PCH_InformationList, cur);
+   RT_CHECK(ctx, stat, 0, "fach-PCH-InformationList", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SCCPCH_InfoForFACH_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const SCCPCH_InfoForFACH_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SCCPCH_InfoForFACH_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_SCCPCH_InfoForFACH_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SCCPCH_InfoForFACH_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_SCCPCH_InfoForFACH_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_SCCPCH_InfoForFACH_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SCCPCH_InfoForFACH_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SCCPCH_InfoForFACH_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SCCPCH_InfoForFACH_modeSpecificInfo, pvalue);
+}
+
+static int enc_SCCPCH_InfoForFACH(rtxContext* RT_RESTRICT ctx, const SCCPCH_InfoForFACH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SCCPCH-InfoForFACH");
+   /* secondaryCCPCH-Info */
+   stat = enc_SecondaryCCPCH_Info(ctx, &pvalue->secondaryCCPCH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "secondaryCCPCH-Info", -1, "SCCPCH-InfoForFACH");
+   /* tfcs */
+   stat = enc_TFCS(ctx, &pvalue->tfcs, cur);
+   RT_CHECK(ctx, stat, 0, "tfcs", -1, "SCCPCH-InfoForFACH");
+   /* modeSpecificInfo */
+   stat = enc_SCCPCH_InfoForFACH_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SCCPCH-InfoForFACH");
+   return 0;
+}
+
+int asn1PE_UMTS_SCCPCH_InfoForFACH(rtxContext* RT_RESTRICT ctx, const SCCPCH_InfoForFACH* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SCCPCH_InfoForFACH, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerRL");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DGPS-CorrectionSatInfo-r9");
-   /* satID */
-   if ((uint64_t)pvalue->satID > 63u) {
-      rtxErrAddStrParm(ctx, "SatID");
-      rtxErrAddUIntParm(ctx, pvalue->satID);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "SatID", "satID", -1, "DGPS-CorrectionSatInfo-r9");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->satID, 0, 63);
-   RT_CHECK(ctx, stat, "SatID", "satID", -1, "DGPS-CorrectionSatInfo-r9");
-   /* iode */
-   stat = pe_ConsUInt64(ctx, pvalue->iode, 0, 255);
-   RT_CHECK(ctx, stat, "IODE", "iode", -1, "DGPS-CorrectionSatInfo-r9");
-   /* udre */
-   if (pvalue->udre > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->udre);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UDRE", "udre", -1, "DGPS-CorrectionSatInfo-r9");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->udre, 0, 3);
-   RT_CHECK(ctx, stat, "UDRE", "udre", -1, "DGPS-CorrectionSatInfo-r9");
-   /* prc */
-   if (pvalue->prc < -2047 || pvalue->prc > 2047) {
-      rtxErrAddStrParm(ctx, "PRC");
-      rtxErrAddIntParm(ctx, pvalue->prc);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PRC", "prc", -1, "DGPS-CorrectionSatInfo-r9");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->prc, -2047, 2047);
-   RT_CHECK(ctx, stat, "PRC", "prc", -1, "DGPS-CorrectionSatInfo-r9");
-   /* rrc */
-   if (pvalue->rrc < -127 || pvalue->rrc > 127) {
-      rtxErrAddStrParm(ctx, "RRC");
-      rtxErrAddIntParm(ctx, pvalue->rrc);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC", "rrc", -1, "DGPS-CorrectionSatInfo-r9");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->rrc, -127, 127);
-   RT_CHECK(ctx, stat, "RRC", "rrc", -1, "DGPS-CorrectionSatInfo-r9");
-   /* udreGrowthRate */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-InformationPerRL");
+   /* modeSpecificInfo */
+   stat = enc_DL_InformationPerRL_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-InformationPerRL");
+   /* dl-DPCH-InfoPerRL */
    if (pvalue->m & 0x1u) {
-      if (pvalue->udreGrowthRate > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->udreGrowthRate);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "UDREGrowthRate", "udreGrowthRate", -1, "DGPS-CorrectionSatInfo-r9");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->udreGrowthRate, 0, 7);
-      RT_CHECK(ctx, stat, "UDREGrowthRate", "udreGrowthRate", -1, "DGPS-CorrectionSatInfo-r9");
+      stat = enc_DL_DPCH_InfoPerRL(ctx, &pvalue->dl_DPCH_InfoPerRL, cur);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, "DL-InformationPerRL");
    }
-   /* udreValidityTime */
+   /* dummy */
    if (pvalue->m & 0x2u) {
-      if (pvalue->udreValidityTime > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->udreValidityTime);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "UDREValidityTime", "udreValidityTime", -1, "DGPS-CorrectionSatInfo-r9");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->udreValidityTime, 0, 7);
-      RT_CHECK(ctx, stat, "UDREValidityTime", "udreValidityTime", -1, "DGPS-CorrectionSatInfo-r9");
+      stat = enc_SCCPCH_InfoForFACH(ctx, &pvalue->dummy, cur);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "DL-InformationPerRL");
    }
    return 0;
 }
 
-int asn1PE_UMTS_DGPS_CorrectionSatInfo_v920ext(rtxContext* RT_RESTRICT ctx, const DGPS_CorrectionSatInfo_v920ext* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_InformationPerRL(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DGPS-CorrectionSatInfo-v920ext");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DGPS-CorrectionSatInfo-v920ext");
-   /* udreGrowthRate */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   stat = enc_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   /* dummy1 */
    if (pvalue->m & 0x1u) {
-      if (pvalue->udreGrowthRate > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->udreGrowthRate);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "UDREGrowthRate", "udreGrowthRate", -1, "DGPS-CorrectionSatInfo-v920ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->udreGrowthRate, 0, 7);
-      RT_CHECK(ctx, stat, "UDREGrowthRate", "udreGrowthRate", -1, "DGPS-CorrectionSatInfo-v920ext");
+      stat = enc_PDSCH_SHO_DCH_Info(ctx, &pvalue->dummy1, cur);
+      RT_CHECK(ctx, stat, 0, "dummy1", -1, 0);
    }
-   /* udreValidityTime */
+   /* dummy2 */
    if (pvalue->m & 0x2u) {
-      if (pvalue->udreValidityTime > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->udreValidityTime);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "UDREValidityTime", "udreValidityTime", -1, "DGPS-CorrectionSatInfo-v920ext");
+      stat = enc_PDSCH_CodeMapping(ctx, &pvalue->dummy2, cur);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_r4_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_PrimaryCCPCH_Info_r4_fdd(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_r4_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tx-DiversityIndicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->tx_DiversityIndicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tx-DiversityIndicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PrimaryCCPCH_Info_r4_fdd(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_r4_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PrimaryCCPCH_Info_r4_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase1(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase1* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* timeslot */
+   if ((uint64_t)pvalue->timeslot > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeslot);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber", "timeslot", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslot, 0, 14);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber", "timeslot", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase1(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase1* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase1, pvalue);
+}
+
+RT_MERGED_BODY int enc_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase2(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* timeslotSync2 */
+   if ((uint64_t)pvalue->timeslotSync2 > 6u) {
+      rtxErrAddStrParm(ctx, "TimeslotSync2");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotSync2);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotSync2", "timeslotSync2", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslotSync2, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotSync2", "timeslotSync2", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase2(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase2* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase2, pvalue);
+}
+
+RT_MERGED_BODY int enc_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.syncCase1 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "syncCase1", -1, 0);
+         stat = enc_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase1(ctx, pvalue->u.syncCase1, cur);
+         RT_CHECK(ctx, stat, 0, "syncCase1", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.syncCase2 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "syncCase2", -1, 0);
+         stat = enc_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase_syncCase2(ctx, pvalue->u.syncCase2, cur);
+         RT_CHECK(ctx, stat, 0, "syncCase2", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase, pvalue);
+}
+
+RT_MERGED_BODY int enc_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* syncCase */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768_syncCase(ctx, &pvalue->syncCase, cur);
+      RT_CHECK(ctx, stat, 0, "syncCase", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int enc_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_r4_tdd_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tstd-Indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->tstd_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tstd-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_r4_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int enc_PrimaryCCPCH_Info_r4_tdd_tddOption(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_r4_tdd_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384_tdd768 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd384-tdd768", -1, 0);
+         stat = enc_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd384_tdd768(ctx, pvalue->u.tdd384_tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384-tdd768", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_PrimaryCCPCH_Info_r4_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PrimaryCCPCH_Info_r4_tdd_tddOption(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_r4_tdd_tddOption* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PrimaryCCPCH_Info_r4_tdd_tddOption, pvalue);
+}
+
+RT_MERGED_BODY int enc_PrimaryCCPCH_Info_r4_tdd(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_r4_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tddOption */
+   stat = enc_PrimaryCCPCH_Info_r4_tdd_tddOption(ctx, &pvalue->tddOption, cur);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   /* cellParametersID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->cellParametersID > 127u) {
+         rtxErrAddStrParm(ctx, "CellParametersID");
+         rtxErrAddUIntParm(ctx, pvalue->cellParametersID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellParametersID", "cellParametersID", -1, 0);
       }
-      stat = pe_ConsUInt64(ctx, pvalue->udreValidityTime, 0, 7);
-      RT_CHECK(ctx, stat, "UDREValidityTime", "udreValidityTime", -1, "DGPS-CorrectionSatInfo-v920ext");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->cellParametersID, 0, 127);
+      RT_CHECK_PUT(ctx, cur, stat, "CellParametersID", "cellParametersID", -1, 0);
+   }
+   /* sctd-Indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->sctd_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sctd-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PrimaryCCPCH_Info_r4_tdd(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_r4_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PrimaryCCPCH_Info_r4_tdd, pvalue);
+}
+
+static int enc_PrimaryCCPCH_Info_r4(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PrimaryCCPCH-Info-r4");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "PrimaryCCPCH-Info-r4");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "PrimaryCCPCH-Info-r4");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, "PrimaryCCPCH-Info-r4");
+         stat = enc_PrimaryCCPCH_Info_r4_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "PrimaryCCPCH-Info-r4");
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, "PrimaryCCPCH-Info-r4");
+         stat = enc_PrimaryCCPCH_Info_r4_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "PrimaryCCPCH-Info-r4");
+         break;
+      default:
+         break;
    }
    return 0;
 }
 
-int asn1PE_UMTS_DGPS_CorrectionSatInfoList(rtxContext* RT_RESTRICT ctx, const DGPS_CorrectionSatInfoList* RT_RESTRICT pvalue)
+int asn1PE_UMTS_PrimaryCCPCH_Info_r4(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_Info_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PrimaryCCPCH_Info_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DGPS-CorrectionSatInfoList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_DL_InformationPerRL_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r4_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_r4_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_SecondaryCCPCH_Info_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)(pvalue->timingOffset != 0) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* secondaryScramblingCode */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->secondaryScramblingCode - 1) > 14u) {
+         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
+         rtxErrAddUIntParm(ctx, pvalue->secondaryScramblingCode);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SecondaryScramblingCode", "secondaryScramblingCode", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->secondaryScramblingCode, 1, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, 0);
+   }
+   /* sttd-Indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->sttd_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sttd-Indicator", -1, 0);
+   /* sf-AndCodeNumber */
+   stat = enc_SF256_AndCodeNumber(ctx, &pvalue->sf_AndCodeNumber, cur);
+   RT_CHECK(ctx, stat, 0, "sf-AndCodeNumber", -1, 0);
+   /* pilotSymbolExistence */
+   stat = rtxEncBitAt(ctx, cur, pvalue->pilotSymbolExistence);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "pilotSymbolExistence", -1, 0);
+   /* tfci-Existence */
+   stat = rtxEncBitAt(ctx, cur, pvalue->tfci_Existence);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tfci-Existence", -1, 0);
+   /* positionFixedOrFlexible */
+   if (pvalue->positionFixedOrFlexible > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->positionFixedOrFlexible);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->positionFixedOrFlexible, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "PositionFixedOrFlexible", "positionFixedOrFlexible", -1, 0);
+   /* timingOffset */
+   if (pvalue->timingOffset != 0) {
+      if ((uint64_t)pvalue->timingOffset > 149u) {
+         rtxErrAddStrParm(ctx, "TimingOffset");
+         rtxErrAddUIntParm(ctx, pvalue->timingOffset);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimingOffset", "timingOffset", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->timingOffset, 0, 149);
+      RT_CHECK_PUT(ctx, cur, stat, "TimingOffset", "timingOffset", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryCCPCH_Info_r4_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* individualTimeslotInfo */
+   stat = enc_IndividualTimeslotInfo(ctx, &pvalue->individualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int enc_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* individualTimeslotInfo */
+   stat = enc_IndividualTimeslotInfo_LCR_r4(ctx, &pvalue->individualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int enc_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = enc_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption, pvalue);
+}
+
+RT_MERGED_BODY int enc_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* commonTimeslotInfo */
+   stat = enc_CommonTimeslotInfoSCCPCH(ctx, &pvalue->commonTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, 0);
+   /* tddOption */
+   stat = enc_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd_tddOption(ctx, &pvalue->tddOption, cur);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   /* channelisationCode */
+   stat = enc_SCCPCH_ChannelisationCodeList(ctx, &pvalue->channelisationCode, cur);
+   RT_CHECK(ctx, stat, 0, "channelisationCode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd, pvalue);
+}
+
+static int enc_SecondaryCCPCH_Info_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_SecondaryCCPCH_Info_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_SecondaryCCPCH_Info_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCH_Info_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_r4_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryCCPCH_Info_r4_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_SecondaryCCPCH_Info_r4(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SecondaryCCPCH-Info-r4");
+   /* modeSpecificInfo */
+   stat = enc_SecondaryCCPCH_Info_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SecondaryCCPCH-Info-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCH_Info_r4(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCH_Info_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryCCPCH_Info_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_SCCPCH_InfoForFACH_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SCCPCH_InfoForFACH_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* sib-ReferenceListFACH */
+   stat = enc_SIB_ReferenceListFACH(ctx, &pvalue->sib_ReferenceListFACH, cur);
+   RT_CHECK(ctx, stat, 0, "sib-ReferenceListFACH", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SCCPCH_InfoForFACH_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SCCPCH_InfoForFACH_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SCCPCH_InfoForFACH_r4_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_SCCPCH_InfoForFACH_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SCCPCH_InfoForFACH_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_SCCPCH_InfoForFACH_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SCCPCH_InfoForFACH_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SCCPCH_InfoForFACH_r4_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SCCPCH_InfoForFACH_r4_modeSpecificInfo, pvalue);
+}
+
+static int enc_SCCPCH_InfoForFACH_r4(rtxContext* RT_RESTRICT ctx, const SCCPCH_InfoForFACH_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SCCPCH-InfoForFACH-r4");
+   /* secondaryCCPCH-Info */
+   stat = enc_SecondaryCCPCH_Info_r4(ctx, &pvalue->secondaryCCPCH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "secondaryCCPCH-Info", -1, "SCCPCH-InfoForFACH-r4");
+   /* tfcs */
+   stat = enc_TFCS(ctx, &pvalue->tfcs, cur);
+   RT_CHECK(ctx, stat, 0, "tfcs", -1, "SCCPCH-InfoForFACH-r4");
+   /* fach-PCH-InformationList */
+   stat = enc_FACH_PCH_InformationList(ctx, &pvalue->fach_PCH_InformationList, cur);
+   RT_CHECK(ctx, stat, 0, "fach-PCH-InformationList", -1, "SCCPCH-InfoForFACH-r4");
+   /* modeSpecificInfo */
+   stat = enc_SCCPCH_InfoForFACH_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SCCPCH-InfoForFACH-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_SCCPCH_InfoForFACH_r4(rtxContext* RT_RESTRICT ctx, const SCCPCH_InfoForFACH_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SCCPCH_InfoForFACH_r4, pvalue);
+}
+
+static int enc_DL_InformationPerRL_r4(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerRL-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-InformationPerRL-r4");
+   /* modeSpecificInfo */
+   stat = enc_DL_InformationPerRL_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-InformationPerRL-r4");
+   /* dl-DPCH-InfoPerRL */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DL_DPCH_InfoPerRL_r4(ctx, &pvalue->dl_DPCH_InfoPerRL, cur);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, "DL-InformationPerRL-r4");
+   }
+   /* dummy */
+   if (pvalue->m & 0x2u) {
+      stat = enc_SCCPCH_InfoForFACH_r4(ctx, &pvalue->dummy, cur);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "DL-InformationPerRL-r4");
+   }
+   /* cell-id */
+   if (pvalue->m & 0x4u) {
+      stat = enc_CellIdentity(ctx, pvalue->cell_id, cur);
+      RT_CHECK(ctx, stat, 0, "cell-id", -1, "DL-InformationPerRL-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_r4(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_r5_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r5_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   stat = enc_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   /* dummy1 */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PDSCH_SHO_DCH_Info(ctx, &pvalue->dummy1, cur);
+      RT_CHECK(ctx, stat, 0, "dummy1", -1, 0);
+   }
+   /* dummy2 */
+   if (pvalue->m & 0x2u) {
+      stat = enc_PDSCH_CodeMapping(ctx, &pvalue->dummy2, cur);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   /* servingHSDSCH-RL-indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->servingHSDSCH_RL_indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "servingHSDSCH-RL-indicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_r5_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r5_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_r5_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_r5_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r5_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_DL_InformationPerRL_r5_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_r5_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r5_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_r5_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_r5(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerRL-r5");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-InformationPerRL-r5");
+   /* modeSpecificInfo */
+   stat = enc_DL_InformationPerRL_r5_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-InformationPerRL-r5");
+   /* dl-DPCH-InfoPerRL */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DL_DPCH_InfoPerRL_r5(ctx, &pvalue->dl_DPCH_InfoPerRL, cur);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, "DL-InformationPerRL-r5");
+   }
+   /* dummy */
+   if (pvalue->m & 0x2u) {
+      stat = enc_SCCPCH_InfoForFACH_r4(ctx, &pvalue->dummy, cur);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "DL-InformationPerRL-r5");
+   }
+   /* cell-id */
+   if (pvalue->m & 0x4u) {
+      stat = enc_CellIdentity(ctx, pvalue->cell_id, cur);
+      RT_CHECK(ctx, stat, 0, "cell-id", -1, "DL-InformationPerRL-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_r5(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_r5bis_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r5bis_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   stat = enc_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   /* dummy1 */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PDSCH_SHO_DCH_Info(ctx, &pvalue->dummy1, cur);
+      RT_CHECK(ctx, stat, 0, "dummy1", -1, 0);
+   }
+   /* dummy2 */
+   if (pvalue->m & 0x2u) {
+      stat = enc_PDSCH_CodeMapping(ctx, &pvalue->dummy2, cur);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_r5bis_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r5bis_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_r5bis_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_r5bis_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r5bis_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_DL_InformationPerRL_r5bis_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_r5bis_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r5bis_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_r5bis_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_r5bis(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r5bis* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerRL-r5bis");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-InformationPerRL-r5bis");
+   /* modeSpecificInfo */
+   stat = enc_DL_InformationPerRL_r5bis_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-InformationPerRL-r5bis");
+   /* dl-DPCH-InfoPerRL */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DL_DPCH_InfoPerRL_r5(ctx, &pvalue->dl_DPCH_InfoPerRL, cur);
+      RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, "DL-InformationPerRL-r5bis");
+   }
+   /* dummy */
+   if (pvalue->m & 0x2u) {
+      stat = enc_SCCPCH_InfoForFACH_r4(ctx, &pvalue->dummy, cur);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "DL-InformationPerRL-r5bis");
+   }
+   /* cell-id */
+   if (pvalue->m & 0x4u) {
+      stat = enc_CellIdentity(ctx, pvalue->cell_id, cur);
+      RT_CHECK(ctx, stat, 0, "cell-id", -1, "DL-InformationPerRL-r5bis");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_r5bis(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r5bis* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_r5bis, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   stat = enc_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   /* servingHSDSCH-RL-indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->servingHSDSCH_RL_indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "servingHSDSCH-RL-indicator", -1, 0);
+   /* servingEDCH-RL-indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->servingEDCH_RL_indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "servingEDCH-RL-indicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_r6_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r6_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_DL_InformationPerRL_r6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r6_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_r6_modeSpecificInfo, pvalue);
+}
+
+static int enc_DL_InformationPerRL_r6_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r6_dl_dpchInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.dl_DPCH_InfoPerRL == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dl-DPCH-InfoPerRL", -1, 0);
+         stat = enc_DL_DPCH_InfoPerRL_r6(ctx, pvalue->u.dl_DPCH_InfoPerRL, cur);
+         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.dl_FDPCH_InfoPerRL == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dl-FDPCH-InfoPerRL", -1, 0);
+         stat = enc_DL_FDPCH_InfoPerRL_r6(ctx, pvalue->u.dl_FDPCH_InfoPerRL, cur);
+         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoPerRL", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_r6_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r6_dl_dpchInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_r6_dl_dpchInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_r6_e_HICH_Info(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r6_e_HICH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.e_HICH_Information == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e-HICH-Information", -1, 0);
+         stat = enc_E_HICH_Information(ctx, pvalue->u.e_HICH_Information, cur);
+         RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_r6_e_HICH_Info(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r6_e_HICH_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_r6_e_HICH_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_r6_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r6_e_RGCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e-RGCH-Information", -1, 0);
+         stat = enc_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information, cur);
+         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_r6_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r6_e_RGCH_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_r6_e_RGCH_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_r6(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerRL-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-InformationPerRL-r6");
+   /* modeSpecificInfo */
+   stat = enc_DL_InformationPerRL_r6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-InformationPerRL-r6");
+   /* dl-dpchInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DL_InformationPerRL_r6_dl_dpchInfo(ctx, &pvalue->dl_dpchInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dl-dpchInfo", -1, "DL-InformationPerRL-r6");
+   }
+   /* e-AGCH-Information */
+   if (pvalue->m & 0x2u) {
+      stat = enc_E_AGCH_Information(ctx, &pvalue->e_AGCH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "e-AGCH-Information", -1, "DL-InformationPerRL-r6");
+   }
+   /* e-HICH-Info */
+   if (pvalue->m & 0x4u) {
+      stat = enc_DL_InformationPerRL_r6_e_HICH_Info(ctx, &pvalue->e_HICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, "DL-InformationPerRL-r6");
+   }
+   /* e-RGCH-Info */
+   if (pvalue->m & 0x8u) {
+      stat = enc_DL_InformationPerRL_r6_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, "DL-InformationPerRL-r6");
+   }
+   /* cell-id */
+   if (pvalue->m & 0x10u) {
+      stat = enc_CellIdentity(ctx, pvalue->cell_id, cur);
+      RT_CHECK(ctx, stat, 0, "cell-id", -1, "DL-InformationPerRL-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_r6(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_v6b0ext(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_v6b0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerRL-v6b0ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-InformationPerRL-v6b0ext");
+   /* sttdIndication */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->sttdIndication > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->sttdIndication);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "STTDIndication", "sttdIndication", -1, "DL-InformationPerRL-v6b0ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->sttdIndication, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, "STTDIndication", "sttdIndication", -1, "DL-InformationPerRL-v6b0ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_v6b0ext(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_v6b0ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_v6b0ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   stat = enc_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   /* servingHSDSCH-RL-indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->servingHSDSCH_RL_indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "servingHSDSCH-RL-indicator", -1, 0);
+   /* servingEDCH-RL-indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->servingEDCH_RL_indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "servingEDCH-RL-indicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_r7_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_DL_InformationPerRL_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_r7_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_r7_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7_dl_dpchInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.dl_DPCH_InfoPerRL == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dl-DPCH-InfoPerRL", -1, 0);
+         stat = enc_DL_DPCH_InfoPerRL_r7(ctx, pvalue->u.dl_DPCH_InfoPerRL, cur);
+         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.dl_FDPCH_InfoPerRL == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dl-FDPCH-InfoPerRL", -1, 0);
+         stat = enc_DL_FDPCH_InfoPerRL_r7(ctx, pvalue->u.dl_FDPCH_InfoPerRL, cur);
+         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoPerRL", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_r7_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7_dl_dpchInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_r7_dl_dpchInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_AGCH_Information_r7_modeSpecific_fdd(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r7_modeSpecific_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* e-AGCH-ChannelisationCode */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->e_AGCH_ChannelisationCode, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, "E-AGCH-ChannelisationCode", "e-AGCH-ChannelisationCode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_E_AGCH_Information_r7_modeSpecific_fdd(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r7_modeSpecific_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_AGCH_Information_r7_modeSpecific_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleConfigurationBurstType1(rtxContext* RT_RESTRICT ctx, MidambleConfigurationBurstType1 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 2) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MidambleConfigurationBurstType1");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MidambleConfigurationBurstType1");
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleConfigurationBurstType1(rtxContext* RT_RESTRICT ctx, MidambleConfigurationBurstType1 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleConfigurationBurstType1, value);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleShift */
+   if ((uint64_t)pvalue->midambleShift > 15u) {
+      rtxErrAddStrParm(ctx, "MidambleShiftLong");
+      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MidambleShiftLong", "midambleShift", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleShift, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleShiftLong", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode_ueSpecificMidamble, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
+         stat = enc_MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_EDCH_burstType_type1(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_EDCH_burstType_type1* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleConfigurationBurstType1 */
+   if (pvalue->midambleConfigurationBurstType1 > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType1);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MidambleConfigurationBurstType1", "midambleConfigurationBurstType1", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleConfigurationBurstType1, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleConfigurationBurstType1", "midambleConfigurationBurstType1", -1, 0);
+   /* midambleAllocationMode */
+   stat = enc_MidambleShiftAndBurstType_EDCH_burstType_type1_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type1(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_EDCH_burstType_type1* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_EDCH_burstType_type1, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleShift */
+   if ((uint64_t)pvalue->midambleShift > 5u) {
+      rtxErrAddStrParm(ctx, "MidambleShiftShort");
+      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MidambleShiftShort", "midambleShift", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleShift, 0, 5);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleShiftShort", "midambleShift", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode_ueSpecificMidamble(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode_ueSpecificMidamble* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode_ueSpecificMidamble, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if (pvalue->u.ueSpecificMidamble == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ueSpecificMidamble", -1, 0);
+         stat = enc_MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode_ueSpecificMidamble(ctx, pvalue->u.ueSpecificMidamble, cur);
+         RT_CHECK(ctx, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_EDCH_burstType_type2(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_EDCH_burstType_type2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleConfigurationBurstType2 */
+   if (pvalue->midambleConfigurationBurstType2 > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->midambleConfigurationBurstType2);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MidambleConfigurationBurstType2", "midambleConfigurationBurstType2", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleConfigurationBurstType2, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "MidambleConfigurationBurstType2", "midambleConfigurationBurstType2", -1, 0);
+   /* midambleAllocationMode */
+   stat = enc_MidambleShiftAndBurstType_EDCH_burstType_type2_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_EDCH_burstType_type2(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_EDCH_burstType_type2* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_EDCH_burstType_type2, pvalue);
+}
+
+RT_MERGED_BODY int enc_MidambleShiftAndBurstType_EDCH_burstType(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_EDCH_burstType* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.type1 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "type1", -1, 0);
+         stat = enc_MidambleShiftAndBurstType_EDCH_burstType_type1(ctx, pvalue->u.type1, cur);
+         RT_CHECK(ctx, stat, 0, "type1", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.type2 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "type2", -1, 0);
+         stat = enc_MidambleShiftAndBurstType_EDCH_burstType_type2(ctx, pvalue->u.type2, cur);
+         RT_CHECK(ctx, stat, 0, "type2", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_EDCH_burstType(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_EDCH_burstType* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_EDCH_burstType, pvalue);
+}
+
+static int enc_MidambleShiftAndBurstType_EDCH(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_EDCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MidambleShiftAndBurstType-EDCH");
+   /* burstType */
+   stat = enc_MidambleShiftAndBurstType_EDCH_burstType(ctx, &pvalue->burstType, cur);
+   RT_CHECK(ctx, stat, 0, "burstType", -1, "MidambleShiftAndBurstType-EDCH");
+   return 0;
+}
+
+int asn1PE_UMTS_MidambleShiftAndBurstType_EDCH(rtxContext* RT_RESTRICT ctx, const MidambleShiftAndBurstType_EDCH* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MidambleShiftAndBurstType_EDCH, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_AGCH_Individual(rtxContext* RT_RESTRICT ctx, const E_AGCH_Individual* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-AGCH-Individual");
+   /* tS-number */
+   if ((uint64_t)pvalue->tS_number > 14u) {
+      rtxErrAddStrParm(ctx, "tS-number");
+      rtxErrAddUIntParm(ctx, pvalue->tS_number);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "tS-number", -1, "E-AGCH-Individual");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tS_number, 0, 14);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tS-number", -1, "E-AGCH-Individual");
+   /* channelisation-code */
+   if (pvalue->channelisation_code > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->channelisation_code);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "DL-TS-ChannelisationCode", "channelisation-code", -1, "E-AGCH-Individual");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->channelisation_code, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "DL-TS-ChannelisationCode", "channelisation-code", -1, "E-AGCH-Individual");
+   /* midambleShiftAndBurstType */
+   stat = enc_MidambleShiftAndBurstType_EDCH(ctx, &pvalue->midambleShiftAndBurstType, cur);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "E-AGCH-Individual");
+   return 0;
+}
+
+int asn1PE_UMTS_E_AGCH_Individual(rtxContext* RT_RESTRICT ctx, const E_AGCH_Individual* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_AGCH_Individual, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_AGCH_Set_Config(rtxContext* RT_RESTRICT ctx, const E_AGCH_Set_Config* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-AGCH-Set-Config");
    const rtxDListNode* node;
    uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DGPS-CorrectionSatInfoList");
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "E-AGCH-Set-Config");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DGPS-CorrectionSatInfo", (int32_t)i, "DGPS-CorrectionSatInfoList");
-      stat = asn1PE_UMTS_DGPS_CorrectionSatInfo(ctx, (const DGPS_CorrectionSatInfo*)node->data);
-      RT_CHECK(ctx, stat, 0, "DGPS-CorrectionSatInfo", (int32_t)i, "DGPS-CorrectionSatInfoList");
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "E-AGCH-Individual", (int32_t)i, "E-AGCH-Set-Config");
+      stat = enc_E_AGCH_Individual(ctx, (const E_AGCH_Individual*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "E-AGCH-Individual", (int32_t)i, "E-AGCH-Set-Config");
    }
    return 0;
 }
 
-int asn1PE_UMTS_DGPS_CorrectionSatInfoList_r9(rtxContext* RT_RESTRICT ctx, const DGPS_CorrectionSatInfoList_r9* RT_RESTRICT pvalue)
+int asn1PE_UMTS_E_AGCH_Set_Config(rtxContext* RT_RESTRICT ctx, const E_AGCH_Set_Config* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_AGCH_Set_Config, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_AGCH_Information_r7_modeSpecific_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r7_modeSpecific_tdd_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DGPS-CorrectionSatInfoList-r9");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* long-Term-Grant-Indicator */
+   if (pvalue->m & 0x1u) {
+      stat = rtxEncBitAt(ctx, cur, pvalue->long_Term_Grant_Indicator);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "long-Term-Grant-Indicator", -1, 0);
+   }
+   /* length-of-TTRI-field */
+   if ((uint64_t)(pvalue->length_of_TTRI_field - 1) > 11u) {
+      rtxErrAddStrParm(ctx, "length-of-TTRI-field");
+      rtxErrAddUIntParm(ctx, pvalue->length_of_TTRI_field);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "length-of-TTRI-field", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->length_of_TTRI_field, 1, 12);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "length-of-TTRI-field", -1, 0);
+   /* e-AGCH-Set-Config */
+   stat = enc_E_AGCH_Set_Config(ctx, &pvalue->e_AGCH_Set_Config, cur);
+   RT_CHECK(ctx, stat, 0, "e-AGCH-Set-Config", -1, 0);
+   /* e-AGCH-BLER-Target */
+   if (pvalue->e_AGCH_BLER_Target < -63 || pvalue->e_AGCH_BLER_Target > 0) {
+      rtxErrAddStrParm(ctx, "Bler-Target");
+      rtxErrAddIntParm(ctx, pvalue->e_AGCH_BLER_Target);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->e_AGCH_BLER_Target, -63, 0);
+   RT_CHECK_PUT(ctx, cur, stat, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_E_AGCH_Information_r7_modeSpecific_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r7_modeSpecific_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_AGCH_Information_r7_modeSpecific_tdd_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_AGCH_Individual_VHCR(rtxContext* RT_RESTRICT ctx, const E_AGCH_Individual_VHCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-AGCH-Individual-VHCR");
+   /* tS-number */
+   if ((uint64_t)pvalue->tS_number > 14u) {
+      rtxErrAddStrParm(ctx, "tS-number");
+      rtxErrAddUIntParm(ctx, pvalue->tS_number);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "tS-number", -1, "E-AGCH-Individual-VHCR");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tS_number, 0, 14);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tS-number", -1, "E-AGCH-Individual-VHCR");
+   /* channelisation-code */
+   if (pvalue->channelisation_code > 31) {
+      rtxErrAddUIntParm(ctx, pvalue->channelisation_code);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "DL-TS-ChannelisationCode-VHCR", "channelisation-code", -1, "E-AGCH-Individual-VHCR");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->channelisation_code, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, "DL-TS-ChannelisationCode-VHCR", "channelisation-code", -1, "E-AGCH-Individual-VHCR");
+   /* midambleShiftAndBurstType */
+   stat = enc_MidambleShiftAndBurstType_EDCH(ctx, &pvalue->midambleShiftAndBurstType, cur);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "E-AGCH-Individual-VHCR");
+   return 0;
+}
+
+int asn1PE_UMTS_E_AGCH_Individual_VHCR(rtxContext* RT_RESTRICT ctx, const E_AGCH_Individual_VHCR* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_AGCH_Individual_VHCR, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_AGCH_Set_Config_VHCR(rtxContext* RT_RESTRICT ctx, const E_AGCH_Set_Config_VHCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-AGCH-Set-Config-VHCR");
    const rtxDListNode* node;
    uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DGPS-CorrectionSatInfoList-r9");
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "E-AGCH-Set-Config-VHCR");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DGPS-CorrectionSatInfo-r9", (int32_t)i, "DGPS-CorrectionSatInfoList-r9");
-      stat = asn1PE_UMTS_DGPS_CorrectionSatInfo_r9(ctx, (const DGPS_CorrectionSatInfo_r9*)node->data);
-      RT_CHECK(ctx, stat, 0, "DGPS-CorrectionSatInfo-r9", (int32_t)i, "DGPS-CorrectionSatInfoList-r9");
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "E-AGCH-Individual-VHCR", (int32_t)i, "E-AGCH-Set-Config-VHCR");
+      stat = enc_E_AGCH_Individual_VHCR(ctx, (const E_AGCH_Individual_VHCR*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "E-AGCH-Individual-VHCR", (int32_t)i, "E-AGCH-Set-Config-VHCR");
    }
    return 0;
 }
 
-int asn1PE_UMTS_DGPS_CorrectionSatInfoList_v920ext(rtxContext* RT_RESTRICT ctx, const DGPS_CorrectionSatInfoList_v920ext* RT_RESTRICT pvalue)
+int asn1PE_UMTS_E_AGCH_Set_Config_VHCR(rtxContext* RT_RESTRICT ctx, const E_AGCH_Set_Config_VHCR* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_AGCH_Set_Config_VHCR, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_AGCH_Information_r7_modeSpecific_tdd_tdd768(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r7_modeSpecific_tdd_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DGPS-CorrectionSatInfoList-v920ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DGPS-CorrectionSatInfoList-v920ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DGPS-CorrectionSatInfo-v920ext", (int32_t)i, "DGPS-CorrectionSatInfoList-v920ext");
-      stat = asn1PE_UMTS_DGPS_CorrectionSatInfo_v920ext(ctx, (const DGPS_CorrectionSatInfo_v920ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "DGPS-CorrectionSatInfo-v920ext", (int32_t)i, "DGPS-CorrectionSatInfoList-v920ext");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* long-Term-Grant-Indicator */
+   if (pvalue->m & 0x1u) {
+      stat = rtxEncBitAt(ctx, cur, pvalue->long_Term_Grant_Indicator);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "long-Term-Grant-Indicator", -1, 0);
    }
+   /* length-of-TTRI-field */
+   if ((uint64_t)(pvalue->length_of_TTRI_field - 1) > 11u) {
+      rtxErrAddStrParm(ctx, "length-of-TTRI-field");
+      rtxErrAddUIntParm(ctx, pvalue->length_of_TTRI_field);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "length-of-TTRI-field", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->length_of_TTRI_field, 1, 12);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "length-of-TTRI-field", -1, 0);
+   /* e-AGCH-Set-Config */
+   stat = enc_E_AGCH_Set_Config_VHCR(ctx, &pvalue->e_AGCH_Set_Config, cur);
+   RT_CHECK(ctx, stat, 0, "e-AGCH-Set-Config", -1, 0);
+   /* e-AGCH-BLER-Target */
+   if (pvalue->e_AGCH_BLER_Target < -63 || pvalue->e_AGCH_BLER_Target > 0) {
+      rtxErrAddStrParm(ctx, "Bler-Target");
+      rtxErrAddIntParm(ctx, pvalue->e_AGCH_BLER_Target);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->e_AGCH_BLER_Target, -63, 0);
+   RT_CHECK_PUT(ctx, cur, stat, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_DiffCorrectionStatus(rtxContext* RT_RESTRICT ctx, DiffCorrectionStatus value)
+int asn1PE_UMTS_E_AGCH_Information_r7_modeSpecific_tdd_tdd768(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r7_modeSpecific_tdd_tdd768* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_AGCH_Information_r7_modeSpecific_tdd_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_AGCH_Information_r7_modeSpecific_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r7_modeSpecific_tdd_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "DiffCorrectionStatus");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* rdi-Indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->rdi_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "rdi-Indicator", -1, 0);
+   /* tpc-StepSize */
+   if ((uint64_t)(pvalue->tpc_StepSize - 1) > 2u) {
+      rtxErrAddStrParm(ctx, "TPC-StepSizeTDD");
+      rtxErrAddUIntParm(ctx, pvalue->tpc_StepSize);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DiffCorrectionStatus");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tpc_StepSize, 1, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
+   /* e-AGCH-Set-Config */
+   stat = enc_E_AGCH_Set_Config_LCR(ctx, &pvalue->e_AGCH_Set_Config, cur);
+   RT_CHECK(ctx, stat, 0, "e-AGCH-Set-Config", -1, 0);
+   /* e-AGCH-BLER-Target */
+   if (pvalue->e_AGCH_BLER_Target < -63 || pvalue->e_AGCH_BLER_Target > 0) {
+      rtxErrAddStrParm(ctx, "Bler-Target");
+      rtxErrAddIntParm(ctx, pvalue->e_AGCH_BLER_Target);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->e_AGCH_BLER_Target, -63, 0);
+   RT_CHECK_PUT(ctx, cur, stat, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_EllipsoidPoint_latitudeSign(rtxContext* RT_RESTRICT ctx, EllipsoidPoint_latitudeSign value)
+int asn1PE_UMTS_E_AGCH_Information_r7_modeSpecific_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r7_modeSpecific_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_AGCH_Information_r7_modeSpecific_tdd_tdd128, pvalue);
+}
+
+static int enc_E_AGCH_Information_r7_modeSpecific_tdd(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r7_modeSpecific_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = enc_E_AGCH_Information_r7_modeSpecific_tdd_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd768 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
+         stat = enc_E_AGCH_Information_r7_modeSpecific_tdd_tdd768(ctx, pvalue->u.tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_E_AGCH_Information_r7_modeSpecific_tdd_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_EllipsoidPoint(rtxContext* RT_RESTRICT ctx, const EllipsoidPoint* RT_RESTRICT pvalue)
+int asn1PE_UMTS_E_AGCH_Information_r7_modeSpecific_tdd(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r7_modeSpecific_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_AGCH_Information_r7_modeSpecific_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_AGCH_Information_r7_modeSpecific(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r7_modeSpecific* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EllipsoidPoint");
-   /* latitudeSign */
-   if (pvalue->latitudeSign > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->latitudeSign);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "latitudeSign", -1, "EllipsoidPoint");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_E_AGCH_Information_r7_modeSpecific_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_E_AGCH_Information_r7_modeSpecific_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
    }
-   stat = pe_ConsUInt64(ctx, pvalue->latitudeSign, 0, 1);
-   RT_CHECK(ctx, stat, 0, "latitudeSign", -1, "EllipsoidPoint");
-   /* latitude */
-   if ((uint64_t)pvalue->latitude > 8388607u) {
-      rtxErrAddStrParm(ctx, "latitude");
-      rtxErrAddUIntParm(ctx, pvalue->latitude);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "latitude", -1, "EllipsoidPoint");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->latitude, 0, 8388607);
-   RT_CHECK(ctx, stat, 0, "latitude", -1, "EllipsoidPoint");
-   /* longitude */
-   if (pvalue->longitude < -8388608 || pvalue->longitude > 8388607) {
-      rtxErrAddStrParm(ctx, "longitude");
-      rtxErrAddIntParm(ctx, pvalue->longitude);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "longitude", -1, "EllipsoidPoint");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->longitude, -8388608, 8388607);
-   RT_CHECK(ctx, stat, 0, "longitude", -1, "EllipsoidPoint");
    return 0;
 }
 
-int asn1PE_UMTS_EllipsoidPointAltitude_latitudeSign(rtxContext* RT_RESTRICT ctx, EllipsoidPointAltitude_latitudeSign value)
+int asn1PE_UMTS_E_AGCH_Information_r7_modeSpecific(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r7_modeSpecific* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_AGCH_Information_r7_modeSpecific, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_AGCH_Information_r7(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-AGCH-Information-r7");
+   /* modeSpecific */
+   stat = enc_E_AGCH_Information_r7_modeSpecific(ctx, &pvalue->modeSpecific, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecific", -1, "E-AGCH-Information-r7");
    return 0;
 }
 
-int asn1PE_UMTS_EllipsoidPointAltitude_altitudeDirection(rtxContext* RT_RESTRICT ctx, EllipsoidPointAltitude_altitudeDirection value)
+int asn1PE_UMTS_E_AGCH_Information_r7(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_AGCH_Information_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_HICH_Info(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_HICH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.e_HICH_Information == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e-HICH-Information", -1, 0);
+         stat = enc_E_HICH_Information(ctx, pvalue->u.e_HICH_Information, cur);
+         RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_EllipsoidPointAltitude(rtxContext* RT_RESTRICT ctx, const EllipsoidPointAltitude* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_HICH_Info(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_HICH_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_HICH_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_RGCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EllipsoidPointAltitude");
-   /* latitudeSign */
-   if (pvalue->latitudeSign > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->latitudeSign);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "latitudeSign", -1, "EllipsoidPointAltitude");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e-RGCH-Information", -1, 0);
+         stat = enc_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information, cur);
+         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
    }
-   stat = pe_ConsUInt64(ctx, pvalue->latitudeSign, 0, 1);
-   RT_CHECK(ctx, stat, 0, "latitudeSign", -1, "EllipsoidPointAltitude");
-   /* latitude */
-   if ((uint64_t)pvalue->latitude > 8388607u) {
-      rtxErrAddStrParm(ctx, "latitude");
-      rtxErrAddUIntParm(ctx, pvalue->latitude);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "latitude", -1, "EllipsoidPointAltitude");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->latitude, 0, 8388607);
-   RT_CHECK(ctx, stat, 0, "latitude", -1, "EllipsoidPointAltitude");
-   /* longitude */
-   if (pvalue->longitude < -8388608 || pvalue->longitude > 8388607) {
-      rtxErrAddStrParm(ctx, "longitude");
-      rtxErrAddIntParm(ctx, pvalue->longitude);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "longitude", -1, "EllipsoidPointAltitude");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->longitude, -8388608, 8388607);
-   RT_CHECK(ctx, stat, 0, "longitude", -1, "EllipsoidPointAltitude");
-   /* altitudeDirection */
-   if (pvalue->altitudeDirection > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->altitudeDirection);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "altitudeDirection", -1, "EllipsoidPointAltitude");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->altitudeDirection, 0, 1);
-   RT_CHECK(ctx, stat, 0, "altitudeDirection", -1, "EllipsoidPointAltitude");
-   /* altitude */
-   if ((uint64_t)pvalue->altitude > 32767u) {
-      rtxErrAddStrParm(ctx, "altitude");
-      rtxErrAddUIntParm(ctx, pvalue->altitude);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "altitude", -1, "EllipsoidPointAltitude");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->altitude, 0, 32767);
-   RT_CHECK(ctx, stat, 0, "altitude", -1, "EllipsoidPointAltitude");
    return 0;
 }
 
-int asn1PE_UMTS_EllipsoidPointAltitudeEllipsoide_latitudeSign(rtxContext* RT_RESTRICT ctx, EllipsoidPointAltitudeEllipsoide_latitudeSign value)
+int asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_RGCH_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_RGCH_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_r7_modeSpecificInfo2_fdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7_modeSpecificInfo2_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* e-HICH-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_HICH_Info(ctx, &pvalue->e_HICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   /* e-RGCH-Info */
+   if (pvalue->m & 0x2u) {
+      stat = enc_DL_InformationPerRL_r7_modeSpecificInfo2_fdd_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, 0);
+   }
    return 0;
 }
 
-int asn1PE_UMTS_EllipsoidPointAltitudeEllipsoide_altitudeDirection(rtxContext* RT_RESTRICT ctx, EllipsoidPointAltitudeEllipsoide_altitudeDirection value)
+int asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_fdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7_modeSpecificInfo2_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_r7_modeSpecificInfo2_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_HICH_Information_TDD384_768_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_TDD384_768_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 > 15) {
+            rtxErrAddUIntParm(ctx, pvalue->u.tdd384);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "DL-TS-ChannelisationCode", "tdd384", -1, 0);
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.tdd384, 0, 15);
+         RT_CHECK_PUT(ctx, cur, stat, "DL-TS-ChannelisationCode", "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd768 > 31) {
+            rtxErrAddUIntParm(ctx, pvalue->u.tdd768);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "DL-TS-ChannelisationCode-VHCR", "tdd768", -1, 0);
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.tdd768, 0, 31);
+         RT_CHECK_PUT(ctx, cur, stat, "DL-TS-ChannelisationCode-VHCR", "tdd768", -1, 0);
+         break;
+      default:
+         break;
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_EllipsoidPointAltitudeEllipsoide(rtxContext* RT_RESTRICT ctx, const EllipsoidPointAltitudeEllipsoide* RT_RESTRICT pvalue)
+int asn1PE_UMTS_E_HICH_Information_TDD384_768_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_TDD384_768_modeSpecificInfo* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EllipsoidPointAltitudeEllipsoide");
-   /* latitudeSign */
-   if (pvalue->latitudeSign > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->latitudeSign);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "latitudeSign", -1, "EllipsoidPointAltitudeEllipsoide");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->latitudeSign, 0, 1);
-   RT_CHECK(ctx, stat, 0, "latitudeSign", -1, "EllipsoidPointAltitudeEllipsoide");
-   /* latitude */
-   if ((uint64_t)pvalue->latitude > 8388607u) {
-      rtxErrAddStrParm(ctx, "latitude");
-      rtxErrAddUIntParm(ctx, pvalue->latitude);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "latitude", -1, "EllipsoidPointAltitudeEllipsoide");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->latitude, 0, 8388607);
-   RT_CHECK(ctx, stat, 0, "latitude", -1, "EllipsoidPointAltitudeEllipsoide");
-   /* longitude */
-   if (pvalue->longitude < -8388608 || pvalue->longitude > 8388607) {
-      rtxErrAddStrParm(ctx, "longitude");
-      rtxErrAddIntParm(ctx, pvalue->longitude);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "longitude", -1, "EllipsoidPointAltitudeEllipsoide");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->longitude, -8388608, 8388607);
-   RT_CHECK(ctx, stat, 0, "longitude", -1, "EllipsoidPointAltitudeEllipsoide");
-   /* altitudeDirection */
-   if (pvalue->altitudeDirection > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->altitudeDirection);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "altitudeDirection", -1, "EllipsoidPointAltitudeEllipsoide");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->altitudeDirection, 0, 1);
-   RT_CHECK(ctx, stat, 0, "altitudeDirection", -1, "EllipsoidPointAltitudeEllipsoide");
-   /* altitude */
-   if ((uint64_t)pvalue->altitude > 32767u) {
-      rtxErrAddStrParm(ctx, "altitude");
-      rtxErrAddUIntParm(ctx, pvalue->altitude);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "altitude", -1, "EllipsoidPointAltitudeEllipsoide");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->altitude, 0, 32767);
-   RT_CHECK(ctx, stat, 0, "altitude", -1, "EllipsoidPointAltitudeEllipsoide");
-   /* uncertaintySemiMajor */
-   if ((uint64_t)pvalue->uncertaintySemiMajor > 127u) {
-      rtxErrAddStrParm(ctx, "uncertaintySemiMajor");
-      rtxErrAddUIntParm(ctx, pvalue->uncertaintySemiMajor);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "uncertaintySemiMajor", -1, "EllipsoidPointAltitudeEllipsoide");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->uncertaintySemiMajor, 0, 127);
-   RT_CHECK(ctx, stat, 0, "uncertaintySemiMajor", -1, "EllipsoidPointAltitudeEllipsoide");
-   /* uncertaintySemiMinor */
-   if ((uint64_t)pvalue->uncertaintySemiMinor > 127u) {
-      rtxErrAddStrParm(ctx, "uncertaintySemiMinor");
-      rtxErrAddUIntParm(ctx, pvalue->uncertaintySemiMinor);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "uncertaintySemiMinor", -1, "EllipsoidPointAltitudeEllipsoide");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->uncertaintySemiMinor, 0, 127);
-   RT_CHECK(ctx, stat, 0, "uncertaintySemiMinor", -1, "EllipsoidPointAltitudeEllipsoide");
-   /* orientationMajorAxis */
-   if ((uint64_t)pvalue->orientationMajorAxis > 89u) {
-      rtxErrAddStrParm(ctx, "orientationMajorAxis");
-      rtxErrAddUIntParm(ctx, pvalue->orientationMajorAxis);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "orientationMajorAxis", -1, "EllipsoidPointAltitudeEllipsoide");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->orientationMajorAxis, 0, 89);
-   RT_CHECK(ctx, stat, 0, "orientationMajorAxis", -1, "EllipsoidPointAltitudeEllipsoide");
-   /* uncertaintyAltitude */
-   if ((uint64_t)pvalue->uncertaintyAltitude > 127u) {
-      rtxErrAddStrParm(ctx, "uncertaintyAltitude");
-      rtxErrAddUIntParm(ctx, pvalue->uncertaintyAltitude);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "uncertaintyAltitude", -1, "EllipsoidPointAltitudeEllipsoide");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->uncertaintyAltitude, 0, 127);
-   RT_CHECK(ctx, stat, 0, "uncertaintyAltitude", -1, "EllipsoidPointAltitudeEllipsoide");
-   /* confidence */
-   if ((uint64_t)pvalue->confidence > 100u) {
-      rtxErrAddStrParm(ctx, "confidence");
-      rtxErrAddUIntParm(ctx, pvalue->confidence);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "confidence", -1, "EllipsoidPointAltitudeEllipsoide");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->confidence, 0, 100);
-   RT_CHECK(ctx, stat, 0, "confidence", -1, "EllipsoidPointAltitudeEllipsoide");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_E_HICH_Information_TDD384_768_modeSpecificInfo, pvalue);
 }
 
-int asn1PE_UMTS_EllipsoidPointUncertCircle_latitudeSign(rtxContext* RT_RESTRICT ctx, EllipsoidPointUncertCircle_latitudeSign value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_EllipsoidPointUncertCircle(rtxContext* RT_RESTRICT ctx, const EllipsoidPointUncertCircle* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EllipsoidPointUncertCircle");
-   /* latitudeSign */
-   if (pvalue->latitudeSign > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->latitudeSign);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "latitudeSign", -1, "EllipsoidPointUncertCircle");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->latitudeSign, 0, 1);
-   RT_CHECK(ctx, stat, 0, "latitudeSign", -1, "EllipsoidPointUncertCircle");
-   /* latitude */
-   if ((uint64_t)pvalue->latitude > 8388607u) {
-      rtxErrAddStrParm(ctx, "latitude");
-      rtxErrAddUIntParm(ctx, pvalue->latitude);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "latitude", -1, "EllipsoidPointUncertCircle");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->latitude, 0, 8388607);
-   RT_CHECK(ctx, stat, 0, "latitude", -1, "EllipsoidPointUncertCircle");
-   /* longitude */
-   if (pvalue->longitude < -8388608 || pvalue->longitude > 8388607) {
-      rtxErrAddStrParm(ctx, "longitude");
-      rtxErrAddIntParm(ctx, pvalue->longitude);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "longitude", -1, "EllipsoidPointUncertCircle");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->longitude, -8388608, 8388607);
-   RT_CHECK(ctx, stat, 0, "longitude", -1, "EllipsoidPointUncertCircle");
-   /* uncertaintyCode */
-   if ((uint64_t)pvalue->uncertaintyCode > 127u) {
-      rtxErrAddStrParm(ctx, "uncertaintyCode");
-      rtxErrAddUIntParm(ctx, pvalue->uncertaintyCode);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "uncertaintyCode", -1, "EllipsoidPointUncertCircle");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->uncertaintyCode, 0, 127);
-   RT_CHECK(ctx, stat, 0, "uncertaintyCode", -1, "EllipsoidPointUncertCircle");
-   return 0;
-}
-
-int asn1PE_UMTS_EllipsoidPointUncertEllipse_latitudeSign(rtxContext* RT_RESTRICT ctx, EllipsoidPointUncertEllipse_latitudeSign value)
+RT_MERGED_BODY int enc_E_HICH_Information_TDD384_768_burst_Type(rtxContext* RT_RESTRICT ctx, E_HICH_Information_TDD384_768_burst_Type value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_EllipsoidPointUncertEllipse(rtxContext* RT_RESTRICT ctx, const EllipsoidPointUncertEllipse* RT_RESTRICT pvalue)
+int asn1PE_UMTS_E_HICH_Information_TDD384_768_burst_Type(rtxContext* RT_RESTRICT ctx, E_HICH_Information_TDD384_768_burst_Type value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_HICH_Information_TDD384_768_burst_Type, value);
+}
+
+RT_MERGED_BODY int enc_E_HICH_Information_TDD384_768_midamble_Allocation_Mode(rtxContext* RT_RESTRICT ctx, E_HICH_Information_TDD384_768_midamble_Allocation_Mode value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EllipsoidPointUncertEllipse");
-   /* latitudeSign */
-   if (pvalue->latitudeSign > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->latitudeSign);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "latitudeSign", -1, "EllipsoidPointUncertEllipse");
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, pvalue->latitudeSign, 0, 1);
-   RT_CHECK(ctx, stat, 0, "latitudeSign", -1, "EllipsoidPointUncertEllipse");
-   /* latitude */
-   if ((uint64_t)pvalue->latitude > 8388607u) {
-      rtxErrAddStrParm(ctx, "latitude");
-      rtxErrAddUIntParm(ctx, pvalue->latitude);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "latitude", -1, "EllipsoidPointUncertEllipse");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->latitude, 0, 8388607);
-   RT_CHECK(ctx, stat, 0, "latitude", -1, "EllipsoidPointUncertEllipse");
-   /* longitude */
-   if (pvalue->longitude < -8388608 || pvalue->longitude > 8388607) {
-      rtxErrAddStrParm(ctx, "longitude");
-      rtxErrAddIntParm(ctx, pvalue->longitude);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "longitude", -1, "EllipsoidPointUncertEllipse");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->longitude, -8388608, 8388607);
-   RT_CHECK(ctx, stat, 0, "longitude", -1, "EllipsoidPointUncertEllipse");
-   /* uncertaintySemiMajor */
-   if ((uint64_t)pvalue->uncertaintySemiMajor > 127u) {
-      rtxErrAddStrParm(ctx, "uncertaintySemiMajor");
-      rtxErrAddUIntParm(ctx, pvalue->uncertaintySemiMajor);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "uncertaintySemiMajor", -1, "EllipsoidPointUncertEllipse");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->uncertaintySemiMajor, 0, 127);
-   RT_CHECK(ctx, stat, 0, "uncertaintySemiMajor", -1, "EllipsoidPointUncertEllipse");
-   /* uncertaintySemiMinor */
-   if ((uint64_t)pvalue->uncertaintySemiMinor > 127u) {
-      rtxErrAddStrParm(ctx, "uncertaintySemiMinor");
-      rtxErrAddUIntParm(ctx, pvalue->uncertaintySemiMinor);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "uncertaintySemiMinor", -1, "EllipsoidPointUncertEllipse");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->uncertaintySemiMinor, 0, 127);
-   RT_CHECK(ctx, stat, 0, "uncertaintySemiMinor", -1, "EllipsoidPointUncertEllipse");
-   /* orientationMajorAxis */
-   if ((uint64_t)pvalue->orientationMajorAxis > 89u) {
-      rtxErrAddStrParm(ctx, "orientationMajorAxis");
-      rtxErrAddUIntParm(ctx, pvalue->orientationMajorAxis);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "orientationMajorAxis", -1, "EllipsoidPointUncertEllipse");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->orientationMajorAxis, 0, 89);
-   RT_CHECK(ctx, stat, 0, "orientationMajorAxis", -1, "EllipsoidPointUncertEllipse");
-   /* confidence */
-   if ((uint64_t)pvalue->confidence > 100u) {
-      rtxErrAddStrParm(ctx, "confidence");
-      rtxErrAddUIntParm(ctx, pvalue->confidence);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "confidence", -1, "EllipsoidPointUncertEllipse");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->confidence, 0, 100);
-   RT_CHECK(ctx, stat, 0, "confidence", -1, "EllipsoidPointUncertEllipse");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
+}
+
+int asn1PE_UMTS_E_HICH_Information_TDD384_768_midamble_Allocation_Mode(rtxContext* RT_RESTRICT ctx, E_HICH_Information_TDD384_768_midamble_Allocation_Mode value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_HICH_Information_TDD384_768_midamble_Allocation_Mode, value);
+}
+
+RT_MERGED_BODY int enc_E_HICH_Information_TDD384_768(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_TDD384_768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-HICH-Information-TDD384-768");
+   /* n-E-HICH */
+   if ((uint64_t)(pvalue->n_E_HICH - 4) > 40u) {
+      rtxErrAddStrParm(ctx, "n-E-HICH");
+      rtxErrAddUIntParm(ctx, pvalue->n_E_HICH);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "n-E-HICH", -1, "E-HICH-Information-TDD384-768");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->n_E_HICH, 4, 44);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "n-E-HICH", -1, "E-HICH-Information-TDD384-768");
+   /* tS-Number */
+   if ((uint64_t)pvalue->tS_Number > 14u) {
+      rtxErrAddStrParm(ctx, "tS-Number");
+      rtxErrAddUIntParm(ctx, pvalue->tS_Number);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "tS-Number", -1, "E-HICH-Information-TDD384-768");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tS_Number, 0, 14);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tS-Number", -1, "E-HICH-Information-TDD384-768");
+   /* modeSpecificInfo */
+   stat = enc_E_HICH_Information_TDD384_768_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "E-HICH-Information-TDD384-768");
+   /* burst-Type */
+   if (pvalue->burst_Type > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->burst_Type);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "burst-Type", -1, "E-HICH-Information-TDD384-768");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->burst_Type, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "burst-Type", -1, "E-HICH-Information-TDD384-768");
+   /* midamble-Allocation-Mode */
+   if (pvalue->midamble_Allocation_Mode > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->midamble_Allocation_Mode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "midamble-Allocation-Mode", -1, "E-HICH-Information-TDD384-768");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midamble_Allocation_Mode, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "midamble-Allocation-Mode", -1, "E-HICH-Information-TDD384-768");
+   return 0;
+}
+
+int asn1PE_UMTS_E_HICH_Information_TDD384_768(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_TDD384_768* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_HICH_Information_TDD384_768, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd384_tdd768(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd384_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* e-HICH-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_E_HICH_Information_TDD384_768(ctx, &pvalue->e_HICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd384_tdd768(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd384_tdd768* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd384_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* e-HICH-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_E_HICH_Information_TDD128(ctx, &pvalue->e_HICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_r7_modeSpecificInfo2_tdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7_modeSpecificInfo2_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384_tdd768 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd384-tdd768", -1, 0);
+         stat = enc_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd384_tdd768(ctx, pvalue->u.tdd384_tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384-tdd768", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_DL_InformationPerRL_r7_modeSpecificInfo2_tdd_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2_tdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7_modeSpecificInfo2_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_r7_modeSpecificInfo2_tdd, pvalue);
+}
+
+static int enc_DL_InformationPerRL_r7_modeSpecificInfo2(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7_modeSpecificInfo2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_DL_InformationPerRL_r7_modeSpecificInfo2_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_DL_InformationPerRL_r7_modeSpecificInfo2_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_r7_modeSpecificInfo2(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7_modeSpecificInfo2* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_r7_modeSpecificInfo2, pvalue);
+}
+
+static int enc_DL_InformationPerRL_r7(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerRL-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-InformationPerRL-r7");
+   /* modeSpecificInfo */
+   stat = enc_DL_InformationPerRL_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-InformationPerRL-r7");
+   /* dl-dpchInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DL_InformationPerRL_r7_dl_dpchInfo(ctx, &pvalue->dl_dpchInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dl-dpchInfo", -1, "DL-InformationPerRL-r7");
+   }
+   /* e-AGCH-Information */
+   if (pvalue->m & 0x2u) {
+      stat = enc_E_AGCH_Information_r7(ctx, &pvalue->e_AGCH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "e-AGCH-Information", -1, "DL-InformationPerRL-r7");
+   }
+   /* modeSpecificInfo2 */
+   stat = enc_DL_InformationPerRL_r7_modeSpecificInfo2(ctx, &pvalue->modeSpecificInfo2, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo2", -1, "DL-InformationPerRL-r7");
+   /* cell-id */
+   if (pvalue->m & 0x4u) {
+      stat = enc_CellIdentity(ctx, pvalue->cell_id, cur);
+      RT_CHECK(ctx, stat, 0, "cell-id", -1, "DL-InformationPerRL-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_r7(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   stat = enc_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   /* servingHSDSCH-RL-indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->servingHSDSCH_RL_indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "servingHSDSCH-RL-indicator", -1, 0);
+   /* servingEDCH-RL-indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->servingEDCH_RL_indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "servingEDCH-RL-indicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_r8_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_DL_InformationPerRL_r8_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_r8_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_r8_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8_dl_dpchInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.dl_DPCH_InfoPerRL == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dl-DPCH-InfoPerRL", -1, 0);
+         stat = enc_DL_DPCH_InfoPerRL_r7(ctx, pvalue->u.dl_DPCH_InfoPerRL, cur);
+         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.dl_FDPCH_InfoPerRL == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dl-FDPCH-InfoPerRL", -1, 0);
+         stat = enc_DL_FDPCH_InfoPerRL_r7(ctx, pvalue->u.dl_FDPCH_InfoPerRL, cur);
+         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoPerRL", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_r8_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8_dl_dpchInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_r8_dl_dpchInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_AGCH_Information_r8_modeSpecific_fdd(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r8_modeSpecific_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* e-AGCH-ChannelisationCode */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->e_AGCH_ChannelisationCode, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, "E-AGCH-ChannelisationCode", "e-AGCH-ChannelisationCode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_E_AGCH_Information_r8_modeSpecific_fdd(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r8_modeSpecific_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_AGCH_Information_r8_modeSpecific_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_AGCH_Information_r8_modeSpecific_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r8_modeSpecific_tdd_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* long-Term-Grant-Indicator */
+   if (pvalue->m & 0x1u) {
+      stat = rtxEncBitAt(ctx, cur, pvalue->long_Term_Grant_Indicator);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "long-Term-Grant-Indicator", -1, 0);
+   }
+   /* length-of-TTRI-field */
+   if ((uint64_t)(pvalue->length_of_TTRI_field - 1) > 11u) {
+      rtxErrAddStrParm(ctx, "length-of-TTRI-field");
+      rtxErrAddUIntParm(ctx, pvalue->length_of_TTRI_field);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "length-of-TTRI-field", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->length_of_TTRI_field, 1, 12);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "length-of-TTRI-field", -1, 0);
+   /* e-AGCH-Set-Config */
+   stat = enc_E_AGCH_Set_Config(ctx, &pvalue->e_AGCH_Set_Config, cur);
+   RT_CHECK(ctx, stat, 0, "e-AGCH-Set-Config", -1, 0);
+   /* e-AGCH-BLER-Target */
+   if (pvalue->e_AGCH_BLER_Target < -63 || pvalue->e_AGCH_BLER_Target > 0) {
+      rtxErrAddStrParm(ctx, "Bler-Target");
+      rtxErrAddIntParm(ctx, pvalue->e_AGCH_BLER_Target);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->e_AGCH_BLER_Target, -63, 0);
+   RT_CHECK_PUT(ctx, cur, stat, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_E_AGCH_Information_r8_modeSpecific_tdd_tdd384(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r8_modeSpecific_tdd_tdd384* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_AGCH_Information_r8_modeSpecific_tdd_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_AGCH_Information_r8_modeSpecific_tdd_tdd768(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r8_modeSpecific_tdd_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* long-Term-Grant-Indicator */
+   if (pvalue->m & 0x1u) {
+      stat = rtxEncBitAt(ctx, cur, pvalue->long_Term_Grant_Indicator);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "long-Term-Grant-Indicator", -1, 0);
+   }
+   /* length-of-TTRI-field */
+   if ((uint64_t)(pvalue->length_of_TTRI_field - 1) > 11u) {
+      rtxErrAddStrParm(ctx, "length-of-TTRI-field");
+      rtxErrAddUIntParm(ctx, pvalue->length_of_TTRI_field);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "length-of-TTRI-field", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->length_of_TTRI_field, 1, 12);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "length-of-TTRI-field", -1, 0);
+   /* e-AGCH-Set-Config */
+   stat = enc_E_AGCH_Set_Config_VHCR(ctx, &pvalue->e_AGCH_Set_Config, cur);
+   RT_CHECK(ctx, stat, 0, "e-AGCH-Set-Config", -1, 0);
+   /* e-AGCH-BLER-Target */
+   if (pvalue->e_AGCH_BLER_Target < -63 || pvalue->e_AGCH_BLER_Target > 0) {
+      rtxErrAddStrParm(ctx, "Bler-Target");
+      rtxErrAddIntParm(ctx, pvalue->e_AGCH_BLER_Target);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->e_AGCH_BLER_Target, -63, 0);
+   RT_CHECK_PUT(ctx, cur, stat, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_E_AGCH_Information_r8_modeSpecific_tdd_tdd768(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r8_modeSpecific_tdd_tdd768* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_AGCH_Information_r8_modeSpecific_tdd_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_AGCH_Information_r8_modeSpecific_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r8_modeSpecific_tdd_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* rdi-Indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->rdi_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "rdi-Indicator", -1, 0);
+   /* tpc-StepSize */
+   if ((uint64_t)(pvalue->tpc_StepSize - 1) > 2u) {
+      rtxErrAddStrParm(ctx, "TPC-StepSizeTDD");
+      rtxErrAddUIntParm(ctx, pvalue->tpc_StepSize);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tpc_StepSize, 1, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
+   /* e-AGCH-Set-Config */
+   stat = enc_E_AGCH_Set_Config_LCR(ctx, &pvalue->e_AGCH_Set_Config, cur);
+   RT_CHECK(ctx, stat, 0, "e-AGCH-Set-Config", -1, 0);
+   /* e-AGCH-BLER-Target */
+   if (pvalue->e_AGCH_BLER_Target < -63 || pvalue->e_AGCH_BLER_Target > 0) {
+      rtxErrAddStrParm(ctx, "Bler-Target");
+      rtxErrAddIntParm(ctx, pvalue->e_AGCH_BLER_Target);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->e_AGCH_BLER_Target, -63, 0);
+   RT_CHECK_PUT(ctx, cur, stat, "Bler-Target", "e-AGCH-BLER-Target", -1, 0);
+   /* e-AGCH-InactivityMonitorThreshold */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->e_AGCH_InactivityMonitorThreshold > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->e_AGCH_InactivityMonitorThreshold);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "E-AGCH-InactivityMonitorThreshold-TDD128", "e-AGCH-InactivityMonitorThreshold", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->e_AGCH_InactivityMonitorThreshold, 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "E-AGCH-InactivityMonitorThreshold-TDD128", "e-AGCH-InactivityMonitorThreshold", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_AGCH_Information_r8_modeSpecific_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r8_modeSpecific_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_AGCH_Information_r8_modeSpecific_tdd_tdd128, pvalue);
+}
+
+static int enc_E_AGCH_Information_r8_modeSpecific_tdd(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r8_modeSpecific_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = enc_E_AGCH_Information_r8_modeSpecific_tdd_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd768 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
+         stat = enc_E_AGCH_Information_r8_modeSpecific_tdd_tdd768(ctx, pvalue->u.tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_E_AGCH_Information_r8_modeSpecific_tdd_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_AGCH_Information_r8_modeSpecific_tdd(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r8_modeSpecific_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_AGCH_Information_r8_modeSpecific_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_AGCH_Information_r8_modeSpecific(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r8_modeSpecific* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_E_AGCH_Information_r8_modeSpecific_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_E_AGCH_Information_r8_modeSpecific_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_AGCH_Information_r8_modeSpecific(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r8_modeSpecific* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_AGCH_Information_r8_modeSpecific, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_AGCH_Information_r8(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-AGCH-Information-r8");
+   /* modeSpecific */
+   stat = enc_E_AGCH_Information_r8_modeSpecific(ctx, &pvalue->modeSpecific, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecific", -1, "E-AGCH-Information-r8");
+   return 0;
+}
+
+int asn1PE_UMTS_E_AGCH_Information_r8(rtxContext* RT_RESTRICT ctx, const E_AGCH_Information_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_AGCH_Information_r8, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_HICH_Info(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_HICH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.e_HICH_Information == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e-HICH-Information", -1, 0);
+         stat = enc_E_HICH_Information(ctx, pvalue->u.e_HICH_Information, cur);
+         RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_HICH_Info(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_HICH_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_HICH_Info, pvalue);
 }
 

@@ -6,279 +6,423 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PE_UMTS_EnvironmentCharacterisation(rtxContext* RT_RESTRICT ctx, EnvironmentCharacterisation value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "EnvironmentCharacterisation");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EnvironmentCharacterisation");
-   return 0;
-}
+/* The bodies of this unit. */
+RT_MERGED_BODY int enc_DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_RGCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_r8_modeSpecificInfo2_fdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8_modeSpecificInfo2_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd384_tdd768(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd384_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_r8_modeSpecificInfo2_tdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8_modeSpecificInfo2_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_InformationPerRL_r8_modeSpecificInfo2(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8_modeSpecificInfo2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_InformationPerRL_r8(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_InformationPerRL_List(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_List_r4(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_List_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_InformationPerRL_List_r5(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_List_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_InformationPerRL_List_r6(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_List_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_List_v6b0ext(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_List_v6b0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_List_r5bis(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_List_r5bis* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_List_r7(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_List_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_List_r8(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_List_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_PostFDD(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_PostFDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_ListPostFDD(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_ListPostFDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PrimaryCCPCH_InfoPost_syncCase_syncCase1(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_InfoPost_syncCase_syncCase1* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PrimaryCCPCH_InfoPost_syncCase_syncCase2(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_InfoPost_syncCase_syncCase2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PrimaryCCPCH_InfoPost_syncCase(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_InfoPost_syncCase* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PrimaryCCPCH_InfoPost(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_InfoPost* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_PostTDD(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_PostTDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PrimaryCCPCH_InfoPostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_InfoPostTDD_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_InformationPerRL_PostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_PostTDD_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_PDSCH_Information(rtxContext* RT_RESTRICT ctx, const DL_PDSCH_Information* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_SecondaryCellInfoFDD_newConfiguration_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_newConfiguration_dl_64QAM_Configured value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_SecondaryCellInfoFDD_newConfiguration_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, const DL_SecondaryCellInfoFDD_newConfiguration_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_SecondaryCellInfoFDD_newConfiguration(rtxContext* RT_RESTRICT ctx, const DL_SecondaryCellInfoFDD_newConfiguration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_SecondaryCellInfoFDD(rtxContext* RT_RESTRICT ctx, const DL_SecondaryCellInfoFDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_SecondaryCellInfoFDD_v890ext_differentTxModeFromServingHS_DSCHCell(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_v890ext_differentTxModeFromServingHS_DSCHCell value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_SecondaryCellInfoFDD_v890ext(rtxContext* RT_RESTRICT ctx, const DL_SecondaryCellInfoFDD_v890ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_dl_64QAM_Configured value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, const DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_differentTxModeFromServingHS_DSCHCell(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_differentTxModeFromServingHS_DSCHCell value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration(rtxContext* RT_RESTRICT ctx, const DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_SecondaryCellInfoFDD_r9_configurationInfo(rtxContext* RT_RESTRICT ctx, const DL_SecondaryCellInfoFDD_r9_configurationInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MIMO_N_M_Ratio(rtxContext* RT_RESTRICT ctx, MIMO_N_M_Ratio value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_S_CPICH_PowerOffset_MIMO(rtxContext* RT_RESTRICT ctx, S_CPICH_PowerOffset_MIMO value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MIMO_PilotConfiguration_r9_secondCPICH_Pattern_diversityPattern(rtxContext* RT_RESTRICT ctx, const MIMO_PilotConfiguration_r9_secondCPICH_Pattern_diversityPattern* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MIMO_PilotConfiguration_r9_secondCPICH_Pattern(rtxContext* RT_RESTRICT ctx, const MIMO_PilotConfiguration_r9_secondCPICH_Pattern* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MIMO_PilotConfiguration_r9(rtxContext* RT_RESTRICT ctx, const MIMO_PilotConfiguration_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecondaryCellMIMOparametersFDD_newConfiguration(rtxContext* RT_RESTRICT ctx, const SecondaryCellMIMOparametersFDD_newConfiguration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecondaryCellMIMOparametersFDD(rtxContext* RT_RESTRICT ctx, const SecondaryCellMIMOparametersFDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_DL_SecondaryCellInfoFDD_r9(rtxContext* RT_RESTRICT ctx, const DL_SecondaryCellInfoFDD_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_TPC_PowerOffsetPerRL(rtxContext* RT_RESTRICT ctx, const DL_TPC_PowerOffsetPerRL* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_TPC_PowerOffsetPerRL_List(rtxContext* RT_RESTRICT ctx, const DL_TPC_PowerOffsetPerRL_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_ChannelCodes_MBSFN_IMB384(rtxContext* RT_RESTRICT ctx, const DL_ChannelCodes_MBSFN_IMB384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_EDCH_Information_r8_mac_es_e_resetIndicator(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r8_mac_es_e_resetIndicator value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DPDCH_SchedulingTransmConfiguration_servingGrant_primary_Secondary_GrantSelector(rtxContext* RT_RESTRICT ctx, E_DPDCH_SchedulingTransmConfiguration_servingGrant_primary_Secondary_GrantSelector value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DPDCH_SchedulingTransmConfiguration_servingGrant(rtxContext* RT_RESTRICT ctx, const E_DPDCH_SchedulingTransmConfiguration_servingGrant* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DPDCH_SchedulingTransmConfiguration(rtxContext* RT_RESTRICT ctx, const E_DPDCH_SchedulingTransmConfiguration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_16QAM_Settings(rtxContext* RT_RESTRICT ctx, const UL_16QAM_Settings* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_EDCH_Information_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_RUCCH(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_RUCCH value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_e_RUCCH_Midamble(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_e_RUCCH_Midamble value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_adv(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_adv value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_SCHED(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_SCHED value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SF16Codes(rtxContext* RT_RESTRICT ctx, SF16Codes value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF16(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF16* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SF8Codes(rtxContext* RT_RESTRICT ctx, SF8Codes value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF8(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SF32Codes(rtxContext* RT_RESTRICT ctx, SF32Codes value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF32(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF32* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SF16Codes2(rtxContext* RT_RESTRICT ctx, SF16Codes2 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF816(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF816* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_RUCCH_Info_modeSpecificInfo_tdd128_t_RUCCH(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd128_t_RUCCH value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_RUCCH_Info_modeSpecificInfo_tdd128_t_WAIT(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd128_t_WAIT value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_RUCCH_Info_modeSpecificInfo_tdd128_t_SI(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd128_t_SI value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_RUCCH_Info_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_modeSpecificInfo_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_E_RUCCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_RUCCH_Info(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_PUCH_TS_Slots(rtxContext* RT_RESTRICT ctx, const E_PUCH_TS_Slots* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_PUCH_Info_modeSpecificInfo_tdd348_tdd768_e_PUCH_TS_ConfigurationList(rtxContext* RT_RESTRICT ctx, const E_PUCH_Info_modeSpecificInfo_tdd348_tdd768_e_PUCH_TS_ConfigurationList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_PUCH_Info_modeSpecificInfo_tdd348_tdd768(rtxContext* RT_RESTRICT ctx, const E_PUCH_Info_modeSpecificInfo_tdd348_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_PUCH_Info_modeSpecificInfo_tdd128_snpl_ReportType(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_modeSpecificInfo_tdd128_snpl_ReportType value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_PUCH_Info_modeSpecificInfo_tdd128_e_PUCH_TS_ConfigurationList(rtxContext* RT_RESTRICT ctx, const E_PUCH_Info_modeSpecificInfo_tdd128_e_PUCH_TS_ConfigurationList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_PUCH_Info_modeSpecificInfo_tdd128_retransTimerForSchedInfo(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_modeSpecificInfo_tdd128_retransTimerForSchedInfo value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_PUCH_Info_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, const E_PUCH_Info_modeSpecificInfo_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_PUCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const E_PUCH_Info_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_E_PUCH_Info(rtxContext* RT_RESTRICT ctx, const E_PUCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Non_ScheduledTransGrantInfoTDD_tdd384_768(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_tdd384_768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Non_ScheduledTransGrantInfoTDD_tdd128(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_Non_ScheduledTransGrantInfoTDD(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_EDCH_Information_r8_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r8_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_EDCH_Information_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r8_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UL_EDCH_Information_r8(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DLUL_HSPA_Information_r8(rtxContext* RT_RESTRICT ctx, const DLUL_HSPA_Information_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_EDCH_Information_r9_mac_es_e_resetIndicator(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r9_mac_es_e_resetIndicator value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_EDCH_Information_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Non_ScheduledTransGrantInfoTDD_r9_tdd384_768(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_r9_tdd384_768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Non_ScheduledTransGrantInfoTDD_r9_tdd128_t_SI_nst(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_r9_tdd128_t_SI_nst value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Non_ScheduledTransGrantInfoTDD_r9_tdd128(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_r9_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_Non_ScheduledTransGrantInfoTDD_r9(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_EDCH_Information_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_EDCH_Information_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r9_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UL_EDCH_Information_r9(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DLUL_HSPA_Information_r9(rtxContext* RT_RESTRICT ctx, const DLUL_HSPA_Information_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DPCCH_PowerOffset2(rtxContext* RT_RESTRICT ctx, DPCCH_PowerOffset2 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TGPS_Reconfiguration_CFN(rtxContext* RT_RESTRICT ctx, TGPS_Reconfiguration_CFN value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TGP_SequenceShort_tgps_Status_activate(rtxContext* RT_RESTRICT ctx, const TGP_SequenceShort_tgps_Status_activate* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TGP_SequenceShort_tgps_Status(rtxContext* RT_RESTRICT ctx, const TGP_SequenceShort_tgps_Status* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TGP_SequenceShort(rtxContext* RT_RESTRICT ctx, const TGP_SequenceShort* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DPCH_CompressedModeStatusInfo_tgp_SequenceShortList(rtxContext* RT_RESTRICT ctx, const DPCH_CompressedModeStatusInfo_tgp_SequenceShortList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DPCH_CompressedModeStatusInfo(rtxContext* RT_RESTRICT ctx, const DPCH_CompressedModeStatusInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_DRX_Cycle_InactivityThreshold(rtxContext* RT_RESTRICT ctx, UE_DRX_Cycle_InactivityThreshold value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_DRX_Cycle(rtxContext* RT_RESTRICT ctx, UE_DRX_Cycle value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_GrantMonitoring_InactivityThreshold(rtxContext* RT_RESTRICT ctx, UE_GrantMonitoring_InactivityThreshold value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DRX_Info(rtxContext* RT_RESTRICT ctx, const DRX_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_DTX_Cycle1_10ms(rtxContext* RT_RESTRICT ctx, UE_DTX_Cycle1_10ms value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_DTX_Cycle2_10ms(rtxContext* RT_RESTRICT ctx, UE_DTX_Cycle2_10ms value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MAC_DTX_Cycle_10ms(rtxContext* RT_RESTRICT ctx, MAC_DTX_Cycle_10ms value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DTX_E_DCH_TTI_10ms(rtxContext* RT_RESTRICT ctx, const DTX_E_DCH_TTI_10ms* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_DTX_Cycle1_2ms(rtxContext* RT_RESTRICT ctx, UE_DTX_Cycle1_2ms value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_DTX_Cycle2_2ms(rtxContext* RT_RESTRICT ctx, UE_DTX_Cycle2_2ms value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MAC_DTX_Cycle_2ms(rtxContext* RT_RESTRICT ctx, MAC_DTX_Cycle_2ms value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DTX_E_DCH_TTI_2ms(rtxContext* RT_RESTRICT ctx, const DTX_E_DCH_TTI_2ms* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DTX_Info_e_dch_TTI_Length(rtxContext* RT_RESTRICT ctx, const DTX_Info_e_dch_TTI_Length* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_DTX_Cycle2InactivityThreshold(rtxContext* RT_RESTRICT ctx, UE_DTX_Cycle2InactivityThreshold value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_DTX_long_preamble_length(rtxContext* RT_RESTRICT ctx, UE_DTX_long_preamble_length value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MAC_InactivityThreshold(rtxContext* RT_RESTRICT ctx, MAC_InactivityThreshold value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_DPCCH_Burst(rtxContext* RT_RESTRICT ctx, UE_DPCCH_Burst value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DTX_Info(rtxContext* RT_RESTRICT ctx, const DTX_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Uplink_DPCCH_Slot_Format_Information(rtxContext* RT_RESTRICT ctx, Uplink_DPCCH_Slot_Format_Information value, rtxEncCur* RT_RESTRICT cur);
+static int enc_DTX_DRX_Info_r7(rtxContext* RT_RESTRICT ctx, const DTX_DRX_Info_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_RL_InfoNewServingCell_servingGrant_primary_Secondary_GrantSelector(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewServingCell_servingGrant_primary_Secondary_GrantSelector value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_RL_InfoNewServingCell_servingGrant(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoNewServingCell_servingGrant* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DPDCH_Reference_E_TFCI(rtxContext* RT_RESTRICT ctx, const E_DPDCH_Reference_E_TFCI* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DPDCH_Reference_E_TFCIList(rtxContext* RT_RESTRICT ctx, const E_DPDCH_Reference_E_TFCIList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_RL_InfoNewServingCell_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoNewServingCell_e_RGCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_RL_InfoNewServingCell(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoNewServingCell* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_RL_InfoOtherCell_e_HICH_Info(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoOtherCell_e_HICH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_RL_InfoOtherCell_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoOtherCell_e_RGCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_E_DCH_RL_InfoOtherCell(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoOtherCell* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_ReconfigurationInfo_e_DCH_RL_InfoOtherCellList(rtxContext* RT_RESTRICT ctx, const E_DCH_ReconfigurationInfo_e_DCH_RL_InfoOtherCellList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_ReconfigurationInfo(rtxContext* RT_RESTRICT ctx, const E_DCH_ReconfigurationInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_RL_InfoNewServingCell_r7_servingGrant_primary_Secondary_GrantSelector(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewServingCell_r7_servingGrant_primary_Secondary_GrantSelector value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_RL_InfoNewServingCell_r7_servingGrant(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoNewServingCell_r7_servingGrant* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_RL_InfoNewServingCell_r7_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoNewServingCell_r7_e_RGCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_RL_InfoNewServingCell_r7(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoNewServingCell_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_ReconfigurationInfo_r7_e_DCH_RL_InfoOtherCellList(rtxContext* RT_RESTRICT ctx, const E_DCH_ReconfigurationInfo_r7_e_DCH_RL_InfoOtherCellList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_E_DCH_ReconfigurationInfo_r7(rtxContext* RT_RESTRICT ctx, const E_DCH_ReconfigurationInfo_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_RL_InfoNewSecServingCell_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoNewSecServingCell_e_RGCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_RL_InfoNewSecServingCell(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoNewSecServingCell* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_RL_InfoOtherCell_SecULFreq_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoOtherCell_SecULFreq_e_RGCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_RL_InfoOtherCell_SecULFreq(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoOtherCell_SecULFreq* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_ReconfigurationInfo_SecULFrequency_e_DCH_RL_InfoOtherCellList_SecULFreq(rtxContext* RT_RESTRICT ctx, const E_DCH_ReconfigurationInfo_SecULFrequency_e_DCH_RL_InfoOtherCellList_SecULFreq* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_E_DCH_ReconfigurationInfo_SecULFrequency(rtxContext* RT_RESTRICT ctx, const E_DCH_ReconfigurationInfo_SecULFrequency* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_RL_InfoSameServingCell(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoSameServingCell* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_HICH_Information_For_SPS_TDD128_configurationmode_implicit(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_For_SPS_TDD128_configurationmode_implicit* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_HICH_Information_For_SPS_TDD128_configurationmode_explicit__midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_For_SPS_TDD128_configurationmode_explicit__midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_HICH_Information_For_SPS_TDD128_configurationmode_explicit_(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_For_SPS_TDD128_configurationmode_explicit_* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_HICH_Information_For_SPS_TDD128_configurationmode(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_For_SPS_TDD128_configurationmode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_HICH_Information_For_SPS_TDD128(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_For_SPS_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RepetitionPeriodAndLengthForSPS(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodAndLengthForSPS* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_TxPatternList_TDD128_element(rtxContext* RT_RESTRICT ctx, const E_DCH_TxPatternList_TDD128_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_TxPatternList_TDD128(rtxContext* RT_RESTRICT ctx, const E_DCH_TxPatternList_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_SPS_NewOperation_TDD128_initialSPSInfoForEDCH(rtxContext* RT_RESTRICT ctx, const E_DCH_SPS_NewOperation_TDD128_initialSPSInfoForEDCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_SPS_NewOperation_TDD128(rtxContext* RT_RESTRICT ctx, const E_DCH_SPS_NewOperation_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_SPS_Information_TDD128_e_dch_SPS_Operation(rtxContext* RT_RESTRICT ctx, const E_DCH_SPS_Information_TDD128_e_dch_SPS_Operation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DCH_SPS_Information_TDD128(rtxContext* RT_RESTRICT ctx, const E_DCH_SPS_Information_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DPCCH_Info(rtxContext* RT_RESTRICT ctx, const E_DPCCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DPDCH_Info(rtxContext* RT_RESTRICT ctx, const E_DPDCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_E_DPDCH_Info_r7(rtxContext* RT_RESTRICT ctx, const E_DPDCH_Info_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EnablingDelay(rtxContext* RT_RESTRICT ctx, EnablingDelay value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EXT_UL_TimingAdvance_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, const EXT_UL_TimingAdvance_modeSpecificInfo_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EXT_UL_TimingAdvance_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, const EXT_UL_TimingAdvance_modeSpecificInfo_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EXT_UL_TimingAdvance_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const EXT_UL_TimingAdvance_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EXT_UL_TimingAdvance(rtxContext* RT_RESTRICT ctx, const EXT_UL_TimingAdvance* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_ChannelisationCodeSetInfo_LCR(rtxContext* RT_RESTRICT ctx, const HS_ChannelisationCodeSetInfo_LCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_DSCH_RxPatternList_TDD128_element(rtxContext* RT_RESTRICT ctx, const HS_DSCH_RxPatternList_TDD128_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_DSCH_RxPatternList_TDD128(rtxContext* RT_RESTRICT ctx, const HS_DSCH_RxPatternList_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_DSCH_TbsList_TDD128_element(rtxContext* RT_RESTRICT ctx, const HS_DSCH_TbsList_TDD128_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_DSCH_TbsList_TDD128(rtxContext* RT_RESTRICT ctx, const HS_DSCH_TbsList_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_DSCH_SPS_NewOperation_TDD128_hARQInfoForSPS(rtxContext* RT_RESTRICT ctx, const HS_DSCH_SPS_NewOperation_TDD128_hARQInfoForSPS* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SICH_List_TDD128_element_implicit(rtxContext* RT_RESTRICT ctx, const HS_SICH_List_TDD128_element_implicit* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SICH_List_TDD128_element_explicit_(rtxContext* RT_RESTRICT ctx, const HS_SICH_List_TDD128_element_explicit_* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SICH_List_TDD128_element(rtxContext* RT_RESTRICT ctx, const HS_SICH_List_TDD128_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SICH_List_TDD128(rtxContext* RT_RESTRICT ctx, const HS_SICH_List_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH_modulation(rtxContext* RT_RESTRICT ctx, HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH_modulation value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH(rtxContext* RT_RESTRICT ctx, const HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_HS_DSCH_SPS_NewOperation_TDD128(rtxContext* RT_RESTRICT ctx, const HS_DSCH_SPS_NewOperation_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_DSCH_SPS_Information_TDD128_hs_dsch_SPS_Operation(rtxContext* RT_RESTRICT ctx, const HS_DSCH_SPS_Information_TDD128_hs_dsch_SPS_Operation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_DSCH_SPS_Information_TDD128(rtxContext* RT_RESTRICT ctx, const HS_DSCH_SPS_Information_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_LessTFSList_element(rtxContext* RT_RESTRICT ctx, const HS_SCCH_LessTFSList_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_LessTFSList(rtxContext* RT_RESTRICT ctx, const HS_SCCH_LessTFSList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_Less_NewOperation(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Less_NewOperation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_LessInfo_r7_hs_scchLessOperation(rtxContext* RT_RESTRICT ctx, const HS_SCCH_LessInfo_r7_hs_scchLessOperation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SCCH_LessInfo_r7(rtxContext* RT_RESTRICT ctx, const HS_SCCH_LessInfo_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SICH_ReferenceSignalInfoList_element(rtxContext* RT_RESTRICT ctx, const HS_SICH_ReferenceSignalInfoList_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HS_SICH_ReferenceSignalInfoList(rtxContext* RT_RESTRICT ctx, const HS_SICH_ReferenceSignalInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MIMO_Operation(rtxContext* RT_RESTRICT ctx, MIMO_Operation value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MIMO_PilotConfiguration_secondCPICH_Pattern_diversityPattern(rtxContext* RT_RESTRICT ctx, const MIMO_PilotConfiguration_secondCPICH_Pattern_diversityPattern* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MIMO_PilotConfiguration_secondCPICH_Pattern(rtxContext* RT_RESTRICT ctx, const MIMO_PilotConfiguration_secondCPICH_Pattern* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MIMO_PilotConfiguration(rtxContext* RT_RESTRICT ctx, const MIMO_PilotConfiguration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MIMO_Parameters_r7(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MIMO_PilotConfiguration_v7f0ext(rtxContext* RT_RESTRICT ctx, const MIMO_PilotConfiguration_v7f0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MIMO_Parameters_v7f0ext(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_v7f0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MIMO_Parameters_v7g0ext_precodingWeightSetRestriction(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_v7g0ext_precodingWeightSetRestriction value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MIMO_Parameters_v7g0ext(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_v7g0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MIMO_Parameters_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MIMO_Parameters_r8_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r8_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MIMO_Parameters_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r8_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_MIMO_Parameters_r8(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MIMO_Parameters_r9_modeSpecificInfo_fdd_precodingWeightSetRestriction(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r9_modeSpecificInfo_fdd_precodingWeightSetRestriction value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MIMO_Parameters_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MIMO_Parameters_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MIMO_Parameters_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r9_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_MIMO_Parameters_r9(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Multi_frequencyInfo_LCR_r7(rtxContext* RT_RESTRICT ctx, const Multi_frequencyInfo_LCR_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_DTX_DRX_Offset(rtxContext* RT_RESTRICT ctx, UE_DTX_DRX_Offset value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewTiming(rtxContext* RT_RESTRICT ctx, const NewTiming* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Non_ScheduledTransGrantInfoTDD_ext_tdd128_t_SI_nst(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_ext_tdd128_t_SI_nst value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Non_ScheduledTransGrantInfoTDD_ext_tdd128(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_ext_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Non_ScheduledTransGrantInfoTDD_ext(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NumberOfDPDCH(rtxContext* RT_RESTRICT ctx, NumberOfDPDCH value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NumberOfFBI_Bits(rtxContext* RT_RESTRICT ctx, NumberOfFBI_Bits value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDSCH_PowerControlInfo(rtxContext* RT_RESTRICT ctx, const PDSCH_PowerControlInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDSCH_CapacityAllocationInfo_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_configuration_old_Configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDSCH_CapacityAllocationInfo_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_configuration_new_Configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDSCH_CapacityAllocationInfo_configuration(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDSCH_CapacityAllocationInfo(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDSCH_CapacityAllocationInfo_r4_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_r4_configuration_old_Configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDSCH_Info_r4_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_r4_tddOption_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDSCH_Info_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_r4_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDSCH_Info_r4_tddOption(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_r4_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDSCH_Info_r4(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDSCH_CapacityAllocationInfo_r4_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_r4_configuration_new_Configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_PDSCH_CapacityAllocationInfo_r4_configuration(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_r4_configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDSCH_CapacityAllocationInfo_r4(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDSCH_CapacityAllocationInfo_r7_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_r7_configuration_old_Configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDSCH_CapacityAllocationInfo_r7_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_r7_configuration_new_Configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDSCH_CapacityAllocationInfo_r7_configuration(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_r7_configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDSCH_CapacityAllocationInfo_r7(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDSCH_SysInfoList(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDSCH_SysInfoList_HCR_r5(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList_HCR_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PDSCH_SysInfoList_LCR_r4(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TPC_CommandTargetRate(rtxContext* RT_RESTRICT ctx, TPC_CommandTargetRate value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PLCCH_Info(rtxContext* RT_RESTRICT ctx, const PLCCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PUSCH_CapacityAllocationInfo_pusch_Allocation(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_pusch_Allocation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PUSCH_CapacityAllocationInfo(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PUSCH_PowerControlInfo_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const PUSCH_PowerControlInfo_r4_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PUSCH_PowerControlInfo_r4_tddOption(rtxContext* RT_RESTRICT ctx, const PUSCH_PowerControlInfo_r4_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PUSCH_PowerControlInfo_r4(rtxContext* RT_RESTRICT ctx, const PUSCH_PowerControlInfo_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PUSCH_Info_r4_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const PUSCH_Info_r4_tddOption_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PUSCH_Info_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const PUSCH_Info_r4_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PUSCH_Info_r4_tddOption(rtxContext* RT_RESTRICT ctx, const PUSCH_Info_r4_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PUSCH_Info_r4(rtxContext* RT_RESTRICT ctx, const PUSCH_Info_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r4_pusch_Allocation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PUSCH_CapacityAllocationInfo_r4(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PUSCH_PowerControlInfo_r7_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const PUSCH_PowerControlInfo_r7_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PUSCH_PowerControlInfo_r7_tddOption(rtxContext* RT_RESTRICT ctx, const PUSCH_PowerControlInfo_r7_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PUSCH_PowerControlInfo_r7(rtxContext* RT_RESTRICT ctx, const PUSCH_PowerControlInfo_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r7_pusch_Allocation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PUSCH_CapacityAllocationInfo_r7(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PUSCH_SysInfoList(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PUSCH_SysInfoList_HCR_r5(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_HCR_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PUSCH_SysInfoList_LCR_r4(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ReducedScramblingCodeNumber(rtxContext* RT_RESTRICT ctx, ReducedScramblingCodeNumber value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RepPerLengthOffset_MICH(rtxContext* RT_RESTRICT ctx, const RepPerLengthOffset_MICH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RL_AdditionInformation(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RL_AdditionInformation_r6_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_r6_dl_dpchInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RL_AdditionInformation_r6(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RL_AdditionInformation_r7_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_r7_dl_dpchInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RL_AdditionInformation_r7(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RL_AdditionInformation_r8_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_r8_dl_dpchInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DTX_DRX_TimingInfo_r7_timing(rtxContext* RT_RESTRICT ctx, const DTX_DRX_TimingInfo_r7_timing* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DTX_DRX_TimingInfo_r7(rtxContext* RT_RESTRICT ctx, const DTX_DRX_TimingInfo_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TargetCellPreconfigInfo(rtxContext* RT_RESTRICT ctx, const TargetCellPreconfigInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_RL_AdditionInformation_r8(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RL_AdditionInformation_r9_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_r9_dl_dpchInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_TargetCellPreconfigInfo_r9(rtxContext* RT_RESTRICT ctx, const TargetCellPreconfigInfo_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RL_AdditionInformation_r9(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RL_AdditionInformation_v6b0ext(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_v6b0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TargetCellPreconfigInfo_v890ext(rtxContext* RT_RESTRICT ctx, const TargetCellPreconfigInfo_v890ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RL_AdditionInformation_v890ext(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_v890ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RL_AdditionInformationList(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformationList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RL_AdditionInformationList_r6(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformationList_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RL_AdditionInformationList_r7(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformationList_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RL_AdditionInformation_list_v6b0ext(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_list_v6b0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RL_AdditionInformationList_r8(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformationList_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RL_AdditionInformationList_v890ext(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformationList_v890ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RL_AdditionInformationList_r9(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformationList_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RL_AdditionInformation_SecULFreq(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_SecULFreq* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RL_AdditionInformationList_SecULFreq(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformationList_SecULFreq* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RL_RemovalInformationList(rtxContext* RT_RESTRICT ctx, const RL_RemovalInformationList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RL_RemovalInformationList_SecULFreq(rtxContext* RT_RESTRICT ctx, const RL_RemovalInformationList_SecULFreq* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecondaryCCPCHFrameType2Info_modulation_mod16QAM(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHFrameType2Info_modulation_mod16QAM* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecondaryCCPCHFrameType2Info_modulation(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHFrameType2Info_modulation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecondaryCCPCHFrameType2Info(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHFrameType2Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SecondaryCCPCHInfoDiff_MBMS(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfoDiff_MBMS* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ServingCellChangeMACreset(rtxContext* RT_RESTRICT ctx, ServingCellChangeMACreset value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ServingCellChangeMsgType(rtxContext* RT_RESTRICT ctx, ServingCellChangeMsgType value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ServingCellChangeTrId(rtxContext* RT_RESTRICT ctx, ServingCellChangeTrId value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ServingCellChangeParameters(rtxContext* RT_RESTRICT ctx, const ServingCellChangeParameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SpecialBurstScheduling(rtxContext* RT_RESTRICT ctx, SpecialBurstScheduling value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SpreadingFactor(rtxContext* RT_RESTRICT ctx, SpreadingFactor value, rtxEncCur* RT_RESTRICT cur);
+static int enc_SPS_Information_TDD128_r8(rtxContext* RT_RESTRICT ctx, const SPS_Information_TDD128_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SynchronisationParameters_r4_sync_UL_CodesBitmap(rtxContext* RT_RESTRICT ctx, SynchronisationParameters_r4_sync_UL_CodesBitmap value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SYNC_UL_Procedure_r4_max_SYNC_UL_Transmissions(rtxContext* RT_RESTRICT ctx, SYNC_UL_Procedure_r4_max_SYNC_UL_Transmissions value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SYNC_UL_Procedure_r4(rtxContext* RT_RESTRICT ctx, const SYNC_UL_Procedure_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_SynchronisationParameters_r4(rtxContext* RT_RESTRICT ctx, const SynchronisationParameters_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TFC_ControlDuration(rtxContext* RT_RESTRICT ctx, TFC_ControlDuration value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TimeslotList(rtxContext* RT_RESTRICT ctx, const TimeslotList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TimeslotList_r4_tdd384(rtxContext* RT_RESTRICT ctx, const TimeslotList_r4_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TimeslotList_r4_tdd128(rtxContext* RT_RESTRICT ctx, const TimeslotList_r4_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
 
-int asn1PE_UMTS_Eutra_EventResult_reportedCells(rtxContext* RT_RESTRICT ctx, const Eutra_EventResult_reportedCells* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)pvalue->elem[i] > 503u) {
-         rtxErrAddStrParm(ctx, "EUTRA-PhysicalCellIdentity");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "EUTRA-PhysicalCellIdentity", "EUTRA-PhysicalCellIdentity", (int32_t)i, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 503);
-      RT_CHECK(ctx, stat, "EUTRA-PhysicalCellIdentity", "EUTRA-PhysicalCellIdentity", (int32_t)i, 0);
-   }
-   return 0;
-}
+/* Bodies held by other units. */
+RT_ENCODE_EXTERN(E_RGCH_Information)
+RT_ENCODE_EXTERN(DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_HICH_Info)
+RT_ENCODE_EXTERN(E_HICH_Information_TDD384_768)
+RT_ENCODE_EXTERN(E_HICH_Information_TDD128)
+RT_ENCODE_EXTERN(DL_InformationPerRL_r8_modeSpecificInfo)
+RT_ENCODE_EXTERN(DL_InformationPerRL_r8_dl_dpchInfo)
+RT_ENCODE_EXTERN(E_AGCH_Information_r8)
+RT_ENCODE_EXTERN_VALUE(CellIdentity)
+RT_ENCODE_EXTERN(DL_InformationPerRL)
+RT_ENCODE_EXTERN(DL_InformationPerRL_r4)
+RT_ENCODE_EXTERN(DL_InformationPerRL_r5)
+RT_ENCODE_EXTERN(DL_InformationPerRL_r6)
+RT_ENCODE_EXTERN(DL_InformationPerRL_v6b0ext)
+RT_ENCODE_EXTERN(DL_InformationPerRL_r5bis)
+RT_ENCODE_EXTERN(DL_InformationPerRL_r7)
+RT_ENCODE_EXTERN(PrimaryCPICH_Info)
+RT_ENCODE_EXTERN(DL_DPCH_InfoPerRL_PostFDD)
+RT_ENCODE_EXTERN(DL_DPCH_InfoPerRL_PostTDD)
+RT_ENCODE_EXTERN(DL_DPCH_InfoPerRL_PostTDD_LCR_r4)
+RT_ENCODE_EXTERN(PDSCH_SHO_DCH_Info)
+RT_ENCODE_EXTERN(PDSCH_CodeMapping)
+RT_ENCODE_EXTERN_VALUE(H_RNTI)
+RT_ENCODE_EXTERN(E_DPCCH_Info_r7)
+RT_ENCODE_EXTERN(E_DPDCH_Info_r8)
+RT_ENCODE_EXTERN(E_RUCCH_AccessServiceClass)
+RT_ENCODE_EXTERN(PersistenceScalingFactorList)
+RT_ENCODE_EXTERN(SYNC_UL_InfoForE_RUCCH)
+RT_ENCODE_EXTERN(PRACH_Information_LCR_List)
+RT_ENCODE_EXTERN(MidambleShiftAndBurstType_EDCH)
+RT_ENCODE_EXTERN(E_PUCH_TS_Slots_LCR)
+RT_ENCODE_EXTERN(UL_SynchronisationParameters_r4)
+RT_ENCODE_EXTERN(E_TFCS_Info)
+RT_ENCODE_EXTERN(RepetitionPeriodAndLength)
+RT_ENCODE_EXTERN(DL_CommonInformation_r8)
+RT_ENCODE_EXTERN(DL_HSPDSCH_Information_r8)
+RT_ENCODE_EXTERN(DL_HSPDSCH_Information_r9)
+RT_ENCODE_EXTERN(E_AGCH_Information)
+RT_ENCODE_EXTERN(E_HICH_Information)
+RT_ENCODE_EXTERN(E_DPDCH_Reference_E_TFCIList_r7)
+RT_ENCODE_EXTERN(E_DPDCH_SchedulingInfoConfiguration)
+RT_ENCODE_EXTERN(HS_SICH_Configuration_TDD128_r6)
+RT_ENCODE_EXTERN(FrequencyInfoTDD)
+RT_ENCODE_EXTERN(UL_CCTrChTPCList)
+RT_ENCODE_EXTERN(PDSCH_Info)
+RT_ENCODE_EXTERN(AllocationPeriodInfo)
+RT_ENCODE_EXTERN(DownlinkTimeslotsCodes)
+RT_ENCODE_EXTERN(DownlinkTimeslotsCodes_LCR_r4)
+RT_ENCODE_EXTERN(CommonTimeslotInfo)
+RT_ENCODE_EXTERN(PDSCH_Info_r7)
+RT_ENCODE_EXTERN(PDSCH_SysInfo)
+RT_ENCODE_EXTERN(PDSCH_SysInfo_HCR_r5)
+RT_ENCODE_EXTERN(PDSCH_SysInfo_LCR_r4)
+RT_ENCODE_EXTERN(PUSCH_Info)
+RT_ENCODE_EXTERN(UplinkTimeslotsCodes)
+RT_ENCODE_EXTERN(UplinkTimeslotsCodes_LCR_r4)
+RT_ENCODE_EXTERN(PUSCH_Info_VHCR)
+RT_ENCODE_EXTERN(PUSCH_SysInfo)
+RT_ENCODE_EXTERN(PUSCH_SysInfo_HCR_r5)
+RT_ENCODE_EXTERN(PUSCH_SysInfo_LCR_r4)
+RT_ENCODE_EXTERN(DL_DPCH_InfoPerRL)
+RT_ENCODE_EXTERN(SCCPCH_InfoForFACH)
+RT_ENCODE_EXTERN(DL_DPCH_InfoPerRL_r5)
+RT_ENCODE_EXTERN(DL_FDPCH_InfoPerRL_r6)
+RT_ENCODE_EXTERN(DL_FDPCH_InfoPerRL_r7)
+RT_ENCODE_EXTERN_VALUE(E_RNTI)
+RT_ENCODE_EXTERN(Serving_HSDSCH_CellInformation_r8)
+RT_ENCODE_EXTERN(Serving_HSDSCH_CellInformation_r9)
+RT_ENCODE_EXTERN(UL_SecondaryCellInfoFDD)
+RT_ENCODE_EXTERN(SF256_AndCodeNumber)
+RT_ENCODE_EXTERN(FPACH_Info_r4)
 
-int asn1PE_UMTS_Eutra_EventResult(rtxContext* RT_RESTRICT ctx, const Eutra_EventResult* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_RGCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Eutra-EventResult");
-   /* earfcn */
-   stat = pe_ConsUInt64(ctx, pvalue->earfcn, 0, 65535);
-   RT_CHECK(ctx, stat, "EARFCN", "earfcn", -1, "Eutra-EventResult");
-   /* reportedCells */
-   stat = asn1PE_UMTS_Eutra_EventResult_reportedCells(ctx, &pvalue->reportedCells);
-   RT_CHECK(ctx, stat, 0, "reportedCells", -1, "Eutra-EventResult");
-   return 0;
-}
-
-int asn1PE_UMTS_Eutra_EventResultList(rtxContext* RT_RESTRICT ctx, const Eutra_EventResultList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Eutra-EventResultList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "Eutra-EventResultList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "Eutra-EventResult", (int32_t)i, "Eutra-EventResultList");
-      stat = asn1PE_UMTS_Eutra_EventResult(ctx, (const Eutra_EventResult*)node->data);
-      RT_CHECK(ctx, stat, 0, "Eutra-EventResult", (int32_t)i, "Eutra-EventResultList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_EventIDInterRAT(rtxContext* RT_RESTRICT ctx, EventIDInterRAT value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "EventIDInterRAT");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EventIDInterRAT");
-   return 0;
-}
-
-int asn1PE_UMTS_EUTRA_EventResults(rtxContext* RT_RESTRICT ctx, const EUTRA_EventResults* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-EventResults");
-   /* eventID */
-   if (pvalue->eventID > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->eventID);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "EventIDInterRAT", "eventID", -1, "EUTRA-EventResults");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->eventID, 0, 3);
-   RT_CHECK(ctx, stat, "EventIDInterRAT", "eventID", -1, "EUTRA-EventResults");
-   /* eutra-EventResultsList */
-   stat = asn1PE_UMTS_Eutra_EventResultList(ctx, &pvalue->eutra_EventResultsList);
-   RT_CHECK(ctx, stat, 0, "eutra-EventResultsList", -1, "EUTRA-EventResults");
-   return 0;
-}
-
-int asn1PE_UMTS_EUTRA_MeasurementBandwidth(rtxContext* RT_RESTRICT ctx, EUTRA_MeasurementBandwidth value)
-{
-   int stat = 0;
-   if (value > 5) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "EUTRA-MeasurementBandwidth");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EUTRA-MeasurementBandwidth");
-   return 0;
-}
-
-int asn1PE_UMTS_EUTRA_FrequencyAndPriorityInfo(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyAndPriorityInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-FrequencyAndPriorityInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EUTRA-FrequencyAndPriorityInfo");
-   /* earfcn */
-   stat = pe_ConsUInt64(ctx, pvalue->earfcn, 0, 65535);
-   RT_CHECK(ctx, stat, "EARFCN", "earfcn", -1, "EUTRA-FrequencyAndPriorityInfo");
-   /* measurementBandwidth */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->measurementBandwidth > 5) {
-         rtxErrAddUIntParm(ctx, pvalue->measurementBandwidth);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "EUTRA-MeasurementBandwidth", "measurementBandwidth", -1, "EUTRA-FrequencyAndPriorityInfo");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->measurementBandwidth, 0, 5);
-      RT_CHECK(ctx, stat, "EUTRA-MeasurementBandwidth", "measurementBandwidth", -1, "EUTRA-FrequencyAndPriorityInfo");
-   }
-   /* priority */
-   if ((uint64_t)pvalue->priority > 7u) {
-      rtxErrAddStrParm(ctx, "priority");
-      rtxErrAddUIntParm(ctx, pvalue->priority);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "priority", -1, "EUTRA-FrequencyAndPriorityInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->priority, 0, 7);
-   RT_CHECK(ctx, stat, 0, "priority", -1, "EUTRA-FrequencyAndPriorityInfo");
-   /* qRxLevMinEUTRA */
-   if (pvalue->qRxLevMinEUTRA < -70 || pvalue->qRxLevMinEUTRA > -22) {
-      rtxErrAddStrParm(ctx, "qRxLevMinEUTRA");
-      rtxErrAddIntParm(ctx, pvalue->qRxLevMinEUTRA);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "qRxLevMinEUTRA", -1, "EUTRA-FrequencyAndPriorityInfo");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->qRxLevMinEUTRA, -70, -22);
-   RT_CHECK(ctx, stat, 0, "qRxLevMinEUTRA", -1, "EUTRA-FrequencyAndPriorityInfo");
-   /* threshXhigh */
-   if ((uint64_t)pvalue->threshXhigh > 31u) {
-      rtxErrAddStrParm(ctx, "threshXhigh");
-      rtxErrAddUIntParm(ctx, pvalue->threshXhigh);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "threshXhigh", -1, "EUTRA-FrequencyAndPriorityInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->threshXhigh, 0, 31);
-   RT_CHECK(ctx, stat, 0, "threshXhigh", -1, "EUTRA-FrequencyAndPriorityInfo");
-   /* threshXlow */
-   if ((uint64_t)pvalue->threshXlow > 31u) {
-      rtxErrAddStrParm(ctx, "threshXlow");
-      rtxErrAddUIntParm(ctx, pvalue->threshXlow);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "threshXlow", -1, "EUTRA-FrequencyAndPriorityInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->threshXlow, 0, 31);
-   RT_CHECK(ctx, stat, 0, "threshXlow", -1, "EUTRA-FrequencyAndPriorityInfo");
-   /* eutra-blackListedCellList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_EUTRA_BlacklistedCellPerFreqList(ctx, &pvalue->eutra_blackListedCellList);
-      RT_CHECK(ctx, stat, 0, "eutra-blackListedCellList", -1, "EUTRA-FrequencyAndPriorityInfo");
-   }
-   /* eutraDetection */
-   stat = rtxEncBit(ctx, pvalue->eutraDetection);
-   RT_CHECK(ctx, stat, 0, "eutraDetection", -1, "EUTRA-FrequencyAndPriorityInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_EUTRA_FrequencyAndPriorityInfo_v920ext(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyAndPriorityInfo_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-FrequencyAndPriorityInfo-v920ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EUTRA-FrequencyAndPriorityInfo-v920ext");
-   /* qqualMinEUTRA */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->qqualMinEUTRA < -34 || pvalue->qqualMinEUTRA > -3) {
-         rtxErrAddStrParm(ctx, "qqualMinEUTRA");
-         rtxErrAddIntParm(ctx, pvalue->qqualMinEUTRA);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "qqualMinEUTRA", -1, "EUTRA-FrequencyAndPriorityInfo-v920ext");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->qqualMinEUTRA, -34, -3);
-      RT_CHECK(ctx, stat, 0, "qqualMinEUTRA", -1, "EUTRA-FrequencyAndPriorityInfo-v920ext");
-   }
-   /* threshXhigh2 */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->threshXhigh2 > 31u) {
-         rtxErrAddStrParm(ctx, "threshXhigh2");
-         rtxErrAddUIntParm(ctx, pvalue->threshXhigh2);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "threshXhigh2", -1, "EUTRA-FrequencyAndPriorityInfo-v920ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->threshXhigh2, 0, 31);
-      RT_CHECK(ctx, stat, 0, "threshXhigh2", -1, "EUTRA-FrequencyAndPriorityInfo-v920ext");
-   }
-   /* threshXlow2 */
-   if (pvalue->m & 0x4u) {
-      if ((uint64_t)pvalue->threshXlow2 > 31u) {
-         rtxErrAddStrParm(ctx, "threshXlow2");
-         rtxErrAddUIntParm(ctx, pvalue->threshXlow2);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "threshXlow2", -1, "EUTRA-FrequencyAndPriorityInfo-v920ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->threshXlow2, 0, 31);
-      RT_CHECK(ctx, stat, 0, "threshXlow2", -1, "EUTRA-FrequencyAndPriorityInfo-v920ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_EUTRA_FrequencyAndPriorityInfoList(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyAndPriorityInfoList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-FrequencyAndPriorityInfoList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "EUTRA-FrequencyAndPriorityInfoList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "EUTRA-FrequencyAndPriorityInfo", (int32_t)i, "EUTRA-FrequencyAndPriorityInfoList");
-      stat = asn1PE_UMTS_EUTRA_FrequencyAndPriorityInfo(ctx, (const EUTRA_FrequencyAndPriorityInfo*)node->data);
-      RT_CHECK(ctx, stat, 0, "EUTRA-FrequencyAndPriorityInfo", (int32_t)i, "EUTRA-FrequencyAndPriorityInfoList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_EUTRA_FrequencyAndPriorityInfoList_v920ext(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyAndPriorityInfoList_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-FrequencyAndPriorityInfoList-v920ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "EUTRA-FrequencyAndPriorityInfoList-v920ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "EUTRA-FrequencyAndPriorityInfo-v920ext", (int32_t)i, "EUTRA-FrequencyAndPriorityInfoList-v920ext");
-      stat = asn1PE_UMTS_EUTRA_FrequencyAndPriorityInfo_v920ext(ctx, (const EUTRA_FrequencyAndPriorityInfo_v920ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "EUTRA-FrequencyAndPriorityInfo-v920ext", (int32_t)i, "EUTRA-FrequencyAndPriorityInfoList-v920ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_EUTRA_FrequencyRemoval_removeSomeFrequencies(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyRemoval_removeSomeFrequencies* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (i = 0; i < pvalue->n; i++) {
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 65535);
-      RT_CHECK(ctx, stat, "EARFCN", "EARFCN", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_EUTRA_FrequencyRemoval(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyRemoval* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-FrequencyRemoval");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "EUTRA-FrequencyRemoval");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "EUTRA-FrequencyRemoval");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
+         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e-RGCH-Information", -1, 0);
+         stat = enc_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information, cur);
+         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
          break;
       case 2:
-         if (pvalue->u.removeSomeFrequencies == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "removeSomeFrequencies", -1, "EUTRA-FrequencyRemoval");
-         stat = asn1PE_UMTS_EUTRA_FrequencyRemoval_removeSomeFrequencies(ctx, pvalue->u.removeSomeFrequencies);
-         RT_CHECK(ctx, stat, 0, "removeSomeFrequencies", -1, "EUTRA-FrequencyRemoval");
-         break;
-      case 3:
          break;
       default:
          break;
@@ -286,346 +430,698 @@ int asn1PE_UMTS_EUTRA_FrequencyRemoval(rtxContext* RT_RESTRICT ctx, const EUTRA_
    return 0;
 }
 
-int asn1PE_UMTS_EUTRA_FrequencyInfo(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_RGCH_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_RGCH_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_r8_modeSpecificInfo2_fdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8_modeSpecificInfo2_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-FrequencyInfo");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EUTRA-FrequencyInfo");
-   /* earfcn */
-   stat = pe_ConsUInt64(ctx, pvalue->earfcn, 0, 65535);
-   RT_CHECK(ctx, stat, "EARFCN", "earfcn", -1, "EUTRA-FrequencyInfo");
-   /* measurementBandwidth */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* e-HICH-Info */
    if (pvalue->m & 0x1u) {
-      if (pvalue->measurementBandwidth > 5) {
-         rtxErrAddUIntParm(ctx, pvalue->measurementBandwidth);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "EUTRA-MeasurementBandwidth", "measurementBandwidth", -1, "EUTRA-FrequencyInfo");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->measurementBandwidth, 0, 5);
-      RT_CHECK(ctx, stat, "EUTRA-MeasurementBandwidth", "measurementBandwidth", -1, "EUTRA-FrequencyInfo");
+      stat = enc_DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_HICH_Info(ctx, &pvalue->e_HICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, 0);
    }
-   /* eutra-blackListedCellList */
+   /* e-RGCH-Info */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_EUTRA_BlacklistedCellPerFreqList(ctx, &pvalue->eutra_blackListedCellList);
-      RT_CHECK(ctx, stat, 0, "eutra-blackListedCellList", -1, "EUTRA-FrequencyInfo");
+      stat = enc_DL_InformationPerRL_r8_modeSpecificInfo2_fdd_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_EUTRA_FrequencyInfoList(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyInfoList* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_fdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8_modeSpecificInfo2_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_r8_modeSpecificInfo2_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd384_tdd768(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd384_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-FrequencyInfoList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* e-HICH-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_E_HICH_Information_TDD384_768(ctx, &pvalue->e_HICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd384_tdd768(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd384_tdd768* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd384_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* e-HICH-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_E_HICH_Information_TDD128(ctx, &pvalue->e_HICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_r8_modeSpecificInfo2_tdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8_modeSpecificInfo2_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384_tdd768 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd384-tdd768", -1, 0);
+         stat = enc_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd384_tdd768(ctx, pvalue->u.tdd384_tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384-tdd768", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_DL_InformationPerRL_r8_modeSpecificInfo2_tdd_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2_tdd(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8_modeSpecificInfo2_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_r8_modeSpecificInfo2_tdd, pvalue);
+}
+
+static int enc_DL_InformationPerRL_r8_modeSpecificInfo2(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8_modeSpecificInfo2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_DL_InformationPerRL_r8_modeSpecificInfo2_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_DL_InformationPerRL_r8_modeSpecificInfo2_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_r8_modeSpecificInfo2(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8_modeSpecificInfo2* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_r8_modeSpecificInfo2, pvalue);
+}
+
+static int enc_DL_InformationPerRL_r8(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerRL-r8");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-InformationPerRL-r8");
+   /* modeSpecificInfo */
+   stat = enc_DL_InformationPerRL_r8_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "DL-InformationPerRL-r8");
+   /* dl-dpchInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DL_InformationPerRL_r8_dl_dpchInfo(ctx, &pvalue->dl_dpchInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dl-dpchInfo", -1, "DL-InformationPerRL-r8");
+   }
+   /* e-AGCH-Information */
+   if (pvalue->m & 0x2u) {
+      stat = enc_E_AGCH_Information_r8(ctx, &pvalue->e_AGCH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "e-AGCH-Information", -1, "DL-InformationPerRL-r8");
+   }
+   /* modeSpecificInfo2 */
+   stat = enc_DL_InformationPerRL_r8_modeSpecificInfo2(ctx, &pvalue->modeSpecificInfo2, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo2", -1, "DL-InformationPerRL-r8");
+   /* cell-id */
+   if (pvalue->m & 0x4u) {
+      stat = enc_CellIdentity(ctx, pvalue->cell_id, cur);
+      RT_CHECK(ctx, stat, 0, "cell-id", -1, "DL-InformationPerRL-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_r8(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_r8, pvalue);
+}
+
+static int enc_DL_InformationPerRL_List(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerRL-List");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "EUTRA-FrequencyInfoList");
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DL-InformationPerRL-List");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "EUTRA-FrequencyInfo", (int32_t)i, "EUTRA-FrequencyInfoList");
-      stat = asn1PE_UMTS_EUTRA_FrequencyInfo(ctx, (const EUTRA_FrequencyInfo*)node->data);
-      RT_CHECK(ctx, stat, 0, "EUTRA-FrequencyInfo", (int32_t)i, "EUTRA-FrequencyInfoList");
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DL-InformationPerRL", (int32_t)i, "DL-InformationPerRL-List");
+      stat = enc_DL_InformationPerRL(ctx, (const DL_InformationPerRL*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL", (int32_t)i, "DL-InformationPerRL-List");
    }
    return 0;
 }
 
-int asn1PE_UMTS_EUTRA_FrequencyList(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyList* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_InformationPerRL_List(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_List* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-FrequencyList");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EUTRA-FrequencyList");
-   /* eutraFrequencyRemoval */
-   stat = asn1PE_UMTS_EUTRA_FrequencyRemoval(ctx, &pvalue->eutraFrequencyRemoval);
-   RT_CHECK(ctx, stat, 0, "eutraFrequencyRemoval", -1, "EUTRA-FrequencyList");
-   /* eutraNewFrequencies */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_EUTRA_FrequencyInfoList(ctx, &pvalue->eutraNewFrequencies);
-      RT_CHECK(ctx, stat, 0, "eutraNewFrequencies", -1, "EUTRA-FrequencyList");
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_List, pvalue);
 }
 
-int asn1PE_UMTS_EUTRA_SIAcquisition(rtxContext* RT_RESTRICT ctx, const EUTRA_SIAcquisition* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_DL_InformationPerRL_List_r4(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_List_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-SIAcquisition");
-   /* earfcn */
-   stat = pe_ConsUInt64(ctx, pvalue->earfcn, 0, 65535);
-   RT_CHECK(ctx, stat, "EARFCN", "earfcn", -1, "EUTRA-SIAcquisition");
-   /* physicalCellIdentity */
-   if ((uint64_t)pvalue->physicalCellIdentity > 503u) {
-      rtxErrAddStrParm(ctx, "EUTRA-PhysicalCellIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->physicalCellIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "EUTRA-PhysicalCellIdentity", "physicalCellIdentity", -1, "EUTRA-SIAcquisition");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->physicalCellIdentity, 0, 503);
-   RT_CHECK(ctx, stat, "EUTRA-PhysicalCellIdentity", "physicalCellIdentity", -1, "EUTRA-SIAcquisition");
-   return 0;
-}
-
-int asn1PE_UMTS_EUTRA_FrequencyList_r9(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyList_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-FrequencyList-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EUTRA-FrequencyList-r9");
-   /* eutraFrequencyRemoval */
-   stat = asn1PE_UMTS_EUTRA_FrequencyRemoval(ctx, &pvalue->eutraFrequencyRemoval);
-   RT_CHECK(ctx, stat, 0, "eutraFrequencyRemoval", -1, "EUTRA-FrequencyList-r9");
-   /* eutraNewFrequencies */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_EUTRA_FrequencyInfoList(ctx, &pvalue->eutraNewFrequencies);
-      RT_CHECK(ctx, stat, 0, "eutraNewFrequencies", -1, "EUTRA-FrequencyList-r9");
-   }
-   /* eutraSIAcquisition */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_EUTRA_SIAcquisition(ctx, &pvalue->eutraSIAcquisition);
-      RT_CHECK(ctx, stat, 0, "eutraSIAcquisition", -1, "EUTRA-FrequencyList-r9");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_EUTRA_MeasuredCells(rtxContext* RT_RESTRICT ctx, const EUTRA_MeasuredCells* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-MeasuredCells");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EUTRA-MeasuredCells");
-   /* physicalCellIdentity */
-   if ((uint64_t)pvalue->physicalCellIdentity > 503u) {
-      rtxErrAddStrParm(ctx, "EUTRA-PhysicalCellIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->physicalCellIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "EUTRA-PhysicalCellIdentity", "physicalCellIdentity", -1, "EUTRA-MeasuredCells");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->physicalCellIdentity, 0, 503);
-   RT_CHECK(ctx, stat, "EUTRA-PhysicalCellIdentity", "physicalCellIdentity", -1, "EUTRA-MeasuredCells");
-   /* rSRP */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->rSRP > 97u) {
-         rtxErrAddStrParm(ctx, "rSRP");
-         rtxErrAddUIntParm(ctx, pvalue->rSRP);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rSRP", -1, "EUTRA-MeasuredCells");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->rSRP, 0, 97);
-      RT_CHECK(ctx, stat, 0, "rSRP", -1, "EUTRA-MeasuredCells");
-   }
-   /* rSRQ */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->rSRQ > 33u) {
-         rtxErrAddStrParm(ctx, "rSRQ");
-         rtxErrAddUIntParm(ctx, pvalue->rSRQ);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "rSRQ", -1, "EUTRA-MeasuredCells");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->rSRQ, 0, 33);
-      RT_CHECK(ctx, stat, 0, "rSRQ", -1, "EUTRA-MeasuredCells");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Eutra_MeasuredResult_measuredEUTRACells(rtxContext* RT_RESTRICT ctx, const Eutra_MeasuredResult_measuredEUTRACells* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerRL-List-r4");
    const rtxDListNode* node;
    uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DL-InformationPerRL-List-r4");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "EUTRA-MeasuredCells", (int32_t)i, 0);
-      stat = asn1PE_UMTS_EUTRA_MeasuredCells(ctx, (const EUTRA_MeasuredCells*)node->data);
-      RT_CHECK(ctx, stat, 0, "EUTRA-MeasuredCells", (int32_t)i, 0);
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DL-InformationPerRL-r4", (int32_t)i, "DL-InformationPerRL-List-r4");
+      stat = enc_DL_InformationPerRL_r4(ctx, (const DL_InformationPerRL_r4*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL-r4", (int32_t)i, "DL-InformationPerRL-List-r4");
    }
    return 0;
 }
 
-int asn1PE_UMTS_Eutra_MeasuredResult(rtxContext* RT_RESTRICT ctx, const Eutra_MeasuredResult* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_InformationPerRL_List_r4(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_List_r4* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Eutra-MeasuredResult");
-   /* earfcn */
-   stat = pe_ConsUInt64(ctx, pvalue->earfcn, 0, 65535);
-   RT_CHECK(ctx, stat, "EARFCN", "earfcn", -1, "Eutra-MeasuredResult");
-   /* measuredEUTRACells */
-   stat = asn1PE_UMTS_Eutra_MeasuredResult_measuredEUTRACells(ctx, &pvalue->measuredEUTRACells);
-   RT_CHECK(ctx, stat, 0, "measuredEUTRACells", -1, "Eutra-MeasuredResult");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_List_r4, pvalue);
 }
 
-int asn1PE_UMTS_Eutra_MeasuredResultList(rtxContext* RT_RESTRICT ctx, const Eutra_MeasuredResultList* RT_RESTRICT pvalue)
+static int enc_DL_InformationPerRL_List_r5(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_List_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Eutra-MeasuredResultList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerRL-List-r5");
    const rtxDListNode* node;
    uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "Eutra-MeasuredResultList");
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DL-InformationPerRL-List-r5");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "Eutra-MeasuredResult", (int32_t)i, "Eutra-MeasuredResultList");
-      stat = asn1PE_UMTS_Eutra_MeasuredResult(ctx, (const Eutra_MeasuredResult*)node->data);
-      RT_CHECK(ctx, stat, 0, "Eutra-MeasuredResult", (int32_t)i, "Eutra-MeasuredResultList");
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DL-InformationPerRL-r5", (int32_t)i, "DL-InformationPerRL-List-r5");
+      stat = enc_DL_InformationPerRL_r5(ctx, (const DL_InformationPerRL_r5*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL-r5", (int32_t)i, "DL-InformationPerRL-List-r5");
    }
    return 0;
 }
 
-int asn1PE_UMTS_EUTRA_MeasuredResults(rtxContext* RT_RESTRICT ctx, const EUTRA_MeasuredResults* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_InformationPerRL_List_r5(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_List_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_List_r5, pvalue);
+}
+
+static int enc_DL_InformationPerRL_List_r6(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_List_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-MeasuredResults");
-   /* eutraMeasuredResultList */
-   stat = asn1PE_UMTS_Eutra_MeasuredResultList(ctx, &pvalue->eutraMeasuredResultList);
-   RT_CHECK(ctx, stat, 0, "eutraMeasuredResultList", -1, "EUTRA-MeasuredResults");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerRL-List-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DL-InformationPerRL-List-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DL-InformationPerRL-r6", (int32_t)i, "DL-InformationPerRL-List-r6");
+      stat = enc_DL_InformationPerRL_r6(ctx, (const DL_InformationPerRL_r6*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL-r6", (int32_t)i, "DL-InformationPerRL-List-r6");
+   }
    return 0;
 }
 
-int asn1PE_UMTS_EUTRA_SIacquisitionResults_cgiInfo(rtxContext* RT_RESTRICT ctx, const EUTRA_SIacquisitionResults_cgiInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_InformationPerRL_List_r6(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_List_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_List_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_List_v6b0ext(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_List_v6b0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* plmn-Identity */
-   stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->plmn_Identity);
-   RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, 0);
-   /* cellIdentity */
-   RT_SET_SIZE(ctx, 28, 28);
-   stat = pe_BitString32(ctx, &pvalue->cellIdentity, 28, 28);
-   RT_CHECK(ctx, stat, 0, "cellIdentity", -1, 0);
-   /* trackingAreaCode */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->trackingAreaCode, 16, 16);
-   RT_CHECK(ctx, stat, 0, "trackingAreaCode", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerRL-List-v6b0ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DL-InformationPerRL-List-v6b0ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DL-InformationPerRL-v6b0ext", (int32_t)i, "DL-InformationPerRL-List-v6b0ext");
+      stat = enc_DL_InformationPerRL_v6b0ext(ctx, (const DL_InformationPerRL_v6b0ext*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL-v6b0ext", (int32_t)i, "DL-InformationPerRL-List-v6b0ext");
+   }
    return 0;
 }
 
-int asn1PE_UMTS_EUTRA_SIacquisitionResults_csgMemberIndication(rtxContext* RT_RESTRICT ctx, EUTRA_SIacquisitionResults_csgMemberIndication value)
+int asn1PE_UMTS_DL_InformationPerRL_List_v6b0ext(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_List_v6b0ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_List_v6b0ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_List_r5bis(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_List_r5bis* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerRL-List-r5bis");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DL-InformationPerRL-List-r5bis");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DL-InformationPerRL-r5bis", (int32_t)i, "DL-InformationPerRL-List-r5bis");
+      stat = enc_DL_InformationPerRL_r5bis(ctx, (const DL_InformationPerRL_r5bis*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL-r5bis", (int32_t)i, "DL-InformationPerRL-List-r5bis");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_List_r5bis(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_List_r5bis* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_List_r5bis, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_List_r7(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_List_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerRL-List-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DL-InformationPerRL-List-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DL-InformationPerRL-r7", (int32_t)i, "DL-InformationPerRL-List-r7");
+      stat = enc_DL_InformationPerRL_r7(ctx, (const DL_InformationPerRL_r7*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL-r7", (int32_t)i, "DL-InformationPerRL-List-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_List_r7(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_List_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_List_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_List_r8(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_List_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerRL-List-r8");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DL-InformationPerRL-List-r8");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DL-InformationPerRL-r8", (int32_t)i, "DL-InformationPerRL-List-r8");
+      stat = enc_DL_InformationPerRL_r8(ctx, (const DL_InformationPerRL_r8*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL-r8", (int32_t)i, "DL-InformationPerRL-List-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_List_r8(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_List_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_List_r8, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_PostFDD(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_PostFDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerRL-PostFDD");
+   /* primaryCPICH-Info */
+   stat = enc_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "DL-InformationPerRL-PostFDD");
+   /* dl-DPCH-InfoPerRL */
+   stat = enc_DL_DPCH_InfoPerRL_PostFDD(ctx, &pvalue->dl_DPCH_InfoPerRL, cur);
+   RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, "DL-InformationPerRL-PostFDD");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_PostFDD(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_PostFDD* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_PostFDD, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_ListPostFDD(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_ListPostFDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerRL-ListPostFDD");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DL-InformationPerRL-ListPostFDD");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DL-InformationPerRL-PostFDD", (int32_t)i, "DL-InformationPerRL-ListPostFDD");
+      stat = enc_DL_InformationPerRL_PostFDD(ctx, (const DL_InformationPerRL_PostFDD*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DL-InformationPerRL-PostFDD", (int32_t)i, "DL-InformationPerRL-ListPostFDD");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_ListPostFDD(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_ListPostFDD* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_ListPostFDD, pvalue);
+}
+
+RT_MERGED_BODY int enc_PrimaryCCPCH_InfoPost_syncCase_syncCase1(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_InfoPost_syncCase_syncCase1* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* timeslot */
+   if ((uint64_t)pvalue->timeslot > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeslot);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber", "timeslot", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslot, 0, 14);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber", "timeslot", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PrimaryCCPCH_InfoPost_syncCase_syncCase1(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_InfoPost_syncCase_syncCase1* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PrimaryCCPCH_InfoPost_syncCase_syncCase1, pvalue);
+}
+
+RT_MERGED_BODY int enc_PrimaryCCPCH_InfoPost_syncCase_syncCase2(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_InfoPost_syncCase_syncCase2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* timeslotSync2 */
+   if ((uint64_t)pvalue->timeslotSync2 > 6u) {
+      rtxErrAddStrParm(ctx, "TimeslotSync2");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotSync2);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotSync2", "timeslotSync2", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslotSync2, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotSync2", "timeslotSync2", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PrimaryCCPCH_InfoPost_syncCase_syncCase2(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_InfoPost_syncCase_syncCase2* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PrimaryCCPCH_InfoPost_syncCase_syncCase2, pvalue);
+}
+
+RT_MERGED_BODY int enc_PrimaryCCPCH_InfoPost_syncCase(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_InfoPost_syncCase* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.syncCase1 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "syncCase1", -1, 0);
+         stat = enc_PrimaryCCPCH_InfoPost_syncCase_syncCase1(ctx, pvalue->u.syncCase1, cur);
+         RT_CHECK(ctx, stat, 0, "syncCase1", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.syncCase2 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "syncCase2", -1, 0);
+         stat = enc_PrimaryCCPCH_InfoPost_syncCase_syncCase2(ctx, pvalue->u.syncCase2, cur);
+         RT_CHECK(ctx, stat, 0, "syncCase2", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PrimaryCCPCH_InfoPost_syncCase(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_InfoPost_syncCase* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PrimaryCCPCH_InfoPost_syncCase, pvalue);
+}
+
+RT_MERGED_BODY int enc_PrimaryCCPCH_InfoPost(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_InfoPost* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PrimaryCCPCH-InfoPost");
+   /* syncCase */
+   stat = enc_PrimaryCCPCH_InfoPost_syncCase(ctx, &pvalue->syncCase, cur);
+   RT_CHECK(ctx, stat, 0, "syncCase", -1, "PrimaryCCPCH-InfoPost");
+   /* cellParametersID */
+   if ((uint64_t)pvalue->cellParametersID > 127u) {
+      rtxErrAddStrParm(ctx, "CellParametersID");
+      rtxErrAddUIntParm(ctx, pvalue->cellParametersID);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellParametersID", "cellParametersID", -1, "PrimaryCCPCH-InfoPost");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->cellParametersID, 0, 127);
+   RT_CHECK_PUT(ctx, cur, stat, "CellParametersID", "cellParametersID", -1, "PrimaryCCPCH-InfoPost");
+   /* sctd-Indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->sctd_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sctd-Indicator", -1, "PrimaryCCPCH-InfoPost");
+   return 0;
+}
+
+int asn1PE_UMTS_PrimaryCCPCH_InfoPost(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_InfoPost* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PrimaryCCPCH_InfoPost, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_PostTDD(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_PostTDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerRL-PostTDD");
+   /* primaryCCPCH-Info */
+   stat = enc_PrimaryCCPCH_InfoPost(ctx, &pvalue->primaryCCPCH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "DL-InformationPerRL-PostTDD");
+   /* dl-DPCH-InfoPerRL */
+   stat = enc_DL_DPCH_InfoPerRL_PostTDD(ctx, &pvalue->dl_DPCH_InfoPerRL, cur);
+   RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, "DL-InformationPerRL-PostTDD");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_PostTDD(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_PostTDD* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_PostTDD, pvalue);
+}
+
+RT_MERGED_BODY int enc_PrimaryCCPCH_InfoPostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_InfoPostTDD_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PrimaryCCPCH-InfoPostTDD-LCR-r4");
+   /* tstd-Indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->tstd_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tstd-Indicator", -1, "PrimaryCCPCH-InfoPostTDD-LCR-r4");
+   /* cellParametersID */
+   if ((uint64_t)pvalue->cellParametersID > 127u) {
+      rtxErrAddStrParm(ctx, "CellParametersID");
+      rtxErrAddUIntParm(ctx, pvalue->cellParametersID);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellParametersID", "cellParametersID", -1, "PrimaryCCPCH-InfoPostTDD-LCR-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->cellParametersID, 0, 127);
+   RT_CHECK_PUT(ctx, cur, stat, "CellParametersID", "cellParametersID", -1, "PrimaryCCPCH-InfoPostTDD-LCR-r4");
+   /* sctd-Indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->sctd_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sctd-Indicator", -1, "PrimaryCCPCH-InfoPostTDD-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_PrimaryCCPCH_InfoPostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, const PrimaryCCPCH_InfoPostTDD_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PrimaryCCPCH_InfoPostTDD_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_InformationPerRL_PostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_PostTDD_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-InformationPerRL-PostTDD-LCR-r4");
+   /* primaryCCPCH-Info */
+   stat = enc_PrimaryCCPCH_InfoPostTDD_LCR_r4(ctx, &pvalue->primaryCCPCH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "DL-InformationPerRL-PostTDD-LCR-r4");
+   /* dl-DPCH-InfoPerRL */
+   stat = enc_DL_DPCH_InfoPerRL_PostTDD_LCR_r4(ctx, &pvalue->dl_DPCH_InfoPerRL, cur);
+   RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, "DL-InformationPerRL-PostTDD-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_InformationPerRL_PostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, const DL_InformationPerRL_PostTDD_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_InformationPerRL_PostTDD_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_PDSCH_Information(rtxContext* RT_RESTRICT ctx, const DL_PDSCH_Information* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-PDSCH-Information");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-PDSCH-Information");
+   /* dummy1 */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PDSCH_SHO_DCH_Info(ctx, &pvalue->dummy1, cur);
+      RT_CHECK(ctx, stat, 0, "dummy1", -1, "DL-PDSCH-Information");
+   }
+   /* dummy2 */
+   if (pvalue->m & 0x2u) {
+      stat = enc_PDSCH_CodeMapping(ctx, &pvalue->dummy2, cur);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, "DL-PDSCH-Information");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_PDSCH_Information(rtxContext* RT_RESTRICT ctx, const DL_PDSCH_Information* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_PDSCH_Information, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_SecondaryCellInfoFDD_newConfiguration_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_newConfiguration_dl_64QAM_Configured value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_EUTRA_SIacquisitionResults(rtxContext* RT_RESTRICT ctx, const EUTRA_SIacquisitionResults* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_SecondaryCellInfoFDD_newConfiguration_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_newConfiguration_dl_64QAM_Configured value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_SecondaryCellInfoFDD_newConfiguration_dl_64QAM_Configured, value);
+}
+
+RT_MERGED_BODY int enc_DL_SecondaryCellInfoFDD_newConfiguration_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, const DL_SecondaryCellInfoFDD_newConfiguration_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-SIacquisitionResults");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EUTRA-SIacquisitionResults");
-   /* cgiInfo */
-   stat = asn1PE_UMTS_EUTRA_SIacquisitionResults_cgiInfo(ctx, &pvalue->cgiInfo);
-   RT_CHECK(ctx, stat, 0, "cgiInfo", -1, "EUTRA-SIacquisitionResults");
-   /* csgIdentity */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CSG_Identity(ctx, pvalue->csgIdentity);
-      RT_CHECK(ctx, stat, 0, "csgIdentity", -1, "EUTRA-SIacquisitionResults");
-   }
-   /* csgMemberIndication */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->csgMemberIndication > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->csgMemberIndication);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "csgMemberIndication", -1, "EUTRA-SIacquisitionResults");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 127u) {
+         rtxErrAddStrParm(ctx, "HS-SCCH-Codes");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
       }
-      stat = pe_ConsUInt64(ctx, pvalue->csgMemberIndication, 0, 0);
-      RT_CHECK(ctx, stat, 0, "csgMemberIndication", -1, "EUTRA-SIacquisitionResults");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 127);
+      RT_CHECK_PUT(ctx, cur, stat, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_EUTRA_MeasuredCells_v920ext(rtxContext* RT_RESTRICT ctx, const EUTRA_MeasuredCells_v920ext* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_SecondaryCellInfoFDD_newConfiguration_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, const DL_SecondaryCellInfoFDD_newConfiguration_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-MeasuredCells-v920ext");
-   /* eutraSIacquisitionResults */
-   stat = asn1PE_UMTS_EUTRA_SIacquisitionResults(ctx, &pvalue->eutraSIacquisitionResults);
-   RT_CHECK(ctx, stat, 0, "eutraSIacquisitionResults", -1, "EUTRA-MeasuredCells-v920ext");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_DL_SecondaryCellInfoFDD_newConfiguration_hS_SCCHChannelisationCodeInfo, pvalue);
 }
 
-int asn1PE_UMTS_Eutra_MeasuredResult_v920ext_measuredEUTRACells_v920ext(rtxContext* RT_RESTRICT ctx, const Eutra_MeasuredResult_v920ext_measuredEUTRACells_v920ext* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_DL_SecondaryCellInfoFDD_newConfiguration(rtxContext* RT_RESTRICT ctx, const DL_SecondaryCellInfoFDD_newConfiguration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "EUTRA-MeasuredCells-v920ext", (int32_t)i, 0);
-      stat = asn1PE_UMTS_EUTRA_MeasuredCells_v920ext(ctx, (const EUTRA_MeasuredCells_v920ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "EUTRA-MeasuredCells-v920ext", (int32_t)i, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* new-H-RNTI */
+   stat = enc_H_RNTI(ctx, pvalue->new_H_RNTI, cur);
+   RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, 0);
+   /* dl-64QAM-Configured */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->dl_64QAM_Configured > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->dl_64QAM_Configured);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "dl-64QAM-Configured", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->dl_64QAM_Configured, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "dl-64QAM-Configured", -1, 0);
    }
-   return 0;
-}
-
-int asn1PE_UMTS_Eutra_MeasuredResult_v920ext(rtxContext* RT_RESTRICT ctx, const Eutra_MeasuredResult_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Eutra-MeasuredResult-v920ext");
-   /* measuredEUTRACells-v920ext */
-   stat = asn1PE_UMTS_Eutra_MeasuredResult_v920ext_measuredEUTRACells_v920ext(ctx, &pvalue->measuredEUTRACells_v920ext);
-   RT_CHECK(ctx, stat, 0, "measuredEUTRACells-v920ext", -1, "Eutra-MeasuredResult-v920ext");
-   return 0;
-}
-
-int asn1PE_UMTS_Eutra_MeasuredResultList_v920ext(rtxContext* RT_RESTRICT ctx, const Eutra_MeasuredResultList_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Eutra-MeasuredResultList-v920ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "Eutra-MeasuredResultList-v920ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "Eutra-MeasuredResult-v920ext", (int32_t)i, "Eutra-MeasuredResultList-v920ext");
-      stat = asn1PE_UMTS_Eutra_MeasuredResult_v920ext(ctx, (const Eutra_MeasuredResult_v920ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "Eutra-MeasuredResult-v920ext", (int32_t)i, "Eutra-MeasuredResultList-v920ext");
+   /* hs-DSCH-TBSizeTable */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->hs_DSCH_TBSizeTable > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->hs_DSCH_TBSizeTable);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->hs_DSCH_TBSizeTable, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, 0);
    }
+   /* primaryCPICH-Info */
+   stat = enc_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   /* dl-ScramblingCode */
+   if (pvalue->m & 0x4u) {
+      if ((uint64_t)(pvalue->dl_ScramblingCode - 1) > 14u) {
+         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
+         rtxErrAddUIntParm(ctx, pvalue->dl_ScramblingCode);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->dl_ScramblingCode, 1, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
+   }
+   /* hS-SCCHChannelisationCodeInfo */
+   stat = enc_DL_SecondaryCellInfoFDD_newConfiguration_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo, cur);
+   RT_CHECK(ctx, stat, 0, "hS-SCCHChannelisationCodeInfo", -1, 0);
+   /* measurementPowerOffset */
+   if (pvalue->measurementPowerOffset < -12 || pvalue->measurementPowerOffset > 26) {
+      rtxErrAddStrParm(ctx, "MeasurementPowerOffset");
+      rtxErrAddIntParm(ctx, pvalue->measurementPowerOffset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MeasurementPowerOffset", "measurementPowerOffset", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->measurementPowerOffset, -12, 26);
+   RT_CHECK_PUT(ctx, cur, stat, "MeasurementPowerOffset", "measurementPowerOffset", -1, 0);
+   /* uarfcn-DL */
+   if ((uint64_t)pvalue->uarfcn_DL > 16383u) {
+      rtxErrAddStrParm(ctx, "UARFCN");
+      rtxErrAddUIntParm(ctx, pvalue->uarfcn_DL);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UARFCN", "uarfcn-DL", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->uarfcn_DL, 0, 16383);
+   RT_CHECK_PUT(ctx, cur, stat, "UARFCN", "uarfcn-DL", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_EUTRA_MeasuredResults_v920ext(rtxContext* RT_RESTRICT ctx, const EUTRA_MeasuredResults_v920ext* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_SecondaryCellInfoFDD_newConfiguration(rtxContext* RT_RESTRICT ctx, const DL_SecondaryCellInfoFDD_newConfiguration* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-MeasuredResults-v920ext");
-   /* eutraMeasuredResultList-v920ext */
-   stat = asn1PE_UMTS_Eutra_MeasuredResultList_v920ext(ctx, &pvalue->eutraMeasuredResultList_v920ext);
-   RT_CHECK(ctx, stat, 0, "eutraMeasuredResultList-v920ext", -1, "EUTRA-MeasuredResults-v920ext");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_DL_SecondaryCellInfoFDD_newConfiguration, pvalue);
 }
 
-int asn1PE_UMTS_ForbiddenAffectCell_r4(rtxContext* RT_RESTRICT ctx, const ForbiddenAffectCell_r4* RT_RESTRICT pvalue)
+static int enc_DL_SecondaryCellInfoFDD(rtxContext* RT_RESTRICT ctx, const DL_SecondaryCellInfoFDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ForbiddenAffectCell-r4");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "ForbiddenAffectCell-r4");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ForbiddenAffectCell-r4");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-SecondaryCellInfoFDD");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "DL-SecondaryCellInfoFDD");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "DL-SecondaryCellInfoFDD");
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, "ForbiddenAffectCell-r4");
-         stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, "ForbiddenAffectCell-r4");
          break;
       case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, "ForbiddenAffectCell-r4");
-         stat = asn1PE_UMTS_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, "ForbiddenAffectCell-r4");
+         if (pvalue->u.newConfiguration == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "newConfiguration", -1, "DL-SecondaryCellInfoFDD");
+         stat = enc_DL_SecondaryCellInfoFDD_newConfiguration(ctx, pvalue->u.newConfiguration, cur);
+         RT_CHECK(ctx, stat, 0, "newConfiguration", -1, "DL-SecondaryCellInfoFDD");
          break;
       default:
          break;
@@ -633,1539 +1129,904 @@ int asn1PE_UMTS_ForbiddenAffectCell_r4(rtxContext* RT_RESTRICT ctx, const Forbid
    return 0;
 }
 
-int asn1PE_UMTS_ForbiddenAffectCellList_r4(rtxContext* RT_RESTRICT ctx, const ForbiddenAffectCellList_r4* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_SecondaryCellInfoFDD(rtxContext* RT_RESTRICT ctx, const DL_SecondaryCellInfoFDD* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ForbiddenAffectCellList-r4");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "ForbiddenAffectCellList-r4");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ForbiddenAffectCell-r4", (int32_t)i, "ForbiddenAffectCellList-r4");
-      stat = asn1PE_UMTS_ForbiddenAffectCell_r4(ctx, (const ForbiddenAffectCell_r4*)node->data);
-      RT_CHECK(ctx, stat, 0, "ForbiddenAffectCell-r4", (int32_t)i, "ForbiddenAffectCellList-r4");
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_DL_SecondaryCellInfoFDD, pvalue);
 }
 
-int asn1PE_UMTS_Event1a_r4(rtxContext* RT_RESTRICT ctx, const Event1a_r4* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_DL_SecondaryCellInfoFDD_v890ext_differentTxModeFromServingHS_DSCHCell(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_v890ext_differentTxModeFromServingHS_DSCHCell value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event1a-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event1a-r4");
-   /* triggeringCondition */
-   if (pvalue->triggeringCondition > 4) {
-      rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TriggeringCondition2", "triggeringCondition", -1, "Event1a-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 4);
-   RT_CHECK(ctx, stat, "TriggeringCondition2", "triggeringCondition", -1, "Event1a-r4");
-   /* reportingRange */
-   if ((uint64_t)pvalue->reportingRange > 29u) {
-      rtxErrAddStrParm(ctx, "ReportingRange");
-      rtxErrAddUIntParm(ctx, pvalue->reportingRange);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "ReportingRange", "reportingRange", -1, "Event1a-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingRange, 0, 29);
-   RT_CHECK(ctx, stat, "ReportingRange", "reportingRange", -1, "Event1a-r4");
-   /* forbiddenAffectCellList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ForbiddenAffectCellList_r4(ctx, &pvalue->forbiddenAffectCellList);
-      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellList", -1, "Event1a-r4");
-   }
-   /* w */
-   if ((uint64_t)pvalue->w > 20u) {
-      rtxErrAddStrParm(ctx, "W");
-      rtxErrAddUIntParm(ctx, pvalue->w);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "w", -1, "Event1a-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->w, 0, 20);
-   RT_CHECK(ctx, stat, "W", "w", -1, "Event1a-r4");
-   /* reportDeactivationThreshold */
-   if (pvalue->reportDeactivationThreshold > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->reportDeactivationThreshold);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportDeactivationThreshold", "reportDeactivationThreshold", -1, "Event1a-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportDeactivationThreshold, 0, 7);
-   RT_CHECK(ctx, stat, "ReportDeactivationThreshold", "reportDeactivationThreshold", -1, "Event1a-r4");
-   /* reportingAmount */
-   if (pvalue->reportingAmount > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->reportingAmount);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportingAmount", "reportingAmount", -1, "Event1a-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingAmount, 0, 7);
-   RT_CHECK(ctx, stat, "ReportingAmount", "reportingAmount", -1, "Event1a-r4");
-   /* reportingInterval */
-   if (pvalue->reportingInterval > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->reportingInterval);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportingInterval", "reportingInterval", -1, "Event1a-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingInterval, 0, 7);
-   RT_CHECK(ctx, stat, "ReportingInterval", "reportingInterval", -1, "Event1a-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_ForbiddenAffectCellOnSecULFreq(rtxContext* RT_RESTRICT ctx, const ForbiddenAffectCellOnSecULFreq* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ForbiddenAffectCellOnSecULFreq");
-   /* primaryCPICH */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH", -1, "ForbiddenAffectCellOnSecULFreq");
-   return 0;
-}
-
-int asn1PE_UMTS_ForbiddenAffectCellListOnSecULFreq(rtxContext* RT_RESTRICT ctx, const ForbiddenAffectCellListOnSecULFreq* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ForbiddenAffectCellListOnSecULFreq");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "ForbiddenAffectCellListOnSecULFreq");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ForbiddenAffectCellOnSecULFreq", (int32_t)i, "ForbiddenAffectCellListOnSecULFreq");
-      stat = asn1PE_UMTS_ForbiddenAffectCellOnSecULFreq(ctx, (const ForbiddenAffectCellOnSecULFreq*)node->data);
-      RT_CHECK(ctx, stat, 0, "ForbiddenAffectCellOnSecULFreq", (int32_t)i, "ForbiddenAffectCellListOnSecULFreq");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Event1a_OnSecUlFreq_r9(rtxContext* RT_RESTRICT ctx, const Event1a_OnSecUlFreq_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event1a-OnSecUlFreq-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event1a-OnSecUlFreq-r9");
-   /* triggeringCondition */
-   if (pvalue->triggeringCondition > 4) {
-      rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TriggeringCondition2", "triggeringCondition", -1, "Event1a-OnSecUlFreq-r9");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 4);
-   RT_CHECK(ctx, stat, "TriggeringCondition2", "triggeringCondition", -1, "Event1a-OnSecUlFreq-r9");
-   /* reportingRange */
-   if ((uint64_t)pvalue->reportingRange > 29u) {
-      rtxErrAddStrParm(ctx, "ReportingRange");
-      rtxErrAddUIntParm(ctx, pvalue->reportingRange);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "ReportingRange", "reportingRange", -1, "Event1a-OnSecUlFreq-r9");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingRange, 0, 29);
-   RT_CHECK(ctx, stat, "ReportingRange", "reportingRange", -1, "Event1a-OnSecUlFreq-r9");
-   /* forbiddenAffectCellListOnSecULFreq */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ForbiddenAffectCellListOnSecULFreq(ctx, &pvalue->forbiddenAffectCellListOnSecULFreq);
-      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellListOnSecULFreq", -1, "Event1a-OnSecUlFreq-r9");
-   }
-   /* w */
-   if ((uint64_t)pvalue->w > 20u) {
-      rtxErrAddStrParm(ctx, "W");
-      rtxErrAddUIntParm(ctx, pvalue->w);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "w", -1, "Event1a-OnSecUlFreq-r9");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->w, 0, 20);
-   RT_CHECK(ctx, stat, "W", "w", -1, "Event1a-OnSecUlFreq-r9");
-   /* reportDeactivationThreshold */
-   if (pvalue->reportDeactivationThreshold > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->reportDeactivationThreshold);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportDeactivationThreshold", "reportDeactivationThreshold", -1, "Event1a-OnSecUlFreq-r9");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportDeactivationThreshold, 0, 7);
-   RT_CHECK(ctx, stat, "ReportDeactivationThreshold", "reportDeactivationThreshold", -1, "Event1a-OnSecUlFreq-r9");
-   /* reportingAmount */
-   if (pvalue->reportingAmount > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->reportingAmount);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportingAmount", "reportingAmount", -1, "Event1a-OnSecUlFreq-r9");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingAmount, 0, 7);
-   RT_CHECK(ctx, stat, "ReportingAmount", "reportingAmount", -1, "Event1a-OnSecUlFreq-r9");
-   /* reportingInterval */
-   if (pvalue->reportingInterval > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->reportingInterval);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportingInterval", "reportingInterval", -1, "Event1a-OnSecUlFreq-r9");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingInterval, 0, 7);
-   RT_CHECK(ctx, stat, "ReportingInterval", "reportingInterval", -1, "Event1a-OnSecUlFreq-r9");
-   return 0;
-}
-
-int asn1PE_UMTS_Event1b_r4(rtxContext* RT_RESTRICT ctx, const Event1b_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event1b-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event1b-r4");
-   /* triggeringCondition */
-   if (pvalue->triggeringCondition > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TriggeringCondition1", "triggeringCondition", -1, "Event1b-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 2);
-   RT_CHECK(ctx, stat, "TriggeringCondition1", "triggeringCondition", -1, "Event1b-r4");
-   /* reportingRange */
-   if ((uint64_t)pvalue->reportingRange > 29u) {
-      rtxErrAddStrParm(ctx, "ReportingRange");
-      rtxErrAddUIntParm(ctx, pvalue->reportingRange);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "ReportingRange", "reportingRange", -1, "Event1b-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingRange, 0, 29);
-   RT_CHECK(ctx, stat, "ReportingRange", "reportingRange", -1, "Event1b-r4");
-   /* forbiddenAffectCellList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ForbiddenAffectCellList_r4(ctx, &pvalue->forbiddenAffectCellList);
-      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellList", -1, "Event1b-r4");
-   }
-   /* w */
-   if ((uint64_t)pvalue->w > 20u) {
-      rtxErrAddStrParm(ctx, "W");
-      rtxErrAddUIntParm(ctx, pvalue->w);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "w", -1, "Event1b-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->w, 0, 20);
-   RT_CHECK(ctx, stat, "W", "w", -1, "Event1b-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_Event1b_r7(rtxContext* RT_RESTRICT ctx, const Event1b_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event1b-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event1b-r7");
-   /* triggeringCondition */
-   if (pvalue->triggeringCondition > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TriggeringCondition1", "triggeringCondition", -1, "Event1b-r7");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 2);
-   RT_CHECK(ctx, stat, "TriggeringCondition1", "triggeringCondition", -1, "Event1b-r7");
-   /* reportingRange */
-   if ((uint64_t)pvalue->reportingRange > 29u) {
-      rtxErrAddStrParm(ctx, "ReportingRange");
-      rtxErrAddUIntParm(ctx, pvalue->reportingRange);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "ReportingRange", "reportingRange", -1, "Event1b-r7");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingRange, 0, 29);
-   RT_CHECK(ctx, stat, "ReportingRange", "reportingRange", -1, "Event1b-r7");
-   /* forbiddenAffectCellList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ForbiddenAffectCellList_r4(ctx, &pvalue->forbiddenAffectCellList);
-      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellList", -1, "Event1b-r7");
-   }
-   /* w */
-   if ((uint64_t)pvalue->w > 20u) {
-      rtxErrAddStrParm(ctx, "W");
-      rtxErrAddUIntParm(ctx, pvalue->w);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "w", -1, "Event1b-r7");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->w, 0, 20);
-   RT_CHECK(ctx, stat, "W", "w", -1, "Event1b-r7");
-   /* periodicReportingInfo-1b */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_PeriodicReportingInfo_1b(ctx, &pvalue->periodicReportingInfo_1b);
-      RT_CHECK(ctx, stat, 0, "periodicReportingInfo-1b", -1, "Event1b-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Event1b_OnSecUlFreq_r9(rtxContext* RT_RESTRICT ctx, const Event1b_OnSecUlFreq_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event1b-OnSecUlFreq-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event1b-OnSecUlFreq-r9");
-   /* triggeringCondition */
-   if (pvalue->triggeringCondition > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TriggeringCondition1", "triggeringCondition", -1, "Event1b-OnSecUlFreq-r9");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 2);
-   RT_CHECK(ctx, stat, "TriggeringCondition1", "triggeringCondition", -1, "Event1b-OnSecUlFreq-r9");
-   /* reportingRange */
-   if ((uint64_t)pvalue->reportingRange > 29u) {
-      rtxErrAddStrParm(ctx, "ReportingRange");
-      rtxErrAddUIntParm(ctx, pvalue->reportingRange);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "ReportingRange", "reportingRange", -1, "Event1b-OnSecUlFreq-r9");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingRange, 0, 29);
-   RT_CHECK(ctx, stat, "ReportingRange", "reportingRange", -1, "Event1b-OnSecUlFreq-r9");
-   /* forbiddenAffectCellListOnSecULFreq */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ForbiddenAffectCellListOnSecULFreq(ctx, &pvalue->forbiddenAffectCellListOnSecULFreq);
-      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellListOnSecULFreq", -1, "Event1b-OnSecUlFreq-r9");
-   }
-   /* w */
-   if ((uint64_t)pvalue->w > 20u) {
-      rtxErrAddStrParm(ctx, "W");
-      rtxErrAddUIntParm(ctx, pvalue->w);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "w", -1, "Event1b-OnSecUlFreq-r9");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->w, 0, 20);
-   RT_CHECK(ctx, stat, "W", "w", -1, "Event1b-OnSecUlFreq-r9");
-   /* periodicReportingInfo-1b */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_PeriodicReportingInfo_1b(ctx, &pvalue->periodicReportingInfo_1b);
-      RT_CHECK(ctx, stat, 0, "periodicReportingInfo-1b", -1, "Event1b-OnSecUlFreq-r9");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Event1d(rtxContext* RT_RESTRICT ctx, const Event1d* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event1d");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event1d");
-   /* triggeringCondition */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->triggeringCondition > 4) {
-         rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "TriggeringCondition2", "triggeringCondition", -1, "Event1d");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 4);
-      RT_CHECK(ctx, stat, "TriggeringCondition2", "triggeringCondition", -1, "Event1d");
-   }
-   /* useCIO */
-   if (pvalue->m & 0x2u) {
-      stat = rtxEncBit(ctx, pvalue->useCIO);
-      RT_CHECK(ctx, stat, 0, "useCIO", -1, "Event1d");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ThresholdUsedFrequency_r6(rtxContext* RT_RESTRICT ctx, ThresholdUsedFrequency_r6 value)
-{
-   int stat = 0;
-   if (value < -120 || value > 165) {
-      rtxErrAddStrParm(ctx, "ThresholdUsedFrequency-r6");
-      rtxErrAddIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "ThresholdUsedFrequency-r6");
-   }
-   stat = pe_ConsInt64(ctx, value, -120, 165);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ThresholdUsedFrequency-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_Event1e_r6(rtxContext* RT_RESTRICT ctx, const Event1e_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event1e-r6");
-   /* triggeringCondition */
-   if (pvalue->triggeringCondition > 4) {
-      rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TriggeringCondition2", "triggeringCondition", -1, "Event1e-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 4);
-   RT_CHECK(ctx, stat, "TriggeringCondition2", "triggeringCondition", -1, "Event1e-r6");
-   /* thresholdUsedFrequency */
-   if (pvalue->thresholdUsedFrequency < -120 || pvalue->thresholdUsedFrequency > 165) {
-      rtxErrAddStrParm(ctx, "ThresholdUsedFrequency-r6");
-      rtxErrAddIntParm(ctx, pvalue->thresholdUsedFrequency);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "ThresholdUsedFrequency-r6", "thresholdUsedFrequency", -1, "Event1e-r6");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->thresholdUsedFrequency, -120, 165);
-   RT_CHECK(ctx, stat, "ThresholdUsedFrequency-r6", "thresholdUsedFrequency", -1, "Event1e-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_Event1f_r6(rtxContext* RT_RESTRICT ctx, const Event1f_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event1f-r6");
-   /* triggeringCondition */
-   if (pvalue->triggeringCondition > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TriggeringCondition1", "triggeringCondition", -1, "Event1f-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->triggeringCondition, 0, 2);
-   RT_CHECK(ctx, stat, "TriggeringCondition1", "triggeringCondition", -1, "Event1f-r6");
-   /* thresholdUsedFrequency */
-   if (pvalue->thresholdUsedFrequency < -120 || pvalue->thresholdUsedFrequency > 165) {
-      rtxErrAddStrParm(ctx, "ThresholdUsedFrequency-r6");
-      rtxErrAddIntParm(ctx, pvalue->thresholdUsedFrequency);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "ThresholdUsedFrequency-r6", "thresholdUsedFrequency", -1, "Event1f-r6");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->thresholdUsedFrequency, -120, 165);
-   RT_CHECK(ctx, stat, "ThresholdUsedFrequency-r6", "thresholdUsedFrequency", -1, "Event1f-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_Event1j_r6(rtxContext* RT_RESTRICT ctx, const Event1j_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event1j-r6");
-   /* replacementActivationThreshold */
-   if (pvalue->replacementActivationThreshold > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->replacementActivationThreshold);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ReplacementActivationThreshold", "replacementActivationThreshold", -1, "Event1j-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->replacementActivationThreshold, 0, 7);
-   RT_CHECK(ctx, stat, "ReplacementActivationThreshold", "replacementActivationThreshold", -1, "Event1j-r6");
-   /* reportingAmount */
-   if (pvalue->reportingAmount > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->reportingAmount);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportingAmount", "reportingAmount", -1, "Event1j-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingAmount, 0, 7);
-   RT_CHECK(ctx, stat, "ReportingAmount", "reportingAmount", -1, "Event1j-r6");
-   /* reportingInterval */
-   if (pvalue->reportingInterval > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->reportingInterval);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportingInterval", "reportingInterval", -1, "Event1j-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingInterval, 0, 7);
-   RT_CHECK(ctx, stat, "ReportingInterval", "reportingInterval", -1, "Event1j-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_HysteresisInterFreq(rtxContext* RT_RESTRICT ctx, HysteresisInterFreq value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 29u) {
-      rtxErrAddStrParm(ctx, "HysteresisInterFreq");
+   if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "HysteresisInterFreq");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 29);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HysteresisInterFreq");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_NonUsedFreqParameter(rtxContext* RT_RESTRICT ctx, const NonUsedFreqParameter* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_SecondaryCellInfoFDD_v890ext_differentTxModeFromServingHS_DSCHCell(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_v890ext_differentTxModeFromServingHS_DSCHCell value)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NonUsedFreqParameter");
-   /* nonUsedFreqThreshold */
-   if (pvalue->nonUsedFreqThreshold < -115 || pvalue->nonUsedFreqThreshold > 0) {
-      rtxErrAddStrParm(ctx, "Threshold");
-      rtxErrAddIntParm(ctx, pvalue->nonUsedFreqThreshold);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Threshold", "nonUsedFreqThreshold", -1, "NonUsedFreqParameter");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->nonUsedFreqThreshold, -115, 0);
-   RT_CHECK(ctx, stat, "Threshold", "nonUsedFreqThreshold", -1, "NonUsedFreqParameter");
-   /* nonUsedFreqW */
-   if ((uint64_t)pvalue->nonUsedFreqW > 20u) {
-      rtxErrAddStrParm(ctx, "W");
-      rtxErrAddUIntParm(ctx, pvalue->nonUsedFreqW);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "nonUsedFreqW", -1, "NonUsedFreqParameter");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->nonUsedFreqW, 0, 20);
-   RT_CHECK(ctx, stat, "W", "nonUsedFreqW", -1, "NonUsedFreqParameter");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_DL_SecondaryCellInfoFDD_v890ext_differentTxModeFromServingHS_DSCHCell, value);
 }
 
-int asn1PE_UMTS_NonUsedFreqParameterList(rtxContext* RT_RESTRICT ctx, const NonUsedFreqParameterList* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_DL_SecondaryCellInfoFDD_v890ext(rtxContext* RT_RESTRICT ctx, const DL_SecondaryCellInfoFDD_v890ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NonUsedFreqParameterList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NonUsedFreqParameterList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NonUsedFreqParameter", (int32_t)i, "NonUsedFreqParameterList");
-      stat = asn1PE_UMTS_NonUsedFreqParameter(ctx, (const NonUsedFreqParameter*)node->data);
-      RT_CHECK(ctx, stat, 0, "NonUsedFreqParameter", (int32_t)i, "NonUsedFreqParameterList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Event2a(rtxContext* RT_RESTRICT ctx, const Event2a* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event2a");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-SecondaryCellInfoFDD-v890ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event2a");
-   /* dummy */
-   if (pvalue->dummy < -115 || pvalue->dummy > 0) {
-      rtxErrAddStrParm(ctx, "Threshold");
-      rtxErrAddIntParm(ctx, pvalue->dummy);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Threshold", "dummy", -1, "Event2a");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->dummy, -115, 0);
-   RT_CHECK(ctx, stat, "Threshold", "dummy", -1, "Event2a");
-   /* usedFreqW */
-   if ((uint64_t)pvalue->usedFreqW > 20u) {
-      rtxErrAddStrParm(ctx, "W");
-      rtxErrAddUIntParm(ctx, pvalue->usedFreqW);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "usedFreqW", -1, "Event2a");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->usedFreqW, 0, 20);
-   RT_CHECK(ctx, stat, "W", "usedFreqW", -1, "Event2a");
-   /* hysteresis */
-   if ((uint64_t)pvalue->hysteresis > 29u) {
-      rtxErrAddStrParm(ctx, "HysteresisInterFreq");
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "HysteresisInterFreq", "hysteresis", -1, "Event2a");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2a");
-   /* timeToTrigger */
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event2a");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2a");
-   /* reportingCellStatus */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-SecondaryCellInfoFDD-v890ext");
+   /* differentTxModeFromServingHS-DSCHCell */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2a");
-   }
-   /* nonUsedFreqParameterList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_NonUsedFreqParameterList(ctx, &pvalue->nonUsedFreqParameterList);
-      RT_CHECK(ctx, stat, 0, "nonUsedFreqParameterList", -1, "Event2a");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_NonUsedFreqWList_r6(rtxContext* RT_RESTRICT ctx, const NonUsedFreqWList_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NonUsedFreqWList-r6");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NonUsedFreqWList-r6");
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)pvalue->elem[i] > 20u) {
-         rtxErrAddStrParm(ctx, "W");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "W", (int32_t)i, "NonUsedFreqWList-r6");
+      if (pvalue->differentTxModeFromServingHS_DSCHCell > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->differentTxModeFromServingHS_DSCHCell);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "differentTxModeFromServingHS-DSCHCell", -1, "DL-SecondaryCellInfoFDD-v890ext");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 20);
-      RT_CHECK(ctx, stat, "W", "W", (int32_t)i, "NonUsedFreqWList-r6");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->differentTxModeFromServingHS_DSCHCell, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "differentTxModeFromServingHS-DSCHCell", -1, "DL-SecondaryCellInfoFDD-v890ext");
    }
    return 0;
 }
 
-int asn1PE_UMTS_Event2a_r6(rtxContext* RT_RESTRICT ctx, const Event2a_r6* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_SecondaryCellInfoFDD_v890ext(rtxContext* RT_RESTRICT ctx, const DL_SecondaryCellInfoFDD_v890ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_SecondaryCellInfoFDD_v890ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_dl_64QAM_Configured value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event2a-r6");
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_dl_64QAM_Configured(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_dl_64QAM_Configured value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_dl_64QAM_Configured, value);
+}
+
+RT_MERGED_BODY int enc_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, const DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 127u) {
+         rtxErrAddStrParm(ctx, "HS-SCCH-Codes");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 127);
+      RT_CHECK_PUT(ctx, cur, stat, "HS-SCCH-Codes", "HS-SCCH-Codes", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_hS_SCCHChannelisationCodeInfo(rtxContext* RT_RESTRICT ctx, const DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_hS_SCCHChannelisationCodeInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_hS_SCCHChannelisationCodeInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_differentTxModeFromServingHS_DSCHCell(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_differentTxModeFromServingHS_DSCHCell value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_differentTxModeFromServingHS_DSCHCell(rtxContext* RT_RESTRICT ctx, DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_differentTxModeFromServingHS_DSCHCell value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_differentTxModeFromServingHS_DSCHCell, value);
+}
+
+RT_MERGED_BODY int enc_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration(rtxContext* RT_RESTRICT ctx, const DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event2a-r6");
-   /* usedFreqW */
-   if ((uint64_t)pvalue->usedFreqW > 20u) {
-      rtxErrAddStrParm(ctx, "W");
-      rtxErrAddUIntParm(ctx, pvalue->usedFreqW);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "usedFreqW", -1, "Event2a-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->usedFreqW, 0, 20);
-   RT_CHECK(ctx, stat, "W", "usedFreqW", -1, "Event2a-r6");
-   /* hysteresis */
-   if ((uint64_t)pvalue->hysteresis > 29u) {
-      rtxErrAddStrParm(ctx, "HysteresisInterFreq");
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "HysteresisInterFreq", "hysteresis", -1, "Event2a-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2a-r6");
-   /* timeToTrigger */
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event2a-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2a-r6");
-   /* reportingCellStatus */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* new-H-RNTI */
+   stat = enc_H_RNTI(ctx, pvalue->new_H_RNTI, cur);
+   RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, 0);
+   /* dl-64QAM-Configured */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2a-r6");
+      if (pvalue->dl_64QAM_Configured > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->dl_64QAM_Configured);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "dl-64QAM-Configured", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->dl_64QAM_Configured, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "dl-64QAM-Configured", -1, 0);
    }
-   /* nonUsedFreqParameterList */
+   /* hs-DSCH-TBSizeTable */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_NonUsedFreqWList_r6(ctx, &pvalue->nonUsedFreqParameterList);
-      RT_CHECK(ctx, stat, 0, "nonUsedFreqParameterList", -1, "Event2a-r6");
+      if (pvalue->hs_DSCH_TBSizeTable > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->hs_DSCH_TBSizeTable);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->hs_DSCH_TBSizeTable, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, 0);
+   }
+   /* primaryCPICH-Info */
+   stat = enc_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   /* dl-ScramblingCode */
+   if (pvalue->m & 0x4u) {
+      if ((uint64_t)(pvalue->dl_ScramblingCode - 1) > 14u) {
+         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
+         rtxErrAddUIntParm(ctx, pvalue->dl_ScramblingCode);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->dl_ScramblingCode, 1, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "SecondaryScramblingCode", "dl-ScramblingCode", -1, 0);
+   }
+   /* hS-SCCHChannelisationCodeInfo */
+   stat = enc_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration_hS_SCCHChannelisationCodeInfo(ctx, &pvalue->hS_SCCHChannelisationCodeInfo, cur);
+   RT_CHECK(ctx, stat, 0, "hS-SCCHChannelisationCodeInfo", -1, 0);
+   /* measurementPowerOffset */
+   if (pvalue->measurementPowerOffset < -12 || pvalue->measurementPowerOffset > 26) {
+      rtxErrAddStrParm(ctx, "MeasurementPowerOffset");
+      rtxErrAddIntParm(ctx, pvalue->measurementPowerOffset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MeasurementPowerOffset", "measurementPowerOffset", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->measurementPowerOffset, -12, 26);
+   RT_CHECK_PUT(ctx, cur, stat, "MeasurementPowerOffset", "measurementPowerOffset", -1, 0);
+   /* uarfcn-DL */
+   if ((uint64_t)pvalue->uarfcn_DL > 16383u) {
+      rtxErrAddStrParm(ctx, "UARFCN");
+      rtxErrAddUIntParm(ctx, pvalue->uarfcn_DL);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UARFCN", "uarfcn-DL", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->uarfcn_DL, 0, 16383);
+   RT_CHECK_PUT(ctx, cur, stat, "UARFCN", "uarfcn-DL", -1, 0);
+   /* differentTxModeFromServingHS-DSCHCell */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->differentTxModeFromServingHS_DSCHCell > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->differentTxModeFromServingHS_DSCHCell);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "differentTxModeFromServingHS-DSCHCell", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->differentTxModeFromServingHS_DSCHCell, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "differentTxModeFromServingHS-DSCHCell", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_Event2b(rtxContext* RT_RESTRICT ctx, const Event2b* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration(rtxContext* RT_RESTRICT ctx, const DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_SecondaryCellInfoFDD_r9_configurationInfo(rtxContext* RT_RESTRICT ctx, const DL_SecondaryCellInfoFDD_r9_configurationInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event2b");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event2b");
-   /* usedFreqThreshold */
-   if (pvalue->usedFreqThreshold < -115 || pvalue->usedFreqThreshold > 0) {
-      rtxErrAddStrParm(ctx, "Threshold");
-      rtxErrAddIntParm(ctx, pvalue->usedFreqThreshold);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Threshold", "usedFreqThreshold", -1, "Event2b");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->usedFreqThreshold, -115, 0);
-   RT_CHECK(ctx, stat, "Threshold", "usedFreqThreshold", -1, "Event2b");
-   /* usedFreqW */
-   if ((uint64_t)pvalue->usedFreqW > 20u) {
-      rtxErrAddStrParm(ctx, "W");
-      rtxErrAddUIntParm(ctx, pvalue->usedFreqW);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "usedFreqW", -1, "Event2b");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->usedFreqW, 0, 20);
-   RT_CHECK(ctx, stat, "W", "usedFreqW", -1, "Event2b");
-   /* hysteresis */
-   if ((uint64_t)pvalue->hysteresis > 29u) {
-      rtxErrAddStrParm(ctx, "HysteresisInterFreq");
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "HysteresisInterFreq", "hysteresis", -1, "Event2b");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2b");
-   /* timeToTrigger */
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event2b");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2b");
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2b");
-   }
-   /* nonUsedFreqParameterList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_NonUsedFreqParameterList(ctx, &pvalue->nonUsedFreqParameterList);
-      RT_CHECK(ctx, stat, 0, "nonUsedFreqParameterList", -1, "Event2b");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.newConfiguration == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "newConfiguration", -1, 0);
+         stat = enc_DL_SecondaryCellInfoFDD_r9_configurationInfo_newConfiguration(ctx, pvalue->u.newConfiguration, cur);
+         RT_CHECK(ctx, stat, 0, "newConfiguration", -1, 0);
+         break;
+      default:
+         break;
    }
    return 0;
 }
 
-int asn1PE_UMTS_Threshold_r6(rtxContext* RT_RESTRICT ctx, Threshold_r6 value)
+int asn1PE_UMTS_DL_SecondaryCellInfoFDD_r9_configurationInfo(rtxContext* RT_RESTRICT ctx, const DL_SecondaryCellInfoFDD_r9_configurationInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_SecondaryCellInfoFDD_r9_configurationInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_MIMO_N_M_Ratio(rtxContext* RT_RESTRICT ctx, MIMO_N_M_Ratio value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (value < -120 || value > 0) {
-      rtxErrAddStrParm(ctx, "Threshold-r6");
+   if (value > 9) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MIMO-N-M-Ratio");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 9);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MIMO-N-M-Ratio");
+   return 0;
+}
+
+int asn1PE_UMTS_MIMO_N_M_Ratio(rtxContext* RT_RESTRICT ctx, MIMO_N_M_Ratio value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MIMO_N_M_Ratio, value);
+}
+
+RT_MERGED_BODY int enc_S_CPICH_PowerOffset_MIMO(rtxContext* RT_RESTRICT ctx, S_CPICH_PowerOffset_MIMO value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value < -6 || value > 0) {
+      rtxErrAddStrParm(ctx, "S-CPICH-PowerOffset-MIMO");
       rtxErrAddIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "Threshold-r6");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "S-CPICH-PowerOffset-MIMO");
    }
-   stat = pe_ConsInt64(ctx, value, -120, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Threshold-r6");
+   stat = pe_ConsInt64At(ctx, cur, value, -6, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "S-CPICH-PowerOffset-MIMO");
    return 0;
 }
 
-int asn1PE_UMTS_NonUsedFreqParameter_r6(rtxContext* RT_RESTRICT ctx, const NonUsedFreqParameter_r6* RT_RESTRICT pvalue)
+int asn1PE_UMTS_S_CPICH_PowerOffset_MIMO(rtxContext* RT_RESTRICT ctx, S_CPICH_PowerOffset_MIMO value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_S_CPICH_PowerOffset_MIMO, value);
+}
+
+RT_MERGED_BODY int enc_MIMO_PilotConfiguration_r9_secondCPICH_Pattern_diversityPattern(rtxContext* RT_RESTRICT ctx, const MIMO_PilotConfiguration_r9_secondCPICH_Pattern_diversityPattern* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NonUsedFreqParameter-r6");
-   /* nonUsedFreqThreshold */
-   if (pvalue->nonUsedFreqThreshold < -120 || pvalue->nonUsedFreqThreshold > 0) {
-      rtxErrAddStrParm(ctx, "Threshold-r6");
-      rtxErrAddIntParm(ctx, pvalue->nonUsedFreqThreshold);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Threshold-r6", "nonUsedFreqThreshold", -1, "NonUsedFreqParameter-r6");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* channelisationCode */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->channelisationCode, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, "ChannelisationCode256", "channelisationCode", -1, 0);
+   /* s-cpich-PowerOffset-Mimo */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->s_cpich_PowerOffset_Mimo < -6 || pvalue->s_cpich_PowerOffset_Mimo > 0) {
+         rtxErrAddStrParm(ctx, "S-CPICH-PowerOffset-MIMO");
+         rtxErrAddIntParm(ctx, pvalue->s_cpich_PowerOffset_Mimo);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "S-CPICH-PowerOffset-MIMO", "s-cpich-PowerOffset-Mimo", -1, 0);
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->s_cpich_PowerOffset_Mimo, -6, 0);
+      RT_CHECK_PUT(ctx, cur, stat, "S-CPICH-PowerOffset-MIMO", "s-cpich-PowerOffset-Mimo", -1, 0);
    }
-   stat = pe_ConsInt64(ctx, pvalue->nonUsedFreqThreshold, -120, 0);
-   RT_CHECK(ctx, stat, "Threshold-r6", "nonUsedFreqThreshold", -1, "NonUsedFreqParameter-r6");
-   /* nonUsedFreqW */
-   if ((uint64_t)pvalue->nonUsedFreqW > 20u) {
-      rtxErrAddStrParm(ctx, "W");
-      rtxErrAddUIntParm(ctx, pvalue->nonUsedFreqW);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "nonUsedFreqW", -1, "NonUsedFreqParameter-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->nonUsedFreqW, 0, 20);
-   RT_CHECK(ctx, stat, "W", "nonUsedFreqW", -1, "NonUsedFreqParameter-r6");
    return 0;
 }
 
-int asn1PE_UMTS_NonUsedFreqParameterList_r6(rtxContext* RT_RESTRICT ctx, const NonUsedFreqParameterList_r6* RT_RESTRICT pvalue)
+int asn1PE_UMTS_MIMO_PilotConfiguration_r9_secondCPICH_Pattern_diversityPattern(rtxContext* RT_RESTRICT ctx, const MIMO_PilotConfiguration_r9_secondCPICH_Pattern_diversityPattern* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MIMO_PilotConfiguration_r9_secondCPICH_Pattern_diversityPattern, pvalue);
+}
+
+RT_MERGED_BODY int enc_MIMO_PilotConfiguration_r9_secondCPICH_Pattern(rtxContext* RT_RESTRICT ctx, const MIMO_PilotConfiguration_r9_secondCPICH_Pattern* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NonUsedFreqParameterList-r6");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.diversityPattern == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "diversityPattern", -1, 0);
+         stat = enc_MIMO_PilotConfiguration_r9_secondCPICH_Pattern_diversityPattern(ctx, pvalue->u.diversityPattern, cur);
+         RT_CHECK(ctx, stat, 0, "diversityPattern", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MIMO_PilotConfiguration_r9_secondCPICH_Pattern(rtxContext* RT_RESTRICT ctx, const MIMO_PilotConfiguration_r9_secondCPICH_Pattern* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MIMO_PilotConfiguration_r9_secondCPICH_Pattern, pvalue);
+}
+
+RT_MERGED_BODY int enc_MIMO_PilotConfiguration_r9(rtxContext* RT_RESTRICT ctx, const MIMO_PilotConfiguration_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MIMO-PilotConfiguration-r9");
+   /* secondCPICH-Pattern */
+   stat = enc_MIMO_PilotConfiguration_r9_secondCPICH_Pattern(ctx, &pvalue->secondCPICH_Pattern, cur);
+   RT_CHECK(ctx, stat, 0, "secondCPICH-Pattern", -1, "MIMO-PilotConfiguration-r9");
+   return 0;
+}
+
+int asn1PE_UMTS_MIMO_PilotConfiguration_r9(rtxContext* RT_RESTRICT ctx, const MIMO_PilotConfiguration_r9* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MIMO_PilotConfiguration_r9, pvalue);
+}
+
+RT_MERGED_BODY int enc_SecondaryCellMIMOparametersFDD_newConfiguration(rtxContext* RT_RESTRICT ctx, const SecondaryCellMIMOparametersFDD_newConfiguration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* mimoN-M-Ratio */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->mimoN_M_Ratio > 9) {
+         rtxErrAddUIntParm(ctx, pvalue->mimoN_M_Ratio);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MIMO-N-M-Ratio", "mimoN-M-Ratio", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->mimoN_M_Ratio, 0, 9);
+      RT_CHECK_PUT(ctx, cur, stat, "MIMO-N-M-Ratio", "mimoN-M-Ratio", -1, 0);
+   }
+   /* mimoPilotConfiguration */
+   if (pvalue->m & 0x2u) {
+      stat = enc_MIMO_PilotConfiguration_r9(ctx, &pvalue->mimoPilotConfiguration, cur);
+      RT_CHECK(ctx, stat, 0, "mimoPilotConfiguration", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCellMIMOparametersFDD_newConfiguration(rtxContext* RT_RESTRICT ctx, const SecondaryCellMIMOparametersFDD_newConfiguration* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryCellMIMOparametersFDD_newConfiguration, pvalue);
+}
+
+RT_MERGED_BODY int enc_SecondaryCellMIMOparametersFDD(rtxContext* RT_RESTRICT ctx, const SecondaryCellMIMOparametersFDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SecondaryCellMIMOparametersFDD");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "SecondaryCellMIMOparametersFDD");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "SecondaryCellMIMOparametersFDD");
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.newConfiguration == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "newConfiguration", -1, "SecondaryCellMIMOparametersFDD");
+         stat = enc_SecondaryCellMIMOparametersFDD_newConfiguration(ctx, pvalue->u.newConfiguration, cur);
+         RT_CHECK(ctx, stat, 0, "newConfiguration", -1, "SecondaryCellMIMOparametersFDD");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCellMIMOparametersFDD(rtxContext* RT_RESTRICT ctx, const SecondaryCellMIMOparametersFDD* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryCellMIMOparametersFDD, pvalue);
+}
+
+static int enc_DL_SecondaryCellInfoFDD_r9(rtxContext* RT_RESTRICT ctx, const DL_SecondaryCellInfoFDD_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-SecondaryCellInfoFDD-r9");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-SecondaryCellInfoFDD-r9");
+   /* configurationInfo */
+   stat = enc_DL_SecondaryCellInfoFDD_r9_configurationInfo(ctx, &pvalue->configurationInfo, cur);
+   RT_CHECK(ctx, stat, 0, "configurationInfo", -1, "DL-SecondaryCellInfoFDD-r9");
+   /* secondaryCellMIMOparameters */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SecondaryCellMIMOparametersFDD(ctx, &pvalue->secondaryCellMIMOparameters, cur);
+      RT_CHECK(ctx, stat, 0, "secondaryCellMIMOparameters", -1, "DL-SecondaryCellInfoFDD-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_SecondaryCellInfoFDD_r9(rtxContext* RT_RESTRICT ctx, const DL_SecondaryCellInfoFDD_r9* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_SecondaryCellInfoFDD_r9, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_TPC_PowerOffsetPerRL(rtxContext* RT_RESTRICT ctx, const DL_TPC_PowerOffsetPerRL* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-TPC-PowerOffsetPerRL");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-TPC-PowerOffsetPerRL");
+   /* powerOffsetTPC-pdpdch */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->powerOffsetTPC_pdpdch > 24u) {
+         rtxErrAddStrParm(ctx, "PowerOffsetTPC-pdpdch");
+         rtxErrAddUIntParm(ctx, pvalue->powerOffsetTPC_pdpdch);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PowerOffsetTPC-pdpdch", "powerOffsetTPC-pdpdch", -1, "DL-TPC-PowerOffsetPerRL");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->powerOffsetTPC_pdpdch, 0, 24);
+      RT_CHECK_PUT(ctx, cur, stat, "PowerOffsetTPC-pdpdch", "powerOffsetTPC-pdpdch", -1, "DL-TPC-PowerOffsetPerRL");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_TPC_PowerOffsetPerRL(rtxContext* RT_RESTRICT ctx, const DL_TPC_PowerOffsetPerRL* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_TPC_PowerOffsetPerRL, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_TPC_PowerOffsetPerRL_List(rtxContext* RT_RESTRICT ctx, const DL_TPC_PowerOffsetPerRL_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-TPC-PowerOffsetPerRL-List");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NonUsedFreqParameterList-r6");
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DL-TPC-PowerOffsetPerRL-List");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NonUsedFreqParameter-r6", (int32_t)i, "NonUsedFreqParameterList-r6");
-      stat = asn1PE_UMTS_NonUsedFreqParameter_r6(ctx, (const NonUsedFreqParameter_r6*)node->data);
-      RT_CHECK(ctx, stat, 0, "NonUsedFreqParameter-r6", (int32_t)i, "NonUsedFreqParameterList-r6");
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DL-TPC-PowerOffsetPerRL", (int32_t)i, "DL-TPC-PowerOffsetPerRL-List");
+      stat = enc_DL_TPC_PowerOffsetPerRL(ctx, (const DL_TPC_PowerOffsetPerRL*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DL-TPC-PowerOffsetPerRL", (int32_t)i, "DL-TPC-PowerOffsetPerRL-List");
    }
    return 0;
 }
 
-int asn1PE_UMTS_Event2b_r6(rtxContext* RT_RESTRICT ctx, const Event2b_r6* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DL_TPC_PowerOffsetPerRL_List(rtxContext* RT_RESTRICT ctx, const DL_TPC_PowerOffsetPerRL_List* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_TPC_PowerOffsetPerRL_List, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_ChannelCodes_MBSFN_IMB384(rtxContext* RT_RESTRICT ctx, const DL_ChannelCodes_MBSFN_IMB384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event2b-r6");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DL-ChannelCodes-MBSFN-IMB384");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-ChannelCodes-MBSFN-IMB384");
+   /* firstChannelisationCode */
+   if ((uint64_t)(pvalue->firstChannelisationCode - 1) > 14u) {
+      rtxErrAddStrParm(ctx, "firstChannelisationCode");
+      rtxErrAddUIntParm(ctx, pvalue->firstChannelisationCode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "firstChannelisationCode", -1, "DL-ChannelCodes-MBSFN-IMB384");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->firstChannelisationCode, 1, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "firstChannelisationCode", -1, "DL-ChannelCodes-MBSFN-IMB384");
+   /* lastChannelisationCode */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->lastChannelisationCode - 1) > 14u) {
+         rtxErrAddStrParm(ctx, "lastChannelisationCode");
+         rtxErrAddUIntParm(ctx, pvalue->lastChannelisationCode);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "lastChannelisationCode", -1, "DL-ChannelCodes-MBSFN-IMB384");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->lastChannelisationCode, 1, 15);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "lastChannelisationCode", -1, "DL-ChannelCodes-MBSFN-IMB384");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DL_ChannelCodes_MBSFN_IMB384(rtxContext* RT_RESTRICT ctx, const DL_ChannelCodes_MBSFN_IMB384* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_ChannelCodes_MBSFN_IMB384, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_EDCH_Information_r8_mac_es_e_resetIndicator(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r8_mac_es_e_resetIndicator value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_EDCH_Information_r8_mac_es_e_resetIndicator(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r8_mac_es_e_resetIndicator value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_EDCH_Information_r8_mac_es_e_resetIndicator, value);
+}
+
+RT_MERGED_BODY int enc_E_DPDCH_SchedulingTransmConfiguration_servingGrant_primary_Secondary_GrantSelector(rtxContext* RT_RESTRICT ctx, E_DPDCH_SchedulingTransmConfiguration_servingGrant_primary_Secondary_GrantSelector value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_E_DPDCH_SchedulingTransmConfiguration_servingGrant_primary_Secondary_GrantSelector(rtxContext* RT_RESTRICT ctx, E_DPDCH_SchedulingTransmConfiguration_servingGrant_primary_Secondary_GrantSelector value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DPDCH_SchedulingTransmConfiguration_servingGrant_primary_Secondary_GrantSelector, value);
+}
+
+RT_MERGED_BODY int enc_E_DPDCH_SchedulingTransmConfiguration_servingGrant(rtxContext* RT_RESTRICT ctx, const E_DPDCH_SchedulingTransmConfiguration_servingGrant* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* value */
+   if ((uint64_t)pvalue->value > 38u) {
+      rtxErrAddStrParm(ctx, "value");
+      rtxErrAddUIntParm(ctx, pvalue->value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "value", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->value, 0, 38);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "value", -1, 0);
+   /* primary-Secondary-GrantSelector */
+   if (pvalue->primary_Secondary_GrantSelector > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->primary_Secondary_GrantSelector);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "primary-Secondary-GrantSelector", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->primary_Secondary_GrantSelector, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "primary-Secondary-GrantSelector", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_E_DPDCH_SchedulingTransmConfiguration_servingGrant(rtxContext* RT_RESTRICT ctx, const E_DPDCH_SchedulingTransmConfiguration_servingGrant* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DPDCH_SchedulingTransmConfiguration_servingGrant, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_DPDCH_SchedulingTransmConfiguration(rtxContext* RT_RESTRICT ctx, const E_DPDCH_SchedulingTransmConfiguration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-DPDCH-SchedulingTransmConfiguration");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event2b-r6");
-   /* usedFreqThreshold */
-   if (pvalue->usedFreqThreshold < -120 || pvalue->usedFreqThreshold > 0) {
-      rtxErrAddStrParm(ctx, "Threshold-r6");
-      rtxErrAddIntParm(ctx, pvalue->usedFreqThreshold);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Threshold-r6", "usedFreqThreshold", -1, "Event2b-r6");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->usedFreqThreshold, -120, 0);
-   RT_CHECK(ctx, stat, "Threshold-r6", "usedFreqThreshold", -1, "Event2b-r6");
-   /* usedFreqW */
-   if ((uint64_t)pvalue->usedFreqW > 20u) {
-      rtxErrAddStrParm(ctx, "W");
-      rtxErrAddUIntParm(ctx, pvalue->usedFreqW);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "usedFreqW", -1, "Event2b-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->usedFreqW, 0, 20);
-   RT_CHECK(ctx, stat, "W", "usedFreqW", -1, "Event2b-r6");
-   /* hysteresis */
-   if ((uint64_t)pvalue->hysteresis > 29u) {
-      rtxErrAddStrParm(ctx, "HysteresisInterFreq");
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "HysteresisInterFreq", "hysteresis", -1, "Event2b-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2b-r6");
-   /* timeToTrigger */
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event2b-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2b-r6");
-   /* reportingCellStatus */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-DPDCH-SchedulingTransmConfiguration");
+   /* ms2-SchedTransmGrantHARQAlloc */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2b-r6");
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pe_BitString32At(ctx, cur, &pvalue->ms2_SchedTransmGrantHARQAlloc, 8, 8);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "ms2-SchedTransmGrantHARQAlloc", -1, "E-DPDCH-SchedulingTransmConfiguration");
    }
-   /* nonUsedFreqParameterList */
+   /* servingGrant */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_NonUsedFreqParameterList_r6(ctx, &pvalue->nonUsedFreqParameterList);
-      RT_CHECK(ctx, stat, 0, "nonUsedFreqParameterList", -1, "Event2b-r6");
+      stat = enc_E_DPDCH_SchedulingTransmConfiguration_servingGrant(ctx, &pvalue->servingGrant, cur);
+      RT_CHECK(ctx, stat, 0, "servingGrant", -1, "E-DPDCH-SchedulingTransmConfiguration");
    }
    return 0;
 }
 
-int asn1PE_UMTS_Event2c(rtxContext* RT_RESTRICT ctx, const Event2c* RT_RESTRICT pvalue)
+int asn1PE_UMTS_E_DPDCH_SchedulingTransmConfiguration(rtxContext* RT_RESTRICT ctx, const E_DPDCH_SchedulingTransmConfiguration* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DPDCH_SchedulingTransmConfiguration, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_16QAM_Settings(rtxContext* RT_RESTRICT ctx, const UL_16QAM_Settings* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event2c");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-16QAM-Settings");
+   /* beta-Ed-Gain-E-AGCH-Table-Selection */
+   if ((uint64_t)pvalue->beta_Ed_Gain_E_AGCH_Table_Selection > 1u) {
+      rtxErrAddStrParm(ctx, "beta-Ed-Gain-E-AGCH-Table-Selection");
+      rtxErrAddUIntParm(ctx, pvalue->beta_Ed_Gain_E_AGCH_Table_Selection);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "beta-Ed-Gain-E-AGCH-Table-Selection", -1, "UL-16QAM-Settings");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->beta_Ed_Gain_E_AGCH_Table_Selection, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "beta-Ed-Gain-E-AGCH-Table-Selection", -1, "UL-16QAM-Settings");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_16QAM_Settings(rtxContext* RT_RESTRICT ctx, const UL_16QAM_Settings* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_16QAM_Settings, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_EDCH_Information_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event2c");
-   /* hysteresis */
-   if ((uint64_t)pvalue->hysteresis > 29u) {
-      rtxErrAddStrParm(ctx, "HysteresisInterFreq");
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "HysteresisInterFreq", "hysteresis", -1, "Event2c");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2c");
-   /* timeToTrigger */
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event2c");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2c");
-   /* reportingCellStatus */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* e-DPCCH-Info */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2c");
+      stat = enc_E_DPCCH_Info_r7(ctx, &pvalue->e_DPCCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-DPCCH-Info", -1, 0);
    }
-   /* nonUsedFreqParameterList */
+   /* e-DPDCH-Info */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_NonUsedFreqParameterList(ctx, &pvalue->nonUsedFreqParameterList);
-      RT_CHECK(ctx, stat, 0, "nonUsedFreqParameterList", -1, "Event2c");
+      stat = enc_E_DPDCH_Info_r8(ctx, &pvalue->e_DPDCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-DPDCH-Info", -1, 0);
+   }
+   /* schedulingTransmConfiguration */
+   if (pvalue->m & 0x4u) {
+      stat = enc_E_DPDCH_SchedulingTransmConfiguration(ctx, &pvalue->schedulingTransmConfiguration, cur);
+      RT_CHECK(ctx, stat, 0, "schedulingTransmConfiguration", -1, 0);
+   }
+   /* ul-16QAM-Settings */
+   if (pvalue->m & 0x8u) {
+      stat = enc_UL_16QAM_Settings(ctx, &pvalue->ul_16QAM_Settings, cur);
+      RT_CHECK(ctx, stat, 0, "ul-16QAM-Settings", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_Event2c_r6(rtxContext* RT_RESTRICT ctx, const Event2c_r6* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UL_EDCH_Information_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event2c-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event2c-r6");
-   /* hysteresis */
-   if ((uint64_t)pvalue->hysteresis > 29u) {
-      rtxErrAddStrParm(ctx, "HysteresisInterFreq");
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "HysteresisInterFreq", "hysteresis", -1, "Event2c-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2c-r6");
-   /* timeToTrigger */
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event2c-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2c-r6");
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2c-r6");
-   }
-   /* nonUsedFreqParameterList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_NonUsedFreqParameterList_r6(ctx, &pvalue->nonUsedFreqParameterList);
-      RT_CHECK(ctx, stat, 0, "nonUsedFreqParameterList", -1, "Event2c-r6");
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_UL_EDCH_Information_r8_modeSpecificInfo_fdd, pvalue);
 }
 
-int asn1PE_UMTS_Event2d(rtxContext* RT_RESTRICT ctx, const Event2d* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event2d");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event2d");
-   /* usedFreqThreshold */
-   if (pvalue->usedFreqThreshold < -115 || pvalue->usedFreqThreshold > 0) {
-      rtxErrAddStrParm(ctx, "Threshold");
-      rtxErrAddIntParm(ctx, pvalue->usedFreqThreshold);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Threshold", "usedFreqThreshold", -1, "Event2d");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->usedFreqThreshold, -115, 0);
-   RT_CHECK(ctx, stat, "Threshold", "usedFreqThreshold", -1, "Event2d");
-   /* usedFreqW */
-   if ((uint64_t)pvalue->usedFreqW > 20u) {
-      rtxErrAddStrParm(ctx, "W");
-      rtxErrAddUIntParm(ctx, pvalue->usedFreqW);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "usedFreqW", -1, "Event2d");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->usedFreqW, 0, 20);
-   RT_CHECK(ctx, stat, "W", "usedFreqW", -1, "Event2d");
-   /* hysteresis */
-   if ((uint64_t)pvalue->hysteresis > 29u) {
-      rtxErrAddStrParm(ctx, "HysteresisInterFreq");
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "HysteresisInterFreq", "hysteresis", -1, "Event2d");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2d");
-   /* timeToTrigger */
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event2d");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2d");
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2d");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Event2d_r6(rtxContext* RT_RESTRICT ctx, const Event2d_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event2d-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event2d-r6");
-   /* usedFreqThreshold */
-   if (pvalue->usedFreqThreshold < -120 || pvalue->usedFreqThreshold > 0) {
-      rtxErrAddStrParm(ctx, "Threshold-r6");
-      rtxErrAddIntParm(ctx, pvalue->usedFreqThreshold);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Threshold-r6", "usedFreqThreshold", -1, "Event2d-r6");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->usedFreqThreshold, -120, 0);
-   RT_CHECK(ctx, stat, "Threshold-r6", "usedFreqThreshold", -1, "Event2d-r6");
-   /* usedFreqW */
-   if ((uint64_t)pvalue->usedFreqW > 20u) {
-      rtxErrAddStrParm(ctx, "W");
-      rtxErrAddUIntParm(ctx, pvalue->usedFreqW);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "usedFreqW", -1, "Event2d-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->usedFreqW, 0, 20);
-   RT_CHECK(ctx, stat, "W", "usedFreqW", -1, "Event2d-r6");
-   /* hysteresis */
-   if ((uint64_t)pvalue->hysteresis > 29u) {
-      rtxErrAddStrParm(ctx, "HysteresisInterFreq");
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "HysteresisInterFreq", "hysteresis", -1, "Event2d-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2d-r6");
-   /* timeToTrigger */
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event2d-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2d-r6");
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2d-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Event2e(rtxContext* RT_RESTRICT ctx, const Event2e* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event2e");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event2e");
-   /* hysteresis */
-   if ((uint64_t)pvalue->hysteresis > 29u) {
-      rtxErrAddStrParm(ctx, "HysteresisInterFreq");
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "HysteresisInterFreq", "hysteresis", -1, "Event2e");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2e");
-   /* timeToTrigger */
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event2e");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2e");
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2e");
-   }
-   /* nonUsedFreqParameterList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_NonUsedFreqParameterList(ctx, &pvalue->nonUsedFreqParameterList);
-      RT_CHECK(ctx, stat, 0, "nonUsedFreqParameterList", -1, "Event2e");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Event2e_r6(rtxContext* RT_RESTRICT ctx, const Event2e_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event2e-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event2e-r6");
-   /* hysteresis */
-   if ((uint64_t)pvalue->hysteresis > 29u) {
-      rtxErrAddStrParm(ctx, "HysteresisInterFreq");
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "HysteresisInterFreq", "hysteresis", -1, "Event2e-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2e-r6");
-   /* timeToTrigger */
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event2e-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2e-r6");
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2e-r6");
-   }
-   /* nonUsedFreqParameterList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_NonUsedFreqParameterList_r6(ctx, &pvalue->nonUsedFreqParameterList);
-      RT_CHECK(ctx, stat, 0, "nonUsedFreqParameterList", -1, "Event2e-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Event2f(rtxContext* RT_RESTRICT ctx, const Event2f* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event2f");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event2f");
-   /* usedFreqThreshold */
-   if (pvalue->usedFreqThreshold < -115 || pvalue->usedFreqThreshold > 0) {
-      rtxErrAddStrParm(ctx, "Threshold");
-      rtxErrAddIntParm(ctx, pvalue->usedFreqThreshold);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Threshold", "usedFreqThreshold", -1, "Event2f");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->usedFreqThreshold, -115, 0);
-   RT_CHECK(ctx, stat, "Threshold", "usedFreqThreshold", -1, "Event2f");
-   /* usedFreqW */
-   if ((uint64_t)pvalue->usedFreqW > 20u) {
-      rtxErrAddStrParm(ctx, "W");
-      rtxErrAddUIntParm(ctx, pvalue->usedFreqW);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "usedFreqW", -1, "Event2f");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->usedFreqW, 0, 20);
-   RT_CHECK(ctx, stat, "W", "usedFreqW", -1, "Event2f");
-   /* hysteresis */
-   if ((uint64_t)pvalue->hysteresis > 29u) {
-      rtxErrAddStrParm(ctx, "HysteresisInterFreq");
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "HysteresisInterFreq", "hysteresis", -1, "Event2f");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2f");
-   /* timeToTrigger */
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event2f");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2f");
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2f");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Event2f_r6(rtxContext* RT_RESTRICT ctx, const Event2f_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event2f-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event2f-r6");
-   /* usedFreqThreshold */
-   if (pvalue->usedFreqThreshold < -120 || pvalue->usedFreqThreshold > 0) {
-      rtxErrAddStrParm(ctx, "Threshold-r6");
-      rtxErrAddIntParm(ctx, pvalue->usedFreqThreshold);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Threshold-r6", "usedFreqThreshold", -1, "Event2f-r6");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->usedFreqThreshold, -120, 0);
-   RT_CHECK(ctx, stat, "Threshold-r6", "usedFreqThreshold", -1, "Event2f-r6");
-   /* usedFreqW */
-   if ((uint64_t)pvalue->usedFreqW > 20u) {
-      rtxErrAddStrParm(ctx, "W");
-      rtxErrAddUIntParm(ctx, pvalue->usedFreqW);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "usedFreqW", -1, "Event2f-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->usedFreqW, 0, 20);
-   RT_CHECK(ctx, stat, "W", "usedFreqW", -1, "Event2f-r6");
-   /* hysteresis */
-   if ((uint64_t)pvalue->hysteresis > 29u) {
-      rtxErrAddStrParm(ctx, "HysteresisInterFreq");
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "HysteresisInterFreq", "hysteresis", -1, "Event2f-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 29);
-   RT_CHECK(ctx, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2f-r6");
-   /* timeToTrigger */
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event2f-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2f-r6");
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2f-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Event3a(rtxContext* RT_RESTRICT ctx, const Event3a* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event3a");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event3a");
-   /* thresholdOwnSystem */
-   if (pvalue->thresholdOwnSystem < -115 || pvalue->thresholdOwnSystem > 0) {
-      rtxErrAddStrParm(ctx, "Threshold");
-      rtxErrAddIntParm(ctx, pvalue->thresholdOwnSystem);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Threshold", "thresholdOwnSystem", -1, "Event3a");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->thresholdOwnSystem, -115, 0);
-   RT_CHECK(ctx, stat, "Threshold", "thresholdOwnSystem", -1, "Event3a");
-   /* w */
-   if ((uint64_t)pvalue->w > 20u) {
-      rtxErrAddStrParm(ctx, "W");
-      rtxErrAddUIntParm(ctx, pvalue->w);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "W", "w", -1, "Event3a");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->w, 0, 20);
-   RT_CHECK(ctx, stat, "W", "w", -1, "Event3a");
-   /* thresholdOtherSystem */
-   if (pvalue->thresholdOtherSystem < -115 || pvalue->thresholdOtherSystem > 0) {
-      rtxErrAddStrParm(ctx, "Threshold");
-      rtxErrAddIntParm(ctx, pvalue->thresholdOtherSystem);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Threshold", "thresholdOtherSystem", -1, "Event3a");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->thresholdOtherSystem, -115, 0);
-   RT_CHECK(ctx, stat, "Threshold", "thresholdOtherSystem", -1, "Event3a");
-   /* hysteresis */
-   if ((uint64_t)pvalue->hysteresis > 15u) {
-      rtxErrAddStrParm(ctx, "Hysteresis");
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Hysteresis", "hysteresis", -1, "Event3a");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 15);
-   RT_CHECK(ctx, stat, "Hysteresis", "hysteresis", -1, "Event3a");
-   /* timeToTrigger */
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event3a");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event3a");
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event3a");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Event3b(rtxContext* RT_RESTRICT ctx, const Event3b* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event3b");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event3b");
-   /* thresholdOtherSystem */
-   if (pvalue->thresholdOtherSystem < -115 || pvalue->thresholdOtherSystem > 0) {
-      rtxErrAddStrParm(ctx, "Threshold");
-      rtxErrAddIntParm(ctx, pvalue->thresholdOtherSystem);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Threshold", "thresholdOtherSystem", -1, "Event3b");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->thresholdOtherSystem, -115, 0);
-   RT_CHECK(ctx, stat, "Threshold", "thresholdOtherSystem", -1, "Event3b");
-   /* hysteresis */
-   if ((uint64_t)pvalue->hysteresis > 15u) {
-      rtxErrAddStrParm(ctx, "Hysteresis");
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Hysteresis", "hysteresis", -1, "Event3b");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 15);
-   RT_CHECK(ctx, stat, "Hysteresis", "hysteresis", -1, "Event3b");
-   /* timeToTrigger */
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event3b");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event3b");
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event3b");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Event3c(rtxContext* RT_RESTRICT ctx, const Event3c* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event3c");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event3c");
-   /* thresholdOtherSystem */
-   if (pvalue->thresholdOtherSystem < -115 || pvalue->thresholdOtherSystem > 0) {
-      rtxErrAddStrParm(ctx, "Threshold");
-      rtxErrAddIntParm(ctx, pvalue->thresholdOtherSystem);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Threshold", "thresholdOtherSystem", -1, "Event3c");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->thresholdOtherSystem, -115, 0);
-   RT_CHECK(ctx, stat, "Threshold", "thresholdOtherSystem", -1, "Event3c");
-   /* hysteresis */
-   if ((uint64_t)pvalue->hysteresis > 15u) {
-      rtxErrAddStrParm(ctx, "Hysteresis");
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Hysteresis", "hysteresis", -1, "Event3c");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 15);
-   RT_CHECK(ctx, stat, "Hysteresis", "hysteresis", -1, "Event3c");
-   /* timeToTrigger */
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event3c");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event3c");
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event3c");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Event3d(rtxContext* RT_RESTRICT ctx, const Event3d* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Event3d");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Event3d");
-   /* hysteresis */
-   if ((uint64_t)pvalue->hysteresis > 15u) {
-      rtxErrAddStrParm(ctx, "Hysteresis");
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Hysteresis", "hysteresis", -1, "Event3d");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 15);
-   RT_CHECK(ctx, stat, "Hysteresis", "hysteresis", -1, "Event3d");
-   /* timeToTrigger */
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event3d");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "Event3d");
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event3d");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_EventIDInterFreq(rtxContext* RT_RESTRICT ctx, EventIDInterFreq value)
+RT_MERGED_BODY int enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_RUCCH(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_RUCCH value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "EventIDInterFreq");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EventIDInterFreq");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_EventIDIntraFreq(rtxContext* RT_RESTRICT ctx, EventIDIntraFreq value)
+int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_RUCCH(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_RUCCH value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_RUCCH, value);
+}
+
+RT_MERGED_BODY int enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_e_RUCCH_Midamble(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_e_RUCCH_Midamble value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_e_RUCCH_Midamble(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_e_RUCCH_Midamble value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_e_RUCCH_Midamble, value);
+}
+
+RT_MERGED_BODY int enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_adv(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_adv value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_adv(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_adv value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_adv, value);
+}
+
+RT_MERGED_BODY int enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_SCHED(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_SCHED value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_SCHED(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_SCHED value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_t_SCHED, value);
+}
+
+RT_MERGED_BODY int enc_SF16Codes(rtxContext* RT_RESTRICT ctx, SF16Codes value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "SF16Codes");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SF16Codes");
+   return 0;
+}
+
+int asn1PE_UMTS_SF16Codes(rtxContext* RT_RESTRICT ctx, SF16Codes value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SF16Codes, value);
+}
+
+RT_MERGED_BODY int enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF16(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF16* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "SF16Codes", "SF16Codes", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "SF16Codes", "SF16Codes", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF16(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF16* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF16, pvalue);
+}
+
+RT_MERGED_BODY int enc_SF8Codes(rtxContext* RT_RESTRICT ctx, SF8Codes value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "SF8Codes");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SF8Codes");
+   return 0;
+}
+
+int asn1PE_UMTS_SF8Codes(rtxContext* RT_RESTRICT ctx, SF8Codes value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SF8Codes, value);
+}
+
+RT_MERGED_BODY int enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF8(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "SF8Codes", "SF8Codes", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "SF8Codes", "SF8Codes", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF8(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF8, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.sF16 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "sF16", -1, 0);
+         stat = enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF16(ctx, pvalue->u.sF16, cur);
+         RT_CHECK(ctx, stat, 0, "sF16", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.sF8 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "sF8", -1, 0);
+         stat = enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384_sF8(ctx, pvalue->u.sF8, cur);
+         RT_CHECK(ctx, stat, 0, "sF8", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int enc_SF32Codes(rtxContext* RT_RESTRICT ctx, SF32Codes value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value > 15) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "EventIDIntraFreq");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "SF32Codes");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "EventIDIntraFreq");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SF32Codes");
    return 0;
 }
 
-int asn1PE_UMTS_IntraFreqEventResults(rtxContext* RT_RESTRICT ctx, const IntraFreqEventResults* RT_RESTRICT pvalue)
+int asn1PE_UMTS_SF32Codes(rtxContext* RT_RESTRICT ctx, SF32Codes value)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventResults");
-   /* eventID */
-   if (pvalue->eventID > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->eventID);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "EventIDIntraFreq", "eventID", -1, "IntraFreqEventResults");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->eventID, 0, 15);
-   RT_CHECK(ctx, stat, "EventIDIntraFreq", "eventID", -1, "IntraFreqEventResults");
-   /* cellMeasurementEventResults */
-   stat = asn1PE_UMTS_CellMeasurementEventResults(ctx, &pvalue->cellMeasurementEventResults);
-   RT_CHECK(ctx, stat, 0, "cellMeasurementEventResults", -1, "IntraFreqEventResults");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_SF32Codes, value);
 }
 
-int asn1PE_UMTS_InterFreqCell(rtxContext* RT_RESTRICT ctx, const InterFreqCell* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF32(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF32* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCell");
-   /* frequencyInfo */
-   stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "InterFreqCell");
-   /* nonFreqRelatedEventResults */
-   stat = asn1PE_UMTS_CellMeasurementEventResults(ctx, &pvalue->nonFreqRelatedEventResults);
-   RT_CHECK(ctx, stat, 0, "nonFreqRelatedEventResults", -1, "InterFreqCell");
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqCellList(rtxContext* RT_RESTRICT ctx, const InterFreqCellList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellList");
-   const rtxDListNode* node;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "InterFreqCellList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "InterFreqCell", (int32_t)i, "InterFreqCellList");
-      stat = asn1PE_UMTS_InterFreqCell(ctx, (const InterFreqCell*)node->data);
-      RT_CHECK(ctx, stat, 0, "InterFreqCell", (int32_t)i, "InterFreqCellList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqEventResults(rtxContext* RT_RESTRICT ctx, const InterFreqEventResults* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqEventResults");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqEventResults");
-   /* eventID */
-   if (pvalue->eventID > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->eventID);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "EventIDInterFreq", "eventID", -1, "InterFreqEventResults");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->eventID, 0, 7);
-   RT_CHECK(ctx, stat, "EventIDInterFreq", "eventID", -1, "InterFreqEventResults");
-   /* interFreqCellList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_InterFreqCellList(ctx, &pvalue->interFreqCellList);
-      RT_CHECK(ctx, stat, 0, "interFreqCellList", -1, "InterFreqEventResults");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATEventResults(rtxContext* RT_RESTRICT ctx, const InterRATEventResults* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATEventResults");
-   /* eventID */
-   if (pvalue->eventID > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->eventID);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "EventIDInterRAT", "eventID", -1, "InterRATEventResults");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->eventID, 0, 3);
-   RT_CHECK(ctx, stat, "EventIDInterRAT", "eventID", -1, "InterRATEventResults");
-   /* cellToReportList */
-   stat = asn1PE_UMTS_CellToReportList(ctx, &pvalue->cellToReportList);
-   RT_CHECK(ctx, stat, 0, "cellToReportList", -1, "InterRATEventResults");
-   return 0;
-}
-
-int asn1PE_UMTS_TrafficVolumeEventResults(rtxContext* RT_RESTRICT ctx, const TrafficVolumeEventResults* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TrafficVolumeEventResults");
-   /* ul-transportChannelCausingEvent */
-   stat = asn1PE_UMTS_UL_TrCH_Identity(ctx, &pvalue->ul_transportChannelCausingEvent);
-   RT_CHECK(ctx, stat, 0, "ul-transportChannelCausingEvent", -1, "TrafficVolumeEventResults");
-   /* trafficVolumeEventIdentity */
-   if (pvalue->trafficVolumeEventIdentity > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->trafficVolumeEventIdentity);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TrafficVolumeEventType", "trafficVolumeEventIdentity", -1, "TrafficVolumeEventResults");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->trafficVolumeEventIdentity, 0, 1);
-   RT_CHECK(ctx, stat, "TrafficVolumeEventType", "trafficVolumeEventIdentity", -1, "TrafficVolumeEventResults");
-   return 0;
-}
-
-int asn1PE_UMTS_QualityEventResults(rtxContext* RT_RESTRICT ctx, const QualityEventResults* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "QualityEventResults");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "QualityEventResults");
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
    for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)(pvalue->elem[i] - 1) > 31u) {
-         rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+      if (pvalue->elem[i] > 15) {
          rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "TransportChannelIdentity", (int32_t)i, "QualityEventResults");
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "SF32Codes", "SF32Codes", (int32_t)i, 0);
       }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 1, 32);
-      RT_CHECK(ctx, stat, "TransportChannelIdentity", "TransportChannelIdentity", (int32_t)i, "QualityEventResults");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "SF32Codes", "SF32Codes", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_UE_InternalEventResults(rtxContext* RT_RESTRICT ctx, const UE_InternalEventResults* RT_RESTRICT pvalue)
+int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF32(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF32* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-InternalEventResults");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UE-InternalEventResults");
-   if (pvalue->t - 1 > 7) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UE-InternalEventResults");
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         break;
-      case 3:
-         break;
-      case 4:
-         break;
-      case 5:
-         break;
-      case 6:
-         if (pvalue->u.event6f == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event6f", -1, "UE-InternalEventResults");
-         stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, pvalue->u.event6f);
-         RT_CHECK(ctx, stat, 0, "event6f", -1, "UE-InternalEventResults");
-         break;
-      case 7:
-         if (pvalue->u.event6g == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event6g", -1, "UE-InternalEventResults");
-         stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, pvalue->u.event6g);
-         RT_CHECK(ctx, stat, 0, "event6g", -1, "UE-InternalEventResults");
-         break;
-      case 8:
-         break;
-      default:
-         break;
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF32, pvalue);
 }
 
-int asn1PE_UMTS_UTRAN_GPSReferenceTimeResult_ue_GPSTimingOfCell(rtxContext* RT_RESTRICT ctx, const UTRAN_GPSReferenceTimeResult_ue_GPSTimingOfCell* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_SF16Codes2(rtxContext* RT_RESTRICT ctx, SF16Codes2 value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* ms-part */
-   if ((uint64_t)pvalue->ms_part > 16383u) {
-      rtxErrAddStrParm(ctx, "ms-part");
-      rtxErrAddUIntParm(ctx, pvalue->ms_part);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ms-part", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ms_part, 0, 16383);
-   RT_CHECK(ctx, stat, 0, "ms-part", -1, 0);
-   /* ls-part */
-   stat = pe_ConsUInt64(ctx, pvalue->ls_part, 0, 4294967295ULL);
-   RT_CHECK(ctx, stat, 0, "ls-part", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UTRAN_GPSReferenceTimeResult_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UTRAN_GPSReferenceTimeResult_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* referenceIdentity */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->referenceIdentity);
-   RT_CHECK(ctx, stat, 0, "referenceIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UTRAN_GPSReferenceTimeResult_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UTRAN_GPSReferenceTimeResult_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* referenceIdentity */
-   if ((uint64_t)pvalue->referenceIdentity > 127u) {
-      rtxErrAddStrParm(ctx, "CellParametersID");
-      rtxErrAddUIntParm(ctx, pvalue->referenceIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "CellParametersID", "referenceIdentity", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->referenceIdentity, 0, 127);
-   RT_CHECK(ctx, stat, "CellParametersID", "referenceIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UTRAN_GPSReferenceTimeResult_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UTRAN_GPSReferenceTimeResult_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_UTRAN_GPSReferenceTimeResult_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_UTRAN_GPSReferenceTimeResult_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UTRAN_GPSReferenceTimeResult(rtxContext* RT_RESTRICT ctx, const UTRAN_GPSReferenceTimeResult* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UTRAN-GPSReferenceTimeResult");
-   /* ue-GPSTimingOfCell */
-   stat = asn1PE_UMTS_UTRAN_GPSReferenceTimeResult_ue_GPSTimingOfCell(ctx, &pvalue->ue_GPSTimingOfCell);
-   RT_CHECK(ctx, stat, 0, "ue-GPSTimingOfCell", -1, "UTRAN-GPSReferenceTimeResult");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_UTRAN_GPSReferenceTimeResult_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UTRAN-GPSReferenceTimeResult");
-   /* sfn */
-   if ((uint64_t)pvalue->sfn > 4095u) {
-      rtxErrAddStrParm(ctx, "sfn");
-      rtxErrAddUIntParm(ctx, pvalue->sfn);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sfn", -1, "UTRAN-GPSReferenceTimeResult");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->sfn, 0, 4095);
-   RT_CHECK(ctx, stat, 0, "sfn", -1, "UTRAN-GPSReferenceTimeResult");
-   return 0;
-}
-
-int asn1PE_UMTS_GPS_TOW_1msec(rtxContext* RT_RESTRICT ctx, GPS_TOW_1msec value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 604799999u) {
-      rtxErrAddStrParm(ctx, "GPS-TOW-1msec");
+   if (value > 15) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "GPS-TOW-1msec");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "SF16Codes2");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 604799999);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GPS-TOW-1msec");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SF16Codes2");
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_SF16Codes2(rtxContext* RT_RESTRICT ctx, SF16Codes2 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SF16Codes2, value);
+}
+
+RT_MERGED_BODY int enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF816(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF816* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* primaryCPICH-Info */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if (pvalue->elem[i] > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "SF16Codes2", "SF16Codes2", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "SF16Codes2", "SF16Codes2", (int32_t)i, 0);
+   }
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF816(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF816* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* cellAndChannelIdentity */
-   stat = asn1PE_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
-   RT_CHECK(ctx, stat, 0, "cellAndChannelIdentity", -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF816, pvalue);
 }
 
-int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         if (pvalue->u.sF32 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "sF32", -1, 0);
+         stat = enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF32(ctx, pvalue->u.sF32, cur);
+         RT_CHECK(ctx, stat, 0, "sF32", -1, 0);
          break;
       case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         if (pvalue->u.sF816 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "sF816", -1, 0);
+         stat = enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768_sF816(ctx, pvalue->u.sF816, cur);
+         RT_CHECK(ctx, stat, 0, "sF816", -1, 0);
          break;
       default:
          break;
@@ -2173,2222 +2034,180 @@ int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_mo
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing* RT_RESTRICT pvalue)
+int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* sfn */
-   if ((uint64_t)pvalue->sfn > 4095u) {
-      rtxErrAddStrParm(ctx, "sfn");
-      rtxErrAddUIntParm(ctx, pvalue->sfn);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sfn", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd768 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
+         stat = enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo_tdd768(ctx, pvalue->u.tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      default:
+         break;
    }
-   stat = pe_ConsUInt64(ctx, pvalue->sfn, 0, 4095);
-   RT_CHECK(ctx, stat, 0, "sfn", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* e-RUCCH-ConstantValue */
+   if (pvalue->e_RUCCH_ConstantValue < -35 || pvalue->e_RUCCH_ConstantValue > 10) {
+      rtxErrAddStrParm(ctx, "e-RUCCH-ConstantValue");
+      rtxErrAddIntParm(ctx, pvalue->e_RUCCH_ConstantValue);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "e-RUCCH-ConstantValue", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->e_RUCCH_ConstantValue, -35, 10);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "e-RUCCH-ConstantValue", -1, 0);
+   /* e-RUCCH-PersistenceScalingFactor */
+   if (pvalue->e_RUCCH_PersistenceScalingFactor > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->e_RUCCH_PersistenceScalingFactor);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PersistenceScalingFactor", "e-RUCCH-PersistenceScalingFactor", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->e_RUCCH_PersistenceScalingFactor, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "PersistenceScalingFactor", "e-RUCCH-PersistenceScalingFactor", -1, 0);
+   /* t-RUCCH */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->t_RUCCH > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->t_RUCCH);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "t-RUCCH", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_RUCCH, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "t-RUCCH", -1, 0);
+   }
+   /* e-RUCCH-TS-Number */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->e_RUCCH_TS_Number > 14u) {
+         rtxErrAddStrParm(ctx, "e-RUCCH-TS-Number");
+         rtxErrAddUIntParm(ctx, pvalue->e_RUCCH_TS_Number);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "e-RUCCH-TS-Number", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->e_RUCCH_TS_Number, 0, 14);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "e-RUCCH-TS-Number", -1, 0);
+   }
+   /* e-RUCCH-Midamble */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->e_RUCCH_Midamble > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->e_RUCCH_Midamble);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "e-RUCCH-Midamble", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->e_RUCCH_Midamble, 0, 1);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "e-RUCCH-Midamble", -1, 0);
+   }
+   /* t-adv */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->t_adv > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->t_adv);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "t-adv", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_adv, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "t-adv", -1, 0);
+   }
+   /* t-SCHED */
+   if (pvalue->m & 0x10u) {
+      if (pvalue->t_SCHED > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->t_SCHED);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "t-SCHED", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_SCHED, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "t-SCHED", -1, 0);
+   }
    /* modeSpecificInfo */
-   stat = asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
+   stat = enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
    RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_referenceTime* RT_RESTRICT pvalue)
+int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.utran_GPSReferenceTimeResult == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "utran-GPSReferenceTimeResult", -1, 0);
-         stat = asn1PE_UMTS_UTRAN_GPSReferenceTimeResult(ctx, pvalue->u.utran_GPSReferenceTimeResult);
-         RT_CHECK(ctx, stat, 0, "utran-GPSReferenceTimeResult", -1, 0);
-         break;
-      case 2:
-         if ((uint64_t)pvalue->u.gps_ReferenceTimeOnly > 604799999u) {
-            rtxErrAddStrParm(ctx, "GPS-TOW-1msec");
-            rtxErrAddUIntParm(ctx, pvalue->u.gps_ReferenceTimeOnly);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "GPS-TOW-1msec", "gps-ReferenceTimeOnly", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.gps_ReferenceTimeOnly, 0, 604799999);
-         RT_CHECK(ctx, stat, "GPS-TOW-1msec", "gps-ReferenceTimeOnly", -1, 0);
-         break;
-      case 3:
-         if (pvalue->u.cell_Timing == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cell-Timing", -1, 0);
-         stat = asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing(ctx, pvalue->u.cell_Timing);
-         RT_CHECK(ctx, stat, 0, "cell-Timing", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768, pvalue);
 }
 
-int asn1PE_UMTS_PositionEstimate(rtxContext* RT_RESTRICT ctx, const PositionEstimate* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_E_RUCCH_Info_modeSpecificInfo_tdd128_t_RUCCH(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd128_t_RUCCH value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PositionEstimate");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 4);
-   RT_CHECK(ctx, stat, 0, "t", -1, "PositionEstimate");
-   if (pvalue->t - 1 > 4) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "PositionEstimate");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.ellipsoidPoint == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ellipsoidPoint", -1, "PositionEstimate");
-         stat = asn1PE_UMTS_EllipsoidPoint(ctx, pvalue->u.ellipsoidPoint);
-         RT_CHECK(ctx, stat, 0, "ellipsoidPoint", -1, "PositionEstimate");
-         break;
-      case 2:
-         if (pvalue->u.ellipsoidPointUncertCircle == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ellipsoidPointUncertCircle", -1, "PositionEstimate");
-         stat = asn1PE_UMTS_EllipsoidPointUncertCircle(ctx, pvalue->u.ellipsoidPointUncertCircle);
-         RT_CHECK(ctx, stat, 0, "ellipsoidPointUncertCircle", -1, "PositionEstimate");
-         break;
-      case 3:
-         if (pvalue->u.ellipsoidPointUncertEllipse == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ellipsoidPointUncertEllipse", -1, "PositionEstimate");
-         stat = asn1PE_UMTS_EllipsoidPointUncertEllipse(ctx, pvalue->u.ellipsoidPointUncertEllipse);
-         RT_CHECK(ctx, stat, 0, "ellipsoidPointUncertEllipse", -1, "PositionEstimate");
-         break;
-      case 4:
-         if (pvalue->u.ellipsoidPointAltitude == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ellipsoidPointAltitude", -1, "PositionEstimate");
-         stat = asn1PE_UMTS_EllipsoidPointAltitude(ctx, pvalue->u.ellipsoidPointAltitude);
-         RT_CHECK(ctx, stat, 0, "ellipsoidPointAltitude", -1, "PositionEstimate");
-         break;
-      case 5:
-         if (pvalue->u.ellipsoidPointAltitudeEllipse == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ellipsoidPointAltitudeEllipse", -1, "PositionEstimate");
-         stat = asn1PE_UMTS_EllipsoidPointAltitudeEllipsoide(ctx, pvalue->u.ellipsoidPointAltitudeEllipse);
-         RT_CHECK(ctx, stat, 0, "ellipsoidPointAltitudeEllipse", -1, "PositionEstimate");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-PositionEstimateInfo");
-   /* referenceTime */
-   stat = asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime(ctx, &pvalue->referenceTime);
-   RT_CHECK(ctx, stat, 0, "referenceTime", -1, "UE-Positioning-PositionEstimateInfo");
-   /* positionEstimate */
-   stat = asn1PE_UMTS_PositionEstimate(ctx, &pvalue->positionEstimate);
-   RT_CHECK(ctx, stat, 0, "positionEstimate", -1, "UE-Positioning-PositionEstimateInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RX_TX_TimeDifferenceType2(rtxContext* RT_RESTRICT ctx, UE_RX_TX_TimeDifferenceType2 value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 8191u) {
-      rtxErrAddStrParm(ctx, "UE-RX-TX-TimeDifferenceType2");
+   if (value > 15) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "UE-RX-TX-TimeDifferenceType2");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 8191);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RX-TX-TimeDifferenceType2");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_OTDOA_Quality(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_Quality* RT_RESTRICT pvalue)
+int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd128_t_RUCCH(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd128_t_RUCCH value)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-Quality");
-   /* stdResolution */
-   RT_SET_SIZE(ctx, 2, 2);
-   stat = pe_BitString32(ctx, &pvalue->stdResolution, 2, 2);
-   RT_CHECK(ctx, stat, 0, "stdResolution", -1, "UE-Positioning-OTDOA-Quality");
-   /* numberOfOTDOA-Measurements */
-   RT_SET_SIZE(ctx, 3, 3);
-   stat = pe_BitString32(ctx, &pvalue->numberOfOTDOA_Measurements, 3, 3);
-   RT_CHECK(ctx, stat, 0, "numberOfOTDOA-Measurements", -1, "UE-Positioning-OTDOA-Quality");
-   /* stdOfOTDOA-Measurements */
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pe_BitString32(ctx, &pvalue->stdOfOTDOA_Measurements, 5, 5);
-   RT_CHECK(ctx, stat, 0, "stdOfOTDOA-Measurements", -1, "UE-Positioning-OTDOA-Quality");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_E_RUCCH_Info_modeSpecificInfo_tdd128_t_RUCCH, value);
 }
 
-int asn1PE_UMTS_NeighbourQuality(rtxContext* RT_RESTRICT ctx, const NeighbourQuality* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NeighbourQuality");
-   /* ue-Positioning-OTDOA-Quality */
-   stat = asn1PE_UMTS_UE_Positioning_OTDOA_Quality(ctx, &pvalue->ue_Positioning_OTDOA_Quality);
-   RT_CHECK(ctx, stat, 0, "ue-Positioning-OTDOA-Quality", -1, "NeighbourQuality");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RX_TX_TimeDifferenceType2Info(rtxContext* RT_RESTRICT ctx, const UE_RX_TX_TimeDifferenceType2Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RX-TX-TimeDifferenceType2Info");
-   /* ue-RX-TX-TimeDifferenceType2 */
-   if ((uint64_t)pvalue->ue_RX_TX_TimeDifferenceType2 > 8191u) {
-      rtxErrAddStrParm(ctx, "UE-RX-TX-TimeDifferenceType2");
-      rtxErrAddUIntParm(ctx, pvalue->ue_RX_TX_TimeDifferenceType2);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "UE-RX-TX-TimeDifferenceType2", "ue-RX-TX-TimeDifferenceType2", -1, "UE-RX-TX-TimeDifferenceType2Info");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_RX_TX_TimeDifferenceType2, 0, 8191);
-   RT_CHECK(ctx, stat, "UE-RX-TX-TimeDifferenceType2", "ue-RX-TX-TimeDifferenceType2", -1, "UE-RX-TX-TimeDifferenceType2Info");
-   /* neighbourQuality */
-   stat = asn1PE_UMTS_NeighbourQuality(ctx, &pvalue->neighbourQuality);
-   RT_CHECK(ctx, stat, 0, "neighbourQuality", -1, "UE-RX-TX-TimeDifferenceType2Info");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_Measurement_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_Measurement_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* referenceCellIDentity */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->referenceCellIDentity);
-   RT_CHECK(ctx, stat, 0, "referenceCellIDentity", -1, 0);
-   /* ue-RX-TX-TimeDifferenceType2Info */
-   stat = asn1PE_UMTS_UE_RX_TX_TimeDifferenceType2Info(ctx, &pvalue->ue_RX_TX_TimeDifferenceType2Info);
-   RT_CHECK(ctx, stat, 0, "ue-RX-TX-TimeDifferenceType2Info", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_Measurement_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_Measurement_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* referenceCellIdentity */
-   if ((uint64_t)pvalue->referenceCellIdentity > 127u) {
-      rtxErrAddStrParm(ctx, "CellParametersID");
-      rtxErrAddUIntParm(ctx, pvalue->referenceCellIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "CellParametersID", "referenceCellIdentity", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->referenceCellIdentity, 0, 127);
-   RT_CHECK(ctx, stat, "CellParametersID", "referenceCellIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_Measurement_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_Measurement_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_Measurement_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_Measurement_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Neighbour_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const Neighbour_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* neighbourIdentity */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->neighbourIdentity);
-      RT_CHECK(ctx, stat, 0, "neighbourIdentity", -1, 0);
-   }
-   /* uE-RX-TX-TimeDifferenceType2Info */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_RX_TX_TimeDifferenceType2Info(ctx, &pvalue->uE_RX_TX_TimeDifferenceType2Info);
-      RT_CHECK(ctx, stat, 0, "uE-RX-TX-TimeDifferenceType2Info", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Neighbour_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const Neighbour_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* neighbourAndChannelIdentity */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellAndChannelIdentity(ctx, &pvalue->neighbourAndChannelIdentity);
-      RT_CHECK(ctx, stat, 0, "neighbourAndChannelIdentity", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Neighbour_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const Neighbour_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_Neighbour_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_Neighbour_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Neighbour(rtxContext* RT_RESTRICT ctx, const Neighbour* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Neighbour");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_Neighbour_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "Neighbour");
-   /* neighbourQuality */
-   stat = asn1PE_UMTS_NeighbourQuality(ctx, &pvalue->neighbourQuality);
-   RT_CHECK(ctx, stat, 0, "neighbourQuality", -1, "Neighbour");
-   /* sfn-SFN-ObsTimeDifference2 */
-   stat = pe_ConsUInt64(ctx, pvalue->sfn_SFN_ObsTimeDifference2, 0, 65535);
-   RT_CHECK(ctx, stat, "SFN-SFN-ObsTimeDifference2", "sfn-SFN-ObsTimeDifference2", -1, "Neighbour");
-   return 0;
-}
-
-int asn1PE_UMTS_NeighbourList(rtxContext* RT_RESTRICT ctx, const NeighbourList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NeighbourList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NeighbourList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "Neighbour", (int32_t)i, "NeighbourList");
-      stat = asn1PE_UMTS_Neighbour(ctx, (const Neighbour*)node->data);
-      RT_CHECK(ctx, stat, 0, "Neighbour", (int32_t)i, "NeighbourList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_Measurement(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_Measurement* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-Measurement");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-Measurement");
-   /* sfn */
-   if ((uint64_t)pvalue->sfn > 4095u) {
-      rtxErrAddStrParm(ctx, "sfn");
-      rtxErrAddUIntParm(ctx, pvalue->sfn);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sfn", -1, "UE-Positioning-OTDOA-Measurement");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->sfn, 0, 4095);
-   RT_CHECK(ctx, stat, 0, "sfn", -1, "UE-Positioning-OTDOA-Measurement");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_UE_Positioning_OTDOA_Measurement_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-OTDOA-Measurement");
-   /* neighbourList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_NeighbourList(ctx, &pvalue->neighbourList);
-      RT_CHECK(ctx, stat, 0, "neighbourList", -1, "UE-Positioning-OTDOA-Measurement");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_MeasurementResults_referenceTime(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_MeasurementResults_referenceTime* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.utran_GPSReferenceTimeResult == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "utran-GPSReferenceTimeResult", -1, 0);
-         stat = asn1PE_UMTS_UTRAN_GPSReferenceTimeResult(ctx, pvalue->u.utran_GPSReferenceTimeResult);
-         RT_CHECK(ctx, stat, 0, "utran-GPSReferenceTimeResult", -1, 0);
-         break;
-      case 2:
-         if ((uint64_t)pvalue->u.gps_ReferenceTimeOnly > 604799999u) {
-            rtxErrAddStrParm(ctx, "GPS-TOW-1msec");
-            rtxErrAddUIntParm(ctx, pvalue->u.gps_ReferenceTimeOnly);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "GPS-TOW-1msec", "gps-ReferenceTimeOnly", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.gps_ReferenceTimeOnly, 0, 604799999);
-         RT_CHECK(ctx, stat, "GPS-TOW-1msec", "gps-ReferenceTimeOnly", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MultipathIndicator(rtxContext* RT_RESTRICT ctx, MultipathIndicator value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MultipathIndicator");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MultipathIndicator");
-   return 0;
-}
-
-int asn1PE_UMTS_GPS_MeasurementParam(rtxContext* RT_RESTRICT ctx, const GPS_MeasurementParam* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GPS-MeasurementParam");
-   /* satelliteID */
-   if ((uint64_t)pvalue->satelliteID > 63u) {
-      rtxErrAddStrParm(ctx, "satelliteID");
-      rtxErrAddUIntParm(ctx, pvalue->satelliteID);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "satelliteID", -1, "GPS-MeasurementParam");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->satelliteID, 0, 63);
-   RT_CHECK(ctx, stat, 0, "satelliteID", -1, "GPS-MeasurementParam");
-   /* c-N0 */
-   if ((uint64_t)pvalue->c_N0 > 63u) {
-      rtxErrAddStrParm(ctx, "c-N0");
-      rtxErrAddUIntParm(ctx, pvalue->c_N0);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "c-N0", -1, "GPS-MeasurementParam");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->c_N0, 0, 63);
-   RT_CHECK(ctx, stat, 0, "c-N0", -1, "GPS-MeasurementParam");
-   /* doppler */
-   if (pvalue->doppler < -32768 || pvalue->doppler > 32768) {
-      rtxErrAddStrParm(ctx, "doppler");
-      rtxErrAddIntParm(ctx, pvalue->doppler);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "doppler", -1, "GPS-MeasurementParam");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->doppler, -32768, 32768);
-   RT_CHECK(ctx, stat, 0, "doppler", -1, "GPS-MeasurementParam");
-   /* wholeGPS-Chips */
-   if ((uint64_t)pvalue->wholeGPS_Chips > 1022u) {
-      rtxErrAddStrParm(ctx, "wholeGPS-Chips");
-      rtxErrAddUIntParm(ctx, pvalue->wholeGPS_Chips);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "wholeGPS-Chips", -1, "GPS-MeasurementParam");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->wholeGPS_Chips, 0, 1022);
-   RT_CHECK(ctx, stat, 0, "wholeGPS-Chips", -1, "GPS-MeasurementParam");
-   /* fractionalGPS-Chips */
-   if ((uint64_t)pvalue->fractionalGPS_Chips > 1023u) {
-      rtxErrAddStrParm(ctx, "fractionalGPS-Chips");
-      rtxErrAddUIntParm(ctx, pvalue->fractionalGPS_Chips);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "fractionalGPS-Chips", -1, "GPS-MeasurementParam");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->fractionalGPS_Chips, 0, 1023);
-   RT_CHECK(ctx, stat, 0, "fractionalGPS-Chips", -1, "GPS-MeasurementParam");
-   /* multipathIndicator */
-   if (pvalue->multipathIndicator > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->multipathIndicator);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MultipathIndicator", "multipathIndicator", -1, "GPS-MeasurementParam");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->multipathIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "MultipathIndicator", "multipathIndicator", -1, "GPS-MeasurementParam");
-   /* pseudorangeRMS-Error */
-   if ((uint64_t)pvalue->pseudorangeRMS_Error > 63u) {
-      rtxErrAddStrParm(ctx, "pseudorangeRMS-Error");
-      rtxErrAddUIntParm(ctx, pvalue->pseudorangeRMS_Error);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "pseudorangeRMS-Error", -1, "GPS-MeasurementParam");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pseudorangeRMS_Error, 0, 63);
-   RT_CHECK(ctx, stat, 0, "pseudorangeRMS-Error", -1, "GPS-MeasurementParam");
-   return 0;
-}
-
-int asn1PE_UMTS_GPS_MeasurementParamList(rtxContext* RT_RESTRICT ctx, const GPS_MeasurementParamList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GPS-MeasurementParamList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GPS-MeasurementParamList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "GPS-MeasurementParam", (int32_t)i, "GPS-MeasurementParamList");
-      stat = asn1PE_UMTS_GPS_MeasurementParam(ctx, (const GPS_MeasurementParam*)node->data);
-      RT_CHECK(ctx, stat, 0, "GPS-MeasurementParam", (int32_t)i, "GPS-MeasurementParamList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_MeasurementResults(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_MeasurementResults* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-MeasurementResults");
-   /* referenceTime */
-   stat = asn1PE_UMTS_UE_Positioning_GPS_MeasurementResults_referenceTime(ctx, &pvalue->referenceTime);
-   RT_CHECK(ctx, stat, 0, "referenceTime", -1, "UE-Positioning-GPS-MeasurementResults");
-   /* gps-MeasurementParamList */
-   stat = asn1PE_UMTS_GPS_MeasurementParamList(ctx, &pvalue->gps_MeasurementParamList);
-   RT_CHECK(ctx, stat, 0, "gps-MeasurementParamList", -1, "UE-Positioning-GPS-MeasurementResults");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_MeasurementEventResults(rtxContext* RT_RESTRICT ctx, const UE_Positioning_MeasurementEventResults* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-MeasurementEventResults");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UE-Positioning-MeasurementEventResults");
-   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UE-Positioning-MeasurementEventResults");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.event7a == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event7a", -1, "UE-Positioning-MeasurementEventResults");
-         stat = asn1PE_UMTS_UE_Positioning_PositionEstimateInfo(ctx, pvalue->u.event7a);
-         RT_CHECK(ctx, stat, 0, "event7a", -1, "UE-Positioning-MeasurementEventResults");
-         break;
-      case 2:
-         if (pvalue->u.event7b == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event7b", -1, "UE-Positioning-MeasurementEventResults");
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_Measurement(ctx, pvalue->u.event7b);
-         RT_CHECK(ctx, stat, 0, "event7b", -1, "UE-Positioning-MeasurementEventResults");
-         break;
-      case 3:
-         if (pvalue->u.event7c == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event7c", -1, "UE-Positioning-MeasurementEventResults");
-         stat = asn1PE_UMTS_UE_Positioning_GPS_MeasurementResults(ctx, pvalue->u.event7c);
-         RT_CHECK(ctx, stat, 0, "event7c", -1, "UE-Positioning-MeasurementEventResults");
-         break;
-      case 4:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_EventResults(rtxContext* RT_RESTRICT ctx, const EventResults* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EventResults");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
-   RT_CHECK(ctx, stat, 0, "t", -1, "EventResults");
-   if (pvalue->t - 1 > 7) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "EventResults");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.intraFreqEventResults == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFreqEventResults", -1, "EventResults");
-         stat = asn1PE_UMTS_IntraFreqEventResults(ctx, pvalue->u.intraFreqEventResults);
-         RT_CHECK(ctx, stat, 0, "intraFreqEventResults", -1, "EventResults");
-         break;
-      case 2:
-         if (pvalue->u.interFreqEventResults == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interFreqEventResults", -1, "EventResults");
-         stat = asn1PE_UMTS_InterFreqEventResults(ctx, pvalue->u.interFreqEventResults);
-         RT_CHECK(ctx, stat, 0, "interFreqEventResults", -1, "EventResults");
-         break;
-      case 3:
-         if (pvalue->u.interRATEventResults == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interRATEventResults", -1, "EventResults");
-         stat = asn1PE_UMTS_InterRATEventResults(ctx, pvalue->u.interRATEventResults);
-         RT_CHECK(ctx, stat, 0, "interRATEventResults", -1, "EventResults");
-         break;
-      case 4:
-         if (pvalue->u.trafficVolumeEventResults == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "trafficVolumeEventResults", -1, "EventResults");
-         stat = asn1PE_UMTS_TrafficVolumeEventResults(ctx, pvalue->u.trafficVolumeEventResults);
-         RT_CHECK(ctx, stat, 0, "trafficVolumeEventResults", -1, "EventResults");
-         break;
-      case 5:
-         if (pvalue->u.qualityEventResults == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "qualityEventResults", -1, "EventResults");
-         stat = asn1PE_UMTS_QualityEventResults(ctx, pvalue->u.qualityEventResults);
-         RT_CHECK(ctx, stat, 0, "qualityEventResults", -1, "EventResults");
-         break;
-      case 6:
-         if (pvalue->u.ue_InternalEventResults == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ue-InternalEventResults", -1, "EventResults");
-         stat = asn1PE_UMTS_UE_InternalEventResults(ctx, pvalue->u.ue_InternalEventResults);
-         RT_CHECK(ctx, stat, 0, "ue-InternalEventResults", -1, "EventResults");
-         break;
-      case 7:
-         if (pvalue->u.ue_positioning_MeasurementEventResults == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ue-positioning-MeasurementEventResults", -1, "EventResults");
-         stat = asn1PE_UMTS_UE_Positioning_MeasurementEventResults(ctx, pvalue->u.ue_positioning_MeasurementEventResults);
-         RT_CHECK(ctx, stat, 0, "ue-positioning-MeasurementEventResults", -1, "EventResults");
-         break;
-      case 8:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UTRAN_GANSSReferenceTime_ue_GANSSTimingOfCellFrames(rtxContext* RT_RESTRICT ctx, const UTRAN_GANSSReferenceTime_ue_GANSSTimingOfCellFrames* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* ms-Part */
-   if ((uint64_t)pvalue->ms_Part > 80u) {
-      rtxErrAddStrParm(ctx, "ms-Part");
-      rtxErrAddUIntParm(ctx, pvalue->ms_Part);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ms-Part", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ms_Part, 0, 80);
-   RT_CHECK(ctx, stat, 0, "ms-Part", -1, 0);
-   /* ls-Part */
-   stat = pe_ConsUInt64(ctx, pvalue->ls_Part, 0, 4294967295ULL);
-   RT_CHECK(ctx, stat, 0, "ls-Part", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UTRAN_GANSSReferenceTime_mode_fdd(rtxContext* RT_RESTRICT ctx, const UTRAN_GANSSReferenceTime_mode_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* primary-CPICH-Info */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primary_CPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primary-CPICH-Info", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UTRAN_GANSSReferenceTime_mode_tdd(rtxContext* RT_RESTRICT ctx, const UTRAN_GANSSReferenceTime_mode_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* cellParameters */
-   if ((uint64_t)pvalue->cellParameters > 127u) {
-      rtxErrAddStrParm(ctx, "CellParametersID");
-      rtxErrAddUIntParm(ctx, pvalue->cellParameters);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "CellParametersID", "cellParameters", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cellParameters, 0, 127);
-   RT_CHECK(ctx, stat, "CellParametersID", "cellParameters", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UTRAN_GANSSReferenceTime_mode(rtxContext* RT_RESTRICT ctx, const UTRAN_GANSSReferenceTime_mode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_UTRAN_GANSSReferenceTime_mode_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_UTRAN_GANSSReferenceTime_mode_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UTRAN_GANSSReferenceTime(rtxContext* RT_RESTRICT ctx, const UTRAN_GANSSReferenceTime* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UTRAN-GANSSReferenceTime");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UTRAN-GANSSReferenceTime");
-   /* ue-GANSSTimingOfCellFrames */
-   stat = asn1PE_UMTS_UTRAN_GANSSReferenceTime_ue_GANSSTimingOfCellFrames(ctx, &pvalue->ue_GANSSTimingOfCellFrames);
-   RT_CHECK(ctx, stat, 0, "ue-GANSSTimingOfCellFrames", -1, "UTRAN-GANSSReferenceTime");
-   /* gANSS-TimeId */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->gANSS_TimeId > 7u) {
-         rtxErrAddStrParm(ctx, "gANSS-TimeId");
-         rtxErrAddUIntParm(ctx, pvalue->gANSS_TimeId);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "gANSS-TimeId", -1, "UTRAN-GANSSReferenceTime");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->gANSS_TimeId, 0, 7);
-      RT_CHECK(ctx, stat, 0, "gANSS-TimeId", -1, "UTRAN-GANSSReferenceTime");
-   }
-   /* gANSS-TimeUncertainty */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->gANSS_TimeUncertainty > 127u) {
-         rtxErrAddStrParm(ctx, "gANSS-TimeUncertainty");
-         rtxErrAddUIntParm(ctx, pvalue->gANSS_TimeUncertainty);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "gANSS-TimeUncertainty", -1, "UTRAN-GANSSReferenceTime");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->gANSS_TimeUncertainty, 0, 127);
-      RT_CHECK(ctx, stat, 0, "gANSS-TimeUncertainty", -1, "UTRAN-GANSSReferenceTime");
-   }
-   /* mode */
-   stat = asn1PE_UMTS_UTRAN_GANSSReferenceTime_mode(ctx, &pvalue->mode);
-   RT_CHECK(ctx, stat, 0, "mode", -1, "UTRAN-GANSSReferenceTime");
-   /* referenceSfn */
-   if ((uint64_t)pvalue->referenceSfn > 4095u) {
-      rtxErrAddStrParm(ctx, "referenceSfn");
-      rtxErrAddUIntParm(ctx, pvalue->referenceSfn);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "referenceSfn", -1, "UTRAN-GANSSReferenceTime");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->referenceSfn, 0, 4095);
-   RT_CHECK(ctx, stat, 0, "referenceSfn", -1, "UTRAN-GANSSReferenceTime");
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSReferenceTimeOnly(rtxContext* RT_RESTRICT ctx, const GANSSReferenceTimeOnly* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSReferenceTimeOnly");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSSReferenceTimeOnly");
-   /* gANSS-tod */
-   if ((uint64_t)pvalue->gANSS_tod > 3599999u) {
-      rtxErrAddStrParm(ctx, "gANSS-tod");
-      rtxErrAddUIntParm(ctx, pvalue->gANSS_tod);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "gANSS-tod", -1, "GANSSReferenceTimeOnly");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->gANSS_tod, 0, 3599999);
-   RT_CHECK(ctx, stat, 0, "gANSS-tod", -1, "GANSSReferenceTimeOnly");
-   /* gANSS-timeId */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->gANSS_timeId > 7u) {
-         rtxErrAddStrParm(ctx, "gANSS-timeId");
-         rtxErrAddUIntParm(ctx, pvalue->gANSS_timeId);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "gANSS-timeId", -1, "GANSSReferenceTimeOnly");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->gANSS_timeId, 0, 7);
-      RT_CHECK(ctx, stat, 0, "gANSS-timeId", -1, "GANSSReferenceTimeOnly");
-   }
-   /* gANSS-tod-uncertainty */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->gANSS_tod_uncertainty > 127u) {
-         rtxErrAddStrParm(ctx, "gANSS-tod-uncertainty");
-         rtxErrAddUIntParm(ctx, pvalue->gANSS_tod_uncertainty);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "gANSS-tod-uncertainty", -1, "GANSSReferenceTimeOnly");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->gANSS_tod_uncertainty, 0, 127);
-      RT_CHECK(ctx, stat, 0, "gANSS-tod-uncertainty", -1, "GANSSReferenceTimeOnly");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7_referenceTime(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7_referenceTime* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.utran_GANSSReferenceTimeResult == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "utran-GANSSReferenceTimeResult", -1, 0);
-         stat = asn1PE_UMTS_UTRAN_GANSSReferenceTime(ctx, pvalue->u.utran_GANSSReferenceTimeResult);
-         RT_CHECK(ctx, stat, 0, "utran-GANSSReferenceTimeResult", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.ganssReferenceTimeOnly == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ganssReferenceTimeOnly", -1, 0);
-         stat = asn1PE_UMTS_GANSSReferenceTimeOnly(ctx, pvalue->u.ganssReferenceTimeOnly);
-         RT_CHECK(ctx, stat, 0, "ganssReferenceTimeOnly", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* referenceTime */
-   stat = asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7_referenceTime(ctx, &pvalue->referenceTime);
-   RT_CHECK(ctx, stat, 0, "referenceTime", -1, 0);
-   /* positionEstimate */
-   stat = asn1PE_UMTS_PositionEstimate(ctx, &pvalue->positionEstimate);
-   RT_CHECK(ctx, stat, 0, "positionEstimate", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r7", -1, 0);
-         stat = asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7(ctx, pvalue->u.r7);
-         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_HorizontalVelocity(rtxContext* RT_RESTRICT ctx, const HorizontalVelocity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HorizontalVelocity");
-   /* bearing */
-   if ((uint64_t)pvalue->bearing > 359u) {
-      rtxErrAddStrParm(ctx, "bearing");
-      rtxErrAddUIntParm(ctx, pvalue->bearing);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "bearing", -1, "HorizontalVelocity");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->bearing, 0, 359);
-   RT_CHECK(ctx, stat, 0, "bearing", -1, "HorizontalVelocity");
-   /* horizontalSpeed */
-   if ((uint64_t)pvalue->horizontalSpeed > 2047u) {
-      rtxErrAddStrParm(ctx, "horizontalSpeed");
-      rtxErrAddUIntParm(ctx, pvalue->horizontalSpeed);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "horizontalSpeed", -1, "HorizontalVelocity");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->horizontalSpeed, 0, 2047);
-   RT_CHECK(ctx, stat, 0, "horizontalSpeed", -1, "HorizontalVelocity");
-   return 0;
-}
-
-int asn1PE_UMTS_HorizontalWithVerticalVelocity_verticalSpeedDirection(rtxContext* RT_RESTRICT ctx, HorizontalWithVerticalVelocity_verticalSpeedDirection value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_HorizontalWithVerticalVelocity(rtxContext* RT_RESTRICT ctx, const HorizontalWithVerticalVelocity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HorizontalWithVerticalVelocity");
-   /* verticalSpeedDirection */
-   if (pvalue->verticalSpeedDirection > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->verticalSpeedDirection);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "verticalSpeedDirection", -1, "HorizontalWithVerticalVelocity");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->verticalSpeedDirection, 0, 1);
-   RT_CHECK(ctx, stat, 0, "verticalSpeedDirection", -1, "HorizontalWithVerticalVelocity");
-   /* bearing */
-   if ((uint64_t)pvalue->bearing > 359u) {
-      rtxErrAddStrParm(ctx, "bearing");
-      rtxErrAddUIntParm(ctx, pvalue->bearing);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "bearing", -1, "HorizontalWithVerticalVelocity");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->bearing, 0, 359);
-   RT_CHECK(ctx, stat, 0, "bearing", -1, "HorizontalWithVerticalVelocity");
-   /* horizontalSpeed */
-   if ((uint64_t)pvalue->horizontalSpeed > 2047u) {
-      rtxErrAddStrParm(ctx, "horizontalSpeed");
-      rtxErrAddUIntParm(ctx, pvalue->horizontalSpeed);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "horizontalSpeed", -1, "HorizontalWithVerticalVelocity");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->horizontalSpeed, 0, 2047);
-   RT_CHECK(ctx, stat, 0, "horizontalSpeed", -1, "HorizontalWithVerticalVelocity");
-   /* verticalSpeed */
-   stat = pe_ConsUInt64(ctx, pvalue->verticalSpeed, 0, 255);
-   RT_CHECK(ctx, stat, 0, "verticalSpeed", -1, "HorizontalWithVerticalVelocity");
-   return 0;
-}
-
-int asn1PE_UMTS_HorizontalVelocityWithUncertainty(rtxContext* RT_RESTRICT ctx, const HorizontalVelocityWithUncertainty* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HorizontalVelocityWithUncertainty");
-   /* bearing */
-   if ((uint64_t)pvalue->bearing > 359u) {
-      rtxErrAddStrParm(ctx, "bearing");
-      rtxErrAddUIntParm(ctx, pvalue->bearing);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "bearing", -1, "HorizontalVelocityWithUncertainty");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->bearing, 0, 359);
-   RT_CHECK(ctx, stat, 0, "bearing", -1, "HorizontalVelocityWithUncertainty");
-   /* horizontalSpeed */
-   if ((uint64_t)pvalue->horizontalSpeed > 2047u) {
-      rtxErrAddStrParm(ctx, "horizontalSpeed");
-      rtxErrAddUIntParm(ctx, pvalue->horizontalSpeed);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "horizontalSpeed", -1, "HorizontalVelocityWithUncertainty");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->horizontalSpeed, 0, 2047);
-   RT_CHECK(ctx, stat, 0, "horizontalSpeed", -1, "HorizontalVelocityWithUncertainty");
-   /* horizontalSpeedUncertainty */
-   stat = pe_ConsUInt64(ctx, pvalue->horizontalSpeedUncertainty, 0, 255);
-   RT_CHECK(ctx, stat, 0, "horizontalSpeedUncertainty", -1, "HorizontalVelocityWithUncertainty");
-   return 0;
-}
-
-int asn1PE_UMTS_HorizontalWithVerticalVelocityAndUncertainty_verticalSpeedDirection(rtxContext* RT_RESTRICT ctx, HorizontalWithVerticalVelocityAndUncertainty_verticalSpeedDirection value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_HorizontalWithVerticalVelocityAndUncertainty(rtxContext* RT_RESTRICT ctx, const HorizontalWithVerticalVelocityAndUncertainty* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HorizontalWithVerticalVelocityAndUncertainty");
-   /* verticalSpeedDirection */
-   if (pvalue->verticalSpeedDirection > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->verticalSpeedDirection);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "verticalSpeedDirection", -1, "HorizontalWithVerticalVelocityAndUncertainty");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->verticalSpeedDirection, 0, 1);
-   RT_CHECK(ctx, stat, 0, "verticalSpeedDirection", -1, "HorizontalWithVerticalVelocityAndUncertainty");
-   /* bearing */
-   if ((uint64_t)pvalue->bearing > 359u) {
-      rtxErrAddStrParm(ctx, "bearing");
-      rtxErrAddUIntParm(ctx, pvalue->bearing);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "bearing", -1, "HorizontalWithVerticalVelocityAndUncertainty");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->bearing, 0, 359);
-   RT_CHECK(ctx, stat, 0, "bearing", -1, "HorizontalWithVerticalVelocityAndUncertainty");
-   /* horizontalSpeed */
-   if ((uint64_t)pvalue->horizontalSpeed > 2047u) {
-      rtxErrAddStrParm(ctx, "horizontalSpeed");
-      rtxErrAddUIntParm(ctx, pvalue->horizontalSpeed);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "horizontalSpeed", -1, "HorizontalWithVerticalVelocityAndUncertainty");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->horizontalSpeed, 0, 2047);
-   RT_CHECK(ctx, stat, 0, "horizontalSpeed", -1, "HorizontalWithVerticalVelocityAndUncertainty");
-   /* verticalSpeed */
-   stat = pe_ConsUInt64(ctx, pvalue->verticalSpeed, 0, 255);
-   RT_CHECK(ctx, stat, 0, "verticalSpeed", -1, "HorizontalWithVerticalVelocityAndUncertainty");
-   /* horizontalUncertaintySpeed */
-   stat = pe_ConsUInt64(ctx, pvalue->horizontalUncertaintySpeed, 0, 255);
-   RT_CHECK(ctx, stat, 0, "horizontalUncertaintySpeed", -1, "HorizontalWithVerticalVelocityAndUncertainty");
-   /* verticalUncertaintySpeed */
-   stat = pe_ConsUInt64(ctx, pvalue->verticalUncertaintySpeed, 0, 255);
-   RT_CHECK(ctx, stat, 0, "verticalUncertaintySpeed", -1, "HorizontalWithVerticalVelocityAndUncertainty");
-   return 0;
-}
-
-int asn1PE_UMTS_VelocityEstimate(rtxContext* RT_RESTRICT ctx, const VelocityEstimate* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "VelocityEstimate");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat, 0, "t", -1, "VelocityEstimate");
-   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "VelocityEstimate");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.horizontalVelocity == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "horizontalVelocity", -1, "VelocityEstimate");
-         stat = asn1PE_UMTS_HorizontalVelocity(ctx, pvalue->u.horizontalVelocity);
-         RT_CHECK(ctx, stat, 0, "horizontalVelocity", -1, "VelocityEstimate");
-         break;
-      case 2:
-         if (pvalue->u.horizontalWithVerticalVelocity == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "horizontalWithVerticalVelocity", -1, "VelocityEstimate");
-         stat = asn1PE_UMTS_HorizontalWithVerticalVelocity(ctx, pvalue->u.horizontalWithVerticalVelocity);
-         RT_CHECK(ctx, stat, 0, "horizontalWithVerticalVelocity", -1, "VelocityEstimate");
-         break;
-      case 3:
-         if (pvalue->u.horizontalVelocityWithUncertainty == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "horizontalVelocityWithUncertainty", -1, "VelocityEstimate");
-         stat = asn1PE_UMTS_HorizontalVelocityWithUncertainty(ctx, pvalue->u.horizontalVelocityWithUncertainty);
-         RT_CHECK(ctx, stat, 0, "horizontalVelocityWithUncertainty", -1, "VelocityEstimate");
-         break;
-      case 4:
-         if (pvalue->u.horizontalWithVerticalVelocityAndUncertainty == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "horizontalWithVerticalVelocityAndUncertainty", -1, "VelocityEstimate");
-         stat = asn1PE_UMTS_HorizontalWithVerticalVelocityAndUncertainty(ctx, pvalue->u.horizontalWithVerticalVelocityAndUncertainty);
-         RT_CHECK(ctx, stat, 0, "horizontalWithVerticalVelocityAndUncertainty", -1, "VelocityEstimate");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_ReferenceTimeUncertainty(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_ReferenceTimeUncertainty value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 127u) {
-      rtxErrAddStrParm(ctx, "UE-Positioning-GPS-ReferenceTimeUncertainty");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "UE-Positioning-GPS-ReferenceTimeUncertainty");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 127);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-ReferenceTimeUncertainty");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_v770ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-PositionEstimateInfo-v770ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-PositionEstimateInfo-v770ext");
-   /* referenceTimeOptions */
-   stat = asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions(ctx, &pvalue->referenceTimeOptions);
-   RT_CHECK(ctx, stat, 0, "referenceTimeOptions", -1, "UE-Positioning-PositionEstimateInfo-v770ext");
-   /* positionData */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->positionData, 16, 16);
-   RT_CHECK(ctx, stat, 0, "positionData", -1, "UE-Positioning-PositionEstimateInfo-v770ext");
-   /* velocityEstimate */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_VelocityEstimate(ctx, &pvalue->velocityEstimate);
-      RT_CHECK(ctx, stat, 0, "velocityEstimate", -1, "UE-Positioning-PositionEstimateInfo-v770ext");
-   }
-   /* ue-Positioning-GPS-ReferenceTimeUncertainty */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty > 127u) {
-         rtxErrAddStrParm(ctx, "UE-Positioning-GPS-ReferenceTimeUncertainty");
-         rtxErrAddUIntParm(ctx, pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-PositionEstimateInfo-v770ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty, 0, 127);
-      RT_CHECK(ctx, stat, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-PositionEstimateInfo-v770ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_MeasurementResults_v770ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_MeasurementResults_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-MeasurementResults-v770ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-MeasurementResults-v770ext");
-   /* ue-Positioning-GPS-ReferenceTimeUncertainty */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty > 127u) {
-         rtxErrAddStrParm(ctx, "UE-Positioning-GPS-ReferenceTimeUncertainty");
-         rtxErrAddUIntParm(ctx, pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-GPS-MeasurementResults-v770ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty, 0, 127);
-      RT_CHECK(ctx, stat, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-GPS-MeasurementResults-v770ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_MeasuredResults_referenceTime(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_MeasuredResults_referenceTime* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.utran_GANSSReferenceTimeResult == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "utran-GANSSReferenceTimeResult", -1, 0);
-         stat = asn1PE_UMTS_UTRAN_GANSSReferenceTime(ctx, pvalue->u.utran_GANSSReferenceTimeResult);
-         RT_CHECK(ctx, stat, 0, "utran-GANSSReferenceTimeResult", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.ganssReferenceTimeOnly == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ganssReferenceTimeOnly", -1, 0);
-         stat = asn1PE_UMTS_GANSSReferenceTimeOnly(ctx, pvalue->u.ganssReferenceTimeOnly);
-         RT_CHECK(ctx, stat, 0, "ganssReferenceTimeOnly", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSMeasurementParameters_element_multipathIndicator(rtxContext* RT_RESTRICT ctx, GANSSMeasurementParameters_element_multipathIndicator value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSMeasurementParameters_element(rtxContext* RT_RESTRICT ctx, const GANSSMeasurementParameters_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* satId */
-   if ((uint64_t)pvalue->satId > 63u) {
-      rtxErrAddStrParm(ctx, "satId");
-      rtxErrAddUIntParm(ctx, pvalue->satId);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "satId", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->satId, 0, 63);
-   RT_CHECK(ctx, stat, 0, "satId", -1, 0);
-   /* cSurNzero */
-   if ((uint64_t)pvalue->cSurNzero > 63u) {
-      rtxErrAddStrParm(ctx, "cSurNzero");
-      rtxErrAddUIntParm(ctx, pvalue->cSurNzero);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "cSurNzero", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cSurNzero, 0, 63);
-   RT_CHECK(ctx, stat, 0, "cSurNzero", -1, 0);
-   /* multipathIndicator */
-   if (pvalue->multipathIndicator > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->multipathIndicator);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "multipathIndicator", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->multipathIndicator, 0, 3);
-   RT_CHECK(ctx, stat, 0, "multipathIndicator", -1, 0);
-   /* carrierQualityIndication */
-   if (pvalue->m & 0x1u) {
-      RT_SET_SIZE(ctx, 2, 2);
-      stat = pe_BitString32(ctx, &pvalue->carrierQualityIndication, 2, 2);
-      RT_CHECK(ctx, stat, 0, "carrierQualityIndication", -1, 0);
-   }
-   /* ganssCodePhase */
-   if ((uint64_t)pvalue->ganssCodePhase > 2097151u) {
-      rtxErrAddStrParm(ctx, "ganssCodePhase");
-      rtxErrAddUIntParm(ctx, pvalue->ganssCodePhase);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganssCodePhase", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ganssCodePhase, 0, 2097151);
-   RT_CHECK(ctx, stat, 0, "ganssCodePhase", -1, 0);
-   /* ganssIntegerCodePhase */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->ganssIntegerCodePhase > 63u) {
-         rtxErrAddStrParm(ctx, "ganssIntegerCodePhase");
-         rtxErrAddUIntParm(ctx, pvalue->ganssIntegerCodePhase);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganssIntegerCodePhase", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssIntegerCodePhase, 0, 63);
-      RT_CHECK(ctx, stat, 0, "ganssIntegerCodePhase", -1, 0);
-   }
-   /* codePhaseRmsError */
-   if ((uint64_t)pvalue->codePhaseRmsError > 63u) {
-      rtxErrAddStrParm(ctx, "codePhaseRmsError");
-      rtxErrAddUIntParm(ctx, pvalue->codePhaseRmsError);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "codePhaseRmsError", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->codePhaseRmsError, 0, 63);
-   RT_CHECK(ctx, stat, 0, "codePhaseRmsError", -1, 0);
-   /* doppler */
-   stat = pe_ConsInt64(ctx, pvalue->doppler, -32768, 32767);
-   RT_CHECK(ctx, stat, 0, "doppler", -1, 0);
-   /* adr */
-   if (pvalue->m & 0x4u) {
-      if ((uint64_t)pvalue->adr > 33554431u) {
-         rtxErrAddStrParm(ctx, "adr");
-         rtxErrAddUIntParm(ctx, pvalue->adr);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "adr", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->adr, 0, 33554431);
-      RT_CHECK(ctx, stat, 0, "adr", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSMeasurementParameters(rtxContext* RT_RESTRICT ctx, const GANSSMeasurementParameters* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSMeasurementParameters");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GANSSMeasurementParameters");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "GANSSMeasurementParameters");
-      stat = asn1PE_UMTS_GANSSMeasurementParameters_element(ctx, (const GANSSMeasurementParameters_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "GANSSMeasurementParameters");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSMeasurementSignalList_element(rtxContext* RT_RESTRICT ctx, const GANSSMeasurementSignalList_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ganssSignalId */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->ganssSignalId > 7u) {
-         rtxErrAddStrParm(ctx, "GANSS-Signal-Id");
-         rtxErrAddUIntParm(ctx, pvalue->ganssSignalId);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "GANSS-Signal-Id", "ganssSignalId", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssSignalId, 0, 7);
-      RT_CHECK(ctx, stat, "GANSS-Signal-Id", "ganssSignalId", -1, 0);
-   }
-   /* ganssCodePhaseAmbiguity */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->ganssCodePhaseAmbiguity > 31u) {
-         rtxErrAddStrParm(ctx, "ganssCodePhaseAmbiguity");
-         rtxErrAddUIntParm(ctx, pvalue->ganssCodePhaseAmbiguity);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganssCodePhaseAmbiguity", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssCodePhaseAmbiguity, 0, 31);
-      RT_CHECK(ctx, stat, 0, "ganssCodePhaseAmbiguity", -1, 0);
-   }
-   /* ganssMeasurementParameters */
-   stat = asn1PE_UMTS_GANSSMeasurementParameters(ctx, &pvalue->ganssMeasurementParameters);
-   RT_CHECK(ctx, stat, 0, "ganssMeasurementParameters", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSMeasurementSignalList(rtxContext* RT_RESTRICT ctx, const GANSSMeasurementSignalList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSMeasurementSignalList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GANSSMeasurementSignalList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "GANSSMeasurementSignalList");
-      stat = asn1PE_UMTS_GANSSMeasurementSignalList_element(ctx, (const GANSSMeasurementSignalList_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "GANSSMeasurementSignalList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSGenericMeasurementInfo_element(rtxContext* RT_RESTRICT ctx, const GANSSGenericMeasurementInfo_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ganssId */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->ganssId > 7u) {
-         rtxErrAddStrParm(ctx, "ganssId");
-         rtxErrAddUIntParm(ctx, pvalue->ganssId);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganssId", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssId, 0, 7);
-      RT_CHECK(ctx, stat, 0, "ganssId", -1, 0);
-   }
-   /* ganssMeasurementSignalList */
-   stat = asn1PE_UMTS_GANSSMeasurementSignalList(ctx, &pvalue->ganssMeasurementSignalList);
-   RT_CHECK(ctx, stat, 0, "ganssMeasurementSignalList", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSGenericMeasurementInfo(rtxContext* RT_RESTRICT ctx, const GANSSGenericMeasurementInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSGenericMeasurementInfo");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GANSSGenericMeasurementInfo");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "GANSSGenericMeasurementInfo");
-      stat = asn1PE_UMTS_GANSSGenericMeasurementInfo_element(ctx, (const GANSSGenericMeasurementInfo_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "GANSSGenericMeasurementInfo");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_MeasuredResults(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_MeasuredResults* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-MeasuredResults");
-   /* referenceTime */
-   stat = asn1PE_UMTS_UE_Positioning_GANSS_MeasuredResults_referenceTime(ctx, &pvalue->referenceTime);
-   RT_CHECK(ctx, stat, 0, "referenceTime", -1, "UE-Positioning-GANSS-MeasuredResults");
-   /* ganssGenericMeasurementInfo */
-   stat = asn1PE_UMTS_GANSSGenericMeasurementInfo(ctx, &pvalue->ganssGenericMeasurementInfo);
-   RT_CHECK(ctx, stat, 0, "ganssGenericMeasurementInfo", -1, "UE-Positioning-GANSS-MeasuredResults");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_MeasurementEventResults_v770ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_MeasurementEventResults_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-MeasurementEventResults-v770ext");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UE-Positioning-MeasurementEventResults-v770ext");
-   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UE-Positioning-MeasurementEventResults-v770ext");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.event7a == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event7a", -1, "UE-Positioning-MeasurementEventResults-v770ext");
-         stat = asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_v770ext(ctx, pvalue->u.event7a);
-         RT_CHECK(ctx, stat, 0, "event7a", -1, "UE-Positioning-MeasurementEventResults-v770ext");
-         break;
-      case 2:
-         if (pvalue->u.event7c == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event7c", -1, "UE-Positioning-MeasurementEventResults-v770ext");
-         stat = asn1PE_UMTS_UE_Positioning_GPS_MeasurementResults_v770ext(ctx, pvalue->u.event7c);
-         RT_CHECK(ctx, stat, 0, "event7c", -1, "UE-Positioning-MeasurementEventResults-v770ext");
-         break;
-      case 3:
-         if (pvalue->u.event7d == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event7d", -1, "UE-Positioning-MeasurementEventResults-v770ext");
-         stat = asn1PE_UMTS_UE_Positioning_GANSS_MeasuredResults(ctx, pvalue->u.event7d);
-         RT_CHECK(ctx, stat, 0, "event7d", -1, "UE-Positioning-MeasurementEventResults-v770ext");
-         break;
-      case 4:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_EventResults_v770ext(rtxContext* RT_RESTRICT ctx, const EventResults_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EventResults-v770ext");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 0);
-   RT_CHECK(ctx, stat, 0, "t", -1, "EventResults-v770ext");
-   if (pvalue->t - 1 > 0) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "EventResults-v770ext");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.ue_positioning_MeasurementEventResults == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ue-positioning-MeasurementEventResults", -1, "EventResults-v770ext");
-         stat = asn1PE_UMTS_UE_Positioning_MeasurementEventResults_v770ext(ctx, pvalue->u.ue_positioning_MeasurementEventResults);
-         RT_CHECK(ctx, stat, 0, "ue-positioning-MeasurementEventResults", -1, "EventResults-v770ext");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSMeasurementParameters_v860ext_element(rtxContext* RT_RESTRICT ctx, const GANSSMeasurementParameters_v860ext_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ganssIntegerCodePhaseExt */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->ganssIntegerCodePhaseExt - 64) > 63u) {
-         rtxErrAddStrParm(ctx, "ganssIntegerCodePhaseExt");
-         rtxErrAddUIntParm(ctx, pvalue->ganssIntegerCodePhaseExt);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganssIntegerCodePhaseExt", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssIntegerCodePhaseExt, 64, 127);
-      RT_CHECK(ctx, stat, 0, "ganssIntegerCodePhaseExt", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSMeasurementParameters_v860ext(rtxContext* RT_RESTRICT ctx, const GANSSMeasurementParameters_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSMeasurementParameters-v860ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GANSSMeasurementParameters-v860ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "GANSSMeasurementParameters-v860ext");
-      stat = asn1PE_UMTS_GANSSMeasurementParameters_v860ext_element(ctx, (const GANSSMeasurementParameters_v860ext_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "GANSSMeasurementParameters-v860ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSMeasurementSignalList_v860ext_element(rtxContext* RT_RESTRICT ctx, const GANSSMeasurementSignalList_v860ext_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ganssCodePhaseAmbiguityExt */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->ganssCodePhaseAmbiguityExt - 32) > 95u) {
-         rtxErrAddStrParm(ctx, "ganssCodePhaseAmbiguityExt");
-         rtxErrAddUIntParm(ctx, pvalue->ganssCodePhaseAmbiguityExt);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganssCodePhaseAmbiguityExt", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssCodePhaseAmbiguityExt, 32, 127);
-      RT_CHECK(ctx, stat, 0, "ganssCodePhaseAmbiguityExt", -1, 0);
-   }
-   /* ganssMeasurementParameters */
-   stat = asn1PE_UMTS_GANSSMeasurementParameters_v860ext(ctx, &pvalue->ganssMeasurementParameters);
-   RT_CHECK(ctx, stat, 0, "ganssMeasurementParameters", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSMeasurementSignalList_v860ext(rtxContext* RT_RESTRICT ctx, const GANSSMeasurementSignalList_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSMeasurementSignalList-v860ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GANSSMeasurementSignalList-v860ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "GANSSMeasurementSignalList-v860ext");
-      stat = asn1PE_UMTS_GANSSMeasurementSignalList_v860ext_element(ctx, (const GANSSMeasurementSignalList_v860ext_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "GANSSMeasurementSignalList-v860ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSGenericMeasurementInfo_v860ext_element(rtxContext* RT_RESTRICT ctx, const GANSSGenericMeasurementInfo_v860ext_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* ganssMeasurementSignalList */
-   stat = asn1PE_UMTS_GANSSMeasurementSignalList_v860ext(ctx, &pvalue->ganssMeasurementSignalList);
-   RT_CHECK(ctx, stat, 0, "ganssMeasurementSignalList", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSGenericMeasurementInfo_v860ext(rtxContext* RT_RESTRICT ctx, const GANSSGenericMeasurementInfo_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSGenericMeasurementInfo-v860ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GANSSGenericMeasurementInfo-v860ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "GANSSGenericMeasurementInfo-v860ext");
-      stat = asn1PE_UMTS_GANSSGenericMeasurementInfo_v860ext_element(ctx, (const GANSSGenericMeasurementInfo_v860ext_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "GANSSGenericMeasurementInfo-v860ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_MeasuredResults_v860ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_MeasuredResults_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-MeasuredResults-v860ext");
-   /* ganssGenericMeasurementInfo */
-   stat = asn1PE_UMTS_GANSSGenericMeasurementInfo_v860ext(ctx, &pvalue->ganssGenericMeasurementInfo);
-   RT_CHECK(ctx, stat, 0, "ganssGenericMeasurementInfo", -1, "UE-Positioning-GANSS-MeasuredResults-v860ext");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_MeasurementEventResults_v860ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_MeasurementEventResults_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-MeasurementEventResults-v860ext");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 0);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UE-Positioning-MeasurementEventResults-v860ext");
-   if (pvalue->t - 1 > 0) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UE-Positioning-MeasurementEventResults-v860ext");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.event7d == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event7d", -1, "UE-Positioning-MeasurementEventResults-v860ext");
-         stat = asn1PE_UMTS_UE_Positioning_GANSS_MeasuredResults_v860ext(ctx, pvalue->u.event7d);
-         RT_CHECK(ctx, stat, 0, "event7d", -1, "UE-Positioning-MeasurementEventResults-v860ext");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_EventResults_v860ext(rtxContext* RT_RESTRICT ctx, const EventResults_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EventResults-v860ext");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 0);
-   RT_CHECK(ctx, stat, 0, "t", -1, "EventResults-v860ext");
-   if (pvalue->t - 1 > 0) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "EventResults-v860ext");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.ue_positioning_MeasurementEventResults == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ue-positioning-MeasurementEventResults", -1, "EventResults-v860ext");
-         stat = asn1PE_UMTS_UE_Positioning_MeasurementEventResults_v860ext(ctx, pvalue->u.ue_positioning_MeasurementEventResults);
-         RT_CHECK(ctx, stat, 0, "ue-positioning-MeasurementEventResults", -1, "EventResults-v860ext");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqEventResultsOnSecUlFreq(rtxContext* RT_RESTRICT ctx, const IntraFreqEventResultsOnSecUlFreq* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventResultsOnSecUlFreq");
-   /* eventID */
-   if (pvalue->eventID > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->eventID);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "EventIDIntraFreq", "eventID", -1, "IntraFreqEventResultsOnSecUlFreq");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->eventID, 0, 15);
-   RT_CHECK(ctx, stat, "EventIDIntraFreq", "eventID", -1, "IntraFreqEventResultsOnSecUlFreq");
-   /* cellMeasurementEventResultsOnSecUlFreq */
-   stat = asn1PE_UMTS_CellMeasurementEventResultsOnSecUlFreq(ctx, &pvalue->cellMeasurementEventResultsOnSecUlFreq);
-   RT_CHECK(ctx, stat, 0, "cellMeasurementEventResultsOnSecUlFreq", -1, "IntraFreqEventResultsOnSecUlFreq");
-   return 0;
-}
-
-int asn1PE_UMTS_EventResultsOnSecUlFreq(rtxContext* RT_RESTRICT ctx, const EventResultsOnSecUlFreq* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EventResultsOnSecUlFreq");
-   /* intraFreqEventResults */
-   stat = asn1PE_UMTS_IntraFreqEventResultsOnSecUlFreq(ctx, &pvalue->intraFreqEventResults);
-   RT_CHECK(ctx, stat, 0, "intraFreqEventResults", -1, "EventResultsOnSecUlFreq");
-   return 0;
-}
-
-int asn1PE_UMTS_ExtraDoppler_dopplerUncertainty(rtxContext* RT_RESTRICT ctx, ExtraDoppler_dopplerUncertainty value)
+RT_MERGED_BODY int enc_E_RUCCH_Info_modeSpecificInfo_tdd128_t_WAIT(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd128_t_WAIT value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value > 7) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_ExtraDoppler(rtxContext* RT_RESTRICT ctx, const ExtraDoppler* RT_RESTRICT pvalue)
+int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd128_t_WAIT(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd128_t_WAIT value)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ExtraDoppler");
-   /* dopplerFirstOrder */
-   if (pvalue->dopplerFirstOrder < -42 || pvalue->dopplerFirstOrder > 21) {
-      rtxErrAddStrParm(ctx, "dopplerFirstOrder");
-      rtxErrAddIntParm(ctx, pvalue->dopplerFirstOrder);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "dopplerFirstOrder", -1, "ExtraDoppler");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->dopplerFirstOrder, -42, 21);
-   RT_CHECK(ctx, stat, 0, "dopplerFirstOrder", -1, "ExtraDoppler");
-   /* dopplerUncertainty */
-   if (pvalue->dopplerUncertainty > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->dopplerUncertainty);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "dopplerUncertainty", -1, "ExtraDoppler");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dopplerUncertainty, 0, 7);
-   RT_CHECK(ctx, stat, 0, "dopplerUncertainty", -1, "ExtraDoppler");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_E_RUCCH_Info_modeSpecificInfo_tdd128_t_WAIT, value);
 }
 
-int asn1PE_UMTS_FineSFN_SFN(rtxContext* RT_RESTRICT ctx, FineSFN_SFN value)
+RT_MERGED_BODY int enc_E_RUCCH_Info_modeSpecificInfo_tdd128_t_SI(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd128_t_SI value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if ((uint64_t)value > 15u) {
-      rtxErrAddStrParm(ctx, "FineSFN-SFN");
+   if (value > 6) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "FineSFN-SFN");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "FineSFN-SFN");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_FreqQualityEstimateQuantity_FDD(rtxContext* RT_RESTRICT ctx, FreqQualityEstimateQuantity_FDD value)
+int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd128_t_SI(rtxContext* RT_RESTRICT ctx, E_RUCCH_Info_modeSpecificInfo_tdd128_t_SI value)
 {
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "FreqQualityEstimateQuantity-FDD");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "FreqQualityEstimateQuantity-FDD");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_E_RUCCH_Info_modeSpecificInfo_tdd128_t_SI, value);
 }
 
-int asn1PE_UMTS_FreqQualityEstimateQuantity_TDD(rtxContext* RT_RESTRICT ctx, FreqQualityEstimateQuantity_TDD value)
+RT_MERGED_BODY int enc_E_RUCCH_Info_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_modeSpecificInfo_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "FreqQualityEstimateQuantity-TDD");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, "FreqQualityEstimateQuantity-TDD");
-   return 0;
-}
-
-int asn1PE_UMTS_ReqDataBitAssistance_ganssSatelliteInfo_element(rtxContext* RT_RESTRICT ctx, ReqDataBitAssistance_ganssSatelliteInfo_element value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 63u) {
-      rtxErrAddStrParm(ctx, 0);
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 63);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_ReqDataBitAssistance_ganssSatelliteInfo(rtxContext* RT_RESTRICT ctx, const ReqDataBitAssistance_ganssSatelliteInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)pvalue->elem[i] > 63u) {
-         rtxErrAddStrParm(ctx, "element");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "element", (int32_t)i, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 63);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ReqDataBitAssistance(rtxContext* RT_RESTRICT ctx, const ReqDataBitAssistance* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ReqDataBitAssistance");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ReqDataBitAssistance");
-   /* ganssSignalID */
-   stat = asn1PE_UMTS_DGANSS_Sig_Id_Req(ctx, pvalue->ganssSignalID);
-   RT_CHECK(ctx, stat, 0, "ganssSignalID", -1, "ReqDataBitAssistance");
-   /* ganssDataBitInterval */
-   if ((uint64_t)pvalue->ganssDataBitInterval > 15u) {
-      rtxErrAddStrParm(ctx, "ganssDataBitInterval");
-      rtxErrAddUIntParm(ctx, pvalue->ganssDataBitInterval);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganssDataBitInterval", -1, "ReqDataBitAssistance");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ganssDataBitInterval, 0, 15);
-   RT_CHECK(ctx, stat, 0, "ganssDataBitInterval", -1, "ReqDataBitAssistance");
-   /* ganssSatelliteInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ReqDataBitAssistance_ganssSatelliteInfo(ctx, &pvalue->ganssSatelliteInfo);
-      RT_CHECK(ctx, stat, 0, "ganssSatelliteInfo", -1, "ReqDataBitAssistance");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GanssDataBits(rtxContext* RT_RESTRICT ctx, const GanssDataBits* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GanssDataBits");
-   /* ganssTod */
-   if ((uint64_t)pvalue->ganssTod > 86399u) {
-      rtxErrAddStrParm(ctx, "ganssTod");
-      rtxErrAddUIntParm(ctx, pvalue->ganssTod);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganssTod", -1, "GanssDataBits");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ganssTod, 0, 86399);
-   RT_CHECK(ctx, stat, 0, "ganssTod", -1, "GanssDataBits");
-   /* dataBitAssistance */
-   stat = asn1PE_UMTS_ReqDataBitAssistance(ctx, &pvalue->dataBitAssistance);
-   RT_CHECK(ctx, stat, 0, "dataBitAssistance", -1, "GanssDataBits");
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSDecipheringKeys_currentDecipheringKey(rtxContext* RT_RESTRICT ctx, const GANSSDecipheringKeys_currentDecipheringKey* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   RT_SET_SIZE(ctx, 56, 56);
-   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSDecipheringKeys_nextDecipheringKey(rtxContext* RT_RESTRICT ctx, const GANSSDecipheringKeys_nextDecipheringKey* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   RT_SET_SIZE(ctx, 56, 56);
-   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSDecipheringKeys(rtxContext* RT_RESTRICT ctx, const GANSSDecipheringKeys* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSDecipheringKeys");
-   /* currentDecipheringKey */
-   stat = asn1PE_UMTS_GANSSDecipheringKeys_currentDecipheringKey(ctx, &pvalue->currentDecipheringKey);
-   RT_CHECK(ctx, stat, 0, "currentDecipheringKey", -1, "GANSSDecipheringKeys");
-   /* nextDecipheringKey */
-   stat = asn1PE_UMTS_GANSSDecipheringKeys_nextDecipheringKey(ctx, &pvalue->nextDecipheringKey);
-   RT_CHECK(ctx, stat, 0, "nextDecipheringKey", -1, "GANSSDecipheringKeys");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_TimeModel_gnss_to_id(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_TimeModel_gnss_to_id value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_TimeModel(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_TimeModel* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-TimeModel");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-TimeModel");
-   /* ganss-timeModelreferenceTime */
-   if ((uint64_t)pvalue->ganss_timeModelreferenceTime > 37799u) {
-      rtxErrAddStrParm(ctx, "ganss-timeModelreferenceTime");
-      rtxErrAddUIntParm(ctx, pvalue->ganss_timeModelreferenceTime);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganss-timeModelreferenceTime", -1, "UE-Positioning-GANSS-TimeModel");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ganss_timeModelreferenceTime, 0, 37799);
-   RT_CHECK(ctx, stat, 0, "ganss-timeModelreferenceTime", -1, "UE-Positioning-GANSS-TimeModel");
-   /* ganss-t-a0 */
-   if (pvalue->ganss_t_a0 < -2147483648LL || pvalue->ganss_t_a0 > 2147483647) {
-      rtxErrAddStrParm(ctx, "ganss-t-a0");
-      rtxErrAddIntParm(ctx, pvalue->ganss_t_a0);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganss-t-a0", -1, "UE-Positioning-GANSS-TimeModel");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->ganss_t_a0, -2147483648LL, 2147483647);
-   RT_CHECK(ctx, stat, 0, "ganss-t-a0", -1, "UE-Positioning-GANSS-TimeModel");
-   /* ganss-t-a1 */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->ganss_t_a1 < -8388608 || pvalue->ganss_t_a1 > 8388607) {
-         rtxErrAddStrParm(ctx, "ganss-t-a1");
-         rtxErrAddIntParm(ctx, pvalue->ganss_t_a1);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganss-t-a1", -1, "UE-Positioning-GANSS-TimeModel");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->ganss_t_a1, -8388608, 8388607);
-      RT_CHECK(ctx, stat, 0, "ganss-t-a1", -1, "UE-Positioning-GANSS-TimeModel");
-   }
-   /* ganss-t-a2 */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->ganss_t_a2 < -64 || pvalue->ganss_t_a2 > 63) {
-         rtxErrAddStrParm(ctx, "ganss-t-a2");
-         rtxErrAddIntParm(ctx, pvalue->ganss_t_a2);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganss-t-a2", -1, "UE-Positioning-GANSS-TimeModel");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->ganss_t_a2, -64, 63);
-      RT_CHECK(ctx, stat, 0, "ganss-t-a2", -1, "UE-Positioning-GANSS-TimeModel");
-   }
-   /* gnss-to-id */
-   if (pvalue->gnss_to_id > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->gnss_to_id);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "gnss-to-id", -1, "UE-Positioning-GANSS-TimeModel");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->gnss_to_id, 0, 7);
-   RT_CHECK(ctx, stat, 0, "gnss-to-id", -1, "UE-Positioning-GANSS-TimeModel");
-   /* ganss-wk-number */
-   if (pvalue->m & 0x4u) {
-      if ((uint64_t)pvalue->ganss_wk_number > 8191u) {
-         rtxErrAddStrParm(ctx, "ganss-wk-number");
-         rtxErrAddUIntParm(ctx, pvalue->ganss_wk_number);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganss-wk-number", -1, "UE-Positioning-GANSS-TimeModel");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ganss_wk_number, 0, 8191);
-      RT_CHECK(ctx, stat, 0, "ganss-wk-number", -1, "UE-Positioning-GANSS-TimeModel");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSTimeModelsList(rtxContext* RT_RESTRICT ctx, const GANSSTimeModelsList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSTimeModelsList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 7);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GANSSTimeModelsList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UE-Positioning-GANSS-TimeModel", (int32_t)i, "GANSSTimeModelsList");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_TimeModel(ctx, (const UE_Positioning_GANSS_TimeModel*)node->data);
-      RT_CHECK(ctx, stat, 0, "UE-Positioning-GANSS-TimeModel", (int32_t)i, "GANSSTimeModelsList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_DGANSSCorrections(rtxContext* RT_RESTRICT ctx, const UE_Positioning_DGANSSCorrections* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-DGANSSCorrections");
-   /* dganssreferencetime */
-   if ((uint64_t)pvalue->dganssreferencetime > 119u) {
-      rtxErrAddStrParm(ctx, "dganssreferencetime");
-      rtxErrAddUIntParm(ctx, pvalue->dganssreferencetime);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "dganssreferencetime", -1, "UE-Positioning-DGANSSCorrections");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dganssreferencetime, 0, 119);
-   RT_CHECK(ctx, stat, 0, "dganssreferencetime", -1, "UE-Positioning-DGANSSCorrections");
-   /* dganssInfoList */
-   stat = asn1PE_UMTS_DGANSSInfoList(ctx, &pvalue->dganssInfoList);
-   RT_CHECK(ctx, stat, 0, "dganssInfoList", -1, "UE-Positioning-DGANSSCorrections");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_NavigationModel_non_broadcastIndication(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_NavigationModel_non_broadcastIndication value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_Satellite_clock_model(rtxContext* RT_RESTRICT ctx, const Satellite_clock_model* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Satellite-clock-model");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Satellite-clock-model");
-   /* t-oc */
-   RT_SET_SIZE(ctx, 14, 14);
-   stat = pe_BitString32(ctx, &pvalue->t_oc, 14, 14);
-   RT_CHECK(ctx, stat, 0, "t-oc", -1, "Satellite-clock-model");
-   /* af2 */
-   RT_SET_SIZE(ctx, 12, 12);
-   stat = pe_BitString32(ctx, &pvalue->af2, 12, 12);
-   RT_CHECK(ctx, stat, 0, "af2", -1, "Satellite-clock-model");
-   /* af1 */
-   RT_SET_SIZE(ctx, 18, 18);
-   stat = pe_BitString32(ctx, &pvalue->af1, 18, 18);
-   RT_CHECK(ctx, stat, 0, "af1", -1, "Satellite-clock-model");
-   /* af0 */
-   RT_SET_SIZE(ctx, 28, 28);
-   stat = pe_BitString32(ctx, &pvalue->af0, 28, 28);
-   RT_CHECK(ctx, stat, 0, "af0", -1, "Satellite-clock-model");
-   /* tgd */
-   if (pvalue->m & 0x1u) {
-      RT_SET_SIZE(ctx, 10, 10);
-      stat = pe_BitString32(ctx, &pvalue->tgd, 10, 10);
-      RT_CHECK(ctx, stat, 0, "tgd", -1, "Satellite-clock-model");
-   }
-   /* model-id */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->model_id > 1u) {
-         rtxErrAddStrParm(ctx, "model-id");
-         rtxErrAddUIntParm(ctx, pvalue->model_id);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "model-id", -1, "Satellite-clock-model");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->model_id, 0, 1);
-      RT_CHECK(ctx, stat, 0, "model-id", -1, "Satellite-clock-model");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Satellite_clock_modelList(rtxContext* RT_RESTRICT ctx, const Satellite_clock_modelList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Satellite-clock-modelList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "Satellite-clock-modelList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "Satellite-clock-model", (int32_t)i, "Satellite-clock-modelList");
-      stat = asn1PE_UMTS_Satellite_clock_model(ctx, (const Satellite_clock_model*)node->data);
-      RT_CHECK(ctx, stat, 0, "Satellite-clock-model", (int32_t)i, "Satellite-clock-modelList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_ClockModel(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_ClockModel* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-ClockModel");
-   /* satellite-clock-modelList */
-   stat = asn1PE_UMTS_Satellite_clock_modelList(ctx, &pvalue->satellite_clock_modelList);
-   RT_CHECK(ctx, stat, 0, "satellite-clock-modelList", -1, "UE-Positioning-GANSS-ClockModel");
-   return 0;
-}
-
-int asn1PE_UMTS_KeplerianParameters(rtxContext* RT_RESTRICT ctx, const KeplerianParameters* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "KeplerianParameters");
-   /* toe-nav */
-   RT_SET_SIZE(ctx, 14, 14);
-   stat = pe_BitString32(ctx, &pvalue->toe_nav, 14, 14);
-   RT_CHECK(ctx, stat, 0, "toe-nav", -1, "KeplerianParameters");
-   /* ganss-omega-nav */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->ganss_omega_nav, 32, 32);
-   RT_CHECK(ctx, stat, 0, "ganss-omega-nav", -1, "KeplerianParameters");
-   /* delta-n-nav */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->delta_n_nav, 16, 16);
-   RT_CHECK(ctx, stat, 0, "delta-n-nav", -1, "KeplerianParameters");
-   /* m-zero-nav */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->m_zero_nav, 32, 32);
-   RT_CHECK(ctx, stat, 0, "m-zero-nav", -1, "KeplerianParameters");
-   /* omegadot-nav */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->omegadot_nav, 24, 24);
-   RT_CHECK(ctx, stat, 0, "omegadot-nav", -1, "KeplerianParameters");
-   /* ganss-e-nav */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->ganss_e_nav, 32, 32);
-   RT_CHECK(ctx, stat, 0, "ganss-e-nav", -1, "KeplerianParameters");
-   /* idot-nav */
-   RT_SET_SIZE(ctx, 14, 14);
-   stat = pe_BitString32(ctx, &pvalue->idot_nav, 14, 14);
-   RT_CHECK(ctx, stat, 0, "idot-nav", -1, "KeplerianParameters");
-   /* a-sqrt-nav */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->a_sqrt_nav, 32, 32);
-   RT_CHECK(ctx, stat, 0, "a-sqrt-nav", -1, "KeplerianParameters");
-   /* i-zero-nav */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->i_zero_nav, 32, 32);
-   RT_CHECK(ctx, stat, 0, "i-zero-nav", -1, "KeplerianParameters");
-   /* omega-zero-nav */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->omega_zero_nav, 32, 32);
-   RT_CHECK(ctx, stat, 0, "omega-zero-nav", -1, "KeplerianParameters");
-   /* c-rs-nav */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->c_rs_nav, 16, 16);
-   RT_CHECK(ctx, stat, 0, "c-rs-nav", -1, "KeplerianParameters");
-   /* c-is-nav */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->c_is_nav, 16, 16);
-   RT_CHECK(ctx, stat, 0, "c-is-nav", -1, "KeplerianParameters");
-   /* c-us-nav */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->c_us_nav, 16, 16);
-   RT_CHECK(ctx, stat, 0, "c-us-nav", -1, "KeplerianParameters");
-   /* c-rc-nav */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->c_rc_nav, 16, 16);
-   RT_CHECK(ctx, stat, 0, "c-rc-nav", -1, "KeplerianParameters");
-   /* c-ic-nav */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->c_ic_nav, 16, 16);
-   RT_CHECK(ctx, stat, 0, "c-ic-nav", -1, "KeplerianParameters");
-   /* c-uc-nav */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->c_uc_nav, 16, 16);
-   RT_CHECK(ctx, stat, 0, "c-uc-nav", -1, "KeplerianParameters");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_OrbitModel(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_OrbitModel* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-OrbitModel");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-OrbitModel");
-   /* keplerianParameters */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_KeplerianParameters(ctx, &pvalue->keplerianParameters);
-      RT_CHECK(ctx, stat, 0, "keplerianParameters", -1, "UE-Positioning-GANSS-OrbitModel");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Ganss_Sat_Info_Nav(rtxContext* RT_RESTRICT ctx, const Ganss_Sat_Info_Nav* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Ganss-Sat-Info-Nav");
-   /* satId */
-   if ((uint64_t)pvalue->satId > 63u) {
-      rtxErrAddStrParm(ctx, "satId");
-      rtxErrAddUIntParm(ctx, pvalue->satId);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "satId", -1, "Ganss-Sat-Info-Nav");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->satId, 0, 63);
-   RT_CHECK(ctx, stat, 0, "satId", -1, "Ganss-Sat-Info-Nav");
-   /* svHealth */
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pe_BitString32(ctx, &pvalue->svHealth, 5, 5);
-   RT_CHECK(ctx, stat, 0, "svHealth", -1, "Ganss-Sat-Info-Nav");
-   /* iod */
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pe_BitString32(ctx, &pvalue->iod, 10, 10);
-   RT_CHECK(ctx, stat, 0, "iod", -1, "Ganss-Sat-Info-Nav");
-   /* ganssClockModel */
-   stat = asn1PE_UMTS_UE_Positioning_GANSS_ClockModel(ctx, &pvalue->ganssClockModel);
-   RT_CHECK(ctx, stat, 0, "ganssClockModel", -1, "Ganss-Sat-Info-Nav");
-   /* ganssOrbitModel */
-   stat = asn1PE_UMTS_UE_Positioning_GANSS_OrbitModel(ctx, &pvalue->ganssOrbitModel);
-   RT_CHECK(ctx, stat, 0, "ganssOrbitModel", -1, "Ganss-Sat-Info-Nav");
-   return 0;
-}
-
-int asn1PE_UMTS_Ganss_Sat_Info_NavList(rtxContext* RT_RESTRICT ctx, const Ganss_Sat_Info_NavList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Ganss-Sat-Info-NavList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "Ganss-Sat-Info-NavList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "Ganss-Sat-Info-Nav", (int32_t)i, "Ganss-Sat-Info-NavList");
-      stat = asn1PE_UMTS_Ganss_Sat_Info_Nav(ctx, (const Ganss_Sat_Info_Nav*)node->data);
-      RT_CHECK(ctx, stat, 0, "Ganss-Sat-Info-Nav", (int32_t)i, "Ganss-Sat-Info-NavList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_NavigationModel(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_NavigationModel* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-NavigationModel");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-NavigationModel");
-   /* non-broadcastIndication */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->non_broadcastIndication > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->non_broadcastIndication);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "non-broadcastIndication", -1, "UE-Positioning-GANSS-NavigationModel");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->non_broadcastIndication, 0, 0);
-      RT_CHECK(ctx, stat, 0, "non-broadcastIndication", -1, "UE-Positioning-GANSS-NavigationModel");
-   }
-   /* ganssSatInfoNavList */
-   stat = asn1PE_UMTS_Ganss_Sat_Info_NavList(ctx, &pvalue->ganssSatInfoNavList);
-   RT_CHECK(ctx, stat, 0, "ganssSatInfoNavList", -1, "UE-Positioning-GANSS-NavigationModel");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_RealTimeIntegrity_element(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_RealTimeIntegrity_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* bad-ganss-satId */
-   if ((uint64_t)pvalue->bad_ganss_satId > 63u) {
-      rtxErrAddStrParm(ctx, "bad-ganss-satId");
-      rtxErrAddUIntParm(ctx, pvalue->bad_ganss_satId);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "bad-ganss-satId", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->bad_ganss_satId, 0, 63);
-   RT_CHECK(ctx, stat, 0, "bad-ganss-satId", -1, 0);
-   /* bad-ganss-signalId */
-   if (pvalue->m & 0x1u) {
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pe_BitString32(ctx, &pvalue->bad_ganss_signalId, 8, 8);
-      RT_CHECK(ctx, stat, 0, "bad-ganss-signalId", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_RealTimeIntegrity(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_RealTimeIntegrity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-RealTimeIntegrity");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-RealTimeIntegrity");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "UE-Positioning-GANSS-RealTimeIntegrity");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_RealTimeIntegrity_element(ctx, (const UE_Positioning_GANSS_RealTimeIntegrity_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "UE-Positioning-GANSS-RealTimeIntegrity");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_Data_Bit_Assistance(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_Data_Bit_Assistance* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-Data-Bit-Assistance");
-   /* ganss-tod */
-   if ((uint64_t)pvalue->ganss_tod > 59u) {
-      rtxErrAddStrParm(ctx, "ganss-tod");
-      rtxErrAddUIntParm(ctx, pvalue->ganss_tod);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganss-tod", -1, "UE-Positioning-GANSS-Data-Bit-Assistance");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ganss_tod, 0, 59);
-   RT_CHECK(ctx, stat, 0, "ganss-tod", -1, "UE-Positioning-GANSS-Data-Bit-Assistance");
-   /* dataBitAssistanceList */
-   stat = asn1PE_UMTS_DataBitAssistanceList(ctx, &pvalue->dataBitAssistanceList);
-   RT_CHECK(ctx, stat, 0, "dataBitAssistanceList", -1, "UE-Positioning-GANSS-Data-Bit-Assistance");
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSSatelliteInformation(rtxContext* RT_RESTRICT ctx, const GANSSSatelliteInformation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSSatelliteInformation");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSSSatelliteInformation");
-   /* ganssSatId */
-   if ((uint64_t)pvalue->ganssSatId > 63u) {
-      rtxErrAddStrParm(ctx, "ganssSatId");
-      rtxErrAddUIntParm(ctx, pvalue->ganssSatId);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganssSatId", -1, "GANSSSatelliteInformation");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ganssSatId, 0, 63);
-   RT_CHECK(ctx, stat, 0, "ganssSatId", -1, "GANSSSatelliteInformation");
-   /* dopplerZeroOrder */
-   if (pvalue->dopplerZeroOrder < -2048 || pvalue->dopplerZeroOrder > 2047) {
-      rtxErrAddStrParm(ctx, "dopplerZeroOrder");
-      rtxErrAddIntParm(ctx, pvalue->dopplerZeroOrder);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "dopplerZeroOrder", -1, "GANSSSatelliteInformation");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->dopplerZeroOrder, -2048, 2047);
-   RT_CHECK(ctx, stat, 0, "dopplerZeroOrder", -1, "GANSSSatelliteInformation");
-   /* extraDoppler */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ExtraDoppler(ctx, &pvalue->extraDoppler);
-      RT_CHECK(ctx, stat, 0, "extraDoppler", -1, "GANSSSatelliteInformation");
-   }
-   /* codePhase */
-   if ((uint64_t)pvalue->codePhase > 1023u) {
-      rtxErrAddStrParm(ctx, "codePhase");
-      rtxErrAddUIntParm(ctx, pvalue->codePhase);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "codePhase", -1, "GANSSSatelliteInformation");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->codePhase, 0, 1023);
-   RT_CHECK(ctx, stat, 0, "codePhase", -1, "GANSSSatelliteInformation");
-   /* integerCodePhase */
-   if ((uint64_t)pvalue->integerCodePhase > 127u) {
-      rtxErrAddStrParm(ctx, "integerCodePhase");
-      rtxErrAddUIntParm(ctx, pvalue->integerCodePhase);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "integerCodePhase", -1, "GANSSSatelliteInformation");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->integerCodePhase, 0, 127);
-   RT_CHECK(ctx, stat, 0, "integerCodePhase", -1, "GANSSSatelliteInformation");
-   /* codePhaseSearchWindow */
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pe_BitString32(ctx, &pvalue->codePhaseSearchWindow, 5, 5);
-   RT_CHECK(ctx, stat, 0, "codePhaseSearchWindow", -1, "GANSSSatelliteInformation");
-   /* azimuthandElevation */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_AzimuthAndElevation(ctx, &pvalue->azimuthandElevation);
-      RT_CHECK(ctx, stat, 0, "azimuthandElevation", -1, "GANSSSatelliteInformation");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSSatelliteInformationList(rtxContext* RT_RESTRICT ctx, const GANSSSatelliteInformationList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSSatelliteInformationList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GANSSSatelliteInformationList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "GANSSSatelliteInformation", (int32_t)i, "GANSSSatelliteInformationList");
-      stat = asn1PE_UMTS_GANSSSatelliteInformation(ctx, (const GANSSSatelliteInformation*)node->data);
-      RT_CHECK(ctx, stat, 0, "GANSSSatelliteInformation", (int32_t)i, "GANSSSatelliteInformationList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_ReferenceMeasurementInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_ReferenceMeasurementInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-ReferenceMeasurementInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-ReferenceMeasurementInfo");
-   /* ganssSignalId */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->ganssSignalId > 7u) {
-         rtxErrAddStrParm(ctx, "GANSS-Signal-Id");
-         rtxErrAddUIntParm(ctx, pvalue->ganssSignalId);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "GANSS-Signal-Id", "ganssSignalId", -1, "UE-Positioning-GANSS-ReferenceMeasurementInfo");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssSignalId, 0, 7);
-      RT_CHECK(ctx, stat, "GANSS-Signal-Id", "ganssSignalId", -1, "UE-Positioning-GANSS-ReferenceMeasurementInfo");
-   }
-   /* satelliteInformationList */
-   stat = asn1PE_UMTS_GANSSSatelliteInformationList(ctx, &pvalue->satelliteInformationList);
-   RT_CHECK(ctx, stat, 0, "satelliteInformationList", -1, "UE-Positioning-GANSS-ReferenceMeasurementInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_Almanac(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_Almanac* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-Almanac");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-Almanac");
-   /* ganss-wk-number */
-   stat = pe_ConsUInt64(ctx, pvalue->ganss_wk_number, 0, 255);
-   RT_CHECK(ctx, stat, 0, "ganss-wk-number", -1, "UE-Positioning-GANSS-Almanac");
-   /* alm-keplerianParameters */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ALM_keplerianParameters(ctx, &pvalue->alm_keplerianParameters);
-      RT_CHECK(ctx, stat, 0, "alm-keplerianParameters", -1, "UE-Positioning-GANSS-Almanac");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_UTCModel(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_UTCModel* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-UTCModel");
-   /* a-one-utc */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->a_one_utc, 24, 24);
-   RT_CHECK(ctx, stat, 0, "a-one-utc", -1, "UE-Positioning-GANSS-UTCModel");
-   /* a-zero-utc */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->a_zero_utc, 32, 32);
-   RT_CHECK(ctx, stat, 0, "a-zero-utc", -1, "UE-Positioning-GANSS-UTCModel");
-   /* t-ot-utc */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->t_ot_utc, 8, 8);
-   RT_CHECK(ctx, stat, 0, "t-ot-utc", -1, "UE-Positioning-GANSS-UTCModel");
-   /* delta-t-ls-utc */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->delta_t_ls_utc, 8, 8);
-   RT_CHECK(ctx, stat, 0, "delta-t-ls-utc", -1, "UE-Positioning-GANSS-UTCModel");
-   /* w-n-t-utc */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->w_n_t_utc, 8, 8);
-   RT_CHECK(ctx, stat, 0, "w-n-t-utc", -1, "UE-Positioning-GANSS-UTCModel");
-   /* w-n-lsf-utc */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->w_n_lsf_utc, 8, 8);
-   RT_CHECK(ctx, stat, 0, "w-n-lsf-utc", -1, "UE-Positioning-GANSS-UTCModel");
-   /* dn-utc */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->dn_utc, 8, 8);
-   RT_CHECK(ctx, stat, 0, "dn-utc", -1, "UE-Positioning-GANSS-UTCModel");
-   /* delta-t-lsf-utc */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->delta_t_lsf_utc, 8, 8);
-   RT_CHECK(ctx, stat, 0, "delta-t-lsf-utc", -1, "UE-Positioning-GANSS-UTCModel");
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSGenericData(rtxContext* RT_RESTRICT ctx, const GANSSGenericData* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSGenericData");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 8) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 8) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 7) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 6) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 5) |
@@ -4397,2001 +2216,98 @@ int asn1PE_UMTS_GANSSGenericData(rtxContext* RT_RESTRICT ctx, const GANSSGeneric
       ((uint64_t)((pvalue->m >> 6) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 7) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 8) & 1u) << 0), 9);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSSGenericData");
-   /* ganssId */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* t-RUCCH */
    if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->ganssId > 7u) {
-         rtxErrAddStrParm(ctx, "ganssId");
-         rtxErrAddUIntParm(ctx, pvalue->ganssId);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganssId", -1, "GANSSGenericData");
+      if (pvalue->t_RUCCH > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->t_RUCCH);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "t-RUCCH", -1, 0);
       }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssId, 0, 7);
-      RT_CHECK(ctx, stat, 0, "ganssId", -1, "GANSSGenericData");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_RUCCH, 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "t-RUCCH", -1, 0);
    }
-   /* ganssTimeModelsList */
+   /* n-RUCCH */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_GANSSTimeModelsList(ctx, &pvalue->ganssTimeModelsList);
-      RT_CHECK(ctx, stat, 0, "ganssTimeModelsList", -1, "GANSSGenericData");
+      if ((uint64_t)pvalue->n_RUCCH > 7u) {
+         rtxErrAddStrParm(ctx, "n-RUCCH");
+         rtxErrAddUIntParm(ctx, pvalue->n_RUCCH);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "n-RUCCH", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->n_RUCCH, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "n-RUCCH", -1, 0);
    }
-   /* uePositioningDGANSSCorrections */
+   /* t-WAIT */
    if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_UE_Positioning_DGANSSCorrections(ctx, &pvalue->uePositioningDGANSSCorrections);
-      RT_CHECK(ctx, stat, 0, "uePositioningDGANSSCorrections", -1, "GANSSGenericData");
+      if (pvalue->t_WAIT > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->t_WAIT);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "t-WAIT", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_WAIT, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "t-WAIT", -1, 0);
    }
-   /* uePositioningGANSSNavigationModel */
+   /* t-SI */
    if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_NavigationModel(ctx, &pvalue->uePositioningGANSSNavigationModel);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSNavigationModel", -1, "GANSSGenericData");
+      if (pvalue->t_SI > 6) {
+         rtxErrAddUIntParm(ctx, pvalue->t_SI);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "t-SI", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_SI, 0, 6);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "t-SI", -1, 0);
    }
-   /* uePositioningGANSSRealTimeIntegrity */
+   /* extendedEstimationWindow */
    if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_RealTimeIntegrity(ctx, &pvalue->uePositioningGANSSRealTimeIntegrity);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSRealTimeIntegrity", -1, "GANSSGenericData");
+      if ((uint64_t)(pvalue->extendedEstimationWindow - 2) > 3u) {
+         rtxErrAddStrParm(ctx, "extendedEstimationWindow");
+         rtxErrAddUIntParm(ctx, pvalue->extendedEstimationWindow);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "extendedEstimationWindow", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->extendedEstimationWindow, 2, 5);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "extendedEstimationWindow", -1, 0);
    }
-   /* uePositioningGANSSDataBitAssistance */
+   /* e-RUCCH-AccessServiceClass */
    if (pvalue->m & 0x20u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_Data_Bit_Assistance(ctx, &pvalue->uePositioningGANSSDataBitAssistance);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSDataBitAssistance", -1, "GANSSGenericData");
+      stat = enc_E_RUCCH_AccessServiceClass(ctx, &pvalue->e_RUCCH_AccessServiceClass, cur);
+      RT_CHECK(ctx, stat, 0, "e-RUCCH-AccessServiceClass", -1, 0);
    }
-   /* uePositioningGANSSReferenceMeasurementInfo */
+   /* e-RUCCH-PersistenceScalingFactor */
    if (pvalue->m & 0x40u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_ReferenceMeasurementInfo(ctx, &pvalue->uePositioningGANSSReferenceMeasurementInfo);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSReferenceMeasurementInfo", -1, "GANSSGenericData");
+      stat = enc_PersistenceScalingFactorList(ctx, &pvalue->e_RUCCH_PersistenceScalingFactor, cur);
+      RT_CHECK(ctx, stat, 0, "e-RUCCH-PersistenceScalingFactor", -1, 0);
    }
-   /* uePositioningGANSSAlmanac */
+   /* sync-UL-InfoForE-RUCCH */
    if (pvalue->m & 0x80u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_Almanac(ctx, &pvalue->uePositioningGANSSAlmanac);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAlmanac", -1, "GANSSGenericData");
+      stat = enc_SYNC_UL_InfoForE_RUCCH(ctx, &pvalue->sync_UL_InfoForE_RUCCH, cur);
+      RT_CHECK(ctx, stat, 0, "sync-UL-InfoForE-RUCCH", -1, 0);
    }
-   /* uePositioningGANSSUTCModel */
+   /* prach-information */
    if (pvalue->m & 0x100u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_UTCModel(ctx, &pvalue->uePositioningGANSSUTCModel);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSUTCModel", -1, "GANSSGenericData");
+      stat = enc_PRACH_Information_LCR_List(ctx, &pvalue->prach_information, cur);
+      RT_CHECK(ctx, stat, 0, "prach-information", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_GANSS_AddNavigationModels_non_broadcastIndication(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AddNavigationModels_non_broadcastIndication value)
+int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_E_RUCCH_Info_modeSpecificInfo_tdd128, pvalue);
 }
 
-int asn1PE_UMTS_NAVclockModel(rtxContext* RT_RESTRICT ctx, const NAVclockModel* RT_RESTRICT pvalue)
+static int enc_E_RUCCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NAVclockModel");
-   /* navToc */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->navToc, 16, 16);
-   RT_CHECK(ctx, stat, 0, "navToc", -1, "NAVclockModel");
-   /* navaf2 */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->navaf2, 8, 8);
-   RT_CHECK(ctx, stat, 0, "navaf2", -1, "NAVclockModel");
-   /* navaf1 */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->navaf1, 16, 16);
-   RT_CHECK(ctx, stat, 0, "navaf1", -1, "NAVclockModel");
-   /* navaf0 */
-   RT_SET_SIZE(ctx, 22, 22);
-   stat = pe_BitString32(ctx, &pvalue->navaf0, 22, 22);
-   RT_CHECK(ctx, stat, 0, "navaf0", -1, "NAVclockModel");
-   /* navTgd */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->navTgd, 8, 8);
-   RT_CHECK(ctx, stat, 0, "navTgd", -1, "NAVclockModel");
-   return 0;
-}
-
-int asn1PE_UMTS_GLONASSclockModel(rtxContext* RT_RESTRICT ctx, const GLONASSclockModel* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GLONASSclockModel");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GLONASSclockModel");
-   /* gloTau */
-   RT_SET_SIZE(ctx, 22, 22);
-   stat = pe_BitString32(ctx, &pvalue->gloTau, 22, 22);
-   RT_CHECK(ctx, stat, 0, "gloTau", -1, "GLONASSclockModel");
-   /* gloGamma */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->gloGamma, 11, 11);
-   RT_CHECK(ctx, stat, 0, "gloGamma", -1, "GLONASSclockModel");
-   /* gloDeltaTau */
-   if (pvalue->m & 0x1u) {
-      RT_SET_SIZE(ctx, 5, 5);
-      stat = pe_BitString32(ctx, &pvalue->gloDeltaTau, 5, 5);
-      RT_CHECK(ctx, stat, 0, "gloDeltaTau", -1, "GLONASSclockModel");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SBASclockModel(rtxContext* RT_RESTRICT ctx, const SBASclockModel* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SBASclockModel");
-   /* sbasTo */
-   RT_SET_SIZE(ctx, 13, 13);
-   stat = pe_BitString32(ctx, &pvalue->sbasTo, 13, 13);
-   RT_CHECK(ctx, stat, 0, "sbasTo", -1, "SBASclockModel");
-   /* sbasAgfo */
-   RT_SET_SIZE(ctx, 12, 12);
-   stat = pe_BitString32(ctx, &pvalue->sbasAgfo, 12, 12);
-   RT_CHECK(ctx, stat, 0, "sbasAgfo", -1, "SBASclockModel");
-   /* sbasAgf1 */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->sbasAgf1, 8, 8);
-   RT_CHECK(ctx, stat, 0, "sbasAgf1", -1, "SBASclockModel");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_AddClockModels(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AddClockModels* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-AddClockModels");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-AddClockModels");
-   /* navClockModel */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_NAVclockModel(ctx, &pvalue->navClockModel);
-      RT_CHECK(ctx, stat, 0, "navClockModel", -1, "UE-Positioning-GANSS-AddClockModels");
-   }
-   /* cnavClockModel */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_CNAVclockModel(ctx, &pvalue->cnavClockModel);
-      RT_CHECK(ctx, stat, 0, "cnavClockModel", -1, "UE-Positioning-GANSS-AddClockModels");
-   }
-   /* glonassClockModel */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_GLONASSclockModel(ctx, &pvalue->glonassClockModel);
-      RT_CHECK(ctx, stat, 0, "glonassClockModel", -1, "UE-Positioning-GANSS-AddClockModels");
-   }
-   /* sbasClockModel */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_SBASclockModel(ctx, &pvalue->sbasClockModel);
-      RT_CHECK(ctx, stat, 0, "sbasClockModel", -1, "UE-Positioning-GANSS-AddClockModels");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_NavModel_NAVKeplerianSet(rtxContext* RT_RESTRICT ctx, const NavModel_NAVKeplerianSet* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NavModel-NAVKeplerianSet");
-   /* navURA */
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pe_BitString32(ctx, &pvalue->navURA, 4, 4);
-   RT_CHECK(ctx, stat, 0, "navURA", -1, "NavModel-NAVKeplerianSet");
-   /* navFitFlag */
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pe_BitString32(ctx, &pvalue->navFitFlag, 1, 1);
-   RT_CHECK(ctx, stat, 0, "navFitFlag", -1, "NavModel-NAVKeplerianSet");
-   /* navToe */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->navToe, 16, 16);
-   RT_CHECK(ctx, stat, 0, "navToe", -1, "NavModel-NAVKeplerianSet");
-   /* navOmega */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->navOmega, 32, 32);
-   RT_CHECK(ctx, stat, 0, "navOmega", -1, "NavModel-NAVKeplerianSet");
-   /* navDeltaN */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->navDeltaN, 16, 16);
-   RT_CHECK(ctx, stat, 0, "navDeltaN", -1, "NavModel-NAVKeplerianSet");
-   /* navM0 */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->navM0, 32, 32);
-   RT_CHECK(ctx, stat, 0, "navM0", -1, "NavModel-NAVKeplerianSet");
-   /* navOmegaADot */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->navOmegaADot, 24, 24);
-   RT_CHECK(ctx, stat, 0, "navOmegaADot", -1, "NavModel-NAVKeplerianSet");
-   /* navE */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->navE, 32, 32);
-   RT_CHECK(ctx, stat, 0, "navE", -1, "NavModel-NAVKeplerianSet");
-   /* navIDot */
-   RT_SET_SIZE(ctx, 14, 14);
-   stat = pe_BitString32(ctx, &pvalue->navIDot, 14, 14);
-   RT_CHECK(ctx, stat, 0, "navIDot", -1, "NavModel-NAVKeplerianSet");
-   /* navAPowerHalf */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->navAPowerHalf, 32, 32);
-   RT_CHECK(ctx, stat, 0, "navAPowerHalf", -1, "NavModel-NAVKeplerianSet");
-   /* navI0 */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->navI0, 32, 32);
-   RT_CHECK(ctx, stat, 0, "navI0", -1, "NavModel-NAVKeplerianSet");
-   /* navOmegaA0 */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->navOmegaA0, 32, 32);
-   RT_CHECK(ctx, stat, 0, "navOmegaA0", -1, "NavModel-NAVKeplerianSet");
-   /* navCrs */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->navCrs, 16, 16);
-   RT_CHECK(ctx, stat, 0, "navCrs", -1, "NavModel-NAVKeplerianSet");
-   /* navCis */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->navCis, 16, 16);
-   RT_CHECK(ctx, stat, 0, "navCis", -1, "NavModel-NAVKeplerianSet");
-   /* navCus */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->navCus, 16, 16);
-   RT_CHECK(ctx, stat, 0, "navCus", -1, "NavModel-NAVKeplerianSet");
-   /* navCrc */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->navCrc, 16, 16);
-   RT_CHECK(ctx, stat, 0, "navCrc", -1, "NavModel-NAVKeplerianSet");
-   /* navCic */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->navCic, 16, 16);
-   RT_CHECK(ctx, stat, 0, "navCic", -1, "NavModel-NAVKeplerianSet");
-   /* navCuc */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->navCuc, 16, 16);
-   RT_CHECK(ctx, stat, 0, "navCuc", -1, "NavModel-NAVKeplerianSet");
-   return 0;
-}
-
-int asn1PE_UMTS_NavModel_CNAVKeplerianSet_cnavMo(rtxContext* RT_RESTRICT ctx, const NavModel_CNAVKeplerianSet_cnavMo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   RT_SET_SIZE(ctx, 33, 33);
-   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_NavModel_CNAVKeplerianSet_cnavE(rtxContext* RT_RESTRICT ctx, const NavModel_CNAVKeplerianSet_cnavE* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   RT_SET_SIZE(ctx, 33, 33);
-   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_NavModel_CNAVKeplerianSet_cnavOmega(rtxContext* RT_RESTRICT ctx, const NavModel_CNAVKeplerianSet_cnavOmega* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   RT_SET_SIZE(ctx, 33, 33);
-   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_NavModel_CNAVKeplerianSet_cnavOMEGA0(rtxContext* RT_RESTRICT ctx, const NavModel_CNAVKeplerianSet_cnavOMEGA0* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   RT_SET_SIZE(ctx, 33, 33);
-   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_NavModel_CNAVKeplerianSet_cnavIo(rtxContext* RT_RESTRICT ctx, const NavModel_CNAVKeplerianSet_cnavIo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   RT_SET_SIZE(ctx, 33, 33);
-   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_NavModel_CNAVKeplerianSet(rtxContext* RT_RESTRICT ctx, const NavModel_CNAVKeplerianSet* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NavModel-CNAVKeplerianSet");
-   /* cnavTop */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->cnavTop, 11, 11);
-   RT_CHECK(ctx, stat, 0, "cnavTop", -1, "NavModel-CNAVKeplerianSet");
-   /* cnavURAindex */
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pe_BitString32(ctx, &pvalue->cnavURAindex, 5, 5);
-   RT_CHECK(ctx, stat, 0, "cnavURAindex", -1, "NavModel-CNAVKeplerianSet");
-   /* cnavDeltaA */
-   RT_SET_SIZE(ctx, 26, 26);
-   stat = pe_BitString32(ctx, &pvalue->cnavDeltaA, 26, 26);
-   RT_CHECK(ctx, stat, 0, "cnavDeltaA", -1, "NavModel-CNAVKeplerianSet");
-   /* cnavAdot */
-   RT_SET_SIZE(ctx, 25, 25);
-   stat = pe_BitString32(ctx, &pvalue->cnavAdot, 25, 25);
-   RT_CHECK(ctx, stat, 0, "cnavAdot", -1, "NavModel-CNAVKeplerianSet");
-   /* cnavDeltaNo */
-   RT_SET_SIZE(ctx, 17, 17);
-   stat = pe_BitString32(ctx, &pvalue->cnavDeltaNo, 17, 17);
-   RT_CHECK(ctx, stat, 0, "cnavDeltaNo", -1, "NavModel-CNAVKeplerianSet");
-   /* cnavDeltaNoDot */
-   RT_SET_SIZE(ctx, 23, 23);
-   stat = pe_BitString32(ctx, &pvalue->cnavDeltaNoDot, 23, 23);
-   RT_CHECK(ctx, stat, 0, "cnavDeltaNoDot", -1, "NavModel-CNAVKeplerianSet");
-   /* cnavMo */
-   stat = asn1PE_UMTS_NavModel_CNAVKeplerianSet_cnavMo(ctx, &pvalue->cnavMo);
-   RT_CHECK(ctx, stat, 0, "cnavMo", -1, "NavModel-CNAVKeplerianSet");
-   /* cnavE */
-   stat = asn1PE_UMTS_NavModel_CNAVKeplerianSet_cnavE(ctx, &pvalue->cnavE);
-   RT_CHECK(ctx, stat, 0, "cnavE", -1, "NavModel-CNAVKeplerianSet");
-   /* cnavOmega */
-   stat = asn1PE_UMTS_NavModel_CNAVKeplerianSet_cnavOmega(ctx, &pvalue->cnavOmega);
-   RT_CHECK(ctx, stat, 0, "cnavOmega", -1, "NavModel-CNAVKeplerianSet");
-   /* cnavOMEGA0 */
-   stat = asn1PE_UMTS_NavModel_CNAVKeplerianSet_cnavOMEGA0(ctx, &pvalue->cnavOMEGA0);
-   RT_CHECK(ctx, stat, 0, "cnavOMEGA0", -1, "NavModel-CNAVKeplerianSet");
-   /* cnavDeltaOmegaDot */
-   RT_SET_SIZE(ctx, 17, 17);
-   stat = pe_BitString32(ctx, &pvalue->cnavDeltaOmegaDot, 17, 17);
-   RT_CHECK(ctx, stat, 0, "cnavDeltaOmegaDot", -1, "NavModel-CNAVKeplerianSet");
-   /* cnavIo */
-   stat = asn1PE_UMTS_NavModel_CNAVKeplerianSet_cnavIo(ctx, &pvalue->cnavIo);
-   RT_CHECK(ctx, stat, 0, "cnavIo", -1, "NavModel-CNAVKeplerianSet");
-   /* cnavIoDot */
-   RT_SET_SIZE(ctx, 15, 15);
-   stat = pe_BitString32(ctx, &pvalue->cnavIoDot, 15, 15);
-   RT_CHECK(ctx, stat, 0, "cnavIoDot", -1, "NavModel-CNAVKeplerianSet");
-   /* cnavCis */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->cnavCis, 16, 16);
-   RT_CHECK(ctx, stat, 0, "cnavCis", -1, "NavModel-CNAVKeplerianSet");
-   /* cnavCic */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->cnavCic, 16, 16);
-   RT_CHECK(ctx, stat, 0, "cnavCic", -1, "NavModel-CNAVKeplerianSet");
-   /* cnavCrs */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->cnavCrs, 24, 24);
-   RT_CHECK(ctx, stat, 0, "cnavCrs", -1, "NavModel-CNAVKeplerianSet");
-   /* cnavCrc */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->cnavCrc, 24, 24);
-   RT_CHECK(ctx, stat, 0, "cnavCrc", -1, "NavModel-CNAVKeplerianSet");
-   /* cnavCus */
-   RT_SET_SIZE(ctx, 21, 21);
-   stat = pe_BitString32(ctx, &pvalue->cnavCus, 21, 21);
-   RT_CHECK(ctx, stat, 0, "cnavCus", -1, "NavModel-CNAVKeplerianSet");
-   /* cnavCuc */
-   RT_SET_SIZE(ctx, 21, 21);
-   stat = pe_BitString32(ctx, &pvalue->cnavCuc, 21, 21);
-   RT_CHECK(ctx, stat, 0, "cnavCuc", -1, "NavModel-CNAVKeplerianSet");
-   return 0;
-}
-
-int asn1PE_UMTS_NavModel_GLONASSecef(rtxContext* RT_RESTRICT ctx, const NavModel_GLONASSecef* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NavModel-GLONASSecef");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NavModel-GLONASSecef");
-   /* gloEn */
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pe_BitString32(ctx, &pvalue->gloEn, 5, 5);
-   RT_CHECK(ctx, stat, 0, "gloEn", -1, "NavModel-GLONASSecef");
-   /* gloP1 */
-   RT_SET_SIZE(ctx, 2, 2);
-   stat = pe_BitString32(ctx, &pvalue->gloP1, 2, 2);
-   RT_CHECK(ctx, stat, 0, "gloP1", -1, "NavModel-GLONASSecef");
-   /* gloP2 */
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pe_BitString32(ctx, &pvalue->gloP2, 1, 1);
-   RT_CHECK(ctx, stat, 0, "gloP2", -1, "NavModel-GLONASSecef");
-   /* gloM */
-   if (pvalue->m & 0x1u) {
-      RT_SET_SIZE(ctx, 2, 2);
-      stat = pe_BitString32(ctx, &pvalue->gloM, 2, 2);
-      RT_CHECK(ctx, stat, 0, "gloM", -1, "NavModel-GLONASSecef");
-   }
-   /* gloX */
-   RT_SET_SIZE(ctx, 27, 27);
-   stat = pe_BitString32(ctx, &pvalue->gloX, 27, 27);
-   RT_CHECK(ctx, stat, 0, "gloX", -1, "NavModel-GLONASSecef");
-   /* gloXdot */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->gloXdot, 24, 24);
-   RT_CHECK(ctx, stat, 0, "gloXdot", -1, "NavModel-GLONASSecef");
-   /* gloXdotdot */
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pe_BitString32(ctx, &pvalue->gloXdotdot, 5, 5);
-   RT_CHECK(ctx, stat, 0, "gloXdotdot", -1, "NavModel-GLONASSecef");
-   /* gloY */
-   RT_SET_SIZE(ctx, 27, 27);
-   stat = pe_BitString32(ctx, &pvalue->gloY, 27, 27);
-   RT_CHECK(ctx, stat, 0, "gloY", -1, "NavModel-GLONASSecef");
-   /* gloYdot */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->gloYdot, 24, 24);
-   RT_CHECK(ctx, stat, 0, "gloYdot", -1, "NavModel-GLONASSecef");
-   /* gloYdotdot */
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pe_BitString32(ctx, &pvalue->gloYdotdot, 5, 5);
-   RT_CHECK(ctx, stat, 0, "gloYdotdot", -1, "NavModel-GLONASSecef");
-   /* gloZ */
-   RT_SET_SIZE(ctx, 27, 27);
-   stat = pe_BitString32(ctx, &pvalue->gloZ, 27, 27);
-   RT_CHECK(ctx, stat, 0, "gloZ", -1, "NavModel-GLONASSecef");
-   /* gloZdot */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->gloZdot, 24, 24);
-   RT_CHECK(ctx, stat, 0, "gloZdot", -1, "NavModel-GLONASSecef");
-   /* gloZdotdot */
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pe_BitString32(ctx, &pvalue->gloZdotdot, 5, 5);
-   RT_CHECK(ctx, stat, 0, "gloZdotdot", -1, "NavModel-GLONASSecef");
-   return 0;
-}
-
-int asn1PE_UMTS_NavModel_SBASecef(rtxContext* RT_RESTRICT ctx, const NavModel_SBASecef* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NavModel-SBASecef");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NavModel-SBASecef");
-   /* sbasTo */
-   if (pvalue->m & 0x1u) {
-      RT_SET_SIZE(ctx, 13, 13);
-      stat = pe_BitString32(ctx, &pvalue->sbasTo, 13, 13);
-      RT_CHECK(ctx, stat, 0, "sbasTo", -1, "NavModel-SBASecef");
-   }
-   /* sbasAccuracy */
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pe_BitString32(ctx, &pvalue->sbasAccuracy, 4, 4);
-   RT_CHECK(ctx, stat, 0, "sbasAccuracy", -1, "NavModel-SBASecef");
-   /* sbasXg */
-   RT_SET_SIZE(ctx, 30, 30);
-   stat = pe_BitString32(ctx, &pvalue->sbasXg, 30, 30);
-   RT_CHECK(ctx, stat, 0, "sbasXg", -1, "NavModel-SBASecef");
-   /* sbasYg */
-   RT_SET_SIZE(ctx, 30, 30);
-   stat = pe_BitString32(ctx, &pvalue->sbasYg, 30, 30);
-   RT_CHECK(ctx, stat, 0, "sbasYg", -1, "NavModel-SBASecef");
-   /* sbasZg */
-   RT_SET_SIZE(ctx, 25, 25);
-   stat = pe_BitString32(ctx, &pvalue->sbasZg, 25, 25);
-   RT_CHECK(ctx, stat, 0, "sbasZg", -1, "NavModel-SBASecef");
-   /* sbasXgDot */
-   RT_SET_SIZE(ctx, 17, 17);
-   stat = pe_BitString32(ctx, &pvalue->sbasXgDot, 17, 17);
-   RT_CHECK(ctx, stat, 0, "sbasXgDot", -1, "NavModel-SBASecef");
-   /* sbasYgDot */
-   RT_SET_SIZE(ctx, 17, 17);
-   stat = pe_BitString32(ctx, &pvalue->sbasYgDot, 17, 17);
-   RT_CHECK(ctx, stat, 0, "sbasYgDot", -1, "NavModel-SBASecef");
-   /* sbasZgDot */
-   RT_SET_SIZE(ctx, 18, 18);
-   stat = pe_BitString32(ctx, &pvalue->sbasZgDot, 18, 18);
-   RT_CHECK(ctx, stat, 0, "sbasZgDot", -1, "NavModel-SBASecef");
-   /* sbasXgDotDot */
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pe_BitString32(ctx, &pvalue->sbasXgDotDot, 10, 10);
-   RT_CHECK(ctx, stat, 0, "sbasXgDotDot", -1, "NavModel-SBASecef");
-   /* sbagYgDotDot */
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pe_BitString32(ctx, &pvalue->sbagYgDotDot, 10, 10);
-   RT_CHECK(ctx, stat, 0, "sbagYgDotDot", -1, "NavModel-SBASecef");
-   /* sbasZgDotDot */
-   RT_SET_SIZE(ctx, 10, 10);
-   stat = pe_BitString32(ctx, &pvalue->sbasZgDotDot, 10, 10);
-   RT_CHECK(ctx, stat, 0, "sbasZgDotDot", -1, "NavModel-SBASecef");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_AddOrbitModels(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AddOrbitModels* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-AddOrbitModels");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-AddOrbitModels");
-   /* navKeplerianSet */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_NavModel_NAVKeplerianSet(ctx, &pvalue->navKeplerianSet);
-      RT_CHECK(ctx, stat, 0, "navKeplerianSet", -1, "UE-Positioning-GANSS-AddOrbitModels");
-   }
-   /* cnavKeplerianSet */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_NavModel_CNAVKeplerianSet(ctx, &pvalue->cnavKeplerianSet);
-      RT_CHECK(ctx, stat, 0, "cnavKeplerianSet", -1, "UE-Positioning-GANSS-AddOrbitModels");
-   }
-   /* glonassECEF */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_NavModel_GLONASSecef(ctx, &pvalue->glonassECEF);
-      RT_CHECK(ctx, stat, 0, "glonassECEF", -1, "UE-Positioning-GANSS-AddOrbitModels");
-   }
-   /* sbasECEF */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_NavModel_SBASecef(ctx, &pvalue->sbasECEF);
-      RT_CHECK(ctx, stat, 0, "sbasECEF", -1, "UE-Positioning-GANSS-AddOrbitModels");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Ganss_Sat_Info_AddNav(rtxContext* RT_RESTRICT ctx, const Ganss_Sat_Info_AddNav* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Ganss-Sat-Info-AddNav");
-   /* satId */
-   if ((uint64_t)pvalue->satId > 63u) {
-      rtxErrAddStrParm(ctx, "satId");
-      rtxErrAddUIntParm(ctx, pvalue->satId);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "satId", -1, "Ganss-Sat-Info-AddNav");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->satId, 0, 63);
-   RT_CHECK(ctx, stat, 0, "satId", -1, "Ganss-Sat-Info-AddNav");
-   /* svHealth */
-   RT_SET_SIZE(ctx, 6, 6);
-   stat = pe_BitString32(ctx, &pvalue->svHealth, 6, 6);
-   RT_CHECK(ctx, stat, 0, "svHealth", -1, "Ganss-Sat-Info-AddNav");
-   /* iod */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->iod, 11, 11);
-   RT_CHECK(ctx, stat, 0, "iod", -1, "Ganss-Sat-Info-AddNav");
-   /* ganssClockModel */
-   stat = asn1PE_UMTS_UE_Positioning_GANSS_AddClockModels(ctx, &pvalue->ganssClockModel);
-   RT_CHECK(ctx, stat, 0, "ganssClockModel", -1, "Ganss-Sat-Info-AddNav");
-   /* ganssOrbitModel */
-   stat = asn1PE_UMTS_UE_Positioning_GANSS_AddOrbitModels(ctx, &pvalue->ganssOrbitModel);
-   RT_CHECK(ctx, stat, 0, "ganssOrbitModel", -1, "Ganss-Sat-Info-AddNav");
-   return 0;
-}
-
-int asn1PE_UMTS_Ganss_Sat_Info_AddNavList(rtxContext* RT_RESTRICT ctx, const Ganss_Sat_Info_AddNavList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Ganss-Sat-Info-AddNavList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "Ganss-Sat-Info-AddNavList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "Ganss-Sat-Info-AddNav", (int32_t)i, "Ganss-Sat-Info-AddNavList");
-      stat = asn1PE_UMTS_Ganss_Sat_Info_AddNav(ctx, (const Ganss_Sat_Info_AddNav*)node->data);
-      RT_CHECK(ctx, stat, 0, "Ganss-Sat-Info-AddNav", (int32_t)i, "Ganss-Sat-Info-AddNavList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_AddNavigationModels(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AddNavigationModels* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-AddNavigationModels");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-AddNavigationModels");
-   /* non-broadcastIndication */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->non_broadcastIndication > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->non_broadcastIndication);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "non-broadcastIndication", -1, "UE-Positioning-GANSS-AddNavigationModels");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->non_broadcastIndication, 0, 0);
-      RT_CHECK(ctx, stat, 0, "non-broadcastIndication", -1, "UE-Positioning-GANSS-AddNavigationModels");
-   }
-   /* ganssSatInfoNavList */
-   stat = asn1PE_UMTS_Ganss_Sat_Info_AddNavList(ctx, &pvalue->ganssSatInfoNavList);
-   RT_CHECK(ctx, stat, 0, "ganssSatInfoNavList", -1, "UE-Positioning-GANSS-AddNavigationModels");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_Almanac_v860ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_Almanac_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-Almanac-v860ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-Almanac-v860ext");
-   /* alm-keplerianNAVAlmanac */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ALM_NAVKeplerianSet(ctx, &pvalue->alm_keplerianNAVAlmanac);
-      RT_CHECK(ctx, stat, 0, "alm-keplerianNAVAlmanac", -1, "UE-Positioning-GANSS-Almanac-v860ext");
-   }
-   /* alm-keplerianReducedAlmanac */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_ALM_ReducedKeplerianSet(ctx, &pvalue->alm_keplerianReducedAlmanac);
-      RT_CHECK(ctx, stat, 0, "alm-keplerianReducedAlmanac", -1, "UE-Positioning-GANSS-Almanac-v860ext");
-   }
-   /* alm-keplerianMidiAlmanac */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_ALM_MidiAlmanacSet(ctx, &pvalue->alm_keplerianMidiAlmanac);
-      RT_CHECK(ctx, stat, 0, "alm-keplerianMidiAlmanac", -1, "UE-Positioning-GANSS-Almanac-v860ext");
-   }
-   /* alm-keplerianGLONASS */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_ALM_GlonassAlmanacSet(ctx, &pvalue->alm_keplerianGLONASS);
-      RT_CHECK(ctx, stat, 0, "alm-keplerianGLONASS", -1, "UE-Positioning-GANSS-Almanac-v860ext");
-   }
-   /* alm-ecefSBASAlmanac */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_ALM_ECEFsbasAlmanacSet(ctx, &pvalue->alm_ecefSBASAlmanac);
-      RT_CHECK(ctx, stat, 0, "alm-ecefSBASAlmanac", -1, "UE-Positioning-GANSS-Almanac-v860ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UTCmodelSet1(rtxContext* RT_RESTRICT ctx, const UTCmodelSet1* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UTCmodelSet1");
-   /* utcA0 */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->utcA0, 16, 16);
-   RT_CHECK(ctx, stat, 0, "utcA0", -1, "UTCmodelSet1");
-   /* utcA1 */
-   RT_SET_SIZE(ctx, 13, 13);
-   stat = pe_BitString32(ctx, &pvalue->utcA1, 13, 13);
-   RT_CHECK(ctx, stat, 0, "utcA1", -1, "UTCmodelSet1");
-   /* utcA2 */
-   RT_SET_SIZE(ctx, 7, 7);
-   stat = pe_BitString32(ctx, &pvalue->utcA2, 7, 7);
-   RT_CHECK(ctx, stat, 0, "utcA2", -1, "UTCmodelSet1");
-   /* utcDeltaTls */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->utcDeltaTls, 8, 8);
-   RT_CHECK(ctx, stat, 0, "utcDeltaTls", -1, "UTCmodelSet1");
-   /* utcTot */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->utcTot, 16, 16);
-   RT_CHECK(ctx, stat, 0, "utcTot", -1, "UTCmodelSet1");
-   /* utcWNot */
-   RT_SET_SIZE(ctx, 13, 13);
-   stat = pe_BitString32(ctx, &pvalue->utcWNot, 13, 13);
-   RT_CHECK(ctx, stat, 0, "utcWNot", -1, "UTCmodelSet1");
-   /* utcWNlsf */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->utcWNlsf, 8, 8);
-   RT_CHECK(ctx, stat, 0, "utcWNlsf", -1, "UTCmodelSet1");
-   /* utcDN */
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pe_BitString32(ctx, &pvalue->utcDN, 4, 4);
-   RT_CHECK(ctx, stat, 0, "utcDN", -1, "UTCmodelSet1");
-   /* utcDeltaTlsf */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->utcDeltaTlsf, 8, 8);
-   RT_CHECK(ctx, stat, 0, "utcDeltaTlsf", -1, "UTCmodelSet1");
-   return 0;
-}
-
-int asn1PE_UMTS_UTCmodelSet2(rtxContext* RT_RESTRICT ctx, const UTCmodelSet2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UTCmodelSet2");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UTCmodelSet2");
-   /* nA */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->nA, 11, 11);
-   RT_CHECK(ctx, stat, 0, "nA", -1, "UTCmodelSet2");
-   /* tauC */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->tauC, 32, 32);
-   RT_CHECK(ctx, stat, 0, "tauC", -1, "UTCmodelSet2");
-   /* deltaUT1 */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DeltaUT1(ctx, &pvalue->deltaUT1);
-      RT_CHECK(ctx, stat, 0, "deltaUT1", -1, "UTCmodelSet2");
-   }
-   /* kp */
-   if (pvalue->m & 0x2u) {
-      RT_SET_SIZE(ctx, 2, 2);
-      stat = pe_BitString32(ctx, &pvalue->kp, 2, 2);
-      RT_CHECK(ctx, stat, 0, "kp", -1, "UTCmodelSet2");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UTCmodelSet3(rtxContext* RT_RESTRICT ctx, const UTCmodelSet3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UTCmodelSet3");
-   /* utcA1wnt */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->utcA1wnt, 24, 24);
-   RT_CHECK(ctx, stat, 0, "utcA1wnt", -1, "UTCmodelSet3");
-   /* utcA0wnt */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->utcA0wnt, 32, 32);
-   RT_CHECK(ctx, stat, 0, "utcA0wnt", -1, "UTCmodelSet3");
-   /* utcTot */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->utcTot, 8, 8);
-   RT_CHECK(ctx, stat, 0, "utcTot", -1, "UTCmodelSet3");
-   /* utcWNt */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->utcWNt, 8, 8);
-   RT_CHECK(ctx, stat, 0, "utcWNt", -1, "UTCmodelSet3");
-   /* utcDeltaTls */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->utcDeltaTls, 8, 8);
-   RT_CHECK(ctx, stat, 0, "utcDeltaTls", -1, "UTCmodelSet3");
-   /* utcWNlsf */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->utcWNlsf, 8, 8);
-   RT_CHECK(ctx, stat, 0, "utcWNlsf", -1, "UTCmodelSet3");
-   /* utcDN */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->utcDN, 8, 8);
-   RT_CHECK(ctx, stat, 0, "utcDN", -1, "UTCmodelSet3");
-   /* utcDeltaTlsf */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->utcDeltaTlsf, 8, 8);
-   RT_CHECK(ctx, stat, 0, "utcDeltaTlsf", -1, "UTCmodelSet3");
-   /* utcStandardID */
-   RT_SET_SIZE(ctx, 3, 3);
-   stat = pe_BitString32(ctx, &pvalue->utcStandardID, 3, 3);
-   RT_CHECK(ctx, stat, 0, "utcStandardID", -1, "UTCmodelSet3");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_AddUTCModels(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AddUTCModels* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-AddUTCModels");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-AddUTCModels");
-   /* utcModel1 */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UTCmodelSet1(ctx, &pvalue->utcModel1);
-      RT_CHECK(ctx, stat, 0, "utcModel1", -1, "UE-Positioning-GANSS-AddUTCModels");
-   }
-   /* utcModel2 */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UTCmodelSet2(ctx, &pvalue->utcModel2);
-      RT_CHECK(ctx, stat, 0, "utcModel2", -1, "UE-Positioning-GANSS-AddUTCModels");
-   }
-   /* utcModel3 */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_UTCmodelSet3(ctx, &pvalue->utcModel3);
-      RT_CHECK(ctx, stat, 0, "utcModel3", -1, "UE-Positioning-GANSS-AddUTCModels");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_AuxiliaryInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AuxiliaryInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-AuxiliaryInfo");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UE-Positioning-GANSS-AuxiliaryInfo");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UE-Positioning-GANSS-AuxiliaryInfo");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.ganssID1 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ganssID1", -1, "UE-Positioning-GANSS-AuxiliaryInfo");
-         stat = asn1PE_UMTS_AuxInfoGANSS_ID1(ctx, pvalue->u.ganssID1);
-         RT_CHECK(ctx, stat, 0, "ganssID1", -1, "UE-Positioning-GANSS-AuxiliaryInfo");
+         if (pvalue->u.tdd384_tdd768 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd384-tdd768", -1, 0);
+         stat = enc_E_RUCCH_Info_modeSpecificInfo_tdd384_tdd768(ctx, pvalue->u.tdd384_tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384-tdd768", -1, 0);
          break;
       case 2:
-         if (pvalue->u.ganssID3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ganssID3", -1, "UE-Positioning-GANSS-AuxiliaryInfo");
-         stat = asn1PE_UMTS_AuxInfoGANSS_ID3(ctx, pvalue->u.ganssID3);
-         RT_CHECK(ctx, stat, 0, "ganssID3", -1, "UE-Positioning-GANSS-AuxiliaryInfo");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSGenericData_v860ext(rtxContext* RT_RESTRICT ctx, const GANSSGenericData_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSGenericData-v860ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSSGenericData-v860ext");
-   /* uePositiningGANSSsbasID */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->uePositiningGANSSsbasID > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->uePositiningGANSSsbasID);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "UE-Positioning-GANSS-SBAS-ID", "uePositiningGANSSsbasID", -1, "GANSSGenericData-v860ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->uePositiningGANSSsbasID, 0, 7);
-      RT_CHECK(ctx, stat, "UE-Positioning-GANSS-SBAS-ID", "uePositiningGANSSsbasID", -1, "GANSSGenericData-v860ext");
-   }
-   /* uePositioningGANSSAddNavigationModels */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AddNavigationModels(ctx, &pvalue->uePositioningGANSSAddNavigationModels);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAddNavigationModels", -1, "GANSSGenericData-v860ext");
-   }
-   /* uePositioningGANSSAlmanac */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_Almanac_v860ext(ctx, &pvalue->uePositioningGANSSAlmanac);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAlmanac", -1, "GANSSGenericData-v860ext");
-   }
-   /* uePositioningGANSSAddUTCModels */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AddUTCModels(ctx, &pvalue->uePositioningGANSSAddUTCModels);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAddUTCModels", -1, "GANSSGenericData-v860ext");
-   }
-   /* uePositioningGANSSAuxiliaryInfo */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AuxiliaryInfo(ctx, &pvalue->uePositioningGANSSAuxiliaryInfo);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAuxiliaryInfo", -1, "GANSSGenericData-v860ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_Almanac_r8(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_Almanac_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-Almanac-r8");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-Almanac-r8");
-   /* ganss-wk-number */
-   stat = pe_ConsUInt64(ctx, pvalue->ganss_wk_number, 0, 255);
-   RT_CHECK(ctx, stat, 0, "ganss-wk-number", -1, "UE-Positioning-GANSS-Almanac-r8");
-   /* alm-keplerianParameters */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ALM_keplerianParameters(ctx, &pvalue->alm_keplerianParameters);
-      RT_CHECK(ctx, stat, 0, "alm-keplerianParameters", -1, "UE-Positioning-GANSS-Almanac-r8");
-   }
-   /* alm-keplerianNAVAlmanac */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_ALM_NAVKeplerianSet(ctx, &pvalue->alm_keplerianNAVAlmanac);
-      RT_CHECK(ctx, stat, 0, "alm-keplerianNAVAlmanac", -1, "UE-Positioning-GANSS-Almanac-r8");
-   }
-   /* alm-keplerianReducedAlmanac */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_ALM_ReducedKeplerianSet(ctx, &pvalue->alm_keplerianReducedAlmanac);
-      RT_CHECK(ctx, stat, 0, "alm-keplerianReducedAlmanac", -1, "UE-Positioning-GANSS-Almanac-r8");
-   }
-   /* alm-keplerianMidiAlmanac */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_ALM_MidiAlmanacSet(ctx, &pvalue->alm_keplerianMidiAlmanac);
-      RT_CHECK(ctx, stat, 0, "alm-keplerianMidiAlmanac", -1, "UE-Positioning-GANSS-Almanac-r8");
-   }
-   /* alm-keplerianGLONASS */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_ALM_GlonassAlmanacSet(ctx, &pvalue->alm_keplerianGLONASS);
-      RT_CHECK(ctx, stat, 0, "alm-keplerianGLONASS", -1, "UE-Positioning-GANSS-Almanac-r8");
-   }
-   /* alm-ecefSBASAlmanac */
-   if (pvalue->m & 0x20u) {
-      stat = asn1PE_UMTS_ALM_ECEFsbasAlmanacSet(ctx, &pvalue->alm_ecefSBASAlmanac);
-      RT_CHECK(ctx, stat, 0, "alm-ecefSBASAlmanac", -1, "UE-Positioning-GANSS-Almanac-r8");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSGenericData_r8(rtxContext* RT_RESTRICT ctx, const GANSSGenericData_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSGenericData-r8");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 12) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 11) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 10) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 9) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 8) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 9) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 10) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 11) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 12) & 1u) << 0), 13);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSSGenericData-r8");
-   /* ganssId */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->ganssId > 7u) {
-         rtxErrAddStrParm(ctx, "ganssId");
-         rtxErrAddUIntParm(ctx, pvalue->ganssId);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganssId", -1, "GANSSGenericData-r8");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssId, 0, 7);
-      RT_CHECK(ctx, stat, 0, "ganssId", -1, "GANSSGenericData-r8");
-   }
-   /* uePositiningGANSSsbasID */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->uePositiningGANSSsbasID > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->uePositiningGANSSsbasID);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "UE-Positioning-GANSS-SBAS-ID", "uePositiningGANSSsbasID", -1, "GANSSGenericData-r8");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->uePositiningGANSSsbasID, 0, 7);
-      RT_CHECK(ctx, stat, "UE-Positioning-GANSS-SBAS-ID", "uePositiningGANSSsbasID", -1, "GANSSGenericData-r8");
-   }
-   /* ganssTimeModelsList */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_GANSSTimeModelsList(ctx, &pvalue->ganssTimeModelsList);
-      RT_CHECK(ctx, stat, 0, "ganssTimeModelsList", -1, "GANSSGenericData-r8");
-   }
-   /* uePositioningDGANSSCorrections */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_UE_Positioning_DGANSSCorrections(ctx, &pvalue->uePositioningDGANSSCorrections);
-      RT_CHECK(ctx, stat, 0, "uePositioningDGANSSCorrections", -1, "GANSSGenericData-r8");
-   }
-   /* uePositioningGANSSNavigationModel */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_NavigationModel(ctx, &pvalue->uePositioningGANSSNavigationModel);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSNavigationModel", -1, "GANSSGenericData-r8");
-   }
-   /* uePositioningGANSSAddNavigationModels */
-   if (pvalue->m & 0x20u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AddNavigationModels(ctx, &pvalue->uePositioningGANSSAddNavigationModels);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAddNavigationModels", -1, "GANSSGenericData-r8");
-   }
-   /* uePositioningGANSSRealTimeIntegrity */
-   if (pvalue->m & 0x40u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_RealTimeIntegrity(ctx, &pvalue->uePositioningGANSSRealTimeIntegrity);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSRealTimeIntegrity", -1, "GANSSGenericData-r8");
-   }
-   /* uePositioningGANSSDataBitAssistance */
-   if (pvalue->m & 0x80u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_Data_Bit_Assistance(ctx, &pvalue->uePositioningGANSSDataBitAssistance);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSDataBitAssistance", -1, "GANSSGenericData-r8");
-   }
-   /* uePositioningGANSSReferenceMeasurementInfo */
-   if (pvalue->m & 0x100u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_ReferenceMeasurementInfo(ctx, &pvalue->uePositioningGANSSReferenceMeasurementInfo);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSReferenceMeasurementInfo", -1, "GANSSGenericData-r8");
-   }
-   /* uePositioningGANSSAlmanac */
-   if (pvalue->m & 0x200u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_Almanac_r8(ctx, &pvalue->uePositioningGANSSAlmanac);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAlmanac", -1, "GANSSGenericData-r8");
-   }
-   /* uePositioningGANSSUTCModel */
-   if (pvalue->m & 0x400u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_UTCModel(ctx, &pvalue->uePositioningGANSSUTCModel);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSUTCModel", -1, "GANSSGenericData-r8");
-   }
-   /* uePositioningGANSSAddUTCModels */
-   if (pvalue->m & 0x800u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AddUTCModels(ctx, &pvalue->uePositioningGANSSAddUTCModels);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAddUTCModels", -1, "GANSSGenericData-r8");
-   }
-   /* uePositioningGANSSAuxiliaryInfo */
-   if (pvalue->m & 0x1000u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AuxiliaryInfo(ctx, &pvalue->uePositioningGANSSAuxiliaryInfo);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAuxiliaryInfo", -1, "GANSSGenericData-r8");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_DGANSSCorrections_r9(rtxContext* RT_RESTRICT ctx, const UE_Positioning_DGANSSCorrections_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-DGANSSCorrections-r9");
-   /* dganssreferencetime */
-   if ((uint64_t)pvalue->dganssreferencetime > 119u) {
-      rtxErrAddStrParm(ctx, "dganssreferencetime");
-      rtxErrAddUIntParm(ctx, pvalue->dganssreferencetime);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "dganssreferencetime", -1, "UE-Positioning-DGANSSCorrections-r9");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dganssreferencetime, 0, 119);
-   RT_CHECK(ctx, stat, 0, "dganssreferencetime", -1, "UE-Positioning-DGANSSCorrections-r9");
-   /* dganssInfoList */
-   stat = asn1PE_UMTS_DGANSSInfoList_r9(ctx, &pvalue->dganssInfoList);
-   RT_CHECK(ctx, stat, 0, "dganssInfoList", -1, "UE-Positioning-DGANSSCorrections-r9");
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSGenericData_r9(rtxContext* RT_RESTRICT ctx, const GANSSGenericData_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSGenericData-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 12) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 11) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 10) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 9) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 8) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 9) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 10) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 11) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 12) & 1u) << 0), 13);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSSGenericData-r9");
-   /* ganssId */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->ganssId > 7u) {
-         rtxErrAddStrParm(ctx, "ganssId");
-         rtxErrAddUIntParm(ctx, pvalue->ganssId);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganssId", -1, "GANSSGenericData-r9");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssId, 0, 7);
-      RT_CHECK(ctx, stat, 0, "ganssId", -1, "GANSSGenericData-r9");
-   }
-   /* uePositiningGANSSsbasID */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->uePositiningGANSSsbasID > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->uePositiningGANSSsbasID);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "UE-Positioning-GANSS-SBAS-ID", "uePositiningGANSSsbasID", -1, "GANSSGenericData-r9");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->uePositiningGANSSsbasID, 0, 7);
-      RT_CHECK(ctx, stat, "UE-Positioning-GANSS-SBAS-ID", "uePositiningGANSSsbasID", -1, "GANSSGenericData-r9");
-   }
-   /* ganssTimeModelsList */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_GANSSTimeModelsList(ctx, &pvalue->ganssTimeModelsList);
-      RT_CHECK(ctx, stat, 0, "ganssTimeModelsList", -1, "GANSSGenericData-r9");
-   }
-   /* uePositioningDGANSSCorrections */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_UE_Positioning_DGANSSCorrections_r9(ctx, &pvalue->uePositioningDGANSSCorrections);
-      RT_CHECK(ctx, stat, 0, "uePositioningDGANSSCorrections", -1, "GANSSGenericData-r9");
-   }
-   /* uePositioningGANSSNavigationModel */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_NavigationModel(ctx, &pvalue->uePositioningGANSSNavigationModel);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSNavigationModel", -1, "GANSSGenericData-r9");
-   }
-   /* uePositioningGANSSAddNavigationModels */
-   if (pvalue->m & 0x20u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AddNavigationModels(ctx, &pvalue->uePositioningGANSSAddNavigationModels);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAddNavigationModels", -1, "GANSSGenericData-r9");
-   }
-   /* uePositioningGANSSRealTimeIntegrity */
-   if (pvalue->m & 0x40u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_RealTimeIntegrity(ctx, &pvalue->uePositioningGANSSRealTimeIntegrity);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSRealTimeIntegrity", -1, "GANSSGenericData-r9");
-   }
-   /* uePositioningGANSSDataBitAssistance */
-   if (pvalue->m & 0x80u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_Data_Bit_Assistance(ctx, &pvalue->uePositioningGANSSDataBitAssistance);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSDataBitAssistance", -1, "GANSSGenericData-r9");
-   }
-   /* uePositioningGANSSReferenceMeasurementInfo */
-   if (pvalue->m & 0x100u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_ReferenceMeasurementInfo(ctx, &pvalue->uePositioningGANSSReferenceMeasurementInfo);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSReferenceMeasurementInfo", -1, "GANSSGenericData-r9");
-   }
-   /* uePositioningGANSSAlmanac */
-   if (pvalue->m & 0x200u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_Almanac_r8(ctx, &pvalue->uePositioningGANSSAlmanac);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAlmanac", -1, "GANSSGenericData-r9");
-   }
-   /* uePositioningGANSSUTCModel */
-   if (pvalue->m & 0x400u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_UTCModel(ctx, &pvalue->uePositioningGANSSUTCModel);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSUTCModel", -1, "GANSSGenericData-r9");
-   }
-   /* uePositioningGANSSAddUTCModels */
-   if (pvalue->m & 0x800u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AddUTCModels(ctx, &pvalue->uePositioningGANSSAddUTCModels);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAddUTCModels", -1, "GANSSGenericData-r9");
-   }
-   /* uePositioningGANSSAuxiliaryInfo */
-   if (pvalue->m & 0x1000u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AuxiliaryInfo(ctx, &pvalue->uePositioningGANSSAuxiliaryInfo);
-      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAuxiliaryInfo", -1, "GANSSGenericData-r9");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_DGANSSCorrections_v920ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_DGANSSCorrections_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-DGANSSCorrections-v920ext");
-   /* dganssInfoList */
-   stat = asn1PE_UMTS_DGANSSInfoList_v920ext(ctx, &pvalue->dganssInfoList);
-   RT_CHECK(ctx, stat, 0, "dganssInfoList", -1, "UE-Positioning-DGANSSCorrections-v920ext");
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSGenericData_v920ext(rtxContext* RT_RESTRICT ctx, const GANSSGenericData_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSGenericData-v920ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GANSSGenericData-v920ext");
-   /* uePositioningDGANSSCorrections */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_DGANSSCorrections_v920ext(ctx, &pvalue->uePositioningDGANSSCorrections);
-      RT_CHECK(ctx, stat, 0, "uePositioningDGANSSCorrections", -1, "GANSSGenericData-v920ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSGenericDataList(rtxContext* RT_RESTRICT ctx, const GANSSGenericDataList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSGenericDataList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GANSSGenericDataList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "GANSSGenericData", (int32_t)i, "GANSSGenericDataList");
-      stat = asn1PE_UMTS_GANSSGenericData(ctx, (const GANSSGenericData*)node->data);
-      RT_CHECK(ctx, stat, 0, "GANSSGenericData", (int32_t)i, "GANSSGenericDataList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSGenericDataList_v860ext(rtxContext* RT_RESTRICT ctx, const GANSSGenericDataList_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSGenericDataList-v860ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GANSSGenericDataList-v860ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "GANSSGenericData-v860ext", (int32_t)i, "GANSSGenericDataList-v860ext");
-      stat = asn1PE_UMTS_GANSSGenericData_v860ext(ctx, (const GANSSGenericData_v860ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "GANSSGenericData-v860ext", (int32_t)i, "GANSSGenericDataList-v860ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSGenericDataList_r8(rtxContext* RT_RESTRICT ctx, const GANSSGenericDataList_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSGenericDataList-r8");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GANSSGenericDataList-r8");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "GANSSGenericData-r8", (int32_t)i, "GANSSGenericDataList-r8");
-      stat = asn1PE_UMTS_GANSSGenericData_r8(ctx, (const GANSSGenericData_r8*)node->data);
-      RT_CHECK(ctx, stat, 0, "GANSSGenericData-r8", (int32_t)i, "GANSSGenericDataList-r8");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSGenericDataList_r9(rtxContext* RT_RESTRICT ctx, const GANSSGenericDataList_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSGenericDataList-r9");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GANSSGenericDataList-r9");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "GANSSGenericData-r9", (int32_t)i, "GANSSGenericDataList-r9");
-      stat = asn1PE_UMTS_GANSSGenericData_r9(ctx, (const GANSSGenericData_r9*)node->data);
-      RT_CHECK(ctx, stat, 0, "GANSSGenericData-r9", (int32_t)i, "GANSSGenericDataList-r9");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GANSSGenericDataList_v920ext(rtxContext* RT_RESTRICT ctx, const GANSSGenericDataList_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSSGenericDataList-v920ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GANSSGenericDataList-v920ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "GANSSGenericData-v920ext", (int32_t)i, "GANSSGenericDataList-v920ext");
-      stat = asn1PE_UMTS_GANSSGenericData_v920ext(ctx, (const GANSSGenericData_v920ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "GANSSGenericData-v920ext", (int32_t)i, "GANSSGenericDataList-v920ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SatellitesListRelatedData(rtxContext* RT_RESTRICT ctx, const SatellitesListRelatedData* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SatellitesListRelatedData");
-   /* satId */
-   if ((uint64_t)pvalue->satId > 63u) {
-      rtxErrAddStrParm(ctx, "satId");
-      rtxErrAddUIntParm(ctx, pvalue->satId);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "satId", -1, "SatellitesListRelatedData");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->satId, 0, 63);
-   RT_CHECK(ctx, stat, 0, "satId", -1, "SatellitesListRelatedData");
-   /* iod */
-   if ((uint64_t)pvalue->iod > 1023u) {
-      rtxErrAddStrParm(ctx, "iod");
-      rtxErrAddUIntParm(ctx, pvalue->iod);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "iod", -1, "SatellitesListRelatedData");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->iod, 0, 1023);
-   RT_CHECK(ctx, stat, 0, "iod", -1, "SatellitesListRelatedData");
-   return 0;
-}
-
-int asn1PE_UMTS_SatellitesListRelatedDataList(rtxContext* RT_RESTRICT ctx, const SatellitesListRelatedDataList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SatellitesListRelatedDataList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SatellitesListRelatedDataList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "SatellitesListRelatedData", (int32_t)i, "SatellitesListRelatedDataList");
-      stat = asn1PE_UMTS_SatellitesListRelatedData(ctx, (const SatellitesListRelatedData*)node->data);
-      RT_CHECK(ctx, stat, 0, "SatellitesListRelatedData", (int32_t)i, "SatellitesListRelatedDataList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GanssNavigationModelAdditionalData(rtxContext* RT_RESTRICT ctx, const GanssNavigationModelAdditionalData* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GanssNavigationModelAdditionalData");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GanssNavigationModelAdditionalData");
-   /* ganssWeek */
-   if ((uint64_t)pvalue->ganssWeek > 4095u) {
-      rtxErrAddStrParm(ctx, "ganssWeek");
-      rtxErrAddUIntParm(ctx, pvalue->ganssWeek);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganssWeek", -1, "GanssNavigationModelAdditionalData");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ganssWeek, 0, 4095);
-   RT_CHECK(ctx, stat, 0, "ganssWeek", -1, "GanssNavigationModelAdditionalData");
-   /* ganssToe */
-   if ((uint64_t)pvalue->ganssToe > 167u) {
-      rtxErrAddStrParm(ctx, "ganssToe");
-      rtxErrAddUIntParm(ctx, pvalue->ganssToe);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganssToe", -1, "GanssNavigationModelAdditionalData");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ganssToe, 0, 167);
-   RT_CHECK(ctx, stat, 0, "ganssToe", -1, "GanssNavigationModelAdditionalData");
-   /* t-toeLimit */
-   if ((uint64_t)pvalue->t_toeLimit > 10u) {
-      rtxErrAddStrParm(ctx, "t-toeLimit");
-      rtxErrAddUIntParm(ctx, pvalue->t_toeLimit);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "t-toeLimit", -1, "GanssNavigationModelAdditionalData");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->t_toeLimit, 0, 10);
-   RT_CHECK(ctx, stat, 0, "t-toeLimit", -1, "GanssNavigationModelAdditionalData");
-   /* satellitesListRelatedDataList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SatellitesListRelatedDataList(ctx, &pvalue->satellitesListRelatedDataList);
-      RT_CHECK(ctx, stat, 0, "satellitesListRelatedDataList", -1, "GanssNavigationModelAdditionalData");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GanssReqGenericData(rtxContext* RT_RESTRICT ctx, const GanssReqGenericData* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GanssReqGenericData");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GanssReqGenericData");
-   /* ganssId */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->ganssId > 7u) {
-         rtxErrAddStrParm(ctx, "ganssId");
-         rtxErrAddUIntParm(ctx, pvalue->ganssId);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganssId", -1, "GanssReqGenericData");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssId, 0, 7);
-      RT_CHECK(ctx, stat, 0, "ganssId", -1, "GanssReqGenericData");
-   }
-   /* ganssRealTimeIntegrity */
-   stat = rtxEncBit(ctx, pvalue->ganssRealTimeIntegrity);
-   RT_CHECK(ctx, stat, 0, "ganssRealTimeIntegrity", -1, "GanssReqGenericData");
-   /* ganssDifferentialCorrection */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DGANSS_Sig_Id_Req(ctx, pvalue->ganssDifferentialCorrection);
-      RT_CHECK(ctx, stat, 0, "ganssDifferentialCorrection", -1, "GanssReqGenericData");
-   }
-   /* ganssAlmanac */
-   stat = rtxEncBit(ctx, pvalue->ganssAlmanac);
-   RT_CHECK(ctx, stat, 0, "ganssAlmanac", -1, "GanssReqGenericData");
-   /* ganssNavigationModel */
-   stat = rtxEncBit(ctx, pvalue->ganssNavigationModel);
-   RT_CHECK(ctx, stat, 0, "ganssNavigationModel", -1, "GanssReqGenericData");
-   /* ganssTimeModelGNSS-GNSS */
-   if (pvalue->m & 0x4u) {
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pe_BitString32(ctx, &pvalue->ganssTimeModelGNSS_GNSS, 8, 8);
-      RT_CHECK(ctx, stat, 0, "ganssTimeModelGNSS-GNSS", -1, "GanssReqGenericData");
-   }
-   /* ganssReferenceMeasurementInfo */
-   stat = rtxEncBit(ctx, pvalue->ganssReferenceMeasurementInfo);
-   RT_CHECK(ctx, stat, 0, "ganssReferenceMeasurementInfo", -1, "GanssReqGenericData");
-   /* ganssDataBits */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_GanssDataBits(ctx, &pvalue->ganssDataBits);
-      RT_CHECK(ctx, stat, 0, "ganssDataBits", -1, "GanssReqGenericData");
-   }
-   /* ganssUTCModel */
-   stat = rtxEncBit(ctx, pvalue->ganssUTCModel);
-   RT_CHECK(ctx, stat, 0, "ganssUTCModel", -1, "GanssReqGenericData");
-   /* ganssNavigationModelAdditionalData */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_GanssNavigationModelAdditionalData(ctx, &pvalue->ganssNavigationModelAdditionalData);
-      RT_CHECK(ctx, stat, 0, "ganssNavigationModelAdditionalData", -1, "GanssReqGenericData");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GanssReqGenericData_v860ext_ganssAddNavigationModel(rtxContext* RT_RESTRICT ctx, GanssReqGenericData_v860ext_ganssAddNavigationModel value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_GanssReqGenericData_v860ext_ganssAddUTCmodel(rtxContext* RT_RESTRICT ctx, GanssReqGenericData_v860ext_ganssAddUTCmodel value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_GanssReqGenericData_v860ext_ganssAuxInfo(rtxContext* RT_RESTRICT ctx, GanssReqGenericData_v860ext_ganssAuxInfo value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_GanssReqGenericData_v860ext_ganssAddADchoices(rtxContext* RT_RESTRICT ctx, const GanssReqGenericData_v860ext_ganssAddADchoices* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* orbitModelID */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->orbitModelID > 7u) {
-         rtxErrAddStrParm(ctx, "orbitModelID");
-         rtxErrAddUIntParm(ctx, pvalue->orbitModelID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "orbitModelID", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->orbitModelID, 0, 7);
-      RT_CHECK(ctx, stat, 0, "orbitModelID", -1, 0);
-   }
-   /* clockModelID */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->clockModelID > 7u) {
-         rtxErrAddStrParm(ctx, "clockModelID");
-         rtxErrAddUIntParm(ctx, pvalue->clockModelID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "clockModelID", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->clockModelID, 0, 7);
-      RT_CHECK(ctx, stat, 0, "clockModelID", -1, 0);
-   }
-   /* utcModelID */
-   if (pvalue->m & 0x4u) {
-      if ((uint64_t)pvalue->utcModelID > 7u) {
-         rtxErrAddStrParm(ctx, "utcModelID");
-         rtxErrAddUIntParm(ctx, pvalue->utcModelID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "utcModelID", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->utcModelID, 0, 7);
-      RT_CHECK(ctx, stat, 0, "utcModelID", -1, 0);
-   }
-   /* almanacModelID */
-   if (pvalue->m & 0x8u) {
-      if ((uint64_t)pvalue->almanacModelID > 7u) {
-         rtxErrAddStrParm(ctx, "almanacModelID");
-         rtxErrAddUIntParm(ctx, pvalue->almanacModelID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "almanacModelID", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->almanacModelID, 0, 7);
-      RT_CHECK(ctx, stat, 0, "almanacModelID", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GanssReqGenericData_v860ext(rtxContext* RT_RESTRICT ctx, const GanssReqGenericData_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GanssReqGenericData-v860ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GanssReqGenericData-v860ext");
-   /* sbasId */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->sbasId > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->sbasId);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "UE-Positioning-GANSS-SBAS-ID", "sbasId", -1, "GanssReqGenericData-v860ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->sbasId, 0, 7);
-      RT_CHECK(ctx, stat, "UE-Positioning-GANSS-SBAS-ID", "sbasId", -1, "GanssReqGenericData-v860ext");
-   }
-   /* ganssAddNavigationModel */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->ganssAddNavigationModel > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->ganssAddNavigationModel);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "ganssAddNavigationModel", -1, "GanssReqGenericData-v860ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssAddNavigationModel, 0, 0);
-      RT_CHECK(ctx, stat, 0, "ganssAddNavigationModel", -1, "GanssReqGenericData-v860ext");
-   }
-   /* ganssAddUTCmodel */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->ganssAddUTCmodel > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->ganssAddUTCmodel);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "ganssAddUTCmodel", -1, "GanssReqGenericData-v860ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssAddUTCmodel, 0, 0);
-      RT_CHECK(ctx, stat, 0, "ganssAddUTCmodel", -1, "GanssReqGenericData-v860ext");
-   }
-   /* ganssAuxInfo */
-   if (pvalue->m & 0x8u) {
-      if (pvalue->ganssAuxInfo > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->ganssAuxInfo);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "ganssAuxInfo", -1, "GanssReqGenericData-v860ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssAuxInfo, 0, 0);
-      RT_CHECK(ctx, stat, 0, "ganssAuxInfo", -1, "GanssReqGenericData-v860ext");
-   }
-   /* ganssAddADchoices */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_GanssReqGenericData_v860ext_ganssAddADchoices(ctx, &pvalue->ganssAddADchoices);
-      RT_CHECK(ctx, stat, 0, "ganssAddADchoices", -1, "GanssReqGenericData-v860ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GanssRequestedGenericAssistanceDataList(rtxContext* RT_RESTRICT ctx, const GanssRequestedGenericAssistanceDataList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GanssRequestedGenericAssistanceDataList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GanssRequestedGenericAssistanceDataList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "GanssReqGenericData", (int32_t)i, "GanssRequestedGenericAssistanceDataList");
-      stat = asn1PE_UMTS_GanssReqGenericData(ctx, (const GanssReqGenericData*)node->data);
-      RT_CHECK(ctx, stat, 0, "GanssReqGenericData", (int32_t)i, "GanssRequestedGenericAssistanceDataList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GanssRequestedGenericAssistanceDataList_v860ext(rtxContext* RT_RESTRICT ctx, const GanssRequestedGenericAssistanceDataList_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GanssRequestedGenericAssistanceDataList-v860ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GanssRequestedGenericAssistanceDataList-v860ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "GanssReqGenericData-v860ext", (int32_t)i, "GanssRequestedGenericAssistanceDataList-v860ext");
-      stat = asn1PE_UMTS_GanssReqGenericData_v860ext(ctx, (const GanssReqGenericData_v860ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "GanssReqGenericData-v860ext", (int32_t)i, "GanssRequestedGenericAssistanceDataList-v860ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GANSS_Storm_Flag(rtxContext* RT_RESTRICT ctx, const GANSS_Storm_Flag* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GANSS-Storm-Flag");
-   /* storm-flag-one */
-   stat = rtxEncBit(ctx, pvalue->storm_flag_one);
-   RT_CHECK(ctx, stat, 0, "storm-flag-one", -1, "GANSS-Storm-Flag");
-   /* storm-flag-two */
-   stat = rtxEncBit(ctx, pvalue->storm_flag_two);
-   RT_CHECK(ctx, stat, 0, "storm-flag-two", -1, "GANSS-Storm-Flag");
-   /* storm-flag-three */
-   stat = rtxEncBit(ctx, pvalue->storm_flag_three);
-   RT_CHECK(ctx, stat, 0, "storm-flag-three", -1, "GANSS-Storm-Flag");
-   /* storm-flag-four */
-   stat = rtxEncBit(ctx, pvalue->storm_flag_four);
-   RT_CHECK(ctx, stat, 0, "storm-flag-four", -1, "GANSS-Storm-Flag");
-   /* storm-flag-five */
-   stat = rtxEncBit(ctx, pvalue->storm_flag_five);
-   RT_CHECK(ctx, stat, 0, "storm-flag-five", -1, "GANSS-Storm-Flag");
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_CarrierRSSI(rtxContext* RT_RESTRICT ctx, GSM_CarrierRSSI value)
-{
-   int stat = 0;
-   RT_SET_SIZE(ctx, 6, 6);
-   stat = pe_BitString32(ctx, &value, 6, 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GSM-CarrierRSSI");
-   return 0;
-}
-
-int asn1PE_UMTS_ObservedTimeDifferenceToGSM(rtxContext* RT_RESTRICT ctx, ObservedTimeDifferenceToGSM value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 4095u) {
-      rtxErrAddStrParm(ctx, "ObservedTimeDifferenceToGSM");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "ObservedTimeDifferenceToGSM");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 4095);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ObservedTimeDifferenceToGSM");
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_MeasuredResults(rtxContext* RT_RESTRICT ctx, const GSM_MeasuredResults* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GSM-MeasuredResults");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GSM-MeasuredResults");
-   /* gsm-CarrierRSSI */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_GSM_CarrierRSSI(ctx, pvalue->gsm_CarrierRSSI);
-      RT_CHECK(ctx, stat, 0, "gsm-CarrierRSSI", -1, "GSM-MeasuredResults");
-   }
-   /* dummy */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)(pvalue->dummy - 46) > 127u) {
-         rtxErrAddStrParm(ctx, "dummy");
-         rtxErrAddUIntParm(ctx, pvalue->dummy);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "dummy", -1, "GSM-MeasuredResults");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dummy, 46, 173);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "GSM-MeasuredResults");
-   }
-   /* bsicReported */
-   stat = asn1PE_UMTS_BSICReported(ctx, &pvalue->bsicReported);
-   RT_CHECK(ctx, stat, 0, "bsicReported", -1, "GSM-MeasuredResults");
-   /* dummy2 */
-   if (pvalue->m & 0x4u) {
-      if ((uint64_t)pvalue->dummy2 > 4095u) {
-         rtxErrAddStrParm(ctx, "ObservedTimeDifferenceToGSM");
-         rtxErrAddUIntParm(ctx, pvalue->dummy2);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "ObservedTimeDifferenceToGSM", "dummy2", -1, "GSM-MeasuredResults");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dummy2, 0, 4095);
-      RT_CHECK(ctx, stat, "ObservedTimeDifferenceToGSM", "dummy2", -1, "GSM-MeasuredResults");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_MeasuredResultsList(rtxContext* RT_RESTRICT ctx, const GSM_MeasuredResultsList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GSM-MeasuredResultsList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GSM-MeasuredResultsList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "GSM-MeasuredResults", (int32_t)i, "GSM-MeasuredResultsList");
-      stat = asn1PE_UMTS_GSM_MeasuredResults(ctx, (const GSM_MeasuredResults*)node->data);
-      RT_CHECK(ctx, stat, 0, "GSM-MeasuredResults", (int32_t)i, "GSM-MeasuredResultsList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GPS_TOW_1sec(rtxContext* RT_RESTRICT ctx, GPS_TOW_1sec value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 604799u) {
-      rtxErrAddStrParm(ctx, "GPS-TOW-1sec");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "GPS-TOW-1sec");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 604799);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GPS-TOW-1sec");
-   return 0;
-}
-
-int asn1PE_UMTS_GPS_TOW_Assist(rtxContext* RT_RESTRICT ctx, const GPS_TOW_Assist* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GPS-TOW-Assist");
-   /* satID */
-   if ((uint64_t)pvalue->satID > 63u) {
-      rtxErrAddStrParm(ctx, "SatID");
-      rtxErrAddUIntParm(ctx, pvalue->satID);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "SatID", "satID", -1, "GPS-TOW-Assist");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->satID, 0, 63);
-   RT_CHECK(ctx, stat, "SatID", "satID", -1, "GPS-TOW-Assist");
-   /* tlm-Message */
-   RT_SET_SIZE(ctx, 14, 14);
-   stat = pe_BitString32(ctx, &pvalue->tlm_Message, 14, 14);
-   RT_CHECK(ctx, stat, 0, "tlm-Message", -1, "GPS-TOW-Assist");
-   /* tlm-Reserved */
-   RT_SET_SIZE(ctx, 2, 2);
-   stat = pe_BitString32(ctx, &pvalue->tlm_Reserved, 2, 2);
-   RT_CHECK(ctx, stat, 0, "tlm-Reserved", -1, "GPS-TOW-Assist");
-   /* alert */
-   stat = rtxEncBit(ctx, pvalue->alert);
-   RT_CHECK(ctx, stat, 0, "alert", -1, "GPS-TOW-Assist");
-   /* antiSpoof */
-   stat = rtxEncBit(ctx, pvalue->antiSpoof);
-   RT_CHECK(ctx, stat, 0, "antiSpoof", -1, "GPS-TOW-Assist");
-   return 0;
-}
-
-int asn1PE_UMTS_GPS_TOW_AssistList(rtxContext* RT_RESTRICT ctx, const GPS_TOW_AssistList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GPS-TOW-AssistList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GPS-TOW-AssistList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "GPS-TOW-Assist", (int32_t)i, "GPS-TOW-AssistList");
-      stat = asn1PE_UMTS_GPS_TOW_Assist(ctx, (const GPS_TOW_Assist*)node->data);
-      RT_CHECK(ctx, stat, 0, "GPS-TOW-Assist", (int32_t)i, "GPS-TOW-AssistList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_CellID(rtxContext* RT_RESTRICT ctx, const GSM_CellID* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GSM-CellID");
-   /* gsm-CellID */
-   if ((uint64_t)pvalue->gsm_CellID > 31u) {
-      rtxErrAddStrParm(ctx, "gsm-CellID");
-      rtxErrAddUIntParm(ctx, pvalue->gsm_CellID);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "gsm-CellID", -1, "GSM-CellID");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->gsm_CellID, 0, 31);
-   RT_CHECK(ctx, stat, 0, "gsm-CellID", -1, "GSM-CellID");
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_PriorityInfo(rtxContext* RT_RESTRICT ctx, const GSM_PriorityInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GSM-PriorityInfo");
-   /* gsmCellGroup */
-   stat = asn1PE_UMTS_GSM_CellGroup(ctx, &pvalue->gsmCellGroup);
-   RT_CHECK(ctx, stat, 0, "gsmCellGroup", -1, "GSM-PriorityInfo");
-   /* priority */
-   if ((uint64_t)pvalue->priority > 7u) {
-      rtxErrAddStrParm(ctx, "priority");
-      rtxErrAddUIntParm(ctx, pvalue->priority);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "priority", -1, "GSM-PriorityInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->priority, 0, 7);
-   RT_CHECK(ctx, stat, 0, "priority", -1, "GSM-PriorityInfo");
-   /* qRxLevMinGSM */
-   if (pvalue->qRxLevMinGSM < -58 || pvalue->qRxLevMinGSM > -13) {
-      rtxErrAddStrParm(ctx, "qRxLevMinGSM");
-      rtxErrAddIntParm(ctx, pvalue->qRxLevMinGSM);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "qRxLevMinGSM", -1, "GSM-PriorityInfo");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->qRxLevMinGSM, -58, -13);
-   RT_CHECK(ctx, stat, 0, "qRxLevMinGSM", -1, "GSM-PriorityInfo");
-   /* threshXhigh */
-   if ((uint64_t)pvalue->threshXhigh > 31u) {
-      rtxErrAddStrParm(ctx, "threshXhigh");
-      rtxErrAddUIntParm(ctx, pvalue->threshXhigh);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "threshXhigh", -1, "GSM-PriorityInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->threshXhigh, 0, 31);
-   RT_CHECK(ctx, stat, 0, "threshXhigh", -1, "GSM-PriorityInfo");
-   /* threshXlow */
-   if ((uint64_t)pvalue->threshXlow > 31u) {
-      rtxErrAddStrParm(ctx, "threshXlow");
-      rtxErrAddUIntParm(ctx, pvalue->threshXlow);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "threshXlow", -1, "GSM-PriorityInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->threshXlow, 0, 31);
-   RT_CHECK(ctx, stat, 0, "threshXlow", -1, "GSM-PriorityInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_PriorityInfoList(rtxContext* RT_RESTRICT ctx, const GSM_PriorityInfoList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GSM-PriorityInfoList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GSM-PriorityInfoList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "GSM-PriorityInfo", (int32_t)i, "GSM-PriorityInfoList");
-      stat = asn1PE_UMTS_GSM_PriorityInfo(ctx, (const GSM_PriorityInfo*)node->data);
-      RT_CHECK(ctx, stat, 0, "GSM-PriorityInfo", (int32_t)i, "GSM-PriorityInfoList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GSMCellGroupingList(rtxContext* RT_RESTRICT ctx, const GSMCellGroupingList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GSMCellGroupingList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GSMCellGroupingList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "GSM-CellID", (int32_t)i, "GSMCellGroupingList");
-      stat = asn1PE_UMTS_GSM_CellID(ctx, (const GSM_CellID*)node->data);
-      RT_CHECK(ctx, stat, 0, "GSM-CellID", (int32_t)i, "GSMCellGroupingList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IdleIntervalInfo(rtxContext* RT_RESTRICT ctx, const IdleIntervalInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IdleIntervalInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IdleIntervalInfo");
-   /* k */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->k - 2) > 1u) {
-         rtxErrAddStrParm(ctx, "k");
-         rtxErrAddUIntParm(ctx, pvalue->k);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "k", -1, "IdleIntervalInfo");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->k, 2, 3);
-      RT_CHECK(ctx, stat, 0, "k", -1, "IdleIntervalInfo");
-   }
-   /* offset */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->offset > 7u) {
-         rtxErrAddStrParm(ctx, "offset");
-         rtxErrAddUIntParm(ctx, pvalue->offset);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "offset", -1, "IdleIntervalInfo");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->offset, 0, 7);
-      RT_CHECK(ctx, stat, 0, "offset", -1, "IdleIntervalInfo");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqCell_LCR_r4(rtxContext* RT_RESTRICT ctx, const InterFreqCell_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCell-LCR-r4");
-   /* frequencyInfo */
-   stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "InterFreqCell-LCR-r4");
-   /* nonFreqRelatedEventResults */
-   stat = asn1PE_UMTS_CellMeasurementEventResults_LCR_r4(ctx, &pvalue->nonFreqRelatedEventResults);
-   RT_CHECK(ctx, stat, 0, "nonFreqRelatedEventResults", -1, "InterFreqCell-LCR-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCell(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCell");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCell");
-   /* interFreqCellID */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->interFreqCellID > 31u) {
-         rtxErrAddStrParm(ctx, "InterFreqCellID");
-         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCell");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCell");
-   }
-   /* frequencyInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCell");
-   }
-   /* cellInfo */
-   stat = asn1PE_UMTS_CellInfo(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCell");
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCellList(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewInterFreqCellList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewInterFreqCell", (int32_t)i, "NewInterFreqCellList");
-      stat = asn1PE_UMTS_NewInterFreqCell(ctx, (const NewInterFreqCell*)node->data);
-      RT_CHECK(ctx, stat, 0, "NewInterFreqCell", (int32_t)i, "NewInterFreqCellList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqCellInfoList(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellInfoList");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoList");
-   /* removedInterFreqCellList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoList");
-   }
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_NewInterFreqCellList(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoList");
-   }
-   /* cellsForInterFreqMeasList */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_CellsForInterFreqMeasList(ctx, &pvalue->cellsForInterFreqMeasList);
-      RT_CHECK(ctx, stat, 0, "cellsForInterFreqMeasList", -1, "InterFreqCellInfoList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCell_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCell-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCell-r4");
-   /* interFreqCellID */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->interFreqCellID > 31u) {
-         rtxErrAddStrParm(ctx, "InterFreqCellID");
-         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCell-r4");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCell-r4");
-   }
-   /* frequencyInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCell-r4");
-   }
-   /* cellInfo */
-   stat = asn1PE_UMTS_CellInfo_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCell-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCellList_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellList_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellList-r4");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewInterFreqCellList-r4");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewInterFreqCell-r4", (int32_t)i, "NewInterFreqCellList-r4");
-      stat = asn1PE_UMTS_NewInterFreqCell_r4(ctx, (const NewInterFreqCell_r4*)node->data);
-      RT_CHECK(ctx, stat, 0, "NewInterFreqCell-r4", (int32_t)i, "NewInterFreqCellList-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqCellInfoList_r4(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoList_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellInfoList-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoList-r4");
-   /* removedInterFreqCellList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoList-r4");
-   }
-   /* newInterFreqCellList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_NewInterFreqCellList_r4(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoList-r4");
-   }
-   /* cellsForInterFreqMeasList */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_CellsForInterFreqMeasList(ctx, &pvalue->cellsForInterFreqMeasList);
-      RT_CHECK(ctx, stat, 0, "cellsForInterFreqMeasList", -1, "InterFreqCellInfoList-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCell_r8_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_r8_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* intraSecondaryFreqIndicator */
-   stat = rtxEncBit(ctx, pvalue->intraSecondaryFreqIndicator);
-   RT_CHECK(ctx, stat, 0, "intraSecondaryFreqIndicator", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCell_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_r8_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_NewInterFreqCell_r8_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_E_RUCCH_Info_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128, cur);
          RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
          break;
       default:
@@ -6400,105 +2316,293 @@ int asn1PE_UMTS_NewInterFreqCell_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx
    return 0;
 }
 
-int asn1PE_UMTS_NewInterFreqCell_r8(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_r8* RT_RESTRICT pvalue)
+int asn1PE_UMTS_E_RUCCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_RUCCH_Info_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_RUCCH_Info(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCell-r8");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCell-r8");
-   /* interFreqCellID */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->interFreqCellID > 31u) {
-         rtxErrAddStrParm(ctx, "InterFreqCellID");
-         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCell-r8");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCell-r8");
-   }
-   /* frequencyInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCell-r8");
-   }
-   /* cellInfo */
-   stat = asn1PE_UMTS_CellInfo_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCell-r8");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-RUCCH-Info");
    /* modeSpecificInfo */
-   stat = asn1PE_UMTS_NewInterFreqCell_r8_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "NewInterFreqCell-r8");
+   stat = enc_E_RUCCH_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "E-RUCCH-Info");
    return 0;
 }
 
-int asn1PE_UMTS_NewInterFreqCellList_r8(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellList_r8* RT_RESTRICT pvalue)
+int asn1PE_UMTS_E_RUCCH_Info(rtxContext* RT_RESTRICT ctx, const E_RUCCH_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_RUCCH_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_PUCH_TS_Slots(rtxContext* RT_RESTRICT ctx, const E_PUCH_TS_Slots* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellList-r8");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-PUCH-TS-Slots");
+   /* ts-Number */
+   if ((uint64_t)pvalue->ts_Number > 14u) {
+      rtxErrAddStrParm(ctx, "ts-Number");
+      rtxErrAddUIntParm(ctx, pvalue->ts_Number);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ts-Number", -1, "E-PUCH-TS-Slots");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ts_Number, 0, 14);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ts-Number", -1, "E-PUCH-TS-Slots");
+   /* midambleShiftAndBurstType */
+   stat = enc_MidambleShiftAndBurstType_EDCH(ctx, &pvalue->midambleShiftAndBurstType, cur);
+   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, "E-PUCH-TS-Slots");
+   return 0;
+}
+
+int asn1PE_UMTS_E_PUCH_TS_Slots(rtxContext* RT_RESTRICT ctx, const E_PUCH_TS_Slots* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_PUCH_TS_Slots, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_PUCH_Info_modeSpecificInfo_tdd348_tdd768_e_PUCH_TS_ConfigurationList(rtxContext* RT_RESTRICT ctx, const E_PUCH_Info_modeSpecificInfo_tdd348_tdd768_e_PUCH_TS_ConfigurationList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    const rtxDListNode* node;
    uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewInterFreqCellList-r8");
+   RT_SET_SIZE(ctx, 1, 12);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewInterFreqCell-r8", (int32_t)i, "NewInterFreqCellList-r8");
-      stat = asn1PE_UMTS_NewInterFreqCell_r8(ctx, (const NewInterFreqCell_r8*)node->data);
-      RT_CHECK(ctx, stat, 0, "NewInterFreqCell-r8", (int32_t)i, "NewInterFreqCellList-r8");
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "E-PUCH-TS-Slots", (int32_t)i, 0);
+      stat = enc_E_PUCH_TS_Slots(ctx, (const E_PUCH_TS_Slots*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "E-PUCH-TS-Slots", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_InterFreqCellInfoList_r8(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoList_r8* RT_RESTRICT pvalue)
+int asn1PE_UMTS_E_PUCH_Info_modeSpecificInfo_tdd348_tdd768_e_PUCH_TS_ConfigurationList(rtxContext* RT_RESTRICT ctx, const E_PUCH_Info_modeSpecificInfo_tdd348_tdd768_e_PUCH_TS_ConfigurationList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_PUCH_Info_modeSpecificInfo_tdd348_tdd768_e_PUCH_TS_ConfigurationList, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_PUCH_Info_modeSpecificInfo_tdd348_tdd768(rtxContext* RT_RESTRICT ctx, const E_PUCH_Info_modeSpecificInfo_tdd348_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellInfoList-r8");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* noSlotsForTFCIandTPC */
+   if ((uint64_t)(pvalue->noSlotsForTFCIandTPC - 1) > 11u) {
+      rtxErrAddStrParm(ctx, "noSlotsForTFCIandTPC");
+      rtxErrAddUIntParm(ctx, pvalue->noSlotsForTFCIandTPC);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "noSlotsForTFCIandTPC", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->noSlotsForTFCIandTPC, 1, 12);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "noSlotsForTFCIandTPC", -1, 0);
+   /* e-PUCH-ContantValue */
+   if (pvalue->e_PUCH_ContantValue < -35 || pvalue->e_PUCH_ContantValue > 10) {
+      rtxErrAddStrParm(ctx, "e-PUCH-ContantValue");
+      rtxErrAddIntParm(ctx, pvalue->e_PUCH_ContantValue);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "e-PUCH-ContantValue", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->e_PUCH_ContantValue, -35, 10);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "e-PUCH-ContantValue", -1, 0);
+   /* e-PUCH-TS-ConfigurationList */
+   stat = enc_E_PUCH_Info_modeSpecificInfo_tdd348_tdd768_e_PUCH_TS_ConfigurationList(ctx, &pvalue->e_PUCH_TS_ConfigurationList, cur);
+   RT_CHECK(ctx, stat, 0, "e-PUCH-TS-ConfigurationList", -1, 0);
+   /* e-PUCH-CodeHopping */
+   stat = rtxEncBitAt(ctx, cur, pvalue->e_PUCH_CodeHopping);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "e-PUCH-CodeHopping", -1, 0);
+   /* e-PUCH-TPC-Step-Size */
+   if ((uint64_t)(pvalue->e_PUCH_TPC_Step_Size - 1) > 2u) {
+      rtxErrAddStrParm(ctx, "e-PUCH-TPC-Step-Size");
+      rtxErrAddUIntParm(ctx, pvalue->e_PUCH_TPC_Step_Size);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "e-PUCH-TPC-Step-Size", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->e_PUCH_TPC_Step_Size, 1, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "e-PUCH-TPC-Step-Size", -1, 0);
+   /* minimum-Allowed-Code-Rate */
+   if ((uint64_t)pvalue->minimum_Allowed_Code_Rate > 63u) {
+      rtxErrAddStrParm(ctx, "minimum-Allowed-Code-Rate");
+      rtxErrAddUIntParm(ctx, pvalue->minimum_Allowed_Code_Rate);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "minimum-Allowed-Code-Rate", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->minimum_Allowed_Code_Rate, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "minimum-Allowed-Code-Rate", -1, 0);
+   /* maximum-Allowed-Code-Rate */
+   if ((uint64_t)pvalue->maximum_Allowed_Code_Rate > 63u) {
+      rtxErrAddStrParm(ctx, "maximum-Allowed-Code-Rate");
+      rtxErrAddUIntParm(ctx, pvalue->maximum_Allowed_Code_Rate);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "maximum-Allowed-Code-Rate", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maximum_Allowed_Code_Rate, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "maximum-Allowed-Code-Rate", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_E_PUCH_Info_modeSpecificInfo_tdd348_tdd768(rtxContext* RT_RESTRICT ctx, const E_PUCH_Info_modeSpecificInfo_tdd348_tdd768* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_PUCH_Info_modeSpecificInfo_tdd348_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_PUCH_Info_modeSpecificInfo_tdd128_snpl_ReportType(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_modeSpecificInfo_tdd128_snpl_ReportType value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_E_PUCH_Info_modeSpecificInfo_tdd128_snpl_ReportType(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_modeSpecificInfo_tdd128_snpl_ReportType value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_PUCH_Info_modeSpecificInfo_tdd128_snpl_ReportType, value);
+}
+
+RT_MERGED_BODY int enc_E_PUCH_Info_modeSpecificInfo_tdd128_e_PUCH_TS_ConfigurationList(rtxContext* RT_RESTRICT ctx, const E_PUCH_Info_modeSpecificInfo_tdd128_e_PUCH_TS_ConfigurationList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 5);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "E-PUCH-TS-Slots-LCR", (int32_t)i, 0);
+      stat = enc_E_PUCH_TS_Slots_LCR(ctx, (const E_PUCH_TS_Slots_LCR*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "E-PUCH-TS-Slots-LCR", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_PUCH_Info_modeSpecificInfo_tdd128_e_PUCH_TS_ConfigurationList(rtxContext* RT_RESTRICT ctx, const E_PUCH_Info_modeSpecificInfo_tdd128_e_PUCH_TS_ConfigurationList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_PUCH_Info_modeSpecificInfo_tdd128_e_PUCH_TS_ConfigurationList, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_PUCH_Info_modeSpecificInfo_tdd128_retransTimerForSchedInfo(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_modeSpecificInfo_tdd128_retransTimerForSchedInfo value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 29) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 29);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_E_PUCH_Info_modeSpecificInfo_tdd128_retransTimerForSchedInfo(rtxContext* RT_RESTRICT ctx, E_PUCH_Info_modeSpecificInfo_tdd128_retransTimerForSchedInfo value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_PUCH_Info_modeSpecificInfo_tdd128_retransTimerForSchedInfo, value);
+}
+
+RT_MERGED_BODY int enc_E_PUCH_Info_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, const E_PUCH_Info_modeSpecificInfo_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoList-r8");
-   /* removedInterFreqCellList */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* snpl-ReportType */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoList-r8");
+      if (pvalue->snpl_ReportType > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->snpl_ReportType);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "snpl-ReportType", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->snpl_ReportType, 0, 1);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "snpl-ReportType", -1, 0);
    }
-   /* newInterFreqCellList */
+   /* prxBASEdes */
+   if (pvalue->prxBASEdes < -112 || pvalue->prxBASEdes > -50) {
+      rtxErrAddStrParm(ctx, "prxBASEdes");
+      rtxErrAddIntParm(ctx, pvalue->prxBASEdes);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "prxBASEdes", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->prxBASEdes, -112, -50);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "prxBASEdes", -1, 0);
+   /* beaconPLEst */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_NewInterFreqCellList_r8(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoList-r8");
+      stat = rtxEncBitAt(ctx, cur, pvalue->beaconPLEst);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "beaconPLEst", -1, 0);
    }
-   /* cellsForInterFreqMeasList */
+   /* tpc-StepSize */
+   if ((uint64_t)(pvalue->tpc_StepSize - 1) > 2u) {
+      rtxErrAddStrParm(ctx, "TPC-StepSizeTDD");
+      rtxErrAddUIntParm(ctx, pvalue->tpc_StepSize);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tpc_StepSize, 1, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
+   /* pebase-PowerControlGAP */
    if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_CellsForInterFreqMeasList(ctx, &pvalue->cellsForInterFreqMeasList);
-      RT_CHECK(ctx, stat, 0, "cellsForInterFreqMeasList", -1, "InterFreqCellInfoList-r8");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->pebase_PowerControlGAP, 0, 255);
+      RT_CHECK_PUT(ctx, cur, stat, "PowerControlGAP", "pebase-PowerControlGAP", -1, 0);
    }
+   /* ul-SynchronisationParameters */
+   if (pvalue->m & 0x8u) {
+      stat = enc_UL_SynchronisationParameters_r4(ctx, &pvalue->ul_SynchronisationParameters, cur);
+      RT_CHECK(ctx, stat, 0, "ul-SynchronisationParameters", -1, 0);
+   }
+   /* e-PUCH-TS-ConfigurationList */
+   stat = enc_E_PUCH_Info_modeSpecificInfo_tdd128_e_PUCH_TS_ConfigurationList(ctx, &pvalue->e_PUCH_TS_ConfigurationList, cur);
+   RT_CHECK(ctx, stat, 0, "e-PUCH-TS-ConfigurationList", -1, 0);
+   /* minimum-Allowed-Code-Rate */
+   if ((uint64_t)pvalue->minimum_Allowed_Code_Rate > 63u) {
+      rtxErrAddStrParm(ctx, "minimum-Allowed-Code-Rate");
+      rtxErrAddUIntParm(ctx, pvalue->minimum_Allowed_Code_Rate);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "minimum-Allowed-Code-Rate", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->minimum_Allowed_Code_Rate, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "minimum-Allowed-Code-Rate", -1, 0);
+   /* maximum-Allowed-Code-Rate */
+   if ((uint64_t)pvalue->maximum_Allowed_Code_Rate > 63u) {
+      rtxErrAddStrParm(ctx, "maximum-Allowed-Code-Rate");
+      rtxErrAddUIntParm(ctx, pvalue->maximum_Allowed_Code_Rate);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "maximum-Allowed-Code-Rate", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maximum_Allowed_Code_Rate, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "maximum-Allowed-Code-Rate", -1, 0);
+   /* maximumNumOfRetransSchedInfo */
+   if ((uint64_t)pvalue->maximumNumOfRetransSchedInfo > 15u) {
+      rtxErrAddStrParm(ctx, "maximumNumOfRetransSchedInfo");
+      rtxErrAddUIntParm(ctx, pvalue->maximumNumOfRetransSchedInfo);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "maximumNumOfRetransSchedInfo", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maximumNumOfRetransSchedInfo, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "maximumNumOfRetransSchedInfo", -1, 0);
+   /* retransTimerForSchedInfo */
+   if (pvalue->retransTimerForSchedInfo > 29) {
+      rtxErrAddUIntParm(ctx, pvalue->retransTimerForSchedInfo);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "retransTimerForSchedInfo", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->retransTimerForSchedInfo, 0, 29);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "retransTimerForSchedInfo", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_NewInterFreqCell_r9_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_r9_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
+int asn1PE_UMTS_E_PUCH_Info_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, const E_PUCH_Info_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* intraSecondaryFreqIndicator */
-   stat = rtxEncBit(ctx, pvalue->intraSecondaryFreqIndicator);
-   RT_CHECK(ctx, stat, 0, "intraSecondaryFreqIndicator", -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_E_PUCH_Info_modeSpecificInfo_tdd128, pvalue);
 }
 
-int asn1PE_UMTS_NewInterFreqCell_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_r9_modeSpecificInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_E_PUCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const E_PUCH_Info_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
+         if (pvalue->u.tdd348_tdd768 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd348-tdd768", -1, 0);
+         stat = enc_E_PUCH_Info_modeSpecificInfo_tdd348_tdd768(ctx, pvalue->u.tdd348_tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd348-tdd768", -1, 0);
          break;
       case 2:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_NewInterFreqCell_r9_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_E_PUCH_Info_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128, cur);
          RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
          break;
       default:
@@ -6507,79 +2611,102 @@ int asn1PE_UMTS_NewInterFreqCell_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx
    return 0;
 }
 
-int asn1PE_UMTS_NewInterFreqCell_r9(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_r9* RT_RESTRICT pvalue)
+int asn1PE_UMTS_E_PUCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const E_PUCH_Info_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_PUCH_Info_modeSpecificInfo, pvalue);
+}
+
+static int enc_E_PUCH_Info(rtxContext* RT_RESTRICT ctx, const E_PUCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCell-r9");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-PUCH-Info");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCell-r9");
-   /* interFreqCellID */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-PUCH-Info");
+   /* e-TFCS-Info */
+   stat = enc_E_TFCS_Info(ctx, &pvalue->e_TFCS_Info, cur);
+   RT_CHECK(ctx, stat, 0, "e-TFCS-Info", -1, "E-PUCH-Info");
+   /* modeSpecificInfo */
+   stat = enc_E_PUCH_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "E-PUCH-Info");
+   /* powerOffsetForSchedInfo */
    if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->interFreqCellID > 31u) {
-         rtxErrAddStrParm(ctx, "InterFreqCellID");
-         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCell-r9");
+      if ((uint64_t)pvalue->powerOffsetForSchedInfo > 6u) {
+         rtxErrAddStrParm(ctx, "powerOffsetForSchedInfo");
+         rtxErrAddUIntParm(ctx, pvalue->powerOffsetForSchedInfo);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "powerOffsetForSchedInfo", -1, "E-PUCH-Info");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->interFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCell-r9");
-   }
-   /* frequencyInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCell-r9");
-   }
-   /* cellInfo */
-   stat = asn1PE_UMTS_CellInfo_r9(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCell-r9");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_NewInterFreqCell_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "NewInterFreqCell-r9");
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCellList_r9(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellList_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellList-r9");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewInterFreqCellList-r9");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewInterFreqCell-r9", (int32_t)i, "NewInterFreqCellList-r9");
-      stat = asn1PE_UMTS_NewInterFreqCell_r9(ctx, (const NewInterFreqCell_r9*)node->data);
-      RT_CHECK(ctx, stat, 0, "NewInterFreqCell-r9", (int32_t)i, "NewInterFreqCellList-r9");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->powerOffsetForSchedInfo, 0, 6);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "powerOffsetForSchedInfo", -1, "E-PUCH-Info");
    }
    return 0;
 }
 
-int asn1PE_UMTS_InterFreqSIAcquisition_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const InterFreqSIAcquisition_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_E_PUCH_Info(rtxContext* RT_RESTRICT ctx, const E_PUCH_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_PUCH_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_Non_ScheduledTransGrantInfoTDD_tdd384_768(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_tdd384_768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* primaryScramblingCode */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryScramblingCode);
-   RT_CHECK(ctx, stat, 0, "primaryScramblingCode", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* timeslotResourceRelatedInfo */
+   RT_SET_SIZE(ctx, 13, 13);
+   stat = pe_BitString32At(ctx, cur, &pvalue->timeslotResourceRelatedInfo, 13, 13);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "timeslotResourceRelatedInfo", -1, 0);
+   /* powerResourceRelatedInfo */
+   if ((uint64_t)(pvalue->powerResourceRelatedInfo - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "powerResourceRelatedInfo");
+      rtxErrAddUIntParm(ctx, pvalue->powerResourceRelatedInfo);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "powerResourceRelatedInfo", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->powerResourceRelatedInfo, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "powerResourceRelatedInfo", -1, 0);
+   /* activationTime */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->activationTime, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, "ActivationTime", "activationTime", -1, 0);
+   /* repetitionPeriodAndLength */
+   if (pvalue->m & 0x1u) {
+      stat = enc_RepetitionPeriodAndLength(ctx, &pvalue->repetitionPeriodAndLength, cur);
+      RT_CHECK(ctx, stat, 0, "repetitionPeriodAndLength", -1, 0);
+   }
+   /* codeResourceInfo */
+   if (pvalue->codeResourceInfo > 30) {
+      rtxErrAddUIntParm(ctx, pvalue->codeResourceInfo);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UL-TS-ChannelisationCode", "codeResourceInfo", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->codeResourceInfo, 0, 30);
+   RT_CHECK_PUT(ctx, cur, stat, "UL-TS-ChannelisationCode", "codeResourceInfo", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_InterFreqSIAcquisition_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const InterFreqSIAcquisition_modeSpecificInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_tdd384_768(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_tdd384_768* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Non_ScheduledTransGrantInfoTDD_tdd384_768, pvalue);
+}
+
+RT_MERGED_BODY int enc_Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_InterFreqSIAcquisition_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
+         if ((uint64_t)pvalue->u.ueSpecificMidamble > 15u) {
+            rtxErrAddStrParm(ctx, "ueSpecificMidamble");
+            rtxErrAddUIntParm(ctx, pvalue->u.ueSpecificMidamble);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ueSpecificMidamble", -1, 0);
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.ueSpecificMidamble, 0, 15);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "ueSpecificMidamble", -1, 0);
          break;
       default:
          break;
@@ -6587,146 +2714,149 @@ int asn1PE_UMTS_InterFreqSIAcquisition_modeSpecificInfo(rtxContext* RT_RESTRICT 
    return 0;
 }
 
-int asn1PE_UMTS_InterFreqSIAcquisition(rtxContext* RT_RESTRICT ctx, const InterFreqSIAcquisition* RT_RESTRICT pvalue)
+int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info_midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info_midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int enc_Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqSIAcquisition");
-   /* frequencyInfo */
-   stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "InterFreqSIAcquisition");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_InterFreqSIAcquisition_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "InterFreqSIAcquisition");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 6u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslotNumber, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, 0);
+   /* channelisation-Code */
+   if (pvalue->channelisation_Code > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->channelisation_Code);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "channelisation-Code", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->channelisation_Code, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "HS-ChannelisationCode-LCR", "channelisation-Code", -1, 0);
+   /* midambleAllocationMode */
+   stat = enc_Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   /* midambleConfiguration */
+   if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "midambleConfiguration");
+      rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "midambleConfiguration", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "midambleConfiguration", -1, 0);
+   /* signatureSequenceGroupIndex */
+   if ((uint64_t)pvalue->signatureSequenceGroupIndex > 19u) {
+      rtxErrAddStrParm(ctx, "signatureSequenceGroupIndex");
+      rtxErrAddUIntParm(ctx, pvalue->signatureSequenceGroupIndex);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "signatureSequenceGroupIndex", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->signatureSequenceGroupIndex, 0, 19);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "signatureSequenceGroupIndex", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_InterFreqCellInfoList_r9(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoList_r9* RT_RESTRICT pvalue)
+int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_Non_ScheduledTransGrantInfoTDD_tdd128(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellInfoList-r9");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqCellInfoList-r9");
-   /* removedInterFreqCellList */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* n-E-UCCH */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoList-r9");
+      if ((uint64_t)(pvalue->n_E_UCCH - 1) > 7u) {
+         rtxErrAddStrParm(ctx, "n-E-UCCH");
+         rtxErrAddUIntParm(ctx, pvalue->n_E_UCCH);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "n-E-UCCH", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->n_E_UCCH, 1, 8);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "n-E-UCCH", -1, 0);
    }
-   /* newInterFreqCellList */
+   /* n-E-HICH */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_NewInterFreqCellList_r9(ctx, &pvalue->newInterFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoList-r9");
+      if ((uint64_t)(pvalue->n_E_HICH - 4) > 11u) {
+         rtxErrAddStrParm(ctx, "n-E-HICH");
+         rtxErrAddUIntParm(ctx, pvalue->n_E_HICH);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "n-E-HICH", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->n_E_HICH, 4, 15);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "n-E-HICH", -1, 0);
    }
-   /* cellsForInterFreqMeasList */
+   /* timeslotResourceRelatedInfo */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pe_BitString32At(ctx, cur, &pvalue->timeslotResourceRelatedInfo, 5, 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "timeslotResourceRelatedInfo", -1, 0);
+   /* powerResourceRelatedInfo */
+   if ((uint64_t)(pvalue->powerResourceRelatedInfo - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "powerResourceRelatedInfo");
+      rtxErrAddUIntParm(ctx, pvalue->powerResourceRelatedInfo);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "powerResourceRelatedInfo", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->powerResourceRelatedInfo, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "powerResourceRelatedInfo", -1, 0);
+   /* activationTime */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->activationTime, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, "ActivationTime", "activationTime", -1, 0);
+   /* sfnNum */
+   if ((uint64_t)pvalue->sfnNum > 1u) {
+      rtxErrAddStrParm(ctx, "sfnNum");
+      rtxErrAddUIntParm(ctx, pvalue->sfnNum);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "sfnNum", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->sfnNum, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sfnNum", -1, 0);
+   /* repetitionPeriodAndLength */
    if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_CellsForInterFreqMeasList(ctx, &pvalue->cellsForInterFreqMeasList);
-      RT_CHECK(ctx, stat, 0, "cellsForInterFreqMeasList", -1, "InterFreqCellInfoList-r9");
+      stat = enc_RepetitionPeriodAndLength(ctx, &pvalue->repetitionPeriodAndLength, cur);
+      RT_CHECK(ctx, stat, 0, "repetitionPeriodAndLength", -1, 0);
    }
-   /* cSGInterFreqCellInfoList */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_CSGInterFreqCellInfoList(ctx, &pvalue->cSGInterFreqCellInfoList);
-      RT_CHECK(ctx, stat, 0, "cSGInterFreqCellInfoList", -1, "InterFreqCellInfoList-r9");
+   /* codeResourceInfo */
+   if (pvalue->codeResourceInfo > 30) {
+      rtxErrAddUIntParm(ctx, pvalue->codeResourceInfo);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UL-TS-ChannelisationCode", "codeResourceInfo", -1, 0);
    }
-   /* interFreqSIAcquisition */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_InterFreqSIAcquisition(ctx, &pvalue->interFreqSIAcquisition);
-      RT_CHECK(ctx, stat, 0, "interFreqSIAcquisition", -1, "InterFreqCellInfoList-r9");
-   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->codeResourceInfo, 0, 30);
+   RT_CHECK_PUT(ctx, cur, stat, "UL-TS-ChannelisationCode", "codeResourceInfo", -1, 0);
+   /* e-HICH-Info */
+   stat = enc_Non_ScheduledTransGrantInfoTDD_tdd128_e_HICH_Info(ctx, &pvalue->e_HICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_InterFreqCellList_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const InterFreqCellList_LCR_r4_ext* RT_RESTRICT pvalue)
+int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_tdd128(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_tdd128* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellList-LCR-r4-ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "InterFreqCellList-LCR-r4-ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "InterFreqCell-LCR-r4", (int32_t)i, "InterFreqCellList-LCR-r4-ext");
-      stat = asn1PE_UMTS_InterFreqCell_LCR_r4(ctx, (const InterFreqCell_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat, 0, "InterFreqCell-LCR-r4", (int32_t)i, "InterFreqCellList-LCR-r4-ext");
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_Non_ScheduledTransGrantInfoTDD_tdd128, pvalue);
 }
 
-int asn1PE_UMTS_InterFreqCellMeasuredResultsList(rtxContext* RT_RESTRICT ctx, const InterFreqCellMeasuredResultsList* RT_RESTRICT pvalue)
+static int enc_Non_ScheduledTransGrantInfoTDD(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellMeasuredResultsList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "InterFreqCellMeasuredResultsList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CellMeasuredResults", (int32_t)i, "InterFreqCellMeasuredResultsList");
-      stat = asn1PE_UMTS_CellMeasuredResults(ctx, (const CellMeasuredResults*)node->data);
-      RT_CHECK(ctx, stat, 0, "CellMeasuredResults", (int32_t)i, "InterFreqCellMeasuredResultsList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqCellMeasuredResultsList_v920ext(rtxContext* RT_RESTRICT ctx, const InterFreqCellMeasuredResultsList_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellMeasuredResultsList-v920ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "InterFreqCellMeasuredResultsList-v920ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CellMeasuredResults-v920ext", (int32_t)i, "InterFreqCellMeasuredResultsList-v920ext");
-      stat = asn1PE_UMTS_CellMeasuredResults_v920ext(ctx, (const CellMeasuredResults_v920ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "CellMeasuredResults-v920ext", (int32_t)i, "InterFreqCellMeasuredResultsList-v920ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqEvent(rtxContext* RT_RESTRICT ctx, const InterFreqEvent* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqEvent");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 5);
-   RT_CHECK(ctx, stat, 0, "t", -1, "InterFreqEvent");
-   if (pvalue->t - 1 > 5) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterFreqEvent");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Non-ScheduledTransGrantInfoTDD");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "Non-ScheduledTransGrantInfoTDD");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "Non-ScheduledTransGrantInfoTDD");
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.event2a == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event2a", -1, "InterFreqEvent");
-         stat = asn1PE_UMTS_Event2a(ctx, pvalue->u.event2a);
-         RT_CHECK(ctx, stat, 0, "event2a", -1, "InterFreqEvent");
+         if (pvalue->u.tdd384_768 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd384-768", -1, "Non-ScheduledTransGrantInfoTDD");
+         stat = enc_Non_ScheduledTransGrantInfoTDD_tdd384_768(ctx, pvalue->u.tdd384_768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384-768", -1, "Non-ScheduledTransGrantInfoTDD");
          break;
       case 2:
-         if (pvalue->u.event2b == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event2b", -1, "InterFreqEvent");
-         stat = asn1PE_UMTS_Event2b(ctx, pvalue->u.event2b);
-         RT_CHECK(ctx, stat, 0, "event2b", -1, "InterFreqEvent");
-         break;
-      case 3:
-         if (pvalue->u.event2c == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event2c", -1, "InterFreqEvent");
-         stat = asn1PE_UMTS_Event2c(ctx, pvalue->u.event2c);
-         RT_CHECK(ctx, stat, 0, "event2c", -1, "InterFreqEvent");
-         break;
-      case 4:
-         if (pvalue->u.event2d == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event2d", -1, "InterFreqEvent");
-         stat = asn1PE_UMTS_Event2d(ctx, pvalue->u.event2d);
-         RT_CHECK(ctx, stat, 0, "event2d", -1, "InterFreqEvent");
-         break;
-      case 5:
-         if (pvalue->u.event2e == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event2e", -1, "InterFreqEvent");
-         stat = asn1PE_UMTS_Event2e(ctx, pvalue->u.event2e);
-         RT_CHECK(ctx, stat, 0, "event2e", -1, "InterFreqEvent");
-         break;
-      case 6:
-         if (pvalue->u.event2f == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event2f", -1, "InterFreqEvent");
-         stat = asn1PE_UMTS_Event2f(ctx, pvalue->u.event2f);
-         RT_CHECK(ctx, stat, 0, "event2f", -1, "InterFreqEvent");
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, "Non-ScheduledTransGrantInfoTDD");
+         stat = enc_Non_ScheduledTransGrantInfoTDD_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, "Non-ScheduledTransGrantInfoTDD");
          break;
       default:
          break;
@@ -6734,251 +2864,59 @@ int asn1PE_UMTS_InterFreqEvent(rtxContext* RT_RESTRICT ctx, const InterFreqEvent
    return 0;
 }
 
-int asn1PE_UMTS_InterFreqEvent_r6(rtxContext* RT_RESTRICT ctx, const InterFreqEvent_r6* RT_RESTRICT pvalue)
+int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Non_ScheduledTransGrantInfoTDD, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_EDCH_Information_r8_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r8_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqEvent-r6");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 5);
-   RT_CHECK(ctx, stat, 0, "t", -1, "InterFreqEvent-r6");
-   if (pvalue->t - 1 > 5) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterFreqEvent-r6");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* e-RUCCH-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_E_RUCCH_Info(ctx, &pvalue->e_RUCCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-RUCCH-Info", -1, 0);
+   }
+   /* e-PUCH-Info */
+   if (pvalue->m & 0x2u) {
+      stat = enc_E_PUCH_Info(ctx, &pvalue->e_PUCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-PUCH-Info", -1, 0);
+   }
+   /* non-ScheduledTransGrantInfo */
+   if (pvalue->m & 0x4u) {
+      stat = enc_Non_ScheduledTransGrantInfoTDD(ctx, &pvalue->non_ScheduledTransGrantInfo, cur);
+      RT_CHECK(ctx, stat, 0, "non-ScheduledTransGrantInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_EDCH_Information_r8_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r8_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_EDCH_Information_r8_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_EDCH_Information_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r8_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.event2a == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event2a", -1, "InterFreqEvent-r6");
-         stat = asn1PE_UMTS_Event2a_r6(ctx, pvalue->u.event2a);
-         RT_CHECK(ctx, stat, 0, "event2a", -1, "InterFreqEvent-r6");
-         break;
-      case 2:
-         if (pvalue->u.event2b == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event2b", -1, "InterFreqEvent-r6");
-         stat = asn1PE_UMTS_Event2b_r6(ctx, pvalue->u.event2b);
-         RT_CHECK(ctx, stat, 0, "event2b", -1, "InterFreqEvent-r6");
-         break;
-      case 3:
-         if (pvalue->u.event2c == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event2c", -1, "InterFreqEvent-r6");
-         stat = asn1PE_UMTS_Event2c_r6(ctx, pvalue->u.event2c);
-         RT_CHECK(ctx, stat, 0, "event2c", -1, "InterFreqEvent-r6");
-         break;
-      case 4:
-         if (pvalue->u.event2d == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event2d", -1, "InterFreqEvent-r6");
-         stat = asn1PE_UMTS_Event2d_r6(ctx, pvalue->u.event2d);
-         RT_CHECK(ctx, stat, 0, "event2d", -1, "InterFreqEvent-r6");
-         break;
-      case 5:
-         if (pvalue->u.event2e == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event2e", -1, "InterFreqEvent-r6");
-         stat = asn1PE_UMTS_Event2e_r6(ctx, pvalue->u.event2e);
-         RT_CHECK(ctx, stat, 0, "event2e", -1, "InterFreqEvent-r6");
-         break;
-      case 6:
-         if (pvalue->u.event2f == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event2f", -1, "InterFreqEvent-r6");
-         stat = asn1PE_UMTS_Event2f_r6(ctx, pvalue->u.event2f);
-         RT_CHECK(ctx, stat, 0, "event2f", -1, "InterFreqEvent-r6");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqEventList(rtxContext* RT_RESTRICT ctx, const InterFreqEventList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqEventList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "InterFreqEventList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "InterFreqEvent", (int32_t)i, "InterFreqEventList");
-      stat = asn1PE_UMTS_InterFreqEvent(ctx, (const InterFreqEvent*)node->data);
-      RT_CHECK(ctx, stat, 0, "InterFreqEvent", (int32_t)i, "InterFreqEventList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqEventList_r6(rtxContext* RT_RESTRICT ctx, const InterFreqEventList_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqEventList-r6");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "InterFreqEventList-r6");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "InterFreqEvent-r6", (int32_t)i, "InterFreqEventList-r6");
-      stat = asn1PE_UMTS_InterFreqEvent_r6(ctx, (const InterFreqEvent_r6*)node->data);
-      RT_CHECK(ctx, stat, 0, "InterFreqEvent-r6", (int32_t)i, "InterFreqEventList-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterFrequencyMeasuredResultsList_v590ext(rtxContext* RT_RESTRICT ctx, const InterFrequencyMeasuredResultsList_v590ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFrequencyMeasuredResultsList-v590ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "InterFrequencyMeasuredResultsList-v590ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DeltaRSCPPerCell", (int32_t)i, "InterFrequencyMeasuredResultsList-v590ext");
-      stat = asn1PE_UMTS_DeltaRSCPPerCell(ctx, (const DeltaRSCPPerCell*)node->data);
-      RT_CHECK(ctx, stat, 0, "DeltaRSCPPerCell", (int32_t)i, "InterFrequencyMeasuredResultsList-v590ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ThreholdNonUsedFrequency_deltaList(rtxContext* RT_RESTRICT ctx, const ThreholdNonUsedFrequency_deltaList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ThreholdNonUsedFrequency-deltaList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "ThreholdNonUsedFrequency-deltaList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DeltaRSCPPerCell", (int32_t)i, "ThreholdNonUsedFrequency-deltaList");
-      stat = asn1PE_UMTS_DeltaRSCPPerCell(ctx, (const DeltaRSCPPerCell*)node->data);
-      RT_CHECK(ctx, stat, 0, "DeltaRSCPPerCell", (int32_t)i, "ThreholdNonUsedFrequency-deltaList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Inter_FreqEventCriteria_v590ext(rtxContext* RT_RESTRICT ctx, const Inter_FreqEventCriteria_v590ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Inter-FreqEventCriteria-v590ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Inter-FreqEventCriteria-v590ext");
-   /* threholdUsedFrequency-delta */
-   if (pvalue->threholdUsedFrequency_delta < -5 || pvalue->threholdUsedFrequency_delta > -1) {
-      rtxErrAddStrParm(ctx, "DeltaRSCP");
-      rtxErrAddIntParm(ctx, pvalue->threholdUsedFrequency_delta);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "DeltaRSCP", "threholdUsedFrequency-delta", -1, "Inter-FreqEventCriteria-v590ext");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->threholdUsedFrequency_delta, -5, -1);
-   RT_CHECK(ctx, stat, "DeltaRSCP", "threholdUsedFrequency-delta", -1, "Inter-FreqEventCriteria-v590ext");
-   /* threholdNonUsedFrequency-deltaList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ThreholdNonUsedFrequency_deltaList(ctx, &pvalue->threholdNonUsedFrequency_deltaList);
-      RT_CHECK(ctx, stat, 0, "threholdNonUsedFrequency-deltaList", -1, "Inter-FreqEventCriteria-v590ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Inter_FreqEventCriteriaList_v590ext(rtxContext* RT_RESTRICT ctx, const Inter_FreqEventCriteriaList_v590ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Inter-FreqEventCriteriaList-v590ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "Inter-FreqEventCriteriaList-v590ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "Inter-FreqEventCriteria-v590ext", (int32_t)i, "Inter-FreqEventCriteriaList-v590ext");
-      stat = asn1PE_UMTS_Inter_FreqEventCriteria_v590ext(ctx, (const Inter_FreqEventCriteria_v590ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "Inter-FreqEventCriteria-v590ext", (int32_t)i, "Inter-FreqEventCriteriaList-v590ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFrequencyMeasuredResultsList_v590ext(rtxContext* RT_RESTRICT ctx, const IntraFrequencyMeasuredResultsList_v590ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFrequencyMeasuredResultsList-v590ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "IntraFrequencyMeasuredResultsList-v590ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DeltaRSCPPerCell", (int32_t)i, "IntraFrequencyMeasuredResultsList-v590ext");
-      stat = asn1PE_UMTS_DeltaRSCPPerCell(ctx, (const DeltaRSCPPerCell*)node->data);
-      RT_CHECK(ctx, stat, 0, "DeltaRSCPPerCell", (int32_t)i, "IntraFrequencyMeasuredResultsList-v590ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqEventResults_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const InterFreqEventResults_LCR_r4_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqEventResults-LCR-r4-ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqEventResults-LCR-r4-ext");
-   /* eventID */
-   if (pvalue->eventID > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->eventID);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "EventIDInterFreq", "eventID", -1, "InterFreqEventResults-LCR-r4-ext");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->eventID, 0, 7);
-   RT_CHECK(ctx, stat, "EventIDInterFreq", "eventID", -1, "InterFreqEventResults-LCR-r4-ext");
-   /* interFreqCellList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_InterFreqCellList_LCR_r4_ext(ctx, &pvalue->interFreqCellList);
-      RT_CHECK(ctx, stat, 0, "interFreqCellList", -1, "InterFreqEventResults-LCR-r4-ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria_intraFreqReportingCriteria(rtxContext* RT_RESTRICT ctx, const InterFreqMeasQuantity_reportingCriteria_intraFreqReportingCriteria* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* intraFreqMeasQuantity */
-   stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-   RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* freqQualityEstimateQuantity-FDD */
-   if (pvalue->freqQualityEstimateQuantity_FDD > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->freqQualityEstimateQuantity_FDD);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "FreqQualityEstimateQuantity-FDD", "freqQualityEstimateQuantity-FDD", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->freqQualityEstimateQuantity_FDD, 0, 1);
-   RT_CHECK(ctx, stat, "FreqQualityEstimateQuantity-FDD", "freqQualityEstimateQuantity-FDD", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* freqQualityEstimateQuantity-TDD */
-   if (pvalue->freqQualityEstimateQuantity_TDD > 0) {
-      rtxErrAddUIntParm(ctx, pvalue->freqQualityEstimateQuantity_TDD);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "FreqQualityEstimateQuantity-TDD", "freqQualityEstimateQuantity-TDD", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->freqQualityEstimateQuantity_TDD, 0, 0);
-   RT_CHECK(ctx, stat, "FreqQualityEstimateQuantity-TDD", "freqQualityEstimateQuantity-TDD", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_UL_EDCH_Information_r8_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
          RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_UL_EDCH_Information_r8_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
          RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
@@ -6987,45 +2925,177 @@ int asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriter
    return 0;
 }
 
-int asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria(rtxContext* RT_RESTRICT ctx, const InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UL_EDCH_Information_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r8_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_EDCH_Information_r8_modeSpecificInfo, pvalue);
+}
+
+static int enc_UL_EDCH_Information_r8(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-EDCH-Information-r8");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->filterCoefficient != 0) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* filterCoefficient */
-   if (pvalue->filterCoefficient != 0) {
-      if (pvalue->filterCoefficient > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->filterCoefficient);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "FilterCoefficient", "filterCoefficient", -1, 0);
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UL-EDCH-Information-r8");
+   /* mac-es-e-resetIndicator */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->mac_es_e_resetIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mac_es_e_resetIndicator);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "mac-es-e-resetIndicator", -1, "UL-EDCH-Information-r8");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->filterCoefficient, 0, 15);
-      RT_CHECK(ctx, stat, "FilterCoefficient", "filterCoefficient", -1, 0);
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_es_e_resetIndicator, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "mac-es-e-resetIndicator", -1, "UL-EDCH-Information-r8");
    }
    /* modeSpecificInfo */
-   stat = asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
+   stat = enc_UL_EDCH_Information_r8_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-EDCH-Information-r8");
    return 0;
 }
 
-int asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria(rtxContext* RT_RESTRICT ctx, const InterFreqMeasQuantity_reportingCriteria* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UL_EDCH_Information_r8(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_EDCH_Information_r8, pvalue);
+}
+
+RT_MERGED_BODY int enc_DLUL_HSPA_Information_r8(rtxContext* RT_RESTRICT ctx, const DLUL_HSPA_Information_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DLUL-HSPA-Information-r8");
+   /* ul-EDCH-Information */
+   stat = enc_UL_EDCH_Information_r8(ctx, &pvalue->ul_EDCH_Information, cur);
+   RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "DLUL-HSPA-Information-r8");
+   /* dl-CommonInformation */
+   stat = enc_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation, cur);
+   RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "DLUL-HSPA-Information-r8");
+   /* dl-InformationPerRL-List */
+   stat = enc_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List, cur);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "DLUL-HSPA-Information-r8");
+   /* dl-HSPDSCH-Information */
+   stat = enc_DL_HSPDSCH_Information_r8(ctx, &pvalue->dl_HSPDSCH_Information, cur);
+   RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "DLUL-HSPA-Information-r8");
+   return 0;
+}
+
+int asn1PE_UMTS_DLUL_HSPA_Information_r8(rtxContext* RT_RESTRICT ctx, const DLUL_HSPA_Information_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DLUL_HSPA_Information_r8, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_EDCH_Information_r9_mac_es_e_resetIndicator(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r9_mac_es_e_resetIndicator value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_EDCH_Information_r9_mac_es_e_resetIndicator(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r9_mac_es_e_resetIndicator value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_EDCH_Information_r9_mac_es_e_resetIndicator, value);
+}
+
+RT_MERGED_BODY int enc_UL_EDCH_Information_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* e-DPCCH-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_E_DPCCH_Info_r7(ctx, &pvalue->e_DPCCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-DPCCH-Info", -1, 0);
+   }
+   /* e-DPDCH-Info */
+   if (pvalue->m & 0x2u) {
+      stat = enc_E_DPDCH_Info_r8(ctx, &pvalue->e_DPDCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-DPDCH-Info", -1, 0);
+   }
+   /* schedulingTransmConfiguration */
+   if (pvalue->m & 0x4u) {
+      stat = enc_E_DPDCH_SchedulingTransmConfiguration(ctx, &pvalue->schedulingTransmConfiguration, cur);
+      RT_CHECK(ctx, stat, 0, "schedulingTransmConfiguration", -1, 0);
+   }
+   /* ul-16QAM-Settings */
+   if (pvalue->m & 0x8u) {
+      stat = enc_UL_16QAM_Settings(ctx, &pvalue->ul_16QAM_Settings, cur);
+      RT_CHECK(ctx, stat, 0, "ul-16QAM-Settings", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_EDCH_Information_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_EDCH_Information_r9_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_Non_ScheduledTransGrantInfoTDD_r9_tdd384_768(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_r9_tdd384_768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* timeslotResourceRelatedInfo */
+   RT_SET_SIZE(ctx, 13, 13);
+   stat = pe_BitString32At(ctx, cur, &pvalue->timeslotResourceRelatedInfo, 13, 13);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "timeslotResourceRelatedInfo", -1, 0);
+   /* powerResourceRelatedInfo */
+   if ((uint64_t)(pvalue->powerResourceRelatedInfo - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "powerResourceRelatedInfo");
+      rtxErrAddUIntParm(ctx, pvalue->powerResourceRelatedInfo);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "powerResourceRelatedInfo", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->powerResourceRelatedInfo, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "powerResourceRelatedInfo", -1, 0);
+   /* activationTime */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->activationTime, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, "ActivationTime", "activationTime", -1, 0);
+   /* repetitionPeriodAndLength */
+   if (pvalue->m & 0x1u) {
+      stat = enc_RepetitionPeriodAndLength(ctx, &pvalue->repetitionPeriodAndLength, cur);
+      RT_CHECK(ctx, stat, 0, "repetitionPeriodAndLength", -1, 0);
+   }
+   /* codeResourceInfo */
+   if (pvalue->codeResourceInfo > 30) {
+      rtxErrAddUIntParm(ctx, pvalue->codeResourceInfo);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UL-TS-ChannelisationCode", "codeResourceInfo", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->codeResourceInfo, 0, 30);
+   RT_CHECK_PUT(ctx, cur, stat, "UL-TS-ChannelisationCode", "codeResourceInfo", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd384_768(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_r9_tdd384_768* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Non_ScheduledTransGrantInfoTDD_r9_tdd384_768, pvalue);
+}
+
+RT_MERGED_BODY int enc_Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info_midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFreqReportingCriteria", -1, 0);
-         stat = asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria_intraFreqReportingCriteria(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, 0);
          break;
       case 2:
-         if (pvalue->u.interFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interFreqReportingCriteria", -1, 0);
-         stat = asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria(ctx, pvalue->u.interFreqReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "interFreqReportingCriteria", -1, 0);
+         if ((uint64_t)pvalue->u.ueSpecificMidamble > 15u) {
+            rtxErrAddStrParm(ctx, "ueSpecificMidamble");
+            rtxErrAddUIntParm(ctx, pvalue->u.ueSpecificMidamble);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ueSpecificMidamble", -1, 0);
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.ueSpecificMidamble, 0, 15);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "ueSpecificMidamble", -1, 0);
          break;
       default:
          break;
@@ -7033,205 +3103,360 @@ int asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria(rtxContext* RT_RESTRICT 
    return 0;
 }
 
-int asn1PE_UMTS_InterFreqMeasQuantity(rtxContext* RT_RESTRICT ctx, const InterFreqMeasQuantity* RT_RESTRICT pvalue)
+int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info_midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info_midambleAllocationMode* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqMeasQuantity");
-   /* reportingCriteria */
-   stat = asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria(ctx, &pvalue->reportingCriteria);
-   RT_CHECK(ctx, stat, 0, "reportingCriteria", -1, "InterFreqMeasQuantity");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info_midambleAllocationMode, pvalue);
 }
 
-int asn1PE_UMTS_UTRA_CarrierRSSI(rtxContext* RT_RESTRICT ctx, UTRA_CarrierRSSI value)
+RT_MERGED_BODY int enc_Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if ((uint64_t)value > 127u) {
-      rtxErrAddStrParm(ctx, "UTRA-CarrierRSSI");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "UTRA-CarrierRSSI");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 6u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 127);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UTRA-CarrierRSSI");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslotNumber, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, 0);
+   /* channelisation-Code */
+   if (pvalue->channelisation_Code > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->channelisation_Code);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "channelisation-Code", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->channelisation_Code, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "HS-ChannelisationCode-LCR", "channelisation-Code", -1, 0);
+   /* midambleAllocationMode */
+   stat = enc_Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info_midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   /* midambleConfiguration */
+   if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "midambleConfiguration");
+      rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "midambleConfiguration", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "midambleConfiguration", -1, 0);
+   /* signatureSequenceGroupIndex */
+   if ((uint64_t)pvalue->signatureSequenceGroupIndex > 19u) {
+      rtxErrAddStrParm(ctx, "signatureSequenceGroupIndex");
+      rtxErrAddUIntParm(ctx, pvalue->signatureSequenceGroupIndex);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "signatureSequenceGroupIndex", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->signatureSequenceGroupIndex, 0, 19);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "signatureSequenceGroupIndex", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_InterFreqMeasuredResults(rtxContext* RT_RESTRICT ctx, const InterFreqMeasuredResults* RT_RESTRICT pvalue)
+int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_Non_ScheduledTransGrantInfoTDD_r9_tdd128_t_SI_nst(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_r9_tdd128_t_SI_nst value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqMeasuredResults");
+   if (value > 6) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd128_t_SI_nst(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_r9_tdd128_t_SI_nst value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Non_ScheduledTransGrantInfoTDD_r9_tdd128_t_SI_nst, value);
+}
+
+RT_MERGED_BODY int enc_Non_ScheduledTransGrantInfoTDD_r9_tdd128(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_r9_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* n-E-UCCH */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->n_E_UCCH - 1) > 7u) {
+         rtxErrAddStrParm(ctx, "n-E-UCCH");
+         rtxErrAddUIntParm(ctx, pvalue->n_E_UCCH);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "n-E-UCCH", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->n_E_UCCH, 1, 8);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "n-E-UCCH", -1, 0);
+   }
+   /* n-E-HICH */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)(pvalue->n_E_HICH - 4) > 11u) {
+         rtxErrAddStrParm(ctx, "n-E-HICH");
+         rtxErrAddUIntParm(ctx, pvalue->n_E_HICH);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "n-E-HICH", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->n_E_HICH, 4, 15);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "n-E-HICH", -1, 0);
+   }
+   /* timeslotResourceRelatedInfo */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pe_BitString32At(ctx, cur, &pvalue->timeslotResourceRelatedInfo, 5, 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "timeslotResourceRelatedInfo", -1, 0);
+   /* powerResourceRelatedInfo */
+   if ((uint64_t)(pvalue->powerResourceRelatedInfo - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "powerResourceRelatedInfo");
+      rtxErrAddUIntParm(ctx, pvalue->powerResourceRelatedInfo);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "powerResourceRelatedInfo", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->powerResourceRelatedInfo, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "powerResourceRelatedInfo", -1, 0);
+   /* activationTime */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->activationTime, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, "ActivationTime", "activationTime", -1, 0);
+   /* sfnNum */
+   if ((uint64_t)pvalue->sfnNum > 1u) {
+      rtxErrAddStrParm(ctx, "sfnNum");
+      rtxErrAddUIntParm(ctx, pvalue->sfnNum);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "sfnNum", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->sfnNum, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sfnNum", -1, 0);
+   /* repetitionPeriodAndLength */
+   if (pvalue->m & 0x4u) {
+      stat = enc_RepetitionPeriodAndLength(ctx, &pvalue->repetitionPeriodAndLength, cur);
+      RT_CHECK(ctx, stat, 0, "repetitionPeriodAndLength", -1, 0);
+   }
+   /* codeResourceInfo */
+   if (pvalue->codeResourceInfo > 30) {
+      rtxErrAddUIntParm(ctx, pvalue->codeResourceInfo);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UL-TS-ChannelisationCode", "codeResourceInfo", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->codeResourceInfo, 0, 30);
+   RT_CHECK_PUT(ctx, cur, stat, "UL-TS-ChannelisationCode", "codeResourceInfo", -1, 0);
+   /* e-HICH-Info */
+   stat = enc_Non_ScheduledTransGrantInfoTDD_r9_tdd128_e_HICH_Info(ctx, &pvalue->e_HICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, 0);
+   /* t-SI-nst */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->t_SI_nst > 6) {
+         rtxErrAddUIntParm(ctx, pvalue->t_SI_nst);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "t-SI-nst", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_SI_nst, 0, 6);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "t-SI-nst", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_r9_tdd128(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_r9_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Non_ScheduledTransGrantInfoTDD_r9_tdd128, pvalue);
+}
+
+static int enc_Non_ScheduledTransGrantInfoTDD_r9(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Non-ScheduledTransGrantInfoTDD-r9");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "Non-ScheduledTransGrantInfoTDD-r9");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "Non-ScheduledTransGrantInfoTDD-r9");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384_768 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd384-768", -1, "Non-ScheduledTransGrantInfoTDD-r9");
+         stat = enc_Non_ScheduledTransGrantInfoTDD_r9_tdd384_768(ctx, pvalue->u.tdd384_768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384-768", -1, "Non-ScheduledTransGrantInfoTDD-r9");
+         break;
+      case 2:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, "Non-ScheduledTransGrantInfoTDD-r9");
+         stat = enc_Non_ScheduledTransGrantInfoTDD_r9_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, "Non-ScheduledTransGrantInfoTDD-r9");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_r9(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_r9* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Non_ScheduledTransGrantInfoTDD_r9, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_EDCH_Information_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqMeasuredResults");
-   /* frequencyInfo */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* e-RUCCH-Info */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "InterFreqMeasuredResults");
+      stat = enc_E_RUCCH_Info(ctx, &pvalue->e_RUCCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-RUCCH-Info", -1, 0);
    }
-   /* utra-CarrierRSSI */
+   /* e-PUCH-Info */
    if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->utra_CarrierRSSI > 127u) {
-         rtxErrAddStrParm(ctx, "UTRA-CarrierRSSI");
-         rtxErrAddUIntParm(ctx, pvalue->utra_CarrierRSSI);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "UTRA-CarrierRSSI", "utra-CarrierRSSI", -1, "InterFreqMeasuredResults");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->utra_CarrierRSSI, 0, 127);
-      RT_CHECK(ctx, stat, "UTRA-CarrierRSSI", "utra-CarrierRSSI", -1, "InterFreqMeasuredResults");
+      stat = enc_E_PUCH_Info(ctx, &pvalue->e_PUCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-PUCH-Info", -1, 0);
    }
-   /* interFreqCellMeasuredResultsList */
+   /* non-ScheduledTransGrantInfo */
    if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_InterFreqCellMeasuredResultsList(ctx, &pvalue->interFreqCellMeasuredResultsList);
-      RT_CHECK(ctx, stat, 0, "interFreqCellMeasuredResultsList", -1, "InterFreqMeasuredResults");
+      stat = enc_Non_ScheduledTransGrantInfoTDD_r9(ctx, &pvalue->non_ScheduledTransGrantInfo, cur);
+      RT_CHECK(ctx, stat, 0, "non-ScheduledTransGrantInfo", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_InterFreqMeasuredResults_v920ext(rtxContext* RT_RESTRICT ctx, const InterFreqMeasuredResults_v920ext* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UL_EDCH_Information_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_EDCH_Information_r9_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_EDCH_Information_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r9_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqMeasuredResults-v920ext");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_UL_EDCH_Information_r9_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_UL_EDCH_Information_r9_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_EDCH_Information_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r9_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_EDCH_Information_r9_modeSpecificInfo, pvalue);
+}
+
+static int enc_UL_EDCH_Information_r9(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-EDCH-Information-r9");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqMeasuredResults-v920ext");
-   /* interFreqCellMeasuredResultsList */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UL-EDCH-Information-r9");
+   /* mac-es-e-resetIndicator */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_InterFreqCellMeasuredResultsList_v920ext(ctx, &pvalue->interFreqCellMeasuredResultsList);
-      RT_CHECK(ctx, stat, 0, "interFreqCellMeasuredResultsList", -1, "InterFreqMeasuredResults-v920ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqMeasuredResultsList(rtxContext* RT_RESTRICT ctx, const InterFreqMeasuredResultsList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqMeasuredResultsList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "InterFreqMeasuredResultsList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "InterFreqMeasuredResults", (int32_t)i, "InterFreqMeasuredResultsList");
-      stat = asn1PE_UMTS_InterFreqMeasuredResults(ctx, (const InterFreqMeasuredResults*)node->data);
-      RT_CHECK(ctx, stat, 0, "InterFreqMeasuredResults", (int32_t)i, "InterFreqMeasuredResultsList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqMeasuredResultsList_v920ext(rtxContext* RT_RESTRICT ctx, const InterFreqMeasuredResultsList_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqMeasuredResultsList-v920ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "InterFreqMeasuredResultsList-v920ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "InterFreqMeasuredResults-v920ext", (int32_t)i, "InterFreqMeasuredResultsList-v920ext");
-      stat = asn1PE_UMTS_InterFreqMeasuredResults_v920ext(ctx, (const InterFreqMeasuredResults_v920ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "InterFreqMeasuredResults-v920ext", (int32_t)i, "InterFreqMeasuredResultsList-v920ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqRACHRepCellsList(rtxContext* RT_RESTRICT ctx, const InterFreqRACHRepCellsList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqRACHRepCellsList");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "InterFreqRACHRepCellsList");
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)pvalue->elem[i] > 31u) {
-         rtxErrAddStrParm(ctx, "InterFreqCellID");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterFreqCellID", "InterFreqCellID", (int32_t)i, "InterFreqRACHRepCellsList");
+      if (pvalue->mac_es_e_resetIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mac_es_e_resetIndicator);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "mac-es-e-resetIndicator", -1, "UL-EDCH-Information-r9");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 31);
-      RT_CHECK(ctx, stat, "InterFreqCellID", "InterFreqCellID", (int32_t)i, "InterFreqRACHRepCellsList");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_es_e_resetIndicator, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "mac-es-e-resetIndicator", -1, "UL-EDCH-Information-r9");
    }
+   /* modeSpecificInfo */
+   stat = enc_UL_EDCH_Information_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-EDCH-Information-r9");
    return 0;
 }
 
-int asn1PE_UMTS_InterFreqReportingCriteria(rtxContext* RT_RESTRICT ctx, const InterFreqReportingCriteria* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UL_EDCH_Information_r9(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r9* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_EDCH_Information_r9, pvalue);
+}
+
+RT_MERGED_BODY int enc_DLUL_HSPA_Information_r9(rtxContext* RT_RESTRICT ctx, const DLUL_HSPA_Information_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqReportingCriteria");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqReportingCriteria");
-   /* interFreqEventList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_InterFreqEventList(ctx, &pvalue->interFreqEventList);
-      RT_CHECK(ctx, stat, 0, "interFreqEventList", -1, "InterFreqReportingCriteria");
-   }
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DLUL-HSPA-Information-r9");
+   /* ul-EDCH-Information */
+   stat = enc_UL_EDCH_Information_r9(ctx, &pvalue->ul_EDCH_Information, cur);
+   RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "DLUL-HSPA-Information-r9");
+   /* dl-CommonInformation */
+   stat = enc_DL_CommonInformation_r8(ctx, &pvalue->dl_CommonInformation, cur);
+   RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "DLUL-HSPA-Information-r9");
+   /* dl-InformationPerRL-List */
+   stat = enc_DL_InformationPerRL_List_r7(ctx, &pvalue->dl_InformationPerRL_List, cur);
+   RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "DLUL-HSPA-Information-r9");
+   /* dl-HSPDSCH-Information */
+   stat = enc_DL_HSPDSCH_Information_r9(ctx, &pvalue->dl_HSPDSCH_Information, cur);
+   RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "DLUL-HSPA-Information-r9");
    return 0;
 }
 
-int asn1PE_UMTS_PeriodicalWithReportingCellStatus(rtxContext* RT_RESTRICT ctx, const PeriodicalWithReportingCellStatus* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DLUL_HSPA_Information_r9(rtxContext* RT_RESTRICT ctx, const DLUL_HSPA_Information_r9* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DLUL_HSPA_Information_r9, pvalue);
+}
+
+RT_MERGED_BODY int enc_DPCCH_PowerOffset2(rtxContext* RT_RESTRICT ctx, DPCCH_PowerOffset2 value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "PeriodicalWithReportingCellStatus");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PeriodicalWithReportingCellStatus");
-   /* periodicalReportingCriteria */
-   stat = asn1PE_UMTS_PeriodicalReportingCriteria(ctx, &pvalue->periodicalReportingCriteria);
-   RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "PeriodicalWithReportingCellStatus");
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "PeriodicalWithReportingCellStatus");
+   if (value < -28 || value > -13) {
+      rtxErrAddStrParm(ctx, "DPCCH-PowerOffset2");
+      rtxErrAddIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "DPCCH-PowerOffset2");
    }
+   stat = pe_ConsInt64At(ctx, cur, value, -28, -13);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DPCCH-PowerOffset2");
    return 0;
 }
 
-int asn1PE_UMTS_ReportingCellStatusOpt(rtxContext* RT_RESTRICT ctx, const ReportingCellStatusOpt* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DPCCH_PowerOffset2(rtxContext* RT_RESTRICT ctx, DPCCH_PowerOffset2 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DPCCH_PowerOffset2, value);
+}
+
+RT_MERGED_BODY int enc_TGPS_Reconfiguration_CFN(rtxContext* RT_RESTRICT ctx, TGPS_Reconfiguration_CFN value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ReportingCellStatusOpt");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ReportingCellStatusOpt");
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "ReportingCellStatusOpt");
-   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TGPS-Reconfiguration-CFN");
    return 0;
 }
 
-int asn1PE_UMTS_InterFreqReportCriteria(rtxContext* RT_RESTRICT ctx, const InterFreqReportCriteria* RT_RESTRICT pvalue)
+int asn1PE_UMTS_TGPS_Reconfiguration_CFN(rtxContext* RT_RESTRICT ctx, TGPS_Reconfiguration_CFN value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TGPS_Reconfiguration_CFN, value);
+}
+
+RT_MERGED_BODY int enc_TGP_SequenceShort_tgps_Status_activate(rtxContext* RT_RESTRICT ctx, const TGP_SequenceShort_tgps_Status_activate* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqReportCriteria");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat, 0, "t", -1, "InterFreqReportCriteria");
-   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterFreqReportCriteria");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tgcfn */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tgcfn, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, "TGCFN", "tgcfn", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_TGP_SequenceShort_tgps_Status_activate(rtxContext* RT_RESTRICT ctx, const TGP_SequenceShort_tgps_Status_activate* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TGP_SequenceShort_tgps_Status_activate, pvalue);
+}
+
+RT_MERGED_BODY int enc_TGP_SequenceShort_tgps_Status(rtxContext* RT_RESTRICT ctx, const TGP_SequenceShort_tgps_Status* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria");
-         stat = asn1PE_UMTS_IntraFreqReportingCriteria(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria");
+         if (pvalue->u.activate == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "activate", -1, 0);
+         stat = enc_TGP_SequenceShort_tgps_Status_activate(ctx, pvalue->u.activate, cur);
+         RT_CHECK(ctx, stat, 0, "activate", -1, 0);
          break;
       case 2:
-         if (pvalue->u.interFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria");
-         stat = asn1PE_UMTS_InterFreqReportingCriteria(ctx, pvalue->u.interFreqReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria");
-         break;
-      case 3:
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria");
-         stat = asn1PE_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria");
-         break;
-      case 4:
-         if (pvalue->u.noReporting == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "noReporting", -1, "InterFreqReportCriteria");
-         stat = asn1PE_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat, 0, "noReporting", -1, "InterFreqReportCriteria");
          break;
       default:
          break;
@@ -7239,159 +3464,346 @@ int asn1PE_UMTS_InterFreqReportCriteria(rtxContext* RT_RESTRICT ctx, const Inter
    return 0;
 }
 
-int asn1PE_UMTS_IntraFreqEvent_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqEvent_r4* RT_RESTRICT pvalue)
+int asn1PE_UMTS_TGP_SequenceShort_tgps_Status(rtxContext* RT_RESTRICT ctx, const TGP_SequenceShort_tgps_Status* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TGP_SequenceShort_tgps_Status, pvalue);
+}
+
+RT_MERGED_BODY int enc_TGP_SequenceShort(rtxContext* RT_RESTRICT ctx, const TGP_SequenceShort* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEvent-r4");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 8);
-   RT_CHECK(ctx, stat, 0, "t", -1, "IntraFreqEvent-r4");
-   if (pvalue->t - 1 > 8) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqEvent-r4");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.e1a == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1a", -1, "IntraFreqEvent-r4");
-         stat = asn1PE_UMTS_Event1a_r4(ctx, pvalue->u.e1a);
-         RT_CHECK(ctx, stat, 0, "e1a", -1, "IntraFreqEvent-r4");
-         break;
-      case 2:
-         if (pvalue->u.e1b == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1b", -1, "IntraFreqEvent-r4");
-         stat = asn1PE_UMTS_Event1b_r4(ctx, pvalue->u.e1b);
-         RT_CHECK(ctx, stat, 0, "e1b", -1, "IntraFreqEvent-r4");
-         break;
-      case 3:
-         if (pvalue->u.e1c == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1c", -1, "IntraFreqEvent-r4");
-         stat = asn1PE_UMTS_Event1c(ctx, pvalue->u.e1c);
-         RT_CHECK(ctx, stat, 0, "e1c", -1, "IntraFreqEvent-r4");
-         break;
-      case 4:
-         break;
-      case 5:
-         if (pvalue->u.e1e == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1e", -1, "IntraFreqEvent-r4");
-         stat = asn1PE_UMTS_Event1e(ctx, pvalue->u.e1e);
-         RT_CHECK(ctx, stat, 0, "e1e", -1, "IntraFreqEvent-r4");
-         break;
-      case 6:
-         if (pvalue->u.e1f == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1f", -1, "IntraFreqEvent-r4");
-         stat = asn1PE_UMTS_Event1f(ctx, pvalue->u.e1f);
-         RT_CHECK(ctx, stat, 0, "e1f", -1, "IntraFreqEvent-r4");
-         break;
-      case 7:
-         break;
-      case 8:
-         if (pvalue->u.e1h < -115 || pvalue->u.e1h > 165) {
-            rtxErrAddStrParm(ctx, "ThresholdUsedFrequency");
-            rtxErrAddIntParm(ctx, pvalue->u.e1h);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "ThresholdUsedFrequency", "e1h", -1, "IntraFreqEvent-r4");
-         }
-         stat = pe_ConsInt64(ctx, pvalue->u.e1h, -115, 165);
-         RT_CHECK(ctx, stat, "ThresholdUsedFrequency", "e1h", -1, "IntraFreqEvent-r4");
-         break;
-      case 9:
-         if (pvalue->u.e1i < -115 || pvalue->u.e1i > 165) {
-            rtxErrAddStrParm(ctx, "ThresholdUsedFrequency");
-            rtxErrAddIntParm(ctx, pvalue->u.e1i);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "ThresholdUsedFrequency", "e1i", -1, "IntraFreqEvent-r4");
-         }
-         stat = pe_ConsInt64(ctx, pvalue->u.e1i, -115, 165);
-         RT_CHECK(ctx, stat, "ThresholdUsedFrequency", "e1i", -1, "IntraFreqEvent-r4");
-         break;
-      default:
-         break;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TGP-SequenceShort");
+   /* tgpsi */
+   if ((uint64_t)(pvalue->tgpsi - 1) > 5u) {
+      rtxErrAddStrParm(ctx, "TGPSI");
+      rtxErrAddUIntParm(ctx, pvalue->tgpsi);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TGPSI", "tgpsi", -1, "TGP-SequenceShort");
    }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tgpsi, 1, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "TGPSI", "tgpsi", -1, "TGP-SequenceShort");
+   /* tgps-Status */
+   stat = enc_TGP_SequenceShort_tgps_Status(ctx, &pvalue->tgps_Status, cur);
+   RT_CHECK(ctx, stat, 0, "tgps-Status", -1, "TGP-SequenceShort");
    return 0;
 }
 
-int asn1PE_UMTS_IntraFreqEventCriteria_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteria_r4* RT_RESTRICT pvalue)
+int asn1PE_UMTS_TGP_SequenceShort(rtxContext* RT_RESTRICT ctx, const TGP_SequenceShort* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventCriteria-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqEventCriteria-r4");
-   /* event */
-   stat = asn1PE_UMTS_IntraFreqEvent_r4(ctx, &pvalue->event);
-   RT_CHECK(ctx, stat, 0, "event", -1, "IntraFreqEventCriteria-r4");
-   /* hysteresis */
-   if ((uint64_t)pvalue->hysteresis > 15u) {
-      rtxErrAddStrParm(ctx, "Hysteresis");
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 15);
-   RT_CHECK(ctx, stat, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria-r4");
-   /* timeToTrigger */
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria-r4");
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "IntraFreqEventCriteria-r4");
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_TGP_SequenceShort, pvalue);
 }
 
-int asn1PE_UMTS_IntraFreqEventCriteriaList_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteriaList_r4* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_DPCH_CompressedModeStatusInfo_tgp_SequenceShortList(rtxContext* RT_RESTRICT ctx, const DPCH_CompressedModeStatusInfo_tgp_SequenceShortList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventCriteriaList-r4");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    const rtxDListNode* node;
    uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "IntraFreqEventCriteriaList-r4");
+   RT_SET_SIZE(ctx, 1, 6);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "IntraFreqEventCriteria-r4", (int32_t)i, "IntraFreqEventCriteriaList-r4");
-      stat = asn1PE_UMTS_IntraFreqEventCriteria_r4(ctx, (const IntraFreqEventCriteria_r4*)node->data);
-      RT_CHECK(ctx, stat, 0, "IntraFreqEventCriteria-r4", (int32_t)i, "IntraFreqEventCriteriaList-r4");
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "TGP-SequenceShort", (int32_t)i, 0);
+      stat = enc_TGP_SequenceShort(ctx, (const TGP_SequenceShort*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "TGP-SequenceShort", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_IntraFreqReportingCriteria_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingCriteria_r4* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DPCH_CompressedModeStatusInfo_tgp_SequenceShortList(rtxContext* RT_RESTRICT ctx, const DPCH_CompressedModeStatusInfo_tgp_SequenceShortList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DPCH_CompressedModeStatusInfo_tgp_SequenceShortList, pvalue);
+}
+
+RT_MERGED_BODY int enc_DPCH_CompressedModeStatusInfo(rtxContext* RT_RESTRICT ctx, const DPCH_CompressedModeStatusInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqReportingCriteria-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqReportingCriteria-r4");
-   /* eventCriteriaList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IntraFreqEventCriteriaList_r4(ctx, &pvalue->eventCriteriaList);
-      RT_CHECK(ctx, stat, 0, "eventCriteriaList", -1, "IntraFreqReportingCriteria-r4");
-   }
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DPCH-CompressedModeStatusInfo");
+   /* tgps-Reconfiguration-CFN */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tgps_Reconfiguration_CFN, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, "TGPS-Reconfiguration-CFN", "tgps-Reconfiguration-CFN", -1, "DPCH-CompressedModeStatusInfo");
+   /* tgp-SequenceShortList */
+   stat = enc_DPCH_CompressedModeStatusInfo_tgp_SequenceShortList(ctx, &pvalue->tgp_SequenceShortList, cur);
+   RT_CHECK(ctx, stat, 0, "tgp-SequenceShortList", -1, "DPCH-CompressedModeStatusInfo");
    return 0;
 }
 
-int asn1PE_UMTS_InterFreqReportCriteria_r4(rtxContext* RT_RESTRICT ctx, const InterFreqReportCriteria_r4* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DPCH_CompressedModeStatusInfo(rtxContext* RT_RESTRICT ctx, const DPCH_CompressedModeStatusInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DPCH_CompressedModeStatusInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_DRX_Cycle_InactivityThreshold(rtxContext* RT_RESTRICT ctx, UE_DRX_Cycle_InactivityThreshold value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqReportCriteria-r4");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat, 0, "t", -1, "InterFreqReportCriteria-r4");
-   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterFreqReportCriteria-r4");
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "UE-DRX-Cycle-InactivityThreshold");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-DRX-Cycle-InactivityThreshold");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_DRX_Cycle_InactivityThreshold(rtxContext* RT_RESTRICT ctx, UE_DRX_Cycle_InactivityThreshold value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_DRX_Cycle_InactivityThreshold, value);
+}
+
+RT_MERGED_BODY int enc_UE_DRX_Cycle(rtxContext* RT_RESTRICT ctx, UE_DRX_Cycle value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "UE-DRX-Cycle");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-DRX-Cycle");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_DRX_Cycle(rtxContext* RT_RESTRICT ctx, UE_DRX_Cycle value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_DRX_Cycle, value);
+}
+
+RT_MERGED_BODY int enc_UE_GrantMonitoring_InactivityThreshold(rtxContext* RT_RESTRICT ctx, UE_GrantMonitoring_InactivityThreshold value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "UE-GrantMonitoring-InactivityThreshold");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-GrantMonitoring-InactivityThreshold");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_GrantMonitoring_InactivityThreshold(rtxContext* RT_RESTRICT ctx, UE_GrantMonitoring_InactivityThreshold value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_GrantMonitoring_InactivityThreshold, value);
+}
+
+RT_MERGED_BODY int enc_DRX_Info(rtxContext* RT_RESTRICT ctx, const DRX_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DRX-Info");
+   /* ue-drx-Cycle */
+   if (pvalue->ue_drx_Cycle > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->ue_drx_Cycle);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UE-DRX-Cycle", "ue-drx-Cycle", -1, "DRX-Info");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ue_drx_Cycle, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "UE-DRX-Cycle", "ue-drx-Cycle", -1, "DRX-Info");
+   /* ue-drx-Cycle-InactivityThreshold */
+   if (pvalue->ue_drx_Cycle_InactivityThreshold > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->ue_drx_Cycle_InactivityThreshold);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UE-DRX-Cycle-InactivityThreshold", "ue-drx-Cycle-InactivityThreshold", -1, "DRX-Info");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ue_drx_Cycle_InactivityThreshold, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "UE-DRX-Cycle-InactivityThreshold", "ue-drx-Cycle-InactivityThreshold", -1, "DRX-Info");
+   /* ue-GrantMonitoring-InactivityThreshold */
+   if (pvalue->ue_GrantMonitoring_InactivityThreshold > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->ue_GrantMonitoring_InactivityThreshold);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UE-GrantMonitoring-InactivityThreshold", "ue-GrantMonitoring-InactivityThreshold", -1, "DRX-Info");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ue_GrantMonitoring_InactivityThreshold, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "UE-GrantMonitoring-InactivityThreshold", "ue-GrantMonitoring-InactivityThreshold", -1, "DRX-Info");
+   /* ue-drx-GrantMonitoring */
+   stat = rtxEncBitAt(ctx, cur, pvalue->ue_drx_GrantMonitoring);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ue-drx-GrantMonitoring", -1, "DRX-Info");
+   return 0;
+}
+
+int asn1PE_UMTS_DRX_Info(rtxContext* RT_RESTRICT ctx, const DRX_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DRX_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_DTX_Cycle1_10ms(rtxContext* RT_RESTRICT ctx, UE_DTX_Cycle1_10ms value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "UE-DTX-Cycle1-10ms");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-DTX-Cycle1-10ms");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_DTX_Cycle1_10ms(rtxContext* RT_RESTRICT ctx, UE_DTX_Cycle1_10ms value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_DTX_Cycle1_10ms, value);
+}
+
+RT_MERGED_BODY int enc_UE_DTX_Cycle2_10ms(rtxContext* RT_RESTRICT ctx, UE_DTX_Cycle2_10ms value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "UE-DTX-Cycle2-10ms");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-DTX-Cycle2-10ms");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_DTX_Cycle2_10ms(rtxContext* RT_RESTRICT ctx, UE_DTX_Cycle2_10ms value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_DTX_Cycle2_10ms, value);
+}
+
+RT_MERGED_BODY int enc_MAC_DTX_Cycle_10ms(rtxContext* RT_RESTRICT ctx, MAC_DTX_Cycle_10ms value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MAC-DTX-Cycle-10ms");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MAC-DTX-Cycle-10ms");
+   return 0;
+}
+
+int asn1PE_UMTS_MAC_DTX_Cycle_10ms(rtxContext* RT_RESTRICT ctx, MAC_DTX_Cycle_10ms value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MAC_DTX_Cycle_10ms, value);
+}
+
+RT_MERGED_BODY int enc_DTX_E_DCH_TTI_10ms(rtxContext* RT_RESTRICT ctx, const DTX_E_DCH_TTI_10ms* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DTX-E-DCH-TTI-10ms");
+   /* ue-dtx-Cycle1-10ms */
+   if (pvalue->ue_dtx_Cycle1_10ms > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->ue_dtx_Cycle1_10ms);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UE-DTX-Cycle1-10ms", "ue-dtx-Cycle1-10ms", -1, "DTX-E-DCH-TTI-10ms");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ue_dtx_Cycle1_10ms, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "UE-DTX-Cycle1-10ms", "ue-dtx-Cycle1-10ms", -1, "DTX-E-DCH-TTI-10ms");
+   /* ue-dtx-Cycle2-10ms */
+   if (pvalue->ue_dtx_Cycle2_10ms > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->ue_dtx_Cycle2_10ms);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UE-DTX-Cycle2-10ms", "ue-dtx-Cycle2-10ms", -1, "DTX-E-DCH-TTI-10ms");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ue_dtx_Cycle2_10ms, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "UE-DTX-Cycle2-10ms", "ue-dtx-Cycle2-10ms", -1, "DTX-E-DCH-TTI-10ms");
+   /* mac-dtx-Cycle-10ms */
+   if (pvalue->mac_dtx_Cycle_10ms > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->mac_dtx_Cycle_10ms);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MAC-DTX-Cycle-10ms", "mac-dtx-Cycle-10ms", -1, "DTX-E-DCH-TTI-10ms");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_dtx_Cycle_10ms, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "MAC-DTX-Cycle-10ms", "mac-dtx-Cycle-10ms", -1, "DTX-E-DCH-TTI-10ms");
+   return 0;
+}
+
+int asn1PE_UMTS_DTX_E_DCH_TTI_10ms(rtxContext* RT_RESTRICT ctx, const DTX_E_DCH_TTI_10ms* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DTX_E_DCH_TTI_10ms, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_DTX_Cycle1_2ms(rtxContext* RT_RESTRICT ctx, UE_DTX_Cycle1_2ms value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "UE-DTX-Cycle1-2ms");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-DTX-Cycle1-2ms");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_DTX_Cycle1_2ms(rtxContext* RT_RESTRICT ctx, UE_DTX_Cycle1_2ms value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_DTX_Cycle1_2ms, value);
+}
+
+RT_MERGED_BODY int enc_UE_DTX_Cycle2_2ms(rtxContext* RT_RESTRICT ctx, UE_DTX_Cycle2_2ms value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "UE-DTX-Cycle2-2ms");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-DTX-Cycle2-2ms");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_DTX_Cycle2_2ms(rtxContext* RT_RESTRICT ctx, UE_DTX_Cycle2_2ms value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_DTX_Cycle2_2ms, value);
+}
+
+RT_MERGED_BODY int enc_MAC_DTX_Cycle_2ms(rtxContext* RT_RESTRICT ctx, MAC_DTX_Cycle_2ms value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MAC-DTX-Cycle-2ms");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MAC-DTX-Cycle-2ms");
+   return 0;
+}
+
+int asn1PE_UMTS_MAC_DTX_Cycle_2ms(rtxContext* RT_RESTRICT ctx, MAC_DTX_Cycle_2ms value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MAC_DTX_Cycle_2ms, value);
+}
+
+RT_MERGED_BODY int enc_DTX_E_DCH_TTI_2ms(rtxContext* RT_RESTRICT ctx, const DTX_E_DCH_TTI_2ms* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DTX-E-DCH-TTI-2ms");
+   /* ue-dtx-Cycle1-2ms */
+   if (pvalue->ue_dtx_Cycle1_2ms > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->ue_dtx_Cycle1_2ms);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UE-DTX-Cycle1-2ms", "ue-dtx-Cycle1-2ms", -1, "DTX-E-DCH-TTI-2ms");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ue_dtx_Cycle1_2ms, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "UE-DTX-Cycle1-2ms", "ue-dtx-Cycle1-2ms", -1, "DTX-E-DCH-TTI-2ms");
+   /* ue-dtx-Cycle2-2ms */
+   if (pvalue->ue_dtx_Cycle2_2ms > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->ue_dtx_Cycle2_2ms);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UE-DTX-Cycle2-2ms", "ue-dtx-Cycle2-2ms", -1, "DTX-E-DCH-TTI-2ms");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ue_dtx_Cycle2_2ms, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "UE-DTX-Cycle2-2ms", "ue-dtx-Cycle2-2ms", -1, "DTX-E-DCH-TTI-2ms");
+   /* mac-dtx-Cycle-2ms */
+   if (pvalue->mac_dtx_Cycle_2ms > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->mac_dtx_Cycle_2ms);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MAC-DTX-Cycle-2ms", "mac-dtx-Cycle-2ms", -1, "DTX-E-DCH-TTI-2ms");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_dtx_Cycle_2ms, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "MAC-DTX-Cycle-2ms", "mac-dtx-Cycle-2ms", -1, "DTX-E-DCH-TTI-2ms");
+   return 0;
+}
+
+int asn1PE_UMTS_DTX_E_DCH_TTI_2ms(rtxContext* RT_RESTRICT ctx, const DTX_E_DCH_TTI_2ms* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DTX_E_DCH_TTI_2ms, pvalue);
+}
+
+RT_MERGED_BODY int enc_DTX_Info_e_dch_TTI_Length(rtxContext* RT_RESTRICT ctx, const DTX_Info_e_dch_TTI_Length* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria-r4");
-         stat = asn1PE_UMTS_IntraFreqReportingCriteria_r4(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria-r4");
+         if (pvalue->u.dtx_e_dch_TTI_10ms == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dtx-e-dch-TTI-10ms", -1, 0);
+         stat = enc_DTX_E_DCH_TTI_10ms(ctx, pvalue->u.dtx_e_dch_TTI_10ms, cur);
+         RT_CHECK(ctx, stat, 0, "dtx-e-dch-TTI-10ms", -1, 0);
          break;
       case 2:
-         if (pvalue->u.interFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria-r4");
-         stat = asn1PE_UMTS_InterFreqReportingCriteria(ctx, pvalue->u.interFreqReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria-r4");
-         break;
-      case 3:
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria-r4");
-         stat = asn1PE_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria-r4");
-         break;
-      case 4:
-         if (pvalue->u.noReporting == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "noReporting", -1, "InterFreqReportCriteria-r4");
-         stat = asn1PE_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat, 0, "noReporting", -1, "InterFreqReportCriteria-r4");
+         if (pvalue->u.dtx_e_dch_TTI_2ms == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dtx-e-dch-TTI-2ms", -1, 0);
+         stat = enc_DTX_E_DCH_TTI_2ms(ctx, pvalue->u.dtx_e_dch_TTI_2ms, cur);
+         RT_CHECK(ctx, stat, 0, "dtx-e-dch-TTI-2ms", -1, 0);
          break;
       default:
          break;
@@ -7399,584 +3811,315 @@ int asn1PE_UMTS_InterFreqReportCriteria_r4(rtxContext* RT_RESTRICT ctx, const In
    return 0;
 }
 
-int asn1PE_UMTS_IntraFreqEvent_r6(rtxContext* RT_RESTRICT ctx, const IntraFreqEvent_r6* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DTX_Info_e_dch_TTI_Length(rtxContext* RT_RESTRICT ctx, const DTX_Info_e_dch_TTI_Length* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DTX_Info_e_dch_TTI_Length, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_DTX_Cycle2InactivityThreshold(rtxContext* RT_RESTRICT ctx, UE_DTX_Cycle2InactivityThreshold value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEvent-r6");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 9);
-   RT_CHECK(ctx, stat, 0, "t", -1, "IntraFreqEvent-r6");
-   if (pvalue->t - 1 > 9) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqEvent-r6");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.e1a == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1a", -1, "IntraFreqEvent-r6");
-         stat = asn1PE_UMTS_Event1a_r4(ctx, pvalue->u.e1a);
-         RT_CHECK(ctx, stat, 0, "e1a", -1, "IntraFreqEvent-r6");
-         break;
-      case 2:
-         if (pvalue->u.e1b == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1b", -1, "IntraFreqEvent-r6");
-         stat = asn1PE_UMTS_Event1b_r4(ctx, pvalue->u.e1b);
-         RT_CHECK(ctx, stat, 0, "e1b", -1, "IntraFreqEvent-r6");
-         break;
-      case 3:
-         if (pvalue->u.e1c == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1c", -1, "IntraFreqEvent-r6");
-         stat = asn1PE_UMTS_Event1c(ctx, pvalue->u.e1c);
-         RT_CHECK(ctx, stat, 0, "e1c", -1, "IntraFreqEvent-r6");
-         break;
-      case 4:
-         if (pvalue->u.e1d == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1d", -1, "IntraFreqEvent-r6");
-         stat = asn1PE_UMTS_Event1d(ctx, pvalue->u.e1d);
-         RT_CHECK(ctx, stat, 0, "e1d", -1, "IntraFreqEvent-r6");
-         break;
-      case 5:
-         if (pvalue->u.e1e == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1e", -1, "IntraFreqEvent-r6");
-         stat = asn1PE_UMTS_Event1e_r6(ctx, pvalue->u.e1e);
-         RT_CHECK(ctx, stat, 0, "e1e", -1, "IntraFreqEvent-r6");
-         break;
-      case 6:
-         if (pvalue->u.e1f == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1f", -1, "IntraFreqEvent-r6");
-         stat = asn1PE_UMTS_Event1f_r6(ctx, pvalue->u.e1f);
-         RT_CHECK(ctx, stat, 0, "e1f", -1, "IntraFreqEvent-r6");
-         break;
-      case 7:
-         break;
-      case 8:
-         if (pvalue->u.e1h < -120 || pvalue->u.e1h > 165) {
-            rtxErrAddStrParm(ctx, "ThresholdUsedFrequency-r6");
-            rtxErrAddIntParm(ctx, pvalue->u.e1h);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "ThresholdUsedFrequency-r6", "e1h", -1, "IntraFreqEvent-r6");
-         }
-         stat = pe_ConsInt64(ctx, pvalue->u.e1h, -120, 165);
-         RT_CHECK(ctx, stat, "ThresholdUsedFrequency-r6", "e1h", -1, "IntraFreqEvent-r6");
-         break;
-      case 9:
-         if (pvalue->u.e1i < -120 || pvalue->u.e1i > 165) {
-            rtxErrAddStrParm(ctx, "ThresholdUsedFrequency-r6");
-            rtxErrAddIntParm(ctx, pvalue->u.e1i);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "ThresholdUsedFrequency-r6", "e1i", -1, "IntraFreqEvent-r6");
-         }
-         stat = pe_ConsInt64(ctx, pvalue->u.e1i, -120, 165);
-         RT_CHECK(ctx, stat, "ThresholdUsedFrequency-r6", "e1i", -1, "IntraFreqEvent-r6");
-         break;
-      case 10:
-         if (pvalue->u.e1j == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1j", -1, "IntraFreqEvent-r6");
-         stat = asn1PE_UMTS_Event1j_r6(ctx, pvalue->u.e1j);
-         RT_CHECK(ctx, stat, 0, "e1j", -1, "IntraFreqEvent-r6");
-         break;
-      default:
-         break;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "UE-DTX-Cycle2InactivityThreshold");
    }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-DTX-Cycle2InactivityThreshold");
    return 0;
 }
 
-int asn1PE_UMTS_IntraFreqEventCriteria_r6(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteria_r6* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UE_DTX_Cycle2InactivityThreshold(rtxContext* RT_RESTRICT ctx, UE_DTX_Cycle2InactivityThreshold value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_DTX_Cycle2InactivityThreshold, value);
+}
+
+RT_MERGED_BODY int enc_UE_DTX_long_preamble_length(rtxContext* RT_RESTRICT ctx, UE_DTX_long_preamble_length value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventCriteria-r6");
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "UE-DTX-long-preamble-length");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-DTX-long-preamble-length");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_DTX_long_preamble_length(rtxContext* RT_RESTRICT ctx, UE_DTX_long_preamble_length value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_DTX_long_preamble_length, value);
+}
+
+RT_MERGED_BODY int enc_MAC_InactivityThreshold(rtxContext* RT_RESTRICT ctx, MAC_InactivityThreshold value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MAC-InactivityThreshold");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MAC-InactivityThreshold");
+   return 0;
+}
+
+int asn1PE_UMTS_MAC_InactivityThreshold(rtxContext* RT_RESTRICT ctx, MAC_InactivityThreshold value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MAC_InactivityThreshold, value);
+}
+
+RT_MERGED_BODY int enc_UE_DPCCH_Burst(rtxContext* RT_RESTRICT ctx, UE_DPCCH_Burst value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "UE-DPCCH-Burst");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-DPCCH-Burst");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_DPCCH_Burst(rtxContext* RT_RESTRICT ctx, UE_DPCCH_Burst value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_DPCCH_Burst, value);
+}
+
+RT_MERGED_BODY int enc_DTX_Info(rtxContext* RT_RESTRICT ctx, const DTX_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DTX-Info");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqEventCriteria-r6");
-   /* event */
-   stat = asn1PE_UMTS_IntraFreqEvent_r6(ctx, &pvalue->event);
-   RT_CHECK(ctx, stat, 0, "event", -1, "IntraFreqEventCriteria-r6");
-   /* hysteresis */
-   if ((uint64_t)pvalue->hysteresis > 15u) {
-      rtxErrAddStrParm(ctx, "Hysteresis");
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 15);
-   RT_CHECK(ctx, stat, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria-r6");
-   /* timeToTrigger */
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria-r6");
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "IntraFreqEventCriteria-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqEventCriteriaList_r6(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteriaList_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventCriteriaList-r6");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "IntraFreqEventCriteriaList-r6");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "IntraFreqEventCriteria-r6", (int32_t)i, "IntraFreqEventCriteriaList-r6");
-      stat = asn1PE_UMTS_IntraFreqEventCriteria_r6(ctx, (const IntraFreqEventCriteria_r6*)node->data);
-      RT_CHECK(ctx, stat, 0, "IntraFreqEventCriteria-r6", (int32_t)i, "IntraFreqEventCriteriaList-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqReportingCriteria_r6(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingCriteria_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqReportingCriteria-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqReportingCriteria-r6");
-   /* eventCriteriaList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IntraFreqEventCriteriaList_r6(ctx, &pvalue->eventCriteriaList);
-      RT_CHECK(ctx, stat, 0, "eventCriteriaList", -1, "IntraFreqReportingCriteria-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqReportingCriteria_r6(rtxContext* RT_RESTRICT ctx, const InterFreqReportingCriteria_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqReportingCriteria-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFreqReportingCriteria-r6");
-   /* interFreqEventList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_InterFreqEventList_r6(ctx, &pvalue->interFreqEventList);
-      RT_CHECK(ctx, stat, 0, "interFreqEventList", -1, "InterFreqReportingCriteria-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqReportCriteria_r6(rtxContext* RT_RESTRICT ctx, const InterFreqReportCriteria_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqReportCriteria-r6");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat, 0, "t", -1, "InterFreqReportCriteria-r6");
-   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterFreqReportCriteria-r6");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria-r6");
-         stat = asn1PE_UMTS_IntraFreqReportingCriteria_r6(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria-r6");
-         break;
-      case 2:
-         if (pvalue->u.interFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria-r6");
-         stat = asn1PE_UMTS_InterFreqReportingCriteria_r6(ctx, pvalue->u.interFreqReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria-r6");
-         break;
-      case 3:
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria-r6");
-         stat = asn1PE_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria-r6");
-         break;
-      case 4:
-         if (pvalue->u.noReporting == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "noReporting", -1, "InterFreqReportCriteria-r6");
-         stat = asn1PE_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat, 0, "noReporting", -1, "InterFreqReportCriteria-r6");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqEvent_r7(rtxContext* RT_RESTRICT ctx, const IntraFreqEvent_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEvent-r7");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 9);
-   RT_CHECK(ctx, stat, 0, "t", -1, "IntraFreqEvent-r7");
-   if (pvalue->t - 1 > 9) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqEvent-r7");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.e1a == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1a", -1, "IntraFreqEvent-r7");
-         stat = asn1PE_UMTS_Event1a_r4(ctx, pvalue->u.e1a);
-         RT_CHECK(ctx, stat, 0, "e1a", -1, "IntraFreqEvent-r7");
-         break;
-      case 2:
-         if (pvalue->u.e1b == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1b", -1, "IntraFreqEvent-r7");
-         stat = asn1PE_UMTS_Event1b_r7(ctx, pvalue->u.e1b);
-         RT_CHECK(ctx, stat, 0, "e1b", -1, "IntraFreqEvent-r7");
-         break;
-      case 3:
-         if (pvalue->u.e1c == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1c", -1, "IntraFreqEvent-r7");
-         stat = asn1PE_UMTS_Event1c(ctx, pvalue->u.e1c);
-         RT_CHECK(ctx, stat, 0, "e1c", -1, "IntraFreqEvent-r7");
-         break;
-      case 4:
-         if (pvalue->u.e1d == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1d", -1, "IntraFreqEvent-r7");
-         stat = asn1PE_UMTS_Event1d(ctx, pvalue->u.e1d);
-         RT_CHECK(ctx, stat, 0, "e1d", -1, "IntraFreqEvent-r7");
-         break;
-      case 5:
-         if (pvalue->u.e1e == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1e", -1, "IntraFreqEvent-r7");
-         stat = asn1PE_UMTS_Event1e_r6(ctx, pvalue->u.e1e);
-         RT_CHECK(ctx, stat, 0, "e1e", -1, "IntraFreqEvent-r7");
-         break;
-      case 6:
-         if (pvalue->u.e1f == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1f", -1, "IntraFreqEvent-r7");
-         stat = asn1PE_UMTS_Event1f_r6(ctx, pvalue->u.e1f);
-         RT_CHECK(ctx, stat, 0, "e1f", -1, "IntraFreqEvent-r7");
-         break;
-      case 7:
-         break;
-      case 8:
-         if (pvalue->u.e1h < -120 || pvalue->u.e1h > 165) {
-            rtxErrAddStrParm(ctx, "ThresholdUsedFrequency-r6");
-            rtxErrAddIntParm(ctx, pvalue->u.e1h);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "ThresholdUsedFrequency-r6", "e1h", -1, "IntraFreqEvent-r7");
-         }
-         stat = pe_ConsInt64(ctx, pvalue->u.e1h, -120, 165);
-         RT_CHECK(ctx, stat, "ThresholdUsedFrequency-r6", "e1h", -1, "IntraFreqEvent-r7");
-         break;
-      case 9:
-         if (pvalue->u.e1i < -120 || pvalue->u.e1i > 165) {
-            rtxErrAddStrParm(ctx, "ThresholdUsedFrequency-r6");
-            rtxErrAddIntParm(ctx, pvalue->u.e1i);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "ThresholdUsedFrequency-r6", "e1i", -1, "IntraFreqEvent-r7");
-         }
-         stat = pe_ConsInt64(ctx, pvalue->u.e1i, -120, 165);
-         RT_CHECK(ctx, stat, "ThresholdUsedFrequency-r6", "e1i", -1, "IntraFreqEvent-r7");
-         break;
-      case 10:
-         if (pvalue->u.e1j == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1j", -1, "IntraFreqEvent-r7");
-         stat = asn1PE_UMTS_Event1j_r6(ctx, pvalue->u.e1j);
-         RT_CHECK(ctx, stat, 0, "e1j", -1, "IntraFreqEvent-r7");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqEventCriteria_r7(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteria_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventCriteria-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqEventCriteria-r7");
-   /* event */
-   stat = asn1PE_UMTS_IntraFreqEvent_r7(ctx, &pvalue->event);
-   RT_CHECK(ctx, stat, 0, "event", -1, "IntraFreqEventCriteria-r7");
-   /* hysteresis */
-   if ((uint64_t)pvalue->hysteresis > 15u) {
-      rtxErrAddStrParm(ctx, "Hysteresis");
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria-r7");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 15);
-   RT_CHECK(ctx, stat, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria-r7");
-   /* timeToTrigger */
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria-r7");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria-r7");
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "IntraFreqEventCriteria-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqEventCriteriaList_r7(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteriaList_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventCriteriaList-r7");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "IntraFreqEventCriteriaList-r7");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "IntraFreqEventCriteria-r7", (int32_t)i, "IntraFreqEventCriteriaList-r7");
-      stat = asn1PE_UMTS_IntraFreqEventCriteria_r7(ctx, (const IntraFreqEventCriteria_r7*)node->data);
-      RT_CHECK(ctx, stat, 0, "IntraFreqEventCriteria-r7", (int32_t)i, "IntraFreqEventCriteriaList-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqReportingCriteria_r7(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingCriteria_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqReportingCriteria-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqReportingCriteria-r7");
-   /* eventCriteriaList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IntraFreqEventCriteriaList_r7(ctx, &pvalue->eventCriteriaList);
-      RT_CHECK(ctx, stat, 0, "eventCriteriaList", -1, "IntraFreqReportingCriteria-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqReportCriteria_r7(rtxContext* RT_RESTRICT ctx, const InterFreqReportCriteria_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqReportCriteria-r7");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat, 0, "t", -1, "InterFreqReportCriteria-r7");
-   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterFreqReportCriteria-r7");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria-r7");
-         stat = asn1PE_UMTS_IntraFreqReportingCriteria_r7(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria-r7");
-         break;
-      case 2:
-         if (pvalue->u.interFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria-r7");
-         stat = asn1PE_UMTS_InterFreqReportingCriteria_r6(ctx, pvalue->u.interFreqReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria-r7");
-         break;
-      case 3:
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria-r7");
-         stat = asn1PE_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria-r7");
-         break;
-      case 4:
-         if (pvalue->u.noReporting == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "noReporting", -1, "InterFreqReportCriteria-r7");
-         stat = asn1PE_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat, 0, "noReporting", -1, "InterFreqReportCriteria-r7");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqEventOnSecULFreq(rtxContext* RT_RESTRICT ctx, const IntraFreqEventOnSecULFreq* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventOnSecULFreq");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 4);
-   RT_CHECK(ctx, stat, 0, "t", -1, "IntraFreqEventOnSecULFreq");
-   if (pvalue->t - 1 > 4) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqEventOnSecULFreq");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.e1a == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1a", -1, "IntraFreqEventOnSecULFreq");
-         stat = asn1PE_UMTS_Event1a_OnSecUlFreq_r9(ctx, pvalue->u.e1a);
-         RT_CHECK(ctx, stat, 0, "e1a", -1, "IntraFreqEventOnSecULFreq");
-         break;
-      case 2:
-         if (pvalue->u.e1b == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1b", -1, "IntraFreqEventOnSecULFreq");
-         stat = asn1PE_UMTS_Event1b_OnSecUlFreq_r9(ctx, pvalue->u.e1b);
-         RT_CHECK(ctx, stat, 0, "e1b", -1, "IntraFreqEventOnSecULFreq");
-         break;
-      case 3:
-         if (pvalue->u.e1c == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1c", -1, "IntraFreqEventOnSecULFreq");
-         stat = asn1PE_UMTS_Event1c(ctx, pvalue->u.e1c);
-         RT_CHECK(ctx, stat, 0, "e1c", -1, "IntraFreqEventOnSecULFreq");
-         break;
-      case 4:
-         if (pvalue->u.e1e == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1e", -1, "IntraFreqEventOnSecULFreq");
-         stat = asn1PE_UMTS_Event1e_r6(ctx, pvalue->u.e1e);
-         RT_CHECK(ctx, stat, 0, "e1e", -1, "IntraFreqEventOnSecULFreq");
-         break;
-      case 5:
-         if (pvalue->u.e1f == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e1f", -1, "IntraFreqEventOnSecULFreq");
-         stat = asn1PE_UMTS_Event1f_r6(ctx, pvalue->u.e1f);
-         RT_CHECK(ctx, stat, 0, "e1f", -1, "IntraFreqEventOnSecULFreq");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqEventCriteriaOnSecULFreq(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteriaOnSecULFreq* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventCriteriaOnSecULFreq");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqEventCriteriaOnSecULFreq");
-   /* event */
-   stat = asn1PE_UMTS_IntraFreqEventOnSecULFreq(ctx, &pvalue->event);
-   RT_CHECK(ctx, stat, 0, "event", -1, "IntraFreqEventCriteriaOnSecULFreq");
-   /* hysteresis */
-   if ((uint64_t)pvalue->hysteresis > 15u) {
-      rtxErrAddStrParm(ctx, "Hysteresis");
-      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteriaOnSecULFreq");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->hysteresis, 0, 15);
-   RT_CHECK(ctx, stat, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteriaOnSecULFreq");
-   /* timeToTrigger */
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteriaOnSecULFreq");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteriaOnSecULFreq");
-   /* reportingCellStatus */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ReportingCellStatus(ctx, &pvalue->reportingCellStatus);
-      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "IntraFreqEventCriteriaOnSecULFreq");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqEventCriteriaListOnSecULFreq_intraFreqEventCriteria(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteriaListOnSecULFreq_intraFreqEventCriteria* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "IntraFreqEventCriteriaOnSecULFreq", (int32_t)i, 0);
-      stat = asn1PE_UMTS_IntraFreqEventCriteriaOnSecULFreq(ctx, (const IntraFreqEventCriteriaOnSecULFreq*)node->data);
-      RT_CHECK(ctx, stat, 0, "IntraFreqEventCriteriaOnSecULFreq", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqEventCriteriaListOnSecULFreq(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteriaListOnSecULFreq* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventCriteriaListOnSecULFreq");
-   /* frequencyInfo */
-   stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "IntraFreqEventCriteriaListOnSecULFreq");
-   /* intraFreqEventCriteria */
-   stat = asn1PE_UMTS_IntraFreqEventCriteriaListOnSecULFreq_intraFreqEventCriteria(ctx, &pvalue->intraFreqEventCriteria);
-   RT_CHECK(ctx, stat, 0, "intraFreqEventCriteria", -1, "IntraFreqEventCriteriaListOnSecULFreq");
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqReportingCriteria_r9(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingCriteria_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqReportingCriteria-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqReportingCriteria-r9");
-   /* eventCriteriaList */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DTX-Info");
+   /* e-dch-TTI-Length */
+   stat = enc_DTX_Info_e_dch_TTI_Length(ctx, &pvalue->e_dch_TTI_Length, cur);
+   RT_CHECK(ctx, stat, 0, "e-dch-TTI-Length", -1, "DTX-Info");
+   /* ue-dtx-cycle2InactivityThreshold */
+   if (pvalue->ue_dtx_cycle2InactivityThreshold > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->ue_dtx_cycle2InactivityThreshold);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UE-DTX-Cycle2InactivityThreshold", "ue-dtx-cycle2InactivityThreshold", -1, "DTX-Info");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ue_dtx_cycle2InactivityThreshold, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "UE-DTX-Cycle2InactivityThreshold", "ue-dtx-cycle2InactivityThreshold", -1, "DTX-Info");
+   /* ue-dtx-cycle2DefaultSG */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IntraFreqEventCriteriaList_r7(ctx, &pvalue->eventCriteriaList);
-      RT_CHECK(ctx, stat, 0, "eventCriteriaList", -1, "IntraFreqReportingCriteria-r9");
+      if ((uint64_t)pvalue->ue_dtx_cycle2DefaultSG > 38u) {
+         rtxErrAddStrParm(ctx, "ue-dtx-cycle2DefaultSG");
+         rtxErrAddUIntParm(ctx, pvalue->ue_dtx_cycle2DefaultSG);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ue-dtx-cycle2DefaultSG", -1, "DTX-Info");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ue_dtx_cycle2DefaultSG, 0, 38);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "ue-dtx-cycle2DefaultSG", -1, "DTX-Info");
    }
-   /* eventCriteriaListOnSecULFreq */
+   /* ue-dtx-long-preamble-length */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_IntraFreqEventCriteriaListOnSecULFreq(ctx, &pvalue->eventCriteriaListOnSecULFreq);
-      RT_CHECK(ctx, stat, 0, "eventCriteriaListOnSecULFreq", -1, "IntraFreqReportingCriteria-r9");
+      if (pvalue->ue_dtx_long_preamble_length > 1) {
+         rtxErrAddUIntParm(ctx, pvalue->ue_dtx_long_preamble_length);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UE-DTX-long-preamble-length", "ue-dtx-long-preamble-length", -1, "DTX-Info");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ue_dtx_long_preamble_length, 0, 1);
+      RT_CHECK_PUT(ctx, cur, stat, "UE-DTX-long-preamble-length", "ue-dtx-long-preamble-length", -1, "DTX-Info");
    }
-   return 0;
-}
-
-int asn1PE_UMTS_InterFreqReportCriteria_r9(rtxContext* RT_RESTRICT ctx, const InterFreqReportCriteria_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqReportCriteria-r9");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat, 0, "t", -1, "InterFreqReportCriteria-r9");
-   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterFreqReportCriteria-r9");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria-r9");
-         stat = asn1PE_UMTS_IntraFreqReportingCriteria_r9(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria-r9");
-         break;
-      case 2:
-         if (pvalue->u.interFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria-r9");
-         stat = asn1PE_UMTS_InterFreqReportingCriteria_r6(ctx, pvalue->u.interFreqReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria-r9");
-         break;
-      case 3:
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria-r9");
-         stat = asn1PE_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria-r9");
-         break;
-      case 4:
-         if (pvalue->u.noReporting == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "noReporting", -1, "InterFreqReportCriteria-r9");
-         stat = asn1PE_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat, 0, "noReporting", -1, "InterFreqReportCriteria-r9");
-         break;
-      default:
-         break;
+   /* mac-InactivityThreshold */
+   if (pvalue->mac_InactivityThreshold > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->mac_InactivityThreshold);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MAC-InactivityThreshold", "mac-InactivityThreshold", -1, "DTX-Info");
    }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_InactivityThreshold, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "MAC-InactivityThreshold", "mac-InactivityThreshold", -1, "DTX-Info");
+   /* cqi-dtx-Timer */
+   if (pvalue->cqi_dtx_Timer > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->cqi_dtx_Timer);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "CQI-DTX-Timer", "cqi-dtx-Timer", -1, "DTX-Info");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->cqi_dtx_Timer, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "CQI-DTX-Timer", "cqi-dtx-Timer", -1, "DTX-Info");
+   /* ue-dpcch-Burst1 */
+   if (pvalue->ue_dpcch_Burst1 > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->ue_dpcch_Burst1);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UE-DPCCH-Burst", "ue-dpcch-Burst1", -1, "DTX-Info");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ue_dpcch_Burst1, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "UE-DPCCH-Burst", "ue-dpcch-Burst1", -1, "DTX-Info");
+   /* ue-dpcch-Burst2 */
+   if (pvalue->ue_dpcch_Burst2 > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->ue_dpcch_Burst2);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UE-DPCCH-Burst", "ue-dpcch-Burst2", -1, "DTX-Info");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ue_dpcch_Burst2, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "UE-DPCCH-Burst", "ue-dpcch-Burst2", -1, "DTX-Info");
    return 0;
 }
 
-int asn1PE_UMTS_InterFreqReportingQuantity(rtxContext* RT_RESTRICT ctx, const InterFreqReportingQuantity* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DTX_Info(rtxContext* RT_RESTRICT ctx, const DTX_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DTX_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_Uplink_DPCCH_Slot_Format_Information(rtxContext* RT_RESTRICT ctx, Uplink_DPCCH_Slot_Format_Information value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqReportingQuantity");
-   /* utra-Carrier-RSSI */
-   stat = rtxEncBit(ctx, pvalue->utra_Carrier_RSSI);
-   RT_CHECK(ctx, stat, 0, "utra-Carrier-RSSI", -1, "InterFreqReportingQuantity");
-   /* frequencyQualityEstimate */
-   stat = rtxEncBit(ctx, pvalue->frequencyQualityEstimate);
-   RT_CHECK(ctx, stat, 0, "frequencyQualityEstimate", -1, "InterFreqReportingQuantity");
-   /* nonFreqRelatedQuantities */
-   stat = asn1PE_UMTS_CellReportingQuantities(ctx, &pvalue->nonFreqRelatedQuantities);
-   RT_CHECK(ctx, stat, 0, "nonFreqRelatedQuantities", -1, "InterFreqReportingQuantity");
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "Uplink-DPCCH-Slot-Format-Information");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Uplink-DPCCH-Slot-Format-Information");
    return 0;
 }
 
-int asn1PE_UMTS_RL_AdditionInfoList(rtxContext* RT_RESTRICT ctx, const RL_AdditionInfoList* RT_RESTRICT pvalue)
+int asn1PE_UMTS_Uplink_DPCCH_Slot_Format_Information(rtxContext* RT_RESTRICT ctx, Uplink_DPCCH_Slot_Format_Information value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Uplink_DPCCH_Slot_Format_Information, value);
+}
+
+static int enc_DTX_DRX_Info_r7(rtxContext* RT_RESTRICT ctx, const DTX_DRX_Info_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RL-AdditionInfoList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DTX-DRX-Info-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DTX-DRX-Info-r7");
+   /* dtx-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DTX_Info(ctx, &pvalue->dtx_Info, cur);
+      RT_CHECK(ctx, stat, 0, "dtx-Info", -1, "DTX-DRX-Info-r7");
+   }
+   /* drx-Info */
+   if (pvalue->m & 0x2u) {
+      stat = enc_DRX_Info(ctx, &pvalue->drx_Info, cur);
+      RT_CHECK(ctx, stat, 0, "drx-Info", -1, "DTX-DRX-Info-r7");
+   }
+   /* uplink-DPCCHSlotFormatInformation */
+   if (pvalue->uplink_DPCCHSlotFormatInformation > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->uplink_DPCCHSlotFormatInformation);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "Uplink-DPCCH-Slot-Format-Information", "uplink-DPCCHSlotFormatInformation", -1, "DTX-DRX-Info-r7");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->uplink_DPCCHSlotFormatInformation, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "Uplink-DPCCH-Slot-Format-Information", "uplink-DPCCHSlotFormatInformation", -1, "DTX-DRX-Info-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_DTX_DRX_Info_r7(rtxContext* RT_RESTRICT ctx, const DTX_DRX_Info_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DTX_DRX_Info_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_DCH_RL_InfoNewServingCell_servingGrant_primary_Secondary_GrantSelector(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewServingCell_servingGrant_primary_Secondary_GrantSelector value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_RL_InfoNewServingCell_servingGrant_primary_Secondary_GrantSelector(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewServingCell_servingGrant_primary_Secondary_GrantSelector value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_RL_InfoNewServingCell_servingGrant_primary_Secondary_GrantSelector, value);
+}
+
+RT_MERGED_BODY int enc_E_DCH_RL_InfoNewServingCell_servingGrant(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoNewServingCell_servingGrant* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* value */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->value > 38u) {
+         rtxErrAddStrParm(ctx, "value");
+         rtxErrAddUIntParm(ctx, pvalue->value);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "value", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->value, 0, 38);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "value", -1, 0);
+   }
+   /* primary-Secondary-GrantSelector */
+   if (pvalue->primary_Secondary_GrantSelector > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->primary_Secondary_GrantSelector);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "primary-Secondary-GrantSelector", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->primary_Secondary_GrantSelector, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "primary-Secondary-GrantSelector", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_RL_InfoNewServingCell_servingGrant(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoNewServingCell_servingGrant* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_RL_InfoNewServingCell_servingGrant, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_DPDCH_Reference_E_TFCI(rtxContext* RT_RESTRICT ctx, const E_DPDCH_Reference_E_TFCI* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-DPDCH-Reference-E-TFCI");
+   /* reference-E-TFCI */
+   if ((uint64_t)pvalue->reference_E_TFCI > 127u) {
+      rtxErrAddStrParm(ctx, "reference-E-TFCI");
+      rtxErrAddUIntParm(ctx, pvalue->reference_E_TFCI);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "reference-E-TFCI", -1, "E-DPDCH-Reference-E-TFCI");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->reference_E_TFCI, 0, 127);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "reference-E-TFCI", -1, "E-DPDCH-Reference-E-TFCI");
+   /* reference-E-TFCI-PO */
+   if ((uint64_t)pvalue->reference_E_TFCI_PO > 29u) {
+      rtxErrAddStrParm(ctx, "reference-E-TFCI-PO");
+      rtxErrAddUIntParm(ctx, pvalue->reference_E_TFCI_PO);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "reference-E-TFCI-PO", -1, "E-DPDCH-Reference-E-TFCI");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->reference_E_TFCI_PO, 0, 29);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "reference-E-TFCI-PO", -1, "E-DPDCH-Reference-E-TFCI");
+   return 0;
+}
+
+int asn1PE_UMTS_E_DPDCH_Reference_E_TFCI(rtxContext* RT_RESTRICT ctx, const E_DPDCH_Reference_E_TFCI* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DPDCH_Reference_E_TFCI, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_DPDCH_Reference_E_TFCIList(rtxContext* RT_RESTRICT ctx, const E_DPDCH_Reference_E_TFCIList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-DPDCH-Reference-E-TFCIList");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "RL-AdditionInfoList");
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "E-DPDCH-Reference-E-TFCIList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PrimaryCPICH-Info", (int32_t)i, "RL-AdditionInfoList");
-      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, (const PrimaryCPICH_Info*)node->data);
-      RT_CHECK(ctx, stat, 0, "PrimaryCPICH-Info", (int32_t)i, "RL-AdditionInfoList");
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "E-DPDCH-Reference-E-TFCI", (int32_t)i, "E-DPDCH-Reference-E-TFCIList");
+      stat = enc_E_DPDCH_Reference_E_TFCI(ctx, (const E_DPDCH_Reference_E_TFCI*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "E-DPDCH-Reference-E-TFCI", (int32_t)i, "E-DPDCH-Reference-E-TFCIList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_RL_InformationLists(rtxContext* RT_RESTRICT ctx, const RL_InformationLists* RT_RESTRICT pvalue)
+int asn1PE_UMTS_E_DPDCH_Reference_E_TFCIList(rtxContext* RT_RESTRICT ctx, const E_DPDCH_Reference_E_TFCIList* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RL-InformationLists");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RL-InformationLists");
-   /* rl-AdditionInfoList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RL_AdditionInfoList(ctx, &pvalue->rl_AdditionInfoList);
-      RT_CHECK(ctx, stat, 0, "rl-AdditionInfoList", -1, "RL-InformationLists");
-   }
-   /* rL-RemovalInformationList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_RL_RemovalInformationList(ctx, &pvalue->rL_RemovalInformationList);
-      RT_CHECK(ctx, stat, 0, "rL-RemovalInformationList", -1, "RL-InformationLists");
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_E_DPDCH_Reference_E_TFCIList, pvalue);
 }
 
-int asn1PE_UMTS_UE_AutonomousUpdateMode(rtxContext* RT_RESTRICT ctx, const UE_AutonomousUpdateMode* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_E_DCH_RL_InfoNewServingCell_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoNewServingCell_e_RGCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-AutonomousUpdateMode");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UE-AutonomousUpdateMode");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UE-AutonomousUpdateMode");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
+         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e-RGCH-Information", -1, 0);
+         stat = enc_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information, cur);
+         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
          break;
       case 2:
-         break;
-      case 3:
-         if (pvalue->u.dummy2 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dummy2", -1, "UE-AutonomousUpdateMode");
-         stat = asn1PE_UMTS_RL_InformationLists(ctx, pvalue->u.dummy2);
-         RT_CHECK(ctx, stat, 0, "dummy2", -1, "UE-AutonomousUpdateMode");
          break;
       default:
          break;
@@ -7984,333 +4127,113 @@ int asn1PE_UMTS_UE_AutonomousUpdateMode(rtxContext* RT_RESTRICT ctx, const UE_Au
    return 0;
 }
 
-int asn1PE_UMTS_InterFrequencyMeasurement(rtxContext* RT_RESTRICT ctx, const InterFrequencyMeasurement* RT_RESTRICT pvalue)
+int asn1PE_UMTS_E_DCH_RL_InfoNewServingCell_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoNewServingCell_e_RGCH_Info* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFrequencyMeasurement");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFrequencyMeasurement");
-   /* interFreqCellInfoList */
-   stat = asn1PE_UMTS_InterFreqCellInfoList(ctx, &pvalue->interFreqCellInfoList);
-   RT_CHECK(ctx, stat, 0, "interFreqCellInfoList", -1, "InterFrequencyMeasurement");
-   /* interFreqMeasQuantity */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "interFreqMeasQuantity", -1, "InterFrequencyMeasurement");
-   }
-   /* interFreqReportingQuantity */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "interFreqReportingQuantity", -1, "InterFrequencyMeasurement");
-   }
-   /* measurementValidity */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "InterFrequencyMeasurement");
-   }
-   /* interFreqSetUpdate */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate);
-      RT_CHECK(ctx, stat, 0, "interFreqSetUpdate", -1, "InterFrequencyMeasurement");
-   }
-   /* reportCriteria */
-   stat = asn1PE_UMTS_InterFreqReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterFrequencyMeasurement");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_RL_InfoNewServingCell_e_RGCH_Info, pvalue);
 }
 
-int asn1PE_UMTS_InterFrequencyMeasurement_r4(rtxContext* RT_RESTRICT ctx, const InterFrequencyMeasurement_r4* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_E_DCH_RL_InfoNewServingCell(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoNewServingCell* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFrequencyMeasurement-r4");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-DCH-RL-InfoNewServingCell");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFrequencyMeasurement-r4");
-   /* interFreqCellInfoList */
-   stat = asn1PE_UMTS_InterFreqCellInfoList_r4(ctx, &pvalue->interFreqCellInfoList);
-   RT_CHECK(ctx, stat, 0, "interFreqCellInfoList", -1, "InterFrequencyMeasurement-r4");
-   /* interFreqMeasQuantity */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 0), 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-DCH-RL-InfoNewServingCell");
+   /* primaryCPICH-Info */
+   stat = enc_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "E-DCH-RL-InfoNewServingCell");
+   /* e-AGCH-Information */
+   stat = enc_E_AGCH_Information(ctx, &pvalue->e_AGCH_Information, cur);
+   RT_CHECK(ctx, stat, 0, "e-AGCH-Information", -1, "E-DCH-RL-InfoNewServingCell");
+   /* servingGrant */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "interFreqMeasQuantity", -1, "InterFrequencyMeasurement-r4");
+      stat = enc_E_DCH_RL_InfoNewServingCell_servingGrant(ctx, &pvalue->servingGrant, cur);
+      RT_CHECK(ctx, stat, 0, "servingGrant", -1, "E-DCH-RL-InfoNewServingCell");
    }
-   /* interFreqReportingQuantity */
+   /* e-DPCCH-DPCCH-PowerOffset */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "interFreqReportingQuantity", -1, "InterFrequencyMeasurement-r4");
-   }
-   /* measurementValidity */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "InterFrequencyMeasurement-r4");
-   }
-   /* interFreqSetUpdate */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate);
-      RT_CHECK(ctx, stat, 0, "interFreqSetUpdate", -1, "InterFrequencyMeasurement-r4");
-   }
-   /* reportCriteria */
-   stat = asn1PE_UMTS_InterFreqReportCriteria_r4(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterFrequencyMeasurement-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_InterFrequencyMeasurement_r6(rtxContext* RT_RESTRICT ctx, const InterFrequencyMeasurement_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFrequencyMeasurement-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFrequencyMeasurement-r6");
-   /* interFreqCellInfoList */
-   stat = asn1PE_UMTS_InterFreqCellInfoList_r4(ctx, &pvalue->interFreqCellInfoList);
-   RT_CHECK(ctx, stat, 0, "interFreqCellInfoList", -1, "InterFrequencyMeasurement-r6");
-   /* interFreqMeasQuantity */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "interFreqMeasQuantity", -1, "InterFrequencyMeasurement-r6");
-   }
-   /* interFreqReportingQuantity */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "interFreqReportingQuantity", -1, "InterFrequencyMeasurement-r6");
-   }
-   /* measurementValidity */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "InterFrequencyMeasurement-r6");
-   }
-   /* interFreqSetUpdate */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate);
-      RT_CHECK(ctx, stat, 0, "interFreqSetUpdate", -1, "InterFrequencyMeasurement-r6");
-   }
-   /* reportCriteria */
-   stat = asn1PE_UMTS_InterFreqReportCriteria_r6(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterFrequencyMeasurement-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_InterFrequencyMeasurement_r7(rtxContext* RT_RESTRICT ctx, const InterFrequencyMeasurement_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFrequencyMeasurement-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFrequencyMeasurement-r7");
-   /* interFreqCellInfoList */
-   stat = asn1PE_UMTS_InterFreqCellInfoList_r4(ctx, &pvalue->interFreqCellInfoList);
-   RT_CHECK(ctx, stat, 0, "interFreqCellInfoList", -1, "InterFrequencyMeasurement-r7");
-   /* interFreqMeasQuantity */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "interFreqMeasQuantity", -1, "InterFrequencyMeasurement-r7");
-   }
-   /* interFreqReportingQuantity */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "interFreqReportingQuantity", -1, "InterFrequencyMeasurement-r7");
-   }
-   /* measurementValidity */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "InterFrequencyMeasurement-r7");
-   }
-   /* interFreqSetUpdate */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate);
-      RT_CHECK(ctx, stat, 0, "interFreqSetUpdate", -1, "InterFrequencyMeasurement-r7");
-   }
-   /* reportCriteria */
-   stat = asn1PE_UMTS_InterFreqReportCriteria_r7(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterFrequencyMeasurement-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_InterFrequencyMeasurement_r8(rtxContext* RT_RESTRICT ctx, const InterFrequencyMeasurement_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFrequencyMeasurement-r8");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFrequencyMeasurement-r8");
-   /* interFreqCellInfoList */
-   stat = asn1PE_UMTS_InterFreqCellInfoList_r8(ctx, &pvalue->interFreqCellInfoList);
-   RT_CHECK(ctx, stat, 0, "interFreqCellInfoList", -1, "InterFrequencyMeasurement-r8");
-   /* interFreqMeasQuantity */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "interFreqMeasQuantity", -1, "InterFrequencyMeasurement-r8");
-   }
-   /* interFreqReportingQuantity */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "interFreqReportingQuantity", -1, "InterFrequencyMeasurement-r8");
-   }
-   /* measurementValidity */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "InterFrequencyMeasurement-r8");
-   }
-   /* interFreqSetUpdate */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate);
-      RT_CHECK(ctx, stat, 0, "interFreqSetUpdate", -1, "InterFrequencyMeasurement-r8");
-   }
-   /* adjacentFrequencyIndex */
-   if (pvalue->m & 0x10u) {
-      if ((uint64_t)pvalue->adjacentFrequencyIndex > 31u) {
-         rtxErrAddStrParm(ctx, "adjacentFrequencyIndex");
-         rtxErrAddUIntParm(ctx, pvalue->adjacentFrequencyIndex);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "adjacentFrequencyIndex", -1, "InterFrequencyMeasurement-r8");
+      if ((uint64_t)pvalue->e_DPCCH_DPCCH_PowerOffset > 8u) {
+         rtxErrAddStrParm(ctx, "E-DPCCH-DPCCH-PowerOffset");
+         rtxErrAddUIntParm(ctx, pvalue->e_DPCCH_DPCCH_PowerOffset);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "E-DPCCH-DPCCH-PowerOffset", "e-DPCCH-DPCCH-PowerOffset", -1, "E-DCH-RL-InfoNewServingCell");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->adjacentFrequencyIndex, 0, 31);
-      RT_CHECK(ctx, stat, 0, "adjacentFrequencyIndex", -1, "InterFrequencyMeasurement-r8");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->e_DPCCH_DPCCH_PowerOffset, 0, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "E-DPCCH-DPCCH-PowerOffset", "e-DPCCH-DPCCH-PowerOffset", -1, "E-DCH-RL-InfoNewServingCell");
    }
-   /* reportCriteria */
-   stat = asn1PE_UMTS_InterFreqReportCriteria_r7(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterFrequencyMeasurement-r8");
-   return 0;
-}
-
-int asn1PE_UMTS_InterFrequencyMeasurement_r9(rtxContext* RT_RESTRICT ctx, const InterFrequencyMeasurement_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterFrequencyMeasurement-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterFrequencyMeasurement-r9");
-   /* interFreqCellInfoList */
-   stat = asn1PE_UMTS_InterFreqCellInfoList_r9(ctx, &pvalue->interFreqCellInfoList);
-   RT_CHECK(ctx, stat, 0, "interFreqCellInfoList", -1, "InterFrequencyMeasurement-r9");
-   /* interFreqMeasQuantity */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "interFreqMeasQuantity", -1, "InterFrequencyMeasurement-r9");
-   }
-   /* interFreqReportingQuantity */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "interFreqReportingQuantity", -1, "InterFrequencyMeasurement-r9");
-   }
-   /* measurementValidity */
+   /* reference-E-TFCIs */
    if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "InterFrequencyMeasurement-r9");
+      stat = enc_E_DPDCH_Reference_E_TFCIList(ctx, &pvalue->reference_E_TFCIs, cur);
+      RT_CHECK(ctx, stat, 0, "reference-E-TFCIs", -1, "E-DCH-RL-InfoNewServingCell");
    }
-   /* interFreqSetUpdate */
+   /* powerOffsetForSchedInfo */
    if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate);
-      RT_CHECK(ctx, stat, 0, "interFreqSetUpdate", -1, "InterFrequencyMeasurement-r9");
-   }
-   /* adjacentFrequencyIndex */
-   if (pvalue->m & 0x10u) {
-      if ((uint64_t)pvalue->adjacentFrequencyIndex > 31u) {
-         rtxErrAddStrParm(ctx, "adjacentFrequencyIndex");
-         rtxErrAddUIntParm(ctx, pvalue->adjacentFrequencyIndex);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "adjacentFrequencyIndex", -1, "InterFrequencyMeasurement-r9");
+      if ((uint64_t)pvalue->powerOffsetForSchedInfo > 6u) {
+         rtxErrAddStrParm(ctx, "powerOffsetForSchedInfo");
+         rtxErrAddUIntParm(ctx, pvalue->powerOffsetForSchedInfo);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "powerOffsetForSchedInfo", -1, "E-DCH-RL-InfoNewServingCell");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->adjacentFrequencyIndex, 0, 31);
-      RT_CHECK(ctx, stat, 0, "adjacentFrequencyIndex", -1, "InterFrequencyMeasurement-r9");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->powerOffsetForSchedInfo, 0, 6);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "powerOffsetForSchedInfo", -1, "E-DCH-RL-InfoNewServingCell");
    }
-   /* interBandFrequencyIndex */
+   /* threeIndexStepThreshold */
+   if (pvalue->m & 0x10u) {
+      if ((uint64_t)pvalue->threeIndexStepThreshold > 37u) {
+         rtxErrAddStrParm(ctx, "threeIndexStepThreshold");
+         rtxErrAddUIntParm(ctx, pvalue->threeIndexStepThreshold);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "threeIndexStepThreshold", -1, "E-DCH-RL-InfoNewServingCell");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->threeIndexStepThreshold, 0, 37);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "threeIndexStepThreshold", -1, "E-DCH-RL-InfoNewServingCell");
+   }
+   /* twoIndexStepThreshold */
    if (pvalue->m & 0x20u) {
-      if ((uint64_t)pvalue->interBandFrequencyIndex > 31u) {
-         rtxErrAddStrParm(ctx, "interBandFrequencyIndex");
-         rtxErrAddUIntParm(ctx, pvalue->interBandFrequencyIndex);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "interBandFrequencyIndex", -1, "InterFrequencyMeasurement-r9");
+      if ((uint64_t)pvalue->twoIndexStepThreshold > 37u) {
+         rtxErrAddStrParm(ctx, "twoIndexStepThreshold");
+         rtxErrAddUIntParm(ctx, pvalue->twoIndexStepThreshold);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "twoIndexStepThreshold", -1, "E-DCH-RL-InfoNewServingCell");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->interBandFrequencyIndex, 0, 31);
-      RT_CHECK(ctx, stat, 0, "interBandFrequencyIndex", -1, "InterFrequencyMeasurement-r9");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->twoIndexStepThreshold, 0, 37);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "twoIndexStepThreshold", -1, "E-DCH-RL-InfoNewServingCell");
    }
-   /* reportCriteria */
-   stat = asn1PE_UMTS_InterFreqReportCriteria_r9(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterFrequencyMeasurement-r9");
-   return 0;
-}
-
-int asn1PE_UMTS_NC_Mode(rtxContext* RT_RESTRICT ctx, NC_Mode value)
-{
-   int stat = 0;
-   RT_SET_SIZE(ctx, 3, 3);
-   stat = pe_BitString32(ctx, &value, 3, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NC-Mode");
-   return 0;
-}
-
-int asn1PE_UMTS_InterRAT_TargetCellDescription_technologySpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const InterRAT_TargetCellDescription_technologySpecificInfo_gsm* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* bsic */
-   stat = asn1PE_UMTS_BSIC(ctx, &pvalue->bsic);
-   RT_CHECK(ctx, stat, 0, "bsic", -1, 0);
-   /* frequency-band */
-   if (pvalue->frequency_band > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->frequency_band);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "Frequency-Band", "frequency-band", -1, 0);
+   /* e-HICH-Information */
+   if (pvalue->m & 0x40u) {
+      stat = enc_E_HICH_Information(ctx, &pvalue->e_HICH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "E-DCH-RL-InfoNewServingCell");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->frequency_band, 0, 1);
-   RT_CHECK(ctx, stat, "Frequency-Band", "frequency-band", -1, 0);
-   /* bcch-ARFCN */
-   if ((uint64_t)pvalue->bcch_ARFCN > 1023u) {
-      rtxErrAddStrParm(ctx, "BCCH-ARFCN");
-      rtxErrAddUIntParm(ctx, pvalue->bcch_ARFCN);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "BCCH-ARFCN", "bcch-ARFCN", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->bcch_ARFCN, 0, 1023);
-   RT_CHECK(ctx, stat, "BCCH-ARFCN", "bcch-ARFCN", -1, 0);
-   /* ncMode */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_NC_Mode(ctx, pvalue->ncMode);
-      RT_CHECK(ctx, stat, 0, "ncMode", -1, 0);
+   /* e-RGCH-Info */
+   if (pvalue->m & 0x80u) {
+      stat = enc_E_DCH_RL_InfoNewServingCell_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, "E-DCH-RL-InfoNewServingCell");
    }
    return 0;
 }
 
-int asn1PE_UMTS_InterRAT_TargetCellDescription_technologySpecificInfo(rtxContext* RT_RESTRICT ctx, const InterRAT_TargetCellDescription_technologySpecificInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_E_DCH_RL_InfoNewServingCell(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoNewServingCell* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_RL_InfoNewServingCell, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_DCH_RL_InfoOtherCell_e_HICH_Info(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoOtherCell_e_HICH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm", -1, 0);
-         stat = asn1PE_UMTS_InterRAT_TargetCellDescription_technologySpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
+         if (pvalue->u.e_HICH_Information == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e-HICH-Information", -1, 0);
+         stat = enc_E_HICH_Information(ctx, pvalue->u.e_HICH_Information, cur);
+         RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, 0);
          break;
       case 2:
-         break;
-      case 3:
-         break;
-      case 4:
          break;
       default:
          break;
@@ -8318,701 +4241,5192 @@ int asn1PE_UMTS_InterRAT_TargetCellDescription_technologySpecificInfo(rtxContext
    return 0;
 }
 
-int asn1PE_UMTS_InterRAT_TargetCellDescription(rtxContext* RT_RESTRICT ctx, const InterRAT_TargetCellDescription* RT_RESTRICT pvalue)
+int asn1PE_UMTS_E_DCH_RL_InfoOtherCell_e_HICH_Info(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoOtherCell_e_HICH_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_RL_InfoOtherCell_e_HICH_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_DCH_RL_InfoOtherCell_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoOtherCell_e_RGCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRAT-TargetCellDescription");
-   /* technologySpecificInfo */
-   stat = asn1PE_UMTS_InterRAT_TargetCellDescription_technologySpecificInfo(ctx, &pvalue->technologySpecificInfo);
-   RT_CHECK(ctx, stat, 0, "technologySpecificInfo", -1, "InterRAT-TargetCellDescription");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e-RGCH-Information", -1, 0);
+         stat = enc_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information, cur);
+         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
    return 0;
 }
 
-int asn1PE_UMTS_InterRATCellInfoIndication(rtxContext* RT_RESTRICT ctx, InterRATCellInfoIndication value)
+int asn1PE_UMTS_E_DCH_RL_InfoOtherCell_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoOtherCell_e_RGCH_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_RL_InfoOtherCell_e_RGCH_Info, pvalue);
+}
+
+static int enc_E_DCH_RL_InfoOtherCell(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoOtherCell* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-DCH-RL-InfoOtherCell");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-DCH-RL-InfoOtherCell");
+   /* primaryCPICH-Info */
+   stat = enc_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "E-DCH-RL-InfoOtherCell");
+   /* e-HICH-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_E_DCH_RL_InfoOtherCell_e_HICH_Info(ctx, &pvalue->e_HICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Info", -1, "E-DCH-RL-InfoOtherCell");
+   }
+   /* e-RGCH-Info */
+   if (pvalue->m & 0x2u) {
+      stat = enc_E_DCH_RL_InfoOtherCell_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, "E-DCH-RL-InfoOtherCell");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_RL_InfoOtherCell(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoOtherCell* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_RL_InfoOtherCell, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_DCH_ReconfigurationInfo_e_DCH_RL_InfoOtherCellList(rtxContext* RT_RESTRICT ctx, const E_DCH_ReconfigurationInfo_e_DCH_RL_InfoOtherCellList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "E-DCH-RL-InfoOtherCell", (int32_t)i, 0);
+      stat = enc_E_DCH_RL_InfoOtherCell(ctx, (const E_DCH_RL_InfoOtherCell*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "E-DCH-RL-InfoOtherCell", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_ReconfigurationInfo_e_DCH_RL_InfoOtherCellList(rtxContext* RT_RESTRICT ctx, const E_DCH_ReconfigurationInfo_e_DCH_RL_InfoOtherCellList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_ReconfigurationInfo_e_DCH_RL_InfoOtherCellList, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_DCH_ReconfigurationInfo(rtxContext* RT_RESTRICT ctx, const E_DCH_ReconfigurationInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-DCH-ReconfigurationInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-DCH-ReconfigurationInfo");
+   /* e-DCH-RL-InfoNewServingCell */
+   if (pvalue->m & 0x1u) {
+      stat = enc_E_DCH_RL_InfoNewServingCell(ctx, &pvalue->e_DCH_RL_InfoNewServingCell, cur);
+      RT_CHECK(ctx, stat, 0, "e-DCH-RL-InfoNewServingCell", -1, "E-DCH-ReconfigurationInfo");
+   }
+   /* e-DCH-RL-InfoOtherCellList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_E_DCH_ReconfigurationInfo_e_DCH_RL_InfoOtherCellList(ctx, &pvalue->e_DCH_RL_InfoOtherCellList, cur);
+      RT_CHECK(ctx, stat, 0, "e-DCH-RL-InfoOtherCellList", -1, "E-DCH-ReconfigurationInfo");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_ReconfigurationInfo(rtxContext* RT_RESTRICT ctx, const E_DCH_ReconfigurationInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_ReconfigurationInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_DCH_RL_InfoNewServingCell_r7_servingGrant_primary_Secondary_GrantSelector(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewServingCell_r7_servingGrant_primary_Secondary_GrantSelector value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_RL_InfoNewServingCell_r7_servingGrant_primary_Secondary_GrantSelector(rtxContext* RT_RESTRICT ctx, E_DCH_RL_InfoNewServingCell_r7_servingGrant_primary_Secondary_GrantSelector value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_RL_InfoNewServingCell_r7_servingGrant_primary_Secondary_GrantSelector, value);
+}
+
+RT_MERGED_BODY int enc_E_DCH_RL_InfoNewServingCell_r7_servingGrant(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoNewServingCell_r7_servingGrant* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* value */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->value > 38u) {
+         rtxErrAddStrParm(ctx, "value");
+         rtxErrAddUIntParm(ctx, pvalue->value);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "value", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->value, 0, 38);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "value", -1, 0);
+   }
+   /* primary-Secondary-GrantSelector */
+   if (pvalue->primary_Secondary_GrantSelector > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->primary_Secondary_GrantSelector);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "primary-Secondary-GrantSelector", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->primary_Secondary_GrantSelector, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "primary-Secondary-GrantSelector", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_RL_InfoNewServingCell_r7_servingGrant(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoNewServingCell_r7_servingGrant* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_RL_InfoNewServingCell_r7_servingGrant, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_DCH_RL_InfoNewServingCell_r7_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoNewServingCell_r7_e_RGCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e-RGCH-Information", -1, 0);
+         stat = enc_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information, cur);
+         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_RL_InfoNewServingCell_r7_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoNewServingCell_r7_e_RGCH_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_RL_InfoNewServingCell_r7_e_RGCH_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_DCH_RL_InfoNewServingCell_r7(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoNewServingCell_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-DCH-RL-InfoNewServingCell-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 0), 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-DCH-RL-InfoNewServingCell-r7");
+   /* primaryCPICH-Info */
+   stat = enc_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "E-DCH-RL-InfoNewServingCell-r7");
+   /* e-AGCH-Information */
+   stat = enc_E_AGCH_Information(ctx, &pvalue->e_AGCH_Information, cur);
+   RT_CHECK(ctx, stat, 0, "e-AGCH-Information", -1, "E-DCH-RL-InfoNewServingCell-r7");
+   /* servingGrant */
+   if (pvalue->m & 0x1u) {
+      stat = enc_E_DCH_RL_InfoNewServingCell_r7_servingGrant(ctx, &pvalue->servingGrant, cur);
+      RT_CHECK(ctx, stat, 0, "servingGrant", -1, "E-DCH-RL-InfoNewServingCell-r7");
+   }
+   /* e-DPCCH-DPCCH-PowerOffset */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->e_DPCCH_DPCCH_PowerOffset > 8u) {
+         rtxErrAddStrParm(ctx, "E-DPCCH-DPCCH-PowerOffset");
+         rtxErrAddUIntParm(ctx, pvalue->e_DPCCH_DPCCH_PowerOffset);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "E-DPCCH-DPCCH-PowerOffset", "e-DPCCH-DPCCH-PowerOffset", -1, "E-DCH-RL-InfoNewServingCell-r7");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->e_DPCCH_DPCCH_PowerOffset, 0, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "E-DPCCH-DPCCH-PowerOffset", "e-DPCCH-DPCCH-PowerOffset", -1, "E-DCH-RL-InfoNewServingCell-r7");
+   }
+   /* reference-E-TFCIs */
+   if (pvalue->m & 0x4u) {
+      stat = enc_E_DPDCH_Reference_E_TFCIList_r7(ctx, &pvalue->reference_E_TFCIs, cur);
+      RT_CHECK(ctx, stat, 0, "reference-E-TFCIs", -1, "E-DCH-RL-InfoNewServingCell-r7");
+   }
+   /* powerOffsetForSchedInfo */
+   if (pvalue->m & 0x8u) {
+      if ((uint64_t)pvalue->powerOffsetForSchedInfo > 6u) {
+         rtxErrAddStrParm(ctx, "powerOffsetForSchedInfo");
+         rtxErrAddUIntParm(ctx, pvalue->powerOffsetForSchedInfo);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "powerOffsetForSchedInfo", -1, "E-DCH-RL-InfoNewServingCell-r7");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->powerOffsetForSchedInfo, 0, 6);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "powerOffsetForSchedInfo", -1, "E-DCH-RL-InfoNewServingCell-r7");
+   }
+   /* threeIndexStepThreshold */
+   if (pvalue->m & 0x10u) {
+      if ((uint64_t)pvalue->threeIndexStepThreshold > 37u) {
+         rtxErrAddStrParm(ctx, "threeIndexStepThreshold");
+         rtxErrAddUIntParm(ctx, pvalue->threeIndexStepThreshold);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "threeIndexStepThreshold", -1, "E-DCH-RL-InfoNewServingCell-r7");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->threeIndexStepThreshold, 0, 37);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "threeIndexStepThreshold", -1, "E-DCH-RL-InfoNewServingCell-r7");
+   }
+   /* twoIndexStepThreshold */
+   if (pvalue->m & 0x20u) {
+      if ((uint64_t)pvalue->twoIndexStepThreshold > 37u) {
+         rtxErrAddStrParm(ctx, "twoIndexStepThreshold");
+         rtxErrAddUIntParm(ctx, pvalue->twoIndexStepThreshold);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "twoIndexStepThreshold", -1, "E-DCH-RL-InfoNewServingCell-r7");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->twoIndexStepThreshold, 0, 37);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "twoIndexStepThreshold", -1, "E-DCH-RL-InfoNewServingCell-r7");
+   }
+   /* e-HICH-Information */
+   if (pvalue->m & 0x40u) {
+      stat = enc_E_HICH_Information(ctx, &pvalue->e_HICH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "E-DCH-RL-InfoNewServingCell-r7");
+   }
+   /* e-RGCH-Info */
+   if (pvalue->m & 0x80u) {
+      stat = enc_E_DCH_RL_InfoNewServingCell_r7_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, "E-DCH-RL-InfoNewServingCell-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_RL_InfoNewServingCell_r7(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoNewServingCell_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_RL_InfoNewServingCell_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_DCH_ReconfigurationInfo_r7_e_DCH_RL_InfoOtherCellList(rtxContext* RT_RESTRICT ctx, const E_DCH_ReconfigurationInfo_r7_e_DCH_RL_InfoOtherCellList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "E-DCH-RL-InfoOtherCell", (int32_t)i, 0);
+      stat = enc_E_DCH_RL_InfoOtherCell(ctx, (const E_DCH_RL_InfoOtherCell*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "E-DCH-RL-InfoOtherCell", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_ReconfigurationInfo_r7_e_DCH_RL_InfoOtherCellList(rtxContext* RT_RESTRICT ctx, const E_DCH_ReconfigurationInfo_r7_e_DCH_RL_InfoOtherCellList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_ReconfigurationInfo_r7_e_DCH_RL_InfoOtherCellList, pvalue);
+}
+
+static int enc_E_DCH_ReconfigurationInfo_r7(rtxContext* RT_RESTRICT ctx, const E_DCH_ReconfigurationInfo_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-DCH-ReconfigurationInfo-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-DCH-ReconfigurationInfo-r7");
+   /* e-DCH-RL-InfoNewServingCell */
+   if (pvalue->m & 0x1u) {
+      stat = enc_E_DCH_RL_InfoNewServingCell_r7(ctx, &pvalue->e_DCH_RL_InfoNewServingCell, cur);
+      RT_CHECK(ctx, stat, 0, "e-DCH-RL-InfoNewServingCell", -1, "E-DCH-ReconfigurationInfo-r7");
+   }
+   /* e-DCH-RL-InfoOtherCellList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_E_DCH_ReconfigurationInfo_r7_e_DCH_RL_InfoOtherCellList(ctx, &pvalue->e_DCH_RL_InfoOtherCellList, cur);
+      RT_CHECK(ctx, stat, 0, "e-DCH-RL-InfoOtherCellList", -1, "E-DCH-ReconfigurationInfo-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_ReconfigurationInfo_r7(rtxContext* RT_RESTRICT ctx, const E_DCH_ReconfigurationInfo_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_ReconfigurationInfo_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_DCH_RL_InfoNewSecServingCell_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoNewSecServingCell_e_RGCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e-RGCH-Information", -1, 0);
+         stat = enc_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information, cur);
+         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_RL_InfoNewSecServingCell_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoNewSecServingCell_e_RGCH_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_RL_InfoNewSecServingCell_e_RGCH_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_DCH_RL_InfoNewSecServingCell(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoNewSecServingCell* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-DCH-RL-InfoNewSecServingCell");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-DCH-RL-InfoNewSecServingCell");
+   /* e-AGCH-Information */
+   stat = enc_E_AGCH_Information(ctx, &pvalue->e_AGCH_Information, cur);
+   RT_CHECK(ctx, stat, 0, "e-AGCH-Information", -1, "E-DCH-RL-InfoNewSecServingCell");
+   /* e-HICH-Information */
+   if (pvalue->m & 0x1u) {
+      stat = enc_E_HICH_Information(ctx, &pvalue->e_HICH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "E-DCH-RL-InfoNewSecServingCell");
+   }
+   /* e-RGCH-Info */
+   if (pvalue->m & 0x2u) {
+      stat = enc_E_DCH_RL_InfoNewSecServingCell_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, "E-DCH-RL-InfoNewSecServingCell");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_RL_InfoNewSecServingCell(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoNewSecServingCell* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_RL_InfoNewSecServingCell, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_DCH_RL_InfoOtherCell_SecULFreq_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoOtherCell_SecULFreq_e_RGCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.e_RGCH_Information == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e-RGCH-Information", -1, 0);
+         stat = enc_E_RGCH_Information(ctx, pvalue->u.e_RGCH_Information, cur);
+         RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_RL_InfoOtherCell_SecULFreq_e_RGCH_Info(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoOtherCell_SecULFreq_e_RGCH_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_RL_InfoOtherCell_SecULFreq_e_RGCH_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_DCH_RL_InfoOtherCell_SecULFreq(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoOtherCell_SecULFreq* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-DCH-RL-InfoOtherCell-SecULFreq");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-DCH-RL-InfoOtherCell-SecULFreq");
+   /* primaryCPICH-Info */
+   stat = enc_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "E-DCH-RL-InfoOtherCell-SecULFreq");
+   /* e-HICH-Information */
+   if (pvalue->m & 0x1u) {
+      stat = enc_E_HICH_Information(ctx, &pvalue->e_HICH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "E-DCH-RL-InfoOtherCell-SecULFreq");
+   }
+   /* e-RGCH-Info */
+   if (pvalue->m & 0x2u) {
+      stat = enc_E_DCH_RL_InfoOtherCell_SecULFreq_e_RGCH_Info(ctx, &pvalue->e_RGCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-Info", -1, "E-DCH-RL-InfoOtherCell-SecULFreq");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_RL_InfoOtherCell_SecULFreq(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoOtherCell_SecULFreq* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_RL_InfoOtherCell_SecULFreq, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_DCH_ReconfigurationInfo_SecULFrequency_e_DCH_RL_InfoOtherCellList_SecULFreq(rtxContext* RT_RESTRICT ctx, const E_DCH_ReconfigurationInfo_SecULFrequency_e_DCH_RL_InfoOtherCellList_SecULFreq* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "E-DCH-RL-InfoOtherCell-SecULFreq", (int32_t)i, 0);
+      stat = enc_E_DCH_RL_InfoOtherCell_SecULFreq(ctx, (const E_DCH_RL_InfoOtherCell_SecULFreq*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "E-DCH-RL-InfoOtherCell-SecULFreq", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_ReconfigurationInfo_SecULFrequency_e_DCH_RL_InfoOtherCellList_SecULFreq(rtxContext* RT_RESTRICT ctx, const E_DCH_ReconfigurationInfo_SecULFrequency_e_DCH_RL_InfoOtherCellList_SecULFreq* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_ReconfigurationInfo_SecULFrequency_e_DCH_RL_InfoOtherCellList_SecULFreq, pvalue);
+}
+
+static int enc_E_DCH_ReconfigurationInfo_SecULFrequency(rtxContext* RT_RESTRICT ctx, const E_DCH_ReconfigurationInfo_SecULFrequency* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-DCH-ReconfigurationInfo-SecULFrequency");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-DCH-ReconfigurationInfo-SecULFrequency");
+   /* e-DCH-RL-InfoNewSecServingCell */
+   if (pvalue->m & 0x1u) {
+      stat = enc_E_DCH_RL_InfoNewSecServingCell(ctx, &pvalue->e_DCH_RL_InfoNewSecServingCell, cur);
+      RT_CHECK(ctx, stat, 0, "e-DCH-RL-InfoNewSecServingCell", -1, "E-DCH-ReconfigurationInfo-SecULFrequency");
+   }
+   /* e-DCH-RL-InfoOtherCellList-SecULFreq */
+   if (pvalue->m & 0x2u) {
+      stat = enc_E_DCH_ReconfigurationInfo_SecULFrequency_e_DCH_RL_InfoOtherCellList_SecULFreq(ctx, &pvalue->e_DCH_RL_InfoOtherCellList_SecULFreq, cur);
+      RT_CHECK(ctx, stat, 0, "e-DCH-RL-InfoOtherCellList-SecULFreq", -1, "E-DCH-ReconfigurationInfo-SecULFrequency");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_ReconfigurationInfo_SecULFrequency(rtxContext* RT_RESTRICT ctx, const E_DCH_ReconfigurationInfo_SecULFrequency* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_ReconfigurationInfo_SecULFrequency, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_DCH_RL_InfoSameServingCell(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoSameServingCell* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-DCH-RL-InfoSameServingCell");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-DCH-RL-InfoSameServingCell");
+   /* e-DPCCH-DPCCH-PowerOffset */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->e_DPCCH_DPCCH_PowerOffset > 8u) {
+         rtxErrAddStrParm(ctx, "E-DPCCH-DPCCH-PowerOffset");
+         rtxErrAddUIntParm(ctx, pvalue->e_DPCCH_DPCCH_PowerOffset);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "E-DPCCH-DPCCH-PowerOffset", "e-DPCCH-DPCCH-PowerOffset", -1, "E-DCH-RL-InfoSameServingCell");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->e_DPCCH_DPCCH_PowerOffset, 0, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "E-DPCCH-DPCCH-PowerOffset", "e-DPCCH-DPCCH-PowerOffset", -1, "E-DCH-RL-InfoSameServingCell");
+   }
+   /* reference-E-TFCIs */
+   if (pvalue->m & 0x2u) {
+      stat = enc_E_DPDCH_Reference_E_TFCIList_r7(ctx, &pvalue->reference_E_TFCIs, cur);
+      RT_CHECK(ctx, stat, 0, "reference-E-TFCIs", -1, "E-DCH-RL-InfoSameServingCell");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_RL_InfoSameServingCell(rtxContext* RT_RESTRICT ctx, const E_DCH_RL_InfoSameServingCell* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_RL_InfoSameServingCell, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_HICH_Information_For_SPS_TDD128_configurationmode_implicit(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_For_SPS_TDD128_configurationmode_implicit* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ei */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->ei > 3u) {
+         rtxErrAddStrParm(ctx, "ei");
+         rtxErrAddUIntParm(ctx, pvalue->ei);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ei", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ei, 0, 3);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "ei", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_HICH_Information_For_SPS_TDD128_configurationmode_implicit(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_For_SPS_TDD128_configurationmode_implicit* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_HICH_Information_For_SPS_TDD128_configurationmode_implicit, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_HICH_Information_For_SPS_TDD128_configurationmode_explicit__midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_For_SPS_TDD128_configurationmode_explicit__midambleAllocationMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if ((uint64_t)pvalue->u.ueSpecificMidamble > 15u) {
+            rtxErrAddStrParm(ctx, "ueSpecificMidamble");
+            rtxErrAddUIntParm(ctx, pvalue->u.ueSpecificMidamble);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ueSpecificMidamble", -1, 0);
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.ueSpecificMidamble, 0, 15);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "ueSpecificMidamble", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_HICH_Information_For_SPS_TDD128_configurationmode_explicit__midambleAllocationMode(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_For_SPS_TDD128_configurationmode_explicit__midambleAllocationMode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_HICH_Information_For_SPS_TDD128_configurationmode_explicit__midambleAllocationMode, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_HICH_Information_For_SPS_TDD128_configurationmode_explicit_(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_For_SPS_TDD128_configurationmode_explicit_* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 6u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslotNumber, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, 0);
+   /* channelisation-Code */
+   if (pvalue->channelisation_Code > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->channelisation_Code);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "channelisation-Code", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->channelisation_Code, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "HS-ChannelisationCode-LCR", "channelisation-Code", -1, 0);
+   /* midambleAllocationMode */
+   stat = enc_E_HICH_Information_For_SPS_TDD128_configurationmode_explicit__midambleAllocationMode(ctx, &pvalue->midambleAllocationMode, cur);
+   RT_CHECK(ctx, stat, 0, "midambleAllocationMode", -1, 0);
+   /* midambleConfiguration */
+   if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "midambleConfiguration");
+      rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "midambleConfiguration", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "midambleConfiguration", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_E_HICH_Information_For_SPS_TDD128_configurationmode_explicit_(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_For_SPS_TDD128_configurationmode_explicit_* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_HICH_Information_For_SPS_TDD128_configurationmode_explicit_, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_HICH_Information_For_SPS_TDD128_configurationmode(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_For_SPS_TDD128_configurationmode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.implicit == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "implicit", -1, 0);
+         stat = enc_E_HICH_Information_For_SPS_TDD128_configurationmode_implicit(ctx, pvalue->u.implicit, cur);
+         RT_CHECK(ctx, stat, 0, "implicit", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.explicit_ == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "explicit", -1, 0);
+         stat = enc_E_HICH_Information_For_SPS_TDD128_configurationmode_explicit_(ctx, pvalue->u.explicit_, cur);
+         RT_CHECK(ctx, stat, 0, "explicit", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_HICH_Information_For_SPS_TDD128_configurationmode(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_For_SPS_TDD128_configurationmode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_HICH_Information_For_SPS_TDD128_configurationmode, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_HICH_Information_For_SPS_TDD128(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_For_SPS_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-HICH-Information-For-SPS-TDD128");
+   /* configurationmode */
+   stat = enc_E_HICH_Information_For_SPS_TDD128_configurationmode(ctx, &pvalue->configurationmode, cur);
+   RT_CHECK(ctx, stat, 0, "configurationmode", -1, "E-HICH-Information-For-SPS-TDD128");
+   /* signatureSequenceGroupIndex */
+   if ((uint64_t)pvalue->signatureSequenceGroupIndex > 19u) {
+      rtxErrAddStrParm(ctx, "signatureSequenceGroupIndex");
+      rtxErrAddUIntParm(ctx, pvalue->signatureSequenceGroupIndex);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "signatureSequenceGroupIndex", -1, "E-HICH-Information-For-SPS-TDD128");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->signatureSequenceGroupIndex, 0, 19);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "signatureSequenceGroupIndex", -1, "E-HICH-Information-For-SPS-TDD128");
+   return 0;
+}
+
+int asn1PE_UMTS_E_HICH_Information_For_SPS_TDD128(rtxContext* RT_RESTRICT ctx, const E_HICH_Information_For_SPS_TDD128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_HICH_Information_For_SPS_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int enc_RepetitionPeriodAndLengthForSPS(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodAndLengthForSPS* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RepetitionPeriodAndLengthForSPS");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "RepetitionPeriodAndLengthForSPS");
+   if (pvalue->t - 1 > 5) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "RepetitionPeriodAndLengthForSPS");
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if ((uint64_t)(pvalue->u.repetitionPeriod2 - 1) > 0u) {
+            rtxErrAddStrParm(ctx, "repetitionPeriod2");
+            rtxErrAddUIntParm(ctx, pvalue->u.repetitionPeriod2);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "repetitionPeriod2", -1, "RepetitionPeriodAndLengthForSPS");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.repetitionPeriod2, 1, 1);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "repetitionPeriod2", -1, "RepetitionPeriodAndLengthForSPS");
+         break;
+      case 3:
+         if ((uint64_t)(pvalue->u.repetitionPeriod4 - 1) > 2u) {
+            rtxErrAddStrParm(ctx, "repetitionPeriod4");
+            rtxErrAddUIntParm(ctx, pvalue->u.repetitionPeriod4);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "repetitionPeriod4", -1, "RepetitionPeriodAndLengthForSPS");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.repetitionPeriod4, 1, 3);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "repetitionPeriod4", -1, "RepetitionPeriodAndLengthForSPS");
+         break;
+      case 4:
+         if ((uint64_t)(pvalue->u.repetitionPeriod8 - 1) > 6u) {
+            rtxErrAddStrParm(ctx, "repetitionPeriod8");
+            rtxErrAddUIntParm(ctx, pvalue->u.repetitionPeriod8);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "repetitionPeriod8", -1, "RepetitionPeriodAndLengthForSPS");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.repetitionPeriod8, 1, 7);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "repetitionPeriod8", -1, "RepetitionPeriodAndLengthForSPS");
+         break;
+      case 5:
+         if ((uint64_t)(pvalue->u.repetitionPeriod16 - 1) > 14u) {
+            rtxErrAddStrParm(ctx, "repetitionPeriod16");
+            rtxErrAddUIntParm(ctx, pvalue->u.repetitionPeriod16);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "repetitionPeriod16", -1, "RepetitionPeriodAndLengthForSPS");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.repetitionPeriod16, 1, 15);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "repetitionPeriod16", -1, "RepetitionPeriodAndLengthForSPS");
+         break;
+      case 6:
+         if ((uint64_t)(pvalue->u.repetitionPeriod32 - 1) > 30u) {
+            rtxErrAddStrParm(ctx, "repetitionPeriod32");
+            rtxErrAddUIntParm(ctx, pvalue->u.repetitionPeriod32);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "repetitionPeriod32", -1, "RepetitionPeriodAndLengthForSPS");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.repetitionPeriod32, 1, 31);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "repetitionPeriod32", -1, "RepetitionPeriodAndLengthForSPS");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RepetitionPeriodAndLengthForSPS(rtxContext* RT_RESTRICT ctx, const RepetitionPeriodAndLengthForSPS* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RepetitionPeriodAndLengthForSPS, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_DCH_TxPatternList_TDD128_element(rtxContext* RT_RESTRICT ctx, const E_DCH_TxPatternList_TDD128_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* repetitionPeriodAndLength */
+   stat = enc_RepetitionPeriodAndLengthForSPS(ctx, &pvalue->repetitionPeriodAndLength, cur);
+   RT_CHECK(ctx, stat, 0, "repetitionPeriodAndLength", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_TxPatternList_TDD128_element(rtxContext* RT_RESTRICT ctx, const E_DCH_TxPatternList_TDD128_element* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_TxPatternList_TDD128_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_DCH_TxPatternList_TDD128(rtxContext* RT_RESTRICT ctx, const E_DCH_TxPatternList_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-DCH-TxPatternList-TDD128");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "E-DCH-TxPatternList-TDD128");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "E-DCH-TxPatternList-TDD128");
+      stat = enc_E_DCH_TxPatternList_TDD128_element(ctx, (const E_DCH_TxPatternList_TDD128_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "E-DCH-TxPatternList-TDD128");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_TxPatternList_TDD128(rtxContext* RT_RESTRICT ctx, const E_DCH_TxPatternList_TDD128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_TxPatternList_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_DCH_SPS_NewOperation_TDD128_initialSPSInfoForEDCH(rtxContext* RT_RESTRICT ctx, const E_DCH_SPS_NewOperation_TDD128_initialSPSInfoForEDCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* n-E-UCCH */
+   if ((uint64_t)(pvalue->n_E_UCCH - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "n-E-UCCH");
+      rtxErrAddUIntParm(ctx, pvalue->n_E_UCCH);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "n-E-UCCH", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->n_E_UCCH, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "n-E-UCCH", -1, 0);
+   /* codeResourceInfo */
+   if (pvalue->codeResourceInfo > 30) {
+      rtxErrAddUIntParm(ctx, pvalue->codeResourceInfo);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UL-TS-ChannelisationCode", "codeResourceInfo", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->codeResourceInfo, 0, 30);
+   RT_CHECK_PUT(ctx, cur, stat, "UL-TS-ChannelisationCode", "codeResourceInfo", -1, 0);
+   /* timeslotResourceRelatedInfo */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pe_BitString32At(ctx, cur, &pvalue->timeslotResourceRelatedInfo, 5, 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "timeslotResourceRelatedInfo", -1, 0);
+   /* powerResourceRelatedInfo */
+   if ((uint64_t)(pvalue->powerResourceRelatedInfo - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "powerResourceRelatedInfo");
+      rtxErrAddUIntParm(ctx, pvalue->powerResourceRelatedInfo);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "powerResourceRelatedInfo", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->powerResourceRelatedInfo, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "powerResourceRelatedInfo", -1, 0);
+   /* activationTime */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->activationTime, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, "ActivationTime", "activationTime", -1, 0);
+   /* subframeNum */
+   if ((uint64_t)pvalue->subframeNum > 1u) {
+      rtxErrAddStrParm(ctx, "subframeNum");
+      rtxErrAddUIntParm(ctx, pvalue->subframeNum);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "subframeNum", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->subframeNum, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "subframeNum", -1, 0);
+   /* initialTxPatternIndex */
+   if ((uint64_t)pvalue->initialTxPatternIndex > 3u) {
+      rtxErrAddStrParm(ctx, "initialTxPatternIndex");
+      rtxErrAddUIntParm(ctx, pvalue->initialTxPatternIndex);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "initialTxPatternIndex", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->initialTxPatternIndex, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "initialTxPatternIndex", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_SPS_NewOperation_TDD128_initialSPSInfoForEDCH(rtxContext* RT_RESTRICT ctx, const E_DCH_SPS_NewOperation_TDD128_initialSPSInfoForEDCH* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_SPS_NewOperation_TDD128_initialSPSInfoForEDCH, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_DCH_SPS_NewOperation_TDD128(rtxContext* RT_RESTRICT ctx, const E_DCH_SPS_NewOperation_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-DCH-SPS-NewOperation-TDD128");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-DCH-SPS-NewOperation-TDD128");
+   /* e-hich-Info */
+   stat = enc_E_HICH_Information_For_SPS_TDD128(ctx, &pvalue->e_hich_Info, cur);
+   RT_CHECK(ctx, stat, 0, "e-hich-Info", -1, "E-DCH-SPS-NewOperation-TDD128");
+   /* e-dch-TxPattern */
+   if (pvalue->m & 0x1u) {
+      stat = enc_E_DCH_TxPatternList_TDD128(ctx, &pvalue->e_dch_TxPattern, cur);
+      RT_CHECK(ctx, stat, 0, "e-dch-TxPattern", -1, "E-DCH-SPS-NewOperation-TDD128");
+   }
+   /* initialSPSInfoForEDCH */
+   if (pvalue->m & 0x2u) {
+      stat = enc_E_DCH_SPS_NewOperation_TDD128_initialSPSInfoForEDCH(ctx, &pvalue->initialSPSInfoForEDCH, cur);
+      RT_CHECK(ctx, stat, 0, "initialSPSInfoForEDCH", -1, "E-DCH-SPS-NewOperation-TDD128");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_SPS_NewOperation_TDD128(rtxContext* RT_RESTRICT ctx, const E_DCH_SPS_NewOperation_TDD128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_SPS_NewOperation_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_DCH_SPS_Information_TDD128_e_dch_SPS_Operation(rtxContext* RT_RESTRICT ctx, const E_DCH_SPS_Information_TDD128_e_dch_SPS_Operation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.newOperation == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "newOperation", -1, 0);
+         stat = enc_E_DCH_SPS_NewOperation_TDD128(ctx, pvalue->u.newOperation, cur);
+         RT_CHECK(ctx, stat, 0, "newOperation", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_SPS_Information_TDD128_e_dch_SPS_Operation(rtxContext* RT_RESTRICT ctx, const E_DCH_SPS_Information_TDD128_e_dch_SPS_Operation* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_SPS_Information_TDD128_e_dch_SPS_Operation, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_DCH_SPS_Information_TDD128(rtxContext* RT_RESTRICT ctx, const E_DCH_SPS_Information_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-DCH-SPS-Information-TDD128");
+   /* e-dch-SPS-Operation */
+   stat = enc_E_DCH_SPS_Information_TDD128_e_dch_SPS_Operation(ctx, &pvalue->e_dch_SPS_Operation, cur);
+   RT_CHECK(ctx, stat, 0, "e-dch-SPS-Operation", -1, "E-DCH-SPS-Information-TDD128");
+   return 0;
+}
+
+int asn1PE_UMTS_E_DCH_SPS_Information_TDD128(rtxContext* RT_RESTRICT ctx, const E_DCH_SPS_Information_TDD128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DCH_SPS_Information_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_DPCCH_Info(rtxContext* RT_RESTRICT ctx, const E_DPCCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-DPCCH-Info");
+   /* e-DPCCH-DPCCH-PowerOffset */
+   if ((uint64_t)pvalue->e_DPCCH_DPCCH_PowerOffset > 8u) {
+      rtxErrAddStrParm(ctx, "E-DPCCH-DPCCH-PowerOffset");
+      rtxErrAddUIntParm(ctx, pvalue->e_DPCCH_DPCCH_PowerOffset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "E-DPCCH-DPCCH-PowerOffset", "e-DPCCH-DPCCH-PowerOffset", -1, "E-DPCCH-Info");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->e_DPCCH_DPCCH_PowerOffset, 0, 8);
+   RT_CHECK_PUT(ctx, cur, stat, "E-DPCCH-DPCCH-PowerOffset", "e-DPCCH-DPCCH-PowerOffset", -1, "E-DPCCH-Info");
+   /* happyBit-DelayCondition */
+   if (pvalue->happyBit_DelayCondition > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->happyBit_DelayCondition);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "HappyBit-DelayCondition", "happyBit-DelayCondition", -1, "E-DPCCH-Info");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->happyBit_DelayCondition, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "HappyBit-DelayCondition", "happyBit-DelayCondition", -1, "E-DPCCH-Info");
+   return 0;
+}
+
+int asn1PE_UMTS_E_DPCCH_Info(rtxContext* RT_RESTRICT ctx, const E_DPCCH_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DPCCH_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_DPDCH_Info(rtxContext* RT_RESTRICT ctx, const E_DPDCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-DPDCH-Info");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-DPDCH-Info");
+   /* e-TFCI-TableIndex */
+   if ((uint64_t)pvalue->e_TFCI_TableIndex > 1u) {
+      rtxErrAddStrParm(ctx, "E-TFCI-TableIndex");
+      rtxErrAddUIntParm(ctx, pvalue->e_TFCI_TableIndex);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "E-TFCI-TableIndex", "e-TFCI-TableIndex", -1, "E-DPDCH-Info");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->e_TFCI_TableIndex, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "E-TFCI-TableIndex", "e-TFCI-TableIndex", -1, "E-DPDCH-Info");
+   /* e-DCH-MinimumSet-E-TFCI */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->e_DCH_MinimumSet_E_TFCI > 127u) {
+         rtxErrAddStrParm(ctx, "E-DCH-MinimumSet-E-TFCI");
+         rtxErrAddUIntParm(ctx, pvalue->e_DCH_MinimumSet_E_TFCI);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "E-DCH-MinimumSet-E-TFCI", "e-DCH-MinimumSet-E-TFCI", -1, "E-DPDCH-Info");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->e_DCH_MinimumSet_E_TFCI, 0, 127);
+      RT_CHECK_PUT(ctx, cur, stat, "E-DCH-MinimumSet-E-TFCI", "e-DCH-MinimumSet-E-TFCI", -1, "E-DPDCH-Info");
+   }
+   /* reference-E-TFCIs */
+   stat = enc_E_DPDCH_Reference_E_TFCIList(ctx, &pvalue->reference_E_TFCIs, cur);
+   RT_CHECK(ctx, stat, 0, "reference-E-TFCIs", -1, "E-DPDCH-Info");
+   /* maxChannelisationCodes */
+   if (pvalue->maxChannelisationCodes > 9) {
+      rtxErrAddUIntParm(ctx, pvalue->maxChannelisationCodes);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "E-DPDCH-MaxChannelisationCodes", "maxChannelisationCodes", -1, "E-DPDCH-Info");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxChannelisationCodes, 0, 9);
+   RT_CHECK_PUT(ctx, cur, stat, "E-DPDCH-MaxChannelisationCodes", "maxChannelisationCodes", -1, "E-DPDCH-Info");
+   /* pl-NonMax */
+   if ((uint64_t)(pvalue->pl_NonMax - 11) > 14u) {
+      rtxErrAddStrParm(ctx, "E-DPDCH-PL-NonMax");
+      rtxErrAddUIntParm(ctx, pvalue->pl_NonMax);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "E-DPDCH-PL-NonMax", "pl-NonMax", -1, "E-DPDCH-Info");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pl_NonMax, 11, 25);
+   RT_CHECK_PUT(ctx, cur, stat, "E-DPDCH-PL-NonMax", "pl-NonMax", -1, "E-DPDCH-Info");
+   /* schedulingInfoConfiguration */
+   stat = enc_E_DPDCH_SchedulingInfoConfiguration(ctx, &pvalue->schedulingInfoConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "schedulingInfoConfiguration", -1, "E-DPDCH-Info");
+   /* threeIndexStepThreshold */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->threeIndexStepThreshold > 37u) {
+         rtxErrAddStrParm(ctx, "threeIndexStepThreshold");
+         rtxErrAddUIntParm(ctx, pvalue->threeIndexStepThreshold);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "threeIndexStepThreshold", -1, "E-DPDCH-Info");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->threeIndexStepThreshold, 0, 37);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "threeIndexStepThreshold", -1, "E-DPDCH-Info");
+   }
+   /* twoIndexStepThreshold */
+   if (pvalue->m & 0x4u) {
+      if ((uint64_t)pvalue->twoIndexStepThreshold > 37u) {
+         rtxErrAddStrParm(ctx, "twoIndexStepThreshold");
+         rtxErrAddUIntParm(ctx, pvalue->twoIndexStepThreshold);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "twoIndexStepThreshold", -1, "E-DPDCH-Info");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->twoIndexStepThreshold, 0, 37);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "twoIndexStepThreshold", -1, "E-DPDCH-Info");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_DPDCH_Info(rtxContext* RT_RESTRICT ctx, const E_DPDCH_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DPDCH_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_E_DPDCH_Info_r7(rtxContext* RT_RESTRICT ctx, const E_DPDCH_Info_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "E-DPDCH-Info-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "E-DPDCH-Info-r7");
+   /* e-TFCI-TableIndex */
+   if ((uint64_t)pvalue->e_TFCI_TableIndex > 1u) {
+      rtxErrAddStrParm(ctx, "E-TFCI-TableIndex");
+      rtxErrAddUIntParm(ctx, pvalue->e_TFCI_TableIndex);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "E-TFCI-TableIndex", "e-TFCI-TableIndex", -1, "E-DPDCH-Info-r7");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->e_TFCI_TableIndex, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "E-TFCI-TableIndex", "e-TFCI-TableIndex", -1, "E-DPDCH-Info-r7");
+   /* e-DCH-MinimumSet-E-TFCI */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->e_DCH_MinimumSet_E_TFCI > 127u) {
+         rtxErrAddStrParm(ctx, "E-DCH-MinimumSet-E-TFCI");
+         rtxErrAddUIntParm(ctx, pvalue->e_DCH_MinimumSet_E_TFCI);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "E-DCH-MinimumSet-E-TFCI", "e-DCH-MinimumSet-E-TFCI", -1, "E-DPDCH-Info-r7");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->e_DCH_MinimumSet_E_TFCI, 0, 127);
+      RT_CHECK_PUT(ctx, cur, stat, "E-DCH-MinimumSet-E-TFCI", "e-DCH-MinimumSet-E-TFCI", -1, "E-DPDCH-Info-r7");
+   }
+   /* reference-E-TFCIs */
+   stat = enc_E_DPDCH_Reference_E_TFCIList_r7(ctx, &pvalue->reference_E_TFCIs, cur);
+   RT_CHECK(ctx, stat, 0, "reference-E-TFCIs", -1, "E-DPDCH-Info-r7");
+   /* maxChannelisationCodes */
+   if (pvalue->maxChannelisationCodes > 9) {
+      rtxErrAddUIntParm(ctx, pvalue->maxChannelisationCodes);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "E-DPDCH-MaxChannelisationCodes", "maxChannelisationCodes", -1, "E-DPDCH-Info-r7");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->maxChannelisationCodes, 0, 9);
+   RT_CHECK_PUT(ctx, cur, stat, "E-DPDCH-MaxChannelisationCodes", "maxChannelisationCodes", -1, "E-DPDCH-Info-r7");
+   /* pl-NonMax */
+   if ((uint64_t)(pvalue->pl_NonMax - 11) > 14u) {
+      rtxErrAddStrParm(ctx, "E-DPDCH-PL-NonMax");
+      rtxErrAddUIntParm(ctx, pvalue->pl_NonMax);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "E-DPDCH-PL-NonMax", "pl-NonMax", -1, "E-DPDCH-Info-r7");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pl_NonMax, 11, 25);
+   RT_CHECK_PUT(ctx, cur, stat, "E-DPDCH-PL-NonMax", "pl-NonMax", -1, "E-DPDCH-Info-r7");
+   /* schedulingInfoConfiguration */
+   stat = enc_E_DPDCH_SchedulingInfoConfiguration(ctx, &pvalue->schedulingInfoConfiguration, cur);
+   RT_CHECK(ctx, stat, 0, "schedulingInfoConfiguration", -1, "E-DPDCH-Info-r7");
+   /* threeIndexStepThreshold */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->threeIndexStepThreshold > 37u) {
+         rtxErrAddStrParm(ctx, "threeIndexStepThreshold");
+         rtxErrAddUIntParm(ctx, pvalue->threeIndexStepThreshold);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "threeIndexStepThreshold", -1, "E-DPDCH-Info-r7");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->threeIndexStepThreshold, 0, 37);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "threeIndexStepThreshold", -1, "E-DPDCH-Info-r7");
+   }
+   /* twoIndexStepThreshold */
+   if (pvalue->m & 0x4u) {
+      if ((uint64_t)pvalue->twoIndexStepThreshold > 37u) {
+         rtxErrAddStrParm(ctx, "twoIndexStepThreshold");
+         rtxErrAddUIntParm(ctx, pvalue->twoIndexStepThreshold);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "twoIndexStepThreshold", -1, "E-DPDCH-Info-r7");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->twoIndexStepThreshold, 0, 37);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "twoIndexStepThreshold", -1, "E-DPDCH-Info-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_E_DPDCH_Info_r7(rtxContext* RT_RESTRICT ctx, const E_DPDCH_Info_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_E_DPDCH_Info_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_EnablingDelay(rtxContext* RT_RESTRICT ctx, EnablingDelay value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "EnablingDelay");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "EnablingDelay");
+   return 0;
+}
+
+int asn1PE_UMTS_EnablingDelay(rtxContext* RT_RESTRICT ctx, EnablingDelay value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EnablingDelay, value);
+}
+
+RT_MERGED_BODY int enc_EXT_UL_TimingAdvance_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, const EXT_UL_TimingAdvance_modeSpecificInfo_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ex-ul-TimingAdvance */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ex_ul_TimingAdvance, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ex-ul-TimingAdvance", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_EXT_UL_TimingAdvance_modeSpecificInfo_tdd384(rtxContext* RT_RESTRICT ctx, const EXT_UL_TimingAdvance_modeSpecificInfo_tdd384* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EXT_UL_TimingAdvance_modeSpecificInfo_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int enc_EXT_UL_TimingAdvance_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, const EXT_UL_TimingAdvance_modeSpecificInfo_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ex-ul-TimingAdvance */
+   if ((uint64_t)pvalue->ex_ul_TimingAdvance > 511u) {
+      rtxErrAddStrParm(ctx, "ex-ul-TimingAdvance");
+      rtxErrAddUIntParm(ctx, pvalue->ex_ul_TimingAdvance);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ex-ul-TimingAdvance", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ex_ul_TimingAdvance, 0, 511);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ex-ul-TimingAdvance", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_EXT_UL_TimingAdvance_modeSpecificInfo_tdd768(rtxContext* RT_RESTRICT ctx, const EXT_UL_TimingAdvance_modeSpecificInfo_tdd768* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EXT_UL_TimingAdvance_modeSpecificInfo_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int enc_EXT_UL_TimingAdvance_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const EXT_UL_TimingAdvance_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = enc_EXT_UL_TimingAdvance_modeSpecificInfo_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd768 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
+         stat = enc_EXT_UL_TimingAdvance_modeSpecificInfo_tdd768(ctx, pvalue->u.tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_EXT_UL_TimingAdvance_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const EXT_UL_TimingAdvance_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EXT_UL_TimingAdvance_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_EXT_UL_TimingAdvance(rtxContext* RT_RESTRICT ctx, const EXT_UL_TimingAdvance* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "EXT-UL-TimingAdvance");
+   /* modeSpecificInfo */
+   stat = enc_EXT_UL_TimingAdvance_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "EXT-UL-TimingAdvance");
+   return 0;
+}
+
+int asn1PE_UMTS_EXT_UL_TimingAdvance(rtxContext* RT_RESTRICT ctx, const EXT_UL_TimingAdvance* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EXT_UL_TimingAdvance, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_ChannelisationCodeSetInfo_LCR(rtxContext* RT_RESTRICT ctx, const HS_ChannelisationCodeSetInfo_LCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HS-ChannelisationCodeSetInfo-LCR");
+   /* startCode */
+   if (pvalue->startCode > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->startCode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "startCode", -1, "HS-ChannelisationCodeSetInfo-LCR");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->startCode, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "HS-ChannelisationCode-LCR", "startCode", -1, "HS-ChannelisationCodeSetInfo-LCR");
+   /* stopCode */
+   if (pvalue->stopCode > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->stopCode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "HS-ChannelisationCode-LCR", "stopCode", -1, "HS-ChannelisationCodeSetInfo-LCR");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->stopCode, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "HS-ChannelisationCode-LCR", "stopCode", -1, "HS-ChannelisationCodeSetInfo-LCR");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_ChannelisationCodeSetInfo_LCR(rtxContext* RT_RESTRICT ctx, const HS_ChannelisationCodeSetInfo_LCR* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_ChannelisationCodeSetInfo_LCR, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_DSCH_RxPatternList_TDD128_element(rtxContext* RT_RESTRICT ctx, const HS_DSCH_RxPatternList_TDD128_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* repetitionPeriodAndLength */
+   stat = enc_RepetitionPeriodAndLengthForSPS(ctx, &pvalue->repetitionPeriodAndLength, cur);
+   RT_CHECK(ctx, stat, 0, "repetitionPeriodAndLength", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_DSCH_RxPatternList_TDD128_element(rtxContext* RT_RESTRICT ctx, const HS_DSCH_RxPatternList_TDD128_element* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_DSCH_RxPatternList_TDD128_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_DSCH_RxPatternList_TDD128(rtxContext* RT_RESTRICT ctx, const HS_DSCH_RxPatternList_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HS-DSCH-RxPatternList-TDD128");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "HS-DSCH-RxPatternList-TDD128");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "HS-DSCH-RxPatternList-TDD128");
+      stat = enc_HS_DSCH_RxPatternList_TDD128_element(ctx, (const HS_DSCH_RxPatternList_TDD128_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "HS-DSCH-RxPatternList-TDD128");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_DSCH_RxPatternList_TDD128(rtxContext* RT_RESTRICT ctx, const HS_DSCH_RxPatternList_TDD128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_DSCH_RxPatternList_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_DSCH_TbsList_TDD128_element(rtxContext* RT_RESTRICT ctx, const HS_DSCH_TbsList_TDD128_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* hs-dsch-TBSizeIndex */
+   if ((uint64_t)(pvalue->hs_dsch_TBSizeIndex - 1) > 62u) {
+      rtxErrAddStrParm(ctx, "hs-dsch-TBSizeIndex");
+      rtxErrAddUIntParm(ctx, pvalue->hs_dsch_TBSizeIndex);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "hs-dsch-TBSizeIndex", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->hs_dsch_TBSizeIndex, 1, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "hs-dsch-TBSizeIndex", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_DSCH_TbsList_TDD128_element(rtxContext* RT_RESTRICT ctx, const HS_DSCH_TbsList_TDD128_element* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_DSCH_TbsList_TDD128_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_DSCH_TbsList_TDD128(rtxContext* RT_RESTRICT ctx, const HS_DSCH_TbsList_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HS-DSCH-TbsList-TDD128");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "HS-DSCH-TbsList-TDD128");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "HS-DSCH-TbsList-TDD128");
+      stat = enc_HS_DSCH_TbsList_TDD128_element(ctx, (const HS_DSCH_TbsList_TDD128_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "HS-DSCH-TbsList-TDD128");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_DSCH_TbsList_TDD128(rtxContext* RT_RESTRICT ctx, const HS_DSCH_TbsList_TDD128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_DSCH_TbsList_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_DSCH_SPS_NewOperation_TDD128_hARQInfoForSPS(rtxContext* RT_RESTRICT ctx, const HS_DSCH_SPS_NewOperation_TDD128_hARQInfoForSPS* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* numberOfProcesses */
+   if ((uint64_t)(pvalue->numberOfProcesses - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "numberOfProcesses");
+      rtxErrAddUIntParm(ctx, pvalue->numberOfProcesses);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "numberOfProcesses", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->numberOfProcesses, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "numberOfProcesses", -1, 0);
+   /* memorySize */
+   if (pvalue->memorySize > 60) {
+      rtxErrAddUIntParm(ctx, pvalue->memorySize);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "HARQMemorySize", "memorySize", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->memorySize, 0, 60);
+   RT_CHECK_PUT(ctx, cur, stat, "HARQMemorySize", "memorySize", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_DSCH_SPS_NewOperation_TDD128_hARQInfoForSPS(rtxContext* RT_RESTRICT ctx, const HS_DSCH_SPS_NewOperation_TDD128_hARQInfoForSPS* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_DSCH_SPS_NewOperation_TDD128_hARQInfoForSPS, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SICH_List_TDD128_element_implicit(rtxContext* RT_RESTRICT ctx, const HS_SICH_List_TDD128_element_implicit* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* hS-SCCH-Index */
+   if ((uint64_t)pvalue->hS_SCCH_Index > 3u) {
+      rtxErrAddStrParm(ctx, "hS-SCCH-Index");
+      rtxErrAddUIntParm(ctx, pvalue->hS_SCCH_Index);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "hS-SCCH-Index", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->hS_SCCH_Index, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "hS-SCCH-Index", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SICH_List_TDD128_element_implicit(rtxContext* RT_RESTRICT ctx, const HS_SICH_List_TDD128_element_implicit* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SICH_List_TDD128_element_implicit, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SICH_List_TDD128_element_explicit_(rtxContext* RT_RESTRICT ctx, const HS_SICH_List_TDD128_element_explicit_* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* hS-SICH-Info */
+   stat = enc_HS_SICH_Configuration_TDD128_r6(ctx, &pvalue->hS_SICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "hS-SICH-Info", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SICH_List_TDD128_element_explicit_(rtxContext* RT_RESTRICT ctx, const HS_SICH_List_TDD128_element_explicit_* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SICH_List_TDD128_element_explicit_, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SICH_List_TDD128_element(rtxContext* RT_RESTRICT ctx, const HS_SICH_List_TDD128_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.implicit == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "implicit", -1, 0);
+         stat = enc_HS_SICH_List_TDD128_element_implicit(ctx, pvalue->u.implicit, cur);
+         RT_CHECK(ctx, stat, 0, "implicit", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.explicit_ == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "explicit", -1, 0);
+         stat = enc_HS_SICH_List_TDD128_element_explicit_(ctx, pvalue->u.explicit_, cur);
+         RT_CHECK(ctx, stat, 0, "explicit", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SICH_List_TDD128_element(rtxContext* RT_RESTRICT ctx, const HS_SICH_List_TDD128_element* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SICH_List_TDD128_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SICH_List_TDD128(rtxContext* RT_RESTRICT ctx, const HS_SICH_List_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HS-SICH-List-TDD128");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "HS-SICH-List-TDD128");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "HS-SICH-List-TDD128");
+      stat = enc_HS_SICH_List_TDD128_element(ctx, (const HS_SICH_List_TDD128_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "HS-SICH-List-TDD128");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SICH_List_TDD128(rtxContext* RT_RESTRICT ctx, const HS_SICH_List_TDD128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SICH_List_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH_modulation(rtxContext* RT_RESTRICT ctx, HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH_modulation value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH_modulation(rtxContext* RT_RESTRICT ctx, HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH_modulation value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH_modulation, value);
+}
+
+RT_MERGED_BODY int enc_HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH(rtxContext* RT_RESTRICT ctx, const HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* timeslotInfo */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pe_BitString32At(ctx, cur, &pvalue->timeslotInfo, 5, 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "timeslotInfo", -1, 0);
+   /* codeResourceInfo */
+   stat = enc_HS_ChannelisationCodeSetInfo_LCR(ctx, &pvalue->codeResourceInfo, cur);
+   RT_CHECK(ctx, stat, 0, "codeResourceInfo", -1, 0);
+   /* activationTime */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->activationTime, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, "ActivationTime", "activationTime", -1, 0);
+   /* sfnNum */
+   if ((uint64_t)pvalue->sfnNum > 1u) {
+      rtxErrAddStrParm(ctx, "sfnNum");
+      rtxErrAddUIntParm(ctx, pvalue->sfnNum);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "sfnNum", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->sfnNum, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sfnNum", -1, 0);
+   /* initialRxPatternIndex */
+   if ((uint64_t)pvalue->initialRxPatternIndex > 3u) {
+      rtxErrAddStrParm(ctx, "initialRxPatternIndex");
+      rtxErrAddUIntParm(ctx, pvalue->initialRxPatternIndex);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "initialRxPatternIndex", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->initialRxPatternIndex, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "initialRxPatternIndex", -1, 0);
+   /* initialTfsIndex */
+   if ((uint64_t)pvalue->initialTfsIndex > 3u) {
+      rtxErrAddStrParm(ctx, "initialTfsIndex");
+      rtxErrAddUIntParm(ctx, pvalue->initialTfsIndex);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "initialTfsIndex", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->initialTfsIndex, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "initialTfsIndex", -1, 0);
+   /* modulation */
+   if (pvalue->modulation > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->modulation);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "modulation", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->modulation, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "modulation", -1, 0);
+   /* hs-sich-Index */
+   if ((uint64_t)pvalue->hs_sich_Index > 3u) {
+      rtxErrAddStrParm(ctx, "hs-sich-Index");
+      rtxErrAddUIntParm(ctx, pvalue->hs_sich_Index);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "hs-sich-Index", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->hs_sich_Index, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "hs-sich-Index", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH(rtxContext* RT_RESTRICT ctx, const HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH, pvalue);
+}
+
+static int enc_HS_DSCH_SPS_NewOperation_TDD128(rtxContext* RT_RESTRICT ctx, const HS_DSCH_SPS_NewOperation_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HS-DSCH-SPS-NewOperation-TDD128");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "HS-DSCH-SPS-NewOperation-TDD128");
+   /* hs-dsch-TbsList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_HS_DSCH_TbsList_TDD128(ctx, &pvalue->hs_dsch_TbsList, cur);
+      RT_CHECK(ctx, stat, 0, "hs-dsch-TbsList", -1, "HS-DSCH-SPS-NewOperation-TDD128");
+   }
+   /* hs-dsch-RxPatternList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_HS_DSCH_RxPatternList_TDD128(ctx, &pvalue->hs_dsch_RxPatternList, cur);
+      RT_CHECK(ctx, stat, 0, "hs-dsch-RxPatternList", -1, "HS-DSCH-SPS-NewOperation-TDD128");
+   }
+   /* hARQInfoForSPS */
+   if (pvalue->m & 0x4u) {
+      stat = enc_HS_DSCH_SPS_NewOperation_TDD128_hARQInfoForSPS(ctx, &pvalue->hARQInfoForSPS, cur);
+      RT_CHECK(ctx, stat, 0, "hARQInfoForSPS", -1, "HS-DSCH-SPS-NewOperation-TDD128");
+   }
+   /* hs-sich-List */
+   stat = enc_HS_SICH_List_TDD128(ctx, &pvalue->hs_sich_List, cur);
+   RT_CHECK(ctx, stat, 0, "hs-sich-List", -1, "HS-DSCH-SPS-NewOperation-TDD128");
+   /* initialSPSInfoForHSDSCH */
+   if (pvalue->m & 0x8u) {
+      stat = enc_HS_DSCH_SPS_NewOperation_TDD128_initialSPSInfoForHSDSCH(ctx, &pvalue->initialSPSInfoForHSDSCH, cur);
+      RT_CHECK(ctx, stat, 0, "initialSPSInfoForHSDSCH", -1, "HS-DSCH-SPS-NewOperation-TDD128");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_DSCH_SPS_NewOperation_TDD128(rtxContext* RT_RESTRICT ctx, const HS_DSCH_SPS_NewOperation_TDD128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_DSCH_SPS_NewOperation_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_DSCH_SPS_Information_TDD128_hs_dsch_SPS_Operation(rtxContext* RT_RESTRICT ctx, const HS_DSCH_SPS_Information_TDD128_hs_dsch_SPS_Operation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.newOperation == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "newOperation", -1, 0);
+         stat = enc_HS_DSCH_SPS_NewOperation_TDD128(ctx, pvalue->u.newOperation, cur);
+         RT_CHECK(ctx, stat, 0, "newOperation", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_DSCH_SPS_Information_TDD128_hs_dsch_SPS_Operation(rtxContext* RT_RESTRICT ctx, const HS_DSCH_SPS_Information_TDD128_hs_dsch_SPS_Operation* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_DSCH_SPS_Information_TDD128_hs_dsch_SPS_Operation, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_DSCH_SPS_Information_TDD128(rtxContext* RT_RESTRICT ctx, const HS_DSCH_SPS_Information_TDD128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HS-DSCH-SPS-Information-TDD128");
+   /* hs-dsch-SPS-Operation */
+   stat = enc_HS_DSCH_SPS_Information_TDD128_hs_dsch_SPS_Operation(ctx, &pvalue->hs_dsch_SPS_Operation, cur);
+   RT_CHECK(ctx, stat, 0, "hs-dsch-SPS-Operation", -1, "HS-DSCH-SPS-Information-TDD128");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_DSCH_SPS_Information_TDD128(rtxContext* RT_RESTRICT ctx, const HS_DSCH_SPS_Information_TDD128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_DSCH_SPS_Information_TDD128, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_LessTFSList_element(rtxContext* RT_RESTRICT ctx, const HS_SCCH_LessTFSList_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* hs-scch-LessTFSI */
+   if ((uint64_t)(pvalue->hs_scch_LessTFSI - 1) > 89u) {
+      rtxErrAddStrParm(ctx, "hs-scch-LessTFSI");
+      rtxErrAddUIntParm(ctx, pvalue->hs_scch_LessTFSI);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "hs-scch-LessTFSI", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->hs_scch_LessTFSI, 1, 90);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "hs-scch-LessTFSI", -1, 0);
+   /* hs-scch-LessSecondCodeSupport */
+   stat = rtxEncBitAt(ctx, cur, pvalue->hs_scch_LessSecondCodeSupport);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "hs-scch-LessSecondCodeSupport", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_LessTFSList_element(rtxContext* RT_RESTRICT ctx, const HS_SCCH_LessTFSList_element* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_LessTFSList_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_LessTFSList(rtxContext* RT_RESTRICT ctx, const HS_SCCH_LessTFSList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-LessTFSList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "HS-SCCH-LessTFSList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "HS-SCCH-LessTFSList");
+      stat = enc_HS_SCCH_LessTFSList_element(ctx, (const HS_SCCH_LessTFSList_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "HS-SCCH-LessTFSList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_LessTFSList(rtxContext* RT_RESTRICT ctx, const HS_SCCH_LessTFSList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_LessTFSList, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_Less_NewOperation(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Less_NewOperation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-Less-NewOperation");
+   /* hs-pdsch-CodeIndex */
+   if ((uint64_t)(pvalue->hs_pdsch_CodeIndex - 1) > 14u) {
+      rtxErrAddStrParm(ctx, "hs-pdsch-CodeIndex");
+      rtxErrAddUIntParm(ctx, pvalue->hs_pdsch_CodeIndex);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "hs-pdsch-CodeIndex", -1, "HS-SCCH-Less-NewOperation");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->hs_pdsch_CodeIndex, 1, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "hs-pdsch-CodeIndex", -1, "HS-SCCH-Less-NewOperation");
+   /* hs-scch-LessTFS */
+   stat = enc_HS_SCCH_LessTFSList(ctx, &pvalue->hs_scch_LessTFS, cur);
+   RT_CHECK(ctx, stat, 0, "hs-scch-LessTFS", -1, "HS-SCCH-Less-NewOperation");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_Less_NewOperation(rtxContext* RT_RESTRICT ctx, const HS_SCCH_Less_NewOperation* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_Less_NewOperation, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_LessInfo_r7_hs_scchLessOperation(rtxContext* RT_RESTRICT ctx, const HS_SCCH_LessInfo_r7_hs_scchLessOperation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.newOperation == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "newOperation", -1, 0);
+         stat = enc_HS_SCCH_Less_NewOperation(ctx, pvalue->u.newOperation, cur);
+         RT_CHECK(ctx, stat, 0, "newOperation", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_LessInfo_r7_hs_scchLessOperation(rtxContext* RT_RESTRICT ctx, const HS_SCCH_LessInfo_r7_hs_scchLessOperation* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_LessInfo_r7_hs_scchLessOperation, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SCCH_LessInfo_r7(rtxContext* RT_RESTRICT ctx, const HS_SCCH_LessInfo_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HS-SCCH-LessInfo-r7");
+   /* hs-scchLessOperation */
+   stat = enc_HS_SCCH_LessInfo_r7_hs_scchLessOperation(ctx, &pvalue->hs_scchLessOperation, cur);
+   RT_CHECK(ctx, stat, 0, "hs-scchLessOperation", -1, "HS-SCCH-LessInfo-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SCCH_LessInfo_r7(rtxContext* RT_RESTRICT ctx, const HS_SCCH_LessInfo_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SCCH_LessInfo_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SICH_ReferenceSignalInfoList_element(rtxContext* RT_RESTRICT ctx, const HS_SICH_ReferenceSignalInfoList_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* midambleConfiguration */
+   if ((uint64_t)(pvalue->midambleConfiguration - 1) > 7u) {
+      rtxErrAddStrParm(ctx, "midambleConfiguration");
+      rtxErrAddUIntParm(ctx, pvalue->midambleConfiguration);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "midambleConfiguration", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleConfiguration, 1, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "midambleConfiguration", -1, 0);
+   /* midambleShift */
+   if ((uint64_t)pvalue->midambleShift > 15u) {
+      rtxErrAddStrParm(ctx, "midambleShift");
+      rtxErrAddUIntParm(ctx, pvalue->midambleShift);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "midambleShift", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->midambleShift, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "midambleShift", -1, 0);
+   /* timeSlot */
+   if ((uint64_t)(pvalue->timeSlot - 1) > 4u) {
+      rtxErrAddStrParm(ctx, "timeSlot");
+      rtxErrAddUIntParm(ctx, pvalue->timeSlot);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "timeSlot", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeSlot, 1, 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "timeSlot", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SICH_ReferenceSignalInfoList_element(rtxContext* RT_RESTRICT ctx, const HS_SICH_ReferenceSignalInfoList_element* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SICH_ReferenceSignalInfoList_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_HS_SICH_ReferenceSignalInfoList(rtxContext* RT_RESTRICT ctx, const HS_SICH_ReferenceSignalInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HS-SICH-ReferenceSignalInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "HS-SICH-ReferenceSignalInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "HS-SICH-ReferenceSignalInfoList");
+      stat = enc_HS_SICH_ReferenceSignalInfoList_element(ctx, (const HS_SICH_ReferenceSignalInfoList_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "HS-SICH-ReferenceSignalInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_HS_SICH_ReferenceSignalInfoList(rtxContext* RT_RESTRICT ctx, const HS_SICH_ReferenceSignalInfoList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HS_SICH_ReferenceSignalInfoList, pvalue);
+}
+
+RT_MERGED_BODY int enc_MIMO_Operation(rtxContext* RT_RESTRICT ctx, MIMO_Operation value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MIMO-Operation");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MIMO-Operation");
+   return 0;
+}
+
+int asn1PE_UMTS_MIMO_Operation(rtxContext* RT_RESTRICT ctx, MIMO_Operation value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MIMO_Operation, value);
+}
+
+RT_MERGED_BODY int enc_MIMO_PilotConfiguration_secondCPICH_Pattern_diversityPattern(rtxContext* RT_RESTRICT ctx, const MIMO_PilotConfiguration_secondCPICH_Pattern_diversityPattern* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* channelisationCode */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->channelisationCode, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, "ChannelisationCode256", "channelisationCode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MIMO_PilotConfiguration_secondCPICH_Pattern_diversityPattern(rtxContext* RT_RESTRICT ctx, const MIMO_PilotConfiguration_secondCPICH_Pattern_diversityPattern* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MIMO_PilotConfiguration_secondCPICH_Pattern_diversityPattern, pvalue);
+}
+
+RT_MERGED_BODY int enc_MIMO_PilotConfiguration_secondCPICH_Pattern(rtxContext* RT_RESTRICT ctx, const MIMO_PilotConfiguration_secondCPICH_Pattern* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.diversityPattern == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "diversityPattern", -1, 0);
+         stat = enc_MIMO_PilotConfiguration_secondCPICH_Pattern_diversityPattern(ctx, pvalue->u.diversityPattern, cur);
+         RT_CHECK(ctx, stat, 0, "diversityPattern", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MIMO_PilotConfiguration_secondCPICH_Pattern(rtxContext* RT_RESTRICT ctx, const MIMO_PilotConfiguration_secondCPICH_Pattern* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MIMO_PilotConfiguration_secondCPICH_Pattern, pvalue);
+}
+
+RT_MERGED_BODY int enc_MIMO_PilotConfiguration(rtxContext* RT_RESTRICT ctx, const MIMO_PilotConfiguration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MIMO-PilotConfiguration");
+   /* secondCPICH-Pattern */
+   stat = enc_MIMO_PilotConfiguration_secondCPICH_Pattern(ctx, &pvalue->secondCPICH_Pattern, cur);
+   RT_CHECK(ctx, stat, 0, "secondCPICH-Pattern", -1, "MIMO-PilotConfiguration");
+   return 0;
+}
+
+int asn1PE_UMTS_MIMO_PilotConfiguration(rtxContext* RT_RESTRICT ctx, const MIMO_PilotConfiguration* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MIMO_PilotConfiguration, pvalue);
+}
+
+RT_MERGED_BODY int enc_MIMO_Parameters_r7(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MIMO-Parameters-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MIMO-Parameters-r7");
+   /* mimoOperation */
+   if (pvalue->mimoOperation > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->mimoOperation);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MIMO-Operation", "mimoOperation", -1, "MIMO-Parameters-r7");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->mimoOperation, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "MIMO-Operation", "mimoOperation", -1, "MIMO-Parameters-r7");
+   /* mimoN-M-Ratio */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->mimoN_M_Ratio > 9) {
+         rtxErrAddUIntParm(ctx, pvalue->mimoN_M_Ratio);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MIMO-N-M-Ratio", "mimoN-M-Ratio", -1, "MIMO-Parameters-r7");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->mimoN_M_Ratio, 0, 9);
+      RT_CHECK_PUT(ctx, cur, stat, "MIMO-N-M-Ratio", "mimoN-M-Ratio", -1, "MIMO-Parameters-r7");
+   }
+   /* mimoPilotConfiguration */
+   if (pvalue->m & 0x2u) {
+      stat = enc_MIMO_PilotConfiguration(ctx, &pvalue->mimoPilotConfiguration, cur);
+      RT_CHECK(ctx, stat, 0, "mimoPilotConfiguration", -1, "MIMO-Parameters-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MIMO_Parameters_r7(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MIMO_Parameters_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_MIMO_PilotConfiguration_v7f0ext(rtxContext* RT_RESTRICT ctx, const MIMO_PilotConfiguration_v7f0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MIMO-PilotConfiguration-v7f0ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MIMO-PilotConfiguration-v7f0ext");
+   /* s-cpich-PowerOffset-Mimo */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->s_cpich_PowerOffset_Mimo < -6 || pvalue->s_cpich_PowerOffset_Mimo > 0) {
+         rtxErrAddStrParm(ctx, "S-CPICH-PowerOffset-MIMO");
+         rtxErrAddIntParm(ctx, pvalue->s_cpich_PowerOffset_Mimo);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "S-CPICH-PowerOffset-MIMO", "s-cpich-PowerOffset-Mimo", -1, "MIMO-PilotConfiguration-v7f0ext");
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->s_cpich_PowerOffset_Mimo, -6, 0);
+      RT_CHECK_PUT(ctx, cur, stat, "S-CPICH-PowerOffset-MIMO", "s-cpich-PowerOffset-Mimo", -1, "MIMO-PilotConfiguration-v7f0ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MIMO_PilotConfiguration_v7f0ext(rtxContext* RT_RESTRICT ctx, const MIMO_PilotConfiguration_v7f0ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MIMO_PilotConfiguration_v7f0ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_MIMO_Parameters_v7f0ext(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_v7f0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MIMO-Parameters-v7f0ext");
+   stat = enc_MIMO_PilotConfiguration_v7f0ext(ctx, pvalue, cur);
+   RT_CHECK(ctx, stat, 0, 0, -1, "MIMO-Parameters-v7f0ext");
+   return 0;
+}
+
+int asn1PE_UMTS_MIMO_Parameters_v7f0ext(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_v7f0ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MIMO_Parameters_v7f0ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_MIMO_Parameters_v7g0ext_precodingWeightSetRestriction(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_v7g0ext_precodingWeightSetRestriction value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MIMO_Parameters_v7g0ext_precodingWeightSetRestriction(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_v7g0ext_precodingWeightSetRestriction value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MIMO_Parameters_v7g0ext_precodingWeightSetRestriction, value);
+}
+
+RT_MERGED_BODY int enc_MIMO_Parameters_v7g0ext(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_v7g0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MIMO-Parameters-v7g0ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MIMO-Parameters-v7g0ext");
+   /* precodingWeightSetRestriction */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->precodingWeightSetRestriction > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->precodingWeightSetRestriction);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "precodingWeightSetRestriction", -1, "MIMO-Parameters-v7g0ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->precodingWeightSetRestriction, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "precodingWeightSetRestriction", -1, "MIMO-Parameters-v7g0ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MIMO_Parameters_v7g0ext(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_v7g0ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MIMO_Parameters_v7g0ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_MIMO_Parameters_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* mimoN-M-Ratio */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->mimoN_M_Ratio > 9) {
+         rtxErrAddUIntParm(ctx, pvalue->mimoN_M_Ratio);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MIMO-N-M-Ratio", "mimoN-M-Ratio", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->mimoN_M_Ratio, 0, 9);
+      RT_CHECK_PUT(ctx, cur, stat, "MIMO-N-M-Ratio", "mimoN-M-Ratio", -1, 0);
+   }
+   /* mimoPilotConfiguration */
+   if (pvalue->m & 0x2u) {
+      stat = enc_MIMO_PilotConfiguration(ctx, &pvalue->mimoPilotConfiguration, cur);
+      RT_CHECK(ctx, stat, 0, "mimoPilotConfiguration", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MIMO_Parameters_r8_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r8_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MIMO_Parameters_r8_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream, value);
+}
+
+RT_MERGED_BODY int enc_MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* mimoSFModeForHSPDSCHDualStream */
+   if (pvalue->mimoSFModeForHSPDSCHDualStream > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->mimoSFModeForHSPDSCHDualStream);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "mimoSFModeForHSPDSCHDualStream", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->mimoSFModeForHSPDSCHDualStream, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "mimoSFModeForHSPDSCHDualStream", -1, 0);
+   /* hs-sich-ReferenceSignalInfoList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_HS_SICH_ReferenceSignalInfoList(ctx, &pvalue->hs_sich_ReferenceSignalInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "hs-sich-ReferenceSignalInfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int enc_MIMO_Parameters_r8_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r8_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_MIMO_Parameters_r8_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MIMO_Parameters_r8_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r8_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MIMO_Parameters_r8_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_MIMO_Parameters_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r8_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_MIMO_Parameters_r8_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_MIMO_Parameters_r8_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MIMO_Parameters_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r8_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MIMO_Parameters_r8_modeSpecificInfo, pvalue);
+}
+
+static int enc_MIMO_Parameters_r8(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MIMO-Parameters-r8");
+   /* mimoOperation */
+   if (pvalue->mimoOperation > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->mimoOperation);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MIMO-Operation", "mimoOperation", -1, "MIMO-Parameters-r8");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->mimoOperation, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "MIMO-Operation", "mimoOperation", -1, "MIMO-Parameters-r8");
+   /* modeSpecificInfo */
+   stat = enc_MIMO_Parameters_r8_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "MIMO-Parameters-r8");
+   return 0;
+}
+
+int asn1PE_UMTS_MIMO_Parameters_r8(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MIMO_Parameters_r8, pvalue);
+}
+
+RT_MERGED_BODY int enc_MIMO_Parameters_r9_modeSpecificInfo_fdd_precodingWeightSetRestriction(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r9_modeSpecificInfo_fdd_precodingWeightSetRestriction value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MIMO_Parameters_r9_modeSpecificInfo_fdd_precodingWeightSetRestriction(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r9_modeSpecificInfo_fdd_precodingWeightSetRestriction value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MIMO_Parameters_r9_modeSpecificInfo_fdd_precodingWeightSetRestriction, value);
+}
+
+RT_MERGED_BODY int enc_MIMO_Parameters_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* mimoN-M-Ratio */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->mimoN_M_Ratio > 9) {
+         rtxErrAddUIntParm(ctx, pvalue->mimoN_M_Ratio);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MIMO-N-M-Ratio", "mimoN-M-Ratio", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->mimoN_M_Ratio, 0, 9);
+      RT_CHECK_PUT(ctx, cur, stat, "MIMO-N-M-Ratio", "mimoN-M-Ratio", -1, 0);
+   }
+   /* mimoPilotConfiguration */
+   if (pvalue->m & 0x2u) {
+      stat = enc_MIMO_PilotConfiguration_r9(ctx, &pvalue->mimoPilotConfiguration, cur);
+      RT_CHECK(ctx, stat, 0, "mimoPilotConfiguration", -1, 0);
+   }
+   /* precodingWeightSetRestriction */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->precodingWeightSetRestriction > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->precodingWeightSetRestriction);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "precodingWeightSetRestriction", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->precodingWeightSetRestriction, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "precodingWeightSetRestriction", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MIMO_Parameters_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MIMO_Parameters_r9_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream(rtxContext* RT_RESTRICT ctx, MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128_mimoSFModeForHSPDSCHDualStream, value);
+}
+
+RT_MERGED_BODY int enc_MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* mimoSFModeForHSPDSCHDualStream */
+   if (pvalue->mimoSFModeForHSPDSCHDualStream > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->mimoSFModeForHSPDSCHDualStream);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "mimoSFModeForHSPDSCHDualStream", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->mimoSFModeForHSPDSCHDualStream, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "mimoSFModeForHSPDSCHDualStream", -1, 0);
+   /* hs-sich-ReferenceSignalInfoList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_HS_SICH_ReferenceSignalInfoList(ctx, &pvalue->hs_sich_ReferenceSignalInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "hs-sich-ReferenceSignalInfoList", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int enc_MIMO_Parameters_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_MIMO_Parameters_r9_modeSpecificInfo_tdd_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MIMO_Parameters_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MIMO_Parameters_r9_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_MIMO_Parameters_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r9_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_MIMO_Parameters_r9_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_MIMO_Parameters_r9_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MIMO_Parameters_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r9_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MIMO_Parameters_r9_modeSpecificInfo, pvalue);
+}
+
+static int enc_MIMO_Parameters_r9(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MIMO-Parameters-r9");
+   /* mimoOperation */
+   if (pvalue->mimoOperation > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->mimoOperation);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MIMO-Operation", "mimoOperation", -1, "MIMO-Parameters-r9");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->mimoOperation, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "MIMO-Operation", "mimoOperation", -1, "MIMO-Parameters-r9");
+   /* modeSpecificInfo */
+   stat = enc_MIMO_Parameters_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "MIMO-Parameters-r9");
+   return 0;
+}
+
+int asn1PE_UMTS_MIMO_Parameters_r9(rtxContext* RT_RESTRICT ctx, const MIMO_Parameters_r9* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MIMO_Parameters_r9, pvalue);
+}
+
+RT_MERGED_BODY int enc_Multi_frequencyInfo_LCR_r7(rtxContext* RT_RESTRICT ctx, const Multi_frequencyInfo_LCR_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Multi-frequencyInfo-LCR-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Multi-frequencyInfo-LCR-r7");
+   /* secondFrequencyInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_FrequencyInfoTDD(ctx, &pvalue->secondFrequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "secondFrequencyInfo", -1, "Multi-frequencyInfo-LCR-r7");
+   }
+   /* fPachFrequencyInfo */
+   if (pvalue->m & 0x2u) {
+      stat = enc_FrequencyInfoTDD(ctx, &pvalue->fPachFrequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "fPachFrequencyInfo", -1, "Multi-frequencyInfo-LCR-r7");
+   }
+   /* upPCHpositionInfo */
+   if (pvalue->m & 0x4u) {
+      if ((uint64_t)pvalue->upPCHpositionInfo > 127u) {
+         rtxErrAddStrParm(ctx, "UpPCHposition-LCR");
+         rtxErrAddUIntParm(ctx, pvalue->upPCHpositionInfo);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UpPCHposition-LCR", "upPCHpositionInfo", -1, "Multi-frequencyInfo-LCR-r7");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->upPCHpositionInfo, 0, 127);
+      RT_CHECK_PUT(ctx, cur, stat, "UpPCHposition-LCR", "upPCHpositionInfo", -1, "Multi-frequencyInfo-LCR-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Multi_frequencyInfo_LCR_r7(rtxContext* RT_RESTRICT ctx, const Multi_frequencyInfo_LCR_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Multi_frequencyInfo_LCR_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_DTX_DRX_Offset(rtxContext* RT_RESTRICT ctx, UE_DTX_DRX_Offset value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 159u) {
+      rtxErrAddStrParm(ctx, "UE-DTX-DRX-Offset");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "UE-DTX-DRX-Offset");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 159);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-DTX-DRX-Offset");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_DTX_DRX_Offset(rtxContext* RT_RESTRICT ctx, UE_DTX_DRX_Offset value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_DTX_DRX_Offset, value);
+}
+
+RT_MERGED_BODY int enc_NewTiming(rtxContext* RT_RESTRICT ctx, const NewTiming* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewTiming");
+   /* enablingDelay */
+   if (pvalue->enablingDelay > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->enablingDelay);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "EnablingDelay", "enablingDelay", -1, "NewTiming");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->enablingDelay, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "EnablingDelay", "enablingDelay", -1, "NewTiming");
+   /* ue-dtx-drx-Offset */
+   if ((uint64_t)pvalue->ue_dtx_drx_Offset > 159u) {
+      rtxErrAddStrParm(ctx, "UE-DTX-DRX-Offset");
+      rtxErrAddUIntParm(ctx, pvalue->ue_dtx_drx_Offset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UE-DTX-DRX-Offset", "ue-dtx-drx-Offset", -1, "NewTiming");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ue_dtx_drx_Offset, 0, 159);
+   RT_CHECK_PUT(ctx, cur, stat, "UE-DTX-DRX-Offset", "ue-dtx-drx-Offset", -1, "NewTiming");
+   return 0;
+}
+
+int asn1PE_UMTS_NewTiming(rtxContext* RT_RESTRICT ctx, const NewTiming* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewTiming, pvalue);
+}
+
+RT_MERGED_BODY int enc_Non_ScheduledTransGrantInfoTDD_ext_tdd128_t_SI_nst(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_ext_tdd128_t_SI_nst value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 6) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_ext_tdd128_t_SI_nst(rtxContext* RT_RESTRICT ctx, Non_ScheduledTransGrantInfoTDD_ext_tdd128_t_SI_nst value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Non_ScheduledTransGrantInfoTDD_ext_tdd128_t_SI_nst, value);
+}
+
+RT_MERGED_BODY int enc_Non_ScheduledTransGrantInfoTDD_ext_tdd128(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_ext_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* t-SI-nst */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->t_SI_nst > 6) {
+         rtxErrAddUIntParm(ctx, pvalue->t_SI_nst);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "t-SI-nst", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_SI_nst, 0, 6);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "t-SI-nst", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_ext_tdd128(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_ext_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Non_ScheduledTransGrantInfoTDD_ext_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int enc_Non_ScheduledTransGrantInfoTDD_ext(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Non-ScheduledTransGrantInfoTDD-ext");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "Non-ScheduledTransGrantInfoTDD-ext");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "Non-ScheduledTransGrantInfoTDD-ext");
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, "Non-ScheduledTransGrantInfoTDD-ext");
+         stat = enc_Non_ScheduledTransGrantInfoTDD_ext_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, "Non-ScheduledTransGrantInfoTDD-ext");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Non_ScheduledTransGrantInfoTDD_ext(rtxContext* RT_RESTRICT ctx, const Non_ScheduledTransGrantInfoTDD_ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Non_ScheduledTransGrantInfoTDD_ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_NumberOfDPDCH(rtxContext* RT_RESTRICT ctx, NumberOfDPDCH value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 5u) {
+      rtxErrAddStrParm(ctx, "NumberOfDPDCH");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "NumberOfDPDCH");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NumberOfDPDCH");
+   return 0;
+}
+
+int asn1PE_UMTS_NumberOfDPDCH(rtxContext* RT_RESTRICT ctx, NumberOfDPDCH value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NumberOfDPDCH, value);
+}
+
+RT_MERGED_BODY int enc_NumberOfFBI_Bits(rtxContext* RT_RESTRICT ctx, NumberOfFBI_Bits value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 1) > 1u) {
+      rtxErrAddStrParm(ctx, "NumberOfFBI-Bits");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "NumberOfFBI-Bits");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 1, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NumberOfFBI-Bits");
+   return 0;
+}
+
+int asn1PE_UMTS_NumberOfFBI_Bits(rtxContext* RT_RESTRICT ctx, NumberOfFBI_Bits value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NumberOfFBI_Bits, value);
+}
+
+RT_MERGED_BODY int enc_PDSCH_PowerControlInfo(rtxContext* RT_RESTRICT ctx, const PDSCH_PowerControlInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-PowerControlInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PDSCH-PowerControlInfo");
+   /* tpc-StepSizeTDD */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->tpc_StepSizeTDD - 1) > 2u) {
+         rtxErrAddStrParm(ctx, "TPC-StepSizeTDD");
+         rtxErrAddUIntParm(ctx, pvalue->tpc_StepSizeTDD);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TPC-StepSizeTDD", "tpc-StepSizeTDD", -1, "PDSCH-PowerControlInfo");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tpc_StepSizeTDD, 1, 3);
+      RT_CHECK_PUT(ctx, cur, stat, "TPC-StepSizeTDD", "tpc-StepSizeTDD", -1, "PDSCH-PowerControlInfo");
+   }
+   /* ul-CCTrChTPCList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_UL_CCTrChTPCList(ctx, &pvalue->ul_CCTrChTPCList, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrChTPCList", -1, "PDSCH-PowerControlInfo");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_PowerControlInfo(rtxContext* RT_RESTRICT ctx, const PDSCH_PowerControlInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_PowerControlInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDSCH_CapacityAllocationInfo_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_configuration_old_Configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->tfcs_ID != 1) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tfcs-ID */
+   if (pvalue->tfcs_ID != 1) {
+      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
+         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
+         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, 0);
+   }
+   /* pdsch-Identity */
+   if ((uint64_t)(pvalue->pdsch_Identity - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "PDSCH-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->pdsch_Identity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PDSCH-Identity", "pdsch-Identity", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pdsch_Identity, 1, 64);
+   RT_CHECK_PUT(ctx, cur, stat, "PDSCH-Identity", "pdsch-Identity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_CapacityAllocationInfo_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_configuration_old_Configuration* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_CapacityAllocationInfo_configuration_old_Configuration, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDSCH_CapacityAllocationInfo_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_configuration_new_Configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pdsch-Info */
+   stat = enc_PDSCH_Info(ctx, &pvalue->pdsch_Info, cur);
+   RT_CHECK(ctx, stat, 0, "pdsch-Info", -1, 0);
+   /* pdsch-Identity */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->pdsch_Identity - 1) > 63u) {
+         rtxErrAddStrParm(ctx, "PDSCH-Identity");
+         rtxErrAddUIntParm(ctx, pvalue->pdsch_Identity);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PDSCH-Identity", "pdsch-Identity", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->pdsch_Identity, 1, 64);
+      RT_CHECK_PUT(ctx, cur, stat, "PDSCH-Identity", "pdsch-Identity", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_CapacityAllocationInfo_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_configuration_new_Configuration* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_CapacityAllocationInfo_configuration_new_Configuration, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDSCH_CapacityAllocationInfo_configuration(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.old_Configuration == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "old-Configuration", -1, 0);
+         stat = enc_PDSCH_CapacityAllocationInfo_configuration_old_Configuration(ctx, pvalue->u.old_Configuration, cur);
+         RT_CHECK(ctx, stat, 0, "old-Configuration", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.new_Configuration == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "new-Configuration", -1, 0);
+         stat = enc_PDSCH_CapacityAllocationInfo_configuration_new_Configuration(ctx, pvalue->u.new_Configuration, cur);
+         RT_CHECK(ctx, stat, 0, "new-Configuration", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_CapacityAllocationInfo_configuration(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_configuration* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_CapacityAllocationInfo_configuration, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDSCH_CapacityAllocationInfo(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-CapacityAllocationInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PDSCH-CapacityAllocationInfo");
+   /* pdsch-PowerControlInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PDSCH_PowerControlInfo(ctx, &pvalue->pdsch_PowerControlInfo, cur);
+      RT_CHECK(ctx, stat, 0, "pdsch-PowerControlInfo", -1, "PDSCH-CapacityAllocationInfo");
+   }
+   /* pdsch-AllocationPeriodInfo */
+   stat = enc_AllocationPeriodInfo(ctx, &pvalue->pdsch_AllocationPeriodInfo, cur);
+   RT_CHECK(ctx, stat, 0, "pdsch-AllocationPeriodInfo", -1, "PDSCH-CapacityAllocationInfo");
+   /* configuration */
+   stat = enc_PDSCH_CapacityAllocationInfo_configuration(ctx, &pvalue->configuration, cur);
+   RT_CHECK(ctx, stat, 0, "configuration", -1, "PDSCH-CapacityAllocationInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_CapacityAllocationInfo(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_CapacityAllocationInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDSCH_CapacityAllocationInfo_r4_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_r4_configuration_old_Configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->tfcs_ID != 1) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tfcs-ID */
+   if (pvalue->tfcs_ID != 1) {
+      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
+         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
+         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, 0);
+   }
+   /* pdsch-Identity */
+   if ((uint64_t)(pvalue->pdsch_Identity - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "PDSCH-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->pdsch_Identity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PDSCH-Identity", "pdsch-Identity", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pdsch_Identity, 1, 64);
+   RT_CHECK_PUT(ctx, cur, stat, "PDSCH-Identity", "pdsch-Identity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_CapacityAllocationInfo_r4_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_r4_configuration_old_Configuration* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_CapacityAllocationInfo_r4_configuration_old_Configuration, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDSCH_Info_r4_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_r4_tddOption_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pdsch-TimeslotsCodes */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DownlinkTimeslotsCodes(ctx, &pvalue->pdsch_TimeslotsCodes, cur);
+      RT_CHECK(ctx, stat, 0, "pdsch-TimeslotsCodes", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_Info_r4_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_r4_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_Info_r4_tddOption_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDSCH_Info_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_r4_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pdsch-TimeslotsCodes */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DownlinkTimeslotsCodes_LCR_r4(ctx, &pvalue->pdsch_TimeslotsCodes, cur);
+      RT_CHECK(ctx, stat, 0, "pdsch-TimeslotsCodes", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_Info_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_r4_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_Info_r4_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDSCH_Info_r4_tddOption(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_r4_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = enc_PDSCH_Info_r4_tddOption_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_PDSCH_Info_r4_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_Info_r4_tddOption(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_r4_tddOption* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_Info_r4_tddOption, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDSCH_Info_r4(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-Info-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->tfcs_ID != 1) << 1) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PDSCH-Info-r4");
+   /* tfcs-ID */
+   if (pvalue->tfcs_ID != 1) {
+      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
+         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
+         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "PDSCH-Info-r4");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PDSCH-Info-r4");
+   }
+   /* commonTimeslotInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo, cur);
+      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "PDSCH-Info-r4");
+   }
+   /* tddOption */
+   stat = enc_PDSCH_Info_r4_tddOption(ctx, &pvalue->tddOption, cur);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, "PDSCH-Info-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_Info_r4(rtxContext* RT_RESTRICT ctx, const PDSCH_Info_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_Info_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDSCH_CapacityAllocationInfo_r4_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_r4_configuration_new_Configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pdsch-Info */
+   stat = enc_PDSCH_Info_r4(ctx, &pvalue->pdsch_Info, cur);
+   RT_CHECK(ctx, stat, 0, "pdsch-Info", -1, 0);
+   /* pdsch-Identity */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->pdsch_Identity - 1) > 63u) {
+         rtxErrAddStrParm(ctx, "PDSCH-Identity");
+         rtxErrAddUIntParm(ctx, pvalue->pdsch_Identity);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PDSCH-Identity", "pdsch-Identity", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->pdsch_Identity, 1, 64);
+      RT_CHECK_PUT(ctx, cur, stat, "PDSCH-Identity", "pdsch-Identity", -1, 0);
+   }
+   /* pdsch-PowerControlInfo */
+   if (pvalue->m & 0x2u) {
+      stat = enc_PDSCH_PowerControlInfo(ctx, &pvalue->pdsch_PowerControlInfo, cur);
+      RT_CHECK(ctx, stat, 0, "pdsch-PowerControlInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_CapacityAllocationInfo_r4_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_r4_configuration_new_Configuration* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_CapacityAllocationInfo_r4_configuration_new_Configuration, pvalue);
+}
+
+static int enc_PDSCH_CapacityAllocationInfo_r4_configuration(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_r4_configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.old_Configuration == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "old-Configuration", -1, 0);
+         stat = enc_PDSCH_CapacityAllocationInfo_r4_configuration_old_Configuration(ctx, pvalue->u.old_Configuration, cur);
+         RT_CHECK(ctx, stat, 0, "old-Configuration", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.new_Configuration == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "new-Configuration", -1, 0);
+         stat = enc_PDSCH_CapacityAllocationInfo_r4_configuration_new_Configuration(ctx, pvalue->u.new_Configuration, cur);
+         RT_CHECK(ctx, stat, 0, "new-Configuration", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_CapacityAllocationInfo_r4_configuration(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_r4_configuration* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_CapacityAllocationInfo_r4_configuration, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDSCH_CapacityAllocationInfo_r4(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-CapacityAllocationInfo-r4");
+   /* pdsch-AllocationPeriodInfo */
+   stat = enc_AllocationPeriodInfo(ctx, &pvalue->pdsch_AllocationPeriodInfo, cur);
+   RT_CHECK(ctx, stat, 0, "pdsch-AllocationPeriodInfo", -1, "PDSCH-CapacityAllocationInfo-r4");
+   /* configuration */
+   stat = enc_PDSCH_CapacityAllocationInfo_r4_configuration(ctx, &pvalue->configuration, cur);
+   RT_CHECK(ctx, stat, 0, "configuration", -1, "PDSCH-CapacityAllocationInfo-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_CapacityAllocationInfo_r4(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_CapacityAllocationInfo_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDSCH_CapacityAllocationInfo_r7_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_r7_configuration_old_Configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->tfcs_ID != 1) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tfcs-ID */
+   if (pvalue->tfcs_ID != 1) {
+      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
+         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
+         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, 0);
+   }
+   /* pdsch-Identity */
+   if ((uint64_t)(pvalue->pdsch_Identity - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "PDSCH-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->pdsch_Identity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PDSCH-Identity", "pdsch-Identity", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pdsch_Identity, 1, 64);
+   RT_CHECK_PUT(ctx, cur, stat, "PDSCH-Identity", "pdsch-Identity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_CapacityAllocationInfo_r7_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_r7_configuration_old_Configuration* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_CapacityAllocationInfo_r7_configuration_old_Configuration, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDSCH_CapacityAllocationInfo_r7_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_r7_configuration_new_Configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pdsch-Info */
+   stat = enc_PDSCH_Info_r7(ctx, &pvalue->pdsch_Info, cur);
+   RT_CHECK(ctx, stat, 0, "pdsch-Info", -1, 0);
+   /* pdsch-Identity */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->pdsch_Identity - 1) > 63u) {
+         rtxErrAddStrParm(ctx, "PDSCH-Identity");
+         rtxErrAddUIntParm(ctx, pvalue->pdsch_Identity);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PDSCH-Identity", "pdsch-Identity", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->pdsch_Identity, 1, 64);
+      RT_CHECK_PUT(ctx, cur, stat, "PDSCH-Identity", "pdsch-Identity", -1, 0);
+   }
+   /* pdsch-PowerControlInfo */
+   if (pvalue->m & 0x2u) {
+      stat = enc_PDSCH_PowerControlInfo(ctx, &pvalue->pdsch_PowerControlInfo, cur);
+      RT_CHECK(ctx, stat, 0, "pdsch-PowerControlInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_CapacityAllocationInfo_r7_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_r7_configuration_new_Configuration* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_CapacityAllocationInfo_r7_configuration_new_Configuration, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDSCH_CapacityAllocationInfo_r7_configuration(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_r7_configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.old_Configuration == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "old-Configuration", -1, 0);
+         stat = enc_PDSCH_CapacityAllocationInfo_r7_configuration_old_Configuration(ctx, pvalue->u.old_Configuration, cur);
+         RT_CHECK(ctx, stat, 0, "old-Configuration", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.new_Configuration == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "new-Configuration", -1, 0);
+         stat = enc_PDSCH_CapacityAllocationInfo_r7_configuration_new_Configuration(ctx, pvalue->u.new_Configuration, cur);
+         RT_CHECK(ctx, stat, 0, "new-Configuration", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_CapacityAllocationInfo_r7_configuration(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_r7_configuration* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_CapacityAllocationInfo_r7_configuration, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDSCH_CapacityAllocationInfo_r7(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-CapacityAllocationInfo-r7");
+   /* pdsch-AllocationPeriodInfo */
+   stat = enc_AllocationPeriodInfo(ctx, &pvalue->pdsch_AllocationPeriodInfo, cur);
+   RT_CHECK(ctx, stat, 0, "pdsch-AllocationPeriodInfo", -1, "PDSCH-CapacityAllocationInfo-r7");
+   /* configuration */
+   stat = enc_PDSCH_CapacityAllocationInfo_r7_configuration(ctx, &pvalue->configuration, cur);
+   RT_CHECK(ctx, stat, 0, "configuration", -1, "PDSCH-CapacityAllocationInfo-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_CapacityAllocationInfo_r7(rtxContext* RT_RESTRICT ctx, const PDSCH_CapacityAllocationInfo_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_CapacityAllocationInfo_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDSCH_SysInfoList(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-SysInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "PDSCH-SysInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "PDSCH-SysInfo", (int32_t)i, "PDSCH-SysInfoList");
+      stat = enc_PDSCH_SysInfo(ctx, (const PDSCH_SysInfo*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "PDSCH-SysInfo", (int32_t)i, "PDSCH-SysInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_SysInfoList(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_SysInfoList, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDSCH_SysInfoList_HCR_r5(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList_HCR_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-SysInfoList-HCR-r5");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "PDSCH-SysInfoList-HCR-r5");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "PDSCH-SysInfo-HCR-r5", (int32_t)i, "PDSCH-SysInfoList-HCR-r5");
+      stat = enc_PDSCH_SysInfo_HCR_r5(ctx, (const PDSCH_SysInfo_HCR_r5*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "PDSCH-SysInfo-HCR-r5", (int32_t)i, "PDSCH-SysInfoList-HCR-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_SysInfoList_HCR_r5(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList_HCR_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_SysInfoList_HCR_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_PDSCH_SysInfoList_LCR_r4(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PDSCH-SysInfoList-LCR-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "PDSCH-SysInfoList-LCR-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "PDSCH-SysInfo-LCR-r4", (int32_t)i, "PDSCH-SysInfoList-LCR-r4");
+      stat = enc_PDSCH_SysInfo_LCR_r4(ctx, (const PDSCH_SysInfo_LCR_r4*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "PDSCH-SysInfo-LCR-r4", (int32_t)i, "PDSCH-SysInfoList-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PDSCH_SysInfoList_LCR_r4(rtxContext* RT_RESTRICT ctx, const PDSCH_SysInfoList_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PDSCH_SysInfoList_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_TPC_CommandTargetRate(rtxContext* RT_RESTRICT ctx, TPC_CommandTargetRate value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 10u) {
+      rtxErrAddStrParm(ctx, "TPC-CommandTargetRate");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "TPC-CommandTargetRate");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 10);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TPC-CommandTargetRate");
+   return 0;
+}
+
+int asn1PE_UMTS_TPC_CommandTargetRate(rtxContext* RT_RESTRICT ctx, TPC_CommandTargetRate value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TPC_CommandTargetRate, value);
+}
+
+RT_MERGED_BODY int enc_PLCCH_Info(rtxContext* RT_RESTRICT ctx, const PLCCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PLCCH-Info");
+   /* plcchSequenceNumber */
+   if ((uint64_t)(pvalue->plcchSequenceNumber - 1) > 13u) {
+      rtxErrAddStrParm(ctx, "plcchSequenceNumber");
+      rtxErrAddUIntParm(ctx, pvalue->plcchSequenceNumber);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "plcchSequenceNumber", -1, "PLCCH-Info");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->plcchSequenceNumber, 1, 14);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "plcchSequenceNumber", -1, "PLCCH-Info");
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 6u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "PLCCH-Info");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslotNumber, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber-LCR-r4", "timeslotNumber", -1, "PLCCH-Info");
+   /* channelisationCode */
+   if (pvalue->channelisationCode > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "DL-TS-ChannelisationCode", "channelisationCode", -1, "PLCCH-Info");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->channelisationCode, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "DL-TS-ChannelisationCode", "channelisationCode", -1, "PLCCH-Info");
+   /* tpcCommandTargetRate */
+   if ((uint64_t)pvalue->tpcCommandTargetRate > 10u) {
+      rtxErrAddStrParm(ctx, "TPC-CommandTargetRate");
+      rtxErrAddUIntParm(ctx, pvalue->tpcCommandTargetRate);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TPC-CommandTargetRate", "tpcCommandTargetRate", -1, "PLCCH-Info");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tpcCommandTargetRate, 0, 10);
+   RT_CHECK_PUT(ctx, cur, stat, "TPC-CommandTargetRate", "tpcCommandTargetRate", -1, "PLCCH-Info");
+   return 0;
+}
+
+int asn1PE_UMTS_PLCCH_Info(rtxContext* RT_RESTRICT ctx, const PLCCH_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PLCCH_Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->tfcs_ID != 1) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tfcs-ID */
+   if (pvalue->tfcs_ID != 1) {
+      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
+         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
+         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, 0);
+   }
+   /* pusch-Identity */
+   if ((uint64_t)(pvalue->pusch_Identity - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "PUSCH-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->pusch_Identity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PUSCH-Identity", "pusch-Identity", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pusch_Identity, 1, 64);
+   RT_CHECK_PUT(ctx, cur, stat, "PUSCH-Identity", "pusch-Identity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration, pvalue);
+}
+
+RT_MERGED_BODY int enc_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pusch-Info */
+   stat = enc_PUSCH_Info(ctx, &pvalue->pusch_Info, cur);
+   RT_CHECK(ctx, stat, 0, "pusch-Info", -1, 0);
+   /* pusch-Identity */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->pusch_Identity - 1) > 63u) {
+         rtxErrAddStrParm(ctx, "PUSCH-Identity");
+         rtxErrAddUIntParm(ctx, pvalue->pusch_Identity);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PUSCH-Identity", "pusch-Identity", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->pusch_Identity, 1, 64);
+      RT_CHECK_PUT(ctx, cur, stat, "PUSCH-Identity", "pusch-Identity", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration, pvalue);
+}
+
+RT_MERGED_BODY int enc_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.old_Configuration == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "old-Configuration", -1, 0);
+         stat = enc_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(ctx, pvalue->u.old_Configuration, cur);
+         RT_CHECK(ctx, stat, 0, "old-Configuration", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.new_Configuration == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "new-Configuration", -1, 0);
+         stat = enc_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(ctx, pvalue->u.new_Configuration, cur);
+         RT_CHECK(ctx, stat, 0, "new-Configuration", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration, pvalue);
+}
+
+RT_MERGED_BODY int enc_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pusch-AllocationPeriodInfo */
+   stat = enc_AllocationPeriodInfo(ctx, &pvalue->pusch_AllocationPeriodInfo, cur);
+   RT_CHECK(ctx, stat, 0, "pusch-AllocationPeriodInfo", -1, 0);
+   /* pusch-PowerControlInfo */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->pusch_PowerControlInfo > 62u) {
+         rtxErrAddStrParm(ctx, "UL-TargetSIR");
+         rtxErrAddUIntParm(ctx, pvalue->pusch_PowerControlInfo);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UL-TargetSIR", "pusch-PowerControlInfo", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->pusch_PowerControlInfo, 0, 62);
+      RT_CHECK_PUT(ctx, cur, stat, "UL-TargetSIR", "pusch-PowerControlInfo", -1, 0);
+   }
+   /* configuration */
+   stat = enc_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment_configuration(ctx, &pvalue->configuration, cur);
+   RT_CHECK(ctx, stat, 0, "configuration", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment, pvalue);
+}
+
+RT_MERGED_BODY int enc_PUSCH_CapacityAllocationInfo_pusch_Allocation(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_pusch_Allocation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.pusch_AllocationAssignment == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "pusch-AllocationAssignment", -1, 0);
+         stat = enc_PUSCH_CapacityAllocationInfo_pusch_Allocation_pusch_AllocationAssignment(ctx, pvalue->u.pusch_AllocationAssignment, cur);
+         RT_CHECK(ctx, stat, 0, "pusch-AllocationAssignment", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_pusch_Allocation(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_pusch_Allocation* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_CapacityAllocationInfo_pusch_Allocation, pvalue);
+}
+
+RT_MERGED_BODY int enc_PUSCH_CapacityAllocationInfo(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-CapacityAllocationInfo");
+   /* pusch-Allocation */
+   stat = enc_PUSCH_CapacityAllocationInfo_pusch_Allocation(ctx, &pvalue->pusch_Allocation, cur);
+   RT_CHECK(ctx, stat, 0, "pusch-Allocation", -1, "PUSCH-CapacityAllocationInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCH_CapacityAllocationInfo(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_CapacityAllocationInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_PUSCH_PowerControlInfo_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const PUSCH_PowerControlInfo_r4_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tpc-StepSize */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->tpc_StepSize - 1) > 2u) {
+         rtxErrAddStrParm(ctx, "TPC-StepSizeTDD");
+         rtxErrAddUIntParm(ctx, pvalue->tpc_StepSize);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tpc_StepSize, 1, 3);
+      RT_CHECK_PUT(ctx, cur, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCH_PowerControlInfo_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const PUSCH_PowerControlInfo_r4_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_PowerControlInfo_r4_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int enc_PUSCH_PowerControlInfo_r4_tddOption(rtxContext* RT_RESTRICT ctx, const PUSCH_PowerControlInfo_r4_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_PUSCH_PowerControlInfo_r4_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCH_PowerControlInfo_r4_tddOption(rtxContext* RT_RESTRICT ctx, const PUSCH_PowerControlInfo_r4_tddOption* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_PowerControlInfo_r4_tddOption, pvalue);
+}
+
+RT_MERGED_BODY int enc_PUSCH_PowerControlInfo_r4(rtxContext* RT_RESTRICT ctx, const PUSCH_PowerControlInfo_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-PowerControlInfo-r4");
+   /* ul-TargetSIR */
+   if ((uint64_t)pvalue->ul_TargetSIR > 62u) {
+      rtxErrAddStrParm(ctx, "UL-TargetSIR");
+      rtxErrAddUIntParm(ctx, pvalue->ul_TargetSIR);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UL-TargetSIR", "ul-TargetSIR", -1, "PUSCH-PowerControlInfo-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ul_TargetSIR, 0, 62);
+   RT_CHECK_PUT(ctx, cur, stat, "UL-TargetSIR", "ul-TargetSIR", -1, "PUSCH-PowerControlInfo-r4");
+   /* tddOption */
+   stat = enc_PUSCH_PowerControlInfo_r4_tddOption(ctx, &pvalue->tddOption, cur);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, "PUSCH-PowerControlInfo-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCH_PowerControlInfo_r4(rtxContext* RT_RESTRICT ctx, const PUSCH_PowerControlInfo_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_PowerControlInfo_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->tfcs_ID != 1) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tfcs-ID */
+   if (pvalue->tfcs_ID != 1) {
+      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
+         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
+         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, 0);
+   }
+   /* pusch-Identity */
+   if ((uint64_t)(pvalue->pusch_Identity - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "PUSCH-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->pusch_Identity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PUSCH-Identity", "pusch-Identity", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pusch_Identity, 1, 64);
+   RT_CHECK_PUT(ctx, cur, stat, "PUSCH-Identity", "pusch-Identity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration, pvalue);
+}
+
+RT_MERGED_BODY int enc_PUSCH_Info_r4_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const PUSCH_Info_r4_tddOption_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pusch-TimeslotsCodes */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UplinkTimeslotsCodes(ctx, &pvalue->pusch_TimeslotsCodes, cur);
+      RT_CHECK(ctx, stat, 0, "pusch-TimeslotsCodes", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCH_Info_r4_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const PUSCH_Info_r4_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_Info_r4_tddOption_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int enc_PUSCH_Info_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const PUSCH_Info_r4_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pusch-TimeslotsCodes */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UplinkTimeslotsCodes_LCR_r4(ctx, &pvalue->pusch_TimeslotsCodes, cur);
+      RT_CHECK(ctx, stat, 0, "pusch-TimeslotsCodes", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCH_Info_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const PUSCH_Info_r4_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_Info_r4_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int enc_PUSCH_Info_r4_tddOption(rtxContext* RT_RESTRICT ctx, const PUSCH_Info_r4_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = enc_PUSCH_Info_r4_tddOption_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_PUSCH_Info_r4_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCH_Info_r4_tddOption(rtxContext* RT_RESTRICT ctx, const PUSCH_Info_r4_tddOption* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_Info_r4_tddOption, pvalue);
+}
+
+RT_MERGED_BODY int enc_PUSCH_Info_r4(rtxContext* RT_RESTRICT ctx, const PUSCH_Info_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-Info-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->tfcs_ID != 1) << 1) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PUSCH-Info-r4");
+   /* tfcs-ID */
+   if (pvalue->tfcs_ID != 1) {
+      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
+         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
+         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "PUSCH-Info-r4");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "PUSCH-Info-r4");
+   }
+   /* commonTimeslotInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo, cur);
+      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "PUSCH-Info-r4");
+   }
+   /* tddOption */
+   stat = enc_PUSCH_Info_r4_tddOption(ctx, &pvalue->tddOption, cur);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, "PUSCH-Info-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCH_Info_r4(rtxContext* RT_RESTRICT ctx, const PUSCH_Info_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_Info_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pusch-Info */
+   stat = enc_PUSCH_Info_r4(ctx, &pvalue->pusch_Info, cur);
+   RT_CHECK(ctx, stat, 0, "pusch-Info", -1, 0);
+   /* pusch-Identity */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->pusch_Identity - 1) > 63u) {
+         rtxErrAddStrParm(ctx, "PUSCH-Identity");
+         rtxErrAddUIntParm(ctx, pvalue->pusch_Identity);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PUSCH-Identity", "pusch-Identity", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->pusch_Identity, 1, 64);
+      RT_CHECK_PUT(ctx, cur, stat, "PUSCH-Identity", "pusch-Identity", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration, pvalue);
+}
+
+RT_MERGED_BODY int enc_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.old_Configuration == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "old-Configuration", -1, 0);
+         stat = enc_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(ctx, pvalue->u.old_Configuration, cur);
+         RT_CHECK(ctx, stat, 0, "old-Configuration", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.new_Configuration == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "new-Configuration", -1, 0);
+         stat = enc_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(ctx, pvalue->u.new_Configuration, cur);
+         RT_CHECK(ctx, stat, 0, "new-Configuration", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration, pvalue);
+}
+
+static int enc_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pusch-AllocationPeriodInfo */
+   stat = enc_AllocationPeriodInfo(ctx, &pvalue->pusch_AllocationPeriodInfo, cur);
+   RT_CHECK(ctx, stat, 0, "pusch-AllocationPeriodInfo", -1, 0);
+   /* pusch-PowerControlInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PUSCH_PowerControlInfo_r4(ctx, &pvalue->pusch_PowerControlInfo, cur);
+      RT_CHECK(ctx, stat, 0, "pusch-PowerControlInfo", -1, 0);
+   }
+   /* configuration */
+   stat = enc_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment_configuration(ctx, &pvalue->configuration, cur);
+   RT_CHECK(ctx, stat, 0, "configuration", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment, pvalue);
+}
+
+RT_MERGED_BODY int enc_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r4_pusch_Allocation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.pusch_AllocationAssignment == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "pusch-AllocationAssignment", -1, 0);
+         stat = enc_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation_pusch_AllocationAssignment(ctx, pvalue->u.pusch_AllocationAssignment, cur);
+         RT_CHECK(ctx, stat, 0, "pusch-AllocationAssignment", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r4_pusch_Allocation* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation, pvalue);
+}
+
+RT_MERGED_BODY int enc_PUSCH_CapacityAllocationInfo_r4(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-CapacityAllocationInfo-r4");
+   /* pusch-Allocation */
+   stat = enc_PUSCH_CapacityAllocationInfo_r4_pusch_Allocation(ctx, &pvalue->pusch_Allocation, cur);
+   RT_CHECK(ctx, stat, 0, "pusch-Allocation", -1, "PUSCH-CapacityAllocationInfo-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r4(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_CapacityAllocationInfo_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_PUSCH_PowerControlInfo_r7_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const PUSCH_PowerControlInfo_r7_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tpc-StepSize */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->tpc_StepSize - 1) > 2u) {
+         rtxErrAddStrParm(ctx, "TPC-StepSizeTDD");
+         rtxErrAddUIntParm(ctx, pvalue->tpc_StepSize);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tpc_StepSize, 1, 3);
+      RT_CHECK_PUT(ctx, cur, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCH_PowerControlInfo_r7_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const PUSCH_PowerControlInfo_r7_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_PowerControlInfo_r7_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int enc_PUSCH_PowerControlInfo_r7_tddOption(rtxContext* RT_RESTRICT ctx, const PUSCH_PowerControlInfo_r7_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_PUSCH_PowerControlInfo_r7_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCH_PowerControlInfo_r7_tddOption(rtxContext* RT_RESTRICT ctx, const PUSCH_PowerControlInfo_r7_tddOption* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_PowerControlInfo_r7_tddOption, pvalue);
+}
+
+RT_MERGED_BODY int enc_PUSCH_PowerControlInfo_r7(rtxContext* RT_RESTRICT ctx, const PUSCH_PowerControlInfo_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-PowerControlInfo-r7");
+   /* ul-TargetSIR */
+   if ((uint64_t)pvalue->ul_TargetSIR > 62u) {
+      rtxErrAddStrParm(ctx, "UL-TargetSIR");
+      rtxErrAddUIntParm(ctx, pvalue->ul_TargetSIR);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UL-TargetSIR", "ul-TargetSIR", -1, "PUSCH-PowerControlInfo-r7");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ul_TargetSIR, 0, 62);
+   RT_CHECK_PUT(ctx, cur, stat, "UL-TargetSIR", "ul-TargetSIR", -1, "PUSCH-PowerControlInfo-r7");
+   /* tddOption */
+   stat = enc_PUSCH_PowerControlInfo_r7_tddOption(ctx, &pvalue->tddOption, cur);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, "PUSCH-PowerControlInfo-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCH_PowerControlInfo_r7(rtxContext* RT_RESTRICT ctx, const PUSCH_PowerControlInfo_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_PowerControlInfo_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->tfcs_ID != 1) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tfcs-ID */
+   if (pvalue->tfcs_ID != 1) {
+      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
+         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
+         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, 0);
+   }
+   /* pusch-Identity */
+   if ((uint64_t)(pvalue->pusch_Identity - 1) > 63u) {
+      rtxErrAddStrParm(ctx, "PUSCH-Identity");
+      rtxErrAddUIntParm(ctx, pvalue->pusch_Identity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PUSCH-Identity", "pusch-Identity", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pusch_Identity, 1, 64);
+   RT_CHECK_PUT(ctx, cur, stat, "PUSCH-Identity", "pusch-Identity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration, pvalue);
+}
+
+RT_MERGED_BODY int enc_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pusch-Info */
+   stat = enc_PUSCH_Info_VHCR(ctx, &pvalue->pusch_Info, cur);
+   RT_CHECK(ctx, stat, 0, "pusch-Info", -1, 0);
+   /* pusch-Identity */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->pusch_Identity - 1) > 63u) {
+         rtxErrAddStrParm(ctx, "PUSCH-Identity");
+         rtxErrAddUIntParm(ctx, pvalue->pusch_Identity);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PUSCH-Identity", "pusch-Identity", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->pusch_Identity, 1, 64);
+      RT_CHECK_PUT(ctx, cur, stat, "PUSCH-Identity", "pusch-Identity", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration, pvalue);
+}
+
+RT_MERGED_BODY int enc_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.old_Configuration == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "old-Configuration", -1, 0);
+         stat = enc_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_old_Configuration(ctx, pvalue->u.old_Configuration, cur);
+         RT_CHECK(ctx, stat, 0, "old-Configuration", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.new_Configuration == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "new-Configuration", -1, 0);
+         stat = enc_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration_new_Configuration(ctx, pvalue->u.new_Configuration, cur);
+         RT_CHECK(ctx, stat, 0, "new-Configuration", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration, pvalue);
+}
+
+RT_MERGED_BODY int enc_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* pusch-AllocationPeriodInfo */
+   stat = enc_AllocationPeriodInfo(ctx, &pvalue->pusch_AllocationPeriodInfo, cur);
+   RT_CHECK(ctx, stat, 0, "pusch-AllocationPeriodInfo", -1, 0);
+   /* pusch-PowerControlInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PUSCH_PowerControlInfo_r7(ctx, &pvalue->pusch_PowerControlInfo, cur);
+      RT_CHECK(ctx, stat, 0, "pusch-PowerControlInfo", -1, 0);
+   }
+   /* configuration */
+   stat = enc_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment_configuration(ctx, &pvalue->configuration, cur);
+   RT_CHECK(ctx, stat, 0, "configuration", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment, pvalue);
+}
+
+RT_MERGED_BODY int enc_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r7_pusch_Allocation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.pusch_AllocationAssignment == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "pusch-AllocationAssignment", -1, 0);
+         stat = enc_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation_pusch_AllocationAssignment(ctx, pvalue->u.pusch_AllocationAssignment, cur);
+         RT_CHECK(ctx, stat, 0, "pusch-AllocationAssignment", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r7_pusch_Allocation* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation, pvalue);
+}
+
+RT_MERGED_BODY int enc_PUSCH_CapacityAllocationInfo_r7(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-CapacityAllocationInfo-r7");
+   /* pusch-Allocation */
+   stat = enc_PUSCH_CapacityAllocationInfo_r7_pusch_Allocation(ctx, &pvalue->pusch_Allocation, cur);
+   RT_CHECK(ctx, stat, 0, "pusch-Allocation", -1, "PUSCH-CapacityAllocationInfo-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCH_CapacityAllocationInfo_r7(rtxContext* RT_RESTRICT ctx, const PUSCH_CapacityAllocationInfo_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_CapacityAllocationInfo_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_PUSCH_SysInfoList(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-SysInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "PUSCH-SysInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "PUSCH-SysInfo", (int32_t)i, "PUSCH-SysInfoList");
+      stat = enc_PUSCH_SysInfo(ctx, (const PUSCH_SysInfo*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "PUSCH-SysInfo", (int32_t)i, "PUSCH-SysInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCH_SysInfoList(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_SysInfoList, pvalue);
+}
+
+RT_MERGED_BODY int enc_PUSCH_SysInfoList_HCR_r5(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_HCR_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-SysInfoList-HCR-r5");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "PUSCH-SysInfoList-HCR-r5");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "PUSCH-SysInfo-HCR-r5", (int32_t)i, "PUSCH-SysInfoList-HCR-r5");
+      stat = enc_PUSCH_SysInfo_HCR_r5(ctx, (const PUSCH_SysInfo_HCR_r5*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "PUSCH-SysInfo-HCR-r5", (int32_t)i, "PUSCH-SysInfoList-HCR-r5");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCH_SysInfoList_HCR_r5(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_HCR_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_SysInfoList_HCR_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_PUSCH_SysInfoList_LCR_r4(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PUSCH-SysInfoList-LCR-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "PUSCH-SysInfoList-LCR-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "PUSCH-SysInfo-LCR-r4", (int32_t)i, "PUSCH-SysInfoList-LCR-r4");
+      stat = enc_PUSCH_SysInfo_LCR_r4(ctx, (const PUSCH_SysInfo_LCR_r4*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "PUSCH-SysInfo-LCR-r4", (int32_t)i, "PUSCH-SysInfoList-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PUSCH_SysInfoList_LCR_r4(rtxContext* RT_RESTRICT ctx, const PUSCH_SysInfoList_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PUSCH_SysInfoList_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_ReducedScramblingCodeNumber(rtxContext* RT_RESTRICT ctx, ReducedScramblingCodeNumber value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 8191u) {
+      rtxErrAddStrParm(ctx, "ReducedScramblingCodeNumber");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "ReducedScramblingCodeNumber");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 8191);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ReducedScramblingCodeNumber");
+   return 0;
+}
+
+int asn1PE_UMTS_ReducedScramblingCodeNumber(rtxContext* RT_RESTRICT ctx, ReducedScramblingCodeNumber value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ReducedScramblingCodeNumber, value);
+}
+
+RT_MERGED_BODY int enc_RepPerLengthOffset_MICH(rtxContext* RT_RESTRICT ctx, const RepPerLengthOffset_MICH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RepPerLengthOffset-MICH");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "RepPerLengthOffset-MICH");
+   if (pvalue->t - 1 > 8) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "RepPerLengthOffset-MICH");
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)pvalue->u.rpp4_2 > 3u) {
+            rtxErrAddStrParm(ctx, "rpp4-2");
+            rtxErrAddUIntParm(ctx, pvalue->u.rpp4_2);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "rpp4-2", -1, "RepPerLengthOffset-MICH");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.rpp4_2, 0, 3);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "rpp4-2", -1, "RepPerLengthOffset-MICH");
+         break;
+      case 2:
+         if ((uint64_t)pvalue->u.rpp8_2 > 7u) {
+            rtxErrAddStrParm(ctx, "rpp8-2");
+            rtxErrAddUIntParm(ctx, pvalue->u.rpp8_2);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "rpp8-2", -1, "RepPerLengthOffset-MICH");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.rpp8_2, 0, 7);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "rpp8-2", -1, "RepPerLengthOffset-MICH");
+         break;
+      case 3:
+         if ((uint64_t)pvalue->u.rpp8_4 > 7u) {
+            rtxErrAddStrParm(ctx, "rpp8-4");
+            rtxErrAddUIntParm(ctx, pvalue->u.rpp8_4);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "rpp8-4", -1, "RepPerLengthOffset-MICH");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.rpp8_4, 0, 7);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "rpp8-4", -1, "RepPerLengthOffset-MICH");
+         break;
+      case 4:
+         if ((uint64_t)pvalue->u.rpp16_2 > 15u) {
+            rtxErrAddStrParm(ctx, "rpp16-2");
+            rtxErrAddUIntParm(ctx, pvalue->u.rpp16_2);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "rpp16-2", -1, "RepPerLengthOffset-MICH");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.rpp16_2, 0, 15);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "rpp16-2", -1, "RepPerLengthOffset-MICH");
+         break;
+      case 5:
+         if ((uint64_t)pvalue->u.rpp16_4 > 15u) {
+            rtxErrAddStrParm(ctx, "rpp16-4");
+            rtxErrAddUIntParm(ctx, pvalue->u.rpp16_4);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "rpp16-4", -1, "RepPerLengthOffset-MICH");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.rpp16_4, 0, 15);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "rpp16-4", -1, "RepPerLengthOffset-MICH");
+         break;
+      case 6:
+         if ((uint64_t)pvalue->u.rpp32_2 > 31u) {
+            rtxErrAddStrParm(ctx, "rpp32-2");
+            rtxErrAddUIntParm(ctx, pvalue->u.rpp32_2);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "rpp32-2", -1, "RepPerLengthOffset-MICH");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.rpp32_2, 0, 31);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "rpp32-2", -1, "RepPerLengthOffset-MICH");
+         break;
+      case 7:
+         if ((uint64_t)pvalue->u.rpp32_4 > 31u) {
+            rtxErrAddStrParm(ctx, "rpp32-4");
+            rtxErrAddUIntParm(ctx, pvalue->u.rpp32_4);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "rpp32-4", -1, "RepPerLengthOffset-MICH");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.rpp32_4, 0, 31);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "rpp32-4", -1, "RepPerLengthOffset-MICH");
+         break;
+      case 8:
+         if ((uint64_t)pvalue->u.rpp64_2 > 63u) {
+            rtxErrAddStrParm(ctx, "rpp64-2");
+            rtxErrAddUIntParm(ctx, pvalue->u.rpp64_2);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "rpp64-2", -1, "RepPerLengthOffset-MICH");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.rpp64_2, 0, 63);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "rpp64-2", -1, "RepPerLengthOffset-MICH");
+         break;
+      case 9:
+         if ((uint64_t)pvalue->u.rpp64_4 > 63u) {
+            rtxErrAddStrParm(ctx, "rpp64-4");
+            rtxErrAddUIntParm(ctx, pvalue->u.rpp64_4);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "rpp64-4", -1, "RepPerLengthOffset-MICH");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.rpp64_4, 0, 63);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "rpp64-4", -1, "RepPerLengthOffset-MICH");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RepPerLengthOffset_MICH(rtxContext* RT_RESTRICT ctx, const RepPerLengthOffset_MICH* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RepPerLengthOffset_MICH, pvalue);
+}
+
+RT_MERGED_BODY int enc_RL_AdditionInformation(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RL-AdditionInformation");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RL-AdditionInformation");
+   /* primaryCPICH-Info */
+   stat = enc_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "RL-AdditionInformation");
+   /* dl-DPCH-InfoPerRL */
+   stat = enc_DL_DPCH_InfoPerRL(ctx, &pvalue->dl_DPCH_InfoPerRL, cur);
+   RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, "RL-AdditionInformation");
+   /* dummy */
+   stat = rtxEncBitAt(ctx, cur, pvalue->dummy);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "dummy", -1, "RL-AdditionInformation");
+   /* dummy2 */
+   if (pvalue->m & 0x1u) {
+      stat = enc_SCCPCH_InfoForFACH(ctx, &pvalue->dummy2, cur);
+      RT_CHECK(ctx, stat, 0, "dummy2", -1, "RL-AdditionInformation");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RL_AdditionInformation(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RL_AdditionInformation, pvalue);
+}
+
+RT_MERGED_BODY int enc_RL_AdditionInformation_r6_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_r6_dl_dpchInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.dl_DPCH_InfoPerRL == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dl-DPCH-InfoPerRL", -1, 0);
+         stat = enc_DL_DPCH_InfoPerRL_r5(ctx, pvalue->u.dl_DPCH_InfoPerRL, cur);
+         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.dl_FDPCH_InfoPerRL == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dl-FDPCH-InfoPerRL", -1, 0);
+         stat = enc_DL_FDPCH_InfoPerRL_r6(ctx, pvalue->u.dl_FDPCH_InfoPerRL, cur);
+         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoPerRL", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RL_AdditionInformation_r6_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_r6_dl_dpchInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RL_AdditionInformation_r6_dl_dpchInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_RL_AdditionInformation_r6(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RL-AdditionInformation-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RL-AdditionInformation-r6");
+   /* primaryCPICH-Info */
+   stat = enc_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "RL-AdditionInformation-r6");
+   /* cell-Id */
+   if (pvalue->m & 0x1u) {
+      stat = enc_CellIdentity(ctx, pvalue->cell_Id, cur);
+      RT_CHECK(ctx, stat, 0, "cell-Id", -1, "RL-AdditionInformation-r6");
+   }
+   /* dl-dpchInfo */
+   stat = enc_RL_AdditionInformation_r6_dl_dpchInfo(ctx, &pvalue->dl_dpchInfo, cur);
+   RT_CHECK(ctx, stat, 0, "dl-dpchInfo", -1, "RL-AdditionInformation-r6");
+   /* e-HICH-Information */
+   if (pvalue->m & 0x2u) {
+      stat = enc_E_HICH_Information(ctx, &pvalue->e_HICH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "RL-AdditionInformation-r6");
+   }
+   /* e-RGCH-Information */
+   if (pvalue->m & 0x4u) {
+      stat = enc_E_RGCH_Information(ctx, &pvalue->e_RGCH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, "RL-AdditionInformation-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RL_AdditionInformation_r6(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RL_AdditionInformation_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_RL_AdditionInformation_r7_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_r7_dl_dpchInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.dl_DPCH_InfoPerRL == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dl-DPCH-InfoPerRL", -1, 0);
+         stat = enc_DL_DPCH_InfoPerRL_r5(ctx, pvalue->u.dl_DPCH_InfoPerRL, cur);
+         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.dl_FDPCH_InfoPerRL == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dl-FDPCH-InfoPerRL", -1, 0);
+         stat = enc_DL_FDPCH_InfoPerRL_r7(ctx, pvalue->u.dl_FDPCH_InfoPerRL, cur);
+         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoPerRL", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RL_AdditionInformation_r7_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_r7_dl_dpchInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RL_AdditionInformation_r7_dl_dpchInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_RL_AdditionInformation_r7(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RL-AdditionInformation-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RL-AdditionInformation-r7");
+   /* primaryCPICH-Info */
+   stat = enc_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "RL-AdditionInformation-r7");
+   /* cell-Id */
+   if (pvalue->m & 0x1u) {
+      stat = enc_CellIdentity(ctx, pvalue->cell_Id, cur);
+      RT_CHECK(ctx, stat, 0, "cell-Id", -1, "RL-AdditionInformation-r7");
+   }
+   /* dl-dpchInfo */
+   stat = enc_RL_AdditionInformation_r7_dl_dpchInfo(ctx, &pvalue->dl_dpchInfo, cur);
+   RT_CHECK(ctx, stat, 0, "dl-dpchInfo", -1, "RL-AdditionInformation-r7");
+   /* e-HICH-Information */
+   if (pvalue->m & 0x2u) {
+      stat = enc_E_HICH_Information(ctx, &pvalue->e_HICH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "RL-AdditionInformation-r7");
+   }
+   /* e-RGCH-Information */
+   if (pvalue->m & 0x4u) {
+      stat = enc_E_RGCH_Information(ctx, &pvalue->e_RGCH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, "RL-AdditionInformation-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RL_AdditionInformation_r7(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RL_AdditionInformation_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_RL_AdditionInformation_r8_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_r8_dl_dpchInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.dl_DPCH_InfoPerRL == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dl-DPCH-InfoPerRL", -1, 0);
+         stat = enc_DL_DPCH_InfoPerRL_r5(ctx, pvalue->u.dl_DPCH_InfoPerRL, cur);
+         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.dl_FDPCH_InfoPerRL == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dl-FDPCH-InfoPerRL", -1, 0);
+         stat = enc_DL_FDPCH_InfoPerRL_r7(ctx, pvalue->u.dl_FDPCH_InfoPerRL, cur);
+         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoPerRL", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RL_AdditionInformation_r8_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_r8_dl_dpchInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RL_AdditionInformation_r8_dl_dpchInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_DTX_DRX_TimingInfo_r7_timing(rtxContext* RT_RESTRICT ctx, const DTX_DRX_TimingInfo_r7_timing* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.newTiming == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "newTiming", -1, 0);
+         stat = enc_NewTiming(ctx, pvalue->u.newTiming, cur);
+         RT_CHECK(ctx, stat, 0, "newTiming", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DTX_DRX_TimingInfo_r7_timing(rtxContext* RT_RESTRICT ctx, const DTX_DRX_TimingInfo_r7_timing* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DTX_DRX_TimingInfo_r7_timing, pvalue);
+}
+
+RT_MERGED_BODY int enc_DTX_DRX_TimingInfo_r7(rtxContext* RT_RESTRICT ctx, const DTX_DRX_TimingInfo_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DTX-DRX-TimingInfo-r7");
+   /* timing */
+   stat = enc_DTX_DRX_TimingInfo_r7_timing(ctx, &pvalue->timing, cur);
+   RT_CHECK(ctx, stat, 0, "timing", -1, "DTX-DRX-TimingInfo-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_DTX_DRX_TimingInfo_r7(rtxContext* RT_RESTRICT ctx, const DTX_DRX_TimingInfo_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DTX_DRX_TimingInfo_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_TargetCellPreconfigInfo(rtxContext* RT_RESTRICT ctx, const TargetCellPreconfigInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TargetCellPreconfigInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 0), 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TargetCellPreconfigInfo");
+   /* activationTimeOffset */
+   if (pvalue->m & 0x1u) {
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->activationTimeOffset, 0, 255);
+      RT_CHECK_PUT(ctx, cur, stat, "ActivationTimeOffset", "activationTimeOffset", -1, "TargetCellPreconfigInfo");
+   }
+   /* new-H-RNTI */
+   stat = enc_H_RNTI(ctx, pvalue->new_H_RNTI, cur);
+   RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "TargetCellPreconfigInfo");
+   /* newPrimary-E-RNTI */
+   if (pvalue->m & 0x2u) {
+      stat = enc_E_RNTI(ctx, pvalue->newPrimary_E_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "TargetCellPreconfigInfo");
+   }
+   /* newSecondary-E-RNTI */
+   if (pvalue->m & 0x4u) {
+      stat = enc_E_RNTI(ctx, pvalue->newSecondary_E_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "TargetCellPreconfigInfo");
+   }
+   /* serving-HSDSCH-CellInformation */
+   stat = enc_Serving_HSDSCH_CellInformation_r8(ctx, &pvalue->serving_HSDSCH_CellInformation, cur);
+   RT_CHECK(ctx, stat, 0, "serving-HSDSCH-CellInformation", -1, "TargetCellPreconfigInfo");
+   /* e-dch-ReconfigurationInfo */
+   stat = enc_E_DCH_ReconfigurationInfo_r7(ctx, &pvalue->e_dch_ReconfigurationInfo, cur);
+   RT_CHECK(ctx, stat, 0, "e-dch-ReconfigurationInfo", -1, "TargetCellPreconfigInfo");
+   /* dtx-drx-TimingInfo */
+   if (pvalue->m & 0x8u) {
+      stat = enc_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "TargetCellPreconfigInfo");
+   }
+   /* dtx-drx-Info */
+   if (pvalue->m & 0x10u) {
+      stat = enc_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info, cur);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "TargetCellPreconfigInfo");
+   }
+   /* hs-scch-LessInfo */
+   if (pvalue->m & 0x20u) {
+      stat = enc_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo, cur);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "TargetCellPreconfigInfo");
+   }
+   /* mimoParameters */
+   if (pvalue->m & 0x40u) {
+      stat = enc_MIMO_Parameters_r8(ctx, &pvalue->mimoParameters, cur);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "TargetCellPreconfigInfo");
+   }
+   /* dl-SecondaryCellInfoFDD */
+   if (pvalue->m & 0x80u) {
+      stat = enc_DL_SecondaryCellInfoFDD(ctx, &pvalue->dl_SecondaryCellInfoFDD, cur);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "TargetCellPreconfigInfo");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TargetCellPreconfigInfo(rtxContext* RT_RESTRICT ctx, const TargetCellPreconfigInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TargetCellPreconfigInfo, pvalue);
+}
+
+static int enc_RL_AdditionInformation_r8(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RL-AdditionInformation-r8");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RL-AdditionInformation-r8");
+   /* primaryCPICH-Info */
+   stat = enc_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "RL-AdditionInformation-r8");
+   /* cell-Id */
+   if (pvalue->m & 0x1u) {
+      stat = enc_CellIdentity(ctx, pvalue->cell_Id, cur);
+      RT_CHECK(ctx, stat, 0, "cell-Id", -1, "RL-AdditionInformation-r8");
+   }
+   /* dl-dpchInfo */
+   stat = enc_RL_AdditionInformation_r8_dl_dpchInfo(ctx, &pvalue->dl_dpchInfo, cur);
+   RT_CHECK(ctx, stat, 0, "dl-dpchInfo", -1, "RL-AdditionInformation-r8");
+   /* e-HICH-Information */
+   if (pvalue->m & 0x2u) {
+      stat = enc_E_HICH_Information(ctx, &pvalue->e_HICH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "RL-AdditionInformation-r8");
+   }
+   /* e-RGCH-Information */
+   if (pvalue->m & 0x4u) {
+      stat = enc_E_RGCH_Information(ctx, &pvalue->e_RGCH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, "RL-AdditionInformation-r8");
+   }
+   /* targetCellPreconfigInfo */
+   if (pvalue->m & 0x8u) {
+      stat = enc_TargetCellPreconfigInfo(ctx, &pvalue->targetCellPreconfigInfo, cur);
+      RT_CHECK(ctx, stat, 0, "targetCellPreconfigInfo", -1, "RL-AdditionInformation-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RL_AdditionInformation_r8(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RL_AdditionInformation_r8, pvalue);
+}
+
+RT_MERGED_BODY int enc_RL_AdditionInformation_r9_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_r9_dl_dpchInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.dl_DPCH_InfoPerRL == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dl-DPCH-InfoPerRL", -1, 0);
+         stat = enc_DL_DPCH_InfoPerRL_r5(ctx, pvalue->u.dl_DPCH_InfoPerRL, cur);
+         RT_CHECK(ctx, stat, 0, "dl-DPCH-InfoPerRL", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.dl_FDPCH_InfoPerRL == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dl-FDPCH-InfoPerRL", -1, 0);
+         stat = enc_DL_FDPCH_InfoPerRL_r7(ctx, pvalue->u.dl_FDPCH_InfoPerRL, cur);
+         RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoPerRL", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RL_AdditionInformation_r9_dl_dpchInfo(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_r9_dl_dpchInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RL_AdditionInformation_r9_dl_dpchInfo, pvalue);
+}
+
+static int enc_TargetCellPreconfigInfo_r9(rtxContext* RT_RESTRICT ctx, const TargetCellPreconfigInfo_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TargetCellPreconfigInfo-r9");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 0), 10);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TargetCellPreconfigInfo-r9");
+   /* activationTimeOffset */
+   if (pvalue->m & 0x1u) {
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->activationTimeOffset, 0, 255);
+      RT_CHECK_PUT(ctx, cur, stat, "ActivationTimeOffset", "activationTimeOffset", -1, "TargetCellPreconfigInfo-r9");
+   }
+   /* new-H-RNTI */
+   stat = enc_H_RNTI(ctx, pvalue->new_H_RNTI, cur);
+   RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "TargetCellPreconfigInfo-r9");
+   /* newPrimary-E-RNTI */
+   if (pvalue->m & 0x2u) {
+      stat = enc_E_RNTI(ctx, pvalue->newPrimary_E_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "TargetCellPreconfigInfo-r9");
+   }
+   /* newSecondary-E-RNTI */
+   if (pvalue->m & 0x4u) {
+      stat = enc_E_RNTI(ctx, pvalue->newSecondary_E_RNTI, cur);
+      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "TargetCellPreconfigInfo-r9");
+   }
+   /* serving-HSDSCH-CellInformation */
+   stat = enc_Serving_HSDSCH_CellInformation_r9(ctx, &pvalue->serving_HSDSCH_CellInformation, cur);
+   RT_CHECK(ctx, stat, 0, "serving-HSDSCH-CellInformation", -1, "TargetCellPreconfigInfo-r9");
+   /* e-dch-ReconfigurationInfo */
+   stat = enc_E_DCH_ReconfigurationInfo_r7(ctx, &pvalue->e_dch_ReconfigurationInfo, cur);
+   RT_CHECK(ctx, stat, 0, "e-dch-ReconfigurationInfo", -1, "TargetCellPreconfigInfo-r9");
+   /* dtx-drx-TimingInfo */
+   if (pvalue->m & 0x8u) {
+      stat = enc_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo, cur);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "TargetCellPreconfigInfo-r9");
+   }
+   /* dtx-drx-Info */
+   if (pvalue->m & 0x10u) {
+      stat = enc_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info, cur);
+      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "TargetCellPreconfigInfo-r9");
+   }
+   /* hs-scch-LessInfo */
+   if (pvalue->m & 0x20u) {
+      stat = enc_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo, cur);
+      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "TargetCellPreconfigInfo-r9");
+   }
+   /* mimoParameters */
+   if (pvalue->m & 0x40u) {
+      stat = enc_MIMO_Parameters_r9(ctx, &pvalue->mimoParameters, cur);
+      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "TargetCellPreconfigInfo-r9");
+   }
+   /* dl-SecondaryCellInfoFDD */
+   if (pvalue->m & 0x80u) {
+      stat = enc_DL_SecondaryCellInfoFDD_r9(ctx, &pvalue->dl_SecondaryCellInfoFDD, cur);
+      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "TargetCellPreconfigInfo-r9");
+   }
+   /* ul-SecondaryCellInfoFDD */
+   if (pvalue->m & 0x100u) {
+      stat = enc_UL_SecondaryCellInfoFDD(ctx, &pvalue->ul_SecondaryCellInfoFDD, cur);
+      RT_CHECK(ctx, stat, 0, "ul-SecondaryCellInfoFDD", -1, "TargetCellPreconfigInfo-r9");
+   }
+   /* e-dch-ReconfigurationInfo-SecULFrequency */
+   if (pvalue->m & 0x200u) {
+      stat = enc_E_DCH_ReconfigurationInfo_SecULFrequency(ctx, &pvalue->e_dch_ReconfigurationInfo_SecULFrequency, cur);
+      RT_CHECK(ctx, stat, 0, "e-dch-ReconfigurationInfo-SecULFrequency", -1, "TargetCellPreconfigInfo-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TargetCellPreconfigInfo_r9(rtxContext* RT_RESTRICT ctx, const TargetCellPreconfigInfo_r9* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TargetCellPreconfigInfo_r9, pvalue);
+}
+
+RT_MERGED_BODY int enc_RL_AdditionInformation_r9(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RL-AdditionInformation-r9");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RL-AdditionInformation-r9");
+   /* primaryCPICH-Info */
+   stat = enc_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "RL-AdditionInformation-r9");
+   /* cell-Id */
+   if (pvalue->m & 0x1u) {
+      stat = enc_CellIdentity(ctx, pvalue->cell_Id, cur);
+      RT_CHECK(ctx, stat, 0, "cell-Id", -1, "RL-AdditionInformation-r9");
+   }
+   /* dl-dpchInfo */
+   stat = enc_RL_AdditionInformation_r9_dl_dpchInfo(ctx, &pvalue->dl_dpchInfo, cur);
+   RT_CHECK(ctx, stat, 0, "dl-dpchInfo", -1, "RL-AdditionInformation-r9");
+   /* e-HICH-Information */
+   if (pvalue->m & 0x2u) {
+      stat = enc_E_HICH_Information(ctx, &pvalue->e_HICH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "RL-AdditionInformation-r9");
+   }
+   /* e-RGCH-Information */
+   if (pvalue->m & 0x4u) {
+      stat = enc_E_RGCH_Information(ctx, &pvalue->e_RGCH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, "RL-AdditionInformation-r9");
+   }
+   /* targetCellPreconfigInfo */
+   if (pvalue->m & 0x8u) {
+      stat = enc_TargetCellPreconfigInfo_r9(ctx, &pvalue->targetCellPreconfigInfo, cur);
+      RT_CHECK(ctx, stat, 0, "targetCellPreconfigInfo", -1, "RL-AdditionInformation-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RL_AdditionInformation_r9(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_r9* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RL_AdditionInformation_r9, pvalue);
+}
+
+RT_MERGED_BODY int enc_RL_AdditionInformation_v6b0ext(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_v6b0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RL-AdditionInformation-v6b0ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RL-AdditionInformation-v6b0ext");
+   /* sttdIndication */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->sttdIndication > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->sttdIndication);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "STTDIndication", "sttdIndication", -1, "RL-AdditionInformation-v6b0ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->sttdIndication, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, "STTDIndication", "sttdIndication", -1, "RL-AdditionInformation-v6b0ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RL_AdditionInformation_v6b0ext(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_v6b0ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RL_AdditionInformation_v6b0ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_TargetCellPreconfigInfo_v890ext(rtxContext* RT_RESTRICT ctx, const TargetCellPreconfigInfo_v890ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TargetCellPreconfigInfo-v890ext");
+   stat = enc_MIMO_Parameters_v7f0ext(ctx, pvalue, cur);
+   RT_CHECK(ctx, stat, 0, 0, -1, "TargetCellPreconfigInfo-v890ext");
+   return 0;
+}
+
+int asn1PE_UMTS_TargetCellPreconfigInfo_v890ext(rtxContext* RT_RESTRICT ctx, const TargetCellPreconfigInfo_v890ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TargetCellPreconfigInfo_v890ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_RL_AdditionInformation_v890ext(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_v890ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RL-AdditionInformation-v890ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RL-AdditionInformation-v890ext");
+   /* targetCellPreconfigInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_TargetCellPreconfigInfo_v890ext(ctx, &pvalue->targetCellPreconfigInfo, cur);
+      RT_CHECK(ctx, stat, 0, "targetCellPreconfigInfo", -1, "RL-AdditionInformation-v890ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RL_AdditionInformation_v890ext(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_v890ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RL_AdditionInformation_v890ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_RL_AdditionInformationList(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformationList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RL-AdditionInformationList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 7);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RL-AdditionInformationList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RL-AdditionInformation", (int32_t)i, "RL-AdditionInformationList");
+      stat = enc_RL_AdditionInformation(ctx, (const RL_AdditionInformation*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RL-AdditionInformation", (int32_t)i, "RL-AdditionInformationList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RL_AdditionInformationList(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformationList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RL_AdditionInformationList, pvalue);
+}
+
+RT_MERGED_BODY int enc_RL_AdditionInformationList_r6(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformationList_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RL-AdditionInformationList-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 7);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RL-AdditionInformationList-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RL-AdditionInformation-r6", (int32_t)i, "RL-AdditionInformationList-r6");
+      stat = enc_RL_AdditionInformation_r6(ctx, (const RL_AdditionInformation_r6*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RL-AdditionInformation-r6", (int32_t)i, "RL-AdditionInformationList-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RL_AdditionInformationList_r6(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformationList_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RL_AdditionInformationList_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_RL_AdditionInformationList_r7(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformationList_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RL-AdditionInformationList-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 7);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RL-AdditionInformationList-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RL-AdditionInformation-r7", (int32_t)i, "RL-AdditionInformationList-r7");
+      stat = enc_RL_AdditionInformation_r7(ctx, (const RL_AdditionInformation_r7*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RL-AdditionInformation-r7", (int32_t)i, "RL-AdditionInformationList-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RL_AdditionInformationList_r7(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformationList_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RL_AdditionInformationList_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_RL_AdditionInformation_list_v6b0ext(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_list_v6b0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RL-AdditionInformation-list-v6b0ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RL-AdditionInformation-list-v6b0ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RL-AdditionInformation-v6b0ext", (int32_t)i, "RL-AdditionInformation-list-v6b0ext");
+      stat = enc_RL_AdditionInformation_v6b0ext(ctx, (const RL_AdditionInformation_v6b0ext*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RL-AdditionInformation-v6b0ext", (int32_t)i, "RL-AdditionInformation-list-v6b0ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RL_AdditionInformation_list_v6b0ext(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_list_v6b0ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RL_AdditionInformation_list_v6b0ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_RL_AdditionInformationList_r8(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformationList_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RL-AdditionInformationList-r8");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 7);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RL-AdditionInformationList-r8");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RL-AdditionInformation-r8", (int32_t)i, "RL-AdditionInformationList-r8");
+      stat = enc_RL_AdditionInformation_r8(ctx, (const RL_AdditionInformation_r8*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RL-AdditionInformation-r8", (int32_t)i, "RL-AdditionInformationList-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RL_AdditionInformationList_r8(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformationList_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RL_AdditionInformationList_r8, pvalue);
+}
+
+RT_MERGED_BODY int enc_RL_AdditionInformationList_v890ext(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformationList_v890ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RL-AdditionInformationList-v890ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 7);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RL-AdditionInformationList-v890ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RL-AdditionInformation-v890ext", (int32_t)i, "RL-AdditionInformationList-v890ext");
+      stat = enc_RL_AdditionInformation_v890ext(ctx, (const RL_AdditionInformation_v890ext*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RL-AdditionInformation-v890ext", (int32_t)i, "RL-AdditionInformationList-v890ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RL_AdditionInformationList_v890ext(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformationList_v890ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RL_AdditionInformationList_v890ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_RL_AdditionInformationList_r9(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformationList_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RL-AdditionInformationList-r9");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 7);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RL-AdditionInformationList-r9");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RL-AdditionInformation-r9", (int32_t)i, "RL-AdditionInformationList-r9");
+      stat = enc_RL_AdditionInformation_r9(ctx, (const RL_AdditionInformation_r9*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RL-AdditionInformation-r9", (int32_t)i, "RL-AdditionInformationList-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RL_AdditionInformationList_r9(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformationList_r9* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RL_AdditionInformationList_r9, pvalue);
+}
+
+RT_MERGED_BODY int enc_RL_AdditionInformation_SecULFreq(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_SecULFreq* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RL-AdditionInformation-SecULFreq");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RL-AdditionInformation-SecULFreq");
+   /* primaryCPICH-Info */
+   stat = enc_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "RL-AdditionInformation-SecULFreq");
+   /* cell-id */
+   if (pvalue->m & 0x1u) {
+      stat = enc_CellIdentity(ctx, pvalue->cell_id, cur);
+      RT_CHECK(ctx, stat, 0, "cell-id", -1, "RL-AdditionInformation-SecULFreq");
+   }
+   /* dl-FDPCH-InfoPerRL */
+   stat = enc_DL_FDPCH_InfoPerRL_r7(ctx, &pvalue->dl_FDPCH_InfoPerRL, cur);
+   RT_CHECK(ctx, stat, 0, "dl-FDPCH-InfoPerRL", -1, "RL-AdditionInformation-SecULFreq");
+   /* e-HICH-Information */
+   stat = enc_E_HICH_Information(ctx, &pvalue->e_HICH_Information, cur);
+   RT_CHECK(ctx, stat, 0, "e-HICH-Information", -1, "RL-AdditionInformation-SecULFreq");
+   /* e-RGCH-Information */
+   if (pvalue->m & 0x2u) {
+      stat = enc_E_RGCH_Information(ctx, &pvalue->e_RGCH_Information, cur);
+      RT_CHECK(ctx, stat, 0, "e-RGCH-Information", -1, "RL-AdditionInformation-SecULFreq");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RL_AdditionInformation_SecULFreq(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformation_SecULFreq* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RL_AdditionInformation_SecULFreq, pvalue);
+}
+
+RT_MERGED_BODY int enc_RL_AdditionInformationList_SecULFreq(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformationList_SecULFreq* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RL-AdditionInformationList-SecULFreq");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 3);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RL-AdditionInformationList-SecULFreq");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "RL-AdditionInformation-SecULFreq", (int32_t)i, "RL-AdditionInformationList-SecULFreq");
+      stat = enc_RL_AdditionInformation_SecULFreq(ctx, (const RL_AdditionInformation_SecULFreq*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "RL-AdditionInformation-SecULFreq", (int32_t)i, "RL-AdditionInformationList-SecULFreq");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RL_AdditionInformationList_SecULFreq(rtxContext* RT_RESTRICT ctx, const RL_AdditionInformationList_SecULFreq* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RL_AdditionInformationList_SecULFreq, pvalue);
+}
+
+RT_MERGED_BODY int enc_RL_RemovalInformationList(rtxContext* RT_RESTRICT ctx, const RL_RemovalInformationList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RL-RemovalInformationList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RL-RemovalInformationList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "PrimaryCPICH-Info", (int32_t)i, "RL-RemovalInformationList");
+      stat = enc_PrimaryCPICH_Info(ctx, (const PrimaryCPICH_Info*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "PrimaryCPICH-Info", (int32_t)i, "RL-RemovalInformationList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RL_RemovalInformationList(rtxContext* RT_RESTRICT ctx, const RL_RemovalInformationList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RL_RemovalInformationList, pvalue);
+}
+
+RT_MERGED_BODY int enc_RL_RemovalInformationList_SecULFreq(rtxContext* RT_RESTRICT ctx, const RL_RemovalInformationList_SecULFreq* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RL-RemovalInformationList-SecULFreq");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RL-RemovalInformationList-SecULFreq");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "PrimaryCPICH-Info", (int32_t)i, "RL-RemovalInformationList-SecULFreq");
+      stat = enc_PrimaryCPICH_Info(ctx, (const PrimaryCPICH_Info*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "PrimaryCPICH-Info", (int32_t)i, "RL-RemovalInformationList-SecULFreq");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RL_RemovalInformationList_SecULFreq(rtxContext* RT_RESTRICT ctx, const RL_RemovalInformationList_SecULFreq* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RL_RemovalInformationList_SecULFreq, pvalue);
+}
+
+RT_MERGED_BODY int enc_SecondaryCCPCHFrameType2Info_modulation_mod16QAM(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHFrameType2Info_modulation_mod16QAM* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* cpich-SecCCPCH-PowerOffset */
+   if (pvalue->cpich_SecCCPCH_PowerOffset < -11 || pvalue->cpich_SecCCPCH_PowerOffset > 4) {
+      rtxErrAddStrParm(ctx, "cpich-SecCCPCH-PowerOffset");
+      rtxErrAddIntParm(ctx, pvalue->cpich_SecCCPCH_PowerOffset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "cpich-SecCCPCH-PowerOffset", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->cpich_SecCCPCH_PowerOffset, -11, 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "cpich-SecCCPCH-PowerOffset", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCHFrameType2Info_modulation_mod16QAM(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHFrameType2Info_modulation_mod16QAM* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryCCPCHFrameType2Info_modulation_mod16QAM, pvalue);
+}
+
+RT_MERGED_BODY int enc_SecondaryCCPCHFrameType2Info_modulation(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHFrameType2Info_modulation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.mod16QAM == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "mod16QAM", -1, 0);
+         stat = enc_SecondaryCCPCHFrameType2Info_modulation_mod16QAM(ctx, pvalue->u.mod16QAM, cur);
+         RT_CHECK(ctx, stat, 0, "mod16QAM", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCHFrameType2Info_modulation(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHFrameType2Info_modulation* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryCCPCHFrameType2Info_modulation, pvalue);
+}
+
+RT_MERGED_BODY int enc_SecondaryCCPCHFrameType2Info(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHFrameType2Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SecondaryCCPCHFrameType2Info");
+   /* subFrameNumber */
+   if ((uint64_t)pvalue->subFrameNumber > 4u) {
+      rtxErrAddStrParm(ctx, "subFrameNumber");
+      rtxErrAddUIntParm(ctx, pvalue->subFrameNumber);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "subFrameNumber", -1, "SecondaryCCPCHFrameType2Info");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->subFrameNumber, 0, 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "subFrameNumber", -1, "SecondaryCCPCHFrameType2Info");
+   /* dl-ChannelisationCodes */
+   stat = enc_DL_ChannelCodes_MBSFN_IMB384(ctx, &pvalue->dl_ChannelisationCodes, cur);
+   RT_CHECK(ctx, stat, 0, "dl-ChannelisationCodes", -1, "SecondaryCCPCHFrameType2Info");
+   /* modulation */
+   stat = enc_SecondaryCCPCHFrameType2Info_modulation(ctx, &pvalue->modulation, cur);
+   RT_CHECK(ctx, stat, 0, "modulation", -1, "SecondaryCCPCHFrameType2Info");
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCHFrameType2Info(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHFrameType2Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryCCPCHFrameType2Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_SecondaryCCPCHInfoDiff_MBMS(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfoDiff_MBMS* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SecondaryCCPCHInfoDiff-MBMS");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SecondaryCCPCHInfoDiff-MBMS");
+   /* secondaryScramblingCode */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->secondaryScramblingCode - 1) > 14u) {
+         rtxErrAddStrParm(ctx, "SecondaryScramblingCode");
+         rtxErrAddUIntParm(ctx, pvalue->secondaryScramblingCode);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SecondaryScramblingCode", "secondaryScramblingCode", -1, "SecondaryCCPCHInfoDiff-MBMS");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->secondaryScramblingCode, 1, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "SecondaryScramblingCode", "secondaryScramblingCode", -1, "SecondaryCCPCHInfoDiff-MBMS");
+   }
+   /* sttd-Indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->sttd_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sttd-Indicator", -1, "SecondaryCCPCHInfoDiff-MBMS");
+   /* sf-AndCodeNumber */
+   if (pvalue->m & 0x2u) {
+      stat = enc_SF256_AndCodeNumber(ctx, &pvalue->sf_AndCodeNumber, cur);
+      RT_CHECK(ctx, stat, 0, "sf-AndCodeNumber", -1, "SecondaryCCPCHInfoDiff-MBMS");
+   }
+   /* timingOffset */
+   if (pvalue->m & 0x4u) {
+      if ((uint64_t)pvalue->timingOffset > 149u) {
+         rtxErrAddStrParm(ctx, "TimingOffset");
+         rtxErrAddUIntParm(ctx, pvalue->timingOffset);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimingOffset", "timingOffset", -1, "SecondaryCCPCHInfoDiff-MBMS");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->timingOffset, 0, 149);
+      RT_CHECK_PUT(ctx, cur, stat, "TimingOffset", "timingOffset", -1, "SecondaryCCPCHInfoDiff-MBMS");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SecondaryCCPCHInfoDiff_MBMS(rtxContext* RT_RESTRICT ctx, const SecondaryCCPCHInfoDiff_MBMS* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SecondaryCCPCHInfoDiff_MBMS, pvalue);
+}
+
+RT_MERGED_BODY int enc_ServingCellChangeMACreset(rtxContext* RT_RESTRICT ctx, ServingCellChangeMACreset value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   stat = rtxEncBitAt(ctx, cur, value);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ServingCellChangeMACreset");
+   return 0;
+}
+
+int asn1PE_UMTS_ServingCellChangeMACreset(rtxContext* RT_RESTRICT ctx, ServingCellChangeMACreset value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ServingCellChangeMACreset, value);
+}
+
+RT_MERGED_BODY int enc_ServingCellChangeMsgType(rtxContext* RT_RESTRICT ctx, ServingCellChangeMsgType value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "ServingCellChangeMsgType");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ServingCellChangeMsgType");
+   return 0;
+}
+
+int asn1PE_UMTS_ServingCellChangeMsgType(rtxContext* RT_RESTRICT ctx, ServingCellChangeMsgType value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ServingCellChangeMsgType, value);
+}
+
+RT_MERGED_BODY int enc_ServingCellChangeTrId(rtxContext* RT_RESTRICT ctx, ServingCellChangeTrId value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if ((uint64_t)value > 3u) {
-      rtxErrAddStrParm(ctx, "InterRATCellInfoIndication");
+      rtxErrAddStrParm(ctx, "ServingCellChangeTrId");
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "InterRATCellInfoIndication");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "ServingCellChangeTrId");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATCellInfoIndication");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ServingCellChangeTrId");
    return 0;
 }
 
-int asn1PE_UMTS_InterRATCellInfoList_r4(rtxContext* RT_RESTRICT ctx, const InterRATCellInfoList_r4* RT_RESTRICT pvalue)
+int asn1PE_UMTS_ServingCellChangeTrId(rtxContext* RT_RESTRICT ctx, ServingCellChangeTrId value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ServingCellChangeTrId, value);
+}
+
+RT_MERGED_BODY int enc_ServingCellChangeParameters(rtxContext* RT_RESTRICT ctx, const ServingCellChangeParameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATCellInfoList-r4");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ServingCellChangeParameters");
+   /* servingCellChangeMACreset */
+   stat = rtxEncBitAt(ctx, cur, pvalue->servingCellChangeMACreset);
+   RT_CHECK_PUT(ctx, cur, stat, "ServingCellChangeMACreset", "servingCellChangeMACreset", -1, "ServingCellChangeParameters");
+   /* servingCellChangeMsgType */
+   if (pvalue->servingCellChangeMsgType > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->servingCellChangeMsgType);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ServingCellChangeMsgType", "servingCellChangeMsgType", -1, "ServingCellChangeParameters");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->servingCellChangeMsgType, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "ServingCellChangeMsgType", "servingCellChangeMsgType", -1, "ServingCellChangeParameters");
+   /* servingCellChangeTrId */
+   if ((uint64_t)pvalue->servingCellChangeTrId > 3u) {
+      rtxErrAddStrParm(ctx, "ServingCellChangeTrId");
+      rtxErrAddUIntParm(ctx, pvalue->servingCellChangeTrId);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ServingCellChangeTrId", "servingCellChangeTrId", -1, "ServingCellChangeParameters");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->servingCellChangeTrId, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "ServingCellChangeTrId", "servingCellChangeTrId", -1, "ServingCellChangeParameters");
+   return 0;
+}
+
+int asn1PE_UMTS_ServingCellChangeParameters(rtxContext* RT_RESTRICT ctx, const ServingCellChangeParameters* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ServingCellChangeParameters, pvalue);
+}
+
+RT_MERGED_BODY int enc_SpecialBurstScheduling(rtxContext* RT_RESTRICT ctx, SpecialBurstScheduling value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 7u) {
+      rtxErrAddStrParm(ctx, "SpecialBurstScheduling");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "SpecialBurstScheduling");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SpecialBurstScheduling");
+   return 0;
+}
+
+int asn1PE_UMTS_SpecialBurstScheduling(rtxContext* RT_RESTRICT ctx, SpecialBurstScheduling value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SpecialBurstScheduling, value);
+}
+
+RT_MERGED_BODY int enc_SpreadingFactor(rtxContext* RT_RESTRICT ctx, SpreadingFactor value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 6) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "SpreadingFactor");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SpreadingFactor");
+   return 0;
+}
+
+int asn1PE_UMTS_SpreadingFactor(rtxContext* RT_RESTRICT ctx, SpreadingFactor value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SpreadingFactor, value);
+}
+
+static int enc_SPS_Information_TDD128_r8(rtxContext* RT_RESTRICT ctx, const SPS_Information_TDD128_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SPS-Information-TDD128-r8");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATCellInfoList-r4");
-   /* removedInterRATCellList */
-   stat = asn1PE_UMTS_RemovedInterRATCellList(ctx, &pvalue->removedInterRATCellList);
-   RT_CHECK(ctx, stat, 0, "removedInterRATCellList", -1, "InterRATCellInfoList-r4");
-   /* newInterRATCellList */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SPS-Information-TDD128-r8");
+   /* e-dch-SPS-Info */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_NewInterRATCellList(ctx, &pvalue->newInterRATCellList);
-      RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, "InterRATCellInfoList-r4");
+      stat = enc_E_DCH_SPS_Information_TDD128(ctx, &pvalue->e_dch_SPS_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-dch-SPS-Info", -1, "SPS-Information-TDD128-r8");
    }
-   /* cellsForInterRATMeasList */
+   /* hs-dsch-SPS-Info */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_CellsForInterRATMeasList(ctx, &pvalue->cellsForInterRATMeasList);
-      RT_CHECK(ctx, stat, 0, "cellsForInterRATMeasList", -1, "InterRATCellInfoList-r4");
+      stat = enc_HS_DSCH_SPS_Information_TDD128(ctx, &pvalue->hs_dsch_SPS_Info, cur);
+      RT_CHECK(ctx, stat, 0, "hs-dsch-SPS-Info", -1, "SPS-Information-TDD128-r8");
    }
    return 0;
 }
 
-int asn1PE_UMTS_InterRATCellInfoList_r6(rtxContext* RT_RESTRICT ctx, const InterRATCellInfoList_r6* RT_RESTRICT pvalue)
+int asn1PE_UMTS_SPS_Information_TDD128_r8(rtxContext* RT_RESTRICT ctx, const SPS_Information_TDD128_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SPS_Information_TDD128_r8, pvalue);
+}
+
+RT_MERGED_BODY int enc_SynchronisationParameters_r4_sync_UL_CodesBitmap(rtxContext* RT_RESTRICT ctx, SynchronisationParameters_r4_sync_UL_CodesBitmap value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATCellInfoList-r6");
+   {
+      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
+      uint32_t used = (uint32_t)(last + 1);
+      value.numbits = used <= 8 ? 8 : used;
+      if (last < -1) RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+   }
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32At(ctx, cur, &value, 8, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SynchronisationParameters_r4_sync_UL_CodesBitmap(rtxContext* RT_RESTRICT ctx, SynchronisationParameters_r4_sync_UL_CodesBitmap value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SynchronisationParameters_r4_sync_UL_CodesBitmap, value);
+}
+
+RT_MERGED_BODY int enc_SYNC_UL_Procedure_r4_max_SYNC_UL_Transmissions(rtxContext* RT_RESTRICT ctx, SYNC_UL_Procedure_r4_max_SYNC_UL_Transmissions value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_SYNC_UL_Procedure_r4_max_SYNC_UL_Transmissions(rtxContext* RT_RESTRICT ctx, SYNC_UL_Procedure_r4_max_SYNC_UL_Transmissions value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SYNC_UL_Procedure_r4_max_SYNC_UL_Transmissions, value);
+}
+
+RT_MERGED_BODY int enc_SYNC_UL_Procedure_r4(rtxContext* RT_RESTRICT ctx, const SYNC_UL_Procedure_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SYNC-UL-Procedure-r4");
+   /* max-SYNC-UL-Transmissions */
+   if (pvalue->max_SYNC_UL_Transmissions > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->max_SYNC_UL_Transmissions);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "max-SYNC-UL-Transmissions", -1, "SYNC-UL-Procedure-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->max_SYNC_UL_Transmissions, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "max-SYNC-UL-Transmissions", -1, "SYNC-UL-Procedure-r4");
+   /* powerRampStep */
+   if ((uint64_t)pvalue->powerRampStep > 3u) {
+      rtxErrAddStrParm(ctx, "powerRampStep");
+      rtxErrAddUIntParm(ctx, pvalue->powerRampStep);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "powerRampStep", -1, "SYNC-UL-Procedure-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->powerRampStep, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "powerRampStep", -1, "SYNC-UL-Procedure-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_SYNC_UL_Procedure_r4(rtxContext* RT_RESTRICT ctx, const SYNC_UL_Procedure_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SYNC_UL_Procedure_r4, pvalue);
+}
+
+static int enc_SynchronisationParameters_r4(rtxContext* RT_RESTRICT ctx, const SynchronisationParameters_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SynchronisationParameters-r4");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATCellInfoList-r6");
-   /* removedInterRATCellList */
-   stat = asn1PE_UMTS_RemovedInterRATCellList(ctx, &pvalue->removedInterRATCellList);
-   RT_CHECK(ctx, stat, 0, "removedInterRATCellList", -1, "InterRATCellInfoList-r6");
-   /* newInterRATCellList */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SynchronisationParameters-r4");
+   /* sync-UL-CodesBitmap */
+   stat = enc_SynchronisationParameters_r4_sync_UL_CodesBitmap(ctx, pvalue->sync_UL_CodesBitmap, cur);
+   RT_CHECK(ctx, stat, 0, "sync-UL-CodesBitmap", -1, "SynchronisationParameters-r4");
+   /* fpach-Info */
+   stat = enc_FPACH_Info_r4(ctx, &pvalue->fpach_Info, cur);
+   RT_CHECK(ctx, stat, 0, "fpach-Info", -1, "SynchronisationParameters-r4");
+   /* prxUpPCHdes */
+   if ((uint64_t)pvalue->prxUpPCHdes > 62u) {
+      rtxErrAddStrParm(ctx, "prxUpPCHdes");
+      rtxErrAddUIntParm(ctx, pvalue->prxUpPCHdes);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "prxUpPCHdes", -1, "SynchronisationParameters-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->prxUpPCHdes, 0, 62);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "prxUpPCHdes", -1, "SynchronisationParameters-r4");
+   /* sync-UL-Procedure */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_NewInterRATCellList(ctx, &pvalue->newInterRATCellList);
-      RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, "InterRATCellInfoList-r6");
-   }
-   /* cellsForInterRATMeasList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_CellsForInterRATMeasList(ctx, &pvalue->cellsForInterRATMeasList);
-      RT_CHECK(ctx, stat, 0, "cellsForInterRATMeasList", -1, "InterRATCellInfoList-r6");
-   }
-   /* interRATCellInfoIndication-r6 */
-   if (pvalue->m & 0x4u) {
-      if ((uint64_t)pvalue->interRATCellInfoIndication_r6 > 3u) {
-         rtxErrAddStrParm(ctx, "InterRATCellInfoIndication");
-         rtxErrAddUIntParm(ctx, pvalue->interRATCellInfoIndication_r6);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "InterRATCellInfoIndication", "interRATCellInfoIndication-r6", -1, "InterRATCellInfoList-r6");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->interRATCellInfoIndication_r6, 0, 3);
-      RT_CHECK(ctx, stat, "InterRATCellInfoIndication", "interRATCellInfoIndication-r6", -1, "InterRATCellInfoList-r6");
+      stat = enc_SYNC_UL_Procedure_r4(ctx, &pvalue->sync_UL_Procedure, cur);
+      RT_CHECK(ctx, stat, 0, "sync-UL-Procedure", -1, "SynchronisationParameters-r4");
    }
    return 0;
 }
 
-int asn1PE_UMTS_InterRATEvent(rtxContext* RT_RESTRICT ctx, const InterRATEvent* RT_RESTRICT pvalue)
+int asn1PE_UMTS_SynchronisationParameters_r4(rtxContext* RT_RESTRICT ctx, const SynchronisationParameters_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SynchronisationParameters_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_TFC_ControlDuration(rtxContext* RT_RESTRICT ctx, TFC_ControlDuration value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATEvent");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat, 0, "t", -1, "InterRATEvent");
-   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterRATEvent");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.event3a == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event3a", -1, "InterRATEvent");
-         stat = asn1PE_UMTS_Event3a(ctx, pvalue->u.event3a);
-         RT_CHECK(ctx, stat, 0, "event3a", -1, "InterRATEvent");
-         break;
-      case 2:
-         if (pvalue->u.event3b == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event3b", -1, "InterRATEvent");
-         stat = asn1PE_UMTS_Event3b(ctx, pvalue->u.event3b);
-         RT_CHECK(ctx, stat, 0, "event3b", -1, "InterRATEvent");
-         break;
-      case 3:
-         if (pvalue->u.event3c == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event3c", -1, "InterRATEvent");
-         stat = asn1PE_UMTS_Event3c(ctx, pvalue->u.event3c);
-         RT_CHECK(ctx, stat, 0, "event3c", -1, "InterRATEvent");
-         break;
-      case 4:
-         if (pvalue->u.event3d == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event3d", -1, "InterRATEvent");
-         stat = asn1PE_UMTS_Event3d(ctx, pvalue->u.event3d);
-         RT_CHECK(ctx, stat, 0, "event3d", -1, "InterRATEvent");
-         break;
-      default:
-         break;
+   if (value > 12) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "TFC-ControlDuration");
    }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 12);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TFC-ControlDuration");
    return 0;
 }
 
-int asn1PE_UMTS_InterRATEventList(rtxContext* RT_RESTRICT ctx, const InterRATEventList* RT_RESTRICT pvalue)
+int asn1PE_UMTS_TFC_ControlDuration(rtxContext* RT_RESTRICT ctx, TFC_ControlDuration value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TFC_ControlDuration, value);
+}
+
+RT_MERGED_BODY int enc_TimeslotList(rtxContext* RT_RESTRICT ctx, const TimeslotList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATEventList");
-   const rtxDListNode* node;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TimeslotList");
    uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "InterRATEventList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "InterRATEvent", (int32_t)i, "InterRATEventList");
-      stat = asn1PE_UMTS_InterRATEvent(ctx, (const InterRATEvent*)node->data);
-      RT_CHECK(ctx, stat, 0, "InterRATEvent", (int32_t)i, "InterRATEventList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementQuantityGSM(rtxContext* RT_RESTRICT ctx, MeasurementQuantityGSM value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MeasurementQuantityGSM");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementQuantityGSM");
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATMeasQuantity_ratSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const InterRATMeasQuantity_ratSpecificInfo_gsm* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->filterCoefficient != 0) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementQuantity */
-   if (pvalue->measurementQuantity > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->measurementQuantity);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MeasurementQuantityGSM", "measurementQuantity", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->measurementQuantity, 0, 1);
-   RT_CHECK(ctx, stat, "MeasurementQuantityGSM", "measurementQuantity", -1, 0);
-   /* filterCoefficient */
-   if (pvalue->filterCoefficient != 0) {
-      if (pvalue->filterCoefficient > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->filterCoefficient);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "FilterCoefficient", "filterCoefficient", -1, 0);
+   RT_SET_SIZE(ctx, 1, 14);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "TimeslotList");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 14u) {
+         rtxErrAddStrParm(ctx, "TimeslotNumber");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber", "TimeslotNumber", (int32_t)i, "TimeslotList");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->filterCoefficient, 0, 15);
-      RT_CHECK(ctx, stat, "FilterCoefficient", "filterCoefficient", -1, 0);
-   }
-   /* bsic-VerificationRequired */
-   if (pvalue->bsic_VerificationRequired > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->bsic_VerificationRequired);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "BSIC-VerificationRequired", "bsic-VerificationRequired", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->bsic_VerificationRequired, 0, 1);
-   RT_CHECK(ctx, stat, "BSIC-VerificationRequired", "bsic-VerificationRequired", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATMeasQuantity_ratSpecificInfo_is_2000(rtxContext* RT_RESTRICT ctx, const InterRATMeasQuantity_ratSpecificInfo_is_2000* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tadd-EcIo */
-   if ((uint64_t)pvalue->tadd_EcIo > 63u) {
-      rtxErrAddStrParm(ctx, "tadd-EcIo");
-      rtxErrAddUIntParm(ctx, pvalue->tadd_EcIo);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "tadd-EcIo", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tadd_EcIo, 0, 63);
-   RT_CHECK(ctx, stat, 0, "tadd-EcIo", -1, 0);
-   /* tcomp-EcIo */
-   if ((uint64_t)pvalue->tcomp_EcIo > 15u) {
-      rtxErrAddStrParm(ctx, "tcomp-EcIo");
-      rtxErrAddUIntParm(ctx, pvalue->tcomp_EcIo);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "tcomp-EcIo", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tcomp_EcIo, 0, 15);
-   RT_CHECK(ctx, stat, 0, "tcomp-EcIo", -1, 0);
-   /* softSlope */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->softSlope > 63u) {
-         rtxErrAddStrParm(ctx, "softSlope");
-         rtxErrAddUIntParm(ctx, pvalue->softSlope);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "softSlope", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->softSlope, 0, 63);
-      RT_CHECK(ctx, stat, 0, "softSlope", -1, 0);
-   }
-   /* addIntercept */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->addIntercept > 63u) {
-         rtxErrAddStrParm(ctx, "addIntercept");
-         rtxErrAddUIntParm(ctx, pvalue->addIntercept);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "addIntercept", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->addIntercept, 0, 63);
-      RT_CHECK(ctx, stat, 0, "addIntercept", -1, 0);
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 14);
+      RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber", "TimeslotNumber", (int32_t)i, "TimeslotList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_InterRATMeasQuantity_ratSpecificInfo(rtxContext* RT_RESTRICT ctx, const InterRATMeasQuantity_ratSpecificInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_TimeslotList(rtxContext* RT_RESTRICT ctx, const TimeslotList* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm", -1, 0);
-         stat = asn1PE_UMTS_InterRATMeasQuantity_ratSpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.is_2000 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "is-2000", -1, 0);
-         stat = asn1PE_UMTS_InterRATMeasQuantity_ratSpecificInfo_is_2000(ctx, pvalue->u.is_2000);
-         RT_CHECK(ctx, stat, 0, "is-2000", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_TimeslotList, pvalue);
 }
 
-int asn1PE_UMTS_InterRATMeasQuantity(rtxContext* RT_RESTRICT ctx, const InterRATMeasQuantity* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_TimeslotList_r4_tdd384(rtxContext* RT_RESTRICT ctx, const TimeslotList_r4_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATMeasQuantity");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATMeasQuantity");
-   /* measQuantityUTRAN-QualityEstimate */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->measQuantityUTRAN_QualityEstimate);
-      RT_CHECK(ctx, stat, 0, "measQuantityUTRAN-QualityEstimate", -1, "InterRATMeasQuantity");
-   }
-   /* ratSpecificInfo */
-   stat = asn1PE_UMTS_InterRATMeasQuantity_ratSpecificInfo(ctx, &pvalue->ratSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "ratSpecificInfo", -1, "InterRATMeasQuantity");
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const InterRATMeasQuantity_r8_ratSpecificInfo_gsm* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->filterCoefficient != 0) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementQuantity */
-   if (pvalue->measurementQuantity > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->measurementQuantity);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MeasurementQuantityGSM", "measurementQuantity", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->measurementQuantity, 0, 1);
-   RT_CHECK(ctx, stat, "MeasurementQuantityGSM", "measurementQuantity", -1, 0);
-   /* filterCoefficient */
-   if (pvalue->filterCoefficient != 0) {
-      if (pvalue->filterCoefficient > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->filterCoefficient);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "FilterCoefficient", "filterCoefficient", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->filterCoefficient, 0, 15);
-      RT_CHECK(ctx, stat, "FilterCoefficient", "filterCoefficient", -1, 0);
-   }
-   /* bsic-VerificationRequired */
-   if (pvalue->bsic_VerificationRequired > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->bsic_VerificationRequired);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "BSIC-VerificationRequired", "bsic-VerificationRequired", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->bsic_VerificationRequired, 0, 1);
-   RT_CHECK(ctx, stat, "BSIC-VerificationRequired", "bsic-VerificationRequired", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_is_2000(rtxContext* RT_RESTRICT ctx, const InterRATMeasQuantity_r8_ratSpecificInfo_is_2000* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* tadd-EcIo */
-   if ((uint64_t)pvalue->tadd_EcIo > 63u) {
-      rtxErrAddStrParm(ctx, "tadd-EcIo");
-      rtxErrAddUIntParm(ctx, pvalue->tadd_EcIo);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "tadd-EcIo", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tadd_EcIo, 0, 63);
-   RT_CHECK(ctx, stat, 0, "tadd-EcIo", -1, 0);
-   /* tcomp-EcIo */
-   if ((uint64_t)pvalue->tcomp_EcIo > 15u) {
-      rtxErrAddStrParm(ctx, "tcomp-EcIo");
-      rtxErrAddUIntParm(ctx, pvalue->tcomp_EcIo);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "tcomp-EcIo", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tcomp_EcIo, 0, 15);
-   RT_CHECK(ctx, stat, 0, "tcomp-EcIo", -1, 0);
-   /* softSlope */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->softSlope > 63u) {
-         rtxErrAddStrParm(ctx, "softSlope");
-         rtxErrAddUIntParm(ctx, pvalue->softSlope);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "softSlope", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->softSlope, 0, 63);
-      RT_CHECK(ctx, stat, 0, "softSlope", -1, 0);
-   }
-   /* addIntercept */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->addIntercept > 63u) {
-         rtxErrAddStrParm(ctx, "addIntercept");
-         rtxErrAddUIntParm(ctx, pvalue->addIntercept);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "addIntercept", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->addIntercept, 0, 63);
-      RT_CHECK(ctx, stat, 0, "addIntercept", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementQuantityEUTRA(rtxContext* RT_RESTRICT ctx, MeasurementQuantityEUTRA value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MeasurementQuantityEUTRA");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasurementQuantityEUTRA");
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_e_UTRA(rtxContext* RT_RESTRICT ctx, const InterRATMeasQuantity_r8_ratSpecificInfo_e_UTRA* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->filterCoefficient != 0) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementQuantity */
-   if (pvalue->measurementQuantity > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->measurementQuantity);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MeasurementQuantityEUTRA", "measurementQuantity", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->measurementQuantity, 0, 1);
-   RT_CHECK(ctx, stat, "MeasurementQuantityEUTRA", "measurementQuantity", -1, 0);
-   /* filterCoefficient */
-   if (pvalue->filterCoefficient != 0) {
-      if (pvalue->filterCoefficient > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->filterCoefficient);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "FilterCoefficient", "filterCoefficient", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->filterCoefficient, 0, 15);
-      RT_CHECK(ctx, stat, "FilterCoefficient", "filterCoefficient", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo(rtxContext* RT_RESTRICT ctx, const InterRATMeasQuantity_r8_ratSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm", -1, 0);
-         stat = asn1PE_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.is_2000 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "is-2000", -1, 0);
-         stat = asn1PE_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_is_2000(ctx, pvalue->u.is_2000);
-         RT_CHECK(ctx, stat, 0, "is-2000", -1, 0);
-         break;
-      case 3:
-         if (pvalue->u.e_UTRA == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "e-UTRA", -1, 0);
-         stat = asn1PE_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo_e_UTRA(ctx, pvalue->u.e_UTRA);
-         RT_CHECK(ctx, stat, 0, "e-UTRA", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATMeasQuantity_r8(rtxContext* RT_RESTRICT ctx, const InterRATMeasQuantity_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATMeasQuantity-r8");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATMeasQuantity-r8");
-   /* measQuantityUTRAN-QualityEstimate */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->measQuantityUTRAN_QualityEstimate);
-      RT_CHECK(ctx, stat, 0, "measQuantityUTRAN-QualityEstimate", -1, "InterRATMeasQuantity-r8");
-   }
-   /* ratSpecificInfo */
-   stat = asn1PE_UMTS_InterRATMeasQuantity_r8_ratSpecificInfo(ctx, &pvalue->ratSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "ratSpecificInfo", -1, "InterRATMeasQuantity-r8");
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATMeasuredResults(rtxContext* RT_RESTRICT ctx, const InterRATMeasuredResults* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATMeasuredResults");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "InterRATMeasuredResults");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterRATMeasuredResults");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm", -1, "InterRATMeasuredResults");
-         stat = asn1PE_UMTS_GSM_MeasuredResultsList(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat, 0, "gsm", -1, "InterRATMeasuredResults");
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATMeasuredResultsList(rtxContext* RT_RESTRICT ctx, const InterRATMeasuredResultsList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATMeasuredResultsList");
-   const rtxDListNode* node;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "InterRATMeasuredResultsList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "InterRATMeasuredResults", (int32_t)i, "InterRATMeasuredResultsList");
-      stat = asn1PE_UMTS_InterRATMeasuredResults(ctx, (const InterRATMeasuredResults*)node->data);
-      RT_CHECK(ctx, stat, 0, "InterRATMeasuredResults", (int32_t)i, "InterRATMeasuredResultsList");
+   RT_SET_SIZE(ctx, 1, 14);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 14u) {
+         rtxErrAddStrParm(ctx, "TimeslotNumber");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber", "TimeslotNumber", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 14);
+      RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber", "TimeslotNumber", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_InterRATReportingQuantity_ratSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const InterRATReportingQuantity_ratSpecificInfo_gsm* RT_RESTRICT pvalue)
+int asn1PE_UMTS_TimeslotList_r4_tdd384(rtxContext* RT_RESTRICT ctx, const TimeslotList_r4_tdd384* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* dummy */
-   stat = rtxEncBit(ctx, pvalue->dummy);
-   RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
-   /* dummy2 */
-   stat = rtxEncBit(ctx, pvalue->dummy2);
-   RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
-   /* gsm-Carrier-RSSI */
-   stat = rtxEncBit(ctx, pvalue->gsm_Carrier_RSSI);
-   RT_CHECK(ctx, stat, 0, "gsm-Carrier-RSSI", -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_TimeslotList_r4_tdd384, pvalue);
 }
 
-int asn1PE_UMTS_InterRATReportingQuantity_ratSpecificInfo(rtxContext* RT_RESTRICT ctx, const InterRATReportingQuantity_ratSpecificInfo* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_TimeslotList_r4_tdd128(rtxContext* RT_RESTRICT ctx, const TimeslotList_r4_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 0);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 0) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm", -1, 0);
-         stat = asn1PE_UMTS_InterRATReportingQuantity_ratSpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
-         break;
-      default:
-         break;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 6);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 6u) {
+         rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "TimeslotNumber-LCR-r4", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 6);
+      RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber-LCR-r4", "TimeslotNumber-LCR-r4", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_InterRATReportingQuantity(rtxContext* RT_RESTRICT ctx, const InterRATReportingQuantity* RT_RESTRICT pvalue)
+int asn1PE_UMTS_TimeslotList_r4_tdd128(rtxContext* RT_RESTRICT ctx, const TimeslotList_r4_tdd128* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATReportingQuantity");
-   /* utran-EstimatedQuality */
-   stat = rtxEncBit(ctx, pvalue->utran_EstimatedQuality);
-   RT_CHECK(ctx, stat, 0, "utran-EstimatedQuality", -1, "InterRATReportingQuantity");
-   /* ratSpecificInfo */
-   stat = asn1PE_UMTS_InterRATReportingQuantity_ratSpecificInfo(ctx, &pvalue->ratSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "ratSpecificInfo", -1, "InterRATReportingQuantity");
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATReportingCriteria(rtxContext* RT_RESTRICT ctx, const InterRATReportingCriteria* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATReportingCriteria");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATReportingCriteria");
-   /* interRATEventList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_InterRATEventList(ctx, &pvalue->interRATEventList);
-      RT_CHECK(ctx, stat, 0, "interRATEventList", -1, "InterRATReportingCriteria");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATReportCriteria(rtxContext* RT_RESTRICT ctx, const InterRATReportCriteria* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATReportCriteria");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "InterRATReportCriteria");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterRATReportCriteria");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.interRATReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interRATReportingCriteria", -1, "InterRATReportCriteria");
-         stat = asn1PE_UMTS_InterRATReportingCriteria(ctx, pvalue->u.interRATReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "interRATReportingCriteria", -1, "InterRATReportCriteria");
-         break;
-      case 2:
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "InterRATReportCriteria");
-         stat = asn1PE_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "InterRATReportCriteria");
-         break;
-      case 3:
-         if (pvalue->u.noReporting == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "noReporting", -1, "InterRATReportCriteria");
-         stat = asn1PE_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat, 0, "noReporting", -1, "InterRATReportCriteria");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATMeasurement(rtxContext* RT_RESTRICT ctx, const InterRATMeasurement* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATMeasurement");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATMeasurement");
-   /* interRATCellInfoList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_InterRATCellInfoList(ctx, &pvalue->interRATCellInfoList);
-      RT_CHECK(ctx, stat, 0, "interRATCellInfoList", -1, "InterRATMeasurement");
-   }
-   /* interRATMeasQuantity */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_InterRATMeasQuantity(ctx, &pvalue->interRATMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "interRATMeasQuantity", -1, "InterRATMeasurement");
-   }
-   /* interRATReportingQuantity */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_InterRATReportingQuantity(ctx, &pvalue->interRATReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "interRATReportingQuantity", -1, "InterRATMeasurement");
-   }
-   /* reportCriteria */
-   stat = asn1PE_UMTS_InterRATReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterRATMeasurement");
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATMeasurement_r4(rtxContext* RT_RESTRICT ctx, const InterRATMeasurement_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATMeasurement-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATMeasurement-r4");
-   /* interRATCellInfoList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_InterRATCellInfoList_r4(ctx, &pvalue->interRATCellInfoList);
-      RT_CHECK(ctx, stat, 0, "interRATCellInfoList", -1, "InterRATMeasurement-r4");
-   }
-   /* interRATMeasQuantity */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_InterRATMeasQuantity(ctx, &pvalue->interRATMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "interRATMeasQuantity", -1, "InterRATMeasurement-r4");
-   }
-   /* interRATReportingQuantity */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_InterRATReportingQuantity(ctx, &pvalue->interRATReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "interRATReportingQuantity", -1, "InterRATMeasurement-r4");
-   }
-   /* reportCriteria */
-   stat = asn1PE_UMTS_InterRATReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterRATMeasurement-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATMeasurement_r6(rtxContext* RT_RESTRICT ctx, const InterRATMeasurement_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATMeasurement-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATMeasurement-r6");
-   /* interRATCellInfoList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_InterRATCellInfoList_r6(ctx, &pvalue->interRATCellInfoList);
-      RT_CHECK(ctx, stat, 0, "interRATCellInfoList", -1, "InterRATMeasurement-r6");
-   }
-   /* interRATMeasQuantity */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_InterRATMeasQuantity(ctx, &pvalue->interRATMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "interRATMeasQuantity", -1, "InterRATMeasurement-r6");
-   }
-   /* interRATReportingQuantity */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_InterRATReportingQuantity(ctx, &pvalue->interRATReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "interRATReportingQuantity", -1, "InterRATMeasurement-r6");
-   }
-   /* reportCriteria */
-   stat = asn1PE_UMTS_InterRATReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterRATMeasurement-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATMeasurement_r8_interRATMeasurementObjects(rtxContext* RT_RESTRICT ctx, const InterRATMeasurement_r8_interRATMeasurementObjects* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.interRATCellInfoList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interRATCellInfoList", -1, 0);
-         stat = asn1PE_UMTS_InterRATCellInfoList_r6(ctx, pvalue->u.interRATCellInfoList);
-         RT_CHECK(ctx, stat, 0, "interRATCellInfoList", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.eutra_FrequencyList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "eutra-FrequencyList", -1, 0);
-         stat = asn1PE_UMTS_EUTRA_FrequencyList(ctx, pvalue->u.eutra_FrequencyList);
-         RT_CHECK(ctx, stat, 0, "eutra-FrequencyList", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATReportingQuantity_r8_ratSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const InterRATReportingQuantity_r8_ratSpecificInfo_gsm* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* gsm-Carrier-RSSI */
-   stat = rtxEncBit(ctx, pvalue->gsm_Carrier_RSSI);
-   RT_CHECK(ctx, stat, 0, "gsm-Carrier-RSSI", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATReportingQuantity_r8_ratSpecificInfo_eutra_reportingQuantity(rtxContext* RT_RESTRICT ctx, InterRATReportingQuantity_r8_ratSpecificInfo_eutra_reportingQuantity value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_TimeslotList_r4_tdd128, pvalue);
 }
 

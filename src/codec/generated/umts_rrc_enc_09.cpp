@@ -6,37 +6,380 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PE_UMTS_InterRATReportingQuantity_r8_ratSpecificInfo_eutra(rtxContext* RT_RESTRICT ctx, const InterRATReportingQuantity_r8_ratSpecificInfo_eutra* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* reportingQuantity */
-   if (pvalue->reportingQuantity > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->reportingQuantity);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "reportingQuantity", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingQuantity, 0, 1);
-   RT_CHECK(ctx, stat, 0, "reportingQuantity", -1, 0);
-   return 0;
-}
+/* The bodies of this unit. */
+RT_MERGED_BODY int enc_TimeslotList_r4(rtxContext* RT_RESTRICT ctx, const TimeslotList_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_16QAM_Config_mac_es_e_resetIndicator(rtxContext* RT_RESTRICT ctx, UL_16QAM_Config_mac_es_e_resetIndicator value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_16QAM_Config(rtxContext* RT_RESTRICT ctx, const UL_16QAM_Config* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_CCTrCH(rtxContext* RT_RESTRICT ctx, const UL_CCTrCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_CCTrCH_r4_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const UL_CCTrCH_r4_tddOption_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_CCTrCH_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const UL_CCTrCH_r4_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_CCTrCH_r4_tddOption(rtxContext* RT_RESTRICT ctx, const UL_CCTrCH_r4_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_CCTrCH_r4(rtxContext* RT_RESTRICT ctx, const UL_CCTrCH_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_CCTrCH_r7_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const UL_CCTrCH_r7_tddOption_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_CCTrCH_r7_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, const UL_CCTrCH_r7_tddOption_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_TS_ChannelisationCodeList_r7_element(rtxContext* RT_RESTRICT ctx, const UL_TS_ChannelisationCodeList_r7_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_TS_ChannelisationCodeList_r7(rtxContext* RT_RESTRICT ctx, const UL_TS_ChannelisationCodeList_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_consecutive(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_consecutive* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UplinkAdditionalTimeslots_LCR_r7_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_LCR_r7_parameters_sameAsLast* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UplinkAdditionalTimeslots_LCR_r7_parameters_newParameters(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_LCR_r7_parameters_newParameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UplinkAdditionalTimeslots_LCR_r7_parameters(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_LCR_r7_parameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UplinkAdditionalTimeslots_LCR_r7(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_LCR_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UplinkTimeslotsCodes_LCR_r7_moreTimeslots(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r7_moreTimeslots* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UplinkTimeslotsCodes_LCR_r7(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_CCTrCH_r7_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const UL_CCTrCH_r7_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_CCTrCH_r7_tddOption(rtxContext* RT_RESTRICT ctx, const UL_CCTrCH_r7_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UL_CCTrCH_r7(rtxContext* RT_RESTRICT ctx, const UL_CCTrCH_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_CCTrCHList(rtxContext* RT_RESTRICT ctx, const UL_CCTrCHList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UL_CCTrCHList_r4(rtxContext* RT_RESTRICT ctx, const UL_CCTrCHList_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_CCTrCHList_r7(rtxContext* RT_RESTRICT ctx, const UL_CCTrCHList_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_CCTrCHListToRemove(rtxContext* RT_RESTRICT ctx, const UL_CCTrCHListToRemove* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_TimingAdvance(rtxContext* RT_RESTRICT ctx, UL_TimingAdvance value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_TimingAdvanceControl_enabled(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_enabled* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_TimingAdvanceControl(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_Info_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UL_DPCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_Info(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UL_ChannelRequirement(rtxContext* RT_RESTRICT ctx, const UL_ChannelRequirement* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_Info_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_TimingAdvanceControl_r4_enabled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r4_enabled_tddOption_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_TimingAdvanceControl_r4_enabled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r4_enabled_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_TimingAdvanceControl_r4_enabled_tddOption(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r4_enabled_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_TimingAdvanceControl_r4_enabled(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r4_enabled* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UL_TimingAdvanceControl_r4(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_Info_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_Info_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UL_DPCH_Info_r4(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_ChannelRequirement_r4(rtxContext* RT_RESTRICT ctx, const UL_ChannelRequirement_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_Info_r5_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r5_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_Info_r5_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r5_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_Info_r5_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r5_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UL_DPCH_Info_r5(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_ChannelRequirement_r5(rtxContext* RT_RESTRICT ctx, const UL_ChannelRequirement_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_ChannelRequirementWithCPCH_SetID(rtxContext* RT_RESTRICT ctx, const UL_ChannelRequirementWithCPCH_SetID* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_ChannelRequirementWithCPCH_SetID_r4(rtxContext* RT_RESTRICT ctx, const UL_ChannelRequirementWithCPCH_SetID_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_ChannelRequirementWithCPCH_SetID_r5(rtxContext* RT_RESTRICT ctx, const UL_ChannelRequirementWithCPCH_SetID_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r6_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r6_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r6_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r6_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r6(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_present(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_present* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_notPresent(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_notPresent* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_Info_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_Info_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_Info_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r6_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UL_DPCH_Info_r6(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_present(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_present* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_notPresent(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_notPresent* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_Info_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r7_enabled_tddOption_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r7_enabled_tddOption_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r7_enabled_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_TimingAdvanceControl_r7_enabled_tddOption(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r7_enabled_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_TimingAdvanceControl_r7_enabled(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r7_enabled* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UL_TimingAdvanceControl_r7(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_Info_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_Info_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r7_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UL_DPCH_Info_r7(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfoPostFDD(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfoPostFDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_InfoPostFDD(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPostFDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfoPostTDD(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfoPostTDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_InfoPostTDD(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPostTDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfoPostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfoPostTDD_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_TimingAdvanceControl_LCR_r4_enabled(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_LCR_r4_enabled* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_TimingAdvanceControl_LCR_r4(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UL_DPCH_InfoPostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPostTDD_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_EDCH_Information_ext_tdd(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_ext_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_EDCH_Information_ext(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_EDCH_Information_r6_mac_es_e_resetIndicator(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r6_mac_es_e_resetIndicator value, rtxEncCur* RT_RESTRICT cur);
+static int enc_UL_EDCH_Information_r6(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_EDCH_Information_r7_mac_es_e_resetIndicator(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r7_mac_es_e_resetIndicator value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_EDCH_Information_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_EDCH_Information_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UL_EDCH_Information_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r7_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UL_EDCH_Information_r7(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SatID(rtxContext* RT_RESTRICT ctx, SatID value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DopplerUncertainty(rtxContext* RT_RESTRICT ctx, DopplerUncertainty value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ExtraDopplerInfo(rtxContext* RT_RESTRICT ctx, const ExtraDopplerInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CodePhaseSearchWindow(rtxContext* RT_RESTRICT ctx, CodePhaseSearchWindow value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AzimuthAndElevation(rtxContext* RT_RESTRICT ctx, const AzimuthAndElevation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AcquisitionSatInfo(rtxContext* RT_RESTRICT ctx, const AcquisitionSatInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_AcquisitionSatInfoList(rtxContext* RT_RESTRICT ctx, const AcquisitionSatInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AdditionalMeasurementID_List(rtxContext* RT_RESTRICT ctx, const AdditionalMeasurementID_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AlmanacSatInfo(rtxContext* RT_RESTRICT ctx, const AlmanacSatInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AlmanacSatInfoList(rtxContext* RT_RESTRICT ctx, const AlmanacSatInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSS_SAT_Info_Almanac_SBASecef(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_SBASecef* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSS_SAT_Info_Almanac_SBASecefList(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_SBASecefList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_ALM_ECEFsbasAlmanacSet(rtxContext* RT_RESTRICT ctx, const ALM_ECEFsbasAlmanacSet* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSS_SAT_Info_Almanac_GLOkp(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_GLOkp* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSS_SAT_Info_Almanac_GLOkpList(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_GLOkpList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_ALM_GlonassAlmanacSet(rtxContext* RT_RESTRICT ctx, const ALM_GlonassAlmanacSet* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSS_SAT_Info_Almanac_Kp(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_Kp* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSS_SAT_Info_Almanac_KpList(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_KpList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_ALM_keplerianParameters(rtxContext* RT_RESTRICT ctx, const ALM_keplerianParameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSS_SAT_Info_Almanac_MIDIkp(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_MIDIkp* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSS_SAT_Info_Almanac_MIDIkpList(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_MIDIkpList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_ALM_MidiAlmanacSet(rtxContext* RT_RESTRICT ctx, const ALM_MidiAlmanacSet* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSS_SAT_Info_Almanac_NAVkp(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_NAVkp* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSS_SAT_Info_Almanac_NAVkpList(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_NAVkpList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_ALM_NAVKeplerianSet(rtxContext* RT_RESTRICT ctx, const ALM_NAVKeplerianSet* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSS_SAT_Info_Almanac_REDkp(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_REDkp* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSS_SAT_Info_Almanac_REDkpList(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_REDkpList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_ALM_ReducedKeplerianSet(rtxContext* RT_RESTRICT ctx, const ALM_ReducedKeplerianSet* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AuxInfoGANSS_ID1_element(rtxContext* RT_RESTRICT ctx, const AuxInfoGANSS_ID1_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AuxInfoGANSS_ID1(rtxContext* RT_RESTRICT ctx, const AuxInfoGANSS_ID1* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AuxInfoGANSS_ID3_element(rtxContext* RT_RESTRICT ctx, const AuxInfoGANSS_ID3_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AuxInfoGANSS_ID3(rtxContext* RT_RESTRICT ctx, const AuxInfoGANSS_ID3* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_AverageRLC_BufferPayload(rtxContext* RT_RESTRICT ctx, AverageRLC_BufferPayload value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_BadSatList_element(rtxContext* RT_RESTRICT ctx, BadSatList_element value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_BadSatList(rtxContext* RT_RESTRICT ctx, const BadSatList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DL_TransportChannelBLER(rtxContext* RT_RESTRICT ctx, DL_TransportChannelBLER value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_BLER_MeasurementResults(rtxContext* RT_RESTRICT ctx, const BLER_MeasurementResults* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_BLER_MeasurementResultsList(rtxContext* RT_RESTRICT ctx, const BLER_MeasurementResultsList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_BLER_TransChIdList(rtxContext* RT_RESTRICT ctx, const BLER_TransChIdList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_BSIC_VerificationRequired(rtxContext* RT_RESTRICT ctx, BSIC_VerificationRequired value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_BSICReported(rtxContext* RT_RESTRICT ctx, const BSICReported* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_BurstModeParameters(rtxContext* RT_RESTRICT ctx, const BurstModeParameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellDCHMeasOccasionPattern_LCR_statusFlag(rtxContext* RT_RESTRICT ctx, CellDCHMeasOccasionPattern_LCR_statusFlag value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementOccasionPatternParameter(rtxContext* RT_RESTRICT ctx, const MeasurementOccasionPatternParameter* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellDCHMeasOccasionPattern_LCR(rtxContext* RT_RESTRICT ctx, const CellDCHMeasOccasionPattern_LCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellDCHMeasOccasionInfo_TDD128_r9_cellDCHMeasOccasionSequenceList(rtxContext* RT_RESTRICT ctx, const CellDCHMeasOccasionInfo_TDD128_r9_cellDCHMeasOccasionSequenceList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_CellDCHMeasOccasionInfo_TDD128_r9(rtxContext* RT_RESTRICT ctx, const CellDCHMeasOccasionInfo_TDD128_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_CellInfo(rtxContext* RT_RESTRICT ctx, const CellInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellInfo_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellInfo_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TimeslotInfoList_r4_tdd384(rtxContext* RT_RESTRICT ctx, const TimeslotInfoList_r4_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TimeslotInfoList_r4_tdd128(rtxContext* RT_RESTRICT ctx, const TimeslotInfoList_r4_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_TimeslotInfoList_r4(rtxContext* RT_RESTRICT ctx, const TimeslotInfoList_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellInfo_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellInfo_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellInfo_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellInfo_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_CellInfo_r4(rtxContext* RT_RESTRICT ctx, const CellInfo_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoMC_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoMC_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoMC_RSCP_modeSpecificInfo_gsm* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellSelectReselectInfoMC_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoMC_RSCP_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_CellSelectReselectInfoMC_RSCP(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoMC_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellInfo_LCR_r8_ext(rtxContext* RT_RESTRICT ctx, const CellInfo_LCR_r8_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellInfo_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellInfo_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellInfo_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellInfo_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellInfo_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellInfo_r9_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_CellInfo_r9(rtxContext* RT_RESTRICT ctx, const CellInfo_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SFN_SFN_ObsTimeDifference1(rtxContext* RT_RESTRICT ctx, SFN_SFN_ObsTimeDifference1 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SFN_SFN_ObsTimeDifference2(rtxContext* RT_RESTRICT ctx, SFN_SFN_ObsTimeDifference2 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SFN_SFN_ObsTimeDifference(rtxContext* RT_RESTRICT ctx, const SFN_SFN_ObsTimeDifference* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CountC_SFN_Frame_difference(rtxContext* RT_RESTRICT ctx, const CountC_SFN_Frame_difference* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellSynchronisationInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellSynchronisationInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellSynchronisationInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellSynchronisationInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellSynchronisationInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellSynchronisationInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_CellSynchronisationInfo(rtxContext* RT_RESTRICT ctx, const CellSynchronisationInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CPICH_Ec_N0(rtxContext* RT_RESTRICT ctx, CPICH_Ec_N0 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CPICH_RSCP(rtxContext* RT_RESTRICT ctx, CPICH_RSCP value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Pathloss(rtxContext* RT_RESTRICT ctx, Pathloss value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellMeasuredResults_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellMeasuredResults_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PrimaryCCPCH_RSCP(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_RSCP value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TimeslotISCP(rtxContext* RT_RESTRICT ctx, TimeslotISCP value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TimeslotISCP_List(rtxContext* RT_RESTRICT ctx, const TimeslotISCP_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellMeasuredResults_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellMeasuredResults_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellMeasuredResults_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellMeasuredResults_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_CellMeasuredResults(rtxContext* RT_RESTRICT ctx, const CellMeasuredResults* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DeltaRSCPPerCell(rtxContext* RT_RESTRICT ctx, const DeltaRSCPPerCell* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellMeasuredResults_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellMeasuredResults_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellMeasuredResults_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellMeasuredResults_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellMeasuredResults_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellMeasuredResults_r9_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellMeasuredResults_r9(rtxContext* RT_RESTRICT ctx, const CellMeasuredResults_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellMeasuredResults_v920ext_csgMemberIndication(rtxContext* RT_RESTRICT ctx, CellMeasuredResults_v920ext_csgMemberIndication value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellMeasuredResults_v920ext(rtxContext* RT_RESTRICT ctx, const CellMeasuredResults_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellMeasurementEventResults_fdd(rtxContext* RT_RESTRICT ctx, const CellMeasurementEventResults_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellMeasurementEventResults_tdd(rtxContext* RT_RESTRICT ctx, const CellMeasurementEventResults_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_CellMeasurementEventResults(rtxContext* RT_RESTRICT ctx, const CellMeasurementEventResults* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellMeasurementEventResultsOnSecUlFreq_fdd(rtxContext* RT_RESTRICT ctx, const CellMeasurementEventResultsOnSecUlFreq_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellMeasurementEventResultsOnSecUlFreq(rtxContext* RT_RESTRICT ctx, const CellMeasurementEventResultsOnSecUlFreq* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellMeasurementEventResults_LCR_r4(rtxContext* RT_RESTRICT ctx, const CellMeasurementEventResults_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellSelectReselectInfoPCHFACH_v5b0ext(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoPCHFACH_v5b0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellsForInterFreqMeasList(rtxContext* RT_RESTRICT ctx, const CellsForInterFreqMeasList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellsForIntraFreqMeasList(rtxContext* RT_RESTRICT ctx, const CellsForIntraFreqMeasList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqCellIDOnSecULFreq(rtxContext* RT_RESTRICT ctx, IntraFreqCellIDOnSecULFreq value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellsForIntraFreqMeasListOnSecULFreq(rtxContext* RT_RESTRICT ctx, const CellsForIntraFreqMeasListOnSecULFreq* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellToReport(rtxContext* RT_RESTRICT ctx, const CellToReport* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CellToReportList(rtxContext* RT_RESTRICT ctx, const CellToReportList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CNAVclockModel(rtxContext* RT_RESTRICT ctx, const CNAVclockModel* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CSGCellInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CSGCellInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CSGCellInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CSGCellInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CSGCellInfo(rtxContext* RT_RESTRICT ctx, const CSGCellInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CSGCellInfoList(rtxContext* RT_RESTRICT ctx, const CSGCellInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CSGInterFreqCellInfo(rtxContext* RT_RESTRICT ctx, const CSGInterFreqCellInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CSGInterFreqCellInfoList(rtxContext* RT_RESTRICT ctx, const CSGInterFreqCellInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CSGIntraFreqCellInfoList(rtxContext* RT_RESTRICT ctx, const CSGIntraFreqCellInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CSGProximityDetection_uTRACSGProximityDetec(rtxContext* RT_RESTRICT ctx, CSGProximityDetection_uTRACSGProximityDetec value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CSGProximityDetection_e_UTRACSGProximityDetec(rtxContext* RT_RESTRICT ctx, CSGProximityDetection_e_UTRACSGProximityDetec value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CSGProximityDetection(rtxContext* RT_RESTRICT ctx, const CSGProximityDetection* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CSGProximityIndication_cSGproximityInd(rtxContext* RT_RESTRICT ctx, CSGProximityIndication_cSGproximityInd value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CSGProximityIndication_radioAccessTechnology_uTRA(rtxContext* RT_RESTRICT ctx, const CSGProximityIndication_radioAccessTechnology_uTRA* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CSGProximityIndication_radioAccessTechnology_e_UTRA(rtxContext* RT_RESTRICT ctx, const CSGProximityIndication_radioAccessTechnology_e_UTRA* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CSGProximityIndication_radioAccessTechnology(rtxContext* RT_RESTRICT ctx, const CSGProximityIndication_radioAccessTechnology* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_CSGProximityIndication(rtxContext* RT_RESTRICT ctx, const CSGProximityIndication* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DataBitAssistance_data_bits(rtxContext* RT_RESTRICT ctx, const DataBitAssistance_data_bits* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DataBitAssistance(rtxContext* RT_RESTRICT ctx, const DataBitAssistance* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DataBitAssistanceSgnList(rtxContext* RT_RESTRICT ctx, const DataBitAssistanceSgnList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DataBitAssistanceSat(rtxContext* RT_RESTRICT ctx, const DataBitAssistanceSat* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DataBitAssistanceList(rtxContext* RT_RESTRICT ctx, const DataBitAssistanceList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DeltaPRC(rtxContext* RT_RESTRICT ctx, DeltaPRC value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DeltaRRC(rtxContext* RT_RESTRICT ctx, DeltaRRC value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DeltaUT1(rtxContext* RT_RESTRICT ctx, const DeltaUT1* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSS_Status_Health(rtxContext* RT_RESTRICT ctx, GANSS_Status_Health value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UDRE(rtxContext* RT_RESTRICT ctx, UDRE value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DGANSSSignalInformation(rtxContext* RT_RESTRICT ctx, const DGANSSSignalInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DGANSSSignalInformationList(rtxContext* RT_RESTRICT ctx, const DGANSSSignalInformationList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DGANSSInfo(rtxContext* RT_RESTRICT ctx, const DGANSSInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UDREGrowthRate(rtxContext* RT_RESTRICT ctx, UDREGrowthRate value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UDREValidityTime(rtxContext* RT_RESTRICT ctx, UDREValidityTime value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DGANSSSignalInformation_r9(rtxContext* RT_RESTRICT ctx, const DGANSSSignalInformation_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DGANSSSignalInformationList_r9(rtxContext* RT_RESTRICT ctx, const DGANSSSignalInformationList_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DGANSSInfo_r9(rtxContext* RT_RESTRICT ctx, const DGANSSInfo_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DGANSSSignalInformation_v920ext(rtxContext* RT_RESTRICT ctx, const DGANSSSignalInformation_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DGANSSSignalInformationList_v920ext(rtxContext* RT_RESTRICT ctx, const DGANSSSignalInformationList_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DGANSSInfo_v920ext(rtxContext* RT_RESTRICT ctx, const DGANSSInfo_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DGANSSInfoList(rtxContext* RT_RESTRICT ctx, const DGANSSInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DGANSSInfoList_r9(rtxContext* RT_RESTRICT ctx, const DGANSSInfoList_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DGANSSInfoList_v920ext(rtxContext* RT_RESTRICT ctx, const DGANSSInfoList_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DGANSS_Sig_Id_Req(rtxContext* RT_RESTRICT ctx, DGANSS_Sig_Id_Req value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IODE(rtxContext* RT_RESTRICT ctx, IODE value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PRC(rtxContext* RT_RESTRICT ctx, PRC value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RRC(rtxContext* RT_RESTRICT ctx, RRC value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DGPS_CorrectionSatInfo(rtxContext* RT_RESTRICT ctx, const DGPS_CorrectionSatInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DGPS_CorrectionSatInfo_r9(rtxContext* RT_RESTRICT ctx, const DGPS_CorrectionSatInfo_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DGPS_CorrectionSatInfo_v920ext(rtxContext* RT_RESTRICT ctx, const DGPS_CorrectionSatInfo_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DGPS_CorrectionSatInfoList(rtxContext* RT_RESTRICT ctx, const DGPS_CorrectionSatInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DGPS_CorrectionSatInfoList_r9(rtxContext* RT_RESTRICT ctx, const DGPS_CorrectionSatInfoList_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DGPS_CorrectionSatInfoList_v920ext(rtxContext* RT_RESTRICT ctx, const DGPS_CorrectionSatInfoList_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_DiffCorrectionStatus(rtxContext* RT_RESTRICT ctx, DiffCorrectionStatus value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EllipsoidPoint_latitudeSign(rtxContext* RT_RESTRICT ctx, EllipsoidPoint_latitudeSign value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EllipsoidPoint(rtxContext* RT_RESTRICT ctx, const EllipsoidPoint* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EllipsoidPointAltitude_latitudeSign(rtxContext* RT_RESTRICT ctx, EllipsoidPointAltitude_latitudeSign value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EllipsoidPointAltitude_altitudeDirection(rtxContext* RT_RESTRICT ctx, EllipsoidPointAltitude_altitudeDirection value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EllipsoidPointAltitude(rtxContext* RT_RESTRICT ctx, const EllipsoidPointAltitude* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EllipsoidPointAltitudeEllipsoide_latitudeSign(rtxContext* RT_RESTRICT ctx, EllipsoidPointAltitudeEllipsoide_latitudeSign value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EllipsoidPointAltitudeEllipsoide_altitudeDirection(rtxContext* RT_RESTRICT ctx, EllipsoidPointAltitudeEllipsoide_altitudeDirection value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EllipsoidPointAltitudeEllipsoide(rtxContext* RT_RESTRICT ctx, const EllipsoidPointAltitudeEllipsoide* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EllipsoidPointUncertCircle_latitudeSign(rtxContext* RT_RESTRICT ctx, EllipsoidPointUncertCircle_latitudeSign value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EllipsoidPointUncertCircle(rtxContext* RT_RESTRICT ctx, const EllipsoidPointUncertCircle* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EllipsoidPointUncertEllipse_latitudeSign(rtxContext* RT_RESTRICT ctx, EllipsoidPointUncertEllipse_latitudeSign value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EllipsoidPointUncertEllipse(rtxContext* RT_RESTRICT ctx, const EllipsoidPointUncertEllipse* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EnvironmentCharacterisation(rtxContext* RT_RESTRICT ctx, EnvironmentCharacterisation value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Eutra_EventResult_reportedCells(rtxContext* RT_RESTRICT ctx, const Eutra_EventResult_reportedCells* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Eutra_EventResult(rtxContext* RT_RESTRICT ctx, const Eutra_EventResult* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Eutra_EventResultList(rtxContext* RT_RESTRICT ctx, const Eutra_EventResultList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EventIDInterRAT(rtxContext* RT_RESTRICT ctx, EventIDInterRAT value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EUTRA_EventResults(rtxContext* RT_RESTRICT ctx, const EUTRA_EventResults* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EUTRA_MeasurementBandwidth(rtxContext* RT_RESTRICT ctx, EUTRA_MeasurementBandwidth value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EUTRA_FrequencyAndPriorityInfo(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyAndPriorityInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EUTRA_FrequencyAndPriorityInfo_v920ext(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyAndPriorityInfo_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EUTRA_FrequencyAndPriorityInfoList(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyAndPriorityInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EUTRA_FrequencyAndPriorityInfoList_v920ext(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyAndPriorityInfoList_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EUTRA_FrequencyRemoval_removeSomeFrequencies(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyRemoval_removeSomeFrequencies* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EUTRA_FrequencyRemoval(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyRemoval* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EUTRA_FrequencyInfo(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EUTRA_FrequencyInfoList(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EUTRA_FrequencyList(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EUTRA_SIAcquisition(rtxContext* RT_RESTRICT ctx, const EUTRA_SIAcquisition* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EUTRA_FrequencyList_r9(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyList_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EUTRA_MeasuredCells(rtxContext* RT_RESTRICT ctx, const EUTRA_MeasuredCells* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Eutra_MeasuredResult_measuredEUTRACells(rtxContext* RT_RESTRICT ctx, const Eutra_MeasuredResult_measuredEUTRACells* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Eutra_MeasuredResult(rtxContext* RT_RESTRICT ctx, const Eutra_MeasuredResult* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Eutra_MeasuredResultList(rtxContext* RT_RESTRICT ctx, const Eutra_MeasuredResultList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EUTRA_MeasuredResults(rtxContext* RT_RESTRICT ctx, const EUTRA_MeasuredResults* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EUTRA_SIacquisitionResults_cgiInfo(rtxContext* RT_RESTRICT ctx, const EUTRA_SIacquisitionResults_cgiInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EUTRA_SIacquisitionResults_csgMemberIndication(rtxContext* RT_RESTRICT ctx, EUTRA_SIacquisitionResults_csgMemberIndication value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EUTRA_SIacquisitionResults(rtxContext* RT_RESTRICT ctx, const EUTRA_SIacquisitionResults* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EUTRA_MeasuredCells_v920ext(rtxContext* RT_RESTRICT ctx, const EUTRA_MeasuredCells_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Eutra_MeasuredResult_v920ext_measuredEUTRACells_v920ext(rtxContext* RT_RESTRICT ctx, const Eutra_MeasuredResult_v920ext_measuredEUTRACells_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Eutra_MeasuredResult_v920ext(rtxContext* RT_RESTRICT ctx, const Eutra_MeasuredResult_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Eutra_MeasuredResultList_v920ext(rtxContext* RT_RESTRICT ctx, const Eutra_MeasuredResultList_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EUTRA_MeasuredResults_v920ext(rtxContext* RT_RESTRICT ctx, const EUTRA_MeasuredResults_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ForbiddenAffectCell_r4(rtxContext* RT_RESTRICT ctx, const ForbiddenAffectCell_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_ForbiddenAffectCellList_r4(rtxContext* RT_RESTRICT ctx, const ForbiddenAffectCellList_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Event1a_r4(rtxContext* RT_RESTRICT ctx, const Event1a_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ForbiddenAffectCellOnSecULFreq(rtxContext* RT_RESTRICT ctx, const ForbiddenAffectCellOnSecULFreq* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ForbiddenAffectCellListOnSecULFreq(rtxContext* RT_RESTRICT ctx, const ForbiddenAffectCellListOnSecULFreq* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Event1a_OnSecUlFreq_r9(rtxContext* RT_RESTRICT ctx, const Event1a_OnSecUlFreq_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Event1b_r4(rtxContext* RT_RESTRICT ctx, const Event1b_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Event1b_r7(rtxContext* RT_RESTRICT ctx, const Event1b_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Event1b_OnSecUlFreq_r9(rtxContext* RT_RESTRICT ctx, const Event1b_OnSecUlFreq_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Event1d(rtxContext* RT_RESTRICT ctx, const Event1d* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
 
-int asn1PE_UMTS_InterRATReportingQuantity_r8_ratSpecificInfo(rtxContext* RT_RESTRICT ctx, const InterRATReportingQuantity_r8_ratSpecificInfo* RT_RESTRICT pvalue)
+/* Bodies held by other units. */
+RT_ENCODE_EXTERN(TimeslotList_r4_tdd384)
+RT_ENCODE_EXTERN(TimeslotList_r4_tdd128)
+RT_ENCODE_EXTERN(UL_16QAM_Settings)
+RT_ENCODE_EXTERN(TimeInfo)
+RT_ENCODE_EXTERN(CommonTimeslotInfo)
+RT_ENCODE_EXTERN(UplinkTimeslotsCodes)
+RT_ENCODE_EXTERN(UplinkTimeslotsCodes_LCR_r4)
+RT_ENCODE_EXTERN(UplinkTimeslotsCodes_VHCR)
+RT_ENCODE_EXTERN(PLCCH_Info)
+RT_ENCODE_EXTERN(IndividualTimeslotInfo_LCR_r4)
+RT_ENCODE_EXTERN(UL_DPCH_PowerControlInfo)
+RT_ENCODE_EXTERN(CPCH_SetInfo)
+RT_ENCODE_EXTERN(UL_SynchronisationParameters_r4)
+RT_ENCODE_EXTERN(SynchronisationParameters_r4)
+RT_ENCODE_EXTERN(UL_DPCH_PowerControlInfo_r4)
+RT_ENCODE_EXTERN(UL_DPCH_PowerControlInfo_r5)
+RT_ENCODE_EXTERN(PowerControlAlgorithm)
+RT_ENCODE_EXTERN(IndividualTS_InterferenceList)
+RT_ENCODE_EXTERN(EXT_UL_TimingAdvance)
+RT_ENCODE_EXTERN(UL_DPCH_PowerControlInfo_r7)
+RT_ENCODE_EXTERN(Non_ScheduledTransGrantInfoTDD_ext)
+RT_ENCODE_EXTERN(E_DPCCH_Info)
+RT_ENCODE_EXTERN(E_DPDCH_Info)
+RT_ENCODE_EXTERN(E_DPDCH_SchedulingTransmConfiguration)
+RT_ENCODE_EXTERN(E_DPCCH_Info_r7)
+RT_ENCODE_EXTERN(E_DPDCH_Info_r7)
+RT_ENCODE_EXTERN(E_RUCCH_Info)
+RT_ENCODE_EXTERN(E_PUCH_Info)
+RT_ENCODE_EXTERN(Non_ScheduledTransGrantInfoTDD)
+RT_ENCODE_EXTERN(PrimaryCPICH_Info)
+RT_ENCODE_EXTERN(PrimaryCCPCH_Info)
+RT_ENCODE_EXTERN(TimeslotInfoList)
+RT_ENCODE_EXTERN(ReferenceTimeDifferenceToCell)
+RT_ENCODE_EXTERN(TimeslotInfo)
+RT_ENCODE_EXTERN(TimeslotInfo_LCR_r4)
+RT_ENCODE_EXTERN(PrimaryCCPCH_Info_r4)
+RT_ENCODE_EXTERN(HCS_NeighbouringCellInformation_RSCP)
+RT_ENCODE_EXTERN_VALUE(CellIdentity)
+RT_ENCODE_EXTERN_VALUE(CSG_Identity)
+RT_ENCODE_EXTERN(PrimaryCCPCH_Info_LCR_r4)
+RT_ENCODE_EXTERN(FrequencyInfo)
+RT_ENCODE_EXTERN(EUTRA_BlacklistedCellPerFreqList)
+RT_ENCODE_EXTERN(PLMN_Identity)
+RT_ENCODE_EXTERN(PeriodicReportingInfo_1b)
+
+RT_MERGED_BODY int enc_TimeslotList_r4(rtxContext* RT_RESTRICT ctx, const TimeslotList_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TimeslotList-r4");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "TimeslotList-r4");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "TimeslotList-r4");
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm", -1, 0);
-         stat = asn1PE_UMTS_InterRATReportingQuantity_r8_ratSpecificInfo_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
+         if (pvalue->u.tdd384 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd384", -1, "TimeslotList-r4");
+         stat = enc_TimeslotList_r4_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, "TimeslotList-r4");
          break;
       case 2:
-         if (pvalue->u.eutra == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "eutra", -1, 0);
-         stat = asn1PE_UMTS_InterRATReportingQuantity_r8_ratSpecificInfo_eutra(ctx, pvalue->u.eutra);
-         RT_CHECK(ctx, stat, 0, "eutra", -1, 0);
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, "TimeslotList-r4");
+         stat = enc_TimeslotList_r4_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, "TimeslotList-r4");
          break;
       default:
          break;
@@ -44,1741 +387,173 @@ int asn1PE_UMTS_InterRATReportingQuantity_r8_ratSpecificInfo(rtxContext* RT_REST
    return 0;
 }
 
-int asn1PE_UMTS_InterRATReportingQuantity_r8(rtxContext* RT_RESTRICT ctx, const InterRATReportingQuantity_r8* RT_RESTRICT pvalue)
+int asn1PE_UMTS_TimeslotList_r4(rtxContext* RT_RESTRICT ctx, const TimeslotList_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TimeslotList_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_16QAM_Config_mac_es_e_resetIndicator(rtxContext* RT_RESTRICT ctx, UL_16QAM_Config_mac_es_e_resetIndicator value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATReportingQuantity-r8");
-   /* utran-EstimatedQuality */
-   stat = rtxEncBit(ctx, pvalue->utran_EstimatedQuality);
-   RT_CHECK(ctx, stat, 0, "utran-EstimatedQuality", -1, "InterRATReportingQuantity-r8");
-   /* ratSpecificInfo */
-   stat = asn1PE_UMTS_InterRATReportingQuantity_r8_ratSpecificInfo(ctx, &pvalue->ratSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "ratSpecificInfo", -1, "InterRATReportingQuantity-r8");
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_InterRATMeasurement_r8(rtxContext* RT_RESTRICT ctx, const InterRATMeasurement_r8* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UL_16QAM_Config_mac_es_e_resetIndicator(rtxContext* RT_RESTRICT ctx, UL_16QAM_Config_mac_es_e_resetIndicator value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_16QAM_Config_mac_es_e_resetIndicator, value);
+}
+
+RT_MERGED_BODY int enc_UL_16QAM_Config(rtxContext* RT_RESTRICT ctx, const UL_16QAM_Config* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATMeasurement-r8");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-16QAM-Config");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATMeasurement-r8");
-   /* interRATMeasurementObjects */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_InterRATMeasurement_r8_interRATMeasurementObjects(ctx, &pvalue->interRATMeasurementObjects);
-      RT_CHECK(ctx, stat, 0, "interRATMeasurementObjects", -1, "InterRATMeasurement-r8");
-   }
-   /* interRATMeasQuantity */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_InterRATMeasQuantity_r8(ctx, &pvalue->interRATMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "interRATMeasQuantity", -1, "InterRATMeasurement-r8");
-   }
-   /* interRATReportingQuantity */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_InterRATReportingQuantity_r8(ctx, &pvalue->interRATReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "interRATReportingQuantity", -1, "InterRATMeasurement-r8");
-   }
-   /* reportCriteria */
-   stat = asn1PE_UMTS_InterRATReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterRATMeasurement-r8");
-   /* idleIntervalInfo */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_IdleIntervalInfo(ctx, &pvalue->idleIntervalInfo);
-      RT_CHECK(ctx, stat, 0, "idleIntervalInfo", -1, "InterRATMeasurement-r8");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATMeasurement_r9_interRATMeasurementObjects(rtxContext* RT_RESTRICT ctx, const InterRATMeasurement_r9_interRATMeasurementObjects* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.interRATCellInfoList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interRATCellInfoList", -1, 0);
-         stat = asn1PE_UMTS_InterRATCellInfoList_r6(ctx, pvalue->u.interRATCellInfoList);
-         RT_CHECK(ctx, stat, 0, "interRATCellInfoList", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.eutra_FrequencyList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "eutra-FrequencyList", -1, 0);
-         stat = asn1PE_UMTS_EUTRA_FrequencyList_r9(ctx, pvalue->u.eutra_FrequencyList);
-         RT_CHECK(ctx, stat, 0, "eutra-FrequencyList", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterRATMeasurement_r9(rtxContext* RT_RESTRICT ctx, const InterRATMeasurement_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRATMeasurement-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "InterRATMeasurement-r9");
-   /* interRATMeasurementObjects */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_InterRATMeasurement_r9_interRATMeasurementObjects(ctx, &pvalue->interRATMeasurementObjects);
-      RT_CHECK(ctx, stat, 0, "interRATMeasurementObjects", -1, "InterRATMeasurement-r9");
-   }
-   /* interRATMeasQuantity */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_InterRATMeasQuantity_r8(ctx, &pvalue->interRATMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "interRATMeasQuantity", -1, "InterRATMeasurement-r9");
-   }
-   /* interRATReportingQuantity */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_InterRATReportingQuantity_r8(ctx, &pvalue->interRATReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "interRATReportingQuantity", -1, "InterRATMeasurement-r9");
-   }
-   /* reportCriteria */
-   stat = asn1PE_UMTS_InterRATReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterRATMeasurement-r9");
-   /* idleIntervalInfo */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_IdleIntervalInfo(ctx, &pvalue->idleIntervalInfo);
-      RT_CHECK(ctx, stat, 0, "idleIntervalInfo", -1, "InterRATMeasurement-r9");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCell(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCell* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCell");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCell");
-   /* intraFreqCellID */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->intraFreqCellID > 31u) {
-         rtxErrAddStrParm(ctx, "IntraFreqCellID");
-         rtxErrAddUIntParm(ctx, pvalue->intraFreqCellID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCell");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCell");
-   }
-   /* cellInfo */
-   stat = asn1PE_UMTS_CellInfo(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCell");
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCellList(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewIntraFreqCellList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewIntraFreqCell", (int32_t)i, "NewIntraFreqCellList");
-      stat = asn1PE_UMTS_NewIntraFreqCell(ctx, (const NewIntraFreqCell*)node->data);
-      RT_CHECK(ctx, stat, 0, "NewIntraFreqCell", (int32_t)i, "NewIntraFreqCellList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqCellInfoList(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqCellInfoList");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoList");
-   /* removedIntraFreqCellList */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UL-16QAM-Config");
+   /* ul-16QAM-Settings */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoList");
+      stat = enc_UL_16QAM_Settings(ctx, &pvalue->ul_16QAM_Settings, cur);
+      RT_CHECK(ctx, stat, 0, "ul-16QAM-Settings", -1, "UL-16QAM-Config");
    }
-   /* newIntraFreqCellList */
+   /* e-TFCI-TableIndex */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_NewIntraFreqCellList(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoList");
-   }
-   /* cellsForIntraFreqMeasList */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_CellsForIntraFreqMeasList(ctx, &pvalue->cellsForIntraFreqMeasList);
-      RT_CHECK(ctx, stat, 0, "cellsForIntraFreqMeasList", -1, "IntraFreqCellInfoList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCell_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCell_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCell-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCell-r4");
-   /* intraFreqCellID */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->intraFreqCellID > 31u) {
-         rtxErrAddStrParm(ctx, "IntraFreqCellID");
-         rtxErrAddUIntParm(ctx, pvalue->intraFreqCellID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCell-r4");
+      if ((uint64_t)pvalue->e_TFCI_TableIndex > 1u) {
+         rtxErrAddStrParm(ctx, "E-TFCI-TableIndex");
+         rtxErrAddUIntParm(ctx, pvalue->e_TFCI_TableIndex);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "E-TFCI-TableIndex", "e-TFCI-TableIndex", -1, "UL-16QAM-Config");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCell-r4");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->e_TFCI_TableIndex, 0, 1);
+      RT_CHECK_PUT(ctx, cur, stat, "E-TFCI-TableIndex", "e-TFCI-TableIndex", -1, "UL-16QAM-Config");
    }
-   /* cellInfo */
-   stat = asn1PE_UMTS_CellInfo_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCell-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCellList_r4(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellList_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellList-r4");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewIntraFreqCellList-r4");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewIntraFreqCell-r4", (int32_t)i, "NewIntraFreqCellList-r4");
-      stat = asn1PE_UMTS_NewIntraFreqCell_r4(ctx, (const NewIntraFreqCell_r4*)node->data);
-      RT_CHECK(ctx, stat, 0, "NewIntraFreqCell-r4", (int32_t)i, "NewIntraFreqCellList-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqCellInfoList_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoList_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqCellInfoList-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoList-r4");
-   /* removedIntraFreqCellList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoList-r4");
-   }
-   /* newIntraFreqCellList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_NewIntraFreqCellList_r4(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoList-r4");
-   }
-   /* cellsForIntraFreqMeasList */
+   /* mac-es-e-resetIndicator */
    if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_CellsForIntraFreqMeasList(ctx, &pvalue->cellsForIntraFreqMeasList);
-      RT_CHECK(ctx, stat, 0, "cellsForIntraFreqMeasList", -1, "IntraFreqCellInfoList-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_RemovedIntraFreqCellListOnSecULFreq_removeSomeIntraFreqCells(rtxContext* RT_RESTRICT ctx, const RemovedIntraFreqCellListOnSecULFreq_removeSomeIntraFreqCells* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)pvalue->elem[i] > 31u) {
-         rtxErrAddStrParm(ctx, "IntraFreqCellIDOnSecULFreq");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "IntraFreqCellIDOnSecULFreq", "IntraFreqCellIDOnSecULFreq", (int32_t)i, 0);
+      if (pvalue->mac_es_e_resetIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mac_es_e_resetIndicator);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "mac-es-e-resetIndicator", -1, "UL-16QAM-Config");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 31);
-      RT_CHECK(ctx, stat, "IntraFreqCellIDOnSecULFreq", "IntraFreqCellIDOnSecULFreq", (int32_t)i, 0);
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_es_e_resetIndicator, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "mac-es-e-resetIndicator", -1, "UL-16QAM-Config");
    }
    return 0;
 }
 
-int asn1PE_UMTS_RemovedIntraFreqCellListOnSecULFreq(rtxContext* RT_RESTRICT ctx, const RemovedIntraFreqCellListOnSecULFreq* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UL_16QAM_Config(rtxContext* RT_RESTRICT ctx, const UL_16QAM_Config* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "RemovedIntraFreqCellListOnSecULFreq");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "RemovedIntraFreqCellListOnSecULFreq");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "RemovedIntraFreqCellListOnSecULFreq");
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.removeSomeIntraFreqCells == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "removeSomeIntraFreqCells", -1, "RemovedIntraFreqCellListOnSecULFreq");
-         stat = asn1PE_UMTS_RemovedIntraFreqCellListOnSecULFreq_removeSomeIntraFreqCells(ctx, pvalue->u.removeSomeIntraFreqCells);
-         RT_CHECK(ctx, stat, 0, "removeSomeIntraFreqCells", -1, "RemovedIntraFreqCellListOnSecULFreq");
-         break;
-      case 3:
-         break;
-      default:
-         break;
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_UL_16QAM_Config, pvalue);
 }
 
-int asn1PE_UMTS_NewIntraFreqCellOnSecULFreq(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellOnSecULFreq* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_UL_CCTrCH(rtxContext* RT_RESTRICT ctx, const UL_CCTrCH* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellOnSecULFreq");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-CCTrCH");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCellOnSecULFreq");
-   /* intraFreqCellIDOnSecULFreq */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->intraFreqCellIDOnSecULFreq > 31u) {
-         rtxErrAddStrParm(ctx, "IntraFreqCellIDOnSecULFreq");
-         rtxErrAddUIntParm(ctx, pvalue->intraFreqCellIDOnSecULFreq);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "IntraFreqCellIDOnSecULFreq", "intraFreqCellIDOnSecULFreq", -1, "NewIntraFreqCellOnSecULFreq");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->intraFreqCellIDOnSecULFreq, 0, 31);
-      RT_CHECK(ctx, stat, "IntraFreqCellIDOnSecULFreq", "intraFreqCellIDOnSecULFreq", -1, "NewIntraFreqCellOnSecULFreq");
-   }
-   /* cellInfo */
-   stat = asn1PE_UMTS_CellInfo_r4(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCellOnSecULFreq");
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCellListOnSecULFreq(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellListOnSecULFreq* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellListOnSecULFreq");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewIntraFreqCellListOnSecULFreq");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewIntraFreqCellOnSecULFreq", (int32_t)i, "NewIntraFreqCellListOnSecULFreq");
-      stat = asn1PE_UMTS_NewIntraFreqCellOnSecULFreq(ctx, (const NewIntraFreqCellOnSecULFreq*)node->data);
-      RT_CHECK(ctx, stat, 0, "NewIntraFreqCellOnSecULFreq", (int32_t)i, "NewIntraFreqCellListOnSecULFreq");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqCellInfoListInfoOnSecULFreq(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoListInfoOnSecULFreq* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqCellInfoListInfoOnSecULFreq");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoListInfoOnSecULFreq");
-   /* removedIntraFreqCellList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RemovedIntraFreqCellListOnSecULFreq(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoListInfoOnSecULFreq");
-   }
-   /* newIntraFreqCellList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_NewIntraFreqCellListOnSecULFreq(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoListInfoOnSecULFreq");
-   }
-   /* cellsForIntraFreqMeasList */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_CellsForIntraFreqMeasListOnSecULFreq(ctx, &pvalue->cellsForIntraFreqMeasList);
-      RT_CHECK(ctx, stat, 0, "cellsForIntraFreqMeasList", -1, "IntraFreqCellInfoListInfoOnSecULFreq");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqCellInfoListOnSecULFreq(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoListOnSecULFreq* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqCellInfoListOnSecULFreq");
-   /* intraFreqCellInfoListOnSecULFreq */
-   stat = asn1PE_UMTS_IntraFreqCellInfoListInfoOnSecULFreq(ctx, &pvalue->intraFreqCellInfoListOnSecULFreq);
-   RT_CHECK(ctx, stat, 0, "intraFreqCellInfoListOnSecULFreq", -1, "IntraFreqCellInfoListOnSecULFreq");
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCell_r9(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCell_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCell-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCell-r9");
-   /* intraFreqCellID */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->intraFreqCellID > 31u) {
-         rtxErrAddStrParm(ctx, "IntraFreqCellID");
-         rtxErrAddUIntParm(ctx, pvalue->intraFreqCellID);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCell-r9");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->intraFreqCellID, 0, 31);
-      RT_CHECK(ctx, stat, "IntraFreqCellID", "intraFreqCellID", -1, "NewIntraFreqCell-r9");
-   }
-   /* cellInfo */
-   stat = asn1PE_UMTS_CellInfo_r9(ctx, &pvalue->cellInfo);
-   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewIntraFreqCell-r9");
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCellList_r9(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellList_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellList-r9");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewIntraFreqCellList-r9");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewIntraFreqCell-r9", (int32_t)i, "NewIntraFreqCellList-r9");
-      stat = asn1PE_UMTS_NewIntraFreqCell_r9(ctx, (const NewIntraFreqCell_r9*)node->data);
-      RT_CHECK(ctx, stat, 0, "NewIntraFreqCell-r9", (int32_t)i, "NewIntraFreqCellList-r9");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqSIAcquisitionInfo(rtxContext* RT_RESTRICT ctx, const IntraFreqSIAcquisitionInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqSIAcquisitionInfo");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "IntraFreqSIAcquisitionInfo");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "PrimaryCPICH-Info", (int32_t)i, "IntraFreqSIAcquisitionInfo");
-      stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, (const PrimaryCPICH_Info*)node->data);
-      RT_CHECK(ctx, stat, 0, "PrimaryCPICH-Info", (int32_t)i, "IntraFreqSIAcquisitionInfo");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqSIAcquisition_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const IntraFreqSIAcquisition_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* intraFreqSIAcquisitionInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IntraFreqSIAcquisitionInfo(ctx, &pvalue->intraFreqSIAcquisitionInfo);
-      RT_CHECK(ctx, stat, 0, "intraFreqSIAcquisitionInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqSIAcquisition_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const IntraFreqSIAcquisition_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_IntraFreqSIAcquisition_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqSIAcquisition(rtxContext* RT_RESTRICT ctx, const IntraFreqSIAcquisition* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqSIAcquisition");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_IntraFreqSIAcquisition_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "IntraFreqSIAcquisition");
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqCellInfoList_r9(rtxContext* RT_RESTRICT ctx, const IntraFreqCellInfoList_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqCellInfoList-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFreqCellInfoList-r9");
-   /* removedIntraFreqCellList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RemovedIntraFreqCellList(ctx, &pvalue->removedIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "removedIntraFreqCellList", -1, "IntraFreqCellInfoList-r9");
-   }
-   /* newIntraFreqCellList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_NewIntraFreqCellList_r9(ctx, &pvalue->newIntraFreqCellList);
-      RT_CHECK(ctx, stat, 0, "newIntraFreqCellList", -1, "IntraFreqCellInfoList-r9");
-   }
-   /* cellsForIntraFreqMeasList */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_CellsForIntraFreqMeasList(ctx, &pvalue->cellsForIntraFreqMeasList);
-      RT_CHECK(ctx, stat, 0, "cellsForIntraFreqMeasList", -1, "IntraFreqCellInfoList-r9");
-   }
-   /* cSGIntraFreqCellInfoList */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_CSGIntraFreqCellInfoList(ctx, &pvalue->cSGIntraFreqCellInfoList);
-      RT_CHECK(ctx, stat, 0, "cSGIntraFreqCellInfoList", -1, "IntraFreqCellInfoList-r9");
-   }
-   /* intraFreqSIAcquisition */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_IntraFreqSIAcquisition(ctx, &pvalue->intraFreqSIAcquisition);
-      RT_CHECK(ctx, stat, 0, "intraFreqSIAcquisition", -1, "IntraFreqCellInfoList-r9");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqMeasuredResultsList(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasuredResultsList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqMeasuredResultsList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "IntraFreqMeasuredResultsList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CellMeasuredResults", (int32_t)i, "IntraFreqMeasuredResultsList");
-      stat = asn1PE_UMTS_CellMeasuredResults(ctx, (const CellMeasuredResults*)node->data);
-      RT_CHECK(ctx, stat, 0, "CellMeasuredResults", (int32_t)i, "IntraFreqMeasuredResultsList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqMeasuredResultsList_v920ext(rtxContext* RT_RESTRICT ctx, const IntraFreqMeasuredResultsList_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqMeasuredResultsList-v920ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "IntraFreqMeasuredResultsList-v920ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CellMeasuredResults-v920ext", (int32_t)i, "IntraFreqMeasuredResultsList-v920ext");
-      stat = asn1PE_UMTS_CellMeasuredResults_v920ext(ctx, (const CellMeasuredResults_v920ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "CellMeasuredResults-v920ext", (int32_t)i, "IntraFreqMeasuredResultsList-v920ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqReportCriteria(rtxContext* RT_RESTRICT ctx, const IntraFreqReportCriteria* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqReportCriteria");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "IntraFreqReportCriteria");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqReportCriteria");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFreqReportingCriteria", -1, "IntraFreqReportCriteria");
-         stat = asn1PE_UMTS_IntraFreqReportingCriteria(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "IntraFreqReportCriteria");
-         break;
-      case 2:
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "IntraFreqReportCriteria");
-         stat = asn1PE_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "IntraFreqReportCriteria");
-         break;
-      case 3:
-         if (pvalue->u.noReporting == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "noReporting", -1, "IntraFreqReportCriteria");
-         stat = asn1PE_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat, 0, "noReporting", -1, "IntraFreqReportCriteria");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqReportCriteria_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqReportCriteria_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqReportCriteria-r4");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "IntraFreqReportCriteria-r4");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqReportCriteria-r4");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFreqReportingCriteria", -1, "IntraFreqReportCriteria-r4");
-         stat = asn1PE_UMTS_IntraFreqReportingCriteria_r4(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "IntraFreqReportCriteria-r4");
-         break;
-      case 2:
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "IntraFreqReportCriteria-r4");
-         stat = asn1PE_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "IntraFreqReportCriteria-r4");
-         break;
-      case 3:
-         if (pvalue->u.noReporting == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "noReporting", -1, "IntraFreqReportCriteria-r4");
-         stat = asn1PE_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat, 0, "noReporting", -1, "IntraFreqReportCriteria-r4");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqReportCriteria_r6(rtxContext* RT_RESTRICT ctx, const IntraFreqReportCriteria_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqReportCriteria-r6");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "IntraFreqReportCriteria-r6");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqReportCriteria-r6");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFreqReportingCriteria", -1, "IntraFreqReportCriteria-r6");
-         stat = asn1PE_UMTS_IntraFreqReportingCriteria_r6(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "IntraFreqReportCriteria-r6");
-         break;
-      case 2:
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "IntraFreqReportCriteria-r6");
-         stat = asn1PE_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "IntraFreqReportCriteria-r6");
-         break;
-      case 3:
-         if (pvalue->u.noReporting == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "noReporting", -1, "IntraFreqReportCriteria-r6");
-         stat = asn1PE_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat, 0, "noReporting", -1, "IntraFreqReportCriteria-r6");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqReportCriteria_r7(rtxContext* RT_RESTRICT ctx, const IntraFreqReportCriteria_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqReportCriteria-r7");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "IntraFreqReportCriteria-r7");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqReportCriteria-r7");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFreqReportingCriteria", -1, "IntraFreqReportCriteria-r7");
-         stat = asn1PE_UMTS_IntraFreqReportingCriteria_r7(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "IntraFreqReportCriteria-r7");
-         break;
-      case 2:
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "IntraFreqReportCriteria-r7");
-         stat = asn1PE_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "IntraFreqReportCriteria-r7");
-         break;
-      case 3:
-         if (pvalue->u.noReporting == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "noReporting", -1, "IntraFreqReportCriteria-r7");
-         stat = asn1PE_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat, 0, "noReporting", -1, "IntraFreqReportCriteria-r7");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFreqReportCriteria_r9(rtxContext* RT_RESTRICT ctx, const IntraFreqReportCriteria_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqReportCriteria-r9");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "IntraFreqReportCriteria-r9");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqReportCriteria-r9");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFreqReportingCriteria", -1, "IntraFreqReportCriteria-r9");
-         stat = asn1PE_UMTS_IntraFreqReportingCriteria_r9(ctx, pvalue->u.intraFreqReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "IntraFreqReportCriteria-r9");
-         break;
-      case 2:
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "IntraFreqReportCriteria-r9");
-         stat = asn1PE_UMTS_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "IntraFreqReportCriteria-r9");
-         break;
-      case 3:
-         if (pvalue->u.noReporting == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "noReporting", -1, "IntraFreqReportCriteria-r9");
-         stat = asn1PE_UMTS_ReportingCellStatusOpt(ctx, pvalue->u.noReporting);
-         RT_CHECK(ctx, stat, 0, "noReporting", -1, "IntraFreqReportCriteria-r9");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFrequencyMeasurement(rtxContext* RT_RESTRICT ctx, const IntraFrequencyMeasurement* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFrequencyMeasurement");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFrequencyMeasurement");
-   /* intraFreqCellInfoList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IntraFreqCellInfoList(ctx, &pvalue->intraFreqCellInfoList);
-      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoList", -1, "IntraFrequencyMeasurement");
-   }
-   /* intraFreqMeasQuantity */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFrequencyMeasurement");
-   }
-   /* intraFreqReportingQuantity */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantity", -1, "IntraFrequencyMeasurement");
-   }
-   /* measurementValidity */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "IntraFrequencyMeasurement");
-   }
-   /* reportCriteria */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_IntraFreqReportCriteria(ctx, &pvalue->reportCriteria);
-      RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "IntraFrequencyMeasurement");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFrequencyMeasurement_r4(rtxContext* RT_RESTRICT ctx, const IntraFrequencyMeasurement_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFrequencyMeasurement-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFrequencyMeasurement-r4");
-   /* intraFreqCellInfoList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IntraFreqCellInfoList_r4(ctx, &pvalue->intraFreqCellInfoList);
-      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoList", -1, "IntraFrequencyMeasurement-r4");
-   }
-   /* intraFreqMeasQuantity */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFrequencyMeasurement-r4");
-   }
-   /* intraFreqReportingQuantity */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantity", -1, "IntraFrequencyMeasurement-r4");
-   }
-   /* measurementValidity */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "IntraFrequencyMeasurement-r4");
-   }
-   /* reportCriteria */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_IntraFreqReportCriteria_r4(ctx, &pvalue->reportCriteria);
-      RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "IntraFrequencyMeasurement-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFrequencyMeasurement_r6(rtxContext* RT_RESTRICT ctx, const IntraFrequencyMeasurement_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFrequencyMeasurement-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFrequencyMeasurement-r6");
-   /* intraFreqCellInfoList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IntraFreqCellInfoList_r4(ctx, &pvalue->intraFreqCellInfoList);
-      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoList", -1, "IntraFrequencyMeasurement-r6");
-   }
-   /* intraFreqMeasQuantity */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFrequencyMeasurement-r6");
-   }
-   /* intraFreqReportingQuantity */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantity", -1, "IntraFrequencyMeasurement-r6");
-   }
-   /* measurementValidity */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "IntraFrequencyMeasurement-r6");
-   }
-   /* reportCriteria */
-   stat = asn1PE_UMTS_IntraFreqReportCriteria_r6(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "IntraFrequencyMeasurement-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFrequencyMeasurement_r7(rtxContext* RT_RESTRICT ctx, const IntraFrequencyMeasurement_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFrequencyMeasurement-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFrequencyMeasurement-r7");
-   /* intraFreqCellInfoList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IntraFreqCellInfoList_r4(ctx, &pvalue->intraFreqCellInfoList);
-      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoList", -1, "IntraFrequencyMeasurement-r7");
-   }
-   /* intraFreqMeasQuantity */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFrequencyMeasurement-r7");
-   }
-   /* intraFreqReportingQuantity */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantity", -1, "IntraFrequencyMeasurement-r7");
-   }
-   /* measurementValidity */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "IntraFrequencyMeasurement-r7");
-   }
-   /* reportCriteria */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_IntraFreqReportCriteria_r7(ctx, &pvalue->reportCriteria);
-      RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "IntraFrequencyMeasurement-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFrequencyMeasurement_r9(rtxContext* RT_RESTRICT ctx, const IntraFrequencyMeasurement_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFrequencyMeasurement-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IntraFrequencyMeasurement-r9");
-   /* intraFreqCellInfoList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IntraFreqCellInfoList_r9(ctx, &pvalue->intraFreqCellInfoList);
-      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoList", -1, "IntraFrequencyMeasurement-r9");
-   }
-   /* intraFreqCellInfoListOnSecULFreq */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_IntraFreqCellInfoListOnSecULFreq(ctx, &pvalue->intraFreqCellInfoListOnSecULFreq);
-      RT_CHECK(ctx, stat, 0, "intraFreqCellInfoListOnSecULFreq", -1, "IntraFrequencyMeasurement-r9");
-   }
-   /* intraFreqMeasQuantity */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, "IntraFrequencyMeasurement-r9");
-   }
-   /* intraFreqReportingQuantity */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_IntraFreqReportingQuantity(ctx, &pvalue->intraFreqReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "intraFreqReportingQuantity", -1, "IntraFrequencyMeasurement-r9");
-   }
-   /* measurementValidity */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "IntraFrequencyMeasurement-r9");
-   }
-   /* reportCriteria */
-   if (pvalue->m & 0x20u) {
-      stat = asn1PE_UMTS_IntraFreqReportCriteria_r9(ctx, &pvalue->reportCriteria);
-      RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "IntraFrequencyMeasurement-r9");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IntraFrequencyMeasuredResultsListOnSecULFreq(rtxContext* RT_RESTRICT ctx, const IntraFrequencyMeasuredResultsListOnSecULFreq* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "IntraFrequencyMeasuredResultsListOnSecULFreq");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "IntraFrequencyMeasuredResultsListOnSecULFreq");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CellMeasuredResults-r9", (int32_t)i, "IntraFrequencyMeasuredResultsListOnSecULFreq");
-      stat = asn1PE_UMTS_CellMeasuredResults_r9(ctx, (const CellMeasuredResults_r9*)node->data);
-      RT_CHECK(ctx, stat, 0, "CellMeasuredResults-r9", (int32_t)i, "IntraFrequencyMeasuredResultsListOnSecULFreq");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_IP_Length(rtxContext* RT_RESTRICT ctx, IP_Length value)
-{
-   int stat = 0;
-   if (value > 1) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "IP-Length");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IP-Length");
-   return 0;
-}
-
-int asn1PE_UMTS_IP_PCCPCH_r4(rtxContext* RT_RESTRICT ctx, IP_PCCPCH_r4 value)
-{
-   int stat = 0;
-   stat = rtxEncBit(ctx, value);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IP-PCCPCH-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_IP_Spacing(rtxContext* RT_RESTRICT ctx, IP_Spacing value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "IP-Spacing");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IP-Spacing");
-   return 0;
-}
-
-int asn1PE_UMTS_IP_Spacing_TDD(rtxContext* RT_RESTRICT ctx, IP_Spacing_TDD value)
-{
-   int stat = 0;
-   if (value > 4) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "IP-Spacing-TDD");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "IP-Spacing-TDD");
-   return 0;
-}
-
-int asn1PE_UMTS_RLC_BuffersPayload(rtxContext* RT_RESTRICT ctx, RLC_BuffersPayload value)
-{
-   int stat = 0;
-   if (value > 31) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "RLC-BuffersPayload");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "RLC-BuffersPayload");
-   return 0;
-}
-
-int asn1PE_UMTS_VarianceOfRLC_BufferPayload(rtxContext* RT_RESTRICT ctx, VarianceOfRLC_BufferPayload value)
-{
-   int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "VarianceOfRLC-BufferPayload");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "VarianceOfRLC-BufferPayload");
-   return 0;
-}
-
-int asn1PE_UMTS_TrafficVolumeMeasuredResults(rtxContext* RT_RESTRICT ctx, const TrafficVolumeMeasuredResults* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TrafficVolumeMeasuredResults");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TrafficVolumeMeasuredResults");
-   /* rb-Identity */
-   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "RB-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "TrafficVolumeMeasuredResults");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "TrafficVolumeMeasuredResults");
-   /* rlc-BuffersPayload */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->rlc_BuffersPayload > 31) {
-         rtxErrAddUIntParm(ctx, pvalue->rlc_BuffersPayload);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "RLC-BuffersPayload", "rlc-BuffersPayload", -1, "TrafficVolumeMeasuredResults");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->rlc_BuffersPayload, 0, 31);
-      RT_CHECK(ctx, stat, "RLC-BuffersPayload", "rlc-BuffersPayload", -1, "TrafficVolumeMeasuredResults");
-   }
-   /* averageRLC-BufferPayload */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->averageRLC_BufferPayload > 31) {
-         rtxErrAddUIntParm(ctx, pvalue->averageRLC_BufferPayload);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "AverageRLC-BufferPayload", "averageRLC-BufferPayload", -1, "TrafficVolumeMeasuredResults");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->averageRLC_BufferPayload, 0, 31);
-      RT_CHECK(ctx, stat, "AverageRLC-BufferPayload", "averageRLC-BufferPayload", -1, "TrafficVolumeMeasuredResults");
-   }
-   /* varianceOfRLC-BufferPayload */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->varianceOfRLC_BufferPayload > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->varianceOfRLC_BufferPayload);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "VarianceOfRLC-BufferPayload", "varianceOfRLC-BufferPayload", -1, "TrafficVolumeMeasuredResults");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->varianceOfRLC_BufferPayload, 0, 15);
-      RT_CHECK(ctx, stat, "VarianceOfRLC-BufferPayload", "varianceOfRLC-BufferPayload", -1, "TrafficVolumeMeasuredResults");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TrafficVolumeMeasuredResultsList(rtxContext* RT_RESTRICT ctx, const TrafficVolumeMeasuredResultsList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TrafficVolumeMeasuredResultsList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "TrafficVolumeMeasuredResultsList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "TrafficVolumeMeasuredResults", (int32_t)i, "TrafficVolumeMeasuredResultsList");
-      stat = asn1PE_UMTS_TrafficVolumeMeasuredResults(ctx, (const TrafficVolumeMeasuredResults*)node->data);
-      RT_CHECK(ctx, stat, 0, "TrafficVolumeMeasuredResults", (int32_t)i, "TrafficVolumeMeasuredResultsList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SIR(rtxContext* RT_RESTRICT ctx, SIR value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 63u) {
-      rtxErrAddStrParm(ctx, "SIR");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "SIR");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 63);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SIR");
-   return 0;
-}
-
-int asn1PE_UMTS_SIR_TimeslotList(rtxContext* RT_RESTRICT ctx, const SIR_TimeslotList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SIR-TimeslotList");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 14);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SIR-TimeslotList");
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)pvalue->elem[i] > 63u) {
-         rtxErrAddStrParm(ctx, "SIR");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "SIR", "SIR", (int32_t)i, "SIR-TimeslotList");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 63);
-      RT_CHECK(ctx, stat, "SIR", "SIR", (int32_t)i, "SIR-TimeslotList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SIR_MeasurementResults(rtxContext* RT_RESTRICT ctx, const SIR_MeasurementResults* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SIR-MeasurementResults");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->tfcs_ID != 1) << 2) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UL-CCTrCH");
    /* tfcs-ID */
-   if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
-      rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
-      rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "SIR-MeasurementResults");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tfcs_ID, 1, 8);
-   RT_CHECK(ctx, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "SIR-MeasurementResults");
-   /* sir-TimeslotList */
-   stat = asn1PE_UMTS_SIR_TimeslotList(ctx, &pvalue->sir_TimeslotList);
-   RT_CHECK(ctx, stat, 0, "sir-TimeslotList", -1, "SIR-MeasurementResults");
-   return 0;
-}
-
-int asn1PE_UMTS_SIR_MeasurementList(rtxContext* RT_RESTRICT ctx, const SIR_MeasurementList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SIR-MeasurementList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SIR-MeasurementList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "SIR-MeasurementResults", (int32_t)i, "SIR-MeasurementList");
-      stat = asn1PE_UMTS_SIR_MeasurementResults(ctx, (const SIR_MeasurementResults*)node->data);
-      RT_CHECK(ctx, stat, 0, "SIR-MeasurementResults", (int32_t)i, "SIR-MeasurementList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_QualityMeasuredResults_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const QualityMeasuredResults_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sir-MeasurementResults */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SIR_MeasurementList(ctx, &pvalue->sir_MeasurementResults);
-      RT_CHECK(ctx, stat, 0, "sir-MeasurementResults", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_QualityMeasuredResults_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const QualityMeasuredResults_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_QualityMeasuredResults_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_QualityMeasuredResults(rtxContext* RT_RESTRICT ctx, const QualityMeasuredResults* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "QualityMeasuredResults");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "QualityMeasuredResults");
-   /* blerMeasurementResultsList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_BLER_MeasurementResultsList(ctx, &pvalue->blerMeasurementResultsList);
-      RT_CHECK(ctx, stat, 0, "blerMeasurementResultsList", -1, "QualityMeasuredResults");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_QualityMeasuredResults_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "QualityMeasuredResults");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_TransmittedPower(rtxContext* RT_RESTRICT ctx, UE_TransmittedPower value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 104u) {
-      rtxErrAddStrParm(ctx, "UE-TransmittedPower");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "UE-TransmittedPower");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 104);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-TransmittedPower");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RX_TX_TimeDifferenceType1(rtxContext* RT_RESTRICT ctx, UE_RX_TX_TimeDifferenceType1 value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 768) > 1023u) {
-      rtxErrAddStrParm(ctx, "UE-RX-TX-TimeDifferenceType1");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "UE-RX-TX-TimeDifferenceType1");
-   }
-   stat = pe_ConsUInt64(ctx, value, 768, 1791);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RX-TX-TimeDifferenceType1");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RX_TX_ReportEntry(rtxContext* RT_RESTRICT ctx, const UE_RX_TX_ReportEntry* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RX-TX-ReportEntry");
-   /* primaryCPICH-Info */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, "UE-RX-TX-ReportEntry");
-   /* ue-RX-TX-TimeDifferenceType1 */
-   if ((uint64_t)(pvalue->ue_RX_TX_TimeDifferenceType1 - 768) > 1023u) {
-      rtxErrAddStrParm(ctx, "UE-RX-TX-TimeDifferenceType1");
-      rtxErrAddUIntParm(ctx, pvalue->ue_RX_TX_TimeDifferenceType1);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "UE-RX-TX-TimeDifferenceType1", "ue-RX-TX-TimeDifferenceType1", -1, "UE-RX-TX-ReportEntry");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_RX_TX_TimeDifferenceType1, 768, 1791);
-   RT_CHECK(ctx, stat, "UE-RX-TX-TimeDifferenceType1", "ue-RX-TX-TimeDifferenceType1", -1, "UE-RX-TX-ReportEntry");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RX_TX_ReportEntryList(rtxContext* RT_RESTRICT ctx, const UE_RX_TX_ReportEntryList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-RX-TX-ReportEntryList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UE-RX-TX-ReportEntryList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UE-RX-TX-ReportEntry", (int32_t)i, "UE-RX-TX-ReportEntryList");
-      stat = asn1PE_UMTS_UE_RX_TX_ReportEntry(ctx, (const UE_RX_TX_ReportEntry*)node->data);
-      RT_CHECK(ctx, stat, 0, "UE-RX-TX-ReportEntry", (int32_t)i, "UE-RX-TX-ReportEntryList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalMeasuredResults_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UE_InternalMeasuredResults_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ue-TransmittedPowerFDD */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->ue_TransmittedPowerFDD > 104u) {
-         rtxErrAddStrParm(ctx, "UE-TransmittedPower");
-         rtxErrAddUIntParm(ctx, pvalue->ue_TransmittedPowerFDD);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "UE-TransmittedPower", "ue-TransmittedPowerFDD", -1, 0);
+   if (pvalue->tfcs_ID != 1) {
+      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
+         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
+         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "UL-CCTrCH");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->ue_TransmittedPowerFDD, 0, 104);
-      RT_CHECK(ctx, stat, "UE-TransmittedPower", "ue-TransmittedPowerFDD", -1, 0);
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "UL-CCTrCH");
    }
-   /* ue-RX-TX-ReportEntryList */
+   /* ul-TargetSIR */
+   if ((uint64_t)pvalue->ul_TargetSIR > 62u) {
+      rtxErrAddStrParm(ctx, "UL-TargetSIR");
+      rtxErrAddUIntParm(ctx, pvalue->ul_TargetSIR);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UL-TargetSIR", "ul-TargetSIR", -1, "UL-CCTrCH");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ul_TargetSIR, 0, 62);
+   RT_CHECK_PUT(ctx, cur, stat, "UL-TargetSIR", "ul-TargetSIR", -1, "UL-CCTrCH");
+   /* timeInfo */
+   stat = enc_TimeInfo(ctx, &pvalue->timeInfo, cur);
+   RT_CHECK(ctx, stat, 0, "timeInfo", -1, "UL-CCTrCH");
+   /* commonTimeslotInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo, cur);
+      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "UL-CCTrCH");
+   }
+   /* ul-CCTrCH-TimeslotsCodes */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_RX_TX_ReportEntryList(ctx, &pvalue->ue_RX_TX_ReportEntryList);
-      RT_CHECK(ctx, stat, 0, "ue-RX-TX-ReportEntryList", -1, 0);
+      stat = enc_UplinkTimeslotsCodes(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrCH-TimeslotsCodes", -1, "UL-CCTrCH");
    }
    return 0;
 }
 
-int asn1PE_UMTS_UE_TransmittedPowerTDD_List(rtxContext* RT_RESTRICT ctx, const UE_TransmittedPowerTDD_List* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UL_CCTrCH(rtxContext* RT_RESTRICT ctx, const UL_CCTrCH* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-TransmittedPowerTDD-List");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 14);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UE-TransmittedPowerTDD-List");
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)pvalue->elem[i] > 104u) {
-         rtxErrAddStrParm(ctx, "UE-TransmittedPower");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "UE-TransmittedPower", "UE-TransmittedPower", (int32_t)i, "UE-TransmittedPowerTDD-List");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 104);
-      RT_CHECK(ctx, stat, "UE-TransmittedPower", "UE-TransmittedPower", (int32_t)i, "UE-TransmittedPowerTDD-List");
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_UL_CCTrCH, pvalue);
 }
 
-int asn1PE_UMTS_UE_InternalMeasuredResults_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UE_InternalMeasuredResults_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_UL_CCTrCH_r4_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const UL_CCTrCH_r4_tddOption_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ue-TransmittedPowerTDD-List */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-CCTrCH-TimeslotsCodes */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_TransmittedPowerTDD_List(ctx, &pvalue->ue_TransmittedPowerTDD_List);
-      RT_CHECK(ctx, stat, 0, "ue-TransmittedPowerTDD-List", -1, 0);
-   }
-   /* appliedTA */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->appliedTA > 63u) {
-         rtxErrAddStrParm(ctx, "UL-TimingAdvance");
-         rtxErrAddUIntParm(ctx, pvalue->appliedTA);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "UL-TimingAdvance", "appliedTA", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->appliedTA, 0, 63);
-      RT_CHECK(ctx, stat, "UL-TimingAdvance", "appliedTA", -1, 0);
+      stat = enc_UplinkTimeslotsCodes(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrCH-TimeslotsCodes", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_UE_InternalMeasuredResults_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UE_InternalMeasuredResults_modeSpecificInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UL_CCTrCH_r4_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const UL_CCTrCH_r4_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_CCTrCH_r4_tddOption_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_CCTrCH_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const UL_CCTrCH_r4_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-CCTrCH-TimeslotsCodes */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UplinkTimeslotsCodes_LCR_r4(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrCH-TimeslotsCodes", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_CCTrCH_r4_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const UL_CCTrCH_r4_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_CCTrCH_r4_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_CCTrCH_r4_tddOption(rtxContext* RT_RESTRICT ctx, const UL_CCTrCH_r4_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_UE_InternalMeasuredResults_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         if (pvalue->u.tdd384 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = enc_UL_CCTrCH_r4_tddOption_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
          break;
       case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_UE_InternalMeasuredResults_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalMeasuredResults(rtxContext* RT_RESTRICT ctx, const UE_InternalMeasuredResults* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-InternalMeasuredResults");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_UE_InternalMeasuredResults_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-InternalMeasuredResults");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_ErrorCause(rtxContext* RT_RESTRICT ctx, UE_Positioning_ErrorCause value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UE-Positioning-ErrorCause");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-ErrorCause");
-   return 0;
-}
-
-int asn1PE_UMTS_SatData(rtxContext* RT_RESTRICT ctx, const SatData* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SatData");
-   /* satID */
-   if ((uint64_t)pvalue->satID > 63u) {
-      rtxErrAddStrParm(ctx, "SatID");
-      rtxErrAddUIntParm(ctx, pvalue->satID);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "SatID", "satID", -1, "SatData");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->satID, 0, 63);
-   RT_CHECK(ctx, stat, "SatID", "satID", -1, "SatData");
-   /* iode */
-   stat = pe_ConsUInt64(ctx, pvalue->iode, 0, 255);
-   RT_CHECK(ctx, stat, "IODE", "iode", -1, "SatData");
-   return 0;
-}
-
-int asn1PE_UMTS_SatDataList(rtxContext* RT_RESTRICT ctx, const SatDataList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SatDataList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 0, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SatDataList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "SatData", (int32_t)i, "SatDataList");
-      stat = asn1PE_UMTS_SatData(ctx, (const SatData*)node->data);
-      RT_CHECK(ctx, stat, 0, "SatData", (int32_t)i, "SatDataList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_NavModelAddDataReq(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_NavModelAddDataReq* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-NavModelAddDataReq");
-   /* gps-Week */
-   if ((uint64_t)pvalue->gps_Week > 1023u) {
-      rtxErrAddStrParm(ctx, "gps-Week");
-      rtxErrAddUIntParm(ctx, pvalue->gps_Week);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "gps-Week", -1, "UE-Positioning-GPS-NavModelAddDataReq");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->gps_Week, 0, 1023);
-   RT_CHECK(ctx, stat, 0, "gps-Week", -1, "UE-Positioning-GPS-NavModelAddDataReq");
-   /* gps-Toe */
-   stat = pe_ConsUInt64(ctx, pvalue->gps_Toe, 0, 255);
-   RT_CHECK(ctx, stat, 0, "gps-Toe", -1, "UE-Positioning-GPS-NavModelAddDataReq");
-   /* tToeLimit */
-   if ((uint64_t)pvalue->tToeLimit > 15u) {
-      rtxErrAddStrParm(ctx, "tToeLimit");
-      rtxErrAddUIntParm(ctx, pvalue->tToeLimit);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "tToeLimit", -1, "UE-Positioning-GPS-NavModelAddDataReq");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tToeLimit, 0, 15);
-   RT_CHECK(ctx, stat, 0, "tToeLimit", -1, "UE-Positioning-GPS-NavModelAddDataReq");
-   /* satDataList */
-   stat = asn1PE_UMTS_SatDataList(ctx, &pvalue->satDataList);
-   RT_CHECK(ctx, stat, 0, "satDataList", -1, "UE-Positioning-GPS-NavModelAddDataReq");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_AdditionalAssistanceDataRequest(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_AdditionalAssistanceDataRequest* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
-   /* almanacRequest */
-   stat = rtxEncBit(ctx, pvalue->almanacRequest);
-   RT_CHECK(ctx, stat, 0, "almanacRequest", -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
-   /* utcModelRequest */
-   stat = rtxEncBit(ctx, pvalue->utcModelRequest);
-   RT_CHECK(ctx, stat, 0, "utcModelRequest", -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
-   /* ionosphericModelRequest */
-   stat = rtxEncBit(ctx, pvalue->ionosphericModelRequest);
-   RT_CHECK(ctx, stat, 0, "ionosphericModelRequest", -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
-   /* navigationModelRequest */
-   stat = rtxEncBit(ctx, pvalue->navigationModelRequest);
-   RT_CHECK(ctx, stat, 0, "navigationModelRequest", -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
-   /* dgpsCorrectionsRequest */
-   stat = rtxEncBit(ctx, pvalue->dgpsCorrectionsRequest);
-   RT_CHECK(ctx, stat, 0, "dgpsCorrectionsRequest", -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
-   /* referenceLocationRequest */
-   stat = rtxEncBit(ctx, pvalue->referenceLocationRequest);
-   RT_CHECK(ctx, stat, 0, "referenceLocationRequest", -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
-   /* referenceTimeRequest */
-   stat = rtxEncBit(ctx, pvalue->referenceTimeRequest);
-   RT_CHECK(ctx, stat, 0, "referenceTimeRequest", -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
-   /* aquisitionAssistanceRequest */
-   stat = rtxEncBit(ctx, pvalue->aquisitionAssistanceRequest);
-   RT_CHECK(ctx, stat, 0, "aquisitionAssistanceRequest", -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
-   /* realTimeIntegrityRequest */
-   stat = rtxEncBit(ctx, pvalue->realTimeIntegrityRequest);
-   RT_CHECK(ctx, stat, 0, "realTimeIntegrityRequest", -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
-   /* navModelAddDataRequest */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_NavModelAddDataReq(ctx, &pvalue->navModelAddDataRequest);
-      RT_CHECK(ctx, stat, 0, "navModelAddDataRequest", -1, "UE-Positioning-GPS-AdditionalAssistanceDataRequest");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_Error(rtxContext* RT_RESTRICT ctx, const UE_Positioning_Error* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-Error");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-Error");
-   /* errorReason */
-   if (pvalue->errorReason > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->errorReason);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UE-Positioning-ErrorCause", "errorReason", -1, "UE-Positioning-Error");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->errorReason, 0, 7);
-   RT_CHECK(ctx, stat, "UE-Positioning-ErrorCause", "errorReason", -1, "UE-Positioning-Error");
-   /* ue-positioning-GPS-additionalAssistanceDataRequest */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_AdditionalAssistanceDataRequest(ctx, &pvalue->ue_positioning_GPS_additionalAssistanceDataRequest);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-additionalAssistanceDataRequest", -1, "UE-Positioning-Error");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_MeasuredResults(rtxContext* RT_RESTRICT ctx, const UE_Positioning_MeasuredResults* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-MeasuredResults");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-MeasuredResults");
-   /* ue-positioning-OTDOA-Measurement */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_Measurement(ctx, &pvalue->ue_positioning_OTDOA_Measurement);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-Measurement", -1, "UE-Positioning-MeasuredResults");
-   }
-   /* ue-positioning-PositionEstimateInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_Positioning_PositionEstimateInfo(ctx, &pvalue->ue_positioning_PositionEstimateInfo);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-PositionEstimateInfo", -1, "UE-Positioning-MeasuredResults");
-   }
-   /* ue-positioning-GPS-Measurement */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_MeasurementResults(ctx, &pvalue->ue_positioning_GPS_Measurement);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Measurement", -1, "UE-Positioning-MeasuredResults");
-   }
-   /* ue-positioning-Error */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_UE_Positioning_Error(ctx, &pvalue->ue_positioning_Error);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-Error", -1, "UE-Positioning-MeasuredResults");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasuredResults(rtxContext* RT_RESTRICT ctx, const MeasuredResults* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasuredResults");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
-   RT_CHECK(ctx, stat, 0, "t", -1, "MeasuredResults");
-   if (pvalue->t - 1 > 7) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasuredResults");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.intraFreqMeasuredResultsList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFreqMeasuredResultsList", -1, "MeasuredResults");
-         stat = asn1PE_UMTS_IntraFreqMeasuredResultsList(ctx, pvalue->u.intraFreqMeasuredResultsList);
-         RT_CHECK(ctx, stat, 0, "intraFreqMeasuredResultsList", -1, "MeasuredResults");
-         break;
-      case 2:
-         if (pvalue->u.interFreqMeasuredResultsList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interFreqMeasuredResultsList", -1, "MeasuredResults");
-         stat = asn1PE_UMTS_InterFreqMeasuredResultsList(ctx, pvalue->u.interFreqMeasuredResultsList);
-         RT_CHECK(ctx, stat, 0, "interFreqMeasuredResultsList", -1, "MeasuredResults");
-         break;
-      case 3:
-         if (pvalue->u.interRATMeasuredResultsList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interRATMeasuredResultsList", -1, "MeasuredResults");
-         stat = asn1PE_UMTS_InterRATMeasuredResultsList(ctx, pvalue->u.interRATMeasuredResultsList);
-         RT_CHECK(ctx, stat, 0, "interRATMeasuredResultsList", -1, "MeasuredResults");
-         break;
-      case 4:
-         if (pvalue->u.trafficVolumeMeasuredResultsList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "trafficVolumeMeasuredResultsList", -1, "MeasuredResults");
-         stat = asn1PE_UMTS_TrafficVolumeMeasuredResultsList(ctx, pvalue->u.trafficVolumeMeasuredResultsList);
-         RT_CHECK(ctx, stat, 0, "trafficVolumeMeasuredResultsList", -1, "MeasuredResults");
-         break;
-      case 5:
-         if (pvalue->u.qualityMeasuredResults == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "qualityMeasuredResults", -1, "MeasuredResults");
-         stat = asn1PE_UMTS_QualityMeasuredResults(ctx, pvalue->u.qualityMeasuredResults);
-         RT_CHECK(ctx, stat, 0, "qualityMeasuredResults", -1, "MeasuredResults");
-         break;
-      case 6:
-         if (pvalue->u.ue_InternalMeasuredResults == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ue-InternalMeasuredResults", -1, "MeasuredResults");
-         stat = asn1PE_UMTS_UE_InternalMeasuredResults(ctx, pvalue->u.ue_InternalMeasuredResults);
-         RT_CHECK(ctx, stat, 0, "ue-InternalMeasuredResults", -1, "MeasuredResults");
-         break;
-      case 7:
-         if (pvalue->u.ue_positioning_MeasuredResults == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ue-positioning-MeasuredResults", -1, "MeasuredResults");
-         stat = asn1PE_UMTS_UE_Positioning_MeasuredResults(ctx, pvalue->u.ue_positioning_MeasuredResults);
-         RT_CHECK(ctx, stat, 0, "ue-positioning-MeasuredResults", -1, "MeasuredResults");
-         break;
-      case 8:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasuredResultsOnSecUlFreq(rtxContext* RT_RESTRICT ctx, const MeasuredResultsOnSecUlFreq* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasuredResultsOnSecUlFreq");
-   /* intraFreqMeasuredResultsList */
-   stat = asn1PE_UMTS_IntraFrequencyMeasuredResultsListOnSecULFreq(ctx, &pvalue->intraFreqMeasuredResultsList);
-   RT_CHECK(ctx, stat, 0, "intraFreqMeasuredResultsList", -1, "MeasuredResultsOnSecUlFreq");
-   return 0;
-}
-
-int asn1PE_UMTS_Neighbour_v390ext_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const Neighbour_v390ext_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* frequencyInfo */
-   stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_Neighbour_v390ext_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const Neighbour_v390ext_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_Neighbour_v390ext_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Neighbour_v390ext(rtxContext* RT_RESTRICT ctx, const Neighbour_v390ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Neighbour-v390ext");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_Neighbour_v390ext_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "Neighbour-v390ext");
-   return 0;
-}
-
-int asn1PE_UMTS_NeighbourList_v390ext(rtxContext* RT_RESTRICT ctx, const NeighbourList_v390ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NeighbourList-v390ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NeighbourList-v390ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "Neighbour-v390ext", (int32_t)i, "NeighbourList-v390ext");
-      stat = asn1PE_UMTS_Neighbour_v390ext(ctx, (const Neighbour_v390ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "Neighbour-v390ext", (int32_t)i, "NeighbourList-v390ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_Measurement_v390ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_Measurement_v390ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-Measurement-v390ext");
-   /* neighbourList-v390ext */
-   stat = asn1PE_UMTS_NeighbourList_v390ext(ctx, &pvalue->neighbourList_v390ext);
-   RT_CHECK(ctx, stat, 0, "neighbourList-v390ext", -1, "UE-Positioning-OTDOA-Measurement-v390ext");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_MeasuredResults_v390ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_MeasuredResults_v390ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-MeasuredResults-v390ext");
-   /* ue-Positioning-OTDOA-Measurement-v390ext */
-   stat = asn1PE_UMTS_UE_Positioning_OTDOA_Measurement_v390ext(ctx, &pvalue->ue_Positioning_OTDOA_Measurement_v390ext);
-   RT_CHECK(ctx, stat, 0, "ue-Positioning-OTDOA-Measurement-v390ext", -1, "UE-Positioning-MeasuredResults-v390ext");
-   return 0;
-}
-
-int asn1PE_UMTS_MeasuredResults_v390ext(rtxContext* RT_RESTRICT ctx, const MeasuredResults_v390ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasuredResults-v390ext");
-   /* ue-positioning-MeasuredResults-v390ext */
-   stat = asn1PE_UMTS_UE_Positioning_MeasuredResults_v390ext(ctx, &pvalue->ue_positioning_MeasuredResults_v390ext);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-MeasuredResults-v390ext", -1, "MeasuredResults-v390ext");
-   return 0;
-}
-
-int asn1PE_UMTS_MeasuredResults_v590ext(rtxContext* RT_RESTRICT ctx, const MeasuredResults_v590ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasuredResults-v590ext");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "MeasuredResults-v590ext");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasuredResults-v590ext");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.intraFrequencyMeasuredResultsList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFrequencyMeasuredResultsList", -1, "MeasuredResults-v590ext");
-         stat = asn1PE_UMTS_IntraFrequencyMeasuredResultsList_v590ext(ctx, pvalue->u.intraFrequencyMeasuredResultsList);
-         RT_CHECK(ctx, stat, 0, "intraFrequencyMeasuredResultsList", -1, "MeasuredResults-v590ext");
-         break;
-      case 2:
-         if (pvalue->u.interFrequencyMeasuredResultsList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interFrequencyMeasuredResultsList", -1, "MeasuredResults-v590ext");
-         stat = asn1PE_UMTS_InterFrequencyMeasuredResultsList_v590ext(ctx, pvalue->u.interFrequencyMeasuredResultsList);
-         RT_CHECK(ctx, stat, 0, "interFrequencyMeasuredResultsList", -1, "MeasuredResults-v590ext");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd384_768(rtxContext* RT_RESTRICT ctx, const UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd384_768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* appliedTA */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_EXT_UL_TimingAdvance(ctx, &pvalue->appliedTA);
-      RT_CHECK(ctx, stat, 0, "appliedTA", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_T_ADVinfo_ext(rtxContext* RT_RESTRICT ctx, const T_ADVinfo_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "T-ADVinfo-ext");
-   /* t-ADV */
-   if ((uint64_t)pvalue->t_ADV > 8191u) {
-      rtxErrAddStrParm(ctx, "t-ADV");
-      rtxErrAddUIntParm(ctx, pvalue->t_ADV);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "t-ADV", -1, "T-ADVinfo-ext");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->t_ADV, 0, 8191);
-   RT_CHECK(ctx, stat, 0, "t-ADV", -1, "T-ADVinfo-ext");
-   /* sfn */
-   if ((uint64_t)pvalue->sfn > 4095u) {
-      rtxErrAddStrParm(ctx, "sfn");
-      rtxErrAddUIntParm(ctx, pvalue->sfn);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sfn", -1, "T-ADVinfo-ext");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->sfn, 0, 4095);
-   RT_CHECK(ctx, stat, 0, "sfn", -1, "T-ADVinfo-ext");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, const UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* t-ADVinfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_T_ADVinfo_ext(ctx, &pvalue->t_ADVinfo);
-      RT_CHECK(ctx, stat, 0, "t-ADVinfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalMeasuredResults_v770ext_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UE_InternalMeasuredResults_v770ext_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd384_768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384-768", -1, 0);
-         stat = asn1PE_UMTS_UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd384_768(ctx, pvalue->u.tdd384_768);
-         RT_CHECK(ctx, stat, 0, "tdd384-768", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_UE_InternalMeasuredResults_v770ext_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128);
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_UL_CCTrCH_r4_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
          RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
          break;
       default:
@@ -1787,125 +562,220 @@ int asn1PE_UMTS_UE_InternalMeasuredResults_v770ext_modeSpecificInfo(rtxContext* 
    return 0;
 }
 
-int asn1PE_UMTS_UE_InternalMeasuredResults_v770ext(rtxContext* RT_RESTRICT ctx, const UE_InternalMeasuredResults_v770ext* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UL_CCTrCH_r4_tddOption(rtxContext* RT_RESTRICT ctx, const UL_CCTrCH_r4_tddOption* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-InternalMeasuredResults-v770ext");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_UE_InternalMeasuredResults_v770ext_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-InternalMeasuredResults-v770ext");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_UL_CCTrCH_r4_tddOption, pvalue);
 }
 
-int asn1PE_UMTS_UE_Positioning_ErrorCause_r7(rtxContext* RT_RESTRICT ctx, UE_Positioning_ErrorCause_r7 value)
+RT_MERGED_BODY int enc_UL_CCTrCH_r4(rtxContext* RT_RESTRICT ctx, const UL_CCTrCH_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UE-Positioning-ErrorCause-r7");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-ErrorCause-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_AdditionalAssistanceDataRequest(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AdditionalAssistanceDataRequest* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest");
-   /* ganssReferenceTime */
-   stat = rtxEncBit(ctx, pvalue->ganssReferenceTime);
-   RT_CHECK(ctx, stat, 0, "ganssReferenceTime", -1, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest");
-   /* ganssreferenceLocation */
-   stat = rtxEncBit(ctx, pvalue->ganssreferenceLocation);
-   RT_CHECK(ctx, stat, 0, "ganssreferenceLocation", -1, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest");
-   /* ganssIonosphericModel */
-   stat = rtxEncBit(ctx, pvalue->ganssIonosphericModel);
-   RT_CHECK(ctx, stat, 0, "ganssIonosphericModel", -1, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest");
-   /* ganssRequestedGenericAssistanceDataList */
-   stat = asn1PE_UMTS_GanssRequestedGenericAssistanceDataList(ctx, &pvalue->ganssRequestedGenericAssistanceDataList);
-   RT_CHECK(ctx, stat, 0, "ganssRequestedGenericAssistanceDataList", -1, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_Error_r7(rtxContext* RT_RESTRICT ctx, const UE_Positioning_Error_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-Error-r7");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-CCTrCH-r4");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-Error-r7");
-   /* errorReason */
-   if (pvalue->errorReason > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->errorReason);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UE-Positioning-ErrorCause-r7", "errorReason", -1, "UE-Positioning-Error-r7");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->tfcs_ID != 1) << 1) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UL-CCTrCH-r4");
+   /* tfcs-ID */
+   if (pvalue->tfcs_ID != 1) {
+      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
+         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
+         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "UL-CCTrCH-r4");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "UL-CCTrCH-r4");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->errorReason, 0, 15);
-   RT_CHECK(ctx, stat, "UE-Positioning-ErrorCause-r7", "errorReason", -1, "UE-Positioning-Error-r7");
-   /* ue-positioning-GPS-additionalAssistanceDataRequest */
+   /* ul-TargetSIR */
+   if ((uint64_t)pvalue->ul_TargetSIR > 62u) {
+      rtxErrAddStrParm(ctx, "UL-TargetSIR");
+      rtxErrAddUIntParm(ctx, pvalue->ul_TargetSIR);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UL-TargetSIR", "ul-TargetSIR", -1, "UL-CCTrCH-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ul_TargetSIR, 0, 62);
+   RT_CHECK_PUT(ctx, cur, stat, "UL-TargetSIR", "ul-TargetSIR", -1, "UL-CCTrCH-r4");
+   /* timeInfo */
+   stat = enc_TimeInfo(ctx, &pvalue->timeInfo, cur);
+   RT_CHECK(ctx, stat, 0, "timeInfo", -1, "UL-CCTrCH-r4");
+   /* commonTimeslotInfo */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_AdditionalAssistanceDataRequest(ctx, &pvalue->ue_positioning_GPS_additionalAssistanceDataRequest);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-additionalAssistanceDataRequest", -1, "UE-Positioning-Error-r7");
+      stat = enc_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo, cur);
+      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "UL-CCTrCH-r4");
    }
-   /* ue-positioning-GANSS-additionalAssistanceDataRequest */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AdditionalAssistanceDataRequest(ctx, &pvalue->ue_positioning_GANSS_additionalAssistanceDataRequest);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-additionalAssistanceDataRequest", -1, "UE-Positioning-Error-r7");
-   }
+   /* tddOption */
+   stat = enc_UL_CCTrCH_r4_tddOption(ctx, &pvalue->tddOption, cur);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, "UL-CCTrCH-r4");
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_MeasuredResults_v770ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_MeasuredResults_v770ext* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UL_CCTrCH_r4(rtxContext* RT_RESTRICT ctx, const UL_CCTrCH_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_CCTrCH_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_CCTrCH_r7_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const UL_CCTrCH_r7_tddOption_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-MeasuredResults-v770ext");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-MeasuredResults-v770ext");
-   /* ue-positioning-PositionEstimateInfo */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-CCTrCH-TimeslotsCodes */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_v770ext(ctx, &pvalue->ue_positioning_PositionEstimateInfo);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-PositionEstimateInfo", -1, "UE-Positioning-MeasuredResults-v770ext");
-   }
-   /* ue-positioning-GPS-Measurement */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_MeasurementResults_v770ext(ctx, &pvalue->ue_positioning_GPS_Measurement);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Measurement", -1, "UE-Positioning-MeasuredResults-v770ext");
-   }
-   /* ue-positioning-Error */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_UE_Positioning_Error_r7(ctx, &pvalue->ue_positioning_Error);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-Error", -1, "UE-Positioning-MeasuredResults-v770ext");
-   }
-   /* ue-positioning-Ganss-MeasuredResults */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_MeasuredResults(ctx, &pvalue->ue_positioning_Ganss_MeasuredResults);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-Ganss-MeasuredResults", -1, "UE-Positioning-MeasuredResults-v770ext");
+      stat = enc_UplinkTimeslotsCodes(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrCH-TimeslotsCodes", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_MeasuredResults_v770ext(rtxContext* RT_RESTRICT ctx, const MeasuredResults_v770ext* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UL_CCTrCH_r7_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const UL_CCTrCH_r7_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_CCTrCH_r7_tddOption_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_CCTrCH_r7_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, const UL_CCTrCH_r7_tddOption_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasuredResults-v770ext");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "MeasuredResults-v770ext");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasuredResults-v770ext");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-CCTrCH-TimeslotsCodes */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UplinkTimeslotsCodes_VHCR(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrCH-TimeslotsCodes", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_CCTrCH_r7_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, const UL_CCTrCH_r7_tddOption_tdd768* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_CCTrCH_r7_tddOption_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_TS_ChannelisationCodeList_r7_element(rtxContext* RT_RESTRICT ctx, const UL_TS_ChannelisationCodeList_r7_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-TS-Channelisation-Code */
+   if (pvalue->ul_TS_Channelisation_Code > 30) {
+      rtxErrAddUIntParm(ctx, pvalue->ul_TS_Channelisation_Code);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UL-TS-ChannelisationCode", "ul-TS-Channelisation-Code", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ul_TS_Channelisation_Code, 0, 30);
+   RT_CHECK_PUT(ctx, cur, stat, "UL-TS-ChannelisationCode", "ul-TS-Channelisation-Code", -1, 0);
+   /* plcch-info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PLCCH_Info(ctx, &pvalue->plcch_info, cur);
+      RT_CHECK(ctx, stat, 0, "plcch-info", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_TS_ChannelisationCodeList_r7_element(rtxContext* RT_RESTRICT ctx, const UL_TS_ChannelisationCodeList_r7_element* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_TS_ChannelisationCodeList_r7_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_TS_ChannelisationCodeList_r7(rtxContext* RT_RESTRICT ctx, const UL_TS_ChannelisationCodeList_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-TS-ChannelisationCodeList-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 2);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "UL-TS-ChannelisationCodeList-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "UL-TS-ChannelisationCodeList-r7");
+      stat = enc_UL_TS_ChannelisationCodeList_r7_element(ctx, (const UL_TS_ChannelisationCodeList_r7_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "UL-TS-ChannelisationCodeList-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_TS_ChannelisationCodeList_r7(rtxContext* RT_RESTRICT ctx, const UL_TS_ChannelisationCodeList_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_TS_ChannelisationCodeList_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_consecutive(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_consecutive* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* numAdditionalTimeslots */
+   if ((uint64_t)(pvalue->numAdditionalTimeslots - 1) > 4u) {
+      rtxErrAddStrParm(ctx, "numAdditionalTimeslots");
+      rtxErrAddUIntParm(ctx, pvalue->numAdditionalTimeslots);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "numAdditionalTimeslots", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->numAdditionalTimeslots, 1, 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "numAdditionalTimeslots", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_consecutive(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_consecutive* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_consecutive, pvalue);
+}
+
+RT_MERGED_BODY int enc_UplinkAdditionalTimeslots_LCR_r7_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_LCR_r7_parameters_sameAsLast* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* timeslotNumber */
+   if ((uint64_t)pvalue->timeslotNumber > 14u) {
+      rtxErrAddStrParm(ctx, "TimeslotNumber");
+      rtxErrAddUIntParm(ctx, pvalue->timeslotNumber);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotNumber", "timeslotNumber", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeslotNumber, 0, 14);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeslotNumber", "timeslotNumber", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r7_parameters_sameAsLast(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_LCR_r7_parameters_sameAsLast* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UplinkAdditionalTimeslots_LCR_r7_parameters_sameAsLast, pvalue);
+}
+
+RT_MERGED_BODY int enc_UplinkAdditionalTimeslots_LCR_r7_parameters_newParameters(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_LCR_r7_parameters_newParameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* individualTimeslotInfo */
+   stat = enc_IndividualTimeslotInfo_LCR_r4(ctx, &pvalue->individualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "individualTimeslotInfo", -1, 0);
+   /* ul-TS-ChannelisationCodeList */
+   stat = enc_UL_TS_ChannelisationCodeList_r7(ctx, &pvalue->ul_TS_ChannelisationCodeList, cur);
+   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r7_parameters_newParameters(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_LCR_r7_parameters_newParameters* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UplinkAdditionalTimeslots_LCR_r7_parameters_newParameters, pvalue);
+}
+
+RT_MERGED_BODY int enc_UplinkAdditionalTimeslots_LCR_r7_parameters(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_LCR_r7_parameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.ueInternalMeasuredResults == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueInternalMeasuredResults", -1, "MeasuredResults-v770ext");
-         stat = asn1PE_UMTS_UE_InternalMeasuredResults_v770ext(ctx, pvalue->u.ueInternalMeasuredResults);
-         RT_CHECK(ctx, stat, 0, "ueInternalMeasuredResults", -1, "MeasuredResults-v770ext");
+         if (pvalue->u.sameAsLast == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "sameAsLast", -1, 0);
+         stat = enc_UplinkAdditionalTimeslots_LCR_r7_parameters_sameAsLast(ctx, pvalue->u.sameAsLast, cur);
+         RT_CHECK(ctx, stat, 0, "sameAsLast", -1, 0);
          break;
       case 2:
-         if (pvalue->u.ue_positioning_MeasuredResults == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ue-positioning-MeasuredResults", -1, "MeasuredResults-v770ext");
-         stat = asn1PE_UMTS_UE_Positioning_MeasuredResults_v770ext(ctx, pvalue->u.ue_positioning_MeasuredResults);
-         RT_CHECK(ctx, stat, 0, "ue-positioning-MeasuredResults", -1, "MeasuredResults-v770ext");
+         if (pvalue->u.newParameters == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "newParameters", -1, 0);
+         stat = enc_UplinkAdditionalTimeslots_LCR_r7_parameters_newParameters(ctx, pvalue->u.newParameters, cur);
+         RT_CHECK(ctx, stat, 0, "newParameters", -1, 0);
          break;
       default:
          break;
@@ -1913,95 +783,3793 @@ int asn1PE_UMTS_MeasuredResults_v770ext(rtxContext* RT_RESTRICT ctx, const Measu
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext_ganssEOPreq(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext_ganssEOPreq value)
+int asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r7_parameters(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_LCR_r7_parameters* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UplinkAdditionalTimeslots_LCR_r7_parameters, pvalue);
+}
+
+RT_MERGED_BODY int enc_UplinkAdditionalTimeslots_LCR_r7(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_LCR_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UplinkAdditionalTimeslots-LCR-r7");
+   /* parameters */
+   stat = enc_UplinkAdditionalTimeslots_LCR_r7_parameters(ctx, &pvalue->parameters, cur);
+   RT_CHECK(ctx, stat, 0, "parameters", -1, "UplinkAdditionalTimeslots-LCR-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkAdditionalTimeslots_LCR_r7(rtxContext* RT_RESTRICT ctx, const UplinkAdditionalTimeslots_LCR_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UplinkAdditionalTimeslots_LCR_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 5);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "UplinkAdditionalTimeslots-LCR-r7", (int32_t)i, 0);
+      stat = enc_UplinkAdditionalTimeslots_LCR_r7(ctx, (const UplinkAdditionalTimeslots_LCR_r7*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "UplinkAdditionalTimeslots-LCR-r7", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_timeslotList(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_timeslotList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_timeslotList, pvalue);
+}
+
+RT_MERGED_BODY int enc_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.consecutive == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "consecutive", -1, 0);
+         stat = enc_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_consecutive(ctx, pvalue->u.consecutive, cur);
+         RT_CHECK(ctx, stat, 0, "consecutive", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.timeslotList == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "timeslotList", -1, 0);
+         stat = enc_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots_timeslotList(ctx, pvalue->u.timeslotList, cur);
+         RT_CHECK(ctx, stat, 0, "timeslotList", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots, pvalue);
+}
+
+static int enc_UplinkTimeslotsCodes_LCR_r7_moreTimeslots(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r7_moreTimeslots* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.additionalTimeslots == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "additionalTimeslots", -1, 0);
+         stat = enc_UplinkTimeslotsCodes_LCR_r7_moreTimeslots_additionalTimeslots(ctx, pvalue->u.additionalTimeslots, cur);
+         RT_CHECK(ctx, stat, 0, "additionalTimeslots", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r7_moreTimeslots(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r7_moreTimeslots* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UplinkTimeslotsCodes_LCR_r7_moreTimeslots, pvalue);
+}
+
+RT_MERGED_BODY int enc_UplinkTimeslotsCodes_LCR_r7(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UplinkTimeslotsCodes-LCR-r7");
+   /* dynamicSFusage */
+   stat = rtxEncBitAt(ctx, cur, pvalue->dynamicSFusage);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "dynamicSFusage", -1, "UplinkTimeslotsCodes-LCR-r7");
+   /* firstIndividualTimeslotInfo */
+   stat = enc_IndividualTimeslotInfo_LCR_r4(ctx, &pvalue->firstIndividualTimeslotInfo, cur);
+   RT_CHECK(ctx, stat, 0, "firstIndividualTimeslotInfo", -1, "UplinkTimeslotsCodes-LCR-r7");
+   /* ul-TS-ChannelisationCodeList */
+   stat = enc_UL_TS_ChannelisationCodeList_r7(ctx, &pvalue->ul_TS_ChannelisationCodeList, cur);
+   RT_CHECK(ctx, stat, 0, "ul-TS-ChannelisationCodeList", -1, "UplinkTimeslotsCodes-LCR-r7");
+   /* moreTimeslots */
+   stat = enc_UplinkTimeslotsCodes_LCR_r7_moreTimeslots(ctx, &pvalue->moreTimeslots, cur);
+   RT_CHECK(ctx, stat, 0, "moreTimeslots", -1, "UplinkTimeslotsCodes-LCR-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_UplinkTimeslotsCodes_LCR_r7(rtxContext* RT_RESTRICT ctx, const UplinkTimeslotsCodes_LCR_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UplinkTimeslotsCodes_LCR_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_CCTrCH_r7_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const UL_CCTrCH_r7_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-CCTrCH-TimeslotsCodes */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UplinkTimeslotsCodes_LCR_r7(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrCH-TimeslotsCodes", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_CCTrCH_r7_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const UL_CCTrCH_r7_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_CCTrCH_r7_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_CCTrCH_r7_tddOption(rtxContext* RT_RESTRICT ctx, const UL_CCTrCH_r7_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = enc_UL_CCTrCH_r7_tddOption_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd768 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
+         stat = enc_UL_CCTrCH_r7_tddOption_tdd768(ctx, pvalue->u.tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_UL_CCTrCH_r7_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_CCTrCH_r7_tddOption(rtxContext* RT_RESTRICT ctx, const UL_CCTrCH_r7_tddOption* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_CCTrCH_r7_tddOption, pvalue);
+}
+
+static int enc_UL_CCTrCH_r7(rtxContext* RT_RESTRICT ctx, const UL_CCTrCH_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-CCTrCH-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->tfcs_ID != 1) << 1) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UL-CCTrCH-r7");
+   /* tfcs-ID */
+   if (pvalue->tfcs_ID != 1) {
+      if ((uint64_t)(pvalue->tfcs_ID - 1) > 7u) {
+         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
+         rtxErrAddUIntParm(ctx, pvalue->tfcs_ID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "tfcs-ID", -1, "UL-CCTrCH-r7");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->tfcs_ID, 1, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "TFCS-IdentityPlain", "tfcs-ID", -1, "UL-CCTrCH-r7");
+   }
+   /* ul-TargetSIR */
+   if ((uint64_t)pvalue->ul_TargetSIR > 62u) {
+      rtxErrAddStrParm(ctx, "UL-TargetSIR");
+      rtxErrAddUIntParm(ctx, pvalue->ul_TargetSIR);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UL-TargetSIR", "ul-TargetSIR", -1, "UL-CCTrCH-r7");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ul_TargetSIR, 0, 62);
+   RT_CHECK_PUT(ctx, cur, stat, "UL-TargetSIR", "ul-TargetSIR", -1, "UL-CCTrCH-r7");
+   /* timeInfo */
+   stat = enc_TimeInfo(ctx, &pvalue->timeInfo, cur);
+   RT_CHECK(ctx, stat, 0, "timeInfo", -1, "UL-CCTrCH-r7");
+   /* commonTimeslotInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_CommonTimeslotInfo(ctx, &pvalue->commonTimeslotInfo, cur);
+      RT_CHECK(ctx, stat, 0, "commonTimeslotInfo", -1, "UL-CCTrCH-r7");
+   }
+   /* tddOption */
+   stat = enc_UL_CCTrCH_r7_tddOption(ctx, &pvalue->tddOption, cur);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, "UL-CCTrCH-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_CCTrCH_r7(rtxContext* RT_RESTRICT ctx, const UL_CCTrCH_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_CCTrCH_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_CCTrCHList(rtxContext* RT_RESTRICT ctx, const UL_CCTrCHList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-CCTrCHList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "UL-CCTrCHList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "UL-CCTrCH", (int32_t)i, "UL-CCTrCHList");
+      stat = enc_UL_CCTrCH(ctx, (const UL_CCTrCH*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "UL-CCTrCH", (int32_t)i, "UL-CCTrCHList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_CCTrCHList(rtxContext* RT_RESTRICT ctx, const UL_CCTrCHList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_CCTrCHList, pvalue);
+}
+
+static int enc_UL_CCTrCHList_r4(rtxContext* RT_RESTRICT ctx, const UL_CCTrCHList_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-CCTrCHList-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "UL-CCTrCHList-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "UL-CCTrCH-r4", (int32_t)i, "UL-CCTrCHList-r4");
+      stat = enc_UL_CCTrCH_r4(ctx, (const UL_CCTrCH_r4*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "UL-CCTrCH-r4", (int32_t)i, "UL-CCTrCHList-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_CCTrCHList_r4(rtxContext* RT_RESTRICT ctx, const UL_CCTrCHList_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_CCTrCHList_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_CCTrCHList_r7(rtxContext* RT_RESTRICT ctx, const UL_CCTrCHList_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-CCTrCHList-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "UL-CCTrCHList-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "UL-CCTrCH-r7", (int32_t)i, "UL-CCTrCHList-r7");
+      stat = enc_UL_CCTrCH_r7(ctx, (const UL_CCTrCH_r7*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "UL-CCTrCH-r7", (int32_t)i, "UL-CCTrCHList-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_CCTrCHList_r7(rtxContext* RT_RESTRICT ctx, const UL_CCTrCHList_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_CCTrCHList_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_CCTrCHListToRemove(rtxContext* RT_RESTRICT ctx, const UL_CCTrCHListToRemove* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-CCTrCHListToRemove");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "UL-CCTrCHListToRemove");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)(pvalue->elem[i] - 1) > 7u) {
+         rtxErrAddStrParm(ctx, "TFCS-IdentityPlain");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TFCS-IdentityPlain", "TFCS-IdentityPlain", (int32_t)i, "UL-CCTrCHListToRemove");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 1, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "TFCS-IdentityPlain", "TFCS-IdentityPlain", (int32_t)i, "UL-CCTrCHListToRemove");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_CCTrCHListToRemove(rtxContext* RT_RESTRICT ctx, const UL_CCTrCHListToRemove* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_CCTrCHListToRemove, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->numberOfDPDCH != 1) << 1) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* scramblingCodeType */
+   if (pvalue->scramblingCodeType > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->scramblingCodeType);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ScramblingCodeType", "scramblingCodeType", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->scramblingCodeType, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "ScramblingCodeType", "scramblingCodeType", -1, 0);
+   /* scramblingCode */
+   if ((uint64_t)pvalue->scramblingCode > 16777215u) {
+      rtxErrAddStrParm(ctx, "UL-ScramblingCode");
+      rtxErrAddUIntParm(ctx, pvalue->scramblingCode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UL-ScramblingCode", "scramblingCode", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->scramblingCode, 0, 16777215);
+   RT_CHECK_PUT(ctx, cur, stat, "UL-ScramblingCode", "scramblingCode", -1, 0);
+   /* numberOfDPDCH */
+   if (pvalue->numberOfDPDCH != 1) {
+      if ((uint64_t)(pvalue->numberOfDPDCH - 1) > 5u) {
+         rtxErrAddStrParm(ctx, "NumberOfDPDCH");
+         rtxErrAddUIntParm(ctx, pvalue->numberOfDPDCH);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "NumberOfDPDCH", "numberOfDPDCH", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->numberOfDPDCH, 1, 6);
+      RT_CHECK_PUT(ctx, cur, stat, "NumberOfDPDCH", "numberOfDPDCH", -1, 0);
+   }
+   /* spreadingFactor */
+   if (pvalue->spreadingFactor > 6) {
+      rtxErrAddUIntParm(ctx, pvalue->spreadingFactor);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "SpreadingFactor", "spreadingFactor", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->spreadingFactor, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "SpreadingFactor", "spreadingFactor", -1, 0);
+   /* tfci-Existence */
+   stat = rtxEncBitAt(ctx, cur, pvalue->tfci_Existence);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tfci-Existence", -1, 0);
+   /* numberOfFBI-Bits */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->numberOfFBI_Bits - 1) > 1u) {
+         rtxErrAddStrParm(ctx, "NumberOfFBI-Bits");
+         rtxErrAddUIntParm(ctx, pvalue->numberOfFBI_Bits);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->numberOfFBI_Bits, 1, 2);
+      RT_CHECK_PUT(ctx, cur, stat, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
+   }
+   /* puncturingLimit */
+   if (pvalue->puncturingLimit > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->puncturingLimit);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PuncturingLimit", "puncturingLimit", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->puncturingLimit, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "PuncturingLimit", "puncturingLimit", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_Info_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_Info_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_TimingAdvance(rtxContext* RT_RESTRICT ctx, UL_TimingAdvance value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 63u) {
+      rtxErrAddStrParm(ctx, "UL-TimingAdvance");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "UL-TimingAdvance");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UL-TimingAdvance");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_TimingAdvance(rtxContext* RT_RESTRICT ctx, UL_TimingAdvance value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_TimingAdvance, value);
+}
+
+RT_MERGED_BODY int enc_UL_TimingAdvanceControl_enabled(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_enabled* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-TimingAdvance */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->ul_TimingAdvance > 63u) {
+         rtxErrAddStrParm(ctx, "UL-TimingAdvance");
+         rtxErrAddUIntParm(ctx, pvalue->ul_TimingAdvance);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UL-TimingAdvance", "ul-TimingAdvance", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ul_TimingAdvance, 0, 63);
+      RT_CHECK_PUT(ctx, cur, stat, "UL-TimingAdvance", "ul-TimingAdvance", -1, 0);
+   }
+   /* activationTime */
+   if (pvalue->m & 0x2u) {
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->activationTime, 0, 255);
+      RT_CHECK_PUT(ctx, cur, stat, "ActivationTime", "activationTime", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_TimingAdvanceControl_enabled(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_enabled* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_TimingAdvanceControl_enabled, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_TimingAdvanceControl(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-TimingAdvanceControl");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "UL-TimingAdvanceControl");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-TimingAdvanceControl");
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.enabled == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "enabled", -1, "UL-TimingAdvanceControl");
+         stat = enc_UL_TimingAdvanceControl_enabled(ctx, pvalue->u.enabled, cur);
+         RT_CHECK(ctx, stat, 0, "enabled", -1, "UL-TimingAdvanceControl");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_TimingAdvanceControl(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_TimingAdvanceControl, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_Info_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-TimingAdvance */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UL_TimingAdvanceControl(ctx, &pvalue->ul_TimingAdvance, cur);
+      RT_CHECK(ctx, stat, 0, "ul-TimingAdvance", -1, 0);
+   }
+   /* ul-CCTrCHList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_UL_CCTrCHList(ctx, &pvalue->ul_CCTrCHList, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrCHList", -1, 0);
+   }
+   /* ul-CCTrCHListToRemove */
+   if (pvalue->m & 0x4u) {
+      stat = enc_UL_CCTrCHListToRemove(ctx, &pvalue->ul_CCTrCHListToRemove, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrCHListToRemove", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_Info_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_Info_modeSpecificInfo_tdd, pvalue);
+}
+
+static int enc_UL_DPCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_UL_DPCH_Info_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_UL_DPCH_Info_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_Info_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_Info_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_Info(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-Info");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UL-DPCH-Info");
+   /* ul-DPCH-PowerControlInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UL_DPCH_PowerControlInfo(ctx, &pvalue->ul_DPCH_PowerControlInfo, cur);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "UL-DPCH-Info");
+   }
+   /* modeSpecificInfo */
+   stat = enc_UL_DPCH_Info_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-DPCH-Info");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_Info(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_Info, pvalue);
+}
+
+static int enc_UL_ChannelRequirement(rtxContext* RT_RESTRICT ctx, const UL_ChannelRequirement* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-ChannelRequirement");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "UL-ChannelRequirement");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-ChannelRequirement");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.ul_DPCH_Info == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirement");
+         stat = enc_UL_DPCH_Info(ctx, pvalue->u.ul_DPCH_Info, cur);
+         RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirement");
+         break;
+      case 2:
+         if (pvalue->u.dummy == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dummy", -1, "UL-ChannelRequirement");
+         stat = enc_CPCH_SetInfo(ctx, pvalue->u.dummy, cur);
+         RT_CHECK(ctx, stat, 0, "dummy", -1, "UL-ChannelRequirement");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_ChannelRequirement(rtxContext* RT_RESTRICT ctx, const UL_ChannelRequirement* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_ChannelRequirement, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_Info_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->numberOfDPDCH != 1) << 1) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* scramblingCodeType */
+   if (pvalue->scramblingCodeType > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->scramblingCodeType);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ScramblingCodeType", "scramblingCodeType", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->scramblingCodeType, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "ScramblingCodeType", "scramblingCodeType", -1, 0);
+   /* scramblingCode */
+   if ((uint64_t)pvalue->scramblingCode > 16777215u) {
+      rtxErrAddStrParm(ctx, "UL-ScramblingCode");
+      rtxErrAddUIntParm(ctx, pvalue->scramblingCode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UL-ScramblingCode", "scramblingCode", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->scramblingCode, 0, 16777215);
+   RT_CHECK_PUT(ctx, cur, stat, "UL-ScramblingCode", "scramblingCode", -1, 0);
+   /* numberOfDPDCH */
+   if (pvalue->numberOfDPDCH != 1) {
+      if ((uint64_t)(pvalue->numberOfDPDCH - 1) > 5u) {
+         rtxErrAddStrParm(ctx, "NumberOfDPDCH");
+         rtxErrAddUIntParm(ctx, pvalue->numberOfDPDCH);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "NumberOfDPDCH", "numberOfDPDCH", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->numberOfDPDCH, 1, 6);
+      RT_CHECK_PUT(ctx, cur, stat, "NumberOfDPDCH", "numberOfDPDCH", -1, 0);
+   }
+   /* spreadingFactor */
+   if (pvalue->spreadingFactor > 6) {
+      rtxErrAddUIntParm(ctx, pvalue->spreadingFactor);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "SpreadingFactor", "spreadingFactor", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->spreadingFactor, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "SpreadingFactor", "spreadingFactor", -1, 0);
+   /* tfci-Existence */
+   stat = rtxEncBitAt(ctx, cur, pvalue->tfci_Existence);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tfci-Existence", -1, 0);
+   /* numberOfFBI-Bits */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->numberOfFBI_Bits - 1) > 1u) {
+         rtxErrAddStrParm(ctx, "NumberOfFBI-Bits");
+         rtxErrAddUIntParm(ctx, pvalue->numberOfFBI_Bits);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->numberOfFBI_Bits, 1, 2);
+      RT_CHECK_PUT(ctx, cur, stat, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
+   }
+   /* puncturingLimit */
+   if (pvalue->puncturingLimit > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->puncturingLimit);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PuncturingLimit", "puncturingLimit", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->puncturingLimit, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "PuncturingLimit", "puncturingLimit", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_Info_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_Info_r4_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_TimingAdvanceControl_r4_enabled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r4_enabled_tddOption_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-TimingAdvance */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->ul_TimingAdvance > 63u) {
+         rtxErrAddStrParm(ctx, "UL-TimingAdvance");
+         rtxErrAddUIntParm(ctx, pvalue->ul_TimingAdvance);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UL-TimingAdvance", "ul-TimingAdvance", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ul_TimingAdvance, 0, 63);
+      RT_CHECK_PUT(ctx, cur, stat, "UL-TimingAdvance", "ul-TimingAdvance", -1, 0);
+   }
+   /* activationTime */
+   if (pvalue->m & 0x2u) {
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->activationTime, 0, 255);
+      RT_CHECK_PUT(ctx, cur, stat, "ActivationTime", "activationTime", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_TimingAdvanceControl_r4_enabled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r4_enabled_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_TimingAdvanceControl_r4_enabled_tddOption_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_TimingAdvanceControl_r4_enabled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r4_enabled_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-SynchronisationParameters */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UL_SynchronisationParameters_r4(ctx, &pvalue->ul_SynchronisationParameters, cur);
+      RT_CHECK(ctx, stat, 0, "ul-SynchronisationParameters", -1, 0);
+   }
+   /* synchronisationParameters */
+   if (pvalue->m & 0x2u) {
+      stat = enc_SynchronisationParameters_r4(ctx, &pvalue->synchronisationParameters, cur);
+      RT_CHECK(ctx, stat, 0, "synchronisationParameters", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_TimingAdvanceControl_r4_enabled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r4_enabled_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_TimingAdvanceControl_r4_enabled_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_TimingAdvanceControl_r4_enabled_tddOption(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r4_enabled_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = enc_UL_TimingAdvanceControl_r4_enabled_tddOption_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_UL_TimingAdvanceControl_r4_enabled_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_TimingAdvanceControl_r4_enabled_tddOption(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r4_enabled_tddOption* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_TimingAdvanceControl_r4_enabled_tddOption, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_TimingAdvanceControl_r4_enabled(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r4_enabled* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tddOption */
+   stat = enc_UL_TimingAdvanceControl_r4_enabled_tddOption(ctx, &pvalue->tddOption, cur);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_TimingAdvanceControl_r4_enabled(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r4_enabled* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_TimingAdvanceControl_r4_enabled, pvalue);
+}
+
+static int enc_UL_TimingAdvanceControl_r4(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-TimingAdvanceControl-r4");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "UL-TimingAdvanceControl-r4");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-TimingAdvanceControl-r4");
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.enabled == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "enabled", -1, "UL-TimingAdvanceControl-r4");
+         stat = enc_UL_TimingAdvanceControl_r4_enabled(ctx, pvalue->u.enabled, cur);
+         RT_CHECK(ctx, stat, 0, "enabled", -1, "UL-TimingAdvanceControl-r4");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_TimingAdvanceControl_r4(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_TimingAdvanceControl_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_Info_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-TimingAdvance */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UL_TimingAdvanceControl_r4(ctx, &pvalue->ul_TimingAdvance, cur);
+      RT_CHECK(ctx, stat, 0, "ul-TimingAdvance", -1, 0);
+   }
+   /* ul-CCTrCHList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_UL_CCTrCHList_r4(ctx, &pvalue->ul_CCTrCHList, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrCHList", -1, 0);
+   }
+   /* ul-CCTrCHListToRemove */
+   if (pvalue->m & 0x4u) {
+      stat = enc_UL_CCTrCHListToRemove(ctx, &pvalue->ul_CCTrCHListToRemove, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrCHListToRemove", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_Info_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_Info_r4_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_Info_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_UL_DPCH_Info_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_UL_DPCH_Info_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_Info_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r4_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_Info_r4_modeSpecificInfo, pvalue);
+}
+
+static int enc_UL_DPCH_Info_r4(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-Info-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UL-DPCH-Info-r4");
+   /* ul-DPCH-PowerControlInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UL_DPCH_PowerControlInfo_r4(ctx, &pvalue->ul_DPCH_PowerControlInfo, cur);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "UL-DPCH-Info-r4");
+   }
+   /* modeSpecificInfo */
+   stat = enc_UL_DPCH_Info_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-DPCH-Info-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_Info_r4(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_Info_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_ChannelRequirement_r4(rtxContext* RT_RESTRICT ctx, const UL_ChannelRequirement_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-ChannelRequirement-r4");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "UL-ChannelRequirement-r4");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-ChannelRequirement-r4");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.ul_DPCH_Info == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirement-r4");
+         stat = enc_UL_DPCH_Info_r4(ctx, pvalue->u.ul_DPCH_Info, cur);
+         RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirement-r4");
+         break;
+      case 2:
+         if (pvalue->u.dummy == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dummy", -1, "UL-ChannelRequirement-r4");
+         stat = enc_CPCH_SetInfo(ctx, pvalue->u.dummy, cur);
+         RT_CHECK(ctx, stat, 0, "dummy", -1, "UL-ChannelRequirement-r4");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_ChannelRequirement_r4(rtxContext* RT_RESTRICT ctx, const UL_ChannelRequirement_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_ChannelRequirement_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_Info_r5_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r5_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->numberOfDPDCH != 1) << 1) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* scramblingCodeType */
+   if (pvalue->scramblingCodeType > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->scramblingCodeType);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ScramblingCodeType", "scramblingCodeType", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->scramblingCodeType, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "ScramblingCodeType", "scramblingCodeType", -1, 0);
+   /* scramblingCode */
+   if ((uint64_t)pvalue->scramblingCode > 16777215u) {
+      rtxErrAddStrParm(ctx, "UL-ScramblingCode");
+      rtxErrAddUIntParm(ctx, pvalue->scramblingCode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UL-ScramblingCode", "scramblingCode", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->scramblingCode, 0, 16777215);
+   RT_CHECK_PUT(ctx, cur, stat, "UL-ScramblingCode", "scramblingCode", -1, 0);
+   /* numberOfDPDCH */
+   if (pvalue->numberOfDPDCH != 1) {
+      if ((uint64_t)(pvalue->numberOfDPDCH - 1) > 5u) {
+         rtxErrAddStrParm(ctx, "NumberOfDPDCH");
+         rtxErrAddUIntParm(ctx, pvalue->numberOfDPDCH);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "NumberOfDPDCH", "numberOfDPDCH", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->numberOfDPDCH, 1, 6);
+      RT_CHECK_PUT(ctx, cur, stat, "NumberOfDPDCH", "numberOfDPDCH", -1, 0);
+   }
+   /* spreadingFactor */
+   if (pvalue->spreadingFactor > 6) {
+      rtxErrAddUIntParm(ctx, pvalue->spreadingFactor);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "SpreadingFactor", "spreadingFactor", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->spreadingFactor, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "SpreadingFactor", "spreadingFactor", -1, 0);
+   /* tfci-Existence */
+   stat = rtxEncBitAt(ctx, cur, pvalue->tfci_Existence);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tfci-Existence", -1, 0);
+   /* numberOfFBI-Bits */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->numberOfFBI_Bits - 1) > 1u) {
+         rtxErrAddStrParm(ctx, "NumberOfFBI-Bits");
+         rtxErrAddUIntParm(ctx, pvalue->numberOfFBI_Bits);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->numberOfFBI_Bits, 1, 2);
+      RT_CHECK_PUT(ctx, cur, stat, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
+   }
+   /* puncturingLimit */
+   if (pvalue->puncturingLimit > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->puncturingLimit);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PuncturingLimit", "puncturingLimit", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->puncturingLimit, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "PuncturingLimit", "puncturingLimit", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_Info_r5_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r5_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_Info_r5_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_Info_r5_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r5_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-TimingAdvance */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UL_TimingAdvanceControl_r4(ctx, &pvalue->ul_TimingAdvance, cur);
+      RT_CHECK(ctx, stat, 0, "ul-TimingAdvance", -1, 0);
+   }
+   /* ul-CCTrCHList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_UL_CCTrCHList_r4(ctx, &pvalue->ul_CCTrCHList, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrCHList", -1, 0);
+   }
+   /* ul-CCTrCHListToRemove */
+   if (pvalue->m & 0x4u) {
+      stat = enc_UL_CCTrCHListToRemove(ctx, &pvalue->ul_CCTrCHListToRemove, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrCHListToRemove", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_Info_r5_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r5_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_Info_r5_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_Info_r5_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r5_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_UL_DPCH_Info_r5_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_UL_DPCH_Info_r5_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_Info_r5_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r5_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_Info_r5_modeSpecificInfo, pvalue);
+}
+
+static int enc_UL_DPCH_Info_r5(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-Info-r5");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UL-DPCH-Info-r5");
+   /* ul-DPCH-PowerControlInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UL_DPCH_PowerControlInfo_r5(ctx, &pvalue->ul_DPCH_PowerControlInfo, cur);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "UL-DPCH-Info-r5");
+   }
+   /* modeSpecificInfo */
+   stat = enc_UL_DPCH_Info_r5_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-DPCH-Info-r5");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_Info_r5(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_Info_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_ChannelRequirement_r5(rtxContext* RT_RESTRICT ctx, const UL_ChannelRequirement_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-ChannelRequirement-r5");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "UL-ChannelRequirement-r5");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-ChannelRequirement-r5");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.ul_DPCH_Info == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirement-r5");
+         stat = enc_UL_DPCH_Info_r5(ctx, pvalue->u.ul_DPCH_Info, cur);
+         RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirement-r5");
+         break;
+      case 2:
+         if (pvalue->u.dummy == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dummy", -1, "UL-ChannelRequirement-r5");
+         stat = enc_CPCH_SetInfo(ctx, pvalue->u.dummy, cur);
+         RT_CHECK(ctx, stat, 0, "dummy", -1, "UL-ChannelRequirement-r5");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_ChannelRequirement_r5(rtxContext* RT_RESTRICT ctx, const UL_ChannelRequirement_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_ChannelRequirement_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_ChannelRequirementWithCPCH_SetID(rtxContext* RT_RESTRICT ctx, const UL_ChannelRequirementWithCPCH_SetID* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-ChannelRequirementWithCPCH-SetID");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "UL-ChannelRequirementWithCPCH-SetID");
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-ChannelRequirementWithCPCH-SetID");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.ul_DPCH_Info == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirementWithCPCH-SetID");
+         stat = enc_UL_DPCH_Info(ctx, pvalue->u.ul_DPCH_Info, cur);
+         RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirementWithCPCH-SetID");
+         break;
+      case 2:
+         if (pvalue->u.dummy1 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dummy1", -1, "UL-ChannelRequirementWithCPCH-SetID");
+         stat = enc_CPCH_SetInfo(ctx, pvalue->u.dummy1, cur);
+         RT_CHECK(ctx, stat, 0, "dummy1", -1, "UL-ChannelRequirementWithCPCH-SetID");
+         break;
+      case 3:
+         if ((uint64_t)(pvalue->u.dummy2 - 1) > 15u) {
+            rtxErrAddStrParm(ctx, "CPCH-SetID");
+            rtxErrAddUIntParm(ctx, pvalue->u.dummy2);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CPCH-SetID", "dummy2", -1, "UL-ChannelRequirementWithCPCH-SetID");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.dummy2, 1, 16);
+         RT_CHECK_PUT(ctx, cur, stat, "CPCH-SetID", "dummy2", -1, "UL-ChannelRequirementWithCPCH-SetID");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_ChannelRequirementWithCPCH_SetID(rtxContext* RT_RESTRICT ctx, const UL_ChannelRequirementWithCPCH_SetID* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_ChannelRequirementWithCPCH_SetID, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_ChannelRequirementWithCPCH_SetID_r4(rtxContext* RT_RESTRICT ctx, const UL_ChannelRequirementWithCPCH_SetID_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-ChannelRequirementWithCPCH-SetID-r4");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "UL-ChannelRequirementWithCPCH-SetID-r4");
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-ChannelRequirementWithCPCH-SetID-r4");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.ul_DPCH_Info == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirementWithCPCH-SetID-r4");
+         stat = enc_UL_DPCH_Info_r4(ctx, pvalue->u.ul_DPCH_Info, cur);
+         RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirementWithCPCH-SetID-r4");
+         break;
+      case 2:
+         if (pvalue->u.dummy1 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dummy1", -1, "UL-ChannelRequirementWithCPCH-SetID-r4");
+         stat = enc_CPCH_SetInfo(ctx, pvalue->u.dummy1, cur);
+         RT_CHECK(ctx, stat, 0, "dummy1", -1, "UL-ChannelRequirementWithCPCH-SetID-r4");
+         break;
+      case 3:
+         if ((uint64_t)(pvalue->u.dummy2 - 1) > 15u) {
+            rtxErrAddStrParm(ctx, "CPCH-SetID");
+            rtxErrAddUIntParm(ctx, pvalue->u.dummy2);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CPCH-SetID", "dummy2", -1, "UL-ChannelRequirementWithCPCH-SetID-r4");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.dummy2, 1, 16);
+         RT_CHECK_PUT(ctx, cur, stat, "CPCH-SetID", "dummy2", -1, "UL-ChannelRequirementWithCPCH-SetID-r4");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_ChannelRequirementWithCPCH_SetID_r4(rtxContext* RT_RESTRICT ctx, const UL_ChannelRequirementWithCPCH_SetID_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_ChannelRequirementWithCPCH_SetID_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_ChannelRequirementWithCPCH_SetID_r5(rtxContext* RT_RESTRICT ctx, const UL_ChannelRequirementWithCPCH_SetID_r5* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-ChannelRequirementWithCPCH-SetID-r5");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "UL-ChannelRequirementWithCPCH-SetID-r5");
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-ChannelRequirementWithCPCH-SetID-r5");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.ul_DPCH_Info == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirementWithCPCH-SetID-r5");
+         stat = enc_UL_DPCH_Info_r5(ctx, pvalue->u.ul_DPCH_Info, cur);
+         RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "UL-ChannelRequirementWithCPCH-SetID-r5");
+         break;
+      case 2:
+         if (pvalue->u.dummy1 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dummy1", -1, "UL-ChannelRequirementWithCPCH-SetID-r5");
+         stat = enc_CPCH_SetInfo(ctx, pvalue->u.dummy1, cur);
+         RT_CHECK(ctx, stat, 0, "dummy1", -1, "UL-ChannelRequirementWithCPCH-SetID-r5");
+         break;
+      case 3:
+         if ((uint64_t)(pvalue->u.dummy2 - 1) > 15u) {
+            rtxErrAddStrParm(ctx, "CPCH-SetID");
+            rtxErrAddUIntParm(ctx, pvalue->u.dummy2);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CPCH-SetID", "dummy2", -1, "UL-ChannelRequirementWithCPCH-SetID-r5");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.dummy2, 1, 16);
+         RT_CHECK_PUT(ctx, cur, stat, "CPCH-SetID", "dummy2", -1, "UL-ChannelRequirementWithCPCH-SetID-r5");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_ChannelRequirementWithCPCH_SetID_r5(rtxContext* RT_RESTRICT ctx, const UL_ChannelRequirementWithCPCH_SetID_r5* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_ChannelRequirementWithCPCH_SetID_r5, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r6_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r6_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* dpcch-PowerOffset */
+   if (pvalue->dpcch_PowerOffset < -82 || pvalue->dpcch_PowerOffset > -3) {
+      rtxErrAddStrParm(ctx, "DPCCH-PowerOffset");
+      rtxErrAddIntParm(ctx, pvalue->dpcch_PowerOffset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->dpcch_PowerOffset, -82, -3);
+   RT_CHECK_PUT(ctx, cur, stat, "DPCCH-PowerOffset", "dpcch-PowerOffset", -1, 0);
+   /* pc-Preamble */
+   if ((uint64_t)pvalue->pc_Preamble > 7u) {
+      rtxErrAddStrParm(ctx, "PC-Preamble");
+      rtxErrAddUIntParm(ctx, pvalue->pc_Preamble);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PC-Preamble", "pc-Preamble", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pc_Preamble, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "PC-Preamble", "pc-Preamble", -1, 0);
+   /* sRB-delay */
+   if ((uint64_t)pvalue->sRB_delay > 7u) {
+      rtxErrAddStrParm(ctx, "SRB-delay");
+      rtxErrAddUIntParm(ctx, pvalue->sRB_delay);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SRB-delay", "sRB-delay", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->sRB_delay, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "SRB-delay", "sRB-delay", -1, 0);
+   /* powerControlAlgorithm */
+   stat = enc_PowerControlAlgorithm(ctx, &pvalue->powerControlAlgorithm, cur);
+   RT_CHECK(ctx, stat, 0, "powerControlAlgorithm", -1, 0);
+   /* deltaACK */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->deltaACK > 8u) {
+         rtxErrAddStrParm(ctx, "DeltaACK");
+         rtxErrAddUIntParm(ctx, pvalue->deltaACK);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DeltaACK", "deltaACK", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->deltaACK, 0, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "DeltaACK", "deltaACK", -1, 0);
+   }
+   /* deltaNACK */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->deltaNACK > 8u) {
+         rtxErrAddStrParm(ctx, "DeltaNACK");
+         rtxErrAddUIntParm(ctx, pvalue->deltaNACK);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DeltaNACK", "deltaNACK", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->deltaNACK, 0, 8);
+      RT_CHECK_PUT(ctx, cur, stat, "DeltaNACK", "deltaNACK", -1, 0);
+   }
+   /* ack-NACK-repetition-factor */
+   if (pvalue->m & 0x4u) {
+      if ((uint64_t)(pvalue->ack_NACK_repetition_factor - 1) > 3u) {
+         rtxErrAddStrParm(ctx, "ACK-NACK-repetitionFactor");
+         rtxErrAddUIntParm(ctx, pvalue->ack_NACK_repetition_factor);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ACK-NACK-repetitionFactor", "ack-NACK-repetition-factor", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ack_NACK_repetition_factor, 1, 4);
+      RT_CHECK_PUT(ctx, cur, stat, "ACK-NACK-repetitionFactor", "ack-NACK-repetition-factor", -1, 0);
+   }
+   /* harq-Preamble-Mode */
+   if ((uint64_t)pvalue->harq_Preamble_Mode > 1u) {
+      rtxErrAddStrParm(ctx, "HARQ-Preamble-Mode");
+      rtxErrAddUIntParm(ctx, pvalue->harq_Preamble_Mode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->harq_Preamble_Mode, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r6_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfo_r6_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* individualTS-InterferenceList */
+   stat = enc_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList, cur);
+   RT_CHECK(ctx, stat, 0, "individualTS-InterferenceList", -1, 0);
+   /* dpch-ConstantValue */
+   if (pvalue->dpch_ConstantValue < -35 || pvalue->dpch_ConstantValue > -10) {
+      rtxErrAddStrParm(ctx, "ConstantValue");
+      rtxErrAddIntParm(ctx, pvalue->dpch_ConstantValue);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ConstantValue", "dpch-ConstantValue", -1, 0);
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->dpch_ConstantValue, -35, -10);
+   RT_CHECK_PUT(ctx, cur, stat, "ConstantValue", "dpch-ConstantValue", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* beaconPLEst */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->beaconPLEst > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->beaconPLEst);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "BEACON-PL-Est", "beaconPLEst", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->beaconPLEst, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, "BEACON-PL-Est", "beaconPLEst", -1, 0);
+   }
+   /* tpc-StepSize */
+   if ((uint64_t)(pvalue->tpc_StepSize - 1) > 2u) {
+      rtxErrAddStrParm(ctx, "TPC-StepSizeTDD");
+      rtxErrAddUIntParm(ctx, pvalue->tpc_StepSize);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tpc_StepSize, 1, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "TPC-StepSizeTDD", "tpc-StepSize", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = enc_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tddOption */
+   stat = enc_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled_tddOption(ctx, &pvalue->tddOption, cur);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+      rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->primaryCCPCH_TX_Power, 6, 43);
+   RT_CHECK_PUT(ctx, cur, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.individuallySignalled == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "individuallySignalled", -1, 0);
+         stat = enc_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling_individuallySignalled(ctx, pvalue->u.individuallySignalled, cur);
+         RT_CHECK(ctx, stat, 0, "individuallySignalled", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r6_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r6_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-TargetSIR */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->ul_TargetSIR > 62u) {
+         rtxErrAddStrParm(ctx, "UL-TargetSIR");
+         rtxErrAddUIntParm(ctx, pvalue->ul_TargetSIR);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ul_TargetSIR, 0, 62);
+      RT_CHECK_PUT(ctx, cur, stat, "UL-TargetSIR", "ul-TargetSIR", -1, 0);
+   }
+   /* ul-OL-PC-Signalling */
+   stat = enc_UL_DPCH_PowerControlInfo_r6_tdd_ul_OL_PC_Signalling(ctx, &pvalue->ul_OL_PC_Signalling, cur);
+   RT_CHECK(ctx, stat, 0, "ul-OL-PC-Signalling", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r6_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfo_r6_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfo_r6(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-PowerControlInfo-r6");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "UL-DPCH-PowerControlInfo-r6");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-DPCH-PowerControlInfo-r6");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r6");
+         stat = enc_UL_DPCH_PowerControlInfo_r6_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "UL-DPCH-PowerControlInfo-r6");
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r6");
+         stat = enc_UL_DPCH_PowerControlInfo_r6_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "UL-DPCH-PowerControlInfo-r6");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfo_r6(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfo_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfo_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_present(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_present* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->numberOfDPDCH != 1) << 1) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* numberOfDPDCH */
+   if (pvalue->numberOfDPDCH != 1) {
+      if ((uint64_t)(pvalue->numberOfDPDCH - 1) > 5u) {
+         rtxErrAddStrParm(ctx, "NumberOfDPDCH");
+         rtxErrAddUIntParm(ctx, pvalue->numberOfDPDCH);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "NumberOfDPDCH", "numberOfDPDCH", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->numberOfDPDCH, 1, 6);
+      RT_CHECK_PUT(ctx, cur, stat, "NumberOfDPDCH", "numberOfDPDCH", -1, 0);
+   }
+   /* spreadingFactor */
+   if (pvalue->spreadingFactor > 6) {
+      rtxErrAddUIntParm(ctx, pvalue->spreadingFactor);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "SpreadingFactor", "spreadingFactor", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->spreadingFactor, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "SpreadingFactor", "spreadingFactor", -1, 0);
+   /* tfci-Existence */
+   stat = rtxEncBitAt(ctx, cur, pvalue->tfci_Existence);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tfci-Existence", -1, 0);
+   /* numberOfFBI-Bits */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->numberOfFBI_Bits - 1) > 1u) {
+         rtxErrAddStrParm(ctx, "NumberOfFBI-Bits");
+         rtxErrAddUIntParm(ctx, pvalue->numberOfFBI_Bits);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->numberOfFBI_Bits, 1, 2);
+      RT_CHECK_PUT(ctx, cur, stat, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
+   }
+   /* puncturingLimit */
+   if (pvalue->puncturingLimit > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->puncturingLimit);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PuncturingLimit", "puncturingLimit", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->puncturingLimit, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "PuncturingLimit", "puncturingLimit", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_present(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_present* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_present, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_notPresent(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_notPresent* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tfci-Existence */
+   stat = rtxEncBitAt(ctx, cur, pvalue->tfci_Existence);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tfci-Existence", -1, 0);
+   /* numberOfFBI-Bits */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->numberOfFBI_Bits - 1) > 1u) {
+         rtxErrAddStrParm(ctx, "NumberOfFBI-Bits");
+         rtxErrAddUIntParm(ctx, pvalue->numberOfFBI_Bits);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->numberOfFBI_Bits, 1, 2);
+      RT_CHECK_PUT(ctx, cur, stat, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_notPresent(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_notPresent* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_notPresent, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.present == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "present", -1, 0);
+         stat = enc_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_present(ctx, pvalue->u.present, cur);
+         RT_CHECK(ctx, stat, 0, "present", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.notPresent == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "notPresent", -1, 0);
+         stat = enc_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence_notPresent(ctx, pvalue->u.notPresent, cur);
+         RT_CHECK(ctx, stat, 0, "notPresent", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_Info_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* scramblingCodeType */
+   if (pvalue->scramblingCodeType > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->scramblingCodeType);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ScramblingCodeType", "scramblingCodeType", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->scramblingCodeType, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "ScramblingCodeType", "scramblingCodeType", -1, 0);
+   /* scramblingCode */
+   if ((uint64_t)pvalue->scramblingCode > 16777215u) {
+      rtxErrAddStrParm(ctx, "UL-ScramblingCode");
+      rtxErrAddUIntParm(ctx, pvalue->scramblingCode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UL-ScramblingCode", "scramblingCode", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->scramblingCode, 0, 16777215);
+   RT_CHECK_PUT(ctx, cur, stat, "UL-ScramblingCode", "scramblingCode", -1, 0);
+   /* dpdchPresence */
+   stat = enc_UL_DPCH_Info_r6_modeSpecificInfo_fdd_dpdchPresence(ctx, &pvalue->dpdchPresence, cur);
+   RT_CHECK(ctx, stat, 0, "dpdchPresence", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r6_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_Info_r6_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_Info_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-TimingAdvance */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UL_TimingAdvanceControl_r4(ctx, &pvalue->ul_TimingAdvance, cur);
+      RT_CHECK(ctx, stat, 0, "ul-TimingAdvance", -1, 0);
+   }
+   /* ul-CCTrCHList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_UL_CCTrCHList_r4(ctx, &pvalue->ul_CCTrCHList, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrCHList", -1, 0);
+   }
+   /* ul-CCTrCHListToRemove */
+   if (pvalue->m & 0x4u) {
+      stat = enc_UL_CCTrCHListToRemove(ctx, &pvalue->ul_CCTrCHListToRemove, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrCHListToRemove", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_Info_r6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r6_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_Info_r6_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_Info_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r6_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_UL_DPCH_Info_r6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_UL_DPCH_Info_r6_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_Info_r6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r6_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_Info_r6_modeSpecificInfo, pvalue);
+}
+
+static int enc_UL_DPCH_Info_r6(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-Info-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UL-DPCH-Info-r6");
+   /* ul-DPCH-PowerControlInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UL_DPCH_PowerControlInfo_r6(ctx, &pvalue->ul_DPCH_PowerControlInfo, cur);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "UL-DPCH-Info-r6");
+   }
+   /* modeSpecificInfo */
+   stat = enc_UL_DPCH_Info_r6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-DPCH-Info-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_Info_r6(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_Info_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_present(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_present* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->numberOfDPDCH != 1) << 2) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* numberOfDPDCH */
+   if (pvalue->numberOfDPDCH != 1) {
+      if ((uint64_t)(pvalue->numberOfDPDCH - 1) > 5u) {
+         rtxErrAddStrParm(ctx, "NumberOfDPDCH");
+         rtxErrAddUIntParm(ctx, pvalue->numberOfDPDCH);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "NumberOfDPDCH", "numberOfDPDCH", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->numberOfDPDCH, 1, 6);
+      RT_CHECK_PUT(ctx, cur, stat, "NumberOfDPDCH", "numberOfDPDCH", -1, 0);
+   }
+   /* spreadingFactor */
+   if (pvalue->spreadingFactor > 6) {
+      rtxErrAddUIntParm(ctx, pvalue->spreadingFactor);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "SpreadingFactor", "spreadingFactor", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->spreadingFactor, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "SpreadingFactor", "spreadingFactor", -1, 0);
+   /* tfci-Existence */
+   stat = rtxEncBitAt(ctx, cur, pvalue->tfci_Existence);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tfci-Existence", -1, 0);
+   /* numberOfFBI-Bits */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->numberOfFBI_Bits - 1) > 1u) {
+         rtxErrAddStrParm(ctx, "NumberOfFBI-Bits");
+         rtxErrAddUIntParm(ctx, pvalue->numberOfFBI_Bits);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->numberOfFBI_Bits, 1, 2);
+      RT_CHECK_PUT(ctx, cur, stat, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
+   }
+   /* numberOfTPC-Bits */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->numberOfTPC_Bits > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->numberOfTPC_Bits);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "NumberOfTPC-Bits", "numberOfTPC-Bits", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->numberOfTPC_Bits, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, "NumberOfTPC-Bits", "numberOfTPC-Bits", -1, 0);
+   }
+   /* puncturingLimit */
+   if (pvalue->puncturingLimit > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->puncturingLimit);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "PuncturingLimit", "puncturingLimit", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->puncturingLimit, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "PuncturingLimit", "puncturingLimit", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_present(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_present* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_present, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_notPresent(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_notPresent* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* tfci-Existence */
+   stat = rtxEncBitAt(ctx, cur, pvalue->tfci_Existence);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tfci-Existence", -1, 0);
+   /* numberOfFBI-Bits */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->numberOfFBI_Bits - 1) > 1u) {
+         rtxErrAddStrParm(ctx, "NumberOfFBI-Bits");
+         rtxErrAddUIntParm(ctx, pvalue->numberOfFBI_Bits);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->numberOfFBI_Bits, 1, 2);
+      RT_CHECK_PUT(ctx, cur, stat, "NumberOfFBI-Bits", "numberOfFBI-Bits", -1, 0);
+   }
+   /* numberOfTPC-Bits */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->numberOfTPC_Bits > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->numberOfTPC_Bits);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "NumberOfTPC-Bits", "numberOfTPC-Bits", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->numberOfTPC_Bits, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, "NumberOfTPC-Bits", "numberOfTPC-Bits", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_notPresent(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_notPresent* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_notPresent, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.present == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "present", -1, 0);
+         stat = enc_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_present(ctx, pvalue->u.present, cur);
+         RT_CHECK(ctx, stat, 0, "present", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.notPresent == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "notPresent", -1, 0);
+         stat = enc_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence_notPresent(ctx, pvalue->u.notPresent, cur);
+         RT_CHECK(ctx, stat, 0, "notPresent", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_Info_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* scramblingCodeType */
+   if (pvalue->scramblingCodeType > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->scramblingCodeType);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ScramblingCodeType", "scramblingCodeType", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->scramblingCodeType, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "ScramblingCodeType", "scramblingCodeType", -1, 0);
+   /* scramblingCode */
+   if ((uint64_t)pvalue->scramblingCode > 16777215u) {
+      rtxErrAddStrParm(ctx, "UL-ScramblingCode");
+      rtxErrAddUIntParm(ctx, pvalue->scramblingCode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UL-ScramblingCode", "scramblingCode", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->scramblingCode, 0, 16777215);
+   RT_CHECK_PUT(ctx, cur, stat, "UL-ScramblingCode", "scramblingCode", -1, 0);
+   /* dpdchPresence */
+   stat = enc_UL_DPCH_Info_r7_modeSpecificInfo_fdd_dpdchPresence(ctx, &pvalue->dpdchPresence, cur);
+   RT_CHECK(ctx, stat, 0, "dpdchPresence", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_Info_r7_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r7_enabled_tddOption_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-TimingAdvance */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->ul_TimingAdvance > 63u) {
+         rtxErrAddStrParm(ctx, "UL-TimingAdvance");
+         rtxErrAddUIntParm(ctx, pvalue->ul_TimingAdvance);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UL-TimingAdvance", "ul-TimingAdvance", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ul_TimingAdvance, 0, 63);
+      RT_CHECK_PUT(ctx, cur, stat, "UL-TimingAdvance", "ul-TimingAdvance", -1, 0);
+   }
+   /* ext-UL-TimingAdvance */
+   if (pvalue->m & 0x2u) {
+      stat = enc_EXT_UL_TimingAdvance(ctx, &pvalue->ext_UL_TimingAdvance, cur);
+      RT_CHECK(ctx, stat, 0, "ext-UL-TimingAdvance", -1, 0);
+   }
+   /* activationTime */
+   if (pvalue->m & 0x4u) {
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->activationTime, 0, 255);
+      RT_CHECK_PUT(ctx, cur, stat, "ActivationTime", "activationTime", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r7_enabled_tddOption_tdd384* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r7_enabled_tddOption_tdd768* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ext-UL-TimingAdvance */
+   if (pvalue->m & 0x1u) {
+      stat = enc_EXT_UL_TimingAdvance(ctx, &pvalue->ext_UL_TimingAdvance, cur);
+      RT_CHECK(ctx, stat, 0, "ext-UL-TimingAdvance", -1, 0);
+   }
+   /* activationTime */
+   if (pvalue->m & 0x2u) {
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->activationTime, 0, 255);
+      RT_CHECK_PUT(ctx, cur, stat, "ActivationTime", "activationTime", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd768(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r7_enabled_tddOption_tdd768* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd768, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r7_enabled_tddOption_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-SynchronisationParameters */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UL_SynchronisationParameters_r4(ctx, &pvalue->ul_SynchronisationParameters, cur);
+      RT_CHECK(ctx, stat, 0, "ul-SynchronisationParameters", -1, 0);
+   }
+   /* synchronisationParameters */
+   if (pvalue->m & 0x2u) {
+      stat = enc_SynchronisationParameters_r4(ctx, &pvalue->synchronisationParameters, cur);
+      RT_CHECK(ctx, stat, 0, "synchronisationParameters", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r7_enabled_tddOption_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_TimingAdvanceControl_r7_enabled_tddOption(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r7_enabled_tddOption* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.tdd384 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
+         stat = enc_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd768 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
+         stat = enc_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd768(ctx, pvalue->u.tdd768, cur);
+         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_UL_TimingAdvanceControl_r7_enabled_tddOption_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_TimingAdvanceControl_r7_enabled_tddOption(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r7_enabled_tddOption* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_TimingAdvanceControl_r7_enabled_tddOption, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_TimingAdvanceControl_r7_enabled(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r7_enabled* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* tddOption */
+   stat = enc_UL_TimingAdvanceControl_r7_enabled_tddOption(ctx, &pvalue->tddOption, cur);
+   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_TimingAdvanceControl_r7_enabled(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r7_enabled* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_TimingAdvanceControl_r7_enabled, pvalue);
+}
+
+static int enc_UL_TimingAdvanceControl_r7(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-TimingAdvanceControl-r7");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "UL-TimingAdvanceControl-r7");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-TimingAdvanceControl-r7");
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.enabled == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "enabled", -1, "UL-TimingAdvanceControl-r7");
+         stat = enc_UL_TimingAdvanceControl_r7_enabled(ctx, pvalue->u.enabled, cur);
+         RT_CHECK(ctx, stat, 0, "enabled", -1, "UL-TimingAdvanceControl-r7");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_TimingAdvanceControl_r7(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_TimingAdvanceControl_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_Info_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-TimingAdvance */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UL_TimingAdvanceControl_r7(ctx, &pvalue->ul_TimingAdvance, cur);
+      RT_CHECK(ctx, stat, 0, "ul-TimingAdvance", -1, 0);
+   }
+   /* ul-CCTrCHList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_UL_CCTrCHList_r7(ctx, &pvalue->ul_CCTrCHList, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrCHList", -1, 0);
+   }
+   /* ul-CCTrCHListToRemove */
+   if (pvalue->m & 0x4u) {
+      stat = enc_UL_CCTrCHListToRemove(ctx, &pvalue->ul_CCTrCHListToRemove, cur);
+      RT_CHECK(ctx, stat, 0, "ul-CCTrCHListToRemove", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_Info_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_Info_r7_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_Info_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r7_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_UL_DPCH_Info_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_UL_DPCH_Info_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_Info_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r7_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_Info_r7_modeSpecificInfo, pvalue);
+}
+
+static int enc_UL_DPCH_Info_r7(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-Info-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UL-DPCH-Info-r7");
+   /* ul-DPCH-PowerControlInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UL_DPCH_PowerControlInfo_r7(ctx, &pvalue->ul_DPCH_PowerControlInfo, cur);
+      RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "UL-DPCH-Info-r7");
+   }
+   /* modeSpecificInfo */
+   stat = enc_UL_DPCH_Info_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-DPCH-Info-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_Info_r7(rtxContext* RT_RESTRICT ctx, const UL_DPCH_Info_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_Info_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfoPostFDD(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfoPostFDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-PowerControlInfoPostFDD");
+   /* dpcch-PowerOffset */
+   if (pvalue->dpcch_PowerOffset < -28 || pvalue->dpcch_PowerOffset > -13) {
+      rtxErrAddStrParm(ctx, "DPCCH-PowerOffset2");
+      rtxErrAddIntParm(ctx, pvalue->dpcch_PowerOffset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DPCCH-PowerOffset2", "dpcch-PowerOffset", -1, "UL-DPCH-PowerControlInfoPostFDD");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->dpcch_PowerOffset, -28, -13);
+   RT_CHECK_PUT(ctx, cur, stat, "DPCCH-PowerOffset2", "dpcch-PowerOffset", -1, "UL-DPCH-PowerControlInfoPostFDD");
+   /* pc-Preamble */
+   if ((uint64_t)pvalue->pc_Preamble > 7u) {
+      rtxErrAddStrParm(ctx, "PC-Preamble");
+      rtxErrAddUIntParm(ctx, pvalue->pc_Preamble);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PC-Preamble", "pc-Preamble", -1, "UL-DPCH-PowerControlInfoPostFDD");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pc_Preamble, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "PC-Preamble", "pc-Preamble", -1, "UL-DPCH-PowerControlInfoPostFDD");
+   /* sRB-delay */
+   if ((uint64_t)pvalue->sRB_delay > 7u) {
+      rtxErrAddStrParm(ctx, "SRB-delay");
+      rtxErrAddUIntParm(ctx, pvalue->sRB_delay);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SRB-delay", "sRB-delay", -1, "UL-DPCH-PowerControlInfoPostFDD");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->sRB_delay, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "SRB-delay", "sRB-delay", -1, "UL-DPCH-PowerControlInfoPostFDD");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfoPostFDD(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfoPostFDD* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfoPostFDD, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_InfoPostFDD(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPostFDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-InfoPostFDD");
+   /* ul-DPCH-PowerControlInfo */
+   stat = enc_UL_DPCH_PowerControlInfoPostFDD(ctx, &pvalue->ul_DPCH_PowerControlInfo, cur);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "UL-DPCH-InfoPostFDD");
+   /* scramblingCodeType */
+   if (pvalue->scramblingCodeType > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->scramblingCodeType);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ScramblingCodeType", "scramblingCodeType", -1, "UL-DPCH-InfoPostFDD");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->scramblingCodeType, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "ScramblingCodeType", "scramblingCodeType", -1, "UL-DPCH-InfoPostFDD");
+   /* reducedScramblingCodeNumber */
+   if ((uint64_t)pvalue->reducedScramblingCodeNumber > 8191u) {
+      rtxErrAddStrParm(ctx, "ReducedScramblingCodeNumber");
+      rtxErrAddUIntParm(ctx, pvalue->reducedScramblingCodeNumber);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ReducedScramblingCodeNumber", "reducedScramblingCodeNumber", -1, "UL-DPCH-InfoPostFDD");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->reducedScramblingCodeNumber, 0, 8191);
+   RT_CHECK_PUT(ctx, cur, stat, "ReducedScramblingCodeNumber", "reducedScramblingCodeNumber", -1, "UL-DPCH-InfoPostFDD");
+   /* spreadingFactor */
+   if (pvalue->spreadingFactor > 6) {
+      rtxErrAddUIntParm(ctx, pvalue->spreadingFactor);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "SpreadingFactor", "spreadingFactor", -1, "UL-DPCH-InfoPostFDD");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->spreadingFactor, 0, 6);
+   RT_CHECK_PUT(ctx, cur, stat, "SpreadingFactor", "spreadingFactor", -1, "UL-DPCH-InfoPostFDD");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_InfoPostFDD(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPostFDD* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_InfoPostFDD, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfoPostTDD(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfoPostTDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-PowerControlInfoPostTDD");
+   /* ul-TargetSIR */
+   if ((uint64_t)pvalue->ul_TargetSIR > 62u) {
+      rtxErrAddStrParm(ctx, "UL-TargetSIR");
+      rtxErrAddUIntParm(ctx, pvalue->ul_TargetSIR);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UL-TargetSIR", "ul-TargetSIR", -1, "UL-DPCH-PowerControlInfoPostTDD");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ul_TargetSIR, 0, 62);
+   RT_CHECK_PUT(ctx, cur, stat, "UL-TargetSIR", "ul-TargetSIR", -1, "UL-DPCH-PowerControlInfoPostTDD");
+   /* ul-TimeslotInterference */
+   if (pvalue->ul_TimeslotInterference < -110 || pvalue->ul_TimeslotInterference > -52) {
+      rtxErrAddStrParm(ctx, "TDD-UL-Interference");
+      rtxErrAddIntParm(ctx, pvalue->ul_TimeslotInterference);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TDD-UL-Interference", "ul-TimeslotInterference", -1, "UL-DPCH-PowerControlInfoPostTDD");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->ul_TimeslotInterference, -110, -52);
+   RT_CHECK_PUT(ctx, cur, stat, "TDD-UL-Interference", "ul-TimeslotInterference", -1, "UL-DPCH-PowerControlInfoPostTDD");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfoPostTDD(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfoPostTDD* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfoPostTDD, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_InfoPostTDD(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPostTDD* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-InfoPostTDD");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UL-DPCH-InfoPostTDD");
+   /* ul-DPCH-PowerControlInfo */
+   stat = enc_UL_DPCH_PowerControlInfoPostTDD(ctx, &pvalue->ul_DPCH_PowerControlInfo, cur);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "UL-DPCH-InfoPostTDD");
+   /* ul-TimingAdvance */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UL_TimingAdvanceControl(ctx, &pvalue->ul_TimingAdvance, cur);
+      RT_CHECK(ctx, stat, 0, "ul-TimingAdvance", -1, "UL-DPCH-InfoPostTDD");
+   }
+   /* ul-CCTrCH-TimeslotsCodes */
+   stat = enc_UplinkTimeslotsCodes(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes, cur);
+   RT_CHECK(ctx, stat, 0, "ul-CCTrCH-TimeslotsCodes", -1, "UL-DPCH-InfoPostTDD");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_InfoPostTDD(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPostTDD* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_InfoPostTDD, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_DPCH_PowerControlInfoPostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfoPostTDD_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-PowerControlInfoPostTDD-LCR-r4");
+   /* ul-TargetSIR */
+   if ((uint64_t)pvalue->ul_TargetSIR > 62u) {
+      rtxErrAddStrParm(ctx, "UL-TargetSIR");
+      rtxErrAddUIntParm(ctx, pvalue->ul_TargetSIR);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UL-TargetSIR", "ul-TargetSIR", -1, "UL-DPCH-PowerControlInfoPostTDD-LCR-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ul_TargetSIR, 0, 62);
+   RT_CHECK_PUT(ctx, cur, stat, "UL-TargetSIR", "ul-TargetSIR", -1, "UL-DPCH-PowerControlInfoPostTDD-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_PowerControlInfoPostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, const UL_DPCH_PowerControlInfoPostTDD_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_PowerControlInfoPostTDD_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_TimingAdvanceControl_LCR_r4_enabled(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_LCR_r4_enabled* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ul-SynchronisationParameters */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UL_SynchronisationParameters_r4(ctx, &pvalue->ul_SynchronisationParameters, cur);
+      RT_CHECK(ctx, stat, 0, "ul-SynchronisationParameters", -1, 0);
+   }
+   /* synchronisationParameters */
+   if (pvalue->m & 0x2u) {
+      stat = enc_SynchronisationParameters_r4(ctx, &pvalue->synchronisationParameters, cur);
+      RT_CHECK(ctx, stat, 0, "synchronisationParameters", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_TimingAdvanceControl_LCR_r4_enabled(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_LCR_r4_enabled* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_TimingAdvanceControl_LCR_r4_enabled, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_TimingAdvanceControl_LCR_r4(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-TimingAdvanceControl-LCR-r4");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "UL-TimingAdvanceControl-LCR-r4");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-TimingAdvanceControl-LCR-r4");
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.enabled == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "enabled", -1, "UL-TimingAdvanceControl-LCR-r4");
+         stat = enc_UL_TimingAdvanceControl_LCR_r4_enabled(ctx, pvalue->u.enabled, cur);
+         RT_CHECK(ctx, stat, 0, "enabled", -1, "UL-TimingAdvanceControl-LCR-r4");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_TimingAdvanceControl_LCR_r4(rtxContext* RT_RESTRICT ctx, const UL_TimingAdvanceControl_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_TimingAdvanceControl_LCR_r4, pvalue);
+}
+
+static int enc_UL_DPCH_InfoPostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPostTDD_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-DPCH-InfoPostTDD-LCR-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UL-DPCH-InfoPostTDD-LCR-r4");
+   /* ul-DPCH-PowerControlInfo */
+   stat = enc_UL_DPCH_PowerControlInfoPostTDD_LCR_r4(ctx, &pvalue->ul_DPCH_PowerControlInfo, cur);
+   RT_CHECK(ctx, stat, 0, "ul-DPCH-PowerControlInfo", -1, "UL-DPCH-InfoPostTDD-LCR-r4");
+   /* ul-TimingAdvance */
+   if (pvalue->m & 0x1u) {
+      stat = enc_UL_TimingAdvanceControl_LCR_r4(ctx, &pvalue->ul_TimingAdvance, cur);
+      RT_CHECK(ctx, stat, 0, "ul-TimingAdvance", -1, "UL-DPCH-InfoPostTDD-LCR-r4");
+   }
+   /* ul-CCTrCH-TimeslotsCodes */
+   stat = enc_UplinkTimeslotsCodes_LCR_r4(ctx, &pvalue->ul_CCTrCH_TimeslotsCodes, cur);
+   RT_CHECK(ctx, stat, 0, "ul-CCTrCH-TimeslotsCodes", -1, "UL-DPCH-InfoPostTDD-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_DPCH_InfoPostTDD_LCR_r4(rtxContext* RT_RESTRICT ctx, const UL_DPCH_InfoPostTDD_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_DPCH_InfoPostTDD_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_EDCH_Information_ext_tdd(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_ext_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* non-ScheduledTransGrantInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_Non_ScheduledTransGrantInfoTDD_ext(ctx, &pvalue->non_ScheduledTransGrantInfo, cur);
+      RT_CHECK(ctx, stat, 0, "non-ScheduledTransGrantInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_EDCH_Information_ext_tdd(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_ext_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_EDCH_Information_ext_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_EDCH_Information_ext(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-EDCH-Information-ext");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "UL-EDCH-Information-ext");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UL-EDCH-Information-ext");
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, "UL-EDCH-Information-ext");
+         stat = enc_UL_EDCH_Information_ext_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "UL-EDCH-Information-ext");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_EDCH_Information_ext(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_EDCH_Information_ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_EDCH_Information_r6_mac_es_e_resetIndicator(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r6_mac_es_e_resetIndicator value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UL_EDCH_Information_r6_mac_es_e_resetIndicator(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r6_mac_es_e_resetIndicator value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_EDCH_Information_r6_mac_es_e_resetIndicator, value);
+}
+
+static int enc_UL_EDCH_Information_r6(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest-v860ext");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-EDCH-Information-r6");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UL-EDCH-Information-r6");
+   /* mac-es-e-resetIndicator */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->mac_es_e_resetIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mac_es_e_resetIndicator);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "mac-es-e-resetIndicator", -1, "UL-EDCH-Information-r6");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_es_e_resetIndicator, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "mac-es-e-resetIndicator", -1, "UL-EDCH-Information-r6");
+   }
+   /* e-DPCCH-Info */
+   if (pvalue->m & 0x2u) {
+      stat = enc_E_DPCCH_Info(ctx, &pvalue->e_DPCCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-DPCCH-Info", -1, "UL-EDCH-Information-r6");
+   }
+   /* e-DPDCH-Info */
+   if (pvalue->m & 0x4u) {
+      stat = enc_E_DPDCH_Info(ctx, &pvalue->e_DPDCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-DPDCH-Info", -1, "UL-EDCH-Information-r6");
+   }
+   /* schedulingTransmConfiguration */
+   if (pvalue->m & 0x8u) {
+      stat = enc_E_DPDCH_SchedulingTransmConfiguration(ctx, &pvalue->schedulingTransmConfiguration, cur);
+      RT_CHECK(ctx, stat, 0, "schedulingTransmConfiguration", -1, "UL-EDCH-Information-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_EDCH_Information_r6(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_EDCH_Information_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_EDCH_Information_r7_mac_es_e_resetIndicator(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r7_mac_es_e_resetIndicator value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UL_EDCH_Information_r7_mac_es_e_resetIndicator(rtxContext* RT_RESTRICT ctx, UL_EDCH_Information_r7_mac_es_e_resetIndicator value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_EDCH_Information_r7_mac_es_e_resetIndicator, value);
+}
+
+RT_MERGED_BODY int enc_UL_EDCH_Information_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* e-DPCCH-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_E_DPCCH_Info_r7(ctx, &pvalue->e_DPCCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-DPCCH-Info", -1, 0);
+   }
+   /* e-DPDCH-Info */
+   if (pvalue->m & 0x2u) {
+      stat = enc_E_DPDCH_Info_r7(ctx, &pvalue->e_DPDCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-DPDCH-Info", -1, 0);
+   }
+   /* schedulingTransmConfiguration */
+   if (pvalue->m & 0x4u) {
+      stat = enc_E_DPDCH_SchedulingTransmConfiguration(ctx, &pvalue->schedulingTransmConfiguration, cur);
+      RT_CHECK(ctx, stat, 0, "schedulingTransmConfiguration", -1, 0);
+   }
+   /* ul-16QAM-Settings */
+   if (pvalue->m & 0x8u) {
+      stat = enc_UL_16QAM_Settings(ctx, &pvalue->ul_16QAM_Settings, cur);
+      RT_CHECK(ctx, stat, 0, "ul-16QAM-Settings", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_EDCH_Information_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_EDCH_Information_r7_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_EDCH_Information_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* e-RUCCH-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_E_RUCCH_Info(ctx, &pvalue->e_RUCCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-RUCCH-Info", -1, 0);
+   }
+   /* e-PUCH-Info */
+   if (pvalue->m & 0x2u) {
+      stat = enc_E_PUCH_Info(ctx, &pvalue->e_PUCH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "e-PUCH-Info", -1, 0);
+   }
+   /* non-ScheduledTransGrantInfo */
+   if (pvalue->m & 0x4u) {
+      stat = enc_Non_ScheduledTransGrantInfoTDD(ctx, &pvalue->non_ScheduledTransGrantInfo, cur);
+      RT_CHECK(ctx, stat, 0, "non-ScheduledTransGrantInfo", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_EDCH_Information_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_EDCH_Information_r7_modeSpecificInfo_tdd, pvalue);
+}
+
+static int enc_UL_EDCH_Information_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r7_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_UL_EDCH_Information_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_UL_EDCH_Information_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UL_EDCH_Information_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r7_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_EDCH_Information_r7_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_UL_EDCH_Information_r7(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UL-EDCH-Information-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UL-EDCH-Information-r7");
+   /* mac-es-e-resetIndicator */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->mac_es_e_resetIndicator > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->mac_es_e_resetIndicator);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "mac-es-e-resetIndicator", -1, "UL-EDCH-Information-r7");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->mac_es_e_resetIndicator, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "mac-es-e-resetIndicator", -1, "UL-EDCH-Information-r7");
+   }
+   /* modeSpecificInfo */
+   stat = enc_UL_EDCH_Information_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UL-EDCH-Information-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_UL_EDCH_Information_r7(rtxContext* RT_RESTRICT ctx, const UL_EDCH_Information_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UL_EDCH_Information_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_SatID(rtxContext* RT_RESTRICT ctx, SatID value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 63u) {
+      rtxErrAddStrParm(ctx, "SatID");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "SatID");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SatID");
+   return 0;
+}
+
+int asn1PE_UMTS_SatID(rtxContext* RT_RESTRICT ctx, SatID value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SatID, value);
+}
+
+RT_MERGED_BODY int enc_DopplerUncertainty(rtxContext* RT_RESTRICT ctx, DopplerUncertainty value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "DopplerUncertainty");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DopplerUncertainty");
+   return 0;
+}
+
+int asn1PE_UMTS_DopplerUncertainty(rtxContext* RT_RESTRICT ctx, DopplerUncertainty value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DopplerUncertainty, value);
+}
+
+RT_MERGED_BODY int enc_ExtraDopplerInfo(rtxContext* RT_RESTRICT ctx, const ExtraDopplerInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ExtraDopplerInfo");
+   /* doppler1stOrder */
+   if (pvalue->doppler1stOrder < -42 || pvalue->doppler1stOrder > 21) {
+      rtxErrAddStrParm(ctx, "doppler1stOrder");
+      rtxErrAddIntParm(ctx, pvalue->doppler1stOrder);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "doppler1stOrder", -1, "ExtraDopplerInfo");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->doppler1stOrder, -42, 21);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "doppler1stOrder", -1, "ExtraDopplerInfo");
+   /* dopplerUncertainty */
+   if (pvalue->dopplerUncertainty > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->dopplerUncertainty);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "DopplerUncertainty", "dopplerUncertainty", -1, "ExtraDopplerInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dopplerUncertainty, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "DopplerUncertainty", "dopplerUncertainty", -1, "ExtraDopplerInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_ExtraDopplerInfo(rtxContext* RT_RESTRICT ctx, const ExtraDopplerInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ExtraDopplerInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_CodePhaseSearchWindow(rtxContext* RT_RESTRICT ctx, CodePhaseSearchWindow value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "CodePhaseSearchWindow");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CodePhaseSearchWindow");
+   return 0;
+}
+
+int asn1PE_UMTS_CodePhaseSearchWindow(rtxContext* RT_RESTRICT ctx, CodePhaseSearchWindow value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CodePhaseSearchWindow, value);
+}
+
+RT_MERGED_BODY int enc_AzimuthAndElevation(rtxContext* RT_RESTRICT ctx, const AzimuthAndElevation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "AzimuthAndElevation");
+   /* azimuth */
+   if ((uint64_t)pvalue->azimuth > 31u) {
+      rtxErrAddStrParm(ctx, "azimuth");
+      rtxErrAddUIntParm(ctx, pvalue->azimuth);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "azimuth", -1, "AzimuthAndElevation");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->azimuth, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "azimuth", -1, "AzimuthAndElevation");
+   /* elevation */
+   if ((uint64_t)pvalue->elevation > 7u) {
+      rtxErrAddStrParm(ctx, "elevation");
+      rtxErrAddUIntParm(ctx, pvalue->elevation);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "elevation", -1, "AzimuthAndElevation");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->elevation, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "elevation", -1, "AzimuthAndElevation");
+   return 0;
+}
+
+int asn1PE_UMTS_AzimuthAndElevation(rtxContext* RT_RESTRICT ctx, const AzimuthAndElevation* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AzimuthAndElevation, pvalue);
+}
+
+RT_MERGED_BODY int enc_AcquisitionSatInfo(rtxContext* RT_RESTRICT ctx, const AcquisitionSatInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "AcquisitionSatInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest-v860ext");
-   /* ganssAddIonoModelReq */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "AcquisitionSatInfo");
+   /* satID */
+   if ((uint64_t)pvalue->satID > 63u) {
+      rtxErrAddStrParm(ctx, "SatID");
+      rtxErrAddUIntParm(ctx, pvalue->satID);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SatID", "satID", -1, "AcquisitionSatInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->satID, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, "SatID", "satID", -1, "AcquisitionSatInfo");
+   /* doppler0thOrder */
+   if (pvalue->doppler0thOrder < -2048 || pvalue->doppler0thOrder > 2047) {
+      rtxErrAddStrParm(ctx, "doppler0thOrder");
+      rtxErrAddIntParm(ctx, pvalue->doppler0thOrder);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "doppler0thOrder", -1, "AcquisitionSatInfo");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->doppler0thOrder, -2048, 2047);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "doppler0thOrder", -1, "AcquisitionSatInfo");
+   /* extraDopplerInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ExtraDopplerInfo(ctx, &pvalue->extraDopplerInfo, cur);
+      RT_CHECK(ctx, stat, 0, "extraDopplerInfo", -1, "AcquisitionSatInfo");
+   }
+   /* codePhase */
+   if ((uint64_t)pvalue->codePhase > 1022u) {
+      rtxErrAddStrParm(ctx, "codePhase");
+      rtxErrAddUIntParm(ctx, pvalue->codePhase);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "codePhase", -1, "AcquisitionSatInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->codePhase, 0, 1022);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "codePhase", -1, "AcquisitionSatInfo");
+   /* integerCodePhase */
+   if ((uint64_t)pvalue->integerCodePhase > 19u) {
+      rtxErrAddStrParm(ctx, "integerCodePhase");
+      rtxErrAddUIntParm(ctx, pvalue->integerCodePhase);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "integerCodePhase", -1, "AcquisitionSatInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->integerCodePhase, 0, 19);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "integerCodePhase", -1, "AcquisitionSatInfo");
+   /* gps-BitNumber */
+   if ((uint64_t)pvalue->gps_BitNumber > 3u) {
+      rtxErrAddStrParm(ctx, "gps-BitNumber");
+      rtxErrAddUIntParm(ctx, pvalue->gps_BitNumber);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "gps-BitNumber", -1, "AcquisitionSatInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->gps_BitNumber, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "gps-BitNumber", -1, "AcquisitionSatInfo");
+   /* codePhaseSearchWindow */
+   if (pvalue->codePhaseSearchWindow > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->codePhaseSearchWindow);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "CodePhaseSearchWindow", "codePhaseSearchWindow", -1, "AcquisitionSatInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->codePhaseSearchWindow, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "CodePhaseSearchWindow", "codePhaseSearchWindow", -1, "AcquisitionSatInfo");
+   /* azimuthAndElevation */
+   if (pvalue->m & 0x2u) {
+      stat = enc_AzimuthAndElevation(ctx, &pvalue->azimuthAndElevation, cur);
+      RT_CHECK(ctx, stat, 0, "azimuthAndElevation", -1, "AcquisitionSatInfo");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AcquisitionSatInfo(rtxContext* RT_RESTRICT ctx, const AcquisitionSatInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AcquisitionSatInfo, pvalue);
+}
+
+static int enc_AcquisitionSatInfoList(rtxContext* RT_RESTRICT ctx, const AcquisitionSatInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "AcquisitionSatInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "AcquisitionSatInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "AcquisitionSatInfo", (int32_t)i, "AcquisitionSatInfoList");
+      stat = enc_AcquisitionSatInfo(ctx, (const AcquisitionSatInfo*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "AcquisitionSatInfo", (int32_t)i, "AcquisitionSatInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AcquisitionSatInfoList(rtxContext* RT_RESTRICT ctx, const AcquisitionSatInfoList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AcquisitionSatInfoList, pvalue);
+}
+
+RT_MERGED_BODY int enc_AdditionalMeasurementID_List(rtxContext* RT_RESTRICT ctx, const AdditionalMeasurementID_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "AdditionalMeasurementID-List");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "AdditionalMeasurementID-List");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)(pvalue->elem[i] - 1) > 15u) {
+         rtxErrAddStrParm(ctx, "MeasurementIdentity");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MeasurementIdentity", "MeasurementIdentity", (int32_t)i, "AdditionalMeasurementID-List");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 1, 16);
+      RT_CHECK_PUT(ctx, cur, stat, "MeasurementIdentity", "MeasurementIdentity", (int32_t)i, "AdditionalMeasurementID-List");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AdditionalMeasurementID_List(rtxContext* RT_RESTRICT ctx, const AdditionalMeasurementID_List* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AdditionalMeasurementID_List, pvalue);
+}
+
+RT_MERGED_BODY int enc_AlmanacSatInfo(rtxContext* RT_RESTRICT ctx, const AlmanacSatInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "AlmanacSatInfo");
+   /* dataID */
+   if ((uint64_t)pvalue->dataID > 3u) {
+      rtxErrAddStrParm(ctx, "dataID");
+      rtxErrAddUIntParm(ctx, pvalue->dataID);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "dataID", -1, "AlmanacSatInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dataID, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "dataID", -1, "AlmanacSatInfo");
+   /* satID */
+   if ((uint64_t)pvalue->satID > 63u) {
+      rtxErrAddStrParm(ctx, "SatID");
+      rtxErrAddUIntParm(ctx, pvalue->satID);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SatID", "satID", -1, "AlmanacSatInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->satID, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, "SatID", "satID", -1, "AlmanacSatInfo");
+   /* e */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &pvalue->e, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "e", -1, "AlmanacSatInfo");
+   /* t-oa */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32At(ctx, cur, &pvalue->t_oa, 8, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t-oa", -1, "AlmanacSatInfo");
+   /* deltaI */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &pvalue->deltaI, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "deltaI", -1, "AlmanacSatInfo");
+   /* omegaDot */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &pvalue->omegaDot, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "omegaDot", -1, "AlmanacSatInfo");
+   /* satHealth */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32At(ctx, cur, &pvalue->satHealth, 8, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "satHealth", -1, "AlmanacSatInfo");
+   /* a-Sqrt */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pe_BitString32At(ctx, cur, &pvalue->a_Sqrt, 24, 24);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "a-Sqrt", -1, "AlmanacSatInfo");
+   /* omega0 */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pe_BitString32At(ctx, cur, &pvalue->omega0, 24, 24);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "omega0", -1, "AlmanacSatInfo");
+   /* m0 */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pe_BitString32At(ctx, cur, &pvalue->m0, 24, 24);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "m0", -1, "AlmanacSatInfo");
+   /* omega */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pe_BitString32At(ctx, cur, &pvalue->omega, 24, 24);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "omega", -1, "AlmanacSatInfo");
+   /* af0 */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pe_BitString32At(ctx, cur, &pvalue->af0, 11, 11);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "af0", -1, "AlmanacSatInfo");
+   /* af1 */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pe_BitString32At(ctx, cur, &pvalue->af1, 11, 11);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "af1", -1, "AlmanacSatInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_AlmanacSatInfo(rtxContext* RT_RESTRICT ctx, const AlmanacSatInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AlmanacSatInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_AlmanacSatInfoList(rtxContext* RT_RESTRICT ctx, const AlmanacSatInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "AlmanacSatInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "AlmanacSatInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "AlmanacSatInfo", (int32_t)i, "AlmanacSatInfoList");
+      stat = enc_AlmanacSatInfo(ctx, (const AlmanacSatInfo*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "AlmanacSatInfo", (int32_t)i, "AlmanacSatInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AlmanacSatInfoList(rtxContext* RT_RESTRICT ctx, const AlmanacSatInfoList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AlmanacSatInfoList, pvalue);
+}
+
+RT_MERGED_BODY int enc_GANSS_SAT_Info_Almanac_SBASecef(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_SBASecef* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GANSS-SAT-Info-Almanac-SBASecef");
+   /* sbasAlmDataID */
+   RT_SET_SIZE(ctx, 2, 2);
+   stat = pe_BitString32At(ctx, cur, &pvalue->sbasAlmDataID, 2, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sbasAlmDataID", -1, "GANSS-SAT-Info-Almanac-SBASecef");
+   /* svID */
+   if ((uint64_t)pvalue->svID > 63u) {
+      rtxErrAddStrParm(ctx, "svID");
+      rtxErrAddUIntParm(ctx, pvalue->svID);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "svID", -1, "GANSS-SAT-Info-Almanac-SBASecef");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->svID, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "svID", -1, "GANSS-SAT-Info-Almanac-SBASecef");
+   /* sbasAlmHealth */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32At(ctx, cur, &pvalue->sbasAlmHealth, 8, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sbasAlmHealth", -1, "GANSS-SAT-Info-Almanac-SBASecef");
+   /* sbasAlmXg */
+   RT_SET_SIZE(ctx, 15, 15);
+   stat = pe_BitString32At(ctx, cur, &pvalue->sbasAlmXg, 15, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sbasAlmXg", -1, "GANSS-SAT-Info-Almanac-SBASecef");
+   /* sbasAlmYg */
+   RT_SET_SIZE(ctx, 15, 15);
+   stat = pe_BitString32At(ctx, cur, &pvalue->sbasAlmYg, 15, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sbasAlmYg", -1, "GANSS-SAT-Info-Almanac-SBASecef");
+   /* sbasAlmZg */
+   RT_SET_SIZE(ctx, 9, 9);
+   stat = pe_BitString32At(ctx, cur, &pvalue->sbasAlmZg, 9, 9);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sbasAlmZg", -1, "GANSS-SAT-Info-Almanac-SBASecef");
+   /* sbasAlmXgdot */
+   RT_SET_SIZE(ctx, 3, 3);
+   stat = pe_BitString32At(ctx, cur, &pvalue->sbasAlmXgdot, 3, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sbasAlmXgdot", -1, "GANSS-SAT-Info-Almanac-SBASecef");
+   /* sbasAlmYgDot */
+   RT_SET_SIZE(ctx, 3, 3);
+   stat = pe_BitString32At(ctx, cur, &pvalue->sbasAlmYgDot, 3, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sbasAlmYgDot", -1, "GANSS-SAT-Info-Almanac-SBASecef");
+   /* sbasAlmZgDot */
+   RT_SET_SIZE(ctx, 4, 4);
+   stat = pe_BitString32At(ctx, cur, &pvalue->sbasAlmZgDot, 4, 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sbasAlmZgDot", -1, "GANSS-SAT-Info-Almanac-SBASecef");
+   /* sbasAlmTo */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pe_BitString32At(ctx, cur, &pvalue->sbasAlmTo, 11, 11);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sbasAlmTo", -1, "GANSS-SAT-Info-Almanac-SBASecef");
+   return 0;
+}
+
+int asn1PE_UMTS_GANSS_SAT_Info_Almanac_SBASecef(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_SBASecef* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSS_SAT_Info_Almanac_SBASecef, pvalue);
+}
+
+RT_MERGED_BODY int enc_GANSS_SAT_Info_Almanac_SBASecefList(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_SBASecefList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GANSS-SAT-Info-Almanac-SBASecefList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "GANSS-SAT-Info-Almanac-SBASecefList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "GANSS-SAT-Info-Almanac-SBASecef", (int32_t)i, "GANSS-SAT-Info-Almanac-SBASecefList");
+      stat = enc_GANSS_SAT_Info_Almanac_SBASecef(ctx, (const GANSS_SAT_Info_Almanac_SBASecef*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "GANSS-SAT-Info-Almanac-SBASecef", (int32_t)i, "GANSS-SAT-Info-Almanac-SBASecefList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GANSS_SAT_Info_Almanac_SBASecefList(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_SBASecefList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSS_SAT_Info_Almanac_SBASecefList, pvalue);
+}
+
+static int enc_ALM_ECEFsbasAlmanacSet(rtxContext* RT_RESTRICT ctx, const ALM_ECEFsbasAlmanacSet* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ALM-ECEFsbasAlmanacSet");
+   /* sat-info-SBASecefList */
+   stat = enc_GANSS_SAT_Info_Almanac_SBASecefList(ctx, &pvalue->sat_info_SBASecefList, cur);
+   RT_CHECK(ctx, stat, 0, "sat-info-SBASecefList", -1, "ALM-ECEFsbasAlmanacSet");
+   return 0;
+}
+
+int asn1PE_UMTS_ALM_ECEFsbasAlmanacSet(rtxContext* RT_RESTRICT ctx, const ALM_ECEFsbasAlmanacSet* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ALM_ECEFsbasAlmanacSet, pvalue);
+}
+
+RT_MERGED_BODY int enc_GANSS_SAT_Info_Almanac_GLOkp(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_GLOkp* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GANSS-SAT-Info-Almanac-GLOkp");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "GANSS-SAT-Info-Almanac-GLOkp");
+   /* gloAlmNA */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pe_BitString32At(ctx, cur, &pvalue->gloAlmNA, 11, 11);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "gloAlmNA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
+   /* gloAlmnA */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pe_BitString32At(ctx, cur, &pvalue->gloAlmnA, 5, 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "gloAlmnA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
+   /* gloAlmHA */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pe_BitString32At(ctx, cur, &pvalue->gloAlmHA, 5, 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "gloAlmHA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
+   /* gloAlmLambdaA */
+   RT_SET_SIZE(ctx, 21, 21);
+   stat = pe_BitString32At(ctx, cur, &pvalue->gloAlmLambdaA, 21, 21);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "gloAlmLambdaA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
+   /* gloAlmTlambdaA */
+   RT_SET_SIZE(ctx, 21, 21);
+   stat = pe_BitString32At(ctx, cur, &pvalue->gloAlmTlambdaA, 21, 21);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "gloAlmTlambdaA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
+   /* gloAlmDeltaIA */
+   RT_SET_SIZE(ctx, 18, 18);
+   stat = pe_BitString32At(ctx, cur, &pvalue->gloAlmDeltaIA, 18, 18);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "gloAlmDeltaIA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
+   /* gloAkmDeltaTA */
+   RT_SET_SIZE(ctx, 22, 22);
+   stat = pe_BitString32At(ctx, cur, &pvalue->gloAkmDeltaTA, 22, 22);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "gloAkmDeltaTA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
+   /* gloAlmDeltaTdotA */
+   RT_SET_SIZE(ctx, 7, 7);
+   stat = pe_BitString32At(ctx, cur, &pvalue->gloAlmDeltaTdotA, 7, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "gloAlmDeltaTdotA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
+   /* gloAlmEpsilonA */
+   RT_SET_SIZE(ctx, 15, 15);
+   stat = pe_BitString32At(ctx, cur, &pvalue->gloAlmEpsilonA, 15, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "gloAlmEpsilonA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
+   /* gloAlmOmegaA */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &pvalue->gloAlmOmegaA, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "gloAlmOmegaA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
+   /* gloAlmTauA */
+   RT_SET_SIZE(ctx, 10, 10);
+   stat = pe_BitString32At(ctx, cur, &pvalue->gloAlmTauA, 10, 10);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "gloAlmTauA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
+   /* gloAlmCA */
+   RT_SET_SIZE(ctx, 1, 1);
+   stat = pe_BitString32At(ctx, cur, &pvalue->gloAlmCA, 1, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "gloAlmCA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
+   /* gloAlmMA */
    if (pvalue->m & 0x1u) {
       RT_SET_SIZE(ctx, 2, 2);
-      stat = pe_BitString32(ctx, &pvalue->ganssAddIonoModelReq, 2, 2);
-      RT_CHECK(ctx, stat, 0, "ganssAddIonoModelReq", -1, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest-v860ext");
+      stat = pe_BitString32At(ctx, cur, &pvalue->gloAlmMA, 2, 2);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "gloAlmMA", -1, "GANSS-SAT-Info-Almanac-GLOkp");
    }
-   /* ganssEOPreq */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->ganssEOPreq > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->ganssEOPreq);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "ganssEOPreq", -1, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest-v860ext");
+   return 0;
+}
+
+int asn1PE_UMTS_GANSS_SAT_Info_Almanac_GLOkp(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_GLOkp* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSS_SAT_Info_Almanac_GLOkp, pvalue);
+}
+
+RT_MERGED_BODY int enc_GANSS_SAT_Info_Almanac_GLOkpList(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_GLOkpList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GANSS-SAT-Info-Almanac-GLOkpList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "GANSS-SAT-Info-Almanac-GLOkpList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "GANSS-SAT-Info-Almanac-GLOkp", (int32_t)i, "GANSS-SAT-Info-Almanac-GLOkpList");
+      stat = enc_GANSS_SAT_Info_Almanac_GLOkp(ctx, (const GANSS_SAT_Info_Almanac_GLOkp*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "GANSS-SAT-Info-Almanac-GLOkp", (int32_t)i, "GANSS-SAT-Info-Almanac-GLOkpList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GANSS_SAT_Info_Almanac_GLOkpList(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_GLOkpList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSS_SAT_Info_Almanac_GLOkpList, pvalue);
+}
+
+static int enc_ALM_GlonassAlmanacSet(rtxContext* RT_RESTRICT ctx, const ALM_GlonassAlmanacSet* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ALM-GlonassAlmanacSet");
+   /* sat-info-GLOkpList */
+   stat = enc_GANSS_SAT_Info_Almanac_GLOkpList(ctx, &pvalue->sat_info_GLOkpList, cur);
+   RT_CHECK(ctx, stat, 0, "sat-info-GLOkpList", -1, "ALM-GlonassAlmanacSet");
+   return 0;
+}
+
+int asn1PE_UMTS_ALM_GlonassAlmanacSet(rtxContext* RT_RESTRICT ctx, const ALM_GlonassAlmanacSet* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ALM_GlonassAlmanacSet, pvalue);
+}
+
+RT_MERGED_BODY int enc_GANSS_SAT_Info_Almanac_Kp(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_Kp* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GANSS-SAT-Info-Almanac-Kp");
+   /* svId */
+   if ((uint64_t)pvalue->svId > 63u) {
+      rtxErrAddStrParm(ctx, "svId");
+      rtxErrAddUIntParm(ctx, pvalue->svId);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "svId", -1, "GANSS-SAT-Info-Almanac-Kp");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->svId, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "svId", -1, "GANSS-SAT-Info-Almanac-Kp");
+   /* ganss-alm-e */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pe_BitString32At(ctx, cur, &pvalue->ganss_alm_e, 11, 11);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ganss-alm-e", -1, "GANSS-SAT-Info-Almanac-Kp");
+   /* ganss-delta-I-alm */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pe_BitString32At(ctx, cur, &pvalue->ganss_delta_I_alm, 11, 11);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ganss-delta-I-alm", -1, "GANSS-SAT-Info-Almanac-Kp");
+   /* ganss-omegadot-alm */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pe_BitString32At(ctx, cur, &pvalue->ganss_omegadot_alm, 11, 11);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ganss-omegadot-alm", -1, "GANSS-SAT-Info-Almanac-Kp");
+   /* ganss-svhealth-alm */
+   RT_SET_SIZE(ctx, 4, 4);
+   stat = pe_BitString32At(ctx, cur, &pvalue->ganss_svhealth_alm, 4, 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ganss-svhealth-alm", -1, "GANSS-SAT-Info-Almanac-Kp");
+   /* ganss-delta-a-sqrt-alm */
+   RT_SET_SIZE(ctx, 17, 17);
+   stat = pe_BitString32At(ctx, cur, &pvalue->ganss_delta_a_sqrt_alm, 17, 17);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ganss-delta-a-sqrt-alm", -1, "GANSS-SAT-Info-Almanac-Kp");
+   /* ganss-omegazero-alm */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &pvalue->ganss_omegazero_alm, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ganss-omegazero-alm", -1, "GANSS-SAT-Info-Almanac-Kp");
+   /* ganss-m-zero-alm */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &pvalue->ganss_m_zero_alm, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ganss-m-zero-alm", -1, "GANSS-SAT-Info-Almanac-Kp");
+   /* ganss-omega-alm */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &pvalue->ganss_omega_alm, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ganss-omega-alm", -1, "GANSS-SAT-Info-Almanac-Kp");
+   /* ganss-af-zero-alm */
+   RT_SET_SIZE(ctx, 14, 14);
+   stat = pe_BitString32At(ctx, cur, &pvalue->ganss_af_zero_alm, 14, 14);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ganss-af-zero-alm", -1, "GANSS-SAT-Info-Almanac-Kp");
+   /* ganss-af-one-alm */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pe_BitString32At(ctx, cur, &pvalue->ganss_af_one_alm, 11, 11);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ganss-af-one-alm", -1, "GANSS-SAT-Info-Almanac-Kp");
+   return 0;
+}
+
+int asn1PE_UMTS_GANSS_SAT_Info_Almanac_Kp(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_Kp* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSS_SAT_Info_Almanac_Kp, pvalue);
+}
+
+RT_MERGED_BODY int enc_GANSS_SAT_Info_Almanac_KpList(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_KpList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GANSS-SAT-Info-Almanac-KpList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "GANSS-SAT-Info-Almanac-KpList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "GANSS-SAT-Info-Almanac-Kp", (int32_t)i, "GANSS-SAT-Info-Almanac-KpList");
+      stat = enc_GANSS_SAT_Info_Almanac_Kp(ctx, (const GANSS_SAT_Info_Almanac_Kp*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "GANSS-SAT-Info-Almanac-Kp", (int32_t)i, "GANSS-SAT-Info-Almanac-KpList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GANSS_SAT_Info_Almanac_KpList(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_KpList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSS_SAT_Info_Almanac_KpList, pvalue);
+}
+
+static int enc_ALM_keplerianParameters(rtxContext* RT_RESTRICT ctx, const ALM_keplerianParameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ALM-keplerianParameters");
+   /* t-oa */
+   if ((uint64_t)pvalue->t_oa > 147u) {
+      rtxErrAddStrParm(ctx, "t-oa");
+      rtxErrAddUIntParm(ctx, pvalue->t_oa);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "t-oa", -1, "ALM-keplerianParameters");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->t_oa, 0, 147);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t-oa", -1, "ALM-keplerianParameters");
+   /* iod-a */
+   if ((uint64_t)pvalue->iod_a > 3u) {
+      rtxErrAddStrParm(ctx, "iod-a");
+      rtxErrAddUIntParm(ctx, pvalue->iod_a);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "iod-a", -1, "ALM-keplerianParameters");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->iod_a, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "iod-a", -1, "ALM-keplerianParameters");
+   /* sat-info-kpList */
+   stat = enc_GANSS_SAT_Info_Almanac_KpList(ctx, &pvalue->sat_info_kpList, cur);
+   RT_CHECK(ctx, stat, 0, "sat-info-kpList", -1, "ALM-keplerianParameters");
+   return 0;
+}
+
+int asn1PE_UMTS_ALM_keplerianParameters(rtxContext* RT_RESTRICT ctx, const ALM_keplerianParameters* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ALM_keplerianParameters, pvalue);
+}
+
+RT_MERGED_BODY int enc_GANSS_SAT_Info_Almanac_MIDIkp(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_MIDIkp* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GANSS-SAT-Info-Almanac-MIDIkp");
+   /* svID */
+   if ((uint64_t)pvalue->svID > 63u) {
+      rtxErrAddStrParm(ctx, "svID");
+      rtxErrAddUIntParm(ctx, pvalue->svID);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "svID", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->svID, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "svID", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
+   /* midiAlmE */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pe_BitString32At(ctx, cur, &pvalue->midiAlmE, 11, 11);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "midiAlmE", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
+   /* midiAlmDeltaI */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pe_BitString32At(ctx, cur, &pvalue->midiAlmDeltaI, 11, 11);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "midiAlmDeltaI", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
+   /* midiAlmOmegaDot */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pe_BitString32At(ctx, cur, &pvalue->midiAlmOmegaDot, 11, 11);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "midiAlmOmegaDot", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
+   /* midiAlmSqrtA */
+   RT_SET_SIZE(ctx, 17, 17);
+   stat = pe_BitString32At(ctx, cur, &pvalue->midiAlmSqrtA, 17, 17);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "midiAlmSqrtA", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
+   /* midiAlmOmega0 */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &pvalue->midiAlmOmega0, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "midiAlmOmega0", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
+   /* midiAlmOmega */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &pvalue->midiAlmOmega, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "midiAlmOmega", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
+   /* midiAlmMo */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &pvalue->midiAlmMo, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "midiAlmMo", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
+   /* midiAlmaf0 */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pe_BitString32At(ctx, cur, &pvalue->midiAlmaf0, 11, 11);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "midiAlmaf0", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
+   /* midiAlmaf1 */
+   RT_SET_SIZE(ctx, 10, 10);
+   stat = pe_BitString32At(ctx, cur, &pvalue->midiAlmaf1, 10, 10);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "midiAlmaf1", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
+   /* midiAlmL1Health */
+   RT_SET_SIZE(ctx, 1, 1);
+   stat = pe_BitString32At(ctx, cur, &pvalue->midiAlmL1Health, 1, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "midiAlmL1Health", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
+   /* midiAlmL2Health */
+   RT_SET_SIZE(ctx, 1, 1);
+   stat = pe_BitString32At(ctx, cur, &pvalue->midiAlmL2Health, 1, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "midiAlmL2Health", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
+   /* midiAlmL5Health */
+   RT_SET_SIZE(ctx, 1, 1);
+   stat = pe_BitString32At(ctx, cur, &pvalue->midiAlmL5Health, 1, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "midiAlmL5Health", -1, "GANSS-SAT-Info-Almanac-MIDIkp");
+   return 0;
+}
+
+int asn1PE_UMTS_GANSS_SAT_Info_Almanac_MIDIkp(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_MIDIkp* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSS_SAT_Info_Almanac_MIDIkp, pvalue);
+}
+
+RT_MERGED_BODY int enc_GANSS_SAT_Info_Almanac_MIDIkpList(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_MIDIkpList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GANSS-SAT-Info-Almanac-MIDIkpList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "GANSS-SAT-Info-Almanac-MIDIkpList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "GANSS-SAT-Info-Almanac-MIDIkp", (int32_t)i, "GANSS-SAT-Info-Almanac-MIDIkpList");
+      stat = enc_GANSS_SAT_Info_Almanac_MIDIkp(ctx, (const GANSS_SAT_Info_Almanac_MIDIkp*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "GANSS-SAT-Info-Almanac-MIDIkp", (int32_t)i, "GANSS-SAT-Info-Almanac-MIDIkpList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GANSS_SAT_Info_Almanac_MIDIkpList(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_MIDIkpList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSS_SAT_Info_Almanac_MIDIkpList, pvalue);
+}
+
+static int enc_ALM_MidiAlmanacSet(rtxContext* RT_RESTRICT ctx, const ALM_MidiAlmanacSet* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ALM-MidiAlmanacSet");
+   /* t-oa */
+   if ((uint64_t)pvalue->t_oa > 147u) {
+      rtxErrAddStrParm(ctx, "t-oa");
+      rtxErrAddUIntParm(ctx, pvalue->t_oa);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "t-oa", -1, "ALM-MidiAlmanacSet");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->t_oa, 0, 147);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t-oa", -1, "ALM-MidiAlmanacSet");
+   /* sat-info-MIDIkpList */
+   stat = enc_GANSS_SAT_Info_Almanac_MIDIkpList(ctx, &pvalue->sat_info_MIDIkpList, cur);
+   RT_CHECK(ctx, stat, 0, "sat-info-MIDIkpList", -1, "ALM-MidiAlmanacSet");
+   return 0;
+}
+
+int asn1PE_UMTS_ALM_MidiAlmanacSet(rtxContext* RT_RESTRICT ctx, const ALM_MidiAlmanacSet* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ALM_MidiAlmanacSet, pvalue);
+}
+
+RT_MERGED_BODY int enc_GANSS_SAT_Info_Almanac_NAVkp(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_NAVkp* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GANSS-SAT-Info-Almanac-NAVkp");
+   /* svID */
+   if ((uint64_t)pvalue->svID > 63u) {
+      rtxErrAddStrParm(ctx, "svID");
+      rtxErrAddUIntParm(ctx, pvalue->svID);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "svID", -1, "GANSS-SAT-Info-Almanac-NAVkp");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->svID, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "svID", -1, "GANSS-SAT-Info-Almanac-NAVkp");
+   /* navAlmE */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &pvalue->navAlmE, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "navAlmE", -1, "GANSS-SAT-Info-Almanac-NAVkp");
+   /* navAlmDeltaI */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &pvalue->navAlmDeltaI, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "navAlmDeltaI", -1, "GANSS-SAT-Info-Almanac-NAVkp");
+   /* navAlmOMEGADOT */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &pvalue->navAlmOMEGADOT, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "navAlmOMEGADOT", -1, "GANSS-SAT-Info-Almanac-NAVkp");
+   /* navAlmSVHealth */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32At(ctx, cur, &pvalue->navAlmSVHealth, 8, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "navAlmSVHealth", -1, "GANSS-SAT-Info-Almanac-NAVkp");
+   /* navAlmSqrtA */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pe_BitString32At(ctx, cur, &pvalue->navAlmSqrtA, 24, 24);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "navAlmSqrtA", -1, "GANSS-SAT-Info-Almanac-NAVkp");
+   /* navAlmOMEGAo */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pe_BitString32At(ctx, cur, &pvalue->navAlmOMEGAo, 24, 24);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "navAlmOMEGAo", -1, "GANSS-SAT-Info-Almanac-NAVkp");
+   /* navAlmOmega */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pe_BitString32At(ctx, cur, &pvalue->navAlmOmega, 24, 24);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "navAlmOmega", -1, "GANSS-SAT-Info-Almanac-NAVkp");
+   /* navAlmMo */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pe_BitString32At(ctx, cur, &pvalue->navAlmMo, 24, 24);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "navAlmMo", -1, "GANSS-SAT-Info-Almanac-NAVkp");
+   /* navAlmaf0 */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pe_BitString32At(ctx, cur, &pvalue->navAlmaf0, 11, 11);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "navAlmaf0", -1, "GANSS-SAT-Info-Almanac-NAVkp");
+   /* navAlmaf1 */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pe_BitString32At(ctx, cur, &pvalue->navAlmaf1, 11, 11);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "navAlmaf1", -1, "GANSS-SAT-Info-Almanac-NAVkp");
+   return 0;
+}
+
+int asn1PE_UMTS_GANSS_SAT_Info_Almanac_NAVkp(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_NAVkp* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSS_SAT_Info_Almanac_NAVkp, pvalue);
+}
+
+RT_MERGED_BODY int enc_GANSS_SAT_Info_Almanac_NAVkpList(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_NAVkpList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GANSS-SAT-Info-Almanac-NAVkpList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "GANSS-SAT-Info-Almanac-NAVkpList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "GANSS-SAT-Info-Almanac-NAVkp", (int32_t)i, "GANSS-SAT-Info-Almanac-NAVkpList");
+      stat = enc_GANSS_SAT_Info_Almanac_NAVkp(ctx, (const GANSS_SAT_Info_Almanac_NAVkp*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "GANSS-SAT-Info-Almanac-NAVkp", (int32_t)i, "GANSS-SAT-Info-Almanac-NAVkpList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GANSS_SAT_Info_Almanac_NAVkpList(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_NAVkpList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSS_SAT_Info_Almanac_NAVkpList, pvalue);
+}
+
+static int enc_ALM_NAVKeplerianSet(rtxContext* RT_RESTRICT ctx, const ALM_NAVKeplerianSet* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ALM-NAVKeplerianSet");
+   /* t-oa */
+   if ((uint64_t)pvalue->t_oa > 147u) {
+      rtxErrAddStrParm(ctx, "t-oa");
+      rtxErrAddUIntParm(ctx, pvalue->t_oa);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "t-oa", -1, "ALM-NAVKeplerianSet");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->t_oa, 0, 147);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t-oa", -1, "ALM-NAVKeplerianSet");
+   /* sat-info-NAVkpList */
+   stat = enc_GANSS_SAT_Info_Almanac_NAVkpList(ctx, &pvalue->sat_info_NAVkpList, cur);
+   RT_CHECK(ctx, stat, 0, "sat-info-NAVkpList", -1, "ALM-NAVKeplerianSet");
+   return 0;
+}
+
+int asn1PE_UMTS_ALM_NAVKeplerianSet(rtxContext* RT_RESTRICT ctx, const ALM_NAVKeplerianSet* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ALM_NAVKeplerianSet, pvalue);
+}
+
+RT_MERGED_BODY int enc_GANSS_SAT_Info_Almanac_REDkp(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_REDkp* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GANSS-SAT-Info-Almanac-REDkp");
+   /* svID */
+   if ((uint64_t)pvalue->svID > 63u) {
+      rtxErrAddStrParm(ctx, "svID");
+      rtxErrAddUIntParm(ctx, pvalue->svID);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "svID", -1, "GANSS-SAT-Info-Almanac-REDkp");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->svID, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "svID", -1, "GANSS-SAT-Info-Almanac-REDkp");
+   /* redAlmDeltaA */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32At(ctx, cur, &pvalue->redAlmDeltaA, 8, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "redAlmDeltaA", -1, "GANSS-SAT-Info-Almanac-REDkp");
+   /* redAlmOmega0 */
+   RT_SET_SIZE(ctx, 7, 7);
+   stat = pe_BitString32At(ctx, cur, &pvalue->redAlmOmega0, 7, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "redAlmOmega0", -1, "GANSS-SAT-Info-Almanac-REDkp");
+   /* redAlmPhi0 */
+   RT_SET_SIZE(ctx, 7, 7);
+   stat = pe_BitString32At(ctx, cur, &pvalue->redAlmPhi0, 7, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "redAlmPhi0", -1, "GANSS-SAT-Info-Almanac-REDkp");
+   /* redAlmL1Health */
+   RT_SET_SIZE(ctx, 1, 1);
+   stat = pe_BitString32At(ctx, cur, &pvalue->redAlmL1Health, 1, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "redAlmL1Health", -1, "GANSS-SAT-Info-Almanac-REDkp");
+   /* redAlmL2Health */
+   RT_SET_SIZE(ctx, 1, 1);
+   stat = pe_BitString32At(ctx, cur, &pvalue->redAlmL2Health, 1, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "redAlmL2Health", -1, "GANSS-SAT-Info-Almanac-REDkp");
+   /* redAlmL5Health */
+   RT_SET_SIZE(ctx, 1, 1);
+   stat = pe_BitString32At(ctx, cur, &pvalue->redAlmL5Health, 1, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "redAlmL5Health", -1, "GANSS-SAT-Info-Almanac-REDkp");
+   return 0;
+}
+
+int asn1PE_UMTS_GANSS_SAT_Info_Almanac_REDkp(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_REDkp* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSS_SAT_Info_Almanac_REDkp, pvalue);
+}
+
+RT_MERGED_BODY int enc_GANSS_SAT_Info_Almanac_REDkpList(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_REDkpList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GANSS-SAT-Info-Almanac-REDkpList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "GANSS-SAT-Info-Almanac-REDkpList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "GANSS-SAT-Info-Almanac-REDkp", (int32_t)i, "GANSS-SAT-Info-Almanac-REDkpList");
+      stat = enc_GANSS_SAT_Info_Almanac_REDkp(ctx, (const GANSS_SAT_Info_Almanac_REDkp*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "GANSS-SAT-Info-Almanac-REDkp", (int32_t)i, "GANSS-SAT-Info-Almanac-REDkpList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GANSS_SAT_Info_Almanac_REDkpList(rtxContext* RT_RESTRICT ctx, const GANSS_SAT_Info_Almanac_REDkpList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSS_SAT_Info_Almanac_REDkpList, pvalue);
+}
+
+static int enc_ALM_ReducedKeplerianSet(rtxContext* RT_RESTRICT ctx, const ALM_ReducedKeplerianSet* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ALM-ReducedKeplerianSet");
+   /* t-oa */
+   if ((uint64_t)pvalue->t_oa > 147u) {
+      rtxErrAddStrParm(ctx, "t-oa");
+      rtxErrAddUIntParm(ctx, pvalue->t_oa);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "t-oa", -1, "ALM-ReducedKeplerianSet");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->t_oa, 0, 147);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t-oa", -1, "ALM-ReducedKeplerianSet");
+   /* sat-info-REDkpList */
+   stat = enc_GANSS_SAT_Info_Almanac_REDkpList(ctx, &pvalue->sat_info_REDkpList, cur);
+   RT_CHECK(ctx, stat, 0, "sat-info-REDkpList", -1, "ALM-ReducedKeplerianSet");
+   return 0;
+}
+
+int asn1PE_UMTS_ALM_ReducedKeplerianSet(rtxContext* RT_RESTRICT ctx, const ALM_ReducedKeplerianSet* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ALM_ReducedKeplerianSet, pvalue);
+}
+
+RT_MERGED_BODY int enc_AuxInfoGANSS_ID1_element(rtxContext* RT_RESTRICT ctx, const AuxInfoGANSS_ID1_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "AuxInfoGANSS-ID1-element");
+   /* svID */
+   if ((uint64_t)pvalue->svID > 63u) {
+      rtxErrAddStrParm(ctx, "svID");
+      rtxErrAddUIntParm(ctx, pvalue->svID);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "svID", -1, "AuxInfoGANSS-ID1-element");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->svID, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "svID", -1, "AuxInfoGANSS-ID1-element");
+   /* signalsAvailable */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32At(ctx, cur, &pvalue->signalsAvailable, 8, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "signalsAvailable", -1, "AuxInfoGANSS-ID1-element");
+   return 0;
+}
+
+int asn1PE_UMTS_AuxInfoGANSS_ID1_element(rtxContext* RT_RESTRICT ctx, const AuxInfoGANSS_ID1_element* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AuxInfoGANSS_ID1_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_AuxInfoGANSS_ID1(rtxContext* RT_RESTRICT ctx, const AuxInfoGANSS_ID1* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "AuxInfoGANSS-ID1");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "AuxInfoGANSS-ID1");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "AuxInfoGANSS-ID1-element", (int32_t)i, "AuxInfoGANSS-ID1");
+      stat = enc_AuxInfoGANSS_ID1_element(ctx, (const AuxInfoGANSS_ID1_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "AuxInfoGANSS-ID1-element", (int32_t)i, "AuxInfoGANSS-ID1");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AuxInfoGANSS_ID1(rtxContext* RT_RESTRICT ctx, const AuxInfoGANSS_ID1* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AuxInfoGANSS_ID1, pvalue);
+}
+
+RT_MERGED_BODY int enc_AuxInfoGANSS_ID3_element(rtxContext* RT_RESTRICT ctx, const AuxInfoGANSS_ID3_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "AuxInfoGANSS-ID3-element");
+   /* svID */
+   if ((uint64_t)pvalue->svID > 63u) {
+      rtxErrAddStrParm(ctx, "svID");
+      rtxErrAddUIntParm(ctx, pvalue->svID);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "svID", -1, "AuxInfoGANSS-ID3-element");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->svID, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "svID", -1, "AuxInfoGANSS-ID3-element");
+   /* signalsAvailable */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32At(ctx, cur, &pvalue->signalsAvailable, 8, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "signalsAvailable", -1, "AuxInfoGANSS-ID3-element");
+   /* channelNumber */
+   if (pvalue->channelNumber < -7 || pvalue->channelNumber > 13) {
+      rtxErrAddStrParm(ctx, "channelNumber");
+      rtxErrAddIntParm(ctx, pvalue->channelNumber);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "channelNumber", -1, "AuxInfoGANSS-ID3-element");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->channelNumber, -7, 13);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "channelNumber", -1, "AuxInfoGANSS-ID3-element");
+   return 0;
+}
+
+int asn1PE_UMTS_AuxInfoGANSS_ID3_element(rtxContext* RT_RESTRICT ctx, const AuxInfoGANSS_ID3_element* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AuxInfoGANSS_ID3_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_AuxInfoGANSS_ID3(rtxContext* RT_RESTRICT ctx, const AuxInfoGANSS_ID3* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "AuxInfoGANSS-ID3");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "AuxInfoGANSS-ID3");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "AuxInfoGANSS-ID3-element", (int32_t)i, "AuxInfoGANSS-ID3");
+      stat = enc_AuxInfoGANSS_ID3_element(ctx, (const AuxInfoGANSS_ID3_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "AuxInfoGANSS-ID3-element", (int32_t)i, "AuxInfoGANSS-ID3");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_AuxInfoGANSS_ID3(rtxContext* RT_RESTRICT ctx, const AuxInfoGANSS_ID3* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AuxInfoGANSS_ID3, pvalue);
+}
+
+RT_MERGED_BODY int enc_AverageRLC_BufferPayload(rtxContext* RT_RESTRICT ctx, AverageRLC_BufferPayload value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 31) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "AverageRLC-BufferPayload");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "AverageRLC-BufferPayload");
+   return 0;
+}
+
+int asn1PE_UMTS_AverageRLC_BufferPayload(rtxContext* RT_RESTRICT ctx, AverageRLC_BufferPayload value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_AverageRLC_BufferPayload, value);
+}
+
+RT_MERGED_BODY int enc_BadSatList_element(rtxContext* RT_RESTRICT ctx, BadSatList_element value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 63u) {
+      rtxErrAddStrParm(ctx, 0);
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_BadSatList_element(rtxContext* RT_RESTRICT ctx, BadSatList_element value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_BadSatList_element, value);
+}
+
+RT_MERGED_BODY int enc_BadSatList(rtxContext* RT_RESTRICT ctx, const BadSatList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "BadSatList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "BadSatList");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 63u) {
+         rtxErrAddStrParm(ctx, "element");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "element", (int32_t)i, "BadSatList");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssEOPreq, 0, 0);
-      RT_CHECK(ctx, stat, 0, "ganssEOPreq", -1, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest-v860ext");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 63);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "element", (int32_t)i, "BadSatList");
    }
-   /* ganssRequestedGenericAssistanceDataList */
-   stat = asn1PE_UMTS_GanssRequestedGenericAssistanceDataList_v860ext(ctx, &pvalue->ganssRequestedGenericAssistanceDataList);
-   RT_CHECK(ctx, stat, 0, "ganssRequestedGenericAssistanceDataList", -1, "UE-Positioning-GANSS-AdditionalAssistanceDataRequest-v860ext");
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_Error_v860ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_Error_v860ext* RT_RESTRICT pvalue)
+int asn1PE_UMTS_BadSatList(rtxContext* RT_RESTRICT ctx, const BadSatList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_BadSatList, pvalue);
+}
+
+RT_MERGED_BODY int enc_DL_TransportChannelBLER(rtxContext* RT_RESTRICT ctx, DL_TransportChannelBLER value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-Error-v860ext");
+   if ((uint64_t)value > 63u) {
+      rtxErrAddStrParm(ctx, "DL-TransportChannelBLER");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "DL-TransportChannelBLER");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DL-TransportChannelBLER");
+   return 0;
+}
+
+int asn1PE_UMTS_DL_TransportChannelBLER(rtxContext* RT_RESTRICT ctx, DL_TransportChannelBLER value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DL_TransportChannelBLER, value);
+}
+
+RT_MERGED_BODY int enc_BLER_MeasurementResults(rtxContext* RT_RESTRICT ctx, const BLER_MeasurementResults* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "BLER-MeasurementResults");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-Error-v860ext");
-   /* ue-positioning-GANSS-additionalAssistanceDataRequest */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "BLER-MeasurementResults");
+   /* transportChannelIdentity */
+   if ((uint64_t)(pvalue->transportChannelIdentity - 1) > 31u) {
+      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->transportChannelIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportChannelIdentity", "transportChannelIdentity", -1, "BLER-MeasurementResults");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->transportChannelIdentity, 1, 32);
+   RT_CHECK_PUT(ctx, cur, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, "BLER-MeasurementResults");
+   /* dl-TransportChannelBLER */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AdditionalAssistanceDataRequest_v860ext(ctx, &pvalue->ue_positioning_GANSS_additionalAssistanceDataRequest);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-additionalAssistanceDataRequest", -1, "UE-Positioning-Error-v860ext");
+      if ((uint64_t)pvalue->dl_TransportChannelBLER > 63u) {
+         rtxErrAddStrParm(ctx, "DL-TransportChannelBLER");
+         rtxErrAddUIntParm(ctx, pvalue->dl_TransportChannelBLER);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DL-TransportChannelBLER", "dl-TransportChannelBLER", -1, "BLER-MeasurementResults");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->dl_TransportChannelBLER, 0, 63);
+      RT_CHECK_PUT(ctx, cur, stat, "DL-TransportChannelBLER", "dl-TransportChannelBLER", -1, "BLER-MeasurementResults");
    }
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_MeasuredResults_v860ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_MeasuredResults_v860ext* RT_RESTRICT pvalue)
+int asn1PE_UMTS_BLER_MeasurementResults(rtxContext* RT_RESTRICT ctx, const BLER_MeasurementResults* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_BLER_MeasurementResults, pvalue);
+}
+
+RT_MERGED_BODY int enc_BLER_MeasurementResultsList(rtxContext* RT_RESTRICT ctx, const BLER_MeasurementResultsList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-MeasuredResults-v860ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-MeasuredResults-v860ext");
-   /* ue-positioning-Error */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_Error_v860ext(ctx, &pvalue->ue_positioning_Error);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-Error", -1, "UE-Positioning-MeasuredResults-v860ext");
-   }
-   /* ue-positioning-Ganss-MeasurementResults */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_MeasuredResults_v860ext(ctx, &pvalue->ue_positioning_Ganss_MeasurementResults);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-Ganss-MeasurementResults", -1, "UE-Positioning-MeasuredResults-v860ext");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "BLER-MeasurementResultsList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "BLER-MeasurementResultsList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "BLER-MeasurementResults", (int32_t)i, "BLER-MeasurementResultsList");
+      stat = enc_BLER_MeasurementResults(ctx, (const BLER_MeasurementResults*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "BLER-MeasurementResults", (int32_t)i, "BLER-MeasurementResultsList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_MeasuredResults_v860ext(rtxContext* RT_RESTRICT ctx, const MeasuredResults_v860ext* RT_RESTRICT pvalue)
+int asn1PE_UMTS_BLER_MeasurementResultsList(rtxContext* RT_RESTRICT ctx, const BLER_MeasurementResultsList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_BLER_MeasurementResultsList, pvalue);
+}
+
+RT_MERGED_BODY int enc_BLER_TransChIdList(rtxContext* RT_RESTRICT ctx, const BLER_TransChIdList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasuredResults-v860ext");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 0);
-   RT_CHECK(ctx, stat, 0, "t", -1, "MeasuredResults-v860ext");
-   if (pvalue->t - 1 > 0) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasuredResults-v860ext");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "BLER-TransChIdList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "BLER-TransChIdList");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)(pvalue->elem[i] - 1) > 31u) {
+         rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportChannelIdentity", "TransportChannelIdentity", (int32_t)i, "BLER-TransChIdList");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 1, 32);
+      RT_CHECK_PUT(ctx, cur, stat, "TransportChannelIdentity", "TransportChannelIdentity", (int32_t)i, "BLER-TransChIdList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_BLER_TransChIdList(rtxContext* RT_RESTRICT ctx, const BLER_TransChIdList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_BLER_TransChIdList, pvalue);
+}
+
+RT_MERGED_BODY int enc_BSIC_VerificationRequired(rtxContext* RT_RESTRICT ctx, BSIC_VerificationRequired value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "BSIC-VerificationRequired");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "BSIC-VerificationRequired");
+   return 0;
+}
+
+int asn1PE_UMTS_BSIC_VerificationRequired(rtxContext* RT_RESTRICT ctx, BSIC_VerificationRequired value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_BSIC_VerificationRequired, value);
+}
+
+RT_MERGED_BODY int enc_BSICReported(rtxContext* RT_RESTRICT ctx, const BSICReported* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "BSICReported");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "BSICReported");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "BSICReported");
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.ue_positioning_MeasuredResults == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ue-positioning-MeasuredResults", -1, "MeasuredResults-v860ext");
-         stat = asn1PE_UMTS_UE_Positioning_MeasuredResults_v860ext(ctx, pvalue->u.ue_positioning_MeasuredResults);
-         RT_CHECK(ctx, stat, 0, "ue-positioning-MeasuredResults", -1, "MeasuredResults-v860ext");
+         if ((uint64_t)pvalue->u.verifiedBSIC > 32u) {
+            rtxErrAddStrParm(ctx, "verifiedBSIC");
+            rtxErrAddUIntParm(ctx, pvalue->u.verifiedBSIC);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "verifiedBSIC", -1, "BSICReported");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.verifiedBSIC, 0, 32);
+         RT_CHECK_PUT(ctx, cur, stat, 0, "verifiedBSIC", -1, "BSICReported");
+         break;
+      case 2:
+         if ((uint64_t)pvalue->u.nonVerifiedBSIC > 1023u) {
+            rtxErrAddStrParm(ctx, "BCCH-ARFCN");
+            rtxErrAddUIntParm(ctx, pvalue->u.nonVerifiedBSIC);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "BCCH-ARFCN", "nonVerifiedBSIC", -1, "BSICReported");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.nonVerifiedBSIC, 0, 1023);
+         RT_CHECK_PUT(ctx, cur, stat, "BCCH-ARFCN", "nonVerifiedBSIC", -1, "BSICReported");
          break;
       default:
          break;
@@ -2009,23 +4577,279 @@ int asn1PE_UMTS_MeasuredResults_v860ext(rtxContext* RT_RESTRICT ctx, const Measu
    return 0;
 }
 
-int asn1PE_UMTS_MeasuredResults_v920ext(rtxContext* RT_RESTRICT ctx, const MeasuredResults_v920ext* RT_RESTRICT pvalue)
+int asn1PE_UMTS_BSICReported(rtxContext* RT_RESTRICT ctx, const BSICReported* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_BSICReported, pvalue);
+}
+
+RT_MERGED_BODY int enc_BurstModeParameters(rtxContext* RT_RESTRICT ctx, const BurstModeParameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasuredResults-v920ext");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "MeasuredResults-v920ext");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasuredResults-v920ext");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "BurstModeParameters");
+   /* burstStart */
+   if ((uint64_t)pvalue->burstStart > 15u) {
+      rtxErrAddStrParm(ctx, "burstStart");
+      rtxErrAddUIntParm(ctx, pvalue->burstStart);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "burstStart", -1, "BurstModeParameters");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->burstStart, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "burstStart", -1, "BurstModeParameters");
+   /* burstLength */
+   if ((uint64_t)(pvalue->burstLength - 10) > 15u) {
+      rtxErrAddStrParm(ctx, "burstLength");
+      rtxErrAddUIntParm(ctx, pvalue->burstLength);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "burstLength", -1, "BurstModeParameters");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->burstLength, 10, 25);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "burstLength", -1, "BurstModeParameters");
+   /* burstFreq */
+   if ((uint64_t)(pvalue->burstFreq - 1) > 15u) {
+      rtxErrAddStrParm(ctx, "burstFreq");
+      rtxErrAddUIntParm(ctx, pvalue->burstFreq);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "burstFreq", -1, "BurstModeParameters");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->burstFreq, 1, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "burstFreq", -1, "BurstModeParameters");
+   return 0;
+}
+
+int asn1PE_UMTS_BurstModeParameters(rtxContext* RT_RESTRICT ctx, const BurstModeParameters* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_BurstModeParameters, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellDCHMeasOccasionPattern_LCR_statusFlag(rtxContext* RT_RESTRICT ctx, CellDCHMeasOccasionPattern_LCR_statusFlag value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellDCHMeasOccasionPattern_LCR_statusFlag(rtxContext* RT_RESTRICT ctx, CellDCHMeasOccasionPattern_LCR_statusFlag value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellDCHMeasOccasionPattern_LCR_statusFlag, value);
+}
+
+RT_MERGED_BODY int enc_MeasurementOccasionPatternParameter(rtxContext* RT_RESTRICT ctx, const MeasurementOccasionPatternParameter* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementOccasionPatternParameter");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MeasurementOccasionPatternParameter");
+   /* measurement-Occasion-Coeff */
+   if ((uint64_t)(pvalue->measurement_Occasion_Coeff - 1) > 8u) {
+      rtxErrAddStrParm(ctx, "measurement-Occasion-Coeff");
+      rtxErrAddUIntParm(ctx, pvalue->measurement_Occasion_Coeff);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "measurement-Occasion-Coeff", -1, "MeasurementOccasionPatternParameter");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->measurement_Occasion_Coeff, 1, 9);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "measurement-Occasion-Coeff", -1, "MeasurementOccasionPatternParameter");
+   /* measurement-Occasion-Offset */
+   if ((uint64_t)pvalue->measurement_Occasion_Offset > 511u) {
+      rtxErrAddStrParm(ctx, "measurement-Occasion-Offset");
+      rtxErrAddUIntParm(ctx, pvalue->measurement_Occasion_Offset);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "measurement-Occasion-Offset", -1, "MeasurementOccasionPatternParameter");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->measurement_Occasion_Offset, 0, 511);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "measurement-Occasion-Offset", -1, "MeasurementOccasionPatternParameter");
+   /* measurement-Occasion-Length */
+   if ((uint64_t)(pvalue->measurement_Occasion_Length - 1) > 511u) {
+      rtxErrAddStrParm(ctx, "measurement-Occasion-Length");
+      rtxErrAddUIntParm(ctx, pvalue->measurement_Occasion_Length);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "measurement-Occasion-Length", -1, "MeasurementOccasionPatternParameter");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->measurement_Occasion_Length, 1, 512);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "measurement-Occasion-Length", -1, "MeasurementOccasionPatternParameter");
+   /* timeslotBitmap */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 7, 7);
+      stat = pe_BitString32At(ctx, cur, &pvalue->timeslotBitmap, 7, 7);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "timeslotBitmap", -1, "MeasurementOccasionPatternParameter");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_MeasurementOccasionPatternParameter(rtxContext* RT_RESTRICT ctx, const MeasurementOccasionPatternParameter* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementOccasionPatternParameter, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellDCHMeasOccasionPattern_LCR(rtxContext* RT_RESTRICT ctx, const CellDCHMeasOccasionPattern_LCR* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellDCHMeasOccasionPattern-LCR");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CellDCHMeasOccasionPattern-LCR");
+   /* patternIdentifier */
+   if ((uint64_t)pvalue->patternIdentifier > 4u) {
+      rtxErrAddStrParm(ctx, "patternIdentifier");
+      rtxErrAddUIntParm(ctx, pvalue->patternIdentifier);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "patternIdentifier", -1, "CellDCHMeasOccasionPattern-LCR");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->patternIdentifier, 0, 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "patternIdentifier", -1, "CellDCHMeasOccasionPattern-LCR");
+   /* statusFlag */
+   if (pvalue->statusFlag > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->statusFlag);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "statusFlag", -1, "CellDCHMeasOccasionPattern-LCR");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->statusFlag, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "statusFlag", -1, "CellDCHMeasOccasionPattern-LCR");
+   /* measurementPurpose */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 5, 5);
+      stat = pe_BitString32At(ctx, cur, &pvalue->measurementPurpose, 5, 5);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "measurementPurpose", -1, "CellDCHMeasOccasionPattern-LCR");
+   }
+   /* measurementOccasionPatternParameter */
+   if (pvalue->m & 0x2u) {
+      stat = enc_MeasurementOccasionPatternParameter(ctx, &pvalue->measurementOccasionPatternParameter, cur);
+      RT_CHECK(ctx, stat, 0, "measurementOccasionPatternParameter", -1, "CellDCHMeasOccasionPattern-LCR");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellDCHMeasOccasionPattern_LCR(rtxContext* RT_RESTRICT ctx, const CellDCHMeasOccasionPattern_LCR* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellDCHMeasOccasionPattern_LCR, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellDCHMeasOccasionInfo_TDD128_r9_cellDCHMeasOccasionSequenceList(rtxContext* RT_RESTRICT ctx, const CellDCHMeasOccasionInfo_TDD128_r9_cellDCHMeasOccasionSequenceList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 5);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "CellDCHMeasOccasionPattern-LCR", (int32_t)i, 0);
+      stat = enc_CellDCHMeasOccasionPattern_LCR(ctx, (const CellDCHMeasOccasionPattern_LCR*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "CellDCHMeasOccasionPattern-LCR", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellDCHMeasOccasionInfo_TDD128_r9_cellDCHMeasOccasionSequenceList(rtxContext* RT_RESTRICT ctx, const CellDCHMeasOccasionInfo_TDD128_r9_cellDCHMeasOccasionSequenceList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellDCHMeasOccasionInfo_TDD128_r9_cellDCHMeasOccasionSequenceList, pvalue);
+}
+
+static int enc_CellDCHMeasOccasionInfo_TDD128_r9(rtxContext* RT_RESTRICT ctx, const CellDCHMeasOccasionInfo_TDD128_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellDCHMeasOccasionInfo-TDD128-r9");
+   /* cellDCHMeasOccasionSequenceList */
+   stat = enc_CellDCHMeasOccasionInfo_TDD128_r9_cellDCHMeasOccasionSequenceList(ctx, &pvalue->cellDCHMeasOccasionSequenceList, cur);
+   RT_CHECK(ctx, stat, 0, "cellDCHMeasOccasionSequenceList", -1, "CellDCHMeasOccasionInfo-TDD128-r9");
+   return 0;
+}
+
+int asn1PE_UMTS_CellDCHMeasOccasionInfo_TDD128_r9(rtxContext* RT_RESTRICT ctx, const CellDCHMeasOccasionInfo_TDD128_r9* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellDCHMeasOccasionInfo_TDD128_r9, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   }
+   /* primaryCPICH-TX-Power */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->primaryCPICH_TX_Power < -10 || pvalue->primaryCPICH_TX_Power > 50) {
+         rtxErrAddStrParm(ctx, "PrimaryCPICH-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->primaryCPICH_TX_Power);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->primaryCPICH_TX_Power, -10, 50);
+      RT_CHECK_PUT(ctx, cur, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
+   }
+   /* readSFN-Indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->readSFN_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "readSFN-Indicator", -1, 0);
+   /* tx-DiversityIndicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->tx_DiversityIndicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tx-DiversityIndicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellInfo_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* primaryCCPCH-Info */
+   stat = enc_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+         rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->primaryCCPCH_TX_Power, 6, 43);
+      RT_CHECK_PUT(ctx, cur, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   }
+   /* timeslotInfoList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_TimeslotInfoList(ctx, &pvalue->timeslotInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, 0);
+   }
+   /* readSFN-Indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->readSFN_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "readSFN-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellInfo_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.intraFreqMeasuredResultsList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFreqMeasuredResultsList", -1, "MeasuredResults-v920ext");
-         stat = asn1PE_UMTS_IntraFreqMeasuredResultsList_v920ext(ctx, pvalue->u.intraFreqMeasuredResultsList);
-         RT_CHECK(ctx, stat, 0, "intraFreqMeasuredResultsList", -1, "MeasuredResults-v920ext");
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_CellInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         if (pvalue->u.interFreqMeasuredResultsList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interFreqMeasuredResultsList", -1, "MeasuredResults-v920ext");
-         stat = asn1PE_UMTS_InterFreqMeasuredResultsList_v920ext(ctx, pvalue->u.interFreqMeasuredResultsList);
-         RT_CHECK(ctx, stat, 0, "interFreqMeasuredResultsList", -1, "MeasuredResults-v920ext");
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_CellInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
          break;
@@ -2033,128 +4857,363 @@ int asn1PE_UMTS_MeasuredResults_v920ext(rtxContext* RT_RESTRICT ctx, const Measu
    return 0;
 }
 
-int asn1PE_UMTS_MeasuredResultsList_v920ext(rtxContext* RT_RESTRICT ctx, const MeasuredResultsList_v920ext* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CellInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellInfo_modeSpecificInfo* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasuredResultsList-v920ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MeasuredResultsList-v920ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MeasuredResults-v920ext", (int32_t)i, "MeasuredResultsList-v920ext");
-      stat = asn1PE_UMTS_MeasuredResults_v920ext(ctx, (const MeasuredResults_v920ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "MeasuredResults-v920ext", (int32_t)i, "MeasuredResultsList-v920ext");
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_CellInfo_modeSpecificInfo, pvalue);
 }
 
-int asn1PE_UMTS_MeasuredResultsListOnSecUlFreq(rtxContext* RT_RESTRICT ctx, const MeasuredResultsListOnSecUlFreq* RT_RESTRICT pvalue)
+static int enc_CellInfo(rtxContext* RT_RESTRICT ctx, const CellInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasuredResultsListOnSecUlFreq");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MeasuredResultsListOnSecUlFreq");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MeasuredResultsOnSecUlFreq", (int32_t)i, "MeasuredResultsListOnSecUlFreq");
-      stat = asn1PE_UMTS_MeasuredResultsOnSecUlFreq(ctx, (const MeasuredResultsOnSecUlFreq*)node->data);
-      RT_CHECK(ctx, stat, 0, "MeasuredResultsOnSecUlFreq", (int32_t)i, "MeasuredResultsListOnSecUlFreq");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_T_ADVinfo(rtxContext* RT_RESTRICT ctx, const T_ADVinfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "T-ADVinfo");
-   /* t-ADV */
-   if ((uint64_t)pvalue->t_ADV > 2047u) {
-      rtxErrAddStrParm(ctx, "t-ADV");
-      rtxErrAddUIntParm(ctx, pvalue->t_ADV);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "t-ADV", -1, "T-ADVinfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->t_ADV, 0, 2047);
-   RT_CHECK(ctx, stat, 0, "t-ADV", -1, "T-ADVinfo");
-   /* sfn */
-   if ((uint64_t)pvalue->sfn > 4095u) {
-      rtxErrAddStrParm(ctx, "sfn");
-      rtxErrAddUIntParm(ctx, pvalue->sfn);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sfn", -1, "T-ADVinfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->sfn, 0, 4095);
-   RT_CHECK(ctx, stat, 0, "sfn", -1, "T-ADVinfo");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalMeasuredResults_LCR_r4(rtxContext* RT_RESTRICT ctx, const UE_InternalMeasuredResults_LCR_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-InternalMeasuredResults-LCR-r4");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellInfo");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-InternalMeasuredResults-LCR-r4");
-   /* ue-TransmittedPowerTDD-List */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_TransmittedPowerTDD_List(ctx, &pvalue->ue_TransmittedPowerTDD_List);
-      RT_CHECK(ctx, stat, 0, "ue-TransmittedPowerTDD-List", -1, "UE-InternalMeasuredResults-LCR-r4");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->cellIndividualOffset != 0) << 1) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CellInfo");
+   /* cellIndividualOffset */
+   if (pvalue->cellIndividualOffset != 0) {
+      if (pvalue->cellIndividualOffset < -20 || pvalue->cellIndividualOffset > 20) {
+         rtxErrAddStrParm(ctx, "CellIndividualOffset");
+         rtxErrAddIntParm(ctx, pvalue->cellIndividualOffset);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfo");
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->cellIndividualOffset, -20, 20);
+      RT_CHECK_PUT(ctx, cur, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfo");
    }
-   /* t-ADVinfo */
+   /* referenceTimeDifferenceToCell */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell, cur);
+      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfo");
+   }
+   /* modeSpecificInfo */
+   stat = enc_CellInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_CellInfo(rtxContext* RT_RESTRICT ctx, const CellInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellInfo_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellInfo_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   }
+   /* primaryCPICH-TX-Power */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_T_ADVinfo(ctx, &pvalue->t_ADVinfo);
-      RT_CHECK(ctx, stat, 0, "t-ADVinfo", -1, "UE-InternalMeasuredResults-LCR-r4");
+      if (pvalue->primaryCPICH_TX_Power < -10 || pvalue->primaryCPICH_TX_Power > 50) {
+         rtxErrAddStrParm(ctx, "PrimaryCPICH-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->primaryCPICH_TX_Power);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->primaryCPICH_TX_Power, -10, 50);
+      RT_CHECK_PUT(ctx, cur, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
+   }
+   /* readSFN-Indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->readSFN_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "readSFN-Indicator", -1, 0);
+   /* tx-DiversityIndicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->tx_DiversityIndicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tx-DiversityIndicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellInfo_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellInfo_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellInfo_r4_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_TimeslotInfoList_r4_tdd384(rtxContext* RT_RESTRICT ctx, const TimeslotInfoList_r4_tdd384* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 14);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "TimeslotInfo", (int32_t)i, 0);
+      stat = enc_TimeslotInfo(ctx, (const TimeslotInfo*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "TimeslotInfo", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_MeasuredResults_LCR_r4(rtxContext* RT_RESTRICT ctx, const MeasuredResults_LCR_r4* RT_RESTRICT pvalue)
+int asn1PE_UMTS_TimeslotInfoList_r4_tdd384(rtxContext* RT_RESTRICT ctx, const TimeslotInfoList_r4_tdd384* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TimeslotInfoList_r4_tdd384, pvalue);
+}
+
+RT_MERGED_BODY int enc_TimeslotInfoList_r4_tdd128(rtxContext* RT_RESTRICT ctx, const TimeslotInfoList_r4_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasuredResults-LCR-r4");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
-   RT_CHECK(ctx, stat, 0, "t", -1, "MeasuredResults-LCR-r4");
-   if (pvalue->t - 1 > 7) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasuredResults-LCR-r4");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 6);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "TimeslotInfo-LCR-r4", (int32_t)i, 0);
+      stat = enc_TimeslotInfo_LCR_r4(ctx, (const TimeslotInfo_LCR_r4*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "TimeslotInfo-LCR-r4", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TimeslotInfoList_r4_tdd128(rtxContext* RT_RESTRICT ctx, const TimeslotInfoList_r4_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TimeslotInfoList_r4_tdd128, pvalue);
+}
+
+static int enc_TimeslotInfoList_r4(rtxContext* RT_RESTRICT ctx, const TimeslotInfoList_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TimeslotInfoList-r4");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "TimeslotInfoList-r4");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "TimeslotInfoList-r4");
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.intraFreqMeasuredResultsList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFreqMeasuredResultsList", -1, "MeasuredResults-LCR-r4");
-         stat = asn1PE_UMTS_IntraFreqMeasuredResultsList(ctx, pvalue->u.intraFreqMeasuredResultsList);
-         RT_CHECK(ctx, stat, 0, "intraFreqMeasuredResultsList", -1, "MeasuredResults-LCR-r4");
+         if (pvalue->u.tdd384 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd384", -1, "TimeslotInfoList-r4");
+         stat = enc_TimeslotInfoList_r4_tdd384(ctx, pvalue->u.tdd384, cur);
+         RT_CHECK(ctx, stat, 0, "tdd384", -1, "TimeslotInfoList-r4");
          break;
       case 2:
-         if (pvalue->u.interFreqMeasuredResultsList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interFreqMeasuredResultsList", -1, "MeasuredResults-LCR-r4");
-         stat = asn1PE_UMTS_InterFreqMeasuredResultsList(ctx, pvalue->u.interFreqMeasuredResultsList);
-         RT_CHECK(ctx, stat, 0, "interFreqMeasuredResultsList", -1, "MeasuredResults-LCR-r4");
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, "TimeslotInfoList-r4");
+         stat = enc_TimeslotInfoList_r4_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, "TimeslotInfoList-r4");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TimeslotInfoList_r4(rtxContext* RT_RESTRICT ctx, const TimeslotInfoList_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TimeslotInfoList_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellInfo_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellInfo_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* primaryCCPCH-Info */
+   stat = enc_PrimaryCCPCH_Info_r4(ctx, &pvalue->primaryCCPCH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+         rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->primaryCCPCH_TX_Power, 6, 43);
+      RT_CHECK_PUT(ctx, cur, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   }
+   /* timeslotInfoList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_TimeslotInfoList_r4(ctx, &pvalue->timeslotInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, 0);
+   }
+   /* readSFN-Indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->readSFN_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "readSFN-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellInfo_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellInfo_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellInfo_r4_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellInfo_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellInfo_r4_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_CellInfo_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_CellInfo_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellInfo_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellInfo_r4_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellInfo_r4_modeSpecificInfo, pvalue);
+}
+
+static int enc_CellInfo_r4(rtxContext* RT_RESTRICT ctx, const CellInfo_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellInfo-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->cellIndividualOffset != 0) << 1) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CellInfo-r4");
+   /* cellIndividualOffset */
+   if (pvalue->cellIndividualOffset != 0) {
+      if (pvalue->cellIndividualOffset < -20 || pvalue->cellIndividualOffset > 20) {
+         rtxErrAddStrParm(ctx, "CellIndividualOffset");
+         rtxErrAddIntParm(ctx, pvalue->cellIndividualOffset);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfo-r4");
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->cellIndividualOffset, -20, 20);
+      RT_CHECK_PUT(ctx, cur, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfo-r4");
+   }
+   /* referenceTimeDifferenceToCell */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell, cur);
+      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfo-r4");
+   }
+   /* modeSpecificInfo */
+   stat = enc_CellInfo_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellInfo-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_CellInfo_r4(rtxContext* RT_RESTRICT ctx, const CellInfo_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellInfo_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoMC_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* q-QualMin */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->q_QualMin < -24 || pvalue->q_QualMin > 0) {
+         rtxErrAddStrParm(ctx, "Q-QualMin");
+         rtxErrAddIntParm(ctx, pvalue->q_QualMin);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-QualMin", "q-QualMin", -1, 0);
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->q_QualMin, -24, 0);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-QualMin", "q-QualMin", -1, 0);
+   }
+   /* q-RxlevMin */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
+         rtxErrAddStrParm(ctx, "Q-RxlevMin");
+         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoMC_RSCP_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoMC_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* q-RxlevMin */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
+         rtxErrAddStrParm(ctx, "Q-RxlevMin");
+         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoMC_RSCP_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoMC_RSCP_modeSpecificInfo_gsm* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* q-RxlevMin */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->q_RxlevMin < -58 || pvalue->q_RxlevMin > -13) {
+         rtxErrAddStrParm(ctx, "Q-RxlevMin");
+         rtxErrAddIntParm(ctx, pvalue->q_RxlevMin);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->q_RxlevMin, -58, -13);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-RxlevMin", "q-RxlevMin", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoMC_RSCP_modeSpecificInfo_gsm* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_gsm, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellSelectReselectInfoMC_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoMC_RSCP_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       case 3:
-         if (pvalue->u.interRATMeasuredResultsList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interRATMeasuredResultsList", -1, "MeasuredResults-LCR-r4");
-         stat = asn1PE_UMTS_InterRATMeasuredResultsList(ctx, pvalue->u.interRATMeasuredResultsList);
-         RT_CHECK(ctx, stat, 0, "interRATMeasuredResultsList", -1, "MeasuredResults-LCR-r4");
-         break;
-      case 4:
-         if (pvalue->u.trafficVolumeMeasuredResultsList == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "trafficVolumeMeasuredResultsList", -1, "MeasuredResults-LCR-r4");
-         stat = asn1PE_UMTS_TrafficVolumeMeasuredResultsList(ctx, pvalue->u.trafficVolumeMeasuredResultsList);
-         RT_CHECK(ctx, stat, 0, "trafficVolumeMeasuredResultsList", -1, "MeasuredResults-LCR-r4");
-         break;
-      case 5:
-         if (pvalue->u.qualityMeasuredResults == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "qualityMeasuredResults", -1, "MeasuredResults-LCR-r4");
-         stat = asn1PE_UMTS_QualityMeasuredResults(ctx, pvalue->u.qualityMeasuredResults);
-         RT_CHECK(ctx, stat, 0, "qualityMeasuredResults", -1, "MeasuredResults-LCR-r4");
-         break;
-      case 6:
-         if (pvalue->u.ue_InternalMeasuredResults == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ue-InternalMeasuredResults", -1, "MeasuredResults-LCR-r4");
-         stat = asn1PE_UMTS_UE_InternalMeasuredResults_LCR_r4(ctx, pvalue->u.ue_InternalMeasuredResults);
-         RT_CHECK(ctx, stat, 0, "ue-InternalMeasuredResults", -1, "MeasuredResults-LCR-r4");
-         break;
-      case 7:
-         if (pvalue->u.ue_positioniing_MeasuredResults == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ue-positioniing-MeasuredResults", -1, "MeasuredResults-LCR-r4");
-         stat = asn1PE_UMTS_UE_Positioning_MeasuredResults(ctx, pvalue->u.ue_positioniing_MeasuredResults);
-         RT_CHECK(ctx, stat, 0, "ue-positioniing-MeasuredResults", -1, "MeasuredResults-LCR-r4");
-         break;
-      case 8:
+         if (pvalue->u.gsm == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "gsm", -1, 0);
+         stat = enc_CellSelectReselectInfoMC_RSCP_modeSpecificInfo_gsm(ctx, pvalue->u.gsm, cur);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
          break;
       default:
          break;
@@ -2162,140 +5221,167 @@ int asn1PE_UMTS_MeasuredResults_LCR_r4(rtxContext* RT_RESTRICT ctx, const Measur
    return 0;
 }
 
-int asn1PE_UMTS_MeasuredResultsList(rtxContext* RT_RESTRICT ctx, const MeasuredResultsList* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CellSelectReselectInfoMC_RSCP_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoMC_RSCP_modeSpecificInfo* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasuredResultsList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MeasuredResultsList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MeasuredResults", (int32_t)i, "MeasuredResultsList");
-      stat = asn1PE_UMTS_MeasuredResults(ctx, (const MeasuredResults*)node->data);
-      RT_CHECK(ctx, stat, 0, "MeasuredResults", (int32_t)i, "MeasuredResultsList");
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_CellSelectReselectInfoMC_RSCP_modeSpecificInfo, pvalue);
 }
 
-int asn1PE_UMTS_MeasuredResultsList_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const MeasuredResultsList_LCR_r4_ext* RT_RESTRICT pvalue)
+static int enc_CellSelectReselectInfoMC_RSCP(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoMC_RSCP* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasuredResultsList-LCR-r4-ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MeasuredResultsList-LCR-r4-ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MeasuredResults-LCR-r4", (int32_t)i, "MeasuredResultsList-LCR-r4-ext");
-      stat = asn1PE_UMTS_MeasuredResults_LCR_r4(ctx, (const MeasuredResults_LCR_r4*)node->data);
-      RT_CHECK(ctx, stat, 0, "MeasuredResults-LCR-r4", (int32_t)i, "MeasuredResultsList-LCR-r4-ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasuredResultsList_v770xet_element(rtxContext* RT_RESTRICT ctx, const MeasuredResultsList_v770xet_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellSelectReselectInfoMC-RSCP");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measuredResults */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->q_OffsetS_N != 0) << 2) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CellSelectReselectInfoMC-RSCP");
+   /* q-OffsetS-N */
+   if (pvalue->q_OffsetS_N != 0) {
+      if (pvalue->q_OffsetS_N < -50 || pvalue->q_OffsetS_N > 50) {
+         rtxErrAddStrParm(ctx, "Q-OffsetS-N");
+         rtxErrAddIntParm(ctx, pvalue->q_OffsetS_N);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-OffsetS-N", "q-OffsetS-N", -1, "CellSelectReselectInfoMC-RSCP");
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->q_OffsetS_N, -50, 50);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-OffsetS-N", "q-OffsetS-N", -1, "CellSelectReselectInfoMC-RSCP");
+   }
+   /* maxAllowedUL-TX-Power */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MeasuredResults_v770ext(ctx, &pvalue->measuredResults);
-      RT_CHECK(ctx, stat, 0, "measuredResults", -1, 0);
+      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
+         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoMC-RSCP");
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->maxAllowedUL_TX_Power, -50, 33);
+      RT_CHECK_PUT(ctx, cur, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellSelectReselectInfoMC-RSCP");
    }
+   /* hcs-NeighbouringCellInformation-RSCP */
+   if (pvalue->m & 0x2u) {
+      stat = enc_HCS_NeighbouringCellInformation_RSCP(ctx, &pvalue->hcs_NeighbouringCellInformation_RSCP, cur);
+      RT_CHECK(ctx, stat, 0, "hcs-NeighbouringCellInformation-RSCP", -1, "CellSelectReselectInfoMC-RSCP");
+   }
+   /* modeSpecificInfo */
+   stat = enc_CellSelectReselectInfoMC_RSCP_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellSelectReselectInfoMC-RSCP");
    return 0;
 }
 
-int asn1PE_UMTS_MeasuredResultsList_v770xet(rtxContext* RT_RESTRICT ctx, const MeasuredResultsList_v770xet* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CellSelectReselectInfoMC_RSCP(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoMC_RSCP* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasuredResultsList-v770xet");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MeasuredResultsList-v770xet");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "MeasuredResultsList-v770xet");
-      stat = asn1PE_UMTS_MeasuredResultsList_v770xet_element(ctx, (const MeasuredResultsList_v770xet_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "MeasuredResultsList-v770xet");
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_CellSelectReselectInfoMC_RSCP, pvalue);
 }
 
-int asn1PE_UMTS_MeasuredResultsList_v860ext_element(rtxContext* RT_RESTRICT ctx, const MeasuredResultsList_v860ext_element* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_CellInfo_LCR_r8_ext(rtxContext* RT_RESTRICT ctx, const CellInfo_LCR_r8_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellInfo-LCR-r8-ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measuredResults */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CellInfo-LCR-r8-ext");
+   /* cellSelectionReselectionInfo */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MeasuredResults_v860ext(ctx, &pvalue->measuredResults);
-      RT_CHECK(ctx, stat, 0, "measuredResults", -1, 0);
+      stat = enc_CellSelectReselectInfoMC_RSCP(ctx, &pvalue->cellSelectionReselectionInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfo-LCR-r8-ext");
    }
    return 0;
 }
 
-int asn1PE_UMTS_MeasuredResultsList_v860ext(rtxContext* RT_RESTRICT ctx, const MeasuredResultsList_v860ext* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CellInfo_LCR_r8_ext(rtxContext* RT_RESTRICT ctx, const CellInfo_LCR_r8_ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellInfo_LCR_r8_ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellInfo_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellInfo_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasuredResultsList-v860ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MeasuredResultsList-v860ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "MeasuredResultsList-v860ext");
-      stat = asn1PE_UMTS_MeasuredResultsList_v860ext_element(ctx, (const MeasuredResultsList_v860ext_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "MeasuredResultsList-v860ext");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   if (pvalue->m & 0x1u) {
+      stat = enc_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+      RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
    }
+   /* primaryCPICH-TX-Power */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->primaryCPICH_TX_Power < -10 || pvalue->primaryCPICH_TX_Power > 50) {
+         rtxErrAddStrParm(ctx, "PrimaryCPICH-TX-Power");
+         rtxErrAddIntParm(ctx, pvalue->primaryCPICH_TX_Power);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->primaryCPICH_TX_Power, -10, 50);
+      RT_CHECK_PUT(ctx, cur, stat, "PrimaryCPICH-TX-Power", "primaryCPICH-TX-Power", -1, 0);
+   }
+   /* readSFN-Indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->readSFN_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "readSFN-Indicator", -1, 0);
+   /* tx-DiversityIndicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->tx_DiversityIndicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tx-DiversityIndicator", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd_measurementQuantity(rtxContext* RT_RESTRICT ctx, const MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd_measurementQuantity* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CellInfo_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellInfo_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellInfo_r9_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellInfo_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellInfo_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* primaryCCPCH-Info */
+   stat = enc_PrimaryCCPCH_Info_r4(ctx, &pvalue->primaryCCPCH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, 0);
+   /* primaryCCPCH-TX-Power */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->primaryCCPCH_TX_Power - 6) > 37u) {
+         rtxErrAddStrParm(ctx, "PrimaryCCPCH-TX-Power");
+         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_TX_Power);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->primaryCCPCH_TX_Power, 6, 43);
+      RT_CHECK_PUT(ctx, cur, stat, "PrimaryCCPCH-TX-Power", "primaryCCPCH-TX-Power", -1, 0);
+   }
+   /* timeslotInfoList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_TimeslotInfoList_r4(ctx, &pvalue->timeslotInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "timeslotInfoList", -1, 0);
+   }
+   /* readSFN-Indicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->readSFN_Indicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "readSFN-Indicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellInfo_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellInfo_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellInfo_r9_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellInfo_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellInfo_r9_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if ((uint64_t)pvalue->u.cpich_Ec_N0 > 63u) {
-            rtxErrAddStrParm(ctx, "CPICH-Ec-N0");
-            rtxErrAddUIntParm(ctx, pvalue->u.cpich_Ec_N0);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CPICH-Ec-N0", "cpich-Ec-N0", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.cpich_Ec_N0, 0, 63);
-         RT_CHECK(ctx, stat, "CPICH-Ec-N0", "cpich-Ec-N0", -1, 0);
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_CellInfo_r9_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         if ((uint64_t)pvalue->u.cpich_RSCP > 127u) {
-            rtxErrAddStrParm(ctx, "CPICH-RSCP");
-            rtxErrAddUIntParm(ctx, pvalue->u.cpich_RSCP);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CPICH-RSCP", "cpich-RSCP", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.cpich_RSCP, 0, 127);
-         RT_CHECK(ctx, stat, "CPICH-RSCP", "cpich-RSCP", -1, 0);
-         break;
-      case 3:
-         if ((uint64_t)(pvalue->u.pathloss - 46) > 127u) {
-            rtxErrAddStrParm(ctx, "Pathloss");
-            rtxErrAddUIntParm(ctx, pvalue->u.pathloss);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "Pathloss", "pathloss", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.pathloss, 46, 173);
-         RT_CHECK(ctx, stat, "Pathloss", "pathloss", -1, 0);
-         break;
-      case 4:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_CellInfo_r9_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
          break;
@@ -2303,58 +5389,471 @@ int asn1PE_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd_measureme
    return 0;
 }
 
-int asn1PE_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CellInfo_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellInfo_r9_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellInfo_r9_modeSpecificInfo, pvalue);
+}
+
+static int enc_CellInfo_r9(rtxContext* RT_RESTRICT ctx, const CellInfo_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* measurementQuantity */
-   stat = asn1PE_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd_measurementQuantity(ctx, &pvalue->measurementQuantity);
-   RT_CHECK(ctx, stat, 0, "measurementQuantity", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellInfo-r9");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->cellIndividualOffset != 0) << 2) |
+      ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CellInfo-r9");
+   /* cellIndividualOffset */
+   if (pvalue->cellIndividualOffset != 0) {
+      if (pvalue->cellIndividualOffset < -20 || pvalue->cellIndividualOffset > 20) {
+         rtxErrAddStrParm(ctx, "CellIndividualOffset");
+         rtxErrAddIntParm(ctx, pvalue->cellIndividualOffset);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfo-r9");
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->cellIndividualOffset, -20, 20);
+      RT_CHECK_PUT(ctx, cur, stat, "CellIndividualOffset", "cellIndividualOffset", -1, "CellInfo-r9");
+   }
+   /* referenceTimeDifferenceToCell */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ReferenceTimeDifferenceToCell(ctx, &pvalue->referenceTimeDifferenceToCell, cur);
+      RT_CHECK(ctx, stat, 0, "referenceTimeDifferenceToCell", -1, "CellInfo-r9");
+   }
+   /* modeSpecificInfo */
+   stat = enc_CellInfo_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellInfo-r9");
+   /* cellSelectionReselectionInfo */
+   if (pvalue->m & 0x2u) {
+      stat = enc_CellSelectReselectInfoMC_RSCP(ctx, &pvalue->cellSelectionReselectionInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cellSelectionReselectionInfo", -1, "CellInfo-r9");
+   }
    return 0;
 }
 
-int asn1PE_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const MeasuredResultsOnRACH_currentCell_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CellInfo_r9(rtxContext* RT_RESTRICT ctx, const CellInfo_r9* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellInfo_r9, pvalue);
+}
+
+RT_MERGED_BODY int enc_SFN_SFN_ObsTimeDifference1(rtxContext* RT_RESTRICT ctx, SFN_SFN_ObsTimeDifference1 value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if ((uint64_t)value > 16777215u) {
+      rtxErrAddStrParm(ctx, "SFN-SFN-ObsTimeDifference1");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "SFN-SFN-ObsTimeDifference1");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 16777215);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SFN-SFN-ObsTimeDifference1");
+   return 0;
+}
+
+int asn1PE_UMTS_SFN_SFN_ObsTimeDifference1(rtxContext* RT_RESTRICT ctx, SFN_SFN_ObsTimeDifference1 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SFN_SFN_ObsTimeDifference1, value);
+}
+
+RT_MERGED_BODY int enc_SFN_SFN_ObsTimeDifference2(rtxContext* RT_RESTRICT ctx, SFN_SFN_ObsTimeDifference2 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 65535);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "SFN-SFN-ObsTimeDifference2");
+   return 0;
+}
+
+int asn1PE_UMTS_SFN_SFN_ObsTimeDifference2(rtxContext* RT_RESTRICT ctx, SFN_SFN_ObsTimeDifference2 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SFN_SFN_ObsTimeDifference2, value);
+}
+
+RT_MERGED_BODY int enc_SFN_SFN_ObsTimeDifference(rtxContext* RT_RESTRICT ctx, const SFN_SFN_ObsTimeDifference* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SFN-SFN-ObsTimeDifference");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "SFN-SFN-ObsTimeDifference");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "SFN-SFN-ObsTimeDifference");
+   switch (pvalue->t) {
+      case 1:
+         if ((uint64_t)pvalue->u.type1 > 16777215u) {
+            rtxErrAddStrParm(ctx, "SFN-SFN-ObsTimeDifference1");
+            rtxErrAddUIntParm(ctx, pvalue->u.type1);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SFN-SFN-ObsTimeDifference1", "type1", -1, "SFN-SFN-ObsTimeDifference");
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.type1, 0, 16777215);
+         RT_CHECK_PUT(ctx, cur, stat, "SFN-SFN-ObsTimeDifference1", "type1", -1, "SFN-SFN-ObsTimeDifference");
+         break;
+      case 2:
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.type2, 0, 65535);
+         RT_CHECK_PUT(ctx, cur, stat, "SFN-SFN-ObsTimeDifference2", "type2", -1, "SFN-SFN-ObsTimeDifference");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SFN_SFN_ObsTimeDifference(rtxContext* RT_RESTRICT ctx, const SFN_SFN_ObsTimeDifference* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SFN_SFN_ObsTimeDifference, pvalue);
+}
+
+RT_MERGED_BODY int enc_CountC_SFN_Frame_difference(rtxContext* RT_RESTRICT ctx, const CountC_SFN_Frame_difference* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CountC-SFN-Frame-difference");
+   /* countC-SFN-High */
+   if ((uint64_t)pvalue->countC_SFN_High > 15u) {
+      rtxErrAddStrParm(ctx, "countC-SFN-High");
+      rtxErrAddUIntParm(ctx, pvalue->countC_SFN_High);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "countC-SFN-High", -1, "CountC-SFN-Frame-difference");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->countC_SFN_High, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "countC-SFN-High", -1, "CountC-SFN-Frame-difference");
+   /* off */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->off, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "off", -1, "CountC-SFN-Frame-difference");
+   return 0;
+}
+
+int asn1PE_UMTS_CountC_SFN_Frame_difference(rtxContext* RT_RESTRICT ctx, const CountC_SFN_Frame_difference* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CountC_SFN_Frame_difference, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellSynchronisationInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellSynchronisationInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* timeslotISCP */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* countC-SFN-Frame-difference */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_TimeslotISCP_List(ctx, &pvalue->timeslotISCP);
-      RT_CHECK(ctx, stat, 0, "timeslotISCP", -1, 0);
+      stat = enc_CountC_SFN_Frame_difference(ctx, &pvalue->countC_SFN_Frame_difference, cur);
+      RT_CHECK(ctx, stat, 0, "countC-SFN-Frame-difference", -1, 0);
+   }
+   /* tm */
+   if ((uint64_t)pvalue->tm > 38399u) {
+      rtxErrAddStrParm(ctx, "tm");
+      rtxErrAddUIntParm(ctx, pvalue->tm);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "tm", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->tm, 0, 38399);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tm", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellSynchronisationInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellSynchronisationInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellSynchronisationInfo_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellSynchronisationInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellSynchronisationInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* countC-SFN-Frame-difference */
+   if (pvalue->m & 0x1u) {
+      stat = enc_CountC_SFN_Frame_difference(ctx, &pvalue->countC_SFN_Frame_difference, cur);
+      RT_CHECK(ctx, stat, 0, "countC-SFN-Frame-difference", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellSynchronisationInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellSynchronisationInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellSynchronisationInfo_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellSynchronisationInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellSynchronisationInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_CellSynchronisationInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_CellSynchronisationInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellSynchronisationInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellSynchronisationInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellSynchronisationInfo_modeSpecificInfo, pvalue);
+}
+
+static int enc_CellSynchronisationInfo(rtxContext* RT_RESTRICT ctx, const CellSynchronisationInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellSynchronisationInfo");
+   /* modeSpecificInfo */
+   stat = enc_CellSynchronisationInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellSynchronisationInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_CellSynchronisationInfo(rtxContext* RT_RESTRICT ctx, const CellSynchronisationInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellSynchronisationInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_CPICH_Ec_N0(rtxContext* RT_RESTRICT ctx, CPICH_Ec_N0 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 63u) {
+      rtxErrAddStrParm(ctx, "CPICH-Ec-N0");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "CPICH-Ec-N0");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CPICH-Ec-N0");
+   return 0;
+}
+
+int asn1PE_UMTS_CPICH_Ec_N0(rtxContext* RT_RESTRICT ctx, CPICH_Ec_N0 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CPICH_Ec_N0, value);
+}
+
+RT_MERGED_BODY int enc_CPICH_RSCP(rtxContext* RT_RESTRICT ctx, CPICH_RSCP value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 127u) {
+      rtxErrAddStrParm(ctx, "CPICH-RSCP");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "CPICH-RSCP");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 127);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CPICH-RSCP");
+   return 0;
+}
+
+int asn1PE_UMTS_CPICH_RSCP(rtxContext* RT_RESTRICT ctx, CPICH_RSCP value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CPICH_RSCP, value);
+}
+
+RT_MERGED_BODY int enc_Pathloss(rtxContext* RT_RESTRICT ctx, Pathloss value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)(value - 46) > 127u) {
+      rtxErrAddStrParm(ctx, "Pathloss");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "Pathloss");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 46, 173);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Pathloss");
+   return 0;
+}
+
+int asn1PE_UMTS_Pathloss(rtxContext* RT_RESTRICT ctx, Pathloss value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Pathloss, value);
+}
+
+RT_MERGED_BODY int enc_CellMeasuredResults_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellMeasuredResults_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   stat = enc_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   /* cpich-Ec-N0 */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->cpich_Ec_N0 > 63u) {
+         rtxErrAddStrParm(ctx, "CPICH-Ec-N0");
+         rtxErrAddUIntParm(ctx, pvalue->cpich_Ec_N0);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CPICH-Ec-N0", "cpich-Ec-N0", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->cpich_Ec_N0, 0, 63);
+      RT_CHECK_PUT(ctx, cur, stat, "CPICH-Ec-N0", "cpich-Ec-N0", -1, 0);
+   }
+   /* cpich-RSCP */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->cpich_RSCP > 127u) {
+         rtxErrAddStrParm(ctx, "CPICH-RSCP");
+         rtxErrAddUIntParm(ctx, pvalue->cpich_RSCP);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CPICH-RSCP", "cpich-RSCP", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->cpich_RSCP, 0, 127);
+      RT_CHECK_PUT(ctx, cur, stat, "CPICH-RSCP", "cpich-RSCP", -1, 0);
+   }
+   /* pathloss */
+   if (pvalue->m & 0x4u) {
+      if ((uint64_t)(pvalue->pathloss - 46) > 127u) {
+         rtxErrAddStrParm(ctx, "Pathloss");
+         rtxErrAddUIntParm(ctx, pvalue->pathloss);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Pathloss", "pathloss", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->pathloss, 46, 173);
+      RT_CHECK_PUT(ctx, cur, stat, "Pathloss", "pathloss", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellMeasuredResults_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellMeasuredResults_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellMeasuredResults_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_PrimaryCCPCH_RSCP(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_RSCP value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 127u) {
+      rtxErrAddStrParm(ctx, "PrimaryCCPCH-RSCP");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "PrimaryCCPCH-RSCP");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 127);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PrimaryCCPCH-RSCP");
+   return 0;
+}
+
+int asn1PE_UMTS_PrimaryCCPCH_RSCP(rtxContext* RT_RESTRICT ctx, PrimaryCCPCH_RSCP value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PrimaryCCPCH_RSCP, value);
+}
+
+RT_MERGED_BODY int enc_TimeslotISCP(rtxContext* RT_RESTRICT ctx, TimeslotISCP value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 127u) {
+      rtxErrAddStrParm(ctx, "TimeslotISCP");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "TimeslotISCP");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 127);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "TimeslotISCP");
+   return 0;
+}
+
+int asn1PE_UMTS_TimeslotISCP(rtxContext* RT_RESTRICT ctx, TimeslotISCP value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TimeslotISCP, value);
+}
+
+RT_MERGED_BODY int enc_TimeslotISCP_List(rtxContext* RT_RESTRICT ctx, const TimeslotISCP_List* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TimeslotISCP-List");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 14);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "TimeslotISCP-List");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 127u) {
+         rtxErrAddStrParm(ctx, "TimeslotISCP");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TimeslotISCP", "TimeslotISCP", (int32_t)i, "TimeslotISCP-List");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 127);
+      RT_CHECK_PUT(ctx, cur, stat, "TimeslotISCP", "TimeslotISCP", (int32_t)i, "TimeslotISCP-List");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_TimeslotISCP_List(rtxContext* RT_RESTRICT ctx, const TimeslotISCP_List* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TimeslotISCP_List, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellMeasuredResults_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellMeasuredResults_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* cellParametersID */
+   if ((uint64_t)pvalue->cellParametersID > 127u) {
+      rtxErrAddStrParm(ctx, "CellParametersID");
+      rtxErrAddUIntParm(ctx, pvalue->cellParametersID);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellParametersID", "cellParametersID", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->cellParametersID, 0, 127);
+   RT_CHECK_PUT(ctx, cur, stat, "CellParametersID", "cellParametersID", -1, 0);
+   /* proposedTGSN */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->proposedTGSN > 14u) {
+         rtxErrAddStrParm(ctx, "TGSN");
+         rtxErrAddUIntParm(ctx, pvalue->proposedTGSN);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TGSN", "proposedTGSN", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->proposedTGSN, 0, 14);
+      RT_CHECK_PUT(ctx, cur, stat, "TGSN", "proposedTGSN", -1, 0);
    }
    /* primaryCCPCH-RSCP */
    if (pvalue->m & 0x2u) {
       if ((uint64_t)pvalue->primaryCCPCH_RSCP > 127u) {
          rtxErrAddStrParm(ctx, "PrimaryCCPCH-RSCP");
          rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_RSCP);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-RSCP", "primaryCCPCH-RSCP", -1, 0);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PrimaryCCPCH-RSCP", "primaryCCPCH-RSCP", -1, 0);
       }
-      stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_RSCP, 0, 127);
-      RT_CHECK(ctx, stat, "PrimaryCCPCH-RSCP", "primaryCCPCH-RSCP", -1, 0);
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->primaryCCPCH_RSCP, 0, 127);
+      RT_CHECK_PUT(ctx, cur, stat, "PrimaryCCPCH-RSCP", "primaryCCPCH-RSCP", -1, 0);
+   }
+   /* pathloss */
+   if (pvalue->m & 0x4u) {
+      if ((uint64_t)(pvalue->pathloss - 46) > 127u) {
+         rtxErrAddStrParm(ctx, "Pathloss");
+         rtxErrAddUIntParm(ctx, pvalue->pathloss);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Pathloss", "pathloss", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->pathloss, 46, 173);
+      RT_CHECK_PUT(ctx, cur, stat, "Pathloss", "pathloss", -1, 0);
+   }
+   /* timeslotISCP-List */
+   if (pvalue->m & 0x8u) {
+      stat = enc_TimeslotISCP_List(ctx, &pvalue->timeslotISCP_List, cur);
+      RT_CHECK(ctx, stat, 0, "timeslotISCP-List", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const MeasuredResultsOnRACH_currentCell_modeSpecificInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CellMeasuredResults_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellMeasuredResults_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellMeasuredResults_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellMeasuredResults_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellMeasuredResults_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_CellMeasuredResults_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
          RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_CellMeasuredResults_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
          RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
@@ -2363,698 +5862,204 @@ int asn1PE_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo(rtxContext* R
    return 0;
 }
 
-int asn1PE_UMTS_MeasuredResultsOnRACH_currentCell(rtxContext* RT_RESTRICT ctx, const MeasuredResultsOnRACH_currentCell* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CellMeasuredResults_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellMeasuredResults_modeSpecificInfo* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_MeasuredResultsOnRACH_currentCell_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_CellMeasuredResults_modeSpecificInfo, pvalue);
 }
 
-int asn1PE_UMTS_MonitoredCellRACH_Result_modeSpecificInfo_fdd_measurementQuantity(rtxContext* RT_RESTRICT ctx, const MonitoredCellRACH_Result_modeSpecificInfo_fdd_measurementQuantity* RT_RESTRICT pvalue)
+static int enc_CellMeasuredResults(rtxContext* RT_RESTRICT ctx, const CellMeasuredResults* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if ((uint64_t)pvalue->u.cpich_Ec_N0 > 63u) {
-            rtxErrAddStrParm(ctx, "CPICH-Ec-N0");
-            rtxErrAddUIntParm(ctx, pvalue->u.cpich_Ec_N0);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CPICH-Ec-N0", "cpich-Ec-N0", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.cpich_Ec_N0, 0, 63);
-         RT_CHECK(ctx, stat, "CPICH-Ec-N0", "cpich-Ec-N0", -1, 0);
-         break;
-      case 2:
-         if ((uint64_t)pvalue->u.cpich_RSCP > 127u) {
-            rtxErrAddStrParm(ctx, "CPICH-RSCP");
-            rtxErrAddUIntParm(ctx, pvalue->u.cpich_RSCP);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "CPICH-RSCP", "cpich-RSCP", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.cpich_RSCP, 0, 127);
-         RT_CHECK(ctx, stat, "CPICH-RSCP", "cpich-RSCP", -1, 0);
-         break;
-      case 3:
-         if ((uint64_t)(pvalue->u.pathloss - 46) > 127u) {
-            rtxErrAddStrParm(ctx, "Pathloss");
-            rtxErrAddUIntParm(ctx, pvalue->u.pathloss);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "Pathloss", "pathloss", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.pathloss, 46, 173);
-         RT_CHECK(ctx, stat, "Pathloss", "pathloss", -1, 0);
-         break;
-      case 4:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MonitoredCellRACH_Result_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const MonitoredCellRACH_Result_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellMeasuredResults");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* primaryCPICH-Info */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   /* measurementQuantity */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CellMeasuredResults");
+   /* cellIdentity */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MonitoredCellRACH_Result_modeSpecificInfo_fdd_measurementQuantity(ctx, &pvalue->measurementQuantity);
-      RT_CHECK(ctx, stat, 0, "measurementQuantity", -1, 0);
+      stat = enc_CellIdentity(ctx, pvalue->cellIdentity, cur);
+      RT_CHECK(ctx, stat, 0, "cellIdentity", -1, "CellMeasuredResults");
+   }
+   /* dummy */
+   if (pvalue->m & 0x2u) {
+      stat = enc_SFN_SFN_ObsTimeDifference(ctx, &pvalue->dummy, cur);
+      RT_CHECK(ctx, stat, 0, "dummy", -1, "CellMeasuredResults");
+   }
+   /* cellSynchronisationInfo */
+   if (pvalue->m & 0x4u) {
+      stat = enc_CellSynchronisationInfo(ctx, &pvalue->cellSynchronisationInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cellSynchronisationInfo", -1, "CellMeasuredResults");
+   }
+   /* modeSpecificInfo */
+   stat = enc_CellMeasuredResults_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellMeasuredResults");
+   return 0;
+}
+
+int asn1PE_UMTS_CellMeasuredResults(rtxContext* RT_RESTRICT ctx, const CellMeasuredResults* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellMeasuredResults, pvalue);
+}
+
+RT_MERGED_BODY int enc_DeltaRSCPPerCell(rtxContext* RT_RESTRICT ctx, const DeltaRSCPPerCell* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DeltaRSCPPerCell");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DeltaRSCPPerCell");
+   /* deltaRSCP */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->deltaRSCP < -5 || pvalue->deltaRSCP > -1) {
+         rtxErrAddStrParm(ctx, "DeltaRSCP");
+         rtxErrAddIntParm(ctx, pvalue->deltaRSCP);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DeltaRSCP", "deltaRSCP", -1, "DeltaRSCPPerCell");
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->deltaRSCP, -5, -1);
+      RT_CHECK_PUT(ctx, cur, stat, "DeltaRSCP", "deltaRSCP", -1, "DeltaRSCPPerCell");
    }
    return 0;
 }
 
-int asn1PE_UMTS_MonitoredCellRACH_Result_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const MonitoredCellRACH_Result_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DeltaRSCPPerCell(rtxContext* RT_RESTRICT ctx, const DeltaRSCPPerCell* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DeltaRSCPPerCell, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellMeasuredResults_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellMeasuredResults_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   stat = enc_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   /* cpich-Ec-N0 */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->cpich_Ec_N0 > 63u) {
+         rtxErrAddStrParm(ctx, "CPICH-Ec-N0");
+         rtxErrAddUIntParm(ctx, pvalue->cpich_Ec_N0);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CPICH-Ec-N0", "cpich-Ec-N0", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->cpich_Ec_N0, 0, 63);
+      RT_CHECK_PUT(ctx, cur, stat, "CPICH-Ec-N0", "cpich-Ec-N0", -1, 0);
+   }
+   /* cpich-RSCP */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->cpich_RSCP > 127u) {
+         rtxErrAddStrParm(ctx, "CPICH-RSCP");
+         rtxErrAddUIntParm(ctx, pvalue->cpich_RSCP);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CPICH-RSCP", "cpich-RSCP", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->cpich_RSCP, 0, 127);
+      RT_CHECK_PUT(ctx, cur, stat, "CPICH-RSCP", "cpich-RSCP", -1, 0);
+   }
+   /* deltaRSCPPerCell */
+   if (pvalue->m & 0x4u) {
+      stat = enc_DeltaRSCPPerCell(ctx, &pvalue->deltaRSCPPerCell, cur);
+      RT_CHECK(ctx, stat, 0, "deltaRSCPPerCell", -1, 0);
+   }
+   /* pathloss */
+   if (pvalue->m & 0x8u) {
+      if ((uint64_t)(pvalue->pathloss - 46) > 127u) {
+         rtxErrAddStrParm(ctx, "Pathloss");
+         rtxErrAddUIntParm(ctx, pvalue->pathloss);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Pathloss", "pathloss", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->pathloss, 46, 173);
+      RT_CHECK_PUT(ctx, cur, stat, "Pathloss", "pathloss", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellMeasuredResults_r9_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellMeasuredResults_r9_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellMeasuredResults_r9_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellMeasuredResults_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellMeasuredResults_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    /* cellParametersID */
    if ((uint64_t)pvalue->cellParametersID > 127u) {
       rtxErrAddStrParm(ctx, "CellParametersID");
       rtxErrAddUIntParm(ctx, pvalue->cellParametersID);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "CellParametersID", "cellParametersID", -1, 0);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellParametersID", "cellParametersID", -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, pvalue->cellParametersID, 0, 127);
-   RT_CHECK(ctx, stat, "CellParametersID", "cellParametersID", -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->cellParametersID, 0, 127);
+   RT_CHECK_PUT(ctx, cur, stat, "CellParametersID", "cellParametersID", -1, 0);
+   /* proposedTGSN */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->proposedTGSN > 14u) {
+         rtxErrAddStrParm(ctx, "TGSN");
+         rtxErrAddUIntParm(ctx, pvalue->proposedTGSN);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TGSN", "proposedTGSN", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->proposedTGSN, 0, 14);
+      RT_CHECK_PUT(ctx, cur, stat, "TGSN", "proposedTGSN", -1, 0);
+   }
    /* primaryCCPCH-RSCP */
-   if ((uint64_t)pvalue->primaryCCPCH_RSCP > 127u) {
-      rtxErrAddStrParm(ctx, "PrimaryCCPCH-RSCP");
-      rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_RSCP);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PrimaryCCPCH-RSCP", "primaryCCPCH-RSCP", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->primaryCCPCH_RSCP, 0, 127);
-   RT_CHECK(ctx, stat, "PrimaryCCPCH-RSCP", "primaryCCPCH-RSCP", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MonitoredCellRACH_Result_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const MonitoredCellRACH_Result_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_MonitoredCellRACH_Result_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_MonitoredCellRACH_Result_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MonitoredCellRACH_Result(rtxContext* RT_RESTRICT ctx, const MonitoredCellRACH_Result* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MonitoredCellRACH-Result");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MonitoredCellRACH-Result");
-   /* sfn-SFN-ObsTimeDifference */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SFN_SFN_ObsTimeDifference(ctx, &pvalue->sfn_SFN_ObsTimeDifference);
-      RT_CHECK(ctx, stat, 0, "sfn-SFN-ObsTimeDifference", -1, "MonitoredCellRACH-Result");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_MonitoredCellRACH_Result_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "MonitoredCellRACH-Result");
-   return 0;
-}
-
-int asn1PE_UMTS_MonitoredCellRACH_List(rtxContext* RT_RESTRICT ctx, const MonitoredCellRACH_List* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MonitoredCellRACH-List");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MonitoredCellRACH-List");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MonitoredCellRACH-Result", (int32_t)i, "MonitoredCellRACH-List");
-      stat = asn1PE_UMTS_MonitoredCellRACH_Result(ctx, (const MonitoredCellRACH_Result*)node->data);
-      RT_CHECK(ctx, stat, 0, "MonitoredCellRACH-Result", (int32_t)i, "MonitoredCellRACH-List");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasuredResultsOnRACH(rtxContext* RT_RESTRICT ctx, const MeasuredResultsOnRACH* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasuredResultsOnRACH");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasuredResultsOnRACH");
-   /* currentCell */
-   stat = asn1PE_UMTS_MeasuredResultsOnRACH_currentCell(ctx, &pvalue->currentCell);
-   RT_CHECK(ctx, stat, 0, "currentCell", -1, "MeasuredResultsOnRACH");
-   /* monitoredCells */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MonitoredCellRACH_List(ctx, &pvalue->monitoredCells);
-      RT_CHECK(ctx, stat, 0, "monitoredCells", -1, "MeasuredResultsOnRACH");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MonitoredCellRACH_List_v7g0ext(rtxContext* RT_RESTRICT ctx, const MonitoredCellRACH_List_v7g0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MonitoredCellRACH-List-v7g0ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MonitoredCellRACH-List-v7g0ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DeltaRSCPPerCell", (int32_t)i, "MonitoredCellRACH-List-v7g0ext");
-      stat = asn1PE_UMTS_DeltaRSCPPerCell(ctx, (const DeltaRSCPPerCell*)node->data);
-      RT_CHECK(ctx, stat, 0, "DeltaRSCPPerCell", (int32_t)i, "MonitoredCellRACH-List-v7g0ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasuredResultsOnRACH_v7g0ext(rtxContext* RT_RESTRICT ctx, const MeasuredResultsOnRACH_v7g0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasuredResultsOnRACH-v7g0ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MeasuredResultsOnRACH-v7g0ext");
-   /* currentCell-DeltaRSCP */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DeltaRSCPPerCell(ctx, &pvalue->currentCell_DeltaRSCP);
-      RT_CHECK(ctx, stat, 0, "currentCell-DeltaRSCP", -1, "MeasuredResultsOnRACH-v7g0ext");
-   }
-   /* monitoredCellRACH-List-v7g0ext */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_MonitoredCellRACH_List_v7g0ext(ctx, &pvalue->monitoredCellRACH_List_v7g0ext);
-      RT_CHECK(ctx, stat, 0, "monitoredCellRACH-List-v7g0ext", -1, "MeasuredResultsOnRACH-v7g0ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasuredResultsOnRACHinterFreq(rtxContext* RT_RESTRICT ctx, const MeasuredResultsOnRACHinterFreq* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasuredResultsOnRACHinterFreq");
-   /* interFreqCellIndication-SIB11 */
-   if ((uint64_t)pvalue->interFreqCellIndication_SIB11 > 1u) {
-      rtxErrAddStrParm(ctx, "interFreqCellIndication-SIB11");
-      rtxErrAddUIntParm(ctx, pvalue->interFreqCellIndication_SIB11);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "interFreqCellIndication-SIB11", -1, "MeasuredResultsOnRACHinterFreq");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->interFreqCellIndication_SIB11, 0, 1);
-   RT_CHECK(ctx, stat, 0, "interFreqCellIndication-SIB11", -1, "MeasuredResultsOnRACHinterFreq");
-   /* interFreqCellIndication-SIB12 */
-   if ((uint64_t)pvalue->interFreqCellIndication_SIB12 > 1u) {
-      rtxErrAddStrParm(ctx, "interFreqCellIndication-SIB12");
-      rtxErrAddUIntParm(ctx, pvalue->interFreqCellIndication_SIB12);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "interFreqCellIndication-SIB12", -1, "MeasuredResultsOnRACHinterFreq");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->interFreqCellIndication_SIB12, 0, 1);
-   RT_CHECK(ctx, stat, 0, "interFreqCellIndication-SIB12", -1, "MeasuredResultsOnRACHinterFreq");
-   /* interFreqRACHRepCellsList */
-   stat = asn1PE_UMTS_InterFreqRACHRepCellsList(ctx, &pvalue->interFreqRACHRepCellsList);
-   RT_CHECK(ctx, stat, 0, "interFreqRACHRepCellsList", -1, "MeasuredResultsOnRACHinterFreq");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_MethodType(rtxContext* RT_RESTRICT ctx, UE_Positioning_MethodType value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UE-Positioning-MethodType");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-MethodType");
-   return 0;
-}
-
-int asn1PE_UMTS_PositioningMethod(rtxContext* RT_RESTRICT ctx, PositioningMethod value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "PositioningMethod");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "PositioningMethod");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_ResponseTime(rtxContext* RT_RESTRICT ctx, UE_Positioning_ResponseTime value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UE-Positioning-ResponseTime");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-ResponseTime");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_Accuracy(rtxContext* RT_RESTRICT ctx, UE_Positioning_Accuracy value)
-{
-   int stat = 0;
-   RT_SET_SIZE(ctx, 7, 7);
-   stat = pe_BitString32(ctx, &value, 7, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-Accuracy");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_ReportingQuantity(rtxContext* RT_RESTRICT ctx, const UE_Positioning_ReportingQuantity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-ReportingQuantity");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-ReportingQuantity");
-   /* methodType */
-   if (pvalue->methodType > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->methodType);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UE-Positioning-MethodType", "methodType", -1, "UE-Positioning-ReportingQuantity");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->methodType, 0, 3);
-   RT_CHECK(ctx, stat, "UE-Positioning-MethodType", "methodType", -1, "UE-Positioning-ReportingQuantity");
-   /* positioningMethod */
-   if (pvalue->positioningMethod > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->positioningMethod);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PositioningMethod", "positioningMethod", -1, "UE-Positioning-ReportingQuantity");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->positioningMethod, 0, 3);
-   RT_CHECK(ctx, stat, "PositioningMethod", "positioningMethod", -1, "UE-Positioning-ReportingQuantity");
-   /* dummy1 */
-   if (pvalue->dummy1 > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->dummy1);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UE-Positioning-ResponseTime", "dummy1", -1, "UE-Positioning-ReportingQuantity");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dummy1, 0, 7);
-   RT_CHECK(ctx, stat, "UE-Positioning-ResponseTime", "dummy1", -1, "UE-Positioning-ReportingQuantity");
-   /* horizontal-Accuracy */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_Accuracy(ctx, pvalue->horizontal_Accuracy);
-      RT_CHECK(ctx, stat, 0, "horizontal-Accuracy", -1, "UE-Positioning-ReportingQuantity");
-   }
-   /* gps-TimingOfCellWanted */
-   stat = rtxEncBit(ctx, pvalue->gps_TimingOfCellWanted);
-   RT_CHECK(ctx, stat, 0, "gps-TimingOfCellWanted", -1, "UE-Positioning-ReportingQuantity");
-   /* dummy2 */
-   stat = rtxEncBit(ctx, pvalue->dummy2);
-   RT_CHECK(ctx, stat, 0, "dummy2", -1, "UE-Positioning-ReportingQuantity");
-   /* additionalAssistanceDataRequest */
-   stat = rtxEncBit(ctx, pvalue->additionalAssistanceDataRequest);
-   RT_CHECK(ctx, stat, 0, "additionalAssistanceDataRequest", -1, "UE-Positioning-ReportingQuantity");
-   /* environmentCharacterisation */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->environmentCharacterisation > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->environmentCharacterisation);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "EnvironmentCharacterisation", "environmentCharacterisation", -1, "UE-Positioning-ReportingQuantity");
+      if ((uint64_t)pvalue->primaryCCPCH_RSCP > 127u) {
+         rtxErrAddStrParm(ctx, "PrimaryCCPCH-RSCP");
+         rtxErrAddUIntParm(ctx, pvalue->primaryCCPCH_RSCP);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PrimaryCCPCH-RSCP", "primaryCCPCH-RSCP", -1, 0);
       }
-      stat = pe_ConsUInt64(ctx, pvalue->environmentCharacterisation, 0, 3);
-      RT_CHECK(ctx, stat, "EnvironmentCharacterisation", "environmentCharacterisation", -1, "UE-Positioning-ReportingQuantity");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->primaryCCPCH_RSCP, 0, 127);
+      RT_CHECK_PUT(ctx, cur, stat, "PrimaryCCPCH-RSCP", "primaryCCPCH-RSCP", -1, 0);
    }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_MeasurementInterval(rtxContext* RT_RESTRICT ctx, UE_Positioning_MeasurementInterval value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UE-Positioning-MeasurementInterval");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-MeasurementInterval");
-   return 0;
-}
-
-int asn1PE_UMTS_ThresholdPositionChange(rtxContext* RT_RESTRICT ctx, ThresholdPositionChange value)
-{
-   int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ThresholdPositionChange");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ThresholdPositionChange");
-   return 0;
-}
-
-int asn1PE_UMTS_ThresholdSFN_SFN_Change(rtxContext* RT_RESTRICT ctx, ThresholdSFN_SFN_Change value)
-{
-   int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ThresholdSFN-SFN-Change");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ThresholdSFN-SFN-Change");
-   return 0;
-}
-
-int asn1PE_UMTS_ThresholdSFN_GPS_TOW(rtxContext* RT_RESTRICT ctx, ThresholdSFN_GPS_TOW value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ThresholdSFN-GPS-TOW");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ThresholdSFN-GPS-TOW");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_EventSpecificInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_EventSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-EventSpecificInfo");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UE-Positioning-EventSpecificInfo");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UE-Positioning-EventSpecificInfo");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.e7a > 15) {
-            rtxErrAddUIntParm(ctx, pvalue->u.e7a);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "ThresholdPositionChange", "e7a", -1, "UE-Positioning-EventSpecificInfo");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.e7a, 0, 15);
-         RT_CHECK(ctx, stat, "ThresholdPositionChange", "e7a", -1, "UE-Positioning-EventSpecificInfo");
-         break;
-      case 2:
-         if (pvalue->u.e7b > 15) {
-            rtxErrAddUIntParm(ctx, pvalue->u.e7b);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "ThresholdSFN-SFN-Change", "e7b", -1, "UE-Positioning-EventSpecificInfo");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.e7b, 0, 15);
-         RT_CHECK(ctx, stat, "ThresholdSFN-SFN-Change", "e7b", -1, "UE-Positioning-EventSpecificInfo");
-         break;
-      case 3:
-         if (pvalue->u.e7c > 7) {
-            rtxErrAddUIntParm(ctx, pvalue->u.e7c);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "ThresholdSFN-GPS-TOW", "e7c", -1, "UE-Positioning-EventSpecificInfo");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.e7c, 0, 7);
-         RT_CHECK(ctx, stat, "ThresholdSFN-GPS-TOW", "e7c", -1, "UE-Positioning-EventSpecificInfo");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_EventParam(rtxContext* RT_RESTRICT ctx, const UE_Positioning_EventParam* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-EventParam");
-   /* reportingAmount */
-   if (pvalue->reportingAmount > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->reportingAmount);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportingAmount", "reportingAmount", -1, "UE-Positioning-EventParam");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingAmount, 0, 7);
-   RT_CHECK(ctx, stat, "ReportingAmount", "reportingAmount", -1, "UE-Positioning-EventParam");
-   /* reportFirstFix */
-   stat = rtxEncBit(ctx, pvalue->reportFirstFix);
-   RT_CHECK(ctx, stat, 0, "reportFirstFix", -1, "UE-Positioning-EventParam");
-   /* measurementInterval */
-   if (pvalue->measurementInterval > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->measurementInterval);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UE-Positioning-MeasurementInterval", "measurementInterval", -1, "UE-Positioning-EventParam");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->measurementInterval, 0, 7);
-   RT_CHECK(ctx, stat, "UE-Positioning-MeasurementInterval", "measurementInterval", -1, "UE-Positioning-EventParam");
-   /* eventSpecificInfo */
-   stat = asn1PE_UMTS_UE_Positioning_EventSpecificInfo(ctx, &pvalue->eventSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "eventSpecificInfo", -1, "UE-Positioning-EventParam");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_EventParamList(rtxContext* RT_RESTRICT ctx, const UE_Positioning_EventParamList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-EventParamList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UE-Positioning-EventParamList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UE-Positioning-EventParam", (int32_t)i, "UE-Positioning-EventParamList");
-      stat = asn1PE_UMTS_UE_Positioning_EventParam(ctx, (const UE_Positioning_EventParam*)node->data);
-      RT_CHECK(ctx, stat, 0, "UE-Positioning-EventParam", (int32_t)i, "UE-Positioning-EventParamList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_ReportCriteria(rtxContext* RT_RESTRICT ctx, const UE_Positioning_ReportCriteria* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-ReportCriteria");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UE-Positioning-ReportCriteria");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UE-Positioning-ReportCriteria");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.ue_positioning_ReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ue-positioning-ReportingCriteria", -1, "UE-Positioning-ReportCriteria");
-         stat = asn1PE_UMTS_UE_Positioning_EventParamList(ctx, pvalue->u.ue_positioning_ReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "ue-positioning-ReportingCriteria", -1, "UE-Positioning-ReportCriteria");
-         break;
-      case 2:
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "UE-Positioning-ReportCriteria");
-         stat = asn1PE_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "UE-Positioning-ReportCriteria");
-         break;
-      case 3:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* primaryCPICH-Info */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* cellAndChannelIdentity */
-   stat = asn1PE_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
-   RT_CHECK(ctx, stat, 0, "cellAndChannelIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueBased(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueBased* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueAssisted(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueAssisted* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.ueBased == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueBased", -1, 0);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueBased(ctx, pvalue->u.ueBased);
-         RT_CHECK(ctx, stat, 0, "ueBased", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.ueAssisted == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueAssisted", -1, 0);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode_ueAssisted(ctx, pvalue->u.ueAssisted);
-         RT_CHECK(ctx, stat, 0, "ueAssisted", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_IPDL_Parameters(rtxContext* RT_RESTRICT ctx, const UE_Positioning_IPDL_Parameters* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-IPDL-Parameters");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-IPDL-Parameters");
-   /* ip-Spacing */
-   if (pvalue->ip_Spacing > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->ip_Spacing);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "IP-Spacing", "ip-Spacing", -1, "UE-Positioning-IPDL-Parameters");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ip_Spacing, 0, 7);
-   RT_CHECK(ctx, stat, "IP-Spacing", "ip-Spacing", -1, "UE-Positioning-IPDL-Parameters");
-   /* ip-Length */
-   if (pvalue->ip_Length > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->ip_Length);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "IP-Length", "ip-Length", -1, "UE-Positioning-IPDL-Parameters");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ip_Length, 0, 1);
-   RT_CHECK(ctx, stat, "IP-Length", "ip-Length", -1, "UE-Positioning-IPDL-Parameters");
-   /* ip-Offset */
-   if ((uint64_t)pvalue->ip_Offset > 9u) {
-      rtxErrAddStrParm(ctx, "ip-Offset");
-      rtxErrAddUIntParm(ctx, pvalue->ip_Offset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ip-Offset", -1, "UE-Positioning-IPDL-Parameters");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ip_Offset, 0, 9);
-   RT_CHECK(ctx, stat, 0, "ip-Offset", -1, "UE-Positioning-IPDL-Parameters");
-   /* seed */
-   if ((uint64_t)pvalue->seed > 63u) {
-      rtxErrAddStrParm(ctx, "seed");
-      rtxErrAddUIntParm(ctx, pvalue->seed);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "seed", -1, "UE-Positioning-IPDL-Parameters");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->seed, 0, 63);
-   RT_CHECK(ctx, stat, 0, "seed", -1, "UE-Positioning-IPDL-Parameters");
-   /* burstModeParameters */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_BurstModeParameters(ctx, &pvalue->burstModeParameters);
-      RT_CHECK(ctx, stat, 0, "burstModeParameters", -1, "UE-Positioning-IPDL-Parameters");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-ReferenceCellInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-ReferenceCellInfo");
-   /* sfn */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->sfn > 4095u) {
-         rtxErrAddStrParm(ctx, "sfn");
-         rtxErrAddUIntParm(ctx, pvalue->sfn);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sfn", -1, "UE-Positioning-OTDOA-ReferenceCellInfo");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->sfn, 0, 4095);
-      RT_CHECK(ctx, stat, 0, "sfn", -1, "UE-Positioning-OTDOA-ReferenceCellInfo");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-OTDOA-ReferenceCellInfo");
-   /* frequencyInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "UE-Positioning-OTDOA-ReferenceCellInfo");
-   }
-   /* positioningMode */
-   stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_positioningMode(ctx, &pvalue->positioningMode);
-   RT_CHECK(ctx, stat, 0, "positioningMode", -1, "UE-Positioning-OTDOA-ReferenceCellInfo");
-   /* ue-positioning-IPDL-Paremeters */
+   /* pathloss */
    if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-IPDL-Paremeters", -1, "UE-Positioning-OTDOA-ReferenceCellInfo");
+      if ((uint64_t)(pvalue->pathloss - 46) > 127u) {
+         rtxErrAddStrParm(ctx, "Pathloss");
+         rtxErrAddUIntParm(ctx, pvalue->pathloss);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Pathloss", "pathloss", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->pathloss, 46, 173);
+      RT_CHECK_PUT(ctx, cur, stat, "Pathloss", "pathloss", -1, 0);
+   }
+   /* timeslotISCP-List */
+   if (pvalue->m & 0x8u) {
+      stat = enc_TimeslotISCP_List(ctx, &pvalue->timeslotISCP_List, cur);
+      RT_CHECK(ctx, stat, 0, "timeslotISCP-List", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CellMeasuredResults_r9_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const CellMeasuredResults_r9_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* primaryCPICH-Info */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_CellMeasuredResults_r9_modeSpecificInfo_tdd, pvalue);
 }
 
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_CellMeasuredResults_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellMeasuredResults_r9_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* cellAndChannelIdentity */
-   stat = asn1PE_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
-   RT_CHECK(ctx, stat, 0, "cellAndChannelIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_CellMeasuredResults_r9_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
          RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_CellMeasuredResults_r9_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
          RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
@@ -3063,236 +6068,148 @@ int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo(rtxConte
    return 0;
 }
 
-int asn1PE_UMTS_SFN_SFN_RelTimeDifference1(rtxContext* RT_RESTRICT ctx, const SFN_SFN_RelTimeDifference1* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CellMeasuredResults_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CellMeasuredResults_r9_modeSpecificInfo* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SFN-SFN-RelTimeDifference1");
-   /* sfn-Offset */
-   if ((uint64_t)pvalue->sfn_Offset > 4095u) {
-      rtxErrAddStrParm(ctx, "sfn-Offset");
-      rtxErrAddUIntParm(ctx, pvalue->sfn_Offset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sfn-Offset", -1, "SFN-SFN-RelTimeDifference1");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->sfn_Offset, 0, 4095);
-   RT_CHECK(ctx, stat, 0, "sfn-Offset", -1, "SFN-SFN-RelTimeDifference1");
-   /* sfn-sfn-Reltimedifference */
-   if ((uint64_t)pvalue->sfn_sfn_Reltimedifference > 38399u) {
-      rtxErrAddStrParm(ctx, "sfn-sfn-Reltimedifference");
-      rtxErrAddUIntParm(ctx, pvalue->sfn_sfn_Reltimedifference);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sfn-sfn-Reltimedifference", -1, "SFN-SFN-RelTimeDifference1");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->sfn_sfn_Reltimedifference, 0, 38399);
-   RT_CHECK(ctx, stat, 0, "sfn-sfn-Reltimedifference", -1, "SFN-SFN-RelTimeDifference1");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_CellMeasuredResults_r9_modeSpecificInfo, pvalue);
 }
 
-int asn1PE_UMTS_SFN_SFN_Drift(rtxContext* RT_RESTRICT ctx, SFN_SFN_Drift value)
+RT_MERGED_BODY int enc_CellMeasuredResults_r9(rtxContext* RT_RESTRICT ctx, const CellMeasuredResults_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (value > 28) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SFN-SFN-Drift");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 28);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SFN-SFN-Drift");
-   return 0;
-}
-
-int asn1PE_UMTS_OTDOA_SearchWindowSize(rtxContext* RT_RESTRICT ctx, OTDOA_SearchWindowSize value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "OTDOA-SearchWindowSize");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "OTDOA-SearchWindowSize");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueBased(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueBased* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueAssisted(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueAssisted* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.ueBased == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueBased", -1, 0);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueBased(ctx, pvalue->u.ueBased);
-         RT_CHECK(ctx, stat, 0, "ueBased", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.ueAssisted == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueAssisted", -1, 0);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode_ueAssisted(ctx, pvalue->u.ueAssisted);
-         RT_CHECK(ctx, stat, 0, "ueAssisted", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellInfo");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellMeasuredResults-r9");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellInfo");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-OTDOA-NeighbourCellInfo");
-   /* frequencyInfo */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CellMeasuredResults-r9");
+   /* cellIdentity */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "UE-Positioning-OTDOA-NeighbourCellInfo");
+      stat = enc_CellIdentity(ctx, pvalue->cellIdentity, cur);
+      RT_CHECK(ctx, stat, 0, "cellIdentity", -1, "CellMeasuredResults-r9");
    }
-   /* ue-positioning-IPDL-Paremeters */
+   /* cellSynchronisationInfo */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-IPDL-Paremeters", -1, "UE-Positioning-OTDOA-NeighbourCellInfo");
+      stat = enc_CellSynchronisationInfo(ctx, &pvalue->cellSynchronisationInfo, cur);
+      RT_CHECK(ctx, stat, 0, "cellSynchronisationInfo", -1, "CellMeasuredResults-r9");
    }
-   /* sfn-SFN-RelTimeDifference */
-   stat = asn1PE_UMTS_SFN_SFN_RelTimeDifference1(ctx, &pvalue->sfn_SFN_RelTimeDifference);
-   RT_CHECK(ctx, stat, 0, "sfn-SFN-RelTimeDifference", -1, "UE-Positioning-OTDOA-NeighbourCellInfo");
-   /* sfn-SFN-Drift */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->sfn_SFN_Drift > 28) {
-         rtxErrAddUIntParm(ctx, pvalue->sfn_SFN_Drift);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "SFN-SFN-Drift", "sfn-SFN-Drift", -1, "UE-Positioning-OTDOA-NeighbourCellInfo");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->sfn_SFN_Drift, 0, 28);
-      RT_CHECK(ctx, stat, "SFN-SFN-Drift", "sfn-SFN-Drift", -1, "UE-Positioning-OTDOA-NeighbourCellInfo");
-   }
-   /* searchWindowSize */
-   if (pvalue->searchWindowSize > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->searchWindowSize);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "OTDOA-SearchWindowSize", "searchWindowSize", -1, "UE-Positioning-OTDOA-NeighbourCellInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->searchWindowSize, 0, 7);
-   RT_CHECK(ctx, stat, "OTDOA-SearchWindowSize", "searchWindowSize", -1, "UE-Positioning-OTDOA-NeighbourCellInfo");
-   /* positioningMode */
-   stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_positioningMode(ctx, &pvalue->positioningMode);
-   RT_CHECK(ctx, stat, 0, "positioningMode", -1, "UE-Positioning-OTDOA-NeighbourCellInfo");
+   /* modeSpecificInfo */
+   stat = enc_CellMeasuredResults_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CellMeasuredResults-r9");
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellList(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellList* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CellMeasuredResults_r9(rtxContext* RT_RESTRICT ctx, const CellMeasuredResults_r9* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellMeasuredResults_r9, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellMeasuredResults_v920ext_csgMemberIndication(rtxContext* RT_RESTRICT ctx, CellMeasuredResults_v920ext_csgMemberIndication value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellList");
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CellMeasuredResults_v920ext_csgMemberIndication(rtxContext* RT_RESTRICT ctx, CellMeasuredResults_v920ext_csgMemberIndication value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellMeasuredResults_v920ext_csgMemberIndication, value);
+}
+
+RT_MERGED_BODY int enc_CellMeasuredResults_v920ext(rtxContext* RT_RESTRICT ctx, const CellMeasuredResults_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellMeasuredResults-v920ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CellMeasuredResults-v920ext");
+   /* csgIdentity */
+   if (pvalue->m & 0x1u) {
+      stat = enc_CSG_Identity(ctx, pvalue->csgIdentity, cur);
+      RT_CHECK(ctx, stat, 0, "csgIdentity", -1, "CellMeasuredResults-v920ext");
+   }
+   /* csgMemberIndication */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->csgMemberIndication > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->csgMemberIndication);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "csgMemberIndication", -1, "CellMeasuredResults-v920ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->csgMemberIndication, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "csgMemberIndication", -1, "CellMeasuredResults-v920ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellMeasuredResults_v920ext(rtxContext* RT_RESTRICT ctx, const CellMeasuredResults_v920ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellMeasuredResults_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellMeasurementEventResults_fdd(rtxContext* RT_RESTRICT ctx, const CellMeasurementEventResults_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellList");
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UE-Positioning-OTDOA-NeighbourCellInfo", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList");
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo(ctx, (const UE_Positioning_OTDOA_NeighbourCellInfo*)node->data);
-      RT_CHECK(ctx, stat, 0, "UE-Positioning-OTDOA-NeighbourCellInfo", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList");
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "PrimaryCPICH-Info", (int32_t)i, 0);
+      stat = enc_PrimaryCPICH_Info(ctx, (const PrimaryCPICH_Info*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "PrimaryCPICH-Info", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_AssistanceData* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CellMeasurementEventResults_fdd(rtxContext* RT_RESTRICT ctx, const CellMeasurementEventResults_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellMeasurementEventResults_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellMeasurementEventResults_tdd(rtxContext* RT_RESTRICT ctx, const CellMeasurementEventResults_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-AssistanceData");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-AssistanceData");
-   /* ue-positioning-OTDOA-ReferenceCellInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo(ctx, &pvalue->ue_positioning_OTDOA_ReferenceCellInfo);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-ReferenceCellInfo", -1, "UE-Positioning-OTDOA-AssistanceData");
-   }
-   /* ue-positioning-OTDOA-NeighbourCellList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellList(ctx, &pvalue->ue_positioning_OTDOA_NeighbourCellList);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-NeighbourCellList", -1, "UE-Positioning-OTDOA-AssistanceData");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "PrimaryCCPCH-Info", (int32_t)i, 0);
+      stat = enc_PrimaryCCPCH_Info(ctx, (const PrimaryCCPCH_Info*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "PrimaryCCPCH-Info", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_UTRAN_GPSReferenceTime_utran_GPSTimingOfCell(rtxContext* RT_RESTRICT ctx, const UTRAN_GPSReferenceTime_utran_GPSTimingOfCell* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CellMeasurementEventResults_tdd(rtxContext* RT_RESTRICT ctx, const CellMeasurementEventResults_tdd* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* ms-part */
-   if ((uint64_t)pvalue->ms_part > 1023u) {
-      rtxErrAddStrParm(ctx, "ms-part");
-      rtxErrAddUIntParm(ctx, pvalue->ms_part);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ms-part", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ms_part, 0, 1023);
-   RT_CHECK(ctx, stat, 0, "ms-part", -1, 0);
-   /* ls-part */
-   stat = pe_ConsUInt64(ctx, pvalue->ls_part, 0, 4294967295ULL);
-   RT_CHECK(ctx, stat, 0, "ls-part", -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_CellMeasurementEventResults_tdd, pvalue);
 }
 
-int asn1PE_UMTS_UTRAN_GPSReferenceTime_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UTRAN_GPSReferenceTime_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+static int enc_CellMeasurementEventResults(rtxContext* RT_RESTRICT ctx, const CellMeasurementEventResults* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* referenceIdentity */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->referenceIdentity);
-   RT_CHECK(ctx, stat, 0, "referenceIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UTRAN_GPSReferenceTime_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UTRAN_GPSReferenceTime_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* referenceIdentity */
-   if ((uint64_t)pvalue->referenceIdentity > 127u) {
-      rtxErrAddStrParm(ctx, "CellParametersID");
-      rtxErrAddUIntParm(ctx, pvalue->referenceIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "CellParametersID", "referenceIdentity", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->referenceIdentity, 0, 127);
-   RT_CHECK(ctx, stat, "CellParametersID", "referenceIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UTRAN_GPSReferenceTime_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UTRAN_GPSReferenceTime_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellMeasurementEventResults");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "CellMeasurementEventResults");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "CellMeasurementEventResults");
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_UTRAN_GPSReferenceTime_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, "CellMeasurementEventResults");
+         stat = enc_CellMeasurementEventResults_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "CellMeasurementEventResults");
          break;
       case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_UTRAN_GPSReferenceTime_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, "CellMeasurementEventResults");
+         stat = enc_CellMeasurementEventResults_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "CellMeasurementEventResults");
          break;
       default:
          break;
@@ -3300,1129 +6217,2365 @@ int asn1PE_UMTS_UTRAN_GPSReferenceTime_modeSpecificInfo(rtxContext* RT_RESTRICT 
    return 0;
 }
 
-int asn1PE_UMTS_UTRAN_GPSReferenceTime(rtxContext* RT_RESTRICT ctx, const UTRAN_GPSReferenceTime* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CellMeasurementEventResults(rtxContext* RT_RESTRICT ctx, const CellMeasurementEventResults* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellMeasurementEventResults, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellMeasurementEventResultsOnSecUlFreq_fdd(rtxContext* RT_RESTRICT ctx, const CellMeasurementEventResultsOnSecUlFreq_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UTRAN-GPSReferenceTime");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UTRAN-GPSReferenceTime");
-   /* utran-GPSTimingOfCell */
-   stat = asn1PE_UMTS_UTRAN_GPSReferenceTime_utran_GPSTimingOfCell(ctx, &pvalue->utran_GPSTimingOfCell);
-   RT_CHECK(ctx, stat, 0, "utran-GPSTimingOfCell", -1, "UTRAN-GPSReferenceTime");
-   /* modeSpecificInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UTRAN_GPSReferenceTime_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-      RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UTRAN-GPSReferenceTime");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "PrimaryCPICH-Info", (int32_t)i, 0);
+      stat = enc_PrimaryCPICH_Info(ctx, (const PrimaryCPICH_Info*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "PrimaryCPICH-Info", (int32_t)i, 0);
    }
-   /* sfn */
-   if ((uint64_t)pvalue->sfn > 4095u) {
-      rtxErrAddStrParm(ctx, "sfn");
-      rtxErrAddUIntParm(ctx, pvalue->sfn);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sfn", -1, "UTRAN-GPSReferenceTime");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->sfn, 0, 4095);
-   RT_CHECK(ctx, stat, 0, "sfn", -1, "UTRAN-GPSReferenceTime");
    return 0;
 }
 
-int asn1PE_UMTS_SFN_TOW_Uncertainty(rtxContext* RT_RESTRICT ctx, SFN_TOW_Uncertainty value)
+int asn1PE_UMTS_CellMeasurementEventResultsOnSecUlFreq_fdd(rtxContext* RT_RESTRICT ctx, const CellMeasurementEventResultsOnSecUlFreq_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellMeasurementEventResultsOnSecUlFreq_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellMeasurementEventResultsOnSecUlFreq(rtxContext* RT_RESTRICT ctx, const CellMeasurementEventResultsOnSecUlFreq* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellMeasurementEventResultsOnSecUlFreq");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "CellMeasurementEventResultsOnSecUlFreq");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "CellMeasurementEventResultsOnSecUlFreq");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, "CellMeasurementEventResultsOnSecUlFreq");
+         stat = enc_CellMeasurementEventResultsOnSecUlFreq_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "CellMeasurementEventResultsOnSecUlFreq");
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellMeasurementEventResultsOnSecUlFreq(rtxContext* RT_RESTRICT ctx, const CellMeasurementEventResultsOnSecUlFreq* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellMeasurementEventResultsOnSecUlFreq, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellMeasurementEventResults_LCR_r4(rtxContext* RT_RESTRICT ctx, const CellMeasurementEventResults_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellMeasurementEventResults-LCR-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "CellMeasurementEventResults-LCR-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "PrimaryCCPCH-Info-LCR-r4", (int32_t)i, "CellMeasurementEventResults-LCR-r4");
+      stat = enc_PrimaryCCPCH_Info_LCR_r4(ctx, (const PrimaryCCPCH_Info_LCR_r4*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "PrimaryCCPCH-Info-LCR-r4", (int32_t)i, "CellMeasurementEventResults-LCR-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellMeasurementEventResults_LCR_r4(rtxContext* RT_RESTRICT ctx, const CellMeasurementEventResults_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellMeasurementEventResults_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellSelectReselectInfoPCHFACH_v5b0ext(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoPCHFACH_v5b0ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
+   /* q-Hyst-l-S-PCH */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->q_Hyst_l_S_PCH > 40u) {
+         rtxErrAddStrParm(ctx, "Q-Hyst-S-Fine");
+         rtxErrAddUIntParm(ctx, pvalue->q_Hyst_l_S_PCH);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-Hyst-S-Fine", "q-Hyst-l-S-PCH", -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->q_Hyst_l_S_PCH, 0, 40);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-Hyst-S-Fine", "q-Hyst-l-S-PCH", -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
+   }
+   /* q-Hyst-l-S-FACH */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->q_Hyst_l_S_FACH > 40u) {
+         rtxErrAddStrParm(ctx, "Q-Hyst-S-Fine");
+         rtxErrAddUIntParm(ctx, pvalue->q_Hyst_l_S_FACH);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-Hyst-S-Fine", "q-Hyst-l-S-FACH", -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->q_Hyst_l_S_FACH, 0, 40);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-Hyst-S-Fine", "q-Hyst-l-S-FACH", -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
+   }
+   /* q-Hyst-2-S-PCH */
+   if (pvalue->m & 0x4u) {
+      if ((uint64_t)pvalue->q_Hyst_2_S_PCH > 40u) {
+         rtxErrAddStrParm(ctx, "Q-Hyst-S-Fine");
+         rtxErrAddUIntParm(ctx, pvalue->q_Hyst_2_S_PCH);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-Hyst-S-Fine", "q-Hyst-2-S-PCH", -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->q_Hyst_2_S_PCH, 0, 40);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-Hyst-S-Fine", "q-Hyst-2-S-PCH", -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
+   }
+   /* q-Hyst-2-S-FACH */
+   if (pvalue->m & 0x8u) {
+      if ((uint64_t)pvalue->q_Hyst_2_S_FACH > 40u) {
+         rtxErrAddStrParm(ctx, "Q-Hyst-S-Fine");
+         rtxErrAddUIntParm(ctx, pvalue->q_Hyst_2_S_FACH);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Q-Hyst-S-Fine", "q-Hyst-2-S-FACH", -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->q_Hyst_2_S_FACH, 0, 40);
+      RT_CHECK_PUT(ctx, cur, stat, "Q-Hyst-S-Fine", "q-Hyst-2-S-FACH", -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
+   }
+   /* t-Reselection-S-PCH */
+   if (pvalue->m & 0x10u) {
+      if ((uint64_t)pvalue->t_Reselection_S_PCH > 31u) {
+         rtxErrAddStrParm(ctx, "T-Reselection-S");
+         rtxErrAddUIntParm(ctx, pvalue->t_Reselection_S_PCH);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "T-Reselection-S", "t-Reselection-S-PCH", -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_Reselection_S_PCH, 0, 31);
+      RT_CHECK_PUT(ctx, cur, stat, "T-Reselection-S", "t-Reselection-S-PCH", -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
+   }
+   /* t-Reselection-S-FACH */
+   if (pvalue->m & 0x20u) {
+      if ((uint64_t)pvalue->t_Reselection_S_FACH > 31u) {
+         rtxErrAddStrParm(ctx, "T-Reselection-S-Fine");
+         rtxErrAddUIntParm(ctx, pvalue->t_Reselection_S_FACH);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "T-Reselection-S-Fine", "t-Reselection-S-FACH", -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->t_Reselection_S_FACH, 0, 31);
+      RT_CHECK_PUT(ctx, cur, stat, "T-Reselection-S-Fine", "t-Reselection-S-FACH", -1, "CellSelectReselectInfoPCHFACH-v5b0ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellSelectReselectInfoPCHFACH_v5b0ext(rtxContext* RT_RESTRICT ctx, const CellSelectReselectInfoPCHFACH_v5b0ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellSelectReselectInfoPCHFACH_v5b0ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellsForInterFreqMeasList(rtxContext* RT_RESTRICT ctx, const CellsForInterFreqMeasList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellsForInterFreqMeasList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "CellsForInterFreqMeasList");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 31u) {
+         rtxErrAddStrParm(ctx, "InterFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "InterFreqCellID", "InterFreqCellID", (int32_t)i, "CellsForInterFreqMeasList");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 31);
+      RT_CHECK_PUT(ctx, cur, stat, "InterFreqCellID", "InterFreqCellID", (int32_t)i, "CellsForInterFreqMeasList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellsForInterFreqMeasList(rtxContext* RT_RESTRICT ctx, const CellsForInterFreqMeasList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellsForInterFreqMeasList, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellsForIntraFreqMeasList(rtxContext* RT_RESTRICT ctx, const CellsForIntraFreqMeasList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellsForIntraFreqMeasList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "CellsForIntraFreqMeasList");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 31u) {
+         rtxErrAddStrParm(ctx, "IntraFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "IntraFreqCellID", "IntraFreqCellID", (int32_t)i, "CellsForIntraFreqMeasList");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 31);
+      RT_CHECK_PUT(ctx, cur, stat, "IntraFreqCellID", "IntraFreqCellID", (int32_t)i, "CellsForIntraFreqMeasList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellsForIntraFreqMeasList(rtxContext* RT_RESTRICT ctx, const CellsForIntraFreqMeasList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellsForIntraFreqMeasList, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFreqCellIDOnSecULFreq(rtxContext* RT_RESTRICT ctx, IntraFreqCellIDOnSecULFreq value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 31u) {
+      rtxErrAddStrParm(ctx, "IntraFreqCellIDOnSecULFreq");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "IntraFreqCellIDOnSecULFreq");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqCellIDOnSecULFreq");
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqCellIDOnSecULFreq(rtxContext* RT_RESTRICT ctx, IntraFreqCellIDOnSecULFreq value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqCellIDOnSecULFreq, value);
+}
+
+RT_MERGED_BODY int enc_CellsForIntraFreqMeasListOnSecULFreq(rtxContext* RT_RESTRICT ctx, const CellsForIntraFreqMeasListOnSecULFreq* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellsForIntraFreqMeasListOnSecULFreq");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "CellsForIntraFreqMeasListOnSecULFreq");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 31u) {
+         rtxErrAddStrParm(ctx, "IntraFreqCellIDOnSecULFreq");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "IntraFreqCellIDOnSecULFreq", "IntraFreqCellIDOnSecULFreq", (int32_t)i, "CellsForIntraFreqMeasListOnSecULFreq");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 31);
+      RT_CHECK_PUT(ctx, cur, stat, "IntraFreqCellIDOnSecULFreq", "IntraFreqCellIDOnSecULFreq", (int32_t)i, "CellsForIntraFreqMeasListOnSecULFreq");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellsForIntraFreqMeasListOnSecULFreq(rtxContext* RT_RESTRICT ctx, const CellsForIntraFreqMeasListOnSecULFreq* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellsForIntraFreqMeasListOnSecULFreq, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellToReport(rtxContext* RT_RESTRICT ctx, const CellToReport* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellToReport");
+   /* bsicReported */
+   stat = enc_BSICReported(ctx, &pvalue->bsicReported, cur);
+   RT_CHECK(ctx, stat, 0, "bsicReported", -1, "CellToReport");
+   return 0;
+}
+
+int asn1PE_UMTS_CellToReport(rtxContext* RT_RESTRICT ctx, const CellToReport* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellToReport, pvalue);
+}
+
+RT_MERGED_BODY int enc_CellToReportList(rtxContext* RT_RESTRICT ctx, const CellToReportList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CellToReportList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "CellToReportList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "CellToReport", (int32_t)i, "CellToReportList");
+      stat = enc_CellToReport(ctx, (const CellToReport*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "CellToReport", (int32_t)i, "CellToReportList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CellToReportList(rtxContext* RT_RESTRICT ctx, const CellToReportList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CellToReportList, pvalue);
+}
+
+RT_MERGED_BODY int enc_CNAVclockModel(rtxContext* RT_RESTRICT ctx, const CNAVclockModel* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CNAVclockModel");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CNAVclockModel");
+   /* cnavToc */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pe_BitString32At(ctx, cur, &pvalue->cnavToc, 11, 11);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "cnavToc", -1, "CNAVclockModel");
+   /* cnavTop */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pe_BitString32At(ctx, cur, &pvalue->cnavTop, 11, 11);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "cnavTop", -1, "CNAVclockModel");
+   /* cnavURA0 */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pe_BitString32At(ctx, cur, &pvalue->cnavURA0, 5, 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "cnavURA0", -1, "CNAVclockModel");
+   /* cnavURA1 */
+   RT_SET_SIZE(ctx, 3, 3);
+   stat = pe_BitString32At(ctx, cur, &pvalue->cnavURA1, 3, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "cnavURA1", -1, "CNAVclockModel");
+   /* cnavURA2 */
+   RT_SET_SIZE(ctx, 3, 3);
+   stat = pe_BitString32At(ctx, cur, &pvalue->cnavURA2, 3, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "cnavURA2", -1, "CNAVclockModel");
+   /* cnavAf2 */
+   RT_SET_SIZE(ctx, 10, 10);
+   stat = pe_BitString32At(ctx, cur, &pvalue->cnavAf2, 10, 10);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "cnavAf2", -1, "CNAVclockModel");
+   /* cnavAf1 */
+   RT_SET_SIZE(ctx, 20, 20);
+   stat = pe_BitString32At(ctx, cur, &pvalue->cnavAf1, 20, 20);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "cnavAf1", -1, "CNAVclockModel");
+   /* cnavAf0 */
+   RT_SET_SIZE(ctx, 26, 26);
+   stat = pe_BitString32At(ctx, cur, &pvalue->cnavAf0, 26, 26);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "cnavAf0", -1, "CNAVclockModel");
+   /* cnavTgd */
+   RT_SET_SIZE(ctx, 13, 13);
+   stat = pe_BitString32At(ctx, cur, &pvalue->cnavTgd, 13, 13);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "cnavTgd", -1, "CNAVclockModel");
+   /* cnavISCl1cp */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 13, 13);
+      stat = pe_BitString32At(ctx, cur, &pvalue->cnavISCl1cp, 13, 13);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "cnavISCl1cp", -1, "CNAVclockModel");
+   }
+   /* cnavISCl1cd */
+   if (pvalue->m & 0x2u) {
+      RT_SET_SIZE(ctx, 13, 13);
+      stat = pe_BitString32At(ctx, cur, &pvalue->cnavISCl1cd, 13, 13);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "cnavISCl1cd", -1, "CNAVclockModel");
+   }
+   /* cnavISCl1ca */
+   if (pvalue->m & 0x4u) {
+      RT_SET_SIZE(ctx, 13, 13);
+      stat = pe_BitString32At(ctx, cur, &pvalue->cnavISCl1ca, 13, 13);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "cnavISCl1ca", -1, "CNAVclockModel");
+   }
+   /* cnavISCl2c */
+   if (pvalue->m & 0x8u) {
+      RT_SET_SIZE(ctx, 13, 13);
+      stat = pe_BitString32At(ctx, cur, &pvalue->cnavISCl2c, 13, 13);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "cnavISCl2c", -1, "CNAVclockModel");
+   }
+   /* cnavISCl5i5 */
+   if (pvalue->m & 0x10u) {
+      RT_SET_SIZE(ctx, 13, 13);
+      stat = pe_BitString32At(ctx, cur, &pvalue->cnavISCl5i5, 13, 13);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "cnavISCl5i5", -1, "CNAVclockModel");
+   }
+   /* cnavISCl5q5 */
+   if (pvalue->m & 0x20u) {
+      RT_SET_SIZE(ctx, 13, 13);
+      stat = pe_BitString32At(ctx, cur, &pvalue->cnavISCl5q5, 13, 13);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "cnavISCl5q5", -1, "CNAVclockModel");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CNAVclockModel(rtxContext* RT_RESTRICT ctx, const CNAVclockModel* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CNAVclockModel, pvalue);
+}
+
+RT_MERGED_BODY int enc_CSGCellInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CSGCellInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* startPSC */
+   stat = enc_PrimaryCPICH_Info(ctx, &pvalue->startPSC, cur);
+   RT_CHECK(ctx, stat, 0, "startPSC", -1, 0);
+   /* numberOfPSCs */
+   if ((uint64_t)(pvalue->numberOfPSCs - 1) > 511u) {
+      rtxErrAddStrParm(ctx, "numberOfPSCs");
+      rtxErrAddUIntParm(ctx, pvalue->numberOfPSCs);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "numberOfPSCs", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->numberOfPSCs, 1, 512);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "numberOfPSCs", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CSGCellInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const CSGCellInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CSGCellInfo_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_CSGCellInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CSGCellInfo_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_CSGCellInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CSGCellInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const CSGCellInfo_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CSGCellInfo_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_CSGCellInfo(rtxContext* RT_RESTRICT ctx, const CSGCellInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CSGCellInfo");
+   /* modeSpecificInfo */
+   stat = enc_CSGCellInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "CSGCellInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_CSGCellInfo(rtxContext* RT_RESTRICT ctx, const CSGCellInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CSGCellInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_CSGCellInfoList(rtxContext* RT_RESTRICT ctx, const CSGCellInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CSGCellInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "CSGCellInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "CSGCellInfo", (int32_t)i, "CSGCellInfoList");
+      stat = enc_CSGCellInfo(ctx, (const CSGCellInfo*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "CSGCellInfo", (int32_t)i, "CSGCellInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CSGCellInfoList(rtxContext* RT_RESTRICT ctx, const CSGCellInfoList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CSGCellInfoList, pvalue);
+}
+
+RT_MERGED_BODY int enc_CSGInterFreqCellInfo(rtxContext* RT_RESTRICT ctx, const CSGInterFreqCellInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CSGInterFreqCellInfo");
+   /* frequencyInfo */
+   stat = enc_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "CSGInterFreqCellInfo");
+   /* cSGInterFreqCellInfoListperFreq */
+   stat = enc_CSGCellInfoList(ctx, &pvalue->cSGInterFreqCellInfoListperFreq, cur);
+   RT_CHECK(ctx, stat, 0, "cSGInterFreqCellInfoListperFreq", -1, "CSGInterFreqCellInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_CSGInterFreqCellInfo(rtxContext* RT_RESTRICT ctx, const CSGInterFreqCellInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CSGInterFreqCellInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_CSGInterFreqCellInfoList(rtxContext* RT_RESTRICT ctx, const CSGInterFreqCellInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CSGInterFreqCellInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "CSGInterFreqCellInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "CSGInterFreqCellInfo", (int32_t)i, "CSGInterFreqCellInfoList");
+      stat = enc_CSGInterFreqCellInfo(ctx, (const CSGInterFreqCellInfo*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "CSGInterFreqCellInfo", (int32_t)i, "CSGInterFreqCellInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CSGInterFreqCellInfoList(rtxContext* RT_RESTRICT ctx, const CSGInterFreqCellInfoList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CSGInterFreqCellInfoList, pvalue);
+}
+
+RT_MERGED_BODY int enc_CSGIntraFreqCellInfoList(rtxContext* RT_RESTRICT ctx, const CSGIntraFreqCellInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CSGIntraFreqCellInfoList");
+   stat = enc_CSGCellInfoList(ctx, pvalue, cur);
+   RT_CHECK(ctx, stat, 0, 0, -1, "CSGIntraFreqCellInfoList");
+   return 0;
+}
+
+int asn1PE_UMTS_CSGIntraFreqCellInfoList(rtxContext* RT_RESTRICT ctx, const CSGIntraFreqCellInfoList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CSGIntraFreqCellInfoList, pvalue);
+}
+
+RT_MERGED_BODY int enc_CSGProximityDetection_uTRACSGProximityDetec(rtxContext* RT_RESTRICT ctx, CSGProximityDetection_uTRACSGProximityDetec value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CSGProximityDetection_uTRACSGProximityDetec(rtxContext* RT_RESTRICT ctx, CSGProximityDetection_uTRACSGProximityDetec value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CSGProximityDetection_uTRACSGProximityDetec, value);
+}
+
+RT_MERGED_BODY int enc_CSGProximityDetection_e_UTRACSGProximityDetec(rtxContext* RT_RESTRICT ctx, CSGProximityDetection_e_UTRACSGProximityDetec value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CSGProximityDetection_e_UTRACSGProximityDetec(rtxContext* RT_RESTRICT ctx, CSGProximityDetection_e_UTRACSGProximityDetec value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CSGProximityDetection_e_UTRACSGProximityDetec, value);
+}
+
+RT_MERGED_BODY int enc_CSGProximityDetection(rtxContext* RT_RESTRICT ctx, const CSGProximityDetection* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CSGProximityDetection");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "CSGProximityDetection");
+   /* uTRACSGProximityDetec */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->uTRACSGProximityDetec > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->uTRACSGProximityDetec);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "uTRACSGProximityDetec", -1, "CSGProximityDetection");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->uTRACSGProximityDetec, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "uTRACSGProximityDetec", -1, "CSGProximityDetection");
+   }
+   /* e-UTRACSGProximityDetec */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->e_UTRACSGProximityDetec > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->e_UTRACSGProximityDetec);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "e-UTRACSGProximityDetec", -1, "CSGProximityDetection");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->e_UTRACSGProximityDetec, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "e-UTRACSGProximityDetec", -1, "CSGProximityDetection");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_CSGProximityDetection(rtxContext* RT_RESTRICT ctx, const CSGProximityDetection* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CSGProximityDetection, pvalue);
+}
+
+RT_MERGED_BODY int enc_CSGProximityIndication_cSGproximityInd(rtxContext* RT_RESTRICT ctx, CSGProximityIndication_cSGproximityInd value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value > 1) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SFN-TOW-Uncertainty");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SFN-TOW-Uncertainty");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_UTRAN_GPS_DriftRate(rtxContext* RT_RESTRICT ctx, UTRAN_GPS_DriftRate value)
+int asn1PE_UMTS_CSGProximityIndication_cSGproximityInd(rtxContext* RT_RESTRICT ctx, CSGProximityIndication_cSGproximityInd value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CSGProximityIndication_cSGproximityInd, value);
+}
+
+RT_MERGED_BODY int enc_CSGProximityIndication_radioAccessTechnology_uTRA(rtxContext* RT_RESTRICT ctx, const CSGProximityIndication_radioAccessTechnology_uTRA* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (value > 14) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "UTRAN-GPS-DriftRate");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 14);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UTRAN-GPS-DriftRate");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* cSGFrequencyInfoUTRA */
+   stat = enc_FrequencyInfo(ctx, &pvalue->cSGFrequencyInfoUTRA, cur);
+   RT_CHECK(ctx, stat, 0, "cSGFrequencyInfoUTRA", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_GPS_ReferenceTime(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_ReferenceTime* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CSGProximityIndication_radioAccessTechnology_uTRA(rtxContext* RT_RESTRICT ctx, const CSGProximityIndication_radioAccessTechnology_uTRA* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CSGProximityIndication_radioAccessTechnology_uTRA, pvalue);
+}
+
+RT_MERGED_BODY int enc_CSGProximityIndication_radioAccessTechnology_e_UTRA(rtxContext* RT_RESTRICT ctx, const CSGProximityIndication_radioAccessTechnology_e_UTRA* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-ReferenceTime");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-ReferenceTime");
-   /* gps-Week */
-   if ((uint64_t)pvalue->gps_Week > 1023u) {
-      rtxErrAddStrParm(ctx, "gps-Week");
-      rtxErrAddUIntParm(ctx, pvalue->gps_Week);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "gps-Week", -1, "UE-Positioning-GPS-ReferenceTime");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->gps_Week, 0, 1023);
-   RT_CHECK(ctx, stat, 0, "gps-Week", -1, "UE-Positioning-GPS-ReferenceTime");
-   /* gps-tow-1msec */
-   if ((uint64_t)pvalue->gps_tow_1msec > 604799999u) {
-      rtxErrAddStrParm(ctx, "GPS-TOW-1msec");
-      rtxErrAddUIntParm(ctx, pvalue->gps_tow_1msec);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "GPS-TOW-1msec", "gps-tow-1msec", -1, "UE-Positioning-GPS-ReferenceTime");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->gps_tow_1msec, 0, 604799999);
-   RT_CHECK(ctx, stat, "GPS-TOW-1msec", "gps-tow-1msec", -1, "UE-Positioning-GPS-ReferenceTime");
-   /* utran-GPSReferenceTime */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UTRAN_GPSReferenceTime(ctx, &pvalue->utran_GPSReferenceTime);
-      RT_CHECK(ctx, stat, 0, "utran-GPSReferenceTime", -1, "UE-Positioning-GPS-ReferenceTime");
-   }
-   /* sfn-tow-Uncertainty */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->sfn_tow_Uncertainty > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->sfn_tow_Uncertainty);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "SFN-TOW-Uncertainty", "sfn-tow-Uncertainty", -1, "UE-Positioning-GPS-ReferenceTime");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->sfn_tow_Uncertainty, 0, 1);
-      RT_CHECK(ctx, stat, "SFN-TOW-Uncertainty", "sfn-tow-Uncertainty", -1, "UE-Positioning-GPS-ReferenceTime");
-   }
-   /* utran-GPS-DriftRate */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->utran_GPS_DriftRate > 14) {
-         rtxErrAddUIntParm(ctx, pvalue->utran_GPS_DriftRate);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "UTRAN-GPS-DriftRate", "utran-GPS-DriftRate", -1, "UE-Positioning-GPS-ReferenceTime");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->utran_GPS_DriftRate, 0, 14);
-      RT_CHECK(ctx, stat, "UTRAN-GPS-DriftRate", "utran-GPS-DriftRate", -1, "UE-Positioning-GPS-ReferenceTime");
-   }
-   /* gps-TOW-AssistList */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_GPS_TOW_AssistList(ctx, &pvalue->gps_TOW_AssistList);
-      RT_CHECK(ctx, stat, 0, "gps-TOW-AssistList", -1, "UE-Positioning-GPS-ReferenceTime");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* cSGFrequencyInfoEUTRA */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->cSGFrequencyInfoEUTRA, 0, 65535);
+   RT_CHECK_PUT(ctx, cur, stat, "EARFCN", "cSGFrequencyInfoEUTRA", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_CSGProximityIndication_radioAccessTechnology_e_UTRA(rtxContext* RT_RESTRICT ctx, const CSGProximityIndication_radioAccessTechnology_e_UTRA* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CSGProximityIndication_radioAccessTechnology_e_UTRA, pvalue);
+}
+
+RT_MERGED_BODY int enc_CSGProximityIndication_radioAccessTechnology(rtxContext* RT_RESTRICT ctx, const CSGProximityIndication_radioAccessTechnology* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.uTRA == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "uTRA", -1, 0);
+         stat = enc_CSGProximityIndication_radioAccessTechnology_uTRA(ctx, pvalue->u.uTRA, cur);
+         RT_CHECK(ctx, stat, 0, "uTRA", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.e_UTRA == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e-UTRA", -1, 0);
+         stat = enc_CSGProximityIndication_radioAccessTechnology_e_UTRA(ctx, pvalue->u.e_UTRA, cur);
+         RT_CHECK(ctx, stat, 0, "e-UTRA", -1, 0);
+         break;
+      default:
+         break;
    }
    return 0;
 }
 
-int asn1PE_UMTS_ReferenceLocation(rtxContext* RT_RESTRICT ctx, const ReferenceLocation* RT_RESTRICT pvalue)
+int asn1PE_UMTS_CSGProximityIndication_radioAccessTechnology(rtxContext* RT_RESTRICT ctx, const CSGProximityIndication_radioAccessTechnology* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ReferenceLocation");
-   /* ellipsoidPointAltitudeEllipsoide */
-   stat = asn1PE_UMTS_EllipsoidPointAltitudeEllipsoide(ctx, &pvalue->ellipsoidPointAltitudeEllipsoide);
-   RT_CHECK(ctx, stat, 0, "ellipsoidPointAltitudeEllipsoide", -1, "ReferenceLocation");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_CSGProximityIndication_radioAccessTechnology, pvalue);
 }
 
-int asn1PE_UMTS_UE_Positioning_GPS_DGPS_Corrections(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_DGPS_Corrections* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_CSGProximityIndication(rtxContext* RT_RESTRICT ctx, const CSGProximityIndication* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-DGPS-Corrections");
-   /* gps-TOW */
-   if ((uint64_t)pvalue->gps_TOW > 604799u) {
-      rtxErrAddStrParm(ctx, "GPS-TOW-1sec");
-      rtxErrAddUIntParm(ctx, pvalue->gps_TOW);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "GPS-TOW-1sec", "gps-TOW", -1, "UE-Positioning-GPS-DGPS-Corrections");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "CSGProximityIndication");
+   /* cSGproximityInd */
+   if (pvalue->cSGproximityInd > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->cSGproximityInd);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "cSGproximityInd", -1, "CSGProximityIndication");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->gps_TOW, 0, 604799);
-   RT_CHECK(ctx, stat, "GPS-TOW-1sec", "gps-TOW", -1, "UE-Positioning-GPS-DGPS-Corrections");
-   /* statusHealth */
-   if (pvalue->statusHealth > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->statusHealth);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "DiffCorrectionStatus", "statusHealth", -1, "UE-Positioning-GPS-DGPS-Corrections");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->cSGproximityInd, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "cSGproximityInd", -1, "CSGProximityIndication");
+   /* radioAccessTechnology */
+   stat = enc_CSGProximityIndication_radioAccessTechnology(ctx, &pvalue->radioAccessTechnology, cur);
+   RT_CHECK(ctx, stat, 0, "radioAccessTechnology", -1, "CSGProximityIndication");
+   return 0;
+}
+
+int asn1PE_UMTS_CSGProximityIndication(rtxContext* RT_RESTRICT ctx, const CSGProximityIndication* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_CSGProximityIndication, pvalue);
+}
+
+RT_MERGED_BODY int enc_DataBitAssistance_data_bits(rtxContext* RT_RESTRICT ctx, const DataBitAssistance_data_bits* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 1, 1024);
+   stat = pe_BitStringAt(ctx, cur, pvalue->numbits, pvalue->data);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_DataBitAssistance_data_bits(rtxContext* RT_RESTRICT ctx, const DataBitAssistance_data_bits* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DataBitAssistance_data_bits, pvalue);
+}
+
+RT_MERGED_BODY int enc_DataBitAssistance(rtxContext* RT_RESTRICT ctx, const DataBitAssistance* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DataBitAssistance");
+   /* ganss-signal-id */
+   if ((uint64_t)pvalue->ganss_signal_id > 7u) {
+      rtxErrAddStrParm(ctx, "GANSS-Signal-Id");
+      rtxErrAddUIntParm(ctx, pvalue->ganss_signal_id);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "GANSS-Signal-Id", "ganss-signal-id", -1, "DataBitAssistance");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->statusHealth, 0, 7);
-   RT_CHECK(ctx, stat, "DiffCorrectionStatus", "statusHealth", -1, "UE-Positioning-GPS-DGPS-Corrections");
-   /* dgps-CorrectionSatInfoList */
-   stat = asn1PE_UMTS_DGPS_CorrectionSatInfoList(ctx, &pvalue->dgps_CorrectionSatInfoList);
-   RT_CHECK(ctx, stat, 0, "dgps-CorrectionSatInfoList", -1, "UE-Positioning-GPS-DGPS-Corrections");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ganss_signal_id, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "GANSS-Signal-Id", "ganss-signal-id", -1, "DataBitAssistance");
+   /* data-bits */
+   stat = enc_DataBitAssistance_data_bits(ctx, &pvalue->data_bits, cur);
+   RT_CHECK(ctx, stat, 0, "data-bits", -1, "DataBitAssistance");
    return 0;
 }
 
-int asn1PE_UMTS_SatelliteStatus(rtxContext* RT_RESTRICT ctx, SatelliteStatus value)
+int asn1PE_UMTS_DataBitAssistance(rtxContext* RT_RESTRICT ctx, const DataBitAssistance* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DataBitAssistance, pvalue);
+}
+
+RT_MERGED_BODY int enc_DataBitAssistanceSgnList(rtxContext* RT_RESTRICT ctx, const DataBitAssistanceSgnList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (value > 4) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SatelliteStatus");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DataBitAssistanceSgnList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DataBitAssistanceSgnList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DataBitAssistance", (int32_t)i, "DataBitAssistanceSgnList");
+      stat = enc_DataBitAssistance(ctx, (const DataBitAssistance*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DataBitAssistance", (int32_t)i, "DataBitAssistanceSgnList");
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SatelliteStatus");
    return 0;
 }
 
-int asn1PE_UMTS_SubFrame1Reserved(rtxContext* RT_RESTRICT ctx, const SubFrame1Reserved* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DataBitAssistanceSgnList(rtxContext* RT_RESTRICT ctx, const DataBitAssistanceSgnList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DataBitAssistanceSgnList, pvalue);
+}
+
+RT_MERGED_BODY int enc_DataBitAssistanceSat(rtxContext* RT_RESTRICT ctx, const DataBitAssistanceSat* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SubFrame1Reserved");
-   /* reserved1 */
-   RT_SET_SIZE(ctx, 23, 23);
-   stat = pe_BitString32(ctx, &pvalue->reserved1, 23, 23);
-   RT_CHECK(ctx, stat, 0, "reserved1", -1, "SubFrame1Reserved");
-   /* reserved2 */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->reserved2, 24, 24);
-   RT_CHECK(ctx, stat, 0, "reserved2", -1, "SubFrame1Reserved");
-   /* reserved3 */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->reserved3, 24, 24);
-   RT_CHECK(ctx, stat, 0, "reserved3", -1, "SubFrame1Reserved");
-   /* reserved4 */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->reserved4, 16, 16);
-   RT_CHECK(ctx, stat, 0, "reserved4", -1, "SubFrame1Reserved");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DataBitAssistanceSat");
+   /* satID */
+   if ((uint64_t)pvalue->satID > 63u) {
+      rtxErrAddStrParm(ctx, "satID");
+      rtxErrAddUIntParm(ctx, pvalue->satID);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "satID", -1, "DataBitAssistanceSat");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->satID, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "satID", -1, "DataBitAssistanceSat");
+   /* dataBitAssistanceSgnList */
+   stat = enc_DataBitAssistanceSgnList(ctx, &pvalue->dataBitAssistanceSgnList, cur);
+   RT_CHECK(ctx, stat, 0, "dataBitAssistanceSgnList", -1, "DataBitAssistanceSat");
    return 0;
 }
 
-int asn1PE_UMTS_EphemerisParameter(rtxContext* RT_RESTRICT ctx, const EphemerisParameter* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DataBitAssistanceSat(rtxContext* RT_RESTRICT ctx, const DataBitAssistanceSat* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DataBitAssistanceSat, pvalue);
+}
+
+RT_MERGED_BODY int enc_DataBitAssistanceList(rtxContext* RT_RESTRICT ctx, const DataBitAssistanceList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "EphemerisParameter");
-   /* codeOnL2 */
-   RT_SET_SIZE(ctx, 2, 2);
-   stat = pe_BitString32(ctx, &pvalue->codeOnL2, 2, 2);
-   RT_CHECK(ctx, stat, 0, "codeOnL2", -1, "EphemerisParameter");
-   /* uraIndex */
-   RT_SET_SIZE(ctx, 4, 4);
-   stat = pe_BitString32(ctx, &pvalue->uraIndex, 4, 4);
-   RT_CHECK(ctx, stat, 0, "uraIndex", -1, "EphemerisParameter");
-   /* satHealth */
-   RT_SET_SIZE(ctx, 6, 6);
-   stat = pe_BitString32(ctx, &pvalue->satHealth, 6, 6);
-   RT_CHECK(ctx, stat, 0, "satHealth", -1, "EphemerisParameter");
-   /* iodc */
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DataBitAssistanceList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DataBitAssistanceList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DataBitAssistanceSat", (int32_t)i, "DataBitAssistanceList");
+      stat = enc_DataBitAssistanceSat(ctx, (const DataBitAssistanceSat*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DataBitAssistanceSat", (int32_t)i, "DataBitAssistanceList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DataBitAssistanceList(rtxContext* RT_RESTRICT ctx, const DataBitAssistanceList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DataBitAssistanceList, pvalue);
+}
+
+RT_MERGED_BODY int enc_DeltaPRC(rtxContext* RT_RESTRICT ctx, DeltaPRC value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value < -127 || value > 127) {
+      rtxErrAddStrParm(ctx, "DeltaPRC");
+      rtxErrAddIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "DeltaPRC");
+   }
+   stat = pe_ConsInt64At(ctx, cur, value, -127, 127);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DeltaPRC");
+   return 0;
+}
+
+int asn1PE_UMTS_DeltaPRC(rtxContext* RT_RESTRICT ctx, DeltaPRC value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DeltaPRC, value);
+}
+
+RT_MERGED_BODY int enc_DeltaRRC(rtxContext* RT_RESTRICT ctx, DeltaRRC value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value < -7 || value > 7) {
+      rtxErrAddStrParm(ctx, "DeltaRRC");
+      rtxErrAddIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "DeltaRRC");
+   }
+   stat = pe_ConsInt64At(ctx, cur, value, -7, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DeltaRRC");
+   return 0;
+}
+
+int asn1PE_UMTS_DeltaRRC(rtxContext* RT_RESTRICT ctx, DeltaRRC value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DeltaRRC, value);
+}
+
+RT_MERGED_BODY int enc_DeltaUT1(rtxContext* RT_RESTRICT ctx, const DeltaUT1* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DeltaUT1");
+   /* b1 */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pe_BitString32At(ctx, cur, &pvalue->b1, 11, 11);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "b1", -1, "DeltaUT1");
+   /* b2 */
    RT_SET_SIZE(ctx, 10, 10);
-   stat = pe_BitString32(ctx, &pvalue->iodc, 10, 10);
-   RT_CHECK(ctx, stat, 0, "iodc", -1, "EphemerisParameter");
-   /* l2Pflag */
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pe_BitString32(ctx, &pvalue->l2Pflag, 1, 1);
-   RT_CHECK(ctx, stat, 0, "l2Pflag", -1, "EphemerisParameter");
-   /* sf1Revd */
-   stat = asn1PE_UMTS_SubFrame1Reserved(ctx, &pvalue->sf1Revd);
-   RT_CHECK(ctx, stat, 0, "sf1Revd", -1, "EphemerisParameter");
-   /* t-GD */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->t_GD, 8, 8);
-   RT_CHECK(ctx, stat, 0, "t-GD", -1, "EphemerisParameter");
-   /* t-oc */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->t_oc, 16, 16);
-   RT_CHECK(ctx, stat, 0, "t-oc", -1, "EphemerisParameter");
-   /* af2 */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->af2, 8, 8);
-   RT_CHECK(ctx, stat, 0, "af2", -1, "EphemerisParameter");
-   /* af1 */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->af1, 16, 16);
-   RT_CHECK(ctx, stat, 0, "af1", -1, "EphemerisParameter");
-   /* af0 */
-   RT_SET_SIZE(ctx, 22, 22);
-   stat = pe_BitString32(ctx, &pvalue->af0, 22, 22);
-   RT_CHECK(ctx, stat, 0, "af0", -1, "EphemerisParameter");
-   /* c-rs */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->c_rs, 16, 16);
-   RT_CHECK(ctx, stat, 0, "c-rs", -1, "EphemerisParameter");
-   /* delta-n */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->delta_n, 16, 16);
-   RT_CHECK(ctx, stat, 0, "delta-n", -1, "EphemerisParameter");
-   /* m0 */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->m0, 32, 32);
-   RT_CHECK(ctx, stat, 0, "m0", -1, "EphemerisParameter");
-   /* c-uc */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->c_uc, 16, 16);
-   RT_CHECK(ctx, stat, 0, "c-uc", -1, "EphemerisParameter");
-   /* e */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->e, 32, 32);
-   RT_CHECK(ctx, stat, 0, "e", -1, "EphemerisParameter");
-   /* c-us */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->c_us, 16, 16);
-   RT_CHECK(ctx, stat, 0, "c-us", -1, "EphemerisParameter");
-   /* a-Sqrt */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->a_Sqrt, 32, 32);
-   RT_CHECK(ctx, stat, 0, "a-Sqrt", -1, "EphemerisParameter");
-   /* t-oe */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->t_oe, 16, 16);
-   RT_CHECK(ctx, stat, 0, "t-oe", -1, "EphemerisParameter");
-   /* fitInterval */
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pe_BitString32(ctx, &pvalue->fitInterval, 1, 1);
-   RT_CHECK(ctx, stat, 0, "fitInterval", -1, "EphemerisParameter");
-   /* aodo */
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pe_BitString32(ctx, &pvalue->aodo, 5, 5);
-   RT_CHECK(ctx, stat, 0, "aodo", -1, "EphemerisParameter");
-   /* c-ic */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->c_ic, 16, 16);
-   RT_CHECK(ctx, stat, 0, "c-ic", -1, "EphemerisParameter");
-   /* omega0 */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->omega0, 32, 32);
-   RT_CHECK(ctx, stat, 0, "omega0", -1, "EphemerisParameter");
-   /* c-is */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->c_is, 16, 16);
-   RT_CHECK(ctx, stat, 0, "c-is", -1, "EphemerisParameter");
-   /* i0 */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->i0, 32, 32);
-   RT_CHECK(ctx, stat, 0, "i0", -1, "EphemerisParameter");
-   /* c-rc */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->c_rc, 16, 16);
-   RT_CHECK(ctx, stat, 0, "c-rc", -1, "EphemerisParameter");
-   /* omega */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->omega, 32, 32);
-   RT_CHECK(ctx, stat, 0, "omega", -1, "EphemerisParameter");
-   /* omegaDot */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->omegaDot, 24, 24);
-   RT_CHECK(ctx, stat, 0, "omegaDot", -1, "EphemerisParameter");
-   /* iDot */
-   RT_SET_SIZE(ctx, 14, 14);
-   stat = pe_BitString32(ctx, &pvalue->iDot, 14, 14);
-   RT_CHECK(ctx, stat, 0, "iDot", -1, "EphemerisParameter");
+   stat = pe_BitString32At(ctx, cur, &pvalue->b2, 10, 10);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "b2", -1, "DeltaUT1");
    return 0;
 }
 
-int asn1PE_UMTS_NavigationModelSatInfo(rtxContext* RT_RESTRICT ctx, const NavigationModelSatInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DeltaUT1(rtxContext* RT_RESTRICT ctx, const DeltaUT1* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DeltaUT1, pvalue);
+}
+
+RT_MERGED_BODY int enc_GANSS_Status_Health(rtxContext* RT_RESTRICT ctx, GANSS_Status_Health value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NavigationModelSatInfo");
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "GANSS-Status-Health");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "GANSS-Status-Health");
+   return 0;
+}
+
+int asn1PE_UMTS_GANSS_Status_Health(rtxContext* RT_RESTRICT ctx, GANSS_Status_Health value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSS_Status_Health, value);
+}
+
+RT_MERGED_BODY int enc_UDRE(rtxContext* RT_RESTRICT ctx, UDRE value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "UDRE");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UDRE");
+   return 0;
+}
+
+int asn1PE_UMTS_UDRE(rtxContext* RT_RESTRICT ctx, UDRE value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UDRE, value);
+}
+
+RT_MERGED_BODY int enc_DGANSSSignalInformation(rtxContext* RT_RESTRICT ctx, const DGANSSSignalInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DGANSSSignalInformation");
+   /* satId */
+   if ((uint64_t)pvalue->satId > 63u) {
+      rtxErrAddStrParm(ctx, "satId");
+      rtxErrAddUIntParm(ctx, pvalue->satId);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "satId", -1, "DGANSSSignalInformation");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->satId, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "satId", -1, "DGANSSSignalInformation");
+   /* iode-dganss */
+   RT_SET_SIZE(ctx, 10, 10);
+   stat = pe_BitString32At(ctx, cur, &pvalue->iode_dganss, 10, 10);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "iode-dganss", -1, "DGANSSSignalInformation");
+   /* udre */
+   if (pvalue->udre > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->udre);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UDRE", "udre", -1, "DGANSSSignalInformation");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->udre, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "UDRE", "udre", -1, "DGANSSSignalInformation");
+   /* ganss-prc */
+   if (pvalue->ganss_prc < -2047 || pvalue->ganss_prc > 2047) {
+      rtxErrAddStrParm(ctx, "ganss-prc");
+      rtxErrAddIntParm(ctx, pvalue->ganss_prc);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ganss-prc", -1, "DGANSSSignalInformation");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->ganss_prc, -2047, 2047);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ganss-prc", -1, "DGANSSSignalInformation");
+   /* ganss-rrc */
+   if (pvalue->ganss_rrc < -127 || pvalue->ganss_rrc > 127) {
+      rtxErrAddStrParm(ctx, "ganss-rrc");
+      rtxErrAddIntParm(ctx, pvalue->ganss_rrc);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ganss-rrc", -1, "DGANSSSignalInformation");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->ganss_rrc, -127, 127);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ganss-rrc", -1, "DGANSSSignalInformation");
+   return 0;
+}
+
+int asn1PE_UMTS_DGANSSSignalInformation(rtxContext* RT_RESTRICT ctx, const DGANSSSignalInformation* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DGANSSSignalInformation, pvalue);
+}
+
+RT_MERGED_BODY int enc_DGANSSSignalInformationList(rtxContext* RT_RESTRICT ctx, const DGANSSSignalInformationList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DGANSSSignalInformationList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DGANSSSignalInformationList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DGANSSSignalInformation", (int32_t)i, "DGANSSSignalInformationList");
+      stat = enc_DGANSSSignalInformation(ctx, (const DGANSSSignalInformation*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DGANSSSignalInformation", (int32_t)i, "DGANSSSignalInformationList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DGANSSSignalInformationList(rtxContext* RT_RESTRICT ctx, const DGANSSSignalInformationList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DGANSSSignalInformationList, pvalue);
+}
+
+RT_MERGED_BODY int enc_DGANSSInfo(rtxContext* RT_RESTRICT ctx, const DGANSSInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DGANSSInfo");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NavigationModelSatInfo");
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DGANSSInfo");
+   /* ganssSignalId */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->ganssSignalId > 7u) {
+         rtxErrAddStrParm(ctx, "GANSS-Signal-Id");
+         rtxErrAddUIntParm(ctx, pvalue->ganssSignalId);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "GANSS-Signal-Id", "ganssSignalId", -1, "DGANSSInfo");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ganssSignalId, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "GANSS-Signal-Id", "ganssSignalId", -1, "DGANSSInfo");
+   }
+   /* ganssStatusHealth */
+   if (pvalue->ganssStatusHealth > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->ganssStatusHealth);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "GANSS-Status-Health", "ganssStatusHealth", -1, "DGANSSInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ganssStatusHealth, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "GANSS-Status-Health", "ganssStatusHealth", -1, "DGANSSInfo");
+   /* dgansssignalInformationList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_DGANSSSignalInformationList(ctx, &pvalue->dgansssignalInformationList, cur);
+      RT_CHECK(ctx, stat, 0, "dgansssignalInformationList", -1, "DGANSSInfo");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DGANSSInfo(rtxContext* RT_RESTRICT ctx, const DGANSSInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DGANSSInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_UDREGrowthRate(rtxContext* RT_RESTRICT ctx, UDREGrowthRate value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "UDREGrowthRate");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UDREGrowthRate");
+   return 0;
+}
+
+int asn1PE_UMTS_UDREGrowthRate(rtxContext* RT_RESTRICT ctx, UDREGrowthRate value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UDREGrowthRate, value);
+}
+
+RT_MERGED_BODY int enc_UDREValidityTime(rtxContext* RT_RESTRICT ctx, UDREValidityTime value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "UDREValidityTime");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UDREValidityTime");
+   return 0;
+}
+
+int asn1PE_UMTS_UDREValidityTime(rtxContext* RT_RESTRICT ctx, UDREValidityTime value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UDREValidityTime, value);
+}
+
+RT_MERGED_BODY int enc_DGANSSSignalInformation_r9(rtxContext* RT_RESTRICT ctx, const DGANSSSignalInformation_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DGANSSSignalInformation-r9");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DGANSSSignalInformation-r9");
+   /* satId */
+   if ((uint64_t)pvalue->satId > 63u) {
+      rtxErrAddStrParm(ctx, "satId");
+      rtxErrAddUIntParm(ctx, pvalue->satId);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "satId", -1, "DGANSSSignalInformation-r9");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->satId, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "satId", -1, "DGANSSSignalInformation-r9");
+   /* iode-dganss */
+   RT_SET_SIZE(ctx, 10, 10);
+   stat = pe_BitString32At(ctx, cur, &pvalue->iode_dganss, 10, 10);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "iode-dganss", -1, "DGANSSSignalInformation-r9");
+   /* udre */
+   if (pvalue->udre > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->udre);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UDRE", "udre", -1, "DGANSSSignalInformation-r9");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->udre, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "UDRE", "udre", -1, "DGANSSSignalInformation-r9");
+   /* ganss-prc */
+   if (pvalue->ganss_prc < -2047 || pvalue->ganss_prc > 2047) {
+      rtxErrAddStrParm(ctx, "ganss-prc");
+      rtxErrAddIntParm(ctx, pvalue->ganss_prc);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ganss-prc", -1, "DGANSSSignalInformation-r9");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->ganss_prc, -2047, 2047);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ganss-prc", -1, "DGANSSSignalInformation-r9");
+   /* ganss-rrc */
+   if (pvalue->ganss_rrc < -127 || pvalue->ganss_rrc > 127) {
+      rtxErrAddStrParm(ctx, "ganss-rrc");
+      rtxErrAddIntParm(ctx, pvalue->ganss_rrc);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ganss-rrc", -1, "DGANSSSignalInformation-r9");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->ganss_rrc, -127, 127);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ganss-rrc", -1, "DGANSSSignalInformation-r9");
+   /* udreGrowthRate */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->udreGrowthRate > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->udreGrowthRate);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UDREGrowthRate", "udreGrowthRate", -1, "DGANSSSignalInformation-r9");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->udreGrowthRate, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "UDREGrowthRate", "udreGrowthRate", -1, "DGANSSSignalInformation-r9");
+   }
+   /* udreValidityTime */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->udreValidityTime > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->udreValidityTime);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UDREValidityTime", "udreValidityTime", -1, "DGANSSSignalInformation-r9");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->udreValidityTime, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "UDREValidityTime", "udreValidityTime", -1, "DGANSSSignalInformation-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DGANSSSignalInformation_r9(rtxContext* RT_RESTRICT ctx, const DGANSSSignalInformation_r9* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DGANSSSignalInformation_r9, pvalue);
+}
+
+RT_MERGED_BODY int enc_DGANSSSignalInformationList_r9(rtxContext* RT_RESTRICT ctx, const DGANSSSignalInformationList_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DGANSSSignalInformationList-r9");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DGANSSSignalInformationList-r9");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DGANSSSignalInformation-r9", (int32_t)i, "DGANSSSignalInformationList-r9");
+      stat = enc_DGANSSSignalInformation_r9(ctx, (const DGANSSSignalInformation_r9*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DGANSSSignalInformation-r9", (int32_t)i, "DGANSSSignalInformationList-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DGANSSSignalInformationList_r9(rtxContext* RT_RESTRICT ctx, const DGANSSSignalInformationList_r9* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DGANSSSignalInformationList_r9, pvalue);
+}
+
+RT_MERGED_BODY int enc_DGANSSInfo_r9(rtxContext* RT_RESTRICT ctx, const DGANSSInfo_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DGANSSInfo-r9");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DGANSSInfo-r9");
+   /* ganssSignalId */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->ganssSignalId > 7u) {
+         rtxErrAddStrParm(ctx, "GANSS-Signal-Id");
+         rtxErrAddUIntParm(ctx, pvalue->ganssSignalId);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "GANSS-Signal-Id", "ganssSignalId", -1, "DGANSSInfo-r9");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ganssSignalId, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "GANSS-Signal-Id", "ganssSignalId", -1, "DGANSSInfo-r9");
+   }
+   /* ganssStatusHealth */
+   if (pvalue->ganssStatusHealth > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->ganssStatusHealth);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "GANSS-Status-Health", "ganssStatusHealth", -1, "DGANSSInfo-r9");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ganssStatusHealth, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "GANSS-Status-Health", "ganssStatusHealth", -1, "DGANSSInfo-r9");
+   /* dgansssignalInformationList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_DGANSSSignalInformationList_r9(ctx, &pvalue->dgansssignalInformationList, cur);
+      RT_CHECK(ctx, stat, 0, "dgansssignalInformationList", -1, "DGANSSInfo-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DGANSSInfo_r9(rtxContext* RT_RESTRICT ctx, const DGANSSInfo_r9* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DGANSSInfo_r9, pvalue);
+}
+
+RT_MERGED_BODY int enc_DGANSSSignalInformation_v920ext(rtxContext* RT_RESTRICT ctx, const DGANSSSignalInformation_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DGANSSSignalInformation-v920ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DGANSSSignalInformation-v920ext");
+   /* udreGrowthRate */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->udreGrowthRate > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->udreGrowthRate);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UDREGrowthRate", "udreGrowthRate", -1, "DGANSSSignalInformation-v920ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->udreGrowthRate, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "UDREGrowthRate", "udreGrowthRate", -1, "DGANSSSignalInformation-v920ext");
+   }
+   /* udreValidityTime */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->udreValidityTime > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->udreValidityTime);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UDREValidityTime", "udreValidityTime", -1, "DGANSSSignalInformation-v920ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->udreValidityTime, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "UDREValidityTime", "udreValidityTime", -1, "DGANSSSignalInformation-v920ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DGANSSSignalInformation_v920ext(rtxContext* RT_RESTRICT ctx, const DGANSSSignalInformation_v920ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DGANSSSignalInformation_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_DGANSSSignalInformationList_v920ext(rtxContext* RT_RESTRICT ctx, const DGANSSSignalInformationList_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DGANSSSignalInformationList-v920ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DGANSSSignalInformationList-v920ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DGANSSSignalInformation-v920ext", (int32_t)i, "DGANSSSignalInformationList-v920ext");
+      stat = enc_DGANSSSignalInformation_v920ext(ctx, (const DGANSSSignalInformation_v920ext*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DGANSSSignalInformation-v920ext", (int32_t)i, "DGANSSSignalInformationList-v920ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DGANSSSignalInformationList_v920ext(rtxContext* RT_RESTRICT ctx, const DGANSSSignalInformationList_v920ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DGANSSSignalInformationList_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_DGANSSInfo_v920ext(rtxContext* RT_RESTRICT ctx, const DGANSSInfo_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DGANSSInfo-v920ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DGANSSInfo-v920ext");
+   /* dgansssignalInformationList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_DGANSSSignalInformationList_v920ext(ctx, &pvalue->dgansssignalInformationList, cur);
+      RT_CHECK(ctx, stat, 0, "dgansssignalInformationList", -1, "DGANSSInfo-v920ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DGANSSInfo_v920ext(rtxContext* RT_RESTRICT ctx, const DGANSSInfo_v920ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DGANSSInfo_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_DGANSSInfoList(rtxContext* RT_RESTRICT ctx, const DGANSSInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DGANSSInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DGANSSInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DGANSSInfo", (int32_t)i, "DGANSSInfoList");
+      stat = enc_DGANSSInfo(ctx, (const DGANSSInfo*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DGANSSInfo", (int32_t)i, "DGANSSInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DGANSSInfoList(rtxContext* RT_RESTRICT ctx, const DGANSSInfoList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DGANSSInfoList, pvalue);
+}
+
+RT_MERGED_BODY int enc_DGANSSInfoList_r9(rtxContext* RT_RESTRICT ctx, const DGANSSInfoList_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DGANSSInfoList-r9");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DGANSSInfoList-r9");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DGANSSInfo-r9", (int32_t)i, "DGANSSInfoList-r9");
+      stat = enc_DGANSSInfo_r9(ctx, (const DGANSSInfo_r9*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DGANSSInfo-r9", (int32_t)i, "DGANSSInfoList-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DGANSSInfoList_r9(rtxContext* RT_RESTRICT ctx, const DGANSSInfoList_r9* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DGANSSInfoList_r9, pvalue);
+}
+
+RT_MERGED_BODY int enc_DGANSSInfoList_v920ext(rtxContext* RT_RESTRICT ctx, const DGANSSInfoList_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DGANSSInfoList-v920ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DGANSSInfoList-v920ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DGANSSInfo-v920ext", (int32_t)i, "DGANSSInfoList-v920ext");
+      stat = enc_DGANSSInfo_v920ext(ctx, (const DGANSSInfo_v920ext*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DGANSSInfo-v920ext", (int32_t)i, "DGANSSInfoList-v920ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DGANSSInfoList_v920ext(rtxContext* RT_RESTRICT ctx, const DGANSSInfoList_v920ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DGANSSInfoList_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_DGANSS_Sig_Id_Req(rtxContext* RT_RESTRICT ctx, DGANSS_Sig_Id_Req value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32At(ctx, cur, &value, 8, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DGANSS-Sig-Id-Req");
+   return 0;
+}
+
+int asn1PE_UMTS_DGANSS_Sig_Id_Req(rtxContext* RT_RESTRICT ctx, DGANSS_Sig_Id_Req value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DGANSS_Sig_Id_Req, value);
+}
+
+RT_MERGED_BODY int enc_IODE(rtxContext* RT_RESTRICT ctx, IODE value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IODE");
+   return 0;
+}
+
+int asn1PE_UMTS_IODE(rtxContext* RT_RESTRICT ctx, IODE value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IODE, value);
+}
+
+RT_MERGED_BODY int enc_PRC(rtxContext* RT_RESTRICT ctx, PRC value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value < -2047 || value > 2047) {
+      rtxErrAddStrParm(ctx, "PRC");
+      rtxErrAddIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "PRC");
+   }
+   stat = pe_ConsInt64At(ctx, cur, value, -2047, 2047);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PRC");
+   return 0;
+}
+
+int asn1PE_UMTS_PRC(rtxContext* RT_RESTRICT ctx, PRC value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PRC, value);
+}
+
+RT_MERGED_BODY int enc_RRC(rtxContext* RT_RESTRICT ctx, RRC value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value < -127 || value > 127) {
+      rtxErrAddStrParm(ctx, "RRC");
+      rtxErrAddIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "RRC");
+   }
+   stat = pe_ConsInt64At(ctx, cur, value, -127, 127);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RRC");
+   return 0;
+}
+
+int asn1PE_UMTS_RRC(rtxContext* RT_RESTRICT ctx, RRC value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RRC, value);
+}
+
+RT_MERGED_BODY int enc_DGPS_CorrectionSatInfo(rtxContext* RT_RESTRICT ctx, const DGPS_CorrectionSatInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DGPS-CorrectionSatInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DGPS-CorrectionSatInfo");
    /* satID */
    if ((uint64_t)pvalue->satID > 63u) {
       rtxErrAddStrParm(ctx, "SatID");
       rtxErrAddUIntParm(ctx, pvalue->satID);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "SatID", "satID", -1, "NavigationModelSatInfo");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SatID", "satID", -1, "DGPS-CorrectionSatInfo");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->satID, 0, 63);
-   RT_CHECK(ctx, stat, "SatID", "satID", -1, "NavigationModelSatInfo");
-   /* satelliteStatus */
-   if (pvalue->satelliteStatus > 4) {
-      rtxErrAddUIntParm(ctx, pvalue->satelliteStatus);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "SatelliteStatus", "satelliteStatus", -1, "NavigationModelSatInfo");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->satID, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, "SatID", "satID", -1, "DGPS-CorrectionSatInfo");
+   /* iode */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->iode, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, "IODE", "iode", -1, "DGPS-CorrectionSatInfo");
+   /* udre */
+   if (pvalue->udre > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->udre);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UDRE", "udre", -1, "DGPS-CorrectionSatInfo");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->satelliteStatus, 0, 4);
-   RT_CHECK(ctx, stat, "SatelliteStatus", "satelliteStatus", -1, "NavigationModelSatInfo");
-   /* ephemerisParameter */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->udre, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "UDRE", "udre", -1, "DGPS-CorrectionSatInfo");
+   /* prc */
+   if (pvalue->prc < -2047 || pvalue->prc > 2047) {
+      rtxErrAddStrParm(ctx, "PRC");
+      rtxErrAddIntParm(ctx, pvalue->prc);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PRC", "prc", -1, "DGPS-CorrectionSatInfo");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->prc, -2047, 2047);
+   RT_CHECK_PUT(ctx, cur, stat, "PRC", "prc", -1, "DGPS-CorrectionSatInfo");
+   /* rrc */
+   if (pvalue->rrc < -127 || pvalue->rrc > 127) {
+      rtxErrAddStrParm(ctx, "RRC");
+      rtxErrAddIntParm(ctx, pvalue->rrc);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RRC", "rrc", -1, "DGPS-CorrectionSatInfo");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->rrc, -127, 127);
+   RT_CHECK_PUT(ctx, cur, stat, "RRC", "rrc", -1, "DGPS-CorrectionSatInfo");
+   /* dummy1 */
+   if (pvalue->dummy1 < -127 || pvalue->dummy1 > 127) {
+      rtxErrAddStrParm(ctx, "DeltaPRC");
+      rtxErrAddIntParm(ctx, pvalue->dummy1);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DeltaPRC", "dummy1", -1, "DGPS-CorrectionSatInfo");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->dummy1, -127, 127);
+   RT_CHECK_PUT(ctx, cur, stat, "DeltaPRC", "dummy1", -1, "DGPS-CorrectionSatInfo");
+   /* dummy2 */
+   if (pvalue->dummy2 < -7 || pvalue->dummy2 > 7) {
+      rtxErrAddStrParm(ctx, "DeltaRRC");
+      rtxErrAddIntParm(ctx, pvalue->dummy2);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DeltaRRC", "dummy2", -1, "DGPS-CorrectionSatInfo");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->dummy2, -7, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "DeltaRRC", "dummy2", -1, "DGPS-CorrectionSatInfo");
+   /* dummy3 */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_EphemerisParameter(ctx, &pvalue->ephemerisParameter);
-      RT_CHECK(ctx, stat, 0, "ephemerisParameter", -1, "NavigationModelSatInfo");
+      if (pvalue->dummy3 < -127 || pvalue->dummy3 > 127) {
+         rtxErrAddStrParm(ctx, "DeltaPRC");
+         rtxErrAddIntParm(ctx, pvalue->dummy3);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DeltaPRC", "dummy3", -1, "DGPS-CorrectionSatInfo");
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->dummy3, -127, 127);
+      RT_CHECK_PUT(ctx, cur, stat, "DeltaPRC", "dummy3", -1, "DGPS-CorrectionSatInfo");
+   }
+   /* dummy4 */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->dummy4 < -7 || pvalue->dummy4 > 7) {
+         rtxErrAddStrParm(ctx, "DeltaRRC");
+         rtxErrAddIntParm(ctx, pvalue->dummy4);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DeltaRRC", "dummy4", -1, "DGPS-CorrectionSatInfo");
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->dummy4, -7, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "DeltaRRC", "dummy4", -1, "DGPS-CorrectionSatInfo");
    }
    return 0;
 }
 
-int asn1PE_UMTS_NavigationModelSatInfoList(rtxContext* RT_RESTRICT ctx, const NavigationModelSatInfoList* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DGPS_CorrectionSatInfo(rtxContext* RT_RESTRICT ctx, const DGPS_CorrectionSatInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DGPS_CorrectionSatInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_DGPS_CorrectionSatInfo_r9(rtxContext* RT_RESTRICT ctx, const DGPS_CorrectionSatInfo_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NavigationModelSatInfoList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DGPS-CorrectionSatInfo-r9");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DGPS-CorrectionSatInfo-r9");
+   /* satID */
+   if ((uint64_t)pvalue->satID > 63u) {
+      rtxErrAddStrParm(ctx, "SatID");
+      rtxErrAddUIntParm(ctx, pvalue->satID);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SatID", "satID", -1, "DGPS-CorrectionSatInfo-r9");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->satID, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, "SatID", "satID", -1, "DGPS-CorrectionSatInfo-r9");
+   /* iode */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->iode, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, "IODE", "iode", -1, "DGPS-CorrectionSatInfo-r9");
+   /* udre */
+   if (pvalue->udre > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->udre);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UDRE", "udre", -1, "DGPS-CorrectionSatInfo-r9");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->udre, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "UDRE", "udre", -1, "DGPS-CorrectionSatInfo-r9");
+   /* prc */
+   if (pvalue->prc < -2047 || pvalue->prc > 2047) {
+      rtxErrAddStrParm(ctx, "PRC");
+      rtxErrAddIntParm(ctx, pvalue->prc);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "PRC", "prc", -1, "DGPS-CorrectionSatInfo-r9");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->prc, -2047, 2047);
+   RT_CHECK_PUT(ctx, cur, stat, "PRC", "prc", -1, "DGPS-CorrectionSatInfo-r9");
+   /* rrc */
+   if (pvalue->rrc < -127 || pvalue->rrc > 127) {
+      rtxErrAddStrParm(ctx, "RRC");
+      rtxErrAddIntParm(ctx, pvalue->rrc);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "RRC", "rrc", -1, "DGPS-CorrectionSatInfo-r9");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->rrc, -127, 127);
+   RT_CHECK_PUT(ctx, cur, stat, "RRC", "rrc", -1, "DGPS-CorrectionSatInfo-r9");
+   /* udreGrowthRate */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->udreGrowthRate > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->udreGrowthRate);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UDREGrowthRate", "udreGrowthRate", -1, "DGPS-CorrectionSatInfo-r9");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->udreGrowthRate, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "UDREGrowthRate", "udreGrowthRate", -1, "DGPS-CorrectionSatInfo-r9");
+   }
+   /* udreValidityTime */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->udreValidityTime > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->udreValidityTime);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UDREValidityTime", "udreValidityTime", -1, "DGPS-CorrectionSatInfo-r9");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->udreValidityTime, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "UDREValidityTime", "udreValidityTime", -1, "DGPS-CorrectionSatInfo-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DGPS_CorrectionSatInfo_r9(rtxContext* RT_RESTRICT ctx, const DGPS_CorrectionSatInfo_r9* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DGPS_CorrectionSatInfo_r9, pvalue);
+}
+
+RT_MERGED_BODY int enc_DGPS_CorrectionSatInfo_v920ext(rtxContext* RT_RESTRICT ctx, const DGPS_CorrectionSatInfo_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DGPS-CorrectionSatInfo-v920ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DGPS-CorrectionSatInfo-v920ext");
+   /* udreGrowthRate */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->udreGrowthRate > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->udreGrowthRate);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UDREGrowthRate", "udreGrowthRate", -1, "DGPS-CorrectionSatInfo-v920ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->udreGrowthRate, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "UDREGrowthRate", "udreGrowthRate", -1, "DGPS-CorrectionSatInfo-v920ext");
+   }
+   /* udreValidityTime */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->udreValidityTime > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->udreValidityTime);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UDREValidityTime", "udreValidityTime", -1, "DGPS-CorrectionSatInfo-v920ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->udreValidityTime, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "UDREValidityTime", "udreValidityTime", -1, "DGPS-CorrectionSatInfo-v920ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DGPS_CorrectionSatInfo_v920ext(rtxContext* RT_RESTRICT ctx, const DGPS_CorrectionSatInfo_v920ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DGPS_CorrectionSatInfo_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_DGPS_CorrectionSatInfoList(rtxContext* RT_RESTRICT ctx, const DGPS_CorrectionSatInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DGPS-CorrectionSatInfoList");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NavigationModelSatInfoList");
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DGPS-CorrectionSatInfoList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NavigationModelSatInfo", (int32_t)i, "NavigationModelSatInfoList");
-      stat = asn1PE_UMTS_NavigationModelSatInfo(ctx, (const NavigationModelSatInfo*)node->data);
-      RT_CHECK(ctx, stat, 0, "NavigationModelSatInfo", (int32_t)i, "NavigationModelSatInfoList");
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DGPS-CorrectionSatInfo", (int32_t)i, "DGPS-CorrectionSatInfoList");
+      stat = enc_DGPS_CorrectionSatInfo(ctx, (const DGPS_CorrectionSatInfo*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DGPS-CorrectionSatInfo", (int32_t)i, "DGPS-CorrectionSatInfoList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_GPS_NavigationModel(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_NavigationModel* RT_RESTRICT pvalue)
+int asn1PE_UMTS_DGPS_CorrectionSatInfoList(rtxContext* RT_RESTRICT ctx, const DGPS_CorrectionSatInfoList* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-NavigationModel");
-   /* navigationModelSatInfoList */
-   stat = asn1PE_UMTS_NavigationModelSatInfoList(ctx, &pvalue->navigationModelSatInfoList);
-   RT_CHECK(ctx, stat, 0, "navigationModelSatInfoList", -1, "UE-Positioning-GPS-NavigationModel");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_DGPS_CorrectionSatInfoList, pvalue);
 }
 
-int asn1PE_UMTS_UE_Positioning_GPS_IonosphericModel(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_IonosphericModel* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_DGPS_CorrectionSatInfoList_r9(rtxContext* RT_RESTRICT ctx, const DGPS_CorrectionSatInfoList_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-IonosphericModel");
-   /* alpha0 */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->alpha0, 8, 8);
-   RT_CHECK(ctx, stat, 0, "alpha0", -1, "UE-Positioning-GPS-IonosphericModel");
-   /* alpha1 */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->alpha1, 8, 8);
-   RT_CHECK(ctx, stat, 0, "alpha1", -1, "UE-Positioning-GPS-IonosphericModel");
-   /* alpha2 */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->alpha2, 8, 8);
-   RT_CHECK(ctx, stat, 0, "alpha2", -1, "UE-Positioning-GPS-IonosphericModel");
-   /* alpha3 */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->alpha3, 8, 8);
-   RT_CHECK(ctx, stat, 0, "alpha3", -1, "UE-Positioning-GPS-IonosphericModel");
-   /* beta0 */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->beta0, 8, 8);
-   RT_CHECK(ctx, stat, 0, "beta0", -1, "UE-Positioning-GPS-IonosphericModel");
-   /* beta1 */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->beta1, 8, 8);
-   RT_CHECK(ctx, stat, 0, "beta1", -1, "UE-Positioning-GPS-IonosphericModel");
-   /* beta2 */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->beta2, 8, 8);
-   RT_CHECK(ctx, stat, 0, "beta2", -1, "UE-Positioning-GPS-IonosphericModel");
-   /* beta3 */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->beta3, 8, 8);
-   RT_CHECK(ctx, stat, 0, "beta3", -1, "UE-Positioning-GPS-IonosphericModel");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_UTC_Model(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_UTC_Model* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-UTC-Model");
-   /* a1 */
-   RT_SET_SIZE(ctx, 24, 24);
-   stat = pe_BitString32(ctx, &pvalue->a1, 24, 24);
-   RT_CHECK(ctx, stat, 0, "a1", -1, "UE-Positioning-GPS-UTC-Model");
-   /* a0 */
-   RT_SET_SIZE(ctx, 32, 32);
-   stat = pe_BitString32(ctx, &pvalue->a0, 32, 32);
-   RT_CHECK(ctx, stat, 0, "a0", -1, "UE-Positioning-GPS-UTC-Model");
-   /* t-ot */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->t_ot, 8, 8);
-   RT_CHECK(ctx, stat, 0, "t-ot", -1, "UE-Positioning-GPS-UTC-Model");
-   /* wn-t */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->wn_t, 8, 8);
-   RT_CHECK(ctx, stat, 0, "wn-t", -1, "UE-Positioning-GPS-UTC-Model");
-   /* delta-t-LS */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->delta_t_LS, 8, 8);
-   RT_CHECK(ctx, stat, 0, "delta-t-LS", -1, "UE-Positioning-GPS-UTC-Model");
-   /* wn-lsf */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->wn_lsf, 8, 8);
-   RT_CHECK(ctx, stat, 0, "wn-lsf", -1, "UE-Positioning-GPS-UTC-Model");
-   /* dn */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->dn, 8, 8);
-   RT_CHECK(ctx, stat, 0, "dn", -1, "UE-Positioning-GPS-UTC-Model");
-   /* delta-t-LSF */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->delta_t_LSF, 8, 8);
-   RT_CHECK(ctx, stat, 0, "delta-t-LSF", -1, "UE-Positioning-GPS-UTC-Model");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_Almanac_sv_GlobalHealth(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_Almanac_sv_GlobalHealth* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   RT_SET_SIZE(ctx, 364, 364);
-   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_Almanac(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_Almanac* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-Almanac");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-Almanac");
-   /* wn-a */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->wn_a, 8, 8);
-   RT_CHECK(ctx, stat, 0, "wn-a", -1, "UE-Positioning-GPS-Almanac");
-   /* almanacSatInfoList */
-   stat = asn1PE_UMTS_AlmanacSatInfoList(ctx, &pvalue->almanacSatInfoList);
-   RT_CHECK(ctx, stat, 0, "almanacSatInfoList", -1, "UE-Positioning-GPS-Almanac");
-   /* sv-GlobalHealth */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_Almanac_sv_GlobalHealth(ctx, &pvalue->sv_GlobalHealth);
-      RT_CHECK(ctx, stat, 0, "sv-GlobalHealth", -1, "UE-Positioning-GPS-Almanac");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_AcquisitionAssistance(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_AcquisitionAssistance* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-AcquisitionAssistance");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-AcquisitionAssistance");
-   /* gps-ReferenceTime */
-   if ((uint64_t)pvalue->gps_ReferenceTime > 604799999u) {
-      rtxErrAddStrParm(ctx, "GPS-TOW-1msec");
-      rtxErrAddUIntParm(ctx, pvalue->gps_ReferenceTime);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "GPS-TOW-1msec", "gps-ReferenceTime", -1, "UE-Positioning-GPS-AcquisitionAssistance");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->gps_ReferenceTime, 0, 604799999);
-   RT_CHECK(ctx, stat, "GPS-TOW-1msec", "gps-ReferenceTime", -1, "UE-Positioning-GPS-AcquisitionAssistance");
-   /* utran-GPSReferenceTime */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UTRAN_GPSReferenceTime(ctx, &pvalue->utran_GPSReferenceTime);
-      RT_CHECK(ctx, stat, 0, "utran-GPSReferenceTime", -1, "UE-Positioning-GPS-AcquisitionAssistance");
-   }
-   /* satelliteInformationList */
-   stat = asn1PE_UMTS_AcquisitionSatInfoList(ctx, &pvalue->satelliteInformationList);
-   RT_CHECK(ctx, stat, 0, "satelliteInformationList", -1, "UE-Positioning-GPS-AcquisitionAssistance");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* referenceIdentity */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->referenceIdentity);
-   RT_CHECK(ctx, stat, 0, "referenceIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* referenceIdentity */
-   if ((uint64_t)pvalue->referenceIdentity > 127u) {
-      rtxErrAddStrParm(ctx, "CellParametersID");
-      rtxErrAddUIntParm(ctx, pvalue->referenceIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "CellParametersID", "referenceIdentity", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->referenceIdentity, 0, 127);
-   RT_CHECK(ctx, stat, "CellParametersID", "referenceIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_ReferenceCellInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_ReferenceCellInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-ReferenceCellInfo");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_UE_Positioning_GPS_ReferenceCellInfo_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-GPS-ReferenceCellInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_AssistanceData(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_AssistanceData* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-AssistanceData");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 9) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 8) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 9) & 1u) << 0), 10);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-AssistanceData");
-   /* ue-positioning-GPS-ReferenceTime */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_ReferenceTime(ctx, &pvalue->ue_positioning_GPS_ReferenceTime);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceTime", -1, "UE-Positioning-GPS-AssistanceData");
-   }
-   /* ue-positioning-GPS-ReferenceLocation */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_ReferenceLocation(ctx, &pvalue->ue_positioning_GPS_ReferenceLocation);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceLocation", -1, "UE-Positioning-GPS-AssistanceData");
-   }
-   /* ue-positioning-GPS-DGPS-Corrections */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_DGPS_Corrections(ctx, &pvalue->ue_positioning_GPS_DGPS_Corrections);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-DGPS-Corrections", -1, "UE-Positioning-GPS-AssistanceData");
-   }
-   /* ue-positioning-GPS-NavigationModel */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_NavigationModel(ctx, &pvalue->ue_positioning_GPS_NavigationModel);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-NavigationModel", -1, "UE-Positioning-GPS-AssistanceData");
-   }
-   /* ue-positioning-GPS-IonosphericModel */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_IonosphericModel(ctx, &pvalue->ue_positioning_GPS_IonosphericModel);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-IonosphericModel", -1, "UE-Positioning-GPS-AssistanceData");
-   }
-   /* ue-positioning-GPS-UTC-Model */
-   if (pvalue->m & 0x20u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_UTC_Model(ctx, &pvalue->ue_positioning_GPS_UTC_Model);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-UTC-Model", -1, "UE-Positioning-GPS-AssistanceData");
-   }
-   /* ue-positioning-GPS-Almanac */
-   if (pvalue->m & 0x40u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_Almanac(ctx, &pvalue->ue_positioning_GPS_Almanac);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Almanac", -1, "UE-Positioning-GPS-AssistanceData");
-   }
-   /* ue-positioning-GPS-AcquisitionAssistance */
-   if (pvalue->m & 0x80u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_AcquisitionAssistance(ctx, &pvalue->ue_positioning_GPS_AcquisitionAssistance);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AcquisitionAssistance", -1, "UE-Positioning-GPS-AssistanceData");
-   }
-   /* ue-positioning-GPS-Real-timeIntegrity */
-   if (pvalue->m & 0x100u) {
-      stat = asn1PE_UMTS_BadSatList(ctx, &pvalue->ue_positioning_GPS_Real_timeIntegrity);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Real-timeIntegrity", -1, "UE-Positioning-GPS-AssistanceData");
-   }
-   /* dummy */
-   if (pvalue->m & 0x200u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_ReferenceCellInfo(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "UE-Positioning-GPS-AssistanceData");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_Measurement(rtxContext* RT_RESTRICT ctx, const UE_Positioning_Measurement* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-Measurement");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-Measurement");
-   /* ue-positioning-ReportingQuantity */
-   stat = asn1PE_UMTS_UE_Positioning_ReportingQuantity(ctx, &pvalue->ue_positioning_ReportingQuantity);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-ReportingQuantity", -1, "UE-Positioning-Measurement");
-   /* reportCriteria */
-   stat = asn1PE_UMTS_UE_Positioning_ReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "UE-Positioning-Measurement");
-   /* ue-positioning-OTDOA-AssistanceData */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData", -1, "UE-Positioning-Measurement");
-   }
-   /* ue-positioning-GPS-AssistanceData */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_AssistanceData(ctx, &pvalue->ue_positioning_GPS_AssistanceData);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AssistanceData", -1, "UE-Positioning-Measurement");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TrafficVolumeReportCriteria(rtxContext* RT_RESTRICT ctx, const TrafficVolumeReportCriteria* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TrafficVolumeReportCriteria");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "TrafficVolumeReportCriteria");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "TrafficVolumeReportCriteria");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.trafficVolumeReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "trafficVolumeReportingCriteria", -1, "TrafficVolumeReportCriteria");
-         stat = asn1PE_UMTS_TrafficVolumeReportingCriteria(ctx, pvalue->u.trafficVolumeReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "trafficVolumeReportingCriteria", -1, "TrafficVolumeReportCriteria");
-         break;
-      case 2:
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "TrafficVolumeReportCriteria");
-         stat = asn1PE_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "TrafficVolumeReportCriteria");
-         break;
-      case 3:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TrafficVolumeMeasurement(rtxContext* RT_RESTRICT ctx, const TrafficVolumeMeasurement* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TrafficVolumeMeasurement");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TrafficVolumeMeasurement");
-   /* trafficVolumeMeasurementObjectList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_TrafficVolumeMeasurementObjectList(ctx, &pvalue->trafficVolumeMeasurementObjectList);
-      RT_CHECK(ctx, stat, 0, "trafficVolumeMeasurementObjectList", -1, "TrafficVolumeMeasurement");
-   }
-   /* trafficVolumeMeasQuantity */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_TrafficVolumeMeasQuantity(ctx, &pvalue->trafficVolumeMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "trafficVolumeMeasQuantity", -1, "TrafficVolumeMeasurement");
-   }
-   /* trafficVolumeReportingQuantity */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_TrafficVolumeReportingQuantity(ctx, &pvalue->trafficVolumeReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "trafficVolumeReportingQuantity", -1, "TrafficVolumeMeasurement");
-   }
-   /* measurementValidity */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "TrafficVolumeMeasurement");
-   }
-   /* reportCriteria */
-   stat = asn1PE_UMTS_TrafficVolumeReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "TrafficVolumeMeasurement");
-   return 0;
-}
-
-int asn1PE_UMTS_SIR_TFCS(rtxContext* RT_RESTRICT ctx, SIR_TFCS value)
-{
-   int stat = 0;
-   stat = asn1PE_UMTS_TFCS_IdentityPlain(ctx, value);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SIR-TFCS");
-   return 0;
-}
-
-int asn1PE_UMTS_SIR_TFCS_List(rtxContext* RT_RESTRICT ctx, const SIR_TFCS_List* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SIR-TFCS-List");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DGPS-CorrectionSatInfoList-r9");
+   const rtxDListNode* node;
    uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "SIR-TFCS-List");
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DGPS-CorrectionSatInfoList-r9");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DGPS-CorrectionSatInfo-r9", (int32_t)i, "DGPS-CorrectionSatInfoList-r9");
+      stat = enc_DGPS_CorrectionSatInfo_r9(ctx, (const DGPS_CorrectionSatInfo_r9*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DGPS-CorrectionSatInfo-r9", (int32_t)i, "DGPS-CorrectionSatInfoList-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DGPS_CorrectionSatInfoList_r9(rtxContext* RT_RESTRICT ctx, const DGPS_CorrectionSatInfoList_r9* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DGPS_CorrectionSatInfoList_r9, pvalue);
+}
+
+RT_MERGED_BODY int enc_DGPS_CorrectionSatInfoList_v920ext(rtxContext* RT_RESTRICT ctx, const DGPS_CorrectionSatInfoList_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "DGPS-CorrectionSatInfoList-v920ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "DGPS-CorrectionSatInfoList-v920ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DGPS-CorrectionSatInfo-v920ext", (int32_t)i, "DGPS-CorrectionSatInfoList-v920ext");
+      stat = enc_DGPS_CorrectionSatInfo_v920ext(ctx, (const DGPS_CorrectionSatInfo_v920ext*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DGPS-CorrectionSatInfo-v920ext", (int32_t)i, "DGPS-CorrectionSatInfoList-v920ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_DGPS_CorrectionSatInfoList_v920ext(rtxContext* RT_RESTRICT ctx, const DGPS_CorrectionSatInfoList_v920ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DGPS_CorrectionSatInfoList_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_DiffCorrectionStatus(rtxContext* RT_RESTRICT ctx, DiffCorrectionStatus value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "DiffCorrectionStatus");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "DiffCorrectionStatus");
+   return 0;
+}
+
+int asn1PE_UMTS_DiffCorrectionStatus(rtxContext* RT_RESTRICT ctx, DiffCorrectionStatus value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_DiffCorrectionStatus, value);
+}
+
+RT_MERGED_BODY int enc_EllipsoidPoint_latitudeSign(rtxContext* RT_RESTRICT ctx, EllipsoidPoint_latitudeSign value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_EllipsoidPoint_latitudeSign(rtxContext* RT_RESTRICT ctx, EllipsoidPoint_latitudeSign value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EllipsoidPoint_latitudeSign, value);
+}
+
+RT_MERGED_BODY int enc_EllipsoidPoint(rtxContext* RT_RESTRICT ctx, const EllipsoidPoint* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "EllipsoidPoint");
+   /* latitudeSign */
+   if (pvalue->latitudeSign > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->latitudeSign);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "latitudeSign", -1, "EllipsoidPoint");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->latitudeSign, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "latitudeSign", -1, "EllipsoidPoint");
+   /* latitude */
+   if ((uint64_t)pvalue->latitude > 8388607u) {
+      rtxErrAddStrParm(ctx, "latitude");
+      rtxErrAddUIntParm(ctx, pvalue->latitude);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "latitude", -1, "EllipsoidPoint");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->latitude, 0, 8388607);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "latitude", -1, "EllipsoidPoint");
+   /* longitude */
+   if (pvalue->longitude < -8388608 || pvalue->longitude > 8388607) {
+      rtxErrAddStrParm(ctx, "longitude");
+      rtxErrAddIntParm(ctx, pvalue->longitude);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "longitude", -1, "EllipsoidPoint");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->longitude, -8388608, 8388607);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "longitude", -1, "EllipsoidPoint");
+   return 0;
+}
+
+int asn1PE_UMTS_EllipsoidPoint(rtxContext* RT_RESTRICT ctx, const EllipsoidPoint* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EllipsoidPoint, pvalue);
+}
+
+RT_MERGED_BODY int enc_EllipsoidPointAltitude_latitudeSign(rtxContext* RT_RESTRICT ctx, EllipsoidPointAltitude_latitudeSign value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_EllipsoidPointAltitude_latitudeSign(rtxContext* RT_RESTRICT ctx, EllipsoidPointAltitude_latitudeSign value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EllipsoidPointAltitude_latitudeSign, value);
+}
+
+RT_MERGED_BODY int enc_EllipsoidPointAltitude_altitudeDirection(rtxContext* RT_RESTRICT ctx, EllipsoidPointAltitude_altitudeDirection value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_EllipsoidPointAltitude_altitudeDirection(rtxContext* RT_RESTRICT ctx, EllipsoidPointAltitude_altitudeDirection value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EllipsoidPointAltitude_altitudeDirection, value);
+}
+
+RT_MERGED_BODY int enc_EllipsoidPointAltitude(rtxContext* RT_RESTRICT ctx, const EllipsoidPointAltitude* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "EllipsoidPointAltitude");
+   /* latitudeSign */
+   if (pvalue->latitudeSign > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->latitudeSign);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "latitudeSign", -1, "EllipsoidPointAltitude");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->latitudeSign, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "latitudeSign", -1, "EllipsoidPointAltitude");
+   /* latitude */
+   if ((uint64_t)pvalue->latitude > 8388607u) {
+      rtxErrAddStrParm(ctx, "latitude");
+      rtxErrAddUIntParm(ctx, pvalue->latitude);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "latitude", -1, "EllipsoidPointAltitude");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->latitude, 0, 8388607);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "latitude", -1, "EllipsoidPointAltitude");
+   /* longitude */
+   if (pvalue->longitude < -8388608 || pvalue->longitude > 8388607) {
+      rtxErrAddStrParm(ctx, "longitude");
+      rtxErrAddIntParm(ctx, pvalue->longitude);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "longitude", -1, "EllipsoidPointAltitude");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->longitude, -8388608, 8388607);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "longitude", -1, "EllipsoidPointAltitude");
+   /* altitudeDirection */
+   if (pvalue->altitudeDirection > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->altitudeDirection);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "altitudeDirection", -1, "EllipsoidPointAltitude");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->altitudeDirection, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "altitudeDirection", -1, "EllipsoidPointAltitude");
+   /* altitude */
+   if ((uint64_t)pvalue->altitude > 32767u) {
+      rtxErrAddStrParm(ctx, "altitude");
+      rtxErrAddUIntParm(ctx, pvalue->altitude);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "altitude", -1, "EllipsoidPointAltitude");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->altitude, 0, 32767);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "altitude", -1, "EllipsoidPointAltitude");
+   return 0;
+}
+
+int asn1PE_UMTS_EllipsoidPointAltitude(rtxContext* RT_RESTRICT ctx, const EllipsoidPointAltitude* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EllipsoidPointAltitude, pvalue);
+}
+
+RT_MERGED_BODY int enc_EllipsoidPointAltitudeEllipsoide_latitudeSign(rtxContext* RT_RESTRICT ctx, EllipsoidPointAltitudeEllipsoide_latitudeSign value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_EllipsoidPointAltitudeEllipsoide_latitudeSign(rtxContext* RT_RESTRICT ctx, EllipsoidPointAltitudeEllipsoide_latitudeSign value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EllipsoidPointAltitudeEllipsoide_latitudeSign, value);
+}
+
+RT_MERGED_BODY int enc_EllipsoidPointAltitudeEllipsoide_altitudeDirection(rtxContext* RT_RESTRICT ctx, EllipsoidPointAltitudeEllipsoide_altitudeDirection value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_EllipsoidPointAltitudeEllipsoide_altitudeDirection(rtxContext* RT_RESTRICT ctx, EllipsoidPointAltitudeEllipsoide_altitudeDirection value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EllipsoidPointAltitudeEllipsoide_altitudeDirection, value);
+}
+
+RT_MERGED_BODY int enc_EllipsoidPointAltitudeEllipsoide(rtxContext* RT_RESTRICT ctx, const EllipsoidPointAltitudeEllipsoide* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "EllipsoidPointAltitudeEllipsoide");
+   /* latitudeSign */
+   if (pvalue->latitudeSign > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->latitudeSign);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "latitudeSign", -1, "EllipsoidPointAltitudeEllipsoide");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->latitudeSign, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "latitudeSign", -1, "EllipsoidPointAltitudeEllipsoide");
+   /* latitude */
+   if ((uint64_t)pvalue->latitude > 8388607u) {
+      rtxErrAddStrParm(ctx, "latitude");
+      rtxErrAddUIntParm(ctx, pvalue->latitude);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "latitude", -1, "EllipsoidPointAltitudeEllipsoide");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->latitude, 0, 8388607);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "latitude", -1, "EllipsoidPointAltitudeEllipsoide");
+   /* longitude */
+   if (pvalue->longitude < -8388608 || pvalue->longitude > 8388607) {
+      rtxErrAddStrParm(ctx, "longitude");
+      rtxErrAddIntParm(ctx, pvalue->longitude);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "longitude", -1, "EllipsoidPointAltitudeEllipsoide");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->longitude, -8388608, 8388607);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "longitude", -1, "EllipsoidPointAltitudeEllipsoide");
+   /* altitudeDirection */
+   if (pvalue->altitudeDirection > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->altitudeDirection);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "altitudeDirection", -1, "EllipsoidPointAltitudeEllipsoide");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->altitudeDirection, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "altitudeDirection", -1, "EllipsoidPointAltitudeEllipsoide");
+   /* altitude */
+   if ((uint64_t)pvalue->altitude > 32767u) {
+      rtxErrAddStrParm(ctx, "altitude");
+      rtxErrAddUIntParm(ctx, pvalue->altitude);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "altitude", -1, "EllipsoidPointAltitudeEllipsoide");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->altitude, 0, 32767);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "altitude", -1, "EllipsoidPointAltitudeEllipsoide");
+   /* uncertaintySemiMajor */
+   if ((uint64_t)pvalue->uncertaintySemiMajor > 127u) {
+      rtxErrAddStrParm(ctx, "uncertaintySemiMajor");
+      rtxErrAddUIntParm(ctx, pvalue->uncertaintySemiMajor);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "uncertaintySemiMajor", -1, "EllipsoidPointAltitudeEllipsoide");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->uncertaintySemiMajor, 0, 127);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "uncertaintySemiMajor", -1, "EllipsoidPointAltitudeEllipsoide");
+   /* uncertaintySemiMinor */
+   if ((uint64_t)pvalue->uncertaintySemiMinor > 127u) {
+      rtxErrAddStrParm(ctx, "uncertaintySemiMinor");
+      rtxErrAddUIntParm(ctx, pvalue->uncertaintySemiMinor);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "uncertaintySemiMinor", -1, "EllipsoidPointAltitudeEllipsoide");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->uncertaintySemiMinor, 0, 127);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "uncertaintySemiMinor", -1, "EllipsoidPointAltitudeEllipsoide");
+   /* orientationMajorAxis */
+   if ((uint64_t)pvalue->orientationMajorAxis > 89u) {
+      rtxErrAddStrParm(ctx, "orientationMajorAxis");
+      rtxErrAddUIntParm(ctx, pvalue->orientationMajorAxis);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "orientationMajorAxis", -1, "EllipsoidPointAltitudeEllipsoide");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->orientationMajorAxis, 0, 89);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "orientationMajorAxis", -1, "EllipsoidPointAltitudeEllipsoide");
+   /* uncertaintyAltitude */
+   if ((uint64_t)pvalue->uncertaintyAltitude > 127u) {
+      rtxErrAddStrParm(ctx, "uncertaintyAltitude");
+      rtxErrAddUIntParm(ctx, pvalue->uncertaintyAltitude);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "uncertaintyAltitude", -1, "EllipsoidPointAltitudeEllipsoide");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->uncertaintyAltitude, 0, 127);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "uncertaintyAltitude", -1, "EllipsoidPointAltitudeEllipsoide");
+   /* confidence */
+   if ((uint64_t)pvalue->confidence > 100u) {
+      rtxErrAddStrParm(ctx, "confidence");
+      rtxErrAddUIntParm(ctx, pvalue->confidence);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "confidence", -1, "EllipsoidPointAltitudeEllipsoide");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->confidence, 0, 100);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "confidence", -1, "EllipsoidPointAltitudeEllipsoide");
+   return 0;
+}
+
+int asn1PE_UMTS_EllipsoidPointAltitudeEllipsoide(rtxContext* RT_RESTRICT ctx, const EllipsoidPointAltitudeEllipsoide* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EllipsoidPointAltitudeEllipsoide, pvalue);
+}
+
+RT_MERGED_BODY int enc_EllipsoidPointUncertCircle_latitudeSign(rtxContext* RT_RESTRICT ctx, EllipsoidPointUncertCircle_latitudeSign value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_EllipsoidPointUncertCircle_latitudeSign(rtxContext* RT_RESTRICT ctx, EllipsoidPointUncertCircle_latitudeSign value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EllipsoidPointUncertCircle_latitudeSign, value);
+}
+
+RT_MERGED_BODY int enc_EllipsoidPointUncertCircle(rtxContext* RT_RESTRICT ctx, const EllipsoidPointUncertCircle* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "EllipsoidPointUncertCircle");
+   /* latitudeSign */
+   if (pvalue->latitudeSign > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->latitudeSign);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "latitudeSign", -1, "EllipsoidPointUncertCircle");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->latitudeSign, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "latitudeSign", -1, "EllipsoidPointUncertCircle");
+   /* latitude */
+   if ((uint64_t)pvalue->latitude > 8388607u) {
+      rtxErrAddStrParm(ctx, "latitude");
+      rtxErrAddUIntParm(ctx, pvalue->latitude);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "latitude", -1, "EllipsoidPointUncertCircle");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->latitude, 0, 8388607);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "latitude", -1, "EllipsoidPointUncertCircle");
+   /* longitude */
+   if (pvalue->longitude < -8388608 || pvalue->longitude > 8388607) {
+      rtxErrAddStrParm(ctx, "longitude");
+      rtxErrAddIntParm(ctx, pvalue->longitude);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "longitude", -1, "EllipsoidPointUncertCircle");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->longitude, -8388608, 8388607);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "longitude", -1, "EllipsoidPointUncertCircle");
+   /* uncertaintyCode */
+   if ((uint64_t)pvalue->uncertaintyCode > 127u) {
+      rtxErrAddStrParm(ctx, "uncertaintyCode");
+      rtxErrAddUIntParm(ctx, pvalue->uncertaintyCode);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "uncertaintyCode", -1, "EllipsoidPointUncertCircle");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->uncertaintyCode, 0, 127);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "uncertaintyCode", -1, "EllipsoidPointUncertCircle");
+   return 0;
+}
+
+int asn1PE_UMTS_EllipsoidPointUncertCircle(rtxContext* RT_RESTRICT ctx, const EllipsoidPointUncertCircle* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EllipsoidPointUncertCircle, pvalue);
+}
+
+RT_MERGED_BODY int enc_EllipsoidPointUncertEllipse_latitudeSign(rtxContext* RT_RESTRICT ctx, EllipsoidPointUncertEllipse_latitudeSign value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_EllipsoidPointUncertEllipse_latitudeSign(rtxContext* RT_RESTRICT ctx, EllipsoidPointUncertEllipse_latitudeSign value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EllipsoidPointUncertEllipse_latitudeSign, value);
+}
+
+RT_MERGED_BODY int enc_EllipsoidPointUncertEllipse(rtxContext* RT_RESTRICT ctx, const EllipsoidPointUncertEllipse* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "EllipsoidPointUncertEllipse");
+   /* latitudeSign */
+   if (pvalue->latitudeSign > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->latitudeSign);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "latitudeSign", -1, "EllipsoidPointUncertEllipse");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->latitudeSign, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "latitudeSign", -1, "EllipsoidPointUncertEllipse");
+   /* latitude */
+   if ((uint64_t)pvalue->latitude > 8388607u) {
+      rtxErrAddStrParm(ctx, "latitude");
+      rtxErrAddUIntParm(ctx, pvalue->latitude);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "latitude", -1, "EllipsoidPointUncertEllipse");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->latitude, 0, 8388607);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "latitude", -1, "EllipsoidPointUncertEllipse");
+   /* longitude */
+   if (pvalue->longitude < -8388608 || pvalue->longitude > 8388607) {
+      rtxErrAddStrParm(ctx, "longitude");
+      rtxErrAddIntParm(ctx, pvalue->longitude);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "longitude", -1, "EllipsoidPointUncertEllipse");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->longitude, -8388608, 8388607);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "longitude", -1, "EllipsoidPointUncertEllipse");
+   /* uncertaintySemiMajor */
+   if ((uint64_t)pvalue->uncertaintySemiMajor > 127u) {
+      rtxErrAddStrParm(ctx, "uncertaintySemiMajor");
+      rtxErrAddUIntParm(ctx, pvalue->uncertaintySemiMajor);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "uncertaintySemiMajor", -1, "EllipsoidPointUncertEllipse");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->uncertaintySemiMajor, 0, 127);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "uncertaintySemiMajor", -1, "EllipsoidPointUncertEllipse");
+   /* uncertaintySemiMinor */
+   if ((uint64_t)pvalue->uncertaintySemiMinor > 127u) {
+      rtxErrAddStrParm(ctx, "uncertaintySemiMinor");
+      rtxErrAddUIntParm(ctx, pvalue->uncertaintySemiMinor);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "uncertaintySemiMinor", -1, "EllipsoidPointUncertEllipse");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->uncertaintySemiMinor, 0, 127);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "uncertaintySemiMinor", -1, "EllipsoidPointUncertEllipse");
+   /* orientationMajorAxis */
+   if ((uint64_t)pvalue->orientationMajorAxis > 89u) {
+      rtxErrAddStrParm(ctx, "orientationMajorAxis");
+      rtxErrAddUIntParm(ctx, pvalue->orientationMajorAxis);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "orientationMajorAxis", -1, "EllipsoidPointUncertEllipse");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->orientationMajorAxis, 0, 89);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "orientationMajorAxis", -1, "EllipsoidPointUncertEllipse");
+   /* confidence */
+   if ((uint64_t)pvalue->confidence > 100u) {
+      rtxErrAddStrParm(ctx, "confidence");
+      rtxErrAddUIntParm(ctx, pvalue->confidence);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "confidence", -1, "EllipsoidPointUncertEllipse");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->confidence, 0, 100);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "confidence", -1, "EllipsoidPointUncertEllipse");
+   return 0;
+}
+
+int asn1PE_UMTS_EllipsoidPointUncertEllipse(rtxContext* RT_RESTRICT ctx, const EllipsoidPointUncertEllipse* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EllipsoidPointUncertEllipse, pvalue);
+}
+
+RT_MERGED_BODY int enc_EnvironmentCharacterisation(rtxContext* RT_RESTRICT ctx, EnvironmentCharacterisation value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "EnvironmentCharacterisation");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "EnvironmentCharacterisation");
+   return 0;
+}
+
+int asn1PE_UMTS_EnvironmentCharacterisation(rtxContext* RT_RESTRICT ctx, EnvironmentCharacterisation value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EnvironmentCharacterisation, value);
+}
+
+RT_MERGED_BODY int enc_Eutra_EventResult_reportedCells(rtxContext* RT_RESTRICT ctx, const Eutra_EventResult_reportedCells* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
    for (i = 0; i < pvalue->n; i++) {
-      stat = asn1PE_UMTS_SIR_TFCS(ctx, pvalue->elem[i]);
-      RT_CHECK(ctx, stat, 0, "SIR-TFCS", (int32_t)i, "SIR-TFCS-List");
+      if ((uint64_t)pvalue->elem[i] > 503u) {
+         rtxErrAddStrParm(ctx, "EUTRA-PhysicalCellIdentity");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "EUTRA-PhysicalCellIdentity", "EUTRA-PhysicalCellIdentity", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 503);
+      RT_CHECK_PUT(ctx, cur, stat, "EUTRA-PhysicalCellIdentity", "EUTRA-PhysicalCellIdentity", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_QualityReportingQuantity_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const QualityReportingQuantity_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_Eutra_EventResult_reportedCells(rtxContext* RT_RESTRICT ctx, const Eutra_EventResult_reportedCells* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Eutra_EventResult_reportedCells, pvalue);
+}
+
+RT_MERGED_BODY int enc_Eutra_EventResult(rtxContext* RT_RESTRICT ctx, const Eutra_EventResult* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sir-TFCS-List */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SIR_TFCS_List(ctx, &pvalue->sir_TFCS_List);
-      RT_CHECK(ctx, stat, 0, "sir-TFCS-List", -1, 0);
-   }
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Eutra-EventResult");
+   /* earfcn */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->earfcn, 0, 65535);
+   RT_CHECK_PUT(ctx, cur, stat, "EARFCN", "earfcn", -1, "Eutra-EventResult");
+   /* reportedCells */
+   stat = enc_Eutra_EventResult_reportedCells(ctx, &pvalue->reportedCells, cur);
+   RT_CHECK(ctx, stat, 0, "reportedCells", -1, "Eutra-EventResult");
    return 0;
 }
 
-int asn1PE_UMTS_QualityReportingQuantity_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const QualityReportingQuantity_modeSpecificInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_Eutra_EventResult(rtxContext* RT_RESTRICT ctx, const Eutra_EventResult* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_QualityReportingQuantity_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_Eutra_EventResult, pvalue);
 }
 
-int asn1PE_UMTS_QualityReportingQuantity(rtxContext* RT_RESTRICT ctx, const QualityReportingQuantity* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_Eutra_EventResultList(rtxContext* RT_RESTRICT ctx, const Eutra_EventResultList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "QualityReportingQuantity");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "QualityReportingQuantity");
-   /* dl-TransChBLER */
-   stat = rtxEncBit(ctx, pvalue->dl_TransChBLER);
-   RT_CHECK(ctx, stat, 0, "dl-TransChBLER", -1, "QualityReportingQuantity");
-   /* bler-dl-TransChIdList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_BLER_TransChIdList(ctx, &pvalue->bler_dl_TransChIdList);
-      RT_CHECK(ctx, stat, 0, "bler-dl-TransChIdList", -1, "QualityReportingQuantity");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_QualityReportingQuantity_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "QualityReportingQuantity");
-   return 0;
-}
-
-int asn1PE_UMTS_QualityReportingCriteriaSingle(rtxContext* RT_RESTRICT ctx, const QualityReportingCriteriaSingle* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "QualityReportingCriteriaSingle");
-   /* transportChannelIdentity */
-   if ((uint64_t)(pvalue->transportChannelIdentity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "TransportChannelIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->transportChannelIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransportChannelIdentity", "transportChannelIdentity", -1, "QualityReportingCriteriaSingle");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->transportChannelIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "TransportChannelIdentity", "transportChannelIdentity", -1, "QualityReportingCriteriaSingle");
-   /* totalCRC */
-   if ((uint64_t)(pvalue->totalCRC - 1) > 511u) {
-      rtxErrAddStrParm(ctx, "totalCRC");
-      rtxErrAddUIntParm(ctx, pvalue->totalCRC);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "totalCRC", -1, "QualityReportingCriteriaSingle");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->totalCRC, 1, 512);
-   RT_CHECK(ctx, stat, 0, "totalCRC", -1, "QualityReportingCriteriaSingle");
-   /* badCRC */
-   if ((uint64_t)(pvalue->badCRC - 1) > 511u) {
-      rtxErrAddStrParm(ctx, "badCRC");
-      rtxErrAddUIntParm(ctx, pvalue->badCRC);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "badCRC", -1, "QualityReportingCriteriaSingle");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->badCRC, 1, 512);
-   RT_CHECK(ctx, stat, 0, "badCRC", -1, "QualityReportingCriteriaSingle");
-   /* pendingAfterTrigger */
-   if ((uint64_t)(pvalue->pendingAfterTrigger - 1) > 511u) {
-      rtxErrAddStrParm(ctx, "pendingAfterTrigger");
-      rtxErrAddUIntParm(ctx, pvalue->pendingAfterTrigger);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "pendingAfterTrigger", -1, "QualityReportingCriteriaSingle");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->pendingAfterTrigger, 1, 512);
-   RT_CHECK(ctx, stat, 0, "pendingAfterTrigger", -1, "QualityReportingCriteriaSingle");
-   return 0;
-}
-
-int asn1PE_UMTS_QualityReportingCriteria(rtxContext* RT_RESTRICT ctx, const QualityReportingCriteria* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "QualityReportingCriteria");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Eutra-EventResultList");
    const rtxDListNode* node;
    uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "QualityReportingCriteria");
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "Eutra-EventResultList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "QualityReportingCriteriaSingle", (int32_t)i, "QualityReportingCriteria");
-      stat = asn1PE_UMTS_QualityReportingCriteriaSingle(ctx, (const QualityReportingCriteriaSingle*)node->data);
-      RT_CHECK(ctx, stat, 0, "QualityReportingCriteriaSingle", (int32_t)i, "QualityReportingCriteria");
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "Eutra-EventResult", (int32_t)i, "Eutra-EventResultList");
+      stat = enc_Eutra_EventResult(ctx, (const Eutra_EventResult*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "Eutra-EventResult", (int32_t)i, "Eutra-EventResultList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_QualityReportCriteria(rtxContext* RT_RESTRICT ctx, const QualityReportCriteria* RT_RESTRICT pvalue)
+int asn1PE_UMTS_Eutra_EventResultList(rtxContext* RT_RESTRICT ctx, const Eutra_EventResultList* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "QualityReportCriteria");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "QualityReportCriteria");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "QualityReportCriteria");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.qualityReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "qualityReportingCriteria", -1, "QualityReportCriteria");
-         stat = asn1PE_UMTS_QualityReportingCriteria(ctx, pvalue->u.qualityReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "qualityReportingCriteria", -1, "QualityReportCriteria");
-         break;
-      case 2:
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "QualityReportCriteria");
-         stat = asn1PE_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "QualityReportCriteria");
-         break;
-      case 3:
-         break;
-      default:
-         break;
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_Eutra_EventResultList, pvalue);
 }
 
-int asn1PE_UMTS_QualityMeasurement(rtxContext* RT_RESTRICT ctx, const QualityMeasurement* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_EventIDInterRAT(rtxContext* RT_RESTRICT ctx, EventIDInterRAT value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "QualityMeasurement");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "QualityMeasurement");
-   /* qualityReportingQuantity */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_QualityReportingQuantity(ctx, &pvalue->qualityReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "qualityReportingQuantity", -1, "QualityMeasurement");
-   }
-   /* reportCriteria */
-   stat = asn1PE_UMTS_QualityReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "QualityMeasurement");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalReportingQuantity_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UE_InternalReportingQuantity_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* ue-RX-TX-TimeDifference */
-   stat = rtxEncBit(ctx, pvalue->ue_RX_TX_TimeDifference);
-   RT_CHECK(ctx, stat, 0, "ue-RX-TX-TimeDifference", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalReportingQuantity_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UE_InternalReportingQuantity_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* appliedTA */
-   stat = rtxEncBit(ctx, pvalue->appliedTA);
-   RT_CHECK(ctx, stat, 0, "appliedTA", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalReportingQuantity_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UE_InternalReportingQuantity_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_UE_InternalReportingQuantity_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_UE_InternalReportingQuantity_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalReportingQuantity(rtxContext* RT_RESTRICT ctx, const UE_InternalReportingQuantity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-InternalReportingQuantity");
-   /* ue-TransmittedPower */
-   stat = rtxEncBit(ctx, pvalue->ue_TransmittedPower);
-   RT_CHECK(ctx, stat, 0, "ue-TransmittedPower", -1, "UE-InternalReportingQuantity");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_UE_InternalReportingQuantity_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-InternalReportingQuantity");
-   return 0;
-}
-
-int asn1PE_UMTS_TransmittedPowerThreshold(rtxContext* RT_RESTRICT ctx, TransmittedPowerThreshold value)
-{
-   int stat = 0;
-   if (value < -50 || value > 33) {
-      rtxErrAddStrParm(ctx, "TransmittedPowerThreshold");
-      rtxErrAddIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "TransmittedPowerThreshold");
-   }
-   stat = pe_ConsInt64(ctx, value, -50, 33);
-   RT_CHECK(ctx, stat, 0, 0, -1, "TransmittedPowerThreshold");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_6AB_Event(rtxContext* RT_RESTRICT ctx, const UE_6AB_Event* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-6AB-Event");
-   /* timeToTrigger */
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "UE-6AB-Event");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "UE-6AB-Event");
-   /* transmittedPowerThreshold */
-   if (pvalue->transmittedPowerThreshold < -50 || pvalue->transmittedPowerThreshold > 33) {
-      rtxErrAddStrParm(ctx, "TransmittedPowerThreshold");
-      rtxErrAddIntParm(ctx, pvalue->transmittedPowerThreshold);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TransmittedPowerThreshold", "transmittedPowerThreshold", -1, "UE-6AB-Event");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->transmittedPowerThreshold, -50, 33);
-   RT_CHECK(ctx, stat, "TransmittedPowerThreshold", "transmittedPowerThreshold", -1, "UE-6AB-Event");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_RX_TX_TimeDifferenceThreshold(rtxContext* RT_RESTRICT ctx, UE_RX_TX_TimeDifferenceThreshold value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 768) > 512u) {
-      rtxErrAddStrParm(ctx, "UE-RX-TX-TimeDifferenceThreshold");
+   if (value > 3) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "UE-RX-TX-TimeDifferenceThreshold");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "EventIDInterRAT");
    }
-   stat = pe_ConsUInt64(ctx, value, 768, 1280);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-RX-TX-TimeDifferenceThreshold");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "EventIDInterRAT");
    return 0;
 }
 
-int asn1PE_UMTS_UE_6FG_Event(rtxContext* RT_RESTRICT ctx, const UE_6FG_Event* RT_RESTRICT pvalue)
+int asn1PE_UMTS_EventIDInterRAT(rtxContext* RT_RESTRICT ctx, EventIDInterRAT value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EventIDInterRAT, value);
+}
+
+RT_MERGED_BODY int enc_EUTRA_EventResults(rtxContext* RT_RESTRICT ctx, const EUTRA_EventResults* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-6FG-Event");
-   /* timeToTrigger */
-   if (pvalue->timeToTrigger > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "UE-6FG-Event");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-EventResults");
+   /* eventID */
+   if (pvalue->eventID > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->eventID);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "EventIDInterRAT", "eventID", -1, "EUTRA-EventResults");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->timeToTrigger, 0, 15);
-   RT_CHECK(ctx, stat, "TimeToTrigger", "timeToTrigger", -1, "UE-6FG-Event");
-   /* ue-RX-TX-TimeDifferenceThreshold */
-   if ((uint64_t)(pvalue->ue_RX_TX_TimeDifferenceThreshold - 768) > 512u) {
-      rtxErrAddStrParm(ctx, "UE-RX-TX-TimeDifferenceThreshold");
-      rtxErrAddUIntParm(ctx, pvalue->ue_RX_TX_TimeDifferenceThreshold);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "UE-RX-TX-TimeDifferenceThreshold", "ue-RX-TX-TimeDifferenceThreshold", -1, "UE-6FG-Event");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_RX_TX_TimeDifferenceThreshold, 768, 1280);
-   RT_CHECK(ctx, stat, "UE-RX-TX-TimeDifferenceThreshold", "ue-RX-TX-TimeDifferenceThreshold", -1, "UE-6FG-Event");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->eventID, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "EventIDInterRAT", "eventID", -1, "EUTRA-EventResults");
+   /* eutra-EventResultsList */
+   stat = enc_Eutra_EventResultList(ctx, &pvalue->eutra_EventResultsList, cur);
+   RT_CHECK(ctx, stat, 0, "eutra-EventResultsList", -1, "EUTRA-EventResults");
    return 0;
 }
 
-int asn1PE_UMTS_UE_InternalEventParam(rtxContext* RT_RESTRICT ctx, const UE_InternalEventParam* RT_RESTRICT pvalue)
+int asn1PE_UMTS_EUTRA_EventResults(rtxContext* RT_RESTRICT ctx, const EUTRA_EventResults* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EUTRA_EventResults, pvalue);
+}
+
+RT_MERGED_BODY int enc_EUTRA_MeasurementBandwidth(rtxContext* RT_RESTRICT ctx, EUTRA_MeasurementBandwidth value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-InternalEventParam");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UE-InternalEventParam");
-   if (pvalue->t - 1 > 6) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UE-InternalEventParam");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.event6a == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event6a", -1, "UE-InternalEventParam");
-         stat = asn1PE_UMTS_UE_6AB_Event(ctx, pvalue->u.event6a);
-         RT_CHECK(ctx, stat, 0, "event6a", -1, "UE-InternalEventParam");
-         break;
-      case 2:
-         if (pvalue->u.event6b == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event6b", -1, "UE-InternalEventParam");
-         stat = asn1PE_UMTS_UE_6AB_Event(ctx, pvalue->u.event6b);
-         RT_CHECK(ctx, stat, 0, "event6b", -1, "UE-InternalEventParam");
-         break;
-      case 3:
-         if (pvalue->u.event6c > 15) {
-            rtxErrAddUIntParm(ctx, pvalue->u.event6c);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "event6c", -1, "UE-InternalEventParam");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.event6c, 0, 15);
-         RT_CHECK(ctx, stat, "TimeToTrigger", "event6c", -1, "UE-InternalEventParam");
-         break;
-      case 4:
-         if (pvalue->u.event6d > 15) {
-            rtxErrAddUIntParm(ctx, pvalue->u.event6d);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "event6d", -1, "UE-InternalEventParam");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.event6d, 0, 15);
-         RT_CHECK(ctx, stat, "TimeToTrigger", "event6d", -1, "UE-InternalEventParam");
-         break;
-      case 5:
-         if (pvalue->u.event6e > 15) {
-            rtxErrAddUIntParm(ctx, pvalue->u.event6e);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "TimeToTrigger", "event6e", -1, "UE-InternalEventParam");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.event6e, 0, 15);
-         RT_CHECK(ctx, stat, "TimeToTrigger", "event6e", -1, "UE-InternalEventParam");
-         break;
-      case 6:
-         if (pvalue->u.event6f == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event6f", -1, "UE-InternalEventParam");
-         stat = asn1PE_UMTS_UE_6FG_Event(ctx, pvalue->u.event6f);
-         RT_CHECK(ctx, stat, 0, "event6f", -1, "UE-InternalEventParam");
-         break;
-      case 7:
-         if (pvalue->u.event6g == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "event6g", -1, "UE-InternalEventParam");
-         stat = asn1PE_UMTS_UE_6FG_Event(ctx, pvalue->u.event6g);
-         RT_CHECK(ctx, stat, 0, "event6g", -1, "UE-InternalEventParam");
-         break;
-      default:
-         break;
+   if (value > 5) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "EUTRA-MeasurementBandwidth");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "EUTRA-MeasurementBandwidth");
+   return 0;
+}
+
+int asn1PE_UMTS_EUTRA_MeasurementBandwidth(rtxContext* RT_RESTRICT ctx, EUTRA_MeasurementBandwidth value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EUTRA_MeasurementBandwidth, value);
+}
+
+RT_MERGED_BODY int enc_EUTRA_FrequencyAndPriorityInfo(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyAndPriorityInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-FrequencyAndPriorityInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "EUTRA-FrequencyAndPriorityInfo");
+   /* earfcn */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->earfcn, 0, 65535);
+   RT_CHECK_PUT(ctx, cur, stat, "EARFCN", "earfcn", -1, "EUTRA-FrequencyAndPriorityInfo");
+   /* measurementBandwidth */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->measurementBandwidth > 5) {
+         rtxErrAddUIntParm(ctx, pvalue->measurementBandwidth);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "EUTRA-MeasurementBandwidth", "measurementBandwidth", -1, "EUTRA-FrequencyAndPriorityInfo");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->measurementBandwidth, 0, 5);
+      RT_CHECK_PUT(ctx, cur, stat, "EUTRA-MeasurementBandwidth", "measurementBandwidth", -1, "EUTRA-FrequencyAndPriorityInfo");
+   }
+   /* priority */
+   if ((uint64_t)pvalue->priority > 7u) {
+      rtxErrAddStrParm(ctx, "priority");
+      rtxErrAddUIntParm(ctx, pvalue->priority);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "priority", -1, "EUTRA-FrequencyAndPriorityInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->priority, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "priority", -1, "EUTRA-FrequencyAndPriorityInfo");
+   /* qRxLevMinEUTRA */
+   if (pvalue->qRxLevMinEUTRA < -70 || pvalue->qRxLevMinEUTRA > -22) {
+      rtxErrAddStrParm(ctx, "qRxLevMinEUTRA");
+      rtxErrAddIntParm(ctx, pvalue->qRxLevMinEUTRA);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "qRxLevMinEUTRA", -1, "EUTRA-FrequencyAndPriorityInfo");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->qRxLevMinEUTRA, -70, -22);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "qRxLevMinEUTRA", -1, "EUTRA-FrequencyAndPriorityInfo");
+   /* threshXhigh */
+   if ((uint64_t)pvalue->threshXhigh > 31u) {
+      rtxErrAddStrParm(ctx, "threshXhigh");
+      rtxErrAddUIntParm(ctx, pvalue->threshXhigh);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "threshXhigh", -1, "EUTRA-FrequencyAndPriorityInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->threshXhigh, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "threshXhigh", -1, "EUTRA-FrequencyAndPriorityInfo");
+   /* threshXlow */
+   if ((uint64_t)pvalue->threshXlow > 31u) {
+      rtxErrAddStrParm(ctx, "threshXlow");
+      rtxErrAddUIntParm(ctx, pvalue->threshXlow);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "threshXlow", -1, "EUTRA-FrequencyAndPriorityInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->threshXlow, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "threshXlow", -1, "EUTRA-FrequencyAndPriorityInfo");
+   /* eutra-blackListedCellList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_EUTRA_BlacklistedCellPerFreqList(ctx, &pvalue->eutra_blackListedCellList, cur);
+      RT_CHECK(ctx, stat, 0, "eutra-blackListedCellList", -1, "EUTRA-FrequencyAndPriorityInfo");
+   }
+   /* eutraDetection */
+   stat = rtxEncBitAt(ctx, cur, pvalue->eutraDetection);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "eutraDetection", -1, "EUTRA-FrequencyAndPriorityInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_EUTRA_FrequencyAndPriorityInfo(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyAndPriorityInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EUTRA_FrequencyAndPriorityInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_EUTRA_FrequencyAndPriorityInfo_v920ext(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyAndPriorityInfo_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-FrequencyAndPriorityInfo-v920ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "EUTRA-FrequencyAndPriorityInfo-v920ext");
+   /* qqualMinEUTRA */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->qqualMinEUTRA < -34 || pvalue->qqualMinEUTRA > -3) {
+         rtxErrAddStrParm(ctx, "qqualMinEUTRA");
+         rtxErrAddIntParm(ctx, pvalue->qqualMinEUTRA);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "qqualMinEUTRA", -1, "EUTRA-FrequencyAndPriorityInfo-v920ext");
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->qqualMinEUTRA, -34, -3);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "qqualMinEUTRA", -1, "EUTRA-FrequencyAndPriorityInfo-v920ext");
+   }
+   /* threshXhigh2 */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->threshXhigh2 > 31u) {
+         rtxErrAddStrParm(ctx, "threshXhigh2");
+         rtxErrAddUIntParm(ctx, pvalue->threshXhigh2);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "threshXhigh2", -1, "EUTRA-FrequencyAndPriorityInfo-v920ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->threshXhigh2, 0, 31);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "threshXhigh2", -1, "EUTRA-FrequencyAndPriorityInfo-v920ext");
+   }
+   /* threshXlow2 */
+   if (pvalue->m & 0x4u) {
+      if ((uint64_t)pvalue->threshXlow2 > 31u) {
+         rtxErrAddStrParm(ctx, "threshXlow2");
+         rtxErrAddUIntParm(ctx, pvalue->threshXlow2);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "threshXlow2", -1, "EUTRA-FrequencyAndPriorityInfo-v920ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->threshXlow2, 0, 31);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "threshXlow2", -1, "EUTRA-FrequencyAndPriorityInfo-v920ext");
    }
    return 0;
 }
 
-int asn1PE_UMTS_UE_InternalEventParamList(rtxContext* RT_RESTRICT ctx, const UE_InternalEventParamList* RT_RESTRICT pvalue)
+int asn1PE_UMTS_EUTRA_FrequencyAndPriorityInfo_v920ext(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyAndPriorityInfo_v920ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EUTRA_FrequencyAndPriorityInfo_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_EUTRA_FrequencyAndPriorityInfoList(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyAndPriorityInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-InternalEventParamList");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-FrequencyAndPriorityInfoList");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UE-InternalEventParamList");
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "EUTRA-FrequencyAndPriorityInfoList");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UE-InternalEventParam", (int32_t)i, "UE-InternalEventParamList");
-      stat = asn1PE_UMTS_UE_InternalEventParam(ctx, (const UE_InternalEventParam*)node->data);
-      RT_CHECK(ctx, stat, 0, "UE-InternalEventParam", (int32_t)i, "UE-InternalEventParamList");
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "EUTRA-FrequencyAndPriorityInfo", (int32_t)i, "EUTRA-FrequencyAndPriorityInfoList");
+      stat = enc_EUTRA_FrequencyAndPriorityInfo(ctx, (const EUTRA_FrequencyAndPriorityInfo*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "EUTRA-FrequencyAndPriorityInfo", (int32_t)i, "EUTRA-FrequencyAndPriorityInfoList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_UE_InternalReportingCriteria(rtxContext* RT_RESTRICT ctx, const UE_InternalReportingCriteria* RT_RESTRICT pvalue)
+int asn1PE_UMTS_EUTRA_FrequencyAndPriorityInfoList(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyAndPriorityInfoList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EUTRA_FrequencyAndPriorityInfoList, pvalue);
+}
+
+RT_MERGED_BODY int enc_EUTRA_FrequencyAndPriorityInfoList_v920ext(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyAndPriorityInfoList_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-InternalReportingCriteria");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-InternalReportingCriteria");
-   /* ue-InternalEventParamList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_InternalEventParamList(ctx, &pvalue->ue_InternalEventParamList);
-      RT_CHECK(ctx, stat, 0, "ue-InternalEventParamList", -1, "UE-InternalReportingCriteria");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-FrequencyAndPriorityInfoList-v920ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "EUTRA-FrequencyAndPriorityInfoList-v920ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "EUTRA-FrequencyAndPriorityInfo-v920ext", (int32_t)i, "EUTRA-FrequencyAndPriorityInfoList-v920ext");
+      stat = enc_EUTRA_FrequencyAndPriorityInfo_v920ext(ctx, (const EUTRA_FrequencyAndPriorityInfo_v920ext*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "EUTRA-FrequencyAndPriorityInfo-v920ext", (int32_t)i, "EUTRA-FrequencyAndPriorityInfoList-v920ext");
    }
    return 0;
 }
 
-int asn1PE_UMTS_UE_InternalReportCriteria(rtxContext* RT_RESTRICT ctx, const UE_InternalReportCriteria* RT_RESTRICT pvalue)
+int asn1PE_UMTS_EUTRA_FrequencyAndPriorityInfoList_v920ext(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyAndPriorityInfoList_v920ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EUTRA_FrequencyAndPriorityInfoList_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_EUTRA_FrequencyRemoval_removeSomeFrequencies(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyRemoval_removeSomeFrequencies* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-InternalReportCriteria");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UE-InternalReportCriteria");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UE-InternalReportCriteria");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 65535);
+      RT_CHECK_PUT(ctx, cur, stat, "EARFCN", "EARFCN", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_EUTRA_FrequencyRemoval_removeSomeFrequencies(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyRemoval_removeSomeFrequencies* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EUTRA_FrequencyRemoval_removeSomeFrequencies, pvalue);
+}
+
+RT_MERGED_BODY int enc_EUTRA_FrequencyRemoval(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyRemoval* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-FrequencyRemoval");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "EUTRA-FrequencyRemoval");
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "EUTRA-FrequencyRemoval");
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.ue_InternalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ue-InternalReportingCriteria", -1, "UE-InternalReportCriteria");
-         stat = asn1PE_UMTS_UE_InternalReportingCriteria(ctx, pvalue->u.ue_InternalReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "ue-InternalReportingCriteria", -1, "UE-InternalReportCriteria");
          break;
       case 2:
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "UE-InternalReportCriteria");
-         stat = asn1PE_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "UE-InternalReportCriteria");
+         if (pvalue->u.removeSomeFrequencies == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "removeSomeFrequencies", -1, "EUTRA-FrequencyRemoval");
+         stat = enc_EUTRA_FrequencyRemoval_removeSomeFrequencies(ctx, pvalue->u.removeSomeFrequencies, cur);
+         RT_CHECK(ctx, stat, 0, "removeSomeFrequencies", -1, "EUTRA-FrequencyRemoval");
          break;
       case 3:
          break;
@@ -4432,595 +8585,441 @@ int asn1PE_UMTS_UE_InternalReportCriteria(rtxContext* RT_RESTRICT ctx, const UE_
    return 0;
 }
 
-int asn1PE_UMTS_UE_InternalMeasurement(rtxContext* RT_RESTRICT ctx, const UE_InternalMeasurement* RT_RESTRICT pvalue)
+int asn1PE_UMTS_EUTRA_FrequencyRemoval(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyRemoval* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EUTRA_FrequencyRemoval, pvalue);
+}
+
+RT_MERGED_BODY int enc_EUTRA_FrequencyInfo(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-InternalMeasurement");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-FrequencyInfo");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-InternalMeasurement");
-   /* ue-InternalMeasQuantity */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "EUTRA-FrequencyInfo");
+   /* earfcn */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->earfcn, 0, 65535);
+   RT_CHECK_PUT(ctx, cur, stat, "EARFCN", "earfcn", -1, "EUTRA-FrequencyInfo");
+   /* measurementBandwidth */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_InternalMeasQuantity(ctx, &pvalue->ue_InternalMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "ue-InternalMeasQuantity", -1, "UE-InternalMeasurement");
-   }
-   /* ue-InternalReportingQuantity */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_InternalReportingQuantity(ctx, &pvalue->ue_InternalReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "ue-InternalReportingQuantity", -1, "UE-InternalMeasurement");
-   }
-   /* reportCriteria */
-   stat = asn1PE_UMTS_UE_InternalReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "UE-InternalMeasurement");
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementType(rtxContext* RT_RESTRICT ctx, const MeasurementType* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementType");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
-   RT_CHECK(ctx, stat, 0, "t", -1, "MeasurementType");
-   if (pvalue->t - 1 > 6) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementType");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.intraFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFrequencyMeasurement", -1, "MeasurementType");
-         stat = asn1PE_UMTS_IntraFrequencyMeasurement(ctx, pvalue->u.intraFrequencyMeasurement);
-         RT_CHECK(ctx, stat, 0, "intraFrequencyMeasurement", -1, "MeasurementType");
-         break;
-      case 2:
-         if (pvalue->u.interFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interFrequencyMeasurement", -1, "MeasurementType");
-         stat = asn1PE_UMTS_InterFrequencyMeasurement(ctx, pvalue->u.interFrequencyMeasurement);
-         RT_CHECK(ctx, stat, 0, "interFrequencyMeasurement", -1, "MeasurementType");
-         break;
-      case 3:
-         if (pvalue->u.interRATMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interRATMeasurement", -1, "MeasurementType");
-         stat = asn1PE_UMTS_InterRATMeasurement(ctx, pvalue->u.interRATMeasurement);
-         RT_CHECK(ctx, stat, 0, "interRATMeasurement", -1, "MeasurementType");
-         break;
-      case 4:
-         if (pvalue->u.ue_positioning_Measurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ue-positioning-Measurement", -1, "MeasurementType");
-         stat = asn1PE_UMTS_UE_Positioning_Measurement(ctx, pvalue->u.ue_positioning_Measurement);
-         RT_CHECK(ctx, stat, 0, "ue-positioning-Measurement", -1, "MeasurementType");
-         break;
-      case 5:
-         if (pvalue->u.trafficVolumeMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "trafficVolumeMeasurement", -1, "MeasurementType");
-         stat = asn1PE_UMTS_TrafficVolumeMeasurement(ctx, pvalue->u.trafficVolumeMeasurement);
-         RT_CHECK(ctx, stat, 0, "trafficVolumeMeasurement", -1, "MeasurementType");
-         break;
-      case 6:
-         if (pvalue->u.qualityMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "qualityMeasurement", -1, "MeasurementType");
-         stat = asn1PE_UMTS_QualityMeasurement(ctx, pvalue->u.qualityMeasurement);
-         RT_CHECK(ctx, stat, 0, "qualityMeasurement", -1, "MeasurementType");
-         break;
-      case 7:
-         if (pvalue->u.ue_InternalMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ue-InternalMeasurement", -1, "MeasurementType");
-         stat = asn1PE_UMTS_UE_InternalMeasurement(ctx, pvalue->u.ue_InternalMeasurement);
-         RT_CHECK(ctx, stat, 0, "ue-InternalMeasurement", -1, "MeasurementType");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementCommand_modify(rtxContext* RT_RESTRICT ctx, const MeasurementCommand_modify* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementType */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MeasurementType(ctx, &pvalue->measurementType);
-      RT_CHECK(ctx, stat, 0, "measurementType", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementCommand(rtxContext* RT_RESTRICT ctx, const MeasurementCommand* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCommand");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "MeasurementCommand");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementCommand");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.setup == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "setup", -1, "MeasurementCommand");
-         stat = asn1PE_UMTS_MeasurementType(ctx, pvalue->u.setup);
-         RT_CHECK(ctx, stat, 0, "setup", -1, "MeasurementCommand");
-         break;
-      case 2:
-         if (pvalue->u.modify == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "modify", -1, "MeasurementCommand");
-         stat = asn1PE_UMTS_MeasurementCommand_modify(ctx, pvalue->u.modify);
-         RT_CHECK(ctx, stat, 0, "modify", -1, "MeasurementCommand");
-         break;
-      case 3:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_ReportingQuantity_r4(rtxContext* RT_RESTRICT ctx, const UE_Positioning_ReportingQuantity_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-ReportingQuantity-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-ReportingQuantity-r4");
-   /* methodType */
-   if (pvalue->methodType > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->methodType);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UE-Positioning-MethodType", "methodType", -1, "UE-Positioning-ReportingQuantity-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->methodType, 0, 3);
-   RT_CHECK(ctx, stat, "UE-Positioning-MethodType", "methodType", -1, "UE-Positioning-ReportingQuantity-r4");
-   /* positioningMethod */
-   if (pvalue->positioningMethod > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->positioningMethod);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PositioningMethod", "positioningMethod", -1, "UE-Positioning-ReportingQuantity-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->positioningMethod, 0, 3);
-   RT_CHECK(ctx, stat, "PositioningMethod", "positioningMethod", -1, "UE-Positioning-ReportingQuantity-r4");
-   /* horizontalAccuracy */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_Accuracy(ctx, pvalue->horizontalAccuracy);
-      RT_CHECK(ctx, stat, 0, "horizontalAccuracy", -1, "UE-Positioning-ReportingQuantity-r4");
-   }
-   /* verticalAccuracy */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_Positioning_Accuracy(ctx, pvalue->verticalAccuracy);
-      RT_CHECK(ctx, stat, 0, "verticalAccuracy", -1, "UE-Positioning-ReportingQuantity-r4");
-   }
-   /* gps-TimingOfCellWanted */
-   stat = rtxEncBit(ctx, pvalue->gps_TimingOfCellWanted);
-   RT_CHECK(ctx, stat, 0, "gps-TimingOfCellWanted", -1, "UE-Positioning-ReportingQuantity-r4");
-   /* additionalAssistanceDataReq */
-   stat = rtxEncBit(ctx, pvalue->additionalAssistanceDataReq);
-   RT_CHECK(ctx, stat, 0, "additionalAssistanceDataReq", -1, "UE-Positioning-ReportingQuantity-r4");
-   /* environmentCharacterisation */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->environmentCharacterisation > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->environmentCharacterisation);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "EnvironmentCharacterisation", "environmentCharacterisation", -1, "UE-Positioning-ReportingQuantity-r4");
+      if (pvalue->measurementBandwidth > 5) {
+         rtxErrAddUIntParm(ctx, pvalue->measurementBandwidth);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "EUTRA-MeasurementBandwidth", "measurementBandwidth", -1, "EUTRA-FrequencyInfo");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->environmentCharacterisation, 0, 3);
-      RT_CHECK(ctx, stat, "EnvironmentCharacterisation", "environmentCharacterisation", -1, "UE-Positioning-ReportingQuantity-r4");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->measurementBandwidth, 0, 5);
+      RT_CHECK_PUT(ctx, cur, stat, "EUTRA-MeasurementBandwidth", "measurementBandwidth", -1, "EUTRA-FrequencyInfo");
+   }
+   /* eutra-blackListedCellList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_EUTRA_BlacklistedCellPerFreqList(ctx, &pvalue->eutra_blackListedCellList, cur);
+      RT_CHECK(ctx, stat, 0, "eutra-blackListedCellList", -1, "EUTRA-FrequencyInfo");
    }
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_EUTRA_FrequencyInfo(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyInfo* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* primaryCPICH-Info */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_EUTRA_FrequencyInfo, pvalue);
 }
 
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_EUTRA_FrequencyInfoList(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* cellAndChannelIdentity */
-   stat = asn1PE_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
-   RT_CHECK(ctx, stat, 0, "cellAndChannelIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-FrequencyInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "EUTRA-FrequencyInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "EUTRA-FrequencyInfo", (int32_t)i, "EUTRA-FrequencyInfoList");
+      stat = enc_EUTRA_FrequencyInfo(ctx, (const EUTRA_FrequencyInfo*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "EUTRA-FrequencyInfo", (int32_t)i, "EUTRA-FrequencyInfoList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_ReferenceCellPosition(rtxContext* RT_RESTRICT ctx, const ReferenceCellPosition* RT_RESTRICT pvalue)
+int asn1PE_UMTS_EUTRA_FrequencyInfoList(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyInfoList* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ReferenceCellPosition");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "ReferenceCellPosition");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ReferenceCellPosition");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.ellipsoidPoint == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ellipsoidPoint", -1, "ReferenceCellPosition");
-         stat = asn1PE_UMTS_EllipsoidPoint(ctx, pvalue->u.ellipsoidPoint);
-         RT_CHECK(ctx, stat, 0, "ellipsoidPoint", -1, "ReferenceCellPosition");
-         break;
-      case 2:
-         if (pvalue->u.ellipsoidPointWithAltitude == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ellipsoidPointWithAltitude", -1, "ReferenceCellPosition");
-         stat = asn1PE_UMTS_EllipsoidPointAltitude(ctx, pvalue->u.ellipsoidPointWithAltitude);
-         RT_CHECK(ctx, stat, 0, "ellipsoidPointWithAltitude", -1, "ReferenceCellPosition");
-         break;
-      default:
-         break;
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_EUTRA_FrequencyInfoList, pvalue);
 }
 
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueBased(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueBased* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_EUTRA_FrequencyList(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-FrequencyList");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "EUTRA-FrequencyList");
+   /* eutraFrequencyRemoval */
+   stat = enc_EUTRA_FrequencyRemoval(ctx, &pvalue->eutraFrequencyRemoval, cur);
+   RT_CHECK(ctx, stat, 0, "eutraFrequencyRemoval", -1, "EUTRA-FrequencyList");
+   /* eutraNewFrequencies */
+   if (pvalue->m & 0x1u) {
+      stat = enc_EUTRA_FrequencyInfoList(ctx, &pvalue->eutraNewFrequencies, cur);
+      RT_CHECK(ctx, stat, 0, "eutraNewFrequencies", -1, "EUTRA-FrequencyList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_EUTRA_FrequencyList(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EUTRA_FrequencyList, pvalue);
+}
+
+RT_MERGED_BODY int enc_EUTRA_SIAcquisition(rtxContext* RT_RESTRICT ctx, const EUTRA_SIAcquisition* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-SIAcquisition");
+   /* earfcn */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->earfcn, 0, 65535);
+   RT_CHECK_PUT(ctx, cur, stat, "EARFCN", "earfcn", -1, "EUTRA-SIAcquisition");
+   /* physicalCellIdentity */
+   if ((uint64_t)pvalue->physicalCellIdentity > 503u) {
+      rtxErrAddStrParm(ctx, "EUTRA-PhysicalCellIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->physicalCellIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "EUTRA-PhysicalCellIdentity", "physicalCellIdentity", -1, "EUTRA-SIAcquisition");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->physicalCellIdentity, 0, 503);
+   RT_CHECK_PUT(ctx, cur, stat, "EUTRA-PhysicalCellIdentity", "physicalCellIdentity", -1, "EUTRA-SIAcquisition");
+   return 0;
+}
+
+int asn1PE_UMTS_EUTRA_SIAcquisition(rtxContext* RT_RESTRICT ctx, const EUTRA_SIAcquisition* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EUTRA_SIAcquisition, pvalue);
+}
+
+RT_MERGED_BODY int enc_EUTRA_FrequencyList_r9(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyList_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-FrequencyList-r9");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellPosition */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "EUTRA-FrequencyList-r9");
+   /* eutraFrequencyRemoval */
+   stat = enc_EUTRA_FrequencyRemoval(ctx, &pvalue->eutraFrequencyRemoval, cur);
+   RT_CHECK(ctx, stat, 0, "eutraFrequencyRemoval", -1, "EUTRA-FrequencyList-r9");
+   /* eutraNewFrequencies */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ReferenceCellPosition(ctx, &pvalue->cellPosition);
-      RT_CHECK(ctx, stat, 0, "cellPosition", -1, 0);
+      stat = enc_EUTRA_FrequencyInfoList(ctx, &pvalue->eutraNewFrequencies, cur);
+      RT_CHECK(ctx, stat, 0, "eutraNewFrequencies", -1, "EUTRA-FrequencyList-r9");
    }
-   /* roundTripTime */
+   /* eutraSIAcquisition */
    if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->roundTripTime > 32766u) {
-         rtxErrAddStrParm(ctx, "roundTripTime");
-         rtxErrAddUIntParm(ctx, pvalue->roundTripTime);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "roundTripTime", -1, 0);
+      stat = enc_EUTRA_SIAcquisition(ctx, &pvalue->eutraSIAcquisition, cur);
+      RT_CHECK(ctx, stat, 0, "eutraSIAcquisition", -1, "EUTRA-FrequencyList-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_EUTRA_FrequencyList_r9(rtxContext* RT_RESTRICT ctx, const EUTRA_FrequencyList_r9* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EUTRA_FrequencyList_r9, pvalue);
+}
+
+RT_MERGED_BODY int enc_EUTRA_MeasuredCells(rtxContext* RT_RESTRICT ctx, const EUTRA_MeasuredCells* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-MeasuredCells");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "EUTRA-MeasuredCells");
+   /* physicalCellIdentity */
+   if ((uint64_t)pvalue->physicalCellIdentity > 503u) {
+      rtxErrAddStrParm(ctx, "EUTRA-PhysicalCellIdentity");
+      rtxErrAddUIntParm(ctx, pvalue->physicalCellIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "EUTRA-PhysicalCellIdentity", "physicalCellIdentity", -1, "EUTRA-MeasuredCells");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->physicalCellIdentity, 0, 503);
+   RT_CHECK_PUT(ctx, cur, stat, "EUTRA-PhysicalCellIdentity", "physicalCellIdentity", -1, "EUTRA-MeasuredCells");
+   /* rSRP */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->rSRP > 97u) {
+         rtxErrAddStrParm(ctx, "rSRP");
+         rtxErrAddUIntParm(ctx, pvalue->rSRP);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "rSRP", -1, "EUTRA-MeasuredCells");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->roundTripTime, 0, 32766);
-      RT_CHECK(ctx, stat, 0, "roundTripTime", -1, 0);
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->rSRP, 0, 97);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "rSRP", -1, "EUTRA-MeasuredCells");
    }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueAssisted(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueAssisted* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.ueBased == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueBased", -1, 0);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueBased(ctx, pvalue->u.ueBased);
-         RT_CHECK(ctx, stat, 0, "ueBased", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.ueAssisted == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueAssisted", -1, 0);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode_ueAssisted(ctx, pvalue->u.ueAssisted);
-         RT_CHECK(ctx, stat, 0, "ueAssisted", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* ip-Spacing */
-   if (pvalue->ip_Spacing > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->ip_Spacing);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "IP-Spacing", "ip-Spacing", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ip_Spacing, 0, 7);
-   RT_CHECK(ctx, stat, "IP-Spacing", "ip-Spacing", -1, 0);
-   /* ip-Length */
-   if (pvalue->ip_Length > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->ip_Length);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "IP-Length", "ip-Length", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ip_Length, 0, 1);
-   RT_CHECK(ctx, stat, "IP-Length", "ip-Length", -1, 0);
-   /* ip-Offset */
-   if ((uint64_t)pvalue->ip_Offset > 9u) {
-      rtxErrAddStrParm(ctx, "ip-Offset");
-      rtxErrAddUIntParm(ctx, pvalue->ip_Offset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ip-Offset", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ip_Offset, 0, 9);
-   RT_CHECK(ctx, stat, 0, "ip-Offset", -1, 0);
-   /* seed */
-   if ((uint64_t)pvalue->seed > 63u) {
-      rtxErrAddStrParm(ctx, "seed");
-      rtxErrAddUIntParm(ctx, pvalue->seed);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "seed", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->seed, 0, 63);
-   RT_CHECK(ctx, stat, 0, "seed", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* ip-Spacing-TDD */
-   if (pvalue->ip_Spacing_TDD > 4) {
-      rtxErrAddUIntParm(ctx, pvalue->ip_Spacing_TDD);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "IP-Spacing-TDD", "ip-Spacing-TDD", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ip_Spacing_TDD, 0, 4);
-   RT_CHECK(ctx, stat, "IP-Spacing-TDD", "ip-Spacing-TDD", -1, 0);
-   /* ip-slot */
-   if ((uint64_t)pvalue->ip_slot > 14u) {
-      rtxErrAddStrParm(ctx, "ip-slot");
-      rtxErrAddUIntParm(ctx, pvalue->ip_slot);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ip-slot", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ip_slot, 0, 14);
-   RT_CHECK(ctx, stat, 0, "ip-slot", -1, 0);
-   /* ip-Start */
-   if ((uint64_t)pvalue->ip_Start > 4095u) {
-      rtxErrAddStrParm(ctx, "ip-Start");
-      rtxErrAddUIntParm(ctx, pvalue->ip_Start);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ip-Start", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ip_Start, 0, 4095);
-   RT_CHECK(ctx, stat, 0, "ip-Start", -1, 0);
-   /* ip-PCCPCG */
-   if (pvalue->m & 0x1u) {
-      stat = rtxEncBit(ctx, pvalue->ip_PCCPCG);
-      RT_CHECK(ctx, stat, "IP-PCCPCH-r4", "ip-PCCPCG", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_IPDL_Parameters_r4(rtxContext* RT_RESTRICT ctx, const UE_Positioning_IPDL_Parameters_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-IPDL-Parameters-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-IPDL-Parameters-r4");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-IPDL-Parameters-r4");
-   /* burstModeParameters */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_BurstModeParameters(ctx, &pvalue->burstModeParameters);
-      RT_CHECK(ctx, stat, 0, "burstModeParameters", -1, "UE-Positioning-IPDL-Parameters-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r4");
-   /* sfn */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->sfn > 4095u) {
-         rtxErrAddStrParm(ctx, "sfn");
-         rtxErrAddUIntParm(ctx, pvalue->sfn);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sfn", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r4");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->sfn, 0, 4095);
-      RT_CHECK(ctx, stat, 0, "sfn", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r4");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r4");
-   /* frequencyInfo */
+   /* rSRQ */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r4");
-   }
-   /* positioningMode */
-   stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4_positioningMode(ctx, &pvalue->positioningMode);
-   RT_CHECK(ctx, stat, 0, "positioningMode", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r4");
-   /* ue-positioning-IPDL-Paremeters */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters_r4(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-IPDL-Paremeters", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r4");
+      if ((uint64_t)pvalue->rSRQ > 33u) {
+         rtxErrAddStrParm(ctx, "rSRQ");
+         rtxErrAddUIntParm(ctx, pvalue->rSRQ);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "rSRQ", -1, "EUTRA-MeasuredCells");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->rSRQ, 0, 33);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "rSRQ", -1, "EUTRA-MeasuredCells");
    }
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_EUTRA_MeasuredCells(rtxContext* RT_RESTRICT ctx, const EUTRA_MeasuredCells* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* primaryCPICH-Info */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_EUTRA_MeasuredCells, pvalue);
 }
 
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_Eutra_MeasuredResult_measuredEUTRACells(rtxContext* RT_RESTRICT ctx, const Eutra_MeasuredResult_measuredEUTRACells* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* cellAndChannelIdentity */
-   stat = asn1PE_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
-   RT_CHECK(ctx, stat, 0, "cellAndChannelIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "EUTRA-MeasuredCells", (int32_t)i, 0);
+      stat = enc_EUTRA_MeasuredCells(ctx, (const EUTRA_MeasuredCells*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "EUTRA-MeasuredCells", (int32_t)i, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SFN_Offset_Validity(rtxContext* RT_RESTRICT ctx, SFN_Offset_Validity value)
+int asn1PE_UMTS_Eutra_MeasuredResult_measuredEUTRACells(rtxContext* RT_RESTRICT ctx, const Eutra_MeasuredResult_measuredEUTRACells* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Eutra_MeasuredResult_measuredEUTRACells, pvalue);
+}
+
+RT_MERGED_BODY int enc_Eutra_MeasuredResult(rtxContext* RT_RESTRICT ctx, const Eutra_MeasuredResult* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Eutra-MeasuredResult");
+   /* earfcn */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->earfcn, 0, 65535);
+   RT_CHECK_PUT(ctx, cur, stat, "EARFCN", "earfcn", -1, "Eutra-MeasuredResult");
+   /* measuredEUTRACells */
+   stat = enc_Eutra_MeasuredResult_measuredEUTRACells(ctx, &pvalue->measuredEUTRACells, cur);
+   RT_CHECK(ctx, stat, 0, "measuredEUTRACells", -1, "Eutra-MeasuredResult");
+   return 0;
+}
+
+int asn1PE_UMTS_Eutra_MeasuredResult(rtxContext* RT_RESTRICT ctx, const Eutra_MeasuredResult* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Eutra_MeasuredResult, pvalue);
+}
+
+RT_MERGED_BODY int enc_Eutra_MeasuredResultList(rtxContext* RT_RESTRICT ctx, const Eutra_MeasuredResultList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Eutra-MeasuredResultList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "Eutra-MeasuredResultList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "Eutra-MeasuredResult", (int32_t)i, "Eutra-MeasuredResultList");
+      stat = enc_Eutra_MeasuredResult(ctx, (const Eutra_MeasuredResult*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "Eutra-MeasuredResult", (int32_t)i, "Eutra-MeasuredResultList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Eutra_MeasuredResultList(rtxContext* RT_RESTRICT ctx, const Eutra_MeasuredResultList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Eutra_MeasuredResultList, pvalue);
+}
+
+RT_MERGED_BODY int enc_EUTRA_MeasuredResults(rtxContext* RT_RESTRICT ctx, const EUTRA_MeasuredResults* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-MeasuredResults");
+   /* eutraMeasuredResultList */
+   stat = enc_Eutra_MeasuredResultList(ctx, &pvalue->eutraMeasuredResultList, cur);
+   RT_CHECK(ctx, stat, 0, "eutraMeasuredResultList", -1, "EUTRA-MeasuredResults");
+   return 0;
+}
+
+int asn1PE_UMTS_EUTRA_MeasuredResults(rtxContext* RT_RESTRICT ctx, const EUTRA_MeasuredResults* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EUTRA_MeasuredResults, pvalue);
+}
+
+RT_MERGED_BODY int enc_EUTRA_SIacquisitionResults_cgiInfo(rtxContext* RT_RESTRICT ctx, const EUTRA_SIacquisitionResults_cgiInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* plmn-Identity */
+   stat = enc_PLMN_Identity(ctx, &pvalue->plmn_Identity, cur);
+   RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, 0);
+   /* cellIdentity */
+   RT_SET_SIZE(ctx, 28, 28);
+   stat = pe_BitString32At(ctx, cur, &pvalue->cellIdentity, 28, 28);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "cellIdentity", -1, 0);
+   /* trackingAreaCode */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &pvalue->trackingAreaCode, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "trackingAreaCode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_EUTRA_SIacquisitionResults_cgiInfo(rtxContext* RT_RESTRICT ctx, const EUTRA_SIacquisitionResults_cgiInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EUTRA_SIacquisitionResults_cgiInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_EUTRA_SIacquisitionResults_csgMemberIndication(rtxContext* RT_RESTRICT ctx, EUTRA_SIacquisitionResults_csgMemberIndication value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "SFN-Offset-Validity");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SFN-Offset-Validity");
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueBased(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueBased* RT_RESTRICT pvalue)
+int asn1PE_UMTS_EUTRA_SIacquisitionResults_csgMemberIndication(rtxContext* RT_RESTRICT ctx, EUTRA_SIacquisitionResults_csgMemberIndication value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EUTRA_SIacquisitionResults_csgMemberIndication, value);
+}
+
+RT_MERGED_BODY int enc_EUTRA_SIacquisitionResults(rtxContext* RT_RESTRICT ctx, const EUTRA_SIacquisitionResults* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-SIacquisitionResults");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* relativeNorth */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "EUTRA-SIacquisitionResults");
+   /* cgiInfo */
+   stat = enc_EUTRA_SIacquisitionResults_cgiInfo(ctx, &pvalue->cgiInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cgiInfo", -1, "EUTRA-SIacquisitionResults");
+   /* csgIdentity */
    if (pvalue->m & 0x1u) {
-      if (pvalue->relativeNorth < -20000 || pvalue->relativeNorth > 20000) {
-         rtxErrAddStrParm(ctx, "relativeNorth");
-         rtxErrAddIntParm(ctx, pvalue->relativeNorth);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "relativeNorth", -1, 0);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->relativeNorth, -20000, 20000);
-      RT_CHECK(ctx, stat, 0, "relativeNorth", -1, 0);
+      stat = enc_CSG_Identity(ctx, pvalue->csgIdentity, cur);
+      RT_CHECK(ctx, stat, 0, "csgIdentity", -1, "EUTRA-SIacquisitionResults");
    }
-   /* relativeEast */
+   /* csgMemberIndication */
    if (pvalue->m & 0x2u) {
-      if (pvalue->relativeEast < -20000 || pvalue->relativeEast > 20000) {
-         rtxErrAddStrParm(ctx, "relativeEast");
-         rtxErrAddIntParm(ctx, pvalue->relativeEast);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "relativeEast", -1, 0);
+      if (pvalue->csgMemberIndication > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->csgMemberIndication);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "csgMemberIndication", -1, "EUTRA-SIacquisitionResults");
       }
-      stat = pe_ConsInt64(ctx, pvalue->relativeEast, -20000, 20000);
-      RT_CHECK(ctx, stat, 0, "relativeEast", -1, 0);
-   }
-   /* relativeAltitude */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->relativeAltitude < -4000 || pvalue->relativeAltitude > 4000) {
-         rtxErrAddStrParm(ctx, "relativeAltitude");
-         rtxErrAddIntParm(ctx, pvalue->relativeAltitude);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "relativeAltitude", -1, 0);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->relativeAltitude, -4000, 4000);
-      RT_CHECK(ctx, stat, 0, "relativeAltitude", -1, 0);
-   }
-   /* fineSFN-SFN */
-   if (pvalue->m & 0x8u) {
-      if ((uint64_t)pvalue->fineSFN_SFN > 15u) {
-         rtxErrAddStrParm(ctx, "FineSFN-SFN");
-         rtxErrAddUIntParm(ctx, pvalue->fineSFN_SFN);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "FineSFN-SFN", "fineSFN-SFN", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->fineSFN_SFN, 0, 15);
-      RT_CHECK(ctx, stat, "FineSFN-SFN", "fineSFN-SFN", -1, 0);
-   }
-   /* roundTripTime */
-   if (pvalue->m & 0x10u) {
-      if ((uint64_t)pvalue->roundTripTime > 32766u) {
-         rtxErrAddStrParm(ctx, "roundTripTime");
-         rtxErrAddUIntParm(ctx, pvalue->roundTripTime);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "roundTripTime", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->roundTripTime, 0, 32766);
-      RT_CHECK(ctx, stat, 0, "roundTripTime", -1, 0);
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->csgMemberIndication, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "csgMemberIndication", -1, "EUTRA-SIacquisitionResults");
    }
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueAssisted(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueAssisted* RT_RESTRICT pvalue)
+int asn1PE_UMTS_EUTRA_SIacquisitionResults(rtxContext* RT_RESTRICT ctx, const EUTRA_SIacquisitionResults* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EUTRA_SIacquisitionResults, pvalue);
+}
+
+RT_MERGED_BODY int enc_EUTRA_MeasuredCells_v920ext(rtxContext* RT_RESTRICT ctx, const EUTRA_MeasuredCells_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-MeasuredCells-v920ext");
+   /* eutraSIacquisitionResults */
+   stat = enc_EUTRA_SIacquisitionResults(ctx, &pvalue->eutraSIacquisitionResults, cur);
+   RT_CHECK(ctx, stat, 0, "eutraSIacquisitionResults", -1, "EUTRA-MeasuredCells-v920ext");
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode* RT_RESTRICT pvalue)
+int asn1PE_UMTS_EUTRA_MeasuredCells_v920ext(rtxContext* RT_RESTRICT ctx, const EUTRA_MeasuredCells_v920ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EUTRA_MeasuredCells_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_Eutra_MeasuredResult_v920ext_measuredEUTRACells_v920ext(rtxContext* RT_RESTRICT ctx, const Eutra_MeasuredResult_v920ext_measuredEUTRACells_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "EUTRA-MeasuredCells-v920ext", (int32_t)i, 0);
+      stat = enc_EUTRA_MeasuredCells_v920ext(ctx, (const EUTRA_MeasuredCells_v920ext*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "EUTRA-MeasuredCells-v920ext", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Eutra_MeasuredResult_v920ext_measuredEUTRACells_v920ext(rtxContext* RT_RESTRICT ctx, const Eutra_MeasuredResult_v920ext_measuredEUTRACells_v920ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Eutra_MeasuredResult_v920ext_measuredEUTRACells_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_Eutra_MeasuredResult_v920ext(rtxContext* RT_RESTRICT ctx, const Eutra_MeasuredResult_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Eutra-MeasuredResult-v920ext");
+   /* measuredEUTRACells-v920ext */
+   stat = enc_Eutra_MeasuredResult_v920ext_measuredEUTRACells_v920ext(ctx, &pvalue->measuredEUTRACells_v920ext, cur);
+   RT_CHECK(ctx, stat, 0, "measuredEUTRACells-v920ext", -1, "Eutra-MeasuredResult-v920ext");
+   return 0;
+}
+
+int asn1PE_UMTS_Eutra_MeasuredResult_v920ext(rtxContext* RT_RESTRICT ctx, const Eutra_MeasuredResult_v920ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Eutra_MeasuredResult_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_Eutra_MeasuredResultList_v920ext(rtxContext* RT_RESTRICT ctx, const Eutra_MeasuredResultList_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Eutra-MeasuredResultList-v920ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "Eutra-MeasuredResultList-v920ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "Eutra-MeasuredResult-v920ext", (int32_t)i, "Eutra-MeasuredResultList-v920ext");
+      stat = enc_Eutra_MeasuredResult_v920ext(ctx, (const Eutra_MeasuredResult_v920ext*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "Eutra-MeasuredResult-v920ext", (int32_t)i, "Eutra-MeasuredResultList-v920ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Eutra_MeasuredResultList_v920ext(rtxContext* RT_RESTRICT ctx, const Eutra_MeasuredResultList_v920ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Eutra_MeasuredResultList_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_EUTRA_MeasuredResults_v920ext(rtxContext* RT_RESTRICT ctx, const EUTRA_MeasuredResults_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "EUTRA-MeasuredResults-v920ext");
+   /* eutraMeasuredResultList-v920ext */
+   stat = enc_Eutra_MeasuredResultList_v920ext(ctx, &pvalue->eutraMeasuredResultList_v920ext, cur);
+   RT_CHECK(ctx, stat, 0, "eutraMeasuredResultList-v920ext", -1, "EUTRA-MeasuredResults-v920ext");
+   return 0;
+}
+
+int asn1PE_UMTS_EUTRA_MeasuredResults_v920ext(rtxContext* RT_RESTRICT ctx, const EUTRA_MeasuredResults_v920ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EUTRA_MeasuredResults_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_ForbiddenAffectCell_r4(rtxContext* RT_RESTRICT ctx, const ForbiddenAffectCell_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ForbiddenAffectCell-r4");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "ForbiddenAffectCell-r4");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "ForbiddenAffectCell-r4");
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.ueBased == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueBased", -1, 0);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueBased(ctx, pvalue->u.ueBased);
-         RT_CHECK(ctx, stat, 0, "ueBased", -1, 0);
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, "ForbiddenAffectCell-r4");
+         stat = enc_PrimaryCPICH_Info(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, "ForbiddenAffectCell-r4");
          break;
       case 2:
-         if (pvalue->u.ueAssisted == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueAssisted", -1, 0);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode_ueAssisted(ctx, pvalue->u.ueAssisted);
-         RT_CHECK(ctx, stat, 0, "ueAssisted", -1, 0);
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, "ForbiddenAffectCell-r4");
+         stat = enc_PrimaryCCPCH_Info_r4(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, "ForbiddenAffectCell-r4");
          break;
       default:
          break;
@@ -5028,4008 +9027,366 @@ int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode(rtxCon
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r4* RT_RESTRICT pvalue)
+int asn1PE_UMTS_ForbiddenAffectCell_r4(rtxContext* RT_RESTRICT ctx, const ForbiddenAffectCell_r4* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
-   /* frequencyInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
-   }
-   /* ue-positioning-IPDL-Paremeters */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters_r4(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-IPDL-Paremeters", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
-   }
-   /* sfn-SFN-RelTimeDifference */
-   stat = asn1PE_UMTS_SFN_SFN_RelTimeDifference1(ctx, &pvalue->sfn_SFN_RelTimeDifference);
-   RT_CHECK(ctx, stat, 0, "sfn-SFN-RelTimeDifference", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
-   /* sfn-Offset-Validity */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->sfn_Offset_Validity > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->sfn_Offset_Validity);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->sfn_Offset_Validity, 0, 0);
-      RT_CHECK(ctx, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
-   }
-   /* sfn-SFN-Drift */
-   if (pvalue->m & 0x8u) {
-      if (pvalue->sfn_SFN_Drift > 28) {
-         rtxErrAddUIntParm(ctx, pvalue->sfn_SFN_Drift);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "SFN-SFN-Drift", "sfn-SFN-Drift", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->sfn_SFN_Drift, 0, 28);
-      RT_CHECK(ctx, stat, "SFN-SFN-Drift", "sfn-SFN-Drift", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
-   }
-   /* searchWindowSize */
-   if (pvalue->searchWindowSize > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->searchWindowSize);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "OTDOA-SearchWindowSize", "searchWindowSize", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->searchWindowSize, 0, 7);
-   RT_CHECK(ctx, stat, "OTDOA-SearchWindowSize", "searchWindowSize", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
-   /* positioningMode */
-   stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4_positioningMode(ctx, &pvalue->positioningMode);
-   RT_CHECK(ctx, stat, 0, "positioningMode", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r4");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_ForbiddenAffectCell_r4, pvalue);
 }
 
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellList_r4(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellList_r4* RT_RESTRICT pvalue)
+static int enc_ForbiddenAffectCellList_r4(rtxContext* RT_RESTRICT ctx, const ForbiddenAffectCellList_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellList-r4");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ForbiddenAffectCellList-r4");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellList-r4");
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "ForbiddenAffectCellList-r4");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UE-Positioning-OTDOA-NeighbourCellInfo-r4", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList-r4");
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r4(ctx, (const UE_Positioning_OTDOA_NeighbourCellInfo_r4*)node->data);
-      RT_CHECK(ctx, stat, 0, "UE-Positioning-OTDOA-NeighbourCellInfo-r4", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList-r4");
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ForbiddenAffectCell-r4", (int32_t)i, "ForbiddenAffectCellList-r4");
+      stat = enc_ForbiddenAffectCell_r4(ctx, (const ForbiddenAffectCell_r4*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "ForbiddenAffectCell-r4", (int32_t)i, "ForbiddenAffectCellList-r4");
    }
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_r4(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_AssistanceData_r4* RT_RESTRICT pvalue)
+int asn1PE_UMTS_ForbiddenAffectCellList_r4(rtxContext* RT_RESTRICT ctx, const ForbiddenAffectCellList_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ForbiddenAffectCellList_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_Event1a_r4(rtxContext* RT_RESTRICT ctx, const Event1a_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-AssistanceData-r4");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Event1a-r4");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-AssistanceData-r4");
-   /* ue-positioning-OTDOA-ReferenceCellInfo */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Event1a-r4");
+   /* triggeringCondition */
+   if (pvalue->triggeringCondition > 4) {
+      rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TriggeringCondition2", "triggeringCondition", -1, "Event1a-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->triggeringCondition, 0, 4);
+   RT_CHECK_PUT(ctx, cur, stat, "TriggeringCondition2", "triggeringCondition", -1, "Event1a-r4");
+   /* reportingRange */
+   if ((uint64_t)pvalue->reportingRange > 29u) {
+      rtxErrAddStrParm(ctx, "ReportingRange");
+      rtxErrAddUIntParm(ctx, pvalue->reportingRange);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ReportingRange", "reportingRange", -1, "Event1a-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->reportingRange, 0, 29);
+   RT_CHECK_PUT(ctx, cur, stat, "ReportingRange", "reportingRange", -1, "Event1a-r4");
+   /* forbiddenAffectCellList */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r4(ctx, &pvalue->ue_positioning_OTDOA_ReferenceCellInfo);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-ReferenceCellInfo", -1, "UE-Positioning-OTDOA-AssistanceData-r4");
+      stat = enc_ForbiddenAffectCellList_r4(ctx, &pvalue->forbiddenAffectCellList, cur);
+      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellList", -1, "Event1a-r4");
    }
-   /* ue-positioning-OTDOA-NeighbourCellList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellList_r4(ctx, &pvalue->ue_positioning_OTDOA_NeighbourCellList);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-NeighbourCellList", -1, "UE-Positioning-OTDOA-AssistanceData-r4");
+   /* w */
+   if ((uint64_t)pvalue->w > 20u) {
+      rtxErrAddStrParm(ctx, "W");
+      rtxErrAddUIntParm(ctx, pvalue->w);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "W", "w", -1, "Event1a-r4");
    }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_Measurement_r4(rtxContext* RT_RESTRICT ctx, const UE_Positioning_Measurement_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-Measurement-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-Measurement-r4");
-   /* ue-positioning-ReportingQuantity */
-   stat = asn1PE_UMTS_UE_Positioning_ReportingQuantity_r4(ctx, &pvalue->ue_positioning_ReportingQuantity);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-ReportingQuantity", -1, "UE-Positioning-Measurement-r4");
-   /* measurementValidity */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "UE-Positioning-Measurement-r4");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->w, 0, 20);
+   RT_CHECK_PUT(ctx, cur, stat, "W", "w", -1, "Event1a-r4");
+   /* reportDeactivationThreshold */
+   if (pvalue->reportDeactivationThreshold > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->reportDeactivationThreshold);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ReportDeactivationThreshold", "reportDeactivationThreshold", -1, "Event1a-r4");
    }
-   /* reportCriteria */
-   stat = asn1PE_UMTS_UE_Positioning_ReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "UE-Positioning-Measurement-r4");
-   /* ue-positioning-OTDOA-AssistanceData */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_r4(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData", -1, "UE-Positioning-Measurement-r4");
-   }
-   /* ue-positioning-GPS-AssistanceData */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_AssistanceData(ctx, &pvalue->ue_positioning_GPS_AssistanceData);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AssistanceData", -1, "UE-Positioning-Measurement-r4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UE_InternalReportingQuantity_r4_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* ue-RX-TX-TimeDifference */
-   stat = rtxEncBit(ctx, pvalue->ue_RX_TX_TimeDifference);
-   RT_CHECK(ctx, stat, 0, "ue-RX-TX-TimeDifference", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd384(rtxContext* RT_RESTRICT ctx, const UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* appliedTA */
-   stat = rtxEncBit(ctx, pvalue->appliedTA);
-   RT_CHECK(ctx, stat, 0, "appliedTA", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd128(rtxContext* RT_RESTRICT ctx, const UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* t-ADVinfo */
-   stat = rtxEncBit(ctx, pvalue->t_ADVinfo);
-   RT_CHECK(ctx, stat, 0, "t-ADVinfo", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption(rtxContext* RT_RESTRICT ctx, const UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
-         stat = asn1PE_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* tddOption */
-   stat = asn1PE_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd_tddOption(ctx, &pvalue->tddOption);
-   RT_CHECK(ctx, stat, 0, "tddOption", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UE_InternalReportingQuantity_r4_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalReportingQuantity_r4(rtxContext* RT_RESTRICT ctx, const UE_InternalReportingQuantity_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-InternalReportingQuantity-r4");
-   /* ue-TransmittedPower */
-   stat = rtxEncBit(ctx, pvalue->ue_TransmittedPower);
-   RT_CHECK(ctx, stat, 0, "ue-TransmittedPower", -1, "UE-InternalReportingQuantity-r4");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_UE_InternalReportingQuantity_r4_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-InternalReportingQuantity-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_InternalMeasurement_r4(rtxContext* RT_RESTRICT ctx, const UE_InternalMeasurement_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-InternalMeasurement-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-InternalMeasurement-r4");
-   /* ue-InternalMeasQuantity */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_InternalMeasQuantity(ctx, &pvalue->ue_InternalMeasQuantity);
-      RT_CHECK(ctx, stat, 0, "ue-InternalMeasQuantity", -1, "UE-InternalMeasurement-r4");
-   }
-   /* ue-InternalReportingQuantity */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_InternalReportingQuantity_r4(ctx, &pvalue->ue_InternalReportingQuantity);
-      RT_CHECK(ctx, stat, 0, "ue-InternalReportingQuantity", -1, "UE-InternalMeasurement-r4");
-   }
-   /* reportCriteria */
-   stat = asn1PE_UMTS_UE_InternalReportCriteria(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "UE-InternalMeasurement-r4");
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementType_r4(rtxContext* RT_RESTRICT ctx, const MeasurementType_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementType-r4");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
-   RT_CHECK(ctx, stat, 0, "t", -1, "MeasurementType-r4");
-   if (pvalue->t - 1 > 6) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementType-r4");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.intraFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r4");
-         stat = asn1PE_UMTS_IntraFrequencyMeasurement_r4(ctx, pvalue->u.intraFrequencyMeasurement);
-         RT_CHECK(ctx, stat, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r4");
-         break;
-      case 2:
-         if (pvalue->u.interFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interFrequencyMeasurement", -1, "MeasurementType-r4");
-         stat = asn1PE_UMTS_InterFrequencyMeasurement_r4(ctx, pvalue->u.interFrequencyMeasurement);
-         RT_CHECK(ctx, stat, 0, "interFrequencyMeasurement", -1, "MeasurementType-r4");
-         break;
-      case 3:
-         if (pvalue->u.interRATMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interRATMeasurement", -1, "MeasurementType-r4");
-         stat = asn1PE_UMTS_InterRATMeasurement_r4(ctx, pvalue->u.interRATMeasurement);
-         RT_CHECK(ctx, stat, 0, "interRATMeasurement", -1, "MeasurementType-r4");
-         break;
-      case 4:
-         if (pvalue->u.up_Measurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "up-Measurement", -1, "MeasurementType-r4");
-         stat = asn1PE_UMTS_UE_Positioning_Measurement_r4(ctx, pvalue->u.up_Measurement);
-         RT_CHECK(ctx, stat, 0, "up-Measurement", -1, "MeasurementType-r4");
-         break;
-      case 5:
-         if (pvalue->u.trafficVolumeMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r4");
-         stat = asn1PE_UMTS_TrafficVolumeMeasurement(ctx, pvalue->u.trafficVolumeMeasurement);
-         RT_CHECK(ctx, stat, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r4");
-         break;
-      case 6:
-         if (pvalue->u.qualityMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "qualityMeasurement", -1, "MeasurementType-r4");
-         stat = asn1PE_UMTS_QualityMeasurement(ctx, pvalue->u.qualityMeasurement);
-         RT_CHECK(ctx, stat, 0, "qualityMeasurement", -1, "MeasurementType-r4");
-         break;
-      case 7:
-         if (pvalue->u.ue_InternalMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ue-InternalMeasurement", -1, "MeasurementType-r4");
-         stat = asn1PE_UMTS_UE_InternalMeasurement_r4(ctx, pvalue->u.ue_InternalMeasurement);
-         RT_CHECK(ctx, stat, 0, "ue-InternalMeasurement", -1, "MeasurementType-r4");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementCommand_r4_modify(rtxContext* RT_RESTRICT ctx, const MeasurementCommand_r4_modify* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementType */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MeasurementType_r4(ctx, &pvalue->measurementType);
-      RT_CHECK(ctx, stat, 0, "measurementType", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementCommand_r4(rtxContext* RT_RESTRICT ctx, const MeasurementCommand_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCommand-r4");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "MeasurementCommand-r4");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementCommand-r4");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.setup == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "setup", -1, "MeasurementCommand-r4");
-         stat = asn1PE_UMTS_MeasurementType_r4(ctx, pvalue->u.setup);
-         RT_CHECK(ctx, stat, 0, "setup", -1, "MeasurementCommand-r4");
-         break;
-      case 2:
-         if (pvalue->u.modify == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "modify", -1, "MeasurementCommand-r4");
-         stat = asn1PE_UMTS_MeasurementCommand_r4_modify(ctx, pvalue->u.modify);
-         RT_CHECK(ctx, stat, 0, "modify", -1, "MeasurementCommand-r4");
-         break;
-      case 3:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementType_r6(rtxContext* RT_RESTRICT ctx, const MeasurementType_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementType-r6");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
-   RT_CHECK(ctx, stat, 0, "t", -1, "MeasurementType-r6");
-   if (pvalue->t - 1 > 6) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementType-r6");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.intraFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r6");
-         stat = asn1PE_UMTS_IntraFrequencyMeasurement_r6(ctx, pvalue->u.intraFrequencyMeasurement);
-         RT_CHECK(ctx, stat, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r6");
-         break;
-      case 2:
-         if (pvalue->u.interFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interFrequencyMeasurement", -1, "MeasurementType-r6");
-         stat = asn1PE_UMTS_InterFrequencyMeasurement_r6(ctx, pvalue->u.interFrequencyMeasurement);
-         RT_CHECK(ctx, stat, 0, "interFrequencyMeasurement", -1, "MeasurementType-r6");
-         break;
-      case 3:
-         if (pvalue->u.interRATMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interRATMeasurement", -1, "MeasurementType-r6");
-         stat = asn1PE_UMTS_InterRATMeasurement_r6(ctx, pvalue->u.interRATMeasurement);
-         RT_CHECK(ctx, stat, 0, "interRATMeasurement", -1, "MeasurementType-r6");
-         break;
-      case 4:
-         if (pvalue->u.up_Measurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "up-Measurement", -1, "MeasurementType-r6");
-         stat = asn1PE_UMTS_UE_Positioning_Measurement_r4(ctx, pvalue->u.up_Measurement);
-         RT_CHECK(ctx, stat, 0, "up-Measurement", -1, "MeasurementType-r6");
-         break;
-      case 5:
-         if (pvalue->u.trafficVolumeMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r6");
-         stat = asn1PE_UMTS_TrafficVolumeMeasurement(ctx, pvalue->u.trafficVolumeMeasurement);
-         RT_CHECK(ctx, stat, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r6");
-         break;
-      case 6:
-         if (pvalue->u.qualityMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "qualityMeasurement", -1, "MeasurementType-r6");
-         stat = asn1PE_UMTS_QualityMeasurement(ctx, pvalue->u.qualityMeasurement);
-         RT_CHECK(ctx, stat, 0, "qualityMeasurement", -1, "MeasurementType-r6");
-         break;
-      case 7:
-         if (pvalue->u.ue_InternalMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ue-InternalMeasurement", -1, "MeasurementType-r6");
-         stat = asn1PE_UMTS_UE_InternalMeasurement_r4(ctx, pvalue->u.ue_InternalMeasurement);
-         RT_CHECK(ctx, stat, 0, "ue-InternalMeasurement", -1, "MeasurementType-r6");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementCommand_r6_modify(rtxContext* RT_RESTRICT ctx, const MeasurementCommand_r6_modify* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementType */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MeasurementType_r6(ctx, &pvalue->measurementType);
-      RT_CHECK(ctx, stat, 0, "measurementType", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementCommand_r6(rtxContext* RT_RESTRICT ctx, const MeasurementCommand_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCommand-r6");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "MeasurementCommand-r6");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementCommand-r6");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.setup == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "setup", -1, "MeasurementCommand-r6");
-         stat = asn1PE_UMTS_MeasurementType_r6(ctx, pvalue->u.setup);
-         RT_CHECK(ctx, stat, 0, "setup", -1, "MeasurementCommand-r6");
-         break;
-      case 2:
-         if (pvalue->u.modify == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "modify", -1, "MeasurementCommand-r6");
-         stat = asn1PE_UMTS_MeasurementCommand_r6_modify(ctx, pvalue->u.modify);
-         RT_CHECK(ctx, stat, 0, "modify", -1, "MeasurementCommand-r6");
-         break;
-      case 3:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_ReportingQuantity_r7_velocityRequested(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportingQuantity_r7_velocityRequested value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_ReportingQuantity_r7(rtxContext* RT_RESTRICT ctx, const UE_Positioning_ReportingQuantity_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-ReportingQuantity-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 0), 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-ReportingQuantity-r7");
-   /* methodType */
-   if (pvalue->methodType > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->methodType);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UE-Positioning-MethodType", "methodType", -1, "UE-Positioning-ReportingQuantity-r7");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->methodType, 0, 3);
-   RT_CHECK(ctx, stat, "UE-Positioning-MethodType", "methodType", -1, "UE-Positioning-ReportingQuantity-r7");
-   /* positioningMethod */
-   if (pvalue->positioningMethod > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->positioningMethod);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PositioningMethod", "positioningMethod", -1, "UE-Positioning-ReportingQuantity-r7");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->positioningMethod, 0, 3);
-   RT_CHECK(ctx, stat, "PositioningMethod", "positioningMethod", -1, "UE-Positioning-ReportingQuantity-r7");
-   /* horizontalAccuracy */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_Accuracy(ctx, pvalue->horizontalAccuracy);
-      RT_CHECK(ctx, stat, 0, "horizontalAccuracy", -1, "UE-Positioning-ReportingQuantity-r7");
-   }
-   /* verticalAccuracy */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_Positioning_Accuracy(ctx, pvalue->verticalAccuracy);
-      RT_CHECK(ctx, stat, 0, "verticalAccuracy", -1, "UE-Positioning-ReportingQuantity-r7");
-   }
-   /* gps-TimingOfCellWanted */
-   stat = rtxEncBit(ctx, pvalue->gps_TimingOfCellWanted);
-   RT_CHECK(ctx, stat, 0, "gps-TimingOfCellWanted", -1, "UE-Positioning-ReportingQuantity-r7");
-   /* additionalAssistanceDataReq */
-   stat = rtxEncBit(ctx, pvalue->additionalAssistanceDataReq);
-   RT_CHECK(ctx, stat, 0, "additionalAssistanceDataReq", -1, "UE-Positioning-ReportingQuantity-r7");
-   /* environmentCharacterisation */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->environmentCharacterisation > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->environmentCharacterisation);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "EnvironmentCharacterisation", "environmentCharacterisation", -1, "UE-Positioning-ReportingQuantity-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->environmentCharacterisation, 0, 3);
-      RT_CHECK(ctx, stat, "EnvironmentCharacterisation", "environmentCharacterisation", -1, "UE-Positioning-ReportingQuantity-r7");
-   }
-   /* velocityRequested */
-   if (pvalue->m & 0x8u) {
-      if (pvalue->velocityRequested > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->velocityRequested);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "velocityRequested", -1, "UE-Positioning-ReportingQuantity-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->velocityRequested, 0, 0);
-      RT_CHECK(ctx, stat, 0, "velocityRequested", -1, "UE-Positioning-ReportingQuantity-r7");
-   }
-   /* gANSSPositioningMethods */
-   if (pvalue->m & 0x10u) {
-      RT_SET_SIZE(ctx, 16, 16);
-      stat = pe_BitString32(ctx, &pvalue->gANSSPositioningMethods, 16, 16);
-      RT_CHECK(ctx, stat, 0, "gANSSPositioningMethods", -1, "UE-Positioning-ReportingQuantity-r7");
-   }
-   /* gANSSTimingOfCellWanted */
-   if (pvalue->m & 0x20u) {
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pe_BitString32(ctx, &pvalue->gANSSTimingOfCellWanted, 8, 8);
-      RT_CHECK(ctx, stat, 0, "gANSSTimingOfCellWanted", -1, "UE-Positioning-ReportingQuantity-r7");
-   }
-   /* gANSSCarrierPhaseMeasurementRequested */
-   if (pvalue->m & 0x40u) {
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pe_BitString32(ctx, &pvalue->gANSSCarrierPhaseMeasurementRequested, 8, 8);
-      RT_CHECK(ctx, stat, 0, "gANSSCarrierPhaseMeasurementRequested", -1, "UE-Positioning-ReportingQuantity-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ThresholdSFN_GPS_TOW_us(rtxContext* RT_RESTRICT ctx, ThresholdSFN_GPS_TOW_us value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ThresholdSFN-GPS-TOW-us");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ThresholdSFN-GPS-TOW-us");
-   return 0;
-}
-
-int asn1PE_UMTS_ThresholdSFN_GANSS_TOW(rtxContext* RT_RESTRICT ctx, ThresholdSFN_GANSS_TOW value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "ThresholdSFN-GANSS-TOW");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ThresholdSFN-GANSS-TOW");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_EventSpecificInfo_r7(rtxContext* RT_RESTRICT ctx, const UE_Positioning_EventSpecificInfo_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-EventSpecificInfo-r7");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UE-Positioning-EventSpecificInfo-r7");
-   if (pvalue->t - 1 > 3) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UE-Positioning-EventSpecificInfo-r7");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.e7a > 15) {
-            rtxErrAddUIntParm(ctx, pvalue->u.e7a);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "ThresholdPositionChange", "e7a", -1, "UE-Positioning-EventSpecificInfo-r7");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.e7a, 0, 15);
-         RT_CHECK(ctx, stat, "ThresholdPositionChange", "e7a", -1, "UE-Positioning-EventSpecificInfo-r7");
-         break;
-      case 2:
-         if (pvalue->u.e7b > 15) {
-            rtxErrAddUIntParm(ctx, pvalue->u.e7b);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "ThresholdSFN-SFN-Change", "e7b", -1, "UE-Positioning-EventSpecificInfo-r7");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.e7b, 0, 15);
-         RT_CHECK(ctx, stat, "ThresholdSFN-SFN-Change", "e7b", -1, "UE-Positioning-EventSpecificInfo-r7");
-         break;
-      case 3:
-         if (pvalue->u.e7c > 7) {
-            rtxErrAddUIntParm(ctx, pvalue->u.e7c);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "ThresholdSFN-GPS-TOW-us", "e7c", -1, "UE-Positioning-EventSpecificInfo-r7");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.e7c, 0, 7);
-         RT_CHECK(ctx, stat, "ThresholdSFN-GPS-TOW-us", "e7c", -1, "UE-Positioning-EventSpecificInfo-r7");
-         break;
-      case 4:
-         if (pvalue->u.e7d > 7) {
-            rtxErrAddUIntParm(ctx, pvalue->u.e7d);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "ThresholdSFN-GANSS-TOW", "e7d", -1, "UE-Positioning-EventSpecificInfo-r7");
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.e7d, 0, 7);
-         RT_CHECK(ctx, stat, "ThresholdSFN-GANSS-TOW", "e7d", -1, "UE-Positioning-EventSpecificInfo-r7");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_EventParam_r7(rtxContext* RT_RESTRICT ctx, const UE_Positioning_EventParam_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-EventParam-r7");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->reportDeactivationThreshold, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "ReportDeactivationThreshold", "reportDeactivationThreshold", -1, "Event1a-r4");
    /* reportingAmount */
    if (pvalue->reportingAmount > 7) {
       rtxErrAddUIntParm(ctx, pvalue->reportingAmount);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "ReportingAmount", "reportingAmount", -1, "UE-Positioning-EventParam-r7");
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ReportingAmount", "reportingAmount", -1, "Event1a-r4");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->reportingAmount, 0, 7);
-   RT_CHECK(ctx, stat, "ReportingAmount", "reportingAmount", -1, "UE-Positioning-EventParam-r7");
-   /* reportFirstFix */
-   stat = rtxEncBit(ctx, pvalue->reportFirstFix);
-   RT_CHECK(ctx, stat, 0, "reportFirstFix", -1, "UE-Positioning-EventParam-r7");
-   /* measurementInterval */
-   if (pvalue->measurementInterval > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->measurementInterval);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UE-Positioning-MeasurementInterval", "measurementInterval", -1, "UE-Positioning-EventParam-r7");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->reportingAmount, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "ReportingAmount", "reportingAmount", -1, "Event1a-r4");
+   /* reportingInterval */
+   if (pvalue->reportingInterval > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->reportingInterval);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ReportingInterval", "reportingInterval", -1, "Event1a-r4");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->measurementInterval, 0, 7);
-   RT_CHECK(ctx, stat, "UE-Positioning-MeasurementInterval", "measurementInterval", -1, "UE-Positioning-EventParam-r7");
-   /* eventSpecificInfo */
-   stat = asn1PE_UMTS_UE_Positioning_EventSpecificInfo_r7(ctx, &pvalue->eventSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "eventSpecificInfo", -1, "UE-Positioning-EventParam-r7");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->reportingInterval, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "ReportingInterval", "reportingInterval", -1, "Event1a-r4");
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_EventParamList_r7(rtxContext* RT_RESTRICT ctx, const UE_Positioning_EventParamList_r7* RT_RESTRICT pvalue)
+int asn1PE_UMTS_Event1a_r4(rtxContext* RT_RESTRICT ctx, const Event1a_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Event1a_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_ForbiddenAffectCellOnSecULFreq(rtxContext* RT_RESTRICT ctx, const ForbiddenAffectCellOnSecULFreq* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-EventParamList-r7");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UE-Positioning-EventParamList-r7");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UE-Positioning-EventParam-r7", (int32_t)i, "UE-Positioning-EventParamList-r7");
-      stat = asn1PE_UMTS_UE_Positioning_EventParam_r7(ctx, (const UE_Positioning_EventParam_r7*)node->data);
-      RT_CHECK(ctx, stat, 0, "UE-Positioning-EventParam-r7", (int32_t)i, "UE-Positioning-EventParamList-r7");
-   }
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ForbiddenAffectCellOnSecULFreq");
+   /* primaryCPICH */
+   stat = enc_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH", -1, "ForbiddenAffectCellOnSecULFreq");
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_ReportCriteria_r7(rtxContext* RT_RESTRICT ctx, const UE_Positioning_ReportCriteria_r7* RT_RESTRICT pvalue)
+int asn1PE_UMTS_ForbiddenAffectCellOnSecULFreq(rtxContext* RT_RESTRICT ctx, const ForbiddenAffectCellOnSecULFreq* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-ReportCriteria-r7");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "UE-Positioning-ReportCriteria-r7");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "UE-Positioning-ReportCriteria-r7");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.ue_positioning_ReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ue-positioning-ReportingCriteria", -1, "UE-Positioning-ReportCriteria-r7");
-         stat = asn1PE_UMTS_UE_Positioning_EventParamList_r7(ctx, pvalue->u.ue_positioning_ReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "ue-positioning-ReportingCriteria", -1, "UE-Positioning-ReportCriteria-r7");
-         break;
-      case 2:
-         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "UE-Positioning-ReportCriteria-r7");
-         stat = asn1PE_UMTS_PeriodicalReportingCriteria(ctx, pvalue->u.periodicalReportingCriteria);
-         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "UE-Positioning-ReportCriteria-r7");
-         break;
-      case 3:
-         break;
-      default:
-         break;
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_ForbiddenAffectCellOnSecULFreq, pvalue);
 }
 
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_ForbiddenAffectCellListOnSecULFreq(rtxContext* RT_RESTRICT ctx, const ForbiddenAffectCellListOnSecULFreq* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* primaryCPICH-Info */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* cellAndChannelIdentity */
-   stat = asn1PE_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
-   RT_CHECK(ctx, stat, 0, "cellAndChannelIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueBased(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueBased* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellPosition */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ReferenceCellPosition(ctx, &pvalue->cellPosition);
-      RT_CHECK(ctx, stat, 0, "cellPosition", -1, 0);
-   }
-   /* roundTripTime */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->roundTripTime > 32766u) {
-         rtxErrAddStrParm(ctx, "roundTripTime");
-         rtxErrAddUIntParm(ctx, pvalue->roundTripTime);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "roundTripTime", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->roundTripTime, 0, 32766);
-      RT_CHECK(ctx, stat, 0, "roundTripTime", -1, 0);
-   }
-   /* roundTripTimeExtension */
-   if (pvalue->m & 0x4u) {
-      if ((uint64_t)pvalue->roundTripTimeExtension > 70274u) {
-         rtxErrAddStrParm(ctx, "roundTripTimeExtension");
-         rtxErrAddUIntParm(ctx, pvalue->roundTripTimeExtension);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "roundTripTimeExtension", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->roundTripTimeExtension, 0, 70274);
-      RT_CHECK(ctx, stat, 0, "roundTripTimeExtension", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueAssisted(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueAssisted* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.ueBased == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueBased", -1, 0);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueBased(ctx, pvalue->u.ueBased);
-         RT_CHECK(ctx, stat, 0, "ueBased", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.ueAssisted == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueAssisted", -1, 0);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode_ueAssisted(ctx, pvalue->u.ueAssisted);
-         RT_CHECK(ctx, stat, 0, "ueAssisted", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r7");
-   /* sfn */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->sfn > 4095u) {
-         rtxErrAddStrParm(ctx, "sfn");
-         rtxErrAddUIntParm(ctx, pvalue->sfn);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sfn", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->sfn, 0, 4095);
-      RT_CHECK(ctx, stat, 0, "sfn", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r7");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r7");
-   /* frequencyInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r7");
-   }
-   /* positioningMode */
-   stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7_positioningMode(ctx, &pvalue->positioningMode);
-   RT_CHECK(ctx, stat, 0, "positioningMode", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r7");
-   /* ue-positioning-IPDL-Paremeters */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters_r4(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-IPDL-Paremeters", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* primaryCPICH-Info */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* cellAndChannelIdentity */
-   stat = asn1PE_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
-   RT_CHECK(ctx, stat, 0, "cellAndChannelIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueBased(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueBased* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* relativeNorth */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->relativeNorth < -20000 || pvalue->relativeNorth > 20000) {
-         rtxErrAddStrParm(ctx, "relativeNorth");
-         rtxErrAddIntParm(ctx, pvalue->relativeNorth);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "relativeNorth", -1, 0);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->relativeNorth, -20000, 20000);
-      RT_CHECK(ctx, stat, 0, "relativeNorth", -1, 0);
-   }
-   /* relativeEast */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->relativeEast < -20000 || pvalue->relativeEast > 20000) {
-         rtxErrAddStrParm(ctx, "relativeEast");
-         rtxErrAddIntParm(ctx, pvalue->relativeEast);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "relativeEast", -1, 0);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->relativeEast, -20000, 20000);
-      RT_CHECK(ctx, stat, 0, "relativeEast", -1, 0);
-   }
-   /* relativeAltitude */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->relativeAltitude < -4000 || pvalue->relativeAltitude > 4000) {
-         rtxErrAddStrParm(ctx, "relativeAltitude");
-         rtxErrAddIntParm(ctx, pvalue->relativeAltitude);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "relativeAltitude", -1, 0);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->relativeAltitude, -4000, 4000);
-      RT_CHECK(ctx, stat, 0, "relativeAltitude", -1, 0);
-   }
-   /* fineSFN-SFN */
-   if (pvalue->m & 0x8u) {
-      if ((uint64_t)pvalue->fineSFN_SFN > 15u) {
-         rtxErrAddStrParm(ctx, "FineSFN-SFN");
-         rtxErrAddUIntParm(ctx, pvalue->fineSFN_SFN);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "FineSFN-SFN", "fineSFN-SFN", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->fineSFN_SFN, 0, 15);
-      RT_CHECK(ctx, stat, "FineSFN-SFN", "fineSFN-SFN", -1, 0);
-   }
-   /* roundTripTime */
-   if (pvalue->m & 0x10u) {
-      if ((uint64_t)pvalue->roundTripTime > 32766u) {
-         rtxErrAddStrParm(ctx, "roundTripTime");
-         rtxErrAddUIntParm(ctx, pvalue->roundTripTime);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "roundTripTime", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->roundTripTime, 0, 32766);
-      RT_CHECK(ctx, stat, 0, "roundTripTime", -1, 0);
-   }
-   /* roundTripTimeExtension */
-   if (pvalue->m & 0x20u) {
-      if ((uint64_t)pvalue->roundTripTimeExtension > 70274u) {
-         rtxErrAddStrParm(ctx, "roundTripTimeExtension");
-         rtxErrAddUIntParm(ctx, pvalue->roundTripTimeExtension);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "roundTripTimeExtension", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->roundTripTimeExtension, 0, 70274);
-      RT_CHECK(ctx, stat, 0, "roundTripTimeExtension", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueAssisted(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueAssisted* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.ueBased == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueBased", -1, 0);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueBased(ctx, pvalue->u.ueBased);
-         RT_CHECK(ctx, stat, 0, "ueBased", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.ueAssisted == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ueAssisted", -1, 0);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode_ueAssisted(ctx, pvalue->u.ueAssisted);
-         RT_CHECK(ctx, stat, 0, "ueAssisted", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
-   /* frequencyInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
-   }
-   /* ue-positioning-IPDL-Paremeters */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters_r4(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-IPDL-Paremeters", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
-   }
-   /* sfn-SFN-RelTimeDifference */
-   stat = asn1PE_UMTS_SFN_SFN_RelTimeDifference1(ctx, &pvalue->sfn_SFN_RelTimeDifference);
-   RT_CHECK(ctx, stat, 0, "sfn-SFN-RelTimeDifference", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
-   /* sfn-Offset-Validity */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->sfn_Offset_Validity > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->sfn_Offset_Validity);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->sfn_Offset_Validity, 0, 0);
-      RT_CHECK(ctx, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
-   }
-   /* sfn-SFN-Drift */
-   if (pvalue->m & 0x8u) {
-      if (pvalue->sfn_SFN_Drift > 28) {
-         rtxErrAddUIntParm(ctx, pvalue->sfn_SFN_Drift);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "SFN-SFN-Drift", "sfn-SFN-Drift", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->sfn_SFN_Drift, 0, 28);
-      RT_CHECK(ctx, stat, "SFN-SFN-Drift", "sfn-SFN-Drift", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
-   }
-   /* searchWindowSize */
-   if (pvalue->searchWindowSize > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->searchWindowSize);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "OTDOA-SearchWindowSize", "searchWindowSize", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->searchWindowSize, 0, 7);
-   RT_CHECK(ctx, stat, "OTDOA-SearchWindowSize", "searchWindowSize", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
-   /* positioningMode */
-   stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7_positioningMode(ctx, &pvalue->positioningMode);
-   RT_CHECK(ctx, stat, 0, "positioningMode", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellList_r7(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellList_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellList-r7");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ForbiddenAffectCellListOnSecULFreq");
    const rtxDListNode* node;
    uint32_t i;
    RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellList-r7");
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "ForbiddenAffectCellListOnSecULFreq");
    for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UE-Positioning-OTDOA-NeighbourCellInfo-r7", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList-r7");
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_r7(ctx, (const UE_Positioning_OTDOA_NeighbourCellInfo_r7*)node->data);
-      RT_CHECK(ctx, stat, 0, "UE-Positioning-OTDOA-NeighbourCellInfo-r7", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList-r7");
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ForbiddenAffectCellOnSecULFreq", (int32_t)i, "ForbiddenAffectCellListOnSecULFreq");
+      stat = enc_ForbiddenAffectCellOnSecULFreq(ctx, (const ForbiddenAffectCellOnSecULFreq*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "ForbiddenAffectCellOnSecULFreq", (int32_t)i, "ForbiddenAffectCellListOnSecULFreq");
    }
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_r7(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_AssistanceData_r7* RT_RESTRICT pvalue)
+int asn1PE_UMTS_ForbiddenAffectCellListOnSecULFreq(rtxContext* RT_RESTRICT ctx, const ForbiddenAffectCellListOnSecULFreq* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ForbiddenAffectCellListOnSecULFreq, pvalue);
+}
+
+RT_MERGED_BODY int enc_Event1a_OnSecUlFreq_r9(rtxContext* RT_RESTRICT ctx, const Event1a_OnSecUlFreq_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-AssistanceData-r7");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Event1a-OnSecUlFreq-r9");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Event1a-OnSecUlFreq-r9");
+   /* triggeringCondition */
+   if (pvalue->triggeringCondition > 4) {
+      rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TriggeringCondition2", "triggeringCondition", -1, "Event1a-OnSecUlFreq-r9");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->triggeringCondition, 0, 4);
+   RT_CHECK_PUT(ctx, cur, stat, "TriggeringCondition2", "triggeringCondition", -1, "Event1a-OnSecUlFreq-r9");
+   /* reportingRange */
+   if ((uint64_t)pvalue->reportingRange > 29u) {
+      rtxErrAddStrParm(ctx, "ReportingRange");
+      rtxErrAddUIntParm(ctx, pvalue->reportingRange);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ReportingRange", "reportingRange", -1, "Event1a-OnSecUlFreq-r9");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->reportingRange, 0, 29);
+   RT_CHECK_PUT(ctx, cur, stat, "ReportingRange", "reportingRange", -1, "Event1a-OnSecUlFreq-r9");
+   /* forbiddenAffectCellListOnSecULFreq */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ForbiddenAffectCellListOnSecULFreq(ctx, &pvalue->forbiddenAffectCellListOnSecULFreq, cur);
+      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellListOnSecULFreq", -1, "Event1a-OnSecUlFreq-r9");
+   }
+   /* w */
+   if ((uint64_t)pvalue->w > 20u) {
+      rtxErrAddStrParm(ctx, "W");
+      rtxErrAddUIntParm(ctx, pvalue->w);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "W", "w", -1, "Event1a-OnSecUlFreq-r9");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->w, 0, 20);
+   RT_CHECK_PUT(ctx, cur, stat, "W", "w", -1, "Event1a-OnSecUlFreq-r9");
+   /* reportDeactivationThreshold */
+   if (pvalue->reportDeactivationThreshold > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->reportDeactivationThreshold);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ReportDeactivationThreshold", "reportDeactivationThreshold", -1, "Event1a-OnSecUlFreq-r9");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->reportDeactivationThreshold, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "ReportDeactivationThreshold", "reportDeactivationThreshold", -1, "Event1a-OnSecUlFreq-r9");
+   /* reportingAmount */
+   if (pvalue->reportingAmount > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->reportingAmount);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ReportingAmount", "reportingAmount", -1, "Event1a-OnSecUlFreq-r9");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->reportingAmount, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "ReportingAmount", "reportingAmount", -1, "Event1a-OnSecUlFreq-r9");
+   /* reportingInterval */
+   if (pvalue->reportingInterval > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->reportingInterval);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ReportingInterval", "reportingInterval", -1, "Event1a-OnSecUlFreq-r9");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->reportingInterval, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "ReportingInterval", "reportingInterval", -1, "Event1a-OnSecUlFreq-r9");
+   return 0;
+}
+
+int asn1PE_UMTS_Event1a_OnSecUlFreq_r9(rtxContext* RT_RESTRICT ctx, const Event1a_OnSecUlFreq_r9* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Event1a_OnSecUlFreq_r9, pvalue);
+}
+
+RT_MERGED_BODY int enc_Event1b_r4(rtxContext* RT_RESTRICT ctx, const Event1b_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Event1b-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Event1b-r4");
+   /* triggeringCondition */
+   if (pvalue->triggeringCondition > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TriggeringCondition1", "triggeringCondition", -1, "Event1b-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->triggeringCondition, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, "TriggeringCondition1", "triggeringCondition", -1, "Event1b-r4");
+   /* reportingRange */
+   if ((uint64_t)pvalue->reportingRange > 29u) {
+      rtxErrAddStrParm(ctx, "ReportingRange");
+      rtxErrAddUIntParm(ctx, pvalue->reportingRange);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ReportingRange", "reportingRange", -1, "Event1b-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->reportingRange, 0, 29);
+   RT_CHECK_PUT(ctx, cur, stat, "ReportingRange", "reportingRange", -1, "Event1b-r4");
+   /* forbiddenAffectCellList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ForbiddenAffectCellList_r4(ctx, &pvalue->forbiddenAffectCellList, cur);
+      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellList", -1, "Event1b-r4");
+   }
+   /* w */
+   if ((uint64_t)pvalue->w > 20u) {
+      rtxErrAddStrParm(ctx, "W");
+      rtxErrAddUIntParm(ctx, pvalue->w);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "W", "w", -1, "Event1b-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->w, 0, 20);
+   RT_CHECK_PUT(ctx, cur, stat, "W", "w", -1, "Event1b-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_Event1b_r4(rtxContext* RT_RESTRICT ctx, const Event1b_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Event1b_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_Event1b_r7(rtxContext* RT_RESTRICT ctx, const Event1b_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Event1b-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-AssistanceData-r7");
-   /* ue-positioning-OTDOA-ReferenceCellInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_r7(ctx, &pvalue->ue_positioning_OTDOA_ReferenceCellInfo);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-ReferenceCellInfo", -1, "UE-Positioning-OTDOA-AssistanceData-r7");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Event1b-r7");
+   /* triggeringCondition */
+   if (pvalue->triggeringCondition > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TriggeringCondition1", "triggeringCondition", -1, "Event1b-r7");
    }
-   /* ue-positioning-OTDOA-NeighbourCellList */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->triggeringCondition, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, "TriggeringCondition1", "triggeringCondition", -1, "Event1b-r7");
+   /* reportingRange */
+   if ((uint64_t)pvalue->reportingRange > 29u) {
+      rtxErrAddStrParm(ctx, "ReportingRange");
+      rtxErrAddUIntParm(ctx, pvalue->reportingRange);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ReportingRange", "reportingRange", -1, "Event1b-r7");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->reportingRange, 0, 29);
+   RT_CHECK_PUT(ctx, cur, stat, "ReportingRange", "reportingRange", -1, "Event1b-r7");
+   /* forbiddenAffectCellList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ForbiddenAffectCellList_r4(ctx, &pvalue->forbiddenAffectCellList, cur);
+      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellList", -1, "Event1b-r7");
+   }
+   /* w */
+   if ((uint64_t)pvalue->w > 20u) {
+      rtxErrAddStrParm(ctx, "W");
+      rtxErrAddUIntParm(ctx, pvalue->w);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "W", "w", -1, "Event1b-r7");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->w, 0, 20);
+   RT_CHECK_PUT(ctx, cur, stat, "W", "w", -1, "Event1b-r7");
+   /* periodicReportingInfo-1b */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellList_r7(ctx, &pvalue->ue_positioning_OTDOA_NeighbourCellList);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-NeighbourCellList", -1, "UE-Positioning-OTDOA-AssistanceData-r7");
+      stat = enc_PeriodicReportingInfo_1b(ctx, &pvalue->periodicReportingInfo_1b, cur);
+      RT_CHECK(ctx, stat, 0, "periodicReportingInfo-1b", -1, "Event1b-r7");
    }
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_GPS_ReferenceTime_r7(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_ReferenceTime_r7* RT_RESTRICT pvalue)
+int asn1PE_UMTS_Event1b_r7(rtxContext* RT_RESTRICT ctx, const Event1b_r7* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-ReferenceTime-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-ReferenceTime-r7");
-   /* gps-Week */
-   if ((uint64_t)pvalue->gps_Week > 1023u) {
-      rtxErrAddStrParm(ctx, "gps-Week");
-      rtxErrAddUIntParm(ctx, pvalue->gps_Week);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "gps-Week", -1, "UE-Positioning-GPS-ReferenceTime-r7");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->gps_Week, 0, 1023);
-   RT_CHECK(ctx, stat, 0, "gps-Week", -1, "UE-Positioning-GPS-ReferenceTime-r7");
-   /* gps-tow-1msec */
-   if ((uint64_t)pvalue->gps_tow_1msec > 604799999u) {
-      rtxErrAddStrParm(ctx, "GPS-TOW-1msec");
-      rtxErrAddUIntParm(ctx, pvalue->gps_tow_1msec);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "GPS-TOW-1msec", "gps-tow-1msec", -1, "UE-Positioning-GPS-ReferenceTime-r7");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->gps_tow_1msec, 0, 604799999);
-   RT_CHECK(ctx, stat, "GPS-TOW-1msec", "gps-tow-1msec", -1, "UE-Positioning-GPS-ReferenceTime-r7");
-   /* utran-GPSReferenceTime */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UTRAN_GPSReferenceTime(ctx, &pvalue->utran_GPSReferenceTime);
-      RT_CHECK(ctx, stat, 0, "utran-GPSReferenceTime", -1, "UE-Positioning-GPS-ReferenceTime-r7");
-   }
-   /* ue-Positioning-GPS-ReferenceTimeUncertainty */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty > 127u) {
-         rtxErrAddStrParm(ctx, "UE-Positioning-GPS-ReferenceTimeUncertainty");
-         rtxErrAddUIntParm(ctx, pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-GPS-ReferenceTime-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty, 0, 127);
-      RT_CHECK(ctx, stat, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-GPS-ReferenceTime-r7");
-   }
-   /* sfn-tow-Uncertainty */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->sfn_tow_Uncertainty > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->sfn_tow_Uncertainty);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "SFN-TOW-Uncertainty", "sfn-tow-Uncertainty", -1, "UE-Positioning-GPS-ReferenceTime-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->sfn_tow_Uncertainty, 0, 1);
-      RT_CHECK(ctx, stat, "SFN-TOW-Uncertainty", "sfn-tow-Uncertainty", -1, "UE-Positioning-GPS-ReferenceTime-r7");
-   }
-   /* utran-GPS-DriftRate */
-   if (pvalue->m & 0x8u) {
-      if (pvalue->utran_GPS_DriftRate > 14) {
-         rtxErrAddUIntParm(ctx, pvalue->utran_GPS_DriftRate);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "UTRAN-GPS-DriftRate", "utran-GPS-DriftRate", -1, "UE-Positioning-GPS-ReferenceTime-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->utran_GPS_DriftRate, 0, 14);
-      RT_CHECK(ctx, stat, "UTRAN-GPS-DriftRate", "utran-GPS-DriftRate", -1, "UE-Positioning-GPS-ReferenceTime-r7");
-   }
-   /* gps-TOW-AssistList */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_GPS_TOW_AssistList(ctx, &pvalue->gps_TOW_AssistList);
-      RT_CHECK(ctx, stat, 0, "gps-TOW-AssistList", -1, "UE-Positioning-GPS-ReferenceTime-r7");
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_Event1b_r7, pvalue);
 }
 
-int asn1PE_UMTS_UE_Positioning_GPS_AcquisitionAssistance_r7(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_AcquisitionAssistance_r7* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_Event1b_OnSecUlFreq_r9(rtxContext* RT_RESTRICT ctx, const Event1b_OnSecUlFreq_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-AcquisitionAssistance-r7");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Event1b-OnSecUlFreq-r9");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-AcquisitionAssistance-r7");
-   /* gps-ReferenceTime */
-   if ((uint64_t)pvalue->gps_ReferenceTime > 604799999u) {
-      rtxErrAddStrParm(ctx, "GPS-TOW-1msec");
-      rtxErrAddUIntParm(ctx, pvalue->gps_ReferenceTime);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "GPS-TOW-1msec", "gps-ReferenceTime", -1, "UE-Positioning-GPS-AcquisitionAssistance-r7");
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Event1b-OnSecUlFreq-r9");
+   /* triggeringCondition */
+   if (pvalue->triggeringCondition > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TriggeringCondition1", "triggeringCondition", -1, "Event1b-OnSecUlFreq-r9");
    }
-   stat = pe_ConsUInt64(ctx, pvalue->gps_ReferenceTime, 0, 604799999);
-   RT_CHECK(ctx, stat, "GPS-TOW-1msec", "gps-ReferenceTime", -1, "UE-Positioning-GPS-AcquisitionAssistance-r7");
-   /* utran-GPSReferenceTime */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->triggeringCondition, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, "TriggeringCondition1", "triggeringCondition", -1, "Event1b-OnSecUlFreq-r9");
+   /* reportingRange */
+   if ((uint64_t)pvalue->reportingRange > 29u) {
+      rtxErrAddStrParm(ctx, "ReportingRange");
+      rtxErrAddUIntParm(ctx, pvalue->reportingRange);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ReportingRange", "reportingRange", -1, "Event1b-OnSecUlFreq-r9");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->reportingRange, 0, 29);
+   RT_CHECK_PUT(ctx, cur, stat, "ReportingRange", "reportingRange", -1, "Event1b-OnSecUlFreq-r9");
+   /* forbiddenAffectCellListOnSecULFreq */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UTRAN_GPSReferenceTime(ctx, &pvalue->utran_GPSReferenceTime);
-      RT_CHECK(ctx, stat, 0, "utran-GPSReferenceTime", -1, "UE-Positioning-GPS-AcquisitionAssistance-r7");
+      stat = enc_ForbiddenAffectCellListOnSecULFreq(ctx, &pvalue->forbiddenAffectCellListOnSecULFreq, cur);
+      RT_CHECK(ctx, stat, 0, "forbiddenAffectCellListOnSecULFreq", -1, "Event1b-OnSecUlFreq-r9");
    }
-   /* ue-Positioning-GPS-ReferenceTimeUncertainty */
+   /* w */
+   if ((uint64_t)pvalue->w > 20u) {
+      rtxErrAddStrParm(ctx, "W");
+      rtxErrAddUIntParm(ctx, pvalue->w);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "W", "w", -1, "Event1b-OnSecUlFreq-r9");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->w, 0, 20);
+   RT_CHECK_PUT(ctx, cur, stat, "W", "w", -1, "Event1b-OnSecUlFreq-r9");
+   /* periodicReportingInfo-1b */
    if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty > 127u) {
-         rtxErrAddStrParm(ctx, "UE-Positioning-GPS-ReferenceTimeUncertainty");
-         rtxErrAddUIntParm(ctx, pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-GPS-AcquisitionAssistance-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty, 0, 127);
-      RT_CHECK(ctx, stat, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-GPS-AcquisitionAssistance-r7");
+      stat = enc_PeriodicReportingInfo_1b(ctx, &pvalue->periodicReportingInfo_1b, cur);
+      RT_CHECK(ctx, stat, 0, "periodicReportingInfo-1b", -1, "Event1b-OnSecUlFreq-r9");
    }
-   /* satelliteInformationList */
-   stat = asn1PE_UMTS_AcquisitionSatInfoList(ctx, &pvalue->satelliteInformationList);
-   RT_CHECK(ctx, stat, 0, "satelliteInformationList", -1, "UE-Positioning-GPS-AcquisitionAssistance-r7");
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_GPS_AssistanceData_r7(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_AssistanceData_r7* RT_RESTRICT pvalue)
+int asn1PE_UMTS_Event1b_OnSecUlFreq_r9(rtxContext* RT_RESTRICT ctx, const Event1b_OnSecUlFreq_r9* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Event1b_OnSecUlFreq_r9, pvalue);
+}
+
+RT_MERGED_BODY int enc_Event1d(rtxContext* RT_RESTRICT ctx, const Event1d* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-AssistanceData-r7");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Event1d");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 8) & 1u) << 0), 9);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-AssistanceData-r7");
-   /* ue-positioning-GPS-ReferenceTime */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_ReferenceTime_r7(ctx, &pvalue->ue_positioning_GPS_ReferenceTime);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceTime", -1, "UE-Positioning-GPS-AssistanceData-r7");
-   }
-   /* ue-positioning-GPS-ReferenceLocation */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_ReferenceLocation(ctx, &pvalue->ue_positioning_GPS_ReferenceLocation);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceLocation", -1, "UE-Positioning-GPS-AssistanceData-r7");
-   }
-   /* ue-positioning-GPS-DGPS-Corrections */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_DGPS_Corrections(ctx, &pvalue->ue_positioning_GPS_DGPS_Corrections);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-DGPS-Corrections", -1, "UE-Positioning-GPS-AssistanceData-r7");
-   }
-   /* ue-positioning-GPS-NavigationModel */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_NavigationModel(ctx, &pvalue->ue_positioning_GPS_NavigationModel);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-NavigationModel", -1, "UE-Positioning-GPS-AssistanceData-r7");
-   }
-   /* ue-positioning-GPS-IonosphericModel */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_IonosphericModel(ctx, &pvalue->ue_positioning_GPS_IonosphericModel);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-IonosphericModel", -1, "UE-Positioning-GPS-AssistanceData-r7");
-   }
-   /* ue-positioning-GPS-UTC-Model */
-   if (pvalue->m & 0x20u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_UTC_Model(ctx, &pvalue->ue_positioning_GPS_UTC_Model);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-UTC-Model", -1, "UE-Positioning-GPS-AssistanceData-r7");
-   }
-   /* ue-positioning-GPS-Almanac */
-   if (pvalue->m & 0x40u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_Almanac(ctx, &pvalue->ue_positioning_GPS_Almanac);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Almanac", -1, "UE-Positioning-GPS-AssistanceData-r7");
-   }
-   /* ue-positioning-GPS-AcquisitionAssistance */
-   if (pvalue->m & 0x80u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_AcquisitionAssistance_r7(ctx, &pvalue->ue_positioning_GPS_AcquisitionAssistance);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AcquisitionAssistance", -1, "UE-Positioning-GPS-AssistanceData-r7");
-   }
-   /* ue-positioning-GPS-Real-timeIntegrity */
-   if (pvalue->m & 0x100u) {
-      stat = asn1PE_UMTS_BadSatList(ctx, &pvalue->ue_positioning_GPS_Real_timeIntegrity);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Real-timeIntegrity", -1, "UE-Positioning-GPS-AssistanceData-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_fdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* primary-CPICH-Info */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primary_CPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primary-CPICH-Info", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_tdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* cellParameters */
-   if ((uint64_t)pvalue->cellParameters > 127u) {
-      rtxErrAddStrParm(ctx, "CellParametersID");
-      rtxErrAddUIntParm(ctx, pvalue->cellParameters);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "CellParametersID", "cellParameters", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cellParameters, 0, 127);
-   RT_CHECK(ctx, stat, "CellParametersID", "cellParameters", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* timingOfCellFrames */
-   if ((uint64_t)pvalue->timingOfCellFrames > 3999999u) {
-      rtxErrAddStrParm(ctx, "timingOfCellFrames");
-      rtxErrAddUIntParm(ctx, pvalue->timingOfCellFrames);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "timingOfCellFrames", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timingOfCellFrames, 0, 3999999);
-   RT_CHECK(ctx, stat, 0, "timingOfCellFrames", -1, 0);
-   /* mode */
-   stat = asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime_mode(ctx, &pvalue->mode);
-   RT_CHECK(ctx, stat, 0, "mode", -1, 0);
-   /* referenceSfn */
-   if ((uint64_t)pvalue->referenceSfn > 4095u) {
-      rtxErrAddStrParm(ctx, "referenceSfn");
-      rtxErrAddUIntParm(ctx, pvalue->referenceSfn);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "referenceSfn", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->referenceSfn, 0, 4095);
-   RT_CHECK(ctx, stat, 0, "referenceSfn", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_Tutran_Ganss_DriftRate(rtxContext* RT_RESTRICT ctx, Tutran_Ganss_DriftRate value)
-{
-   int stat = 0;
-   if (value > 15) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "Tutran-Ganss-DriftRate");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Tutran-Ganss-DriftRate");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_ReferenceTime* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-ReferenceTime");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-ReferenceTime");
-   /* ganssDay */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->ganssDay > 8191u) {
-         rtxErrAddStrParm(ctx, "ganssDay");
-         rtxErrAddUIntParm(ctx, pvalue->ganssDay);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganssDay", -1, "UE-Positioning-GANSS-ReferenceTime");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssDay, 0, 8191);
-      RT_CHECK(ctx, stat, 0, "ganssDay", -1, "UE-Positioning-GANSS-ReferenceTime");
-   }
-   /* ganssTod */
-   if ((uint64_t)pvalue->ganssTod > 86399u) {
-      rtxErrAddStrParm(ctx, "ganssTod");
-      rtxErrAddUIntParm(ctx, pvalue->ganssTod);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganssTod", -1, "UE-Positioning-GANSS-ReferenceTime");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ganssTod, 0, 86399);
-   RT_CHECK(ctx, stat, 0, "ganssTod", -1, "UE-Positioning-GANSS-ReferenceTime");
-   /* ganssTodUncertainty */
-   if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->ganssTodUncertainty > 127u) {
-         rtxErrAddStrParm(ctx, "ganssTodUncertainty");
-         rtxErrAddUIntParm(ctx, pvalue->ganssTodUncertainty);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganssTodUncertainty", -1, "UE-Positioning-GANSS-ReferenceTime");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssTodUncertainty, 0, 127);
-      RT_CHECK(ctx, stat, 0, "ganssTodUncertainty", -1, "UE-Positioning-GANSS-ReferenceTime");
-   }
-   /* ganssTimeId */
-   if (pvalue->m & 0x4u) {
-      if ((uint64_t)pvalue->ganssTimeId > 7u) {
-         rtxErrAddStrParm(ctx, "ganssTimeId");
-         rtxErrAddUIntParm(ctx, pvalue->ganssTimeId);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ganssTimeId", -1, "UE-Positioning-GANSS-ReferenceTime");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ganssTimeId, 0, 7);
-      RT_CHECK(ctx, stat, 0, "ganssTimeId", -1, "UE-Positioning-GANSS-ReferenceTime");
-   }
-   /* utran-ganssreferenceTime */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime_utran_ganssreferenceTime(ctx, &pvalue->utran_ganssreferenceTime);
-      RT_CHECK(ctx, stat, 0, "utran-ganssreferenceTime", -1, "UE-Positioning-GANSS-ReferenceTime");
-   }
-   /* tutran-ganss-driftRate */
-   if (pvalue->m & 0x10u) {
-      if (pvalue->tutran_ganss_driftRate > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->tutran_ganss_driftRate);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "Tutran-Ganss-DriftRate", "tutran-ganss-driftRate", -1, "UE-Positioning-GANSS-ReferenceTime");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tutran_ganss_driftRate, 0, 15);
-      RT_CHECK(ctx, stat, "Tutran-Ganss-DriftRate", "tutran-ganss-driftRate", -1, "UE-Positioning-GANSS-ReferenceTime");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ReferenceLocationGANSS(rtxContext* RT_RESTRICT ctx, const ReferenceLocationGANSS* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ReferenceLocationGANSS");
-   /* ellipsoidPointAltitudeEllipsoide */
-   stat = asn1PE_UMTS_EllipsoidPointAltitudeEllipsoide(ctx, &pvalue->ellipsoidPointAltitudeEllipsoide);
-   RT_CHECK(ctx, stat, 0, "ellipsoidPointAltitudeEllipsoide", -1, "ReferenceLocationGANSS");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_IonosphericModel(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_IonosphericModel* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-IonosphericModel");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-IonosphericModel");
-   /* alpha-zero-ionos */
-   RT_SET_SIZE(ctx, 12, 12);
-   stat = pe_BitString32(ctx, &pvalue->alpha_zero_ionos, 12, 12);
-   RT_CHECK(ctx, stat, 0, "alpha-zero-ionos", -1, "UE-Positioning-GANSS-IonosphericModel");
-   /* alpha-one-ionos */
-   RT_SET_SIZE(ctx, 12, 12);
-   stat = pe_BitString32(ctx, &pvalue->alpha_one_ionos, 12, 12);
-   RT_CHECK(ctx, stat, 0, "alpha-one-ionos", -1, "UE-Positioning-GANSS-IonosphericModel");
-   /* alpha-two-ionos */
-   RT_SET_SIZE(ctx, 12, 12);
-   stat = pe_BitString32(ctx, &pvalue->alpha_two_ionos, 12, 12);
-   RT_CHECK(ctx, stat, 0, "alpha-two-ionos", -1, "UE-Positioning-GANSS-IonosphericModel");
-   /* gANSS-storm-flags */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_GANSS_Storm_Flag(ctx, &pvalue->gANSS_storm_flags);
-      RT_CHECK(ctx, stat, 0, "gANSS-storm-flags", -1, "UE-Positioning-GANSS-IonosphericModel");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_AssistanceData(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AssistanceData* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-AssistanceData");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-AssistanceData");
-   /* ue-positioning-GANSS-ReferenceTime */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime(ctx, &pvalue->ue_positioning_GANSS_ReferenceTime);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-ReferenceTime", -1, "UE-Positioning-GANSS-AssistanceData");
-   }
-   /* uePositioningGanssReferencePosition */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_ReferenceLocationGANSS(ctx, &pvalue->uePositioningGanssReferencePosition);
-      RT_CHECK(ctx, stat, 0, "uePositioningGanssReferencePosition", -1, "UE-Positioning-GANSS-AssistanceData");
-   }
-   /* uePositioningGanssIonosphericModel */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_IonosphericModel(ctx, &pvalue->uePositioningGanssIonosphericModel);
-      RT_CHECK(ctx, stat, 0, "uePositioningGanssIonosphericModel", -1, "UE-Positioning-GANSS-AssistanceData");
-   }
-   /* ganssGenericDataList */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_GANSSGenericDataList(ctx, &pvalue->ganssGenericDataList);
-      RT_CHECK(ctx, stat, 0, "ganssGenericDataList", -1, "UE-Positioning-GANSS-AssistanceData");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_Measurement_r7(rtxContext* RT_RESTRICT ctx, const UE_Positioning_Measurement_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-Measurement-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-Measurement-r7");
-   /* ue-positioning-ReportingQuantity */
-   stat = asn1PE_UMTS_UE_Positioning_ReportingQuantity_r7(ctx, &pvalue->ue_positioning_ReportingQuantity);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-ReportingQuantity", -1, "UE-Positioning-Measurement-r7");
-   /* measurementValidity */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "UE-Positioning-Measurement-r7");
-   }
-   /* reportCriteria */
-   stat = asn1PE_UMTS_UE_Positioning_ReportCriteria_r7(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "UE-Positioning-Measurement-r7");
-   /* ue-positioning-OTDOA-AssistanceData */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_r7(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData", -1, "UE-Positioning-Measurement-r7");
-   }
-   /* ue-positioning-GPS-AssistanceData */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_AssistanceData_r7(ctx, &pvalue->ue_positioning_GPS_AssistanceData);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AssistanceData", -1, "UE-Positioning-Measurement-r7");
-   }
-   /* ue-positioning-GANSS-AssistanceData */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AssistanceData(ctx, &pvalue->ue_positioning_GANSS_AssistanceData);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-AssistanceData", -1, "UE-Positioning-Measurement-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementType_r7(rtxContext* RT_RESTRICT ctx, const MeasurementType_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementType-r7");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
-   RT_CHECK(ctx, stat, 0, "t", -1, "MeasurementType-r7");
-   if (pvalue->t - 1 > 6) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementType-r7");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.intraFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r7");
-         stat = asn1PE_UMTS_IntraFrequencyMeasurement_r7(ctx, pvalue->u.intraFrequencyMeasurement);
-         RT_CHECK(ctx, stat, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r7");
-         break;
-      case 2:
-         if (pvalue->u.interFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interFrequencyMeasurement", -1, "MeasurementType-r7");
-         stat = asn1PE_UMTS_InterFrequencyMeasurement_r7(ctx, pvalue->u.interFrequencyMeasurement);
-         RT_CHECK(ctx, stat, 0, "interFrequencyMeasurement", -1, "MeasurementType-r7");
-         break;
-      case 3:
-         if (pvalue->u.interRATMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interRATMeasurement", -1, "MeasurementType-r7");
-         stat = asn1PE_UMTS_InterRATMeasurement_r6(ctx, pvalue->u.interRATMeasurement);
-         RT_CHECK(ctx, stat, 0, "interRATMeasurement", -1, "MeasurementType-r7");
-         break;
-      case 4:
-         if (pvalue->u.up_Measurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "up-Measurement", -1, "MeasurementType-r7");
-         stat = asn1PE_UMTS_UE_Positioning_Measurement_r7(ctx, pvalue->u.up_Measurement);
-         RT_CHECK(ctx, stat, 0, "up-Measurement", -1, "MeasurementType-r7");
-         break;
-      case 5:
-         if (pvalue->u.trafficVolumeMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r7");
-         stat = asn1PE_UMTS_TrafficVolumeMeasurement(ctx, pvalue->u.trafficVolumeMeasurement);
-         RT_CHECK(ctx, stat, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r7");
-         break;
-      case 6:
-         if (pvalue->u.qualityMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "qualityMeasurement", -1, "MeasurementType-r7");
-         stat = asn1PE_UMTS_QualityMeasurement(ctx, pvalue->u.qualityMeasurement);
-         RT_CHECK(ctx, stat, 0, "qualityMeasurement", -1, "MeasurementType-r7");
-         break;
-      case 7:
-         if (pvalue->u.ue_InternalMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ue-InternalMeasurement", -1, "MeasurementType-r7");
-         stat = asn1PE_UMTS_UE_InternalMeasurement_r4(ctx, pvalue->u.ue_InternalMeasurement);
-         RT_CHECK(ctx, stat, 0, "ue-InternalMeasurement", -1, "MeasurementType-r7");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementCommand_r7_modify(rtxContext* RT_RESTRICT ctx, const MeasurementCommand_r7_modify* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementType */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MeasurementType_r7(ctx, &pvalue->measurementType);
-      RT_CHECK(ctx, stat, 0, "measurementType", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementCommand_r7(rtxContext* RT_RESTRICT ctx, const MeasurementCommand_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCommand-r7");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "MeasurementCommand-r7");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementCommand-r7");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.setup == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "setup", -1, "MeasurementCommand-r7");
-         stat = asn1PE_UMTS_MeasurementType_r7(ctx, pvalue->u.setup);
-         RT_CHECK(ctx, stat, 0, "setup", -1, "MeasurementCommand-r7");
-         break;
-      case 2:
-         if (pvalue->u.modify == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "modify", -1, "MeasurementCommand-r7");
-         stat = asn1PE_UMTS_MeasurementCommand_r7_modify(ctx, pvalue->u.modify);
-         RT_CHECK(ctx, stat, 0, "modify", -1, "MeasurementCommand-r7");
-         break;
-      case 3:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_ReportingQuantity_r8_velocityRequested(rtxContext* RT_RESTRICT ctx, UE_Positioning_ReportingQuantity_r8_velocityRequested value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_ReportingQuantity_r8(rtxContext* RT_RESTRICT ctx, const UE_Positioning_ReportingQuantity_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-ReportingQuantity-r8");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 0), 8);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-ReportingQuantity-r8");
-   /* methodType */
-   if (pvalue->methodType > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->methodType);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "UE-Positioning-MethodType", "methodType", -1, "UE-Positioning-ReportingQuantity-r8");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->methodType, 0, 3);
-   RT_CHECK(ctx, stat, "UE-Positioning-MethodType", "methodType", -1, "UE-Positioning-ReportingQuantity-r8");
-   /* positioningMethod */
-   if (pvalue->positioningMethod > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->positioningMethod);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "PositioningMethod", "positioningMethod", -1, "UE-Positioning-ReportingQuantity-r8");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->positioningMethod, 0, 3);
-   RT_CHECK(ctx, stat, "PositioningMethod", "positioningMethod", -1, "UE-Positioning-ReportingQuantity-r8");
-   /* horizontalAccuracy */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_Accuracy(ctx, pvalue->horizontalAccuracy);
-      RT_CHECK(ctx, stat, 0, "horizontalAccuracy", -1, "UE-Positioning-ReportingQuantity-r8");
-   }
-   /* verticalAccuracy */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_Positioning_Accuracy(ctx, pvalue->verticalAccuracy);
-      RT_CHECK(ctx, stat, 0, "verticalAccuracy", -1, "UE-Positioning-ReportingQuantity-r8");
-   }
-   /* gps-TimingOfCellWanted */
-   stat = rtxEncBit(ctx, pvalue->gps_TimingOfCellWanted);
-   RT_CHECK(ctx, stat, 0, "gps-TimingOfCellWanted", -1, "UE-Positioning-ReportingQuantity-r8");
-   /* additionalAssistanceDataReq */
-   stat = rtxEncBit(ctx, pvalue->additionalAssistanceDataReq);
-   RT_CHECK(ctx, stat, 0, "additionalAssistanceDataReq", -1, "UE-Positioning-ReportingQuantity-r8");
-   /* environmentCharacterisation */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->environmentCharacterisation > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->environmentCharacterisation);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "EnvironmentCharacterisation", "environmentCharacterisation", -1, "UE-Positioning-ReportingQuantity-r8");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->environmentCharacterisation, 0, 3);
-      RT_CHECK(ctx, stat, "EnvironmentCharacterisation", "environmentCharacterisation", -1, "UE-Positioning-ReportingQuantity-r8");
-   }
-   /* velocityRequested */
-   if (pvalue->m & 0x8u) {
-      if (pvalue->velocityRequested > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->velocityRequested);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "velocityRequested", -1, "UE-Positioning-ReportingQuantity-r8");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->velocityRequested, 0, 0);
-      RT_CHECK(ctx, stat, 0, "velocityRequested", -1, "UE-Positioning-ReportingQuantity-r8");
-   }
-   /* gANSSPositioningMethods */
-   if (pvalue->m & 0x10u) {
-      RT_SET_SIZE(ctx, 16, 16);
-      stat = pe_BitString32(ctx, &pvalue->gANSSPositioningMethods, 16, 16);
-      RT_CHECK(ctx, stat, 0, "gANSSPositioningMethods", -1, "UE-Positioning-ReportingQuantity-r8");
-   }
-   /* gANSSTimingOfCellWanted */
-   if (pvalue->m & 0x20u) {
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pe_BitString32(ctx, &pvalue->gANSSTimingOfCellWanted, 8, 8);
-      RT_CHECK(ctx, stat, 0, "gANSSTimingOfCellWanted", -1, "UE-Positioning-ReportingQuantity-r8");
-   }
-   /* gANSSCarrierPhaseMeasurementRequested */
-   if (pvalue->m & 0x40u) {
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pe_BitString32(ctx, &pvalue->gANSSCarrierPhaseMeasurementRequested, 8, 8);
-      RT_CHECK(ctx, stat, 0, "gANSSCarrierPhaseMeasurementRequested", -1, "UE-Positioning-ReportingQuantity-r8");
-   }
-   /* gANSSMultiFreqMeasurementRequested */
-   if (pvalue->m & 0x80u) {
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pe_BitString32(ctx, &pvalue->gANSSMultiFreqMeasurementRequested, 8, 8);
-      RT_CHECK(ctx, stat, 0, "gANSSMultiFreqMeasurementRequested", -1, "UE-Positioning-ReportingQuantity-r8");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_AddIonoModel(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AddIonoModel* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-AddIonoModel");
-   /* dataID */
-   RT_SET_SIZE(ctx, 2, 2);
-   stat = pe_BitString32(ctx, &pvalue->dataID, 2, 2);
-   RT_CHECK(ctx, stat, 0, "dataID", -1, "UE-Positioning-GANSS-AddIonoModel");
-   /* alpha-beta-parameters */
-   stat = asn1PE_UMTS_UE_Positioning_GPS_IonosphericModel(ctx, &pvalue->alpha_beta_parameters);
-   RT_CHECK(ctx, stat, 0, "alpha-beta-parameters", -1, "UE-Positioning-GANSS-AddIonoModel");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_EarthOrientPara(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_EarthOrientPara* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-EarthOrientPara");
-   /* teop */
-   RT_SET_SIZE(ctx, 16, 16);
-   stat = pe_BitString32(ctx, &pvalue->teop, 16, 16);
-   RT_CHECK(ctx, stat, 0, "teop", -1, "UE-Positioning-GANSS-EarthOrientPara");
-   /* pmX */
-   RT_SET_SIZE(ctx, 21, 21);
-   stat = pe_BitString32(ctx, &pvalue->pmX, 21, 21);
-   RT_CHECK(ctx, stat, 0, "pmX", -1, "UE-Positioning-GANSS-EarthOrientPara");
-   /* pmXdot */
-   RT_SET_SIZE(ctx, 15, 15);
-   stat = pe_BitString32(ctx, &pvalue->pmXdot, 15, 15);
-   RT_CHECK(ctx, stat, 0, "pmXdot", -1, "UE-Positioning-GANSS-EarthOrientPara");
-   /* pmY */
-   RT_SET_SIZE(ctx, 21, 21);
-   stat = pe_BitString32(ctx, &pvalue->pmY, 21, 21);
-   RT_CHECK(ctx, stat, 0, "pmY", -1, "UE-Positioning-GANSS-EarthOrientPara");
-   /* pmYdot */
-   RT_SET_SIZE(ctx, 15, 15);
-   stat = pe_BitString32(ctx, &pvalue->pmYdot, 15, 15);
-   RT_CHECK(ctx, stat, 0, "pmYdot", -1, "UE-Positioning-GANSS-EarthOrientPara");
-   /* deltaUT1 */
-   RT_SET_SIZE(ctx, 31, 31);
-   stat = pe_BitString32(ctx, &pvalue->deltaUT1, 31, 31);
-   RT_CHECK(ctx, stat, 0, "deltaUT1", -1, "UE-Positioning-GANSS-EarthOrientPara");
-   /* deltaUT1dot */
-   RT_SET_SIZE(ctx, 19, 19);
-   stat = pe_BitString32(ctx, &pvalue->deltaUT1dot, 19, 19);
-   RT_CHECK(ctx, stat, 0, "deltaUT1dot", -1, "UE-Positioning-GANSS-EarthOrientPara");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_AssistanceData_r8(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AssistanceData_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-AssistanceData-r8");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-AssistanceData-r8");
-   /* ue-positioning-GANSS-ReferenceTime */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime(ctx, &pvalue->ue_positioning_GANSS_ReferenceTime);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-ReferenceTime", -1, "UE-Positioning-GANSS-AssistanceData-r8");
-   }
-   /* uePositioningGanssReferencePosition */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_ReferenceLocationGANSS(ctx, &pvalue->uePositioningGanssReferencePosition);
-      RT_CHECK(ctx, stat, 0, "uePositioningGanssReferencePosition", -1, "UE-Positioning-GANSS-AssistanceData-r8");
-   }
-   /* uePositioningGanssIonosphericModel */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_IonosphericModel(ctx, &pvalue->uePositioningGanssIonosphericModel);
-      RT_CHECK(ctx, stat, 0, "uePositioningGanssIonosphericModel", -1, "UE-Positioning-GANSS-AssistanceData-r8");
-   }
-   /* uePositioningGanssAddIonoModel */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AddIonoModel(ctx, &pvalue->uePositioningGanssAddIonoModel);
-      RT_CHECK(ctx, stat, 0, "uePositioningGanssAddIonoModel", -1, "UE-Positioning-GANSS-AssistanceData-r8");
-   }
-   /* uePositioningGanssEarthOrientationPara */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_EarthOrientPara(ctx, &pvalue->uePositioningGanssEarthOrientationPara);
-      RT_CHECK(ctx, stat, 0, "uePositioningGanssEarthOrientationPara", -1, "UE-Positioning-GANSS-AssistanceData-r8");
-   }
-   /* ganssGenericDataList */
-   if (pvalue->m & 0x20u) {
-      stat = asn1PE_UMTS_GANSSGenericDataList_r8(ctx, &pvalue->ganssGenericDataList);
-      RT_CHECK(ctx, stat, 0, "ganssGenericDataList", -1, "UE-Positioning-GANSS-AssistanceData-r8");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_Measurement_r8(rtxContext* RT_RESTRICT ctx, const UE_Positioning_Measurement_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-Measurement-r8");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-Measurement-r8");
-   /* ue-positioning-ReportingQuantity */
-   stat = asn1PE_UMTS_UE_Positioning_ReportingQuantity_r8(ctx, &pvalue->ue_positioning_ReportingQuantity);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-ReportingQuantity", -1, "UE-Positioning-Measurement-r8");
-   /* measurementValidity */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "UE-Positioning-Measurement-r8");
-   }
-   /* reportCriteria */
-   stat = asn1PE_UMTS_UE_Positioning_ReportCriteria_r7(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "UE-Positioning-Measurement-r8");
-   /* ue-positioning-OTDOA-AssistanceData */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_r7(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData", -1, "UE-Positioning-Measurement-r8");
-   }
-   /* ue-positioning-GPS-AssistanceData */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_AssistanceData_r7(ctx, &pvalue->ue_positioning_GPS_AssistanceData);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AssistanceData", -1, "UE-Positioning-Measurement-r8");
-   }
-   /* ue-positioning-GANSS-AssistanceData */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AssistanceData_r8(ctx, &pvalue->ue_positioning_GANSS_AssistanceData);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-AssistanceData", -1, "UE-Positioning-Measurement-r8");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementType_r8(rtxContext* RT_RESTRICT ctx, const MeasurementType_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementType-r8");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 6);
-   RT_CHECK(ctx, stat, 0, "t", -1, "MeasurementType-r8");
-   if (pvalue->t - 1 > 6) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementType-r8");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.intraFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r8");
-         stat = asn1PE_UMTS_IntraFrequencyMeasurement_r7(ctx, pvalue->u.intraFrequencyMeasurement);
-         RT_CHECK(ctx, stat, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r8");
-         break;
-      case 2:
-         if (pvalue->u.interFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interFrequencyMeasurement", -1, "MeasurementType-r8");
-         stat = asn1PE_UMTS_InterFrequencyMeasurement_r8(ctx, pvalue->u.interFrequencyMeasurement);
-         RT_CHECK(ctx, stat, 0, "interFrequencyMeasurement", -1, "MeasurementType-r8");
-         break;
-      case 3:
-         if (pvalue->u.interRATMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interRATMeasurement", -1, "MeasurementType-r8");
-         stat = asn1PE_UMTS_InterRATMeasurement_r8(ctx, pvalue->u.interRATMeasurement);
-         RT_CHECK(ctx, stat, 0, "interRATMeasurement", -1, "MeasurementType-r8");
-         break;
-      case 4:
-         if (pvalue->u.up_Measurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "up-Measurement", -1, "MeasurementType-r8");
-         stat = asn1PE_UMTS_UE_Positioning_Measurement_r8(ctx, pvalue->u.up_Measurement);
-         RT_CHECK(ctx, stat, 0, "up-Measurement", -1, "MeasurementType-r8");
-         break;
-      case 5:
-         if (pvalue->u.trafficVolumeMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r8");
-         stat = asn1PE_UMTS_TrafficVolumeMeasurement(ctx, pvalue->u.trafficVolumeMeasurement);
-         RT_CHECK(ctx, stat, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r8");
-         break;
-      case 6:
-         if (pvalue->u.qualityMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "qualityMeasurement", -1, "MeasurementType-r8");
-         stat = asn1PE_UMTS_QualityMeasurement(ctx, pvalue->u.qualityMeasurement);
-         RT_CHECK(ctx, stat, 0, "qualityMeasurement", -1, "MeasurementType-r8");
-         break;
-      case 7:
-         if (pvalue->u.ue_InternalMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ue-InternalMeasurement", -1, "MeasurementType-r8");
-         stat = asn1PE_UMTS_UE_InternalMeasurement_r4(ctx, pvalue->u.ue_InternalMeasurement);
-         RT_CHECK(ctx, stat, 0, "ue-InternalMeasurement", -1, "MeasurementType-r8");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementCommand_r8_modify(rtxContext* RT_RESTRICT ctx, const MeasurementCommand_r8_modify* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementType */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MeasurementType_r8(ctx, &pvalue->measurementType);
-      RT_CHECK(ctx, stat, 0, "measurementType", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementCommand_r8(rtxContext* RT_RESTRICT ctx, const MeasurementCommand_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCommand-r8");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "MeasurementCommand-r8");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementCommand-r8");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.setup == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "setup", -1, "MeasurementCommand-r8");
-         stat = asn1PE_UMTS_MeasurementType_r8(ctx, pvalue->u.setup);
-         RT_CHECK(ctx, stat, 0, "setup", -1, "MeasurementCommand-r8");
-         break;
-      case 2:
-         if (pvalue->u.modify == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "modify", -1, "MeasurementCommand-r8");
-         stat = asn1PE_UMTS_MeasurementCommand_r8_modify(ctx, pvalue->u.modify);
-         RT_CHECK(ctx, stat, 0, "modify", -1, "MeasurementCommand-r8");
-         break;
-      case 3:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_DGPS_Corrections_r9(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_DGPS_Corrections_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-DGPS-Corrections-r9");
-   /* gps-TOW */
-   if ((uint64_t)pvalue->gps_TOW > 604799u) {
-      rtxErrAddStrParm(ctx, "GPS-TOW-1sec");
-      rtxErrAddUIntParm(ctx, pvalue->gps_TOW);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "GPS-TOW-1sec", "gps-TOW", -1, "UE-Positioning-GPS-DGPS-Corrections-r9");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->gps_TOW, 0, 604799);
-   RT_CHECK(ctx, stat, "GPS-TOW-1sec", "gps-TOW", -1, "UE-Positioning-GPS-DGPS-Corrections-r9");
-   /* statusHealth */
-   if (pvalue->statusHealth > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->statusHealth);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "DiffCorrectionStatus", "statusHealth", -1, "UE-Positioning-GPS-DGPS-Corrections-r9");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->statusHealth, 0, 7);
-   RT_CHECK(ctx, stat, "DiffCorrectionStatus", "statusHealth", -1, "UE-Positioning-GPS-DGPS-Corrections-r9");
-   /* dgps-CorrectionSatInfoList */
-   stat = asn1PE_UMTS_DGPS_CorrectionSatInfoList_r9(ctx, &pvalue->dgps_CorrectionSatInfoList);
-   RT_CHECK(ctx, stat, 0, "dgps-CorrectionSatInfoList", -1, "UE-Positioning-GPS-DGPS-Corrections-r9");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_AssistanceData_r9(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_AssistanceData_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-AssistanceData-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 8) & 1u) << 0), 9);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-AssistanceData-r9");
-   /* ue-positioning-GPS-ReferenceTime */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_ReferenceTime_r7(ctx, &pvalue->ue_positioning_GPS_ReferenceTime);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceTime", -1, "UE-Positioning-GPS-AssistanceData-r9");
-   }
-   /* ue-positioning-GPS-ReferenceLocation */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_ReferenceLocation(ctx, &pvalue->ue_positioning_GPS_ReferenceLocation);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceLocation", -1, "UE-Positioning-GPS-AssistanceData-r9");
-   }
-   /* ue-positioning-GPS-DGPS-Corrections */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_DGPS_Corrections_r9(ctx, &pvalue->ue_positioning_GPS_DGPS_Corrections);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-DGPS-Corrections", -1, "UE-Positioning-GPS-AssistanceData-r9");
-   }
-   /* ue-positioning-GPS-NavigationModel */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_NavigationModel(ctx, &pvalue->ue_positioning_GPS_NavigationModel);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-NavigationModel", -1, "UE-Positioning-GPS-AssistanceData-r9");
-   }
-   /* ue-positioning-GPS-IonosphericModel */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_IonosphericModel(ctx, &pvalue->ue_positioning_GPS_IonosphericModel);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-IonosphericModel", -1, "UE-Positioning-GPS-AssistanceData-r9");
-   }
-   /* ue-positioning-GPS-UTC-Model */
-   if (pvalue->m & 0x20u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_UTC_Model(ctx, &pvalue->ue_positioning_GPS_UTC_Model);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-UTC-Model", -1, "UE-Positioning-GPS-AssistanceData-r9");
-   }
-   /* ue-positioning-GPS-Almanac */
-   if (pvalue->m & 0x40u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_Almanac(ctx, &pvalue->ue_positioning_GPS_Almanac);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Almanac", -1, "UE-Positioning-GPS-AssistanceData-r9");
-   }
-   /* ue-positioning-GPS-AcquisitionAssistance */
-   if (pvalue->m & 0x80u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_AcquisitionAssistance_r7(ctx, &pvalue->ue_positioning_GPS_AcquisitionAssistance);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AcquisitionAssistance", -1, "UE-Positioning-GPS-AssistanceData-r9");
-   }
-   /* ue-positioning-GPS-Real-timeIntegrity */
-   if (pvalue->m & 0x100u) {
-      stat = asn1PE_UMTS_BadSatList(ctx, &pvalue->ue_positioning_GPS_Real_timeIntegrity);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Real-timeIntegrity", -1, "UE-Positioning-GPS-AssistanceData-r9");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_AssistanceData_r9(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AssistanceData_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-AssistanceData-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-AssistanceData-r9");
-   /* ue-positioning-GANSS-ReferenceTime */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime(ctx, &pvalue->ue_positioning_GANSS_ReferenceTime);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-ReferenceTime", -1, "UE-Positioning-GANSS-AssistanceData-r9");
-   }
-   /* uePositioningGanssReferencePosition */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_ReferenceLocationGANSS(ctx, &pvalue->uePositioningGanssReferencePosition);
-      RT_CHECK(ctx, stat, 0, "uePositioningGanssReferencePosition", -1, "UE-Positioning-GANSS-AssistanceData-r9");
-   }
-   /* uePositioningGanssIonosphericModel */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_IonosphericModel(ctx, &pvalue->uePositioningGanssIonosphericModel);
-      RT_CHECK(ctx, stat, 0, "uePositioningGanssIonosphericModel", -1, "UE-Positioning-GANSS-AssistanceData-r9");
-   }
-   /* uePositioningGanssAddIonoModel */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AddIonoModel(ctx, &pvalue->uePositioningGanssAddIonoModel);
-      RT_CHECK(ctx, stat, 0, "uePositioningGanssAddIonoModel", -1, "UE-Positioning-GANSS-AssistanceData-r9");
-   }
-   /* uePositioningGanssEarthOrientationPara */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_EarthOrientPara(ctx, &pvalue->uePositioningGanssEarthOrientationPara);
-      RT_CHECK(ctx, stat, 0, "uePositioningGanssEarthOrientationPara", -1, "UE-Positioning-GANSS-AssistanceData-r9");
-   }
-   /* ganssGenericDataList */
-   if (pvalue->m & 0x20u) {
-      stat = asn1PE_UMTS_GANSSGenericDataList_r9(ctx, &pvalue->ganssGenericDataList);
-      RT_CHECK(ctx, stat, 0, "ganssGenericDataList", -1, "UE-Positioning-GANSS-AssistanceData-r9");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_Measurement_r9(rtxContext* RT_RESTRICT ctx, const UE_Positioning_Measurement_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-Measurement-r9");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-Measurement-r9");
-   /* ue-positioning-ReportingQuantity */
-   stat = asn1PE_UMTS_UE_Positioning_ReportingQuantity_r8(ctx, &pvalue->ue_positioning_ReportingQuantity);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-ReportingQuantity", -1, "UE-Positioning-Measurement-r9");
-   /* measurementValidity */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "UE-Positioning-Measurement-r9");
-   }
-   /* reportCriteria */
-   stat = asn1PE_UMTS_UE_Positioning_ReportCriteria_r7(ctx, &pvalue->reportCriteria);
-   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "UE-Positioning-Measurement-r9");
-   /* ue-positioning-OTDOA-AssistanceData */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_r7(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData", -1, "UE-Positioning-Measurement-r9");
-   }
-   /* ue-positioning-GPS-AssistanceData */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_AssistanceData_r9(ctx, &pvalue->ue_positioning_GPS_AssistanceData);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AssistanceData", -1, "UE-Positioning-Measurement-r9");
-   }
-   /* ue-positioning-GANSS-AssistanceData */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AssistanceData_r9(ctx, &pvalue->ue_positioning_GANSS_AssistanceData);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-AssistanceData", -1, "UE-Positioning-Measurement-r9");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementType_r9(rtxContext* RT_RESTRICT ctx, const MeasurementType_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementType-r9");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
-   RT_CHECK(ctx, stat, 0, "t", -1, "MeasurementType-r9");
-   if (pvalue->t - 1 > 7) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementType-r9");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.intraFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r9");
-         stat = asn1PE_UMTS_IntraFrequencyMeasurement_r9(ctx, pvalue->u.intraFrequencyMeasurement);
-         RT_CHECK(ctx, stat, 0, "intraFrequencyMeasurement", -1, "MeasurementType-r9");
-         break;
-      case 2:
-         if (pvalue->u.interFrequencyMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interFrequencyMeasurement", -1, "MeasurementType-r9");
-         stat = asn1PE_UMTS_InterFrequencyMeasurement_r9(ctx, pvalue->u.interFrequencyMeasurement);
-         RT_CHECK(ctx, stat, 0, "interFrequencyMeasurement", -1, "MeasurementType-r9");
-         break;
-      case 3:
-         if (pvalue->u.interRATMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "interRATMeasurement", -1, "MeasurementType-r9");
-         stat = asn1PE_UMTS_InterRATMeasurement_r9(ctx, pvalue->u.interRATMeasurement);
-         RT_CHECK(ctx, stat, 0, "interRATMeasurement", -1, "MeasurementType-r9");
-         break;
-      case 4:
-         if (pvalue->u.up_Measurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "up-Measurement", -1, "MeasurementType-r9");
-         stat = asn1PE_UMTS_UE_Positioning_Measurement_r9(ctx, pvalue->u.up_Measurement);
-         RT_CHECK(ctx, stat, 0, "up-Measurement", -1, "MeasurementType-r9");
-         break;
-      case 5:
-         if (pvalue->u.trafficVolumeMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r9");
-         stat = asn1PE_UMTS_TrafficVolumeMeasurement(ctx, pvalue->u.trafficVolumeMeasurement);
-         RT_CHECK(ctx, stat, 0, "trafficVolumeMeasurement", -1, "MeasurementType-r9");
-         break;
-      case 6:
-         if (pvalue->u.qualityMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "qualityMeasurement", -1, "MeasurementType-r9");
-         stat = asn1PE_UMTS_QualityMeasurement(ctx, pvalue->u.qualityMeasurement);
-         RT_CHECK(ctx, stat, 0, "qualityMeasurement", -1, "MeasurementType-r9");
-         break;
-      case 7:
-         if (pvalue->u.ue_InternalMeasurement == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "ue-InternalMeasurement", -1, "MeasurementType-r9");
-         stat = asn1PE_UMTS_UE_InternalMeasurement_r4(ctx, pvalue->u.ue_InternalMeasurement);
-         RT_CHECK(ctx, stat, 0, "ue-InternalMeasurement", -1, "MeasurementType-r9");
-         break;
-      case 8:
-         if (pvalue->u.csgProximityDetection == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "csgProximityDetection", -1, "MeasurementType-r9");
-         stat = asn1PE_UMTS_CSGProximityDetection(ctx, pvalue->u.csgProximityDetection);
-         RT_CHECK(ctx, stat, 0, "csgProximityDetection", -1, "MeasurementType-r9");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementCommand_r9_modify(rtxContext* RT_RESTRICT ctx, const MeasurementCommand_r9_modify* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* measurementType */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MeasurementType_r9(ctx, &pvalue->measurementType);
-      RT_CHECK(ctx, stat, 0, "measurementType", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MeasurementCommand_r9(rtxContext* RT_RESTRICT ctx, const MeasurementCommand_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MeasurementCommand-r9");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, "MeasurementCommand-r9");
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MeasurementCommand-r9");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.setup == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "setup", -1, "MeasurementCommand-r9");
-         stat = asn1PE_UMTS_MeasurementType_r9(ctx, pvalue->u.setup);
-         RT_CHECK(ctx, stat, 0, "setup", -1, "MeasurementCommand-r9");
-         break;
-      case 2:
-         if (pvalue->u.modify == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "modify", -1, "MeasurementCommand-r9");
-         stat = asn1PE_UMTS_MeasurementCommand_r9_modify(ctx, pvalue->u.modify);
-         RT_CHECK(ctx, stat, 0, "modify", -1, "MeasurementCommand-r9");
-         break;
-      case 3:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Neighbour_TDD_r7(rtxContext* RT_RESTRICT ctx, const Neighbour_TDD_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Neighbour-TDD-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Neighbour-TDD-r7");
-   /* uarfcn */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->uarfcn > 16383u) {
-         rtxErrAddStrParm(ctx, "UARFCN");
-         rtxErrAddUIntParm(ctx, pvalue->uarfcn);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "UARFCN", "uarfcn", -1, "Neighbour-TDD-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->uarfcn, 0, 16383);
-      RT_CHECK(ctx, stat, "UARFCN", "uarfcn", -1, "Neighbour-TDD-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_NeighbourList_TDD_r7(rtxContext* RT_RESTRICT ctx, const NeighbourList_TDD_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NeighbourList-TDD-r7");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NeighbourList-TDD-r7");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "Neighbour-TDD-r7", (int32_t)i, "NeighbourList-TDD-r7");
-      stat = asn1PE_UMTS_Neighbour_TDD_r7(ctx, (const Neighbour_TDD_r7*)node->data);
-      RT_CHECK(ctx, stat, 0, "Neighbour-TDD-r7", (int32_t)i, "NeighbourList-TDD-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCell_LCR_v8a0ext(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_LCR_v8a0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCell-LCR-v8a0ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewInterFreqCell-LCR-v8a0ext");
-   /* cellInfo-LCR-r8 */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellInfo_LCR_r8_ext(ctx, &pvalue->cellInfo_LCR_r8);
-      RT_CHECK(ctx, stat, 0, "cellInfo-LCR-r8", -1, "NewInterFreqCell-LCR-v8a0ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_NewInterFreqCellList_LCR_v8a0ext(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellList_LCR_v8a0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellList-LCR-v8a0ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewInterFreqCellList-LCR-v8a0ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewInterFreqCell-LCR-v8a0ext", (int32_t)i, "NewInterFreqCellList-LCR-v8a0ext");
-      stat = asn1PE_UMTS_NewInterFreqCell_LCR_v8a0ext(ctx, (const NewInterFreqCell_LCR_v8a0ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "NewInterFreqCell-LCR-v8a0ext", (int32_t)i, "NewInterFreqCellList-LCR-v8a0ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCell_LCR_v8a0ext(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCell_LCR_v8a0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCell-LCR-v8a0ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "NewIntraFreqCell-LCR-v8a0ext");
-   /* cellInfo-LCR-r8 */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellInfo_LCR_r8_ext(ctx, &pvalue->cellInfo_LCR_r8);
-      RT_CHECK(ctx, stat, 0, "cellInfo-LCR-r8", -1, "NewIntraFreqCell-LCR-v8a0ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_NewIntraFreqCellList_LCR_v8a0ext(rtxContext* RT_RESTRICT ctx, const NewIntraFreqCellList_LCR_v8a0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "NewIntraFreqCellList-LCR-v8a0ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "NewIntraFreqCellList-LCR-v8a0ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "NewIntraFreqCell-LCR-v8a0ext", (int32_t)i, "NewIntraFreqCellList-LCR-v8a0ext");
-      stat = asn1PE_UMTS_NewIntraFreqCell_LCR_v8a0ext(ctx, (const NewIntraFreqCell_LCR_v8a0ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "NewIntraFreqCell-LCR-v8a0ext", (int32_t)i, "NewIntraFreqCellList-LCR-v8a0ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TimeslotWithISCP(rtxContext* RT_RESTRICT ctx, const TimeslotWithISCP* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TimeslotWithISCP");
-   /* timeslot */
-   if ((uint64_t)pvalue->timeslot > 14u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber");
-      rtxErrAddUIntParm(ctx, pvalue->timeslot);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslot", -1, "TimeslotWithISCP");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, "TimeslotWithISCP");
-   /* timeslotISCP */
-   if ((uint64_t)pvalue->timeslotISCP > 127u) {
-      rtxErrAddStrParm(ctx, "TimeslotISCP");
-      rtxErrAddUIntParm(ctx, pvalue->timeslotISCP);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotISCP", "timeslotISCP", -1, "TimeslotWithISCP");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslotISCP, 0, 127);
-   RT_CHECK(ctx, stat, "TimeslotISCP", "timeslotISCP", -1, "TimeslotWithISCP");
-   return 0;
-}
-
-int asn1PE_UMTS_TimeslotListWithISCP(rtxContext* RT_RESTRICT ctx, const TimeslotListWithISCP* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TimeslotListWithISCP");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 14);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "TimeslotListWithISCP");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "TimeslotWithISCP", (int32_t)i, "TimeslotListWithISCP");
-      stat = asn1PE_UMTS_TimeslotWithISCP(ctx, (const TimeslotWithISCP*)node->data);
-      RT_CHECK(ctx, stat, 0, "TimeslotWithISCP", (int32_t)i, "TimeslotListWithISCP");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_CipherParameters(rtxContext* RT_RESTRICT ctx, const UE_Positioning_CipherParameters* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-CipherParameters");
-   /* cipheringKeyFlag */
-   RT_SET_SIZE(ctx, 1, 1);
-   stat = pe_BitString32(ctx, &pvalue->cipheringKeyFlag, 1, 1);
-   RT_CHECK(ctx, stat, 0, "cipheringKeyFlag", -1, "UE-Positioning-CipherParameters");
-   /* cipheringSerialNumber */
-   stat = pe_ConsUInt64(ctx, pvalue->cipheringSerialNumber, 0, 65535);
-   RT_CHECK(ctx, stat, 0, "cipheringSerialNumber", -1, "UE-Positioning-CipherParameters");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_AssistanceData_v860ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AssistanceData_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-AssistanceData-v860ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-AssistanceData-v860ext");
-   /* uePositioningGanssAddIonoModel */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AddIonoModel(ctx, &pvalue->uePositioningGanssAddIonoModel);
-      RT_CHECK(ctx, stat, 0, "uePositioningGanssAddIonoModel", -1, "UE-Positioning-GANSS-AssistanceData-v860ext");
-   }
-   /* uePositioningGanssEarthOrientationPara */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_EarthOrientPara(ctx, &pvalue->uePositioningGanssEarthOrientationPara);
-      RT_CHECK(ctx, stat, 0, "uePositioningGanssEarthOrientationPara", -1, "UE-Positioning-GANSS-AssistanceData-v860ext");
-   }
-   /* ganssGenericDataList */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_GANSSGenericDataList_v860ext(ctx, &pvalue->ganssGenericDataList);
-      RT_CHECK(ctx, stat, 0, "ganssGenericDataList", -1, "UE-Positioning-GANSS-AssistanceData-v860ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_AssistanceData_v920ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AssistanceData_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-AssistanceData-v920ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-AssistanceData-v920ext");
-   /* ganssGenericDataList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_GANSSGenericDataList_v920ext(ctx, &pvalue->ganssGenericDataList);
-      RT_CHECK(ctx, stat, 0, "ganssGenericDataList", -1, "UE-Positioning-GANSS-AssistanceData-v920ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_Data(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_Data* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-Data");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-Data");
-   /* ganssDataCipheringInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_CipherParameters(ctx, &pvalue->ganssDataCipheringInfo);
-      RT_CHECK(ctx, stat, 0, "ganssDataCipheringInfo", -1, "UE-Positioning-GANSS-Data");
-   }
-   /* ganssDecipheringKeys */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_GANSSDecipheringKeys(ctx, &pvalue->ganssDecipheringKeys);
-      RT_CHECK(ctx, stat, 0, "ganssDecipheringKeys", -1, "UE-Positioning-GANSS-Data");
-   }
-   /* uePositioningGanssReferenceTime */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime(ctx, &pvalue->uePositioningGanssReferenceTime);
-      RT_CHECK(ctx, stat, 0, "uePositioningGanssReferenceTime", -1, "UE-Positioning-GANSS-Data");
-   }
-   /* uePositioningGanssReferencePosition */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_ReferenceLocationGANSS(ctx, &pvalue->uePositioningGanssReferencePosition);
-      RT_CHECK(ctx, stat, 0, "uePositioningGanssReferencePosition", -1, "UE-Positioning-GANSS-Data");
-   }
-   /* uePositioningGanssIonosphericModel */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_IonosphericModel(ctx, &pvalue->uePositioningGanssIonosphericModel);
-      RT_CHECK(ctx, stat, 0, "uePositioningGanssIonosphericModel", -1, "UE-Positioning-GANSS-Data");
-   }
-   /* ganssGenericDataList */
-   if (pvalue->m & 0x20u) {
-      stat = asn1PE_UMTS_GANSSGenericDataList(ctx, &pvalue->ganssGenericDataList);
-      RT_CHECK(ctx, stat, 0, "ganssGenericDataList", -1, "UE-Positioning-GANSS-Data");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GANSS_TimeModels(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_TimeModels* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-TimeModels");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 7);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UE-Positioning-GANSS-TimeModels");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UE-Positioning-GANSS-TimeModel", (int32_t)i, "UE-Positioning-GANSS-TimeModels");
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_TimeModel(ctx, (const UE_Positioning_GANSS_TimeModel*)node->data);
-      RT_CHECK(ctx, stat, 0, "UE-Positioning-GANSS-TimeModel", (int32_t)i, "UE-Positioning-GANSS-TimeModels");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_AcquisitionAssistance_v770ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_AcquisitionAssistance_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-AcquisitionAssistance-v770ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-AcquisitionAssistance-v770ext");
-   /* ue-Positioning-GPS-ReferenceTimeUncertainty */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty > 127u) {
-         rtxErrAddStrParm(ctx, "UE-Positioning-GPS-ReferenceTimeUncertainty");
-         rtxErrAddUIntParm(ctx, pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-GPS-AcquisitionAssistance-v770ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty, 0, 127);
-      RT_CHECK(ctx, stat, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-GPS-AcquisitionAssistance-v770ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_ReferenceTime_v770ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_ReferenceTime_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-ReferenceTime-v770ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-ReferenceTime-v770ext");
-   /* ue-Positioning-GPS-ReferenceTimeUncertainty */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty > 127u) {
-         rtxErrAddStrParm(ctx, "UE-Positioning-GPS-ReferenceTimeUncertainty");
-         rtxErrAddUIntParm(ctx, pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-GPS-ReferenceTime-v770ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty, 0, 127);
-      RT_CHECK(ctx, stat, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-GPS-ReferenceTime-v770ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_AssistanceData_v770ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_AssistanceData_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-AssistanceData-v770ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-AssistanceData-v770ext");
-   /* ue-positioning-GPS-ReferenceTime */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Event1d");
+   /* triggeringCondition */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_ReferenceTime_v770ext(ctx, &pvalue->ue_positioning_GPS_ReferenceTime);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceTime", -1, "UE-Positioning-GPS-AssistanceData-v770ext");
+      if (pvalue->triggeringCondition > 4) {
+         rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TriggeringCondition2", "triggeringCondition", -1, "Event1d");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->triggeringCondition, 0, 4);
+      RT_CHECK_PUT(ctx, cur, stat, "TriggeringCondition2", "triggeringCondition", -1, "Event1d");
    }
-   /* ue-positioning-GPS-AcquisitionAssistance */
+   /* useCIO */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_AcquisitionAssistance_v770ext(ctx, &pvalue->ue_positioning_GPS_AcquisitionAssistance);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AcquisitionAssistance", -1, "UE-Positioning-GPS-AssistanceData-v770ext");
+      stat = rtxEncBitAt(ctx, cur, pvalue->useCIO);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "useCIO", -1, "Event1d");
    }
    return 0;
 }
 
-int asn1PE_UMTS_UE_Positioning_GPS_DGPS_Corrections_v920ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_DGPS_Corrections_v920ext* RT_RESTRICT pvalue)
+int asn1PE_UMTS_Event1d(rtxContext* RT_RESTRICT ctx, const Event1d* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-DGPS-Corrections-v920ext");
-   /* dgps-CorrectionSatInfoList */
-   stat = asn1PE_UMTS_DGPS_CorrectionSatInfoList_v920ext(ctx, &pvalue->dgps_CorrectionSatInfoList);
-   RT_CHECK(ctx, stat, 0, "dgps-CorrectionSatInfoList", -1, "UE-Positioning-GPS-DGPS-Corrections-v920ext");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_GPS_AssistanceData_v920ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_AssistanceData_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-AssistanceData-v920ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-GPS-AssistanceData-v920ext");
-   /* ue-positioning-GPS-DGPS-Corrections */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_DGPS_Corrections_v920ext(ctx, &pvalue->ue_positioning_GPS_DGPS_Corrections);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-DGPS-Corrections", -1, "UE-Positioning-GPS-AssistanceData-v920ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_IPDL_Parameters_TDD_r4_ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_IPDL_Parameters_TDD_r4_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-IPDL-Parameters-TDD-r4-ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-IPDL-Parameters-TDD-r4-ext");
-   /* ip-Spacing */
-   if (pvalue->ip_Spacing > 4) {
-      rtxErrAddUIntParm(ctx, pvalue->ip_Spacing);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "IP-Spacing-TDD", "ip-Spacing", -1, "UE-Positioning-IPDL-Parameters-TDD-r4-ext");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ip_Spacing, 0, 4);
-   RT_CHECK(ctx, stat, "IP-Spacing-TDD", "ip-Spacing", -1, "UE-Positioning-IPDL-Parameters-TDD-r4-ext");
-   /* ip-slot */
-   if ((uint64_t)pvalue->ip_slot > 14u) {
-      rtxErrAddStrParm(ctx, "ip-slot");
-      rtxErrAddUIntParm(ctx, pvalue->ip_slot);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ip-slot", -1, "UE-Positioning-IPDL-Parameters-TDD-r4-ext");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ip_slot, 0, 14);
-   RT_CHECK(ctx, stat, 0, "ip-slot", -1, "UE-Positioning-IPDL-Parameters-TDD-r4-ext");
-   /* ip-Start */
-   if ((uint64_t)pvalue->ip_Start > 4095u) {
-      rtxErrAddStrParm(ctx, "ip-Start");
-      rtxErrAddUIntParm(ctx, pvalue->ip_Start);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ip-Start", -1, "UE-Positioning-IPDL-Parameters-TDD-r4-ext");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ip_Start, 0, 4095);
-   RT_CHECK(ctx, stat, 0, "ip-Start", -1, "UE-Positioning-IPDL-Parameters-TDD-r4-ext");
-   /* ip-PCCPCG */
-   if (pvalue->m & 0x1u) {
-      stat = rtxEncBit(ctx, pvalue->ip_PCCPCG);
-      RT_CHECK(ctx, stat, "IP-PCCPCH-r4", "ip-PCCPCG", -1, "UE-Positioning-IPDL-Parameters-TDD-r4-ext");
-   }
-   /* burstModeParameters */
-   stat = asn1PE_UMTS_BurstModeParameters(ctx, &pvalue->burstModeParameters);
-   RT_CHECK(ctx, stat, 0, "burstModeParameters", -1, "UE-Positioning-IPDL-Parameters-TDD-r4-ext");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_ReportingQuantity_v390ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_ReportingQuantity_v390ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-ReportingQuantity-v390ext");
-   /* vertical-Accuracy */
-   stat = asn1PE_UMTS_UE_Positioning_Accuracy(ctx, pvalue->vertical_Accuracy);
-   RT_CHECK(ctx, stat, 0, "vertical-Accuracy", -1, "UE-Positioning-ReportingQuantity-v390ext");
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* primaryCPICH-Info */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* cellAndChannelIdentity */
-   stat = asn1PE_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
-   RT_CHECK(ctx, stat, 0, "cellAndChannelIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_UEB* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
-   /* sfn */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->sfn > 4095u) {
-         rtxErrAddStrParm(ctx, "sfn");
-         rtxErrAddUIntParm(ctx, pvalue->sfn);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sfn", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->sfn, 0, 4095);
-      RT_CHECK(ctx, stat, 0, "sfn", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
-   }
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
-   /* frequencyInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
-   }
-   /* cellPosition */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_ReferenceCellPosition(ctx, &pvalue->cellPosition);
-      RT_CHECK(ctx, stat, 0, "cellPosition", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
-   }
-   /* roundTripTime */
-   if (pvalue->m & 0x8u) {
-      if ((uint64_t)pvalue->roundTripTime > 32766u) {
-         rtxErrAddStrParm(ctx, "roundTripTime");
-         rtxErrAddUIntParm(ctx, pvalue->roundTripTime);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "roundTripTime", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->roundTripTime, 0, 32766);
-      RT_CHECK(ctx, stat, 0, "roundTripTime", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
-   }
-   /* ue-positioning-IPDL-Paremeters */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-IPDL-Paremeters", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* primaryCPICH-Info */
-   stat = asn1PE_UMTS_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info);
-   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* cellAndChannelIdentity */
-   stat = asn1PE_UMTS_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity);
-   RT_CHECK(ctx, stat, 0, "cellAndChannelIdentity", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
-         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_UEB* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 0), 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
-   /* frequencyInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
-   }
-   /* ue-positioning-IPDL-Paremeters */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters(ctx, &pvalue->ue_positioning_IPDL_Paremeters);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-IPDL-Paremeters", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
-   }
-   /* sfn-SFN-RelTimeDifference */
-   stat = asn1PE_UMTS_SFN_SFN_RelTimeDifference1(ctx, &pvalue->sfn_SFN_RelTimeDifference);
-   RT_CHECK(ctx, stat, 0, "sfn-SFN-RelTimeDifference", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
-   /* sfn-SFN-Drift */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->sfn_SFN_Drift > 28) {
-         rtxErrAddUIntParm(ctx, pvalue->sfn_SFN_Drift);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "SFN-SFN-Drift", "sfn-SFN-Drift", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->sfn_SFN_Drift, 0, 28);
-      RT_CHECK(ctx, stat, "SFN-SFN-Drift", "sfn-SFN-Drift", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
-   }
-   /* searchWindowSize */
-   if (pvalue->searchWindowSize > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->searchWindowSize);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "OTDOA-SearchWindowSize", "searchWindowSize", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->searchWindowSize, 0, 7);
-   RT_CHECK(ctx, stat, "OTDOA-SearchWindowSize", "searchWindowSize", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
-   /* relativeNorth */
-   if (pvalue->m & 0x8u) {
-      if (pvalue->relativeNorth < -20000 || pvalue->relativeNorth > 20000) {
-         rtxErrAddStrParm(ctx, "relativeNorth");
-         rtxErrAddIntParm(ctx, pvalue->relativeNorth);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "relativeNorth", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->relativeNorth, -20000, 20000);
-      RT_CHECK(ctx, stat, 0, "relativeNorth", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
-   }
-   /* relativeEast */
-   if (pvalue->m & 0x10u) {
-      if (pvalue->relativeEast < -20000 || pvalue->relativeEast > 20000) {
-         rtxErrAddStrParm(ctx, "relativeEast");
-         rtxErrAddIntParm(ctx, pvalue->relativeEast);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "relativeEast", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->relativeEast, -20000, 20000);
-      RT_CHECK(ctx, stat, 0, "relativeEast", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
-   }
-   /* relativeAltitude */
-   if (pvalue->m & 0x20u) {
-      if (pvalue->relativeAltitude < -4000 || pvalue->relativeAltitude > 4000) {
-         rtxErrAddStrParm(ctx, "relativeAltitude");
-         rtxErrAddIntParm(ctx, pvalue->relativeAltitude);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "relativeAltitude", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->relativeAltitude, -4000, 4000);
-      RT_CHECK(ctx, stat, 0, "relativeAltitude", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
-   }
-   /* fineSFN-SFN */
-   if ((uint64_t)pvalue->fineSFN_SFN > 15u) {
-      rtxErrAddStrParm(ctx, "FineSFN-SFN");
-      rtxErrAddUIntParm(ctx, pvalue->fineSFN_SFN);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "FineSFN-SFN", "fineSFN-SFN", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->fineSFN_SFN, 0, 15);
-   RT_CHECK(ctx, stat, "FineSFN-SFN", "fineSFN-SFN", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
-   /* roundTripTime */
-   if (pvalue->m & 0x40u) {
-      if ((uint64_t)pvalue->roundTripTime > 32766u) {
-         rtxErrAddStrParm(ctx, "roundTripTime");
-         rtxErrAddUIntParm(ctx, pvalue->roundTripTime);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "roundTripTime", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->roundTripTime, 0, 32766);
-      RT_CHECK(ctx, stat, 0, "roundTripTime", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellList_UEB(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellList_UEB* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellList-UEB");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellList-UEB");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList-UEB");
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB(ctx, (const UE_Positioning_OTDOA_NeighbourCellInfo_UEB*)node->data);
-      RT_CHECK(ctx, stat, 0, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList-UEB");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_AssistanceData_UEB* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-AssistanceData-UEB");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-AssistanceData-UEB");
-   /* ue-positioning-OTDOA-ReferenceCellInfo-UEB */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB(ctx, &pvalue->ue_positioning_OTDOA_ReferenceCellInfo_UEB);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-ReferenceCellInfo-UEB", -1, "UE-Positioning-OTDOA-AssistanceData-UEB");
-   }
-   /* ue-positioning-OTDOA-NeighbourCellList-UEB */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellList_UEB(ctx, &pvalue->ue_positioning_OTDOA_NeighbourCellList_UEB);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-NeighbourCellList-UEB", -1, "UE-Positioning-OTDOA-AssistanceData-UEB");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_Measurement_v390ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_Measurement_v390ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-Measurement-v390ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-Measurement-v390ext");
-   /* ue-positioning-ReportingQuantity-v390ext */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_ReportingQuantity_v390ext(ctx, &pvalue->ue_positioning_ReportingQuantity_v390ext);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-ReportingQuantity-v390ext", -1, "UE-Positioning-Measurement-v390ext");
-   }
-   /* measurementValidity */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_MeasurementValidity(ctx, &pvalue->measurementValidity);
-      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "UE-Positioning-Measurement-v390ext");
-   }
-   /* ue-positioning-OTDOA-AssistanceData-UEB */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData_UEB);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData-UEB", -1, "UE-Positioning-Measurement-v390ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_Measurement_v920ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_Measurement_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-Measurement-v920ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-Measurement-v920ext");
-   /* ue-positioning-GPS-AssistanceData */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_AssistanceData_v920ext(ctx, &pvalue->ue_positioning_GPS_AssistanceData);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AssistanceData", -1, "UE-Positioning-Measurement-v920ext");
-   }
-   /* ue-positioning-GANSS-AssistanceData */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AssistanceData_v920ext(ctx, &pvalue->ue_positioning_GANSS_AssistanceData);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-AssistanceData", -1, "UE-Positioning-Measurement-v920ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_IPDL_Parameters_TDDList_r4_ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_IPDL_Parameters_TDDList_r4_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-IPDL-Parameters-TDDList-r4-ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UE-Positioning-IPDL-Parameters-TDDList-r4-ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UE-Positioning-IPDL-Parameters-TDD-r4-ext", (int32_t)i, "UE-Positioning-IPDL-Parameters-TDDList-r4-ext");
-      stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters_TDD_r4_ext(ctx, (const UE_Positioning_IPDL_Parameters_TDD_r4_ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "UE-Positioning-IPDL-Parameters-TDD-r4-ext", (int32_t)i, "UE-Positioning-IPDL-Parameters-TDDList-r4-ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_r4ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_AssistanceData_r4ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-AssistanceData-r4ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-AssistanceData-r4ext");
-   /* ue-Positioning-IPDL-Parameters-TDD-r4-ext */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters_TDD_r4_ext(ctx, &pvalue->ue_Positioning_IPDL_Parameters_TDD_r4_ext);
-      RT_CHECK(ctx, stat, 0, "ue-Positioning-IPDL-Parameters-TDD-r4-ext", -1, "UE-Positioning-OTDOA-AssistanceData-r4ext");
-   }
-   /* ue-Positioning-IPDL-Parameters-TDDList-r4-ext */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters_TDDList_r4_ext(ctx, &pvalue->ue_Positioning_IPDL_Parameters_TDDList_r4_ext);
-      RT_CHECK(ctx, stat, 0, "ue-Positioning-IPDL-Parameters-TDDList-r4-ext", -1, "UE-Positioning-OTDOA-AssistanceData-r4ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_ReferenceCellInfo_UEB_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB-ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB-ext");
-   /* roundTripTimeExtension */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->roundTripTimeExtension > 70274u) {
-         rtxErrAddStrParm(ctx, "roundTripTimeExtension");
-         rtxErrAddUIntParm(ctx, pvalue->roundTripTimeExtension);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "roundTripTimeExtension", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB-ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->roundTripTimeExtension, 0, 70274);
-      RT_CHECK(ctx, stat, 0, "roundTripTimeExtension", -1, "UE-Positioning-OTDOA-ReferenceCellInfo-UEB-ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB-ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB-ext");
-   /* roundTripTimeExtension */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->roundTripTimeExtension > 70274u) {
-         rtxErrAddStrParm(ctx, "roundTripTimeExtension");
-         rtxErrAddUIntParm(ctx, pvalue->roundTripTimeExtension);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "roundTripTimeExtension", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB-ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->roundTripTimeExtension, 0, 70274);
-      RT_CHECK(ctx, stat, 0, "roundTripTimeExtension", -1, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB-ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellList_UEB_ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_NeighbourCellList_UEB_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellList-UEB-ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-NeighbourCellList-UEB-ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB-ext", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList-UEB-ext");
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext(ctx, (const UE_Positioning_OTDOA_NeighbourCellInfo_UEB_ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "UE-Positioning-OTDOA-NeighbourCellInfo-UEB-ext", (int32_t)i, "UE-Positioning-OTDOA-NeighbourCellList-UEB-ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB_ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_AssistanceData_UEB_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-AssistanceData-UEB-ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-AssistanceData-UEB-ext");
-   /* ue-positioning-OTDOA-ReferenceCellInfo-UEB-ext */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_ReferenceCellInfo_UEB_ext(ctx, &pvalue->ue_positioning_OTDOA_ReferenceCellInfo_UEB_ext);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-ReferenceCellInfo-UEB-ext", -1, "UE-Positioning-OTDOA-AssistanceData-UEB-ext");
-   }
-   /* ue-positioning-OTDOA-NeighbourCellList-UEB-ext */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_NeighbourCellList_UEB_ext(ctx, &pvalue->ue_positioning_OTDOA_NeighbourCellList_UEB_ext);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-NeighbourCellList-UEB-ext", -1, "UE-Positioning-OTDOA-AssistanceData-UEB-ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_Positioning_OTDOA_MeasuredResultsTDD_ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_MeasuredResultsTDD_ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-MeasuredResultsTDD-ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-Positioning-OTDOA-MeasuredResultsTDD-ext");
-   /* neighbourList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_NeighbourList_TDD_r7(ctx, &pvalue->neighbourList);
-      RT_CHECK(ctx, stat, 0, "neighbourList", -1, "UE-Positioning-OTDOA-MeasuredResultsTDD-ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UTRAN_FDD_Frequency(rtxContext* RT_RESTRICT ctx, const UTRAN_FDD_Frequency* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UTRAN-FDD-Frequency");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UTRAN-FDD-Frequency");
-   /* uarfcn */
-   if ((uint64_t)pvalue->uarfcn > 16383u) {
-      rtxErrAddStrParm(ctx, "UARFCN");
-      rtxErrAddUIntParm(ctx, pvalue->uarfcn);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "UARFCN", "uarfcn", -1, "UTRAN-FDD-Frequency");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->uarfcn, 0, 16383);
-   RT_CHECK(ctx, stat, "UARFCN", "uarfcn", -1, "UTRAN-FDD-Frequency");
-   /* priority */
-   if ((uint64_t)pvalue->priority > 7u) {
-      rtxErrAddStrParm(ctx, "priority");
-      rtxErrAddUIntParm(ctx, pvalue->priority);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "priority", -1, "UTRAN-FDD-Frequency");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->priority, 0, 7);
-   RT_CHECK(ctx, stat, 0, "priority", -1, "UTRAN-FDD-Frequency");
-   /* threshXhigh */
-   if ((uint64_t)pvalue->threshXhigh > 31u) {
-      rtxErrAddStrParm(ctx, "threshXhigh");
-      rtxErrAddUIntParm(ctx, pvalue->threshXhigh);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "threshXhigh", -1, "UTRAN-FDD-Frequency");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->threshXhigh, 0, 31);
-   RT_CHECK(ctx, stat, 0, "threshXhigh", -1, "UTRAN-FDD-Frequency");
-   /* threshXlow */
-   if ((uint64_t)pvalue->threshXlow > 31u) {
-      rtxErrAddStrParm(ctx, "threshXlow");
-      rtxErrAddUIntParm(ctx, pvalue->threshXlow);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "threshXlow", -1, "UTRAN-FDD-Frequency");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->threshXlow, 0, 31);
-   RT_CHECK(ctx, stat, 0, "threshXlow", -1, "UTRAN-FDD-Frequency");
-   /* qQualMinFDD */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->qQualMinFDD < -24 || pvalue->qQualMinFDD > 0) {
-         rtxErrAddStrParm(ctx, "qQualMinFDD");
-         rtxErrAddIntParm(ctx, pvalue->qQualMinFDD);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "qQualMinFDD", -1, "UTRAN-FDD-Frequency");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->qQualMinFDD, -24, 0);
-      RT_CHECK(ctx, stat, 0, "qQualMinFDD", -1, "UTRAN-FDD-Frequency");
-   }
-   /* qRxLevMinFDD */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->qRxLevMinFDD < -60 || pvalue->qRxLevMinFDD > -13) {
-         rtxErrAddStrParm(ctx, "qRxLevMinFDD");
-         rtxErrAddIntParm(ctx, pvalue->qRxLevMinFDD);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "qRxLevMinFDD", -1, "UTRAN-FDD-Frequency");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->qRxLevMinFDD, -60, -13);
-      RT_CHECK(ctx, stat, 0, "qRxLevMinFDD", -1, "UTRAN-FDD-Frequency");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UTRAN_FDD_FrequencyList(rtxContext* RT_RESTRICT ctx, const UTRAN_FDD_FrequencyList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UTRAN-FDD-FrequencyList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UTRAN-FDD-FrequencyList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UTRAN-FDD-Frequency", (int32_t)i, "UTRAN-FDD-FrequencyList");
-      stat = asn1PE_UMTS_UTRAN_FDD_Frequency(ctx, (const UTRAN_FDD_Frequency*)node->data);
-      RT_CHECK(ctx, stat, 0, "UTRAN-FDD-Frequency", (int32_t)i, "UTRAN-FDD-FrequencyList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UTRAN_TDD_Frequency(rtxContext* RT_RESTRICT ctx, const UTRAN_TDD_Frequency* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UTRAN-TDD-Frequency");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UTRAN-TDD-Frequency");
-   /* uarfcn */
-   if ((uint64_t)pvalue->uarfcn > 16383u) {
-      rtxErrAddStrParm(ctx, "UARFCN");
-      rtxErrAddUIntParm(ctx, pvalue->uarfcn);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "UARFCN", "uarfcn", -1, "UTRAN-TDD-Frequency");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->uarfcn, 0, 16383);
-   RT_CHECK(ctx, stat, "UARFCN", "uarfcn", -1, "UTRAN-TDD-Frequency");
-   /* priority */
-   if ((uint64_t)pvalue->priority > 7u) {
-      rtxErrAddStrParm(ctx, "priority");
-      rtxErrAddUIntParm(ctx, pvalue->priority);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "priority", -1, "UTRAN-TDD-Frequency");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->priority, 0, 7);
-   RT_CHECK(ctx, stat, 0, "priority", -1, "UTRAN-TDD-Frequency");
-   /* threshXhigh */
-   if ((uint64_t)pvalue->threshXhigh > 31u) {
-      rtxErrAddStrParm(ctx, "threshXhigh");
-      rtxErrAddUIntParm(ctx, pvalue->threshXhigh);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "threshXhigh", -1, "UTRAN-TDD-Frequency");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->threshXhigh, 0, 31);
-   RT_CHECK(ctx, stat, 0, "threshXhigh", -1, "UTRAN-TDD-Frequency");
-   /* threshXlow */
-   if ((uint64_t)pvalue->threshXlow > 31u) {
-      rtxErrAddStrParm(ctx, "threshXlow");
-      rtxErrAddUIntParm(ctx, pvalue->threshXlow);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "threshXlow", -1, "UTRAN-TDD-Frequency");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->threshXlow, 0, 31);
-   RT_CHECK(ctx, stat, 0, "threshXlow", -1, "UTRAN-TDD-Frequency");
-   /* qRxLevMinTDD */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->qRxLevMinTDD < -60 || pvalue->qRxLevMinTDD > -13) {
-         rtxErrAddStrParm(ctx, "qRxLevMinTDD");
-         rtxErrAddIntParm(ctx, pvalue->qRxLevMinTDD);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "qRxLevMinTDD", -1, "UTRAN-TDD-Frequency");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->qRxLevMinTDD, -60, -13);
-      RT_CHECK(ctx, stat, 0, "qRxLevMinTDD", -1, "UTRAN-TDD-Frequency");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UTRAN_TDD_FrequencyList(rtxContext* RT_RESTRICT ctx, const UTRAN_TDD_FrequencyList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UTRAN-TDD-FrequencyList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "UTRAN-TDD-FrequencyList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "UTRAN-TDD-Frequency", (int32_t)i, "UTRAN-TDD-FrequencyList");
-      stat = asn1PE_UMTS_UTRAN_TDD_Frequency(ctx, (const UTRAN_TDD_Frequency*)node->data);
-      RT_CHECK(ctx, stat, 0, "UTRAN-TDD-Frequency", (int32_t)i, "UTRAN-TDD-FrequencyList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UTRA_PriorityInfoList_utra_ServingCell(rtxContext* RT_RESTRICT ctx, const UTRA_PriorityInfoList_utra_ServingCell* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* priority */
-   if ((uint64_t)pvalue->priority > 7u) {
-      rtxErrAddStrParm(ctx, "priority");
-      rtxErrAddUIntParm(ctx, pvalue->priority);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "priority", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->priority, 0, 7);
-   RT_CHECK(ctx, stat, 0, "priority", -1, 0);
-   /* s-PrioritySearch1 */
-   if ((uint64_t)pvalue->s_PrioritySearch1 > 31u) {
-      rtxErrAddStrParm(ctx, "s-PrioritySearch1");
-      rtxErrAddUIntParm(ctx, pvalue->s_PrioritySearch1);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "s-PrioritySearch1", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->s_PrioritySearch1, 0, 31);
-   RT_CHECK(ctx, stat, 0, "s-PrioritySearch1", -1, 0);
-   /* s-PrioritySearch2 */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->s_PrioritySearch2 > 7u) {
-         rtxErrAddStrParm(ctx, "s-PrioritySearch2");
-         rtxErrAddUIntParm(ctx, pvalue->s_PrioritySearch2);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "s-PrioritySearch2", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->s_PrioritySearch2, 0, 7);
-      RT_CHECK(ctx, stat, 0, "s-PrioritySearch2", -1, 0);
-   }
-   /* threshServingLow */
-   if ((uint64_t)pvalue->threshServingLow > 31u) {
-      rtxErrAddStrParm(ctx, "threshServingLow");
-      rtxErrAddUIntParm(ctx, pvalue->threshServingLow);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "threshServingLow", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->threshServingLow, 0, 31);
-   RT_CHECK(ctx, stat, 0, "threshServingLow", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_UTRA_PriorityInfoList(rtxContext* RT_RESTRICT ctx, const UTRA_PriorityInfoList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UTRA-PriorityInfoList");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UTRA-PriorityInfoList");
-   /* utra-ServingCell */
-   stat = asn1PE_UMTS_UTRA_PriorityInfoList_utra_ServingCell(ctx, &pvalue->utra_ServingCell);
-   RT_CHECK(ctx, stat, 0, "utra-ServingCell", -1, "UTRA-PriorityInfoList");
-   /* utran-FDD-FrequencyList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UTRAN_FDD_FrequencyList(ctx, &pvalue->utran_FDD_FrequencyList);
-      RT_CHECK(ctx, stat, 0, "utran-FDD-FrequencyList", -1, "UTRA-PriorityInfoList");
-   }
-   /* utran-TDD-FrequencyList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UTRAN_TDD_FrequencyList(ctx, &pvalue->utran_TDD_FrequencyList);
-      RT_CHECK(ctx, stat, 0, "utran-TDD-FrequencyList", -1, "UTRA-PriorityInfoList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UTRA_PriorityInfoList_v920ext(rtxContext* RT_RESTRICT ctx, const UTRA_PriorityInfoList_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UTRA-PriorityInfoList-v920ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UTRA-PriorityInfoList-v920ext");
-   /* threshServingLow2 */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->threshServingLow2 > 31u) {
-         rtxErrAddStrParm(ctx, "threshServingLow2");
-         rtxErrAddUIntParm(ctx, pvalue->threshServingLow2);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "threshServingLow2", -1, "UTRA-PriorityInfoList-v920ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->threshServingLow2, 0, 31);
-      RT_CHECK(ctx, stat, 0, "threshServingLow2", -1, "UTRA-PriorityInfoList-v920ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_BCCH_ModificationTime(rtxContext* RT_RESTRICT ctx, BCCH_ModificationTime value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 511u) {
-      rtxErrAddStrParm(ctx, "BCCH-ModificationTime");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "BCCH-ModificationTime");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 511);
-   RT_CHECK(ctx, stat, 0, 0, -1, "BCCH-ModificationTime");
-   return 0;
-}
-
-int asn1PE_UMTS_BCCH_ModificationInfo(rtxContext* RT_RESTRICT ctx, const BCCH_ModificationInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "BCCH-ModificationInfo");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "BCCH-ModificationInfo");
-   /* mib-ValueTag */
-   if ((uint64_t)(pvalue->mib_ValueTag - 1) > 7u) {
-      rtxErrAddStrParm(ctx, "MIB-ValueTag");
-      rtxErrAddUIntParm(ctx, pvalue->mib_ValueTag);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MIB-ValueTag", "mib-ValueTag", -1, "BCCH-ModificationInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mib_ValueTag, 1, 8);
-   RT_CHECK(ctx, stat, "MIB-ValueTag", "mib-ValueTag", -1, "BCCH-ModificationInfo");
-   /* bcch-ModificationTime */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->bcch_ModificationTime > 511u) {
-         rtxErrAddStrParm(ctx, "BCCH-ModificationTime");
-         rtxErrAddUIntParm(ctx, pvalue->bcch_ModificationTime);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "BCCH-ModificationTime", "bcch-ModificationTime", -1, "BCCH-ModificationInfo");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->bcch_ModificationTime, 0, 511);
-      RT_CHECK(ctx, stat, "BCCH-ModificationTime", "bcch-ModificationTime", -1, "BCCH-ModificationInfo");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CDMA2000_Message_payload(rtxContext* RT_RESTRICT ctx, const CDMA2000_Message_payload* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   RT_SET_SIZE(ctx, 1, 512);
-   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CDMA2000_Message(rtxContext* RT_RESTRICT ctx, const CDMA2000_Message* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CDMA2000-Message");
-   /* msg-Type */
-   RT_SET_SIZE(ctx, 8, 8);
-   stat = pe_BitString32(ctx, &pvalue->msg_Type, 8, 8);
-   RT_CHECK(ctx, stat, 0, "msg-Type", -1, "CDMA2000-Message");
-   /* payload */
-   stat = asn1PE_UMTS_CDMA2000_Message_payload(ctx, &pvalue->payload);
-   RT_CHECK(ctx, stat, 0, "payload", -1, "CDMA2000-Message");
-   return 0;
-}
-
-int asn1PE_UMTS_CDMA2000_MessageList(rtxContext* RT_RESTRICT ctx, const CDMA2000_MessageList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CDMA2000-MessageList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CDMA2000-MessageList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "CDMA2000-Message", (int32_t)i, "CDMA2000-MessageList");
-      stat = asn1PE_UMTS_CDMA2000_Message(ctx, (const CDMA2000_Message*)node->data);
-      RT_CHECK(ctx, stat, 0, "CDMA2000-Message", (int32_t)i, "CDMA2000-MessageList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_FrequencyInfoCDMA2000(rtxContext* RT_RESTRICT ctx, const FrequencyInfoCDMA2000* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "FrequencyInfoCDMA2000");
-   /* band-Class */
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pe_BitString32(ctx, &pvalue->band_Class, 5, 5);
-   RT_CHECK(ctx, stat, 0, "band-Class", -1, "FrequencyInfoCDMA2000");
-   /* cdma-Freq */
-   RT_SET_SIZE(ctx, 11, 11);
-   stat = pe_BitString32(ctx, &pvalue->cdma_Freq, 11, 11);
-   RT_CHECK(ctx, stat, 0, "cdma-Freq", -1, "FrequencyInfoCDMA2000");
-   return 0;
-}
-
-int asn1PE_UMTS_CDMA2000_UMTS_Frequency_List(rtxContext* RT_RESTRICT ctx, const CDMA2000_UMTS_Frequency_List* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CDMA2000-UMTS-Frequency-List");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "CDMA2000-UMTS-Frequency-List");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "FrequencyInfoCDMA2000", (int32_t)i, "CDMA2000-UMTS-Frequency-List");
-      stat = asn1PE_UMTS_FrequencyInfoCDMA2000(ctx, (const FrequencyInfoCDMA2000*)node->data);
-      RT_CHECK(ctx, stat, 0, "FrequencyInfoCDMA2000", (int32_t)i, "CDMA2000-UMTS-Frequency-List");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DataTransmFrequency_dataTransmFreqGranularity(rtxContext* RT_RESTRICT ctx, DataTransmFrequency_dataTransmFreqGranularity value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_DataTransmFrequency(rtxContext* RT_RESTRICT ctx, const DataTransmFrequency* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DataTransmFrequency");
-   /* dataTransmFreqGranularity */
-   if (pvalue->dataTransmFreqGranularity > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->dataTransmFreqGranularity);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, "dataTransmFreqGranularity", -1, "DataTransmFrequency");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dataTransmFreqGranularity, 0, 7);
-   RT_CHECK(ctx, stat, 0, "dataTransmFreqGranularity", -1, "DataTransmFrequency");
-   /* numberOfDataTransmOcc */
-   if ((uint64_t)(pvalue->numberOfDataTransmOcc - 1) > 609u) {
-      rtxErrAddStrParm(ctx, "numberOfDataTransmOcc");
-      rtxErrAddUIntParm(ctx, pvalue->numberOfDataTransmOcc);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "numberOfDataTransmOcc", -1, "DataTransmFrequency");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->numberOfDataTransmOcc, 1, 610);
-   RT_CHECK(ctx, stat, 0, "numberOfDataTransmOcc", -1, "DataTransmFrequency");
-   return 0;
-}
-
-int asn1PE_UMTS_DataVolumePerRB(rtxContext* RT_RESTRICT ctx, const DataVolumePerRB* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DataVolumePerRB");
-   /* rb-Identity */
-   if ((uint64_t)(pvalue->rb_Identity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "RB-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->rb_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RB-Identity", "rb-Identity", -1, "DataVolumePerRB");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rb_Identity, 1, 32);
-   RT_CHECK(ctx, stat, "RB-Identity", "rb-Identity", -1, "DataVolumePerRB");
-   /* dataVolume */
-   stat = pe_ConsUInt64(ctx, pvalue->dataVolume, 0, 4294967295ULL);
-   RT_CHECK(ctx, stat, 0, "dataVolume", -1, "DataVolumePerRB");
-   return 0;
-}
-
-int asn1PE_UMTS_DataVolumePerRB_List(rtxContext* RT_RESTRICT ctx, const DataVolumePerRB_List* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DataVolumePerRB-List");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "DataVolumePerRB-List");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "DataVolumePerRB", (int32_t)i, "DataVolumePerRB-List");
-      stat = asn1PE_UMTS_DataVolumePerRB(ctx, (const DataVolumePerRB*)node->data);
-      RT_CHECK(ctx, stat, 0, "DataVolumePerRB", (int32_t)i, "DataVolumePerRB-List");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_DataVolumeHistory(rtxContext* RT_RESTRICT ctx, const DataVolumeHistory* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "DataVolumeHistory");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "DataVolumeHistory");
-   /* dataVolumeMontoringWindow */
-   if ((uint64_t)(pvalue->dataVolumeMontoringWindow - 1) > 119u) {
-      rtxErrAddStrParm(ctx, "dataVolumeMontoringWindow");
-      rtxErrAddUIntParm(ctx, pvalue->dataVolumeMontoringWindow);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "dataVolumeMontoringWindow", -1, "DataVolumeHistory");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dataVolumeMontoringWindow, 1, 120);
-   RT_CHECK(ctx, stat, 0, "dataVolumeMontoringWindow", -1, "DataVolumeHistory");
-   /* dataTransmFrequency */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DataTransmFrequency(ctx, &pvalue->dataTransmFrequency);
-      RT_CHECK(ctx, stat, 0, "dataTransmFrequency", -1, "DataVolumeHistory");
-   }
-   /* dataVolumePerRB */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DataVolumePerRB_List(ctx, &pvalue->dataVolumePerRB);
-      RT_CHECK(ctx, stat, 0, "dataVolumePerRB", -1, "DataVolumeHistory");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ETWS_Information_warningType(rtxContext* RT_RESTRICT ctx, const ETWS_Information_warningType* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   RT_SET_SIZE(ctx, 1, 2);
-   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_ETWS_Information_messageIdentifier(rtxContext* RT_RESTRICT ctx, const ETWS_Information_messageIdentifier* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   RT_SET_SIZE(ctx, 2, 2);
-   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_ETWS_Information_serialNumber(rtxContext* RT_RESTRICT ctx, const ETWS_Information_serialNumber* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   RT_SET_SIZE(ctx, 2, 2);
-   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_ETWS_Information(rtxContext* RT_RESTRICT ctx, const ETWS_Information* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ETWS-Information");
-   /* warningType */
-   stat = asn1PE_UMTS_ETWS_Information_warningType(ctx, &pvalue->warningType);
-   RT_CHECK(ctx, stat, 0, "warningType", -1, "ETWS-Information");
-   /* messageIdentifier */
-   stat = asn1PE_UMTS_ETWS_Information_messageIdentifier(ctx, &pvalue->messageIdentifier);
-   RT_CHECK(ctx, stat, 0, "messageIdentifier", -1, "ETWS-Information");
-   /* serialNumber */
-   stat = asn1PE_UMTS_ETWS_Information_serialNumber(ctx, &pvalue->serialNumber);
-   RT_CHECK(ctx, stat, 0, "serialNumber", -1, "ETWS-Information");
-   return 0;
-}
-
-int asn1PE_UMTS_ETWS_WarningSecurityInfo(rtxContext* RT_RESTRICT ctx, const ETWS_WarningSecurityInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ETWS-WarningSecurityInfo");
-   RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ETWS-WarningSecurityInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_FDD_UMTS_Frequency_List(rtxContext* RT_RESTRICT ctx, const FDD_UMTS_Frequency_List* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "FDD-UMTS-Frequency-List");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "FDD-UMTS-Frequency-List");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "FrequencyInfoFDD", (int32_t)i, "FDD-UMTS-Frequency-List");
-      stat = asn1PE_UMTS_FrequencyInfoFDD(ctx, (const FrequencyInfoFDD*)node->data);
-      RT_CHECK(ctx, stat, 0, "FrequencyInfoFDD", (int32_t)i, "FDD-UMTS-Frequency-List");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GERAN_SystemInfoBlock(rtxContext* RT_RESTRICT ctx, const GERAN_SystemInfoBlock* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GERAN-SystemInfoBlock");
-   RT_SET_SIZE(ctx, 1, 23);
-   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GERAN-SystemInfoBlock");
-   return 0;
-}
-
-int asn1PE_UMTS_GERAN_SystemInformation(rtxContext* RT_RESTRICT ctx, const GERAN_SystemInformation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GERAN-SystemInformation");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GERAN-SystemInformation");
-   for (i = 0; i < pvalue->n; i++) {
-      stat = asn1PE_UMTS_GERAN_SystemInfoBlock(ctx, &pvalue->elem[i]);
-      RT_CHECK(ctx, stat, 0, "GERAN-SystemInfoBlock", (int32_t)i, "GERAN-SystemInformation");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_BA_Range(rtxContext* RT_RESTRICT ctx, const GSM_BA_Range* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GSM-BA-Range");
-   /* gsmLowRangeUARFCN */
-   if ((uint64_t)pvalue->gsmLowRangeUARFCN > 16383u) {
-      rtxErrAddStrParm(ctx, "UARFCN");
-      rtxErrAddUIntParm(ctx, pvalue->gsmLowRangeUARFCN);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "UARFCN", "gsmLowRangeUARFCN", -1, "GSM-BA-Range");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->gsmLowRangeUARFCN, 0, 16383);
-   RT_CHECK(ctx, stat, "UARFCN", "gsmLowRangeUARFCN", -1, "GSM-BA-Range");
-   /* gsmUpRangeUARFCN */
-   if ((uint64_t)pvalue->gsmUpRangeUARFCN > 16383u) {
-      rtxErrAddStrParm(ctx, "UARFCN");
-      rtxErrAddUIntParm(ctx, pvalue->gsmUpRangeUARFCN);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "UARFCN", "gsmUpRangeUARFCN", -1, "GSM-BA-Range");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->gsmUpRangeUARFCN, 0, 16383);
-   RT_CHECK(ctx, stat, "UARFCN", "gsmUpRangeUARFCN", -1, "GSM-BA-Range");
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_BA_Range_List(rtxContext* RT_RESTRICT ctx, const GSM_BA_Range_List* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GSM-BA-Range-List");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GSM-BA-Range-List");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "GSM-BA-Range", (int32_t)i, "GSM-BA-Range-List");
-      stat = asn1PE_UMTS_GSM_BA_Range(ctx, (const GSM_BA_Range*)node->data);
-      RT_CHECK(ctx, stat, 0, "GSM-BA-Range", (int32_t)i, "GSM-BA-Range-List");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_Classmark2(rtxContext* RT_RESTRICT ctx, const GSM_Classmark2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GSM-Classmark2");
-   RT_SET_SIZE(ctx, 5, 5);
-   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GSM-Classmark2");
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_Classmark3(rtxContext* RT_RESTRICT ctx, const GSM_Classmark3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GSM-Classmark3");
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GSM-Classmark3");
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_MessageList_element(rtxContext* RT_RESTRICT ctx, const GSM_MessageList_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   RT_SET_SIZE(ctx, 1, 512);
-   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_GSM_MessageList(rtxContext* RT_RESTRICT ctx, const GSM_MessageList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GSM-MessageList");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GSM-MessageList");
-   for (i = 0; i < pvalue->n; i++) {
-      stat = asn1PE_UMTS_GSM_MessageList_element(ctx, &pvalue->elem[i]);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "GSM-MessageList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GsmSecurityCapability(rtxContext* RT_RESTRICT ctx, GsmSecurityCapability value)
-{
-   int stat = 0;
-   {
-      int32_t last = rtxLastBitSet(value.data, value.numbits > 32 ? 32 : value.numbits);
-      uint32_t used = (uint32_t)(last + 1);
-      value.numbits = used <= 7 ? 7 : used;
-      if (last < -1) RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "GsmSecurityCapability");
-   }
-   RT_SET_SIZE(ctx, 7, 7);
-   stat = pe_BitString32(ctx, &value, 7, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GsmSecurityCapability");
-   return 0;
-}
-
-int asn1PE_UMTS_HNBName(rtxContext* RT_RESTRICT ctx, const HNBName* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "HNBName");
-   RT_SET_SIZE(ctx, 1, 48);
-   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
-   RT_CHECK(ctx, stat, 0, 0, -1, "HNBName");
-   return 0;
-}
-
-int asn1PE_UMTS_InterRAT_ChangeFailureCause(rtxContext* RT_RESTRICT ctx, const InterRAT_ChangeFailureCause* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRAT-ChangeFailureCause");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
-   RT_CHECK(ctx, stat, 0, "t", -1, "InterRAT-ChangeFailureCause");
-   if (pvalue->t - 1 > 7) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterRAT-ChangeFailureCause");
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         break;
-      case 3:
-         if (pvalue->u.protocolError == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "protocolError", -1, "InterRAT-ChangeFailureCause");
-         stat = asn1PE_UMTS_ProtocolErrorInformation(ctx, pvalue->u.protocolError);
-         RT_CHECK(ctx, stat, 0, "protocolError", -1, "InterRAT-ChangeFailureCause");
-         break;
-      case 4:
-         break;
-      case 5:
-         break;
-      case 6:
-         break;
-      case 7:
-         break;
-      case 8:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GERANIu_MessageList_element(rtxContext* RT_RESTRICT ctx, const GERANIu_MessageList_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   RT_SET_SIZE(ctx, 1, 32768);
-   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_GERANIu_MessageList(rtxContext* RT_RESTRICT ctx, const GERANIu_MessageList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GERANIu-MessageList");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "GERANIu-MessageList");
-   for (i = 0; i < pvalue->n; i++) {
-      stat = asn1PE_UMTS_GERANIu_MessageList_element(ctx, &pvalue->elem[i]);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "GERANIu-MessageList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_GERANIu_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, const GERANIu_RadioAccessCapability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "GERANIu-RadioAccessCapability");
-   RT_SET_SIZE(ctx, 1, 170);
-   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
-   RT_CHECK(ctx, stat, 0, 0, -1, "GERANIu-RadioAccessCapability");
-   return 0;
-}
-
-int asn1PE_UMTS_InterRAT_UE_RadioAccessCapability_gsm(rtxContext* RT_RESTRICT ctx, const InterRAT_UE_RadioAccessCapability_gsm* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* gsm-Classmark2 */
-   stat = asn1PE_UMTS_GSM_Classmark2(ctx, &pvalue->gsm_Classmark2);
-   RT_CHECK(ctx, stat, 0, "gsm-Classmark2", -1, 0);
-   /* gsm-Classmark3 */
-   stat = asn1PE_UMTS_GSM_Classmark3(ctx, &pvalue->gsm_Classmark3);
-   RT_CHECK(ctx, stat, 0, "gsm-Classmark3", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRAT_UE_RadioAccessCapability_cdma2000(rtxContext* RT_RESTRICT ctx, const InterRAT_UE_RadioAccessCapability_cdma2000* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* cdma2000-MessageList */
-   stat = asn1PE_UMTS_CDMA2000_MessageList(ctx, &pvalue->cdma2000_MessageList);
-   RT_CHECK(ctx, stat, 0, "cdma2000-MessageList", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRAT_UE_RadioAccessCapability(rtxContext* RT_RESTRICT ctx, const InterRAT_UE_RadioAccessCapability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRAT-UE-RadioAccessCapability");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "InterRAT-UE-RadioAccessCapability");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterRAT-UE-RadioAccessCapability");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm", -1, "InterRAT-UE-RadioAccessCapability");
-         stat = asn1PE_UMTS_InterRAT_UE_RadioAccessCapability_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat, 0, "gsm", -1, "InterRAT-UE-RadioAccessCapability");
-         break;
-      case 2:
-         if (pvalue->u.cdma2000 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cdma2000", -1, "InterRAT-UE-RadioAccessCapability");
-         stat = asn1PE_UMTS_InterRAT_UE_RadioAccessCapability_cdma2000(ctx, pvalue->u.cdma2000);
-         RT_CHECK(ctx, stat, 0, "cdma2000", -1, "InterRAT-UE-RadioAccessCapability");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterRAT_UE_RadioAccessCapabilityList(rtxContext* RT_RESTRICT ctx, const InterRAT_UE_RadioAccessCapabilityList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRAT-UE-RadioAccessCapabilityList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "InterRAT-UE-RadioAccessCapabilityList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "InterRAT-UE-RadioAccessCapability", (int32_t)i, "InterRAT-UE-RadioAccessCapabilityList");
-      stat = asn1PE_UMTS_InterRAT_UE_RadioAccessCapability(ctx, (const InterRAT_UE_RadioAccessCapability*)node->data);
-      RT_CHECK(ctx, stat, 0, "InterRAT-UE-RadioAccessCapability", (int32_t)i, "InterRAT-UE-RadioAccessCapabilityList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterRAT_UE_RadioAccessCapability_v590ext(rtxContext* RT_RESTRICT ctx, const InterRAT_UE_RadioAccessCapability_v590ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRAT-UE-RadioAccessCapability-v590ext");
-   /* geranIu-RadioAccessCapability */
-   stat = asn1PE_UMTS_GERANIu_RadioAccessCapability(ctx, &pvalue->geranIu_RadioAccessCapability);
-   RT_CHECK(ctx, stat, 0, "geranIu-RadioAccessCapability", -1, "InterRAT-UE-RadioAccessCapability-v590ext");
-   return 0;
-}
-
-int asn1PE_UMTS_InterRAT_UE_SecurityCapability_gsm(rtxContext* RT_RESTRICT ctx, const InterRAT_UE_SecurityCapability_gsm* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* gsmSecurityCapability */
-   stat = asn1PE_UMTS_GsmSecurityCapability(ctx, pvalue->gsmSecurityCapability);
-   RT_CHECK(ctx, stat, 0, "gsmSecurityCapability", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_InterRAT_UE_SecurityCapability(rtxContext* RT_RESTRICT ctx, const InterRAT_UE_SecurityCapability* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRAT-UE-SecurityCapability");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 0);
-   RT_CHECK(ctx, stat, 0, "t", -1, "InterRAT-UE-SecurityCapability");
-   if (pvalue->t - 1 > 0) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterRAT-UE-SecurityCapability");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.gsm == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "gsm", -1, "InterRAT-UE-SecurityCapability");
-         stat = asn1PE_UMTS_InterRAT_UE_SecurityCapability_gsm(ctx, pvalue->u.gsm);
-         RT_CHECK(ctx, stat, 0, "gsm", -1, "InterRAT-UE-SecurityCapability");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterRAT_UE_SecurityCapList(rtxContext* RT_RESTRICT ctx, const InterRAT_UE_SecurityCapList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRAT-UE-SecurityCapList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "InterRAT-UE-SecurityCapList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "InterRAT-UE-SecurityCapability", (int32_t)i, "InterRAT-UE-SecurityCapList");
-      stat = asn1PE_UMTS_InterRAT_UE_SecurityCapability(ctx, (const InterRAT_UE_SecurityCapability*)node->data);
-      RT_CHECK(ctx, stat, 0, "InterRAT-UE-SecurityCapability", (int32_t)i, "InterRAT-UE-SecurityCapList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_InterRAT_HO_FailureCause(rtxContext* RT_RESTRICT ctx, const InterRAT_HO_FailureCause* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "InterRAT-HO-FailureCause");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 15);
-   RT_CHECK(ctx, stat, 0, "t", -1, "InterRAT-HO-FailureCause");
-   if (pvalue->t - 1 > 15) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "InterRAT-HO-FailureCause");
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         break;
-      case 3:
-         if (pvalue->u.protocolError == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "protocolError", -1, "InterRAT-HO-FailureCause");
-         stat = asn1PE_UMTS_ProtocolErrorInformation(ctx, pvalue->u.protocolError);
-         RT_CHECK(ctx, stat, 0, "protocolError", -1, "InterRAT-HO-FailureCause");
-         break;
-      case 4:
-         break;
-      case 5:
-         break;
-      case 6:
-         break;
-      case 7:
-         break;
-      case 8:
-         break;
-      case 9:
-         break;
-      case 10:
-         break;
-      case 11:
-         break;
-      case 12:
-         break;
-      case 13:
-         break;
-      case 14:
-         break;
-      case 15:
-         break;
-      case 16:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_TDD_UMTS_Frequency_List(rtxContext* RT_RESTRICT ctx, const TDD_UMTS_Frequency_List* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "TDD-UMTS-Frequency-List");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "TDD-UMTS-Frequency-List");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "FrequencyInfoTDD", (int32_t)i, "TDD-UMTS-Frequency-List");
-      stat = asn1PE_UMTS_FrequencyInfoTDD(ctx, (const FrequencyInfoTDD*)node->data);
-      RT_CHECK(ctx, stat, 0, "FrequencyInfoTDD", (int32_t)i, "TDD-UMTS-Frequency-List");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Rplmn_Information(rtxContext* RT_RESTRICT ctx, const Rplmn_Information* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Rplmn-Information");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Rplmn-Information");
-   /* gsm-BA-Range-List */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_GSM_BA_Range_List(ctx, &pvalue->gsm_BA_Range_List);
-      RT_CHECK(ctx, stat, 0, "gsm-BA-Range-List", -1, "Rplmn-Information");
-   }
-   /* fdd-UMTS-Frequency-List */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_FDD_UMTS_Frequency_List(ctx, &pvalue->fdd_UMTS_Frequency_List);
-      RT_CHECK(ctx, stat, 0, "fdd-UMTS-Frequency-List", -1, "Rplmn-Information");
-   }
-   /* tdd-UMTS-Frequency-List */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_TDD_UMTS_Frequency_List(ctx, &pvalue->tdd_UMTS_Frequency_List);
-      RT_CHECK(ctx, stat, 0, "tdd-UMTS-Frequency-List", -1, "Rplmn-Information");
-   }
-   /* cdma2000-UMTS-Frequency-List */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_CDMA2000_UMTS_Frequency_List(ctx, &pvalue->cdma2000_UMTS_Frequency_List);
-      RT_CHECK(ctx, stat, 0, "cdma2000-UMTS-Frequency-List", -1, "Rplmn-Information");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_Rplmn_Information_r4(rtxContext* RT_RESTRICT ctx, const Rplmn_Information_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "Rplmn-Information-r4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "Rplmn-Information-r4");
-   /* gsm-BA-Range-List */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_GSM_BA_Range_List(ctx, &pvalue->gsm_BA_Range_List);
-      RT_CHECK(ctx, stat, 0, "gsm-BA-Range-List", -1, "Rplmn-Information-r4");
-   }
-   /* fdd-UMTS-Frequency-List */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_FDD_UMTS_Frequency_List(ctx, &pvalue->fdd_UMTS_Frequency_List);
-      RT_CHECK(ctx, stat, 0, "fdd-UMTS-Frequency-List", -1, "Rplmn-Information-r4");
-   }
-   /* tdd384-UMTS-Frequency-List */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_TDD_UMTS_Frequency_List(ctx, &pvalue->tdd384_UMTS_Frequency_List);
-      RT_CHECK(ctx, stat, 0, "tdd384-UMTS-Frequency-List", -1, "Rplmn-Information-r4");
-   }
-   /* tdd128-UMTS-Frequency-List */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_TDD_UMTS_Frequency_List(ctx, &pvalue->tdd128_UMTS_Frequency_List);
-      RT_CHECK(ctx, stat, 0, "tdd128-UMTS-Frequency-List", -1, "Rplmn-Information-r4");
-   }
-   /* cdma2000-UMTS-Frequency-List */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_CDMA2000_UMTS_Frequency_List(ctx, &pvalue->cdma2000_UMTS_Frequency_List);
-      RT_CHECK(ctx, stat, 0, "cdma2000-UMTS-Frequency-List", -1, "Rplmn-Information-r4");
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_Event1d, pvalue);
 }
 

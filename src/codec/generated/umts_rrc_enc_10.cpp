@@ -6,246 +6,1708 @@
  */
 #include "umts_rrc_codec_internal.h"
 
-int asn1PE_UMTS_SysInfoType4_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType4_v4b0ext_IEs* RT_RESTRICT pvalue)
+/* The bodies of this unit. */
+RT_MERGED_BODY int enc_ThresholdUsedFrequency_r6(rtxContext* RT_RESTRICT ctx, ThresholdUsedFrequency_r6 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Event1e_r6(rtxContext* RT_RESTRICT ctx, const Event1e_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Event1f_r6(rtxContext* RT_RESTRICT ctx, const Event1f_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Event1j_r6(rtxContext* RT_RESTRICT ctx, const Event1j_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HysteresisInterFreq(rtxContext* RT_RESTRICT ctx, HysteresisInterFreq value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NonUsedFreqParameter(rtxContext* RT_RESTRICT ctx, const NonUsedFreqParameter* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NonUsedFreqParameterList(rtxContext* RT_RESTRICT ctx, const NonUsedFreqParameterList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Event2a(rtxContext* RT_RESTRICT ctx, const Event2a* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NonUsedFreqWList_r6(rtxContext* RT_RESTRICT ctx, const NonUsedFreqWList_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Event2a_r6(rtxContext* RT_RESTRICT ctx, const Event2a_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Event2b(rtxContext* RT_RESTRICT ctx, const Event2b* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Threshold_r6(rtxContext* RT_RESTRICT ctx, Threshold_r6 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NonUsedFreqParameter_r6(rtxContext* RT_RESTRICT ctx, const NonUsedFreqParameter_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NonUsedFreqParameterList_r6(rtxContext* RT_RESTRICT ctx, const NonUsedFreqParameterList_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Event2b_r6(rtxContext* RT_RESTRICT ctx, const Event2b_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Event2c(rtxContext* RT_RESTRICT ctx, const Event2c* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Event2c_r6(rtxContext* RT_RESTRICT ctx, const Event2c_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Event2d(rtxContext* RT_RESTRICT ctx, const Event2d* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Event2d_r6(rtxContext* RT_RESTRICT ctx, const Event2d_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Event2e(rtxContext* RT_RESTRICT ctx, const Event2e* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Event2e_r6(rtxContext* RT_RESTRICT ctx, const Event2e_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Event2f(rtxContext* RT_RESTRICT ctx, const Event2f* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Event2f_r6(rtxContext* RT_RESTRICT ctx, const Event2f_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Event3a(rtxContext* RT_RESTRICT ctx, const Event3a* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Event3b(rtxContext* RT_RESTRICT ctx, const Event3b* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Event3c(rtxContext* RT_RESTRICT ctx, const Event3c* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Event3d(rtxContext* RT_RESTRICT ctx, const Event3d* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EventIDInterFreq(rtxContext* RT_RESTRICT ctx, EventIDInterFreq value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EventIDIntraFreq(rtxContext* RT_RESTRICT ctx, EventIDIntraFreq value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqEventResults(rtxContext* RT_RESTRICT ctx, const IntraFreqEventResults* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqCell(rtxContext* RT_RESTRICT ctx, const InterFreqCell* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqCellList(rtxContext* RT_RESTRICT ctx, const InterFreqCellList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqEventResults(rtxContext* RT_RESTRICT ctx, const InterFreqEventResults* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterRATEventResults(rtxContext* RT_RESTRICT ctx, const InterRATEventResults* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_TrafficVolumeEventResults(rtxContext* RT_RESTRICT ctx, const TrafficVolumeEventResults* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_QualityEventResults(rtxContext* RT_RESTRICT ctx, const QualityEventResults* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_InternalEventResults(rtxContext* RT_RESTRICT ctx, const UE_InternalEventResults* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UTRAN_GPSReferenceTimeResult_ue_GPSTimingOfCell(rtxContext* RT_RESTRICT ctx, const UTRAN_GPSReferenceTimeResult_ue_GPSTimingOfCell* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UTRAN_GPSReferenceTimeResult_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UTRAN_GPSReferenceTimeResult_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UTRAN_GPSReferenceTimeResult_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UTRAN_GPSReferenceTimeResult_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UTRAN_GPSReferenceTimeResult_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UTRAN_GPSReferenceTimeResult_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UTRAN_GPSReferenceTimeResult(rtxContext* RT_RESTRICT ctx, const UTRAN_GPSReferenceTimeResult* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GPS_TOW_1msec(rtxContext* RT_RESTRICT ctx, GPS_TOW_1msec value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_Positioning_PositionEstimateInfo_referenceTime(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_referenceTime* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_PositionEstimate(rtxContext* RT_RESTRICT ctx, const PositionEstimate* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UE_Positioning_PositionEstimateInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RX_TX_TimeDifferenceType2(rtxContext* RT_RESTRICT ctx, UE_RX_TX_TimeDifferenceType2 value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_Positioning_OTDOA_Quality(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_Quality* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NeighbourQuality(rtxContext* RT_RESTRICT ctx, const NeighbourQuality* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_RX_TX_TimeDifferenceType2Info(rtxContext* RT_RESTRICT ctx, const UE_RX_TX_TimeDifferenceType2Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_Positioning_OTDOA_Measurement_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_Measurement_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_Positioning_OTDOA_Measurement_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_Measurement_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_Positioning_OTDOA_Measurement_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_Measurement_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Neighbour_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const Neighbour_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Neighbour_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const Neighbour_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Neighbour_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const Neighbour_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Neighbour(rtxContext* RT_RESTRICT ctx, const Neighbour* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NeighbourList(rtxContext* RT_RESTRICT ctx, const NeighbourList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UE_Positioning_OTDOA_Measurement(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_Measurement* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_Positioning_GPS_MeasurementResults_referenceTime(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_MeasurementResults_referenceTime* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MultipathIndicator(rtxContext* RT_RESTRICT ctx, MultipathIndicator value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GPS_MeasurementParam(rtxContext* RT_RESTRICT ctx, const GPS_MeasurementParam* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GPS_MeasurementParamList(rtxContext* RT_RESTRICT ctx, const GPS_MeasurementParamList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UE_Positioning_GPS_MeasurementResults(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_MeasurementResults* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_Positioning_MeasurementEventResults(rtxContext* RT_RESTRICT ctx, const UE_Positioning_MeasurementEventResults* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_EventResults(rtxContext* RT_RESTRICT ctx, const EventResults* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UTRAN_GANSSReferenceTime_ue_GANSSTimingOfCellFrames(rtxContext* RT_RESTRICT ctx, const UTRAN_GANSSReferenceTime_ue_GANSSTimingOfCellFrames* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UTRAN_GANSSReferenceTime_mode_fdd(rtxContext* RT_RESTRICT ctx, const UTRAN_GANSSReferenceTime_mode_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UTRAN_GANSSReferenceTime_mode_tdd(rtxContext* RT_RESTRICT ctx, const UTRAN_GANSSReferenceTime_mode_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UTRAN_GANSSReferenceTime_mode(rtxContext* RT_RESTRICT ctx, const UTRAN_GANSSReferenceTime_mode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UTRAN_GANSSReferenceTime(rtxContext* RT_RESTRICT ctx, const UTRAN_GANSSReferenceTime* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSSReferenceTimeOnly(rtxContext* RT_RESTRICT ctx, const GANSSReferenceTimeOnly* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7_referenceTime(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7_referenceTime* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HorizontalVelocity(rtxContext* RT_RESTRICT ctx, const HorizontalVelocity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HorizontalWithVerticalVelocity_verticalSpeedDirection(rtxContext* RT_RESTRICT ctx, HorizontalWithVerticalVelocity_verticalSpeedDirection value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HorizontalWithVerticalVelocity(rtxContext* RT_RESTRICT ctx, const HorizontalWithVerticalVelocity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HorizontalVelocityWithUncertainty(rtxContext* RT_RESTRICT ctx, const HorizontalVelocityWithUncertainty* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HorizontalWithVerticalVelocityAndUncertainty_verticalSpeedDirection(rtxContext* RT_RESTRICT ctx, HorizontalWithVerticalVelocityAndUncertainty_verticalSpeedDirection value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_HorizontalWithVerticalVelocityAndUncertainty(rtxContext* RT_RESTRICT ctx, const HorizontalWithVerticalVelocityAndUncertainty* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_VelocityEstimate(rtxContext* RT_RESTRICT ctx, const VelocityEstimate* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_Positioning_GPS_ReferenceTimeUncertainty(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_ReferenceTimeUncertainty value, rtxEncCur* RT_RESTRICT cur);
+static int enc_UE_Positioning_PositionEstimateInfo_v770ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_Positioning_GPS_MeasurementResults_v770ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_MeasurementResults_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_Positioning_GANSS_MeasuredResults_referenceTime(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_MeasuredResults_referenceTime* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSSMeasurementParameters_element_multipathIndicator(rtxContext* RT_RESTRICT ctx, GANSSMeasurementParameters_element_multipathIndicator value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSSMeasurementParameters_element(rtxContext* RT_RESTRICT ctx, const GANSSMeasurementParameters_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSSMeasurementParameters(rtxContext* RT_RESTRICT ctx, const GANSSMeasurementParameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSSMeasurementSignalList_element(rtxContext* RT_RESTRICT ctx, const GANSSMeasurementSignalList_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSSMeasurementSignalList(rtxContext* RT_RESTRICT ctx, const GANSSMeasurementSignalList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSSGenericMeasurementInfo_element(rtxContext* RT_RESTRICT ctx, const GANSSGenericMeasurementInfo_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSSGenericMeasurementInfo(rtxContext* RT_RESTRICT ctx, const GANSSGenericMeasurementInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UE_Positioning_GANSS_MeasuredResults(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_MeasuredResults* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_Positioning_MeasurementEventResults_v770ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_MeasurementEventResults_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EventResults_v770ext(rtxContext* RT_RESTRICT ctx, const EventResults_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSSMeasurementParameters_v860ext_element(rtxContext* RT_RESTRICT ctx, const GANSSMeasurementParameters_v860ext_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSSMeasurementParameters_v860ext(rtxContext* RT_RESTRICT ctx, const GANSSMeasurementParameters_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSSMeasurementSignalList_v860ext_element(rtxContext* RT_RESTRICT ctx, const GANSSMeasurementSignalList_v860ext_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSSMeasurementSignalList_v860ext(rtxContext* RT_RESTRICT ctx, const GANSSMeasurementSignalList_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSSGenericMeasurementInfo_v860ext_element(rtxContext* RT_RESTRICT ctx, const GANSSGenericMeasurementInfo_v860ext_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSSGenericMeasurementInfo_v860ext(rtxContext* RT_RESTRICT ctx, const GANSSGenericMeasurementInfo_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UE_Positioning_GANSS_MeasuredResults_v860ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_MeasuredResults_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_Positioning_MeasurementEventResults_v860ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_MeasurementEventResults_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EventResults_v860ext(rtxContext* RT_RESTRICT ctx, const EventResults_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqEventResultsOnSecUlFreq(rtxContext* RT_RESTRICT ctx, const IntraFreqEventResultsOnSecUlFreq* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_EventResultsOnSecUlFreq(rtxContext* RT_RESTRICT ctx, const EventResultsOnSecUlFreq* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ExtraDoppler_dopplerUncertainty(rtxContext* RT_RESTRICT ctx, ExtraDoppler_dopplerUncertainty value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ExtraDoppler(rtxContext* RT_RESTRICT ctx, const ExtraDoppler* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_FineSFN_SFN(rtxContext* RT_RESTRICT ctx, FineSFN_SFN value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_FreqQualityEstimateQuantity_FDD(rtxContext* RT_RESTRICT ctx, FreqQualityEstimateQuantity_FDD value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_FreqQualityEstimateQuantity_TDD(rtxContext* RT_RESTRICT ctx, FreqQualityEstimateQuantity_TDD value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ReqDataBitAssistance_ganssSatelliteInfo_element(rtxContext* RT_RESTRICT ctx, ReqDataBitAssistance_ganssSatelliteInfo_element value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ReqDataBitAssistance_ganssSatelliteInfo(rtxContext* RT_RESTRICT ctx, const ReqDataBitAssistance_ganssSatelliteInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ReqDataBitAssistance(rtxContext* RT_RESTRICT ctx, const ReqDataBitAssistance* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GanssDataBits(rtxContext* RT_RESTRICT ctx, const GanssDataBits* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSSDecipheringKeys_currentDecipheringKey(rtxContext* RT_RESTRICT ctx, const GANSSDecipheringKeys_currentDecipheringKey* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSSDecipheringKeys_nextDecipheringKey(rtxContext* RT_RESTRICT ctx, const GANSSDecipheringKeys_nextDecipheringKey* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSSDecipheringKeys(rtxContext* RT_RESTRICT ctx, const GANSSDecipheringKeys* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_Positioning_GANSS_TimeModel_gnss_to_id(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_TimeModel_gnss_to_id value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_Positioning_GANSS_TimeModel(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_TimeModel* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSSTimeModelsList(rtxContext* RT_RESTRICT ctx, const GANSSTimeModelsList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UE_Positioning_DGANSSCorrections(rtxContext* RT_RESTRICT ctx, const UE_Positioning_DGANSSCorrections* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_Positioning_GANSS_NavigationModel_non_broadcastIndication(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_NavigationModel_non_broadcastIndication value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Satellite_clock_model(rtxContext* RT_RESTRICT ctx, const Satellite_clock_model* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Satellite_clock_modelList(rtxContext* RT_RESTRICT ctx, const Satellite_clock_modelList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_Positioning_GANSS_ClockModel(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_ClockModel* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_KeplerianParameters(rtxContext* RT_RESTRICT ctx, const KeplerianParameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_Positioning_GANSS_OrbitModel(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_OrbitModel* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_Ganss_Sat_Info_Nav(rtxContext* RT_RESTRICT ctx, const Ganss_Sat_Info_Nav* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Ganss_Sat_Info_NavList(rtxContext* RT_RESTRICT ctx, const Ganss_Sat_Info_NavList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_Positioning_GANSS_NavigationModel(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_NavigationModel* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_Positioning_GANSS_RealTimeIntegrity_element(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_RealTimeIntegrity_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_Positioning_GANSS_RealTimeIntegrity(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_RealTimeIntegrity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UE_Positioning_GANSS_Data_Bit_Assistance(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_Data_Bit_Assistance* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSSSatelliteInformation(rtxContext* RT_RESTRICT ctx, const GANSSSatelliteInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSSSatelliteInformationList(rtxContext* RT_RESTRICT ctx, const GANSSSatelliteInformationList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UE_Positioning_GANSS_ReferenceMeasurementInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_ReferenceMeasurementInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_Positioning_GANSS_Almanac(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_Almanac* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UE_Positioning_GANSS_UTCModel(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_UTCModel* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_GANSSGenericData(rtxContext* RT_RESTRICT ctx, const GANSSGenericData* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_Positioning_GANSS_AddNavigationModels_non_broadcastIndication(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AddNavigationModels_non_broadcastIndication value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NAVclockModel(rtxContext* RT_RESTRICT ctx, const NAVclockModel* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GLONASSclockModel(rtxContext* RT_RESTRICT ctx, const GLONASSclockModel* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SBASclockModel(rtxContext* RT_RESTRICT ctx, const SBASclockModel* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UE_Positioning_GANSS_AddClockModels(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AddClockModels* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NavModel_NAVKeplerianSet(rtxContext* RT_RESTRICT ctx, const NavModel_NAVKeplerianSet* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NavModel_CNAVKeplerianSet_cnavMo(rtxContext* RT_RESTRICT ctx, const NavModel_CNAVKeplerianSet_cnavMo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NavModel_CNAVKeplerianSet_cnavE(rtxContext* RT_RESTRICT ctx, const NavModel_CNAVKeplerianSet_cnavE* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NavModel_CNAVKeplerianSet_cnavOmega(rtxContext* RT_RESTRICT ctx, const NavModel_CNAVKeplerianSet_cnavOmega* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NavModel_CNAVKeplerianSet_cnavOMEGA0(rtxContext* RT_RESTRICT ctx, const NavModel_CNAVKeplerianSet_cnavOMEGA0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NavModel_CNAVKeplerianSet_cnavIo(rtxContext* RT_RESTRICT ctx, const NavModel_CNAVKeplerianSet_cnavIo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NavModel_CNAVKeplerianSet(rtxContext* RT_RESTRICT ctx, const NavModel_CNAVKeplerianSet* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NavModel_GLONASSecef(rtxContext* RT_RESTRICT ctx, const NavModel_GLONASSecef* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NavModel_SBASecef(rtxContext* RT_RESTRICT ctx, const NavModel_SBASecef* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UE_Positioning_GANSS_AddOrbitModels(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AddOrbitModels* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Ganss_Sat_Info_AddNav(rtxContext* RT_RESTRICT ctx, const Ganss_Sat_Info_AddNav* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Ganss_Sat_Info_AddNavList(rtxContext* RT_RESTRICT ctx, const Ganss_Sat_Info_AddNavList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UE_Positioning_GANSS_AddNavigationModels(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AddNavigationModels* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_Positioning_GANSS_Almanac_v860ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_Almanac_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UTCmodelSet1(rtxContext* RT_RESTRICT ctx, const UTCmodelSet1* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UTCmodelSet2(rtxContext* RT_RESTRICT ctx, const UTCmodelSet2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UTCmodelSet3(rtxContext* RT_RESTRICT ctx, const UTCmodelSet3* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UE_Positioning_GANSS_AddUTCModels(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AddUTCModels* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UE_Positioning_GANSS_AuxiliaryInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AuxiliaryInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSSGenericData_v860ext(rtxContext* RT_RESTRICT ctx, const GANSSGenericData_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UE_Positioning_GANSS_Almanac_r8(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_Almanac_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_GANSSGenericData_r8(rtxContext* RT_RESTRICT ctx, const GANSSGenericData_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_Positioning_DGANSSCorrections_r9(rtxContext* RT_RESTRICT ctx, const UE_Positioning_DGANSSCorrections_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_GANSSGenericData_r9(rtxContext* RT_RESTRICT ctx, const GANSSGenericData_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UE_Positioning_DGANSSCorrections_v920ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_DGANSSCorrections_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSSGenericData_v920ext(rtxContext* RT_RESTRICT ctx, const GANSSGenericData_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSSGenericDataList(rtxContext* RT_RESTRICT ctx, const GANSSGenericDataList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSSGenericDataList_v860ext(rtxContext* RT_RESTRICT ctx, const GANSSGenericDataList_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSSGenericDataList_r8(rtxContext* RT_RESTRICT ctx, const GANSSGenericDataList_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSSGenericDataList_r9(rtxContext* RT_RESTRICT ctx, const GANSSGenericDataList_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSSGenericDataList_v920ext(rtxContext* RT_RESTRICT ctx, const GANSSGenericDataList_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SatellitesListRelatedData(rtxContext* RT_RESTRICT ctx, const SatellitesListRelatedData* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_SatellitesListRelatedDataList(rtxContext* RT_RESTRICT ctx, const SatellitesListRelatedDataList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GanssNavigationModelAdditionalData(rtxContext* RT_RESTRICT ctx, const GanssNavigationModelAdditionalData* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GanssReqGenericData(rtxContext* RT_RESTRICT ctx, const GanssReqGenericData* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GanssReqGenericData_v860ext_ganssAddNavigationModel(rtxContext* RT_RESTRICT ctx, GanssReqGenericData_v860ext_ganssAddNavigationModel value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GanssReqGenericData_v860ext_ganssAddUTCmodel(rtxContext* RT_RESTRICT ctx, GanssReqGenericData_v860ext_ganssAddUTCmodel value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GanssReqGenericData_v860ext_ganssAuxInfo(rtxContext* RT_RESTRICT ctx, GanssReqGenericData_v860ext_ganssAuxInfo value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GanssReqGenericData_v860ext_ganssAddADchoices(rtxContext* RT_RESTRICT ctx, const GanssReqGenericData_v860ext_ganssAddADchoices* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GanssReqGenericData_v860ext(rtxContext* RT_RESTRICT ctx, const GanssReqGenericData_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GanssRequestedGenericAssistanceDataList(rtxContext* RT_RESTRICT ctx, const GanssRequestedGenericAssistanceDataList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GanssRequestedGenericAssistanceDataList_v860ext(rtxContext* RT_RESTRICT ctx, const GanssRequestedGenericAssistanceDataList_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GANSS_Storm_Flag(rtxContext* RT_RESTRICT ctx, const GANSS_Storm_Flag* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GSM_CarrierRSSI(rtxContext* RT_RESTRICT ctx, GSM_CarrierRSSI value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ObservedTimeDifferenceToGSM(rtxContext* RT_RESTRICT ctx, ObservedTimeDifferenceToGSM value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GSM_MeasuredResults(rtxContext* RT_RESTRICT ctx, const GSM_MeasuredResults* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GSM_MeasuredResultsList(rtxContext* RT_RESTRICT ctx, const GSM_MeasuredResultsList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GPS_TOW_1sec(rtxContext* RT_RESTRICT ctx, GPS_TOW_1sec value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GPS_TOW_Assist(rtxContext* RT_RESTRICT ctx, const GPS_TOW_Assist* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GPS_TOW_AssistList(rtxContext* RT_RESTRICT ctx, const GPS_TOW_AssistList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GSM_CellID(rtxContext* RT_RESTRICT ctx, const GSM_CellID* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GSM_PriorityInfo(rtxContext* RT_RESTRICT ctx, const GSM_PriorityInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GSM_PriorityInfoList(rtxContext* RT_RESTRICT ctx, const GSM_PriorityInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_GSMCellGroupingList(rtxContext* RT_RESTRICT ctx, const GSMCellGroupingList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IdleIntervalInfo(rtxContext* RT_RESTRICT ctx, const IdleIntervalInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqCell_LCR_r4(rtxContext* RT_RESTRICT ctx, const InterFreqCell_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewInterFreqCell(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewInterFreqCellList(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqCellInfoList(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewInterFreqCell_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewInterFreqCellList_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellList_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_InterFreqCellInfoList_r4(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoList_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewInterFreqCell_r8_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_r8_modeSpecificInfo_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewInterFreqCell_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_r8_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewInterFreqCell_r8(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewInterFreqCellList_r8(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellList_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqCellInfoList_r8(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoList_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewInterFreqCell_r9_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_r9_modeSpecificInfo_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewInterFreqCell_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_r9_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewInterFreqCell_r9(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NewInterFreqCellList_r9(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellList_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqSIAcquisition_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const InterFreqSIAcquisition_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqSIAcquisition_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const InterFreqSIAcquisition_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqSIAcquisition(rtxContext* RT_RESTRICT ctx, const InterFreqSIAcquisition* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_InterFreqCellInfoList_r9(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoList_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqCellList_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const InterFreqCellList_LCR_r4_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqCellMeasuredResultsList(rtxContext* RT_RESTRICT ctx, const InterFreqCellMeasuredResultsList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqCellMeasuredResultsList_v920ext(rtxContext* RT_RESTRICT ctx, const InterFreqCellMeasuredResultsList_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_InterFreqEvent(rtxContext* RT_RESTRICT ctx, const InterFreqEvent* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_InterFreqEvent_r6(rtxContext* RT_RESTRICT ctx, const InterFreqEvent_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqEventList(rtxContext* RT_RESTRICT ctx, const InterFreqEventList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqEventList_r6(rtxContext* RT_RESTRICT ctx, const InterFreqEventList_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFrequencyMeasuredResultsList_v590ext(rtxContext* RT_RESTRICT ctx, const InterFrequencyMeasuredResultsList_v590ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ThreholdNonUsedFrequency_deltaList(rtxContext* RT_RESTRICT ctx, const ThreholdNonUsedFrequency_deltaList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Inter_FreqEventCriteria_v590ext(rtxContext* RT_RESTRICT ctx, const Inter_FreqEventCriteria_v590ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_Inter_FreqEventCriteriaList_v590ext(rtxContext* RT_RESTRICT ctx, const Inter_FreqEventCriteriaList_v590ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFrequencyMeasuredResultsList_v590ext(rtxContext* RT_RESTRICT ctx, const IntraFrequencyMeasuredResultsList_v590ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqEventResults_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const InterFreqEventResults_LCR_r4_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqMeasQuantity_reportingCriteria_intraFreqReportingCriteria(rtxContext* RT_RESTRICT ctx, const InterFreqMeasQuantity_reportingCriteria_intraFreqReportingCriteria* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria(rtxContext* RT_RESTRICT ctx, const InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqMeasQuantity_reportingCriteria(rtxContext* RT_RESTRICT ctx, const InterFreqMeasQuantity_reportingCriteria* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_InterFreqMeasQuantity(rtxContext* RT_RESTRICT ctx, const InterFreqMeasQuantity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_UTRA_CarrierRSSI(rtxContext* RT_RESTRICT ctx, UTRA_CarrierRSSI value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqMeasuredResults(rtxContext* RT_RESTRICT ctx, const InterFreqMeasuredResults* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqMeasuredResults_v920ext(rtxContext* RT_RESTRICT ctx, const InterFreqMeasuredResults_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_InterFreqMeasuredResultsList(rtxContext* RT_RESTRICT ctx, const InterFreqMeasuredResultsList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqMeasuredResultsList_v920ext(rtxContext* RT_RESTRICT ctx, const InterFreqMeasuredResultsList_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqRACHRepCellsList(rtxContext* RT_RESTRICT ctx, const InterFreqRACHRepCellsList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqReportingCriteria(rtxContext* RT_RESTRICT ctx, const InterFreqReportingCriteria* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_PeriodicalWithReportingCellStatus(rtxContext* RT_RESTRICT ctx, const PeriodicalWithReportingCellStatus* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_ReportingCellStatusOpt(rtxContext* RT_RESTRICT ctx, const ReportingCellStatusOpt* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqReportCriteria(rtxContext* RT_RESTRICT ctx, const InterFreqReportCriteria* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqEvent_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqEvent_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_IntraFreqEventCriteria_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteria_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqEventCriteriaList_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteriaList_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqReportingCriteria_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingCriteria_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqReportCriteria_r4(rtxContext* RT_RESTRICT ctx, const InterFreqReportCriteria_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_IntraFreqEvent_r6(rtxContext* RT_RESTRICT ctx, const IntraFreqEvent_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqEventCriteria_r6(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteria_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqEventCriteriaList_r6(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteriaList_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqReportingCriteria_r6(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingCriteria_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqReportingCriteria_r6(rtxContext* RT_RESTRICT ctx, const InterFreqReportingCriteria_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqReportCriteria_r6(rtxContext* RT_RESTRICT ctx, const InterFreqReportCriteria_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_IntraFreqEvent_r7(rtxContext* RT_RESTRICT ctx, const IntraFreqEvent_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqEventCriteria_r7(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteria_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqEventCriteriaList_r7(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteriaList_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqReportingCriteria_r7(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingCriteria_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_InterFreqReportCriteria_r7(rtxContext* RT_RESTRICT ctx, const InterFreqReportCriteria_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_IntraFreqEventOnSecULFreq(rtxContext* RT_RESTRICT ctx, const IntraFreqEventOnSecULFreq* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqEventCriteriaOnSecULFreq(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteriaOnSecULFreq* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqEventCriteriaListOnSecULFreq_intraFreqEventCriteria(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteriaListOnSecULFreq_intraFreqEventCriteria* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_IntraFreqEventCriteriaListOnSecULFreq(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteriaListOnSecULFreq* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_IntraFreqReportingCriteria_r9(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingCriteria_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqReportCriteria_r9(rtxContext* RT_RESTRICT ctx, const InterFreqReportCriteria_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFreqReportingQuantity(rtxContext* RT_RESTRICT ctx, const InterFreqReportingQuantity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RL_AdditionInfoList(rtxContext* RT_RESTRICT ctx, const RL_AdditionInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_RL_InformationLists(rtxContext* RT_RESTRICT ctx, const RL_InformationLists* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_UE_AutonomousUpdateMode(rtxContext* RT_RESTRICT ctx, const UE_AutonomousUpdateMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_InterFrequencyMeasurement(rtxContext* RT_RESTRICT ctx, const InterFrequencyMeasurement* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_InterFrequencyMeasurement_r4(rtxContext* RT_RESTRICT ctx, const InterFrequencyMeasurement_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_InterFrequencyMeasurement_r6(rtxContext* RT_RESTRICT ctx, const InterFrequencyMeasurement_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterFrequencyMeasurement_r7(rtxContext* RT_RESTRICT ctx, const InterFrequencyMeasurement_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_InterFrequencyMeasurement_r8(rtxContext* RT_RESTRICT ctx, const InterFrequencyMeasurement_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_InterFrequencyMeasurement_r9(rtxContext* RT_RESTRICT ctx, const InterFrequencyMeasurement_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_NC_Mode(rtxContext* RT_RESTRICT ctx, NC_Mode value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterRAT_TargetCellDescription_technologySpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const InterRAT_TargetCellDescription_technologySpecificInfo_gsm* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterRAT_TargetCellDescription_technologySpecificInfo(rtxContext* RT_RESTRICT ctx, const InterRAT_TargetCellDescription_technologySpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterRAT_TargetCellDescription(rtxContext* RT_RESTRICT ctx, const InterRAT_TargetCellDescription* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterRATCellInfoIndication(rtxContext* RT_RESTRICT ctx, InterRATCellInfoIndication value, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterRATCellInfoList_r4(rtxContext* RT_RESTRICT ctx, const InterRATCellInfoList_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+static int enc_InterRATCellInfoList_r6(rtxContext* RT_RESTRICT ctx, const InterRATCellInfoList_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterRATEvent(rtxContext* RT_RESTRICT ctx, const InterRATEvent* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_InterRATEventList(rtxContext* RT_RESTRICT ctx, const InterRATEventList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur);
+RT_MERGED_BODY int enc_MeasurementQuantityGSM(rtxContext* RT_RESTRICT ctx, MeasurementQuantityGSM value, rtxEncCur* RT_RESTRICT cur);
+
+/* Bodies held by other units. */
+RT_ENCODE_EXTERN(ReportingCellStatus)
+RT_ENCODE_EXTERN(CellMeasurementEventResults)
+RT_ENCODE_EXTERN(FrequencyInfo)
+RT_ENCODE_EXTERN(CellToReportList)
+RT_ENCODE_EXTERN(UL_TrCH_Identity)
+RT_ENCODE_EXTERN(PrimaryCPICH_Info)
+RT_ENCODE_EXTERN(CellAndChannelIdentity)
+RT_ENCODE_EXTERN(EllipsoidPoint)
+RT_ENCODE_EXTERN(EllipsoidPointUncertCircle)
+RT_ENCODE_EXTERN(EllipsoidPointUncertEllipse)
+RT_ENCODE_EXTERN(EllipsoidPointAltitude)
+RT_ENCODE_EXTERN(EllipsoidPointAltitudeEllipsoide)
+RT_ENCODE_EXTERN(CellMeasurementEventResultsOnSecUlFreq)
+RT_ENCODE_EXTERN_VALUE(DGANSS_Sig_Id_Req)
+RT_ENCODE_EXTERN(DGANSSInfoList)
+RT_ENCODE_EXTERN(DataBitAssistanceList)
+RT_ENCODE_EXTERN(AzimuthAndElevation)
+RT_ENCODE_EXTERN(ALM_keplerianParameters)
+RT_ENCODE_EXTERN(CNAVclockModel)
+RT_ENCODE_EXTERN(ALM_NAVKeplerianSet)
+RT_ENCODE_EXTERN(ALM_ReducedKeplerianSet)
+RT_ENCODE_EXTERN(ALM_MidiAlmanacSet)
+RT_ENCODE_EXTERN(ALM_GlonassAlmanacSet)
+RT_ENCODE_EXTERN(ALM_ECEFsbasAlmanacSet)
+RT_ENCODE_EXTERN(DeltaUT1)
+RT_ENCODE_EXTERN(AuxInfoGANSS_ID1)
+RT_ENCODE_EXTERN(AuxInfoGANSS_ID3)
+RT_ENCODE_EXTERN(DGANSSInfoList_r9)
+RT_ENCODE_EXTERN(DGANSSInfoList_v920ext)
+RT_ENCODE_EXTERN(BSICReported)
+RT_ENCODE_EXTERN(GSM_CellGroup)
+RT_ENCODE_EXTERN(CellMeasurementEventResults_LCR_r4)
+RT_ENCODE_EXTERN(CellInfo)
+RT_ENCODE_EXTERN(RemovedInterFreqCellList)
+RT_ENCODE_EXTERN(CellsForInterFreqMeasList)
+RT_ENCODE_EXTERN(CellInfo_r4)
+RT_ENCODE_EXTERN(CellInfo_r9)
+RT_ENCODE_EXTERN(CSGInterFreqCellInfoList)
+RT_ENCODE_EXTERN(CellMeasuredResults)
+RT_ENCODE_EXTERN(CellMeasuredResults_v920ext)
+RT_ENCODE_EXTERN(DeltaRSCPPerCell)
+RT_ENCODE_EXTERN(IntraFreqMeasQuantity)
+RT_ENCODE_EXTERN(PeriodicalReportingCriteria)
+RT_ENCODE_EXTERN(IntraFreqReportingCriteria)
+RT_ENCODE_EXTERN(Event1a_r4)
+RT_ENCODE_EXTERN(Event1b_r4)
+RT_ENCODE_EXTERN(Event1c)
+RT_ENCODE_EXTERN(Event1e)
+RT_ENCODE_EXTERN(Event1f)
+RT_ENCODE_EXTERN(Event1d)
+RT_ENCODE_EXTERN(Event1b_r7)
+RT_ENCODE_EXTERN(Event1a_OnSecUlFreq_r9)
+RT_ENCODE_EXTERN(Event1b_OnSecUlFreq_r9)
+RT_ENCODE_EXTERN(CellReportingQuantities)
+RT_ENCODE_EXTERN(RL_RemovalInformationList)
+RT_ENCODE_EXTERN(MeasurementValidity)
+RT_ENCODE_EXTERN(BSIC)
+RT_ENCODE_EXTERN(RemovedInterRATCellList)
+RT_ENCODE_EXTERN(NewInterRATCellList)
+RT_ENCODE_EXTERN(CellsForInterRATMeasList)
+
+RT_MERGED_BODY int enc_ThresholdUsedFrequency_r6(rtxContext* RT_RESTRICT ctx, ThresholdUsedFrequency_r6 value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType4-v4b0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType4-v4b0ext-IEs");
-   /* mapping-LCR */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_Mapping_LCR_r4(ctx, &pvalue->mapping_LCR);
-      RT_CHECK(ctx, stat, 0, "mapping-LCR", -1, "SysInfoType4-v4b0ext-IEs");
+   if (value < -120 || value > 165) {
+      rtxErrAddStrParm(ctx, "ThresholdUsedFrequency-r6");
+      rtxErrAddIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "ThresholdUsedFrequency-r6");
+   }
+   stat = pe_ConsInt64At(ctx, cur, value, -120, 165);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ThresholdUsedFrequency-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_ThresholdUsedFrequency_r6(rtxContext* RT_RESTRICT ctx, ThresholdUsedFrequency_r6 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ThresholdUsedFrequency_r6, value);
+}
+
+RT_MERGED_BODY int enc_Event1e_r6(rtxContext* RT_RESTRICT ctx, const Event1e_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Event1e-r6");
+   /* triggeringCondition */
+   if (pvalue->triggeringCondition > 4) {
+      rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TriggeringCondition2", "triggeringCondition", -1, "Event1e-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->triggeringCondition, 0, 4);
+   RT_CHECK_PUT(ctx, cur, stat, "TriggeringCondition2", "triggeringCondition", -1, "Event1e-r6");
+   /* thresholdUsedFrequency */
+   if (pvalue->thresholdUsedFrequency < -120 || pvalue->thresholdUsedFrequency > 165) {
+      rtxErrAddStrParm(ctx, "ThresholdUsedFrequency-r6");
+      rtxErrAddIntParm(ctx, pvalue->thresholdUsedFrequency);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ThresholdUsedFrequency-r6", "thresholdUsedFrequency", -1, "Event1e-r6");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->thresholdUsedFrequency, -120, 165);
+   RT_CHECK_PUT(ctx, cur, stat, "ThresholdUsedFrequency-r6", "thresholdUsedFrequency", -1, "Event1e-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_Event1e_r6(rtxContext* RT_RESTRICT ctx, const Event1e_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Event1e_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_Event1f_r6(rtxContext* RT_RESTRICT ctx, const Event1f_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Event1f-r6");
+   /* triggeringCondition */
+   if (pvalue->triggeringCondition > 2) {
+      rtxErrAddUIntParm(ctx, pvalue->triggeringCondition);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TriggeringCondition1", "triggeringCondition", -1, "Event1f-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->triggeringCondition, 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, "TriggeringCondition1", "triggeringCondition", -1, "Event1f-r6");
+   /* thresholdUsedFrequency */
+   if (pvalue->thresholdUsedFrequency < -120 || pvalue->thresholdUsedFrequency > 165) {
+      rtxErrAddStrParm(ctx, "ThresholdUsedFrequency-r6");
+      rtxErrAddIntParm(ctx, pvalue->thresholdUsedFrequency);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ThresholdUsedFrequency-r6", "thresholdUsedFrequency", -1, "Event1f-r6");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->thresholdUsedFrequency, -120, 165);
+   RT_CHECK_PUT(ctx, cur, stat, "ThresholdUsedFrequency-r6", "thresholdUsedFrequency", -1, "Event1f-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_Event1f_r6(rtxContext* RT_RESTRICT ctx, const Event1f_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Event1f_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_Event1j_r6(rtxContext* RT_RESTRICT ctx, const Event1j_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Event1j-r6");
+   /* replacementActivationThreshold */
+   if (pvalue->replacementActivationThreshold > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->replacementActivationThreshold);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ReplacementActivationThreshold", "replacementActivationThreshold", -1, "Event1j-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->replacementActivationThreshold, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "ReplacementActivationThreshold", "replacementActivationThreshold", -1, "Event1j-r6");
+   /* reportingAmount */
+   if (pvalue->reportingAmount > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->reportingAmount);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ReportingAmount", "reportingAmount", -1, "Event1j-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->reportingAmount, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "ReportingAmount", "reportingAmount", -1, "Event1j-r6");
+   /* reportingInterval */
+   if (pvalue->reportingInterval > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->reportingInterval);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "ReportingInterval", "reportingInterval", -1, "Event1j-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->reportingInterval, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "ReportingInterval", "reportingInterval", -1, "Event1j-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_Event1j_r6(rtxContext* RT_RESTRICT ctx, const Event1j_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Event1j_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_HysteresisInterFreq(rtxContext* RT_RESTRICT ctx, HysteresisInterFreq value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 29u) {
+      rtxErrAddStrParm(ctx, "HysteresisInterFreq");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "HysteresisInterFreq");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 29);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "HysteresisInterFreq");
+   return 0;
+}
+
+int asn1PE_UMTS_HysteresisInterFreq(rtxContext* RT_RESTRICT ctx, HysteresisInterFreq value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HysteresisInterFreq, value);
+}
+
+RT_MERGED_BODY int enc_NonUsedFreqParameter(rtxContext* RT_RESTRICT ctx, const NonUsedFreqParameter* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NonUsedFreqParameter");
+   /* nonUsedFreqThreshold */
+   if (pvalue->nonUsedFreqThreshold < -115 || pvalue->nonUsedFreqThreshold > 0) {
+      rtxErrAddStrParm(ctx, "Threshold");
+      rtxErrAddIntParm(ctx, pvalue->nonUsedFreqThreshold);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Threshold", "nonUsedFreqThreshold", -1, "NonUsedFreqParameter");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->nonUsedFreqThreshold, -115, 0);
+   RT_CHECK_PUT(ctx, cur, stat, "Threshold", "nonUsedFreqThreshold", -1, "NonUsedFreqParameter");
+   /* nonUsedFreqW */
+   if ((uint64_t)pvalue->nonUsedFreqW > 20u) {
+      rtxErrAddStrParm(ctx, "W");
+      rtxErrAddUIntParm(ctx, pvalue->nonUsedFreqW);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "W", "nonUsedFreqW", -1, "NonUsedFreqParameter");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->nonUsedFreqW, 0, 20);
+   RT_CHECK_PUT(ctx, cur, stat, "W", "nonUsedFreqW", -1, "NonUsedFreqParameter");
+   return 0;
+}
+
+int asn1PE_UMTS_NonUsedFreqParameter(rtxContext* RT_RESTRICT ctx, const NonUsedFreqParameter* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NonUsedFreqParameter, pvalue);
+}
+
+RT_MERGED_BODY int enc_NonUsedFreqParameterList(rtxContext* RT_RESTRICT ctx, const NonUsedFreqParameterList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NonUsedFreqParameterList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "NonUsedFreqParameterList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "NonUsedFreqParameter", (int32_t)i, "NonUsedFreqParameterList");
+      stat = enc_NonUsedFreqParameter(ctx, (const NonUsedFreqParameter*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "NonUsedFreqParameter", (int32_t)i, "NonUsedFreqParameterList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType4_v590ext(rtxContext* RT_RESTRICT ctx, const SysInfoType4_v590ext* RT_RESTRICT pvalue)
+int asn1PE_UMTS_NonUsedFreqParameterList(rtxContext* RT_RESTRICT ctx, const NonUsedFreqParameterList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NonUsedFreqParameterList, pvalue);
+}
+
+RT_MERGED_BODY int enc_Event2a(rtxContext* RT_RESTRICT ctx, const Event2a* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType4-v590ext");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Event2a");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType4-v590ext");
-   /* cellSelectReselectInfo-v590ext */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellSelectReselectInfo_v590ext(ctx, &pvalue->cellSelectReselectInfo_v590ext);
-      RT_CHECK(ctx, stat, 0, "cellSelectReselectInfo-v590ext", -1, "SysInfoType4-v590ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType4_v5b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType4_v5b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType4-v5b0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType4-v5b0ext-IEs");
-   /* cellSelectReselectInfoPCHFACH-v5b0ext */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellSelectReselectInfoPCHFACH_v5b0ext(ctx, &pvalue->cellSelectReselectInfoPCHFACH_v5b0ext);
-      RT_CHECK(ctx, stat, 0, "cellSelectReselectInfoPCHFACH-v5b0ext", -1, "SysInfoType4-v5b0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType4_v5c0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType4_v5c0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType4-v5c0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType4-v5c0ext-IEs");
-   /* cellSelectReselectInfoTreselectionScaling-v5c0ext */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellSelectReselectInfoTreselectionScaling_v5c0ext(ctx, &pvalue->cellSelectReselectInfoTreselectionScaling_v5c0ext);
-      RT_CHECK(ctx, stat, 0, "cellSelectReselectInfoTreselectionScaling-v5c0ext", -1, "SysInfoType4-v5c0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType4-v5c0ext */
-   stat = asn1PE_UMTS_SysInfoType4_v5c0ext_IEs(ctx, &pvalue->sysInfoType4_v5c0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType4-v5c0ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType4-v5b0ext */
-   stat = asn1PE_UMTS_SysInfoType4_v5b0ext_IEs(ctx, &pvalue->sysInfoType4_v5b0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType4-v5b0ext", -1, 0);
-   /* v5c0NonCriticalExtension */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension_v5c0NonCriticalExtension(ctx, &pvalue->v5c0NonCriticalExtension);
-      RT_CHECK(ctx, stat, 0, "v5c0NonCriticalExtension", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType4-v590ext */
-   stat = asn1PE_UMTS_SysInfoType4_v590ext(ctx, &pvalue->sysInfoType4_v590ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType4-v590ext", -1, 0);
-   /* v5b0NonCriticalExtension */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5b0NonCriticalExtension(ctx, &pvalue->v5b0NonCriticalExtension);
-      RT_CHECK(ctx, stat, 0, "v5b0NonCriticalExtension", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType4_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType4_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType4-v4b0ext */
-   stat = asn1PE_UMTS_SysInfoType4_v4b0ext_IEs(ctx, &pvalue->sysInfoType4_v4b0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType4-v4b0ext", -1, 0);
-   /* v590NonCriticalExtension */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType4_v4b0NonCriticalExtensions_v590NonCriticalExtension(ctx, &pvalue->v590NonCriticalExtension);
-      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtension", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType4(rtxContext* RT_RESTRICT ctx, const SysInfoType4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType4");
-   /* cellIdentity */
-   stat = asn1PE_UMTS_CellIdentity(ctx, pvalue->cellIdentity);
-   RT_CHECK(ctx, stat, 0, "cellIdentity", -1, "SysInfoType4");
-   /* cellSelectReselectInfo */
-   stat = asn1PE_UMTS_CellSelectReselectInfoSIB_3_4(ctx, &pvalue->cellSelectReselectInfo);
-   RT_CHECK(ctx, stat, 0, "cellSelectReselectInfo", -1, "SysInfoType4");
-   /* cellAccessRestriction */
-   stat = asn1PE_UMTS_CellAccessRestriction(ctx, &pvalue->cellAccessRestriction);
-   RT_CHECK(ctx, stat, 0, "cellAccessRestriction", -1, "SysInfoType4");
-   /* v4b0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType4_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType5bis(rtxContext* RT_RESTRICT ctx, const SysInfoType5bis* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType5bis");
-   stat = asn1PE_UMTS_SysInfoType5(ctx, pvalue);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType5bis");
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType6_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const SysInfoType6_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* aich-PowerOffset */
-   if (pvalue->aich_PowerOffset < -22 || pvalue->aich_PowerOffset > 5) {
-      rtxErrAddStrParm(ctx, "AICH-PowerOffset");
-      rtxErrAddIntParm(ctx, pvalue->aich_PowerOffset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "AICH-PowerOffset", "aich-PowerOffset", -1, 0);
-   }
-   stat = pe_ConsInt64(ctx, pvalue->aich_PowerOffset, -22, 5);
-   RT_CHECK(ctx, stat, "AICH-PowerOffset", "aich-PowerOffset", -1, 0);
-   /* dummy */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->dummy < -10 || pvalue->dummy > 5) {
-         rtxErrAddStrParm(ctx, "CSICH-PowerOffset");
-         rtxErrAddIntParm(ctx, pvalue->dummy);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "CSICH-PowerOffset", "dummy", -1, 0);
-      }
-      stat = pe_ConsInt64(ctx, pvalue->dummy, -10, 5);
-      RT_CHECK(ctx, stat, "CSICH-PowerOffset", "dummy", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType6_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const SysInfoType6_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-SysInfoList-SFN */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Event2a");
+   /* dummy */
+   if (pvalue->dummy < -115 || pvalue->dummy > 0) {
+      rtxErrAddStrParm(ctx, "Threshold");
+      rtxErrAddIntParm(ctx, pvalue->dummy);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Threshold", "dummy", -1, "Event2a");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->dummy, -115, 0);
+   RT_CHECK_PUT(ctx, cur, stat, "Threshold", "dummy", -1, "Event2a");
+   /* usedFreqW */
+   if ((uint64_t)pvalue->usedFreqW > 20u) {
+      rtxErrAddStrParm(ctx, "W");
+      rtxErrAddUIntParm(ctx, pvalue->usedFreqW);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "W", "usedFreqW", -1, "Event2a");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->usedFreqW, 0, 20);
+   RT_CHECK_PUT(ctx, cur, stat, "W", "usedFreqW", -1, "Event2a");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 29u) {
+      rtxErrAddStrParm(ctx, "HysteresisInterFreq");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HysteresisInterFreq", "hysteresis", -1, "Event2a");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->hysteresis, 0, 29);
+   RT_CHECK_PUT(ctx, cur, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2a");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event2a");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2a");
+   /* reportingCellStatus */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PUSCH_SysInfoList_SFN(ctx, &pvalue->pusch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
+      stat = enc_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2a");
    }
-   /* pdsch-SysInfoList-SFN */
+   /* nonUsedFreqParameterList */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_PDSCH_SysInfoList_SFN(ctx, &pvalue->pdsch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
+      stat = enc_NonUsedFreqParameterList(ctx, &pvalue->nonUsedFreqParameterList, cur);
+      RT_CHECK(ctx, stat, 0, "nonUsedFreqParameterList", -1, "Event2a");
    }
-   /* openLoopPowerControl-TDD */
-   stat = asn1PE_UMTS_OpenLoopPowerControl_TDD(ctx, &pvalue->openLoopPowerControl_TDD);
-   RT_CHECK(ctx, stat, 0, "openLoopPowerControl-TDD", -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType6_modeSpecificInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_Event2a(rtxContext* RT_RESTRICT ctx, const Event2a* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Event2a, pvalue);
+}
+
+RT_MERGED_BODY int enc_NonUsedFreqWList_r6(rtxContext* RT_RESTRICT ctx, const NonUsedFreqWList_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NonUsedFreqWList-r6");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "NonUsedFreqWList-r6");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 20u) {
+         rtxErrAddStrParm(ctx, "W");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "W", "W", (int32_t)i, "NonUsedFreqWList-r6");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 20);
+      RT_CHECK_PUT(ctx, cur, stat, "W", "W", (int32_t)i, "NonUsedFreqWList-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NonUsedFreqWList_r6(rtxContext* RT_RESTRICT ctx, const NonUsedFreqWList_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NonUsedFreqWList_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_Event2a_r6(rtxContext* RT_RESTRICT ctx, const Event2a_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Event2a-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Event2a-r6");
+   /* usedFreqW */
+   if ((uint64_t)pvalue->usedFreqW > 20u) {
+      rtxErrAddStrParm(ctx, "W");
+      rtxErrAddUIntParm(ctx, pvalue->usedFreqW);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "W", "usedFreqW", -1, "Event2a-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->usedFreqW, 0, 20);
+   RT_CHECK_PUT(ctx, cur, stat, "W", "usedFreqW", -1, "Event2a-r6");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 29u) {
+      rtxErrAddStrParm(ctx, "HysteresisInterFreq");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HysteresisInterFreq", "hysteresis", -1, "Event2a-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->hysteresis, 0, 29);
+   RT_CHECK_PUT(ctx, cur, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2a-r6");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event2a-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2a-r6");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2a-r6");
+   }
+   /* nonUsedFreqParameterList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_NonUsedFreqWList_r6(ctx, &pvalue->nonUsedFreqParameterList, cur);
+      RT_CHECK(ctx, stat, 0, "nonUsedFreqParameterList", -1, "Event2a-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Event2a_r6(rtxContext* RT_RESTRICT ctx, const Event2a_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Event2a_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_Event2b(rtxContext* RT_RESTRICT ctx, const Event2b* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Event2b");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Event2b");
+   /* usedFreqThreshold */
+   if (pvalue->usedFreqThreshold < -115 || pvalue->usedFreqThreshold > 0) {
+      rtxErrAddStrParm(ctx, "Threshold");
+      rtxErrAddIntParm(ctx, pvalue->usedFreqThreshold);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Threshold", "usedFreqThreshold", -1, "Event2b");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->usedFreqThreshold, -115, 0);
+   RT_CHECK_PUT(ctx, cur, stat, "Threshold", "usedFreqThreshold", -1, "Event2b");
+   /* usedFreqW */
+   if ((uint64_t)pvalue->usedFreqW > 20u) {
+      rtxErrAddStrParm(ctx, "W");
+      rtxErrAddUIntParm(ctx, pvalue->usedFreqW);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "W", "usedFreqW", -1, "Event2b");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->usedFreqW, 0, 20);
+   RT_CHECK_PUT(ctx, cur, stat, "W", "usedFreqW", -1, "Event2b");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 29u) {
+      rtxErrAddStrParm(ctx, "HysteresisInterFreq");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HysteresisInterFreq", "hysteresis", -1, "Event2b");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->hysteresis, 0, 29);
+   RT_CHECK_PUT(ctx, cur, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2b");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event2b");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2b");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2b");
+   }
+   /* nonUsedFreqParameterList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_NonUsedFreqParameterList(ctx, &pvalue->nonUsedFreqParameterList, cur);
+      RT_CHECK(ctx, stat, 0, "nonUsedFreqParameterList", -1, "Event2b");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Event2b(rtxContext* RT_RESTRICT ctx, const Event2b* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Event2b, pvalue);
+}
+
+RT_MERGED_BODY int enc_Threshold_r6(rtxContext* RT_RESTRICT ctx, Threshold_r6 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value < -120 || value > 0) {
+      rtxErrAddStrParm(ctx, "Threshold-r6");
+      rtxErrAddIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "Threshold-r6");
+   }
+   stat = pe_ConsInt64At(ctx, cur, value, -120, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Threshold-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_Threshold_r6(rtxContext* RT_RESTRICT ctx, Threshold_r6 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Threshold_r6, value);
+}
+
+RT_MERGED_BODY int enc_NonUsedFreqParameter_r6(rtxContext* RT_RESTRICT ctx, const NonUsedFreqParameter_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NonUsedFreqParameter-r6");
+   /* nonUsedFreqThreshold */
+   if (pvalue->nonUsedFreqThreshold < -120 || pvalue->nonUsedFreqThreshold > 0) {
+      rtxErrAddStrParm(ctx, "Threshold-r6");
+      rtxErrAddIntParm(ctx, pvalue->nonUsedFreqThreshold);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Threshold-r6", "nonUsedFreqThreshold", -1, "NonUsedFreqParameter-r6");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->nonUsedFreqThreshold, -120, 0);
+   RT_CHECK_PUT(ctx, cur, stat, "Threshold-r6", "nonUsedFreqThreshold", -1, "NonUsedFreqParameter-r6");
+   /* nonUsedFreqW */
+   if ((uint64_t)pvalue->nonUsedFreqW > 20u) {
+      rtxErrAddStrParm(ctx, "W");
+      rtxErrAddUIntParm(ctx, pvalue->nonUsedFreqW);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "W", "nonUsedFreqW", -1, "NonUsedFreqParameter-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->nonUsedFreqW, 0, 20);
+   RT_CHECK_PUT(ctx, cur, stat, "W", "nonUsedFreqW", -1, "NonUsedFreqParameter-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_NonUsedFreqParameter_r6(rtxContext* RT_RESTRICT ctx, const NonUsedFreqParameter_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NonUsedFreqParameter_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_NonUsedFreqParameterList_r6(rtxContext* RT_RESTRICT ctx, const NonUsedFreqParameterList_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NonUsedFreqParameterList-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "NonUsedFreqParameterList-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "NonUsedFreqParameter-r6", (int32_t)i, "NonUsedFreqParameterList-r6");
+      stat = enc_NonUsedFreqParameter_r6(ctx, (const NonUsedFreqParameter_r6*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "NonUsedFreqParameter-r6", (int32_t)i, "NonUsedFreqParameterList-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NonUsedFreqParameterList_r6(rtxContext* RT_RESTRICT ctx, const NonUsedFreqParameterList_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NonUsedFreqParameterList_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_Event2b_r6(rtxContext* RT_RESTRICT ctx, const Event2b_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Event2b-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Event2b-r6");
+   /* usedFreqThreshold */
+   if (pvalue->usedFreqThreshold < -120 || pvalue->usedFreqThreshold > 0) {
+      rtxErrAddStrParm(ctx, "Threshold-r6");
+      rtxErrAddIntParm(ctx, pvalue->usedFreqThreshold);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Threshold-r6", "usedFreqThreshold", -1, "Event2b-r6");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->usedFreqThreshold, -120, 0);
+   RT_CHECK_PUT(ctx, cur, stat, "Threshold-r6", "usedFreqThreshold", -1, "Event2b-r6");
+   /* usedFreqW */
+   if ((uint64_t)pvalue->usedFreqW > 20u) {
+      rtxErrAddStrParm(ctx, "W");
+      rtxErrAddUIntParm(ctx, pvalue->usedFreqW);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "W", "usedFreqW", -1, "Event2b-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->usedFreqW, 0, 20);
+   RT_CHECK_PUT(ctx, cur, stat, "W", "usedFreqW", -1, "Event2b-r6");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 29u) {
+      rtxErrAddStrParm(ctx, "HysteresisInterFreq");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HysteresisInterFreq", "hysteresis", -1, "Event2b-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->hysteresis, 0, 29);
+   RT_CHECK_PUT(ctx, cur, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2b-r6");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event2b-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2b-r6");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2b-r6");
+   }
+   /* nonUsedFreqParameterList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_NonUsedFreqParameterList_r6(ctx, &pvalue->nonUsedFreqParameterList, cur);
+      RT_CHECK(ctx, stat, 0, "nonUsedFreqParameterList", -1, "Event2b-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Event2b_r6(rtxContext* RT_RESTRICT ctx, const Event2b_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Event2b_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_Event2c(rtxContext* RT_RESTRICT ctx, const Event2c* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Event2c");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Event2c");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 29u) {
+      rtxErrAddStrParm(ctx, "HysteresisInterFreq");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HysteresisInterFreq", "hysteresis", -1, "Event2c");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->hysteresis, 0, 29);
+   RT_CHECK_PUT(ctx, cur, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2c");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event2c");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2c");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2c");
+   }
+   /* nonUsedFreqParameterList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_NonUsedFreqParameterList(ctx, &pvalue->nonUsedFreqParameterList, cur);
+      RT_CHECK(ctx, stat, 0, "nonUsedFreqParameterList", -1, "Event2c");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Event2c(rtxContext* RT_RESTRICT ctx, const Event2c* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Event2c, pvalue);
+}
+
+RT_MERGED_BODY int enc_Event2c_r6(rtxContext* RT_RESTRICT ctx, const Event2c_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Event2c-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Event2c-r6");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 29u) {
+      rtxErrAddStrParm(ctx, "HysteresisInterFreq");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HysteresisInterFreq", "hysteresis", -1, "Event2c-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->hysteresis, 0, 29);
+   RT_CHECK_PUT(ctx, cur, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2c-r6");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event2c-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2c-r6");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2c-r6");
+   }
+   /* nonUsedFreqParameterList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_NonUsedFreqParameterList_r6(ctx, &pvalue->nonUsedFreqParameterList, cur);
+      RT_CHECK(ctx, stat, 0, "nonUsedFreqParameterList", -1, "Event2c-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Event2c_r6(rtxContext* RT_RESTRICT ctx, const Event2c_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Event2c_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_Event2d(rtxContext* RT_RESTRICT ctx, const Event2d* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Event2d");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Event2d");
+   /* usedFreqThreshold */
+   if (pvalue->usedFreqThreshold < -115 || pvalue->usedFreqThreshold > 0) {
+      rtxErrAddStrParm(ctx, "Threshold");
+      rtxErrAddIntParm(ctx, pvalue->usedFreqThreshold);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Threshold", "usedFreqThreshold", -1, "Event2d");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->usedFreqThreshold, -115, 0);
+   RT_CHECK_PUT(ctx, cur, stat, "Threshold", "usedFreqThreshold", -1, "Event2d");
+   /* usedFreqW */
+   if ((uint64_t)pvalue->usedFreqW > 20u) {
+      rtxErrAddStrParm(ctx, "W");
+      rtxErrAddUIntParm(ctx, pvalue->usedFreqW);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "W", "usedFreqW", -1, "Event2d");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->usedFreqW, 0, 20);
+   RT_CHECK_PUT(ctx, cur, stat, "W", "usedFreqW", -1, "Event2d");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 29u) {
+      rtxErrAddStrParm(ctx, "HysteresisInterFreq");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HysteresisInterFreq", "hysteresis", -1, "Event2d");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->hysteresis, 0, 29);
+   RT_CHECK_PUT(ctx, cur, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2d");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event2d");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2d");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2d");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Event2d(rtxContext* RT_RESTRICT ctx, const Event2d* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Event2d, pvalue);
+}
+
+RT_MERGED_BODY int enc_Event2d_r6(rtxContext* RT_RESTRICT ctx, const Event2d_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Event2d-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Event2d-r6");
+   /* usedFreqThreshold */
+   if (pvalue->usedFreqThreshold < -120 || pvalue->usedFreqThreshold > 0) {
+      rtxErrAddStrParm(ctx, "Threshold-r6");
+      rtxErrAddIntParm(ctx, pvalue->usedFreqThreshold);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Threshold-r6", "usedFreqThreshold", -1, "Event2d-r6");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->usedFreqThreshold, -120, 0);
+   RT_CHECK_PUT(ctx, cur, stat, "Threshold-r6", "usedFreqThreshold", -1, "Event2d-r6");
+   /* usedFreqW */
+   if ((uint64_t)pvalue->usedFreqW > 20u) {
+      rtxErrAddStrParm(ctx, "W");
+      rtxErrAddUIntParm(ctx, pvalue->usedFreqW);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "W", "usedFreqW", -1, "Event2d-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->usedFreqW, 0, 20);
+   RT_CHECK_PUT(ctx, cur, stat, "W", "usedFreqW", -1, "Event2d-r6");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 29u) {
+      rtxErrAddStrParm(ctx, "HysteresisInterFreq");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HysteresisInterFreq", "hysteresis", -1, "Event2d-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->hysteresis, 0, 29);
+   RT_CHECK_PUT(ctx, cur, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2d-r6");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event2d-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2d-r6");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2d-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Event2d_r6(rtxContext* RT_RESTRICT ctx, const Event2d_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Event2d_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_Event2e(rtxContext* RT_RESTRICT ctx, const Event2e* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Event2e");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Event2e");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 29u) {
+      rtxErrAddStrParm(ctx, "HysteresisInterFreq");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HysteresisInterFreq", "hysteresis", -1, "Event2e");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->hysteresis, 0, 29);
+   RT_CHECK_PUT(ctx, cur, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2e");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event2e");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2e");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2e");
+   }
+   /* nonUsedFreqParameterList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_NonUsedFreqParameterList(ctx, &pvalue->nonUsedFreqParameterList, cur);
+      RT_CHECK(ctx, stat, 0, "nonUsedFreqParameterList", -1, "Event2e");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Event2e(rtxContext* RT_RESTRICT ctx, const Event2e* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Event2e, pvalue);
+}
+
+RT_MERGED_BODY int enc_Event2e_r6(rtxContext* RT_RESTRICT ctx, const Event2e_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Event2e-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Event2e-r6");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 29u) {
+      rtxErrAddStrParm(ctx, "HysteresisInterFreq");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HysteresisInterFreq", "hysteresis", -1, "Event2e-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->hysteresis, 0, 29);
+   RT_CHECK_PUT(ctx, cur, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2e-r6");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event2e-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2e-r6");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2e-r6");
+   }
+   /* nonUsedFreqParameterList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_NonUsedFreqParameterList_r6(ctx, &pvalue->nonUsedFreqParameterList, cur);
+      RT_CHECK(ctx, stat, 0, "nonUsedFreqParameterList", -1, "Event2e-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Event2e_r6(rtxContext* RT_RESTRICT ctx, const Event2e_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Event2e_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_Event2f(rtxContext* RT_RESTRICT ctx, const Event2f* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Event2f");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Event2f");
+   /* usedFreqThreshold */
+   if (pvalue->usedFreqThreshold < -115 || pvalue->usedFreqThreshold > 0) {
+      rtxErrAddStrParm(ctx, "Threshold");
+      rtxErrAddIntParm(ctx, pvalue->usedFreqThreshold);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Threshold", "usedFreqThreshold", -1, "Event2f");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->usedFreqThreshold, -115, 0);
+   RT_CHECK_PUT(ctx, cur, stat, "Threshold", "usedFreqThreshold", -1, "Event2f");
+   /* usedFreqW */
+   if ((uint64_t)pvalue->usedFreqW > 20u) {
+      rtxErrAddStrParm(ctx, "W");
+      rtxErrAddUIntParm(ctx, pvalue->usedFreqW);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "W", "usedFreqW", -1, "Event2f");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->usedFreqW, 0, 20);
+   RT_CHECK_PUT(ctx, cur, stat, "W", "usedFreqW", -1, "Event2f");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 29u) {
+      rtxErrAddStrParm(ctx, "HysteresisInterFreq");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HysteresisInterFreq", "hysteresis", -1, "Event2f");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->hysteresis, 0, 29);
+   RT_CHECK_PUT(ctx, cur, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2f");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event2f");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2f");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2f");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Event2f(rtxContext* RT_RESTRICT ctx, const Event2f* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Event2f, pvalue);
+}
+
+RT_MERGED_BODY int enc_Event2f_r6(rtxContext* RT_RESTRICT ctx, const Event2f_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Event2f-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Event2f-r6");
+   /* usedFreqThreshold */
+   if (pvalue->usedFreqThreshold < -120 || pvalue->usedFreqThreshold > 0) {
+      rtxErrAddStrParm(ctx, "Threshold-r6");
+      rtxErrAddIntParm(ctx, pvalue->usedFreqThreshold);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Threshold-r6", "usedFreqThreshold", -1, "Event2f-r6");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->usedFreqThreshold, -120, 0);
+   RT_CHECK_PUT(ctx, cur, stat, "Threshold-r6", "usedFreqThreshold", -1, "Event2f-r6");
+   /* usedFreqW */
+   if ((uint64_t)pvalue->usedFreqW > 20u) {
+      rtxErrAddStrParm(ctx, "W");
+      rtxErrAddUIntParm(ctx, pvalue->usedFreqW);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "W", "usedFreqW", -1, "Event2f-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->usedFreqW, 0, 20);
+   RT_CHECK_PUT(ctx, cur, stat, "W", "usedFreqW", -1, "Event2f-r6");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 29u) {
+      rtxErrAddStrParm(ctx, "HysteresisInterFreq");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "HysteresisInterFreq", "hysteresis", -1, "Event2f-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->hysteresis, 0, 29);
+   RT_CHECK_PUT(ctx, cur, stat, "HysteresisInterFreq", "hysteresis", -1, "Event2f-r6");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event2f-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "Event2f-r6");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event2f-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Event2f_r6(rtxContext* RT_RESTRICT ctx, const Event2f_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Event2f_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_Event3a(rtxContext* RT_RESTRICT ctx, const Event3a* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Event3a");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Event3a");
+   /* thresholdOwnSystem */
+   if (pvalue->thresholdOwnSystem < -115 || pvalue->thresholdOwnSystem > 0) {
+      rtxErrAddStrParm(ctx, "Threshold");
+      rtxErrAddIntParm(ctx, pvalue->thresholdOwnSystem);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Threshold", "thresholdOwnSystem", -1, "Event3a");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->thresholdOwnSystem, -115, 0);
+   RT_CHECK_PUT(ctx, cur, stat, "Threshold", "thresholdOwnSystem", -1, "Event3a");
+   /* w */
+   if ((uint64_t)pvalue->w > 20u) {
+      rtxErrAddStrParm(ctx, "W");
+      rtxErrAddUIntParm(ctx, pvalue->w);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "W", "w", -1, "Event3a");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->w, 0, 20);
+   RT_CHECK_PUT(ctx, cur, stat, "W", "w", -1, "Event3a");
+   /* thresholdOtherSystem */
+   if (pvalue->thresholdOtherSystem < -115 || pvalue->thresholdOtherSystem > 0) {
+      rtxErrAddStrParm(ctx, "Threshold");
+      rtxErrAddIntParm(ctx, pvalue->thresholdOtherSystem);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Threshold", "thresholdOtherSystem", -1, "Event3a");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->thresholdOtherSystem, -115, 0);
+   RT_CHECK_PUT(ctx, cur, stat, "Threshold", "thresholdOtherSystem", -1, "Event3a");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 15u) {
+      rtxErrAddStrParm(ctx, "Hysteresis");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Hysteresis", "hysteresis", -1, "Event3a");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->hysteresis, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "Hysteresis", "hysteresis", -1, "Event3a");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event3a");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "Event3a");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event3a");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Event3a(rtxContext* RT_RESTRICT ctx, const Event3a* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Event3a, pvalue);
+}
+
+RT_MERGED_BODY int enc_Event3b(rtxContext* RT_RESTRICT ctx, const Event3b* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Event3b");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Event3b");
+   /* thresholdOtherSystem */
+   if (pvalue->thresholdOtherSystem < -115 || pvalue->thresholdOtherSystem > 0) {
+      rtxErrAddStrParm(ctx, "Threshold");
+      rtxErrAddIntParm(ctx, pvalue->thresholdOtherSystem);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Threshold", "thresholdOtherSystem", -1, "Event3b");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->thresholdOtherSystem, -115, 0);
+   RT_CHECK_PUT(ctx, cur, stat, "Threshold", "thresholdOtherSystem", -1, "Event3b");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 15u) {
+      rtxErrAddStrParm(ctx, "Hysteresis");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Hysteresis", "hysteresis", -1, "Event3b");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->hysteresis, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "Hysteresis", "hysteresis", -1, "Event3b");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event3b");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "Event3b");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event3b");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Event3b(rtxContext* RT_RESTRICT ctx, const Event3b* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Event3b, pvalue);
+}
+
+RT_MERGED_BODY int enc_Event3c(rtxContext* RT_RESTRICT ctx, const Event3c* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Event3c");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Event3c");
+   /* thresholdOtherSystem */
+   if (pvalue->thresholdOtherSystem < -115 || pvalue->thresholdOtherSystem > 0) {
+      rtxErrAddStrParm(ctx, "Threshold");
+      rtxErrAddIntParm(ctx, pvalue->thresholdOtherSystem);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Threshold", "thresholdOtherSystem", -1, "Event3c");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->thresholdOtherSystem, -115, 0);
+   RT_CHECK_PUT(ctx, cur, stat, "Threshold", "thresholdOtherSystem", -1, "Event3c");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 15u) {
+      rtxErrAddStrParm(ctx, "Hysteresis");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Hysteresis", "hysteresis", -1, "Event3c");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->hysteresis, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "Hysteresis", "hysteresis", -1, "Event3c");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event3c");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "Event3c");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event3c");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Event3c(rtxContext* RT_RESTRICT ctx, const Event3c* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Event3c, pvalue);
+}
+
+RT_MERGED_BODY int enc_Event3d(rtxContext* RT_RESTRICT ctx, const Event3d* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Event3d");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Event3d");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 15u) {
+      rtxErrAddStrParm(ctx, "Hysteresis");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Hysteresis", "hysteresis", -1, "Event3d");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->hysteresis, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "Hysteresis", "hysteresis", -1, "Event3d");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "Event3d");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "Event3d");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "Event3d");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Event3d(rtxContext* RT_RESTRICT ctx, const Event3d* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Event3d, pvalue);
+}
+
+RT_MERGED_BODY int enc_EventIDInterFreq(rtxContext* RT_RESTRICT ctx, EventIDInterFreq value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "EventIDInterFreq");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "EventIDInterFreq");
+   return 0;
+}
+
+int asn1PE_UMTS_EventIDInterFreq(rtxContext* RT_RESTRICT ctx, EventIDInterFreq value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EventIDInterFreq, value);
+}
+
+RT_MERGED_BODY int enc_EventIDIntraFreq(rtxContext* RT_RESTRICT ctx, EventIDIntraFreq value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 15) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "EventIDIntraFreq");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "EventIDIntraFreq");
+   return 0;
+}
+
+int asn1PE_UMTS_EventIDIntraFreq(rtxContext* RT_RESTRICT ctx, EventIDIntraFreq value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EventIDIntraFreq, value);
+}
+
+RT_MERGED_BODY int enc_IntraFreqEventResults(rtxContext* RT_RESTRICT ctx, const IntraFreqEventResults* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventResults");
+   /* eventID */
+   if (pvalue->eventID > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->eventID);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "EventIDIntraFreq", "eventID", -1, "IntraFreqEventResults");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->eventID, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "EventIDIntraFreq", "eventID", -1, "IntraFreqEventResults");
+   /* cellMeasurementEventResults */
+   stat = enc_CellMeasurementEventResults(ctx, &pvalue->cellMeasurementEventResults, cur);
+   RT_CHECK(ctx, stat, 0, "cellMeasurementEventResults", -1, "IntraFreqEventResults");
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqEventResults(rtxContext* RT_RESTRICT ctx, const IntraFreqEventResults* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqEventResults, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqCell(rtxContext* RT_RESTRICT ctx, const InterFreqCell* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCell");
+   /* frequencyInfo */
+   stat = enc_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "InterFreqCell");
+   /* nonFreqRelatedEventResults */
+   stat = enc_CellMeasurementEventResults(ctx, &pvalue->nonFreqRelatedEventResults, cur);
+   RT_CHECK(ctx, stat, 0, "nonFreqRelatedEventResults", -1, "InterFreqCell");
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqCell(rtxContext* RT_RESTRICT ctx, const InterFreqCell* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqCell, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqCellList(rtxContext* RT_RESTRICT ctx, const InterFreqCellList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "InterFreqCellList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "InterFreqCell", (int32_t)i, "InterFreqCellList");
+      stat = enc_InterFreqCell(ctx, (const InterFreqCell*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "InterFreqCell", (int32_t)i, "InterFreqCellList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqCellList(rtxContext* RT_RESTRICT ctx, const InterFreqCellList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqCellList, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqEventResults(rtxContext* RT_RESTRICT ctx, const InterFreqEventResults* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqEventResults");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterFreqEventResults");
+   /* eventID */
+   if (pvalue->eventID > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->eventID);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "EventIDInterFreq", "eventID", -1, "InterFreqEventResults");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->eventID, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "EventIDInterFreq", "eventID", -1, "InterFreqEventResults");
+   /* interFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_InterFreqCellList(ctx, &pvalue->interFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqCellList", -1, "InterFreqEventResults");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqEventResults(rtxContext* RT_RESTRICT ctx, const InterFreqEventResults* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqEventResults, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterRATEventResults(rtxContext* RT_RESTRICT ctx, const InterRATEventResults* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterRATEventResults");
+   /* eventID */
+   if (pvalue->eventID > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->eventID);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "EventIDInterRAT", "eventID", -1, "InterRATEventResults");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->eventID, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "EventIDInterRAT", "eventID", -1, "InterRATEventResults");
+   /* cellToReportList */
+   stat = enc_CellToReportList(ctx, &pvalue->cellToReportList, cur);
+   RT_CHECK(ctx, stat, 0, "cellToReportList", -1, "InterRATEventResults");
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATEventResults(rtxContext* RT_RESTRICT ctx, const InterRATEventResults* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterRATEventResults, pvalue);
+}
+
+RT_MERGED_BODY int enc_TrafficVolumeEventResults(rtxContext* RT_RESTRICT ctx, const TrafficVolumeEventResults* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "TrafficVolumeEventResults");
+   /* ul-transportChannelCausingEvent */
+   stat = enc_UL_TrCH_Identity(ctx, &pvalue->ul_transportChannelCausingEvent, cur);
+   RT_CHECK(ctx, stat, 0, "ul-transportChannelCausingEvent", -1, "TrafficVolumeEventResults");
+   /* trafficVolumeEventIdentity */
+   if (pvalue->trafficVolumeEventIdentity > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->trafficVolumeEventIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TrafficVolumeEventType", "trafficVolumeEventIdentity", -1, "TrafficVolumeEventResults");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->trafficVolumeEventIdentity, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "TrafficVolumeEventType", "trafficVolumeEventIdentity", -1, "TrafficVolumeEventResults");
+   return 0;
+}
+
+int asn1PE_UMTS_TrafficVolumeEventResults(rtxContext* RT_RESTRICT ctx, const TrafficVolumeEventResults* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_TrafficVolumeEventResults, pvalue);
+}
+
+RT_MERGED_BODY int enc_QualityEventResults(rtxContext* RT_RESTRICT ctx, const QualityEventResults* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "QualityEventResults");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "QualityEventResults");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)(pvalue->elem[i] - 1) > 31u) {
+         rtxErrAddStrParm(ctx, "TransportChannelIdentity");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "TransportChannelIdentity", "TransportChannelIdentity", (int32_t)i, "QualityEventResults");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 1, 32);
+      RT_CHECK_PUT(ctx, cur, stat, "TransportChannelIdentity", "TransportChannelIdentity", (int32_t)i, "QualityEventResults");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_QualityEventResults(rtxContext* RT_RESTRICT ctx, const QualityEventResults* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_QualityEventResults, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_InternalEventResults(rtxContext* RT_RESTRICT ctx, const UE_InternalEventResults* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-InternalEventResults");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "UE-InternalEventResults");
+   if (pvalue->t - 1 > 7) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UE-InternalEventResults");
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_SysInfoType6_modeSpecificInfo_fdd(ctx, pvalue->u.fdd);
+         break;
+      case 2:
+         break;
+      case 3:
+         break;
+      case 4:
+         break;
+      case 5:
+         break;
+      case 6:
+         if (pvalue->u.event6f == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "event6f", -1, "UE-InternalEventResults");
+         stat = enc_PrimaryCPICH_Info(ctx, pvalue->u.event6f, cur);
+         RT_CHECK(ctx, stat, 0, "event6f", -1, "UE-InternalEventResults");
+         break;
+      case 7:
+         if (pvalue->u.event6g == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "event6g", -1, "UE-InternalEventResults");
+         stat = enc_PrimaryCPICH_Info(ctx, pvalue->u.event6g, cur);
+         RT_CHECK(ctx, stat, 0, "event6g", -1, "UE-InternalEventResults");
+         break;
+      case 8:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_InternalEventResults(rtxContext* RT_RESTRICT ctx, const UE_InternalEventResults* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_InternalEventResults, pvalue);
+}
+
+RT_MERGED_BODY int enc_UTRAN_GPSReferenceTimeResult_ue_GPSTimingOfCell(rtxContext* RT_RESTRICT ctx, const UTRAN_GPSReferenceTimeResult_ue_GPSTimingOfCell* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ms-part */
+   if ((uint64_t)pvalue->ms_part > 16383u) {
+      rtxErrAddStrParm(ctx, "ms-part");
+      rtxErrAddUIntParm(ctx, pvalue->ms_part);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ms-part", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ms_part, 0, 16383);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ms-part", -1, 0);
+   /* ls-part */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ls_part, 0, 4294967295ULL);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ls-part", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UTRAN_GPSReferenceTimeResult_ue_GPSTimingOfCell(rtxContext* RT_RESTRICT ctx, const UTRAN_GPSReferenceTimeResult_ue_GPSTimingOfCell* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UTRAN_GPSReferenceTimeResult_ue_GPSTimingOfCell, pvalue);
+}
+
+RT_MERGED_BODY int enc_UTRAN_GPSReferenceTimeResult_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UTRAN_GPSReferenceTimeResult_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* referenceIdentity */
+   stat = enc_PrimaryCPICH_Info(ctx, &pvalue->referenceIdentity, cur);
+   RT_CHECK(ctx, stat, 0, "referenceIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UTRAN_GPSReferenceTimeResult_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UTRAN_GPSReferenceTimeResult_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UTRAN_GPSReferenceTimeResult_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_UTRAN_GPSReferenceTimeResult_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UTRAN_GPSReferenceTimeResult_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* referenceIdentity */
+   if ((uint64_t)pvalue->referenceIdentity > 127u) {
+      rtxErrAddStrParm(ctx, "CellParametersID");
+      rtxErrAddUIntParm(ctx, pvalue->referenceIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellParametersID", "referenceIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->referenceIdentity, 0, 127);
+   RT_CHECK_PUT(ctx, cur, stat, "CellParametersID", "referenceIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UTRAN_GPSReferenceTimeResult_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UTRAN_GPSReferenceTimeResult_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UTRAN_GPSReferenceTimeResult_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_UTRAN_GPSReferenceTimeResult_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UTRAN_GPSReferenceTimeResult_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_UTRAN_GPSReferenceTimeResult_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
          RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
          break;
       case 2:
-         if (pvalue->u.tdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
-         stat = asn1PE_UMTS_SysInfoType6_modeSpecificInfo_tdd(ctx, pvalue->u.tdd);
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_UTRAN_GPSReferenceTimeResult_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
          RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
          break;
       default:
@@ -254,4976 +1716,3863 @@ int asn1PE_UMTS_SysInfoType6_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType6_v4b0ext_IEs_tdd128SpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType6_v4b0ext_IEs_tdd128SpecificInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UTRAN_GPSReferenceTimeResult_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UTRAN_GPSReferenceTimeResult_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UTRAN_GPSReferenceTimeResult_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_UTRAN_GPSReferenceTimeResult(rtxContext* RT_RESTRICT ctx, const UTRAN_GPSReferenceTimeResult* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-SysInfoList-SFN */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PUSCH_SysInfoList_SFN_LCR_r4(ctx, &pvalue->pusch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UTRAN-GPSReferenceTimeResult");
+   /* ue-GPSTimingOfCell */
+   stat = enc_UTRAN_GPSReferenceTimeResult_ue_GPSTimingOfCell(ctx, &pvalue->ue_GPSTimingOfCell, cur);
+   RT_CHECK(ctx, stat, 0, "ue-GPSTimingOfCell", -1, "UTRAN-GPSReferenceTimeResult");
+   /* modeSpecificInfo */
+   stat = enc_UTRAN_GPSReferenceTimeResult_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UTRAN-GPSReferenceTimeResult");
+   /* sfn */
+   if ((uint64_t)pvalue->sfn > 4095u) {
+      rtxErrAddStrParm(ctx, "sfn");
+      rtxErrAddUIntParm(ctx, pvalue->sfn);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "sfn", -1, "UTRAN-GPSReferenceTimeResult");
    }
-   /* pdsch-SysInfoList-SFN */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_PDSCH_SysInfoList_SFN_LCR_r4(ctx, &pvalue->pdsch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->sfn, 0, 4095);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sfn", -1, "UTRAN-GPSReferenceTimeResult");
+   return 0;
+}
+
+int asn1PE_UMTS_UTRAN_GPSReferenceTimeResult(rtxContext* RT_RESTRICT ctx, const UTRAN_GPSReferenceTimeResult* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UTRAN_GPSReferenceTimeResult, pvalue);
+}
+
+RT_MERGED_BODY int enc_GPS_TOW_1msec(rtxContext* RT_RESTRICT ctx, GPS_TOW_1msec value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 604799999u) {
+      rtxErrAddStrParm(ctx, "GPS-TOW-1msec");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "GPS-TOW-1msec");
    }
-   /* pCCPCH-LCR-Extensions */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_PrimaryCCPCH_Info_LCR_r4_ext(ctx, &pvalue->pCCPCH_LCR_Extensions);
-      RT_CHECK(ctx, stat, 0, "pCCPCH-LCR-Extensions", -1, 0);
-   }
-   /* sCCPCH-LCR-ExtensionsList */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_SCCPCH_SystemInformationList_LCR_r4_ext(ctx, &pvalue->sCCPCH_LCR_ExtensionsList);
-      RT_CHECK(ctx, stat, 0, "sCCPCH-LCR-ExtensionsList", -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 604799999);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "GPS-TOW-1msec");
+   return 0;
+}
+
+int asn1PE_UMTS_GPS_TOW_1msec(rtxContext* RT_RESTRICT ctx, GPS_TOW_1msec value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GPS_TOW_1msec, value);
+}
+
+RT_MERGED_BODY int enc_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* primaryCPICH-Info */
+   stat = enc_PrimaryCPICH_Info(ctx, &pvalue->primaryCPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primaryCPICH-Info", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* cellAndChannelIdentity */
+   stat = enc_CellAndChannelIdentity(ctx, &pvalue->cellAndChannelIdentity, cur);
+   RT_CHECK(ctx, stat, 0, "cellAndChannelIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType6_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType6_v4b0ext_IEs* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType6-v4b0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType6-v4b0ext-IEs");
-   /* openLoopPowerControl-IPDL-TDD */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_OpenLoopPowerControl_IPDL_TDD_r4(ctx, &pvalue->openLoopPowerControl_IPDL_TDD);
-      RT_CHECK(ctx, stat, 0, "openLoopPowerControl-IPDL-TDD", -1, "SysInfoType6-v4b0ext-IEs");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* sfn */
+   if ((uint64_t)pvalue->sfn > 4095u) {
+      rtxErrAddStrParm(ctx, "sfn");
+      rtxErrAddUIntParm(ctx, pvalue->sfn);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "sfn", -1, 0);
    }
-   /* prach-SystemInformationList-LCR-r4 */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_PRACH_SystemInformationList_LCR_r4(ctx, &pvalue->prach_SystemInformationList_LCR_r4);
-      RT_CHECK(ctx, stat, 0, "prach-SystemInformationList-LCR-r4", -1, "SysInfoType6-v4b0ext-IEs");
-   }
-   /* tdd128SpecificInfo */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_SysInfoType6_v4b0ext_IEs_tdd128SpecificInfo(ctx, &pvalue->tdd128SpecificInfo);
-      RT_CHECK(ctx, stat, 0, "tdd128SpecificInfo", -1, "SysInfoType6-v4b0ext-IEs");
-   }
-   /* frequencyBandIndicator */
-   if (pvalue->m & 0x8u) {
-      if (pvalue->frequencyBandIndicator > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->frequencyBandIndicator);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandFDD", "frequencyBandIndicator", -1, "SysInfoType6-v4b0ext-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->frequencyBandIndicator, 0, 7);
-      RT_CHECK(ctx, stat, "RadioFrequencyBandFDD", "frequencyBandIndicator", -1, "SysInfoType6-v4b0ext-IEs");
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->sfn, 0, 4095);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sfn", -1, 0);
+   /* modeSpecificInfo */
+   stat = enc_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_Positioning_PositionEstimateInfo_referenceTime(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_referenceTime* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.utran_GPSReferenceTimeResult == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "utran-GPSReferenceTimeResult", -1, 0);
+         stat = enc_UTRAN_GPSReferenceTimeResult(ctx, pvalue->u.utran_GPSReferenceTimeResult, cur);
+         RT_CHECK(ctx, stat, 0, "utran-GPSReferenceTimeResult", -1, 0);
+         break;
+      case 2:
+         if ((uint64_t)pvalue->u.gps_ReferenceTimeOnly > 604799999u) {
+            rtxErrAddStrParm(ctx, "GPS-TOW-1msec");
+            rtxErrAddUIntParm(ctx, pvalue->u.gps_ReferenceTimeOnly);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "GPS-TOW-1msec", "gps-ReferenceTimeOnly", -1, 0);
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.gps_ReferenceTimeOnly, 0, 604799999);
+         RT_CHECK_PUT(ctx, cur, stat, "GPS-TOW-1msec", "gps-ReferenceTimeOnly", -1, 0);
+         break;
+      case 3:
+         if (pvalue->u.cell_Timing == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "cell-Timing", -1, 0);
+         stat = enc_UE_Positioning_PositionEstimateInfo_referenceTime_cell_Timing(ctx, pvalue->u.cell_Timing, cur);
+         RT_CHECK(ctx, stat, 0, "cell-Timing", -1, 0);
+         break;
+      default:
+         break;
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType6_v590ext_IEs_hcr_r5_SpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType6_v590ext_IEs_hcr_r5_SpecificInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_referenceTime(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_referenceTime* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_PositionEstimateInfo_referenceTime, pvalue);
+}
+
+static int enc_PositionEstimate(rtxContext* RT_RESTRICT ctx, const PositionEstimate* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PositionEstimate");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "PositionEstimate");
+   if (pvalue->t - 1 > 4) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "PositionEstimate");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.ellipsoidPoint == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ellipsoidPoint", -1, "PositionEstimate");
+         stat = enc_EllipsoidPoint(ctx, pvalue->u.ellipsoidPoint, cur);
+         RT_CHECK(ctx, stat, 0, "ellipsoidPoint", -1, "PositionEstimate");
+         break;
+      case 2:
+         if (pvalue->u.ellipsoidPointUncertCircle == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ellipsoidPointUncertCircle", -1, "PositionEstimate");
+         stat = enc_EllipsoidPointUncertCircle(ctx, pvalue->u.ellipsoidPointUncertCircle, cur);
+         RT_CHECK(ctx, stat, 0, "ellipsoidPointUncertCircle", -1, "PositionEstimate");
+         break;
+      case 3:
+         if (pvalue->u.ellipsoidPointUncertEllipse == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ellipsoidPointUncertEllipse", -1, "PositionEstimate");
+         stat = enc_EllipsoidPointUncertEllipse(ctx, pvalue->u.ellipsoidPointUncertEllipse, cur);
+         RT_CHECK(ctx, stat, 0, "ellipsoidPointUncertEllipse", -1, "PositionEstimate");
+         break;
+      case 4:
+         if (pvalue->u.ellipsoidPointAltitude == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ellipsoidPointAltitude", -1, "PositionEstimate");
+         stat = enc_EllipsoidPointAltitude(ctx, pvalue->u.ellipsoidPointAltitude, cur);
+         RT_CHECK(ctx, stat, 0, "ellipsoidPointAltitude", -1, "PositionEstimate");
+         break;
+      case 5:
+         if (pvalue->u.ellipsoidPointAltitudeEllipse == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ellipsoidPointAltitudeEllipse", -1, "PositionEstimate");
+         stat = enc_EllipsoidPointAltitudeEllipsoide(ctx, pvalue->u.ellipsoidPointAltitudeEllipse, cur);
+         RT_CHECK(ctx, stat, 0, "ellipsoidPointAltitudeEllipse", -1, "PositionEstimate");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PositionEstimate(rtxContext* RT_RESTRICT ctx, const PositionEstimate* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PositionEstimate, pvalue);
+}
+
+static int enc_UE_Positioning_PositionEstimateInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-PositionEstimateInfo");
+   /* referenceTime */
+   stat = enc_UE_Positioning_PositionEstimateInfo_referenceTime(ctx, &pvalue->referenceTime, cur);
+   RT_CHECK(ctx, stat, 0, "referenceTime", -1, "UE-Positioning-PositionEstimateInfo");
+   /* positionEstimate */
+   stat = enc_PositionEstimate(ctx, &pvalue->positionEstimate, cur);
+   RT_CHECK(ctx, stat, 0, "positionEstimate", -1, "UE-Positioning-PositionEstimateInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_PositionEstimateInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RX_TX_TimeDifferenceType2(rtxContext* RT_RESTRICT ctx, UE_RX_TX_TimeDifferenceType2 value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 8191u) {
+      rtxErrAddStrParm(ctx, "UE-RX-TX-TimeDifferenceType2");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "UE-RX-TX-TimeDifferenceType2");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 8191);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-RX-TX-TimeDifferenceType2");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RX_TX_TimeDifferenceType2(rtxContext* RT_RESTRICT ctx, UE_RX_TX_TimeDifferenceType2 value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RX_TX_TimeDifferenceType2, value);
+}
+
+RT_MERGED_BODY int enc_UE_Positioning_OTDOA_Quality(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_Quality* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-Quality");
+   /* stdResolution */
+   RT_SET_SIZE(ctx, 2, 2);
+   stat = pe_BitString32At(ctx, cur, &pvalue->stdResolution, 2, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "stdResolution", -1, "UE-Positioning-OTDOA-Quality");
+   /* numberOfOTDOA-Measurements */
+   RT_SET_SIZE(ctx, 3, 3);
+   stat = pe_BitString32At(ctx, cur, &pvalue->numberOfOTDOA_Measurements, 3, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "numberOfOTDOA-Measurements", -1, "UE-Positioning-OTDOA-Quality");
+   /* stdOfOTDOA-Measurements */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pe_BitString32At(ctx, cur, &pvalue->stdOfOTDOA_Measurements, 5, 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "stdOfOTDOA-Measurements", -1, "UE-Positioning-OTDOA-Quality");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_Quality(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_Quality* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_OTDOA_Quality, pvalue);
+}
+
+RT_MERGED_BODY int enc_NeighbourQuality(rtxContext* RT_RESTRICT ctx, const NeighbourQuality* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NeighbourQuality");
+   /* ue-Positioning-OTDOA-Quality */
+   stat = enc_UE_Positioning_OTDOA_Quality(ctx, &pvalue->ue_Positioning_OTDOA_Quality, cur);
+   RT_CHECK(ctx, stat, 0, "ue-Positioning-OTDOA-Quality", -1, "NeighbourQuality");
+   return 0;
+}
+
+int asn1PE_UMTS_NeighbourQuality(rtxContext* RT_RESTRICT ctx, const NeighbourQuality* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NeighbourQuality, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_RX_TX_TimeDifferenceType2Info(rtxContext* RT_RESTRICT ctx, const UE_RX_TX_TimeDifferenceType2Info* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-RX-TX-TimeDifferenceType2Info");
+   /* ue-RX-TX-TimeDifferenceType2 */
+   if ((uint64_t)pvalue->ue_RX_TX_TimeDifferenceType2 > 8191u) {
+      rtxErrAddStrParm(ctx, "UE-RX-TX-TimeDifferenceType2");
+      rtxErrAddUIntParm(ctx, pvalue->ue_RX_TX_TimeDifferenceType2);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UE-RX-TX-TimeDifferenceType2", "ue-RX-TX-TimeDifferenceType2", -1, "UE-RX-TX-TimeDifferenceType2Info");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ue_RX_TX_TimeDifferenceType2, 0, 8191);
+   RT_CHECK_PUT(ctx, cur, stat, "UE-RX-TX-TimeDifferenceType2", "ue-RX-TX-TimeDifferenceType2", -1, "UE-RX-TX-TimeDifferenceType2Info");
+   /* neighbourQuality */
+   stat = enc_NeighbourQuality(ctx, &pvalue->neighbourQuality, cur);
+   RT_CHECK(ctx, stat, 0, "neighbourQuality", -1, "UE-RX-TX-TimeDifferenceType2Info");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_RX_TX_TimeDifferenceType2Info(rtxContext* RT_RESTRICT ctx, const UE_RX_TX_TimeDifferenceType2Info* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_RX_TX_TimeDifferenceType2Info, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_Positioning_OTDOA_Measurement_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_Measurement_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* referenceCellIDentity */
+   stat = enc_PrimaryCPICH_Info(ctx, &pvalue->referenceCellIDentity, cur);
+   RT_CHECK(ctx, stat, 0, "referenceCellIDentity", -1, 0);
+   /* ue-RX-TX-TimeDifferenceType2Info */
+   stat = enc_UE_RX_TX_TimeDifferenceType2Info(ctx, &pvalue->ue_RX_TX_TimeDifferenceType2Info, cur);
+   RT_CHECK(ctx, stat, 0, "ue-RX-TX-TimeDifferenceType2Info", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_Measurement_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_Measurement_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_OTDOA_Measurement_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_Positioning_OTDOA_Measurement_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_Measurement_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* referenceCellIdentity */
+   if ((uint64_t)pvalue->referenceCellIdentity > 127u) {
+      rtxErrAddStrParm(ctx, "CellParametersID");
+      rtxErrAddUIntParm(ctx, pvalue->referenceCellIdentity);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellParametersID", "referenceCellIdentity", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->referenceCellIdentity, 0, 127);
+   RT_CHECK_PUT(ctx, cur, stat, "CellParametersID", "referenceCellIdentity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_Measurement_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_Measurement_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_OTDOA_Measurement_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_Positioning_OTDOA_Measurement_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_Measurement_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_UE_Positioning_OTDOA_Measurement_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_UE_Positioning_OTDOA_Measurement_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_OTDOA_Measurement_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_Measurement_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_OTDOA_Measurement_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_Neighbour_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const Neighbour_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-SysInfoList-SFN */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* neighbourIdentity */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PUSCH_SysInfoList_SFN_HCR_r5(ctx, &pvalue->pusch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
+      stat = enc_PrimaryCPICH_Info(ctx, &pvalue->neighbourIdentity, cur);
+      RT_CHECK(ctx, stat, 0, "neighbourIdentity", -1, 0);
    }
-   /* pdsch-SysInfoList-SFN */
+   /* uE-RX-TX-TimeDifferenceType2Info */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_PDSCH_SysInfoList_SFN_HCR_r5(ctx, &pvalue->pdsch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
+      stat = enc_UE_RX_TX_TimeDifferenceType2Info(ctx, &pvalue->uE_RX_TX_TimeDifferenceType2Info, cur);
+      RT_CHECK(ctx, stat, 0, "uE-RX-TX-TimeDifferenceType2Info", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType6_v590ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType6_v590ext_IEs* RT_RESTRICT pvalue)
+int asn1PE_UMTS_Neighbour_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const Neighbour_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Neighbour_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_Neighbour_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const Neighbour_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType6-v590ext-IEs");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType6-v590ext-IEs");
-   /* hcr-r5-SpecificInfo */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* neighbourAndChannelIdentity */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType6_v590ext_IEs_hcr_r5_SpecificInfo(ctx, &pvalue->hcr_r5_SpecificInfo);
-      RT_CHECK(ctx, stat, 0, "hcr-r5-SpecificInfo", -1, "SysInfoType6-v590ext-IEs");
+      stat = enc_CellAndChannelIdentity(ctx, &pvalue->neighbourAndChannelIdentity, cur);
+      RT_CHECK(ctx, stat, 0, "neighbourAndChannelIdentity", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType6_v650ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType6_v650ext_IEs* RT_RESTRICT pvalue)
+int asn1PE_UMTS_Neighbour_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const Neighbour_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Neighbour_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_Neighbour_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const Neighbour_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType6-v650ext-IEs");
-   /* frequencyBandIndicator2 */
-   if (pvalue->frequencyBandIndicator2 > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->frequencyBandIndicator2);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "RadioFrequencyBandFDD2", "frequencyBandIndicator2", -1, "SysInfoType6-v650ext-IEs");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_Neighbour_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_Neighbour_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
    }
-   stat = pe_ConsUInt64(ctx, pvalue->frequencyBandIndicator2, 0, 15);
-   RT_CHECK(ctx, stat, "RadioFrequencyBandFDD2", "frequencyBandIndicator2", -1, "SysInfoType6-v650ext-IEs");
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType6_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType6_v690ext_IEs* RT_RESTRICT pvalue)
+int asn1PE_UMTS_Neighbour_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const Neighbour_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Neighbour_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_Neighbour(rtxContext* RT_RESTRICT ctx, const Neighbour* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType6-v690ext-IEs");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Neighbour");
+   /* modeSpecificInfo */
+   stat = enc_Neighbour_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "Neighbour");
+   /* neighbourQuality */
+   stat = enc_NeighbourQuality(ctx, &pvalue->neighbourQuality, cur);
+   RT_CHECK(ctx, stat, 0, "neighbourQuality", -1, "Neighbour");
+   /* sfn-SFN-ObsTimeDifference2 */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->sfn_SFN_ObsTimeDifference2, 0, 65535);
+   RT_CHECK_PUT(ctx, cur, stat, "SFN-SFN-ObsTimeDifference2", "sfn-SFN-ObsTimeDifference2", -1, "Neighbour");
+   return 0;
+}
+
+int asn1PE_UMTS_Neighbour(rtxContext* RT_RESTRICT ctx, const Neighbour* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Neighbour, pvalue);
+}
+
+RT_MERGED_BODY int enc_NeighbourList(rtxContext* RT_RESTRICT ctx, const NeighbourList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NeighbourList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "NeighbourList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "Neighbour", (int32_t)i, "NeighbourList");
+      stat = enc_Neighbour(ctx, (const Neighbour*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "Neighbour", (int32_t)i, "NeighbourList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NeighbourList(rtxContext* RT_RESTRICT ctx, const NeighbourList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NeighbourList, pvalue);
+}
+
+static int enc_UE_Positioning_OTDOA_Measurement(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_Measurement* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-OTDOA-Measurement");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType6-v690ext-IEs");
-   /* additionalPRACH-TF-and-TFCS-CCCH-List */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-OTDOA-Measurement");
+   /* sfn */
+   if ((uint64_t)pvalue->sfn > 4095u) {
+      rtxErrAddStrParm(ctx, "sfn");
+      rtxErrAddUIntParm(ctx, pvalue->sfn);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "sfn", -1, "UE-Positioning-OTDOA-Measurement");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->sfn, 0, 4095);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sfn", -1, "UE-Positioning-OTDOA-Measurement");
+   /* modeSpecificInfo */
+   stat = enc_UE_Positioning_OTDOA_Measurement_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "UE-Positioning-OTDOA-Measurement");
+   /* neighbourList */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_AdditionalPRACH_TF_and_TFCS_CCCH_List(ctx, &pvalue->additionalPRACH_TF_and_TFCS_CCCH_List);
-      RT_CHECK(ctx, stat, 0, "additionalPRACH-TF-and-TFCS-CCCH-List", -1, "SysInfoType6-v690ext-IEs");
+      stat = enc_NeighbourList(ctx, &pvalue->neighbourList, cur);
+      RT_CHECK(ctx, stat, 0, "neighbourList", -1, "UE-Positioning-OTDOA-Measurement");
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType6_v770ext_IEs_tdd768SpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType6_v770ext_IEs_tdd768SpecificInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UE_Positioning_OTDOA_Measurement(rtxContext* RT_RESTRICT ctx, const UE_Positioning_OTDOA_Measurement* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_OTDOA_Measurement, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_Positioning_GPS_MeasurementResults_referenceTime(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_MeasurementResults_referenceTime* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.utran_GPSReferenceTimeResult == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "utran-GPSReferenceTimeResult", -1, 0);
+         stat = enc_UTRAN_GPSReferenceTimeResult(ctx, pvalue->u.utran_GPSReferenceTimeResult, cur);
+         RT_CHECK(ctx, stat, 0, "utran-GPSReferenceTimeResult", -1, 0);
+         break;
+      case 2:
+         if ((uint64_t)pvalue->u.gps_ReferenceTimeOnly > 604799999u) {
+            rtxErrAddStrParm(ctx, "GPS-TOW-1msec");
+            rtxErrAddUIntParm(ctx, pvalue->u.gps_ReferenceTimeOnly);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "GPS-TOW-1msec", "gps-ReferenceTimeOnly", -1, 0);
+         }
+         stat = pe_ConsUInt64At(ctx, cur, pvalue->u.gps_ReferenceTimeOnly, 0, 604799999);
+         RT_CHECK_PUT(ctx, cur, stat, "GPS-TOW-1msec", "gps-ReferenceTimeOnly", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GPS_MeasurementResults_referenceTime(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_MeasurementResults_referenceTime* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_GPS_MeasurementResults_referenceTime, pvalue);
+}
+
+RT_MERGED_BODY int enc_MultipathIndicator(rtxContext* RT_RESTRICT ctx, MultipathIndicator value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MultipathIndicator");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MultipathIndicator");
+   return 0;
+}
+
+int asn1PE_UMTS_MultipathIndicator(rtxContext* RT_RESTRICT ctx, MultipathIndicator value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_MultipathIndicator, value);
+}
+
+RT_MERGED_BODY int enc_GPS_MeasurementParam(rtxContext* RT_RESTRICT ctx, const GPS_MeasurementParam* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GPS-MeasurementParam");
+   /* satelliteID */
+   if ((uint64_t)pvalue->satelliteID > 63u) {
+      rtxErrAddStrParm(ctx, "satelliteID");
+      rtxErrAddUIntParm(ctx, pvalue->satelliteID);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "satelliteID", -1, "GPS-MeasurementParam");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->satelliteID, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "satelliteID", -1, "GPS-MeasurementParam");
+   /* c-N0 */
+   if ((uint64_t)pvalue->c_N0 > 63u) {
+      rtxErrAddStrParm(ctx, "c-N0");
+      rtxErrAddUIntParm(ctx, pvalue->c_N0);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "c-N0", -1, "GPS-MeasurementParam");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->c_N0, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "c-N0", -1, "GPS-MeasurementParam");
+   /* doppler */
+   if (pvalue->doppler < -32768 || pvalue->doppler > 32768) {
+      rtxErrAddStrParm(ctx, "doppler");
+      rtxErrAddIntParm(ctx, pvalue->doppler);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "doppler", -1, "GPS-MeasurementParam");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->doppler, -32768, 32768);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "doppler", -1, "GPS-MeasurementParam");
+   /* wholeGPS-Chips */
+   if ((uint64_t)pvalue->wholeGPS_Chips > 1022u) {
+      rtxErrAddStrParm(ctx, "wholeGPS-Chips");
+      rtxErrAddUIntParm(ctx, pvalue->wholeGPS_Chips);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "wholeGPS-Chips", -1, "GPS-MeasurementParam");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->wholeGPS_Chips, 0, 1022);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "wholeGPS-Chips", -1, "GPS-MeasurementParam");
+   /* fractionalGPS-Chips */
+   if ((uint64_t)pvalue->fractionalGPS_Chips > 1023u) {
+      rtxErrAddStrParm(ctx, "fractionalGPS-Chips");
+      rtxErrAddUIntParm(ctx, pvalue->fractionalGPS_Chips);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "fractionalGPS-Chips", -1, "GPS-MeasurementParam");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->fractionalGPS_Chips, 0, 1023);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "fractionalGPS-Chips", -1, "GPS-MeasurementParam");
+   /* multipathIndicator */
+   if (pvalue->multipathIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->multipathIndicator);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "MultipathIndicator", "multipathIndicator", -1, "GPS-MeasurementParam");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->multipathIndicator, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, "MultipathIndicator", "multipathIndicator", -1, "GPS-MeasurementParam");
+   /* pseudorangeRMS-Error */
+   if ((uint64_t)pvalue->pseudorangeRMS_Error > 63u) {
+      rtxErrAddStrParm(ctx, "pseudorangeRMS-Error");
+      rtxErrAddUIntParm(ctx, pvalue->pseudorangeRMS_Error);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "pseudorangeRMS-Error", -1, "GPS-MeasurementParam");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->pseudorangeRMS_Error, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "pseudorangeRMS-Error", -1, "GPS-MeasurementParam");
+   return 0;
+}
+
+int asn1PE_UMTS_GPS_MeasurementParam(rtxContext* RT_RESTRICT ctx, const GPS_MeasurementParam* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GPS_MeasurementParam, pvalue);
+}
+
+RT_MERGED_BODY int enc_GPS_MeasurementParamList(rtxContext* RT_RESTRICT ctx, const GPS_MeasurementParamList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GPS-MeasurementParamList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "GPS-MeasurementParamList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "GPS-MeasurementParam", (int32_t)i, "GPS-MeasurementParamList");
+      stat = enc_GPS_MeasurementParam(ctx, (const GPS_MeasurementParam*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "GPS-MeasurementParam", (int32_t)i, "GPS-MeasurementParamList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GPS_MeasurementParamList(rtxContext* RT_RESTRICT ctx, const GPS_MeasurementParamList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GPS_MeasurementParamList, pvalue);
+}
+
+static int enc_UE_Positioning_GPS_MeasurementResults(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_MeasurementResults* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-MeasurementResults");
+   /* referenceTime */
+   stat = enc_UE_Positioning_GPS_MeasurementResults_referenceTime(ctx, &pvalue->referenceTime, cur);
+   RT_CHECK(ctx, stat, 0, "referenceTime", -1, "UE-Positioning-GPS-MeasurementResults");
+   /* gps-MeasurementParamList */
+   stat = enc_GPS_MeasurementParamList(ctx, &pvalue->gps_MeasurementParamList, cur);
+   RT_CHECK(ctx, stat, 0, "gps-MeasurementParamList", -1, "UE-Positioning-GPS-MeasurementResults");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GPS_MeasurementResults(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_MeasurementResults* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_GPS_MeasurementResults, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_Positioning_MeasurementEventResults(rtxContext* RT_RESTRICT ctx, const UE_Positioning_MeasurementEventResults* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-MeasurementEventResults");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "UE-Positioning-MeasurementEventResults");
+   if (pvalue->t - 1 > 3) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UE-Positioning-MeasurementEventResults");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.event7a == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "event7a", -1, "UE-Positioning-MeasurementEventResults");
+         stat = enc_UE_Positioning_PositionEstimateInfo(ctx, pvalue->u.event7a, cur);
+         RT_CHECK(ctx, stat, 0, "event7a", -1, "UE-Positioning-MeasurementEventResults");
+         break;
+      case 2:
+         if (pvalue->u.event7b == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "event7b", -1, "UE-Positioning-MeasurementEventResults");
+         stat = enc_UE_Positioning_OTDOA_Measurement(ctx, pvalue->u.event7b, cur);
+         RT_CHECK(ctx, stat, 0, "event7b", -1, "UE-Positioning-MeasurementEventResults");
+         break;
+      case 3:
+         if (pvalue->u.event7c == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "event7c", -1, "UE-Positioning-MeasurementEventResults");
+         stat = enc_UE_Positioning_GPS_MeasurementResults(ctx, pvalue->u.event7c, cur);
+         RT_CHECK(ctx, stat, 0, "event7c", -1, "UE-Positioning-MeasurementEventResults");
+         break;
+      case 4:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_MeasurementEventResults(rtxContext* RT_RESTRICT ctx, const UE_Positioning_MeasurementEventResults* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_MeasurementEventResults, pvalue);
+}
+
+static int enc_EventResults(rtxContext* RT_RESTRICT ctx, const EventResults* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "EventResults");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "EventResults");
+   if (pvalue->t - 1 > 7) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "EventResults");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.intraFreqEventResults == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "intraFreqEventResults", -1, "EventResults");
+         stat = enc_IntraFreqEventResults(ctx, pvalue->u.intraFreqEventResults, cur);
+         RT_CHECK(ctx, stat, 0, "intraFreqEventResults", -1, "EventResults");
+         break;
+      case 2:
+         if (pvalue->u.interFreqEventResults == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "interFreqEventResults", -1, "EventResults");
+         stat = enc_InterFreqEventResults(ctx, pvalue->u.interFreqEventResults, cur);
+         RT_CHECK(ctx, stat, 0, "interFreqEventResults", -1, "EventResults");
+         break;
+      case 3:
+         if (pvalue->u.interRATEventResults == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "interRATEventResults", -1, "EventResults");
+         stat = enc_InterRATEventResults(ctx, pvalue->u.interRATEventResults, cur);
+         RT_CHECK(ctx, stat, 0, "interRATEventResults", -1, "EventResults");
+         break;
+      case 4:
+         if (pvalue->u.trafficVolumeEventResults == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "trafficVolumeEventResults", -1, "EventResults");
+         stat = enc_TrafficVolumeEventResults(ctx, pvalue->u.trafficVolumeEventResults, cur);
+         RT_CHECK(ctx, stat, 0, "trafficVolumeEventResults", -1, "EventResults");
+         break;
+      case 5:
+         if (pvalue->u.qualityEventResults == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "qualityEventResults", -1, "EventResults");
+         stat = enc_QualityEventResults(ctx, pvalue->u.qualityEventResults, cur);
+         RT_CHECK(ctx, stat, 0, "qualityEventResults", -1, "EventResults");
+         break;
+      case 6:
+         if (pvalue->u.ue_InternalEventResults == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ue-InternalEventResults", -1, "EventResults");
+         stat = enc_UE_InternalEventResults(ctx, pvalue->u.ue_InternalEventResults, cur);
+         RT_CHECK(ctx, stat, 0, "ue-InternalEventResults", -1, "EventResults");
+         break;
+      case 7:
+         if (pvalue->u.ue_positioning_MeasurementEventResults == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ue-positioning-MeasurementEventResults", -1, "EventResults");
+         stat = enc_UE_Positioning_MeasurementEventResults(ctx, pvalue->u.ue_positioning_MeasurementEventResults, cur);
+         RT_CHECK(ctx, stat, 0, "ue-positioning-MeasurementEventResults", -1, "EventResults");
+         break;
+      case 8:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_EventResults(rtxContext* RT_RESTRICT ctx, const EventResults* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EventResults, pvalue);
+}
+
+RT_MERGED_BODY int enc_UTRAN_GANSSReferenceTime_ue_GANSSTimingOfCellFrames(rtxContext* RT_RESTRICT ctx, const UTRAN_GANSSReferenceTime_ue_GANSSTimingOfCellFrames* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ms-Part */
+   if ((uint64_t)pvalue->ms_Part > 80u) {
+      rtxErrAddStrParm(ctx, "ms-Part");
+      rtxErrAddUIntParm(ctx, pvalue->ms_Part);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ms-Part", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ms_Part, 0, 80);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ms-Part", -1, 0);
+   /* ls-Part */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ls_Part, 0, 4294967295ULL);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ls-Part", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UTRAN_GANSSReferenceTime_ue_GANSSTimingOfCellFrames(rtxContext* RT_RESTRICT ctx, const UTRAN_GANSSReferenceTime_ue_GANSSTimingOfCellFrames* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UTRAN_GANSSReferenceTime_ue_GANSSTimingOfCellFrames, pvalue);
+}
+
+RT_MERGED_BODY int enc_UTRAN_GANSSReferenceTime_mode_fdd(rtxContext* RT_RESTRICT ctx, const UTRAN_GANSSReferenceTime_mode_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* primary-CPICH-Info */
+   stat = enc_PrimaryCPICH_Info(ctx, &pvalue->primary_CPICH_Info, cur);
+   RT_CHECK(ctx, stat, 0, "primary-CPICH-Info", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UTRAN_GANSSReferenceTime_mode_fdd(rtxContext* RT_RESTRICT ctx, const UTRAN_GANSSReferenceTime_mode_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UTRAN_GANSSReferenceTime_mode_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_UTRAN_GANSSReferenceTime_mode_tdd(rtxContext* RT_RESTRICT ctx, const UTRAN_GANSSReferenceTime_mode_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* cellParameters */
+   if ((uint64_t)pvalue->cellParameters > 127u) {
+      rtxErrAddStrParm(ctx, "CellParametersID");
+      rtxErrAddUIntParm(ctx, pvalue->cellParameters);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "CellParametersID", "cellParameters", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->cellParameters, 0, 127);
+   RT_CHECK_PUT(ctx, cur, stat, "CellParametersID", "cellParameters", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UTRAN_GANSSReferenceTime_mode_tdd(rtxContext* RT_RESTRICT ctx, const UTRAN_GANSSReferenceTime_mode_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UTRAN_GANSSReferenceTime_mode_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_UTRAN_GANSSReferenceTime_mode(rtxContext* RT_RESTRICT ctx, const UTRAN_GANSSReferenceTime_mode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_UTRAN_GANSSReferenceTime_mode_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_UTRAN_GANSSReferenceTime_mode_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UTRAN_GANSSReferenceTime_mode(rtxContext* RT_RESTRICT ctx, const UTRAN_GANSSReferenceTime_mode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UTRAN_GANSSReferenceTime_mode, pvalue);
+}
+
+static int enc_UTRAN_GANSSReferenceTime(rtxContext* RT_RESTRICT ctx, const UTRAN_GANSSReferenceTime* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UTRAN-GANSSReferenceTime");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UTRAN-GANSSReferenceTime");
+   /* ue-GANSSTimingOfCellFrames */
+   stat = enc_UTRAN_GANSSReferenceTime_ue_GANSSTimingOfCellFrames(ctx, &pvalue->ue_GANSSTimingOfCellFrames, cur);
+   RT_CHECK(ctx, stat, 0, "ue-GANSSTimingOfCellFrames", -1, "UTRAN-GANSSReferenceTime");
+   /* gANSS-TimeId */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->gANSS_TimeId > 7u) {
+         rtxErrAddStrParm(ctx, "gANSS-TimeId");
+         rtxErrAddUIntParm(ctx, pvalue->gANSS_TimeId);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "gANSS-TimeId", -1, "UTRAN-GANSSReferenceTime");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->gANSS_TimeId, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "gANSS-TimeId", -1, "UTRAN-GANSSReferenceTime");
+   }
+   /* gANSS-TimeUncertainty */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->gANSS_TimeUncertainty > 127u) {
+         rtxErrAddStrParm(ctx, "gANSS-TimeUncertainty");
+         rtxErrAddUIntParm(ctx, pvalue->gANSS_TimeUncertainty);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "gANSS-TimeUncertainty", -1, "UTRAN-GANSSReferenceTime");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->gANSS_TimeUncertainty, 0, 127);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "gANSS-TimeUncertainty", -1, "UTRAN-GANSSReferenceTime");
+   }
+   /* mode */
+   stat = enc_UTRAN_GANSSReferenceTime_mode(ctx, &pvalue->mode, cur);
+   RT_CHECK(ctx, stat, 0, "mode", -1, "UTRAN-GANSSReferenceTime");
+   /* referenceSfn */
+   if ((uint64_t)pvalue->referenceSfn > 4095u) {
+      rtxErrAddStrParm(ctx, "referenceSfn");
+      rtxErrAddUIntParm(ctx, pvalue->referenceSfn);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "referenceSfn", -1, "UTRAN-GANSSReferenceTime");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->referenceSfn, 0, 4095);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "referenceSfn", -1, "UTRAN-GANSSReferenceTime");
+   return 0;
+}
+
+int asn1PE_UMTS_UTRAN_GANSSReferenceTime(rtxContext* RT_RESTRICT ctx, const UTRAN_GANSSReferenceTime* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UTRAN_GANSSReferenceTime, pvalue);
+}
+
+RT_MERGED_BODY int enc_GANSSReferenceTimeOnly(rtxContext* RT_RESTRICT ctx, const GANSSReferenceTimeOnly* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GANSSReferenceTimeOnly");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "GANSSReferenceTimeOnly");
+   /* gANSS-tod */
+   if ((uint64_t)pvalue->gANSS_tod > 3599999u) {
+      rtxErrAddStrParm(ctx, "gANSS-tod");
+      rtxErrAddUIntParm(ctx, pvalue->gANSS_tod);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "gANSS-tod", -1, "GANSSReferenceTimeOnly");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->gANSS_tod, 0, 3599999);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "gANSS-tod", -1, "GANSSReferenceTimeOnly");
+   /* gANSS-timeId */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->gANSS_timeId > 7u) {
+         rtxErrAddStrParm(ctx, "gANSS-timeId");
+         rtxErrAddUIntParm(ctx, pvalue->gANSS_timeId);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "gANSS-timeId", -1, "GANSSReferenceTimeOnly");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->gANSS_timeId, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "gANSS-timeId", -1, "GANSSReferenceTimeOnly");
+   }
+   /* gANSS-tod-uncertainty */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->gANSS_tod_uncertainty > 127u) {
+         rtxErrAddStrParm(ctx, "gANSS-tod-uncertainty");
+         rtxErrAddUIntParm(ctx, pvalue->gANSS_tod_uncertainty);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "gANSS-tod-uncertainty", -1, "GANSSReferenceTimeOnly");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->gANSS_tod_uncertainty, 0, 127);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "gANSS-tod-uncertainty", -1, "GANSSReferenceTimeOnly");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSReferenceTimeOnly(rtxContext* RT_RESTRICT ctx, const GANSSReferenceTimeOnly* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSSReferenceTimeOnly, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7_referenceTime(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7_referenceTime* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.utran_GANSSReferenceTimeResult == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "utran-GANSSReferenceTimeResult", -1, 0);
+         stat = enc_UTRAN_GANSSReferenceTime(ctx, pvalue->u.utran_GANSSReferenceTimeResult, cur);
+         RT_CHECK(ctx, stat, 0, "utran-GANSSReferenceTimeResult", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.ganssReferenceTimeOnly == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ganssReferenceTimeOnly", -1, 0);
+         stat = enc_GANSSReferenceTimeOnly(ctx, pvalue->u.ganssReferenceTimeOnly, cur);
+         RT_CHECK(ctx, stat, 0, "ganssReferenceTimeOnly", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7_referenceTime(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7_referenceTime* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7_referenceTime, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* referenceTime */
+   stat = enc_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7_referenceTime(ctx, &pvalue->referenceTime, cur);
+   RT_CHECK(ctx, stat, 0, "referenceTime", -1, 0);
+   /* positionEstimate */
+   stat = enc_PositionEstimate(ctx, &pvalue->positionEstimate, cur);
+   RT_CHECK(ctx, stat, 0, "positionEstimate", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.r7 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "r7", -1, 0);
+         stat = enc_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions_r7(ctx, pvalue->u.r7, cur);
+         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions, pvalue);
+}
+
+RT_MERGED_BODY int enc_HorizontalVelocity(rtxContext* RT_RESTRICT ctx, const HorizontalVelocity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HorizontalVelocity");
+   /* bearing */
+   if ((uint64_t)pvalue->bearing > 359u) {
+      rtxErrAddStrParm(ctx, "bearing");
+      rtxErrAddUIntParm(ctx, pvalue->bearing);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "bearing", -1, "HorizontalVelocity");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->bearing, 0, 359);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "bearing", -1, "HorizontalVelocity");
+   /* horizontalSpeed */
+   if ((uint64_t)pvalue->horizontalSpeed > 2047u) {
+      rtxErrAddStrParm(ctx, "horizontalSpeed");
+      rtxErrAddUIntParm(ctx, pvalue->horizontalSpeed);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "horizontalSpeed", -1, "HorizontalVelocity");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->horizontalSpeed, 0, 2047);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "horizontalSpeed", -1, "HorizontalVelocity");
+   return 0;
+}
+
+int asn1PE_UMTS_HorizontalVelocity(rtxContext* RT_RESTRICT ctx, const HorizontalVelocity* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HorizontalVelocity, pvalue);
+}
+
+RT_MERGED_BODY int enc_HorizontalWithVerticalVelocity_verticalSpeedDirection(rtxContext* RT_RESTRICT ctx, HorizontalWithVerticalVelocity_verticalSpeedDirection value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HorizontalWithVerticalVelocity_verticalSpeedDirection(rtxContext* RT_RESTRICT ctx, HorizontalWithVerticalVelocity_verticalSpeedDirection value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HorizontalWithVerticalVelocity_verticalSpeedDirection, value);
+}
+
+RT_MERGED_BODY int enc_HorizontalWithVerticalVelocity(rtxContext* RT_RESTRICT ctx, const HorizontalWithVerticalVelocity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HorizontalWithVerticalVelocity");
+   /* verticalSpeedDirection */
+   if (pvalue->verticalSpeedDirection > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->verticalSpeedDirection);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "verticalSpeedDirection", -1, "HorizontalWithVerticalVelocity");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->verticalSpeedDirection, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "verticalSpeedDirection", -1, "HorizontalWithVerticalVelocity");
+   /* bearing */
+   if ((uint64_t)pvalue->bearing > 359u) {
+      rtxErrAddStrParm(ctx, "bearing");
+      rtxErrAddUIntParm(ctx, pvalue->bearing);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "bearing", -1, "HorizontalWithVerticalVelocity");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->bearing, 0, 359);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "bearing", -1, "HorizontalWithVerticalVelocity");
+   /* horizontalSpeed */
+   if ((uint64_t)pvalue->horizontalSpeed > 2047u) {
+      rtxErrAddStrParm(ctx, "horizontalSpeed");
+      rtxErrAddUIntParm(ctx, pvalue->horizontalSpeed);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "horizontalSpeed", -1, "HorizontalWithVerticalVelocity");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->horizontalSpeed, 0, 2047);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "horizontalSpeed", -1, "HorizontalWithVerticalVelocity");
+   /* verticalSpeed */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->verticalSpeed, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "verticalSpeed", -1, "HorizontalWithVerticalVelocity");
+   return 0;
+}
+
+int asn1PE_UMTS_HorizontalWithVerticalVelocity(rtxContext* RT_RESTRICT ctx, const HorizontalWithVerticalVelocity* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HorizontalWithVerticalVelocity, pvalue);
+}
+
+RT_MERGED_BODY int enc_HorizontalVelocityWithUncertainty(rtxContext* RT_RESTRICT ctx, const HorizontalVelocityWithUncertainty* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HorizontalVelocityWithUncertainty");
+   /* bearing */
+   if ((uint64_t)pvalue->bearing > 359u) {
+      rtxErrAddStrParm(ctx, "bearing");
+      rtxErrAddUIntParm(ctx, pvalue->bearing);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "bearing", -1, "HorizontalVelocityWithUncertainty");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->bearing, 0, 359);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "bearing", -1, "HorizontalVelocityWithUncertainty");
+   /* horizontalSpeed */
+   if ((uint64_t)pvalue->horizontalSpeed > 2047u) {
+      rtxErrAddStrParm(ctx, "horizontalSpeed");
+      rtxErrAddUIntParm(ctx, pvalue->horizontalSpeed);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "horizontalSpeed", -1, "HorizontalVelocityWithUncertainty");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->horizontalSpeed, 0, 2047);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "horizontalSpeed", -1, "HorizontalVelocityWithUncertainty");
+   /* horizontalSpeedUncertainty */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->horizontalSpeedUncertainty, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "horizontalSpeedUncertainty", -1, "HorizontalVelocityWithUncertainty");
+   return 0;
+}
+
+int asn1PE_UMTS_HorizontalVelocityWithUncertainty(rtxContext* RT_RESTRICT ctx, const HorizontalVelocityWithUncertainty* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HorizontalVelocityWithUncertainty, pvalue);
+}
+
+RT_MERGED_BODY int enc_HorizontalWithVerticalVelocityAndUncertainty_verticalSpeedDirection(rtxContext* RT_RESTRICT ctx, HorizontalWithVerticalVelocityAndUncertainty_verticalSpeedDirection value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_HorizontalWithVerticalVelocityAndUncertainty_verticalSpeedDirection(rtxContext* RT_RESTRICT ctx, HorizontalWithVerticalVelocityAndUncertainty_verticalSpeedDirection value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HorizontalWithVerticalVelocityAndUncertainty_verticalSpeedDirection, value);
+}
+
+RT_MERGED_BODY int enc_HorizontalWithVerticalVelocityAndUncertainty(rtxContext* RT_RESTRICT ctx, const HorizontalWithVerticalVelocityAndUncertainty* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "HorizontalWithVerticalVelocityAndUncertainty");
+   /* verticalSpeedDirection */
+   if (pvalue->verticalSpeedDirection > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->verticalSpeedDirection);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "verticalSpeedDirection", -1, "HorizontalWithVerticalVelocityAndUncertainty");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->verticalSpeedDirection, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "verticalSpeedDirection", -1, "HorizontalWithVerticalVelocityAndUncertainty");
+   /* bearing */
+   if ((uint64_t)pvalue->bearing > 359u) {
+      rtxErrAddStrParm(ctx, "bearing");
+      rtxErrAddUIntParm(ctx, pvalue->bearing);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "bearing", -1, "HorizontalWithVerticalVelocityAndUncertainty");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->bearing, 0, 359);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "bearing", -1, "HorizontalWithVerticalVelocityAndUncertainty");
+   /* horizontalSpeed */
+   if ((uint64_t)pvalue->horizontalSpeed > 2047u) {
+      rtxErrAddStrParm(ctx, "horizontalSpeed");
+      rtxErrAddUIntParm(ctx, pvalue->horizontalSpeed);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "horizontalSpeed", -1, "HorizontalWithVerticalVelocityAndUncertainty");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->horizontalSpeed, 0, 2047);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "horizontalSpeed", -1, "HorizontalWithVerticalVelocityAndUncertainty");
+   /* verticalSpeed */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->verticalSpeed, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "verticalSpeed", -1, "HorizontalWithVerticalVelocityAndUncertainty");
+   /* horizontalUncertaintySpeed */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->horizontalUncertaintySpeed, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "horizontalUncertaintySpeed", -1, "HorizontalWithVerticalVelocityAndUncertainty");
+   /* verticalUncertaintySpeed */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->verticalUncertaintySpeed, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "verticalUncertaintySpeed", -1, "HorizontalWithVerticalVelocityAndUncertainty");
+   return 0;
+}
+
+int asn1PE_UMTS_HorizontalWithVerticalVelocityAndUncertainty(rtxContext* RT_RESTRICT ctx, const HorizontalWithVerticalVelocityAndUncertainty* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_HorizontalWithVerticalVelocityAndUncertainty, pvalue);
+}
+
+RT_MERGED_BODY int enc_VelocityEstimate(rtxContext* RT_RESTRICT ctx, const VelocityEstimate* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "VelocityEstimate");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "VelocityEstimate");
+   if (pvalue->t - 1 > 3) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "VelocityEstimate");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.horizontalVelocity == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "horizontalVelocity", -1, "VelocityEstimate");
+         stat = enc_HorizontalVelocity(ctx, pvalue->u.horizontalVelocity, cur);
+         RT_CHECK(ctx, stat, 0, "horizontalVelocity", -1, "VelocityEstimate");
+         break;
+      case 2:
+         if (pvalue->u.horizontalWithVerticalVelocity == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "horizontalWithVerticalVelocity", -1, "VelocityEstimate");
+         stat = enc_HorizontalWithVerticalVelocity(ctx, pvalue->u.horizontalWithVerticalVelocity, cur);
+         RT_CHECK(ctx, stat, 0, "horizontalWithVerticalVelocity", -1, "VelocityEstimate");
+         break;
+      case 3:
+         if (pvalue->u.horizontalVelocityWithUncertainty == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "horizontalVelocityWithUncertainty", -1, "VelocityEstimate");
+         stat = enc_HorizontalVelocityWithUncertainty(ctx, pvalue->u.horizontalVelocityWithUncertainty, cur);
+         RT_CHECK(ctx, stat, 0, "horizontalVelocityWithUncertainty", -1, "VelocityEstimate");
+         break;
+      case 4:
+         if (pvalue->u.horizontalWithVerticalVelocityAndUncertainty == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "horizontalWithVerticalVelocityAndUncertainty", -1, "VelocityEstimate");
+         stat = enc_HorizontalWithVerticalVelocityAndUncertainty(ctx, pvalue->u.horizontalWithVerticalVelocityAndUncertainty, cur);
+         RT_CHECK(ctx, stat, 0, "horizontalWithVerticalVelocityAndUncertainty", -1, "VelocityEstimate");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_VelocityEstimate(rtxContext* RT_RESTRICT ctx, const VelocityEstimate* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_VelocityEstimate, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_Positioning_GPS_ReferenceTimeUncertainty(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_ReferenceTimeUncertainty value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 127u) {
+      rtxErrAddStrParm(ctx, "UE-Positioning-GPS-ReferenceTimeUncertainty");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "UE-Positioning-GPS-ReferenceTimeUncertainty");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 127);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GPS-ReferenceTimeUncertainty");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GPS_ReferenceTimeUncertainty(rtxContext* RT_RESTRICT ctx, UE_Positioning_GPS_ReferenceTimeUncertainty value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_GPS_ReferenceTimeUncertainty, value);
+}
+
+static int enc_UE_Positioning_PositionEstimateInfo_v770ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-PositionEstimateInfo-v770ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-PositionEstimateInfo-v770ext");
+   /* referenceTimeOptions */
+   stat = enc_UE_Positioning_PositionEstimateInfo_v770ext_referenceTimeOptions(ctx, &pvalue->referenceTimeOptions, cur);
+   RT_CHECK(ctx, stat, 0, "referenceTimeOptions", -1, "UE-Positioning-PositionEstimateInfo-v770ext");
+   /* positionData */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &pvalue->positionData, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "positionData", -1, "UE-Positioning-PositionEstimateInfo-v770ext");
+   /* velocityEstimate */
+   if (pvalue->m & 0x1u) {
+      stat = enc_VelocityEstimate(ctx, &pvalue->velocityEstimate, cur);
+      RT_CHECK(ctx, stat, 0, "velocityEstimate", -1, "UE-Positioning-PositionEstimateInfo-v770ext");
+   }
+   /* ue-Positioning-GPS-ReferenceTimeUncertainty */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty > 127u) {
+         rtxErrAddStrParm(ctx, "UE-Positioning-GPS-ReferenceTimeUncertainty");
+         rtxErrAddUIntParm(ctx, pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-PositionEstimateInfo-v770ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty, 0, 127);
+      RT_CHECK_PUT(ctx, cur, stat, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-PositionEstimateInfo-v770ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_PositionEstimateInfo_v770ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_PositionEstimateInfo_v770ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_PositionEstimateInfo_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_Positioning_GPS_MeasurementResults_v770ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_MeasurementResults_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GPS-MeasurementResults-v770ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GPS-MeasurementResults-v770ext");
+   /* ue-Positioning-GPS-ReferenceTimeUncertainty */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty > 127u) {
+         rtxErrAddStrParm(ctx, "UE-Positioning-GPS-ReferenceTimeUncertainty");
+         rtxErrAddUIntParm(ctx, pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-GPS-MeasurementResults-v770ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ue_Positioning_GPS_ReferenceTimeUncertainty, 0, 127);
+      RT_CHECK_PUT(ctx, cur, stat, "UE-Positioning-GPS-ReferenceTimeUncertainty", "ue-Positioning-GPS-ReferenceTimeUncertainty", -1, "UE-Positioning-GPS-MeasurementResults-v770ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GPS_MeasurementResults_v770ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GPS_MeasurementResults_v770ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_GPS_MeasurementResults_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_Positioning_GANSS_MeasuredResults_referenceTime(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_MeasuredResults_referenceTime* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.utran_GANSSReferenceTimeResult == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "utran-GANSSReferenceTimeResult", -1, 0);
+         stat = enc_UTRAN_GANSSReferenceTime(ctx, pvalue->u.utran_GANSSReferenceTimeResult, cur);
+         RT_CHECK(ctx, stat, 0, "utran-GANSSReferenceTimeResult", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.ganssReferenceTimeOnly == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ganssReferenceTimeOnly", -1, 0);
+         stat = enc_GANSSReferenceTimeOnly(ctx, pvalue->u.ganssReferenceTimeOnly, cur);
+         RT_CHECK(ctx, stat, 0, "ganssReferenceTimeOnly", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_MeasuredResults_referenceTime(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_MeasuredResults_referenceTime* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_GANSS_MeasuredResults_referenceTime, pvalue);
+}
+
+RT_MERGED_BODY int enc_GANSSMeasurementParameters_element_multipathIndicator(rtxContext* RT_RESTRICT ctx, GANSSMeasurementParameters_element_multipathIndicator value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 3) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSMeasurementParameters_element_multipathIndicator(rtxContext* RT_RESTRICT ctx, GANSSMeasurementParameters_element_multipathIndicator value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSSMeasurementParameters_element_multipathIndicator, value);
+}
+
+RT_MERGED_BODY int enc_GANSSMeasurementParameters_element(rtxContext* RT_RESTRICT ctx, const GANSSMeasurementParameters_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-SysInfoList-SFN */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* satId */
+   if ((uint64_t)pvalue->satId > 63u) {
+      rtxErrAddStrParm(ctx, "satId");
+      rtxErrAddUIntParm(ctx, pvalue->satId);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "satId", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->satId, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "satId", -1, 0);
+   /* cSurNzero */
+   if ((uint64_t)pvalue->cSurNzero > 63u) {
+      rtxErrAddStrParm(ctx, "cSurNzero");
+      rtxErrAddUIntParm(ctx, pvalue->cSurNzero);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "cSurNzero", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->cSurNzero, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "cSurNzero", -1, 0);
+   /* multipathIndicator */
+   if (pvalue->multipathIndicator > 3) {
+      rtxErrAddUIntParm(ctx, pvalue->multipathIndicator);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "multipathIndicator", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->multipathIndicator, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "multipathIndicator", -1, 0);
+   /* carrierQualityIndication */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PUSCH_SysInfoList_SFN_VHCR(ctx, &pvalue->pusch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
+      RT_SET_SIZE(ctx, 2, 2);
+      stat = pe_BitString32At(ctx, cur, &pvalue->carrierQualityIndication, 2, 2);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "carrierQualityIndication", -1, 0);
    }
-   /* pdsch-SysInfoList-SFN */
+   /* ganssCodePhase */
+   if ((uint64_t)pvalue->ganssCodePhase > 2097151u) {
+      rtxErrAddStrParm(ctx, "ganssCodePhase");
+      rtxErrAddUIntParm(ctx, pvalue->ganssCodePhase);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ganssCodePhase", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ganssCodePhase, 0, 2097151);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ganssCodePhase", -1, 0);
+   /* ganssIntegerCodePhase */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_PDSCH_SysInfoList_VHCR_r7(ctx, &pvalue->pdsch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
+      if ((uint64_t)pvalue->ganssIntegerCodePhase > 63u) {
+         rtxErrAddStrParm(ctx, "ganssIntegerCodePhase");
+         rtxErrAddUIntParm(ctx, pvalue->ganssIntegerCodePhase);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ganssIntegerCodePhase", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ganssIntegerCodePhase, 0, 63);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "ganssIntegerCodePhase", -1, 0);
    }
-   /* prach-SystemInformationList */
+   /* codePhaseRmsError */
+   if ((uint64_t)pvalue->codePhaseRmsError > 63u) {
+      rtxErrAddStrParm(ctx, "codePhaseRmsError");
+      rtxErrAddUIntParm(ctx, pvalue->codePhaseRmsError);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "codePhaseRmsError", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->codePhaseRmsError, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "codePhaseRmsError", -1, 0);
+   /* doppler */
+   stat = pe_ConsInt64At(ctx, cur, pvalue->doppler, -32768, 32767);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "doppler", -1, 0);
+   /* adr */
    if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_PRACH_SystemInformationList_VHCR_r7(ctx, &pvalue->prach_SystemInformationList);
-      RT_CHECK(ctx, stat, 0, "prach-SystemInformationList", -1, 0);
+      if ((uint64_t)pvalue->adr > 33554431u) {
+         rtxErrAddStrParm(ctx, "adr");
+         rtxErrAddUIntParm(ctx, pvalue->adr);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "adr", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->adr, 0, 33554431);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "adr", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType6_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType6_v770ext_IEs* RT_RESTRICT pvalue)
+int asn1PE_UMTS_GANSSMeasurementParameters_element(rtxContext* RT_RESTRICT ctx, const GANSSMeasurementParameters_element* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSSMeasurementParameters_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_GANSSMeasurementParameters(rtxContext* RT_RESTRICT ctx, const GANSSMeasurementParameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType6-v770ext-IEs");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GANSSMeasurementParameters");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "GANSSMeasurementParameters");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "GANSSMeasurementParameters");
+      stat = enc_GANSSMeasurementParameters_element(ctx, (const GANSSMeasurementParameters_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "GANSSMeasurementParameters");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSMeasurementParameters(rtxContext* RT_RESTRICT ctx, const GANSSMeasurementParameters* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSSMeasurementParameters, pvalue);
+}
+
+RT_MERGED_BODY int enc_GANSSMeasurementSignalList_element(rtxContext* RT_RESTRICT ctx, const GANSSMeasurementSignalList_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType6-v770ext-IEs");
-   /* tdd768SpecificInfo */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ganssSignalId */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType6_v770ext_IEs_tdd768SpecificInfo(ctx, &pvalue->tdd768SpecificInfo);
-      RT_CHECK(ctx, stat, 0, "tdd768SpecificInfo", -1, "SysInfoType6-v770ext-IEs");
+      if ((uint64_t)pvalue->ganssSignalId > 7u) {
+         rtxErrAddStrParm(ctx, "GANSS-Signal-Id");
+         rtxErrAddUIntParm(ctx, pvalue->ganssSignalId);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "GANSS-Signal-Id", "ganssSignalId", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ganssSignalId, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "GANSS-Signal-Id", "ganssSignalId", -1, 0);
    }
-   /* sccpch-SystemInformationList */
+   /* ganssCodePhaseAmbiguity */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_SCCPCH_SystemInformationList_HCR_VHCR_r7(ctx, &pvalue->sccpch_SystemInformationList);
-      RT_CHECK(ctx, stat, 0, "sccpch-SystemInformationList", -1, "SysInfoType6-v770ext-IEs");
+      if ((uint64_t)pvalue->ganssCodePhaseAmbiguity > 31u) {
+         rtxErrAddStrParm(ctx, "ganssCodePhaseAmbiguity");
+         rtxErrAddUIntParm(ctx, pvalue->ganssCodePhaseAmbiguity);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ganssCodePhaseAmbiguity", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ganssCodePhaseAmbiguity, 0, 31);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "ganssCodePhaseAmbiguity", -1, 0);
+   }
+   /* ganssMeasurementParameters */
+   stat = enc_GANSSMeasurementParameters(ctx, &pvalue->ganssMeasurementParameters, cur);
+   RT_CHECK(ctx, stat, 0, "ganssMeasurementParameters", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSMeasurementSignalList_element(rtxContext* RT_RESTRICT ctx, const GANSSMeasurementSignalList_element* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSSMeasurementSignalList_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_GANSSMeasurementSignalList(rtxContext* RT_RESTRICT ctx, const GANSSMeasurementSignalList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GANSSMeasurementSignalList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "GANSSMeasurementSignalList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "GANSSMeasurementSignalList");
+      stat = enc_GANSSMeasurementSignalList_element(ctx, (const GANSSMeasurementSignalList_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "GANSSMeasurementSignalList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PE_UMTS_GANSSMeasurementSignalList(rtxContext* RT_RESTRICT ctx, const GANSSMeasurementSignalList* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_GANSSMeasurementSignalList, pvalue);
 }
 
-int asn1PE_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_GANSSGenericMeasurementInfo_element(rtxContext* RT_RESTRICT ctx, const GANSSGenericMeasurementInfo_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType6-v770ext */
-   stat = asn1PE_UMTS_SysInfoType6_v770ext_IEs(ctx, &pvalue->sysInfoType6_v770ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType6-v770ext", -1, 0);
-   /* nonCriticalExtensions */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ganssId */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+      if ((uint64_t)pvalue->ganssId > 7u) {
+         rtxErrAddStrParm(ctx, "ganssId");
+         rtxErrAddUIntParm(ctx, pvalue->ganssId);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ganssId", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ganssId, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "ganssId", -1, 0);
+   }
+   /* ganssMeasurementSignalList */
+   stat = enc_GANSSMeasurementSignalList(ctx, &pvalue->ganssMeasurementSignalList, cur);
+   RT_CHECK(ctx, stat, 0, "ganssMeasurementSignalList", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSGenericMeasurementInfo_element(rtxContext* RT_RESTRICT ctx, const GANSSGenericMeasurementInfo_element* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSSGenericMeasurementInfo_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_GANSSGenericMeasurementInfo(rtxContext* RT_RESTRICT ctx, const GANSSGenericMeasurementInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GANSSGenericMeasurementInfo");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "GANSSGenericMeasurementInfo");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "GANSSGenericMeasurementInfo");
+      stat = enc_GANSSGenericMeasurementInfo_element(ctx, (const GANSSGenericMeasurementInfo_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "GANSSGenericMeasurementInfo");
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PE_UMTS_GANSSGenericMeasurementInfo(rtxContext* RT_RESTRICT ctx, const GANSSGenericMeasurementInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSSGenericMeasurementInfo, pvalue);
+}
+
+static int enc_UE_Positioning_GANSS_MeasuredResults(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_MeasuredResults* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-MeasuredResults");
+   /* referenceTime */
+   stat = enc_UE_Positioning_GANSS_MeasuredResults_referenceTime(ctx, &pvalue->referenceTime, cur);
+   RT_CHECK(ctx, stat, 0, "referenceTime", -1, "UE-Positioning-GANSS-MeasuredResults");
+   /* ganssGenericMeasurementInfo */
+   stat = enc_GANSSGenericMeasurementInfo(ctx, &pvalue->ganssGenericMeasurementInfo, cur);
+   RT_CHECK(ctx, stat, 0, "ganssGenericMeasurementInfo", -1, "UE-Positioning-GANSS-MeasuredResults");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_MeasuredResults(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_MeasuredResults* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_GANSS_MeasuredResults, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_Positioning_MeasurementEventResults_v770ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_MeasurementEventResults_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-MeasurementEventResults-v770ext");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "UE-Positioning-MeasurementEventResults-v770ext");
+   if (pvalue->t - 1 > 3) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UE-Positioning-MeasurementEventResults-v770ext");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.event7a == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "event7a", -1, "UE-Positioning-MeasurementEventResults-v770ext");
+         stat = enc_UE_Positioning_PositionEstimateInfo_v770ext(ctx, pvalue->u.event7a, cur);
+         RT_CHECK(ctx, stat, 0, "event7a", -1, "UE-Positioning-MeasurementEventResults-v770ext");
+         break;
+      case 2:
+         if (pvalue->u.event7c == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "event7c", -1, "UE-Positioning-MeasurementEventResults-v770ext");
+         stat = enc_UE_Positioning_GPS_MeasurementResults_v770ext(ctx, pvalue->u.event7c, cur);
+         RT_CHECK(ctx, stat, 0, "event7c", -1, "UE-Positioning-MeasurementEventResults-v770ext");
+         break;
+      case 3:
+         if (pvalue->u.event7d == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "event7d", -1, "UE-Positioning-MeasurementEventResults-v770ext");
+         stat = enc_UE_Positioning_GANSS_MeasuredResults(ctx, pvalue->u.event7d, cur);
+         RT_CHECK(ctx, stat, 0, "event7d", -1, "UE-Positioning-MeasurementEventResults-v770ext");
+         break;
+      case 4:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_MeasurementEventResults_v770ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_MeasurementEventResults_v770ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_MeasurementEventResults_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_EventResults_v770ext(rtxContext* RT_RESTRICT ctx, const EventResults_v770ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "EventResults-v770ext");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "EventResults-v770ext");
+   if (pvalue->t - 1 > 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "EventResults-v770ext");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.ue_positioning_MeasurementEventResults == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ue-positioning-MeasurementEventResults", -1, "EventResults-v770ext");
+         stat = enc_UE_Positioning_MeasurementEventResults_v770ext(ctx, pvalue->u.ue_positioning_MeasurementEventResults, cur);
+         RT_CHECK(ctx, stat, 0, "ue-positioning-MeasurementEventResults", -1, "EventResults-v770ext");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_EventResults_v770ext(rtxContext* RT_RESTRICT ctx, const EventResults_v770ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EventResults_v770ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_GANSSMeasurementParameters_v860ext_element(rtxContext* RT_RESTRICT ctx, const GANSSMeasurementParameters_v860ext_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType6-v690ext */
-   stat = asn1PE_UMTS_SysInfoType6_v690ext_IEs(ctx, &pvalue->sysInfoType6_v690ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType6-v690ext", -1, 0);
-   /* v770NonCriticalExtensions */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ganssIntegerCodePhaseExt */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
+      if ((uint64_t)(pvalue->ganssIntegerCodePhaseExt - 64) > 63u) {
+         rtxErrAddStrParm(ctx, "ganssIntegerCodePhaseExt");
+         rtxErrAddUIntParm(ctx, pvalue->ganssIntegerCodePhaseExt);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ganssIntegerCodePhaseExt", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ganssIntegerCodePhaseExt, 64, 127);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "ganssIntegerCodePhaseExt", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PE_UMTS_GANSSMeasurementParameters_v860ext_element(rtxContext* RT_RESTRICT ctx, const GANSSMeasurementParameters_v860ext_element* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSSMeasurementParameters_v860ext_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_GANSSMeasurementParameters_v860ext(rtxContext* RT_RESTRICT ctx, const GANSSMeasurementParameters_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GANSSMeasurementParameters-v860ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "GANSSMeasurementParameters-v860ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "GANSSMeasurementParameters-v860ext");
+      stat = enc_GANSSMeasurementParameters_v860ext_element(ctx, (const GANSSMeasurementParameters_v860ext_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "GANSSMeasurementParameters-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSMeasurementParameters_v860ext(rtxContext* RT_RESTRICT ctx, const GANSSMeasurementParameters_v860ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSSMeasurementParameters_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_GANSSMeasurementSignalList_v860ext_element(rtxContext* RT_RESTRICT ctx, const GANSSMeasurementSignalList_v860ext_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* ganssCodePhaseAmbiguityExt */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->ganssCodePhaseAmbiguityExt - 32) > 95u) {
+         rtxErrAddStrParm(ctx, "ganssCodePhaseAmbiguityExt");
+         rtxErrAddUIntParm(ctx, pvalue->ganssCodePhaseAmbiguityExt);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ganssCodePhaseAmbiguityExt", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ganssCodePhaseAmbiguityExt, 32, 127);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "ganssCodePhaseAmbiguityExt", -1, 0);
+   }
+   /* ganssMeasurementParameters */
+   stat = enc_GANSSMeasurementParameters_v860ext(ctx, &pvalue->ganssMeasurementParameters, cur);
+   RT_CHECK(ctx, stat, 0, "ganssMeasurementParameters", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSMeasurementSignalList_v860ext_element(rtxContext* RT_RESTRICT ctx, const GANSSMeasurementSignalList_v860ext_element* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSSMeasurementSignalList_v860ext_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_GANSSMeasurementSignalList_v860ext(rtxContext* RT_RESTRICT ctx, const GANSSMeasurementSignalList_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GANSSMeasurementSignalList-v860ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "GANSSMeasurementSignalList-v860ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "GANSSMeasurementSignalList-v860ext");
+      stat = enc_GANSSMeasurementSignalList_v860ext_element(ctx, (const GANSSMeasurementSignalList_v860ext_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "GANSSMeasurementSignalList-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSMeasurementSignalList_v860ext(rtxContext* RT_RESTRICT ctx, const GANSSMeasurementSignalList_v860ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSSMeasurementSignalList_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_GANSSGenericMeasurementInfo_v860ext_element(rtxContext* RT_RESTRICT ctx, const GANSSGenericMeasurementInfo_v860ext_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* ganssMeasurementSignalList */
+   stat = enc_GANSSMeasurementSignalList_v860ext(ctx, &pvalue->ganssMeasurementSignalList, cur);
+   RT_CHECK(ctx, stat, 0, "ganssMeasurementSignalList", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSGenericMeasurementInfo_v860ext_element(rtxContext* RT_RESTRICT ctx, const GANSSGenericMeasurementInfo_v860ext_element* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSSGenericMeasurementInfo_v860ext_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_GANSSGenericMeasurementInfo_v860ext(rtxContext* RT_RESTRICT ctx, const GANSSGenericMeasurementInfo_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GANSSGenericMeasurementInfo-v860ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "GANSSGenericMeasurementInfo-v860ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "GANSSGenericMeasurementInfo-v860ext");
+      stat = enc_GANSSGenericMeasurementInfo_v860ext_element(ctx, (const GANSSGenericMeasurementInfo_v860ext_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "GANSSGenericMeasurementInfo-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSGenericMeasurementInfo_v860ext(rtxContext* RT_RESTRICT ctx, const GANSSGenericMeasurementInfo_v860ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSSGenericMeasurementInfo_v860ext, pvalue);
+}
+
+static int enc_UE_Positioning_GANSS_MeasuredResults_v860ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_MeasuredResults_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-MeasuredResults-v860ext");
+   /* ganssGenericMeasurementInfo */
+   stat = enc_GANSSGenericMeasurementInfo_v860ext(ctx, &pvalue->ganssGenericMeasurementInfo, cur);
+   RT_CHECK(ctx, stat, 0, "ganssGenericMeasurementInfo", -1, "UE-Positioning-GANSS-MeasuredResults-v860ext");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_MeasuredResults_v860ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_MeasuredResults_v860ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_GANSS_MeasuredResults_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_Positioning_MeasurementEventResults_v860ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_MeasurementEventResults_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-MeasurementEventResults-v860ext");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "UE-Positioning-MeasurementEventResults-v860ext");
+   if (pvalue->t - 1 > 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UE-Positioning-MeasurementEventResults-v860ext");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.event7d == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "event7d", -1, "UE-Positioning-MeasurementEventResults-v860ext");
+         stat = enc_UE_Positioning_GANSS_MeasuredResults_v860ext(ctx, pvalue->u.event7d, cur);
+         RT_CHECK(ctx, stat, 0, "event7d", -1, "UE-Positioning-MeasurementEventResults-v860ext");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_MeasurementEventResults_v860ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_MeasurementEventResults_v860ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_MeasurementEventResults_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_EventResults_v860ext(rtxContext* RT_RESTRICT ctx, const EventResults_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "EventResults-v860ext");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "EventResults-v860ext");
+   if (pvalue->t - 1 > 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "EventResults-v860ext");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.ue_positioning_MeasurementEventResults == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ue-positioning-MeasurementEventResults", -1, "EventResults-v860ext");
+         stat = enc_UE_Positioning_MeasurementEventResults_v860ext(ctx, pvalue->u.ue_positioning_MeasurementEventResults, cur);
+         RT_CHECK(ctx, stat, 0, "ue-positioning-MeasurementEventResults", -1, "EventResults-v860ext");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_EventResults_v860ext(rtxContext* RT_RESTRICT ctx, const EventResults_v860ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EventResults_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFreqEventResultsOnSecUlFreq(rtxContext* RT_RESTRICT ctx, const IntraFreqEventResultsOnSecUlFreq* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventResultsOnSecUlFreq");
+   /* eventID */
+   if (pvalue->eventID > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->eventID);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "EventIDIntraFreq", "eventID", -1, "IntraFreqEventResultsOnSecUlFreq");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->eventID, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "EventIDIntraFreq", "eventID", -1, "IntraFreqEventResultsOnSecUlFreq");
+   /* cellMeasurementEventResultsOnSecUlFreq */
+   stat = enc_CellMeasurementEventResultsOnSecUlFreq(ctx, &pvalue->cellMeasurementEventResultsOnSecUlFreq, cur);
+   RT_CHECK(ctx, stat, 0, "cellMeasurementEventResultsOnSecUlFreq", -1, "IntraFreqEventResultsOnSecUlFreq");
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqEventResultsOnSecUlFreq(rtxContext* RT_RESTRICT ctx, const IntraFreqEventResultsOnSecUlFreq* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqEventResultsOnSecUlFreq, pvalue);
+}
+
+RT_MERGED_BODY int enc_EventResultsOnSecUlFreq(rtxContext* RT_RESTRICT ctx, const EventResultsOnSecUlFreq* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "EventResultsOnSecUlFreq");
+   /* intraFreqEventResults */
+   stat = enc_IntraFreqEventResultsOnSecUlFreq(ctx, &pvalue->intraFreqEventResults, cur);
+   RT_CHECK(ctx, stat, 0, "intraFreqEventResults", -1, "EventResultsOnSecUlFreq");
+   return 0;
+}
+
+int asn1PE_UMTS_EventResultsOnSecUlFreq(rtxContext* RT_RESTRICT ctx, const EventResultsOnSecUlFreq* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_EventResultsOnSecUlFreq, pvalue);
+}
+
+RT_MERGED_BODY int enc_ExtraDoppler_dopplerUncertainty(rtxContext* RT_RESTRICT ctx, ExtraDoppler_dopplerUncertainty value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_ExtraDoppler_dopplerUncertainty(rtxContext* RT_RESTRICT ctx, ExtraDoppler_dopplerUncertainty value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ExtraDoppler_dopplerUncertainty, value);
+}
+
+RT_MERGED_BODY int enc_ExtraDoppler(rtxContext* RT_RESTRICT ctx, const ExtraDoppler* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ExtraDoppler");
+   /* dopplerFirstOrder */
+   if (pvalue->dopplerFirstOrder < -42 || pvalue->dopplerFirstOrder > 21) {
+      rtxErrAddStrParm(ctx, "dopplerFirstOrder");
+      rtxErrAddIntParm(ctx, pvalue->dopplerFirstOrder);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "dopplerFirstOrder", -1, "ExtraDoppler");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->dopplerFirstOrder, -42, 21);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "dopplerFirstOrder", -1, "ExtraDoppler");
+   /* dopplerUncertainty */
+   if (pvalue->dopplerUncertainty > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->dopplerUncertainty);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "dopplerUncertainty", -1, "ExtraDoppler");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dopplerUncertainty, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "dopplerUncertainty", -1, "ExtraDoppler");
+   return 0;
+}
+
+int asn1PE_UMTS_ExtraDoppler(rtxContext* RT_RESTRICT ctx, const ExtraDoppler* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ExtraDoppler, pvalue);
+}
+
+RT_MERGED_BODY int enc_FineSFN_SFN(rtxContext* RT_RESTRICT ctx, FineSFN_SFN value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 15u) {
+      rtxErrAddStrParm(ctx, "FineSFN-SFN");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "FineSFN-SFN");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "FineSFN-SFN");
+   return 0;
+}
+
+int asn1PE_UMTS_FineSFN_SFN(rtxContext* RT_RESTRICT ctx, FineSFN_SFN value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_FineSFN_SFN, value);
+}
+
+RT_MERGED_BODY int enc_FreqQualityEstimateQuantity_FDD(rtxContext* RT_RESTRICT ctx, FreqQualityEstimateQuantity_FDD value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "FreqQualityEstimateQuantity-FDD");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "FreqQualityEstimateQuantity-FDD");
+   return 0;
+}
+
+int asn1PE_UMTS_FreqQualityEstimateQuantity_FDD(rtxContext* RT_RESTRICT ctx, FreqQualityEstimateQuantity_FDD value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_FreqQualityEstimateQuantity_FDD, value);
+}
+
+RT_MERGED_BODY int enc_FreqQualityEstimateQuantity_TDD(rtxContext* RT_RESTRICT ctx, FreqQualityEstimateQuantity_TDD value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "FreqQualityEstimateQuantity-TDD");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "FreqQualityEstimateQuantity-TDD");
+   return 0;
+}
+
+int asn1PE_UMTS_FreqQualityEstimateQuantity_TDD(rtxContext* RT_RESTRICT ctx, FreqQualityEstimateQuantity_TDD value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_FreqQualityEstimateQuantity_TDD, value);
+}
+
+RT_MERGED_BODY int enc_ReqDataBitAssistance_ganssSatelliteInfo_element(rtxContext* RT_RESTRICT ctx, ReqDataBitAssistance_ganssSatelliteInfo_element value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 63u) {
+      rtxErrAddStrParm(ctx, 0);
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_ReqDataBitAssistance_ganssSatelliteInfo_element(rtxContext* RT_RESTRICT ctx, ReqDataBitAssistance_ganssSatelliteInfo_element value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ReqDataBitAssistance_ganssSatelliteInfo_element, value);
+}
+
+RT_MERGED_BODY int enc_ReqDataBitAssistance_ganssSatelliteInfo(rtxContext* RT_RESTRICT ctx, const ReqDataBitAssistance_ganssSatelliteInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 63u) {
+         rtxErrAddStrParm(ctx, "element");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "element", (int32_t)i, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 63);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "element", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ReqDataBitAssistance_ganssSatelliteInfo(rtxContext* RT_RESTRICT ctx, const ReqDataBitAssistance_ganssSatelliteInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ReqDataBitAssistance_ganssSatelliteInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_ReqDataBitAssistance(rtxContext* RT_RESTRICT ctx, const ReqDataBitAssistance* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ReqDataBitAssistance");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ReqDataBitAssistance");
+   /* ganssSignalID */
+   stat = enc_DGANSS_Sig_Id_Req(ctx, pvalue->ganssSignalID, cur);
+   RT_CHECK(ctx, stat, 0, "ganssSignalID", -1, "ReqDataBitAssistance");
+   /* ganssDataBitInterval */
+   if ((uint64_t)pvalue->ganssDataBitInterval > 15u) {
+      rtxErrAddStrParm(ctx, "ganssDataBitInterval");
+      rtxErrAddUIntParm(ctx, pvalue->ganssDataBitInterval);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ganssDataBitInterval", -1, "ReqDataBitAssistance");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ganssDataBitInterval, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ganssDataBitInterval", -1, "ReqDataBitAssistance");
+   /* ganssSatelliteInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ReqDataBitAssistance_ganssSatelliteInfo(ctx, &pvalue->ganssSatelliteInfo, cur);
+      RT_CHECK(ctx, stat, 0, "ganssSatelliteInfo", -1, "ReqDataBitAssistance");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ReqDataBitAssistance(rtxContext* RT_RESTRICT ctx, const ReqDataBitAssistance* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ReqDataBitAssistance, pvalue);
+}
+
+RT_MERGED_BODY int enc_GanssDataBits(rtxContext* RT_RESTRICT ctx, const GanssDataBits* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GanssDataBits");
+   /* ganssTod */
+   if ((uint64_t)pvalue->ganssTod > 86399u) {
+      rtxErrAddStrParm(ctx, "ganssTod");
+      rtxErrAddUIntParm(ctx, pvalue->ganssTod);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ganssTod", -1, "GanssDataBits");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ganssTod, 0, 86399);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ganssTod", -1, "GanssDataBits");
+   /* dataBitAssistance */
+   stat = enc_ReqDataBitAssistance(ctx, &pvalue->dataBitAssistance, cur);
+   RT_CHECK(ctx, stat, 0, "dataBitAssistance", -1, "GanssDataBits");
+   return 0;
+}
+
+int asn1PE_UMTS_GanssDataBits(rtxContext* RT_RESTRICT ctx, const GanssDataBits* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GanssDataBits, pvalue);
+}
+
+RT_MERGED_BODY int enc_GANSSDecipheringKeys_currentDecipheringKey(rtxContext* RT_RESTRICT ctx, const GANSSDecipheringKeys_currentDecipheringKey* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 56, 56);
+   stat = pe_BitStringAt(ctx, cur, pvalue->numbits, pvalue->data);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSDecipheringKeys_currentDecipheringKey(rtxContext* RT_RESTRICT ctx, const GANSSDecipheringKeys_currentDecipheringKey* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSSDecipheringKeys_currentDecipheringKey, pvalue);
+}
+
+RT_MERGED_BODY int enc_GANSSDecipheringKeys_nextDecipheringKey(rtxContext* RT_RESTRICT ctx, const GANSSDecipheringKeys_nextDecipheringKey* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 56, 56);
+   stat = pe_BitStringAt(ctx, cur, pvalue->numbits, pvalue->data);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSDecipheringKeys_nextDecipheringKey(rtxContext* RT_RESTRICT ctx, const GANSSDecipheringKeys_nextDecipheringKey* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSSDecipheringKeys_nextDecipheringKey, pvalue);
+}
+
+RT_MERGED_BODY int enc_GANSSDecipheringKeys(rtxContext* RT_RESTRICT ctx, const GANSSDecipheringKeys* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GANSSDecipheringKeys");
+   /* currentDecipheringKey */
+   stat = enc_GANSSDecipheringKeys_currentDecipheringKey(ctx, &pvalue->currentDecipheringKey, cur);
+   RT_CHECK(ctx, stat, 0, "currentDecipheringKey", -1, "GANSSDecipheringKeys");
+   /* nextDecipheringKey */
+   stat = enc_GANSSDecipheringKeys_nextDecipheringKey(ctx, &pvalue->nextDecipheringKey, cur);
+   RT_CHECK(ctx, stat, 0, "nextDecipheringKey", -1, "GANSSDecipheringKeys");
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSDecipheringKeys(rtxContext* RT_RESTRICT ctx, const GANSSDecipheringKeys* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSSDecipheringKeys, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_Positioning_GANSS_TimeModel_gnss_to_id(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_TimeModel_gnss_to_id value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 7) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_TimeModel_gnss_to_id(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_TimeModel_gnss_to_id value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_GANSS_TimeModel_gnss_to_id, value);
+}
+
+RT_MERGED_BODY int enc_UE_Positioning_GANSS_TimeModel(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_TimeModel* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-TimeModel");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GANSS-TimeModel");
+   /* ganss-timeModelreferenceTime */
+   if ((uint64_t)pvalue->ganss_timeModelreferenceTime > 37799u) {
+      rtxErrAddStrParm(ctx, "ganss-timeModelreferenceTime");
+      rtxErrAddUIntParm(ctx, pvalue->ganss_timeModelreferenceTime);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ganss-timeModelreferenceTime", -1, "UE-Positioning-GANSS-TimeModel");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ganss_timeModelreferenceTime, 0, 37799);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ganss-timeModelreferenceTime", -1, "UE-Positioning-GANSS-TimeModel");
+   /* ganss-t-a0 */
+   if (pvalue->ganss_t_a0 < -2147483648LL || pvalue->ganss_t_a0 > 2147483647) {
+      rtxErrAddStrParm(ctx, "ganss-t-a0");
+      rtxErrAddIntParm(ctx, pvalue->ganss_t_a0);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ganss-t-a0", -1, "UE-Positioning-GANSS-TimeModel");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->ganss_t_a0, -2147483648LL, 2147483647);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ganss-t-a0", -1, "UE-Positioning-GANSS-TimeModel");
+   /* ganss-t-a1 */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->ganss_t_a1 < -8388608 || pvalue->ganss_t_a1 > 8388607) {
+         rtxErrAddStrParm(ctx, "ganss-t-a1");
+         rtxErrAddIntParm(ctx, pvalue->ganss_t_a1);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ganss-t-a1", -1, "UE-Positioning-GANSS-TimeModel");
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->ganss_t_a1, -8388608, 8388607);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "ganss-t-a1", -1, "UE-Positioning-GANSS-TimeModel");
+   }
+   /* ganss-t-a2 */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->ganss_t_a2 < -64 || pvalue->ganss_t_a2 > 63) {
+         rtxErrAddStrParm(ctx, "ganss-t-a2");
+         rtxErrAddIntParm(ctx, pvalue->ganss_t_a2);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ganss-t-a2", -1, "UE-Positioning-GANSS-TimeModel");
+      }
+      stat = pe_ConsInt64At(ctx, cur, pvalue->ganss_t_a2, -64, 63);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "ganss-t-a2", -1, "UE-Positioning-GANSS-TimeModel");
+   }
+   /* gnss-to-id */
+   if (pvalue->gnss_to_id > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->gnss_to_id);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "gnss-to-id", -1, "UE-Positioning-GANSS-TimeModel");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->gnss_to_id, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "gnss-to-id", -1, "UE-Positioning-GANSS-TimeModel");
+   /* ganss-wk-number */
+   if (pvalue->m & 0x4u) {
+      if ((uint64_t)pvalue->ganss_wk_number > 8191u) {
+         rtxErrAddStrParm(ctx, "ganss-wk-number");
+         rtxErrAddUIntParm(ctx, pvalue->ganss_wk_number);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ganss-wk-number", -1, "UE-Positioning-GANSS-TimeModel");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ganss_wk_number, 0, 8191);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "ganss-wk-number", -1, "UE-Positioning-GANSS-TimeModel");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_TimeModel(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_TimeModel* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_GANSS_TimeModel, pvalue);
+}
+
+RT_MERGED_BODY int enc_GANSSTimeModelsList(rtxContext* RT_RESTRICT ctx, const GANSSTimeModelsList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GANSSTimeModelsList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 7);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "GANSSTimeModelsList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "UE-Positioning-GANSS-TimeModel", (int32_t)i, "GANSSTimeModelsList");
+      stat = enc_UE_Positioning_GANSS_TimeModel(ctx, (const UE_Positioning_GANSS_TimeModel*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "UE-Positioning-GANSS-TimeModel", (int32_t)i, "GANSSTimeModelsList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSTimeModelsList(rtxContext* RT_RESTRICT ctx, const GANSSTimeModelsList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSSTimeModelsList, pvalue);
+}
+
+static int enc_UE_Positioning_DGANSSCorrections(rtxContext* RT_RESTRICT ctx, const UE_Positioning_DGANSSCorrections* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-DGANSSCorrections");
+   /* dganssreferencetime */
+   if ((uint64_t)pvalue->dganssreferencetime > 119u) {
+      rtxErrAddStrParm(ctx, "dganssreferencetime");
+      rtxErrAddUIntParm(ctx, pvalue->dganssreferencetime);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "dganssreferencetime", -1, "UE-Positioning-DGANSSCorrections");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dganssreferencetime, 0, 119);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "dganssreferencetime", -1, "UE-Positioning-DGANSSCorrections");
+   /* dganssInfoList */
+   stat = enc_DGANSSInfoList(ctx, &pvalue->dganssInfoList, cur);
+   RT_CHECK(ctx, stat, 0, "dganssInfoList", -1, "UE-Positioning-DGANSSCorrections");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_DGANSSCorrections(rtxContext* RT_RESTRICT ctx, const UE_Positioning_DGANSSCorrections* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_DGANSSCorrections, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_Positioning_GANSS_NavigationModel_non_broadcastIndication(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_NavigationModel_non_broadcastIndication value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_NavigationModel_non_broadcastIndication(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_NavigationModel_non_broadcastIndication value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_GANSS_NavigationModel_non_broadcastIndication, value);
+}
+
+RT_MERGED_BODY int enc_Satellite_clock_model(rtxContext* RT_RESTRICT ctx, const Satellite_clock_model* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Satellite-clock-model");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType6-v650ext */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Satellite-clock-model");
+   /* t-oc */
+   RT_SET_SIZE(ctx, 14, 14);
+   stat = pe_BitString32At(ctx, cur, &pvalue->t_oc, 14, 14);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t-oc", -1, "Satellite-clock-model");
+   /* af2 */
+   RT_SET_SIZE(ctx, 12, 12);
+   stat = pe_BitString32At(ctx, cur, &pvalue->af2, 12, 12);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "af2", -1, "Satellite-clock-model");
+   /* af1 */
+   RT_SET_SIZE(ctx, 18, 18);
+   stat = pe_BitString32At(ctx, cur, &pvalue->af1, 18, 18);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "af1", -1, "Satellite-clock-model");
+   /* af0 */
+   RT_SET_SIZE(ctx, 28, 28);
+   stat = pe_BitString32At(ctx, cur, &pvalue->af0, 28, 28);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "af0", -1, "Satellite-clock-model");
+   /* tgd */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType6_v650ext_IEs(ctx, &pvalue->sysInfoType6_v650ext);
-      RT_CHECK(ctx, stat, 0, "sysInfoType6-v650ext", -1, 0);
+      RT_SET_SIZE(ctx, 10, 10);
+      stat = pe_BitString32At(ctx, cur, &pvalue->tgd, 10, 10);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "tgd", -1, "Satellite-clock-model");
    }
-   /* v690nonCriticalExtensions */
+   /* model-id */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions_v690nonCriticalExtensions(ctx, &pvalue->v690nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690nonCriticalExtensions", -1, 0);
+      if ((uint64_t)pvalue->model_id > 1u) {
+         rtxErrAddStrParm(ctx, "model-id");
+         rtxErrAddUIntParm(ctx, pvalue->model_id);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "model-id", -1, "Satellite-clock-model");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->model_id, 0, 1);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "model-id", -1, "Satellite-clock-model");
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PE_UMTS_Satellite_clock_model(rtxContext* RT_RESTRICT ctx, const Satellite_clock_model* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Satellite_clock_model, pvalue);
+}
+
+RT_MERGED_BODY int enc_Satellite_clock_modelList(rtxContext* RT_RESTRICT ctx, const Satellite_clock_modelList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Satellite-clock-modelList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 4);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "Satellite-clock-modelList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "Satellite-clock-model", (int32_t)i, "Satellite-clock-modelList");
+      stat = enc_Satellite_clock_model(ctx, (const Satellite_clock_model*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "Satellite-clock-model", (int32_t)i, "Satellite-clock-modelList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Satellite_clock_modelList(rtxContext* RT_RESTRICT ctx, const Satellite_clock_modelList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Satellite_clock_modelList, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_Positioning_GANSS_ClockModel(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_ClockModel* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-ClockModel");
+   /* satellite-clock-modelList */
+   stat = enc_Satellite_clock_modelList(ctx, &pvalue->satellite_clock_modelList, cur);
+   RT_CHECK(ctx, stat, 0, "satellite-clock-modelList", -1, "UE-Positioning-GANSS-ClockModel");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_ClockModel(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_ClockModel* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_GANSS_ClockModel, pvalue);
+}
+
+RT_MERGED_BODY int enc_KeplerianParameters(rtxContext* RT_RESTRICT ctx, const KeplerianParameters* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "KeplerianParameters");
+   /* toe-nav */
+   RT_SET_SIZE(ctx, 14, 14);
+   stat = pe_BitString32At(ctx, cur, &pvalue->toe_nav, 14, 14);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "toe-nav", -1, "KeplerianParameters");
+   /* ganss-omega-nav */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32At(ctx, cur, &pvalue->ganss_omega_nav, 32, 32);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ganss-omega-nav", -1, "KeplerianParameters");
+   /* delta-n-nav */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &pvalue->delta_n_nav, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "delta-n-nav", -1, "KeplerianParameters");
+   /* m-zero-nav */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32At(ctx, cur, &pvalue->m_zero_nav, 32, 32);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "m-zero-nav", -1, "KeplerianParameters");
+   /* omegadot-nav */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pe_BitString32At(ctx, cur, &pvalue->omegadot_nav, 24, 24);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "omegadot-nav", -1, "KeplerianParameters");
+   /* ganss-e-nav */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32At(ctx, cur, &pvalue->ganss_e_nav, 32, 32);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ganss-e-nav", -1, "KeplerianParameters");
+   /* idot-nav */
+   RT_SET_SIZE(ctx, 14, 14);
+   stat = pe_BitString32At(ctx, cur, &pvalue->idot_nav, 14, 14);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "idot-nav", -1, "KeplerianParameters");
+   /* a-sqrt-nav */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32At(ctx, cur, &pvalue->a_sqrt_nav, 32, 32);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "a-sqrt-nav", -1, "KeplerianParameters");
+   /* i-zero-nav */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32At(ctx, cur, &pvalue->i_zero_nav, 32, 32);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "i-zero-nav", -1, "KeplerianParameters");
+   /* omega-zero-nav */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32At(ctx, cur, &pvalue->omega_zero_nav, 32, 32);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "omega-zero-nav", -1, "KeplerianParameters");
+   /* c-rs-nav */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &pvalue->c_rs_nav, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "c-rs-nav", -1, "KeplerianParameters");
+   /* c-is-nav */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &pvalue->c_is_nav, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "c-is-nav", -1, "KeplerianParameters");
+   /* c-us-nav */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &pvalue->c_us_nav, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "c-us-nav", -1, "KeplerianParameters");
+   /* c-rc-nav */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &pvalue->c_rc_nav, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "c-rc-nav", -1, "KeplerianParameters");
+   /* c-ic-nav */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &pvalue->c_ic_nav, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "c-ic-nav", -1, "KeplerianParameters");
+   /* c-uc-nav */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &pvalue->c_uc_nav, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "c-uc-nav", -1, "KeplerianParameters");
+   return 0;
+}
+
+int asn1PE_UMTS_KeplerianParameters(rtxContext* RT_RESTRICT ctx, const KeplerianParameters* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_KeplerianParameters, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_Positioning_GANSS_OrbitModel(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_OrbitModel* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-OrbitModel");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GANSS-OrbitModel");
+   /* keplerianParameters */
+   if (pvalue->m & 0x1u) {
+      stat = enc_KeplerianParameters(ctx, &pvalue->keplerianParameters, cur);
+      RT_CHECK(ctx, stat, 0, "keplerianParameters", -1, "UE-Positioning-GANSS-OrbitModel");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_OrbitModel(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_OrbitModel* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_GANSS_OrbitModel, pvalue);
+}
+
+static int enc_Ganss_Sat_Info_Nav(rtxContext* RT_RESTRICT ctx, const Ganss_Sat_Info_Nav* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Ganss-Sat-Info-Nav");
+   /* satId */
+   if ((uint64_t)pvalue->satId > 63u) {
+      rtxErrAddStrParm(ctx, "satId");
+      rtxErrAddUIntParm(ctx, pvalue->satId);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "satId", -1, "Ganss-Sat-Info-Nav");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->satId, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "satId", -1, "Ganss-Sat-Info-Nav");
+   /* svHealth */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pe_BitString32At(ctx, cur, &pvalue->svHealth, 5, 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "svHealth", -1, "Ganss-Sat-Info-Nav");
+   /* iod */
+   RT_SET_SIZE(ctx, 10, 10);
+   stat = pe_BitString32At(ctx, cur, &pvalue->iod, 10, 10);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "iod", -1, "Ganss-Sat-Info-Nav");
+   /* ganssClockModel */
+   stat = enc_UE_Positioning_GANSS_ClockModel(ctx, &pvalue->ganssClockModel, cur);
+   RT_CHECK(ctx, stat, 0, "ganssClockModel", -1, "Ganss-Sat-Info-Nav");
+   /* ganssOrbitModel */
+   stat = enc_UE_Positioning_GANSS_OrbitModel(ctx, &pvalue->ganssOrbitModel, cur);
+   RT_CHECK(ctx, stat, 0, "ganssOrbitModel", -1, "Ganss-Sat-Info-Nav");
+   return 0;
+}
+
+int asn1PE_UMTS_Ganss_Sat_Info_Nav(rtxContext* RT_RESTRICT ctx, const Ganss_Sat_Info_Nav* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Ganss_Sat_Info_Nav, pvalue);
+}
+
+RT_MERGED_BODY int enc_Ganss_Sat_Info_NavList(rtxContext* RT_RESTRICT ctx, const Ganss_Sat_Info_NavList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Ganss-Sat-Info-NavList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "Ganss-Sat-Info-NavList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "Ganss-Sat-Info-Nav", (int32_t)i, "Ganss-Sat-Info-NavList");
+      stat = enc_Ganss_Sat_Info_Nav(ctx, (const Ganss_Sat_Info_Nav*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "Ganss-Sat-Info-Nav", (int32_t)i, "Ganss-Sat-Info-NavList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Ganss_Sat_Info_NavList(rtxContext* RT_RESTRICT ctx, const Ganss_Sat_Info_NavList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Ganss_Sat_Info_NavList, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_Positioning_GANSS_NavigationModel(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_NavigationModel* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-NavigationModel");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GANSS-NavigationModel");
+   /* non-broadcastIndication */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->non_broadcastIndication > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->non_broadcastIndication);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "non-broadcastIndication", -1, "UE-Positioning-GANSS-NavigationModel");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->non_broadcastIndication, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "non-broadcastIndication", -1, "UE-Positioning-GANSS-NavigationModel");
+   }
+   /* ganssSatInfoNavList */
+   stat = enc_Ganss_Sat_Info_NavList(ctx, &pvalue->ganssSatInfoNavList, cur);
+   RT_CHECK(ctx, stat, 0, "ganssSatInfoNavList", -1, "UE-Positioning-GANSS-NavigationModel");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_NavigationModel(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_NavigationModel* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_GANSS_NavigationModel, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_Positioning_GANSS_RealTimeIntegrity_element(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_RealTimeIntegrity_element* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* bad-ganss-satId */
+   if ((uint64_t)pvalue->bad_ganss_satId > 63u) {
+      rtxErrAddStrParm(ctx, "bad-ganss-satId");
+      rtxErrAddUIntParm(ctx, pvalue->bad_ganss_satId);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "bad-ganss-satId", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->bad_ganss_satId, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "bad-ganss-satId", -1, 0);
+   /* bad-ganss-signalId */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pe_BitString32At(ctx, cur, &pvalue->bad_ganss_signalId, 8, 8);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "bad-ganss-signalId", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_RealTimeIntegrity_element(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_RealTimeIntegrity_element* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_GANSS_RealTimeIntegrity_element, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_Positioning_GANSS_RealTimeIntegrity(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_RealTimeIntegrity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-RealTimeIntegrity");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GANSS-RealTimeIntegrity");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "element", (int32_t)i, "UE-Positioning-GANSS-RealTimeIntegrity");
+      stat = enc_UE_Positioning_GANSS_RealTimeIntegrity_element(ctx, (const UE_Positioning_GANSS_RealTimeIntegrity_element*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, "UE-Positioning-GANSS-RealTimeIntegrity");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_RealTimeIntegrity(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_RealTimeIntegrity* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_GANSS_RealTimeIntegrity, pvalue);
+}
+
+static int enc_UE_Positioning_GANSS_Data_Bit_Assistance(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_Data_Bit_Assistance* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-Data-Bit-Assistance");
+   /* ganss-tod */
+   if ((uint64_t)pvalue->ganss_tod > 59u) {
+      rtxErrAddStrParm(ctx, "ganss-tod");
+      rtxErrAddUIntParm(ctx, pvalue->ganss_tod);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ganss-tod", -1, "UE-Positioning-GANSS-Data-Bit-Assistance");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ganss_tod, 0, 59);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ganss-tod", -1, "UE-Positioning-GANSS-Data-Bit-Assistance");
+   /* dataBitAssistanceList */
+   stat = enc_DataBitAssistanceList(ctx, &pvalue->dataBitAssistanceList, cur);
+   RT_CHECK(ctx, stat, 0, "dataBitAssistanceList", -1, "UE-Positioning-GANSS-Data-Bit-Assistance");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_Data_Bit_Assistance(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_Data_Bit_Assistance* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_GANSS_Data_Bit_Assistance, pvalue);
+}
+
+RT_MERGED_BODY int enc_GANSSSatelliteInformation(rtxContext* RT_RESTRICT ctx, const GANSSSatelliteInformation* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GANSSSatelliteInformation");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType6-v590ext */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType6_v590ext_IEs(ctx, &pvalue->sysInfoType6_v590ext);
-      RT_CHECK(ctx, stat, 0, "sysInfoType6-v590ext", -1, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "GANSSSatelliteInformation");
+   /* ganssSatId */
+   if ((uint64_t)pvalue->ganssSatId > 63u) {
+      rtxErrAddStrParm(ctx, "ganssSatId");
+      rtxErrAddUIntParm(ctx, pvalue->ganssSatId);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ganssSatId", -1, "GANSSSatelliteInformation");
    }
-   /* v650nonCriticalExtensions */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ganssSatId, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ganssSatId", -1, "GANSSSatelliteInformation");
+   /* dopplerZeroOrder */
+   if (pvalue->dopplerZeroOrder < -2048 || pvalue->dopplerZeroOrder > 2047) {
+      rtxErrAddStrParm(ctx, "dopplerZeroOrder");
+      rtxErrAddIntParm(ctx, pvalue->dopplerZeroOrder);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "dopplerZeroOrder", -1, "GANSSSatelliteInformation");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->dopplerZeroOrder, -2048, 2047);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "dopplerZeroOrder", -1, "GANSSSatelliteInformation");
+   /* extraDoppler */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ExtraDoppler(ctx, &pvalue->extraDoppler, cur);
+      RT_CHECK(ctx, stat, 0, "extraDoppler", -1, "GANSSSatelliteInformation");
+   }
+   /* codePhase */
+   if ((uint64_t)pvalue->codePhase > 1023u) {
+      rtxErrAddStrParm(ctx, "codePhase");
+      rtxErrAddUIntParm(ctx, pvalue->codePhase);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "codePhase", -1, "GANSSSatelliteInformation");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->codePhase, 0, 1023);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "codePhase", -1, "GANSSSatelliteInformation");
+   /* integerCodePhase */
+   if ((uint64_t)pvalue->integerCodePhase > 127u) {
+      rtxErrAddStrParm(ctx, "integerCodePhase");
+      rtxErrAddUIntParm(ctx, pvalue->integerCodePhase);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "integerCodePhase", -1, "GANSSSatelliteInformation");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->integerCodePhase, 0, 127);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "integerCodePhase", -1, "GANSSSatelliteInformation");
+   /* codePhaseSearchWindow */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pe_BitString32At(ctx, cur, &pvalue->codePhaseSearchWindow, 5, 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "codePhaseSearchWindow", -1, "GANSSSatelliteInformation");
+   /* azimuthandElevation */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v650nonCriticalExtensions(ctx, &pvalue->v650nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v650nonCriticalExtensions", -1, 0);
+      stat = enc_AzimuthAndElevation(ctx, &pvalue->azimuthandElevation, cur);
+      RT_CHECK(ctx, stat, 0, "azimuthandElevation", -1, "GANSSSatelliteInformation");
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType6_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType6_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PE_UMTS_GANSSSatelliteInformation(rtxContext* RT_RESTRICT ctx, const GANSSSatelliteInformation* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSSSatelliteInformation, pvalue);
+}
+
+RT_MERGED_BODY int enc_GANSSSatelliteInformationList(rtxContext* RT_RESTRICT ctx, const GANSSSatelliteInformationList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType6-v4b0ext */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType6_v4b0ext_IEs(ctx, &pvalue->sysInfoType6_v4b0ext);
-      RT_CHECK(ctx, stat, 0, "sysInfoType6-v4b0ext", -1, 0);
-   }
-   /* v590NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_SysInfoType6_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GANSSSatelliteInformationList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "GANSSSatelliteInformationList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "GANSSSatelliteInformation", (int32_t)i, "GANSSSatelliteInformationList");
+      stat = enc_GANSSSatelliteInformation(ctx, (const GANSSSatelliteInformation*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "GANSSSatelliteInformation", (int32_t)i, "GANSSSatelliteInformationList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType6(rtxContext* RT_RESTRICT ctx, const SysInfoType6* RT_RESTRICT pvalue)
+int asn1PE_UMTS_GANSSSatelliteInformationList(rtxContext* RT_RESTRICT ctx, const GANSSSatelliteInformationList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSSSatelliteInformationList, pvalue);
+}
+
+static int enc_UE_Positioning_GANSS_ReferenceMeasurementInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_ReferenceMeasurementInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType6");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-ReferenceMeasurementInfo");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GANSS-ReferenceMeasurementInfo");
+   /* ganssSignalId */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->ganssSignalId > 7u) {
+         rtxErrAddStrParm(ctx, "GANSS-Signal-Id");
+         rtxErrAddUIntParm(ctx, pvalue->ganssSignalId);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "GANSS-Signal-Id", "ganssSignalId", -1, "UE-Positioning-GANSS-ReferenceMeasurementInfo");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ganssSignalId, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "GANSS-Signal-Id", "ganssSignalId", -1, "UE-Positioning-GANSS-ReferenceMeasurementInfo");
+   }
+   /* satelliteInformationList */
+   stat = enc_GANSSSatelliteInformationList(ctx, &pvalue->satelliteInformationList, cur);
+   RT_CHECK(ctx, stat, 0, "satelliteInformationList", -1, "UE-Positioning-GANSS-ReferenceMeasurementInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_ReferenceMeasurementInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_ReferenceMeasurementInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_GANSS_ReferenceMeasurementInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_Positioning_GANSS_Almanac(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_Almanac* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-Almanac");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GANSS-Almanac");
+   /* ganss-wk-number */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ganss_wk_number, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ganss-wk-number", -1, "UE-Positioning-GANSS-Almanac");
+   /* alm-keplerianParameters */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ALM_keplerianParameters(ctx, &pvalue->alm_keplerianParameters, cur);
+      RT_CHECK(ctx, stat, 0, "alm-keplerianParameters", -1, "UE-Positioning-GANSS-Almanac");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_Almanac(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_Almanac* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_GANSS_Almanac, pvalue);
+}
+
+static int enc_UE_Positioning_GANSS_UTCModel(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_UTCModel* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-UTCModel");
+   /* a-one-utc */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pe_BitString32At(ctx, cur, &pvalue->a_one_utc, 24, 24);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "a-one-utc", -1, "UE-Positioning-GANSS-UTCModel");
+   /* a-zero-utc */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32At(ctx, cur, &pvalue->a_zero_utc, 32, 32);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "a-zero-utc", -1, "UE-Positioning-GANSS-UTCModel");
+   /* t-ot-utc */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32At(ctx, cur, &pvalue->t_ot_utc, 8, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t-ot-utc", -1, "UE-Positioning-GANSS-UTCModel");
+   /* delta-t-ls-utc */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32At(ctx, cur, &pvalue->delta_t_ls_utc, 8, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "delta-t-ls-utc", -1, "UE-Positioning-GANSS-UTCModel");
+   /* w-n-t-utc */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32At(ctx, cur, &pvalue->w_n_t_utc, 8, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "w-n-t-utc", -1, "UE-Positioning-GANSS-UTCModel");
+   /* w-n-lsf-utc */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32At(ctx, cur, &pvalue->w_n_lsf_utc, 8, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "w-n-lsf-utc", -1, "UE-Positioning-GANSS-UTCModel");
+   /* dn-utc */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32At(ctx, cur, &pvalue->dn_utc, 8, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "dn-utc", -1, "UE-Positioning-GANSS-UTCModel");
+   /* delta-t-lsf-utc */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32At(ctx, cur, &pvalue->delta_t_lsf_utc, 8, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "delta-t-lsf-utc", -1, "UE-Positioning-GANSS-UTCModel");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_UTCModel(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_UTCModel* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_GANSS_UTCModel, pvalue);
+}
+
+static int enc_GANSSGenericData(rtxContext* RT_RESTRICT ctx, const GANSSGenericData* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GANSSGenericData");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 0), 9);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "GANSSGenericData");
+   /* ganssId */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->ganssId > 7u) {
+         rtxErrAddStrParm(ctx, "ganssId");
+         rtxErrAddUIntParm(ctx, pvalue->ganssId);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ganssId", -1, "GANSSGenericData");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ganssId, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "ganssId", -1, "GANSSGenericData");
+   }
+   /* ganssTimeModelsList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_GANSSTimeModelsList(ctx, &pvalue->ganssTimeModelsList, cur);
+      RT_CHECK(ctx, stat, 0, "ganssTimeModelsList", -1, "GANSSGenericData");
+   }
+   /* uePositioningDGANSSCorrections */
+   if (pvalue->m & 0x4u) {
+      stat = enc_UE_Positioning_DGANSSCorrections(ctx, &pvalue->uePositioningDGANSSCorrections, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningDGANSSCorrections", -1, "GANSSGenericData");
+   }
+   /* uePositioningGANSSNavigationModel */
+   if (pvalue->m & 0x8u) {
+      stat = enc_UE_Positioning_GANSS_NavigationModel(ctx, &pvalue->uePositioningGANSSNavigationModel, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSNavigationModel", -1, "GANSSGenericData");
+   }
+   /* uePositioningGANSSRealTimeIntegrity */
+   if (pvalue->m & 0x10u) {
+      stat = enc_UE_Positioning_GANSS_RealTimeIntegrity(ctx, &pvalue->uePositioningGANSSRealTimeIntegrity, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSRealTimeIntegrity", -1, "GANSSGenericData");
+   }
+   /* uePositioningGANSSDataBitAssistance */
+   if (pvalue->m & 0x20u) {
+      stat = enc_UE_Positioning_GANSS_Data_Bit_Assistance(ctx, &pvalue->uePositioningGANSSDataBitAssistance, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSDataBitAssistance", -1, "GANSSGenericData");
+   }
+   /* uePositioningGANSSReferenceMeasurementInfo */
+   if (pvalue->m & 0x40u) {
+      stat = enc_UE_Positioning_GANSS_ReferenceMeasurementInfo(ctx, &pvalue->uePositioningGANSSReferenceMeasurementInfo, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSReferenceMeasurementInfo", -1, "GANSSGenericData");
+   }
+   /* uePositioningGANSSAlmanac */
+   if (pvalue->m & 0x80u) {
+      stat = enc_UE_Positioning_GANSS_Almanac(ctx, &pvalue->uePositioningGANSSAlmanac, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAlmanac", -1, "GANSSGenericData");
+   }
+   /* uePositioningGANSSUTCModel */
+   if (pvalue->m & 0x100u) {
+      stat = enc_UE_Positioning_GANSS_UTCModel(ctx, &pvalue->uePositioningGANSSUTCModel, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSUTCModel", -1, "GANSSGenericData");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSGenericData(rtxContext* RT_RESTRICT ctx, const GANSSGenericData* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSSGenericData, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_Positioning_GANSS_AddNavigationModels_non_broadcastIndication(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AddNavigationModels_non_broadcastIndication value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_AddNavigationModels_non_broadcastIndication(rtxContext* RT_RESTRICT ctx, UE_Positioning_GANSS_AddNavigationModels_non_broadcastIndication value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_GANSS_AddNavigationModels_non_broadcastIndication, value);
+}
+
+RT_MERGED_BODY int enc_NAVclockModel(rtxContext* RT_RESTRICT ctx, const NAVclockModel* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NAVclockModel");
+   /* navToc */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &pvalue->navToc, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "navToc", -1, "NAVclockModel");
+   /* navaf2 */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32At(ctx, cur, &pvalue->navaf2, 8, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "navaf2", -1, "NAVclockModel");
+   /* navaf1 */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &pvalue->navaf1, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "navaf1", -1, "NAVclockModel");
+   /* navaf0 */
+   RT_SET_SIZE(ctx, 22, 22);
+   stat = pe_BitString32At(ctx, cur, &pvalue->navaf0, 22, 22);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "navaf0", -1, "NAVclockModel");
+   /* navTgd */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32At(ctx, cur, &pvalue->navTgd, 8, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "navTgd", -1, "NAVclockModel");
+   return 0;
+}
+
+int asn1PE_UMTS_NAVclockModel(rtxContext* RT_RESTRICT ctx, const NAVclockModel* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NAVclockModel, pvalue);
+}
+
+RT_MERGED_BODY int enc_GLONASSclockModel(rtxContext* RT_RESTRICT ctx, const GLONASSclockModel* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GLONASSclockModel");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "GLONASSclockModel");
+   /* gloTau */
+   RT_SET_SIZE(ctx, 22, 22);
+   stat = pe_BitString32At(ctx, cur, &pvalue->gloTau, 22, 22);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "gloTau", -1, "GLONASSclockModel");
+   /* gloGamma */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pe_BitString32At(ctx, cur, &pvalue->gloGamma, 11, 11);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "gloGamma", -1, "GLONASSclockModel");
+   /* gloDeltaTau */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 5, 5);
+      stat = pe_BitString32At(ctx, cur, &pvalue->gloDeltaTau, 5, 5);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "gloDeltaTau", -1, "GLONASSclockModel");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GLONASSclockModel(rtxContext* RT_RESTRICT ctx, const GLONASSclockModel* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GLONASSclockModel, pvalue);
+}
+
+RT_MERGED_BODY int enc_SBASclockModel(rtxContext* RT_RESTRICT ctx, const SBASclockModel* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SBASclockModel");
+   /* sbasTo */
+   RT_SET_SIZE(ctx, 13, 13);
+   stat = pe_BitString32At(ctx, cur, &pvalue->sbasTo, 13, 13);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sbasTo", -1, "SBASclockModel");
+   /* sbasAgfo */
+   RT_SET_SIZE(ctx, 12, 12);
+   stat = pe_BitString32At(ctx, cur, &pvalue->sbasAgfo, 12, 12);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sbasAgfo", -1, "SBASclockModel");
+   /* sbasAgf1 */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32At(ctx, cur, &pvalue->sbasAgf1, 8, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sbasAgf1", -1, "SBASclockModel");
+   return 0;
+}
+
+int asn1PE_UMTS_SBASclockModel(rtxContext* RT_RESTRICT ctx, const SBASclockModel* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SBASclockModel, pvalue);
+}
+
+static int enc_UE_Positioning_GANSS_AddClockModels(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AddClockModels* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-AddClockModels");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GANSS-AddClockModels");
+   /* navClockModel */
+   if (pvalue->m & 0x1u) {
+      stat = enc_NAVclockModel(ctx, &pvalue->navClockModel, cur);
+      RT_CHECK(ctx, stat, 0, "navClockModel", -1, "UE-Positioning-GANSS-AddClockModels");
+   }
+   /* cnavClockModel */
+   if (pvalue->m & 0x2u) {
+      stat = enc_CNAVclockModel(ctx, &pvalue->cnavClockModel, cur);
+      RT_CHECK(ctx, stat, 0, "cnavClockModel", -1, "UE-Positioning-GANSS-AddClockModels");
+   }
+   /* glonassClockModel */
+   if (pvalue->m & 0x4u) {
+      stat = enc_GLONASSclockModel(ctx, &pvalue->glonassClockModel, cur);
+      RT_CHECK(ctx, stat, 0, "glonassClockModel", -1, "UE-Positioning-GANSS-AddClockModels");
+   }
+   /* sbasClockModel */
+   if (pvalue->m & 0x8u) {
+      stat = enc_SBASclockModel(ctx, &pvalue->sbasClockModel, cur);
+      RT_CHECK(ctx, stat, 0, "sbasClockModel", -1, "UE-Positioning-GANSS-AddClockModels");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_AddClockModels(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AddClockModels* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_GANSS_AddClockModels, pvalue);
+}
+
+RT_MERGED_BODY int enc_NavModel_NAVKeplerianSet(rtxContext* RT_RESTRICT ctx, const NavModel_NAVKeplerianSet* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NavModel-NAVKeplerianSet");
+   /* navURA */
+   RT_SET_SIZE(ctx, 4, 4);
+   stat = pe_BitString32At(ctx, cur, &pvalue->navURA, 4, 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "navURA", -1, "NavModel-NAVKeplerianSet");
+   /* navFitFlag */
+   RT_SET_SIZE(ctx, 1, 1);
+   stat = pe_BitString32At(ctx, cur, &pvalue->navFitFlag, 1, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "navFitFlag", -1, "NavModel-NAVKeplerianSet");
+   /* navToe */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &pvalue->navToe, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "navToe", -1, "NavModel-NAVKeplerianSet");
+   /* navOmega */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32At(ctx, cur, &pvalue->navOmega, 32, 32);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "navOmega", -1, "NavModel-NAVKeplerianSet");
+   /* navDeltaN */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &pvalue->navDeltaN, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "navDeltaN", -1, "NavModel-NAVKeplerianSet");
+   /* navM0 */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32At(ctx, cur, &pvalue->navM0, 32, 32);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "navM0", -1, "NavModel-NAVKeplerianSet");
+   /* navOmegaADot */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pe_BitString32At(ctx, cur, &pvalue->navOmegaADot, 24, 24);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "navOmegaADot", -1, "NavModel-NAVKeplerianSet");
+   /* navE */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32At(ctx, cur, &pvalue->navE, 32, 32);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "navE", -1, "NavModel-NAVKeplerianSet");
+   /* navIDot */
+   RT_SET_SIZE(ctx, 14, 14);
+   stat = pe_BitString32At(ctx, cur, &pvalue->navIDot, 14, 14);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "navIDot", -1, "NavModel-NAVKeplerianSet");
+   /* navAPowerHalf */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32At(ctx, cur, &pvalue->navAPowerHalf, 32, 32);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "navAPowerHalf", -1, "NavModel-NAVKeplerianSet");
+   /* navI0 */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32At(ctx, cur, &pvalue->navI0, 32, 32);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "navI0", -1, "NavModel-NAVKeplerianSet");
+   /* navOmegaA0 */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32At(ctx, cur, &pvalue->navOmegaA0, 32, 32);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "navOmegaA0", -1, "NavModel-NAVKeplerianSet");
+   /* navCrs */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &pvalue->navCrs, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "navCrs", -1, "NavModel-NAVKeplerianSet");
+   /* navCis */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &pvalue->navCis, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "navCis", -1, "NavModel-NAVKeplerianSet");
+   /* navCus */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &pvalue->navCus, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "navCus", -1, "NavModel-NAVKeplerianSet");
+   /* navCrc */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &pvalue->navCrc, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "navCrc", -1, "NavModel-NAVKeplerianSet");
+   /* navCic */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &pvalue->navCic, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "navCic", -1, "NavModel-NAVKeplerianSet");
+   /* navCuc */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &pvalue->navCuc, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "navCuc", -1, "NavModel-NAVKeplerianSet");
+   return 0;
+}
+
+int asn1PE_UMTS_NavModel_NAVKeplerianSet(rtxContext* RT_RESTRICT ctx, const NavModel_NAVKeplerianSet* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NavModel_NAVKeplerianSet, pvalue);
+}
+
+RT_MERGED_BODY int enc_NavModel_CNAVKeplerianSet_cnavMo(rtxContext* RT_RESTRICT ctx, const NavModel_CNAVKeplerianSet_cnavMo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 33, 33);
+   stat = pe_BitStringAt(ctx, cur, pvalue->numbits, pvalue->data);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_NavModel_CNAVKeplerianSet_cnavMo(rtxContext* RT_RESTRICT ctx, const NavModel_CNAVKeplerianSet_cnavMo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NavModel_CNAVKeplerianSet_cnavMo, pvalue);
+}
+
+RT_MERGED_BODY int enc_NavModel_CNAVKeplerianSet_cnavE(rtxContext* RT_RESTRICT ctx, const NavModel_CNAVKeplerianSet_cnavE* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 33, 33);
+   stat = pe_BitStringAt(ctx, cur, pvalue->numbits, pvalue->data);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_NavModel_CNAVKeplerianSet_cnavE(rtxContext* RT_RESTRICT ctx, const NavModel_CNAVKeplerianSet_cnavE* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NavModel_CNAVKeplerianSet_cnavE, pvalue);
+}
+
+RT_MERGED_BODY int enc_NavModel_CNAVKeplerianSet_cnavOmega(rtxContext* RT_RESTRICT ctx, const NavModel_CNAVKeplerianSet_cnavOmega* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 33, 33);
+   stat = pe_BitStringAt(ctx, cur, pvalue->numbits, pvalue->data);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_NavModel_CNAVKeplerianSet_cnavOmega(rtxContext* RT_RESTRICT ctx, const NavModel_CNAVKeplerianSet_cnavOmega* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NavModel_CNAVKeplerianSet_cnavOmega, pvalue);
+}
+
+RT_MERGED_BODY int enc_NavModel_CNAVKeplerianSet_cnavOMEGA0(rtxContext* RT_RESTRICT ctx, const NavModel_CNAVKeplerianSet_cnavOMEGA0* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 33, 33);
+   stat = pe_BitStringAt(ctx, cur, pvalue->numbits, pvalue->data);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_NavModel_CNAVKeplerianSet_cnavOMEGA0(rtxContext* RT_RESTRICT ctx, const NavModel_CNAVKeplerianSet_cnavOMEGA0* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NavModel_CNAVKeplerianSet_cnavOMEGA0, pvalue);
+}
+
+RT_MERGED_BODY int enc_NavModel_CNAVKeplerianSet_cnavIo(rtxContext* RT_RESTRICT ctx, const NavModel_CNAVKeplerianSet_cnavIo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 33, 33);
+   stat = pe_BitStringAt(ctx, cur, pvalue->numbits, pvalue->data);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_NavModel_CNAVKeplerianSet_cnavIo(rtxContext* RT_RESTRICT ctx, const NavModel_CNAVKeplerianSet_cnavIo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NavModel_CNAVKeplerianSet_cnavIo, pvalue);
+}
+
+RT_MERGED_BODY int enc_NavModel_CNAVKeplerianSet(rtxContext* RT_RESTRICT ctx, const NavModel_CNAVKeplerianSet* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NavModel-CNAVKeplerianSet");
+   /* cnavTop */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pe_BitString32At(ctx, cur, &pvalue->cnavTop, 11, 11);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "cnavTop", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavURAindex */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pe_BitString32At(ctx, cur, &pvalue->cnavURAindex, 5, 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "cnavURAindex", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavDeltaA */
+   RT_SET_SIZE(ctx, 26, 26);
+   stat = pe_BitString32At(ctx, cur, &pvalue->cnavDeltaA, 26, 26);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "cnavDeltaA", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavAdot */
+   RT_SET_SIZE(ctx, 25, 25);
+   stat = pe_BitString32At(ctx, cur, &pvalue->cnavAdot, 25, 25);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "cnavAdot", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavDeltaNo */
+   RT_SET_SIZE(ctx, 17, 17);
+   stat = pe_BitString32At(ctx, cur, &pvalue->cnavDeltaNo, 17, 17);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "cnavDeltaNo", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavDeltaNoDot */
+   RT_SET_SIZE(ctx, 23, 23);
+   stat = pe_BitString32At(ctx, cur, &pvalue->cnavDeltaNoDot, 23, 23);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "cnavDeltaNoDot", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavMo */
+   stat = enc_NavModel_CNAVKeplerianSet_cnavMo(ctx, &pvalue->cnavMo, cur);
+   RT_CHECK(ctx, stat, 0, "cnavMo", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavE */
+   stat = enc_NavModel_CNAVKeplerianSet_cnavE(ctx, &pvalue->cnavE, cur);
+   RT_CHECK(ctx, stat, 0, "cnavE", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavOmega */
+   stat = enc_NavModel_CNAVKeplerianSet_cnavOmega(ctx, &pvalue->cnavOmega, cur);
+   RT_CHECK(ctx, stat, 0, "cnavOmega", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavOMEGA0 */
+   stat = enc_NavModel_CNAVKeplerianSet_cnavOMEGA0(ctx, &pvalue->cnavOMEGA0, cur);
+   RT_CHECK(ctx, stat, 0, "cnavOMEGA0", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavDeltaOmegaDot */
+   RT_SET_SIZE(ctx, 17, 17);
+   stat = pe_BitString32At(ctx, cur, &pvalue->cnavDeltaOmegaDot, 17, 17);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "cnavDeltaOmegaDot", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavIo */
+   stat = enc_NavModel_CNAVKeplerianSet_cnavIo(ctx, &pvalue->cnavIo, cur);
+   RT_CHECK(ctx, stat, 0, "cnavIo", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavIoDot */
+   RT_SET_SIZE(ctx, 15, 15);
+   stat = pe_BitString32At(ctx, cur, &pvalue->cnavIoDot, 15, 15);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "cnavIoDot", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavCis */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &pvalue->cnavCis, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "cnavCis", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavCic */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &pvalue->cnavCic, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "cnavCic", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavCrs */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pe_BitString32At(ctx, cur, &pvalue->cnavCrs, 24, 24);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "cnavCrs", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavCrc */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pe_BitString32At(ctx, cur, &pvalue->cnavCrc, 24, 24);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "cnavCrc", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavCus */
+   RT_SET_SIZE(ctx, 21, 21);
+   stat = pe_BitString32At(ctx, cur, &pvalue->cnavCus, 21, 21);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "cnavCus", -1, "NavModel-CNAVKeplerianSet");
+   /* cnavCuc */
+   RT_SET_SIZE(ctx, 21, 21);
+   stat = pe_BitString32At(ctx, cur, &pvalue->cnavCuc, 21, 21);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "cnavCuc", -1, "NavModel-CNAVKeplerianSet");
+   return 0;
+}
+
+int asn1PE_UMTS_NavModel_CNAVKeplerianSet(rtxContext* RT_RESTRICT ctx, const NavModel_CNAVKeplerianSet* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NavModel_CNAVKeplerianSet, pvalue);
+}
+
+RT_MERGED_BODY int enc_NavModel_GLONASSecef(rtxContext* RT_RESTRICT ctx, const NavModel_GLONASSecef* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NavModel-GLONASSecef");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NavModel-GLONASSecef");
+   /* gloEn */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pe_BitString32At(ctx, cur, &pvalue->gloEn, 5, 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "gloEn", -1, "NavModel-GLONASSecef");
+   /* gloP1 */
+   RT_SET_SIZE(ctx, 2, 2);
+   stat = pe_BitString32At(ctx, cur, &pvalue->gloP1, 2, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "gloP1", -1, "NavModel-GLONASSecef");
+   /* gloP2 */
+   RT_SET_SIZE(ctx, 1, 1);
+   stat = pe_BitString32At(ctx, cur, &pvalue->gloP2, 1, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "gloP2", -1, "NavModel-GLONASSecef");
+   /* gloM */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 2, 2);
+      stat = pe_BitString32At(ctx, cur, &pvalue->gloM, 2, 2);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "gloM", -1, "NavModel-GLONASSecef");
+   }
+   /* gloX */
+   RT_SET_SIZE(ctx, 27, 27);
+   stat = pe_BitString32At(ctx, cur, &pvalue->gloX, 27, 27);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "gloX", -1, "NavModel-GLONASSecef");
+   /* gloXdot */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pe_BitString32At(ctx, cur, &pvalue->gloXdot, 24, 24);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "gloXdot", -1, "NavModel-GLONASSecef");
+   /* gloXdotdot */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pe_BitString32At(ctx, cur, &pvalue->gloXdotdot, 5, 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "gloXdotdot", -1, "NavModel-GLONASSecef");
+   /* gloY */
+   RT_SET_SIZE(ctx, 27, 27);
+   stat = pe_BitString32At(ctx, cur, &pvalue->gloY, 27, 27);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "gloY", -1, "NavModel-GLONASSecef");
+   /* gloYdot */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pe_BitString32At(ctx, cur, &pvalue->gloYdot, 24, 24);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "gloYdot", -1, "NavModel-GLONASSecef");
+   /* gloYdotdot */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pe_BitString32At(ctx, cur, &pvalue->gloYdotdot, 5, 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "gloYdotdot", -1, "NavModel-GLONASSecef");
+   /* gloZ */
+   RT_SET_SIZE(ctx, 27, 27);
+   stat = pe_BitString32At(ctx, cur, &pvalue->gloZ, 27, 27);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "gloZ", -1, "NavModel-GLONASSecef");
+   /* gloZdot */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pe_BitString32At(ctx, cur, &pvalue->gloZdot, 24, 24);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "gloZdot", -1, "NavModel-GLONASSecef");
+   /* gloZdotdot */
+   RT_SET_SIZE(ctx, 5, 5);
+   stat = pe_BitString32At(ctx, cur, &pvalue->gloZdotdot, 5, 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "gloZdotdot", -1, "NavModel-GLONASSecef");
+   return 0;
+}
+
+int asn1PE_UMTS_NavModel_GLONASSecef(rtxContext* RT_RESTRICT ctx, const NavModel_GLONASSecef* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NavModel_GLONASSecef, pvalue);
+}
+
+RT_MERGED_BODY int enc_NavModel_SBASecef(rtxContext* RT_RESTRICT ctx, const NavModel_SBASecef* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NavModel-SBASecef");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NavModel-SBASecef");
+   /* sbasTo */
+   if (pvalue->m & 0x1u) {
+      RT_SET_SIZE(ctx, 13, 13);
+      stat = pe_BitString32At(ctx, cur, &pvalue->sbasTo, 13, 13);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "sbasTo", -1, "NavModel-SBASecef");
+   }
+   /* sbasAccuracy */
+   RT_SET_SIZE(ctx, 4, 4);
+   stat = pe_BitString32At(ctx, cur, &pvalue->sbasAccuracy, 4, 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sbasAccuracy", -1, "NavModel-SBASecef");
+   /* sbasXg */
+   RT_SET_SIZE(ctx, 30, 30);
+   stat = pe_BitString32At(ctx, cur, &pvalue->sbasXg, 30, 30);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sbasXg", -1, "NavModel-SBASecef");
+   /* sbasYg */
+   RT_SET_SIZE(ctx, 30, 30);
+   stat = pe_BitString32At(ctx, cur, &pvalue->sbasYg, 30, 30);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sbasYg", -1, "NavModel-SBASecef");
+   /* sbasZg */
+   RT_SET_SIZE(ctx, 25, 25);
+   stat = pe_BitString32At(ctx, cur, &pvalue->sbasZg, 25, 25);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sbasZg", -1, "NavModel-SBASecef");
+   /* sbasXgDot */
+   RT_SET_SIZE(ctx, 17, 17);
+   stat = pe_BitString32At(ctx, cur, &pvalue->sbasXgDot, 17, 17);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sbasXgDot", -1, "NavModel-SBASecef");
+   /* sbasYgDot */
+   RT_SET_SIZE(ctx, 17, 17);
+   stat = pe_BitString32At(ctx, cur, &pvalue->sbasYgDot, 17, 17);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sbasYgDot", -1, "NavModel-SBASecef");
+   /* sbasZgDot */
+   RT_SET_SIZE(ctx, 18, 18);
+   stat = pe_BitString32At(ctx, cur, &pvalue->sbasZgDot, 18, 18);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sbasZgDot", -1, "NavModel-SBASecef");
+   /* sbasXgDotDot */
+   RT_SET_SIZE(ctx, 10, 10);
+   stat = pe_BitString32At(ctx, cur, &pvalue->sbasXgDotDot, 10, 10);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sbasXgDotDot", -1, "NavModel-SBASecef");
+   /* sbagYgDotDot */
+   RT_SET_SIZE(ctx, 10, 10);
+   stat = pe_BitString32At(ctx, cur, &pvalue->sbagYgDotDot, 10, 10);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sbagYgDotDot", -1, "NavModel-SBASecef");
+   /* sbasZgDotDot */
+   RT_SET_SIZE(ctx, 10, 10);
+   stat = pe_BitString32At(ctx, cur, &pvalue->sbasZgDotDot, 10, 10);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "sbasZgDotDot", -1, "NavModel-SBASecef");
+   return 0;
+}
+
+int asn1PE_UMTS_NavModel_SBASecef(rtxContext* RT_RESTRICT ctx, const NavModel_SBASecef* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NavModel_SBASecef, pvalue);
+}
+
+static int enc_UE_Positioning_GANSS_AddOrbitModels(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AddOrbitModels* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-AddOrbitModels");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GANSS-AddOrbitModels");
+   /* navKeplerianSet */
+   if (pvalue->m & 0x1u) {
+      stat = enc_NavModel_NAVKeplerianSet(ctx, &pvalue->navKeplerianSet, cur);
+      RT_CHECK(ctx, stat, 0, "navKeplerianSet", -1, "UE-Positioning-GANSS-AddOrbitModels");
+   }
+   /* cnavKeplerianSet */
+   if (pvalue->m & 0x2u) {
+      stat = enc_NavModel_CNAVKeplerianSet(ctx, &pvalue->cnavKeplerianSet, cur);
+      RT_CHECK(ctx, stat, 0, "cnavKeplerianSet", -1, "UE-Positioning-GANSS-AddOrbitModels");
+   }
+   /* glonassECEF */
+   if (pvalue->m & 0x4u) {
+      stat = enc_NavModel_GLONASSecef(ctx, &pvalue->glonassECEF, cur);
+      RT_CHECK(ctx, stat, 0, "glonassECEF", -1, "UE-Positioning-GANSS-AddOrbitModels");
+   }
+   /* sbasECEF */
+   if (pvalue->m & 0x8u) {
+      stat = enc_NavModel_SBASecef(ctx, &pvalue->sbasECEF, cur);
+      RT_CHECK(ctx, stat, 0, "sbasECEF", -1, "UE-Positioning-GANSS-AddOrbitModels");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_AddOrbitModels(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AddOrbitModels* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_GANSS_AddOrbitModels, pvalue);
+}
+
+RT_MERGED_BODY int enc_Ganss_Sat_Info_AddNav(rtxContext* RT_RESTRICT ctx, const Ganss_Sat_Info_AddNav* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Ganss-Sat-Info-AddNav");
+   /* satId */
+   if ((uint64_t)pvalue->satId > 63u) {
+      rtxErrAddStrParm(ctx, "satId");
+      rtxErrAddUIntParm(ctx, pvalue->satId);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "satId", -1, "Ganss-Sat-Info-AddNav");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->satId, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "satId", -1, "Ganss-Sat-Info-AddNav");
+   /* svHealth */
+   RT_SET_SIZE(ctx, 6, 6);
+   stat = pe_BitString32At(ctx, cur, &pvalue->svHealth, 6, 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "svHealth", -1, "Ganss-Sat-Info-AddNav");
+   /* iod */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pe_BitString32At(ctx, cur, &pvalue->iod, 11, 11);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "iod", -1, "Ganss-Sat-Info-AddNav");
+   /* ganssClockModel */
+   stat = enc_UE_Positioning_GANSS_AddClockModels(ctx, &pvalue->ganssClockModel, cur);
+   RT_CHECK(ctx, stat, 0, "ganssClockModel", -1, "Ganss-Sat-Info-AddNav");
+   /* ganssOrbitModel */
+   stat = enc_UE_Positioning_GANSS_AddOrbitModels(ctx, &pvalue->ganssOrbitModel, cur);
+   RT_CHECK(ctx, stat, 0, "ganssOrbitModel", -1, "Ganss-Sat-Info-AddNav");
+   return 0;
+}
+
+int asn1PE_UMTS_Ganss_Sat_Info_AddNav(rtxContext* RT_RESTRICT ctx, const Ganss_Sat_Info_AddNav* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Ganss_Sat_Info_AddNav, pvalue);
+}
+
+RT_MERGED_BODY int enc_Ganss_Sat_Info_AddNavList(rtxContext* RT_RESTRICT ctx, const Ganss_Sat_Info_AddNavList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Ganss-Sat-Info-AddNavList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "Ganss-Sat-Info-AddNavList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "Ganss-Sat-Info-AddNav", (int32_t)i, "Ganss-Sat-Info-AddNavList");
+      stat = enc_Ganss_Sat_Info_AddNav(ctx, (const Ganss_Sat_Info_AddNav*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "Ganss-Sat-Info-AddNav", (int32_t)i, "Ganss-Sat-Info-AddNavList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Ganss_Sat_Info_AddNavList(rtxContext* RT_RESTRICT ctx, const Ganss_Sat_Info_AddNavList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Ganss_Sat_Info_AddNavList, pvalue);
+}
+
+static int enc_UE_Positioning_GANSS_AddNavigationModels(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AddNavigationModels* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-AddNavigationModels");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GANSS-AddNavigationModels");
+   /* non-broadcastIndication */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->non_broadcastIndication > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->non_broadcastIndication);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "non-broadcastIndication", -1, "UE-Positioning-GANSS-AddNavigationModels");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->non_broadcastIndication, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "non-broadcastIndication", -1, "UE-Positioning-GANSS-AddNavigationModels");
+   }
+   /* ganssSatInfoNavList */
+   stat = enc_Ganss_Sat_Info_AddNavList(ctx, &pvalue->ganssSatInfoNavList, cur);
+   RT_CHECK(ctx, stat, 0, "ganssSatInfoNavList", -1, "UE-Positioning-GANSS-AddNavigationModels");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_GANSS_AddNavigationModels(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AddNavigationModels* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_GANSS_AddNavigationModels, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_Positioning_GANSS_Almanac_v860ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_Almanac_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-Almanac-v860ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType6");
-   /* pich-PowerOffset */
-   if (pvalue->pich_PowerOffset < -10 || pvalue->pich_PowerOffset > 5) {
-      rtxErrAddStrParm(ctx, "PICH-PowerOffset");
-      rtxErrAddIntParm(ctx, pvalue->pich_PowerOffset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "PICH-PowerOffset", "pich-PowerOffset", -1, "SysInfoType6");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->pich_PowerOffset, -10, 5);
-   RT_CHECK(ctx, stat, "PICH-PowerOffset", "pich-PowerOffset", -1, "SysInfoType6");
-   /* modeSpecificInfo */
-   stat = asn1PE_UMTS_SysInfoType6_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "SysInfoType6");
-   /* primaryCCPCH-Info */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GANSS-Almanac-v860ext");
+   /* alm-keplerianNAVAlmanac */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PrimaryCCPCH_Info(ctx, &pvalue->primaryCCPCH_Info);
-      RT_CHECK(ctx, stat, 0, "primaryCCPCH-Info", -1, "SysInfoType6");
+      stat = enc_ALM_NAVKeplerianSet(ctx, &pvalue->alm_keplerianNAVAlmanac, cur);
+      RT_CHECK(ctx, stat, 0, "alm-keplerianNAVAlmanac", -1, "UE-Positioning-GANSS-Almanac-v860ext");
    }
-   /* prach-SystemInformationList */
+   /* alm-keplerianReducedAlmanac */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_PRACH_SystemInformationList(ctx, &pvalue->prach_SystemInformationList);
-      RT_CHECK(ctx, stat, 0, "prach-SystemInformationList", -1, "SysInfoType6");
+      stat = enc_ALM_ReducedKeplerianSet(ctx, &pvalue->alm_keplerianReducedAlmanac, cur);
+      RT_CHECK(ctx, stat, 0, "alm-keplerianReducedAlmanac", -1, "UE-Positioning-GANSS-Almanac-v860ext");
    }
-   /* sCCPCH-SystemInformationList */
+   /* alm-keplerianMidiAlmanac */
    if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_SCCPCH_SystemInformationList(ctx, &pvalue->sCCPCH_SystemInformationList);
-      RT_CHECK(ctx, stat, 0, "sCCPCH-SystemInformationList", -1, "SysInfoType6");
+      stat = enc_ALM_MidiAlmanacSet(ctx, &pvalue->alm_keplerianMidiAlmanac, cur);
+      RT_CHECK(ctx, stat, 0, "alm-keplerianMidiAlmanac", -1, "UE-Positioning-GANSS-Almanac-v860ext");
    }
-   /* cbs-DRX-Level1Information */
+   /* alm-keplerianGLONASS */
    if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_CBS_DRX_Level1Information(ctx, &pvalue->cbs_DRX_Level1Information);
-      RT_CHECK(ctx, stat, 0, "cbs-DRX-Level1Information", -1, "SysInfoType6");
+      stat = enc_ALM_GlonassAlmanacSet(ctx, &pvalue->alm_keplerianGLONASS, cur);
+      RT_CHECK(ctx, stat, 0, "alm-keplerianGLONASS", -1, "UE-Positioning-GANSS-Almanac-v860ext");
    }
-   /* v4b0NonCriticalExtensions */
+   /* alm-ecefSBASAlmanac */
    if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_SysInfoType6_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType6");
+      stat = enc_ALM_ECEFsbasAlmanacSet(ctx, &pvalue->alm_ecefSBASAlmanac, cur);
+      RT_CHECK(ctx, stat, 0, "alm-ecefSBASAlmanac", -1, "UE-Positioning-GANSS-Almanac-v860ext");
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType8_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType8_nonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UE_Positioning_GANSS_Almanac_v860ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_Almanac_v860ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_GANSS_Almanac_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_UTCmodelSet1(rtxContext* RT_RESTRICT ctx, const UTCmodelSet1* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UTCmodelSet1");
+   /* utcA0 */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &pvalue->utcA0, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "utcA0", -1, "UTCmodelSet1");
+   /* utcA1 */
+   RT_SET_SIZE(ctx, 13, 13);
+   stat = pe_BitString32At(ctx, cur, &pvalue->utcA1, 13, 13);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "utcA1", -1, "UTCmodelSet1");
+   /* utcA2 */
+   RT_SET_SIZE(ctx, 7, 7);
+   stat = pe_BitString32At(ctx, cur, &pvalue->utcA2, 7, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "utcA2", -1, "UTCmodelSet1");
+   /* utcDeltaTls */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32At(ctx, cur, &pvalue->utcDeltaTls, 8, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "utcDeltaTls", -1, "UTCmodelSet1");
+   /* utcTot */
+   RT_SET_SIZE(ctx, 16, 16);
+   stat = pe_BitString32At(ctx, cur, &pvalue->utcTot, 16, 16);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "utcTot", -1, "UTCmodelSet1");
+   /* utcWNot */
+   RT_SET_SIZE(ctx, 13, 13);
+   stat = pe_BitString32At(ctx, cur, &pvalue->utcWNot, 13, 13);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "utcWNot", -1, "UTCmodelSet1");
+   /* utcWNlsf */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32At(ctx, cur, &pvalue->utcWNlsf, 8, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "utcWNlsf", -1, "UTCmodelSet1");
+   /* utcDN */
+   RT_SET_SIZE(ctx, 4, 4);
+   stat = pe_BitString32At(ctx, cur, &pvalue->utcDN, 4, 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "utcDN", -1, "UTCmodelSet1");
+   /* utcDeltaTlsf */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32At(ctx, cur, &pvalue->utcDeltaTlsf, 8, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "utcDeltaTlsf", -1, "UTCmodelSet1");
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType8(rtxContext* RT_RESTRICT ctx, const SysInfoType8* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UTCmodelSet1(rtxContext* RT_RESTRICT ctx, const UTCmodelSet1* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UTCmodelSet1, pvalue);
+}
+
+RT_MERGED_BODY int enc_UTCmodelSet2(rtxContext* RT_RESTRICT ctx, const UTCmodelSet2* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType8");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UTCmodelSet2");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType8");
-   /* dummy1 */
-   stat = asn1PE_UMTS_CPCH_Parameters(ctx, &pvalue->dummy1);
-   RT_CHECK(ctx, stat, 0, "dummy1", -1, "SysInfoType8");
-   /* dummy2 */
-   stat = asn1PE_UMTS_CPCH_SetInfoList(ctx, &pvalue->dummy2);
-   RT_CHECK(ctx, stat, 0, "dummy2", -1, "SysInfoType8");
-   /* dummy3 */
-   if (pvalue->dummy3 < -10 || pvalue->dummy3 > 5) {
-      rtxErrAddStrParm(ctx, "CSICH-PowerOffset");
-      rtxErrAddIntParm(ctx, pvalue->dummy3);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "CSICH-PowerOffset", "dummy3", -1, "SysInfoType8");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->dummy3, -10, 5);
-   RT_CHECK(ctx, stat, "CSICH-PowerOffset", "dummy3", -1, "SysInfoType8");
-   /* nonCriticalExtensions */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UTCmodelSet2");
+   /* nA */
+   RT_SET_SIZE(ctx, 11, 11);
+   stat = pe_BitString32At(ctx, cur, &pvalue->nA, 11, 11);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "nA", -1, "UTCmodelSet2");
+   /* tauC */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32At(ctx, cur, &pvalue->tauC, 32, 32);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tauC", -1, "UTCmodelSet2");
+   /* deltaUT1 */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType8_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType8");
+      stat = enc_DeltaUT1(ctx, &pvalue->deltaUT1, cur);
+      RT_CHECK(ctx, stat, 0, "deltaUT1", -1, "UTCmodelSet2");
+   }
+   /* kp */
+   if (pvalue->m & 0x2u) {
+      RT_SET_SIZE(ctx, 2, 2);
+      stat = pe_BitString32At(ctx, cur, &pvalue->kp, 2, 2);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "kp", -1, "UTCmodelSet2");
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType9_nonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UTCmodelSet2(rtxContext* RT_RESTRICT ctx, const UTCmodelSet2* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UTCmodelSet2, pvalue);
+}
+
+RT_MERGED_BODY int enc_UTCmodelSet3(rtxContext* RT_RESTRICT ctx, const UTCmodelSet3* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UTCmodelSet3");
+   /* utcA1wnt */
+   RT_SET_SIZE(ctx, 24, 24);
+   stat = pe_BitString32At(ctx, cur, &pvalue->utcA1wnt, 24, 24);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "utcA1wnt", -1, "UTCmodelSet3");
+   /* utcA0wnt */
+   RT_SET_SIZE(ctx, 32, 32);
+   stat = pe_BitString32At(ctx, cur, &pvalue->utcA0wnt, 32, 32);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "utcA0wnt", -1, "UTCmodelSet3");
+   /* utcTot */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32At(ctx, cur, &pvalue->utcTot, 8, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "utcTot", -1, "UTCmodelSet3");
+   /* utcWNt */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32At(ctx, cur, &pvalue->utcWNt, 8, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "utcWNt", -1, "UTCmodelSet3");
+   /* utcDeltaTls */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32At(ctx, cur, &pvalue->utcDeltaTls, 8, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "utcDeltaTls", -1, "UTCmodelSet3");
+   /* utcWNlsf */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32At(ctx, cur, &pvalue->utcWNlsf, 8, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "utcWNlsf", -1, "UTCmodelSet3");
+   /* utcDN */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32At(ctx, cur, &pvalue->utcDN, 8, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "utcDN", -1, "UTCmodelSet3");
+   /* utcDeltaTlsf */
+   RT_SET_SIZE(ctx, 8, 8);
+   stat = pe_BitString32At(ctx, cur, &pvalue->utcDeltaTlsf, 8, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "utcDeltaTlsf", -1, "UTCmodelSet3");
+   /* utcStandardID */
+   RT_SET_SIZE(ctx, 3, 3);
+   stat = pe_BitString32At(ctx, cur, &pvalue->utcStandardID, 3, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "utcStandardID", -1, "UTCmodelSet3");
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType9(rtxContext* RT_RESTRICT ctx, const SysInfoType9* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UTCmodelSet3(rtxContext* RT_RESTRICT ctx, const UTCmodelSet3* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UTCmodelSet3, pvalue);
+}
+
+static int enc_UE_Positioning_GANSS_AddUTCModels(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AddUTCModels* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType9");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-AddUTCModels");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType9");
-   /* dummy */
-   stat = asn1PE_UMTS_CPCH_PersistenceLevelsList(ctx, &pvalue->dummy);
-   RT_CHECK(ctx, stat, 0, "dummy", -1, "SysInfoType9");
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType9");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType10_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType10_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType10(rtxContext* RT_RESTRICT ctx, const SysInfoType10* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType10");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType10");
-   /* dummy */
-   stat = asn1PE_UMTS_DRAC_SysInfoList(ctx, &pvalue->dummy);
-   RT_CHECK(ctx, stat, 0, "dummy", -1, "SysInfoType10");
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType10_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType10");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType13_v3a0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType13_v3a0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType13-v3a0ext-IEs");
-   /* ue-IdleTimersAndConstants-v3a0ext */
-   stat = asn1PE_UMTS_UE_IdleTimersAndConstants_v3a0ext(ctx, &pvalue->ue_IdleTimersAndConstants_v3a0ext);
-   RT_CHECK(ctx, stat, 0, "ue-IdleTimersAndConstants-v3a0ext", -1, "SysInfoType13-v3a0ext-IEs");
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType13_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType13_v4b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType13-v4b0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType13-v4b0ext-IEs");
-   /* capabilityUpdateRequirement-r4Ext */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CapabilityUpdateRequirement_r4_ext(ctx, &pvalue->capabilityUpdateRequirement_r4Ext);
-      RT_CHECK(ctx, stat, 0, "capabilityUpdateRequirement-r4Ext", -1, "SysInfoType13-v4b0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType13_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType13_v770ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType13-v770ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType13-v770ext-IEs");
-   /* capabilityUpdateRequirement */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CapabilityUpdateRequirement_v770ext(ctx, &pvalue->capabilityUpdateRequirement);
-      RT_CHECK(ctx, stat, 0, "capabilityUpdateRequirement", -1, "SysInfoType13-v770ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType13-v770ext */
-   stat = asn1PE_UMTS_SysInfoType13_v770ext_IEs(ctx, &pvalue->sysInfoType13_v770ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType13-v770ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType13-v4b0ext */
-   stat = asn1PE_UMTS_SysInfoType13_v4b0ext_IEs(ctx, &pvalue->sysInfoType13_v4b0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType13-v4b0ext", -1, 0);
-   /* v770NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType13_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType13_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType13-v3a0ext */
-   stat = asn1PE_UMTS_SysInfoType13_v3a0ext_IEs(ctx, &pvalue->sysInfoType13_v3a0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType13-v3a0ext", -1, 0);
-   /* v4b0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType13_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType13(rtxContext* RT_RESTRICT ctx, const SysInfoType13* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType13");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType13");
-   /* cn-DomainSysInfoList */
-   stat = asn1PE_UMTS_CN_DomainSysInfoList(ctx, &pvalue->cn_DomainSysInfoList);
-   RT_CHECK(ctx, stat, 0, "cn-DomainSysInfoList", -1, "SysInfoType13");
-   /* ue-IdleTimersAndConstants */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GANSS-AddUTCModels");
+   /* utcModel1 */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_IdleTimersAndConstants(ctx, &pvalue->ue_IdleTimersAndConstants);
-      RT_CHECK(ctx, stat, 0, "ue-IdleTimersAndConstants", -1, "SysInfoType13");
+      stat = enc_UTCmodelSet1(ctx, &pvalue->utcModel1, cur);
+      RT_CHECK(ctx, stat, 0, "utcModel1", -1, "UE-Positioning-GANSS-AddUTCModels");
    }
-   /* capabilityUpdateRequirement */
+   /* utcModel2 */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_CapabilityUpdateRequirement(ctx, &pvalue->capabilityUpdateRequirement);
-      RT_CHECK(ctx, stat, 0, "capabilityUpdateRequirement", -1, "SysInfoType13");
+      stat = enc_UTCmodelSet2(ctx, &pvalue->utcModel2, cur);
+      RT_CHECK(ctx, stat, 0, "utcModel2", -1, "UE-Positioning-GANSS-AddUTCModels");
    }
-   /* v3a0NonCriticalExtensions */
+   /* utcModel3 */
    if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_SysInfoType13_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, "SysInfoType13");
+      stat = enc_UTCmodelSet3(ctx, &pvalue->utcModel3, cur);
+      RT_CHECK(ctx, stat, 0, "utcModel3", -1, "UE-Positioning-GANSS-AddUTCModels");
    }
    return 0;
 }
 
-int asn1PE_UMTS_ANSI_41_RAND_Information(rtxContext* RT_RESTRICT ctx, const ANSI_41_RAND_Information* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UE_Positioning_GANSS_AddUTCModels(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AddUTCModels* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ANSI-41-RAND-Information");
-   stat = asn1PE_UMTS_ANSI_41_NAS_Parameter(ctx, pvalue);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ANSI-41-RAND-Information");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_GANSS_AddUTCModels, pvalue);
 }
 
-int asn1PE_UMTS_SysInfoType13_1_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType13_1_nonCriticalExtensions* RT_RESTRICT pvalue)
+static int enc_UE_Positioning_GANSS_AuxiliaryInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AuxiliaryInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType13_1(rtxContext* RT_RESTRICT ctx, const SysInfoType13_1* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType13-1");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType13-1");
-   /* ansi-41-RAND-Information */
-   stat = asn1PE_UMTS_ANSI_41_RAND_Information(ctx, &pvalue->ansi_41_RAND_Information);
-   RT_CHECK(ctx, stat, 0, "ansi-41-RAND-Information", -1, "SysInfoType13-1");
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType13_1_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType13-1");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-AuxiliaryInfo");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "UE-Positioning-GANSS-AuxiliaryInfo");
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UE-Positioning-GANSS-AuxiliaryInfo");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.ganssID1 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ganssID1", -1, "UE-Positioning-GANSS-AuxiliaryInfo");
+         stat = enc_AuxInfoGANSS_ID1(ctx, pvalue->u.ganssID1, cur);
+         RT_CHECK(ctx, stat, 0, "ganssID1", -1, "UE-Positioning-GANSS-AuxiliaryInfo");
+         break;
+      case 2:
+         if (pvalue->u.ganssID3 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "ganssID3", -1, "UE-Positioning-GANSS-AuxiliaryInfo");
+         stat = enc_AuxInfoGANSS_ID3(ctx, pvalue->u.ganssID3, cur);
+         RT_CHECK(ctx, stat, 0, "ganssID3", -1, "UE-Positioning-GANSS-AuxiliaryInfo");
+         break;
+      default:
+         break;
    }
    return 0;
 }
 
-int asn1PE_UMTS_ANSI_41_UserZoneID_Information(rtxContext* RT_RESTRICT ctx, const ANSI_41_UserZoneID_Information* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UE_Positioning_GANSS_AuxiliaryInfo(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_AuxiliaryInfo* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ANSI-41-UserZoneID-Information");
-   stat = asn1PE_UMTS_ANSI_41_NAS_Parameter(ctx, pvalue);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ANSI-41-UserZoneID-Information");
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_GANSS_AuxiliaryInfo, pvalue);
 }
 
-int asn1PE_UMTS_SysInfoType13_2_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType13_2_nonCriticalExtensions* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_GANSSGenericData_v860ext(rtxContext* RT_RESTRICT ctx, const GANSSGenericData_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType13_2(rtxContext* RT_RESTRICT ctx, const SysInfoType13_2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType13-2");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GANSSGenericData-v860ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType13-2");
-   /* ansi-41-UserZoneID-Information */
-   stat = asn1PE_UMTS_ANSI_41_UserZoneID_Information(ctx, &pvalue->ansi_41_UserZoneID_Information);
-   RT_CHECK(ctx, stat, 0, "ansi-41-UserZoneID-Information", -1, "SysInfoType13-2");
-   /* nonCriticalExtensions */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "GANSSGenericData-v860ext");
+   /* uePositiningGANSSsbasID */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType13_2_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType13-2");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ANSI_41_PrivateNeighbourListInfo(rtxContext* RT_RESTRICT ctx, const ANSI_41_PrivateNeighbourListInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ANSI-41-PrivateNeighbourListInfo");
-   stat = asn1PE_UMTS_ANSI_41_NAS_Parameter(ctx, pvalue);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ANSI-41-PrivateNeighbourListInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType13_3_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType13_3_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType13_3(rtxContext* RT_RESTRICT ctx, const SysInfoType13_3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType13-3");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType13-3");
-   /* ansi-41-PrivateNeighbourListInfo */
-   stat = asn1PE_UMTS_ANSI_41_PrivateNeighbourListInfo(ctx, &pvalue->ansi_41_PrivateNeighbourListInfo);
-   RT_CHECK(ctx, stat, 0, "ansi-41-PrivateNeighbourListInfo", -1, "SysInfoType13-3");
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType13_3_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType13-3");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ANSI_41_GlobalServiceRedirectInfo(rtxContext* RT_RESTRICT ctx, const ANSI_41_GlobalServiceRedirectInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ANSI-41-GlobalServiceRedirectInfo");
-   stat = asn1PE_UMTS_ANSI_41_NAS_Parameter(ctx, pvalue);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ANSI-41-GlobalServiceRedirectInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType13_4_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType13_4_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType13_4(rtxContext* RT_RESTRICT ctx, const SysInfoType13_4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType13-4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType13-4");
-   /* ansi-41-GlobalServiceRedirectInfo */
-   stat = asn1PE_UMTS_ANSI_41_GlobalServiceRedirectInfo(ctx, &pvalue->ansi_41_GlobalServiceRedirectInfo);
-   RT_CHECK(ctx, stat, 0, "ansi-41-GlobalServiceRedirectInfo", -1, "SysInfoType13-4");
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType13_4_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType13-4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType14_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType14_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType14(rtxContext* RT_RESTRICT ctx, const SysInfoType14* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType14");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType14");
-   /* individualTS-InterferenceList */
-   stat = asn1PE_UMTS_IndividualTS_InterferenceList(ctx, &pvalue->individualTS_InterferenceList);
-   RT_CHECK(ctx, stat, 0, "individualTS-InterferenceList", -1, "SysInfoType14");
-   /* expirationTimeFactor */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->expirationTimeFactor - 1) > 7u) {
-         rtxErrAddStrParm(ctx, "ExpirationTimeFactor");
-         rtxErrAddUIntParm(ctx, pvalue->expirationTimeFactor);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "ExpirationTimeFactor", "expirationTimeFactor", -1, "SysInfoType14");
+      if (pvalue->uePositiningGANSSsbasID > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->uePositiningGANSSsbasID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UE-Positioning-GANSS-SBAS-ID", "uePositiningGANSSsbasID", -1, "GANSSGenericData-v860ext");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->expirationTimeFactor, 1, 8);
-      RT_CHECK(ctx, stat, "ExpirationTimeFactor", "expirationTimeFactor", -1, "SysInfoType14");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->uePositiningGANSSsbasID, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "UE-Positioning-GANSS-SBAS-ID", "uePositiningGANSSsbasID", -1, "GANSSGenericData-v860ext");
    }
-   /* nonCriticalExtensions */
+   /* uePositioningGANSSAddNavigationModels */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_SysInfoType14_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType14");
+      stat = enc_UE_Positioning_GANSS_AddNavigationModels(ctx, &pvalue->uePositioningGANSSAddNavigationModels, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAddNavigationModels", -1, "GANSSGenericData-v860ext");
    }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType15_v4b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-v4b0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-v4b0ext-IEs");
-   /* up-Ipdl-Parameters-TDD */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_IPDL_Parameters_TDD_r4_ext(ctx, &pvalue->up_Ipdl_Parameters_TDD);
-      RT_CHECK(ctx, stat, 0, "up-Ipdl-Parameters-TDD", -1, "SysInfoType15-v4b0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType15_v770ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-v770ext-IEs");
-   /* ue-Positioning-GPS-ReferenceTime */
-   stat = asn1PE_UMTS_UE_Positioning_GPS_ReferenceTime_v770ext(ctx, &pvalue->ue_Positioning_GPS_ReferenceTime);
-   RT_CHECK(ctx, stat, 0, "ue-Positioning-GPS-ReferenceTime", -1, "SysInfoType15-v770ext-IEs");
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType15-v770ext */
-   stat = asn1PE_UMTS_SysInfoType15_v770ext_IEs(ctx, &pvalue->sysInfoType15_v770ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType15-v770ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType15-v4b0ext */
-   stat = asn1PE_UMTS_SysInfoType15_v4b0ext_IEs(ctx, &pvalue->sysInfoType15_v4b0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType15-v4b0ext", -1, 0);
-   /* v770NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType15_v4b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15(rtxContext* RT_RESTRICT ctx, const SysInfoType15* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15");
-   /* ue-positioning-GPS-CipherParameters */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_CipherParameters(ctx, &pvalue->ue_positioning_GPS_CipherParameters);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-CipherParameters", -1, "SysInfoType15");
-   }
-   /* ue-positioning-GPS-ReferenceLocation */
-   stat = asn1PE_UMTS_ReferenceLocation(ctx, &pvalue->ue_positioning_GPS_ReferenceLocation);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceLocation", -1, "SysInfoType15");
-   /* ue-positioning-GPS-ReferenceTime */
-   stat = asn1PE_UMTS_UE_Positioning_GPS_ReferenceTime(ctx, &pvalue->ue_positioning_GPS_ReferenceTime);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-ReferenceTime", -1, "SysInfoType15");
-   /* ue-positioning-GPS-Real-timeIntegrity */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_BadSatList(ctx, &pvalue->ue_positioning_GPS_Real_timeIntegrity);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Real-timeIntegrity", -1, "SysInfoType15");
-   }
-   /* v4b0NonCriticalExtensions */
+   /* uePositioningGANSSAlmanac */
    if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_SysInfoType15_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType15");
+      stat = enc_UE_Positioning_GANSS_Almanac_v860ext(ctx, &pvalue->uePositioningGANSSAlmanac, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAlmanac", -1, "GANSSGenericData-v860ext");
+   }
+   /* uePositioningGANSSAddUTCModels */
+   if (pvalue->m & 0x8u) {
+      stat = enc_UE_Positioning_GANSS_AddUTCModels(ctx, &pvalue->uePositioningGANSSAddUTCModels, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAddUTCModels", -1, "GANSSGenericData-v860ext");
+   }
+   /* uePositioningGANSSAuxiliaryInfo */
+   if (pvalue->m & 0x10u) {
+      stat = enc_UE_Positioning_GANSS_AuxiliaryInfo(ctx, &pvalue->uePositioningGANSSAuxiliaryInfo, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAuxiliaryInfo", -1, "GANSSGenericData-v860ext");
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType15bis_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType15bis_v860ext_IEs* RT_RESTRICT pvalue)
+int asn1PE_UMTS_GANSSGenericData_v860ext(rtxContext* RT_RESTRICT ctx, const GANSSGenericData_v860ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSSGenericData_v860ext, pvalue);
+}
+
+static int enc_UE_Positioning_GANSS_Almanac_r8(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_Almanac_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15bis-v860ext-IEs");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-GANSS-Almanac-r8");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15bis-v860ext-IEs");
-   /* ue-Positioning-GANSS-AddIonoModel */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AddIonoModel(ctx, &pvalue->ue_Positioning_GANSS_AddIonoModel);
-      RT_CHECK(ctx, stat, 0, "ue-Positioning-GANSS-AddIonoModel", -1, "SysInfoType15bis-v860ext-IEs");
-   }
-   /* ue-Positioning-GANSS-EarthOrientationPara */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_EarthOrientPara(ctx, &pvalue->ue_Positioning_GANSS_EarthOrientationPara);
-      RT_CHECK(ctx, stat, 0, "ue-Positioning-GANSS-EarthOrientationPara", -1, "SysInfoType15bis-v860ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15bis_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15bis_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15bis_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15bis_v860NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType15bis-v860ext */
-   stat = asn1PE_UMTS_SysInfoType15bis_v860ext_IEs(ctx, &pvalue->sysInfoType15bis_v860ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType15bis-v860ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType15bis_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15bis(rtxContext* RT_RESTRICT ctx, const SysInfoType15bis* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15bis");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15bis");
-   /* ue-positioning-GANSS-ReferencePosition */
-   stat = asn1PE_UMTS_ReferenceLocationGANSS(ctx, &pvalue->ue_positioning_GANSS_ReferencePosition);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-ReferencePosition", -1, "SysInfoType15bis");
-   /* ue-positioning-GANSS-ReferenceTime */
-   stat = asn1PE_UMTS_UE_Positioning_GANSS_ReferenceTime(ctx, &pvalue->ue_positioning_GANSS_ReferenceTime);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-ReferenceTime", -1, "SysInfoType15bis");
-   /* ue-positioning-GANSS-IonosphericModel */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_IonosphericModel(ctx, &pvalue->ue_positioning_GANSS_IonosphericModel);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-IonosphericModel", -1, "SysInfoType15bis");
-   }
-   /* v860NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_SysInfoType15bis_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, "SysInfoType15bis");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_1_v920ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType15_1_v920ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-1-v920ext-IEs");
-   /* ue-positioning-GPS-DGPS-Corrections */
-   stat = asn1PE_UMTS_UE_Positioning_GPS_DGPS_Corrections_v920ext(ctx, &pvalue->ue_positioning_GPS_DGPS_Corrections);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-DGPS-Corrections", -1, "SysInfoType15-1-v920ext-IEs");
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_1_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_1_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_1_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_1_v920NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType15-1-v920ext */
-   stat = asn1PE_UMTS_SysInfoType15_1_v920ext_IEs(ctx, &pvalue->sysInfoType15_1_v920ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType15-1-v920ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType15_1_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_1(rtxContext* RT_RESTRICT ctx, const SysInfoType15_1* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-1");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-1");
-   /* ue-positioning-GPS-DGPS-Corrections */
-   stat = asn1PE_UMTS_UE_Positioning_GPS_DGPS_Corrections(ctx, &pvalue->ue_positioning_GPS_DGPS_Corrections);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-DGPS-Corrections", -1, "SysInfoType15-1");
-   /* v920NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType15_1_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtensions", -1, "SysInfoType15-1");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_1bis_v920ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType15_1bis_v920ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-1bis-v920ext-IEs");
-   /* ue-positioning-GANSS-DGANSS-Corrections */
-   stat = asn1PE_UMTS_UE_Positioning_DGANSSCorrections_v920ext(ctx, &pvalue->ue_positioning_GANSS_DGANSS_Corrections);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-DGANSS-Corrections", -1, "SysInfoType15-1bis-v920ext-IEs");
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_1bis_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_1bis_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_1bis_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_1bis_v920NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType15-1bis-v920ext */
-   stat = asn1PE_UMTS_SysInfoType15_1bis_v920ext_IEs(ctx, &pvalue->sysInfoType15_1bis_v920ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType15-1bis-v920ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType15_1bis_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_1bis(rtxContext* RT_RESTRICT ctx, const SysInfoType15_1bis* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-1bis");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-1bis");
-   /* ue-positioning-GANSS-DGANSS-Corrections */
-   stat = asn1PE_UMTS_UE_Positioning_DGANSSCorrections(ctx, &pvalue->ue_positioning_GANSS_DGANSS_Corrections);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-DGANSS-Corrections", -1, "SysInfoType15-1bis");
-   /* v920NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType15_1bis_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtensions", -1, "SysInfoType15-1bis");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_2_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_2_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_2(rtxContext* RT_RESTRICT ctx, const SysInfoType15_2* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-2");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-2");
-   /* transmissionTOW */
-   if ((uint64_t)pvalue->transmissionTOW > 604799u) {
-      rtxErrAddStrParm(ctx, "GPS-TOW-1sec");
-      rtxErrAddUIntParm(ctx, pvalue->transmissionTOW);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "GPS-TOW-1sec", "transmissionTOW", -1, "SysInfoType15-2");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->transmissionTOW, 0, 604799);
-   RT_CHECK(ctx, stat, "GPS-TOW-1sec", "transmissionTOW", -1, "SysInfoType15-2");
-   /* satID */
-   if ((uint64_t)pvalue->satID > 63u) {
-      rtxErrAddStrParm(ctx, "SatID");
-      rtxErrAddUIntParm(ctx, pvalue->satID);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "SatID", "satID", -1, "SysInfoType15-2");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->satID, 0, 63);
-   RT_CHECK(ctx, stat, "SatID", "satID", -1, "SysInfoType15-2");
-   /* ephemerisParameter */
-   stat = asn1PE_UMTS_EphemerisParameter(ctx, &pvalue->ephemerisParameter);
-   RT_CHECK(ctx, stat, 0, "ephemerisParameter", -1, "SysInfoType15-2");
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType15_2_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType15-2");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_2bis_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_2bis_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_2bis(rtxContext* RT_RESTRICT ctx, const SysInfoType15_2bis* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-2bis");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-2bis");
-   /* ue-positioning-GANSS-navigationModel */
-   stat = asn1PE_UMTS_UE_Positioning_GANSS_NavigationModel(ctx, &pvalue->ue_positioning_GANSS_navigationModel);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-navigationModel", -1, "SysInfoType15-2bis");
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType15_2bis_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType15-2bis");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_2ter_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_2ter_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_2ter(rtxContext* RT_RESTRICT ctx, const SysInfoType15_2ter* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-2ter");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-2ter");
-   /* ue-positioning-GANSS-AddNavigationModels */
-   stat = asn1PE_UMTS_UE_Positioning_GANSS_AddNavigationModels(ctx, &pvalue->ue_positioning_GANSS_AddNavigationModels);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-AddNavigationModels", -1, "SysInfoType15-2ter");
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType15_2ter_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType15-2ter");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_3_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_3_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_3(rtxContext* RT_RESTRICT ctx, const SysInfoType15_3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-3");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-3");
-   /* transmissionTOW */
-   if ((uint64_t)pvalue->transmissionTOW > 604799u) {
-      rtxErrAddStrParm(ctx, "GPS-TOW-1sec");
-      rtxErrAddUIntParm(ctx, pvalue->transmissionTOW);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "GPS-TOW-1sec", "transmissionTOW", -1, "SysInfoType15-3");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->transmissionTOW, 0, 604799);
-   RT_CHECK(ctx, stat, "GPS-TOW-1sec", "transmissionTOW", -1, "SysInfoType15-3");
-   /* ue-positioning-GPS-Almanac */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UE-Positioning-GANSS-Almanac-r8");
+   /* ganss-wk-number */
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ganss_wk_number, 0, 255);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ganss-wk-number", -1, "UE-Positioning-GANSS-Almanac-r8");
+   /* alm-keplerianParameters */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_Almanac(ctx, &pvalue->ue_positioning_GPS_Almanac);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-Almanac", -1, "SysInfoType15-3");
+      stat = enc_ALM_keplerianParameters(ctx, &pvalue->alm_keplerianParameters, cur);
+      RT_CHECK(ctx, stat, 0, "alm-keplerianParameters", -1, "UE-Positioning-GANSS-Almanac-r8");
    }
-   /* ue-positioning-GPS-IonosphericModel */
+   /* alm-keplerianNAVAlmanac */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_IonosphericModel(ctx, &pvalue->ue_positioning_GPS_IonosphericModel);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-IonosphericModel", -1, "SysInfoType15-3");
+      stat = enc_ALM_NAVKeplerianSet(ctx, &pvalue->alm_keplerianNAVAlmanac, cur);
+      RT_CHECK(ctx, stat, 0, "alm-keplerianNAVAlmanac", -1, "UE-Positioning-GANSS-Almanac-r8");
    }
-   /* ue-positioning-GPS-UTC-Model */
+   /* alm-keplerianReducedAlmanac */
    if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_UTC_Model(ctx, &pvalue->ue_positioning_GPS_UTC_Model);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-UTC-Model", -1, "SysInfoType15-3");
+      stat = enc_ALM_ReducedKeplerianSet(ctx, &pvalue->alm_keplerianReducedAlmanac, cur);
+      RT_CHECK(ctx, stat, 0, "alm-keplerianReducedAlmanac", -1, "UE-Positioning-GANSS-Almanac-r8");
    }
-   /* satMask */
+   /* alm-keplerianMidiAlmanac */
    if (pvalue->m & 0x8u) {
-      RT_SET_SIZE(ctx, 1, 32);
-      stat = pe_BitString32(ctx, &pvalue->satMask, 1, 32);
-      RT_CHECK(ctx, stat, 0, "satMask", -1, "SysInfoType15-3");
+      stat = enc_ALM_MidiAlmanacSet(ctx, &pvalue->alm_keplerianMidiAlmanac, cur);
+      RT_CHECK(ctx, stat, 0, "alm-keplerianMidiAlmanac", -1, "UE-Positioning-GANSS-Almanac-r8");
    }
-   /* lsbTOW */
+   /* alm-keplerianGLONASS */
    if (pvalue->m & 0x10u) {
-      RT_SET_SIZE(ctx, 8, 8);
-      stat = pe_BitString32(ctx, &pvalue->lsbTOW, 8, 8);
-      RT_CHECK(ctx, stat, 0, "lsbTOW", -1, "SysInfoType15-3");
+      stat = enc_ALM_GlonassAlmanacSet(ctx, &pvalue->alm_keplerianGLONASS, cur);
+      RT_CHECK(ctx, stat, 0, "alm-keplerianGLONASS", -1, "UE-Positioning-GANSS-Almanac-r8");
    }
-   /* nonCriticalExtensions */
+   /* alm-ecefSBASAlmanac */
    if (pvalue->m & 0x20u) {
-      stat = asn1PE_UMTS_SysInfoType15_3_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType15-3");
+      stat = enc_ALM_ECEFsbasAlmanacSet(ctx, &pvalue->alm_ecefSBASAlmanac, cur);
+      RT_CHECK(ctx, stat, 0, "alm-ecefSBASAlmanac", -1, "UE-Positioning-GANSS-Almanac-r8");
    }
    return 0;
 }
 
-int asn1PE_UMTS_SysInfoType15_3bis_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType15_3bis_v860ext_IEs* RT_RESTRICT pvalue)
+int asn1PE_UMTS_UE_Positioning_GANSS_Almanac_r8(rtxContext* RT_RESTRICT ctx, const UE_Positioning_GANSS_Almanac_r8* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-3bis-v860ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-3bis-v860ext-IEs");
-   /* ue-Positioning-GANSS-Almanac */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_Almanac_v860ext(ctx, &pvalue->ue_Positioning_GANSS_Almanac);
-      RT_CHECK(ctx, stat, 0, "ue-Positioning-GANSS-Almanac", -1, "SysInfoType15-3bis-v860ext-IEs");
-   }
-   /* ue-Positioning-GANSS-AddUTCModels */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AddUTCModels(ctx, &pvalue->ue_Positioning_GANSS_AddUTCModels);
-      RT_CHECK(ctx, stat, 0, "ue-Positioning-GANSS-AddUTCModels", -1, "SysInfoType15-3bis-v860ext-IEs");
-   }
-   /* ue-Positioning-GANSS-AuxiliaryInfo */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AuxiliaryInfo(ctx, &pvalue->ue_Positioning_GANSS_AuxiliaryInfo);
-      RT_CHECK(ctx, stat, 0, "ue-Positioning-GANSS-AuxiliaryInfo", -1, "SysInfoType15-3bis-v860ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_3bis_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_3bis_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_3bis_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_3bis_v860NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType15-3bis-v860ext */
-   stat = asn1PE_UMTS_SysInfoType15_3bis_v860ext_IEs(ctx, &pvalue->sysInfoType15_3bis_v860ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType15-3bis-v860ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType15_3bis_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_3bis(rtxContext* RT_RESTRICT ctx, const SysInfoType15_3bis* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-3bis");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-3bis");
-   /* ue-positioning-GANSS-Almanac */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_Almanac(ctx, &pvalue->ue_positioning_GANSS_Almanac);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-Almanac", -1, "SysInfoType15-3bis");
-   }
-   /* ue-positioning-GANSS-TimeModels */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_TimeModels(ctx, &pvalue->ue_positioning_GANSS_TimeModels);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-TimeModels", -1, "SysInfoType15-3bis");
-   }
-   /* ue-positioning-GANSS-UTC-Model */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_UTCModel(ctx, &pvalue->ue_positioning_GANSS_UTC_Model);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-UTC-Model", -1, "SysInfoType15-3bis");
-   }
-   /* v860NonCriticalExtensions */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_SysInfoType15_3bis_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, "SysInfoType15-3bis");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_4_v3a0ext(rtxContext* RT_RESTRICT ctx, const SysInfoType15_4_v3a0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-4-v3a0ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-4-v3a0ext");
-   /* sfn-Offset-Validity */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->sfn_Offset_Validity > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->sfn_Offset_Validity);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "SysInfoType15-4-v3a0ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->sfn_Offset_Validity, 0, 0);
-      RT_CHECK(ctx, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "SysInfoType15-4-v3a0ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_4_v4b0ext(rtxContext* RT_RESTRICT ctx, const SysInfoType15_4_v4b0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-4-v4b0ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-4-v4b0ext");
-   /* ue-Positioning-OTDOA-AssistanceData-r4ext */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_r4ext(ctx, &pvalue->ue_Positioning_OTDOA_AssistanceData_r4ext);
-      RT_CHECK(ctx, stat, 0, "ue-Positioning-OTDOA-AssistanceData-r4ext", -1, "SysInfoType15-4-v4b0ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType15-4-v4b0ext */
-   stat = asn1PE_UMTS_SysInfoType15_4_v4b0ext(ctx, &pvalue->sysInfoType15_4_v4b0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType15-4-v4b0ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_4_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_4_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType15-4-v3a0ext */
-   stat = asn1PE_UMTS_SysInfoType15_4_v3a0ext(ctx, &pvalue->sysInfoType15_4_v3a0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType15-4-v3a0ext", -1, 0);
-   /* v4b0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType15_4_v3a0NonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_4(rtxContext* RT_RESTRICT ctx, const SysInfoType15_4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-4");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-4");
-   /* ue-positioning-OTDOA-CipherParameters */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_CipherParameters(ctx, &pvalue->ue_positioning_OTDOA_CipherParameters);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-CipherParameters", -1, "SysInfoType15-4");
-   }
-   /* ue-positioning-OTDOA-AssistanceData */
-   stat = asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData", -1, "SysInfoType15-4");
-   /* v3a0NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_SysInfoType15_4_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, "SysInfoType15-4");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_5_v3a0ext(rtxContext* RT_RESTRICT ctx, const SysInfoType15_5_v3a0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-5-v3a0ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-5-v3a0ext");
-   /* sfn-Offset-Validity */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->sfn_Offset_Validity > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->sfn_Offset_Validity);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "SysInfoType15-5-v3a0ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->sfn_Offset_Validity, 0, 0);
-      RT_CHECK(ctx, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "SysInfoType15-5-v3a0ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_5_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType15_5_v770ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-5-v770ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-5-v770ext-IEs");
-   /* ue-Positioning-OTDOA-AssistanceData-UEB-ext */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB_ext(ctx, &pvalue->ue_Positioning_OTDOA_AssistanceData_UEB_ext);
-      RT_CHECK(ctx, stat, 0, "ue-Positioning-OTDOA-AssistanceData-UEB-ext", -1, "SysInfoType15-5-v770ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType15-5-v770ext */
-   stat = asn1PE_UMTS_SysInfoType15_5_v770ext_IEs(ctx, &pvalue->sysInfoType15_5_v770ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType15-5-v770ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_5_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_5_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType15-5-v3a0ext */
-   stat = asn1PE_UMTS_SysInfoType15_5_v3a0ext(ctx, &pvalue->sysInfoType15_5_v3a0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType15-5-v3a0ext", -1, 0);
-   /* v770NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType15_5_v3a0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_5(rtxContext* RT_RESTRICT ctx, const SysInfoType15_5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-5");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-5");
-   /* ue-positioning-OTDOA-AssistanceData-UEB */
-   stat = asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData_UEB);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData-UEB", -1, "SysInfoType15-5");
-   /* v3a0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType15_5_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, "SysInfoType15-5");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_6_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_6_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_6(rtxContext* RT_RESTRICT ctx, const SysInfoType15_6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-6");
-   /* ue-positioning-GANSS-TOD */
-   if ((uint64_t)pvalue->ue_positioning_GANSS_TOD > 86399u) {
-      rtxErrAddStrParm(ctx, "ue-positioning-GANSS-TOD");
-      rtxErrAddUIntParm(ctx, pvalue->ue_positioning_GANSS_TOD);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ue-positioning-GANSS-TOD", -1, "SysInfoType15-6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_positioning_GANSS_TOD, 0, 86399);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-TOD", -1, "SysInfoType15-6");
-   /* ue-positioning-GANSS-ReferenceMeasurementInformation */
-   stat = asn1PE_UMTS_UE_Positioning_GANSS_ReferenceMeasurementInfo(ctx, &pvalue->ue_positioning_GANSS_ReferenceMeasurementInformation);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-ReferenceMeasurementInformation", -1, "SysInfoType15-6");
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType15_6_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType15-6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_7_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_7_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_7(rtxContext* RT_RESTRICT ctx, const SysInfoType15_7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-7");
-   /* ue-positioning-GANSS-DataBitAssistance */
-   stat = asn1PE_UMTS_UE_Positioning_GANSS_Data_Bit_Assistance(ctx, &pvalue->ue_positioning_GANSS_DataBitAssistance);
-   RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-DataBitAssistance", -1, "SysInfoType15-7");
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType15_7_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType15-7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_8_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType15_8_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType15_8(rtxContext* RT_RESTRICT ctx, const SysInfoType15_8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType15-8");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType15-8");
-   /* ue-positioning-GANSS-DataCipheringInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_CipherParameters(ctx, &pvalue->ue_positioning_GANSS_DataCipheringInfo);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-DataCipheringInfo", -1, "SysInfoType15-8");
-   }
-   /* ue-positioning-GANSS-realTimeIntegrity */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_RealTimeIntegrity(ctx, &pvalue->ue_positioning_GANSS_realTimeIntegrity);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-realTimeIntegrity", -1, "SysInfoType15-8");
-   }
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_SysInfoType15_8_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType15-8");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType17_v4b0ext_IEs_tdd128SpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType17_v4b0ext_IEs_tdd128SpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-SysInfoList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PUSCH_SysInfoList_LCR_r4(ctx, &pvalue->pusch_SysInfoList);
-      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList", -1, 0);
-   }
-   /* pdsch-SysInfoList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_PDSCH_SysInfoList_LCR_r4(ctx, &pvalue->pdsch_SysInfoList);
-      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType17_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType17_v4b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType17-v4b0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType17-v4b0ext-IEs");
-   /* tdd128SpecificInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType17_v4b0ext_IEs_tdd128SpecificInfo(ctx, &pvalue->tdd128SpecificInfo);
-      RT_CHECK(ctx, stat, 0, "tdd128SpecificInfo", -1, "SysInfoType17-v4b0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType17_v590ext_IEs_hcr_r5_SpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType17_v590ext_IEs_hcr_r5_SpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-SysInfoList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PUSCH_SysInfoList_HCR_r5(ctx, &pvalue->pusch_SysInfoList);
-      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList", -1, 0);
-   }
-   /* pdsch-SysInfoList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_PDSCH_SysInfoList_HCR_r5(ctx, &pvalue->pdsch_SysInfoList);
-      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType17_v590ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType17_v590ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType17-v590ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType17-v590ext-IEs");
-   /* hcr-r5-SpecificInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType17_v590ext_IEs_hcr_r5_SpecificInfo(ctx, &pvalue->hcr_r5_SpecificInfo);
-      RT_CHECK(ctx, stat, 0, "hcr-r5-SpecificInfo", -1, "SysInfoType17-v590ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType17_v770ext_IEs_tdd768SpecificInfo(rtxContext* RT_RESTRICT ctx, const SysInfoType17_v770ext_IEs_tdd768SpecificInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* pusch-SysInfoList-SFN */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PUSCH_SysInfoList_SFN_VHCR(ctx, &pvalue->pusch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList-SFN", -1, 0);
-   }
-   /* pdsch-SysInfoList-SFN */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_PDSCH_SysInfoList_VHCR_r7(ctx, &pvalue->pdsch_SysInfoList_SFN);
-      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList-SFN", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType17_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const SysInfoType17_v770ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType17-v770ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType17-v770ext-IEs");
-   /* tdd768SpecificInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType17_v770ext_IEs_tdd768SpecificInfo(ctx, &pvalue->tdd768SpecificInfo);
-      RT_CHECK(ctx, stat, 0, "tdd768SpecificInfo", -1, "SysInfoType17-v770ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType17-v770ext */
-   stat = asn1PE_UMTS_SysInfoType17_v770ext_IEs(ctx, &pvalue->sysInfoType17_v770ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType17-v770ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType17-v590ext */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType17_v590ext_IEs(ctx, &pvalue->sysInfoType17_v590ext);
-      RT_CHECK(ctx, stat, 0, "sysInfoType17-v590ext", -1, 0);
-   }
-   /* v770NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType17_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType17_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType17-v4b0ext */
-   stat = asn1PE_UMTS_SysInfoType17_v4b0ext_IEs(ctx, &pvalue->sysInfoType17_v4b0ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType17-v4b0ext", -1, 0);
-   /* v590NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType17_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType17(rtxContext* RT_RESTRICT ctx, const SysInfoType17* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType17");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType17");
-   /* pusch-SysInfoList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PUSCH_SysInfoList(ctx, &pvalue->pusch_SysInfoList);
-      RT_CHECK(ctx, stat, 0, "pusch-SysInfoList", -1, "SysInfoType17");
-   }
-   /* pdsch-SysInfoList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_PDSCH_SysInfoList(ctx, &pvalue->pdsch_SysInfoList);
-      RT_CHECK(ctx, stat, 0, "pdsch-SysInfoList", -1, "SysInfoType17");
-   }
-   /* v4b0NonCriticalExtensions */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_SysInfoType17_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, "SysInfoType17");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType19_v920ext(rtxContext* RT_RESTRICT ctx, const SysInfoType19_v920ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType19-v920ext");
-   /* utra-PriorityInfoList-v920ext */
-   stat = asn1PE_UMTS_UTRA_PriorityInfoList_v920ext(ctx, &pvalue->utra_PriorityInfoList_v920ext);
-   RT_CHECK(ctx, stat, 0, "utra-PriorityInfoList-v920ext", -1, "SysInfoType19-v920ext");
-   /* eutra-FrequencyAndPriorityInfoList-v920ext */
-   stat = asn1PE_UMTS_EUTRA_FrequencyAndPriorityInfoList_v920ext(ctx, &pvalue->eutra_FrequencyAndPriorityInfoList_v920ext);
-   RT_CHECK(ctx, stat, 0, "eutra-FrequencyAndPriorityInfoList-v920ext", -1, "SysInfoType19-v920ext");
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType19_v920NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType19_v920NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType19_v920NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType19_v920NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* sysInfoType19-v920ext */
-   stat = asn1PE_UMTS_SysInfoType19_v920ext(ctx, &pvalue->sysInfoType19_v920ext);
-   RT_CHECK(ctx, stat, 0, "sysInfoType19-v920ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_SysInfoType19_v920NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType19(rtxContext* RT_RESTRICT ctx, const SysInfoType19* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType19");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType19");
-   /* utra-PriorityInfoList */
-   stat = asn1PE_UMTS_UTRA_PriorityInfoList(ctx, &pvalue->utra_PriorityInfoList);
-   RT_CHECK(ctx, stat, 0, "utra-PriorityInfoList", -1, "SysInfoType19");
-   /* gsm-PriorityInfoList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_GSM_PriorityInfoList(ctx, &pvalue->gsm_PriorityInfoList);
-      RT_CHECK(ctx, stat, 0, "gsm-PriorityInfoList", -1, "SysInfoType19");
-   }
-   /* eutra-FrequencyAndPriorityInfoList */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_EUTRA_FrequencyAndPriorityInfoList(ctx, &pvalue->eutra_FrequencyAndPriorityInfoList);
-      RT_CHECK(ctx, stat, 0, "eutra-FrequencyAndPriorityInfoList", -1, "SysInfoType19");
-   }
-   /* v920NonCriticalExtensions */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_SysInfoType19_v920NonCriticalExtensions(ctx, &pvalue->v920NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtensions", -1, "SysInfoType19");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType20_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const SysInfoType20_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_SysInfoType20(rtxContext* RT_RESTRICT ctx, const SysInfoType20* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "SysInfoType20");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "SysInfoType20");
-   /* hNBName */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_HNBName(ctx, &pvalue->hNBName);
-      RT_CHECK(ctx, stat, 0, "hNBName", -1, "SysInfoType20");
-   }
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_SysInfoType20_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, "SysInfoType20");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_UE_HistoryInformation(rtxContext* RT_RESTRICT ctx, const UE_HistoryInformation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "UE-HistoryInformation");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "UE-HistoryInformation");
-   /* ue-InactivityPeriod */
-   if ((uint64_t)(pvalue->ue_InactivityPeriod - 1) > 119u) {
-      rtxErrAddStrParm(ctx, "ue-InactivityPeriod");
-      rtxErrAddUIntParm(ctx, pvalue->ue_InactivityPeriod);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "ue-InactivityPeriod", -1, "UE-HistoryInformation");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ue_InactivityPeriod, 1, 120);
-   RT_CHECK(ctx, stat, 0, "ue-InactivityPeriod", -1, "UE-HistoryInformation");
-   /* ueMobilityStateIndicator */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->ueMobilityStateIndicator > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->ueMobilityStateIndicator);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "UE-HistoryInformation");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ueMobilityStateIndicator, 0, 0);
-      RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "UE-HistoryInformation");
-   }
-   /* ul-dataVolumeHistory */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DataVolumeHistory(ctx, &pvalue->ul_dataVolumeHistory);
-      RT_CHECK(ctx, stat, 0, "ul-dataVolumeHistory", -1, "UE-HistoryInformation");
-   }
-   /* dl-dataVolumeHistory */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_DataVolumeHistory(ctx, &pvalue->dl_dataVolumeHistory);
-      RT_CHECK(ctx, stat, 0, "dl-dataVolumeHistory", -1, "UE-HistoryInformation");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_AccessProbabilityFactor(rtxContext* RT_RESTRICT ctx, MBMS_AccessProbabilityFactor value)
-{
-   int stat = 0;
-   if (value > 31) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MBMS-AccessProbabilityFactor");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-AccessProbabilityFactor");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_CellGroupIdentity_r6(rtxContext* RT_RESTRICT ctx, MBMS_CellGroupIdentity_r6 value)
-{
-   int stat = 0;
-   RT_SET_SIZE(ctx, 12, 12);
-   stat = pe_BitString32(ctx, &value, 12, 12);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-CellGroupIdentity-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_CommonCCTrChIdentity(rtxContext* RT_RESTRICT ctx, MBMS_CommonCCTrChIdentity value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "MBMS-CommonCCTrChIdentity");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MBMS-CommonCCTrChIdentity");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 32);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-CommonCCTrChIdentity");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_CommonPhyChIdentity(rtxContext* RT_RESTRICT ctx, MBMS_CommonPhyChIdentity value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "MBMS-CommonPhyChIdentity");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MBMS-CommonPhyChIdentity");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 32);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-CommonPhyChIdentity");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_CommonRBIdentity(rtxContext* RT_RESTRICT ctx, MBMS_CommonRBIdentity value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "MBMS-CommonRBIdentity");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MBMS-CommonRBIdentity");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 32);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-CommonRBIdentity");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_CommonRBInformation_r6(rtxContext* RT_RESTRICT ctx, const MBMS_CommonRBInformation_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-CommonRBInformation-r6");
-   /* commonRBIdentity */
-   if ((uint64_t)(pvalue->commonRBIdentity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "MBMS-CommonRBIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->commonRBIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-CommonRBIdentity", "commonRBIdentity", -1, "MBMS-CommonRBInformation-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->commonRBIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "MBMS-CommonRBIdentity", "commonRBIdentity", -1, "MBMS-CommonRBInformation-r6");
-   /* pdcp-Info */
-   stat = asn1PE_UMTS_PDCP_Info_r4(ctx, &pvalue->pdcp_Info);
-   RT_CHECK(ctx, stat, 0, "pdcp-Info", -1, "MBMS-CommonRBInformation-r6");
-   /* rlc-Info */
-   stat = asn1PE_UMTS_RLC_Info_MTCH_r6(ctx, &pvalue->rlc_Info);
-   RT_CHECK(ctx, stat, 0, "rlc-Info", -1, "MBMS-CommonRBInformation-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_CommonRBInformationList_r6(rtxContext* RT_RESTRICT ctx, const MBMS_CommonRBInformationList_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-CommonRBInformationList-r6");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-CommonRBInformationList-r6");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-CommonRBInformation-r6", (int32_t)i, "MBMS-CommonRBInformationList-r6");
-      stat = asn1PE_UMTS_MBMS_CommonRBInformation_r6(ctx, (const MBMS_CommonRBInformation_r6*)node->data);
-      RT_CHECK(ctx, stat, 0, "MBMS-CommonRBInformation-r6", (int32_t)i, "MBMS-CommonRBInformationList-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_CommonTrChIdentity(rtxContext* RT_RESTRICT ctx, MBMS_CommonTrChIdentity value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "MBMS-CommonTrChIdentity");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MBMS-CommonTrChIdentity");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 32);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-CommonTrChIdentity");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_ConnectedModeCountingScope(rtxContext* RT_RESTRICT ctx, const MBMS_ConnectedModeCountingScope* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-ConnectedModeCountingScope");
-   /* countingForUraPCH */
-   stat = rtxEncBit(ctx, pvalue->countingForUraPCH);
-   RT_CHECK(ctx, stat, 0, "countingForUraPCH", -1, "MBMS-ConnectedModeCountingScope");
-   /* countingForCellPCH */
-   stat = rtxEncBit(ctx, pvalue->countingForCellPCH);
-   RT_CHECK(ctx, stat, 0, "countingForCellPCH", -1, "MBMS-ConnectedModeCountingScope");
-   /* countingForCellFACH */
-   stat = rtxEncBit(ctx, pvalue->countingForCellFACH);
-   RT_CHECK(ctx, stat, 0, "countingForCellFACH", -1, "MBMS-ConnectedModeCountingScope");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_SCCPCHIdentity(rtxContext* RT_RESTRICT ctx, MBMS_SCCPCHIdentity value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 15u) {
-      rtxErrAddStrParm(ctx, "MBMS-SCCPCHIdentity");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MBMS-SCCPCHIdentity");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-SCCPCHIdentity");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_SoftComb_TimingOffset(rtxContext* RT_RESTRICT ctx, MBMS_SoftComb_TimingOffset value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MBMS-SoftComb-TimingOffset");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-SoftComb-TimingOffset");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_ShortTransmissionID(rtxContext* RT_RESTRICT ctx, MBMS_ShortTransmissionID value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 63u) {
-      rtxErrAddStrParm(ctx, "MBMS-ShortTransmissionID");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MBMS-ShortTransmissionID");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 64);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-ShortTransmissionID");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_LogicalChIdentity(rtxContext* RT_RESTRICT ctx, MBMS_LogicalChIdentity value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 14u) {
-      rtxErrAddStrParm(ctx, "MBMS-LogicalChIdentity");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MBMS-LogicalChIdentity");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 15);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-LogicalChIdentity");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_PTM_RBInformation_C(rtxContext* RT_RESTRICT ctx, const MBMS_PTM_RBInformation_C* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-PTM-RBInformation-C");
-   /* rbInformation */
-   if ((uint64_t)(pvalue->rbInformation - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "MBMS-CommonRBIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->rbInformation);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-CommonRBIdentity", "rbInformation", -1, "MBMS-PTM-RBInformation-C");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rbInformation, 1, 32);
-   RT_CHECK(ctx, stat, "MBMS-CommonRBIdentity", "rbInformation", -1, "MBMS-PTM-RBInformation-C");
-   /* shortTransmissionID */
-   if ((uint64_t)(pvalue->shortTransmissionID - 1) > 63u) {
-      rtxErrAddStrParm(ctx, "MBMS-ShortTransmissionID");
-      rtxErrAddUIntParm(ctx, pvalue->shortTransmissionID);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-ShortTransmissionID", "shortTransmissionID", -1, "MBMS-PTM-RBInformation-C");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->shortTransmissionID, 1, 64);
-   RT_CHECK(ctx, stat, "MBMS-ShortTransmissionID", "shortTransmissionID", -1, "MBMS-PTM-RBInformation-C");
-   /* logicalChIdentity */
-   if ((uint64_t)(pvalue->logicalChIdentity - 1) > 14u) {
-      rtxErrAddStrParm(ctx, "MBMS-LogicalChIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->logicalChIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-LogicalChIdentity", "logicalChIdentity", -1, "MBMS-PTM-RBInformation-C");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->logicalChIdentity, 1, 15);
-   RT_CHECK(ctx, stat, "MBMS-LogicalChIdentity", "logicalChIdentity", -1, "MBMS-PTM-RBInformation-C");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_PTM_RBInformation_CList(rtxContext* RT_RESTRICT ctx, const MBMS_PTM_RBInformation_CList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-PTM-RBInformation-CList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-PTM-RBInformation-CList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-PTM-RBInformation-C", (int32_t)i, "MBMS-PTM-RBInformation-CList");
-      stat = asn1PE_UMTS_MBMS_PTM_RBInformation_C(ctx, (const MBMS_PTM_RBInformation_C*)node->data);
-      RT_CHECK(ctx, stat, 0, "MBMS-PTM-RBInformation-C", (int32_t)i, "MBMS-PTM-RBInformation-CList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_TrCHInformation_Curr(rtxContext* RT_RESTRICT ctx, const MBMS_TrCHInformation_Curr* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-TrCHInformation-Curr");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-TrCHInformation-Curr");
-   /* transpCh-Info */
-   if ((uint64_t)(pvalue->transpCh_Info - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "MBMS-CommonTrChIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->transpCh_Info);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-CommonTrChIdentity", "transpCh-Info", -1, "MBMS-TrCHInformation-Curr");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->transpCh_Info, 1, 32);
-   RT_CHECK(ctx, stat, "MBMS-CommonTrChIdentity", "transpCh-Info", -1, "MBMS-TrCHInformation-Curr");
-   /* rbInformation */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MBMS_PTM_RBInformation_CList(ctx, &pvalue->rbInformation);
-      RT_CHECK(ctx, stat, 0, "rbInformation", -1, "MBMS-TrCHInformation-Curr");
-   }
-   /* msch-ConfigurationInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_MBMS_MSCH_ConfigurationInfo_r6(ctx, &pvalue->msch_ConfigurationInfo);
-      RT_CHECK(ctx, stat, 0, "msch-ConfigurationInfo", -1, "MBMS-TrCHInformation-Curr");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_TrCHInformation_CurrList(rtxContext* RT_RESTRICT ctx, const MBMS_TrCHInformation_CurrList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-TrCHInformation-CurrList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-TrCHInformation-CurrList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-TrCHInformation-Curr", (int32_t)i, "MBMS-TrCHInformation-CurrList");
-      stat = asn1PE_UMTS_MBMS_TrCHInformation_Curr(ctx, (const MBMS_TrCHInformation_Curr*)node->data);
-      RT_CHECK(ctx, stat, 0, "MBMS-TrCHInformation-Curr", (int32_t)i, "MBMS-TrCHInformation-CurrList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_CurrentCell_SCCPCH_r6(rtxContext* RT_RESTRICT ctx, const MBMS_CurrentCell_SCCPCH_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-CurrentCell-SCCPCH-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-CurrentCell-SCCPCH-r6");
-   /* sccpchIdentity */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->sccpchIdentity - 1) > 15u) {
-         rtxErrAddStrParm(ctx, "MBMS-SCCPCHIdentity");
-         rtxErrAddUIntParm(ctx, pvalue->sccpchIdentity);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-SCCPCHIdentity", "sccpchIdentity", -1, "MBMS-CurrentCell-SCCPCH-r6");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->sccpchIdentity, 1, 16);
-      RT_CHECK(ctx, stat, "MBMS-SCCPCHIdentity", "sccpchIdentity", -1, "MBMS-CurrentCell-SCCPCH-r6");
-   }
-   /* secondaryCCPCH-Info */
-   if ((uint64_t)(pvalue->secondaryCCPCH_Info - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "MBMS-CommonPhyChIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->secondaryCCPCH_Info);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-CommonPhyChIdentity", "secondaryCCPCH-Info", -1, "MBMS-CurrentCell-SCCPCH-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->secondaryCCPCH_Info, 1, 32);
-   RT_CHECK(ctx, stat, "MBMS-CommonPhyChIdentity", "secondaryCCPCH-Info", -1, "MBMS-CurrentCell-SCCPCH-r6");
-   /* softComb-TimingOffset */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->softComb_TimingOffset > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->softComb_TimingOffset);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-SoftComb-TimingOffset", "softComb-TimingOffset", -1, "MBMS-CurrentCell-SCCPCH-r6");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->softComb_TimingOffset, 0, 3);
-      RT_CHECK(ctx, stat, "MBMS-SoftComb-TimingOffset", "softComb-TimingOffset", -1, "MBMS-CurrentCell-SCCPCH-r6");
-   }
-   /* transpCh-InfoCommonForAllTrCh */
-   if (pvalue->m & 0x4u) {
-      if ((uint64_t)(pvalue->transpCh_InfoCommonForAllTrCh - 1) > 31u) {
-         rtxErrAddStrParm(ctx, "MBMS-CommonCCTrChIdentity");
-         rtxErrAddUIntParm(ctx, pvalue->transpCh_InfoCommonForAllTrCh);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-CommonCCTrChIdentity", "transpCh-InfoCommonForAllTrCh", -1, "MBMS-CurrentCell-SCCPCH-r6");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->transpCh_InfoCommonForAllTrCh, 1, 32);
-      RT_CHECK(ctx, stat, "MBMS-CommonCCTrChIdentity", "transpCh-InfoCommonForAllTrCh", -1, "MBMS-CurrentCell-SCCPCH-r6");
-   }
-   /* transpCHInformation */
-   stat = asn1PE_UMTS_MBMS_TrCHInformation_CurrList(ctx, &pvalue->transpCHInformation);
-   RT_CHECK(ctx, stat, 0, "transpCHInformation", -1, "MBMS-CurrentCell-SCCPCH-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_CurrentCell_SCCPCHList_r6(rtxContext* RT_RESTRICT ctx, const MBMS_CurrentCell_SCCPCHList_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-CurrentCell-SCCPCHList-r6");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-CurrentCell-SCCPCHList-r6");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-CurrentCell-SCCPCH-r6", (int32_t)i, "MBMS-CurrentCell-SCCPCHList-r6");
-      stat = asn1PE_UMTS_MBMS_CurrentCell_SCCPCH_r6(ctx, (const MBMS_CurrentCell_SCCPCH_r6*)node->data);
-      RT_CHECK(ctx, stat, 0, "MBMS-CurrentCell-SCCPCH-r6", (int32_t)i, "MBMS-CurrentCell-SCCPCHList-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_JoinedInformation_r6(rtxContext* RT_RESTRICT ctx, const MBMS_JoinedInformation_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-JoinedInformation-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-JoinedInformation-r6");
-   /* p-TMSI */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_P_TMSI_GSM_MAP(ctx, pvalue->p_TMSI);
-      RT_CHECK(ctx, stat, 0, "p-TMSI", -1, "MBMS-JoinedInformation-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, const MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* periodStart */
-   if ((uint64_t)pvalue->periodStart > 7u) {
-      rtxErrAddStrParm(ctx, "periodStart");
-      rtxErrAddUIntParm(ctx, pvalue->periodStart);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "periodStart", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->periodStart, 0, 7);
-   RT_CHECK(ctx, stat, 0, "periodStart", -1, 0);
-   /* periodDuration */
-   if ((uint64_t)(pvalue->periodDuration - 1) > 7u) {
-      rtxErrAddStrParm(ctx, "periodDuration");
-      rtxErrAddUIntParm(ctx, pvalue->periodDuration);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "periodDuration", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->periodDuration, 1, 8);
-   RT_CHECK(ctx, stat, 0, "periodDuration", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, const MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
-      stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element(ctx, (const MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L1CombiningSchedule_32(rtxContext* RT_RESTRICT ctx, const MBMS_L1CombiningSchedule_32* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-L1CombiningSchedule-32");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-L1CombiningSchedule-32");
-   /* cycleOffset */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->cycleOffset > 7u) {
-         rtxErrAddStrParm(ctx, "cycleOffset");
-         rtxErrAddUIntParm(ctx, pvalue->cycleOffset);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "cycleOffset", -1, "MBMS-L1CombiningSchedule-32");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->cycleOffset, 0, 7);
-      RT_CHECK(ctx, stat, 0, "cycleOffset", -1, "MBMS-L1CombiningSchedule-32");
-   }
-   /* mtch-L1CombiningPeriodList */
-   stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_32_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList);
-   RT_CHECK(ctx, stat, 0, "mtch-L1CombiningPeriodList", -1, "MBMS-L1CombiningSchedule-32");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, const MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* periodStart */
-   if ((uint64_t)pvalue->periodStart > 15u) {
-      rtxErrAddStrParm(ctx, "periodStart");
-      rtxErrAddUIntParm(ctx, pvalue->periodStart);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "periodStart", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->periodStart, 0, 15);
-   RT_CHECK(ctx, stat, 0, "periodStart", -1, 0);
-   /* periodDuration */
-   if ((uint64_t)(pvalue->periodDuration - 1) > 15u) {
-      rtxErrAddStrParm(ctx, "periodDuration");
-      rtxErrAddUIntParm(ctx, pvalue->periodDuration);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "periodDuration", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->periodDuration, 1, 16);
-   RT_CHECK(ctx, stat, 0, "periodDuration", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, const MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
-      stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element(ctx, (const MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L1CombiningSchedule_64(rtxContext* RT_RESTRICT ctx, const MBMS_L1CombiningSchedule_64* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-L1CombiningSchedule-64");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-L1CombiningSchedule-64");
-   /* cycleOffset */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->cycleOffset > 15u) {
-         rtxErrAddStrParm(ctx, "cycleOffset");
-         rtxErrAddUIntParm(ctx, pvalue->cycleOffset);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "cycleOffset", -1, "MBMS-L1CombiningSchedule-64");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->cycleOffset, 0, 15);
-      RT_CHECK(ctx, stat, 0, "cycleOffset", -1, "MBMS-L1CombiningSchedule-64");
-   }
-   /* mtch-L1CombiningPeriodList */
-   stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_64_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList);
-   RT_CHECK(ctx, stat, 0, "mtch-L1CombiningPeriodList", -1, "MBMS-L1CombiningSchedule-64");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, const MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* periodStart */
-   if ((uint64_t)pvalue->periodStart > 31u) {
-      rtxErrAddStrParm(ctx, "periodStart");
-      rtxErrAddUIntParm(ctx, pvalue->periodStart);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "periodStart", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->periodStart, 0, 31);
-   RT_CHECK(ctx, stat, 0, "periodStart", -1, 0);
-   /* periodDuration */
-   if ((uint64_t)(pvalue->periodDuration - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "periodDuration");
-      rtxErrAddUIntParm(ctx, pvalue->periodDuration);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "periodDuration", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->periodDuration, 1, 32);
-   RT_CHECK(ctx, stat, 0, "periodDuration", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, const MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
-      stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element(ctx, (const MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L1CombiningSchedule_128(rtxContext* RT_RESTRICT ctx, const MBMS_L1CombiningSchedule_128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-L1CombiningSchedule-128");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-L1CombiningSchedule-128");
-   /* cycleOffset */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->cycleOffset > 31u) {
-         rtxErrAddStrParm(ctx, "cycleOffset");
-         rtxErrAddUIntParm(ctx, pvalue->cycleOffset);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "cycleOffset", -1, "MBMS-L1CombiningSchedule-128");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->cycleOffset, 0, 31);
-      RT_CHECK(ctx, stat, 0, "cycleOffset", -1, "MBMS-L1CombiningSchedule-128");
-   }
-   /* mtch-L1CombiningPeriodList */
-   stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_128_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList);
-   RT_CHECK(ctx, stat, 0, "mtch-L1CombiningPeriodList", -1, "MBMS-L1CombiningSchedule-128");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, const MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* periodStart */
-   if ((uint64_t)pvalue->periodStart > 63u) {
-      rtxErrAddStrParm(ctx, "periodStart");
-      rtxErrAddUIntParm(ctx, pvalue->periodStart);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "periodStart", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->periodStart, 0, 63);
-   RT_CHECK(ctx, stat, 0, "periodStart", -1, 0);
-   /* periodDuration */
-   if ((uint64_t)(pvalue->periodDuration - 1) > 63u) {
-      rtxErrAddStrParm(ctx, "periodDuration");
-      rtxErrAddUIntParm(ctx, pvalue->periodDuration);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "periodDuration", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->periodDuration, 1, 64);
-   RT_CHECK(ctx, stat, 0, "periodDuration", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, const MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
-      stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element(ctx, (const MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L1CombiningSchedule_256(rtxContext* RT_RESTRICT ctx, const MBMS_L1CombiningSchedule_256* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-L1CombiningSchedule-256");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-L1CombiningSchedule-256");
-   /* cycleOffset */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->cycleOffset > 63u) {
-         rtxErrAddStrParm(ctx, "cycleOffset");
-         rtxErrAddUIntParm(ctx, pvalue->cycleOffset);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "cycleOffset", -1, "MBMS-L1CombiningSchedule-256");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->cycleOffset, 0, 63);
-      RT_CHECK(ctx, stat, 0, "cycleOffset", -1, "MBMS-L1CombiningSchedule-256");
-   }
-   /* mtch-L1CombiningPeriodList */
-   stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_256_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList);
-   RT_CHECK(ctx, stat, 0, "mtch-L1CombiningPeriodList", -1, "MBMS-L1CombiningSchedule-256");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, const MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* periodStart */
-   if ((uint64_t)pvalue->periodStart > 127u) {
-      rtxErrAddStrParm(ctx, "periodStart");
-      rtxErrAddUIntParm(ctx, pvalue->periodStart);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "periodStart", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->periodStart, 0, 127);
-   RT_CHECK(ctx, stat, 0, "periodStart", -1, 0);
-   /* periodDuration */
-   if ((uint64_t)(pvalue->periodDuration - 1) > 127u) {
-      rtxErrAddStrParm(ctx, "periodDuration");
-      rtxErrAddUIntParm(ctx, pvalue->periodDuration);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "periodDuration", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->periodDuration, 1, 128);
-   RT_CHECK(ctx, stat, 0, "periodDuration", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, const MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
-      stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element(ctx, (const MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L1CombiningSchedule_512(rtxContext* RT_RESTRICT ctx, const MBMS_L1CombiningSchedule_512* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-L1CombiningSchedule-512");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-L1CombiningSchedule-512");
-   /* cycleOffset */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->cycleOffset > 127u) {
-         rtxErrAddStrParm(ctx, "cycleOffset");
-         rtxErrAddUIntParm(ctx, pvalue->cycleOffset);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "cycleOffset", -1, "MBMS-L1CombiningSchedule-512");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->cycleOffset, 0, 127);
-      RT_CHECK(ctx, stat, 0, "cycleOffset", -1, "MBMS-L1CombiningSchedule-512");
-   }
-   /* mtch-L1CombiningPeriodList */
-   stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_512_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList);
-   RT_CHECK(ctx, stat, 0, "mtch-L1CombiningPeriodList", -1, "MBMS-L1CombiningSchedule-512");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element(rtxContext* RT_RESTRICT ctx, const MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* periodStart */
-   stat = pe_ConsUInt64(ctx, pvalue->periodStart, 0, 255);
-   RT_CHECK(ctx, stat, 0, "periodStart", -1, 0);
-   /* periodDuration */
-   if ((uint64_t)(pvalue->periodDuration - 1) > 255u) {
-      rtxErrAddStrParm(ctx, "periodDuration");
-      rtxErrAddUIntParm(ctx, pvalue->periodDuration);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "periodDuration", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->periodDuration, 1, 256);
-   RT_CHECK(ctx, stat, 0, "periodDuration", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList(rtxContext* RT_RESTRICT ctx, const MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "element", (int32_t)i, 0);
-      stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element(ctx, (const MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList_element*)node->data);
-      RT_CHECK(ctx, stat, 0, "element", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L1CombiningSchedule_1024(rtxContext* RT_RESTRICT ctx, const MBMS_L1CombiningSchedule_1024* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-L1CombiningSchedule-1024");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-L1CombiningSchedule-1024");
-   /* cycleOffset */
-   if (pvalue->m & 0x1u) {
-      stat = pe_ConsUInt64(ctx, pvalue->cycleOffset, 0, 255);
-      RT_CHECK(ctx, stat, 0, "cycleOffset", -1, "MBMS-L1CombiningSchedule-1024");
-   }
-   /* mtch-L1CombiningPeriodList */
-   stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_1024_mtch_L1CombiningPeriodList(ctx, &pvalue->mtch_L1CombiningPeriodList);
-   RT_CHECK(ctx, stat, 0, "mtch-L1CombiningPeriodList", -1, "MBMS-L1CombiningSchedule-1024");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L1CombiningSchedule(rtxContext* RT_RESTRICT ctx, const MBMS_L1CombiningSchedule* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-L1CombiningSchedule");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 5);
-   RT_CHECK(ctx, stat, 0, "t", -1, "MBMS-L1CombiningSchedule");
-   if (pvalue->t - 1 > 5) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MBMS-L1CombiningSchedule");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.cycleLength_32 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cycleLength-32", -1, "MBMS-L1CombiningSchedule");
-         stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_32(ctx, pvalue->u.cycleLength_32);
-         RT_CHECK(ctx, stat, 0, "cycleLength-32", -1, "MBMS-L1CombiningSchedule");
-         break;
-      case 2:
-         if (pvalue->u.cycleLength_64 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cycleLength-64", -1, "MBMS-L1CombiningSchedule");
-         stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_64(ctx, pvalue->u.cycleLength_64);
-         RT_CHECK(ctx, stat, 0, "cycleLength-64", -1, "MBMS-L1CombiningSchedule");
-         break;
-      case 3:
-         if (pvalue->u.cycleLength_128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cycleLength-128", -1, "MBMS-L1CombiningSchedule");
-         stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_128(ctx, pvalue->u.cycleLength_128);
-         RT_CHECK(ctx, stat, 0, "cycleLength-128", -1, "MBMS-L1CombiningSchedule");
-         break;
-      case 4:
-         if (pvalue->u.cycleLength_256 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cycleLength-256", -1, "MBMS-L1CombiningSchedule");
-         stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_256(ctx, pvalue->u.cycleLength_256);
-         RT_CHECK(ctx, stat, 0, "cycleLength-256", -1, "MBMS-L1CombiningSchedule");
-         break;
-      case 5:
-         if (pvalue->u.cycleLength_512 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cycleLength-512", -1, "MBMS-L1CombiningSchedule");
-         stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_512(ctx, pvalue->u.cycleLength_512);
-         RT_CHECK(ctx, stat, 0, "cycleLength-512", -1, "MBMS-L1CombiningSchedule");
-         break;
-      case 6:
-         if (pvalue->u.cycleLength_1024 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "cycleLength-1024", -1, "MBMS-L1CombiningSchedule");
-         stat = asn1PE_UMTS_MBMS_L1CombiningSchedule_1024(ctx, pvalue->u.cycleLength_1024);
-         RT_CHECK(ctx, stat, 0, "cycleLength-1024", -1, "MBMS-L1CombiningSchedule");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L1CombiningTransmTimeDiff(rtxContext* RT_RESTRICT ctx, MBMS_L1CombiningTransmTimeDiff value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 3u) {
-      rtxErrAddStrParm(ctx, "MBMS-L1CombiningTransmTimeDiff");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MBMS-L1CombiningTransmTimeDiff");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-L1CombiningTransmTimeDiff");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L23Configuration_sameAsCurrent(rtxContext* RT_RESTRICT ctx, const MBMS_L23Configuration_sameAsCurrent* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* currentCell-SCCPCH */
-   if ((uint64_t)(pvalue->currentCell_SCCPCH - 1) > 15u) {
-      rtxErrAddStrParm(ctx, "MBMS-SCCPCHIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->currentCell_SCCPCH);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-SCCPCHIdentity", "currentCell-SCCPCH", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->currentCell_SCCPCH, 1, 16);
-   RT_CHECK(ctx, stat, "MBMS-SCCPCHIdentity", "currentCell-SCCPCH", -1, 0);
-   /* msch-ConfigurationInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MBMS_MSCH_ConfigurationInfo_r6(ctx, &pvalue->msch_ConfigurationInfo);
-      RT_CHECK(ctx, stat, 0, "msch-ConfigurationInfo", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_PTM_RBInformation_N(rtxContext* RT_RESTRICT ctx, const MBMS_PTM_RBInformation_N* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-PTM-RBInformation-N");
-   /* shortTransmissionID */
-   if ((uint64_t)(pvalue->shortTransmissionID - 1) > 63u) {
-      rtxErrAddStrParm(ctx, "MBMS-ShortTransmissionID");
-      rtxErrAddUIntParm(ctx, pvalue->shortTransmissionID);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-ShortTransmissionID", "shortTransmissionID", -1, "MBMS-PTM-RBInformation-N");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->shortTransmissionID, 1, 64);
-   RT_CHECK(ctx, stat, "MBMS-ShortTransmissionID", "shortTransmissionID", -1, "MBMS-PTM-RBInformation-N");
-   /* logicalChIdentity */
-   if ((uint64_t)(pvalue->logicalChIdentity - 1) > 14u) {
-      rtxErrAddStrParm(ctx, "MBMS-LogicalChIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->logicalChIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-LogicalChIdentity", "logicalChIdentity", -1, "MBMS-PTM-RBInformation-N");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->logicalChIdentity, 1, 15);
-   RT_CHECK(ctx, stat, "MBMS-LogicalChIdentity", "logicalChIdentity", -1, "MBMS-PTM-RBInformation-N");
-   /* layer1-CombiningStatus */
-   stat = rtxEncBit(ctx, pvalue->layer1_CombiningStatus);
-   RT_CHECK(ctx, stat, 0, "layer1-CombiningStatus", -1, "MBMS-PTM-RBInformation-N");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_PTM_RBInformation_NList(rtxContext* RT_RESTRICT ctx, const MBMS_PTM_RBInformation_NList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-PTM-RBInformation-NList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-PTM-RBInformation-NList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-PTM-RBInformation-N", (int32_t)i, "MBMS-PTM-RBInformation-NList");
-      stat = asn1PE_UMTS_MBMS_PTM_RBInformation_N(ctx, (const MBMS_PTM_RBInformation_N*)node->data);
-      RT_CHECK(ctx, stat, 0, "MBMS-PTM-RBInformation-N", (int32_t)i, "MBMS-PTM-RBInformation-NList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_TrCHInformation_Neighb(rtxContext* RT_RESTRICT ctx, const MBMS_TrCHInformation_Neighb* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-TrCHInformation-Neighb");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-TrCHInformation-Neighb");
-   /* transpCh-Info */
-   if ((uint64_t)(pvalue->transpCh_Info - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "MBMS-CommonTrChIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->transpCh_Info);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-CommonTrChIdentity", "transpCh-Info", -1, "MBMS-TrCHInformation-Neighb");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->transpCh_Info, 1, 32);
-   RT_CHECK(ctx, stat, "MBMS-CommonTrChIdentity", "transpCh-Info", -1, "MBMS-TrCHInformation-Neighb");
-   /* transpCh-CombiningStatus */
-   stat = rtxEncBit(ctx, pvalue->transpCh_CombiningStatus);
-   RT_CHECK(ctx, stat, 0, "transpCh-CombiningStatus", -1, "MBMS-TrCHInformation-Neighb");
-   /* rbInformation */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MBMS_PTM_RBInformation_NList(ctx, &pvalue->rbInformation);
-      RT_CHECK(ctx, stat, 0, "rbInformation", -1, "MBMS-TrCHInformation-Neighb");
-   }
-   /* msch-ConfigurationInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_MBMS_MSCH_ConfigurationInfo_r6(ctx, &pvalue->msch_ConfigurationInfo);
-      RT_CHECK(ctx, stat, 0, "msch-ConfigurationInfo", -1, "MBMS-TrCHInformation-Neighb");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_TrCHInformation_NeighbList(rtxContext* RT_RESTRICT ctx, const MBMS_TrCHInformation_NeighbList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-TrCHInformation-NeighbList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-TrCHInformation-NeighbList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-TrCHInformation-Neighb", (int32_t)i, "MBMS-TrCHInformation-NeighbList");
-      stat = asn1PE_UMTS_MBMS_TrCHInformation_Neighb(ctx, (const MBMS_TrCHInformation_Neighb*)node->data);
-      RT_CHECK(ctx, stat, 0, "MBMS-TrCHInformation-Neighb", (int32_t)i, "MBMS-TrCHInformation-NeighbList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L23Configuration_different(rtxContext* RT_RESTRICT ctx, const MBMS_L23Configuration_different* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* transpCh-InfoCommonForAllTrCh */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->transpCh_InfoCommonForAllTrCh - 1) > 31u) {
-         rtxErrAddStrParm(ctx, "MBMS-CommonCCTrChIdentity");
-         rtxErrAddUIntParm(ctx, pvalue->transpCh_InfoCommonForAllTrCh);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-CommonCCTrChIdentity", "transpCh-InfoCommonForAllTrCh", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->transpCh_InfoCommonForAllTrCh, 1, 32);
-      RT_CHECK(ctx, stat, "MBMS-CommonCCTrChIdentity", "transpCh-InfoCommonForAllTrCh", -1, 0);
-   }
-   /* transpCHInformation */
-   stat = asn1PE_UMTS_MBMS_TrCHInformation_NeighbList(ctx, &pvalue->transpCHInformation);
-   RT_CHECK(ctx, stat, 0, "transpCHInformation", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_L23Configuration(rtxContext* RT_RESTRICT ctx, const MBMS_L23Configuration* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-L23Configuration");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "MBMS-L23Configuration");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "MBMS-L23Configuration");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.sameAsCurrent == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sameAsCurrent", -1, "MBMS-L23Configuration");
-         stat = asn1PE_UMTS_MBMS_L23Configuration_sameAsCurrent(ctx, pvalue->u.sameAsCurrent);
-         RT_CHECK(ctx, stat, 0, "sameAsCurrent", -1, "MBMS-L23Configuration");
-         break;
-      case 2:
-         if (pvalue->u.different == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "different", -1, "MBMS-L23Configuration");
-         stat = asn1PE_UMTS_MBMS_L23Configuration_different(ctx, pvalue->u.different);
-         RT_CHECK(ctx, stat, 0, "different", -1, "MBMS-L23Configuration");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_MICHPowerOffset(rtxContext* RT_RESTRICT ctx, MBMS_MICHPowerOffset value)
-{
-   int stat = 0;
-   if (value < -10 || value > 5) {
-      rtxErrAddStrParm(ctx, "MBMS-MICHPowerOffset");
-      rtxErrAddIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MBMS-MICHPowerOffset");
-   }
-   stat = pe_ConsInt64(ctx, value, -10, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-MICHPowerOffset");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_NI_CountPerFrame(rtxContext* RT_RESTRICT ctx, MBMS_NI_CountPerFrame value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MBMS-NI-CountPerFrame");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-NI-CountPerFrame");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_MICHConfigurationInfo_r6_mode_fdd(rtxContext* RT_RESTRICT ctx, const MBMS_MICHConfigurationInfo_r6_mode_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* channelisationCode256 */
-   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode256, 0, 255);
-   RT_CHECK(ctx, stat, "ChannelisationCode256", "channelisationCode256", -1, 0);
-   /* ni-CountPerFrame */
-   if (pvalue->ni_CountPerFrame > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->ni_CountPerFrame);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-NI-CountPerFrame", "ni-CountPerFrame", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ni_CountPerFrame, 0, 3);
-   RT_CHECK(ctx, stat, "MBMS-NI-CountPerFrame", "ni-CountPerFrame", -1, 0);
-   /* sttd-Indicator */
-   stat = rtxEncBit(ctx, pvalue->sttd_Indicator);
-   RT_CHECK(ctx, stat, 0, "sttd-Indicator", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_MICHNotificationIndLength(rtxContext* RT_RESTRICT ctx, MBMS_MICHNotificationIndLength value)
-{
-   int stat = 0;
-   if (value > 2) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MBMS-MICHNotificationIndLength");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-MICHNotificationIndLength");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd384(rtxContext* RT_RESTRICT ctx, const MBMS_MICHConfigurationInfo_r6_mode_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)(pvalue->mbmsNotificationIndLength != 0) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* timeslot */
-   if ((uint64_t)pvalue->timeslot > 14u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber");
-      rtxErrAddUIntParm(ctx, pvalue->timeslot);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber", "timeslot", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 14);
-   RT_CHECK(ctx, stat, "TimeslotNumber", "timeslot", -1, 0);
-   /* midambleShiftAndBurstType */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, 0);
-   /* channelisationCode */
-   if (pvalue->channelisationCode > 15) {
-      rtxErrAddUIntParm(ctx, pvalue->channelisationCode);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "DL-TS-ChannelisationCode", "channelisationCode", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode, 0, 15);
-   RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode", "channelisationCode", -1, 0);
-   /* repetitionPeriodLengthOffset */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RepPerLengthOffset_MICH(ctx, &pvalue->repetitionPeriodLengthOffset);
-      RT_CHECK(ctx, stat, 0, "repetitionPeriodLengthOffset", -1, 0);
-   }
-   /* mbmsNotificationIndLength */
-   if (pvalue->mbmsNotificationIndLength != 0) {
-      if (pvalue->mbmsNotificationIndLength > 2) {
-         rtxErrAddUIntParm(ctx, pvalue->mbmsNotificationIndLength);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-MICHNotificationIndLength", "mbmsNotificationIndLength", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mbmsNotificationIndLength, 0, 2);
-      RT_CHECK(ctx, stat, "MBMS-MICHNotificationIndLength", "mbmsNotificationIndLength", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd128_channelisationCodeList(rtxContext* RT_RESTRICT ctx, const MBMS_MICHConfigurationInfo_r6_mode_tdd128_channelisationCodeList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 2);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, 0);
-   for (i = 0; i < pvalue->n; i++) {
-      if (pvalue->elem[i] > 15) {
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "DL-TS-ChannelisationCode", "DL-TS-ChannelisationCode", (int32_t)i, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 0, 15);
-      RT_CHECK(ctx, stat, "DL-TS-ChannelisationCode", "DL-TS-ChannelisationCode", (int32_t)i, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd128(rtxContext* RT_RESTRICT ctx, const MBMS_MICHConfigurationInfo_r6_mode_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)(pvalue->mbmsNotificationIndLength != 0) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* timeslot */
-   if ((uint64_t)pvalue->timeslot > 6u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
-      rtxErrAddUIntParm(ctx, pvalue->timeslot);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeslot", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeslot, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeslot", -1, 0);
-   /* midambleShiftAndBurstType */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_LCR_r4(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, 0);
-   /* channelisationCodeList */
-   stat = asn1PE_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd128_channelisationCodeList(ctx, &pvalue->channelisationCodeList);
-   RT_CHECK(ctx, stat, 0, "channelisationCodeList", -1, 0);
-   /* repetitionPeriodLengthOffset */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RepPerLengthOffset_MICH(ctx, &pvalue->repetitionPeriodLengthOffset);
-      RT_CHECK(ctx, stat, 0, "repetitionPeriodLengthOffset", -1, 0);
-   }
-   /* mbmsNotificationIndLength */
-   if (pvalue->mbmsNotificationIndLength != 0) {
-      if (pvalue->mbmsNotificationIndLength > 2) {
-         rtxErrAddUIntParm(ctx, pvalue->mbmsNotificationIndLength);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-MICHNotificationIndLength", "mbmsNotificationIndLength", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mbmsNotificationIndLength, 0, 2);
-      RT_CHECK(ctx, stat, "MBMS-MICHNotificationIndLength", "mbmsNotificationIndLength", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_MICHConfigurationInfo_r6_mode(rtxContext* RT_RESTRICT ctx, const MBMS_MICHConfigurationInfo_r6_mode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_MBMS_MICHConfigurationInfo_r6_mode_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
-         stat = asn1PE_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 3:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_MBMS_MICHConfigurationInfo_r6_mode_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_MICHConfigurationInfo_r6(rtxContext* RT_RESTRICT ctx, const MBMS_MICHConfigurationInfo_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-MICHConfigurationInfo-r6");
-   /* michPowerOffset */
-   if (pvalue->michPowerOffset < -10 || pvalue->michPowerOffset > 5) {
-      rtxErrAddStrParm(ctx, "MBMS-MICHPowerOffset");
-      rtxErrAddIntParm(ctx, pvalue->michPowerOffset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-MICHPowerOffset", "michPowerOffset", -1, "MBMS-MICHConfigurationInfo-r6");
-   }
-   stat = pe_ConsInt64(ctx, pvalue->michPowerOffset, -10, 5);
-   RT_CHECK(ctx, stat, "MBMS-MICHPowerOffset", "michPowerOffset", -1, "MBMS-MICHConfigurationInfo-r6");
-   /* mode */
-   stat = asn1PE_UMTS_MBMS_MICHConfigurationInfo_r6_mode(ctx, &pvalue->mode);
-   RT_CHECK(ctx, stat, 0, "mode", -1, "MBMS-MICHConfigurationInfo-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd384(rtxContext* RT_RESTRICT ctx, const MBMS_MICHConfigurationInfo_v770ext_mode_tdd384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* midambleShiftAndBurstType */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_r7(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd768(rtxContext* RT_RESTRICT ctx, const MBMS_MICHConfigurationInfo_v770ext_mode_tdd768* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* midambleShiftAndBurstType */
-   stat = asn1PE_UMTS_MidambleShiftAndBurstType_VHCR(ctx, &pvalue->midambleShiftAndBurstType);
-   RT_CHECK(ctx, stat, 0, "midambleShiftAndBurstType", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd128(rtxContext* RT_RESTRICT ctx, const MBMS_MICHConfigurationInfo_v770ext_mode_tdd128* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* mbsfnSpecialTimeSlot */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->mbsfnSpecialTimeSlot > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->mbsfnSpecialTimeSlot);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "TimeSlotLCR-ext", "mbsfnSpecialTimeSlot", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mbsfnSpecialTimeSlot, 0, 3);
-      RT_CHECK(ctx, stat, "TimeSlotLCR-ext", "mbsfnSpecialTimeSlot", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode(rtxContext* RT_RESTRICT ctx, const MBMS_MICHConfigurationInfo_v770ext_mode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 2) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.tdd384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd384", -1, 0);
-         stat = asn1PE_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd384(ctx, pvalue->u.tdd384);
-         RT_CHECK(ctx, stat, 0, "tdd384", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.tdd768 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd768", -1, 0);
-         stat = asn1PE_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd768(ctx, pvalue->u.tdd768);
-         RT_CHECK(ctx, stat, 0, "tdd768", -1, 0);
-         break;
-      case 3:
-         if (pvalue->u.tdd128 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
-         stat = asn1PE_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode_tdd128(ctx, pvalue->u.tdd128);
-         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_MICHConfigurationInfo_v770ext(rtxContext* RT_RESTRICT ctx, const MBMS_MICHConfigurationInfo_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-MICHConfigurationInfo-v770ext");
-   /* mode */
-   stat = asn1PE_UMTS_MBMS_MICHConfigurationInfo_v770ext_mode(ctx, &pvalue->mode);
-   RT_CHECK(ctx, stat, 0, "mode", -1, "MBMS-MICHConfigurationInfo-v770ext");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_NI_CountPerFrame_IMB384(rtxContext* RT_RESTRICT ctx, MBMS_NI_CountPerFrame_IMB384 value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MBMS-NI-CountPerFrame-IMB384");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-NI-CountPerFrame-IMB384");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_MICHConfigurationInfo_v890ext_mode_imb384(rtxContext* RT_RESTRICT ctx, const MBMS_MICHConfigurationInfo_v890ext_mode_imb384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* channelisationCode256 */
-   stat = pe_ConsUInt64(ctx, pvalue->channelisationCode256, 0, 255);
-   RT_CHECK(ctx, stat, "ChannelisationCode256", "channelisationCode256", -1, 0);
-   /* ni-CountPerFrame */
-   if (pvalue->ni_CountPerFrame > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->ni_CountPerFrame);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-NI-CountPerFrame-IMB384", "ni-CountPerFrame", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->ni_CountPerFrame, 0, 3);
-   RT_CHECK(ctx, stat, "MBMS-NI-CountPerFrame-IMB384", "ni-CountPerFrame", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_MICHConfigurationInfo_v890ext_mode(rtxContext* RT_RESTRICT ctx, const MBMS_MICHConfigurationInfo_v890ext_mode* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 0);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 0) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.imb384 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "imb384", -1, 0);
-         stat = asn1PE_UMTS_MBMS_MICHConfigurationInfo_v890ext_mode_imb384(ctx, pvalue->u.imb384);
-         RT_CHECK(ctx, stat, 0, "imb384", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_MICHConfigurationInfo_v890ext(rtxContext* RT_RESTRICT ctx, const MBMS_MICHConfigurationInfo_v890ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-MICHConfigurationInfo-v890ext");
-   /* mode */
-   stat = asn1PE_UMTS_MBMS_MICHConfigurationInfo_v890ext_mode(ctx, &pvalue->mode);
-   RT_CHECK(ctx, stat, 0, "mode", -1, "MBMS-MICHConfigurationInfo-v890ext");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_ServiceIdentity_r6_serviceIdentity(rtxContext* RT_RESTRICT ctx, const MBMS_ServiceIdentity_r6_serviceIdentity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   RT_SET_SIZE(ctx, 3, 3);
-   stat = pe_OctetString(ctx, pvalue->numocts, pvalue->data);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_ServiceIdentity_r6_plmn_Identity_other(rtxContext* RT_RESTRICT ctx, const MBMS_ServiceIdentity_r6_plmn_Identity_other* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if ((uint64_t)(pvalue->u.sameAsMIB_MultiPLMN_Id - 1) > 4u) {
-            rtxErrAddStrParm(ctx, "sameAsMIB-MultiPLMN-Id");
-            rtxErrAddUIntParm(ctx, pvalue->u.sameAsMIB_MultiPLMN_Id);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "sameAsMIB-MultiPLMN-Id", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.sameAsMIB_MultiPLMN_Id, 1, 5);
-         RT_CHECK(ctx, stat, 0, "sameAsMIB-MultiPLMN-Id", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.explicitPLMN_Id == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "explicitPLMN-Id", -1, 0);
-         stat = asn1PE_UMTS_PLMN_Identity(ctx, pvalue->u.explicitPLMN_Id);
-         RT_CHECK(ctx, stat, 0, "explicitPLMN-Id", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_ServiceIdentity_r6_plmn_Identity(rtxContext* RT_RESTRICT ctx, const MBMS_ServiceIdentity_r6_plmn_Identity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.other == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "other", -1, 0);
-         stat = asn1PE_UMTS_MBMS_ServiceIdentity_r6_plmn_Identity_other(ctx, pvalue->u.other);
-         RT_CHECK(ctx, stat, 0, "other", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_ServiceIdentity_r6(rtxContext* RT_RESTRICT ctx, const MBMS_ServiceIdentity_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-ServiceIdentity-r6");
-   /* serviceIdentity */
-   stat = asn1PE_UMTS_MBMS_ServiceIdentity_r6_serviceIdentity(ctx, &pvalue->serviceIdentity);
-   RT_CHECK(ctx, stat, 0, "serviceIdentity", -1, "MBMS-ServiceIdentity-r6");
-   /* plmn-Identity */
-   stat = asn1PE_UMTS_MBMS_ServiceIdentity_r6_plmn_Identity(ctx, &pvalue->plmn_Identity);
-   RT_CHECK(ctx, stat, 0, "plmn-Identity", -1, "MBMS-ServiceIdentity-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_TransmissionIdentity(rtxContext* RT_RESTRICT ctx, const MBMS_TransmissionIdentity* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-TransmissionIdentity");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-TransmissionIdentity");
-   /* mbms-ServiceIdentity */
-   stat = asn1PE_UMTS_MBMS_ServiceIdentity_r6(ctx, &pvalue->mbms_ServiceIdentity);
-   RT_CHECK(ctx, stat, 0, "mbms-ServiceIdentity", -1, "MBMS-TransmissionIdentity");
-   /* mbms-SessionIdentity */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MBMS_SessionIdentity(ctx, &pvalue->mbms_SessionIdentity);
-      RT_CHECK(ctx, stat, 0, "mbms-SessionIdentity", -1, "MBMS-TransmissionIdentity");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_RequiredUEAction_Mod(rtxContext* RT_RESTRICT ctx, MBMS_RequiredUEAction_Mod value)
-{
-   int stat = 0;
-   if (value > 5) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MBMS-RequiredUEAction-Mod");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-RequiredUEAction-Mod");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_PFLIndex(rtxContext* RT_RESTRICT ctx, MBMS_PFLIndex value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 3u) {
-      rtxErrAddStrParm(ctx, "MBMS-PFLIndex");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MBMS-PFLIndex");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-PFLIndex");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_PFLInfo(rtxContext* RT_RESTRICT ctx, const MBMS_PFLInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-PFLInfo");
-   stat = asn1PE_UMTS_FrequencyInfo(ctx, pvalue);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-PFLInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_ModifedService_r6_mbms_PreferredFrequency(rtxContext* RT_RESTRICT ctx, const MBMS_ModifedService_r6_mbms_PreferredFrequency* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if ((uint64_t)(pvalue->u.mcch - 1) > 3u) {
-            rtxErrAddStrParm(ctx, "MBMS-PFLIndex");
-            rtxErrAddUIntParm(ctx, pvalue->u.mcch);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-PFLIndex", "mcch", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.mcch, 1, 4);
-         RT_CHECK(ctx, stat, "MBMS-PFLIndex", "mcch", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.dcch == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dcch", -1, 0);
-         stat = asn1PE_UMTS_MBMS_PFLInfo(ctx, pvalue->u.dcch);
-         RT_CHECK(ctx, stat, 0, "dcch", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_ModifedService_r6_dummy(rtxContext* RT_RESTRICT ctx, MBMS_ModifedService_r6_dummy value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_ModifedService_r6(rtxContext* RT_RESTRICT ctx, const MBMS_ModifedService_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-ModifedService-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-ModifedService-r6");
-   /* mbms-TransmissionIdentity */
-   stat = asn1PE_UMTS_MBMS_TransmissionIdentity(ctx, &pvalue->mbms_TransmissionIdentity);
-   RT_CHECK(ctx, stat, 0, "mbms-TransmissionIdentity", -1, "MBMS-ModifedService-r6");
-   /* mbms-RequiredUEAction */
-   if (pvalue->mbms_RequiredUEAction > 5) {
-      rtxErrAddUIntParm(ctx, pvalue->mbms_RequiredUEAction);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-RequiredUEAction-Mod", "mbms-RequiredUEAction", -1, "MBMS-ModifedService-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mbms_RequiredUEAction, 0, 5);
-   RT_CHECK(ctx, stat, "MBMS-RequiredUEAction-Mod", "mbms-RequiredUEAction", -1, "MBMS-ModifedService-r6");
-   /* mbms-PreferredFrequency */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MBMS_ModifedService_r6_mbms_PreferredFrequency(ctx, &pvalue->mbms_PreferredFrequency);
-      RT_CHECK(ctx, stat, 0, "mbms-PreferredFrequency", -1, "MBMS-ModifedService-r6");
-   }
-   /* dummy */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->dummy > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->dummy);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "dummy", -1, "MBMS-ModifedService-r6");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dummy, 0, 0);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "MBMS-ModifedService-r6");
-   }
-   /* continueMCCHReading */
-   stat = rtxEncBit(ctx, pvalue->continueMCCHReading);
-   RT_CHECK(ctx, stat, 0, "continueMCCHReading", -1, "MBMS-ModifedService-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_ModifedServiceList_r6(rtxContext* RT_RESTRICT ctx, const MBMS_ModifedServiceList_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-ModifedServiceList-r6");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-ModifedServiceList-r6");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-ModifedService-r6", (int32_t)i, "MBMS-ModifedServiceList-r6");
-      stat = asn1PE_UMTS_MBMS_ModifedService_r6(ctx, (const MBMS_ModifedService_r6*)node->data);
-      RT_CHECK(ctx, stat, 0, "MBMS-ModifedService-r6", (int32_t)i, "MBMS-ModifedServiceList-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBSFN_ClusterFrequency_r7(rtxContext* RT_RESTRICT ctx, MBSFN_ClusterFrequency_r7 value)
-{
-   int stat = 0;
-   if ((uint64_t)(value - 1) > 15u) {
-      rtxErrAddStrParm(ctx, "MBSFN-ClusterFrequency-r7");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MBSFN-ClusterFrequency-r7");
-   }
-   stat = pe_ConsUInt64(ctx, value, 1, 16);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBSFN-ClusterFrequency-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_ModifiedService_v770ext(rtxContext* RT_RESTRICT ctx, const MBMS_ModifiedService_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-ModifiedService-v770ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-ModifiedService-v770ext");
-   /* mbsfnClusterFrequency */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->mbsfnClusterFrequency - 1) > 15u) {
-         rtxErrAddStrParm(ctx, "MBSFN-ClusterFrequency-r7");
-         rtxErrAddUIntParm(ctx, pvalue->mbsfnClusterFrequency);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "MBSFN-ClusterFrequency-r7", "mbsfnClusterFrequency", -1, "MBMS-ModifiedService-v770ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mbsfnClusterFrequency, 1, 16);
-      RT_CHECK(ctx, stat, "MBSFN-ClusterFrequency-r7", "mbsfnClusterFrequency", -1, "MBMS-ModifiedService-v770ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_PTM_RBReleaseCause_LCR_r7(rtxContext* RT_RESTRICT ctx, MBMS_PTM_RBReleaseCause_LCR_r7 value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MBMS-PTM-RBReleaseCause-LCR-r7");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-PTM-RBReleaseCause-LCR-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_ModifiedService_LCR_v7c0ext(rtxContext* RT_RESTRICT ctx, const MBMS_ModifiedService_LCR_v7c0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-ModifiedService-LCR-v7c0ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-ModifiedService-LCR-v7c0ext");
-   /* rbReleaseCause */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->rbReleaseCause > 7) {
-         rtxErrAddUIntParm(ctx, pvalue->rbReleaseCause);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-PTM-RBReleaseCause-LCR-r7", "rbReleaseCause", -1, "MBMS-ModifiedService-LCR-v7c0ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->rbReleaseCause, 0, 7);
-      RT_CHECK(ctx, stat, "MBMS-PTM-RBReleaseCause-LCR-r7", "rbReleaseCause", -1, "MBMS-ModifiedService-LCR-v7c0ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_ModifiedServiceList_v770ext(rtxContext* RT_RESTRICT ctx, const MBMS_ModifiedServiceList_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-ModifiedServiceList-v770ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-ModifiedServiceList-v770ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-ModifiedService-v770ext", (int32_t)i, "MBMS-ModifiedServiceList-v770ext");
-      stat = asn1PE_UMTS_MBMS_ModifiedService_v770ext(ctx, (const MBMS_ModifiedService_v770ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "MBMS-ModifiedService-v770ext", (int32_t)i, "MBMS-ModifiedServiceList-v770ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_ModifiedServiceList_LCR_v7c0ext(rtxContext* RT_RESTRICT ctx, const MBMS_ModifiedServiceList_LCR_v7c0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-ModifiedServiceList-LCR-v7c0ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-ModifiedServiceList-LCR-v7c0ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-ModifiedService-LCR-v7c0ext", (int32_t)i, "MBMS-ModifiedServiceList-LCR-v7c0ext");
-      stat = asn1PE_UMTS_MBMS_ModifiedService_LCR_v7c0ext(ctx, (const MBMS_ModifiedService_LCR_v7c0ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "MBMS-ModifiedService-LCR-v7c0ext", (int32_t)i, "MBMS-ModifiedServiceList-LCR-v7c0ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_SCCPCHPwrOffsetDiff(rtxContext* RT_RESTRICT ctx, MBMS_SCCPCHPwrOffsetDiff value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MBMS-SCCPCHPwrOffsetDiff");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-SCCPCHPwrOffsetDiff");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_NeighbouringCellSCCPCH_r6_layer1Combining_fdd(rtxContext* RT_RESTRICT ctx, const MBMS_NeighbouringCellSCCPCH_r6_layer1Combining_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* softComb-TimingOffset */
-   if (pvalue->softComb_TimingOffset > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->softComb_TimingOffset);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-SoftComb-TimingOffset", "softComb-TimingOffset", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->softComb_TimingOffset, 0, 3);
-   RT_CHECK(ctx, stat, "MBMS-SoftComb-TimingOffset", "softComb-TimingOffset", -1, 0);
-   /* mbms-L1CombiningTransmTimeDiff */
-   if ((uint64_t)pvalue->mbms_L1CombiningTransmTimeDiff > 3u) {
-      rtxErrAddStrParm(ctx, "MBMS-L1CombiningTransmTimeDiff");
-      rtxErrAddUIntParm(ctx, pvalue->mbms_L1CombiningTransmTimeDiff);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-L1CombiningTransmTimeDiff", "mbms-L1CombiningTransmTimeDiff", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mbms_L1CombiningTransmTimeDiff, 0, 3);
-   RT_CHECK(ctx, stat, "MBMS-L1CombiningTransmTimeDiff", "mbms-L1CombiningTransmTimeDiff", -1, 0);
-   /* mbms-L1CombiningSchedule */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MBMS_L1CombiningSchedule(ctx, &pvalue->mbms_L1CombiningSchedule);
-      RT_CHECK(ctx, stat, 0, "mbms-L1CombiningSchedule", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_NeighbouringCellSCCPCH_r6_layer1Combining(rtxContext* RT_RESTRICT ctx, const MBMS_NeighbouringCellSCCPCH_r6_layer1Combining* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_MBMS_NeighbouringCellSCCPCH_r6_layer1Combining_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_NeighbouringCellSCCPCH_r6(rtxContext* RT_RESTRICT ctx, const MBMS_NeighbouringCellSCCPCH_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-NeighbouringCellSCCPCH-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-NeighbouringCellSCCPCH-r6");
-   /* secondaryCCPCH-Info */
-   if ((uint64_t)(pvalue->secondaryCCPCH_Info - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "MBMS-CommonPhyChIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->secondaryCCPCH_Info);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-CommonPhyChIdentity", "secondaryCCPCH-Info", -1, "MBMS-NeighbouringCellSCCPCH-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->secondaryCCPCH_Info, 1, 32);
-   RT_CHECK(ctx, stat, "MBMS-CommonPhyChIdentity", "secondaryCCPCH-Info", -1, "MBMS-NeighbouringCellSCCPCH-r6");
-   /* secondaryCCPCHPwrOffsetDiff */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->secondaryCCPCHPwrOffsetDiff > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->secondaryCCPCHPwrOffsetDiff);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-SCCPCHPwrOffsetDiff", "secondaryCCPCHPwrOffsetDiff", -1, "MBMS-NeighbouringCellSCCPCH-r6");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->secondaryCCPCHPwrOffsetDiff, 0, 3);
-      RT_CHECK(ctx, stat, "MBMS-SCCPCHPwrOffsetDiff", "secondaryCCPCHPwrOffsetDiff", -1, "MBMS-NeighbouringCellSCCPCH-r6");
-   }
-   /* layer1Combining */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_MBMS_NeighbouringCellSCCPCH_r6_layer1Combining(ctx, &pvalue->layer1Combining);
-      RT_CHECK(ctx, stat, 0, "layer1Combining", -1, "MBMS-NeighbouringCellSCCPCH-r6");
-   }
-   /* mbms-L23Configuration */
-   stat = asn1PE_UMTS_MBMS_L23Configuration(ctx, &pvalue->mbms_L23Configuration);
-   RT_CHECK(ctx, stat, 0, "mbms-L23Configuration", -1, "MBMS-NeighbouringCellSCCPCH-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining_fdd(rtxContext* RT_RESTRICT ctx, const MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* softComb-TimingOffset */
-   if (pvalue->softComb_TimingOffset > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->softComb_TimingOffset);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-SoftComb-TimingOffset", "softComb-TimingOffset", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->softComb_TimingOffset, 0, 3);
-   RT_CHECK(ctx, stat, "MBMS-SoftComb-TimingOffset", "softComb-TimingOffset", -1, 0);
-   /* mbms-L1CombiningTransmTimeDiff */
-   if ((uint64_t)pvalue->mbms_L1CombiningTransmTimeDiff > 3u) {
-      rtxErrAddStrParm(ctx, "MBMS-L1CombiningTransmTimeDiff");
-      rtxErrAddUIntParm(ctx, pvalue->mbms_L1CombiningTransmTimeDiff);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-L1CombiningTransmTimeDiff", "mbms-L1CombiningTransmTimeDiff", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mbms_L1CombiningTransmTimeDiff, 0, 3);
-   RT_CHECK(ctx, stat, "MBMS-L1CombiningTransmTimeDiff", "mbms-L1CombiningTransmTimeDiff", -1, 0);
-   /* mbms-L1CombiningSchedule */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MBMS_L1CombiningSchedule(ctx, &pvalue->mbms_L1CombiningSchedule);
-      RT_CHECK(ctx, stat, 0, "mbms-L1CombiningSchedule", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining(rtxContext* RT_RESTRICT ctx, const MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext(rtxContext* RT_RESTRICT ctx, const MBMS_NeighbouringCellSCCPCH_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-NeighbouringCellSCCPCH-v770ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-NeighbouringCellSCCPCH-v770ext");
-   /* secondaryCCPCH-Info */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->secondaryCCPCH_Info - 1) > 31u) {
-         rtxErrAddStrParm(ctx, "MBMS-CommonPhyChIdentity");
-         rtxErrAddUIntParm(ctx, pvalue->secondaryCCPCH_Info);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-CommonPhyChIdentity", "secondaryCCPCH-Info", -1, "MBMS-NeighbouringCellSCCPCH-v770ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->secondaryCCPCH_Info, 1, 32);
-      RT_CHECK(ctx, stat, "MBMS-CommonPhyChIdentity", "secondaryCCPCH-Info", -1, "MBMS-NeighbouringCellSCCPCH-v770ext");
-   }
-   /* secondaryCCPCH-InfoDiff */
-   stat = asn1PE_UMTS_SecondaryCCPCHInfoDiff_MBMS(ctx, &pvalue->secondaryCCPCH_InfoDiff);
-   RT_CHECK(ctx, stat, 0, "secondaryCCPCH-InfoDiff", -1, "MBMS-NeighbouringCellSCCPCH-v770ext");
-   /* secondaryCCPCHPwrOffsetDiff */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->secondaryCCPCHPwrOffsetDiff > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->secondaryCCPCHPwrOffsetDiff);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-SCCPCHPwrOffsetDiff", "secondaryCCPCHPwrOffsetDiff", -1, "MBMS-NeighbouringCellSCCPCH-v770ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->secondaryCCPCHPwrOffsetDiff, 0, 3);
-      RT_CHECK(ctx, stat, "MBMS-SCCPCHPwrOffsetDiff", "secondaryCCPCHPwrOffsetDiff", -1, "MBMS-NeighbouringCellSCCPCH-v770ext");
-   }
-   /* layer1Combining */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext_layer1Combining(ctx, &pvalue->layer1Combining);
-      RT_CHECK(ctx, stat, 0, "layer1Combining", -1, "MBMS-NeighbouringCellSCCPCH-v770ext");
-   }
-   /* mbms-L23Configuration */
-   stat = asn1PE_UMTS_MBMS_L23Configuration(ctx, &pvalue->mbms_L23Configuration);
-   RT_CHECK(ctx, stat, 0, "mbms-L23Configuration", -1, "MBMS-NeighbouringCellSCCPCH-v770ext");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_NeighbouringCellSCCPCHList_r6(rtxContext* RT_RESTRICT ctx, const MBMS_NeighbouringCellSCCPCHList_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-NeighbouringCellSCCPCHList-r6");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-NeighbouringCellSCCPCHList-r6");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-NeighbouringCellSCCPCH-r6", (int32_t)i, "MBMS-NeighbouringCellSCCPCHList-r6");
-      stat = asn1PE_UMTS_MBMS_NeighbouringCellSCCPCH_r6(ctx, (const MBMS_NeighbouringCellSCCPCH_r6*)node->data);
-      RT_CHECK(ctx, stat, 0, "MBMS-NeighbouringCellSCCPCH-r6", (int32_t)i, "MBMS-NeighbouringCellSCCPCHList-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_NeighbouringCellSCCPCHList_v770ext(rtxContext* RT_RESTRICT ctx, const MBMS_NeighbouringCellSCCPCHList_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-NeighbouringCellSCCPCHList-v770ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-NeighbouringCellSCCPCHList-v770ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-NeighbouringCellSCCPCH-v770ext", (int32_t)i, "MBMS-NeighbouringCellSCCPCHList-v770ext");
-      stat = asn1PE_UMTS_MBMS_NeighbouringCellSCCPCH_v770ext(ctx, (const MBMS_NeighbouringCellSCCPCH_v770ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "MBMS-NeighbouringCellSCCPCH-v770ext", (int32_t)i, "MBMS-NeighbouringCellSCCPCHList-v770ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_NetworkStandardTimeInformation_LCR_v890ext_networkStandardTime(rtxContext* RT_RESTRICT ctx, const MBMS_NetworkStandardTimeInformation_LCR_v890ext_networkStandardTime* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   RT_SET_SIZE(ctx, 40, 40);
-   stat = pe_BitString(ctx, pvalue->numbits, pvalue->data);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_NetworkStandardTimeInformation_LCR_v890ext(rtxContext* RT_RESTRICT ctx, const MBMS_NetworkStandardTimeInformation_LCR_v890ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-NetworkStandardTimeInformation-LCR-v890ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-NetworkStandardTimeInformation-LCR-v890ext");
-   /* networkStandardTime */
-   stat = asn1PE_UMTS_MBMS_NetworkStandardTimeInformation_LCR_v890ext_networkStandardTime(ctx, &pvalue->networkStandardTime);
-   RT_CHECK(ctx, stat, 0, "networkStandardTime", -1, "MBMS-NetworkStandardTimeInformation-LCR-v890ext");
-   /* correlativeSFN */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)pvalue->correlativeSFN > 4095u) {
-         rtxErrAddStrParm(ctx, "correlativeSFN");
-         rtxErrAddUIntParm(ctx, pvalue->correlativeSFN);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "correlativeSFN", -1, "MBMS-NetworkStandardTimeInformation-LCR-v890ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->correlativeSFN, 0, 4095);
-      RT_CHECK(ctx, stat, 0, "correlativeSFN", -1, "MBMS-NetworkStandardTimeInformation-LCR-v890ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_NumberOfNeighbourCells_r6(rtxContext* RT_RESTRICT ctx, MBMS_NumberOfNeighbourCells_r6 value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 32u) {
-      rtxErrAddStrParm(ctx, "MBMS-NumberOfNeighbourCells-r6");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MBMS-NumberOfNeighbourCells-r6");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 32);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-NumberOfNeighbourCells-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_PhyChInformation_IMB384(rtxContext* RT_RESTRICT ctx, const MBMS_PhyChInformation_IMB384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-PhyChInformation-IMB384");
-   /* mbms-CommonPhyChIdentity */
-   if ((uint64_t)(pvalue->mbms_CommonPhyChIdentity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "MBMS-CommonPhyChIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->mbms_CommonPhyChIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-CommonPhyChIdentity", "mbms-CommonPhyChIdentity", -1, "MBMS-PhyChInformation-IMB384");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mbms_CommonPhyChIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "MBMS-CommonPhyChIdentity", "mbms-CommonPhyChIdentity", -1, "MBMS-PhyChInformation-IMB384");
-   /* secondaryCCPCHInfo-MBMS */
-   stat = asn1PE_UMTS_SecondaryCCPCHFrameType2Info(ctx, &pvalue->secondaryCCPCHInfo_MBMS);
-   RT_CHECK(ctx, stat, 0, "secondaryCCPCHInfo-MBMS", -1, "MBMS-PhyChInformation-IMB384");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_PhyChInformationList_IMB384(rtxContext* RT_RESTRICT ctx, const MBMS_PhyChInformationList_IMB384* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-PhyChInformationList-IMB384");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-PhyChInformationList-IMB384");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-PhyChInformation-IMB384", (int32_t)i, "MBMS-PhyChInformationList-IMB384");
-      stat = asn1PE_UMTS_MBMS_PhyChInformation_IMB384(ctx, (const MBMS_PhyChInformation_IMB384*)node->data);
-      RT_CHECK(ctx, stat, 0, "MBMS-PhyChInformation-IMB384", (int32_t)i, "MBMS-PhyChInformationList-IMB384");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_PhyChInformation_r6(rtxContext* RT_RESTRICT ctx, const MBMS_PhyChInformation_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-PhyChInformation-r6");
-   /* mbms-CommonPhyChIdentity */
-   if ((uint64_t)(pvalue->mbms_CommonPhyChIdentity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "MBMS-CommonPhyChIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->mbms_CommonPhyChIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-CommonPhyChIdentity", "mbms-CommonPhyChIdentity", -1, "MBMS-PhyChInformation-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mbms_CommonPhyChIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "MBMS-CommonPhyChIdentity", "mbms-CommonPhyChIdentity", -1, "MBMS-PhyChInformation-r6");
-   /* secondaryCCPCHInfo-MBMS */
-   stat = asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r6(ctx, &pvalue->secondaryCCPCHInfo_MBMS);
-   RT_CHECK(ctx, stat, 0, "secondaryCCPCHInfo-MBMS", -1, "MBMS-PhyChInformation-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_PhyChInformation_r7(rtxContext* RT_RESTRICT ctx, const MBMS_PhyChInformation_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-PhyChInformation-r7");
-   /* mbms-CommonPhyChIdentity */
-   if ((uint64_t)(pvalue->mbms_CommonPhyChIdentity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "MBMS-CommonPhyChIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->mbms_CommonPhyChIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-CommonPhyChIdentity", "mbms-CommonPhyChIdentity", -1, "MBMS-PhyChInformation-r7");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mbms_CommonPhyChIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "MBMS-CommonPhyChIdentity", "mbms-CommonPhyChIdentity", -1, "MBMS-PhyChInformation-r7");
-   /* secondaryCCPCHInfo-MBMS */
-   stat = asn1PE_UMTS_SecondaryCCPCHInfo_MBMS_r7(ctx, &pvalue->secondaryCCPCHInfo_MBMS);
-   RT_CHECK(ctx, stat, 0, "secondaryCCPCHInfo-MBMS", -1, "MBMS-PhyChInformation-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_PhyChInformationList_r6(rtxContext* RT_RESTRICT ctx, const MBMS_PhyChInformationList_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-PhyChInformationList-r6");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-PhyChInformationList-r6");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-PhyChInformation-r6", (int32_t)i, "MBMS-PhyChInformationList-r6");
-      stat = asn1PE_UMTS_MBMS_PhyChInformation_r6(ctx, (const MBMS_PhyChInformation_r6*)node->data);
-      RT_CHECK(ctx, stat, 0, "MBMS-PhyChInformation-r6", (int32_t)i, "MBMS-PhyChInformationList-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_PhyChInformationList_r7(rtxContext* RT_RESTRICT ctx, const MBMS_PhyChInformationList_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-PhyChInformationList-r7");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-PhyChInformationList-r7");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-PhyChInformation-r7", (int32_t)i, "MBMS-PhyChInformationList-r7");
-      stat = asn1PE_UMTS_MBMS_PhyChInformation_r7(ctx, (const MBMS_PhyChInformation_r7*)node->data);
-      RT_CHECK(ctx, stat, 0, "MBMS-PhyChInformation-r7", (int32_t)i, "MBMS-PhyChInformationList-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_PL_ServiceRestrictInfo_r6(rtxContext* RT_RESTRICT ctx, MBMS_PL_ServiceRestrictInfo_r6 value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MBMS-PL-ServiceRestrictInfo-r6");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-PL-ServiceRestrictInfo-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_Qoffset(rtxContext* RT_RESTRICT ctx, MBMS_Qoffset value)
-{
-   int stat = 0;
-   if (value > 7) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MBMS-Qoffset");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 7);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-Qoffset");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_PreferredFrequencyInfo_r6_layerConvergenceInformation(rtxContext* RT_RESTRICT ctx, const MBMS_PreferredFrequencyInfo_r6_layerConvergenceInformation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.mbms_Qoffset > 7) {
-            rtxErrAddUIntParm(ctx, pvalue->u.mbms_Qoffset);
-            RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-Qoffset", "mbms-Qoffset", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.mbms_Qoffset, 0, 7);
-         RT_CHECK(ctx, stat, "MBMS-Qoffset", "mbms-Qoffset", -1, 0);
-         break;
-      case 2:
-         if ((uint64_t)pvalue->u.mbms_HCSoffset > 7u) {
-            rtxErrAddStrParm(ctx, "mbms-HCSoffset");
-            rtxErrAddUIntParm(ctx, pvalue->u.mbms_HCSoffset);
-            RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "mbms-HCSoffset", -1, 0);
-         }
-         stat = pe_ConsUInt64(ctx, pvalue->u.mbms_HCSoffset, 0, 7);
-         RT_CHECK(ctx, stat, 0, "mbms-HCSoffset", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_PreferredFrequencyInfo_r6(rtxContext* RT_RESTRICT ctx, const MBMS_PreferredFrequencyInfo_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-PreferredFrequencyInfo-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-PreferredFrequencyInfo-r6");
-   /* mbmsPreferredFrequency */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->mbmsPreferredFrequency - 1) > 3u) {
-         rtxErrAddStrParm(ctx, "mbmsPreferredFrequency");
-         rtxErrAddUIntParm(ctx, pvalue->mbmsPreferredFrequency);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "mbmsPreferredFrequency", -1, "MBMS-PreferredFrequencyInfo-r6");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mbmsPreferredFrequency, 1, 4);
-      RT_CHECK(ctx, stat, 0, "mbmsPreferredFrequency", -1, "MBMS-PreferredFrequencyInfo-r6");
-   }
-   /* layerConvergenceInformation */
-   stat = asn1PE_UMTS_MBMS_PreferredFrequencyInfo_r6_layerConvergenceInformation(ctx, &pvalue->layerConvergenceInformation);
-   RT_CHECK(ctx, stat, 0, "layerConvergenceInformation", -1, "MBMS-PreferredFrequencyInfo-r6");
-   /* mbms-PL-ServiceRestrictInfo */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "MBMS-PreferredFrequencyInfo-r6");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
-      RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "MBMS-PreferredFrequencyInfo-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_PreferredFrequencyList_r6(rtxContext* RT_RESTRICT ctx, const MBMS_PreferredFrequencyList_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-PreferredFrequencyList-r6");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-PreferredFrequencyList-r6");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-PreferredFrequencyInfo-r6", (int32_t)i, "MBMS-PreferredFrequencyList-r6");
-      stat = asn1PE_UMTS_MBMS_PreferredFrequencyInfo_r6(ctx, (const MBMS_PreferredFrequencyInfo_r6*)node->data);
-      RT_CHECK(ctx, stat, 0, "MBMS-PreferredFrequencyInfo-r6", (int32_t)i, "MBMS-PreferredFrequencyList-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_PTMActivationTime_r6(rtxContext* RT_RESTRICT ctx, MBMS_PTMActivationTime_r6 value)
-{
-   int stat = 0;
-   if ((uint64_t)value > 2047u) {
-      rtxErrAddStrParm(ctx, "MBMS-PTMActivationTime-r6");
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, 0, -1, "MBMS-PTMActivationTime-r6");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 2047);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-PTMActivationTime-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_RequiredUEAction_UMod(rtxContext* RT_RESTRICT ctx, MBMS_RequiredUEAction_UMod value)
-{
-   int stat = 0;
-   if (value > 2) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, "MBMS-RequiredUEAction-UMod");
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-RequiredUEAction-UMod");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_SelectedServicesListFull(rtxContext* RT_RESTRICT ctx, const MBMS_SelectedServicesListFull* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-SelectedServicesListFull");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-SelectedServicesListFull");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-ServiceIdentity-r6", (int32_t)i, "MBMS-SelectedServicesListFull");
-      stat = asn1PE_UMTS_MBMS_ServiceIdentity_r6(ctx, (const MBMS_ServiceIdentity_r6*)node->data);
-      RT_CHECK(ctx, stat, 0, "MBMS-ServiceIdentity-r6", (int32_t)i, "MBMS-SelectedServicesListFull");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_SelectedServiceInfo_status(rtxContext* RT_RESTRICT ctx, const MBMS_SelectedServiceInfo_status* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.some == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "some", -1, 0);
-         stat = asn1PE_UMTS_MBMS_SelectedServicesListFull(ctx, pvalue->u.some);
-         RT_CHECK(ctx, stat, 0, "some", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_SelectedServiceInfo(rtxContext* RT_RESTRICT ctx, const MBMS_SelectedServiceInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-SelectedServiceInfo");
-   /* status */
-   stat = asn1PE_UMTS_MBMS_SelectedServiceInfo_status(ctx, &pvalue->status);
-   RT_CHECK(ctx, stat, 0, "status", -1, "MBMS-SelectedServiceInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_SelectedServicesListShort(rtxContext* RT_RESTRICT ctx, const MBMS_SelectedServicesListShort* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-SelectedServicesListShort");
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->n);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-SelectedServicesListShort");
-   for (i = 0; i < pvalue->n; i++) {
-      if ((uint64_t)(pvalue->elem[i] - 1) > 63u) {
-         rtxErrAddStrParm(ctx, "MBMS-ShortTransmissionID");
-         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-ShortTransmissionID", "MBMS-ShortTransmissionID", (int32_t)i, "MBMS-SelectedServicesListShort");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->elem[i], 1, 64);
-      RT_CHECK(ctx, stat, "MBMS-ShortTransmissionID", "MBMS-ShortTransmissionID", (int32_t)i, "MBMS-SelectedServicesListShort");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_SelectedServicesShort(rtxContext* RT_RESTRICT ctx, const MBMS_SelectedServicesShort* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-SelectedServicesShort");
-   /* mbms-SelectedServicesList */
-   stat = asn1PE_UMTS_MBMS_SelectedServicesListShort(ctx, &pvalue->mbms_SelectedServicesList);
-   RT_CHECK(ctx, stat, 0, "mbms-SelectedServicesList", -1, "MBMS-SelectedServicesShort");
-   /* modificationPeriodIdentity */
-   if ((uint64_t)pvalue->modificationPeriodIdentity > 1u) {
-      rtxErrAddStrParm(ctx, "modificationPeriodIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->modificationPeriodIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "modificationPeriodIdentity", -1, "MBMS-SelectedServicesShort");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->modificationPeriodIdentity, 0, 1);
-   RT_CHECK(ctx, stat, 0, "modificationPeriodIdentity", -1, "MBMS-SelectedServicesShort");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_ServiceAccessInfo_r6(rtxContext* RT_RESTRICT ctx, const MBMS_ServiceAccessInfo_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-ServiceAccessInfo-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-ServiceAccessInfo-r6");
-   /* shortTransmissionID */
-   if ((uint64_t)(pvalue->shortTransmissionID - 1) > 63u) {
-      rtxErrAddStrParm(ctx, "MBMS-ShortTransmissionID");
-      rtxErrAddUIntParm(ctx, pvalue->shortTransmissionID);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-ShortTransmissionID", "shortTransmissionID", -1, "MBMS-ServiceAccessInfo-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->shortTransmissionID, 1, 64);
-   RT_CHECK(ctx, stat, "MBMS-ShortTransmissionID", "shortTransmissionID", -1, "MBMS-ServiceAccessInfo-r6");
-   /* accessprobabilityFactor-Idle */
-   if (pvalue->accessprobabilityFactor_Idle > 31) {
-      rtxErrAddUIntParm(ctx, pvalue->accessprobabilityFactor_Idle);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-AccessProbabilityFactor", "accessprobabilityFactor-Idle", -1, "MBMS-ServiceAccessInfo-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->accessprobabilityFactor_Idle, 0, 31);
-   RT_CHECK(ctx, stat, "MBMS-AccessProbabilityFactor", "accessprobabilityFactor-Idle", -1, "MBMS-ServiceAccessInfo-r6");
-   /* accessprobabilityFactor-Connected */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->accessprobabilityFactor_Connected > 31) {
-         rtxErrAddUIntParm(ctx, pvalue->accessprobabilityFactor_Connected);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-AccessProbabilityFactor", "accessprobabilityFactor-Connected", -1, "MBMS-ServiceAccessInfo-r6");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->accessprobabilityFactor_Connected, 0, 31);
-      RT_CHECK(ctx, stat, "MBMS-AccessProbabilityFactor", "accessprobabilityFactor-Connected", -1, "MBMS-ServiceAccessInfo-r6");
-   }
-   /* mbms-ConnectedModeCountingScope */
-   stat = asn1PE_UMTS_MBMS_ConnectedModeCountingScope(ctx, &pvalue->mbms_ConnectedModeCountingScope);
-   RT_CHECK(ctx, stat, 0, "mbms-ConnectedModeCountingScope", -1, "MBMS-ServiceAccessInfo-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_ServiceAccessInfoList_r6(rtxContext* RT_RESTRICT ctx, const MBMS_ServiceAccessInfoList_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-ServiceAccessInfoList-r6");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-ServiceAccessInfoList-r6");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-ServiceAccessInfo-r6", (int32_t)i, "MBMS-ServiceAccessInfoList-r6");
-      stat = asn1PE_UMTS_MBMS_ServiceAccessInfo_r6(ctx, (const MBMS_ServiceAccessInfo_r6*)node->data);
-      RT_CHECK(ctx, stat, 0, "MBMS-ServiceAccessInfo-r6", (int32_t)i, "MBMS-ServiceAccessInfoList-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_ServiceTransmInfo(rtxContext* RT_RESTRICT ctx, const MBMS_ServiceTransmInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-ServiceTransmInfo");
-   /* start */
-   stat = pe_ConsUInt64(ctx, pvalue->start, 0, 255);
-   RT_CHECK(ctx, stat, 0, "start", -1, "MBMS-ServiceTransmInfo");
-   /* duration */
-   if ((uint64_t)(pvalue->duration - 1) > 255u) {
-      rtxErrAddStrParm(ctx, "duration");
-      rtxErrAddUIntParm(ctx, pvalue->duration);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "duration", -1, "MBMS-ServiceTransmInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->duration, 1, 256);
-   RT_CHECK(ctx, stat, 0, "duration", -1, "MBMS-ServiceTransmInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_ServiceTransmInfoList(rtxContext* RT_RESTRICT ctx, const MBMS_ServiceTransmInfoList* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-ServiceTransmInfoList");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 4);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-ServiceTransmInfoList");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-ServiceTransmInfo", (int32_t)i, "MBMS-ServiceTransmInfoList");
-      stat = asn1PE_UMTS_MBMS_ServiceTransmInfo(ctx, (const MBMS_ServiceTransmInfo*)node->data);
-      RT_CHECK(ctx, stat, 0, "MBMS-ServiceTransmInfo", (int32_t)i, "MBMS-ServiceTransmInfoList");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_ServiceSchedulingInfo_r6(rtxContext* RT_RESTRICT ctx, const MBMS_ServiceSchedulingInfo_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-ServiceSchedulingInfo-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-ServiceSchedulingInfo-r6");
-   /* mbms-TransmissionIdentity */
-   stat = asn1PE_UMTS_MBMS_TransmissionIdentity(ctx, &pvalue->mbms_TransmissionIdentity);
-   RT_CHECK(ctx, stat, 0, "mbms-TransmissionIdentity", -1, "MBMS-ServiceSchedulingInfo-r6");
-   /* mbms-ServiceTransmInfoList */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MBMS_ServiceTransmInfoList(ctx, &pvalue->mbms_ServiceTransmInfoList);
-      RT_CHECK(ctx, stat, 0, "mbms-ServiceTransmInfoList", -1, "MBMS-ServiceSchedulingInfo-r6");
-   }
-   /* nextSchedulingperiod */
-   if ((uint64_t)pvalue->nextSchedulingperiod > 31u) {
-      rtxErrAddStrParm(ctx, "nextSchedulingperiod");
-      rtxErrAddUIntParm(ctx, pvalue->nextSchedulingperiod);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "nextSchedulingperiod", -1, "MBMS-ServiceSchedulingInfo-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->nextSchedulingperiod, 0, 31);
-   RT_CHECK(ctx, stat, 0, "nextSchedulingperiod", -1, "MBMS-ServiceSchedulingInfo-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_ServiceSchedulingInfoList_r6(rtxContext* RT_RESTRICT ctx, const MBMS_ServiceSchedulingInfoList_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-ServiceSchedulingInfoList-r6");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-ServiceSchedulingInfoList-r6");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-ServiceSchedulingInfo-r6", (int32_t)i, "MBMS-ServiceSchedulingInfoList-r6");
-      stat = asn1PE_UMTS_MBMS_ServiceSchedulingInfo_r6(ctx, (const MBMS_ServiceSchedulingInfo_r6*)node->data);
-      RT_CHECK(ctx, stat, 0, "MBMS-ServiceSchedulingInfo-r6", (int32_t)i, "MBMS-ServiceSchedulingInfoList-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_TrCHInformation_SIB5(rtxContext* RT_RESTRICT ctx, const MBMS_TrCHInformation_SIB5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-TrCHInformation-SIB5");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-TrCHInformation-SIB5");
-   /* transpCh-Identity */
-   if ((uint64_t)(pvalue->transpCh_Identity - 1) > 7u) {
-      rtxErrAddStrParm(ctx, "transpCh-Identity");
-      rtxErrAddUIntParm(ctx, pvalue->transpCh_Identity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "transpCh-Identity", -1, "MBMS-TrCHInformation-SIB5");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->transpCh_Identity, 1, 8);
-   RT_CHECK(ctx, stat, 0, "transpCh-Identity", -1, "MBMS-TrCHInformation-SIB5");
-   /* rbInformation */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MBMS_PTM_RBInformation_CList(ctx, &pvalue->rbInformation);
-      RT_CHECK(ctx, stat, 0, "rbInformation", -1, "MBMS-TrCHInformation-SIB5");
-   }
-   /* msch-ConfigurationInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_MBMS_MSCH_ConfigurationInfo_r6(ctx, &pvalue->msch_ConfigurationInfo);
-      RT_CHECK(ctx, stat, 0, "msch-ConfigurationInfo", -1, "MBMS-TrCHInformation-SIB5");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_TrCHInformation_SIB5List(rtxContext* RT_RESTRICT ctx, const MBMS_TrCHInformation_SIB5List* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-TrCHInformation-SIB5List");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 8);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-TrCHInformation-SIB5List");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-TrCHInformation-SIB5", (int32_t)i, "MBMS-TrCHInformation-SIB5List");
-      stat = asn1PE_UMTS_MBMS_TrCHInformation_SIB5(ctx, (const MBMS_TrCHInformation_SIB5*)node->data);
-      RT_CHECK(ctx, stat, 0, "MBMS-TrCHInformation-SIB5", (int32_t)i, "MBMS-TrCHInformation-SIB5List");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_SIBType5_SCCPCH_r6(rtxContext* RT_RESTRICT ctx, const MBMS_SIBType5_SCCPCH_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-SIBType5-SCCPCH-r6");
-   /* sccpchIdentity */
-   if ((uint64_t)(pvalue->sccpchIdentity - 1) > 15u) {
-      rtxErrAddStrParm(ctx, "MBMS-SCCPCHIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->sccpchIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-SCCPCHIdentity", "sccpchIdentity", -1, "MBMS-SIBType5-SCCPCH-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->sccpchIdentity, 1, 16);
-   RT_CHECK(ctx, stat, "MBMS-SCCPCHIdentity", "sccpchIdentity", -1, "MBMS-SIBType5-SCCPCH-r6");
-   /* transpCHInformation */
-   stat = asn1PE_UMTS_MBMS_TrCHInformation_SIB5List(ctx, &pvalue->transpCHInformation);
-   RT_CHECK(ctx, stat, 0, "transpCHInformation", -1, "MBMS-SIBType5-SCCPCH-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_SIBType5_SCCPCHList_r6(rtxContext* RT_RESTRICT ctx, const MBMS_SIBType5_SCCPCHList_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-SIBType5-SCCPCHList-r6");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-SIBType5-SCCPCHList-r6");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-SIBType5-SCCPCH-r6", (int32_t)i, "MBMS-SIBType5-SCCPCHList-r6");
-      stat = asn1PE_UMTS_MBMS_SIBType5_SCCPCH_r6(ctx, (const MBMS_SIBType5_SCCPCH_r6*)node->data);
-      RT_CHECK(ctx, stat, 0, "MBMS-SIBType5-SCCPCH-r6", (int32_t)i, "MBMS-SIBType5-SCCPCHList-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_TimersAndCounters_r6(rtxContext* RT_RESTRICT ctx, const MBMS_TimersAndCounters_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-TimersAndCounters-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)(pvalue->t_318 != 3) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-TimersAndCounters-r6");
-   /* t-318 */
-   if (pvalue->t_318 != 3) {
-      if (pvalue->t_318 > 14) {
-         rtxErrAddUIntParm(ctx, pvalue->t_318);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "T-318", "t-318", -1, "MBMS-TimersAndCounters-r6");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->t_318, 0, 14);
-      RT_CHECK(ctx, stat, "T-318", "t-318", -1, "MBMS-TimersAndCounters-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_TranspChInfoForCCTrCh_r6(rtxContext* RT_RESTRICT ctx, const MBMS_TranspChInfoForCCTrCh_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-TranspChInfoForCCTrCh-r6");
-   /* commonCCTrChIdentity */
-   if ((uint64_t)(pvalue->commonCCTrChIdentity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "MBMS-CommonCCTrChIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->commonCCTrChIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-CommonCCTrChIdentity", "commonCCTrChIdentity", -1, "MBMS-TranspChInfoForCCTrCh-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->commonCCTrChIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "MBMS-CommonCCTrChIdentity", "commonCCTrChIdentity", -1, "MBMS-TranspChInfoForCCTrCh-r6");
-   /* transportFormatCombinationSet */
-   stat = asn1PE_UMTS_TFCS(ctx, &pvalue->transportFormatCombinationSet);
-   RT_CHECK(ctx, stat, 0, "transportFormatCombinationSet", -1, "MBMS-TranspChInfoForCCTrCh-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_TranspChInfoForEachCCTrCh_r6(rtxContext* RT_RESTRICT ctx, const MBMS_TranspChInfoForEachCCTrCh_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-TranspChInfoForEachCCTrCh-r6");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-TranspChInfoForEachCCTrCh-r6");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-TranspChInfoForCCTrCh-r6", (int32_t)i, "MBMS-TranspChInfoForEachCCTrCh-r6");
-      stat = asn1PE_UMTS_MBMS_TranspChInfoForCCTrCh_r6(ctx, (const MBMS_TranspChInfoForCCTrCh_r6*)node->data);
-      RT_CHECK(ctx, stat, 0, "MBMS-TranspChInfoForCCTrCh-r6", (int32_t)i, "MBMS-TranspChInfoForEachCCTrCh-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_TranspChInfoForTrCh_r6(rtxContext* RT_RESTRICT ctx, const MBMS_TranspChInfoForTrCh_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-TranspChInfoForTrCh-r6");
-   /* commonTrChIdentity */
-   if ((uint64_t)(pvalue->commonTrChIdentity - 1) > 31u) {
-      rtxErrAddStrParm(ctx, "MBMS-CommonTrChIdentity");
-      rtxErrAddUIntParm(ctx, pvalue->commonTrChIdentity);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-CommonTrChIdentity", "commonTrChIdentity", -1, "MBMS-TranspChInfoForTrCh-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->commonTrChIdentity, 1, 32);
-   RT_CHECK(ctx, stat, "MBMS-CommonTrChIdentity", "commonTrChIdentity", -1, "MBMS-TranspChInfoForTrCh-r6");
-   /* transportFormatSet */
-   stat = asn1PE_UMTS_TransportFormatSet(ctx, &pvalue->transportFormatSet);
-   RT_CHECK(ctx, stat, 0, "transportFormatSet", -1, "MBMS-TranspChInfoForTrCh-r6");
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_TranspChInfoForEachTrCh_r6(rtxContext* RT_RESTRICT ctx, const MBMS_TranspChInfoForEachTrCh_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-TranspChInfoForEachTrCh-r6");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 32);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-TranspChInfoForEachTrCh-r6");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-TranspChInfoForTrCh-r6", (int32_t)i, "MBMS-TranspChInfoForEachTrCh-r6");
-      stat = asn1PE_UMTS_MBMS_TranspChInfoForTrCh_r6(ctx, (const MBMS_TranspChInfoForTrCh_r6*)node->data);
-      RT_CHECK(ctx, stat, 0, "MBMS-TranspChInfoForTrCh-r6", (int32_t)i, "MBMS-TranspChInfoForEachTrCh-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_UnmodifiedService_r6(rtxContext* RT_RESTRICT ctx, const MBMS_UnmodifiedService_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-UnmodifiedService-r6");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-UnmodifiedService-r6");
-   /* mbms-TransmissionIdentity */
-   stat = asn1PE_UMTS_MBMS_TransmissionIdentity(ctx, &pvalue->mbms_TransmissionIdentity);
-   RT_CHECK(ctx, stat, 0, "mbms-TransmissionIdentity", -1, "MBMS-UnmodifiedService-r6");
-   /* mbms-RequiredUEAction */
-   if (pvalue->mbms_RequiredUEAction > 2) {
-      rtxErrAddUIntParm(ctx, pvalue->mbms_RequiredUEAction);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-RequiredUEAction-UMod", "mbms-RequiredUEAction", -1, "MBMS-UnmodifiedService-r6");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->mbms_RequiredUEAction, 0, 2);
-   RT_CHECK(ctx, stat, "MBMS-RequiredUEAction-UMod", "mbms-RequiredUEAction", -1, "MBMS-UnmodifiedService-r6");
-   /* mbms-PreferredFrequency */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->mbms_PreferredFrequency - 1) > 3u) {
-         rtxErrAddStrParm(ctx, "MBMS-PFLIndex");
-         rtxErrAddUIntParm(ctx, pvalue->mbms_PreferredFrequency);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-PFLIndex", "mbms-PreferredFrequency", -1, "MBMS-UnmodifiedService-r6");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mbms_PreferredFrequency, 1, 4);
-      RT_CHECK(ctx, stat, "MBMS-PFLIndex", "mbms-PreferredFrequency", -1, "MBMS-UnmodifiedService-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_UnmodifiedServiceList_r6(rtxContext* RT_RESTRICT ctx, const MBMS_UnmodifiedServiceList_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-UnmodifiedServiceList-r6");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-UnmodifiedServiceList-r6");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-UnmodifiedService-r6", (int32_t)i, "MBMS-UnmodifiedServiceList-r6");
-      stat = asn1PE_UMTS_MBMS_UnmodifiedService_r6(ctx, (const MBMS_UnmodifiedService_r6*)node->data);
-      RT_CHECK(ctx, stat, 0, "MBMS-UnmodifiedService-r6", (int32_t)i, "MBMS-UnmodifiedServiceList-r6");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_UnmodifiedService_v770ext(rtxContext* RT_RESTRICT ctx, const MBMS_UnmodifiedService_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-UnmodifiedService-v770ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBMS-UnmodifiedService-v770ext");
-   /* mbsfnClusterFrequency */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->mbsfnClusterFrequency - 1) > 15u) {
-         rtxErrAddStrParm(ctx, "MBSFN-ClusterFrequency-r7");
-         rtxErrAddUIntParm(ctx, pvalue->mbsfnClusterFrequency);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "MBSFN-ClusterFrequency-r7", "mbsfnClusterFrequency", -1, "MBMS-UnmodifiedService-v770ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mbsfnClusterFrequency, 1, 16);
-      RT_CHECK(ctx, stat, "MBSFN-ClusterFrequency-r7", "mbsfnClusterFrequency", -1, "MBMS-UnmodifiedService-v770ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBMS_UnmodifiedServiceList_v770ext(rtxContext* RT_RESTRICT ctx, const MBMS_UnmodifiedServiceList_v770ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBMS-UnmodifiedServiceList-v770ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBMS-UnmodifiedServiceList-v770ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBMS-UnmodifiedService-v770ext", (int32_t)i, "MBMS-UnmodifiedServiceList-v770ext");
-      stat = asn1PE_UMTS_MBMS_UnmodifiedService_v770ext(ctx, (const MBMS_UnmodifiedService_v770ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "MBMS-UnmodifiedService-v770ext", (int32_t)i, "MBMS-UnmodifiedServiceList-v770ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBSFNservicesNotNotified_r7_notificationOfAllMBSFNServicesInTheBand(rtxContext* RT_RESTRICT ctx, MBSFNservicesNotNotified_r7_notificationOfAllMBSFNServicesInTheBand value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MBSFNservicesNotNotified_r7(rtxContext* RT_RESTRICT ctx, const MBSFNservicesNotNotified_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBSFNservicesNotNotified-r7");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBSFNservicesNotNotified-r7");
-   /* notificationOfAllMBSFNServicesInTheBand */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->notificationOfAllMBSFNServicesInTheBand > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->notificationOfAllMBSFNServicesInTheBand);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "notificationOfAllMBSFNServicesInTheBand", -1, "MBSFNservicesNotNotified-r7");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->notificationOfAllMBSFNServicesInTheBand, 0, 0);
-      RT_CHECK(ctx, stat, 0, "notificationOfAllMBSFNServicesInTheBand", -1, "MBSFNservicesNotNotified-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBSFNInterFrequencyNeighbour_r7_mbsfnServicesNotification(rtxContext* RT_RESTRICT ctx, const MBSFNInterFrequencyNeighbour_r7_mbsfnServicesNotification* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         break;
-      case 2:
-         if (pvalue->u.mbsfnServicesNotNotified == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "mbsfnServicesNotNotified", -1, 0);
-         stat = asn1PE_UMTS_MBSFNservicesNotNotified_r7(ctx, pvalue->u.mbsfnServicesNotNotified);
-         RT_CHECK(ctx, stat, 0, "mbsfnServicesNotNotified", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBSFNInterFrequencyNeighbour_r7(rtxContext* RT_RESTRICT ctx, const MBSFNInterFrequencyNeighbour_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBSFNInterFrequencyNeighbour-r7");
-   /* mbsfnFrequency */
-   stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->mbsfnFrequency);
-   RT_CHECK(ctx, stat, 0, "mbsfnFrequency", -1, "MBSFNInterFrequencyNeighbour-r7");
-   /* mbsfnServicesNotification */
-   stat = asn1PE_UMTS_MBSFNInterFrequencyNeighbour_r7_mbsfnServicesNotification(ctx, &pvalue->mbsfnServicesNotification);
-   RT_CHECK(ctx, stat, 0, "mbsfnServicesNotification", -1, "MBSFNInterFrequencyNeighbour-r7");
-   return 0;
-}
-
-int asn1PE_UMTS_MBSFNInterFrequencyNeighbour_v860ext_imb_Indication(rtxContext* RT_RESTRICT ctx, MBSFNInterFrequencyNeighbour_v860ext_imb_Indication value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_MBSFNInterFrequencyNeighbour_v860ext(rtxContext* RT_RESTRICT ctx, const MBSFNInterFrequencyNeighbour_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBSFNInterFrequencyNeighbour-v860ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "MBSFNInterFrequencyNeighbour-v860ext");
-   /* imb-Indication */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->imb_Indication > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->imb_Indication);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "imb-Indication", -1, "MBSFNInterFrequencyNeighbour-v860ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->imb_Indication, 0, 0);
-      RT_CHECK(ctx, stat, 0, "imb-Indication", -1, "MBSFNInterFrequencyNeighbour-v860ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBSFN_InterFrequencyNeighbourList_r7(rtxContext* RT_RESTRICT ctx, const MBSFN_InterFrequencyNeighbourList_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBSFN-InterFrequencyNeighbourList-r7");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBSFN-InterFrequencyNeighbourList-r7");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBSFNInterFrequencyNeighbour-r7", (int32_t)i, "MBSFN-InterFrequencyNeighbourList-r7");
-      stat = asn1PE_UMTS_MBSFNInterFrequencyNeighbour_r7(ctx, (const MBSFNInterFrequencyNeighbour_r7*)node->data);
-      RT_CHECK(ctx, stat, 0, "MBSFNInterFrequencyNeighbour-r7", (int32_t)i, "MBSFN-InterFrequencyNeighbourList-r7");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBSFN_InterFrequencyNeighbourList_v860ext(rtxContext* RT_RESTRICT ctx, const MBSFN_InterFrequencyNeighbourList_v860ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBSFN-InterFrequencyNeighbourList-v860ext");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBSFN-InterFrequencyNeighbourList-v860ext");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBSFNInterFrequencyNeighbour-v860ext", (int32_t)i, "MBSFN-InterFrequencyNeighbourList-v860ext");
-      stat = asn1PE_UMTS_MBSFNInterFrequencyNeighbour_v860ext(ctx, (const MBSFNInterFrequencyNeighbour_v860ext*)node->data);
-      RT_CHECK(ctx, stat, 0, "MBSFNInterFrequencyNeighbour-v860ext", (int32_t)i, "MBSFN-InterFrequencyNeighbourList-v860ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBSFN_TDDTimeSlotInfo(rtxContext* RT_RESTRICT ctx, const MBSFN_TDDTimeSlotInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBSFN-TDDTimeSlotInfo");
-   /* timeSlotNumber */
-   if ((uint64_t)pvalue->timeSlotNumber > 6u) {
-      rtxErrAddStrParm(ctx, "TimeslotNumber-LCR-r4");
-      rtxErrAddUIntParm(ctx, pvalue->timeSlotNumber);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "TimeslotNumber-LCR-r4", "timeSlotNumber", -1, "MBSFN-TDDTimeSlotInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->timeSlotNumber, 0, 6);
-   RT_CHECK(ctx, stat, "TimeslotNumber-LCR-r4", "timeSlotNumber", -1, "MBSFN-TDDTimeSlotInfo");
-   /* cellParametersID */
-   if ((uint64_t)pvalue->cellParametersID > 127u) {
-      rtxErrAddStrParm(ctx, "CellParametersID");
-      rtxErrAddUIntParm(ctx, pvalue->cellParametersID);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "CellParametersID", "cellParametersID", -1, "MBSFN-TDDTimeSlotInfo");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cellParametersID, 0, 127);
-   RT_CHECK(ctx, stat, "CellParametersID", "cellParametersID", -1, "MBSFN-TDDTimeSlotInfo");
-   return 0;
-}
-
-int asn1PE_UMTS_MBSFN_TDDInformation(rtxContext* RT_RESTRICT ctx, const MBSFN_TDDInformation* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBSFN-TDDInformation");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 14);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBSFN-TDDInformation");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBSFN-TDDTimeSlotInfo", (int32_t)i, "MBSFN-TDDInformation");
-      stat = asn1PE_UMTS_MBSFN_TDDTimeSlotInfo(ctx, (const MBSFN_TDDTimeSlotInfo*)node->data);
-      RT_CHECK(ctx, stat, 0, "MBSFN-TDDTimeSlotInfo", (int32_t)i, "MBSFN-TDDInformation");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBSFN_TDDTimeSlotInfo_LCR(rtxContext* RT_RESTRICT ctx, const MBSFN_TDDTimeSlotInfo_LCR* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBSFN-TDDTimeSlotInfo-LCR");
-   /* frequencyIndex */
-   if ((uint64_t)(pvalue->frequencyIndex - 1) > 15u) {
-      rtxErrAddStrParm(ctx, "frequencyIndex");
-      rtxErrAddUIntParm(ctx, pvalue->frequencyIndex);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "frequencyIndex", -1, "MBSFN-TDDTimeSlotInfo-LCR");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->frequencyIndex, 1, 16);
-   RT_CHECK(ctx, stat, 0, "frequencyIndex", -1, "MBSFN-TDDTimeSlotInfo-LCR");
-   /* timeSlotList */
-   stat = asn1PE_UMTS_MBSFN_TDDInformation(ctx, &pvalue->timeSlotList);
-   RT_CHECK(ctx, stat, 0, "timeSlotList", -1, "MBSFN-TDDTimeSlotInfo-LCR");
-   return 0;
-}
-
-int asn1PE_UMTS_MBSFN_TDDInformation_LCR(rtxContext* RT_RESTRICT ctx, const MBSFN_TDDInformation_LCR* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBSFN-TDDInformation-LCR");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 16);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBSFN-TDDInformation-LCR");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBSFN-TDDTimeSlotInfo-LCR", (int32_t)i, "MBSFN-TDDInformation-LCR");
-      stat = asn1PE_UMTS_MBSFN_TDDTimeSlotInfo_LCR(ctx, (const MBSFN_TDDTimeSlotInfo_LCR*)node->data);
-      RT_CHECK(ctx, stat, 0, "MBSFN-TDDTimeSlotInfo-LCR", (int32_t)i, "MBSFN-TDDInformation-LCR");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_MBSFN_TDM_Info(rtxContext* RT_RESTRICT ctx, const MBSFN_TDM_Info* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBSFN-TDM-Info");
-   /* shortTransmissionID */
-   if ((uint64_t)(pvalue->shortTransmissionID - 1) > 63u) {
-      rtxErrAddStrParm(ctx, "MBMS-ShortTransmissionID");
-      rtxErrAddUIntParm(ctx, pvalue->shortTransmissionID);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "MBMS-ShortTransmissionID", "shortTransmissionID", -1, "MBSFN-TDM-Info");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->shortTransmissionID, 1, 64);
-   RT_CHECK(ctx, stat, "MBMS-ShortTransmissionID", "shortTransmissionID", -1, "MBSFN-TDM-Info");
-   /* tDMPeriod */
-   if ((uint64_t)(pvalue->tDMPeriod - 2) > 7u) {
-      rtxErrAddStrParm(ctx, "tDMPeriod");
-      rtxErrAddUIntParm(ctx, pvalue->tDMPeriod);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "tDMPeriod", -1, "MBSFN-TDM-Info");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tDMPeriod, 2, 9);
-   RT_CHECK(ctx, stat, 0, "tDMPeriod", -1, "MBSFN-TDM-Info");
-   /* tDMOffset */
-   if ((uint64_t)pvalue->tDMOffset > 8u) {
-      rtxErrAddStrParm(ctx, "tDMOffset");
-      rtxErrAddUIntParm(ctx, pvalue->tDMOffset);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "tDMOffset", -1, "MBSFN-TDM-Info");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tDMOffset, 0, 8);
-   RT_CHECK(ctx, stat, 0, "tDMOffset", -1, "MBSFN-TDM-Info");
-   /* tDMLength */
-   if ((uint64_t)(pvalue->tDMLength - 1) > 7u) {
-      rtxErrAddStrParm(ctx, "tDMLength");
-      rtxErrAddUIntParm(ctx, pvalue->tDMLength);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, 0, "tDMLength", -1, "MBSFN-TDM-Info");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->tDMLength, 1, 8);
-   RT_CHECK(ctx, stat, 0, "tDMLength", -1, "MBSFN-TDM-Info");
-   return 0;
-}
-
-int asn1PE_UMTS_MBSFN_TDM_Info_List(rtxContext* RT_RESTRICT ctx, const MBSFN_TDM_Info_List* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "MBSFN-TDM-Info-List");
-   const rtxDListNode* node;
-   uint32_t i;
-   RT_SET_SIZE(ctx, 1, 64);
-   stat = pe_Length(ctx, pvalue->count);
-   if (stat < 0) RT_FAIL(ctx, stat, 0, 0, -1, "MBSFN-TDM-Info-List");
-   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
-      if (node->data == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "MBSFN-TDM-Info", (int32_t)i, "MBSFN-TDM-Info-List");
-      stat = asn1PE_UMTS_MBSFN_TDM_Info(ctx, (const MBSFN_TDM_Info*)node->data);
-      RT_CHECK(ctx, stat, 0, "MBSFN-TDM-Info", (int32_t)i, "MBSFN-TDM-Info-List");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_r3_IEs(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_r3_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ActiveSetUpdate-r3-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 10) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 9) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 8) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 9) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 10) & 1u) << 0), 11);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-r3-IEs");
-   /* rrc-TransactionIdentifier */
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "ActiveSetUpdate-r3-IEs");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "ActiveSetUpdate-r3-IEs");
-   /* dummy */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "ActiveSetUpdate-r3-IEs");
-   }
-   /* dummy2 */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat, 0, "dummy2", -1, "ActiveSetUpdate-r3-IEs");
-   }
-   /* activationTime */
-   if (pvalue->m & 0x4u) {
-      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "ActiveSetUpdate-r3-IEs");
-   }
-   /* newU-RNTI */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->newU_RNTI);
-      RT_CHECK(ctx, stat, 0, "newU-RNTI", -1, "ActiveSetUpdate-r3-IEs");
-   }
-   /* cn-InformationInfo */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "ActiveSetUpdate-r3-IEs");
-   }
-   /* dummy3 */
-   if (pvalue->m & 0x20u) {
-      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dummy3);
-      RT_CHECK(ctx, stat, 0, "dummy3", -1, "ActiveSetUpdate-r3-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (pvalue->m & 0x40u) {
-      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
-         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "ActiveSetUpdate-r3-IEs");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "ActiveSetUpdate-r3-IEs");
-   }
-   /* rl-AdditionInformationList */
-   if (pvalue->m & 0x80u) {
-      stat = asn1PE_UMTS_RL_AdditionInformationList(ctx, &pvalue->rl_AdditionInformationList);
-      RT_CHECK(ctx, stat, 0, "rl-AdditionInformationList", -1, "ActiveSetUpdate-r3-IEs");
-   }
-   /* rl-RemovalInformationList */
-   if (pvalue->m & 0x100u) {
-      stat = asn1PE_UMTS_RL_RemovalInformationList(ctx, &pvalue->rl_RemovalInformationList);
-      RT_CHECK(ctx, stat, 0, "rl-RemovalInformationList", -1, "ActiveSetUpdate-r3-IEs");
-   }
-   /* tx-DiversityMode */
-   if (pvalue->m & 0x200u) {
-      if (pvalue->tx_DiversityMode > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->tx_DiversityMode);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "TX-DiversityMode", "tx-DiversityMode", -1, "ActiveSetUpdate-r3-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tx_DiversityMode, 0, 3);
-      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, "ActiveSetUpdate-r3-IEs");
-   }
-   /* dummy4 */
-   if (pvalue->m & 0x400u) {
-      stat = asn1PE_UMTS_SSDT_Information(ctx, &pvalue->dummy4);
-      RT_CHECK(ctx, stat, 0, "dummy4", -1, "ActiveSetUpdate-r3-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_v4b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ActiveSetUpdate-v4b0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-v4b0ext-IEs");
-   /* dummy */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->dummy > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->dummy);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "SSDT-UL", "dummy", -1, "ActiveSetUpdate-v4b0ext-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dummy, 0, 1);
-      RT_CHECK(ctx, stat, "SSDT-UL", "dummy", -1, "ActiveSetUpdate-v4b0ext-IEs");
-   }
-   /* cell-id-PerRL-List */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_CellIdentity_PerRL_List(ctx, &pvalue->cell_id_PerRL_List);
-      RT_CHECK(ctx, stat, 0, "cell-id-PerRL-List", -1, "ActiveSetUpdate-v4b0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_v590ext_IEs(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_v590ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ActiveSetUpdate-v590ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-v590ext-IEs");
-   /* dpc-Mode */
-   if (pvalue->dpc_Mode > 1) {
-      rtxErrAddUIntParm(ctx, pvalue->dpc_Mode);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "DPC-Mode", "dpc-Mode", -1, "ActiveSetUpdate-v590ext-IEs");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->dpc_Mode, 0, 1);
-   RT_CHECK(ctx, stat, "DPC-Mode", "dpc-Mode", -1, "ActiveSetUpdate-v590ext-IEs");
-   /* dl-TPC-PowerOffsetPerRL-List */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_TPC_PowerOffsetPerRL_List(ctx, &pvalue->dl_TPC_PowerOffsetPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-TPC-PowerOffsetPerRL-List", -1, "ActiveSetUpdate-v590ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_v690ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ActiveSetUpdate-v690ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-v690ext-IEs");
-   /* primary-plmn-Identity */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
-      RT_CHECK(ctx, stat, 0, "primary-plmn-Identity", -1, "ActiveSetUpdate-v690ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* activeSetUpdate-v690ext */
-   stat = asn1PE_UMTS_ActiveSetUpdate_v690ext_IEs(ctx, &pvalue->activeSetUpdate_v690ext);
-   RT_CHECK(ctx, stat, 0, "activeSetUpdate-v690ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* activeSetUpdate-v590ext */
-   stat = asn1PE_UMTS_ActiveSetUpdate_v590ext_IEs(ctx, &pvalue->activeSetUpdate_v590ext);
-   RT_CHECK(ctx, stat, 0, "activeSetUpdate-v590ext", -1, 0);
-   /* v690NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* activeSetUpdate-v4b0ext */
-   stat = asn1PE_UMTS_ActiveSetUpdate_v4b0ext_IEs(ctx, &pvalue->activeSetUpdate_v4b0ext);
-   RT_CHECK(ctx, stat, 0, "activeSetUpdate-v4b0ext", -1, 0);
-   /* v590NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* activeSetUpdate-r3-add-ext */
-   if (pvalue->m & 0x1u) {
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->activeSetUpdate_r3_add_ext.numbits, pvalue->activeSetUpdate_r3_add_ext.data);
-      RT_CHECK(ctx, stat, 0, "activeSetUpdate-r3-add-ext", -1, 0);
-   }
-   /* v4b0NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_r3(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_r3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* activeSetUpdate-r3 */
-   stat = asn1PE_UMTS_ActiveSetUpdate_r3_IEs(ctx, &pvalue->activeSetUpdate_r3);
-   RT_CHECK(ctx, stat, 0, "activeSetUpdate-r3", -1, 0);
-   /* laterNonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ActiveSetUpdate_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_GANSS_Almanac_r8, pvalue);
 }
 
-int asn1PE_UMTS_ActiveSetUpdate_r6_IEs(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_r6_IEs* RT_RESTRICT pvalue)
+static int enc_GANSSGenericData_r8(rtxContext* RT_RESTRICT ctx, const GANSSGenericData_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ActiveSetUpdate-r6-IEs");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GANSSGenericData-r8");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 12) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 12) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 11) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 10) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 9) |
@@ -5236,2977 +5585,3598 @@ int asn1PE_UMTS_ActiveSetUpdate_r6_IEs(rtxContext* RT_RESTRICT ctx, const Active
       ((uint64_t)((pvalue->m >> 10) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 11) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 12) & 1u) << 0), 13);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-r6-IEs");
-   /* activationTime */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "GANSSGenericData-r8");
+   /* ganssId */
    if (pvalue->m & 0x1u) {
-      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "ActiveSetUpdate-r6-IEs");
+      if ((uint64_t)pvalue->ganssId > 7u) {
+         rtxErrAddStrParm(ctx, "ganssId");
+         rtxErrAddUIntParm(ctx, pvalue->ganssId);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ganssId", -1, "GANSSGenericData-r8");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ganssId, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "ganssId", -1, "GANSSGenericData-r8");
    }
-   /* newU-RNTI */
+   /* uePositiningGANSSsbasID */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->newU_RNTI);
-      RT_CHECK(ctx, stat, 0, "newU-RNTI", -1, "ActiveSetUpdate-r6-IEs");
+      if (pvalue->uePositiningGANSSsbasID > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->uePositiningGANSSsbasID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UE-Positioning-GANSS-SBAS-ID", "uePositiningGANSSsbasID", -1, "GANSSGenericData-r8");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->uePositiningGANSSsbasID, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "UE-Positioning-GANSS-SBAS-ID", "uePositiningGANSSsbasID", -1, "GANSSGenericData-r8");
    }
-   /* newH-RNTI */
+   /* ganssTimeModelsList */
    if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->newH_RNTI);
-      RT_CHECK(ctx, stat, 0, "newH-RNTI", -1, "ActiveSetUpdate-r6-IEs");
+      stat = enc_GANSSTimeModelsList(ctx, &pvalue->ganssTimeModelsList, cur);
+      RT_CHECK(ctx, stat, 0, "ganssTimeModelsList", -1, "GANSSGenericData-r8");
    }
-   /* newPrimary-E-RNTI */
+   /* uePositioningDGANSSCorrections */
    if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "ActiveSetUpdate-r6-IEs");
+      stat = enc_UE_Positioning_DGANSSCorrections(ctx, &pvalue->uePositioningDGANSSCorrections, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningDGANSSCorrections", -1, "GANSSGenericData-r8");
    }
-   /* newSecondary-E-RNTI */
+   /* uePositioningGANSSNavigationModel */
    if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "ActiveSetUpdate-r6-IEs");
+      stat = enc_UE_Positioning_GANSS_NavigationModel(ctx, &pvalue->uePositioningGANSSNavigationModel, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSNavigationModel", -1, "GANSSGenericData-r8");
    }
-   /* cn-InformationInfo */
+   /* uePositioningGANSSAddNavigationModels */
    if (pvalue->m & 0x20u) {
-      stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "ActiveSetUpdate-r6-IEs");
+      stat = enc_UE_Positioning_GANSS_AddNavigationModels(ctx, &pvalue->uePositioningGANSSAddNavigationModels, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAddNavigationModels", -1, "GANSSGenericData-r8");
    }
-   /* maxAllowedUL-TX-Power */
+   /* uePositioningGANSSRealTimeIntegrity */
    if (pvalue->m & 0x40u) {
-      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
-         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "ActiveSetUpdate-r6-IEs");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "ActiveSetUpdate-r6-IEs");
+      stat = enc_UE_Positioning_GANSS_RealTimeIntegrity(ctx, &pvalue->uePositioningGANSSRealTimeIntegrity, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSRealTimeIntegrity", -1, "GANSSGenericData-r8");
    }
-   /* rl-AdditionInformationList */
+   /* uePositioningGANSSDataBitAssistance */
    if (pvalue->m & 0x80u) {
-      stat = asn1PE_UMTS_RL_AdditionInformationList_r6(ctx, &pvalue->rl_AdditionInformationList);
-      RT_CHECK(ctx, stat, 0, "rl-AdditionInformationList", -1, "ActiveSetUpdate-r6-IEs");
+      stat = enc_UE_Positioning_GANSS_Data_Bit_Assistance(ctx, &pvalue->uePositioningGANSSDataBitAssistance, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSDataBitAssistance", -1, "GANSSGenericData-r8");
    }
-   /* rl-RemovalInformationList */
+   /* uePositioningGANSSReferenceMeasurementInfo */
    if (pvalue->m & 0x100u) {
-      stat = asn1PE_UMTS_RL_RemovalInformationList(ctx, &pvalue->rl_RemovalInformationList);
-      RT_CHECK(ctx, stat, 0, "rl-RemovalInformationList", -1, "ActiveSetUpdate-r6-IEs");
+      stat = enc_UE_Positioning_GANSS_ReferenceMeasurementInfo(ctx, &pvalue->uePositioningGANSSReferenceMeasurementInfo, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSReferenceMeasurementInfo", -1, "GANSSGenericData-r8");
    }
-   /* tx-DiversityMode */
+   /* uePositioningGANSSAlmanac */
    if (pvalue->m & 0x200u) {
-      if (pvalue->tx_DiversityMode > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->tx_DiversityMode);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "TX-DiversityMode", "tx-DiversityMode", -1, "ActiveSetUpdate-r6-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tx_DiversityMode, 0, 3);
-      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, "ActiveSetUpdate-r6-IEs");
+      stat = enc_UE_Positioning_GANSS_Almanac_r8(ctx, &pvalue->uePositioningGANSSAlmanac, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAlmanac", -1, "GANSSGenericData-r8");
    }
-   /* dpc-Mode */
+   /* uePositioningGANSSUTCModel */
    if (pvalue->m & 0x400u) {
-      if (pvalue->dpc_Mode > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->dpc_Mode);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "DPC-Mode", "dpc-Mode", -1, "ActiveSetUpdate-r6-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dpc_Mode, 0, 1);
-      RT_CHECK(ctx, stat, "DPC-Mode", "dpc-Mode", -1, "ActiveSetUpdate-r6-IEs");
+      stat = enc_UE_Positioning_GANSS_UTCModel(ctx, &pvalue->uePositioningGANSSUTCModel, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSUTCModel", -1, "GANSSGenericData-r8");
    }
-   /* serving-HSDSCH-CellInformation */
+   /* uePositioningGANSSAddUTCModels */
    if (pvalue->m & 0x800u) {
-      stat = asn1PE_UMTS_Serving_HSDSCH_CellInformation(ctx, &pvalue->serving_HSDSCH_CellInformation);
-      RT_CHECK(ctx, stat, 0, "serving-HSDSCH-CellInformation", -1, "ActiveSetUpdate-r6-IEs");
+      stat = enc_UE_Positioning_GANSS_AddUTCModels(ctx, &pvalue->uePositioningGANSSAddUTCModels, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAddUTCModels", -1, "GANSSGenericData-r8");
    }
-   /* e-dch-ReconfigurationInfo */
+   /* uePositioningGANSSAuxiliaryInfo */
    if (pvalue->m & 0x1000u) {
-      stat = asn1PE_UMTS_E_DCH_ReconfigurationInfo(ctx, &pvalue->e_dch_ReconfigurationInfo);
-      RT_CHECK(ctx, stat, 0, "e-dch-ReconfigurationInfo", -1, "ActiveSetUpdate-r6-IEs");
+      stat = enc_UE_Positioning_GANSS_AuxiliaryInfo(ctx, &pvalue->uePositioningGANSSAuxiliaryInfo, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAuxiliaryInfo", -1, "GANSSGenericData-r8");
    }
    return 0;
 }
 
-int asn1PE_UMTS_ActiveSetUpdate_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_v6b0ext_IEs* RT_RESTRICT pvalue)
+int asn1PE_UMTS_GANSSGenericData_r8(rtxContext* RT_RESTRICT ctx, const GANSSGenericData_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSSGenericData_r8, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_Positioning_DGANSSCorrections_r9(rtxContext* RT_RESTRICT ctx, const UE_Positioning_DGANSSCorrections_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ActiveSetUpdate-v6b0ext-IEs");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-DGANSSCorrections-r9");
+   /* dganssreferencetime */
+   if ((uint64_t)pvalue->dganssreferencetime > 119u) {
+      rtxErrAddStrParm(ctx, "dganssreferencetime");
+      rtxErrAddUIntParm(ctx, pvalue->dganssreferencetime);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "dganssreferencetime", -1, "UE-Positioning-DGANSSCorrections-r9");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->dganssreferencetime, 0, 119);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "dganssreferencetime", -1, "UE-Positioning-DGANSSCorrections-r9");
+   /* dganssInfoList */
+   stat = enc_DGANSSInfoList_r9(ctx, &pvalue->dganssInfoList, cur);
+   RT_CHECK(ctx, stat, 0, "dganssInfoList", -1, "UE-Positioning-DGANSSCorrections-r9");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_DGANSSCorrections_r9(rtxContext* RT_RESTRICT ctx, const UE_Positioning_DGANSSCorrections_r9* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_DGANSSCorrections_r9, pvalue);
+}
+
+static int enc_GANSSGenericData_r9(rtxContext* RT_RESTRICT ctx, const GANSSGenericData_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GANSSGenericData-r9");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-v6b0ext-IEs");
-   /* rl-AdditionInformation-list-v6b0ext */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 12) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 11) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 10) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 9) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 8) |
+      ((uint64_t)((pvalue->m >> 5) & 1u) << 7) |
+      ((uint64_t)((pvalue->m >> 6) & 1u) << 6) |
+      ((uint64_t)((pvalue->m >> 7) & 1u) << 5) |
+      ((uint64_t)((pvalue->m >> 8) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 9) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 10) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 11) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 12) & 1u) << 0), 13);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "GANSSGenericData-r9");
+   /* ganssId */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_RL_AdditionInformation_list_v6b0ext(ctx, &pvalue->rl_AdditionInformation_list_v6b0ext);
-      RT_CHECK(ctx, stat, 0, "rl-AdditionInformation-list-v6b0ext", -1, "ActiveSetUpdate-v6b0ext-IEs");
+      if ((uint64_t)pvalue->ganssId > 7u) {
+         rtxErrAddStrParm(ctx, "ganssId");
+         rtxErrAddUIntParm(ctx, pvalue->ganssId);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ganssId", -1, "GANSSGenericData-r9");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ganssId, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "ganssId", -1, "GANSSGenericData-r9");
    }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* activeSetUpdate-v6b0ext */
-   stat = asn1PE_UMTS_ActiveSetUpdate_v6b0ext_IEs(ctx, &pvalue->activeSetUpdate_v6b0ext);
-   RT_CHECK(ctx, stat, 0, "activeSetUpdate-v6b0ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_r6* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* activeSetUpdate-r6 */
-   stat = asn1PE_UMTS_ActiveSetUpdate_r6_IEs(ctx, &pvalue->activeSetUpdate_r6);
-   RT_CHECK(ctx, stat, 0, "activeSetUpdate-r6", -1, 0);
-   /* activeSetUpdate-r6-add-ext */
-   if (pvalue->m & 0x1u) {
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->activeSetUpdate_r6_add_ext.numbits, pvalue->activeSetUpdate_r6_add_ext.data);
-      RT_CHECK(ctx, stat, 0, "activeSetUpdate-r6-add-ext", -1, 0);
-   }
-   /* v6b0NonCriticalExtensions */
+   /* uePositiningGANSSsbasID */
    if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
+      if (pvalue->uePositiningGANSSsbasID > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->uePositiningGANSSsbasID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UE-Positioning-GANSS-SBAS-ID", "uePositiningGANSSsbasID", -1, "GANSSGenericData-r9");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->uePositiningGANSSsbasID, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "UE-Positioning-GANSS-SBAS-ID", "uePositiningGANSSsbasID", -1, "GANSSGenericData-r9");
    }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_r7_IEs(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_r7_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ActiveSetUpdate-r7-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 20) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 19) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 18) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 17) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 16) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 15) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 14) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 13) |
-      ((uint64_t)((pvalue->m >> 8) & 1u) << 12) |
-      ((uint64_t)((pvalue->m >> 9) & 1u) << 11) |
-      ((uint64_t)((pvalue->m >> 10) & 1u) << 10) |
-      ((uint64_t)((pvalue->m >> 11) & 1u) << 9) |
-      ((uint64_t)((pvalue->m >> 12) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 13) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 14) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 15) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 16) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 17) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 18) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 19) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 20) & 1u) << 0), 21);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-r7-IEs");
-   /* activationTime */
-   if (pvalue->m & 0x1u) {
-      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "ActiveSetUpdate-r7-IEs");
-   }
-   /* newU-RNTI */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->newU_RNTI);
-      RT_CHECK(ctx, stat, 0, "newU-RNTI", -1, "ActiveSetUpdate-r7-IEs");
-   }
-   /* newH-RNTI */
+   /* ganssTimeModelsList */
    if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->newH_RNTI);
-      RT_CHECK(ctx, stat, 0, "newH-RNTI", -1, "ActiveSetUpdate-r7-IEs");
+      stat = enc_GANSSTimeModelsList(ctx, &pvalue->ganssTimeModelsList, cur);
+      RT_CHECK(ctx, stat, 0, "ganssTimeModelsList", -1, "GANSSGenericData-r9");
    }
-   /* newPrimary-E-RNTI */
+   /* uePositioningDGANSSCorrections */
    if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "ActiveSetUpdate-r7-IEs");
+      stat = enc_UE_Positioning_DGANSSCorrections_r9(ctx, &pvalue->uePositioningDGANSSCorrections, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningDGANSSCorrections", -1, "GANSSGenericData-r9");
    }
-   /* newSecondary-E-RNTI */
+   /* uePositioningGANSSNavigationModel */
    if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "ActiveSetUpdate-r7-IEs");
+      stat = enc_UE_Positioning_GANSS_NavigationModel(ctx, &pvalue->uePositioningGANSSNavigationModel, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSNavigationModel", -1, "GANSSGenericData-r9");
    }
-   /* cn-InformationInfo */
+   /* uePositioningGANSSAddNavigationModels */
    if (pvalue->m & 0x20u) {
-      stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "ActiveSetUpdate-r7-IEs");
+      stat = enc_UE_Positioning_GANSS_AddNavigationModels(ctx, &pvalue->uePositioningGANSSAddNavigationModels, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAddNavigationModels", -1, "GANSSGenericData-r9");
    }
-   /* dtx-drx-TimingInfo */
+   /* uePositioningGANSSRealTimeIntegrity */
    if (pvalue->m & 0x40u) {
-      stat = asn1PE_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "ActiveSetUpdate-r7-IEs");
+      stat = enc_UE_Positioning_GANSS_RealTimeIntegrity(ctx, &pvalue->uePositioningGANSSRealTimeIntegrity, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSRealTimeIntegrity", -1, "GANSSGenericData-r9");
    }
-   /* dtx-drx-Info */
+   /* uePositioningGANSSDataBitAssistance */
    if (pvalue->m & 0x80u) {
-      stat = asn1PE_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "ActiveSetUpdate-r7-IEs");
+      stat = enc_UE_Positioning_GANSS_Data_Bit_Assistance(ctx, &pvalue->uePositioningGANSSDataBitAssistance, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSDataBitAssistance", -1, "GANSSGenericData-r9");
    }
-   /* hs-scch-LessInfo */
+   /* uePositioningGANSSReferenceMeasurementInfo */
    if (pvalue->m & 0x100u) {
-      stat = asn1PE_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "ActiveSetUpdate-r7-IEs");
+      stat = enc_UE_Positioning_GANSS_ReferenceMeasurementInfo(ctx, &pvalue->uePositioningGANSSReferenceMeasurementInfo, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSReferenceMeasurementInfo", -1, "GANSSGenericData-r9");
    }
-   /* mimoParameters */
+   /* uePositioningGANSSAlmanac */
    if (pvalue->m & 0x200u) {
-      stat = asn1PE_UMTS_MIMO_Parameters_r7(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "ActiveSetUpdate-r7-IEs");
+      stat = enc_UE_Positioning_GANSS_Almanac_r8(ctx, &pvalue->uePositioningGANSSAlmanac, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAlmanac", -1, "GANSSGenericData-r9");
    }
-   /* maxAllowedUL-TX-Power */
+   /* uePositioningGANSSUTCModel */
    if (pvalue->m & 0x400u) {
-      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
-         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "ActiveSetUpdate-r7-IEs");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "ActiveSetUpdate-r7-IEs");
+      stat = enc_UE_Positioning_GANSS_UTCModel(ctx, &pvalue->uePositioningGANSSUTCModel, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSUTCModel", -1, "GANSSGenericData-r9");
    }
-   /* rl-AdditionInformationList */
+   /* uePositioningGANSSAddUTCModels */
    if (pvalue->m & 0x800u) {
-      stat = asn1PE_UMTS_RL_AdditionInformationList_r7(ctx, &pvalue->rl_AdditionInformationList);
-      RT_CHECK(ctx, stat, 0, "rl-AdditionInformationList", -1, "ActiveSetUpdate-r7-IEs");
+      stat = enc_UE_Positioning_GANSS_AddUTCModels(ctx, &pvalue->uePositioningGANSSAddUTCModels, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAddUTCModels", -1, "GANSSGenericData-r9");
    }
-   /* rl-RemovalInformationList */
+   /* uePositioningGANSSAuxiliaryInfo */
    if (pvalue->m & 0x1000u) {
-      stat = asn1PE_UMTS_RL_RemovalInformationList(ctx, &pvalue->rl_RemovalInformationList);
-      RT_CHECK(ctx, stat, 0, "rl-RemovalInformationList", -1, "ActiveSetUpdate-r7-IEs");
-   }
-   /* tx-DiversityMode */
-   if (pvalue->m & 0x2000u) {
-      if (pvalue->tx_DiversityMode > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->tx_DiversityMode);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "TX-DiversityMode", "tx-DiversityMode", -1, "ActiveSetUpdate-r7-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tx_DiversityMode, 0, 3);
-      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, "ActiveSetUpdate-r7-IEs");
-   }
-   /* dpc-Mode */
-   if (pvalue->m & 0x4000u) {
-      if (pvalue->dpc_Mode > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->dpc_Mode);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "DPC-Mode", "dpc-Mode", -1, "ActiveSetUpdate-r7-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dpc_Mode, 0, 1);
-      RT_CHECK(ctx, stat, "DPC-Mode", "dpc-Mode", -1, "ActiveSetUpdate-r7-IEs");
-   }
-   /* serving-HSDSCH-CellInformation */
-   if (pvalue->m & 0x8000u) {
-      stat = asn1PE_UMTS_Serving_HSDSCH_CellInformation_r7(ctx, &pvalue->serving_HSDSCH_CellInformation);
-      RT_CHECK(ctx, stat, 0, "serving-HSDSCH-CellInformation", -1, "ActiveSetUpdate-r7-IEs");
-   }
-   /* e-dch-ReconfigurationInfo */
-   if (pvalue->m & 0x10000u) {
-      stat = asn1PE_UMTS_E_DCH_ReconfigurationInfo_r7(ctx, &pvalue->e_dch_ReconfigurationInfo);
-      RT_CHECK(ctx, stat, 0, "e-dch-ReconfigurationInfo", -1, "ActiveSetUpdate-r7-IEs");
-   }
-   /* ul-16QAM-Config */
-   if (pvalue->m & 0x20000u) {
-      stat = asn1PE_UMTS_UL_16QAM_Config(ctx, &pvalue->ul_16QAM_Config);
-      RT_CHECK(ctx, stat, 0, "ul-16QAM-Config", -1, "ActiveSetUpdate-r7-IEs");
-   }
-   /* e-dch-ReconfInfoSameCell */
-   if (pvalue->m & 0x40000u) {
-      stat = asn1PE_UMTS_E_DCH_RL_InfoSameServingCell(ctx, &pvalue->e_dch_ReconfInfoSameCell);
-      RT_CHECK(ctx, stat, 0, "e-dch-ReconfInfoSameCell", -1, "ActiveSetUpdate-r7-IEs");
-   }
-   /* e-TFC-Boost-Info */
-   if (pvalue->m & 0x80000u) {
-      stat = asn1PE_UMTS_E_TFC_Boost_Info_r7(ctx, &pvalue->e_TFC_Boost_Info);
-      RT_CHECK(ctx, stat, 0, "e-TFC-Boost-Info", -1, "ActiveSetUpdate-r7-IEs");
-   }
-   /* e-DPDCH-PowerInterpolation */
-   if (pvalue->m & 0x100000u) {
-      stat = rtxEncBit(ctx, pvalue->e_DPDCH_PowerInterpolation);
-      RT_CHECK(ctx, stat, "E-DPDCH-PowerInterpolation", "e-DPDCH-PowerInterpolation", -1, "ActiveSetUpdate-r7-IEs");
+      stat = enc_UE_Positioning_GANSS_AuxiliaryInfo(ctx, &pvalue->uePositioningGANSSAuxiliaryInfo, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningGANSSAuxiliaryInfo", -1, "GANSSGenericData-r9");
    }
    return 0;
 }
 
-int asn1PE_UMTS_ActiveSetUpdate_v780ext_IEs(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_v780ext_IEs* RT_RESTRICT pvalue)
+int asn1PE_UMTS_GANSSGenericData_r9(rtxContext* RT_RESTRICT ctx, const GANSSGenericData_r9* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSSGenericData_r9, pvalue);
+}
+
+RT_MERGED_BODY int enc_UE_Positioning_DGANSSCorrections_v920ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_DGANSSCorrections_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ActiveSetUpdate-v780ext-IEs");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-Positioning-DGANSSCorrections-v920ext");
+   /* dganssInfoList */
+   stat = enc_DGANSSInfoList_v920ext(ctx, &pvalue->dganssInfoList, cur);
+   RT_CHECK(ctx, stat, 0, "dganssInfoList", -1, "UE-Positioning-DGANSSCorrections-v920ext");
+   return 0;
+}
+
+int asn1PE_UMTS_UE_Positioning_DGANSSCorrections_v920ext(rtxContext* RT_RESTRICT ctx, const UE_Positioning_DGANSSCorrections_v920ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_Positioning_DGANSSCorrections_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_GANSSGenericData_v920ext(rtxContext* RT_RESTRICT ctx, const GANSSGenericData_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GANSSGenericData-v920ext");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-v780ext-IEs");
-   /* hs-DSCH-TBSizeTable */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "GANSSGenericData-v920ext");
+   /* uePositioningDGANSSCorrections */
    if (pvalue->m & 0x1u) {
-      if (pvalue->hs_DSCH_TBSizeTable > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->hs_DSCH_TBSizeTable);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "ActiveSetUpdate-v780ext-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hs_DSCH_TBSizeTable, 0, 0);
-      RT_CHECK(ctx, stat, "HS-DSCH-TBSizeTable", "hs-DSCH-TBSizeTable", -1, "ActiveSetUpdate-v780ext-IEs");
+      stat = enc_UE_Positioning_DGANSSCorrections_v920ext(ctx, &pvalue->uePositioningDGANSSCorrections, cur);
+      RT_CHECK(ctx, stat, 0, "uePositioningDGANSSCorrections", -1, "GANSSGenericData-v920ext");
    }
    return 0;
 }
 
-int asn1PE_UMTS_ActiveSetUpdate_v7f0ext_IEs(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_v7f0ext_IEs* RT_RESTRICT pvalue)
+int asn1PE_UMTS_GANSSGenericData_v920ext(rtxContext* RT_RESTRICT ctx, const GANSSGenericData_v920ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSSGenericData_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_GANSSGenericDataList(rtxContext* RT_RESTRICT ctx, const GANSSGenericDataList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ActiveSetUpdate-v7f0ext-IEs");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GANSSGenericDataList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "GANSSGenericDataList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "GANSSGenericData", (int32_t)i, "GANSSGenericDataList");
+      stat = enc_GANSSGenericData(ctx, (const GANSSGenericData*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "GANSSGenericData", (int32_t)i, "GANSSGenericDataList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSGenericDataList(rtxContext* RT_RESTRICT ctx, const GANSSGenericDataList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSSGenericDataList, pvalue);
+}
+
+RT_MERGED_BODY int enc_GANSSGenericDataList_v860ext(rtxContext* RT_RESTRICT ctx, const GANSSGenericDataList_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GANSSGenericDataList-v860ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "GANSSGenericDataList-v860ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "GANSSGenericData-v860ext", (int32_t)i, "GANSSGenericDataList-v860ext");
+      stat = enc_GANSSGenericData_v860ext(ctx, (const GANSSGenericData_v860ext*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "GANSSGenericData-v860ext", (int32_t)i, "GANSSGenericDataList-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSGenericDataList_v860ext(rtxContext* RT_RESTRICT ctx, const GANSSGenericDataList_v860ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSSGenericDataList_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_GANSSGenericDataList_r8(rtxContext* RT_RESTRICT ctx, const GANSSGenericDataList_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GANSSGenericDataList-r8");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "GANSSGenericDataList-r8");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "GANSSGenericData-r8", (int32_t)i, "GANSSGenericDataList-r8");
+      stat = enc_GANSSGenericData_r8(ctx, (const GANSSGenericData_r8*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "GANSSGenericData-r8", (int32_t)i, "GANSSGenericDataList-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSGenericDataList_r8(rtxContext* RT_RESTRICT ctx, const GANSSGenericDataList_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSSGenericDataList_r8, pvalue);
+}
+
+RT_MERGED_BODY int enc_GANSSGenericDataList_r9(rtxContext* RT_RESTRICT ctx, const GANSSGenericDataList_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GANSSGenericDataList-r9");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "GANSSGenericDataList-r9");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "GANSSGenericData-r9", (int32_t)i, "GANSSGenericDataList-r9");
+      stat = enc_GANSSGenericData_r9(ctx, (const GANSSGenericData_r9*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "GANSSGenericData-r9", (int32_t)i, "GANSSGenericDataList-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSGenericDataList_r9(rtxContext* RT_RESTRICT ctx, const GANSSGenericDataList_r9* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSSGenericDataList_r9, pvalue);
+}
+
+RT_MERGED_BODY int enc_GANSSGenericDataList_v920ext(rtxContext* RT_RESTRICT ctx, const GANSSGenericDataList_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GANSSGenericDataList-v920ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "GANSSGenericDataList-v920ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "GANSSGenericData-v920ext", (int32_t)i, "GANSSGenericDataList-v920ext");
+      stat = enc_GANSSGenericData_v920ext(ctx, (const GANSSGenericData_v920ext*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "GANSSGenericData-v920ext", (int32_t)i, "GANSSGenericDataList-v920ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GANSSGenericDataList_v920ext(rtxContext* RT_RESTRICT ctx, const GANSSGenericDataList_v920ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSSGenericDataList_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_SatellitesListRelatedData(rtxContext* RT_RESTRICT ctx, const SatellitesListRelatedData* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SatellitesListRelatedData");
+   /* satId */
+   if ((uint64_t)pvalue->satId > 63u) {
+      rtxErrAddStrParm(ctx, "satId");
+      rtxErrAddUIntParm(ctx, pvalue->satId);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "satId", -1, "SatellitesListRelatedData");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->satId, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "satId", -1, "SatellitesListRelatedData");
+   /* iod */
+   if ((uint64_t)pvalue->iod > 1023u) {
+      rtxErrAddStrParm(ctx, "iod");
+      rtxErrAddUIntParm(ctx, pvalue->iod);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "iod", -1, "SatellitesListRelatedData");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->iod, 0, 1023);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "iod", -1, "SatellitesListRelatedData");
+   return 0;
+}
+
+int asn1PE_UMTS_SatellitesListRelatedData(rtxContext* RT_RESTRICT ctx, const SatellitesListRelatedData* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SatellitesListRelatedData, pvalue);
+}
+
+RT_MERGED_BODY int enc_SatellitesListRelatedDataList(rtxContext* RT_RESTRICT ctx, const SatellitesListRelatedDataList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "SatellitesListRelatedDataList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 64);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "SatellitesListRelatedDataList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "SatellitesListRelatedData", (int32_t)i, "SatellitesListRelatedDataList");
+      stat = enc_SatellitesListRelatedData(ctx, (const SatellitesListRelatedData*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "SatellitesListRelatedData", (int32_t)i, "SatellitesListRelatedDataList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_SatellitesListRelatedDataList(rtxContext* RT_RESTRICT ctx, const SatellitesListRelatedDataList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_SatellitesListRelatedDataList, pvalue);
+}
+
+RT_MERGED_BODY int enc_GanssNavigationModelAdditionalData(rtxContext* RT_RESTRICT ctx, const GanssNavigationModelAdditionalData* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GanssNavigationModelAdditionalData");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-v7f0ext-IEs");
-   /* mimoParameters */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "GanssNavigationModelAdditionalData");
+   /* ganssWeek */
+   if ((uint64_t)pvalue->ganssWeek > 4095u) {
+      rtxErrAddStrParm(ctx, "ganssWeek");
+      rtxErrAddUIntParm(ctx, pvalue->ganssWeek);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ganssWeek", -1, "GanssNavigationModelAdditionalData");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ganssWeek, 0, 4095);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ganssWeek", -1, "GanssNavigationModelAdditionalData");
+   /* ganssToe */
+   if ((uint64_t)pvalue->ganssToe > 167u) {
+      rtxErrAddStrParm(ctx, "ganssToe");
+      rtxErrAddUIntParm(ctx, pvalue->ganssToe);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ganssToe", -1, "GanssNavigationModelAdditionalData");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->ganssToe, 0, 167);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ganssToe", -1, "GanssNavigationModelAdditionalData");
+   /* t-toeLimit */
+   if ((uint64_t)pvalue->t_toeLimit > 10u) {
+      rtxErrAddStrParm(ctx, "t-toeLimit");
+      rtxErrAddUIntParm(ctx, pvalue->t_toeLimit);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "t-toeLimit", -1, "GanssNavigationModelAdditionalData");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->t_toeLimit, 0, 10);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t-toeLimit", -1, "GanssNavigationModelAdditionalData");
+   /* satellitesListRelatedDataList */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MIMO_Parameters_v7f0ext(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "ActiveSetUpdate-v7f0ext-IEs");
+      stat = enc_SatellitesListRelatedDataList(ctx, &pvalue->satellitesListRelatedDataList, cur);
+      RT_CHECK(ctx, stat, 0, "satellitesListRelatedDataList", -1, "GanssNavigationModelAdditionalData");
    }
    return 0;
 }
 
-int asn1PE_UMTS_ActiveSetUpdate_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_v7g0ext_IEs* RT_RESTRICT pvalue)
+int asn1PE_UMTS_GanssNavigationModelAdditionalData(rtxContext* RT_RESTRICT ctx, const GanssNavigationModelAdditionalData* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GanssNavigationModelAdditionalData, pvalue);
+}
+
+RT_MERGED_BODY int enc_GanssReqGenericData(rtxContext* RT_RESTRICT ctx, const GanssReqGenericData* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ActiveSetUpdate-v7g0ext-IEs");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GanssReqGenericData");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-v7g0ext-IEs");
-   /* mimoParameters */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MIMO_Parameters_v7g0ext(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "ActiveSetUpdate-v7g0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* activeSetUdpate-v7g0ext */
-   stat = asn1PE_UMTS_ActiveSetUpdate_v7g0ext_IEs(ctx, &pvalue->activeSetUdpate_v7g0ext);
-   RT_CHECK(ctx, stat, 0, "activeSetUdpate-v7g0ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* activeSetUdpate-v7f0ext */
-   stat = asn1PE_UMTS_ActiveSetUpdate_v7f0ext_IEs(ctx, &pvalue->activeSetUdpate_v7f0ext);
-   RT_CHECK(ctx, stat, 0, "activeSetUdpate-v7f0ext", -1, 0);
-   /* v7g0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* activeSetUpdate-v780ext */
-   stat = asn1PE_UMTS_ActiveSetUpdate_v780ext_IEs(ctx, &pvalue->activeSetUpdate_v780ext);
-   RT_CHECK(ctx, stat, 0, "activeSetUpdate-v780ext", -1, 0);
-   /* v7f0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions_v7f0NonCriticalExtensions(ctx, &pvalue->v7f0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7f0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* activeSetUpdate-r7 */
-   stat = asn1PE_UMTS_ActiveSetUpdate_r7_IEs(ctx, &pvalue->activeSetUpdate_r7);
-   RT_CHECK(ctx, stat, 0, "activeSetUpdate-r7", -1, 0);
-   /* activeSetUpdate-r7-add-ext */
-   if (pvalue->m & 0x1u) {
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->activeSetUpdate_r7_add_ext.numbits, pvalue->activeSetUpdate_r7_add_ext.data);
-      RT_CHECK(ctx, stat, 0, "activeSetUpdate-r7-add-ext", -1, 0);
-   }
-   /* v780NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7_v780NonCriticalExtensions(ctx, &pvalue->v780NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v780NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_r8_IEs(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_r8_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ActiveSetUpdate-r8-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 22) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 21) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 20) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 19) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 18) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 17) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 16) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 15) |
-      ((uint64_t)((pvalue->m >> 8) & 1u) << 14) |
-      ((uint64_t)((pvalue->m >> 9) & 1u) << 13) |
-      ((uint64_t)((pvalue->m >> 10) & 1u) << 12) |
-      ((uint64_t)((pvalue->m >> 11) & 1u) << 11) |
-      ((uint64_t)((pvalue->m >> 12) & 1u) << 10) |
-      ((uint64_t)((pvalue->m >> 13) & 1u) << 9) |
-      ((uint64_t)((pvalue->m >> 14) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 15) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 16) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 17) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 18) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 19) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 20) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 21) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 22) & 1u) << 0), 23);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-r8-IEs");
-   /* activationTime */
-   if (pvalue->m & 0x1u) {
-      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* newU-RNTI */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->newU_RNTI);
-      RT_CHECK(ctx, stat, 0, "newU-RNTI", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* newH-RNTI */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->newH_RNTI);
-      RT_CHECK(ctx, stat, 0, "newH-RNTI", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* newPrimary-E-RNTI */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* newSecondary-E-RNTI */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* cn-InformationInfo */
-   if (pvalue->m & 0x20u) {
-      stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* dtx-drx-TimingInfo */
-   if (pvalue->m & 0x40u) {
-      stat = asn1PE_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* dtx-drx-Info */
-   if (pvalue->m & 0x80u) {
-      stat = asn1PE_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* hs-scch-LessInfo */
-   if (pvalue->m & 0x100u) {
-      stat = asn1PE_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* mimoParameters */
-   if (pvalue->m & 0x200u) {
-      stat = asn1PE_UMTS_MIMO_Parameters_r8(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (pvalue->m & 0x400u) {
-      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
-         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "ActiveSetUpdate-r8-IEs");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* rl-AdditionInformationList */
-   if (pvalue->m & 0x800u) {
-      stat = asn1PE_UMTS_RL_AdditionInformationList_r8(ctx, &pvalue->rl_AdditionInformationList);
-      RT_CHECK(ctx, stat, 0, "rl-AdditionInformationList", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* servingCellChangeParameters */
-   if (pvalue->m & 0x1000u) {
-      stat = asn1PE_UMTS_ServingCellChangeParameters(ctx, &pvalue->servingCellChangeParameters);
-      RT_CHECK(ctx, stat, 0, "servingCellChangeParameters", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* rl-RemovalInformationList */
-   if (pvalue->m & 0x2000u) {
-      stat = asn1PE_UMTS_RL_RemovalInformationList(ctx, &pvalue->rl_RemovalInformationList);
-      RT_CHECK(ctx, stat, 0, "rl-RemovalInformationList", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* tx-DiversityMode */
-   if (pvalue->m & 0x4000u) {
-      if (pvalue->tx_DiversityMode > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->tx_DiversityMode);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "TX-DiversityMode", "tx-DiversityMode", -1, "ActiveSetUpdate-r8-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tx_DiversityMode, 0, 3);
-      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* dpc-Mode */
-   if (pvalue->m & 0x8000u) {
-      if (pvalue->dpc_Mode > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->dpc_Mode);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "DPC-Mode", "dpc-Mode", -1, "ActiveSetUpdate-r8-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dpc_Mode, 0, 1);
-      RT_CHECK(ctx, stat, "DPC-Mode", "dpc-Mode", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* serving-HSDSCH-CellInformation */
-   if (pvalue->m & 0x10000u) {
-      stat = asn1PE_UMTS_Serving_HSDSCH_CellInformation_r8(ctx, &pvalue->serving_HSDSCH_CellInformation);
-      RT_CHECK(ctx, stat, 0, "serving-HSDSCH-CellInformation", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* e-dch-ReconfigurationInfo */
-   if (pvalue->m & 0x20000u) {
-      stat = asn1PE_UMTS_E_DCH_ReconfigurationInfo_r7(ctx, &pvalue->e_dch_ReconfigurationInfo);
-      RT_CHECK(ctx, stat, 0, "e-dch-ReconfigurationInfo", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* ul-16QAM-Config */
-   if (pvalue->m & 0x40000u) {
-      stat = asn1PE_UMTS_UL_16QAM_Config(ctx, &pvalue->ul_16QAM_Config);
-      RT_CHECK(ctx, stat, 0, "ul-16QAM-Config", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* e-dch-ReconfInfoSameCell */
-   if (pvalue->m & 0x80000u) {
-      stat = asn1PE_UMTS_E_DCH_RL_InfoSameServingCell(ctx, &pvalue->e_dch_ReconfInfoSameCell);
-      RT_CHECK(ctx, stat, 0, "e-dch-ReconfInfoSameCell", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* e-TFC-Boost-Info */
-   if (pvalue->m & 0x100000u) {
-      stat = asn1PE_UMTS_E_TFC_Boost_Info_r7(ctx, &pvalue->e_TFC_Boost_Info);
-      RT_CHECK(ctx, stat, 0, "e-TFC-Boost-Info", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* e-DPDCH-PowerInterpolation */
-   if (pvalue->m & 0x200000u) {
-      stat = rtxEncBit(ctx, pvalue->e_DPDCH_PowerInterpolation);
-      RT_CHECK(ctx, stat, "E-DPDCH-PowerInterpolation", "e-DPDCH-PowerInterpolation", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   /* dl-SecondaryCellInfoFDD */
-   if (pvalue->m & 0x400000u) {
-      stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD(ctx, &pvalue->dl_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "ActiveSetUpdate-r8-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_v890ext_IEs(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_v890ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ActiveSetUpdate-v890ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-v890ext-IEs");
-   /* dl-SecondaryCellInfoFDD-v890ext */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD_v890ext(ctx, &pvalue->dl_SecondaryCellInfoFDD_v890ext);
-      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD-v890ext", -1, "ActiveSetUpdate-v890ext-IEs");
-   }
-   /* mimoParameters */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_MIMO_Parameters_v7f0ext(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "ActiveSetUpdate-v890ext-IEs");
-   }
-   /* rl-AdditionInformationList */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_RL_AdditionInformationList_v890ext(ctx, &pvalue->rl_AdditionInformationList);
-      RT_CHECK(ctx, stat, 0, "rl-AdditionInformationList", -1, "ActiveSetUpdate-v890ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* activeSetUpdate-v7g0ext */
-   stat = asn1PE_UMTS_ActiveSetUpdate_v7g0ext_IEs(ctx, &pvalue->activeSetUpdate_v7g0ext);
-   RT_CHECK(ctx, stat, 0, "activeSetUpdate-v7g0ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* activeSetUpdate-v890ext */
-   stat = asn1PE_UMTS_ActiveSetUpdate_v890ext_IEs(ctx, &pvalue->activeSetUpdate_v890ext);
-   RT_CHECK(ctx, stat, 0, "activeSetUpdate-v890ext", -1, 0);
-   /* v7g0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* activeSetUpdate-r8 */
-   stat = asn1PE_UMTS_ActiveSetUpdate_r8_IEs(ctx, &pvalue->activeSetUpdate_r8);
-   RT_CHECK(ctx, stat, 0, "activeSetUpdate-r8", -1, 0);
-   /* activeSetUpdate-r8-add-ext */
-   if (pvalue->m & 0x1u) {
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->activeSetUpdate_r8_add_ext.numbits, pvalue->activeSetUpdate_r8_add_ext.data);
-      RT_CHECK(ctx, stat, 0, "activeSetUpdate-r8-add-ext", -1, 0);
-   }
-   /* v890NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8_v890NonCriticalExtensions(ctx, &pvalue->v890NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v890NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_r9_IEs(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_r9_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ActiveSetUpdate-r9-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 26) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 25) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 24) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 23) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 22) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 21) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 20) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 19) |
-      ((uint64_t)((pvalue->m >> 8) & 1u) << 18) |
-      ((uint64_t)((pvalue->m >> 9) & 1u) << 17) |
-      ((uint64_t)((pvalue->m >> 10) & 1u) << 16) |
-      ((uint64_t)((pvalue->m >> 11) & 1u) << 15) |
-      ((uint64_t)((pvalue->m >> 12) & 1u) << 14) |
-      ((uint64_t)((pvalue->m >> 13) & 1u) << 13) |
-      ((uint64_t)((pvalue->m >> 14) & 1u) << 12) |
-      ((uint64_t)((pvalue->m >> 15) & 1u) << 11) |
-      ((uint64_t)((pvalue->m >> 16) & 1u) << 10) |
-      ((uint64_t)((pvalue->m >> 17) & 1u) << 9) |
-      ((uint64_t)((pvalue->m >> 18) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 19) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 20) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 21) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 22) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 23) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 24) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 25) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 26) & 1u) << 0), 27);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdate-r9-IEs");
-   /* activationTime */
-   if (pvalue->m & 0x1u) {
-      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* newU-RNTI */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->newU_RNTI);
-      RT_CHECK(ctx, stat, 0, "newU-RNTI", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* newH-RNTI */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->newH_RNTI);
-      RT_CHECK(ctx, stat, 0, "newH-RNTI", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* newPrimary-E-RNTI */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* newSecondary-E-RNTI */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* cn-InformationInfo */
-   if (pvalue->m & 0x20u) {
-      stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* dtx-drx-TimingInfo */
-   if (pvalue->m & 0x40u) {
-      stat = asn1PE_UMTS_DTX_DRX_TimingInfo_r7(ctx, &pvalue->dtx_drx_TimingInfo);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-TimingInfo", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* dtx-drx-Info */
-   if (pvalue->m & 0x80u) {
-      stat = asn1PE_UMTS_DTX_DRX_Info_r7(ctx, &pvalue->dtx_drx_Info);
-      RT_CHECK(ctx, stat, 0, "dtx-drx-Info", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* hs-scch-LessInfo */
-   if (pvalue->m & 0x100u) {
-      stat = asn1PE_UMTS_HS_SCCH_LessInfo_r7(ctx, &pvalue->hs_scch_LessInfo);
-      RT_CHECK(ctx, stat, 0, "hs-scch-LessInfo", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* mimoParameters */
-   if (pvalue->m & 0x200u) {
-      stat = asn1PE_UMTS_MIMO_Parameters_r9(ctx, &pvalue->mimoParameters);
-      RT_CHECK(ctx, stat, 0, "mimoParameters", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (pvalue->m & 0x400u) {
-      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
-         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "ActiveSetUpdate-r9-IEs");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* ul-SecondaryCellInfoFDD */
-   if (pvalue->m & 0x800u) {
-      stat = asn1PE_UMTS_UL_SecondaryCellInfoFDD(ctx, &pvalue->ul_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat, 0, "ul-SecondaryCellInfoFDD", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* e-dch-ReconfigurationInfo-SecULFrequency */
-   if (pvalue->m & 0x1000u) {
-      stat = asn1PE_UMTS_E_DCH_ReconfigurationInfo_SecULFrequency(ctx, &pvalue->e_dch_ReconfigurationInfo_SecULFrequency);
-      RT_CHECK(ctx, stat, 0, "e-dch-ReconfigurationInfo-SecULFrequency", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* rl-AdditionInformationList */
-   if (pvalue->m & 0x2000u) {
-      stat = asn1PE_UMTS_RL_AdditionInformationList_r9(ctx, &pvalue->rl_AdditionInformationList);
-      RT_CHECK(ctx, stat, 0, "rl-AdditionInformationList", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* rl-AdditionInformationList-SecULFreq */
-   if (pvalue->m & 0x4000u) {
-      stat = asn1PE_UMTS_RL_AdditionInformationList_SecULFreq(ctx, &pvalue->rl_AdditionInformationList_SecULFreq);
-      RT_CHECK(ctx, stat, 0, "rl-AdditionInformationList-SecULFreq", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* servingCellChangeParameters */
-   if (pvalue->m & 0x8000u) {
-      stat = asn1PE_UMTS_ServingCellChangeParameters(ctx, &pvalue->servingCellChangeParameters);
-      RT_CHECK(ctx, stat, 0, "servingCellChangeParameters", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* rl-RemovalInformationList */
-   if (pvalue->m & 0x10000u) {
-      stat = asn1PE_UMTS_RL_RemovalInformationList(ctx, &pvalue->rl_RemovalInformationList);
-      RT_CHECK(ctx, stat, 0, "rl-RemovalInformationList", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* rl-RemovalInformationList-SecULFreq */
-   if (pvalue->m & 0x20000u) {
-      stat = asn1PE_UMTS_RL_RemovalInformationList_SecULFreq(ctx, &pvalue->rl_RemovalInformationList_SecULFreq);
-      RT_CHECK(ctx, stat, 0, "rl-RemovalInformationList-SecULFreq", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* tx-DiversityMode */
-   if (pvalue->m & 0x40000u) {
-      if (pvalue->tx_DiversityMode > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->tx_DiversityMode);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "TX-DiversityMode", "tx-DiversityMode", -1, "ActiveSetUpdate-r9-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->tx_DiversityMode, 0, 3);
-      RT_CHECK(ctx, stat, "TX-DiversityMode", "tx-DiversityMode", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* dpc-Mode */
-   if (pvalue->m & 0x80000u) {
-      if (pvalue->dpc_Mode > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->dpc_Mode);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "DPC-Mode", "dpc-Mode", -1, "ActiveSetUpdate-r9-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dpc_Mode, 0, 1);
-      RT_CHECK(ctx, stat, "DPC-Mode", "dpc-Mode", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* serving-HSDSCH-CellInformation */
-   if (pvalue->m & 0x100000u) {
-      stat = asn1PE_UMTS_Serving_HSDSCH_CellInformation_r9(ctx, &pvalue->serving_HSDSCH_CellInformation);
-      RT_CHECK(ctx, stat, 0, "serving-HSDSCH-CellInformation", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* e-dch-ReconfigurationInfo */
-   if (pvalue->m & 0x200000u) {
-      stat = asn1PE_UMTS_E_DCH_ReconfigurationInfo_r7(ctx, &pvalue->e_dch_ReconfigurationInfo);
-      RT_CHECK(ctx, stat, 0, "e-dch-ReconfigurationInfo", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* ul-16QAM-Config */
-   if (pvalue->m & 0x400000u) {
-      stat = asn1PE_UMTS_UL_16QAM_Config(ctx, &pvalue->ul_16QAM_Config);
-      RT_CHECK(ctx, stat, 0, "ul-16QAM-Config", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* e-dch-ReconfInfoSameCell */
-   if (pvalue->m & 0x800000u) {
-      stat = asn1PE_UMTS_E_DCH_RL_InfoSameServingCell(ctx, &pvalue->e_dch_ReconfInfoSameCell);
-      RT_CHECK(ctx, stat, 0, "e-dch-ReconfInfoSameCell", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* e-TFC-Boost-Info */
-   if (pvalue->m & 0x1000000u) {
-      stat = asn1PE_UMTS_E_TFC_Boost_Info_r7(ctx, &pvalue->e_TFC_Boost_Info);
-      RT_CHECK(ctx, stat, 0, "e-TFC-Boost-Info", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* e-DPDCH-PowerInterpolation */
-   if (pvalue->m & 0x2000000u) {
-      stat = rtxEncBit(ctx, pvalue->e_DPDCH_PowerInterpolation);
-      RT_CHECK(ctx, stat, "E-DPDCH-PowerInterpolation", "e-DPDCH-PowerInterpolation", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   /* dl-SecondaryCellInfoFDD */
-   if (pvalue->m & 0x4000000u) {
-      stat = asn1PE_UMTS_DL_SecondaryCellInfoFDD_r9(ctx, &pvalue->dl_SecondaryCellInfoFDD);
-      RT_CHECK(ctx, stat, 0, "dl-SecondaryCellInfoFDD", -1, "ActiveSetUpdate-r9-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* activeSetUpdate-r9 */
-   stat = asn1PE_UMTS_ActiveSetUpdate_r9_IEs(ctx, &pvalue->activeSetUpdate_r9);
-   RT_CHECK(ctx, stat, 0, "activeSetUpdate-r9", -1, 0);
-   /* activeSetUpdate-r9-add-ext */
-   if (pvalue->m & 0x1u) {
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->activeSetUpdate_r9_add_ext.numbits, pvalue->activeSetUpdate_r9_add_ext.data);
-      RT_CHECK(ctx, stat, 0, "activeSetUpdate-r9-add-ext", -1, 0);
-   }
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.r9 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r9", -1, 0);
-         stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_r9(ctx, pvalue->u.r9);
-         RT_CHECK(ctx, stat, 0, "r9", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
-         stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.r8 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r8", -1, 0);
-         stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_r8(ctx, pvalue->u.r8);
-         RT_CHECK(ctx, stat, 0, "r8", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
-         stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.r7 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r7", -1, 0);
-         stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_r7(ctx, pvalue->u.r7);
-         RT_CHECK(ctx, stat, 0, "r7", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
-         stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.r6 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r6", -1, 0);
-         stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_r6(ctx, pvalue->u.r6);
-         RT_CHECK(ctx, stat, 0, "r6", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.criticalExtensions == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "criticalExtensions", -1, 0);
-         stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions_criticalExtensions(ctx, pvalue->u.criticalExtensions);
-         RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate_later_than_r3(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate_later_than_r3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* rrc-TransactionIdentifier */
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
-   /* criticalExtensions */
-   stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdate(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdate* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ActiveSetUpdate");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "ActiveSetUpdate");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "ActiveSetUpdate");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r3", -1, "ActiveSetUpdate");
-         stat = asn1PE_UMTS_ActiveSetUpdate_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat, 0, "r3", -1, "ActiveSetUpdate");
-         break;
-      case 2:
-         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "later-than-r3", -1, "ActiveSetUpdate");
-         stat = asn1PE_UMTS_ActiveSetUpdate_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "ActiveSetUpdate");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdateComplete_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdateComplete_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdateComplete_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdateComplete_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* activeSetUpdateComplete-r3-add-ext */
-   if (pvalue->m & 0x1u) {
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->activeSetUpdateComplete_r3_add_ext.numbits, pvalue->activeSetUpdateComplete_r3_add_ext.data);
-      RT_CHECK(ctx, stat, 0, "activeSetUpdateComplete-r3-add-ext", -1, 0);
-   }
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_ActiveSetUpdateComplete_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdateComplete(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdateComplete* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ActiveSetUpdateComplete");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdateComplete");
-   /* rrc-TransactionIdentifier */
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "ActiveSetUpdateComplete");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "ActiveSetUpdateComplete");
-   /* dummy */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IntegrityProtActivationInfo(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "ActiveSetUpdateComplete");
-   }
-   /* dummy2 */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_RB_ActivationTimeInfoList(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat, 0, "dummy2", -1, "ActiveSetUpdateComplete");
-   }
-   /* dummy3 */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_UL_CounterSynchronisationInfo(ctx, &pvalue->dummy3);
-      RT_CHECK(ctx, stat, 0, "dummy3", -1, "ActiveSetUpdateComplete");
-   }
-   /* laterNonCriticalExtensions */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_ActiveSetUpdateComplete_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "ActiveSetUpdateComplete");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdateFailure_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdateFailure_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdateFailure_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdateFailure_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* activeSetUpdateFailure-r3-add-ext */
-   if (pvalue->m & 0x1u) {
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->activeSetUpdateFailure_r3_add_ext.numbits, pvalue->activeSetUpdateFailure_r3_add_ext.data);
-      RT_CHECK(ctx, stat, 0, "activeSetUpdateFailure-r3-add-ext", -1, 0);
-   }
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_ActiveSetUpdateFailure_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_ActiveSetUpdateFailure(rtxContext* RT_RESTRICT ctx, const ActiveSetUpdateFailure* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "ActiveSetUpdateFailure");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "ActiveSetUpdateFailure");
-   /* rrc-TransactionIdentifier */
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "ActiveSetUpdateFailure");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "ActiveSetUpdateFailure");
-   /* failureCause */
-   stat = asn1PE_UMTS_FailureCauseWithProtErr(ctx, &pvalue->failureCause);
-   RT_CHECK(ctx, stat, 0, "failureCause", -1, "ActiveSetUpdateFailure");
-   /* laterNonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_ActiveSetUpdateFailure_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "ActiveSetUpdateFailure");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AssistanceDataDelivery_r3_IEs(rtxContext* RT_RESTRICT ctx, const AssistanceDataDelivery_r3_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AssistanceDataDelivery-r3-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AssistanceDataDelivery-r3-IEs");
-   /* rrc-TransactionIdentifier */
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "AssistanceDataDelivery-r3-IEs");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "AssistanceDataDelivery-r3-IEs");
-   /* ue-positioning-GPS-AssistanceData */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_AssistanceData(ctx, &pvalue->ue_positioning_GPS_AssistanceData);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AssistanceData", -1, "AssistanceDataDelivery-r3-IEs");
-   }
-   /* ue-positioning-OTDOA-AssistanceData-UEB */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB(ctx, &pvalue->ue_positioning_OTDOA_AssistanceData_UEB);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-OTDOA-AssistanceData-UEB", -1, "AssistanceDataDelivery-r3-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AssistanceDataDelivery_v3a0ext(rtxContext* RT_RESTRICT ctx, const AssistanceDataDelivery_v3a0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AssistanceDataDelivery-v3a0ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AssistanceDataDelivery-v3a0ext");
-   /* sfn-Offset-Validity */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->sfn_Offset_Validity > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->sfn_Offset_Validity);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "AssistanceDataDelivery-v3a0ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->sfn_Offset_Validity, 0, 0);
-      RT_CHECK(ctx, stat, "SFN-Offset-Validity", "sfn-Offset-Validity", -1, "AssistanceDataDelivery-v3a0ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AssistanceDataDelivery_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const AssistanceDataDelivery_v4b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AssistanceDataDelivery-v4b0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AssistanceDataDelivery-v4b0ext-IEs");
-   /* ue-Positioning-OTDOA-AssistanceData-r4ext */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_r4ext(ctx, &pvalue->ue_Positioning_OTDOA_AssistanceData_r4ext);
-      RT_CHECK(ctx, stat, 0, "ue-Positioning-OTDOA-AssistanceData-r4ext", -1, "AssistanceDataDelivery-v4b0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AssistanceDataDelivery_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const AssistanceDataDelivery_v770ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AssistanceDataDelivery-v770ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AssistanceDataDelivery-v770ext-IEs");
-   /* ue-Positioning-OTDOA-AssistanceData-UEB-ext */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_OTDOA_AssistanceData_UEB_ext(ctx, &pvalue->ue_Positioning_OTDOA_AssistanceData_UEB_ext);
-      RT_CHECK(ctx, stat, 0, "ue-Positioning-OTDOA-AssistanceData-UEB-ext", -1, "AssistanceDataDelivery-v770ext-IEs");
-   }
-   /* ue-Positioning-GPS-AssistanceData */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_AssistanceData_v770ext(ctx, &pvalue->ue_Positioning_GPS_AssistanceData);
-      RT_CHECK(ctx, stat, 0, "ue-Positioning-GPS-AssistanceData", -1, "AssistanceDataDelivery-v770ext-IEs");
-   }
-   /* ue-positioning-GANSS-AssistanceData */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AssistanceData(ctx, &pvalue->ue_positioning_GANSS_AssistanceData);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-AssistanceData", -1, "AssistanceDataDelivery-v770ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AssistanceDataDelivery_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const AssistanceDataDelivery_v860ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AssistanceDataDelivery-v860ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AssistanceDataDelivery-v860ext-IEs");
-   /* ue-positioning-GANSS-AssistanceData-v860ext */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AssistanceData_v860ext(ctx, &pvalue->ue_positioning_GANSS_AssistanceData_v860ext);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-AssistanceData-v860ext", -1, "AssistanceDataDelivery-v860ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AssistanceDataDelivery_v920ext_IEs(rtxContext* RT_RESTRICT ctx, const AssistanceDataDelivery_v920ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AssistanceDataDelivery-v920ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "AssistanceDataDelivery-v920ext-IEs");
-   /* ue-positioning-GPS-AssistanceData-v920ext */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_UE_Positioning_GPS_AssistanceData_v920ext(ctx, &pvalue->ue_positioning_GPS_AssistanceData_v920ext);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GPS-AssistanceData-v920ext", -1, "AssistanceDataDelivery-v920ext-IEs");
-   }
-   /* ue-positioning-GANSS-AssistanceData-v920ext */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_UE_Positioning_GANSS_AssistanceData_v920ext(ctx, &pvalue->ue_positioning_GANSS_AssistanceData_v920ext);
-      RT_CHECK(ctx, stat, 0, "ue-positioning-GANSS-AssistanceData-v920ext", -1, "AssistanceDataDelivery-v920ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* assistanceDataDelivery-v920ext */
-   stat = asn1PE_UMTS_AssistanceDataDelivery_v920ext_IEs(ctx, &pvalue->assistanceDataDelivery_v920ext);
-   RT_CHECK(ctx, stat, 0, "assistanceDataDelivery-v920ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* assistanceDataDelivery-v860ext */
-   stat = asn1PE_UMTS_AssistanceDataDelivery_v860ext_IEs(ctx, &pvalue->assistanceDataDelivery_v860ext);
-   RT_CHECK(ctx, stat, 0, "assistanceDataDelivery-v860ext", -1, 0);
-   /* v920NonCriticalExtension */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension_v920NonCriticalExtension(ctx, &pvalue->v920NonCriticalExtension);
-      RT_CHECK(ctx, stat, 0, "v920NonCriticalExtension", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension(rtxContext* RT_RESTRICT ctx, const AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* assistanceDataDelivery-v770ext */
-   stat = asn1PE_UMTS_AssistanceDataDelivery_v770ext_IEs(ctx, &pvalue->assistanceDataDelivery_v770ext);
-   RT_CHECK(ctx, stat, 0, "assistanceDataDelivery-v770ext", -1, 0);
-   /* v860NonCriticalExtension */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension_v860NonCriticalExtension(ctx, &pvalue->v860NonCriticalExtension);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtension", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* assistanceDataDelivery-v4b0ext */
-   stat = asn1PE_UMTS_AssistanceDataDelivery_v4b0ext_IEs(ctx, &pvalue->assistanceDataDelivery_v4b0ext);
-   RT_CHECK(ctx, stat, 0, "assistanceDataDelivery-v4b0ext", -1, 0);
-   /* v770NonCriticalExtension */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v770NonCriticalExtension(ctx, &pvalue->v770NonCriticalExtension);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtension", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* assistanceDataDelivery-r3-add-ext */
-   if (pvalue->m & 0x1u) {
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->assistanceDataDelivery_r3_add_ext.numbits, pvalue->assistanceDataDelivery_r3_add_ext.data);
-      RT_CHECK(ctx, stat, 0, "assistanceDataDelivery-r3-add-ext", -1, 0);
-   }
-   /* v4b0NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const AssistanceDataDelivery_r3_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* assistanceDataDelivery-v3a0ext */
-   stat = asn1PE_UMTS_AssistanceDataDelivery_v3a0ext(ctx, &pvalue->assistanceDataDelivery_v3a0ext);
-   RT_CHECK(ctx, stat, 0, "assistanceDataDelivery-v3a0ext", -1, 0);
-   /* laterNonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AssistanceDataDelivery_r3(rtxContext* RT_RESTRICT ctx, const AssistanceDataDelivery_r3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* assistanceDataDelivery-r3 */
-   stat = asn1PE_UMTS_AssistanceDataDelivery_r3_IEs(ctx, &pvalue->assistanceDataDelivery_r3);
-   RT_CHECK(ctx, stat, 0, "assistanceDataDelivery-r3", -1, 0);
-   /* v3a0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_AssistanceDataDelivery_r3_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_AssistanceDataDelivery_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, const AssistanceDataDelivery_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_AssistanceDataDelivery_later_than_r3(rtxContext* RT_RESTRICT ctx, const AssistanceDataDelivery_later_than_r3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* rrc-TransactionIdentifier */
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
-   /* criticalExtensions */
-   stat = asn1PE_UMTS_AssistanceDataDelivery_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_AssistanceDataDelivery(rtxContext* RT_RESTRICT ctx, const AssistanceDataDelivery* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "AssistanceDataDelivery");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "AssistanceDataDelivery");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "AssistanceDataDelivery");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r3", -1, "AssistanceDataDelivery");
-         stat = asn1PE_UMTS_AssistanceDataDelivery_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat, 0, "r3", -1, "AssistanceDataDelivery");
-         break;
-      case 2:
-         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "later-than-r3", -1, "AssistanceDataDelivery");
-         stat = asn1PE_UMTS_AssistanceDataDelivery_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "AssistanceDataDelivery");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellChangeOrderFromUTRAN_r3_IEs(rtxContext* RT_RESTRICT ctx, const CellChangeOrderFromUTRAN_r3_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellChangeOrderFromUTRAN-r3-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellChangeOrderFromUTRAN-r3-IEs");
-   /* rrc-TransactionIdentifier */
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "CellChangeOrderFromUTRAN-r3-IEs");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "CellChangeOrderFromUTRAN-r3-IEs");
-   /* dummy */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "CellChangeOrderFromUTRAN-r3-IEs");
-   }
-   /* activationTime */
-   if (pvalue->m & 0x2u) {
-      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "CellChangeOrderFromUTRAN-r3-IEs");
-   }
-   /* rab-InformationList */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_RAB_InformationList(ctx, &pvalue->rab_InformationList);
-      RT_CHECK(ctx, stat, 0, "rab-InformationList", -1, "CellChangeOrderFromUTRAN-r3-IEs");
-   }
-   /* interRAT-TargetCellDescription */
-   stat = asn1PE_UMTS_InterRAT_TargetCellDescription(ctx, &pvalue->interRAT_TargetCellDescription);
-   RT_CHECK(ctx, stat, 0, "interRAT-TargetCellDescription", -1, "CellChangeOrderFromUTRAN-r3-IEs");
-   return 0;
-}
-
-int asn1PE_UMTS_CellChangeOrderFromUTRAN_v590ext_IEs_geran_SystemInfoType(rtxContext* RT_RESTRICT ctx, const CellChangeOrderFromUTRAN_v590ext_IEs_geran_SystemInfoType* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.sI == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "sI", -1, 0);
-         stat = asn1PE_UMTS_GERAN_SystemInformation(ctx, pvalue->u.sI);
-         RT_CHECK(ctx, stat, 0, "sI", -1, 0);
-         break;
-      case 2:
-         if (pvalue->u.pSI == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "pSI", -1, 0);
-         stat = asn1PE_UMTS_GERAN_SystemInformation(ctx, pvalue->u.pSI);
-         RT_CHECK(ctx, stat, 0, "pSI", -1, 0);
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellChangeOrderFromUTRAN_v590ext_IEs(rtxContext* RT_RESTRICT ctx, const CellChangeOrderFromUTRAN_v590ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellChangeOrderFromUTRAN-v590ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellChangeOrderFromUTRAN-v590ext-IEs");
-   /* geran-SystemInfoType */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellChangeOrderFromUTRAN_v590ext_IEs_geran_SystemInfoType(ctx, &pvalue->geran_SystemInfoType);
-      RT_CHECK(ctx, stat, 0, "geran-SystemInfoType", -1, "CellChangeOrderFromUTRAN-v590ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellChangeOrderFromUTRAN-v590ext */
-   stat = asn1PE_UMTS_CellChangeOrderFromUTRAN_v590ext_IEs(ctx, &pvalue->cellChangeOrderFromUTRAN_v590ext);
-   RT_CHECK(ctx, stat, 0, "cellChangeOrderFromUTRAN-v590ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellChangeOrderFromUTRAN-r3-add-ext */
-   if (pvalue->m & 0x1u) {
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->cellChangeOrderFromUTRAN_r3_add_ext.numbits, pvalue->cellChangeOrderFromUTRAN_r3_add_ext.data);
-      RT_CHECK(ctx, stat, 0, "cellChangeOrderFromUTRAN-r3-add-ext", -1, 0);
-   }
-   /* v590NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellChangeOrderFromUTRAN_r3(rtxContext* RT_RESTRICT ctx, const CellChangeOrderFromUTRAN_r3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellChangeOrderFromUTRAN-IEs */
-   stat = asn1PE_UMTS_CellChangeOrderFromUTRAN_r3_IEs(ctx, &pvalue->cellChangeOrderFromUTRAN_IEs);
-   RT_CHECK(ctx, stat, 0, "cellChangeOrderFromUTRAN-IEs", -1, 0);
-   /* laterNonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellChangeOrderFromUTRAN_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellChangeOrderFromUTRAN_later_than_r3_criticalExtensions(rtxContext* RT_RESTRICT ctx, const CellChangeOrderFromUTRAN_later_than_r3_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CellChangeOrderFromUTRAN_later_than_r3(rtxContext* RT_RESTRICT ctx, const CellChangeOrderFromUTRAN_later_than_r3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* rrc-TransactionIdentifier */
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
-   /* criticalExtensions */
-   stat = asn1PE_UMTS_CellChangeOrderFromUTRAN_later_than_r3_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CellChangeOrderFromUTRAN(rtxContext* RT_RESTRICT ctx, const CellChangeOrderFromUTRAN* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellChangeOrderFromUTRAN");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "CellChangeOrderFromUTRAN");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "CellChangeOrderFromUTRAN");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r3", -1, "CellChangeOrderFromUTRAN");
-         stat = asn1PE_UMTS_CellChangeOrderFromUTRAN_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat, 0, "r3", -1, "CellChangeOrderFromUTRAN");
-         break;
-      case 2:
-         if (pvalue->u.later_than_r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "later-than-r3", -1, "CellChangeOrderFromUTRAN");
-         stat = asn1PE_UMTS_CellChangeOrderFromUTRAN_later_than_r3(ctx, pvalue->u.later_than_r3);
-         RT_CHECK(ctx, stat, 0, "later-than-r3", -1, "CellChangeOrderFromUTRAN");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellChangeOrderFromUTRANFailure_r3_IEs(rtxContext* RT_RESTRICT ctx, const CellChangeOrderFromUTRANFailure_r3_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellChangeOrderFromUTRANFailure-r3-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellChangeOrderFromUTRANFailure-r3-IEs");
-   /* rrc-TransactionIdentifier */
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "CellChangeOrderFromUTRANFailure-r3-IEs");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "CellChangeOrderFromUTRANFailure-r3-IEs");
-   /* dummy */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, "CellChangeOrderFromUTRANFailure-r3-IEs");
-   }
-   /* interRAT-ChangeFailureCause */
-   stat = asn1PE_UMTS_InterRAT_ChangeFailureCause(ctx, &pvalue->interRAT_ChangeFailureCause);
-   RT_CHECK(ctx, stat, 0, "interRAT-ChangeFailureCause", -1, "CellChangeOrderFromUTRANFailure-r3-IEs");
-   return 0;
-}
-
-int asn1PE_UMTS_CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellChangeOrderFromUTRANFailure-r3-add-ext */
-   if (pvalue->m & 0x1u) {
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->cellChangeOrderFromUTRANFailure_r3_add_ext.numbits, pvalue->cellChangeOrderFromUTRANFailure_r3_add_ext.data);
-      RT_CHECK(ctx, stat, 0, "cellChangeOrderFromUTRANFailure-r3-add-ext", -1, 0);
-   }
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellChangeOrderFromUTRANFailure_r3(rtxContext* RT_RESTRICT ctx, const CellChangeOrderFromUTRANFailure_r3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellChangeOrderFromUTRANFailure-r3 */
-   stat = asn1PE_UMTS_CellChangeOrderFromUTRANFailure_r3_IEs(ctx, &pvalue->cellChangeOrderFromUTRANFailure_r3);
-   RT_CHECK(ctx, stat, 0, "cellChangeOrderFromUTRANFailure-r3", -1, 0);
-   /* laterNonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellChangeOrderFromUTRANFailure_r3_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellChangeOrderFromUTRANFailure_dummy_criticalExtensions(rtxContext* RT_RESTRICT ctx, const CellChangeOrderFromUTRANFailure_dummy_criticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CellChangeOrderFromUTRANFailure_dummy(rtxContext* RT_RESTRICT ctx, const CellChangeOrderFromUTRANFailure_dummy* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* rrc-TransactionIdentifier */
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, 0);
-   /* criticalExtensions */
-   stat = asn1PE_UMTS_CellChangeOrderFromUTRANFailure_dummy_criticalExtensions(ctx, &pvalue->criticalExtensions);
-   RT_CHECK(ctx, stat, 0, "criticalExtensions", -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CellChangeOrderFromUTRANFailure(rtxContext* RT_RESTRICT ctx, const CellChangeOrderFromUTRANFailure* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellChangeOrderFromUTRANFailure");
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, "CellChangeOrderFromUTRANFailure");
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, "CellChangeOrderFromUTRANFailure");
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.r3 == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "r3", -1, "CellChangeOrderFromUTRANFailure");
-         stat = asn1PE_UMTS_CellChangeOrderFromUTRANFailure_r3(ctx, pvalue->u.r3);
-         RT_CHECK(ctx, stat, 0, "r3", -1, "CellChangeOrderFromUTRANFailure");
-         break;
-      case 2:
-         if (pvalue->u.dummy == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "dummy", -1, "CellChangeOrderFromUTRANFailure");
-         stat = asn1PE_UMTS_CellChangeOrderFromUTRANFailure_dummy(ctx, pvalue->u.dummy);
-         RT_CHECK(ctx, stat, 0, "dummy", -1, "CellChangeOrderFromUTRANFailure");
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdate_v7e0ext_IEs_supportForTwoDRXSchemesInPCH(rtxContext* RT_RESTRICT ctx, CellUpdate_v7e0ext_IEs_supportForTwoDRXSchemesInPCH value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdate_v7e0ext_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdate_v7e0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdate-v7e0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdate-v7e0ext-IEs");
-   /* supportForTwoDRXSchemesInPCH */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->supportForTwoDRXSchemesInPCH > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportForTwoDRXSchemesInPCH);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportForTwoDRXSchemesInPCH", -1, "CellUpdate-v7e0ext-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportForTwoDRXSchemesInPCH, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportForTwoDRXSchemesInPCH", -1, "CellUpdate-v7e0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdate_v7g0ext_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdate_v7g0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdate-v7g0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdate-v7g0ext-IEs");
-   /* measuredResultsOnRACH-v7g0ext */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MeasuredResultsOnRACH_v7g0ext(ctx, &pvalue->measuredResultsOnRACH_v7g0ext);
-      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACH-v7g0ext", -1, "CellUpdate-v7g0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdate-v7g0ext */
-   stat = asn1PE_UMTS_CellUpdate_v7g0ext_IEs(ctx, &pvalue->cellUpdate_v7g0ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdate-v7g0ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdate_r3_add_ext_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdate_r3_add_ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdate-r3-add-ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdate-r3-add-ext-IEs");
-   /* cellUpdate-v7e0ext */
-   stat = asn1PE_UMTS_CellUpdate_v7e0ext_IEs(ctx, &pvalue->cellUpdate_v7e0ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdate-v7e0ext", -1, "CellUpdate-r3-add-ext-IEs");
-   /* v7g0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellUpdate_r3_add_ext_IEs_v7g0NonCriticalExtensions(ctx, &pvalue->v7g0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v7g0NonCriticalExtensions", -1, "CellUpdate-r3-add-ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdate_v590ext(rtxContext* RT_RESTRICT ctx, const CellUpdate_v590ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdate-v590ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdate-v590ext");
-   /* establishmentCause */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->establishmentCause > 31) {
-         rtxErrAddUIntParm(ctx, pvalue->establishmentCause);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "EstablishmentCause", "establishmentCause", -1, "CellUpdate-v590ext");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->establishmentCause, 0, 31);
-      RT_CHECK(ctx, stat, "EstablishmentCause", "establishmentCause", -1, "CellUpdate-v590ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdate_v690ext_IEs_trafficVolumeIndicator(rtxContext* RT_RESTRICT ctx, CellUpdate_v690ext_IEs_trafficVolumeIndicator value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdate_v690ext_IEs_reconfigurationStatusIndicator(rtxContext* RT_RESTRICT ctx, CellUpdate_v690ext_IEs_reconfigurationStatusIndicator value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdate_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdate_v690ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdate-v690ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdate-v690ext-IEs");
-   /* cellUpdateCause-ext */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->cellUpdateCause_ext > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->cellUpdateCause_ext);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "CellUpdateCause-ext", "cellUpdateCause-ext", -1, "CellUpdate-v690ext-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->cellUpdateCause_ext, 0, 3);
-      RT_CHECK(ctx, stat, "CellUpdateCause-ext", "cellUpdateCause-ext", -1, "CellUpdate-v690ext-IEs");
-   }
-   /* trafficVolumeIndicator */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->trafficVolumeIndicator > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->trafficVolumeIndicator);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "trafficVolumeIndicator", -1, "CellUpdate-v690ext-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->trafficVolumeIndicator, 0, 0);
-      RT_CHECK(ctx, stat, 0, "trafficVolumeIndicator", -1, "CellUpdate-v690ext-IEs");
-   }
-   /* measuredResultsOnRACHinterFreq */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_MeasuredResultsOnRACHinterFreq(ctx, &pvalue->measuredResultsOnRACHinterFreq);
-      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACHinterFreq", -1, "CellUpdate-v690ext-IEs");
-   }
-   /* reconfigurationStatusIndicator */
-   if (pvalue->m & 0x8u) {
-      if (pvalue->reconfigurationStatusIndicator > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->reconfigurationStatusIndicator);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "reconfigurationStatusIndicator", -1, "CellUpdate-v690ext-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->reconfigurationStatusIndicator, 0, 0);
-      RT_CHECK(ctx, stat, 0, "reconfigurationStatusIndicator", -1, "CellUpdate-v690ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdate_v6b0ext_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdate_v6b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdate-v6b0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdate-v6b0ext-IEs");
-   /* mbmsSelectedServices */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_MBMS_SelectedServicesShort(ctx, &pvalue->mbmsSelectedServices);
-      RT_CHECK(ctx, stat, 0, "mbmsSelectedServices", -1, "CellUpdate-v6b0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdate_v770ext_IEs_csCallType(rtxContext* RT_RESTRICT ctx, CellUpdate_v770ext_IEs_csCallType value)
-{
-   int stat = 0;
-   if (value > 3) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdate_v770ext_IEs_hspdschReception_CellFach(rtxContext* RT_RESTRICT ctx, CellUpdate_v770ext_IEs_hspdschReception_CellFach value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdate_v770ext_IEs_capabilityChangeIndicator(rtxContext* RT_RESTRICT ctx, CellUpdate_v770ext_IEs_capabilityChangeIndicator value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdate_v770ext_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdate_v770ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdate-v770ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdate-v770ext-IEs");
-   /* csCallType */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->csCallType > 3) {
-         rtxErrAddUIntParm(ctx, pvalue->csCallType);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "csCallType", -1, "CellUpdate-v770ext-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->csCallType, 0, 3);
-      RT_CHECK(ctx, stat, 0, "csCallType", -1, "CellUpdate-v770ext-IEs");
-   }
-   /* hspdschReception-CellFach */
-   if (pvalue->m & 0x2u) {
-      if (pvalue->hspdschReception_CellFach > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->hspdschReception_CellFach);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "hspdschReception-CellFach", -1, "CellUpdate-v770ext-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->hspdschReception_CellFach, 0, 0);
-      RT_CHECK(ctx, stat, 0, "hspdschReception-CellFach", -1, "CellUpdate-v770ext-IEs");
-   }
-   /* ueMobilityStateIndicator */
-   if (pvalue->m & 0x4u) {
-      if (pvalue->ueMobilityStateIndicator > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->ueMobilityStateIndicator);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "CellUpdate-v770ext-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->ueMobilityStateIndicator, 0, 0);
-      RT_CHECK(ctx, stat, "High-MobilityDetected", "ueMobilityStateIndicator", -1, "CellUpdate-v770ext-IEs");
-   }
-   /* capabilityChangeIndicator */
-   if (pvalue->m & 0x8u) {
-      if (pvalue->capabilityChangeIndicator > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->capabilityChangeIndicator);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "capabilityChangeIndicator", -1, "CellUpdate-v770ext-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->capabilityChangeIndicator, 0, 0);
-      RT_CHECK(ctx, stat, 0, "capabilityChangeIndicator", -1, "CellUpdate-v770ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdate_v860ext_IEs_supportOfCommonEDCH(rtxContext* RT_RESTRICT ctx, CellUpdate_v860ext_IEs_supportOfCommonEDCH value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdate_v860ext_IEs_supportOfHS_DSCHDRXOperation(rtxContext* RT_RESTRICT ctx, CellUpdate_v860ext_IEs_supportOfHS_DSCHDRXOperation value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdate_v860ext_IEs_supportOfMACiis(rtxContext* RT_RESTRICT ctx, CellUpdate_v860ext_IEs_supportOfMACiis value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdate_v860ext_IEs_supportOfSPSOperation(rtxContext* RT_RESTRICT ctx, CellUpdate_v860ext_IEs_supportOfSPSOperation value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdate_v860ext_IEs_supportOfControlChannelDRXOperation(rtxContext* RT_RESTRICT ctx, CellUpdate_v860ext_IEs_supportOfControlChannelDRXOperation value)
-{
-   int stat = 0;
-   if (value > 0) {
-      rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
-   }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdate_v860ext_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdate_v860ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdate-v860ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdate-v860ext-IEs");
-   /* supportOfCommonEDCH */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "GanssReqGenericData");
+   /* ganssId */
    if (pvalue->m & 0x1u) {
-      if (pvalue->supportOfCommonEDCH > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfCommonEDCH);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfCommonEDCH", -1, "CellUpdate-v860ext-IEs");
+      if ((uint64_t)pvalue->ganssId > 7u) {
+         rtxErrAddStrParm(ctx, "ganssId");
+         rtxErrAddUIntParm(ctx, pvalue->ganssId);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "ganssId", -1, "GanssReqGenericData");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfCommonEDCH, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportOfCommonEDCH", -1, "CellUpdate-v860ext-IEs");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ganssId, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "ganssId", -1, "GanssReqGenericData");
    }
-   /* supportOfHS-DSCHDRXOperation */
+   /* ganssRealTimeIntegrity */
+   stat = rtxEncBitAt(ctx, cur, pvalue->ganssRealTimeIntegrity);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ganssRealTimeIntegrity", -1, "GanssReqGenericData");
+   /* ganssDifferentialCorrection */
    if (pvalue->m & 0x2u) {
-      if (pvalue->supportOfHS_DSCHDRXOperation > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfHS_DSCHDRXOperation);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfHS-DSCHDRXOperation", -1, "CellUpdate-v860ext-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfHS_DSCHDRXOperation, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportOfHS-DSCHDRXOperation", -1, "CellUpdate-v860ext-IEs");
+      stat = enc_DGANSS_Sig_Id_Req(ctx, pvalue->ganssDifferentialCorrection, cur);
+      RT_CHECK(ctx, stat, 0, "ganssDifferentialCorrection", -1, "GanssReqGenericData");
    }
-   /* supportOfMACiis */
+   /* ganssAlmanac */
+   stat = rtxEncBitAt(ctx, cur, pvalue->ganssAlmanac);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ganssAlmanac", -1, "GanssReqGenericData");
+   /* ganssNavigationModel */
+   stat = rtxEncBitAt(ctx, cur, pvalue->ganssNavigationModel);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ganssNavigationModel", -1, "GanssReqGenericData");
+   /* ganssTimeModelGNSS-GNSS */
    if (pvalue->m & 0x4u) {
-      if (pvalue->supportOfMACiis > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfMACiis);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfMACiis", -1, "CellUpdate-v860ext-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfMACiis, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportOfMACiis", -1, "CellUpdate-v860ext-IEs");
+      RT_SET_SIZE(ctx, 8, 8);
+      stat = pe_BitString32At(ctx, cur, &pvalue->ganssTimeModelGNSS_GNSS, 8, 8);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "ganssTimeModelGNSS-GNSS", -1, "GanssReqGenericData");
    }
-   /* supportOfSPSOperation */
+   /* ganssReferenceMeasurementInfo */
+   stat = rtxEncBitAt(ctx, cur, pvalue->ganssReferenceMeasurementInfo);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ganssReferenceMeasurementInfo", -1, "GanssReqGenericData");
+   /* ganssDataBits */
    if (pvalue->m & 0x8u) {
-      if (pvalue->supportOfSPSOperation > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfSPSOperation);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfSPSOperation", -1, "CellUpdate-v860ext-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfSPSOperation, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportOfSPSOperation", -1, "CellUpdate-v860ext-IEs");
+      stat = enc_GanssDataBits(ctx, &pvalue->ganssDataBits, cur);
+      RT_CHECK(ctx, stat, 0, "ganssDataBits", -1, "GanssReqGenericData");
    }
-   /* supportOfControlChannelDRXOperation */
+   /* ganssUTCModel */
+   stat = rtxEncBitAt(ctx, cur, pvalue->ganssUTCModel);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "ganssUTCModel", -1, "GanssReqGenericData");
+   /* ganssNavigationModelAdditionalData */
    if (pvalue->m & 0x10u) {
-      if (pvalue->supportOfControlChannelDRXOperation > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->supportOfControlChannelDRXOperation);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "supportOfControlChannelDRXOperation", -1, "CellUpdate-v860ext-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->supportOfControlChannelDRXOperation, 0, 0);
-      RT_CHECK(ctx, stat, 0, "supportOfControlChannelDRXOperation", -1, "CellUpdate-v860ext-IEs");
+      stat = enc_GanssNavigationModelAdditionalData(ctx, &pvalue->ganssNavigationModelAdditionalData, cur);
+      RT_CHECK(ctx, stat, 0, "ganssNavigationModelAdditionalData", -1, "GanssReqGenericData");
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PE_UMTS_GanssReqGenericData(rtxContext* RT_RESTRICT ctx, const GanssReqGenericData* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_GanssReqGenericData, pvalue);
 }
 
-int asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdate-v860ext */
-   stat = asn1PE_UMTS_CellUpdate_v860ext_IEs(ctx, &pvalue->cellUpdate_v860ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdate-v860ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdate-v770ext */
-   stat = asn1PE_UMTS_CellUpdate_v770ext_IEs(ctx, &pvalue->cellUpdate_v770ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdate-v770ext", -1, 0);
-   /* v860NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions_v860NonCriticalExtensions(ctx, &pvalue->v860NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v860NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdate-v6b0ext */
-   stat = asn1PE_UMTS_CellUpdate_v6b0ext_IEs(ctx, &pvalue->cellUpdate_v6b0ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdate-v6b0ext", -1, 0);
-   /* v770NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions_v770NonCriticalExtensions(ctx, &pvalue->v770NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v770NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdate-v690ext */
-   stat = asn1PE_UMTS_CellUpdate_v690ext_IEs(ctx, &pvalue->cellUpdate_v690ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdate-v690ext", -1, 0);
-   /* v6b0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions_v6b0NonCriticalExtensions(ctx, &pvalue->v6b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v6b0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdate-v590ext */
-   stat = asn1PE_UMTS_CellUpdate_v590ext(ctx, &pvalue->cellUpdate_v590ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdate-v590ext", -1, 0);
-   /* v690NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdate_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdate-r3-add-ext */
-   if (pvalue->m & 0x1u) {
-      {
-         rtxContext outer;
-         const uint8_t* data;
-         uint32_t len;
-         rtxCopyContext(&outer, ctx);
-         stat = rtxInitContextBuffer(ctx, 0, 0);
-         RT_CHECK(ctx, stat, 0, "cellUpdate-r3-add-ext", -1, 0);
-         stat = asn1PE_UMTS_CellUpdate_r3_add_ext_IEs(ctx, &pvalue->cellUpdate_r3_add_ext);
-         RT_CHECK(ctx, stat, 0, "cellUpdate-r3-add-ext", -1, 0);
-         data = ctx->buffer_data;
-         len = ctx->byte_index * 8 + 8 - ctx->bit_offset;
-         rtxCopyContext(ctx, &outer);
-         RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-         stat = pe_BitString(ctx, len, data);
-         rtxMemHeapFreePtr(ctx, (void*)data);
-         RT_CHECK(ctx, stat, 0, "cellUpdate-r3-add-ext", -1, 0);
-      }
-   }
-   /* v590NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions_v590NonCriticalExtensions(ctx, &pvalue->v590NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtensions", -1, 0);
-   }
-   return stat;
-}
-
-int asn1PE_UMTS_CellUpdate(rtxContext* RT_RESTRICT ctx, const CellUpdate* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdate");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdate");
-   /* u-RNTI */
-   stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->u_RNTI);
-   RT_CHECK(ctx, stat, 0, "u-RNTI", -1, "CellUpdate");
-   /* startList */
-   stat = asn1PE_UMTS_STARTList(ctx, &pvalue->startList);
-   RT_CHECK(ctx, stat, 0, "startList", -1, "CellUpdate");
-   /* am-RLC-ErrorIndicationRb2-3or4 */
-   stat = rtxEncBit(ctx, pvalue->am_RLC_ErrorIndicationRb2_3or4);
-   RT_CHECK(ctx, stat, 0, "am-RLC-ErrorIndicationRb2-3or4", -1, "CellUpdate");
-   /* am-RLC-ErrorIndicationRb5orAbove */
-   stat = rtxEncBit(ctx, pvalue->am_RLC_ErrorIndicationRb5orAbove);
-   RT_CHECK(ctx, stat, 0, "am-RLC-ErrorIndicationRb5orAbove", -1, "CellUpdate");
-   /* cellUpdateCause */
-   if (pvalue->cellUpdateCause > 7) {
-      rtxErrAddUIntParm(ctx, pvalue->cellUpdateCause);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "CellUpdateCause", "cellUpdateCause", -1, "CellUpdate");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->cellUpdateCause, 0, 7);
-   RT_CHECK(ctx, stat, "CellUpdateCause", "cellUpdateCause", -1, "CellUpdate");
-   /* failureCause */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_FailureCauseWithProtErrTrId(ctx, &pvalue->failureCause);
-      RT_CHECK(ctx, stat, 0, "failureCause", -1, "CellUpdate");
-   }
-   /* rb-timer-indicator */
-   stat = asn1PE_UMTS_Rb_timer_indicator(ctx, &pvalue->rb_timer_indicator);
-   RT_CHECK(ctx, stat, 0, "rb-timer-indicator", -1, "CellUpdate");
-   /* measuredResultsOnRACH */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_MeasuredResultsOnRACH(ctx, &pvalue->measuredResultsOnRACH);
-      RT_CHECK(ctx, stat, 0, "measuredResultsOnRACH", -1, "CellUpdate");
-   }
-   /* laterNonCriticalExtensions */
-   if (pvalue->m & 0x4u) {
-      stat = asn1PE_UMTS_CellUpdate_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, "CellUpdate");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dummy */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->dummy - 1) > 15u) {
-         rtxErrAddStrParm(ctx, "CPCH-SetID");
-         rtxErrAddUIntParm(ctx, pvalue->dummy);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "CPCH-SetID", "dummy", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dummy, 1, 16);
-      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy", -1, 0);
-   }
-   /* dummy2 */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dummy */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_r3_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r3_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdateConfirm-r3-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 22) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 21) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 20) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 19) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 18) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 17) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 16) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 15) |
-      ((uint64_t)((pvalue->m >> 8) & 1u) << 14) |
-      ((uint64_t)((pvalue->m >> 9) & 1u) << 13) |
-      ((uint64_t)((pvalue->m >> 10) & 1u) << 12) |
-      ((uint64_t)((pvalue->m >> 11) & 1u) << 11) |
-      ((uint64_t)((pvalue->m >> 12) & 1u) << 10) |
-      ((uint64_t)((pvalue->m >> 13) & 1u) << 9) |
-      ((uint64_t)((pvalue->m >> 14) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 15) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 16) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 17) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 18) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 19) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 20) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 21) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 22) & 1u) << 0), 23);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-r3-IEs");
-   /* rrc-TransactionIdentifier */
-   if ((uint64_t)pvalue->rrc_TransactionIdentifier > 3u) {
-      rtxErrAddStrParm(ctx, "RRC-TransactionIdentifier");
-      rtxErrAddUIntParm(ctx, pvalue->rrc_TransactionIdentifier);
-      RT_FAIL(ctx, RT_ERR_CONSVIO, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_TransactionIdentifier, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-TransactionIdentifier", "rrc-TransactionIdentifier", -1, "CellUpdateConfirm-r3-IEs");
-   /* integrityProtectionModeInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   /* cipheringModeInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   /* activationTime */
-   if (pvalue->m & 0x4u) {
-      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   /* new-U-RNTI */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   /* new-C-RNTI */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   /* rrc-StateIndicator */
-   if (pvalue->rrc_StateIndicator > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r3-IEs");
-   /* utran-DRX-CycleLengthCoeff */
-   if (pvalue->m & 0x20u) {
-      if ((uint64_t)(pvalue->utran_DRX_CycleLengthCoeff - 3) > 6u) {
-         rtxErrAddStrParm(ctx, "UTRAN-DRX-CycleLengthCoefficient");
-         rtxErrAddUIntParm(ctx, pvalue->utran_DRX_CycleLengthCoeff);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "CellUpdateConfirm-r3-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   /* rlc-Re-establishIndicatorRb2-3or4 */
-   stat = rtxEncBit(ctx, pvalue->rlc_Re_establishIndicatorRb2_3or4);
-   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb2-3or4", -1, "CellUpdateConfirm-r3-IEs");
-   /* rlc-Re-establishIndicatorRb5orAbove */
-   stat = rtxEncBit(ctx, pvalue->rlc_Re_establishIndicatorRb5orAbove);
-   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb5orAbove", -1, "CellUpdateConfirm-r3-IEs");
-   /* cn-InformationInfo */
-   if (pvalue->m & 0x40u) {
-      stat = asn1PE_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   /* ura-Identity */
-   if (pvalue->m & 0x80u) {
-      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
-      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   /* rb-InformationReleaseList */
-   if (pvalue->m & 0x100u) {
-      stat = asn1PE_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   /* rb-InformationReconfigList */
-   if (pvalue->m & 0x200u) {
-      stat = asn1PE_UMTS_RB_InformationReconfigList(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   /* rb-InformationAffectedList */
-   if (pvalue->m & 0x400u) {
-      stat = asn1PE_UMTS_RB_InformationAffectedList(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (pvalue->m & 0x800u) {
-      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   /* ul-CommonTransChInfo */
-   if (pvalue->m & 0x1000u) {
-      stat = asn1PE_UMTS_UL_CommonTransChInfo(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   /* ul-deletedTransChInfoList */
-   if (pvalue->m & 0x2000u) {
-      stat = asn1PE_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (pvalue->m & 0x4000u) {
-      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   /* modeSpecificTransChInfo */
-   stat = asn1PE_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificTransChInfo(ctx, &pvalue->modeSpecificTransChInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificTransChInfo", -1, "CellUpdateConfirm-r3-IEs");
-   /* dl-CommonTransChInfo */
-   if (pvalue->m & 0x8000u) {
-      stat = asn1PE_UMTS_DL_CommonTransChInfo(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   /* dl-DeletedTransChInfoList */
-   if (pvalue->m & 0x10000u) {
-      stat = asn1PE_UMTS_DL_DeletedTransChInfoList(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (pvalue->m & 0x20000u) {
-      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   /* frequencyInfo */
-   if (pvalue->m & 0x40000u) {
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (pvalue->m & 0x80000u) {
-      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
-         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r3-IEs");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   /* ul-ChannelRequirement */
-   if (pvalue->m & 0x100000u) {
-      stat = asn1PE_UMTS_UL_ChannelRequirement(ctx, &pvalue->ul_ChannelRequirement);
-      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   /* modeSpecificPhysChInfo */
-   stat = asn1PE_UMTS_CellUpdateConfirm_r3_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "CellUpdateConfirm-r3-IEs");
-   /* dl-CommonInformation */
-   if (pvalue->m & 0x200000u) {
-      stat = asn1PE_UMTS_DL_CommonInformation(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   /* dl-InformationPerRL-List */
-   if (pvalue->m & 0x400000u) {
-      stat = asn1PE_UMTS_DL_InformationPerRL_List(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "CellUpdateConfirm-r3-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_v3a0ext(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_v3a0ext* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdateConfirm-v3a0ext");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v3a0ext");
-   /* new-DSCH-RNTI */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "CellUpdateConfirm-v3a0ext");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_v4b0ext_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_v4b0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdateConfirm-v4b0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v4b0ext-IEs");
-   /* dummy */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->dummy > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->dummy);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "SSDT-UL", "dummy", -1, "CellUpdateConfirm-v4b0ext-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dummy, 0, 1);
-      RT_CHECK(ctx, stat, "SSDT-UL", "dummy", -1, "CellUpdateConfirm-v4b0ext-IEs");
-   }
-   /* cell-id-PerRL-List */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_CellIdentity_PerRL_List(ctx, &pvalue->cell_id_PerRL_List);
-      RT_CHECK(ctx, stat, 0, "cell-id-PerRL-List", -1, "CellUpdateConfirm-v4b0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_v590ext_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_v590ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdateConfirm-v590ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v590ext-IEs");
-   /* dl-TPC-PowerOffsetPerRL-List */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_TPC_PowerOffsetPerRL_List(ctx, &pvalue->dl_TPC_PowerOffsetPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-TPC-PowerOffsetPerRL-List", -1, "CellUpdateConfirm-v590ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_v5d0ext_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_v5d0ext_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdateConfirm-v5d0ext-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v5d0ext-IEs");
-   /* pdcp-ROHC-TargetMode */
-   if (pvalue->m & 0x1u) {
-      if (pvalue->pdcp_ROHC_TargetMode > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->pdcp_ROHC_TargetMode);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "CellUpdateConfirm-v5d0ext-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->pdcp_ROHC_TargetMode, 0, 1);
-      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "CellUpdateConfirm-v5d0ext-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_v690ext_IEs_postVerificationPeriod(rtxContext* RT_RESTRICT ctx, CellUpdateConfirm_v690ext_IEs_postVerificationPeriod value)
+RT_MERGED_BODY int enc_GanssReqGenericData_v860ext_ganssAddNavigationModel(rtxContext* RT_RESTRICT ctx, GanssReqGenericData_v860ext_ganssAddNavigationModel value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
    if (value > 0) {
       rtxErrAddUIntParm(ctx, value);
-      RT_FAIL(ctx, RT_ERR_INVENUM, 0, 0, -1, 0);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
    }
-   stat = pe_ConsUInt64(ctx, value, 0, 0);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_v690ext_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_v690ext_IEs* RT_RESTRICT pvalue)
+int asn1PE_UMTS_GanssReqGenericData_v860ext_ganssAddNavigationModel(rtxContext* RT_RESTRICT ctx, GanssReqGenericData_v860ext_ganssAddNavigationModel value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GanssReqGenericData_v860ext_ganssAddNavigationModel, value);
+}
+
+RT_MERGED_BODY int enc_GanssReqGenericData_v860ext_ganssAddUTCmodel(rtxContext* RT_RESTRICT ctx, GanssReqGenericData_v860ext_ganssAddUTCmodel value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdateConfirm-v690ext-IEs");
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_GanssReqGenericData_v860ext_ganssAddUTCmodel(rtxContext* RT_RESTRICT ctx, GanssReqGenericData_v860ext_ganssAddUTCmodel value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GanssReqGenericData_v860ext_ganssAddUTCmodel, value);
+}
+
+RT_MERGED_BODY int enc_GanssReqGenericData_v860ext_ganssAuxInfo(rtxContext* RT_RESTRICT ctx, GanssReqGenericData_v860ext_ganssAuxInfo value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (value > 0) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_GanssReqGenericData_v860ext_ganssAuxInfo(rtxContext* RT_RESTRICT ctx, GanssReqGenericData_v860ext_ganssAuxInfo value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GanssReqGenericData_v860ext_ganssAuxInfo, value);
+}
+
+RT_MERGED_BODY int enc_GanssReqGenericData_v860ext_ganssAddADchoices(rtxContext* RT_RESTRICT ctx, const GanssReqGenericData_v860ext_ganssAddADchoices* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* orbitModelID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->orbitModelID > 7u) {
+         rtxErrAddStrParm(ctx, "orbitModelID");
+         rtxErrAddUIntParm(ctx, pvalue->orbitModelID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "orbitModelID", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->orbitModelID, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "orbitModelID", -1, 0);
+   }
+   /* clockModelID */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->clockModelID > 7u) {
+         rtxErrAddStrParm(ctx, "clockModelID");
+         rtxErrAddUIntParm(ctx, pvalue->clockModelID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "clockModelID", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->clockModelID, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "clockModelID", -1, 0);
+   }
+   /* utcModelID */
+   if (pvalue->m & 0x4u) {
+      if ((uint64_t)pvalue->utcModelID > 7u) {
+         rtxErrAddStrParm(ctx, "utcModelID");
+         rtxErrAddUIntParm(ctx, pvalue->utcModelID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "utcModelID", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->utcModelID, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "utcModelID", -1, 0);
+   }
+   /* almanacModelID */
+   if (pvalue->m & 0x8u) {
+      if ((uint64_t)pvalue->almanacModelID > 7u) {
+         rtxErrAddStrParm(ctx, "almanacModelID");
+         rtxErrAddUIntParm(ctx, pvalue->almanacModelID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "almanacModelID", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->almanacModelID, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "almanacModelID", -1, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GanssReqGenericData_v860ext_ganssAddADchoices(rtxContext* RT_RESTRICT ctx, const GanssReqGenericData_v860ext_ganssAddADchoices* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GanssReqGenericData_v860ext_ganssAddADchoices, pvalue);
+}
+
+RT_MERGED_BODY int enc_GanssReqGenericData_v860ext(rtxContext* RT_RESTRICT ctx, const GanssReqGenericData_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GanssReqGenericData-v860ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "GanssReqGenericData-v860ext");
+   /* sbasId */
+   if (pvalue->m & 0x1u) {
+      if (pvalue->sbasId > 7) {
+         rtxErrAddUIntParm(ctx, pvalue->sbasId);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "UE-Positioning-GANSS-SBAS-ID", "sbasId", -1, "GanssReqGenericData-v860ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->sbasId, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, "UE-Positioning-GANSS-SBAS-ID", "sbasId", -1, "GanssReqGenericData-v860ext");
+   }
+   /* ganssAddNavigationModel */
+   if (pvalue->m & 0x2u) {
+      if (pvalue->ganssAddNavigationModel > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->ganssAddNavigationModel);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "ganssAddNavigationModel", -1, "GanssReqGenericData-v860ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ganssAddNavigationModel, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "ganssAddNavigationModel", -1, "GanssReqGenericData-v860ext");
+   }
+   /* ganssAddUTCmodel */
+   if (pvalue->m & 0x4u) {
+      if (pvalue->ganssAddUTCmodel > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->ganssAddUTCmodel);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "ganssAddUTCmodel", -1, "GanssReqGenericData-v860ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ganssAddUTCmodel, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "ganssAddUTCmodel", -1, "GanssReqGenericData-v860ext");
+   }
+   /* ganssAuxInfo */
+   if (pvalue->m & 0x8u) {
+      if (pvalue->ganssAuxInfo > 0) {
+         rtxErrAddUIntParm(ctx, pvalue->ganssAuxInfo);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, "ganssAuxInfo", -1, "GanssReqGenericData-v860ext");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->ganssAuxInfo, 0, 0);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "ganssAuxInfo", -1, "GanssReqGenericData-v860ext");
+   }
+   /* ganssAddADchoices */
+   if (pvalue->m & 0x10u) {
+      stat = enc_GanssReqGenericData_v860ext_ganssAddADchoices(ctx, &pvalue->ganssAddADchoices, cur);
+      RT_CHECK(ctx, stat, 0, "ganssAddADchoices", -1, "GanssReqGenericData-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GanssReqGenericData_v860ext(rtxContext* RT_RESTRICT ctx, const GanssReqGenericData_v860ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GanssReqGenericData_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_GanssRequestedGenericAssistanceDataList(rtxContext* RT_RESTRICT ctx, const GanssRequestedGenericAssistanceDataList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GanssRequestedGenericAssistanceDataList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "GanssRequestedGenericAssistanceDataList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "GanssReqGenericData", (int32_t)i, "GanssRequestedGenericAssistanceDataList");
+      stat = enc_GanssReqGenericData(ctx, (const GanssReqGenericData*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "GanssReqGenericData", (int32_t)i, "GanssRequestedGenericAssistanceDataList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GanssRequestedGenericAssistanceDataList(rtxContext* RT_RESTRICT ctx, const GanssRequestedGenericAssistanceDataList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GanssRequestedGenericAssistanceDataList, pvalue);
+}
+
+RT_MERGED_BODY int enc_GanssRequestedGenericAssistanceDataList_v860ext(rtxContext* RT_RESTRICT ctx, const GanssRequestedGenericAssistanceDataList_v860ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GanssRequestedGenericAssistanceDataList-v860ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "GanssRequestedGenericAssistanceDataList-v860ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "GanssReqGenericData-v860ext", (int32_t)i, "GanssRequestedGenericAssistanceDataList-v860ext");
+      stat = enc_GanssReqGenericData_v860ext(ctx, (const GanssReqGenericData_v860ext*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "GanssReqGenericData-v860ext", (int32_t)i, "GanssRequestedGenericAssistanceDataList-v860ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GanssRequestedGenericAssistanceDataList_v860ext(rtxContext* RT_RESTRICT ctx, const GanssRequestedGenericAssistanceDataList_v860ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GanssRequestedGenericAssistanceDataList_v860ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_GANSS_Storm_Flag(rtxContext* RT_RESTRICT ctx, const GANSS_Storm_Flag* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GANSS-Storm-Flag");
+   /* storm-flag-one */
+   stat = rtxEncBitAt(ctx, cur, pvalue->storm_flag_one);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "storm-flag-one", -1, "GANSS-Storm-Flag");
+   /* storm-flag-two */
+   stat = rtxEncBitAt(ctx, cur, pvalue->storm_flag_two);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "storm-flag-two", -1, "GANSS-Storm-Flag");
+   /* storm-flag-three */
+   stat = rtxEncBitAt(ctx, cur, pvalue->storm_flag_three);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "storm-flag-three", -1, "GANSS-Storm-Flag");
+   /* storm-flag-four */
+   stat = rtxEncBitAt(ctx, cur, pvalue->storm_flag_four);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "storm-flag-four", -1, "GANSS-Storm-Flag");
+   /* storm-flag-five */
+   stat = rtxEncBitAt(ctx, cur, pvalue->storm_flag_five);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "storm-flag-five", -1, "GANSS-Storm-Flag");
+   return 0;
+}
+
+int asn1PE_UMTS_GANSS_Storm_Flag(rtxContext* RT_RESTRICT ctx, const GANSS_Storm_Flag* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GANSS_Storm_Flag, pvalue);
+}
+
+RT_MERGED_BODY int enc_GSM_CarrierRSSI(rtxContext* RT_RESTRICT ctx, GSM_CarrierRSSI value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   RT_SET_SIZE(ctx, 6, 6);
+   stat = pe_BitString32At(ctx, cur, &value, 6, 6);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "GSM-CarrierRSSI");
+   return 0;
+}
+
+int asn1PE_UMTS_GSM_CarrierRSSI(rtxContext* RT_RESTRICT ctx, GSM_CarrierRSSI value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GSM_CarrierRSSI, value);
+}
+
+RT_MERGED_BODY int enc_ObservedTimeDifferenceToGSM(rtxContext* RT_RESTRICT ctx, ObservedTimeDifferenceToGSM value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 4095u) {
+      rtxErrAddStrParm(ctx, "ObservedTimeDifferenceToGSM");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "ObservedTimeDifferenceToGSM");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 4095);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ObservedTimeDifferenceToGSM");
+   return 0;
+}
+
+int asn1PE_UMTS_ObservedTimeDifferenceToGSM(rtxContext* RT_RESTRICT ctx, ObservedTimeDifferenceToGSM value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ObservedTimeDifferenceToGSM, value);
+}
+
+RT_MERGED_BODY int enc_GSM_MeasuredResults(rtxContext* RT_RESTRICT ctx, const GSM_MeasuredResults* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GSM-MeasuredResults");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "GSM-MeasuredResults");
+   /* gsm-CarrierRSSI */
+   if (pvalue->m & 0x1u) {
+      stat = enc_GSM_CarrierRSSI(ctx, pvalue->gsm_CarrierRSSI, cur);
+      RT_CHECK(ctx, stat, 0, "gsm-CarrierRSSI", -1, "GSM-MeasuredResults");
+   }
+   /* dummy */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)(pvalue->dummy - 46) > 127u) {
+         rtxErrAddStrParm(ctx, "dummy");
+         rtxErrAddUIntParm(ctx, pvalue->dummy);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "dummy", -1, "GSM-MeasuredResults");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->dummy, 46, 173);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "dummy", -1, "GSM-MeasuredResults");
+   }
+   /* bsicReported */
+   stat = enc_BSICReported(ctx, &pvalue->bsicReported, cur);
+   RT_CHECK(ctx, stat, 0, "bsicReported", -1, "GSM-MeasuredResults");
+   /* dummy2 */
+   if (pvalue->m & 0x4u) {
+      if ((uint64_t)pvalue->dummy2 > 4095u) {
+         rtxErrAddStrParm(ctx, "ObservedTimeDifferenceToGSM");
+         rtxErrAddUIntParm(ctx, pvalue->dummy2);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ObservedTimeDifferenceToGSM", "dummy2", -1, "GSM-MeasuredResults");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->dummy2, 0, 4095);
+      RT_CHECK_PUT(ctx, cur, stat, "ObservedTimeDifferenceToGSM", "dummy2", -1, "GSM-MeasuredResults");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GSM_MeasuredResults(rtxContext* RT_RESTRICT ctx, const GSM_MeasuredResults* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GSM_MeasuredResults, pvalue);
+}
+
+RT_MERGED_BODY int enc_GSM_MeasuredResultsList(rtxContext* RT_RESTRICT ctx, const GSM_MeasuredResultsList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GSM-MeasuredResultsList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "GSM-MeasuredResultsList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "GSM-MeasuredResults", (int32_t)i, "GSM-MeasuredResultsList");
+      stat = enc_GSM_MeasuredResults(ctx, (const GSM_MeasuredResults*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "GSM-MeasuredResults", (int32_t)i, "GSM-MeasuredResultsList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GSM_MeasuredResultsList(rtxContext* RT_RESTRICT ctx, const GSM_MeasuredResultsList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GSM_MeasuredResultsList, pvalue);
+}
+
+RT_MERGED_BODY int enc_GPS_TOW_1sec(rtxContext* RT_RESTRICT ctx, GPS_TOW_1sec value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 604799u) {
+      rtxErrAddStrParm(ctx, "GPS-TOW-1sec");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "GPS-TOW-1sec");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 604799);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "GPS-TOW-1sec");
+   return 0;
+}
+
+int asn1PE_UMTS_GPS_TOW_1sec(rtxContext* RT_RESTRICT ctx, GPS_TOW_1sec value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GPS_TOW_1sec, value);
+}
+
+RT_MERGED_BODY int enc_GPS_TOW_Assist(rtxContext* RT_RESTRICT ctx, const GPS_TOW_Assist* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GPS-TOW-Assist");
+   /* satID */
+   if ((uint64_t)pvalue->satID > 63u) {
+      rtxErrAddStrParm(ctx, "SatID");
+      rtxErrAddUIntParm(ctx, pvalue->satID);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "SatID", "satID", -1, "GPS-TOW-Assist");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->satID, 0, 63);
+   RT_CHECK_PUT(ctx, cur, stat, "SatID", "satID", -1, "GPS-TOW-Assist");
+   /* tlm-Message */
+   RT_SET_SIZE(ctx, 14, 14);
+   stat = pe_BitString32At(ctx, cur, &pvalue->tlm_Message, 14, 14);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tlm-Message", -1, "GPS-TOW-Assist");
+   /* tlm-Reserved */
+   RT_SET_SIZE(ctx, 2, 2);
+   stat = pe_BitString32At(ctx, cur, &pvalue->tlm_Reserved, 2, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "tlm-Reserved", -1, "GPS-TOW-Assist");
+   /* alert */
+   stat = rtxEncBitAt(ctx, cur, pvalue->alert);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "alert", -1, "GPS-TOW-Assist");
+   /* antiSpoof */
+   stat = rtxEncBitAt(ctx, cur, pvalue->antiSpoof);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "antiSpoof", -1, "GPS-TOW-Assist");
+   return 0;
+}
+
+int asn1PE_UMTS_GPS_TOW_Assist(rtxContext* RT_RESTRICT ctx, const GPS_TOW_Assist* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GPS_TOW_Assist, pvalue);
+}
+
+RT_MERGED_BODY int enc_GPS_TOW_AssistList(rtxContext* RT_RESTRICT ctx, const GPS_TOW_AssistList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GPS-TOW-AssistList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "GPS-TOW-AssistList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "GPS-TOW-Assist", (int32_t)i, "GPS-TOW-AssistList");
+      stat = enc_GPS_TOW_Assist(ctx, (const GPS_TOW_Assist*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "GPS-TOW-Assist", (int32_t)i, "GPS-TOW-AssistList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GPS_TOW_AssistList(rtxContext* RT_RESTRICT ctx, const GPS_TOW_AssistList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GPS_TOW_AssistList, pvalue);
+}
+
+RT_MERGED_BODY int enc_GSM_CellID(rtxContext* RT_RESTRICT ctx, const GSM_CellID* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GSM-CellID");
+   /* gsm-CellID */
+   if ((uint64_t)pvalue->gsm_CellID > 31u) {
+      rtxErrAddStrParm(ctx, "gsm-CellID");
+      rtxErrAddUIntParm(ctx, pvalue->gsm_CellID);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "gsm-CellID", -1, "GSM-CellID");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->gsm_CellID, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "gsm-CellID", -1, "GSM-CellID");
+   return 0;
+}
+
+int asn1PE_UMTS_GSM_CellID(rtxContext* RT_RESTRICT ctx, const GSM_CellID* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GSM_CellID, pvalue);
+}
+
+RT_MERGED_BODY int enc_GSM_PriorityInfo(rtxContext* RT_RESTRICT ctx, const GSM_PriorityInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GSM-PriorityInfo");
+   /* gsmCellGroup */
+   stat = enc_GSM_CellGroup(ctx, &pvalue->gsmCellGroup, cur);
+   RT_CHECK(ctx, stat, 0, "gsmCellGroup", -1, "GSM-PriorityInfo");
+   /* priority */
+   if ((uint64_t)pvalue->priority > 7u) {
+      rtxErrAddStrParm(ctx, "priority");
+      rtxErrAddUIntParm(ctx, pvalue->priority);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "priority", -1, "GSM-PriorityInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->priority, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "priority", -1, "GSM-PriorityInfo");
+   /* qRxLevMinGSM */
+   if (pvalue->qRxLevMinGSM < -58 || pvalue->qRxLevMinGSM > -13) {
+      rtxErrAddStrParm(ctx, "qRxLevMinGSM");
+      rtxErrAddIntParm(ctx, pvalue->qRxLevMinGSM);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "qRxLevMinGSM", -1, "GSM-PriorityInfo");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->qRxLevMinGSM, -58, -13);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "qRxLevMinGSM", -1, "GSM-PriorityInfo");
+   /* threshXhigh */
+   if ((uint64_t)pvalue->threshXhigh > 31u) {
+      rtxErrAddStrParm(ctx, "threshXhigh");
+      rtxErrAddUIntParm(ctx, pvalue->threshXhigh);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "threshXhigh", -1, "GSM-PriorityInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->threshXhigh, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "threshXhigh", -1, "GSM-PriorityInfo");
+   /* threshXlow */
+   if ((uint64_t)pvalue->threshXlow > 31u) {
+      rtxErrAddStrParm(ctx, "threshXlow");
+      rtxErrAddUIntParm(ctx, pvalue->threshXlow);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "threshXlow", -1, "GSM-PriorityInfo");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->threshXlow, 0, 31);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "threshXlow", -1, "GSM-PriorityInfo");
+   return 0;
+}
+
+int asn1PE_UMTS_GSM_PriorityInfo(rtxContext* RT_RESTRICT ctx, const GSM_PriorityInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GSM_PriorityInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_GSM_PriorityInfoList(rtxContext* RT_RESTRICT ctx, const GSM_PriorityInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GSM-PriorityInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 16);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "GSM-PriorityInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "GSM-PriorityInfo", (int32_t)i, "GSM-PriorityInfoList");
+      stat = enc_GSM_PriorityInfo(ctx, (const GSM_PriorityInfo*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "GSM-PriorityInfo", (int32_t)i, "GSM-PriorityInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GSM_PriorityInfoList(rtxContext* RT_RESTRICT ctx, const GSM_PriorityInfoList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GSM_PriorityInfoList, pvalue);
+}
+
+RT_MERGED_BODY int enc_GSMCellGroupingList(rtxContext* RT_RESTRICT ctx, const GSMCellGroupingList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "GSMCellGroupingList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "GSMCellGroupingList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "GSM-CellID", (int32_t)i, "GSMCellGroupingList");
+      stat = enc_GSM_CellID(ctx, (const GSM_CellID*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "GSM-CellID", (int32_t)i, "GSMCellGroupingList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_GSMCellGroupingList(rtxContext* RT_RESTRICT ctx, const GSMCellGroupingList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_GSMCellGroupingList, pvalue);
+}
+
+RT_MERGED_BODY int enc_IdleIntervalInfo(rtxContext* RT_RESTRICT ctx, const IdleIntervalInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IdleIntervalInfo");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IdleIntervalInfo");
+   /* k */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)(pvalue->k - 2) > 1u) {
+         rtxErrAddStrParm(ctx, "k");
+         rtxErrAddUIntParm(ctx, pvalue->k);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "k", -1, "IdleIntervalInfo");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->k, 2, 3);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "k", -1, "IdleIntervalInfo");
+   }
+   /* offset */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->offset > 7u) {
+         rtxErrAddStrParm(ctx, "offset");
+         rtxErrAddUIntParm(ctx, pvalue->offset);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "offset", -1, "IdleIntervalInfo");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->offset, 0, 7);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "offset", -1, "IdleIntervalInfo");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IdleIntervalInfo(rtxContext* RT_RESTRICT ctx, const IdleIntervalInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IdleIntervalInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqCell_LCR_r4(rtxContext* RT_RESTRICT ctx, const InterFreqCell_LCR_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCell-LCR-r4");
+   /* frequencyInfo */
+   stat = enc_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "InterFreqCell-LCR-r4");
+   /* nonFreqRelatedEventResults */
+   stat = enc_CellMeasurementEventResults_LCR_r4(ctx, &pvalue->nonFreqRelatedEventResults, cur);
+   RT_CHECK(ctx, stat, 0, "nonFreqRelatedEventResults", -1, "InterFreqCell-LCR-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqCell_LCR_r4(rtxContext* RT_RESTRICT ctx, const InterFreqCell_LCR_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqCell_LCR_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewInterFreqCell(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCell");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCell");
+   /* interFreqCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->interFreqCellID > 31u) {
+         rtxErrAddStrParm(ctx, "InterFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCell");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->interFreqCellID, 0, 31);
+      RT_CHECK_PUT(ctx, cur, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCell");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x2u) {
+      stat = enc_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCell");
+   }
+   /* cellInfo */
+   stat = enc_CellInfo(ctx, &pvalue->cellInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCell");
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCell(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewInterFreqCell, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewInterFreqCellList(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "NewInterFreqCell", (int32_t)i, "NewInterFreqCellList");
+      stat = enc_NewInterFreqCell(ctx, (const NewInterFreqCell*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCell", (int32_t)i, "NewInterFreqCellList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCellList(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewInterFreqCellList, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqCellInfoList(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellInfoList");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterFreqCellInfoList");
+   /* removedInterFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoList");
+   }
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_NewInterFreqCellList(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoList");
+   }
+   /* cellsForInterFreqMeasList */
+   if (pvalue->m & 0x4u) {
+      stat = enc_CellsForInterFreqMeasList(ctx, &pvalue->cellsForInterFreqMeasList, cur);
+      RT_CHECK(ctx, stat, 0, "cellsForInterFreqMeasList", -1, "InterFreqCellInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqCellInfoList(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqCellInfoList, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewInterFreqCell_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCell-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCell-r4");
+   /* interFreqCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->interFreqCellID > 31u) {
+         rtxErrAddStrParm(ctx, "InterFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCell-r4");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->interFreqCellID, 0, 31);
+      RT_CHECK_PUT(ctx, cur, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCell-r4");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x2u) {
+      stat = enc_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCell-r4");
+   }
+   /* cellInfo */
+   stat = enc_CellInfo_r4(ctx, &pvalue->cellInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCell-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCell_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewInterFreqCell_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewInterFreqCellList_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellList_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellList-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellList-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "NewInterFreqCell-r4", (int32_t)i, "NewInterFreqCellList-r4");
+      stat = enc_NewInterFreqCell_r4(ctx, (const NewInterFreqCell_r4*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCell-r4", (int32_t)i, "NewInterFreqCellList-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCellList_r4(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellList_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewInterFreqCellList_r4, pvalue);
+}
+
+static int enc_InterFreqCellInfoList_r4(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoList_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellInfoList-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterFreqCellInfoList-r4");
+   /* removedInterFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoList-r4");
+   }
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_NewInterFreqCellList_r4(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoList-r4");
+   }
+   /* cellsForInterFreqMeasList */
+   if (pvalue->m & 0x4u) {
+      stat = enc_CellsForInterFreqMeasList(ctx, &pvalue->cellsForInterFreqMeasList, cur);
+      RT_CHECK(ctx, stat, 0, "cellsForInterFreqMeasList", -1, "InterFreqCellInfoList-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqCellInfoList_r4(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoList_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqCellInfoList_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewInterFreqCell_r8_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_r8_modeSpecificInfo_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* intraSecondaryFreqIndicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->intraSecondaryFreqIndicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "intraSecondaryFreqIndicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCell_r8_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_r8_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewInterFreqCell_r8_modeSpecificInfo_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewInterFreqCell_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_r8_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_NewInterFreqCell_r8_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCell_r8_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_r8_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewInterFreqCell_r8_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewInterFreqCell_r8(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCell-r8");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCell-r8");
+   /* interFreqCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->interFreqCellID > 31u) {
+         rtxErrAddStrParm(ctx, "InterFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCell-r8");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->interFreqCellID, 0, 31);
+      RT_CHECK_PUT(ctx, cur, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCell-r8");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x2u) {
+      stat = enc_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCell-r8");
+   }
+   /* cellInfo */
+   stat = enc_CellInfo_r4(ctx, &pvalue->cellInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCell-r8");
+   /* modeSpecificInfo */
+   stat = enc_NewInterFreqCell_r8_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "NewInterFreqCell-r8");
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCell_r8(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewInterFreqCell_r8, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewInterFreqCellList_r8(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellList_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellList-r8");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellList-r8");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "NewInterFreqCell-r8", (int32_t)i, "NewInterFreqCellList-r8");
+      stat = enc_NewInterFreqCell_r8(ctx, (const NewInterFreqCell_r8*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCell-r8", (int32_t)i, "NewInterFreqCellList-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCellList_r8(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellList_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewInterFreqCellList_r8, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqCellInfoList_r8(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoList_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellInfoList-r8");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterFreqCellInfoList-r8");
+   /* removedInterFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoList-r8");
+   }
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_NewInterFreqCellList_r8(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoList-r8");
+   }
+   /* cellsForInterFreqMeasList */
+   if (pvalue->m & 0x4u) {
+      stat = enc_CellsForInterFreqMeasList(ctx, &pvalue->cellsForInterFreqMeasList, cur);
+      RT_CHECK(ctx, stat, 0, "cellsForInterFreqMeasList", -1, "InterFreqCellInfoList-r8");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqCellInfoList_r8(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoList_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqCellInfoList_r8, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewInterFreqCell_r9_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_r9_modeSpecificInfo_tdd128* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* intraSecondaryFreqIndicator */
+   stat = rtxEncBitAt(ctx, cur, pvalue->intraSecondaryFreqIndicator);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "intraSecondaryFreqIndicator", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCell_r9_modeSpecificInfo_tdd128(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_r9_modeSpecificInfo_tdd128* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewInterFreqCell_r9_modeSpecificInfo_tdd128, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewInterFreqCell_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_r9_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         if (pvalue->u.tdd128 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd128", -1, 0);
+         stat = enc_NewInterFreqCell_r9_modeSpecificInfo_tdd128(ctx, pvalue->u.tdd128, cur);
+         RT_CHECK(ctx, stat, 0, "tdd128", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCell_r9_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_r9_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewInterFreqCell_r9_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewInterFreqCell_r9(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCell-r9");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCell-r9");
+   /* interFreqCellID */
+   if (pvalue->m & 0x1u) {
+      if ((uint64_t)pvalue->interFreqCellID > 31u) {
+         rtxErrAddStrParm(ctx, "InterFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->interFreqCellID);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCell-r9");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->interFreqCellID, 0, 31);
+      RT_CHECK_PUT(ctx, cur, stat, "InterFreqCellID", "interFreqCellID", -1, "NewInterFreqCell-r9");
+   }
+   /* frequencyInfo */
+   if (pvalue->m & 0x2u) {
+      stat = enc_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "NewInterFreqCell-r9");
+   }
+   /* cellInfo */
+   stat = enc_CellInfo_r9(ctx, &pvalue->cellInfo, cur);
+   RT_CHECK(ctx, stat, 0, "cellInfo", -1, "NewInterFreqCell-r9");
+   /* modeSpecificInfo */
+   stat = enc_NewInterFreqCell_r9_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "NewInterFreqCell-r9");
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCell_r9(rtxContext* RT_RESTRICT ctx, const NewInterFreqCell_r9* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewInterFreqCell_r9, pvalue);
+}
+
+RT_MERGED_BODY int enc_NewInterFreqCellList_r9(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellList_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "NewInterFreqCellList-r9");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "NewInterFreqCellList-r9");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "NewInterFreqCell-r9", (int32_t)i, "NewInterFreqCellList-r9");
+      stat = enc_NewInterFreqCell_r9(ctx, (const NewInterFreqCell_r9*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "NewInterFreqCell-r9", (int32_t)i, "NewInterFreqCellList-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_NewInterFreqCellList_r9(rtxContext* RT_RESTRICT ctx, const NewInterFreqCellList_r9* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NewInterFreqCellList_r9, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqSIAcquisition_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const InterFreqSIAcquisition_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* primaryScramblingCode */
+   stat = enc_PrimaryCPICH_Info(ctx, &pvalue->primaryScramblingCode, cur);
+   RT_CHECK(ctx, stat, 0, "primaryScramblingCode", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqSIAcquisition_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const InterFreqSIAcquisition_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqSIAcquisition_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqSIAcquisition_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const InterFreqSIAcquisition_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_InterFreqSIAcquisition_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqSIAcquisition_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const InterFreqSIAcquisition_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqSIAcquisition_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqSIAcquisition(rtxContext* RT_RESTRICT ctx, const InterFreqSIAcquisition* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqSIAcquisition");
+   /* frequencyInfo */
+   stat = enc_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "InterFreqSIAcquisition");
+   /* modeSpecificInfo */
+   stat = enc_InterFreqSIAcquisition_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, "InterFreqSIAcquisition");
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqSIAcquisition(rtxContext* RT_RESTRICT ctx, const InterFreqSIAcquisition* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqSIAcquisition, pvalue);
+}
+
+static int enc_InterFreqCellInfoList_r9(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoList_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellInfoList-r9");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterFreqCellInfoList-r9");
+   /* removedInterFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_RemovedInterFreqCellList(ctx, &pvalue->removedInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "removedInterFreqCellList", -1, "InterFreqCellInfoList-r9");
+   }
+   /* newInterFreqCellList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_NewInterFreqCellList_r9(ctx, &pvalue->newInterFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterFreqCellList", -1, "InterFreqCellInfoList-r9");
+   }
+   /* cellsForInterFreqMeasList */
+   if (pvalue->m & 0x4u) {
+      stat = enc_CellsForInterFreqMeasList(ctx, &pvalue->cellsForInterFreqMeasList, cur);
+      RT_CHECK(ctx, stat, 0, "cellsForInterFreqMeasList", -1, "InterFreqCellInfoList-r9");
+   }
+   /* cSGInterFreqCellInfoList */
+   if (pvalue->m & 0x8u) {
+      stat = enc_CSGInterFreqCellInfoList(ctx, &pvalue->cSGInterFreqCellInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "cSGInterFreqCellInfoList", -1, "InterFreqCellInfoList-r9");
+   }
+   /* interFreqSIAcquisition */
+   if (pvalue->m & 0x10u) {
+      stat = enc_InterFreqSIAcquisition(ctx, &pvalue->interFreqSIAcquisition, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqSIAcquisition", -1, "InterFreqCellInfoList-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqCellInfoList_r9(rtxContext* RT_RESTRICT ctx, const InterFreqCellInfoList_r9* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqCellInfoList_r9, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqCellList_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const InterFreqCellList_LCR_r4_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellList-LCR-r4-ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "InterFreqCellList-LCR-r4-ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "InterFreqCell-LCR-r4", (int32_t)i, "InterFreqCellList-LCR-r4-ext");
+      stat = enc_InterFreqCell_LCR_r4(ctx, (const InterFreqCell_LCR_r4*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "InterFreqCell-LCR-r4", (int32_t)i, "InterFreqCellList-LCR-r4-ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqCellList_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const InterFreqCellList_LCR_r4_ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqCellList_LCR_r4_ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqCellMeasuredResultsList(rtxContext* RT_RESTRICT ctx, const InterFreqCellMeasuredResultsList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellMeasuredResultsList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "InterFreqCellMeasuredResultsList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "CellMeasuredResults", (int32_t)i, "InterFreqCellMeasuredResultsList");
+      stat = enc_CellMeasuredResults(ctx, (const CellMeasuredResults*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "CellMeasuredResults", (int32_t)i, "InterFreqCellMeasuredResultsList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqCellMeasuredResultsList(rtxContext* RT_RESTRICT ctx, const InterFreqCellMeasuredResultsList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqCellMeasuredResultsList, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqCellMeasuredResultsList_v920ext(rtxContext* RT_RESTRICT ctx, const InterFreqCellMeasuredResultsList_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqCellMeasuredResultsList-v920ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "InterFreqCellMeasuredResultsList-v920ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "CellMeasuredResults-v920ext", (int32_t)i, "InterFreqCellMeasuredResultsList-v920ext");
+      stat = enc_CellMeasuredResults_v920ext(ctx, (const CellMeasuredResults_v920ext*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "CellMeasuredResults-v920ext", (int32_t)i, "InterFreqCellMeasuredResultsList-v920ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqCellMeasuredResultsList_v920ext(rtxContext* RT_RESTRICT ctx, const InterFreqCellMeasuredResultsList_v920ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqCellMeasuredResultsList_v920ext, pvalue);
+}
+
+static int enc_InterFreqEvent(rtxContext* RT_RESTRICT ctx, const InterFreqEvent* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqEvent");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "InterFreqEvent");
+   if (pvalue->t - 1 > 5) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "InterFreqEvent");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.event2a == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "event2a", -1, "InterFreqEvent");
+         stat = enc_Event2a(ctx, pvalue->u.event2a, cur);
+         RT_CHECK(ctx, stat, 0, "event2a", -1, "InterFreqEvent");
+         break;
+      case 2:
+         if (pvalue->u.event2b == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "event2b", -1, "InterFreqEvent");
+         stat = enc_Event2b(ctx, pvalue->u.event2b, cur);
+         RT_CHECK(ctx, stat, 0, "event2b", -1, "InterFreqEvent");
+         break;
+      case 3:
+         if (pvalue->u.event2c == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "event2c", -1, "InterFreqEvent");
+         stat = enc_Event2c(ctx, pvalue->u.event2c, cur);
+         RT_CHECK(ctx, stat, 0, "event2c", -1, "InterFreqEvent");
+         break;
+      case 4:
+         if (pvalue->u.event2d == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "event2d", -1, "InterFreqEvent");
+         stat = enc_Event2d(ctx, pvalue->u.event2d, cur);
+         RT_CHECK(ctx, stat, 0, "event2d", -1, "InterFreqEvent");
+         break;
+      case 5:
+         if (pvalue->u.event2e == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "event2e", -1, "InterFreqEvent");
+         stat = enc_Event2e(ctx, pvalue->u.event2e, cur);
+         RT_CHECK(ctx, stat, 0, "event2e", -1, "InterFreqEvent");
+         break;
+      case 6:
+         if (pvalue->u.event2f == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "event2f", -1, "InterFreqEvent");
+         stat = enc_Event2f(ctx, pvalue->u.event2f, cur);
+         RT_CHECK(ctx, stat, 0, "event2f", -1, "InterFreqEvent");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqEvent(rtxContext* RT_RESTRICT ctx, const InterFreqEvent* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqEvent, pvalue);
+}
+
+static int enc_InterFreqEvent_r6(rtxContext* RT_RESTRICT ctx, const InterFreqEvent_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqEvent-r6");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "InterFreqEvent-r6");
+   if (pvalue->t - 1 > 5) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "InterFreqEvent-r6");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.event2a == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "event2a", -1, "InterFreqEvent-r6");
+         stat = enc_Event2a_r6(ctx, pvalue->u.event2a, cur);
+         RT_CHECK(ctx, stat, 0, "event2a", -1, "InterFreqEvent-r6");
+         break;
+      case 2:
+         if (pvalue->u.event2b == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "event2b", -1, "InterFreqEvent-r6");
+         stat = enc_Event2b_r6(ctx, pvalue->u.event2b, cur);
+         RT_CHECK(ctx, stat, 0, "event2b", -1, "InterFreqEvent-r6");
+         break;
+      case 3:
+         if (pvalue->u.event2c == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "event2c", -1, "InterFreqEvent-r6");
+         stat = enc_Event2c_r6(ctx, pvalue->u.event2c, cur);
+         RT_CHECK(ctx, stat, 0, "event2c", -1, "InterFreqEvent-r6");
+         break;
+      case 4:
+         if (pvalue->u.event2d == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "event2d", -1, "InterFreqEvent-r6");
+         stat = enc_Event2d_r6(ctx, pvalue->u.event2d, cur);
+         RT_CHECK(ctx, stat, 0, "event2d", -1, "InterFreqEvent-r6");
+         break;
+      case 5:
+         if (pvalue->u.event2e == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "event2e", -1, "InterFreqEvent-r6");
+         stat = enc_Event2e_r6(ctx, pvalue->u.event2e, cur);
+         RT_CHECK(ctx, stat, 0, "event2e", -1, "InterFreqEvent-r6");
+         break;
+      case 6:
+         if (pvalue->u.event2f == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "event2f", -1, "InterFreqEvent-r6");
+         stat = enc_Event2f_r6(ctx, pvalue->u.event2f, cur);
+         RT_CHECK(ctx, stat, 0, "event2f", -1, "InterFreqEvent-r6");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqEvent_r6(rtxContext* RT_RESTRICT ctx, const InterFreqEvent_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqEvent_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqEventList(rtxContext* RT_RESTRICT ctx, const InterFreqEventList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqEventList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "InterFreqEventList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "InterFreqEvent", (int32_t)i, "InterFreqEventList");
+      stat = enc_InterFreqEvent(ctx, (const InterFreqEvent*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "InterFreqEvent", (int32_t)i, "InterFreqEventList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqEventList(rtxContext* RT_RESTRICT ctx, const InterFreqEventList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqEventList, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqEventList_r6(rtxContext* RT_RESTRICT ctx, const InterFreqEventList_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqEventList-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "InterFreqEventList-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "InterFreqEvent-r6", (int32_t)i, "InterFreqEventList-r6");
+      stat = enc_InterFreqEvent_r6(ctx, (const InterFreqEvent_r6*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "InterFreqEvent-r6", (int32_t)i, "InterFreqEventList-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqEventList_r6(rtxContext* RT_RESTRICT ctx, const InterFreqEventList_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqEventList_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFrequencyMeasuredResultsList_v590ext(rtxContext* RT_RESTRICT ctx, const InterFrequencyMeasuredResultsList_v590ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFrequencyMeasuredResultsList-v590ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "InterFrequencyMeasuredResultsList-v590ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DeltaRSCPPerCell", (int32_t)i, "InterFrequencyMeasuredResultsList-v590ext");
+      stat = enc_DeltaRSCPPerCell(ctx, (const DeltaRSCPPerCell*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DeltaRSCPPerCell", (int32_t)i, "InterFrequencyMeasuredResultsList-v590ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFrequencyMeasuredResultsList_v590ext(rtxContext* RT_RESTRICT ctx, const InterFrequencyMeasuredResultsList_v590ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFrequencyMeasuredResultsList_v590ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_ThreholdNonUsedFrequency_deltaList(rtxContext* RT_RESTRICT ctx, const ThreholdNonUsedFrequency_deltaList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ThreholdNonUsedFrequency-deltaList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "ThreholdNonUsedFrequency-deltaList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DeltaRSCPPerCell", (int32_t)i, "ThreholdNonUsedFrequency-deltaList");
+      stat = enc_DeltaRSCPPerCell(ctx, (const DeltaRSCPPerCell*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DeltaRSCPPerCell", (int32_t)i, "ThreholdNonUsedFrequency-deltaList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ThreholdNonUsedFrequency_deltaList(rtxContext* RT_RESTRICT ctx, const ThreholdNonUsedFrequency_deltaList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ThreholdNonUsedFrequency_deltaList, pvalue);
+}
+
+RT_MERGED_BODY int enc_Inter_FreqEventCriteria_v590ext(rtxContext* RT_RESTRICT ctx, const Inter_FreqEventCriteria_v590ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Inter-FreqEventCriteria-v590ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "Inter-FreqEventCriteria-v590ext");
+   /* threholdUsedFrequency-delta */
+   if (pvalue->threholdUsedFrequency_delta < -5 || pvalue->threholdUsedFrequency_delta > -1) {
+      rtxErrAddStrParm(ctx, "DeltaRSCP");
+      rtxErrAddIntParm(ctx, pvalue->threholdUsedFrequency_delta);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "DeltaRSCP", "threholdUsedFrequency-delta", -1, "Inter-FreqEventCriteria-v590ext");
+   }
+   stat = pe_ConsInt64At(ctx, cur, pvalue->threholdUsedFrequency_delta, -5, -1);
+   RT_CHECK_PUT(ctx, cur, stat, "DeltaRSCP", "threholdUsedFrequency-delta", -1, "Inter-FreqEventCriteria-v590ext");
+   /* threholdNonUsedFrequency-deltaList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ThreholdNonUsedFrequency_deltaList(ctx, &pvalue->threholdNonUsedFrequency_deltaList, cur);
+      RT_CHECK(ctx, stat, 0, "threholdNonUsedFrequency-deltaList", -1, "Inter-FreqEventCriteria-v590ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Inter_FreqEventCriteria_v590ext(rtxContext* RT_RESTRICT ctx, const Inter_FreqEventCriteria_v590ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Inter_FreqEventCriteria_v590ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_Inter_FreqEventCriteriaList_v590ext(rtxContext* RT_RESTRICT ctx, const Inter_FreqEventCriteriaList_v590ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "Inter-FreqEventCriteriaList-v590ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "Inter-FreqEventCriteriaList-v590ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "Inter-FreqEventCriteria-v590ext", (int32_t)i, "Inter-FreqEventCriteriaList-v590ext");
+      stat = enc_Inter_FreqEventCriteria_v590ext(ctx, (const Inter_FreqEventCriteria_v590ext*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "Inter-FreqEventCriteria-v590ext", (int32_t)i, "Inter-FreqEventCriteriaList-v590ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_Inter_FreqEventCriteriaList_v590ext(rtxContext* RT_RESTRICT ctx, const Inter_FreqEventCriteriaList_v590ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_Inter_FreqEventCriteriaList_v590ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFrequencyMeasuredResultsList_v590ext(rtxContext* RT_RESTRICT ctx, const IntraFrequencyMeasuredResultsList_v590ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFrequencyMeasuredResultsList-v590ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 32);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "IntraFrequencyMeasuredResultsList-v590ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "DeltaRSCPPerCell", (int32_t)i, "IntraFrequencyMeasuredResultsList-v590ext");
+      stat = enc_DeltaRSCPPerCell(ctx, (const DeltaRSCPPerCell*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "DeltaRSCPPerCell", (int32_t)i, "IntraFrequencyMeasuredResultsList-v590ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFrequencyMeasuredResultsList_v590ext(rtxContext* RT_RESTRICT ctx, const IntraFrequencyMeasuredResultsList_v590ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFrequencyMeasuredResultsList_v590ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqEventResults_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const InterFreqEventResults_LCR_r4_ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqEventResults-LCR-r4-ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterFreqEventResults-LCR-r4-ext");
+   /* eventID */
+   if (pvalue->eventID > 7) {
+      rtxErrAddUIntParm(ctx, pvalue->eventID);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "EventIDInterFreq", "eventID", -1, "InterFreqEventResults-LCR-r4-ext");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->eventID, 0, 7);
+   RT_CHECK_PUT(ctx, cur, stat, "EventIDInterFreq", "eventID", -1, "InterFreqEventResults-LCR-r4-ext");
+   /* interFreqCellList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_InterFreqCellList_LCR_r4_ext(ctx, &pvalue->interFreqCellList, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqCellList", -1, "InterFreqEventResults-LCR-r4-ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqEventResults_LCR_r4_ext(rtxContext* RT_RESTRICT ctx, const InterFreqEventResults_LCR_r4_ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqEventResults_LCR_r4_ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqMeasQuantity_reportingCriteria_intraFreqReportingCriteria(rtxContext* RT_RESTRICT ctx, const InterFreqMeasQuantity_reportingCriteria_intraFreqReportingCriteria* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* intraFreqMeasQuantity */
+   stat = enc_IntraFreqMeasQuantity(ctx, &pvalue->intraFreqMeasQuantity, cur);
+   RT_CHECK(ctx, stat, 0, "intraFreqMeasQuantity", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria_intraFreqReportingCriteria(rtxContext* RT_RESTRICT ctx, const InterFreqMeasQuantity_reportingCriteria_intraFreqReportingCriteria* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqMeasQuantity_reportingCriteria_intraFreqReportingCriteria, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_fdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* freqQualityEstimateQuantity-FDD */
+   if (pvalue->freqQualityEstimateQuantity_FDD > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->freqQualityEstimateQuantity_FDD);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "FreqQualityEstimateQuantity-FDD", "freqQualityEstimateQuantity-FDD", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->freqQualityEstimateQuantity_FDD, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "FreqQualityEstimateQuantity-FDD", "freqQualityEstimateQuantity-FDD", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_fdd(rtxContext* RT_RESTRICT ctx, const InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_fdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_fdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_tdd* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* freqQualityEstimateQuantity-TDD */
+   if (pvalue->freqQualityEstimateQuantity_TDD > 0) {
+      rtxErrAddUIntParm(ctx, pvalue->freqQualityEstimateQuantity_TDD);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "FreqQualityEstimateQuantity-TDD", "freqQualityEstimateQuantity-TDD", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->freqQualityEstimateQuantity_TDD, 0, 0);
+   RT_CHECK_PUT(ctx, cur, stat, "FreqQualityEstimateQuantity-TDD", "freqQualityEstimateQuantity-TDD", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_tdd(rtxContext* RT_RESTRICT ctx, const InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_tdd* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_tdd, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.fdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
+         stat = enc_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_fdd(ctx, pvalue->u.fdd, cur);
+         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.tdd == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "tdd", -1, 0);
+         stat = enc_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo_tdd(ctx, pvalue->u.tdd, cur);
+         RT_CHECK(ctx, stat, 0, "tdd", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo(rtxContext* RT_RESTRICT ctx, const InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria(rtxContext* RT_RESTRICT ctx, const InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)(pvalue->filterCoefficient != 0) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* filterCoefficient */
+   if (pvalue->filterCoefficient != 0) {
+      if (pvalue->filterCoefficient > 15) {
+         rtxErrAddUIntParm(ctx, pvalue->filterCoefficient);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "FilterCoefficient", "filterCoefficient", -1, 0);
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->filterCoefficient, 0, 15);
+      RT_CHECK_PUT(ctx, cur, stat, "FilterCoefficient", "filterCoefficient", -1, 0);
+   }
+   /* modeSpecificInfo */
+   stat = enc_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria_modeSpecificInfo(ctx, &pvalue->modeSpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "modeSpecificInfo", -1, 0);
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria(rtxContext* RT_RESTRICT ctx, const InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqMeasQuantity_reportingCriteria(rtxContext* RT_RESTRICT ctx, const InterFreqMeasQuantity_reportingCriteria* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 1) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "intraFreqReportingCriteria", -1, 0);
+         stat = enc_InterFreqMeasQuantity_reportingCriteria_intraFreqReportingCriteria(ctx, pvalue->u.intraFreqReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, 0);
+         break;
+      case 2:
+         if (pvalue->u.interFreqReportingCriteria == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "interFreqReportingCriteria", -1, 0);
+         stat = enc_InterFreqMeasQuantity_reportingCriteria_interFreqReportingCriteria(ctx, pvalue->u.interFreqReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "interFreqReportingCriteria", -1, 0);
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqMeasQuantity_reportingCriteria(rtxContext* RT_RESTRICT ctx, const InterFreqMeasQuantity_reportingCriteria* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqMeasQuantity_reportingCriteria, pvalue);
+}
+
+static int enc_InterFreqMeasQuantity(rtxContext* RT_RESTRICT ctx, const InterFreqMeasQuantity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqMeasQuantity");
+   /* reportingCriteria */
+   stat = enc_InterFreqMeasQuantity_reportingCriteria(ctx, &pvalue->reportingCriteria, cur);
+   RT_CHECK(ctx, stat, 0, "reportingCriteria", -1, "InterFreqMeasQuantity");
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqMeasQuantity(rtxContext* RT_RESTRICT ctx, const InterFreqMeasQuantity* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqMeasQuantity, pvalue);
+}
+
+RT_MERGED_BODY int enc_UTRA_CarrierRSSI(rtxContext* RT_RESTRICT ctx, UTRA_CarrierRSSI value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 127u) {
+      rtxErrAddStrParm(ctx, "UTRA-CarrierRSSI");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "UTRA-CarrierRSSI");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 127);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "UTRA-CarrierRSSI");
+   return 0;
+}
+
+int asn1PE_UMTS_UTRA_CarrierRSSI(rtxContext* RT_RESTRICT ctx, UTRA_CarrierRSSI value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UTRA_CarrierRSSI, value);
+}
+
+RT_MERGED_BODY int enc_InterFreqMeasuredResults(rtxContext* RT_RESTRICT ctx, const InterFreqMeasuredResults* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqMeasuredResults");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterFreqMeasuredResults");
+   /* frequencyInfo */
+   if (pvalue->m & 0x1u) {
+      stat = enc_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "InterFreqMeasuredResults");
+   }
+   /* utra-CarrierRSSI */
+   if (pvalue->m & 0x2u) {
+      if ((uint64_t)pvalue->utra_CarrierRSSI > 127u) {
+         rtxErrAddStrParm(ctx, "UTRA-CarrierRSSI");
+         rtxErrAddUIntParm(ctx, pvalue->utra_CarrierRSSI);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "UTRA-CarrierRSSI", "utra-CarrierRSSI", -1, "InterFreqMeasuredResults");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->utra_CarrierRSSI, 0, 127);
+      RT_CHECK_PUT(ctx, cur, stat, "UTRA-CarrierRSSI", "utra-CarrierRSSI", -1, "InterFreqMeasuredResults");
+   }
+   /* interFreqCellMeasuredResultsList */
+   if (pvalue->m & 0x4u) {
+      stat = enc_InterFreqCellMeasuredResultsList(ctx, &pvalue->interFreqCellMeasuredResultsList, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqCellMeasuredResultsList", -1, "InterFreqMeasuredResults");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqMeasuredResults(rtxContext* RT_RESTRICT ctx, const InterFreqMeasuredResults* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqMeasuredResults, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqMeasuredResults_v920ext(rtxContext* RT_RESTRICT ctx, const InterFreqMeasuredResults_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqMeasuredResults-v920ext");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterFreqMeasuredResults-v920ext");
+   /* interFreqCellMeasuredResultsList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_InterFreqCellMeasuredResultsList_v920ext(ctx, &pvalue->interFreqCellMeasuredResultsList, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqCellMeasuredResultsList", -1, "InterFreqMeasuredResults-v920ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqMeasuredResults_v920ext(rtxContext* RT_RESTRICT ctx, const InterFreqMeasuredResults_v920ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqMeasuredResults_v920ext, pvalue);
+}
+
+static int enc_InterFreqMeasuredResultsList(rtxContext* RT_RESTRICT ctx, const InterFreqMeasuredResultsList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqMeasuredResultsList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "InterFreqMeasuredResultsList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "InterFreqMeasuredResults", (int32_t)i, "InterFreqMeasuredResultsList");
+      stat = enc_InterFreqMeasuredResults(ctx, (const InterFreqMeasuredResults*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "InterFreqMeasuredResults", (int32_t)i, "InterFreqMeasuredResultsList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqMeasuredResultsList(rtxContext* RT_RESTRICT ctx, const InterFreqMeasuredResultsList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqMeasuredResultsList, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqMeasuredResultsList_v920ext(rtxContext* RT_RESTRICT ctx, const InterFreqMeasuredResultsList_v920ext* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqMeasuredResultsList-v920ext");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "InterFreqMeasuredResultsList-v920ext");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "InterFreqMeasuredResults-v920ext", (int32_t)i, "InterFreqMeasuredResultsList-v920ext");
+      stat = enc_InterFreqMeasuredResults_v920ext(ctx, (const InterFreqMeasuredResults_v920ext*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "InterFreqMeasuredResults-v920ext", (int32_t)i, "InterFreqMeasuredResultsList-v920ext");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqMeasuredResultsList_v920ext(rtxContext* RT_RESTRICT ctx, const InterFreqMeasuredResultsList_v920ext* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqMeasuredResultsList_v920ext, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqRACHRepCellsList(rtxContext* RT_RESTRICT ctx, const InterFreqRACHRepCellsList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqRACHRepCellsList");
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->n);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "InterFreqRACHRepCellsList");
+   for (i = 0; i < pvalue->n; i++) {
+      if ((uint64_t)pvalue->elem[i] > 31u) {
+         rtxErrAddStrParm(ctx, "InterFreqCellID");
+         rtxErrAddUIntParm(ctx, pvalue->elem[i]);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "InterFreqCellID", "InterFreqCellID", (int32_t)i, "InterFreqRACHRepCellsList");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->elem[i], 0, 31);
+      RT_CHECK_PUT(ctx, cur, stat, "InterFreqCellID", "InterFreqCellID", (int32_t)i, "InterFreqRACHRepCellsList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqRACHRepCellsList(rtxContext* RT_RESTRICT ctx, const InterFreqRACHRepCellsList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqRACHRepCellsList, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqReportingCriteria(rtxContext* RT_RESTRICT ctx, const InterFreqReportingCriteria* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqReportingCriteria");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterFreqReportingCriteria");
+   /* interFreqEventList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_InterFreqEventList(ctx, &pvalue->interFreqEventList, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqEventList", -1, "InterFreqReportingCriteria");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqReportingCriteria(rtxContext* RT_RESTRICT ctx, const InterFreqReportingCriteria* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqReportingCriteria, pvalue);
+}
+
+RT_MERGED_BODY int enc_PeriodicalWithReportingCellStatus(rtxContext* RT_RESTRICT ctx, const PeriodicalWithReportingCellStatus* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "PeriodicalWithReportingCellStatus");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "PeriodicalWithReportingCellStatus");
+   /* periodicalReportingCriteria */
+   stat = enc_PeriodicalReportingCriteria(ctx, &pvalue->periodicalReportingCriteria, cur);
+   RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "PeriodicalWithReportingCellStatus");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "PeriodicalWithReportingCellStatus");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_PeriodicalWithReportingCellStatus(rtxContext* RT_RESTRICT ctx, const PeriodicalWithReportingCellStatus* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_PeriodicalWithReportingCellStatus, pvalue);
+}
+
+RT_MERGED_BODY int enc_ReportingCellStatusOpt(rtxContext* RT_RESTRICT ctx, const ReportingCellStatusOpt* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "ReportingCellStatusOpt");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "ReportingCellStatusOpt");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "ReportingCellStatusOpt");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_ReportingCellStatusOpt(rtxContext* RT_RESTRICT ctx, const ReportingCellStatusOpt* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_ReportingCellStatusOpt, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqReportCriteria(rtxContext* RT_RESTRICT ctx, const InterFreqReportCriteria* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqReportCriteria");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "InterFreqReportCriteria");
+   if (pvalue->t - 1 > 3) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "InterFreqReportCriteria");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria");
+         stat = enc_IntraFreqReportingCriteria(ctx, pvalue->u.intraFreqReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria");
+         break;
+      case 2:
+         if (pvalue->u.interFreqReportingCriteria == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria");
+         stat = enc_InterFreqReportingCriteria(ctx, pvalue->u.interFreqReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria");
+         break;
+      case 3:
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria");
+         stat = enc_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria");
+         break;
+      case 4:
+         if (pvalue->u.noReporting == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "noReporting", -1, "InterFreqReportCriteria");
+         stat = enc_ReportingCellStatusOpt(ctx, pvalue->u.noReporting, cur);
+         RT_CHECK(ctx, stat, 0, "noReporting", -1, "InterFreqReportCriteria");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqReportCriteria(rtxContext* RT_RESTRICT ctx, const InterFreqReportCriteria* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqReportCriteria, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFreqEvent_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqEvent_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEvent-r4");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 8);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "IntraFreqEvent-r4");
+   if (pvalue->t - 1 > 8) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqEvent-r4");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.e1a == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e1a", -1, "IntraFreqEvent-r4");
+         stat = enc_Event1a_r4(ctx, pvalue->u.e1a, cur);
+         RT_CHECK(ctx, stat, 0, "e1a", -1, "IntraFreqEvent-r4");
+         break;
+      case 2:
+         if (pvalue->u.e1b == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e1b", -1, "IntraFreqEvent-r4");
+         stat = enc_Event1b_r4(ctx, pvalue->u.e1b, cur);
+         RT_CHECK(ctx, stat, 0, "e1b", -1, "IntraFreqEvent-r4");
+         break;
+      case 3:
+         if (pvalue->u.e1c == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e1c", -1, "IntraFreqEvent-r4");
+         stat = enc_Event1c(ctx, pvalue->u.e1c, cur);
+         RT_CHECK(ctx, stat, 0, "e1c", -1, "IntraFreqEvent-r4");
+         break;
+      case 4:
+         break;
+      case 5:
+         if (pvalue->u.e1e == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e1e", -1, "IntraFreqEvent-r4");
+         stat = enc_Event1e(ctx, pvalue->u.e1e, cur);
+         RT_CHECK(ctx, stat, 0, "e1e", -1, "IntraFreqEvent-r4");
+         break;
+      case 6:
+         if (pvalue->u.e1f == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e1f", -1, "IntraFreqEvent-r4");
+         stat = enc_Event1f(ctx, pvalue->u.e1f, cur);
+         RT_CHECK(ctx, stat, 0, "e1f", -1, "IntraFreqEvent-r4");
+         break;
+      case 7:
+         break;
+      case 8:
+         if (pvalue->u.e1h < -115 || pvalue->u.e1h > 165) {
+            rtxErrAddStrParm(ctx, "ThresholdUsedFrequency");
+            rtxErrAddIntParm(ctx, pvalue->u.e1h);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ThresholdUsedFrequency", "e1h", -1, "IntraFreqEvent-r4");
+         }
+         stat = pe_ConsInt64At(ctx, cur, pvalue->u.e1h, -115, 165);
+         RT_CHECK_PUT(ctx, cur, stat, "ThresholdUsedFrequency", "e1h", -1, "IntraFreqEvent-r4");
+         break;
+      case 9:
+         if (pvalue->u.e1i < -115 || pvalue->u.e1i > 165) {
+            rtxErrAddStrParm(ctx, "ThresholdUsedFrequency");
+            rtxErrAddIntParm(ctx, pvalue->u.e1i);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ThresholdUsedFrequency", "e1i", -1, "IntraFreqEvent-r4");
+         }
+         stat = pe_ConsInt64At(ctx, cur, pvalue->u.e1i, -115, 165);
+         RT_CHECK_PUT(ctx, cur, stat, "ThresholdUsedFrequency", "e1i", -1, "IntraFreqEvent-r4");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqEvent_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqEvent_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqEvent_r4, pvalue);
+}
+
+static int enc_IntraFreqEventCriteria_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteria_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventCriteria-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqEventCriteria-r4");
+   /* event */
+   stat = enc_IntraFreqEvent_r4(ctx, &pvalue->event, cur);
+   RT_CHECK(ctx, stat, 0, "event", -1, "IntraFreqEventCriteria-r4");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 15u) {
+      rtxErrAddStrParm(ctx, "Hysteresis");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->hysteresis, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria-r4");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria-r4");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria-r4");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "IntraFreqEventCriteria-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqEventCriteria_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteria_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqEventCriteria_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFreqEventCriteriaList_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteriaList_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventCriteriaList-r4");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqEventCriteriaList-r4");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "IntraFreqEventCriteria-r4", (int32_t)i, "IntraFreqEventCriteriaList-r4");
+      stat = enc_IntraFreqEventCriteria_r4(ctx, (const IntraFreqEventCriteria_r4*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "IntraFreqEventCriteria-r4", (int32_t)i, "IntraFreqEventCriteriaList-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqEventCriteriaList_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteriaList_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqEventCriteriaList_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFreqReportingCriteria_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingCriteria_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqReportingCriteria-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqReportingCriteria-r4");
+   /* eventCriteriaList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_IntraFreqEventCriteriaList_r4(ctx, &pvalue->eventCriteriaList, cur);
+      RT_CHECK(ctx, stat, 0, "eventCriteriaList", -1, "IntraFreqReportingCriteria-r4");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqReportingCriteria_r4(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingCriteria_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqReportingCriteria_r4, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqReportCriteria_r4(rtxContext* RT_RESTRICT ctx, const InterFreqReportCriteria_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqReportCriteria-r4");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "InterFreqReportCriteria-r4");
+   if (pvalue->t - 1 > 3) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "InterFreqReportCriteria-r4");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria-r4");
+         stat = enc_IntraFreqReportingCriteria_r4(ctx, pvalue->u.intraFreqReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria-r4");
+         break;
+      case 2:
+         if (pvalue->u.interFreqReportingCriteria == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria-r4");
+         stat = enc_InterFreqReportingCriteria(ctx, pvalue->u.interFreqReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria-r4");
+         break;
+      case 3:
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria-r4");
+         stat = enc_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria-r4");
+         break;
+      case 4:
+         if (pvalue->u.noReporting == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "noReporting", -1, "InterFreqReportCriteria-r4");
+         stat = enc_ReportingCellStatusOpt(ctx, pvalue->u.noReporting, cur);
+         RT_CHECK(ctx, stat, 0, "noReporting", -1, "InterFreqReportCriteria-r4");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqReportCriteria_r4(rtxContext* RT_RESTRICT ctx, const InterFreqReportCriteria_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqReportCriteria_r4, pvalue);
+}
+
+static int enc_IntraFreqEvent_r6(rtxContext* RT_RESTRICT ctx, const IntraFreqEvent_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEvent-r6");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 9);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "IntraFreqEvent-r6");
+   if (pvalue->t - 1 > 9) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqEvent-r6");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.e1a == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e1a", -1, "IntraFreqEvent-r6");
+         stat = enc_Event1a_r4(ctx, pvalue->u.e1a, cur);
+         RT_CHECK(ctx, stat, 0, "e1a", -1, "IntraFreqEvent-r6");
+         break;
+      case 2:
+         if (pvalue->u.e1b == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e1b", -1, "IntraFreqEvent-r6");
+         stat = enc_Event1b_r4(ctx, pvalue->u.e1b, cur);
+         RT_CHECK(ctx, stat, 0, "e1b", -1, "IntraFreqEvent-r6");
+         break;
+      case 3:
+         if (pvalue->u.e1c == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e1c", -1, "IntraFreqEvent-r6");
+         stat = enc_Event1c(ctx, pvalue->u.e1c, cur);
+         RT_CHECK(ctx, stat, 0, "e1c", -1, "IntraFreqEvent-r6");
+         break;
+      case 4:
+         if (pvalue->u.e1d == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e1d", -1, "IntraFreqEvent-r6");
+         stat = enc_Event1d(ctx, pvalue->u.e1d, cur);
+         RT_CHECK(ctx, stat, 0, "e1d", -1, "IntraFreqEvent-r6");
+         break;
+      case 5:
+         if (pvalue->u.e1e == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e1e", -1, "IntraFreqEvent-r6");
+         stat = enc_Event1e_r6(ctx, pvalue->u.e1e, cur);
+         RT_CHECK(ctx, stat, 0, "e1e", -1, "IntraFreqEvent-r6");
+         break;
+      case 6:
+         if (pvalue->u.e1f == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e1f", -1, "IntraFreqEvent-r6");
+         stat = enc_Event1f_r6(ctx, pvalue->u.e1f, cur);
+         RT_CHECK(ctx, stat, 0, "e1f", -1, "IntraFreqEvent-r6");
+         break;
+      case 7:
+         break;
+      case 8:
+         if (pvalue->u.e1h < -120 || pvalue->u.e1h > 165) {
+            rtxErrAddStrParm(ctx, "ThresholdUsedFrequency-r6");
+            rtxErrAddIntParm(ctx, pvalue->u.e1h);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ThresholdUsedFrequency-r6", "e1h", -1, "IntraFreqEvent-r6");
+         }
+         stat = pe_ConsInt64At(ctx, cur, pvalue->u.e1h, -120, 165);
+         RT_CHECK_PUT(ctx, cur, stat, "ThresholdUsedFrequency-r6", "e1h", -1, "IntraFreqEvent-r6");
+         break;
+      case 9:
+         if (pvalue->u.e1i < -120 || pvalue->u.e1i > 165) {
+            rtxErrAddStrParm(ctx, "ThresholdUsedFrequency-r6");
+            rtxErrAddIntParm(ctx, pvalue->u.e1i);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ThresholdUsedFrequency-r6", "e1i", -1, "IntraFreqEvent-r6");
+         }
+         stat = pe_ConsInt64At(ctx, cur, pvalue->u.e1i, -120, 165);
+         RT_CHECK_PUT(ctx, cur, stat, "ThresholdUsedFrequency-r6", "e1i", -1, "IntraFreqEvent-r6");
+         break;
+      case 10:
+         if (pvalue->u.e1j == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e1j", -1, "IntraFreqEvent-r6");
+         stat = enc_Event1j_r6(ctx, pvalue->u.e1j, cur);
+         RT_CHECK(ctx, stat, 0, "e1j", -1, "IntraFreqEvent-r6");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqEvent_r6(rtxContext* RT_RESTRICT ctx, const IntraFreqEvent_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqEvent_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFreqEventCriteria_r6(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteria_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventCriteria-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqEventCriteria-r6");
+   /* event */
+   stat = enc_IntraFreqEvent_r6(ctx, &pvalue->event, cur);
+   RT_CHECK(ctx, stat, 0, "event", -1, "IntraFreqEventCriteria-r6");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 15u) {
+      rtxErrAddStrParm(ctx, "Hysteresis");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->hysteresis, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria-r6");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria-r6");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria-r6");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "IntraFreqEventCriteria-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqEventCriteria_r6(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteria_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqEventCriteria_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFreqEventCriteriaList_r6(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteriaList_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventCriteriaList-r6");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqEventCriteriaList-r6");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "IntraFreqEventCriteria-r6", (int32_t)i, "IntraFreqEventCriteriaList-r6");
+      stat = enc_IntraFreqEventCriteria_r6(ctx, (const IntraFreqEventCriteria_r6*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "IntraFreqEventCriteria-r6", (int32_t)i, "IntraFreqEventCriteriaList-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqEventCriteriaList_r6(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteriaList_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqEventCriteriaList_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFreqReportingCriteria_r6(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingCriteria_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqReportingCriteria-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqReportingCriteria-r6");
+   /* eventCriteriaList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_IntraFreqEventCriteriaList_r6(ctx, &pvalue->eventCriteriaList, cur);
+      RT_CHECK(ctx, stat, 0, "eventCriteriaList", -1, "IntraFreqReportingCriteria-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqReportingCriteria_r6(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingCriteria_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqReportingCriteria_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqReportingCriteria_r6(rtxContext* RT_RESTRICT ctx, const InterFreqReportingCriteria_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqReportingCriteria-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterFreqReportingCriteria-r6");
+   /* interFreqEventList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_InterFreqEventList_r6(ctx, &pvalue->interFreqEventList, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqEventList", -1, "InterFreqReportingCriteria-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqReportingCriteria_r6(rtxContext* RT_RESTRICT ctx, const InterFreqReportingCriteria_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqReportingCriteria_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqReportCriteria_r6(rtxContext* RT_RESTRICT ctx, const InterFreqReportCriteria_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqReportCriteria-r6");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "InterFreqReportCriteria-r6");
+   if (pvalue->t - 1 > 3) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "InterFreqReportCriteria-r6");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria-r6");
+         stat = enc_IntraFreqReportingCriteria_r6(ctx, pvalue->u.intraFreqReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria-r6");
+         break;
+      case 2:
+         if (pvalue->u.interFreqReportingCriteria == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria-r6");
+         stat = enc_InterFreqReportingCriteria_r6(ctx, pvalue->u.interFreqReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria-r6");
+         break;
+      case 3:
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria-r6");
+         stat = enc_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria-r6");
+         break;
+      case 4:
+         if (pvalue->u.noReporting == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "noReporting", -1, "InterFreqReportCriteria-r6");
+         stat = enc_ReportingCellStatusOpt(ctx, pvalue->u.noReporting, cur);
+         RT_CHECK(ctx, stat, 0, "noReporting", -1, "InterFreqReportCriteria-r6");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqReportCriteria_r6(rtxContext* RT_RESTRICT ctx, const InterFreqReportCriteria_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqReportCriteria_r6, pvalue);
+}
+
+static int enc_IntraFreqEvent_r7(rtxContext* RT_RESTRICT ctx, const IntraFreqEvent_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEvent-r7");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 9);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "IntraFreqEvent-r7");
+   if (pvalue->t - 1 > 9) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqEvent-r7");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.e1a == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e1a", -1, "IntraFreqEvent-r7");
+         stat = enc_Event1a_r4(ctx, pvalue->u.e1a, cur);
+         RT_CHECK(ctx, stat, 0, "e1a", -1, "IntraFreqEvent-r7");
+         break;
+      case 2:
+         if (pvalue->u.e1b == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e1b", -1, "IntraFreqEvent-r7");
+         stat = enc_Event1b_r7(ctx, pvalue->u.e1b, cur);
+         RT_CHECK(ctx, stat, 0, "e1b", -1, "IntraFreqEvent-r7");
+         break;
+      case 3:
+         if (pvalue->u.e1c == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e1c", -1, "IntraFreqEvent-r7");
+         stat = enc_Event1c(ctx, pvalue->u.e1c, cur);
+         RT_CHECK(ctx, stat, 0, "e1c", -1, "IntraFreqEvent-r7");
+         break;
+      case 4:
+         if (pvalue->u.e1d == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e1d", -1, "IntraFreqEvent-r7");
+         stat = enc_Event1d(ctx, pvalue->u.e1d, cur);
+         RT_CHECK(ctx, stat, 0, "e1d", -1, "IntraFreqEvent-r7");
+         break;
+      case 5:
+         if (pvalue->u.e1e == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e1e", -1, "IntraFreqEvent-r7");
+         stat = enc_Event1e_r6(ctx, pvalue->u.e1e, cur);
+         RT_CHECK(ctx, stat, 0, "e1e", -1, "IntraFreqEvent-r7");
+         break;
+      case 6:
+         if (pvalue->u.e1f == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e1f", -1, "IntraFreqEvent-r7");
+         stat = enc_Event1f_r6(ctx, pvalue->u.e1f, cur);
+         RT_CHECK(ctx, stat, 0, "e1f", -1, "IntraFreqEvent-r7");
+         break;
+      case 7:
+         break;
+      case 8:
+         if (pvalue->u.e1h < -120 || pvalue->u.e1h > 165) {
+            rtxErrAddStrParm(ctx, "ThresholdUsedFrequency-r6");
+            rtxErrAddIntParm(ctx, pvalue->u.e1h);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ThresholdUsedFrequency-r6", "e1h", -1, "IntraFreqEvent-r7");
+         }
+         stat = pe_ConsInt64At(ctx, cur, pvalue->u.e1h, -120, 165);
+         RT_CHECK_PUT(ctx, cur, stat, "ThresholdUsedFrequency-r6", "e1h", -1, "IntraFreqEvent-r7");
+         break;
+      case 9:
+         if (pvalue->u.e1i < -120 || pvalue->u.e1i > 165) {
+            rtxErrAddStrParm(ctx, "ThresholdUsedFrequency-r6");
+            rtxErrAddIntParm(ctx, pvalue->u.e1i);
+            RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "ThresholdUsedFrequency-r6", "e1i", -1, "IntraFreqEvent-r7");
+         }
+         stat = pe_ConsInt64At(ctx, cur, pvalue->u.e1i, -120, 165);
+         RT_CHECK_PUT(ctx, cur, stat, "ThresholdUsedFrequency-r6", "e1i", -1, "IntraFreqEvent-r7");
+         break;
+      case 10:
+         if (pvalue->u.e1j == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e1j", -1, "IntraFreqEvent-r7");
+         stat = enc_Event1j_r6(ctx, pvalue->u.e1j, cur);
+         RT_CHECK(ctx, stat, 0, "e1j", -1, "IntraFreqEvent-r7");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqEvent_r7(rtxContext* RT_RESTRICT ctx, const IntraFreqEvent_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqEvent_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFreqEventCriteria_r7(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteria_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventCriteria-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqEventCriteria-r7");
+   /* event */
+   stat = enc_IntraFreqEvent_r7(ctx, &pvalue->event, cur);
+   RT_CHECK(ctx, stat, 0, "event", -1, "IntraFreqEventCriteria-r7");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 15u) {
+      rtxErrAddStrParm(ctx, "Hysteresis");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria-r7");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->hysteresis, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteria-r7");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria-r7");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteria-r7");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "IntraFreqEventCriteria-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqEventCriteria_r7(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteria_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqEventCriteria_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFreqEventCriteriaList_r7(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteriaList_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventCriteriaList-r7");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqEventCriteriaList-r7");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "IntraFreqEventCriteria-r7", (int32_t)i, "IntraFreqEventCriteriaList-r7");
+      stat = enc_IntraFreqEventCriteria_r7(ctx, (const IntraFreqEventCriteria_r7*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "IntraFreqEventCriteria-r7", (int32_t)i, "IntraFreqEventCriteriaList-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqEventCriteriaList_r7(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteriaList_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqEventCriteriaList_r7, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFreqReportingCriteria_r7(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingCriteria_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqReportingCriteria-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqReportingCriteria-r7");
+   /* eventCriteriaList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_IntraFreqEventCriteriaList_r7(ctx, &pvalue->eventCriteriaList, cur);
+      RT_CHECK(ctx, stat, 0, "eventCriteriaList", -1, "IntraFreqReportingCriteria-r7");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqReportingCriteria_r7(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingCriteria_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqReportingCriteria_r7, pvalue);
+}
+
+static int enc_InterFreqReportCriteria_r7(rtxContext* RT_RESTRICT ctx, const InterFreqReportCriteria_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqReportCriteria-r7");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "InterFreqReportCriteria-r7");
+   if (pvalue->t - 1 > 3) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "InterFreqReportCriteria-r7");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria-r7");
+         stat = enc_IntraFreqReportingCriteria_r7(ctx, pvalue->u.intraFreqReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria-r7");
+         break;
+      case 2:
+         if (pvalue->u.interFreqReportingCriteria == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria-r7");
+         stat = enc_InterFreqReportingCriteria_r6(ctx, pvalue->u.interFreqReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria-r7");
+         break;
+      case 3:
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria-r7");
+         stat = enc_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria-r7");
+         break;
+      case 4:
+         if (pvalue->u.noReporting == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "noReporting", -1, "InterFreqReportCriteria-r7");
+         stat = enc_ReportingCellStatusOpt(ctx, pvalue->u.noReporting, cur);
+         RT_CHECK(ctx, stat, 0, "noReporting", -1, "InterFreqReportCriteria-r7");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqReportCriteria_r7(rtxContext* RT_RESTRICT ctx, const InterFreqReportCriteria_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqReportCriteria_r7, pvalue);
+}
+
+static int enc_IntraFreqEventOnSecULFreq(rtxContext* RT_RESTRICT ctx, const IntraFreqEventOnSecULFreq* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventOnSecULFreq");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "IntraFreqEventOnSecULFreq");
+   if (pvalue->t - 1 > 4) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "IntraFreqEventOnSecULFreq");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.e1a == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e1a", -1, "IntraFreqEventOnSecULFreq");
+         stat = enc_Event1a_OnSecUlFreq_r9(ctx, pvalue->u.e1a, cur);
+         RT_CHECK(ctx, stat, 0, "e1a", -1, "IntraFreqEventOnSecULFreq");
+         break;
+      case 2:
+         if (pvalue->u.e1b == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e1b", -1, "IntraFreqEventOnSecULFreq");
+         stat = enc_Event1b_OnSecUlFreq_r9(ctx, pvalue->u.e1b, cur);
+         RT_CHECK(ctx, stat, 0, "e1b", -1, "IntraFreqEventOnSecULFreq");
+         break;
+      case 3:
+         if (pvalue->u.e1c == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e1c", -1, "IntraFreqEventOnSecULFreq");
+         stat = enc_Event1c(ctx, pvalue->u.e1c, cur);
+         RT_CHECK(ctx, stat, 0, "e1c", -1, "IntraFreqEventOnSecULFreq");
+         break;
+      case 4:
+         if (pvalue->u.e1e == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e1e", -1, "IntraFreqEventOnSecULFreq");
+         stat = enc_Event1e_r6(ctx, pvalue->u.e1e, cur);
+         RT_CHECK(ctx, stat, 0, "e1e", -1, "IntraFreqEventOnSecULFreq");
+         break;
+      case 5:
+         if (pvalue->u.e1f == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "e1f", -1, "IntraFreqEventOnSecULFreq");
+         stat = enc_Event1f_r6(ctx, pvalue->u.e1f, cur);
+         RT_CHECK(ctx, stat, 0, "e1f", -1, "IntraFreqEventOnSecULFreq");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqEventOnSecULFreq(rtxContext* RT_RESTRICT ctx, const IntraFreqEventOnSecULFreq* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqEventOnSecULFreq, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFreqEventCriteriaOnSecULFreq(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteriaOnSecULFreq* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventCriteriaOnSecULFreq");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqEventCriteriaOnSecULFreq");
+   /* event */
+   stat = enc_IntraFreqEventOnSecULFreq(ctx, &pvalue->event, cur);
+   RT_CHECK(ctx, stat, 0, "event", -1, "IntraFreqEventCriteriaOnSecULFreq");
+   /* hysteresis */
+   if ((uint64_t)pvalue->hysteresis > 15u) {
+      rtxErrAddStrParm(ctx, "Hysteresis");
+      rtxErrAddUIntParm(ctx, pvalue->hysteresis);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteriaOnSecULFreq");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->hysteresis, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "Hysteresis", "hysteresis", -1, "IntraFreqEventCriteriaOnSecULFreq");
+   /* timeToTrigger */
+   if (pvalue->timeToTrigger > 15) {
+      rtxErrAddUIntParm(ctx, pvalue->timeToTrigger);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteriaOnSecULFreq");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->timeToTrigger, 0, 15);
+   RT_CHECK_PUT(ctx, cur, stat, "TimeToTrigger", "timeToTrigger", -1, "IntraFreqEventCriteriaOnSecULFreq");
+   /* reportingCellStatus */
+   if (pvalue->m & 0x1u) {
+      stat = enc_ReportingCellStatus(ctx, &pvalue->reportingCellStatus, cur);
+      RT_CHECK(ctx, stat, 0, "reportingCellStatus", -1, "IntraFreqEventCriteriaOnSecULFreq");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqEventCriteriaOnSecULFreq(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteriaOnSecULFreq* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqEventCriteriaOnSecULFreq, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFreqEventCriteriaListOnSecULFreq_intraFreqEventCriteria(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteriaListOnSecULFreq_intraFreqEventCriteria* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "IntraFreqEventCriteriaOnSecULFreq", (int32_t)i, 0);
+      stat = enc_IntraFreqEventCriteriaOnSecULFreq(ctx, (const IntraFreqEventCriteriaOnSecULFreq*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "IntraFreqEventCriteriaOnSecULFreq", (int32_t)i, 0);
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqEventCriteriaListOnSecULFreq_intraFreqEventCriteria(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteriaListOnSecULFreq_intraFreqEventCriteria* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqEventCriteriaListOnSecULFreq_intraFreqEventCriteria, pvalue);
+}
+
+RT_MERGED_BODY int enc_IntraFreqEventCriteriaListOnSecULFreq(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteriaListOnSecULFreq* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqEventCriteriaListOnSecULFreq");
+   /* frequencyInfo */
+   stat = enc_FrequencyInfo(ctx, &pvalue->frequencyInfo, cur);
+   RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "IntraFreqEventCriteriaListOnSecULFreq");
+   /* intraFreqEventCriteria */
+   stat = enc_IntraFreqEventCriteriaListOnSecULFreq_intraFreqEventCriteria(ctx, &pvalue->intraFreqEventCriteria, cur);
+   RT_CHECK(ctx, stat, 0, "intraFreqEventCriteria", -1, "IntraFreqEventCriteriaListOnSecULFreq");
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqEventCriteriaListOnSecULFreq(rtxContext* RT_RESTRICT ctx, const IntraFreqEventCriteriaListOnSecULFreq* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqEventCriteriaListOnSecULFreq, pvalue);
+}
+
+static int enc_IntraFreqReportingCriteria_r9(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingCriteria_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "IntraFreqReportingCriteria-r9");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "IntraFreqReportingCriteria-r9");
+   /* eventCriteriaList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_IntraFreqEventCriteriaList_r7(ctx, &pvalue->eventCriteriaList, cur);
+      RT_CHECK(ctx, stat, 0, "eventCriteriaList", -1, "IntraFreqReportingCriteria-r9");
+   }
+   /* eventCriteriaListOnSecULFreq */
+   if (pvalue->m & 0x2u) {
+      stat = enc_IntraFreqEventCriteriaListOnSecULFreq(ctx, &pvalue->eventCriteriaListOnSecULFreq, cur);
+      RT_CHECK(ctx, stat, 0, "eventCriteriaListOnSecULFreq", -1, "IntraFreqReportingCriteria-r9");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_IntraFreqReportingCriteria_r9(rtxContext* RT_RESTRICT ctx, const IntraFreqReportingCriteria_r9* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_IntraFreqReportingCriteria_r9, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqReportCriteria_r9(rtxContext* RT_RESTRICT ctx, const InterFreqReportCriteria_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqReportCriteria-r9");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "InterFreqReportCriteria-r9");
+   if (pvalue->t - 1 > 3) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "InterFreqReportCriteria-r9");
+   switch (pvalue->t) {
+      case 1:
+         if (pvalue->u.intraFreqReportingCriteria == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria-r9");
+         stat = enc_IntraFreqReportingCriteria_r9(ctx, pvalue->u.intraFreqReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "intraFreqReportingCriteria", -1, "InterFreqReportCriteria-r9");
+         break;
+      case 2:
+         if (pvalue->u.interFreqReportingCriteria == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria-r9");
+         stat = enc_InterFreqReportingCriteria_r6(ctx, pvalue->u.interFreqReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "interFreqReportingCriteria", -1, "InterFreqReportCriteria-r9");
+         break;
+      case 3:
+         if (pvalue->u.periodicalReportingCriteria == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria-r9");
+         stat = enc_PeriodicalWithReportingCellStatus(ctx, pvalue->u.periodicalReportingCriteria, cur);
+         RT_CHECK(ctx, stat, 0, "periodicalReportingCriteria", -1, "InterFreqReportCriteria-r9");
+         break;
+      case 4:
+         if (pvalue->u.noReporting == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "noReporting", -1, "InterFreqReportCriteria-r9");
+         stat = enc_ReportingCellStatusOpt(ctx, pvalue->u.noReporting, cur);
+         RT_CHECK(ctx, stat, 0, "noReporting", -1, "InterFreqReportCriteria-r9");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqReportCriteria_r9(rtxContext* RT_RESTRICT ctx, const InterFreqReportCriteria_r9* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqReportCriteria_r9, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFreqReportingQuantity(rtxContext* RT_RESTRICT ctx, const InterFreqReportingQuantity* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFreqReportingQuantity");
+   /* utra-Carrier-RSSI */
+   stat = rtxEncBitAt(ctx, cur, pvalue->utra_Carrier_RSSI);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "utra-Carrier-RSSI", -1, "InterFreqReportingQuantity");
+   /* frequencyQualityEstimate */
+   stat = rtxEncBitAt(ctx, cur, pvalue->frequencyQualityEstimate);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "frequencyQualityEstimate", -1, "InterFreqReportingQuantity");
+   /* nonFreqRelatedQuantities */
+   stat = enc_CellReportingQuantities(ctx, &pvalue->nonFreqRelatedQuantities, cur);
+   RT_CHECK(ctx, stat, 0, "nonFreqRelatedQuantities", -1, "InterFreqReportingQuantity");
+   return 0;
+}
+
+int asn1PE_UMTS_InterFreqReportingQuantity(rtxContext* RT_RESTRICT ctx, const InterFreqReportingQuantity* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFreqReportingQuantity, pvalue);
+}
+
+RT_MERGED_BODY int enc_RL_AdditionInfoList(rtxContext* RT_RESTRICT ctx, const RL_AdditionInfoList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RL-AdditionInfoList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "RL-AdditionInfoList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "PrimaryCPICH-Info", (int32_t)i, "RL-AdditionInfoList");
+      stat = enc_PrimaryCPICH_Info(ctx, (const PrimaryCPICH_Info*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "PrimaryCPICH-Info", (int32_t)i, "RL-AdditionInfoList");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RL_AdditionInfoList(rtxContext* RT_RESTRICT ctx, const RL_AdditionInfoList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RL_AdditionInfoList, pvalue);
+}
+
+RT_MERGED_BODY int enc_RL_InformationLists(rtxContext* RT_RESTRICT ctx, const RL_InformationLists* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "RL-InformationLists");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "RL-InformationLists");
+   /* rl-AdditionInfoList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_RL_AdditionInfoList(ctx, &pvalue->rl_AdditionInfoList, cur);
+      RT_CHECK(ctx, stat, 0, "rl-AdditionInfoList", -1, "RL-InformationLists");
+   }
+   /* rL-RemovalInformationList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_RL_RemovalInformationList(ctx, &pvalue->rL_RemovalInformationList, cur);
+      RT_CHECK(ctx, stat, 0, "rL-RemovalInformationList", -1, "RL-InformationLists");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_RL_InformationLists(rtxContext* RT_RESTRICT ctx, const RL_InformationLists* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_RL_InformationLists, pvalue);
+}
+
+static int enc_UE_AutonomousUpdateMode(rtxContext* RT_RESTRICT ctx, const UE_AutonomousUpdateMode* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "UE-AutonomousUpdateMode");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "UE-AutonomousUpdateMode");
+   if (pvalue->t - 1 > 2) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "UE-AutonomousUpdateMode");
+   switch (pvalue->t) {
+      case 1:
+         break;
+      case 2:
+         break;
+      case 3:
+         if (pvalue->u.dummy2 == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "dummy2", -1, "UE-AutonomousUpdateMode");
+         stat = enc_RL_InformationLists(ctx, pvalue->u.dummy2, cur);
+         RT_CHECK(ctx, stat, 0, "dummy2", -1, "UE-AutonomousUpdateMode");
+         break;
+      default:
+         break;
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_UE_AutonomousUpdateMode(rtxContext* RT_RESTRICT ctx, const UE_AutonomousUpdateMode* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_UE_AutonomousUpdateMode, pvalue);
+}
+
+static int enc_InterFrequencyMeasurement(rtxContext* RT_RESTRICT ctx, const InterFrequencyMeasurement* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFrequencyMeasurement");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterFrequencyMeasurement");
+   /* interFreqCellInfoList */
+   stat = enc_InterFreqCellInfoList(ctx, &pvalue->interFreqCellInfoList, cur);
+   RT_CHECK(ctx, stat, 0, "interFreqCellInfoList", -1, "InterFrequencyMeasurement");
+   /* interFreqMeasQuantity */
+   if (pvalue->m & 0x1u) {
+      stat = enc_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasQuantity", -1, "InterFrequencyMeasurement");
+   }
+   /* interFreqReportingQuantity */
+   if (pvalue->m & 0x2u) {
+      stat = enc_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqReportingQuantity", -1, "InterFrequencyMeasurement");
+   }
+   /* measurementValidity */
+   if (pvalue->m & 0x4u) {
+      stat = enc_MeasurementValidity(ctx, &pvalue->measurementValidity, cur);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "InterFrequencyMeasurement");
+   }
+   /* interFreqSetUpdate */
+   if (pvalue->m & 0x8u) {
+      stat = enc_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqSetUpdate", -1, "InterFrequencyMeasurement");
+   }
+   /* reportCriteria */
+   stat = enc_InterFreqReportCriteria(ctx, &pvalue->reportCriteria, cur);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterFrequencyMeasurement");
+   return 0;
+}
+
+int asn1PE_UMTS_InterFrequencyMeasurement(rtxContext* RT_RESTRICT ctx, const InterFrequencyMeasurement* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFrequencyMeasurement, pvalue);
+}
+
+static int enc_InterFrequencyMeasurement_r4(rtxContext* RT_RESTRICT ctx, const InterFrequencyMeasurement_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFrequencyMeasurement-r4");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterFrequencyMeasurement-r4");
+   /* interFreqCellInfoList */
+   stat = enc_InterFreqCellInfoList_r4(ctx, &pvalue->interFreqCellInfoList, cur);
+   RT_CHECK(ctx, stat, 0, "interFreqCellInfoList", -1, "InterFrequencyMeasurement-r4");
+   /* interFreqMeasQuantity */
+   if (pvalue->m & 0x1u) {
+      stat = enc_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasQuantity", -1, "InterFrequencyMeasurement-r4");
+   }
+   /* interFreqReportingQuantity */
+   if (pvalue->m & 0x2u) {
+      stat = enc_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqReportingQuantity", -1, "InterFrequencyMeasurement-r4");
+   }
+   /* measurementValidity */
+   if (pvalue->m & 0x4u) {
+      stat = enc_MeasurementValidity(ctx, &pvalue->measurementValidity, cur);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "InterFrequencyMeasurement-r4");
+   }
+   /* interFreqSetUpdate */
+   if (pvalue->m & 0x8u) {
+      stat = enc_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqSetUpdate", -1, "InterFrequencyMeasurement-r4");
+   }
+   /* reportCriteria */
+   stat = enc_InterFreqReportCriteria_r4(ctx, &pvalue->reportCriteria, cur);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterFrequencyMeasurement-r4");
+   return 0;
+}
+
+int asn1PE_UMTS_InterFrequencyMeasurement_r4(rtxContext* RT_RESTRICT ctx, const InterFrequencyMeasurement_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFrequencyMeasurement_r4, pvalue);
+}
+
+static int enc_InterFrequencyMeasurement_r6(rtxContext* RT_RESTRICT ctx, const InterFrequencyMeasurement_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFrequencyMeasurement-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterFrequencyMeasurement-r6");
+   /* interFreqCellInfoList */
+   stat = enc_InterFreqCellInfoList_r4(ctx, &pvalue->interFreqCellInfoList, cur);
+   RT_CHECK(ctx, stat, 0, "interFreqCellInfoList", -1, "InterFrequencyMeasurement-r6");
+   /* interFreqMeasQuantity */
+   if (pvalue->m & 0x1u) {
+      stat = enc_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasQuantity", -1, "InterFrequencyMeasurement-r6");
+   }
+   /* interFreqReportingQuantity */
+   if (pvalue->m & 0x2u) {
+      stat = enc_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqReportingQuantity", -1, "InterFrequencyMeasurement-r6");
+   }
+   /* measurementValidity */
+   if (pvalue->m & 0x4u) {
+      stat = enc_MeasurementValidity(ctx, &pvalue->measurementValidity, cur);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "InterFrequencyMeasurement-r6");
+   }
+   /* interFreqSetUpdate */
+   if (pvalue->m & 0x8u) {
+      stat = enc_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqSetUpdate", -1, "InterFrequencyMeasurement-r6");
+   }
+   /* reportCriteria */
+   stat = enc_InterFreqReportCriteria_r6(ctx, &pvalue->reportCriteria, cur);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterFrequencyMeasurement-r6");
+   return 0;
+}
+
+int asn1PE_UMTS_InterFrequencyMeasurement_r6(rtxContext* RT_RESTRICT ctx, const InterFrequencyMeasurement_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFrequencyMeasurement_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterFrequencyMeasurement_r7(rtxContext* RT_RESTRICT ctx, const InterFrequencyMeasurement_r7* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFrequencyMeasurement-r7");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 0), 4);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterFrequencyMeasurement-r7");
+   /* interFreqCellInfoList */
+   stat = enc_InterFreqCellInfoList_r4(ctx, &pvalue->interFreqCellInfoList, cur);
+   RT_CHECK(ctx, stat, 0, "interFreqCellInfoList", -1, "InterFrequencyMeasurement-r7");
+   /* interFreqMeasQuantity */
+   if (pvalue->m & 0x1u) {
+      stat = enc_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasQuantity", -1, "InterFrequencyMeasurement-r7");
+   }
+   /* interFreqReportingQuantity */
+   if (pvalue->m & 0x2u) {
+      stat = enc_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqReportingQuantity", -1, "InterFrequencyMeasurement-r7");
+   }
+   /* measurementValidity */
+   if (pvalue->m & 0x4u) {
+      stat = enc_MeasurementValidity(ctx, &pvalue->measurementValidity, cur);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "InterFrequencyMeasurement-r7");
+   }
+   /* interFreqSetUpdate */
+   if (pvalue->m & 0x8u) {
+      stat = enc_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqSetUpdate", -1, "InterFrequencyMeasurement-r7");
+   }
+   /* reportCriteria */
+   stat = enc_InterFreqReportCriteria_r7(ctx, &pvalue->reportCriteria, cur);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterFrequencyMeasurement-r7");
+   return 0;
+}
+
+int asn1PE_UMTS_InterFrequencyMeasurement_r7(rtxContext* RT_RESTRICT ctx, const InterFrequencyMeasurement_r7* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFrequencyMeasurement_r7, pvalue);
+}
+
+static int enc_InterFrequencyMeasurement_r8(rtxContext* RT_RESTRICT ctx, const InterFrequencyMeasurement_r8* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFrequencyMeasurement-r8");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 4) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 3) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 3) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 4) & 1u) << 0), 5);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterFrequencyMeasurement-r8");
+   /* interFreqCellInfoList */
+   stat = enc_InterFreqCellInfoList_r8(ctx, &pvalue->interFreqCellInfoList, cur);
+   RT_CHECK(ctx, stat, 0, "interFreqCellInfoList", -1, "InterFrequencyMeasurement-r8");
+   /* interFreqMeasQuantity */
+   if (pvalue->m & 0x1u) {
+      stat = enc_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasQuantity", -1, "InterFrequencyMeasurement-r8");
+   }
+   /* interFreqReportingQuantity */
+   if (pvalue->m & 0x2u) {
+      stat = enc_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqReportingQuantity", -1, "InterFrequencyMeasurement-r8");
+   }
+   /* measurementValidity */
+   if (pvalue->m & 0x4u) {
+      stat = enc_MeasurementValidity(ctx, &pvalue->measurementValidity, cur);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "InterFrequencyMeasurement-r8");
+   }
+   /* interFreqSetUpdate */
+   if (pvalue->m & 0x8u) {
+      stat = enc_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqSetUpdate", -1, "InterFrequencyMeasurement-r8");
+   }
+   /* adjacentFrequencyIndex */
+   if (pvalue->m & 0x10u) {
+      if ((uint64_t)pvalue->adjacentFrequencyIndex > 31u) {
+         rtxErrAddStrParm(ctx, "adjacentFrequencyIndex");
+         rtxErrAddUIntParm(ctx, pvalue->adjacentFrequencyIndex);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "adjacentFrequencyIndex", -1, "InterFrequencyMeasurement-r8");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->adjacentFrequencyIndex, 0, 31);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "adjacentFrequencyIndex", -1, "InterFrequencyMeasurement-r8");
+   }
+   /* reportCriteria */
+   stat = enc_InterFreqReportCriteria_r7(ctx, &pvalue->reportCriteria, cur);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterFrequencyMeasurement-r8");
+   return 0;
+}
+
+int asn1PE_UMTS_InterFrequencyMeasurement_r8(rtxContext* RT_RESTRICT ctx, const InterFrequencyMeasurement_r8* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFrequencyMeasurement_r8, pvalue);
+}
+
+static int enc_InterFrequencyMeasurement_r9(rtxContext* RT_RESTRICT ctx, const InterFrequencyMeasurement_r9* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterFrequencyMeasurement-r9");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 5) |
       ((uint64_t)((pvalue->m >> 1) & 1u) << 4) |
       ((uint64_t)((pvalue->m >> 2) & 1u) << 3) |
       ((uint64_t)((pvalue->m >> 3) & 1u) << 2) |
       ((uint64_t)((pvalue->m >> 4) & 1u) << 1) |
       ((uint64_t)((pvalue->m >> 5) & 1u) << 0), 6);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-v690ext-IEs");
-   /* primary-plmn-Identity */
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterFrequencyMeasurement-r9");
+   /* interFreqCellInfoList */
+   stat = enc_InterFreqCellInfoList_r9(ctx, &pvalue->interFreqCellInfoList, cur);
+   RT_CHECK(ctx, stat, 0, "interFreqCellInfoList", -1, "InterFrequencyMeasurement-r9");
+   /* interFreqMeasQuantity */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_PLMN_Identity(ctx, &pvalue->primary_plmn_Identity);
-      RT_CHECK(ctx, stat, 0, "primary-plmn-Identity", -1, "CellUpdateConfirm-v690ext-IEs");
+      stat = enc_InterFreqMeasQuantity(ctx, &pvalue->interFreqMeasQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqMeasQuantity", -1, "InterFrequencyMeasurement-r9");
    }
-   /* harq-Preamble-Mode */
+   /* interFreqReportingQuantity */
    if (pvalue->m & 0x2u) {
-      if ((uint64_t)pvalue->harq_Preamble_Mode > 1u) {
-         rtxErrAddStrParm(ctx, "HARQ-Preamble-Mode");
-         rtxErrAddUIntParm(ctx, pvalue->harq_Preamble_Mode);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "CellUpdateConfirm-v690ext-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->harq_Preamble_Mode, 0, 1);
-      RT_CHECK(ctx, stat, "HARQ-Preamble-Mode", "harq-Preamble-Mode", -1, "CellUpdateConfirm-v690ext-IEs");
+      stat = enc_InterFreqReportingQuantity(ctx, &pvalue->interFreqReportingQuantity, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqReportingQuantity", -1, "InterFrequencyMeasurement-r9");
    }
-   /* beaconPLEst */
+   /* measurementValidity */
    if (pvalue->m & 0x4u) {
-      if (pvalue->beaconPLEst > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->beaconPLEst);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "BEACON-PL-Est", "beaconPLEst", -1, "CellUpdateConfirm-v690ext-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->beaconPLEst, 0, 0);
-      RT_CHECK(ctx, stat, "BEACON-PL-Est", "beaconPLEst", -1, "CellUpdateConfirm-v690ext-IEs");
+      stat = enc_MeasurementValidity(ctx, &pvalue->measurementValidity, cur);
+      RT_CHECK(ctx, stat, 0, "measurementValidity", -1, "InterFrequencyMeasurement-r9");
    }
-   /* postVerificationPeriod */
+   /* interFreqSetUpdate */
    if (pvalue->m & 0x8u) {
-      if (pvalue->postVerificationPeriod > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->postVerificationPeriod);
-         RT_FAIL(ctx, RT_ERR_INVENUM, 0, "postVerificationPeriod", -1, "CellUpdateConfirm-v690ext-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->postVerificationPeriod, 0, 0);
-      RT_CHECK(ctx, stat, 0, "postVerificationPeriod", -1, "CellUpdateConfirm-v690ext-IEs");
+      stat = enc_UE_AutonomousUpdateMode(ctx, &pvalue->interFreqSetUpdate, cur);
+      RT_CHECK(ctx, stat, 0, "interFreqSetUpdate", -1, "InterFrequencyMeasurement-r9");
    }
-   /* dhs-sync */
+   /* adjacentFrequencyIndex */
    if (pvalue->m & 0x10u) {
-      if (pvalue->dhs_sync < -20 || pvalue->dhs_sync > 10) {
-         rtxErrAddStrParm(ctx, "DHS-Sync");
-         rtxErrAddIntParm(ctx, pvalue->dhs_sync);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "DHS-Sync", "dhs-sync", -1, "CellUpdateConfirm-v690ext-IEs");
+      if ((uint64_t)pvalue->adjacentFrequencyIndex > 31u) {
+         rtxErrAddStrParm(ctx, "adjacentFrequencyIndex");
+         rtxErrAddUIntParm(ctx, pvalue->adjacentFrequencyIndex);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "adjacentFrequencyIndex", -1, "InterFrequencyMeasurement-r9");
       }
-      stat = pe_ConsInt64(ctx, pvalue->dhs_sync, -20, 10);
-      RT_CHECK(ctx, stat, "DHS-Sync", "dhs-sync", -1, "CellUpdateConfirm-v690ext-IEs");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->adjacentFrequencyIndex, 0, 31);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "adjacentFrequencyIndex", -1, "InterFrequencyMeasurement-r9");
    }
-   /* mbms-PL-ServiceRestrictInfo */
+   /* interBandFrequencyIndex */
    if (pvalue->m & 0x20u) {
-      if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-v690ext-IEs");
+      if ((uint64_t)pvalue->interBandFrequencyIndex > 31u) {
+         rtxErrAddStrParm(ctx, "interBandFrequencyIndex");
+         rtxErrAddUIntParm(ctx, pvalue->interBandFrequencyIndex);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, "interBandFrequencyIndex", -1, "InterFrequencyMeasurement-r9");
       }
-      stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
-      RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-v690ext-IEs");
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->interBandFrequencyIndex, 0, 31);
+      RT_CHECK_PUT(ctx, cur, stat, 0, "interBandFrequencyIndex", -1, "InterFrequencyMeasurement-r9");
    }
+   /* reportCriteria */
+   stat = enc_InterFreqReportCriteria_r9(ctx, &pvalue->reportCriteria, cur);
+   RT_CHECK(ctx, stat, 0, "reportCriteria", -1, "InterFrequencyMeasurement-r9");
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PE_UMTS_InterFrequencyMeasurement_r9(rtxContext* RT_RESTRICT ctx, const InterFrequencyMeasurement_r9* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterFrequencyMeasurement_r9, pvalue);
+}
+
+RT_MERGED_BODY int enc_NC_Mode(rtxContext* RT_RESTRICT ctx, NC_Mode value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   RT_SET_SIZE(ctx, 3, 3);
+   stat = pe_BitString32At(ctx, cur, &value, 3, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "NC-Mode");
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PE_UMTS_NC_Mode(rtxContext* RT_RESTRICT ctx, NC_Mode value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_NC_Mode, value);
+}
+
+RT_MERGED_BODY int enc_InterRAT_TargetCellDescription_technologySpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const InterRAT_TargetCellDescription_technologySpecificInfo_gsm* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v690ext */
-   stat = asn1PE_UMTS_CellUpdateConfirm_v690ext_IEs(ctx, &pvalue->cellUpdateConfirm_v690ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v690ext", -1, 0);
-   /* nonCriticalExtensions */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, 0);
+   /* bsic */
+   stat = enc_BSIC(ctx, &pvalue->bsic, cur);
+   RT_CHECK(ctx, stat, 0, "bsic", -1, 0);
+   /* frequency-band */
+   if (pvalue->frequency_band > 1) {
+      rtxErrAddUIntParm(ctx, pvalue->frequency_band);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, "Frequency-Band", "frequency-band", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->frequency_band, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, "Frequency-Band", "frequency-band", -1, 0);
+   /* bcch-ARFCN */
+   if ((uint64_t)pvalue->bcch_ARFCN > 1023u) {
+      rtxErrAddStrParm(ctx, "BCCH-ARFCN");
+      rtxErrAddUIntParm(ctx, pvalue->bcch_ARFCN);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "BCCH-ARFCN", "bcch-ARFCN", -1, 0);
+   }
+   stat = pe_ConsUInt64At(ctx, cur, pvalue->bcch_ARFCN, 0, 1023);
+   RT_CHECK_PUT(ctx, cur, stat, "BCCH-ARFCN", "bcch-ARFCN", -1, 0);
+   /* ncMode */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
+      stat = enc_NC_Mode(ctx, pvalue->ncMode, cur);
+      RT_CHECK(ctx, stat, 0, "ncMode", -1, 0);
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
+int asn1PE_UMTS_InterRAT_TargetCellDescription_technologySpecificInfo_gsm(rtxContext* RT_RESTRICT ctx, const InterRAT_TargetCellDescription_technologySpecificInfo_gsm* RT_RESTRICT pvalue)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v5d0ext */
-   stat = asn1PE_UMTS_CellUpdateConfirm_v5d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v5d0ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v5d0ext", -1, 0);
-   /* v690NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_InterRAT_TargetCellDescription_technologySpecificInfo_gsm, pvalue);
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions* RT_RESTRICT pvalue)
+RT_MERGED_BODY int enc_InterRAT_TargetCellDescription_technologySpecificInfo(rtxContext* RT_RESTRICT ctx, const InterRAT_TargetCellDescription_technologySpecificInfo* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v590ext */
-   stat = asn1PE_UMTS_CellUpdateConfirm_v590ext_IEs(ctx, &pvalue->cellUpdateConfirm_v590ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v590ext", -1, 0);
-   /* v5d0NonCriticalExtenstions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
-      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v4b0ext */
-   stat = asn1PE_UMTS_CellUpdateConfirm_v4b0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v4b0ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v4b0ext", -1, 0);
-   /* v590NonCriticalExtenstions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions_v590NonCriticalExtenstions(ctx, &pvalue->v590NonCriticalExtenstions);
-      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtenstions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-r3-add-ext */
-   if (pvalue->m & 0x1u) {
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->cellUpdateConfirm_r3_add_ext.numbits, pvalue->cellUpdateConfirm_r3_add_ext.data);
-      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r3-add-ext", -1, 0);
-   }
-   /* v4b0NonCriticalExtensions */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions_v4b0NonCriticalExtensions(ctx, &pvalue->v4b0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v4b0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r3_v3a0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v3a0ext */
-   stat = asn1PE_UMTS_CellUpdateConfirm_v3a0ext(ctx, &pvalue->cellUpdateConfirm_v3a0ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v3a0ext", -1, 0);
-   /* laterNonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions_laterNonCriticalExtensions(ctx, &pvalue->laterNonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "laterNonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_r3(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r3* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-r3 */
-   stat = asn1PE_UMTS_CellUpdateConfirm_r3_IEs(ctx, &pvalue->cellUpdateConfirm_r3);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r3", -1, 0);
-   /* v3a0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellUpdateConfirm_r3_v3a0NonCriticalExtensions(ctx, &pvalue->v3a0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v3a0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dummy */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->dummy - 1) > 15u) {
-         rtxErrAddStrParm(ctx, "CPCH-SetID");
-         rtxErrAddUIntParm(ctx, pvalue->dummy);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "CPCH-SetID", "dummy", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dummy, 1, 16);
-      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy", -1, 0);
-   }
-   /* dummy2 */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, 0);
+   if (pvalue->t - 1 > 3) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, 0);
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         if (pvalue->u.gsm == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "gsm", -1, 0);
+         stat = enc_InterRAT_TargetCellDescription_technologySpecificInfo_gsm(ctx, pvalue->u.gsm, cur);
+         RT_CHECK(ctx, stat, 0, "gsm", -1, 0);
          break;
       case 2:
+         break;
+      case 3:
+         break;
+      case 4:
          break;
       default:
          break;
@@ -8214,35 +9184,140 @@ int asn1PE_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo(rtxContext* RT_
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
+int asn1PE_UMTS_InterRAT_TargetCellDescription_technologySpecificInfo(rtxContext* RT_RESTRICT ctx, const InterRAT_TargetCellDescription_technologySpecificInfo* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterRAT_TargetCellDescription_technologySpecificInfo, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterRAT_TargetCellDescription(rtxContext* RT_RESTRICT ctx, const InterRAT_TargetCellDescription* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterRAT-TargetCellDescription");
+   /* technologySpecificInfo */
+   stat = enc_InterRAT_TargetCellDescription_technologySpecificInfo(ctx, &pvalue->technologySpecificInfo, cur);
+   RT_CHECK(ctx, stat, 0, "technologySpecificInfo", -1, "InterRAT-TargetCellDescription");
+   return 0;
+}
+
+int asn1PE_UMTS_InterRAT_TargetCellDescription(rtxContext* RT_RESTRICT ctx, const InterRAT_TargetCellDescription* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterRAT_TargetCellDescription, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterRATCellInfoIndication(rtxContext* RT_RESTRICT ctx, InterRATCellInfoIndication value, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if ((uint64_t)value > 3u) {
+      rtxErrAddStrParm(ctx, "InterRATCellInfoIndication");
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, 0, 0, -1, "InterRATCellInfoIndication");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterRATCellInfoIndication");
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATCellInfoIndication(rtxContext* RT_RESTRICT ctx, InterRATCellInfoIndication value)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterRATCellInfoIndication, value);
+}
+
+RT_MERGED_BODY int enc_InterRATCellInfoList_r4(rtxContext* RT_RESTRICT ctx, const InterRATCellInfoList_r4* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterRATCellInfoList-r4");
    /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dummy */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterRATCellInfoList-r4");
+   /* removedInterRATCellList */
+   stat = enc_RemovedInterRATCellList(ctx, &pvalue->removedInterRATCellList, cur);
+   RT_CHECK(ctx, stat, 0, "removedInterRATCellList", -1, "InterRATCellInfoList-r4");
+   /* newInterRATCellList */
    if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
+      stat = enc_NewInterRATCellList(ctx, &pvalue->newInterRATCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, "InterRATCellInfoList-r4");
+   }
+   /* cellsForInterRATMeasList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_CellsForInterRATMeasList(ctx, &pvalue->cellsForInterRATMeasList, cur);
+      RT_CHECK(ctx, stat, 0, "cellsForInterRATMeasList", -1, "InterRATCellInfoList-r4");
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
+int asn1PE_UMTS_InterRATCellInfoList_r4(rtxContext* RT_RESTRICT ctx, const InterRATCellInfoList_r4* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterRATCellInfoList_r4, pvalue);
+}
+
+static int enc_InterRATCellInfoList_r6(rtxContext* RT_RESTRICT ctx, const InterRATCellInfoList_r6* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterRATCellInfoList-r6");
+   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
+   stat = rtxEncBitsAt(ctx, cur, ((uint64_t)((pvalue->m >> 0) & 1u) << 2) |
+      ((uint64_t)((pvalue->m >> 1) & 1u) << 1) |
+      ((uint64_t)((pvalue->m >> 2) & 1u) << 0), 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "InterRATCellInfoList-r6");
+   /* removedInterRATCellList */
+   stat = enc_RemovedInterRATCellList(ctx, &pvalue->removedInterRATCellList, cur);
+   RT_CHECK(ctx, stat, 0, "removedInterRATCellList", -1, "InterRATCellInfoList-r6");
+   /* newInterRATCellList */
+   if (pvalue->m & 0x1u) {
+      stat = enc_NewInterRATCellList(ctx, &pvalue->newInterRATCellList, cur);
+      RT_CHECK(ctx, stat, 0, "newInterRATCellList", -1, "InterRATCellInfoList-r6");
+   }
+   /* cellsForInterRATMeasList */
+   if (pvalue->m & 0x2u) {
+      stat = enc_CellsForInterRATMeasList(ctx, &pvalue->cellsForInterRATMeasList, cur);
+      RT_CHECK(ctx, stat, 0, "cellsForInterRATMeasList", -1, "InterRATCellInfoList-r6");
+   }
+   /* interRATCellInfoIndication-r6 */
+   if (pvalue->m & 0x4u) {
+      if ((uint64_t)pvalue->interRATCellInfoIndication_r6 > 3u) {
+         rtxErrAddStrParm(ctx, "InterRATCellInfoIndication");
+         rtxErrAddUIntParm(ctx, pvalue->interRATCellInfoIndication_r6);
+         RT_FAIL_PUT(ctx, cur, RT_ERR_CONSVIO, "InterRATCellInfoIndication", "interRATCellInfoIndication-r6", -1, "InterRATCellInfoList-r6");
+      }
+      stat = pe_ConsUInt64At(ctx, cur, pvalue->interRATCellInfoIndication_r6, 0, 3);
+      RT_CHECK_PUT(ctx, cur, stat, "InterRATCellInfoIndication", "interRATCellInfoIndication-r6", -1, "InterRATCellInfoList-r6");
+   }
+   return 0;
+}
+
+int asn1PE_UMTS_InterRATCellInfoList_r6(rtxContext* RT_RESTRICT ctx, const InterRATCellInfoList_r6* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterRATCellInfoList_r6, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterRATEvent(rtxContext* RT_RESTRICT ctx, const InterRATEvent* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
+{
+   int stat = 0;
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterRATEvent");
+   stat = pe_ConsUInt64At(ctx, cur, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 3);
+   RT_CHECK_PUT(ctx, cur, stat, 0, "t", -1, "InterRATEvent");
+   if (pvalue->t - 1 > 3) RT_FAIL_PUT(ctx, cur, RT_ERR_INVOPT, 0, 0, -1, "InterRATEvent");
    switch (pvalue->t) {
       case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
+         if (pvalue->u.event3a == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "event3a", -1, "InterRATEvent");
+         stat = enc_Event3a(ctx, pvalue->u.event3a, cur);
+         RT_CHECK(ctx, stat, 0, "event3a", -1, "InterRATEvent");
          break;
       case 2:
+         if (pvalue->u.event3b == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "event3b", -1, "InterRATEvent");
+         stat = enc_Event3b(ctx, pvalue->u.event3b, cur);
+         RT_CHECK(ctx, stat, 0, "event3b", -1, "InterRATEvent");
+         break;
+      case 3:
+         if (pvalue->u.event3c == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "event3c", -1, "InterRATEvent");
+         stat = enc_Event3c(ctx, pvalue->u.event3c, cur);
+         RT_CHECK(ctx, stat, 0, "event3c", -1, "InterRATEvent");
+         break;
+      case 4:
+         if (pvalue->u.event3d == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "event3d", -1, "InterRATEvent");
+         stat = enc_Event3d(ctx, pvalue->u.event3d, cur);
+         RT_CHECK(ctx, stat, 0, "event3d", -1, "InterRATEvent");
          break;
       default:
          break;
@@ -8250,857 +9325,47 @@ int asn1PE_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo(rtxContext* RT_R
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_r4_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r4_IEs* RT_RESTRICT pvalue)
+int asn1PE_UMTS_InterRATEvent(rtxContext* RT_RESTRICT ctx, const InterRATEvent* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterRATEvent, pvalue);
+}
+
+RT_MERGED_BODY int enc_InterRATEventList(rtxContext* RT_RESTRICT ctx, const InterRATEventList* RT_RESTRICT pvalue, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdateConfirm-r4-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 23) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 22) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 21) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 20) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 19) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 18) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 17) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 16) |
-      ((uint64_t)((pvalue->m >> 8) & 1u) << 15) |
-      ((uint64_t)((pvalue->m >> 9) & 1u) << 14) |
-      ((uint64_t)((pvalue->m >> 10) & 1u) << 13) |
-      ((uint64_t)((pvalue->m >> 11) & 1u) << 12) |
-      ((uint64_t)((pvalue->m >> 12) & 1u) << 11) |
-      ((uint64_t)((pvalue->m >> 13) & 1u) << 10) |
-      ((uint64_t)((pvalue->m >> 14) & 1u) << 9) |
-      ((uint64_t)((pvalue->m >> 15) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 16) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 17) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 18) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 19) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 20) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 21) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 22) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 23) & 1u) << 0), 24);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-r4-IEs");
-   /* integrityProtectionModeInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* cipheringModeInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* activationTime */
-   if (pvalue->m & 0x4u) {
-      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* new-U-RNTI */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* new-C-RNTI */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* new-DSCH-RNTI */
-   if (pvalue->m & 0x20u) {
-      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* rrc-StateIndicator */
-   if (pvalue->rrc_StateIndicator > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r4-IEs");
-   /* utran-DRX-CycleLengthCoeff */
-   if (pvalue->m & 0x40u) {
-      if ((uint64_t)(pvalue->utran_DRX_CycleLengthCoeff - 3) > 6u) {
-         rtxErrAddStrParm(ctx, "UTRAN-DRX-CycleLengthCoefficient");
-         rtxErrAddUIntParm(ctx, pvalue->utran_DRX_CycleLengthCoeff);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "CellUpdateConfirm-r4-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* rlc-Re-establishIndicatorRb2-3or4 */
-   stat = rtxEncBit(ctx, pvalue->rlc_Re_establishIndicatorRb2_3or4);
-   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb2-3or4", -1, "CellUpdateConfirm-r4-IEs");
-   /* rlc-Re-establishIndicatorRb5orAbove */
-   stat = rtxEncBit(ctx, pvalue->rlc_Re_establishIndicatorRb5orAbove);
-   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb5orAbove", -1, "CellUpdateConfirm-r4-IEs");
-   /* cn-InformationInfo */
-   if (pvalue->m & 0x80u) {
-      stat = asn1PE_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* ura-Identity */
-   if (pvalue->m & 0x100u) {
-      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
-      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* rb-InformationReleaseList */
-   if (pvalue->m & 0x200u) {
-      stat = asn1PE_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* rb-InformationReconfigList */
-   if (pvalue->m & 0x400u) {
-      stat = asn1PE_UMTS_RB_InformationReconfigList_r4(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* rb-InformationAffectedList */
-   if (pvalue->m & 0x800u) {
-      stat = asn1PE_UMTS_RB_InformationAffectedList(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (pvalue->m & 0x1000u) {
-      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* ul-CommonTransChInfo */
-   if (pvalue->m & 0x2000u) {
-      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* ul-deletedTransChInfoList */
-   if (pvalue->m & 0x4000u) {
-      stat = asn1PE_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (pvalue->m & 0x8000u) {
-      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* modeSpecificTransChInfo */
-   stat = asn1PE_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificTransChInfo(ctx, &pvalue->modeSpecificTransChInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificTransChInfo", -1, "CellUpdateConfirm-r4-IEs");
-   /* dl-CommonTransChInfo */
-   if (pvalue->m & 0x10000u) {
-      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* dl-DeletedTransChInfoList */
-   if (pvalue->m & 0x20000u) {
-      stat = asn1PE_UMTS_DL_DeletedTransChInfoList(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (pvalue->m & 0x40000u) {
-      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r4(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* frequencyInfo */
-   if (pvalue->m & 0x80000u) {
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (pvalue->m & 0x100000u) {
-      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
-         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r4-IEs");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* ul-ChannelRequirement */
-   if (pvalue->m & 0x200000u) {
-      stat = asn1PE_UMTS_UL_ChannelRequirement_r4(ctx, &pvalue->ul_ChannelRequirement);
-      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* modeSpecificPhysChInfo */
-   stat = asn1PE_UMTS_CellUpdateConfirm_r4_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "CellUpdateConfirm-r4-IEs");
-   /* dl-CommonInformation */
-   if (pvalue->m & 0x400000u) {
-      stat = asn1PE_UMTS_DL_CommonInformation_r4(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "CellUpdateConfirm-r4-IEs");
-   }
-   /* dl-InformationPerRL-List */
-   if (pvalue->m & 0x800000u) {
-      stat = asn1PE_UMTS_DL_InformationPerRL_List_r4(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "CellUpdateConfirm-r4-IEs");
+   if (pvalue == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, 0, -1, "InterRATEventList");
+   const rtxDListNode* node;
+   uint32_t i;
+   RT_SET_SIZE(ctx, 1, 8);
+   stat = pe_LengthAt(ctx, cur, pvalue->count);
+   if (stat < 0) RT_FAIL_PUT(ctx, cur, stat, 0, 0, -1, "InterRATEventList");
+   for (node = pvalue->head, i = 0; node != 0 && i < pvalue->count; node = node->next, i++) {
+      if (node->data == 0) RT_FAIL_PUT(ctx, cur, RT_ERR_INVPARAM, 0, "InterRATEvent", (int32_t)i, "InterRATEventList");
+      stat = enc_InterRATEvent(ctx, (const InterRATEvent*)node->data, cur);
+      RT_CHECK(ctx, stat, 0, "InterRATEvent", (int32_t)i, "InterRATEventList");
    }
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PE_UMTS_InterRATEventList(rtxContext* RT_RESTRICT ctx, const InterRATEventList* RT_RESTRICT pvalue)
+{
+   RT_ENCODE_ENTRY(ctx, enc_InterRATEventList, pvalue);
+}
+
+RT_MERGED_BODY int enc_MeasurementQuantityGSM(rtxContext* RT_RESTRICT ctx, MeasurementQuantityGSM value, rtxEncCur* RT_RESTRICT cur)
 {
    int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
+   if (value > 1) {
+      rtxErrAddUIntParm(ctx, value);
+      RT_FAIL_PUT(ctx, cur, RT_ERR_INVENUM, 0, 0, -1, "MeasurementQuantityGSM");
+   }
+   stat = pe_ConsUInt64At(ctx, cur, value, 0, 1);
+   RT_CHECK_PUT(ctx, cur, stat, 0, 0, -1, "MeasurementQuantityGSM");
    return 0;
 }
 
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
+int asn1PE_UMTS_MeasurementQuantityGSM(rtxContext* RT_RESTRICT ctx, MeasurementQuantityGSM value)
 {
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v690ext */
-   stat = asn1PE_UMTS_CellUpdateConfirm_v690ext_IEs(ctx, &pvalue->cellUpdateConfirm_v690ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v690ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v5d0ext */
-   stat = asn1PE_UMTS_CellUpdateConfirm_v5d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v5d0ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v5d0ext", -1, 0);
-   /* v690NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v590ext */
-   stat = asn1PE_UMTS_CellUpdateConfirm_v590ext_IEs(ctx, &pvalue->cellUpdateConfirm_v590ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v590ext", -1, 0);
-   /* v5d0NonCriticalExtenstions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
-      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-r4-add-ext */
-   if (pvalue->m & 0x1u) {
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->cellUpdateConfirm_r4_add_ext.numbits, pvalue->cellUpdateConfirm_r4_add_ext.data);
-      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r4-add-ext", -1, 0);
-   }
-   /* v590NonCriticalExtenstions */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions_v590NonCriticalExtenstions(ctx, &pvalue->v590NonCriticalExtenstions);
-      RT_CHECK(ctx, stat, 0, "v590NonCriticalExtenstions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_r4* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-r4 */
-   stat = asn1PE_UMTS_CellUpdateConfirm_r4_IEs(ctx, &pvalue->cellUpdateConfirm_r4);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r4", -1, 0);
-   /* v4d0NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_r4_v4d0NonCriticalExtensions(ctx, &pvalue->v4d0NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v4d0NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dummy */
-   if (pvalue->m & 0x1u) {
-      if ((uint64_t)(pvalue->dummy - 1) > 15u) {
-         rtxErrAddStrParm(ctx, "CPCH-SetID");
-         rtxErrAddUIntParm(ctx, pvalue->dummy);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "CPCH-SetID", "dummy", -1, 0);
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->dummy, 1, 16);
-      RT_CHECK(ctx, stat, "CPCH-SetID", "dummy", -1, 0);
-   }
-   /* dummy2 */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_DRAC_StaticInformationList(ctx, &pvalue->dummy2);
-      RT_CHECK(ctx, stat, 0, "dummy2", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo_fdd(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo_fdd* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* dummy */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_DL_PDSCH_Information(ctx, &pvalue->dummy);
-      RT_CHECK(ctx, stat, 0, "dummy", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   stat = pe_ConsUInt64(ctx, (uint64_t)(int64_t)(int32_t)(pvalue->t - 1), 0, 1);
-   RT_CHECK(ctx, stat, 0, "t", -1, 0);
-   if (pvalue->t - 1 > 1) RT_FAIL(ctx, RT_ERR_INVOPT, 0, 0, -1, 0);
-   switch (pvalue->t) {
-      case 1:
-         if (pvalue->u.fdd == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, "fdd", -1, 0);
-         stat = asn1PE_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo_fdd(ctx, pvalue->u.fdd);
-         RT_CHECK(ctx, stat, 0, "fdd", -1, 0);
-         break;
-      case 2:
-         break;
-      default:
-         break;
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_r5_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r5_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdateConfirm-r5-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 25) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 24) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 23) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 22) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 21) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 20) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 19) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 18) |
-      ((uint64_t)((pvalue->m >> 8) & 1u) << 17) |
-      ((uint64_t)((pvalue->m >> 9) & 1u) << 16) |
-      ((uint64_t)((pvalue->m >> 10) & 1u) << 15) |
-      ((uint64_t)((pvalue->m >> 11) & 1u) << 14) |
-      ((uint64_t)((pvalue->m >> 12) & 1u) << 13) |
-      ((uint64_t)((pvalue->m >> 13) & 1u) << 12) |
-      ((uint64_t)((pvalue->m >> 14) & 1u) << 11) |
-      ((uint64_t)((pvalue->m >> 15) & 1u) << 10) |
-      ((uint64_t)((pvalue->m >> 16) & 1u) << 9) |
-      ((uint64_t)((pvalue->m >> 17) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 18) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 19) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 20) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 21) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 22) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 23) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 24) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 25) & 1u) << 0), 26);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-r5-IEs");
-   /* integrityProtectionModeInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* cipheringModeInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* activationTime */
-   if (pvalue->m & 0x4u) {
-      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* new-U-RNTI */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* new-C-RNTI */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* new-DSCH-RNTI */
-   if (pvalue->m & 0x20u) {
-      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* new-H-RNTI */
-   if (pvalue->m & 0x40u) {
-      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* rrc-StateIndicator */
-   if (pvalue->rrc_StateIndicator > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r5-IEs");
-   /* utran-DRX-CycleLengthCoeff */
-   if (pvalue->m & 0x80u) {
-      if ((uint64_t)(pvalue->utran_DRX_CycleLengthCoeff - 3) > 6u) {
-         rtxErrAddStrParm(ctx, "UTRAN-DRX-CycleLengthCoefficient");
-         rtxErrAddUIntParm(ctx, pvalue->utran_DRX_CycleLengthCoeff);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "CellUpdateConfirm-r5-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* rlc-Re-establishIndicatorRb2-3or4 */
-   stat = rtxEncBit(ctx, pvalue->rlc_Re_establishIndicatorRb2_3or4);
-   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb2-3or4", -1, "CellUpdateConfirm-r5-IEs");
-   /* rlc-Re-establishIndicatorRb5orAbove */
-   stat = rtxEncBit(ctx, pvalue->rlc_Re_establishIndicatorRb5orAbove);
-   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb5orAbove", -1, "CellUpdateConfirm-r5-IEs");
-   /* cn-InformationInfo */
-   if (pvalue->m & 0x100u) {
-      stat = asn1PE_UMTS_CN_InformationInfo(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* ura-Identity */
-   if (pvalue->m & 0x200u) {
-      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
-      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* rb-InformationReleaseList */
-   if (pvalue->m & 0x400u) {
-      stat = asn1PE_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* rb-InformationReconfigList */
-   if (pvalue->m & 0x800u) {
-      stat = asn1PE_UMTS_RB_InformationReconfigList_r5(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* rb-InformationAffectedList */
-   if (pvalue->m & 0x1000u) {
-      stat = asn1PE_UMTS_RB_InformationAffectedList_r5(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (pvalue->m & 0x2000u) {
-      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* ul-CommonTransChInfo */
-   if (pvalue->m & 0x4000u) {
-      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* ul-deletedTransChInfoList */
-   if (pvalue->m & 0x8000u) {
-      stat = asn1PE_UMTS_UL_DeletedTransChInfoList(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (pvalue->m & 0x10000u) {
-      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* modeSpecificTransChInfo */
-   stat = asn1PE_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificTransChInfo(ctx, &pvalue->modeSpecificTransChInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificTransChInfo", -1, "CellUpdateConfirm-r5-IEs");
-   /* dl-CommonTransChInfo */
-   if (pvalue->m & 0x20000u) {
-      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* dl-DeletedTransChInfoList */
-   if (pvalue->m & 0x40000u) {
-      stat = asn1PE_UMTS_DL_DeletedTransChInfoList_r5(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (pvalue->m & 0x80000u) {
-      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* frequencyInfo */
-   if (pvalue->m & 0x100000u) {
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (pvalue->m & 0x200000u) {
-      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
-         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r5-IEs");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* ul-ChannelRequirement */
-   if (pvalue->m & 0x400000u) {
-      stat = asn1PE_UMTS_UL_ChannelRequirement_r5(ctx, &pvalue->ul_ChannelRequirement);
-      RT_CHECK(ctx, stat, 0, "ul-ChannelRequirement", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* modeSpecificPhysChInfo */
-   stat = asn1PE_UMTS_CellUpdateConfirm_r5_IEs_modeSpecificPhysChInfo(ctx, &pvalue->modeSpecificPhysChInfo);
-   RT_CHECK(ctx, stat, 0, "modeSpecificPhysChInfo", -1, "CellUpdateConfirm-r5-IEs");
-   /* dl-HSPDSCH-Information */
-   if (pvalue->m & 0x800000u) {
-      stat = asn1PE_UMTS_DL_HSPDSCH_Information(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* dl-CommonInformation */
-   if (pvalue->m & 0x1000000u) {
-      stat = asn1PE_UMTS_DL_CommonInformation_r5(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   /* dl-InformationPerRL-List */
-   if (pvalue->m & 0x2000000u) {
-      stat = asn1PE_UMTS_DL_InformationPerRL_List_r5(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "CellUpdateConfirm-r5-IEs");
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v690ext */
-   stat = asn1PE_UMTS_CellUpdateConfirm_v690ext_IEs(ctx, &pvalue->cellUpdateConfirm_v690ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v690ext", -1, 0);
-   /* nonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions_nonCriticalExtensions(ctx, &pvalue->nonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "nonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 0), 1);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-v5d0ext */
-   stat = asn1PE_UMTS_CellUpdateConfirm_v5d0ext_IEs(ctx, &pvalue->cellUpdateConfirm_v5d0ext);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-v5d0ext", -1, 0);
-   /* v690NonCriticalExtensions */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions_v690NonCriticalExtensions(ctx, &pvalue->v690NonCriticalExtensions);
-      RT_CHECK(ctx, stat, 0, "v690NonCriticalExtensions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, 0);
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 0), 2);
-   RT_CHECK(ctx, stat, 0, 0, -1, 0);
-   /* cellUpdateConfirm-r5 */
-   stat = asn1PE_UMTS_CellUpdateConfirm_r5_IEs(ctx, &pvalue->cellUpdateConfirm_r5);
-   RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r5", -1, 0);
-   /* cellUpdateConfirm-r5-add-ext */
-   if (pvalue->m & 0x1u) {
-      RT_SET_SIZE(ctx, 0, 0xFFFFFFFFu);
-      stat = pe_BitString(ctx, pvalue->cellUpdateConfirm_r5_add_ext.numbits, pvalue->cellUpdateConfirm_r5_add_ext.data);
-      RT_CHECK(ctx, stat, 0, "cellUpdateConfirm-r5-add-ext", -1, 0);
-   }
-   /* v5d0NonCriticalExtenstions */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_CellUpdateConfirm_later_than_r3_criticalExtensions_criticalExtensions_r5_v5d0NonCriticalExtenstions(ctx, &pvalue->v5d0NonCriticalExtenstions);
-      RT_CHECK(ctx, stat, 0, "v5d0NonCriticalExtenstions", -1, 0);
-   }
-   return 0;
-}
-
-int asn1PE_UMTS_CellUpdateConfirm_r6_IEs(rtxContext* RT_RESTRICT ctx, const CellUpdateConfirm_r6_IEs* RT_RESTRICT pvalue)
-{
-   int stat = 0;
-   if (pvalue == 0) RT_FAIL(ctx, RT_ERR_INVPARAM, 0, 0, -1, "CellUpdateConfirm-r6-IEs");
-   /* presence bits of the OPTIONAL and DEFAULT elements, in schema order */
-   stat = rtxEncBitsFast(ctx, ((uint64_t)((pvalue->m >> 0) & 1u) << 30) |
-      ((uint64_t)((pvalue->m >> 1) & 1u) << 29) |
-      ((uint64_t)((pvalue->m >> 2) & 1u) << 28) |
-      ((uint64_t)((pvalue->m >> 3) & 1u) << 27) |
-      ((uint64_t)((pvalue->m >> 4) & 1u) << 26) |
-      ((uint64_t)((pvalue->m >> 5) & 1u) << 25) |
-      ((uint64_t)((pvalue->m >> 6) & 1u) << 24) |
-      ((uint64_t)((pvalue->m >> 7) & 1u) << 23) |
-      ((uint64_t)((pvalue->m >> 8) & 1u) << 22) |
-      ((uint64_t)((pvalue->m >> 9) & 1u) << 21) |
-      ((uint64_t)((pvalue->m >> 10) & 1u) << 20) |
-      ((uint64_t)((pvalue->m >> 11) & 1u) << 19) |
-      ((uint64_t)((pvalue->m >> 12) & 1u) << 18) |
-      ((uint64_t)((pvalue->m >> 13) & 1u) << 17) |
-      ((uint64_t)((pvalue->m >> 14) & 1u) << 16) |
-      ((uint64_t)((pvalue->m >> 15) & 1u) << 15) |
-      ((uint64_t)((pvalue->m >> 16) & 1u) << 14) |
-      ((uint64_t)((pvalue->m >> 17) & 1u) << 13) |
-      ((uint64_t)((pvalue->m >> 18) & 1u) << 12) |
-      ((uint64_t)((pvalue->m >> 19) & 1u) << 11) |
-      ((uint64_t)((pvalue->m >> 20) & 1u) << 10) |
-      ((uint64_t)((pvalue->m >> 21) & 1u) << 9) |
-      ((uint64_t)((pvalue->m >> 22) & 1u) << 8) |
-      ((uint64_t)((pvalue->m >> 23) & 1u) << 7) |
-      ((uint64_t)((pvalue->m >> 24) & 1u) << 6) |
-      ((uint64_t)((pvalue->m >> 25) & 1u) << 5) |
-      ((uint64_t)((pvalue->m >> 26) & 1u) << 4) |
-      ((uint64_t)((pvalue->m >> 27) & 1u) << 3) |
-      ((uint64_t)((pvalue->m >> 28) & 1u) << 2) |
-      ((uint64_t)((pvalue->m >> 29) & 1u) << 1) |
-      ((uint64_t)((pvalue->m >> 30) & 1u) << 0), 31);
-   RT_CHECK(ctx, stat, 0, 0, -1, "CellUpdateConfirm-r6-IEs");
-   /* integrityProtectionModeInfo */
-   if (pvalue->m & 0x1u) {
-      stat = asn1PE_UMTS_IntegrityProtectionModeInfo(ctx, &pvalue->integrityProtectionModeInfo);
-      RT_CHECK(ctx, stat, 0, "integrityProtectionModeInfo", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* cipheringModeInfo */
-   if (pvalue->m & 0x2u) {
-      stat = asn1PE_UMTS_CipheringModeInfo(ctx, &pvalue->cipheringModeInfo);
-      RT_CHECK(ctx, stat, 0, "cipheringModeInfo", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* activationTime */
-   if (pvalue->m & 0x4u) {
-      stat = pe_ConsUInt64(ctx, pvalue->activationTime, 0, 255);
-      RT_CHECK(ctx, stat, "ActivationTime", "activationTime", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* new-U-RNTI */
-   if (pvalue->m & 0x8u) {
-      stat = asn1PE_UMTS_U_RNTI(ctx, &pvalue->new_U_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-U-RNTI", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* new-C-RNTI */
-   if (pvalue->m & 0x10u) {
-      stat = asn1PE_UMTS_C_RNTI(ctx, pvalue->new_C_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-C-RNTI", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* new-DSCH-RNTI */
-   if (pvalue->m & 0x20u) {
-      stat = asn1PE_UMTS_DSCH_RNTI(ctx, pvalue->new_DSCH_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-DSCH-RNTI", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* new-H-RNTI */
-   if (pvalue->m & 0x40u) {
-      stat = asn1PE_UMTS_H_RNTI(ctx, pvalue->new_H_RNTI);
-      RT_CHECK(ctx, stat, 0, "new-H-RNTI", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* newPrimary-E-RNTI */
-   if (pvalue->m & 0x80u) {
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newPrimary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newPrimary-E-RNTI", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* newSecondary-E-RNTI */
-   if (pvalue->m & 0x100u) {
-      stat = asn1PE_UMTS_E_RNTI(ctx, pvalue->newSecondary_E_RNTI);
-      RT_CHECK(ctx, stat, 0, "newSecondary-E-RNTI", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* rrc-StateIndicator */
-   if (pvalue->rrc_StateIndicator > 3) {
-      rtxErrAddUIntParm(ctx, pvalue->rrc_StateIndicator);
-      RT_FAIL(ctx, RT_ERR_INVENUM, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   stat = pe_ConsUInt64(ctx, pvalue->rrc_StateIndicator, 0, 3);
-   RT_CHECK(ctx, stat, "RRC-StateIndicator", "rrc-StateIndicator", -1, "CellUpdateConfirm-r6-IEs");
-   /* utran-DRX-CycleLengthCoeff */
-   if (pvalue->m & 0x200u) {
-      if ((uint64_t)(pvalue->utran_DRX_CycleLengthCoeff - 3) > 6u) {
-         rtxErrAddStrParm(ctx, "UTRAN-DRX-CycleLengthCoefficient");
-         rtxErrAddUIntParm(ctx, pvalue->utran_DRX_CycleLengthCoeff);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "CellUpdateConfirm-r6-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->utran_DRX_CycleLengthCoeff, 3, 9);
-      RT_CHECK(ctx, stat, "UTRAN-DRX-CycleLengthCoefficient", "utran-DRX-CycleLengthCoeff", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* rlc-Re-establishIndicatorRb2-3or4 */
-   stat = rtxEncBit(ctx, pvalue->rlc_Re_establishIndicatorRb2_3or4);
-   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb2-3or4", -1, "CellUpdateConfirm-r6-IEs");
-   /* rlc-Re-establishIndicatorRb5orAbove */
-   stat = rtxEncBit(ctx, pvalue->rlc_Re_establishIndicatorRb5orAbove);
-   RT_CHECK(ctx, stat, 0, "rlc-Re-establishIndicatorRb5orAbove", -1, "CellUpdateConfirm-r6-IEs");
-   /* cn-InformationInfo */
-   if (pvalue->m & 0x400u) {
-      stat = asn1PE_UMTS_CN_InformationInfo_r6(ctx, &pvalue->cn_InformationInfo);
-      RT_CHECK(ctx, stat, 0, "cn-InformationInfo", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* ura-Identity */
-   if (pvalue->m & 0x800u) {
-      stat = asn1PE_UMTS_URA_Identity(ctx, pvalue->ura_Identity);
-      RT_CHECK(ctx, stat, 0, "ura-Identity", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* rb-InformationReleaseList */
-   if (pvalue->m & 0x1000u) {
-      stat = asn1PE_UMTS_RB_InformationReleaseList(ctx, &pvalue->rb_InformationReleaseList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationReleaseList", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* rb-InformationReconfigList */
-   if (pvalue->m & 0x2000u) {
-      stat = asn1PE_UMTS_RB_InformationReconfigList_r6(ctx, &pvalue->rb_InformationReconfigList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationReconfigList", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* rb-InformationAffectedList */
-   if (pvalue->m & 0x4000u) {
-      stat = asn1PE_UMTS_RB_InformationAffectedList_r6(ctx, &pvalue->rb_InformationAffectedList);
-      RT_CHECK(ctx, stat, 0, "rb-InformationAffectedList", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* dl-CounterSynchronisationInfo */
-   if (pvalue->m & 0x8000u) {
-      stat = asn1PE_UMTS_DL_CounterSynchronisationInfo_r5(ctx, &pvalue->dl_CounterSynchronisationInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CounterSynchronisationInfo", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* pdcp-ROHC-TargetMode */
-   if (pvalue->m & 0x10000u) {
-      if (pvalue->pdcp_ROHC_TargetMode > 1) {
-         rtxErrAddUIntParm(ctx, pvalue->pdcp_ROHC_TargetMode);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "CellUpdateConfirm-r6-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->pdcp_ROHC_TargetMode, 0, 1);
-      RT_CHECK(ctx, stat, "PDCP-ROHC-TargetMode", "pdcp-ROHC-TargetMode", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* ul-CommonTransChInfo */
-   if (pvalue->m & 0x20000u) {
-      stat = asn1PE_UMTS_UL_CommonTransChInfo_r4(ctx, &pvalue->ul_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "ul-CommonTransChInfo", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* ul-deletedTransChInfoList */
-   if (pvalue->m & 0x40000u) {
-      stat = asn1PE_UMTS_UL_DeletedTransChInfoList_r6(ctx, &pvalue->ul_deletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-deletedTransChInfoList", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* ul-AddReconfTransChInfoList */
-   if (pvalue->m & 0x80000u) {
-      stat = asn1PE_UMTS_UL_AddReconfTransChInfoList_r6(ctx, &pvalue->ul_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "ul-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* dl-CommonTransChInfo */
-   if (pvalue->m & 0x100000u) {
-      stat = asn1PE_UMTS_DL_CommonTransChInfo_r4(ctx, &pvalue->dl_CommonTransChInfo);
-      RT_CHECK(ctx, stat, 0, "dl-CommonTransChInfo", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* dl-DeletedTransChInfoList */
-   if (pvalue->m & 0x200000u) {
-      stat = asn1PE_UMTS_DL_DeletedTransChInfoList_r5(ctx, &pvalue->dl_DeletedTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-DeletedTransChInfoList", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* dl-AddReconfTransChInfoList */
-   if (pvalue->m & 0x400000u) {
-      stat = asn1PE_UMTS_DL_AddReconfTransChInfoList_r5(ctx, &pvalue->dl_AddReconfTransChInfoList);
-      RT_CHECK(ctx, stat, 0, "dl-AddReconfTransChInfoList", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* frequencyInfo */
-   if (pvalue->m & 0x800000u) {
-      stat = asn1PE_UMTS_FrequencyInfo(ctx, &pvalue->frequencyInfo);
-      RT_CHECK(ctx, stat, 0, "frequencyInfo", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* maxAllowedUL-TX-Power */
-   if (pvalue->m & 0x1000000u) {
-      if (pvalue->maxAllowedUL_TX_Power < -50 || pvalue->maxAllowedUL_TX_Power > 33) {
-         rtxErrAddStrParm(ctx, "MaxAllowedUL-TX-Power");
-         rtxErrAddIntParm(ctx, pvalue->maxAllowedUL_TX_Power);
-         RT_FAIL(ctx, RT_ERR_CONSVIO, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r6-IEs");
-      }
-      stat = pe_ConsInt64(ctx, pvalue->maxAllowedUL_TX_Power, -50, 33);
-      RT_CHECK(ctx, stat, "MaxAllowedUL-TX-Power", "maxAllowedUL-TX-Power", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* ul-DPCH-Info */
-   if (pvalue->m & 0x2000000u) {
-      stat = asn1PE_UMTS_UL_DPCH_Info_r6(ctx, &pvalue->ul_DPCH_Info);
-      RT_CHECK(ctx, stat, 0, "ul-DPCH-Info", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* ul-EDCH-Information */
-   if (pvalue->m & 0x4000000u) {
-      stat = asn1PE_UMTS_UL_EDCH_Information_r6(ctx, &pvalue->ul_EDCH_Information);
-      RT_CHECK(ctx, stat, 0, "ul-EDCH-Information", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* dl-HSPDSCH-Information */
-   if (pvalue->m & 0x8000000u) {
-      stat = asn1PE_UMTS_DL_HSPDSCH_Information_r6(ctx, &pvalue->dl_HSPDSCH_Information);
-      RT_CHECK(ctx, stat, 0, "dl-HSPDSCH-Information", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* dl-CommonInformation */
-   if (pvalue->m & 0x10000000u) {
-      stat = asn1PE_UMTS_DL_CommonInformation_r6(ctx, &pvalue->dl_CommonInformation);
-      RT_CHECK(ctx, stat, 0, "dl-CommonInformation", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* dl-InformationPerRL-List */
-   if (pvalue->m & 0x20000000u) {
-      stat = asn1PE_UMTS_DL_InformationPerRL_List_r6(ctx, &pvalue->dl_InformationPerRL_List);
-      RT_CHECK(ctx, stat, 0, "dl-InformationPerRL-List", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   /* mbms-PL-ServiceRestrictInfo */
-   if (pvalue->m & 0x40000000u) {
-      if (pvalue->mbms_PL_ServiceRestrictInfo > 0) {
-         rtxErrAddUIntParm(ctx, pvalue->mbms_PL_ServiceRestrictInfo);
-         RT_FAIL(ctx, RT_ERR_INVENUM, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-r6-IEs");
-      }
-      stat = pe_ConsUInt64(ctx, pvalue->mbms_PL_ServiceRestrictInfo, 0, 0);
-      RT_CHECK(ctx, stat, "MBMS-PL-ServiceRestrictInfo-r6", "mbms-PL-ServiceRestrictInfo", -1, "CellUpdateConfirm-r6-IEs");
-   }
-   return 0;
+   RT_ENCODE_ENTRY(ctx, enc_MeasurementQuantityGSM, value);
 }
 

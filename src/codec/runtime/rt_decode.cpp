@@ -398,30 +398,27 @@ int rtxDecBitsToBytes(rtxContext* ctx, uint8_t* dst, uint32_t nbits) {
 int rtxDecBitsToBytesAt(const rtxContext* ctx, uint64_t* ppos, uint8_t* dst, uint32_t nbits) {
   if (nbits == 0) return 0;
   const uint64_t pos = *ppos;
-  if (pos + nbits > static_cast<uint64_t>(ctx->buffer_size) * 8u) return RT_ERR_ENDOFBUF;
+  const uint32_t size = ctx->buffer_size;
+  if (pos + nbits > static_cast<uint64_t>(size) * 8u) return RT_ERR_ENDOFBUF;
   const uint32_t bi = static_cast<uint32_t>(pos >> 3);
   const uint32_t shift = static_cast<uint32_t>(pos & 7u);
   const uint32_t nbytes = (nbits + 7u) / 8u;
   if (shift == 0) {
     std::memcpy(dst, ctx->buffer_data + bi, nbytes);
   } else {
-    /* Eight output bytes per step: a 64-bit window shifted into place, topped up with the
-       high bits of the byte after it. Output byte o starts inside input byte bi + o, so every
-       window starts inside the buffer; rtxLoadWindow reads zero past its end. */
-    const uint8_t* src = ctx->buffer_data;
-    const uint32_t size = ctx->buffer_size;
+    /* Seven output bytes from each 8-byte load, shifted into place; the eighth byte stored
+       is rewritten by the next step. Output byte o takes input bytes bi + o and bi + o + 1. */
+    const uint8_t* src = ctx->buffer_data + bi;
     uint32_t o = 0;
-    for (; o + 8u <= nbytes; o += 8u) {
-      uint64_t w = rtxLoadWindow(ctx, bi + o) << shift;
-      uint32_t next = bi + o + 8u;
-      if (next < size) w |= static_cast<uint64_t>(src[next]) >> (8u - shift);
-      w = rtxBigEndian64(w);
+    for (; o + 8u <= nbytes && bi + o + 8u <= size; o += 7u) {
+      uint64_t w;
+      std::memcpy(&w, src + o, 8);
+      w = rtxBigEndian64(rtxBigEndian64(w) << shift);
       std::memcpy(dst + o, &w, 8);
     }
+    /* At most seven bytes are left: one window (zero past the end of the buffer). */
     if (o < nbytes) {
-      uint64_t w = rtxLoadWindow(ctx, bi + o) << shift;
-      uint32_t next = bi + o + 8u;
-      if (next < size) w |= static_cast<uint64_t>(src[next]) >> (8u - shift);
+      const uint64_t w = rtxLoadWindow(ctx, bi + o) << shift;
       for (uint32_t k = 0; o + k < nbytes; k++) dst[o + k] = static_cast<uint8_t>(w >> (56u - 8u * k));
     }
   }

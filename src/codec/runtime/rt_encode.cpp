@@ -1,10 +1,11 @@
 /*
- * Bit writer: output buffers (fixed or growing on the context heap), wide constrained whole
- * numbers, length determinants and bit and octet strings.
+ * Bit writer: output buffers (fixed or growing on the context heap), the write cursor, wide
+ * constrained whole numbers, length determinants and bit and octet strings.
  *
- * Bytes beyond the write position are always zero, which lets rtxEncBitsFast OR whole
- * 64-bit windows into the buffer. Operations that write several fields reserve room for
- * all of them first, so a failed operation writes nothing and leaves the position alone.
+ * Every store sets the bytes it covers (the bits after the position in them are zero), so no
+ * write relies on what lies beyond the position. Operations that write several fields
+ * reserve room for all of them first, so a failed operation writes nothing and leaves the
+ * position alone.
  */
 #include <cstring>
 
@@ -80,7 +81,113 @@ int encString(rtxContext* ctx, const Bounds& b, uint32_t unit, uint32_t count, c
   return rtxEncBytesBits(ctx, p, left * unit);
 }
 
+/* Bits that a write cursor may gather from `pos` on before it looks at the buffer again. */
+inline uint64_t gatherLimit(const rtxContext* ctx, uint64_t pos) {
+  const uint64_t cap = static_cast<uint64_t>(ctx->buffer_size) * 8u;
+  if (cap <= pos) return 0;
+  return cap - pos < 64u ? cap - pos : 64u;
+}
+
+/* Store the top `nbytes` bytes of `w` at bit position `pos` (the start of a byte); the
+   caller has checked that they lie inside the buffer. */
+inline void storeTop(rtxContext* ctx, uint64_t pos, uint64_t w, uint64_t nbytes) {
+  const uint64_t bi = pos >> 3;
+  if (bi + 8u <= ctx->buffer_size) {
+    const uint64_t be = rtxBigEndian64(w);
+    std::memcpy(ctx->buffer_data + bi, &be, 8);
+    return;
+  }
+  for (uint64_t i = 0; i < nbytes; i++) ctx->buffer_data[bi + i] = static_cast<uint8_t>(w >> (56u - 8u * i));
+}
+
 }  // namespace
+
+void rtxEncCurStart(rtxContext* ctx, rtxEncCur* cur) {
+  const uint64_t p = rtxBitPos(ctx);
+  cur->pos = p & ~static_cast<uint64_t>(7);
+  cur->n = p & 7u;
+  cur->w = 0;
+  /* The bits already written in the current byte come first. */
+  if (cur->n != 0 && (p >> 3) < ctx->buffer_size)
+    cur->w = static_cast<uint64_t>(ctx->buffer_data[p >> 3] & static_cast<uint8_t>(0xFF00u >> cur->n)) << 56;
+  cur->lim = gatherLimit(ctx, cur->pos);
+}
+
+int rtxEncCurFlush(rtxContext* ctx, rtxEncCur* cur, uint32_t nbits) {
+  const uint64_t whole = cur->n >> 3;
+  if (whole > 0) {
+    storeTop(ctx, cur->pos, cur->w, whole);
+    cur->pos += whole * 8u;
+    cur->w = whole < 8 ? cur->w << (whole * 8u) : 0;
+    cur->n -= whole * 8u;
+  }
+  uint64_t lim = gatherLimit(ctx, cur->pos);
+  if (cur->n + nbits > lim && ctx->dynamic) {
+    /* The buffer grows from the bytes stored so far. */
+    rtxSetBitPos(ctx, cur->pos);
+    int stat = rtxEncGrow(ctx, cur->pos + cur->n + nbits);
+    if (stat != 0) return stat;
+    lim = gatherLimit(ctx, cur->pos);
+  }
+  cur->lim = lim;
+  return cur->n + nbits > lim ? RT_ERR_BUFOVFLW : 0;
+}
+
+int rtxEncCurReserve(rtxContext* ctx, rtxEncCur* cur, uint64_t nbits) {
+  const uint64_t end = cur->pos + cur->n + nbits;
+  if (end <= static_cast<uint64_t>(ctx->buffer_size) * 8u) return 0;
+  if (!ctx->dynamic) return RT_ERR_BUFOVFLW;
+  /* Store what is gathered, so that the buffer grows with every bit written so far. */
+  rtxEncCurSync(ctx, cur);
+  int stat = rtxEncGrow(ctx, end);
+  cur->lim = gatherLimit(ctx, cur->pos);
+  return stat;
+}
+
+int rtxEncBytesBitsAt(rtxContext* ctx, rtxEncCur* cur, const uint8_t* src, uint32_t nbits) {
+  if (nbits == 0) return 0;
+  int stat = rtxEncCurReserve(ctx, cur, nbits);
+  if (stat != 0) return stat;
+  /* The whole bytes gathered go to the buffer first; fewer than 8 bits stay in w. */
+  const uint64_t whole = cur->n >> 3;
+  if (whole > 0) {
+    storeTop(ctx, cur->pos, cur->w, whole);
+    cur->pos += whole * 8u;
+    cur->w = whole < 8 ? cur->w << (whole * 8u) : 0;
+    cur->n -= whole * 8u;
+  }
+  /* Eight source bytes at a time go in below the bits in w and out to the buffer, and the
+     source bits that do not fit stay in w: the room is reserved, so only the last bytes of a
+     fixed buffer are stored one by one. */
+  uint32_t i = 0;
+  const uint32_t full = nbits / 8u;
+  for (; i + 8u <= full; i += 8) {
+    uint64_t v;
+    std::memcpy(&v, src + i, 8);
+    v = rtxBigEndian64(v);
+    storeTop(ctx, cur->pos, cur->w | (v >> cur->n), 8);
+    cur->pos += 64u;
+    cur->w = cur->n ? v << (64u - cur->n) : 0;
+  }
+  cur->lim = gatherLimit(ctx, cur->pos);
+  /* The rest, at most 63 bits, in pieces of at most 7 bytes. */
+  for (uint32_t left = nbits - i * 8u; left > 0;) {
+    const uint32_t take = left > 56u ? 56u : left;
+    const uint32_t nbytes = (take + 7u) / 8u;
+    uint64_t v = 0;
+    for (uint32_t k = 0; k < nbytes; k++) v = (v << 8) | src[i + k];
+    stat = rtxEncBitsAt(ctx, cur, v >> (nbytes * 8u - take), take);
+    if (stat != 0) return stat;
+    i += nbytes;
+    left -= take;
+  }
+  return 0;
+}
+
+void rtxEncCurSync(rtxContext* ctx, rtxEncCur* cur) {
+  if (cur->n > 0) storeTop(ctx, cur->pos, cur->w, (cur->n + 7u) / 8u);
+  rtxSetBitPos(ctx, cur->pos + cur->n);
+}
 
 int rtxInitContextBuffer(rtxContext* ctx, uint8_t* data, uint32_t size) {
   if (ctx == nullptr) return RT_ERR_INVPARAM;
@@ -96,6 +203,7 @@ int rtxInitContextBuffer(rtxContext* ctx, uint8_t* data, uint32_t size) {
     ctx->buffer_size = kInitialDynamicSize;
     ctx->dynamic = 1;
   } else {
+    /* A new buffer starts cleared: the padding after a message is zero. */
     std::memset(data, 0, size);
     ctx->buffer_data = data;
     ctx->buffer_size = size;
@@ -203,27 +311,29 @@ int rtxEncBytesBits(rtxContext* ctx, const uint8_t* src, uint32_t nbits) {
   const uint32_t full = nbits / 8u;
   const uint32_t rest = nbits & 7u;
   if ((pos & 7u) == 0) {
-    /* Byte-aligned: the target bytes are zero, so a copy is the same as OR-ing in. */
     uint8_t* dst = ctx->buffer_data + ctx->byte_index;
     std::memcpy(dst, src, full);
     if (rest) dst[full] = static_cast<uint8_t>(src[full] & (0xFFu << (8u - rest)));
     rtxSetBitPos(ctx, pos + nbits);
     return 0;
   }
-  /* Unaligned: 7 source bytes per 56-bit window write, then the remainder. */
+  /* Unaligned: 7 source bytes per 56-bit write, then the remainder, through one cursor. */
+  rtxEncCur cur;
+  rtxEncCurStart(ctx, &cur);
   uint32_t i = 0;
   for (; i + 7u <= full; i += 7) {
     uint64_t v = 0;
     for (uint32_t k = 0; k < 7; k++) v = (v << 8) | src[i + k];
-    rtxEncBitsFast(ctx, v, 56);
+    rtxEncBitsAt(ctx, &cur, v, 56);
   }
   const uint32_t left = nbits - i * 8u; /* < 56 */
   if (left > 0) {
     const uint32_t nbytes = (left + 7u) / 8u;
     uint64_t v = 0;
     for (uint32_t k = 0; k < nbytes; k++) v = (v << 8) | src[i + k];
-    rtxEncBitsFast(ctx, v >> (nbytes * 8u - left), left);
+    rtxEncBitsAt(ctx, &cur, v >> (nbytes * 8u - left), left);
   }
+  rtxEncCurSync(ctx, &cur);
   return 0;
 }
 
