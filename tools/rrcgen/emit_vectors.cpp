@@ -35,7 +35,7 @@ class BitWriter {
 
 class RandomEncoder {
  public:
-  RandomEncoder(const Model& m, unsigned seed) : m_(m), rng_(seed) {}
+  explicit RandomEncoder(unsigned seed) : rng_(seed) {}
 
   // One random value of d; `budget` bounds the size in bits that optional parts may add.
   void value(const Def* d, BitWriter& out, long budget) {
@@ -94,7 +94,6 @@ class RandomEncoder {
   }
 
  private:
-  const Model& m_;
   std::mt19937_64 rng_;
   std::map<const Def*, long> min_bits_;
 
@@ -258,7 +257,7 @@ std::string hexOf(const std::vector<unsigned char>& bytes) {
 }  // namespace
 
 OutFile emitVectors(const Model& m, unsigned seed, int per_type) {
-  RandomEncoder enc(m, seed);
+  RandomEncoder enc(seed);
   std::string text =
       "# Random valid unaligned PER encodings, made by rrcgen from the schema model (seed " + std::to_string(seed) +
       ").\n# type bits hex\n";
