@@ -705,22 +705,19 @@ RT_INLINE int pe_ConsInt64At(rtxContext* ctx, rtxEncCur* cur, int64_t value, int
     return rtxEncBitsAt(ctx, cur, (uint64_t)value - (uint64_t)lower, rtxRangeBits(range));
   return RT_ENC_CALL(ctx, cur, pe_ConsUInt64Slow(ctx, (uint64_t)value - (uint64_t)lower, 0, range));
 }
-RT_INLINE int pe_ConsUInt64(rtxContext* ctx, uint64_t value, uint64_t lower, uint64_t upper) {
-  rtxEncCur cur;
-  int stat;
-  rtxEncCurStart(ctx, &cur);
-  stat = pe_ConsUInt64At(ctx, &cur, value, lower, upper);
-  rtxEncCurSync(ctx, &cur);
-  return stat;
-}
-RT_INLINE int pe_ConsInt64(rtxContext* ctx, int64_t value, int64_t lower, int64_t upper) {
-  rtxEncCur cur;
-  int stat;
-  rtxEncCurStart(ctx, &cur);
-  stat = pe_ConsInt64At(ctx, &cur, value, lower, upper);
-  rtxEncCurSync(ctx, &cur);
-  return stat;
-}
+/* The same writes at the context's position. */
+#define RT_DEFINE_CONS_PUT(name, at, vtype)                                             \
+  RT_INLINE int name(rtxContext* ctx, vtype value, vtype lower, vtype upper) {         \
+    rtxEncCur cur;                                                                       \
+    int stat;                                                                            \
+    rtxEncCurStart(ctx, &cur);                                                           \
+    stat = at(ctx, &cur, value, lower, upper);                                           \
+    rtxEncCurSync(ctx, &cur);                                                            \
+    return stat;                                                                         \
+  }
+RT_DEFINE_CONS_PUT(pe_ConsUInt64, pe_ConsUInt64At, uint64_t)
+RT_DEFINE_CONS_PUT(pe_ConsInt64, pe_ConsInt64At, int64_t)
+#undef RT_DEFINE_CONS_PUT
 
 /* Length under size_constraint. Returns a negative status, or the count (not negative). */
 int pe_Length(rtxContext* ctx, uint32_t count);

@@ -100,6 +100,16 @@ inline void storeTop(rtxContext* ctx, uint64_t pos, uint64_t w, uint64_t nbytes)
   for (uint64_t i = 0; i < nbytes; i++) ctx->buffer_data[bi + i] = static_cast<uint8_t>(w >> (56u - 8u * i));
 }
 
+/* The whole bytes that a cursor has gathered go to the buffer; fewer than 8 bits stay. */
+inline void storeWholeBytes(rtxContext* ctx, rtxEncCur* cur) {
+  const uint64_t whole = cur->n >> 3;
+  if (whole == 0) return;
+  storeTop(ctx, cur->pos, cur->w, whole);
+  cur->pos += whole * 8u;
+  cur->w = whole < 8 ? cur->w << (whole * 8u) : 0;
+  cur->n -= whole * 8u;
+}
+
 }  // namespace
 
 void rtxEncCurStart(rtxContext* ctx, rtxEncCur* cur) {
@@ -114,13 +124,7 @@ void rtxEncCurStart(rtxContext* ctx, rtxEncCur* cur) {
 }
 
 int rtxEncCurFlush(rtxContext* ctx, rtxEncCur* cur, uint32_t nbits) {
-  const uint64_t whole = cur->n >> 3;
-  if (whole > 0) {
-    storeTop(ctx, cur->pos, cur->w, whole);
-    cur->pos += whole * 8u;
-    cur->w = whole < 8 ? cur->w << (whole * 8u) : 0;
-    cur->n -= whole * 8u;
-  }
+  storeWholeBytes(ctx, cur);
   uint64_t lim = gatherLimit(ctx, cur->pos);
   if (cur->n + nbits > lim && ctx->dynamic) {
     /* The buffer grows from the bytes stored so far. */
@@ -148,14 +152,7 @@ int rtxEncBytesBitsAt(rtxContext* ctx, rtxEncCur* cur, const uint8_t* src, uint3
   if (nbits == 0) return 0;
   int stat = rtxEncCurReserve(ctx, cur, nbits);
   if (stat != 0) return stat;
-  /* The whole bytes gathered go to the buffer first; fewer than 8 bits stay in w. */
-  const uint64_t whole = cur->n >> 3;
-  if (whole > 0) {
-    storeTop(ctx, cur->pos, cur->w, whole);
-    cur->pos += whole * 8u;
-    cur->w = whole < 8 ? cur->w << (whole * 8u) : 0;
-    cur->n -= whole * 8u;
-  }
+  storeWholeBytes(ctx, cur);
   /* Eight source bytes at a time go in below the bits in w and out to the buffer, and the
      source bits that do not fit stay in w: the room is reserved, so only the last bytes of a
      fixed buffer are stored one by one. */
